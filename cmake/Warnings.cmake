@@ -1,0 +1,18 @@
+# One interface target carries what every target of ours is compiled with.
+add_library(lyt_options INTERFACE)
+target_compile_options(lyt_options INTERFACE
+  -Werror -Wall -Wextra -Wpedantic -Wshadow
+  $<$<COMPILE_LANGUAGE:CXX>:-Wconversion>
+  # GCC 12 sees overlapping copies inside std::string where there are none.
+  $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>
+  -ffile-prefix-map=${CMAKE_SOURCE_DIR}=. -fstack-protector-strong)
+target_link_options(lyt_options INTERFACE -fstack-protector-strong)
+
+if(LYT_SANITIZE)
+  target_compile_options(lyt_options INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  target_link_options(lyt_options INTERFACE -fsanitize=address,undefined)
+endif()
+if(LYT_FUZZ)
+  target_compile_options(lyt_options INTERFACE -fsanitize=fuzzer-no-link,address,undefined -fno-sanitize-recover=all)
+  target_link_options(lyt_options INTERFACE -fsanitize=address,undefined)
+endif()

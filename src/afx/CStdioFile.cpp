@@ -1,0 +1,68 @@
+#include <afx.h>
+
+#include "StdioStream.h"
+
+#include <cerrno>
+
+void CFile::SetFilePath(const char* fileName)
+{
+    if (fileName == nullptr)
+        AfxThrowInvalidArgException();
+    m_strFileName = fileName;
+}
+
+BOOL CStdioFile::Open(const char* fileName, UINT flags, CFileException* error)
+{
+    SetFilePath(fileName);
+    errno = 0;
+    m_pStream.reset(OpenTextStream(fileName, flags));
+    if (m_pStream != nullptr)
+        return 1;
+    if (error != nullptr)
+    {
+        error->m_osError = errno;
+        error->m_cause = CFileException::ErrnoToException(errno);
+        error->m_strFileName = fileName;
+    }
+    return 0;
+}
+
+void CStdioFile::Close()
+{
+    std::FILE* stream = m_pStream.release();
+    if (stream != nullptr && std::fclose(stream) != 0)
+        Fail();
+}
+
+char* CStdioFile::ReadString(char* buffer, UINT count)
+{
+    if (ReadTextLine(Stream(), buffer, count))
+        return buffer;
+    if (std::ferror(Stream()) != 0)
+        Fail();
+    return nullptr;
+}
+
+void CStdioFile::WriteString(const char* text)
+{
+    if (!WriteText(Stream(), text))
+        Fail();
+}
+
+void CStdioFile::SeekToEnd()
+{
+    if (std::fseek(Stream(), 0, SEEK_END) != 0)
+        Fail();
+}
+
+std::FILE* CStdioFile::Stream() const
+{
+    if (m_pStream == nullptr)
+        AfxThrowInvalidArgException();
+    return m_pStream.get();
+}
+
+void CStdioFile::Fail() const
+{
+    AfxThrowFileException(CFileException::ErrnoToException(errno), errno, m_strFileName);
+}

@@ -1,0 +1,38 @@
+// The program's own failure: a section and a key of the language texts, so that its message speaks the user's language.
+//
+// Raised, it ends an operation: `lytRaise("212", "", lineNumber)`. Reported, it shows its message and the operation
+// goes on: `lytReport("251", "", controlName)`.
+#pragma once
+
+#include <afx.h>
+
+class ClytException : public CException
+{
+public:
+    // The section is "Dialog_Error" for numbered errors and "MsgBox" for the messages of evaluation rules.
+    ClytException(CString textSection, CString textKey, CString messagePrefix, CString textArgument);
+
+    // The text of the key with the argument behind its first apostrophe, below the prefix and a line feed when there is
+    // a prefix; cut to size - 1 characters.
+    BOOL GetErrorMessage(char* buffer, UINT size, UINT* helpContext = nullptr) const override;
+    // Shows the first 74 characters of the message in a plain message box.
+    int ReportError(UINT type = 0, UINT help = 0) override;
+
+private:
+    CString section;
+    CString number;
+    CString prefix;
+    CString argument;
+};
+
+// The section of the numbered errors.
+inline constexpr const char* lytErrorSection = "Dialog_Error";
+
+// Raises a numbered error.
+[[noreturn]] void lytRaise(const char* number, const CString& prefix = CString(), const CString& argument = CString());
+// Shows a numbered error; the operation goes on.
+void lytReport(const char* number, const CString& prefix = CString(), const CString& argument = CString());
+// The text of a key of the numbered errors, for those that serve as the prefix of another.
+CString lytErrorText(const char* key);
+// The message of an exception, at most 74 characters.
+CString lytMessageOf(const CException& e);

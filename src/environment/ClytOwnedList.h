@@ -1,0 +1,48 @@
+// A list that owns its records: what leaves it without a new owner is deleted.
+#pragma once
+
+#include <afxtempl.h>
+
+#include <memory>
+
+template <class T, class BASE_CLASS = CObList>
+class ClytOwnedList : public CTypedPtrList<BASE_CLASS, T*>
+{
+    using List = CTypedPtrList<BASE_CLASS, T*>;
+
+public:
+    ~ClytOwnedList() override { RemoveAll(); }
+
+    // Takes the record over and gives it back as a reference that lives as long as the list holds it.
+    T& AddTail(std::unique_ptr<T> record)
+    {
+        T& added = *record;
+        List::AddTail(record.get());
+        static_cast<void>(record.release());
+        return added;
+    }
+    std::unique_ptr<T> RemoveHead() { return std::unique_ptr<T>(List::RemoveHead()); }
+    std::unique_ptr<T> RemoveTail() { return std::unique_ptr<T>(List::RemoveTail()); }
+    void RemoveAt(POSITION position)
+    {
+        const std::unique_ptr<T> record(List::GetAt(position));
+        List::RemoveAt(position);
+    }
+    void RemoveAll()
+    {
+        while (!List::IsEmpty())
+            RemoveHead();
+    }
+
+    // Moves every record of the other list behind the records of this one.
+    void TakeAll(ClytOwnedList& other)
+    {
+        while (!other.IsEmpty())
+            AddTail(other.RemoveHead());
+    }
+
+private:
+    using List::AddHead;
+    using List::RemoveTail;
+    using List::SetAt;
+};

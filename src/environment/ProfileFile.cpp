@@ -1,0 +1,16 @@
+#include "environment/ProfileFile.h"
+
+#include <string>
+#include <windows.h>
+
+CString ReadProfileText(const char* section, const char* key, const char* defaultText, int size, const char* fileName)
+{
+    std::string value(static_cast<size_t>(size), '\0');
+    GetPrivateProfileStringA(section, key, defaultText, value.data(), static_cast<DWORD>(size), fileName);
+    return value.c_str();
+}
+
+int ReadProfileSection(const char* section, char* buffer, int size, const char* fileName)
+{
+    return static_cast<int>(GetPrivateProfileSectionA(section, buffer, static_cast<DWORD>(size), fileName));
+}

@@ -1,0 +1,20 @@
+// Every process-wide object, in one file, so that they are constructed in this order and destroyed in the reverse one.
+#include "exports/CLytDlg32App.h"
+
+#include "environment/ClytEnvironment.h"
+#include "environment/ProcessState.h"
+
+#include <afxmt.h>
+#include <afxtempl.h>
+
+CLytDlg32App lytApplication;
+CMap<int, int, CString, CString> lytLanguageTags;
+CCriticalSection lytReportLock;
+ClytEnvironment lytEnvironment;
+CString lytInputKey;
+CString lytWizardGroup;
+CString lytIniList;
+
+int lytCommandSeen = 0;
+int lytTreeConfirmCount = 0;
+int lytTreeResult = 0;

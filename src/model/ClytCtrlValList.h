@@ -1,0 +1,35 @@
+// A control's name with the values it may hold for a rule to apply: the condition that all rule kinds share.
+#pragma once
+
+#include <afxcoll.h>
+
+#include "environment/ClytOwnedList.h"
+
+class ClytControl;
+using ClytControlMap = CTypedPtrMap<CMapStringToPtr, CString, ClytControl*>;
+
+class ClytCtrlValList : public CObject
+{
+public:
+    ClytCtrlValList() = default;
+    explicit ClytCtrlValList(CString name) : controlName(std::move(name)) {}
+
+    const CString& GetName() const { return controlName; }
+    void SetName(CString name) { controlName = std::move(name); }
+    CStringList& GetValues() { return values; }
+    const CStringList& GetValues() const { return values; }
+    // Takes over another list's name and values as copies.
+    void CopyFrom(const ClytCtrlValList& other);
+
+    // 1 when a listed value equals the text byte for byte, or is "NULL" and the text is empty.
+    int Contains(const CString& value) const;
+    // 1 when the named control holds one of the values; "NULL" has no meaning here, and an unknown control gives 0.
+    int IsSatisfied(const ClytControlMap& controls) const;
+
+private:
+    CString controlName;
+    CStringList values;
+};
+
+// Conditions as a rule owns them, and as others may look at them.
+using ClytConditions = ClytOwnedList<ClytCtrlValList>;

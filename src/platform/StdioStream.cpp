@@ -1,0 +1,79 @@
+// Text streams as the Windows runtime has them: CR LF is one line end, Ctrl-Z ends a text that is read, `\` separates
+// folders and a folder is no file.
+#include <StdioStream.h>
+
+#include "platform/NativePath.h"
+
+#include <cerrno>
+#include <sys/stat.h>
+
+namespace
+{
+
+constexpr int endOfText = 0x1A;
+
+int GetTextCharacter(std::FILE* stream)
+{
+    const int ch = getc_unlocked(stream);
+    if (ch == endOfText)
+    {
+        ungetc(ch, stream);
+        return EOF;
+    }
+    if (ch != '\r')
+        return ch;
+    const int next = getc_unlocked(stream);
+    if (next == '\n')
+        return next;
+    ungetc(next, stream);
+    return ch;
+}
+
+bool IsFolder(const char* path)
+{
+    struct stat status = {};
+    return stat(path, &status) == 0 && S_ISDIR(status.st_mode);
+}
+
+} // namespace
+
+std::FILE* OpenTextStream(const char* fileName, UINT flags)
+{
+    const std::string path = NativePath(fileName);
+    if (IsFolder(path.c_str()))
+    {
+        errno = EACCES;
+        return nullptr;
+    }
+    if ((flags & CFile::modeWrite) == 0)
+        return std::fopen(path.c_str(), "rb");
+    return std::fopen(path.c_str(), (flags & CFile::modeNoTruncate) != 0 ? "ab" : "wb");
+}
+
+bool ReadTextLine(std::FILE* stream, char* buffer, UINT count)
+{
+    UINT length = 0;
+    while (length < count)
+    {
+        const int ch = GetTextCharacter(stream);
+        if (ch == EOF)
+            break;
+        buffer[length++] = static_cast<char>(ch);
+        if (ch == '\n')
+            break;
+    }
+    buffer[length] = '\0';
+    return length > 0;
+}
+
+bool WriteText(std::FILE* stream, const char* text)
+{
+    for (; *text != '\0'; ++text)
+    {
+        if (*text == '\n' && putc_unlocked('\r', stream) == EOF)
+            return false;
+        if (putc_unlocked(*text, stream) == EOF)
+            return false;
+    }
+    return true;
+}

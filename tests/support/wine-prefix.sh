@@ -1,0 +1,32 @@
+#!/bin/sh
+# wine-prefix.sh DIR [null|x11] [DPI]: makes a Wine prefix for tests unless DIR holds one, and keeps its server running
+# for ten minutes. `null` needs no display; `x11` needs DISPLAY and serves for pictures. DPI is 96 unless given.
+set -e
+dir=$1
+mode=${2:-null}
+dpi=${3:-96}
+export WINEPREFIX="$dir" WINEDEBUG=-all WINEDLLOVERRIDES="mscoree,mshtml=" WINEARCH=win64
+[ "$mode" = x11 ] || unset DISPLAY
+
+# Wine's background processes inherit the output; ctest would wait for them.
+quiet() { "$@" >/dev/null 2>&1 </dev/null; }
+set_value() { quiet timeout 30 /usr/lib/wine/wine64 reg add "$@" /f; }
+
+if [ ! -f "$dir/.ready-$mode" ]; then
+    rm -rf "$dir"
+    mkdir -p "$dir"
+    quiet timeout 180 wineboot -i
+    # A crash ends the program with an error code at once; the usual debugger can hang on its own dialog.
+    set_value 'HKLM\Software\Microsoft\Windows NT\CurrentVersion\AeDebug' /v Debugger /t REG_SZ /d false
+    set_value 'HKLM\Software\Microsoft\Windows NT\CurrentVersion\AeDebug' /v Auto /t REG_SZ /d 1
+    set_value 'HKCU\Software\Wine\WineDbg' /v ShowCrashDialog /t REG_DWORD /d 0
+    set_value 'HKCU\Software\Wine\Drivers' /v Graphics /t REG_SZ /d "$mode"
+    # Without a window manager each closed dialog would wait two seconds for one.
+    set_value 'HKCU\Software\Wine\X11 Driver' /v Managed /t REG_SZ /d N
+    set_value 'HKCU\Control Panel\Desktop' /v LogPixels /t REG_DWORD /d "$dpi"
+    quiet timeout 60 wineserver -w || true
+    # Debian's build does not find its own fonts: without them no Tahoma and no MS Sans Serif.
+    cp /usr/share/wine/fonts/*.ttf /usr/share/wine/fonts/*.fon "$dir/drive_c/windows/Fonts/"
+    touch "$dir/.ready-$mode"
+fi
+quiet wineserver -p600 || true

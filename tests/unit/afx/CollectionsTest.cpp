@@ -1,0 +1,108 @@
+#include "environment/ClytOwnedList.h"
+
+#include <gtest/gtest.h>
+
+namespace
+{
+
+class Record : public CObject
+{
+public:
+    explicit Record(int* deaths) : m_deaths(deaths) {}
+    ~Record() override { ++*m_deaths; }
+
+private:
+    int* m_deaths;
+};
+
+template <class Function>
+bool RaisesInvalidArgument(Function function)
+{
+    try
+    {
+        function();
+        return false;
+    }
+    catch (CInvalidArgException* e)
+    {
+        e->Delete();
+        return true;
+    }
+}
+
+} // namespace
+
+TEST(CStringList, WalksInBothDirections)
+{
+    CStringList list;
+    list.AddTail("b");
+    list.AddTail("c");
+    list.AddHead("a");
+    CString forward;
+    for (POSITION position = list.GetHeadPosition(); position != nullptr;)
+        forward += list.GetNext(position);
+    CString backward;
+    for (POSITION position = list.GetTailPosition(); position != nullptr;)
+        backward += list.GetPrev(position);
+    EXPECT_EQ(forward, "abc");
+    EXPECT_EQ(backward, "cba");
+}
+
+TEST(CStringList, GivesNoPlaceForAnIndexOutsideIt)
+{
+    CStringList list;
+    list.AddTail("a");
+    EXPECT_NE(list.FindIndex(0), nullptr);
+    EXPECT_EQ(list.FindIndex(1), nullptr);
+    EXPECT_EQ(list.FindIndex(-1), nullptr);
+}
+
+TEST(CStringList, RaisesInvalidArgumentWhereThereIsNoElement)
+{
+    CStringList list;
+    POSITION nowhere = nullptr;
+    EXPECT_TRUE(RaisesInvalidArgument([&] { list.GetHead(); }));
+    EXPECT_TRUE(RaisesInvalidArgument([&] { list.RemoveTail(); }));
+    EXPECT_TRUE(RaisesInvalidArgument([&] { list.GetNext(nowhere); }));
+}
+
+TEST(CStringArray, ChecksItsBounds)
+{
+    CStringArray array;
+    array.Add("a");
+    array.InsertAt(0, "b");
+    EXPECT_EQ(array[0], "b");
+    EXPECT_TRUE(RaisesInvalidArgument([&] { array.GetAt(2); }));
+    EXPECT_TRUE(RaisesInvalidArgument([&] { array.GetAt(-1); }));
+    EXPECT_TRUE(RaisesInvalidArgument([&] { array.RemoveAt(2); }));
+    array.RemoveAt(0);
+    EXPECT_EQ(array.GetCount(), 1);
+}
+
+TEST(CMapStringToPtr, LeavesTheValueAloneWhenTheKeyIsMissing)
+{
+    CMapStringToPtr map;
+    int thing = 0;
+    map.SetAt("a", &thing);
+    void* found = nullptr;
+    EXPECT_FALSE(map.Lookup("A", found));
+    EXPECT_EQ(found, nullptr);
+    EXPECT_TRUE(map.Lookup("a", found));
+    EXPECT_EQ(found, &thing);
+}
+
+TEST(ClytOwnedList, DeletesEachRecordOnce)
+{
+    int deaths = 0;
+    {
+        ClytOwnedList<Record> list;
+        ClytOwnedList<Record> other;
+        list.AddTail(std::make_unique<Record>(&deaths));
+        other.AddTail(std::make_unique<Record>(&deaths));
+        list.TakeAll(other);
+        EXPECT_EQ(list.GetCount(), 2);
+        list.RemoveHead();
+        EXPECT_EQ(deaths, 1);
+    }
+    EXPECT_EQ(deaths, 2);
+}
