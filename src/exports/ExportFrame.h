@@ -1,0 +1,40 @@
+// The frame that the exports share, and the copies between the caller's texts and ours.
+#pragma once
+
+#include <afx.h>
+#include <afxstat_.h>
+
+// Entered first by every export but lytGetTextFromIniFile: switches the module state, tries the companion library, and
+// keeps cursor and focus of the host. All of it is undone on every way out.
+class ExportFrame
+{
+public:
+    ExportFrame();
+    ExportFrame(const ExportFrame&) = delete;
+    ExportFrame& operator=(const ExportFrame&) = delete;
+    ~ExportFrame();
+
+private:
+    AFX_MAINTAIN_STATE m_state;
+    HCURSOR m_cursor; // the host's
+    HWND m_focus;     // the host's
+};
+
+#define LYT_EXPORT_FRAME() const ExportFrame exportFrame
+
+// False for a null buffer or a size below 1: the export answers 0 and does nothing.
+bool IsUsable(const char* buffer, int size);
+
+// Copies a text with its NUL. One that does not fit leaves the buffer empty, as the runtime's own copy does before it
+// calls the handler that may end the host; that handler is never reached from here.
+void CopyText(char* buffer, int size, const char* text);
+
+// The same; a text longer than the size also gets a NUL at buffer[size], one byte beyond the stated size, where callers
+// leave room for it.
+void CopyTextMarkingEnd(char* buffer, int size, const char* text);
+
+// Copies a text out and answers 1 when the buffer then holds one, else 0.
+int CopyOut(char* buffer, int size, const char* text);
+
+// What stands in a caller's buffer, read up to its NUL and never beyond its size.
+CString TextIn(const char* buffer, int size);

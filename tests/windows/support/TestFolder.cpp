@@ -1,0 +1,47 @@
+#include "support/TestFolder.h"
+
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <windows.h>
+
+namespace fs = std::filesystem;
+
+TestFolder::TestFolder()
+{
+    static int count = 0;
+    const std::string name = "lyt64-" + std::to_string(GetCurrentProcessId()) + "-" + std::to_string(++count);
+    m_path = (fs::temp_directory_path() / name).string();
+    fs::create_directories(m_path);
+}
+
+TestFolder::~TestFolder()
+{
+    std::error_code ignored;
+    fs::remove_all(m_path, ignored);
+}
+
+std::string TestFolder::File(const std::string& name) const
+{
+    const fs::path path = fs::path(m_path) / name;
+    fs::create_directories(path.parent_path());
+    return path.string();
+}
+
+std::string TestFolder::Write(const std::string& name, const std::string& content) const
+{
+    std::string path = File(name);
+    std::ofstream(path, std::ios::binary) << content;
+    return path;
+}
+
+std::string TestFolder::Read(const std::string& name) const
+{
+    std::ifstream file(File(name), std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+}
+
+bool TestFolder::Has(const std::string& name) const
+{
+    return fs::exists(fs::path(m_path) / name);
+}
