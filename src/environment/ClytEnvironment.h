@@ -1,7 +1,7 @@
 // Knows where things are: the folders, the document, the configuration file, the language and its texts.
 #pragma once
 
-#include <afxcoll.h>
+#include "environment/ClytReportLines.h"
 
 // What a language text reads as when the language file does not hold it.
 inline constexpr const char* lytNoValue = "no value present";
@@ -44,7 +44,7 @@ public:
     CString lytWordCurrent;     // the one in use
     CString lytOfficeRelease;   // Office's release ids
     CString lytOfficeVersion;   // Office's version
-    CStringList lytReportLines; // the report, until its last line was read
+    ClytReportLines lytReportLines;
 
 private:
     CString initPath;

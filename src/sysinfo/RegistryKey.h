@@ -1,0 +1,34 @@
+// An open key of the registry, for reading; closes itself.
+#pragma once
+
+#include <afx.h>
+
+#include <windows.h>
+
+class RegistryKey
+{
+public:
+    // Opens the key with all rights that the user has on it.
+    RegistryKey(HKEY root, const char* name);
+    RegistryKey(HKEY root, const char* name, REGSAM rights);
+    RegistryKey(const RegistryKey&) = delete;
+    RegistryKey& operator=(const RegistryKey&) = delete;
+    ~RegistryKey();
+
+    bool IsOpen() const { return m_key != nullptr; }
+    HKEY Get() const { return m_key; }
+
+    // The value's data up to its first NUL; `text` stays as it is unless the read works. A null name is the default
+    // value. Data of more than `size` bytes counts as unreadable.
+    bool ReadText(const char* valueName, DWORD size, CString& text) const;
+    // The same, but data of more than `size` bytes is read once more with the size that it has.
+    bool ReadWholeText(const char* valueName, DWORD size, CString& text) const;
+    // A DWORD value, 0 when it cannot be read.
+    DWORD ReadNumber(const char* valueName) const;
+
+private:
+    // The platform's result; `size` receives the size that the data has.
+    LSTATUS Read(const char* valueName, DWORD& size, CString& text) const;
+
+    HKEY m_key = nullptr;
+};

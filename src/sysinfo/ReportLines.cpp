@@ -1,0 +1,33 @@
+#include "sysinfo/ReportLines.h"
+
+#include "environment/ClytEnvironment.h"
+#include "sysinfo/Report.h"
+
+#include <algorithm>
+#include <cstring>
+
+void AddReportLine(CString line)
+{
+    lytEnvironment.lytReportLines.AddTail(std::move(line));
+}
+
+int lytReadReportLine(int index, char* target, int size)
+{
+    if (target == nullptr || size < 1)
+        return 0;
+
+    ClytReportLines& lines = lytEnvironment.lytReportLines;
+    const POSITION place = lines.FindIndex(index);
+    if (place == nullptr)
+    {
+        lines.RemoveAll();
+        return 0;
+    }
+
+    const CString& line = lines.GetAt(place);
+    const int length = std::min(line.GetLength(), size - 1);
+    std::memcpy(target, line.GetString(), static_cast<size_t>(length));
+    target[length] = '\0';
+    target[size - 1] = '\0';
+    return 1;
+}
