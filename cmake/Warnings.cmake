@@ -5,7 +5,7 @@ target_compile_options(lyt_options INTERFACE
   $<$<COMPILE_LANGUAGE:CXX>:-Wconversion>
   # GCC 12 sees overlapping copies inside std::string where there are none.
   $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>
-  -ffile-prefix-map=${CMAKE_SOURCE_DIR}=. -fstack-protector-strong)
+  -ffile-prefix-map=${CMAKE_SOURCE_DIR}=. -fstack-protector-strong -ffunction-sections -fdata-sections)
 target_link_options(lyt_options INTERFACE -fstack-protector-strong)
 
 if(LYT_SANITIZE)
