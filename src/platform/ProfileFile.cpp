@@ -5,8 +5,7 @@
 
 #include <algorithm>
 #include <cstring>
-#include <fstream>
-#include <iterator>
+#include <memory>
 #include <string_view>
 #include <vector>
 
@@ -15,8 +14,9 @@ namespace
 
 struct Line
 {
-    std::string_view text;  // blanks cut at both ends
-    std::string_view key;   // before the first '=', or the whole line
+    bool isComment;
+    bool hasValue;          // an '=' stands in it
+    std::string_view name;  // before the first '=', or the whole line
     std::string_view value; // behind it
 };
 
@@ -34,16 +34,37 @@ std::string_view Trimmed(std::string_view text)
     return text;
 }
 
-bool SameName(std::string_view left, std::string_view right)
+std::string_view UpToNul(std::string_view text)
 {
-    return CString(left.data(), static_cast<int>(left.size()))
-               .CompareNoCase(CString(right.data(), static_cast<int>(right.size()))) == 0;
+    return text.substr(0, text.find('\0'));
 }
 
+CString Text(std::string_view text)
+{
+    return {text.data(), static_cast<int>(text.size())};
+}
+
+// The blanks round either name do not count, nor does case.
+bool SameName(std::string_view left, std::string_view right)
+{
+    return Text(Trimmed(left)).CompareNoCase(Text(Trimmed(right))) == 0;
+}
+
+// Empty for a file that cannot be read, a folder among them.
 std::string ReadWholeFile(const char* fileName)
 {
-    std::ifstream file(NativePath(fileName), std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+    struct CloseFile
+    {
+        void operator()(std::FILE* file) const { std::fclose(file); }
+    };
+    std::string content;
+    const std::unique_ptr<std::FILE, CloseFile> file(std::fopen(NativePath(fileName).c_str(), "rb"));
+    if (file == nullptr)
+        return content;
+    char block[8192];
+    for (size_t count = 0; (count = std::fread(block, 1, sizeof block, file.get())) != 0;)
+        content.append(block, count);
+    return content;
 }
 
 // The name between the brackets of a section line; false for any other line.
@@ -59,17 +80,18 @@ bool IsSectionLine(std::string_view text, std::string_view& name)
 Line SplitLine(std::string_view text)
 {
     const size_t equals = text.find('=');
-    if (equals == std::string_view::npos)
-        return {text, text, {}};
-    return {text, Trimmed(text.substr(0, equals)), Trimmed(text.substr(equals + 1))};
+    const bool hasValue = equals != std::string_view::npos;
+    return {text.front() == ';', hasValue, UpToNul(Trimmed(text.substr(0, equals))),
+            hasValue ? UpToNul(Trimmed(text.substr(equals + 1))) : std::string_view()};
 }
 
-// Blank lines are left out; comments stay for the caller to judge.
+// The lines of the first section of that name. What stands ahead of the first section line is a section with an empty
+// name. Blank lines are left out; comments stay for the caller to judge.
 std::vector<Line> SectionLines(std::string_view file, std::string_view section)
 {
     std::vector<Line> lines;
-    bool inside = false;
-    bool found = false;
+    bool inside = SameName(section, "");
+    bool found = inside;
     while (!file.empty())
     {
         const size_t end = std::min(file.find_first_of("\r\n"), file.size());
@@ -79,6 +101,8 @@ std::vector<Line> SectionLines(std::string_view file, std::string_view section)
         std::string_view name;
         if (IsSectionLine(text, name))
         {
+            if (inside)
+                break;
             inside = !found && SameName(name, section);
             found = found || inside;
         }
@@ -95,20 +119,25 @@ std::string_view Unquoted(std::string_view value)
     return quoted ? value.substr(1, value.size() - 2) : value;
 }
 
+// A default loses the blanks at its end, though never its first character.
+std::string_view Default(std::string_view text)
+{
+    while (text.size() > 1 && text.back() == ' ')
+        text.remove_suffix(1);
+    return text;
+}
+
 } // namespace
 
 CString ReadProfileText(const char* section, const char* key, const char* defaultText, int size, const char* fileName)
 {
     const std::string file = ReadWholeFile(fileName);
-    std::string_view value(defaultText);
-    for (const Line& line : SectionLines(file, section))
-    {
-        if (line.text.front() == ';' || line.text.find('=') == std::string_view::npos || !SameName(line.key, key))
-            continue;
-        value = Unquoted(line.value);
-        break;
-    }
-    return {value.data(), static_cast<int>(std::min(value.size(), static_cast<size_t>(size) - 1))};
+    std::string_view value = Default(defaultText);
+    const std::vector<Line> lines = SectionLines(file, section);
+    const auto line = std::ranges::find_if(lines, [&](const Line& each) { return SameName(each.name, key); });
+    if (line != lines.end() && line->hasValue)
+        value = line->value;
+    return Text(Unquoted(value).substr(0, static_cast<size_t>(size) - 1));
 }
 
 int ReadProfileSection(const char* section, char* buffer, int size, const char* fileName)
@@ -117,10 +146,10 @@ int ReadProfileSection(const char* section, char* buffer, int size, const char* 
     std::string lines;
     for (const Line& line : SectionLines(file, section))
     {
-        if (line.text.front() == ';')
+        if (line.isComment)
             continue;
-        lines += line.key;
-        if (line.text.find('=') != std::string_view::npos)
+        lines += line.name;
+        if (line.hasValue)
             (lines += '=') += line.value;
         lines += '\0';
     }

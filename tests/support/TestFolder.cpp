@@ -3,16 +3,18 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
-#include <windows.h>
+#include <random>
 
 namespace fs = std::filesystem;
 
 TestFolder::TestFolder()
 {
-    static int count = 0;
-    const std::string name = "lyt64-" + std::to_string(GetCurrentProcessId()) + "-" + std::to_string(++count);
-    m_path = (fs::temp_directory_path() / name).string();
-    fs::create_directories(m_path);
+    std::random_device random;
+    fs::path path;
+    do
+        path = fs::temp_directory_path() / ("lyt64-" + std::to_string(random()));
+    while (!fs::create_directories(path));
+    m_path = path.string();
 }
 
 TestFolder::~TestFolder()
