@@ -1,0 +1,69 @@
+// How controls reach the partner libraries that description files name; lytdata.h tells what those offer.
+#pragma once
+
+#include "lytdata.h"
+
+#include <afxwin.h>
+
+#include <array>
+
+// Null when the library cannot be loaded. The system shows no message of its own, whatever lies under the name.
+HMODULE lytLoadPartner(const CString& name);
+
+// The function under the type that lytdata.h gives it; null when the library has none of that name.
+template <class FUNCTION>
+FUNCTION* lytFindFunction(HMODULE library, const CString& name)
+{
+    return reinterpret_cast<FUNCTION*>(reinterpret_cast<void*>(GetProcAddress(library, name)));
+}
+
+// A buffer as a partner fills it. What a partner writes to the last byte is lost there, so that the text always ends.
+class ClytDataText
+{
+public:
+    static constexpr int usableSize = LYT_DATA_SIZE - 1;
+
+    char* Buffer() { return bytes.data(); }
+    void End() { bytes.back() = '\0'; }
+    CString Text() const { return bytes.data(); }
+
+private:
+    std::array<char, LYT_DATA_SIZE> bytes{};
+};
+
+// Calls a partner's function for one text.
+CString lytCallForText(lytDataText& function, const CString& parameter);
+
+// One listing that a partner's start function has opened. The texts of an item stay until its next function changes
+// them: one that leaves a buffer alone repeats the item before it.
+class ClytDataListing
+{
+public:
+    explicit ClytDataListing(lytDataNext& nextFunction) : next(nextFunction) {}
+
+    // False at the end of the listing.
+    bool Next();
+    CString GetDisplay() const { return display.Text(); }
+    CString GetValue() const { return value.Text(); }
+
+private:
+    lytDataNext& next;
+    ClytDataText display;
+    ClytDataText value;
+};
+
+// The library that all controls of one class share. The first that loads stays: later names are not looked at.
+class ClytDataLibrary
+{
+public:
+    // False when there is no library yet and this one cannot be loaded.
+    bool Load(const CString& name);
+    template <class FUNCTION>
+    FUNCTION* Find(const CString& name) const
+    {
+        return lytFindFunction<FUNCTION>(module, name);
+    }
+
+private:
+    HMODULE module = nullptr; // never freed: the controls of any later dialog call into it
+};
