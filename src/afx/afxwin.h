@@ -1,10 +1,238 @@
-// The window half of the class library.
+// The window half of the class library: windows, dialogs, controls and device contexts.
+//
+// A CWnd stands over one window. It joins that window by replacing its window procedure, so that every message passes
+// the message map of its class first and then, unless a handler ended it, the procedure that stood there before. No
+// exception leaves that way: what a handler raises is reported to the user, and the window goes on.
 #pragma once
 
 #include <afx.h>
 
+#ifndef WIN32_LEAN_AND_MEAN
+#define WIN32_LEAN_AND_MEAN
+#endif
 #include <windows.h>
+
+#include <afxmsg_.h>
+#include <afxstat_.h>
+#include <atltypes.h>
 
 class CWinApp : public CObject
 {
+};
+
+class CCmdTarget : public CObject
+{
+protected:
+    static const AFX_MSGMAP* GetThisMessageMap();
+    virtual const AFX_MSGMAP* GetMessageMap() const;
+};
+
+class CDataExchange;
+
+class CWnd : public CCmdTarget
+{
+public:
+    CWnd() = default;
+    // A window that still stands goes too; no message reaches the dying object.
+    ~CWnd() override;
+
+    HWND m_hWnd = nullptr;
+    HWND GetSafeHwnd() const { return m_hWnd; }
+
+    // Creates a child window and joins it; false when it cannot be created. PreCreateWindow sees the parameters first.
+    virtual BOOL Create(const char* className, const char* windowName, DWORD style, const RECT& rect, CWnd* parent,
+                        UINT id);
+    BOOL CreateEx(DWORD exStyle, const char* className, const char* windowName, DWORD style, const RECT& rect,
+                  CWnd* parent, UINT id);
+    virtual BOOL DestroyWindow();
+    // Joins a window that stands already, and leaves it again.
+    BOOL SubclassWindow(HWND window);
+    BOOL SubclassDlgItem(UINT id, CWnd* parent);
+    HWND UnsubclassWindow();
+
+    // The object that joined the window, else null; FromHandle makes do with an object that lives until the outermost
+    // modal dialog ends.
+    static CWnd* FromHandlePermanent(HWND window);
+    static CWnd* FromHandle(HWND window);
+    static CWnd* GetFocus() { return FromHandle(::GetFocus()); }
+    CWnd* GetDlgItem(int id) const { return FromHandle(::GetDlgItem(m_hWnd, id)); }
+    CWnd* GetParent() const { return FromHandle(::GetParent(m_hWnd)); }
+
+    LRESULT SendMessage(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const
+    {
+        return ::SendMessageA(m_hWnd, message, wParam, lParam);
+    }
+    DWORD GetStyle() const { return static_cast<DWORD>(::GetWindowLongPtrA(m_hWnd, GWL_STYLE)); }
+    int GetDlgCtrlID() const { return ::GetDlgCtrlID(m_hWnd); }
+    void SetWindowText(const char* text) const { ::SetWindowTextA(m_hWnd, text); }
+    void GetWindowText(CString& text) const;
+    BOOL EnableWindow(BOOL enable = TRUE) const { return ::EnableWindow(m_hWnd, enable); }
+    BOOL IsWindowEnabled() const { return ::IsWindowEnabled(m_hWnd); }
+    BOOL ShowWindow(int command) const { return ::ShowWindow(m_hWnd, command); }
+    BOOL IsWindowVisible() const { return ::IsWindowVisible(m_hWnd); }
+    void SetRedraw(BOOL redraw = TRUE) const { SendMessage(WM_SETREDRAW, static_cast<WPARAM>(redraw)); }
+    void Invalidate(BOOL erase = TRUE) const { ::InvalidateRect(m_hWnd, nullptr, erase); }
+    // An object without a window takes the focus from no one.
+    CWnd* SetFocus() const;
+    BOOL SetWindowPos(const CWnd* insertAfter, int x, int y, int width, int height, UINT flags) const;
+    void GetClientRect(RECT* rect) const { ::GetClientRect(m_hWnd, rect); }
+    void GetWindowRect(RECT* rect) const { ::GetWindowRect(m_hWnd, rect); }
+    // Centers a top-level window over its visible owner, else on the screen, and keeps it on the work area.
+    void CenterWindow() const;
+    // Exchanges values between controls and members, as far as DoDataExchange does.
+    BOOL UpdateData(BOOL saveAndValidate = TRUE);
+
+protected:
+    virtual BOOL PreCreateWindow(CREATESTRUCTA& create);
+    virtual LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam);
+    virtual LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam);
+    // Hands the message that is being handled to the procedure that the window had before.
+    LRESULT Default();
+    // True when the message is done with.
+    virtual BOOL OnCommand(WPARAM wParam, LPARAM lParam);
+    virtual BOOL OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* result);
+    // A message about this control that its parent received.
+    virtual BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result);
+    virtual void DoDataExchange(CDataExchange* exchange);
+    // The last call to the object; the window is gone.
+    virtual void PostNcDestroy() {}
+
+    afx_msg void OnDestroy() { Default(); }
+    afx_msg void OnSize(UINT /*kind*/, int /*width*/, int /*height*/) { Default(); }
+    afx_msg void OnLButtonDown(UINT /*flags*/, CPoint /*point*/) { Default(); }
+    afx_msg void OnLButtonUp(UINT /*flags*/, CPoint /*point*/) { Default(); }
+    afx_msg void OnLButtonDblClk(UINT /*flags*/, CPoint /*point*/) { Default(); }
+    afx_msg void OnKeyDown(UINT /*key*/, UINT /*count*/, UINT /*flags*/) { Default(); }
+    afx_msg void OnKeyUp(UINT /*key*/, UINT /*count*/, UINT /*flags*/) { Default(); }
+
+    static void DeleteTempMap();
+
+private:
+    friend LRESULT AfxCallWndProc(CWnd& window, UINT message, WPARAM wParam, LPARAM lParam) noexcept;
+
+    BOOL OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result);
+    BOOL Dispatch(UINT message, UINT code, UINT id, LRESULT* result);
+    void OnNcDestroy();
+
+    WNDPROC m_pfnSuper = nullptr;
+};
+
+// What UpdateData hands to DoDataExchange.
+class CDataExchange
+{
+public:
+    CDataExchange(CWnd* dialog, BOOL saveAndValidate) : m_bSaveAndValidate(saveAndValidate), m_pDlgWnd(dialog) {}
+
+    BOOL m_bSaveAndValidate;
+    CWnd* m_pDlgWnd; // outlives the exchange
+};
+
+// The one place where a message is handled, and the handler of last resort round it: what is raised is reported, and
+// nothing crosses a window procedure.
+LRESULT AfxCallWndProc(CWnd& window, UINT message, WPARAM wParam, LPARAM lParam) noexcept;
+
+// A modal dialog over a template of the resources.
+class CDialog : public CWnd
+{
+public:
+    explicit CDialog(UINT templateId, CWnd* parent = nullptr) : m_nIDTemplate(templateId), m_pParentWnd(parent) {}
+
+    // Runs the dialog; its owner is the parent, or the thread's active window without one. Gives what EndDialog was
+    // told, -1 when there is no such template.
+    virtual INT_PTR DoModal();
+    void EndDialog(int result) const { ::EndDialog(m_hWnd, result); }
+
+protected:
+    // TRUE lets the platform choose the control that has the focus first.
+    virtual BOOL OnInitDialog();
+    virtual void OnOK();
+    virtual void OnCancel();
+
+    DECLARE_MESSAGE_MAP()
+
+private:
+    static INT_PTR CALLBACK DialogProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+    LRESULT HandleInitDialog(WPARAM wParam, LPARAM lParam);
+
+    UINT m_nIDTemplate;
+    CWnd* m_pParentWnd; // outlives the modal run
+};
+
+class CButton : public CWnd
+{
+public:
+    using CWnd::Create;
+    BOOL Create(const char* caption, DWORD style, const RECT& rect, CWnd* parent, UINT id);
+    int GetCheck() const { return static_cast<int>(SendMessage(BM_GETCHECK)); }
+    void SetCheck(int check) const { SendMessage(BM_SETCHECK, static_cast<WPARAM>(check)); }
+};
+
+class CStatic : public CWnd
+{
+public:
+    using CWnd::Create;
+    BOOL Create(const char* text, DWORD style, const RECT& rect, CWnd* parent, UINT id = 0xffff);
+};
+
+class CEdit : public CWnd
+{
+public:
+    using CWnd::Create;
+    BOOL Create(DWORD style, const RECT& rect, CWnd* parent, UINT id);
+    // Selects the characters and brings the caret into view.
+    void SetSel(int start, int end) const;
+    void Clear() const { SendMessage(WM_CLEAR); }
+};
+
+class CListBox : public CWnd
+{
+public:
+    using CWnd::Create;
+    BOOL Create(DWORD style, const RECT& rect, CWnd* parent, UINT id);
+    int GetCount() const { return static_cast<int>(SendMessage(LB_GETCOUNT)); }
+    int GetCurSel() const { return static_cast<int>(SendMessage(LB_GETCURSEL)); }
+    int SetCurSel(int index) const { return static_cast<int>(SendMessage(LB_SETCURSEL, static_cast<WPARAM>(index))); }
+    int AddString(const char* text) const;
+    int InsertString(int index, const char* text) const;
+    int DeleteString(int index) const
+    {
+        return static_cast<int>(SendMessage(LB_DELETESTRING, static_cast<WPARAM>(index)));
+    }
+    void ResetContent() const { SendMessage(LB_RESETCONTENT); }
+};
+
+class CComboBox : public CWnd
+{
+public:
+    using CWnd::Create;
+    BOOL Create(DWORD style, const RECT& rect, CWnd* parent, UINT id);
+    int GetCount() const { return static_cast<int>(SendMessage(CB_GETCOUNT)); }
+    int GetCurSel() const { return static_cast<int>(SendMessage(CB_GETCURSEL)); }
+    int SetCurSel(int index) const { return static_cast<int>(SendMessage(CB_SETCURSEL, static_cast<WPARAM>(index))); }
+    int AddString(const char* text) const;
+    int InsertString(int index, const char* text) const;
+    int DeleteString(int index) const
+    {
+        return static_cast<int>(SendMessage(CB_DELETESTRING, static_cast<WPARAM>(index)));
+    }
+    void ResetContent() const { SendMessage(CB_RESETCONTENT); }
+};
+
+// The device context of a window's client area, or of the screen; given back at the end, with the object selected last
+// put back first.
+class CClientDC
+{
+public:
+    explicit CClientDC(const CWnd* window);
+    CClientDC(const CClientDC&) = delete;
+    CClientDC& operator=(const CClientDC&) = delete;
+    ~CClientDC();
+
+    HDC m_hDC;
+    int GetDeviceCaps(int index) const { return ::GetDeviceCaps(m_hDC, index); }
+    HGDIOBJ SelectObject(HGDIOBJ object) const { return ::SelectObject(m_hDC, object); }
+    CSize GetTextExtent(const char* text, int count) const;
+
+private:
+    HWND m_hWnd;
 };

@@ -1,0 +1,78 @@
+#include <afxwin.h>
+
+#include "ActivationContext.h"
+
+#include <commctrl.h>
+
+namespace
+{
+
+// Modal runs that stand on the stack, one inside the other.
+int modalDepth = 0;
+
+class ModalRun
+{
+public:
+    ModalRun() { ++modalDepth; }
+    ModalRun(const ModalRun&) = delete;
+    ModalRun& operator=(const ModalRun&) = delete;
+    ~ModalRun() { --modalDepth; }
+};
+
+} // namespace
+
+BEGIN_MESSAGE_MAP(CDialog, CWnd)
+    ON_MESSAGE(WM_INITDIALOG, HandleInitDialog)
+    ON_COMMAND(IDOK, OnOK)
+    ON_COMMAND(IDCANCEL, OnCancel)
+END_MESSAGE_MAP()
+
+INT_PTR CDialog::DoModal()
+{
+    const ModernControls modernControls;
+    INITCOMMONCONTROLSEX classes{sizeof classes, ICC_TREEVIEW_CLASSES | ICC_STANDARD_CLASSES};
+    ::InitCommonControlsEx(&classes);
+
+    INT_PTR result = -1;
+    {
+        const ModalRun run;
+        const HWND owner = m_pParentWnd != nullptr ? m_pParentWnd->m_hWnd : ::GetActiveWindow();
+        result = ::DialogBoxParamA(AfxGetResourceHandle(), MAKEINTRESOURCEA(m_nIDTemplate), owner, DialogProc,
+                                   reinterpret_cast<LPARAM>(this));
+    }
+    if (modalDepth == 0)
+        DeleteTempMap();
+    return result;
+}
+
+// The platform's own dialog procedure stays in charge of keys and focus; ours only joins the object with its window.
+INT_PTR CALLBACK CDialog::DialogProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    if (message != WM_INITDIALOG)
+        return FALSE;
+    auto* dialog = reinterpret_cast<CDialog*>(lParam);
+    dialog->SubclassWindow(window);
+    return AfxCallWndProc(*dialog, message, wParam, lParam);
+}
+
+LRESULT CDialog::HandleInitDialog(WPARAM /*wParam*/, LPARAM /*lParam*/)
+{
+    return OnInitDialog();
+}
+
+BOOL CDialog::OnInitDialog()
+{
+    UpdateData(FALSE);
+    return TRUE;
+}
+
+void CDialog::OnOK()
+{
+    if (UpdateData(TRUE))
+        EndDialog(IDOK);
+}
+
+void CDialog::OnCancel()
+{
+    EndDialog(IDCANCEL);
+}

@@ -1,0 +1,320 @@
+#include <afxwin.h>
+
+#include "WindowMap.h"
+
+#include <algorithm>
+#include <exception>
+
+namespace
+{
+
+// The message that is being handled, for Default. A message sent meanwhile takes its place and gives it back.
+const MSG* currentMessage = nullptr;
+
+class CurrentMessage
+{
+public:
+    explicit CurrentMessage(const MSG& message) : m_previous(currentMessage) { currentMessage = &message; }
+    CurrentMessage(const CurrentMessage&) = delete;
+    CurrentMessage& operator=(const CurrentMessage&) = delete;
+    ~CurrentMessage() { currentMessage = m_previous; }
+
+private:
+    const MSG* m_previous; // stands further down the stack
+};
+
+LRESULT CALLBACK WindowProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    CWnd* object = CWnd::FromHandlePermanent(window);
+    if (object == nullptr)
+        return ::DefWindowProcA(window, message, wParam, lParam);
+    return AfxCallWndProc(*object, message, wParam, lParam);
+}
+
+// A report that fails in its turn is given up: there is no one left to tell.
+template <class REPORT>
+void Report(REPORT report) noexcept
+{
+    try
+    {
+        report();
+    }
+    catch (CException* e)
+    {
+        e->Delete();
+    }
+    catch (...)
+    {
+        ::MessageBeep(MB_ICONERROR);
+    }
+}
+
+// What the sender of a message whose handler failed is told.
+LRESULT FailedResult(UINT message)
+{
+    return message == WM_COMMAND ? TRUE : 0;
+}
+
+} // namespace
+
+LRESULT AfxCallWndProc(CWnd& window, UINT message, WPARAM wParam, LPARAM lParam) noexcept
+{
+    const HWND handle = window.m_hWnd;
+    // A window that is not validated would be painted, and fail, for ever.
+    const auto stopPainting = [&]
+    {
+        if (message == WM_PAINT)
+            ::ValidateRect(handle, nullptr);
+    };
+    try
+    {
+        const MSG received{handle, message, wParam, lParam, 0, {}};
+        const CurrentMessage current(received);
+        return window.WindowProc(message, wParam, lParam);
+    }
+    catch (CException* e)
+    {
+        stopPainting();
+        Report([&] { e->ReportError(); });
+        e->Delete();
+    }
+    catch (const std::exception& e)
+    {
+        stopPainting();
+        Report([&] { AfxMessageBox(e.what()); });
+    }
+    catch (...)
+    {
+        stopPainting();
+        Report([] { AfxMessageBox("An unknown error occurred."); });
+    }
+    return FailedResult(message);
+}
+
+const AFX_MSGMAP* CCmdTarget::GetThisMessageMap()
+{
+    static constexpr AFX_MSGMAP_ENTRY entries[] = {{0, 0, 0, nullptr}};
+    static constexpr AFX_MSGMAP map = {nullptr, entries};
+    return &map;
+}
+
+const AFX_MSGMAP* CCmdTarget::GetMessageMap() const
+{
+    return GetThisMessageMap();
+}
+
+CWnd::~CWnd()
+{
+    if (m_hWnd != nullptr && FromHandlePermanent(m_hWnd) == this)
+        ::DestroyWindow(UnsubclassWindow());
+}
+
+BOOL CWnd::Create(const char* className, const char* windowName, DWORD style, const RECT& rect, CWnd* parent, UINT id)
+{
+    return CreateEx(0, className, windowName, style | WS_CHILD, rect, parent, id);
+}
+
+BOOL CWnd::CreateEx(DWORD exStyle, const char* className, const char* windowName, DWORD style, const RECT& rect,
+                    CWnd* parent, UINT id)
+{
+    CREATESTRUCTA create{};
+    create.dwExStyle = exStyle;
+    create.lpszClass = className;
+    create.lpszName = windowName;
+    create.style = static_cast<LONG>(style);
+    create.x = rect.left;
+    create.y = rect.top;
+    create.cx = rect.right - rect.left;
+    create.cy = rect.bottom - rect.top;
+    create.hwndParent = parent != nullptr ? parent->m_hWnd : nullptr;
+    create.hMenu = reinterpret_cast<HMENU>(static_cast<UINT_PTR>(id));
+    create.hInstance = AfxGetInstanceHandle();
+    if (!PreCreateWindow(create))
+        return FALSE;
+    const HWND window = ::CreateWindowExA(create.dwExStyle, create.lpszClass, create.lpszName,
+                                          static_cast<DWORD>(create.style), create.x, create.y, create.cx, create.cy,
+                                          create.hwndParent, create.hMenu, create.hInstance, create.lpCreateParams);
+    return window != nullptr && SubclassWindow(window);
+}
+
+BOOL CWnd::PreCreateWindow(CREATESTRUCTA& /*create*/)
+{
+    return TRUE;
+}
+
+BOOL CWnd::DestroyWindow()
+{
+    return m_hWnd != nullptr && ::DestroyWindow(m_hWnd);
+}
+
+BOOL CWnd::SubclassWindow(HWND window)
+{
+    if (window == nullptr || m_hWnd != nullptr)
+        return FALSE;
+    WindowMap::Get().SetPermanent(window, this);
+    m_hWnd = window;
+    m_pfnSuper = reinterpret_cast<WNDPROC>(
+        ::SetWindowLongPtrA(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(WindowProcedure)));
+    return TRUE;
+}
+
+BOOL CWnd::SubclassDlgItem(UINT id, CWnd* parent)
+{
+    return SubclassWindow(::GetDlgItem(parent->m_hWnd, static_cast<int>(id)));
+}
+
+HWND CWnd::UnsubclassWindow()
+{
+    const HWND window = m_hWnd;
+    if (window == nullptr)
+        return nullptr;
+    WindowMap::Get().RemovePermanent(window);
+    ::SetWindowLongPtrA(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(m_pfnSuper));
+    m_hWnd = nullptr;
+    m_pfnSuper = nullptr;
+    return window;
+}
+
+CWnd* CWnd::FromHandlePermanent(HWND window)
+{
+    return WindowMap::Get().FindPermanent(window);
+}
+
+CWnd* CWnd::FromHandle(HWND window)
+{
+    return WindowMap::Get().FindOrMakeTemporary(window);
+}
+
+void CWnd::DeleteTempMap()
+{
+    WindowMap::Get().RemoveTemporaries();
+}
+
+LRESULT CWnd::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
+{
+    LRESULT result = 0;
+    if (OnWndMsg(message, wParam, lParam, &result))
+        return result;
+    return DefWindowProc(message, wParam, lParam);
+}
+
+LRESULT CWnd::DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam)
+{
+    if (m_pfnSuper != nullptr)
+        return ::CallWindowProcA(m_pfnSuper, m_hWnd, message, wParam, lParam);
+    return ::DefWindowProcA(m_hWnd, message, wParam, lParam);
+}
+
+LRESULT CWnd::Default()
+{
+    return DefWindowProc(currentMessage->message, currentMessage->wParam, currentMessage->lParam);
+}
+
+BOOL CWnd::OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result)
+{
+    switch (message)
+    {
+    case WM_COMMAND: *result = OnCommand(wParam, lParam); return *result != 0;
+    case WM_NOTIFY: return lParam != 0 && OnNotify(wParam, lParam, result);
+    case WM_DRAWITEM:
+    {
+        const auto* draw = reinterpret_cast<const DRAWITEMSTRUCT*>(lParam);
+        CWnd* child = FromHandlePermanent(draw->hwndItem);
+        return child != nullptr && child->OnChildNotify(message, wParam, lParam, result);
+    }
+    case WM_NCDESTROY: OnNcDestroy(); return TRUE;
+    default: return Dispatch(message, 0, 0, result);
+    }
+}
+
+BOOL CWnd::Dispatch(UINT message, UINT code, UINT id, LRESULT* result)
+{
+    for (const AFX_MSGMAP* map = GetMessageMap(); map != nullptr;
+         map = map->pfnGetBaseMap != nullptr ? map->pfnGetBaseMap() : nullptr)
+    {
+        for (const AFX_MSGMAP_ENTRY* entry = map->lpEntries; entry->pfnCall != nullptr; ++entry)
+        {
+            if (entry->nMessage != message || entry->nCode != code || entry->nID != id)
+                continue;
+            *result = entry->pfnCall(*this, *currentMessage);
+            return TRUE;
+        }
+    }
+    return FALSE;
+}
+
+BOOL CWnd::OnCommand(WPARAM wParam, LPARAM lParam)
+{
+    // A menu or an accelerator has its own meaning for the code; both stand for the plain command.
+    const UINT code = lParam != 0 ? HIWORD(wParam) : 0;
+    LRESULT result = 0;
+    return Dispatch(WM_COMMAND, code, LOWORD(wParam), &result);
+}
+
+BOOL CWnd::OnNotify(WPARAM /*wParam*/, LPARAM lParam, LRESULT* result)
+{
+    const auto* header = reinterpret_cast<const NMHDR*>(lParam);
+    return Dispatch(WM_NOTIFY, header->code, static_cast<UINT>(header->idFrom), result);
+}
+
+BOOL CWnd::OnChildNotify(UINT /*message*/, WPARAM /*wParam*/, LPARAM /*lParam*/, LRESULT* /*result*/)
+{
+    return FALSE;
+}
+
+void CWnd::OnNcDestroy()
+{
+    const WNDPROC super = m_pfnSuper;
+    const HWND window = UnsubclassWindow();
+    ::CallWindowProcA(super, window, WM_NCDESTROY, currentMessage->wParam, currentMessage->lParam);
+    PostNcDestroy();
+}
+
+void CWnd::GetWindowText(CString& text) const
+{
+    const int length = ::GetWindowTextLengthA(m_hWnd);
+    const int copied = ::GetWindowTextA(m_hWnd, text.GetBuffer(length), length + 1);
+    text.ReleaseBuffer(copied);
+}
+
+CWnd* CWnd::SetFocus() const
+{
+    return m_hWnd != nullptr ? FromHandle(::SetFocus(m_hWnd)) : nullptr;
+}
+
+BOOL CWnd::SetWindowPos(const CWnd* insertAfter, int x, int y, int width, int height, UINT flags) const
+{
+    return ::SetWindowPos(m_hWnd, insertAfter != nullptr ? insertAfter->m_hWnd : nullptr, x, y, width, height, flags);
+}
+
+void CWnd::CenterWindow() const
+{
+    HWND center = ::GetWindow(m_hWnd, GW_OWNER);
+    if (center != nullptr && (!::IsWindowVisible(center) || ::IsIconic(center)))
+        center = nullptr;
+
+    MONITORINFO monitor{};
+    monitor.cbSize = sizeof monitor;
+    ::GetMonitorInfoA(::MonitorFromWindow(center != nullptr ? center : m_hWnd, MONITOR_DEFAULTTONEAREST), &monitor);
+    const RECT& area = monitor.rcWork;
+    RECT around = area;
+    if (center != nullptr)
+        ::GetWindowRect(center, &around);
+
+    CRect own;
+    GetWindowRect(&own);
+    const LONG x = (around.left + around.right) / 2 - own.Width() / 2;
+    const LONG y = (around.top + around.bottom) / 2 - own.Height() / 2;
+    SetWindowPos(nullptr, std::max(std::min<LONG>(x, area.right - own.Width()), area.left),
+                 std::max(std::min<LONG>(y, area.bottom - own.Height()), area.top), -1, -1,
+                 SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+BOOL CWnd::UpdateData(BOOL saveAndValidate)
+{
+    CDataExchange exchange(this, saveAndValidate);
+    DoDataExchange(&exchange);
+    return TRUE;
+}
+
+void CWnd::DoDataExchange(CDataExchange* /*exchange*/) {}

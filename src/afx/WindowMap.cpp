@@ -1,0 +1,28 @@
+#include "WindowMap.h"
+
+WindowMap& WindowMap::Get()
+{
+    static WindowMap map;
+    return map;
+}
+
+CWnd* WindowMap::FindPermanent(HWND window) const
+{
+    const auto entry = m_permanent.find(window);
+    return entry != m_permanent.end() ? entry->second : nullptr;
+}
+
+CWnd* WindowMap::FindOrMakeTemporary(HWND window)
+{
+    if (window == nullptr)
+        return nullptr;
+    if (CWnd* permanent = FindPermanent(window))
+        return permanent;
+    std::unique_ptr<CWnd>& standIn = m_temporary[window];
+    if (standIn == nullptr)
+    {
+        standIn = std::make_unique<CWnd>();
+        standIn->m_hWnd = window;
+    }
+    return standIn.get();
+}

@@ -1,0 +1,27 @@
+// Points, sizes and rectangles of the class library.
+#pragma once
+
+#include <windows.h>
+
+class CPoint : public POINT
+{
+public:
+    CPoint(int left = 0, int top = 0) : POINT{left, top} {} // NOLINT(google-explicit-constructor)
+    explicit CPoint(LPARAM packed) : POINT{static_cast<short>(LOWORD(packed)), static_cast<short>(HIWORD(packed))} {}
+};
+
+class CSize : public SIZE
+{
+public:
+    CSize(int width = 0, int height = 0) : SIZE{width, height} {} // NOLINT(google-explicit-constructor)
+};
+
+class CRect : public RECT
+{
+public:
+    CRect() : RECT{0, 0, 0, 0} {}
+    CRect(int l, int t, int r, int b) : RECT{l, t, r, b} {}
+
+    int Width() const { return static_cast<int>(right - left); }
+    int Height() const { return static_cast<int>(bottom - top); }
+};
