@@ -174,6 +174,8 @@ public:
     virtual BOOL Open(const char* fileName, UINT flags, CFileException* error = nullptr) = 0;
     // Raises CFileException when what was written cannot be brought to the file.
     virtual void Close() = 0;
+    // Closes without looking at errors.
+    virtual void Abort() = 0;
     virtual void SetFilePath(const char* fileName);
     const CString& GetFilePath() const { return m_strFileName; }
 
@@ -187,6 +189,7 @@ class CStdioFile : public CFile
 public:
     BOOL Open(const char* fileName, UINT flags, CFileException* error = nullptr) override;
     void Close() override;
+    void Abort() override { m_pStream.reset(); }
     // Reads one line with its line end, at most `count` characters and a NUL; null at the end of the file.
     virtual char* ReadString(char* buffer, UINT count);
     virtual void WriteString(const char* text);

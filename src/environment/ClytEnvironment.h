@@ -40,10 +40,10 @@ public:
     // Empties what belongs to one run of calls; the define list and the version in use stay.
     void Reset();
 
-    CString lytWordVersions;    // the installed word processors, joined by "; "
-    CString lytWordCurrent;     // the one in use
-    CString lytOfficeRelease;   // Office's release ids
-    CString lytOfficeVersion;   // Office's version
+    CString lytWordVersions;  // the installed word processors, joined by "; "
+    CString lytWordCurrent;   // the one in use
+    CString lytOfficeRelease; // Office's release ids
+    CString lytOfficeVersion; // Office's version
     ClytReportLines lytReportLines;
 
 private:

@@ -2,6 +2,7 @@
 #include "lyt64.h"
 
 #include "environment/ClytEnvironment.h"
+#include "environment/ClytLogFile.h"
 #include "environment/ProcessState.h"
 #include "exports/ExportFrame.h"
 
@@ -36,6 +37,7 @@ void __stdcall FreeGlobalObject()
 {
     LYT_EXPORT_FRAME();
     lytEnvironment.Reset();
+    lytLog.Reset();
     lytInputKey.Empty();
     lytWizardGroup.Empty();
 }

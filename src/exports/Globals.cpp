@@ -2,6 +2,7 @@
 #include "exports/CLytDlg32App.h"
 
 #include "environment/ClytEnvironment.h"
+#include "environment/ClytLogFile.h"
 #include "environment/ProcessState.h"
 
 #include <afxmt.h>
@@ -11,6 +12,7 @@ CLytDlg32App lytApplication;
 CMap<int, int, CString, CString> lytLanguageTags;
 CCriticalSection lytReportLock;
 ClytEnvironment lytEnvironment;
+ClytLogFile lytLog;
 CString lytInputKey;
 CString lytWizardGroup;
 CString lytIniList;

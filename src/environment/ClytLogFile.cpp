@@ -1,0 +1,115 @@
+#include "environment/ClytLogFile.h"
+
+#include "environment/ClytEnvironment.h"
+#include "environment/ClytException.h"
+#include "environment/LocalTime.h"
+
+#include <cstdlib>
+
+namespace
+{
+
+constexpr UINT logFlags =
+    CFile::modeCreate | CFile::modeNoTruncate | CFile::modeWrite | CFile::shareDenyWrite | CFile::typeText;
+static_assert(logFlags == 0x7021);
+
+CString Rule()
+{
+    return CString('-', 77) + "\n";
+}
+
+// The first dot of the whole path counts, also one in a folder's name; without a dot nothing of the name stays.
+CString LogNameOf(const CString& docName)
+{
+    return docName.Left(docName.Find('.')) + ".log";
+}
+
+CString Formatted(const char* format, const std::tm& time)
+{
+    char text[128] = "";
+    const size_t length = std::strftime(text, sizeof text, format, &time);
+    return {text, static_cast<int>(length)};
+}
+
+// Runs a step on the file. What it raises is raised again under the number, and the file is closed by then.
+template <class Step>
+void Guarded(CFile& file, const char* number, const CString& logName, Step step)
+{
+    try
+    {
+        step();
+    }
+    catch (CException* e)
+    {
+        const CString message = lytMessageOf(*e);
+        e->Delete();
+        file.Abort();
+        lytRaise(number, message, logName);
+    }
+}
+
+} // namespace
+
+CString lytLogBannerLine(const char* word, std::time_t time)
+{
+    std::tm local = {};
+    if (!LocalTimeOf(time, local))
+        AfxThrowInvalidArgException();
+    return word + CString("Date ") + Formatted("%x", local) + "           Time " + Formatted("%X", local) + "\n";
+}
+
+void ClytLogFile::Open()
+{
+    logName = lytEnvironment.GetDocName();
+    level = std::atoi(lytEnvironment.GetLogLevel());
+    if (level == 0)
+        return;
+
+    logName = LogNameOf(logName);
+    CFileException error;
+    if (!CStdioFile::Open(logName, logFlags, &error))
+        lytRaise("207", lytMessageOf(error), logName);
+    WriteAtEnd("\n" + Rule() + BannerLine("START...  ") + Rule() + "\n");
+}
+
+void ClytLogFile::Write(const char* text, int messageLevel)
+{
+    if (level != 0 && messageLevel <= level)
+        WriteAtEnd(text);
+}
+
+void ClytLogFile::Close()
+{
+    if (level == 0)
+        return;
+    WriteAtEnd("\n" + Rule() + BannerLine("END...    ") + "\n");
+    Guarded(*this, "209", logName, [&] { CStdioFile::Close(); });
+}
+
+void ClytLogFile::Reset()
+{
+    logName.Empty();
+}
+
+CString ClytLogFile::BannerLine(const char* word)
+{
+    try
+    {
+        return lytLogBannerLine(word, std::time(nullptr));
+    }
+    catch (CException*)
+    {
+        Abort();
+        throw;
+    }
+}
+
+void ClytLogFile::WriteAtEnd(const char* text)
+{
+    Guarded(*this, "208", logName,
+            [&]
+            {
+                SeekToEnd();
+                WriteString(text);
+            });
+}

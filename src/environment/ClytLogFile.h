@@ -1,0 +1,46 @@
+// Writes what the macros want logged into a text file named after the document. The file is opened, written and closed
+// for each message, so that a block of its own stands in it:
+//
+//     -----------------------------------------------------------------------------
+//     START...  Date 11/20/26           Time 09:15:00
+//     -----------------------------------------------------------------------------
+//
+//     the message
+//     -----------------------------------------------------------------------------
+//     END...    Date 11/20/26           Time 09:15:00
+//
+// Errors 207 (opening), 208 (writing) and 209 (closing) are raised with the cause as prefix and the log's name as
+// argument. The file is closed by then.
+#pragma once
+
+#include <afx.h>
+
+#include <ctime>
+
+class ClytLogFile : public CStdioFile
+{
+public:
+    // Names the log after the document, reads the level and, unless it is 0, opens the file at its end and writes the
+    // START banner.
+    void Open();
+    // Writes the text as it stands when its level is within the one read by Open.
+    void Write(const char* text, int messageLevel);
+    // Writes the END banner and closes the file, if Open opened it.
+    void Close() override;
+    void Reset();
+
+private:
+    using CStdioFile::Open;
+
+    void WriteAtEnd(const char* text);
+    CString BannerLine(const char* word);
+
+    CString logName;
+    int level = 0;
+};
+
+// A banner's line for a time, "START...  " or "END...    " in front. A time that is no date raises the
+// invalid-argument exception; a date or time that cannot be formatted is left out.
+CString lytLogBannerLine(const char* word, std::time_t time);
+
+extern ClytLogFile lytLog;

@@ -1,0 +1,7 @@
+// Local time, where platforms differ in how they tell that a time has none.
+#pragma once
+
+#include <ctime>
+
+// False when the time cannot be told as a date; `local` is then of no use.
+bool LocalTimeOf(std::time_t time, std::tm& local);
