@@ -1,0 +1,143 @@
+#include "controls/ClytControl.h"
+
+#include "environment/ClytException.h"
+#include "environment/Words.h"
+
+ClytControl::ClytControl(CString controlName, ClytPosition topLeft, ClytSize extent, CString text)
+    : position(topLeft), size(extent), caption(std::move(text)), name(std::move(controlName))
+{
+}
+
+void ClytControl::CreateControl(ClytDialog* owner)
+{
+    dialog = owner;
+}
+
+void ClytControl::SetOption(const CStringList& /*values*/, const CString& /*keyword*/) {}
+
+void ClytControl::SaveState() {}
+
+void ClytControl::SetControlFocus() {}
+
+void ClytControl::AddValues(const CString& /*text*/, const CString& /*separators*/) {}
+
+void ClytControl::SetValue(const CString& /*value*/)
+{
+    lytReport("200");
+}
+
+void ClytControl::GetAllValues(CString& /*result*/, const CString& /*separators*/) {}
+
+CString ClytControl::GetValue()
+{
+    lytReport("201");
+    return {};
+}
+
+CString ClytControl::GetDisplayValue()
+{
+    lytReport("201");
+    return {};
+}
+
+int ClytControl::IsChanged()
+{
+    return 0;
+}
+
+void ClytControl::DoAction(const CString& /*word*/)
+{
+    lytReport("247", lytErrorText("248"), name);
+}
+
+int ClytControl::DeleteCurrentItem()
+{
+    return 1;
+}
+
+void ClytControl::AddItem(const CString& /*value*/, const CString& /*display*/, int /*hasValue*/, int /*position*/) {}
+
+void ClytControl::ReplaceCurrentItem(const CString& /*text*/) {}
+
+void ClytControl::MoveCurrentItem(int /*up*/) {}
+
+void ClytControl::FillByLibrary() {}
+
+void ClytControl::SetState(const CString& /*word*/, int /*on*/) {}
+
+int ClytControl::IsVisible()
+{
+    return 1;
+}
+
+void ClytControl::SetEvaluation(const ClytCtrlValList& own, const ClytCtrlValList& other, const CString& messageKey)
+{
+    evaluation.ownValues.CopyFrom(own);
+    evaluation.otherValues.CopyFrom(other);
+    evaluation.messageKey = messageKey;
+}
+
+int ClytControl::Evaluate(const ClytControlMap& controls)
+{
+    const CStringList& forbidden = evaluation.ownValues.GetValues();
+    if (forbidden.IsEmpty())
+        return 1;
+    if (lytSameWord(forbidden.GetHead(), "NULL"))
+    {
+        if (!GetValue().IsEmpty())
+            return 1;
+    }
+    else
+    {
+        if (evaluation.ownValues.Contains(GetValue()) == 0)
+            return 1;
+        ClytControl* other = nullptr;
+        if (!controls.Lookup(evaluation.otherValues.GetName(), other))
+            return 0;
+        if (evaluation.otherValues.Contains(other->GetValue()) == 0)
+            return 1;
+    }
+    SetControlFocus();
+    return 0;
+}
+
+void ClytControl::ShowEvalMessage() const
+{
+    ClytException("MsgBox", evaluation.messageKey, CString(), CString()).ReportError();
+}
+
+int ClytControl::HasValueIn(const CStringList& values)
+{
+    if (values.IsEmpty())
+        return 0;
+    const CString value = GetValue();
+    for (POSITION place = values.GetHeadPosition(); place != nullptr;)
+    {
+        if (lytSameWord(values.GetNext(place), value))
+            return 1;
+    }
+    return 0;
+}
+
+int ClytControl::TakeCommonOption(const CString& word)
+{
+    static constexpr struct
+    {
+        const char* word;
+        int ClytControl::*flag;
+    } options[] = {
+        {"HIDDEN", &ClytControl::hidden},
+        {"DISPLAYONLY", &ClytControl::displayOnly},
+        {"INVISIBLE", &ClytControl::invisible},
+        {"INACTIVE", &ClytControl::inactive},
+    };
+    for (const auto& option : options)
+    {
+        if (lytSameWord(word, option.word))
+        {
+            this->*option.flag = 1;
+            return 1;
+        }
+    }
+    return 0;
+}

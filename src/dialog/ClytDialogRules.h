@@ -1,0 +1,122 @@
+// The engine of a described dialog: its controls and its rules, without a window. It reads a description in its fixed
+// order, runs the dependency rules, scans input into the controls and composes output from them.
+//
+// A face derives from it and says how a control is made, how the window is sized and how a control's window comes into
+// being: ClytDialog with live windows; a headless form for tests, tools and fuzzers with stand-ins.
+#pragma once
+
+#include "controls/ClytControl.h"
+#include "dlgfile/ClytDialogFile.h"
+#include "model/ClytControlDep.h"
+#include "model/ClytInputPart.h"
+#include "model/ClytOutput.h"
+
+// What layout units are multiplied by; set by the dialog from the screen's resolution, 1 without a window.
+extern float lytScaleX;
+extern float lytScaleY;
+// 0 while a dialog creates its controls, then 1. A construction that fails in between leaves it at 0.
+extern int lytControlsReady;
+// 0 while a dialog scans its first input, then 1. A construction that fails in between leaves it at 0.
+extern int lytInputApplied;
+
+// The name of the input part and of the output group that belong to the dialog as a whole.
+inline constexpr const char* lytParentName = "parent";
+
+using ClytControlList = ClytOwnedList<ClytControl, CPtrList>;
+using ClytOutputMap = CTypedPtrMap<CMapStringToPtr, CString, ClytOutput*>;
+using ClytInputMap = CTypedPtrMap<CMapStringToPtr, CString, ClytInputPart*>;
+
+class ClytDialogRules
+{
+public:
+    // Opens nothing yet.
+    ClytDialogRules(CString descriptionFile, const CString& defineList);
+    ClytDialogRules(const ClytDialogRules&) = delete;
+    ClytDialogRules& operator=(const ClytDialogRules&) = delete;
+    virtual ~ClytDialogRules();
+
+    // The section of the language texts in which captions are keys; empty when the layout names none.
+    CString GetTextSection() const;
+    const CString& GetResult() const { return result; }
+    const ClytControlMap& GetControlMap() const { return controlMap; }
+    const ClytControlList& GetControlList() const { return controlList; }
+    const ClytOutputMap& GetOutputMap() const { return outputMap; }
+    const ClytInputMap& GetInputMap() const { return inputMap; }
+    ClytControl* FindControl(const CString& name) const;
+
+    // One pass over the dependency rules in file order, then a new baseline for the controls of their conditions.
+    void RunDependencies();
+    // False when a command that arrives now must not run the rules: while windows are created or the first input is
+    // scanned, and when a value that a run reads moved the focus.
+    bool MayRunRules() const;
+
+    // Scans lytInputKey into the controls, empties it and takes the baseline of every control.
+    void ApplyInput(const CString& partName);
+    // Runs an input part over a text, from its statement "Start"; 0 when there is no such part.
+    int RunInput(const CString& partName, const CString& text);
+
+    // The first rule of the group whose conditions all hold, or null. A condition on an unknown control raises 245.
+    const ClytDialogOutput* SelectRule(const ClytOutput& group);
+    // Composes the text of a group; with `check` the evaluations of the controls that it takes are run. 0, with the
+    // target as it was, when no rule holds or an evaluation fails (its message is shown).
+    int ComposeOutput(const ClytOutput& group, CString& target, int check);
+    // The same, without evaluations, for a group by its name; 0 when there is no such group.
+    int ComposeNamedOutput(const CString& groupName, CString& target);
+    // Puts the items into the format. A format without `%` is the result as it stands.
+    static CString FormatOutput(const CString& format, const CStringArray& items);
+    // Turns `\n` and `\t` into a line feed or a tab and a blank, except at the very end of the text.
+    static void ExpandEscapes(CString& text);
+
+protected:
+    // Reads the description, creates the controls, scans the input and runs the rules once. Any failure is raised.
+    void ReadDescription();
+
+    // Sizes the window so that its client area has the scaled size; the caption is ready to be shown.
+    virtual void SizeWindow(int width, int height, const CString& windowCaption) = 0;
+    // Makes the control of a type word, null for an unknown word. Position and size are scaled, the label is ready to
+    // be shown.
+    virtual std::unique_ptr<ClytControl> MakeControl(const CString& type, const CString& name, ClytPosition position,
+                                                     ClytSize size, const CString& label) = 0;
+    // Calls the control's CreateControl with the dialog.
+    virtual void CreateControlWindow(ClytControl& control) = 0;
+
+    // The rule that gives Return in the named control to a button, or null. An empty name is that of a window that is
+    // no control.
+    const ClytControlDep* FindDefaultButtonRule(const CString& focusName) const;
+    // What OK does before the window ends: composes the result, with evaluations. 0 when the dialog is to stay open. A
+    // failure of the program's own is raised again as 246.
+    int ComposeResult();
+
+private:
+    void OpenFile();
+    void CloseFile();
+    void ReadHeader();
+    void ReadControls();
+    void CreateLayoutControl(const ClytControlStatement& statement);
+    void ReadValues();
+    void ReadDependencies();
+    void CreateControlWindows();
+    void ReadEvaluations();
+    void ReadInputs();
+    void ReadOutputGroups();
+    void TakeHeaderWords(CStringList& words);
+
+    void RunRule(ClytControlDep& rule);
+    int HoldsForOutput(const ClytConditions& conditions);
+    int ComposeItem(const CString& action, CString& item, int check);
+
+    ClytDialogFile file;
+    ClytControlMap controlMap;
+    ClytControlList controlList; // in layout order
+    ClytOwnedList<ClytControlDep> dependencyList;
+    ClytOutputMap outputMap;
+    ClytOwnedList<ClytOutput> outputList;
+    ClytInputMap inputMap;
+    ClytOwnedList<ClytInputPart> inputList;
+    CStringList sectionList; // the words of the layout header, the text section first
+    CString evaluationSection;
+    CString result;
+    CString fileName;
+    int runDepth = 0;  // runs of the rules in progress, one inside the other
+    int readDepth = 0; // reads of a control's value in progress
+};

@@ -1,0 +1,22 @@
+// One token of a description line: its text, with blanks at both ends and quotes taken off, and the delimiter that ended
+// it. The readers decide on the delimiter as much as on the text.
+#pragma once
+
+#include "environment/ClytOwnedList.h"
+
+class ClytToken : public CObject
+{
+public:
+    ClytToken(CString tokenText, char endedBy) : text(std::move(tokenText)), delimiter(endedBy) {}
+
+    const CString& GetText() const { return text; }
+    char GetDelimiter() const { return delimiter; }
+    // Nothing in front of the delimiter, such as what stands between two delimiters in a row.
+    bool IsBare(char endedBy) const { return delimiter == endedBy && text.IsEmpty(); }
+
+private:
+    CString text;
+    char delimiter;
+};
+
+using ClytTokenList = ClytOwnedList<ClytToken>;

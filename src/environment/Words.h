@@ -1,0 +1,28 @@
+// How words of the description language compare and how its numbers are read, decided here for every reader, rule and
+// control.
+#pragma once
+
+#include <afx.h>
+
+#include <algorithm>
+#include <cstdlib>
+#include <limits>
+
+// Keywords, state words and option words compare byte for byte.
+inline bool lytSameWord(const CString& text, const char* word)
+{
+    return text == word;
+}
+
+// A number at the start of the text; 0 for a word, and the nearest 32-bit number when it is out of range.
+inline int lytNumberOf(const char* text)
+{
+    const long number = std::strtol(text, nullptr, 10);
+    return static_cast<int>(std::clamp<long>(number, std::numeric_limits<int>::min(), std::numeric_limits<int>::max()));
+}
+
+// White space as the C locale has it, whatever the locale of the host is.
+constexpr bool lytIsSpace(char ch)
+{
+    return ch == ' ' || (ch >= '\t' && ch <= '\r');
+}

@@ -1,0 +1,28 @@
+#include "model/ClytConditionFill.h"
+
+#include "environment/Words.h"
+
+int ClytConditionFill::Apply(const CString& piece, const ClytControlMap& controls) const
+{
+    if (!Holds(piece))
+        return 0;
+    for (POSITION place = fills.GetHeadPosition(); place != nullptr;)
+    {
+        const ClytControlFill& fill = *fills.GetNext(place);
+        if (!fill.controlName.IsEmpty())
+            fill.Apply(piece, controls);
+    }
+    return 1;
+}
+
+bool ClytConditionFill::Holds(const CString& piece) const
+{
+    if (values.IsEmpty())
+        return true;
+    for (POSITION place = values.GetHeadPosition(); place != nullptr;)
+    {
+        if (lytSameWord(values.GetNext(place), piece))
+            return true;
+    }
+    return false;
+}

@@ -1,0 +1,17 @@
+// A fill rule of the scan: fills that apply to certain pieces only.
+#pragma once
+
+#include "model/ClytControlFill.h"
+
+class ClytConditionFill : public CObject
+{
+public:
+    // 1 when the rule held for the piece and its fills were applied.
+    int Apply(const CString& piece, const ClytControlMap& controls) const;
+
+    CStringList values; // the pieces for which the rule holds; empty means all
+    ClytOwnedList<ClytControlFill> fills;
+
+private:
+    bool Holds(const CString& piece) const;
+};

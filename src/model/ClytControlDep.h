@@ -1,0 +1,23 @@
+// A dependency rule: which state of which control follows from a list of conditions.
+#pragma once
+
+#include "model/ClytCtrlValList.h"
+
+class ClytControlDep : public CObject
+{
+public:
+    // An event rule acts when a control of its conditions changed; any other rule sets a state in every run.
+    bool IsEventRule() const;
+    // 1 when every condition holds. An inactive control fails its condition unless it is exempt; "NOTNULL" as a
+    // condition's last value ends the test with whether that control holds anything.
+    int AllHold(const ClytControlMap& controls) const;
+    // 1 when the control of a condition changed; an unknown control ends the test with 0.
+    int AnyChanged(const ClytControlMap& controls) const;
+    // Takes the present values of the conditions' controls as the ones to compare with.
+    void SaveStates(const ClytControlMap& controls) const;
+
+    CString controlName; // the control that the rule acts on
+    CString stateWord;
+    ClytConditions conditions;
+    bool isRunning = false; // an event rule that is being carried out is not entered again
+};

@@ -1,0 +1,18 @@
+// Puts a piece of the input into a control.
+#pragma once
+
+#include "model/ClytCtrlValList.h"
+
+#include <array>
+
+class ClytControlFill : public CObject
+{
+public:
+    // An unknown control is passed over.
+    void Apply(const CString& piece, const ClytControlMap& controls) const;
+
+    CString controlName;
+    CString value;                   // replaces the piece when it is not empty
+    CString action;                  // "FILL", "ADD", "MODIFY", "CONCAT"; any other word sets the value
+    std::array<CString, 3> operands; // joined, the separators of "CONCAT"
+};

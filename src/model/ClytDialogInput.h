@@ -1,0 +1,18 @@
+// One statement of an input part: a state of the scan. It cuts a piece off the input, or it only decides where the scan
+// goes on.
+#pragma once
+
+#include "model/ClytScanRule.h"
+
+class ClytDialogInput : public CObject
+{
+public:
+    // 1 when any condition is satisfied, 0 without conditions.
+    int ConditionsHold(const ClytControlMap& controls) const;
+
+    CString name;
+    ClytScanRule scanRule;
+    ClytConditions conditions;
+    CString trueTarget;
+    CString falseTarget;
+};

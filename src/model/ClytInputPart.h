@@ -1,0 +1,20 @@
+// An input part: a small state machine that takes a text apart and puts its pieces into the controls.
+#pragma once
+
+#include "model/ClytDialogInput.h"
+
+class ClytInputPart : public CObject
+{
+public:
+    // Of statements with one name the later is found; the part owns them all.
+    void Add(std::unique_ptr<ClytDialogInput> statement);
+    int GetCount() const { return statements.GetCount(); }
+
+    // Runs over the text from the statement of that name until a statement is named "End" or is not there. A run that
+    // goes from statement to statement without consuming text raises 206.
+    void Run(CString text, const CString& name, const ClytControlMap& controls) const;
+
+private:
+    ClytOwnedList<ClytDialogInput> statements;
+    CTypedPtrMap<CMapStringToPtr, CString, ClytDialogInput*> statementsByName;
+};

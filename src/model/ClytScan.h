@@ -1,0 +1,29 @@
+// How a statement cuts its piece off the front of the input: by a fixed length or by separators.
+#pragma once
+
+#include "environment/ClytOwnedList.h"
+#include "model/ClytSeparator.h"
+
+class ClytScan : public CObject
+{
+public:
+    // 1 when there is anything to scan by.
+    int HasScan() const { return !target.IsEmpty() || !separators.IsEmpty() ? 1 : 0; }
+    // 1 when a separator stands at the start of the rest, with its length; the first in file order wins. An empty rest
+    // counts as a separator of length 0 as long as the list has an entry.
+    int FindSeparator(const char* rest, int& found) const;
+    // The statement behind the first separator of that text; empty when there is none.
+    CString TargetOf(const CString& separatorText) const;
+
+    // The later of the two kinds of entry decides: a separator wipes an earlier fixed length.
+    void SetFixedLength(int pieceLength, const CString& statementName);
+    void AddSeparator(const CString& separatorText, const CString& statementName);
+
+    int GetLength() const { return length; }
+    const CString& GetTarget() const { return target; }
+
+private:
+    int length = 0; // 0 when the scan works by separators
+    CString target; // the next statement behind a piece of fixed length
+    ClytOwnedList<ClytSeparator> separators;
+};
