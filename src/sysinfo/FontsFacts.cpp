@@ -1,0 +1,91 @@
+#include "sysinfo/Fonts.h"
+
+#include "environment/ClytEnvironment.h"
+#include "environment/ClytINISection.h"
+#include "sysinfo/Locale.h"
+#include "sysinfo/Probes.h"
+#include "sysinfo/SystemFunction.h"
+
+#include <string>
+
+namespace
+{
+
+constexpr DWORD installedGroup = 1;
+
+// Fetched once per process and kept: nothing gives it back.
+HDC ScreenContext()
+{
+    static const HDC context = GetDC(nullptr);
+    return context;
+}
+
+std::wstring Wide(const CString& text)
+{
+    const int length = MultiByteToWideChar(CP_ACP, 0, text, text.GetLength(), nullptr, 0);
+    std::wstring wide(static_cast<size_t>(length), L'\0');
+    MultiByteToWideChar(CP_ACP, 0, text, text.GetLength(), wide.data(), length);
+    return wide;
+}
+
+CString Narrow(const WCHAR* text, size_t room)
+{
+    const int wideLength = static_cast<int>(wcsnlen(text, room));
+    const int length = WideCharToMultiByte(CP_ACP, 0, text, wideLength, nullptr, 0, nullptr, nullptr);
+    CString narrow;
+    WideCharToMultiByte(CP_ACP, 0, text, wideLength, narrow.GetBuffer(length), length, nullptr, nullptr);
+    narrow.ReleaseBuffer(length);
+    return narrow;
+}
+
+int CALLBACK KeepFont(const LOGFONTW* font, const TEXTMETRICW* /*metric*/, DWORD /*type*/, LPARAM list)
+{
+    // The platform passes the longer record, and the list comes back as it was handed in.
+    const auto& record = *reinterpret_cast<const ENUMLOGFONTEXW*>(font);
+    auto& entries = *reinterpret_cast<std::vector<lytFontEntry>*>(list);
+    entries.push_back({Narrow(record.elfFullName, LF_FULLFACESIZE), record.elfLogFont.lfCharSet});
+    return 1;
+}
+
+std::vector<lytFontEntry> EnumerateFonts(const CString& name)
+{
+    LOGFONTW wanted = {};
+    wanted.lfCharSet = DEFAULT_CHARSET;
+    Wide(name).copy(wanted.lfFaceName, LF_FACESIZE - 1);
+    std::vector<lytFontEntry> entries;
+    EnumFontFamiliesExW(ScreenContext(), &wanted, KeepFont, reinterpret_cast<LPARAM>(&entries), 0);
+    return entries;
+}
+
+CString LocaleText(unsigned locale, unsigned type)
+{
+    const int size = GetLocaleInfoA(locale, type, nullptr, 0);
+    if (size <= 0)
+        return "";
+    CString text;
+    GetLocaleInfoA(locale, type, text.GetBuffer(size), size);
+    text.ReleaseBuffer();
+    return text;
+}
+
+IsGroupInstalled FindGroupTest()
+{
+    auto* const isValid = FindSystemFunction<BOOL WINAPI(DWORD, DWORD)>("Kernel32.dll", "IsValidLanguageGroup");
+    if (isValid == nullptr)
+        return {};
+    return [isValid](unsigned group) { return isValid(group, installedGroup) != FALSE; };
+}
+
+} // namespace
+
+void lytProbeFonts()
+{
+    const CString iniFile = lytEnvironment.GetIniFileName();
+    ClytINISection section(iniFile, "FONTS");
+    const bool isRead = section.Read();
+
+    CStringList& lines = lytEnvironment.lytReportLines;
+    AddFontLines(iniFile, isRead ? &section : nullptr, EnumerateFonts, lines);
+    AddLocaleLines(LocaleText, lines);
+    AddLanguageGroupLines(FindGroupTest(), lines);
+}
