@@ -4,6 +4,8 @@
 #include "environment/ClytEnvironment.h"
 #include "environment/ClytLogFile.h"
 #include "environment/ProcessState.h"
+#include "tree/ClytNode.h"
+#include "tree/ClytWizardQueue.h"
 
 #include <afxmt.h>
 #include <afxtempl.h>
@@ -14,8 +16,11 @@ CCriticalSection lytReportLock;
 ClytEnvironment lytEnvironment;
 ClytLogFile lytLog;
 CString lytInputKey;
+ClytNodeList lytSymbolNodes;
+ClytNodeList lytParaNodes;
 CString lytWizardGroup;
 CString lytIniList;
+ClytWizardQueue lytWizardQueue;
 
 int lytCommandSeen = 0;
 int lytTreeConfirmCount = 0;

@@ -1,0 +1,82 @@
+/* lytsrc.h: what a catalogue's data source implements.
+ *
+ * The tree browser of lyt64 shows a catalogue that it does not own: headings, groups under them, symbols under the
+ * groups. The catalogue comes from a library of your making, named lytsrc.dll and placed where the system finds it by
+ * its bare name (beside the host program, for instance). The library exports the four functions below, in C and under
+ * undecorated names. There are two catalogues, the symbol tree and the para tree, and a pair of functions for each; a
+ * library may leave out a pair, and that catalogue is then empty.
+ *
+ * How a catalogue is read:
+ *
+ *   1. lytTreeStart("") makes a new run of records ready. Nonzero: it is; 0: there is nothing to read.
+ *   2. lytTreeNext(&record) fills the record and returns nonzero, again and again; it returns 0 behind the last one,
+ *      and what then stands in the record is not looked at.
+ *
+ * Nothing tells the source that reading has ended. A start call may come at any time, also in the middle of a run, and
+ * begins anew. All calls come from the one thread that called lyt64; records and texts need not outlive a call. A
+ * catalogue is read once and then kept until FreeGlobalObject (lytGetSymbolfromTree without a kept catalogue reads it
+ * through each time). A run ends after 1,000,000 records, whatever the source says.
+ *
+ * The order of the records is the order on the screen, depth first: an entry stands behind the entry it belongs to, and
+ * before the next one of that entry's level. Its parent is the nearest record before it with a smaller nLevel; without
+ * one it stands at the root. Levels may be any numbers, may begin anywhere and may skip numbers. Up to lyt.ini's
+ * "TreeLevels" the first opening shows branches open, counting the root as level 0.
+ */
+/* NOLINTBEGIN(modernize-*): this header is C. */
+#ifndef LYTSRC_H
+#define LYTSRC_H
+
+#include <assert.h>
+#include <stddef.h>
+#include <stdint.h>
+
+#ifdef __cplusplus
+extern "C"
+{
+#endif
+
+    /* Kinds of an entry. Any other number takes over the kind of the record before it (of a heading, at the first). */
+    enum
+    {
+        LYT_TREE_HEADING = 1,
+        LYT_TREE_GROUP = 2,
+        LYT_TREE_SYMBOL = 3
+    };
+
+    /* Bytes of a text, with its NUL. A text without a NUL within them counts as empty. */
+    enum
+    {
+        LYT_TREE_TEXT_SIZE = 100
+    };
+
+    /* One entry. lyt64 owns it and the source fills it. Texts are in the ANSI code page. */
+    typedef struct lytTreeRecord
+    {
+        int32_t nLevel;                   /* the depth; a smaller number lies nearer the root */
+        int32_t nType;                    /* LYT_TREE_HEADING, LYT_TREE_GROUP or LYT_TREE_SYMBOL */
+        char szLabel[LYT_TREE_TEXT_SIZE]; /* what is shown; each "##" shows as three blanks */
+        char szKey[LYT_TREE_TEXT_SIZE];   /* what the entry is looked up by and returned as */
+    } lytTreeRecord;
+
+    static_assert(offsetof(lytTreeRecord, nLevel) == 0, "nLevel lies at 0");
+    static_assert(offsetof(lytTreeRecord, nType) == 4, "nType lies at 4");
+    static_assert(offsetof(lytTreeRecord, szLabel) == 8, "szLabel lies at 8");
+    static_assert(offsetof(lytTreeRecord, szKey) == 108, "szKey lies at 108");
+    static_assert(sizeof(lytTreeRecord) == 208, "a record has 208 bytes");
+
+    typedef int32_t (*lytTreeStartFunction)(const char* selection);
+    typedef int32_t (*lytTreeNextFunction)(lytTreeRecord* record);
+
+    /* The symbol tree. The selection text is for later use: lyt64 passes an empty one. */
+    int32_t lytTreeStart(const char* selection);
+    int32_t lytTreeNext(lytTreeRecord* record);
+    /* The para tree. */
+    int32_t lytParaTreeStart(const char* selection);
+    int32_t lytParaTreeNext(lytTreeRecord* record);
+
+#ifdef __cplusplus
+}
+#endif
+
+#endif
+/* NOLINTEND(modernize-*) */

@@ -1,0 +1,39 @@
+// The nodes above the present place of a walk from head to tail, so that finding a parent costs no walk back.
+//
+// It holds every node that can still be a parent: root first, levels rising. What a walk puts on it for a node is the
+// walk's own business: the node itself, or what it found there.
+#pragma once
+
+#include "tree/ClytNode.h"
+
+#include <vector>
+
+class ClytAncestors
+{
+public:
+    // What was put on for the nearest node before with a smaller level; null when there is none. Nodes of that level or
+    // a greater one are left behind: they are no parents any more.
+    ClytNode* FindAbove(int level)
+    {
+        while (!m_path.empty() && m_path.back().level >= level)
+            m_path.pop_back();
+        return m_path.empty() ? nullptr : m_path.back().node;
+    }
+    // The item under which an entry of this level belongs; null stands for the root. It is read from the parent's node
+    // at this moment: a parent that is not shown sends its entries to the root.
+    HTREEITEM lytFindParentItem(int level)
+    {
+        const ClytNode* parent = FindAbove(level);
+        return parent != nullptr ? parent->m_hItem : nullptr;
+    }
+    // Every node of the walk goes on, shown or not, after its parent was looked for.
+    void Add(int level, ClytNode* node) { m_path.push_back({level, node}); }
+
+private:
+    struct Step
+    {
+        int level;
+        ClytNode* node; // the list of the walk owns it
+    };
+    std::vector<Step> m_path;
+};

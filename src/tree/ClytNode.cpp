@@ -1,0 +1,19 @@
+#include "tree/ClytNode.h"
+
+#include "tree/ClytChildCursor.h"
+
+void lytRestoreCurrentNode(const ClytNodeList& nodes)
+{
+    for (POSITION position = nodes.GetHeadPosition(); position != nullptr;)
+    {
+        ClytNode* node = nodes.GetNext(position);
+        node->m_nCurrent = node->m_nInitial == 1 ? 1 : 0;
+    }
+}
+
+void lytDeleteNodes()
+{
+    lytChildCursor.Forget();
+    lytSymbolNodes.RemoveAll();
+    lytParaNodes.RemoveAll();
+}

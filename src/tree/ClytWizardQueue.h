@@ -1,0 +1,28 @@
+// The texts of a group wizard that wait to be fetched, one by each call.
+#pragma once
+
+#include <afx.h>
+
+#include <optional>
+
+class ClytWizardQueue
+{
+public:
+    // Whether texts are being delivered.
+    bool IsPending() const { return m_pending; }
+
+    // Takes a group dialog's result apart: what stands behind "/LIST" and the next "{" goes into the queue; what stands
+    // before it, brace included, is the first text, which is returned. Without "/LIST" the brace is sought in the whole
+    // result, and without a brace the queue gets all that was searched.
+    CString Begin(const CString& result);
+
+    // Hands out the next text. The delivery ends with the last one; there is no last one when the queue ends in "|": the
+    // text before that mark is lost.
+    std::optional<CString> Deliver();
+
+private:
+    CString m_queue; // undelivered texts, each but the last ended by "|"
+    bool m_pending = false;
+};
+
+extern ClytWizardQueue lytWizardQueue;

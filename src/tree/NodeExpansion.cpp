@@ -1,0 +1,42 @@
+#include "tree/NodeExpansion.h"
+
+namespace
+{
+
+constexpr int levelsWithoutValue = 2;
+
+// The states of an open branch, without and with the selection on it. A branch with any other bit stays closed.
+constexpr UINT openState = 96;
+constexpr UINT openSelectedState = 98;
+
+bool WasLeftOpen(const ClytNode& node)
+{
+    return node.m_nItemState == openState || node.m_nItemState == openSelectedState;
+}
+
+} // namespace
+
+HTREEITEM lytExpandNodes(const ClytNodeList& nodes, const ClytExpansion& expansion, ClytTreeItems& items)
+{
+    const long long levels = expansion.treeLevels != 0 ? expansion.treeLevels : levelsWithoutValue;
+    HTREEITEM pending = nullptr;
+    for (POSITION position = nodes.GetHeadPosition(); position != nullptr;)
+    {
+        const ClytNode* node = nodes.GetNext(position);
+        if (expansion.byLevels)
+        {
+            if (node->m_nLevel < levels - 1)
+                items.ExpandItem(node->m_hItem);
+            if (expansion.selectKey.IsEmpty())
+                pending = items.GetRootItem();
+        }
+        else if (WasLeftOpen(*node))
+            items.ExpandItem(node->m_hItem);
+
+        // A later entry with the key overrides an earlier one.
+        const bool wanted = !expansion.selectKey.IsEmpty() && expansion.selectKey == node->m_szKey;
+        if (wanted || (pending == nullptr && node->m_nCurrent == 1))
+            pending = node->m_hItem;
+    }
+    return pending;
+}

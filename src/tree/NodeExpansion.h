@@ -1,0 +1,18 @@
+// Decides which branches of a freshly filled tree stand open and which entry is to be selected.
+#pragma once
+
+#include "tree/ClytTreeItems.h"
+
+struct ClytExpansion
+{
+    // "TreeLevels" of the configuration; 0, also as the value of a text that is no number, stands for 2.
+    int treeLevels = 0;
+    // The opening by levels, until the symbol tree was confirmed for the first time; afterwards, and in the para tree,
+    // branches stand as the last confirmation left them.
+    bool byLevels = false;
+    // The key of the entry to select; empty when there is none.
+    CString selectKey;
+};
+
+// Expands branches and returns the item to select, null when there is none.
+HTREEITEM lytExpandNodes(const ClytNodeList& nodes, const ClytExpansion& expansion, ClytTreeItems& items);

@@ -1,0 +1,126 @@
+#include "tree/NodeFill.h"
+
+#include "tree/ClytAncestors.h"
+
+#include <algorithm>
+#include <cstring>
+
+namespace
+{
+
+struct EntryType
+{
+    int number;
+    char letter;
+    int image;
+};
+
+constexpr EntryType entryTypes[] = {
+    {LYT_TREE_HEADING, 'H', 0},
+    {LYT_TREE_GROUP, 'G', 1},
+    {LYT_TREE_SYMBOL, 'S', 2},
+};
+
+// A number that is none of the known ones takes over the type of the entry before: sources leave it out for entries
+// that follow their like.
+const EntryType& TypeOf(int number, const EntryType& before)
+{
+    const auto* const type = std::ranges::find(entryTypes, number, &EntryType::number);
+    return type != std::end(entryTypes) ? *type : before;
+}
+
+int ImageOf(char letter)
+{
+    const auto* const type = std::ranges::find(entryTypes, letter, &EntryType::letter);
+    return type != std::end(entryTypes) ? type->image : 0;
+}
+
+using Field = char[LYT_TREE_TEXT_SIZE];
+
+// A field that its source did not end is not a text.
+void CopyField(Field& target, const Field& field)
+{
+    const void* end = std::memchr(field, '\0', sizeof field);
+    if (end != nullptr)
+        std::memcpy(target, field, static_cast<size_t>(static_cast<const char*>(end) - field));
+}
+
+std::unique_ptr<ClytNode> NodeOf(const lytTreeRecord& record, const EntryType& type)
+{
+    auto node = std::make_unique<ClytNode>(nullptr, record.nLevel);
+    CopyField(node->m_szKey, record.szKey);
+    CopyField(node->m_szLabel, record.szLabel);
+    node->m_cType = type.letter;
+    return node;
+}
+
+HTREEITEM Show(const ClytNode& node, HTREEITEM parent, ClytTreeItems& items, int image)
+{
+    char label[lytShownLabelSize] = {};
+    lytExpandLabel(label, node.m_szLabel);
+    return items.InsertItem(parent, label, image);
+}
+
+} // namespace
+
+void lytExpandLabel(char (&target)[lytShownLabelSize], const char* label)
+{
+    // One pass from the left gives what replacing the first mark again and again would give: blanks make no new marks.
+    size_t length = 0;
+    const size_t room = sizeof target - 1;
+    const auto put = [&](char ch)
+    {
+        if (length < room)
+            target[length++] = ch;
+    };
+    while (*label != '\0')
+    {
+        if (label[0] == '#' && label[1] == '#')
+        {
+            std::ranges::for_each("   ", "   " + 3, put);
+            label += 2;
+        }
+        else
+            put(*label++);
+    }
+    target[length] = '\0';
+}
+
+void lytFillFromSource(ClytNodeList& nodes, const ClytTreeSource& source, ClytTreeItems* items, char kind)
+{
+    if (source.start("") == 0)
+        return;
+
+    ClytAncestors ancestors;
+    const EntryType* type = &entryTypes[0];
+    for (int count = 0; count < lytLongestRun; ++count)
+    {
+        lytTreeRecord record = {};
+        if (source.next(&record) == 0)
+            break;
+        type = &TypeOf(record.nType, *type);
+        ClytNode& node = nodes.AddTail(NodeOf(record, *type));
+        const HTREEITEM parent = ancestors.lytFindParentItem(node.m_nLevel);
+        ancestors.Add(node.m_nLevel, &node);
+
+        // Here the number decides, not the type that was taken over: a group by inheritance is shown from the second
+        // opening on.
+        const bool shown = kind != 'G' || record.nType == LYT_TREE_HEADING || record.nType == LYT_TREE_GROUP;
+        if (items != nullptr && shown)
+            node.m_hItem = Show(node, parent, *items, type->image);
+    }
+}
+
+void lytFillFromList(const ClytNodeList& nodes, ClytTreeItems& items, char kind)
+{
+    ClytAncestors ancestors;
+    for (POSITION position = nodes.GetHeadPosition(); position != nullptr;)
+    {
+        ClytNode* node = nodes.GetNext(position);
+        const HTREEITEM parent = ancestors.lytFindParentItem(node->m_nLevel);
+        ancestors.Add(node->m_nLevel, node);
+
+        const bool shown = kind != 'G' || node->m_cType == 'G' || node->m_cType == 'H';
+        node->m_hItem = shown ? Show(*node, parent, items, ImageOf(node->m_cType)) : nullptr;
+    }
+}

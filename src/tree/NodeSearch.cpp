@@ -1,0 +1,84 @@
+#include "tree/NodeSearch.h"
+
+#include "tree/ClytAncestors.h"
+
+#include <cstring>
+
+namespace
+{
+
+template <class Condition>
+ClytNode* FindFirst(const ClytNodeList& nodes, Condition condition)
+{
+    for (POSITION position = nodes.GetHeadPosition(); position != nullptr;)
+    {
+        ClytNode* node = nodes.GetNext(position);
+        if (condition(*node))
+            return node;
+    }
+    return nullptr;
+}
+
+void Mark(const ClytNodeList& nodes, int ClytNode::*mark, const ClytNode* marked)
+{
+    for (POSITION position = nodes.GetHeadPosition(); position != nullptr;)
+    {
+        ClytNode* node = nodes.GetNext(position);
+        node->*mark = node == marked ? 1 : 0;
+    }
+}
+
+} // namespace
+
+ClytNode* lytFindNodeByItem(const ClytNodeList& nodes, HTREEITEM item)
+{
+    if (item == nullptr)
+        return nullptr;
+    return FindFirst(nodes, [item](const ClytNode& node) { return node.m_hItem == item; });
+}
+
+ClytNode* lytFindCurrentNode(const ClytNodeList& nodes)
+{
+    return FindFirst(nodes, [](const ClytNode& node) { return node.m_nCurrent == 1; });
+}
+
+ClytNode* lytFindNode(const ClytNodeList& nodes, char kind, const char* text)
+{
+    const size_t length = std::strlen(text);
+    ClytAncestors nearest; // for each node above: where a climb from it ends
+    for (POSITION position = nodes.GetHeadPosition(); position != nullptr;)
+    {
+        ClytNode* node = nodes.GetNext(position);
+        ClytNode* above = nearest.FindAbove(node->m_nLevel);
+        ClytNode* climbed = node->m_cType == kind ? node : above;
+        nearest.Add(node->m_nLevel, climbed);
+
+        const bool named =
+            kind == 'G' ? std::strcmp(text, node->m_szKey) == 0 : std::strncmp(text, node->m_szKey, length) == 0;
+        if (named && climbed != nullptr)
+            return climbed;
+    }
+    return nullptr;
+}
+
+void lytMarkCurrentNode(const ClytNodeList& nodes, const ClytNode* current)
+{
+    Mark(nodes, &ClytNode::m_nCurrent, current);
+}
+
+void lytMarkInitialNode(const ClytNodeList& nodes, const ClytNode* initial)
+{
+    Mark(nodes, &ClytNode::m_nInitial, initial);
+}
+
+CString lytWizardChoice(const ClytNode& node)
+{
+    // A heading has no key of its own to be inserted by.
+    CString choice(node.m_cType);
+    choice += '/';
+    if (node.m_cType != 'H')
+        choice += node.m_szKey;
+    choice += '/';
+    choice += node.m_szLabel;
+    return choice;
+}
