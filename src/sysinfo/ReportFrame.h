@@ -1,0 +1,16 @@
+// Texts of the report's own, between those of the probes.
+#pragma once
+
+#include <afx.h>
+
+#include <vector>
+
+// The directories in which the resource library is looked for: those of `path`, and the installation directory when the
+// path does not name it. All in lower case. An empty piece ends the walk: it and all behind it are one directory.
+std::vector<CString> SearchDirectories(const CString& path, const CString& installDirectory);
+
+// What keeps the configuration file from being read; `error` is an `errno` value.
+CString IniAccessLine(int error, const CString& iniFile);
+
+// The texts that the list of versions joins by "; ".
+std::vector<CString> VersionTexts(const CString& versions);
