@@ -21,6 +21,8 @@ extern int lytInputApplied;
 
 // The name of the input part and of the output group that belong to the dialog as a whole.
 inline constexpr const char* lytParentName = "parent";
+// The statement at which an input part begins.
+inline constexpr const char* lytStartName = "Start";
 
 using ClytControlList = ClytOwnedList<ClytControl, CPtrList>;
 using ClytOutputMap = CTypedPtrMap<CMapStringToPtr, CString, ClytOutput*>;
@@ -102,8 +104,9 @@ private:
     void TakeHeaderWords(CStringList& words);
 
     void RunRule(ClytControlDep& rule);
-    int HoldsForOutput(const ClytConditions& conditions);
-    int ComposeItem(const CString& action, CString& item, int check);
+    int AllConditionsHold(const ClytControlDep& rule);
+    bool HoldsForOutput(const ClytConditions& conditions);
+    void TakeItem(ClytControl& control, const CString& action, CString& item);
 
     ClytDialogFile file;
     ClytControlMap controlMap;

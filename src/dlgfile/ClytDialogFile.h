@@ -8,10 +8,10 @@
 
 #include "dlgfile/ClytToken.h"
 #include "dlgfile/DelimiterSet.h"
+#include "model/ClytCtrlValList.h"
 
 class ClytConditionFill;
 class ClytControlFill;
-class ClytCtrlValList;
 class ClytDialogInput;
 class ClytDialogOutput;
 class ClytControlDep;
@@ -68,31 +68,44 @@ public:
     int ReadOutputStatement(CString& groupName, ClytDialogOutput& rule);
 
 private:
-    // layout lines of any section
+    // What a read is given; a buffer for it has room for a NUL.
+    static constexpr UINT lineSize = 399;
+
+    // Delivers and counts a line.
+    bool ReadLine(char* line);
     bool ReadTokens(const DelimiterSet& delimiters);
+    // The position stands on the first token, behind the terminator on the second, or is null.
     int ReadSectionLine(POSITION& token, const char* terminator, const DelimiterSet& delimiters);
     bool CutTokens(const char* line, const DelimiterSet& delimiters);
+    static const char* FindGroupEnd(const char* text);
+
+    // The next token; where there is none it is the class library's failure, or that of a statement of wrong form.
     const ClytToken& Next(POSITION& token) const { return *tokens.GetNext(token); }
     const ClytToken& NextOrFail(POSITION& token) const;
     [[noreturn]] void FailStatement() const;
+    bool ReadValueList(POSITION& token, CStringList& values) const;
 
-    bool ReadValueList(POSITION& token, CStringList& values);
-
-    bool ReadVersionLine(CString& version);
     void ReadControlOperands(POSITION token, ClytControlStatement& statement) const;
     CString TakeName(const CString& operand) const;
 
-    void ReadLongEvaluation(POSITION token, ClytCtrlValList& own, ClytCtrlValList& other, CString& messageKey);
+    void ReadDependencyCondition(POSITION& token, ClytConditions& conditions) const;
+
+    void ReadForbiddenPair(POSITION token, ClytCtrlValList& own, ClytCtrlValList& other, CString& messageKey) const;
+    void ReadForbiddenValue(POSITION token, ClytCtrlValList& own, CString& messageKey) const;
 
     int ReadInputStatement(ClytDialogInput& statement);
     int ReadInputLine();
-    void ReadInputConditions(POSITION& token, ClytDialogInput& statement);
-    void ReadTargets(POSITION& token, ClytDialogInput& statement);
-    void ReadScanRule(POSITION& token, ClytScanRule& rule);
-    bool ReadScanList(POSITION& token, ClytScan& scan);
-    void ReadConditionFill(POSITION& token, ClytConditionFill& rule);
-    void ReadControlFill(POSITION& token, ClytControlFill& fill);
-    void ReadFillAction(POSITION& token, ClytControlFill& fill);
+    void ReadInputConditions(POSITION token, ClytDialogInput& statement) const;
+    void ReadTargets(POSITION token, ClytDialogInput& statement) const;
+    void ReadScanRule(POSITION token, ClytScanRule& rule) const;
+    char ReadScanList(POSITION& token, ClytScan& scan) const;
+    void ReadConditionFill(POSITION& token, ClytConditionFill& rule) const;
+    void ReadControlFill(POSITION& token, ClytControlFill& fill) const;
+    void ReadFillAction(POSITION& token, ClytControlFill& fill) const;
+
+    bool ReadOutputCondition(const ClytToken& control, POSITION& token, ClytConditions& conditions) const;
+    void ReadOutputItem(POSITION& token, ClytDialogOutput& rule) const;
+    CString ReadItemAction(POSITION& token) const;
 
     ClytTokenList tokens; // of the present line; the next section's reader may start from them
     int lineNumber = 0;   // of the lines delivered, so lines that are switched off do not count

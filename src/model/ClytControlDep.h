@@ -19,5 +19,5 @@ public:
     CString controlName; // the control that the rule acts on
     CString stateWord;
     ClytConditions conditions;
-    bool isRunning = false; // an event rule that is being carried out is not entered again
+    int runCount = 0; // 1 while an event rule is being carried out; it is not entered again then
 };

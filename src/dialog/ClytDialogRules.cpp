@@ -1,0 +1,137 @@
+#include "dialog/ClytDialogRules.h"
+
+#include "dialog/Counted.h"
+#include "environment/ClytException.h"
+#include "environment/ProcessState.h"
+#include "environment/Words.h"
+
+#include <utility>
+
+float lytScaleX = 1.0F;
+float lytScaleY = 1.0F;
+int lytControlsReady = 0;
+int lytInputApplied = 0;
+
+ClytDialogRules::ClytDialogRules(CString descriptionFile, const CString& defineList)
+    : file(defineList), fileName(std::move(descriptionFile))
+{
+    lytTreeConfirmCount = 0;
+}
+
+// Controls may look at rules, groups and parts as they go, so they go first, and the maps that name them last.
+ClytDialogRules::~ClytDialogRules()
+{
+    controlList.RemoveAll();
+    sectionList.RemoveAll();
+    dependencyList.RemoveAll();
+    outputList.RemoveAll();
+    inputList.RemoveAll();
+    controlMap.RemoveAll();
+    outputMap.RemoveAll();
+}
+
+CString ClytDialogRules::GetTextSection() const
+{
+    return sectionList.IsEmpty() ? CString() : sectionList.GetHead();
+}
+
+ClytControl* ClytDialogRules::FindControl(const CString& name) const
+{
+    ClytControl* control = nullptr;
+    controlMap.Lookup(name, control);
+    return control;
+}
+
+bool ClytDialogRules::MayRunRules() const
+{
+    const bool isReadingInRun = runDepth > 0 && readDepth > 0;
+    return lytControlsReady != 0 && lytInputApplied != 0 && !isReadingInRun;
+}
+
+void ClytDialogRules::RunDependencies()
+{
+    const Counted run(runDepth);
+    for (POSITION place = dependencyList.GetHeadPosition(); place != nullptr;)
+        RunRule(*dependencyList.GetNext(place));
+    for (POSITION place = dependencyList.GetHeadPosition(); place != nullptr;)
+        dependencyList.GetNext(place)->SaveStates(controlMap);
+}
+
+// What a rule does to its control sends commands, and so further runs take place inside this one. An event rule that
+// is being carried out is left out of them, or a field that fills itself would never come to an end.
+void ClytDialogRules::RunRule(ClytControlDep& rule)
+{
+    ClytControl* control = FindControl(rule.controlName);
+    if (control == nullptr)
+        return;
+    if (!rule.IsEventRule())
+        control->SetState(rule.stateWord, AllConditionsHold(rule));
+    else if (rule.runCount == 0)
+    {
+        const Counted running(rule.runCount);
+        if (rule.AnyChanged(controlMap) != 0)
+            control->DoAction(rule.stateWord);
+    }
+}
+
+int ClytDialogRules::AllConditionsHold(const ClytControlDep& rule)
+{
+    const Counted read(readDepth);
+    return rule.AllHold(controlMap) != 0 ? 1 : 0;
+}
+
+void ClytDialogRules::ApplyInput(const CString& partName)
+{
+    ClytInputPart* part = nullptr;
+    if (!inputMap.Lookup(partName, part))
+        lytRaise("217", CString(), partName);
+    part->Run(lytInputKey, lytStartName, controlMap);
+    // Emptied, so that no nested dialog scans the same text.
+    lytInputKey.Empty();
+    for (POSITION place = controlList.GetHeadPosition(); place != nullptr;)
+        controlList.GetNext(place)->SaveState();
+}
+
+int ClytDialogRules::RunInput(const CString& partName, const CString& text)
+{
+    ClytInputPart* part = nullptr;
+    if (!inputMap.Lookup(partName, part))
+        return 0;
+    part->Run(text, lytStartName, controlMap);
+    return 1;
+}
+
+const ClytControlDep* ClytDialogRules::FindDefaultButtonRule(const CString& focusName) const
+{
+    for (POSITION place = dependencyList.GetHeadPosition(); place != nullptr;)
+    {
+        const ClytControlDep* rule = dependencyList.GetNext(place);
+        if (!lytSameWord(rule->stateWord, "DEFBUTTON"))
+            continue;
+        for (POSITION at = rule->conditions.GetHeadPosition(); at != nullptr;)
+        {
+            if (rule->conditions.GetNext(at)->GetName() == focusName)
+                return rule;
+        }
+    }
+    return nullptr;
+}
+
+int ClytDialogRules::ComposeResult()
+{
+    lytTreeConfirmCount = 0;
+    ClytOutput* group = nullptr;
+    if (!outputMap.Lookup(lytParentName, group))
+        return 0;
+    try
+    {
+        return ComposeOutput(*group, result, 1);
+    }
+    catch (ClytException* e)
+    {
+        char message[255] = "";
+        e->GetErrorMessage(message, sizeof message);
+        e->Delete();
+        lytRaise("246", message);
+    }
+}

@@ -1,0 +1,185 @@
+// The composition of a dialog's text: choose a rule, take the values of the controls, put them into the format.
+#include "dialog/ClytDialogRules.h"
+
+#include "dialog/Counted.h"
+#include "environment/ClytException.h"
+#include "environment/Words.h"
+
+namespace
+{
+
+// The places that a rule has for its items.
+constexpr int itemPlaces = 25;
+
+// What stands between the values of a list when the rule says nothing else.
+constexpr const char* listSeparator = "   ";
+
+// Reads a conversion of a format, from behind its `%`: "s" or a limit in front of it (".5s", "0.5s"). Anything else is
+// plain text.
+struct Conversion
+{
+    explicit Conversion(const CString& piece)
+    {
+        if (lytSameWord(piece, "s"))
+        {
+            takesItem = true;
+            return;
+        }
+        const int point = piece[0] == '0' && piece.GetLength() > 1 ? 1 : 0;
+        isLimited = piece[point] == '.';
+        takesItem = isLimited;
+        if (isLimited)
+            limit = lytNumberOf(piece.Mid(point + 1));
+    }
+
+    bool takesItem = false;
+    bool isLimited = false;
+    int limit = 0;
+};
+
+// Walks a format piece by piece. A conversion is one piece, every other character is one of its own.
+class FormatReader
+{
+public:
+    explicit FormatReader(const CString& text) : format(text) {}
+
+    bool IsAtEnd() const { return place >= format.GetLength(); }
+    bool IsBeforeQuote() const { return !IsAtEnd() && format[place] == '"'; }
+    CString TakePiece()
+    {
+        if (format[place] != '%')
+            return format.Mid(place++, 1);
+        const int end = format.Find('s', place);
+        if (end < 0)
+            AfxThrowInvalidArgException();
+        const CString piece = format.Mid(place + 1, end - place);
+        place = end + 1;
+        return piece;
+    }
+
+private:
+    const CString& format;
+    int place = 0;
+};
+
+} // namespace
+
+const ClytDialogOutput* ClytDialogRules::SelectRule(const ClytOutput& group)
+{
+    for (POSITION place = group.rules.GetHeadPosition(); place != nullptr;)
+    {
+        const ClytDialogOutput* rule = group.rules.GetNext(place);
+        if (HoldsForOutput(rule->conditions))
+            return rule;
+    }
+    return nullptr;
+}
+
+bool ClytDialogRules::HoldsForOutput(const ClytConditions& conditions)
+{
+    const Counted read(readDepth);
+    for (POSITION place = conditions.GetHeadPosition(); place != nullptr;)
+    {
+        const ClytCtrlValList& condition = *conditions.GetNext(place);
+        ClytControl* control = FindControl(condition.GetName());
+        if (control == nullptr)
+            lytRaise("245", CString(), condition.GetName());
+        if (control->IsActive() == 0)
+            return false;
+        if (!condition.GetValues().IsEmpty() && condition.Contains(control->GetValue()) == 0)
+            return false;
+    }
+    return true;
+}
+
+int ClytDialogRules::ComposeOutput(const ClytOutput& group, CString& target, int check)
+{
+    const ClytDialogOutput* rule = SelectRule(group);
+    if (rule == nullptr)
+        return 0;
+    CStringArray items;
+    items.SetSize(itemPlaces);
+    for (int index = 0; index < rule->items.GetCount(); ++index)
+        items.SetAt(index, rule->items[index]);
+    for (int index = 0; index < rule->items.GetCount(); ++index)
+    {
+        CString item = items[index];
+        ClytControl* control = FindControl(item);
+        if (control == nullptr)
+            continue;
+        if (check != 0 && control->Evaluate(controlMap) == 0)
+        {
+            control->ShowEvalMessage();
+            return 0;
+        }
+        TakeItem(*control, rule->actions[index], item);
+        items.SetAt(index, item);
+    }
+    target = FormatOutput(rule->format, items);
+    return 1;
+}
+
+// Controls that know no name of their own (OK and Cancel) give no value.
+void ClytDialogRules::TakeItem(ClytControl& control, const CString& action, CString& item)
+{
+    const Counted read(readDepth);
+    const bool hasName = !control.GetName().IsEmpty();
+    if (action.IsEmpty())
+    {
+        if (hasName)
+            item = control.GetValue();
+        return;
+    }
+    item.Empty();
+    if (hasName)
+        control.GetAllValues(item, lytSameWord(action, "CONCAT") ? CString(listSeparator) : action);
+}
+
+int ClytDialogRules::ComposeNamedOutput(const CString& groupName, CString& target)
+{
+    ClytOutput* group = nullptr;
+    return outputMap.Lookup(groupName, group) ? ComposeOutput(*group, target, 0) : 0;
+}
+
+// In a format with any `%`, an ordinary `s` takes an item as `%s` does, and an ordinary point is a limit without its
+// `s`. Formats in use rely on the former.
+CString ClytDialogRules::FormatOutput(const CString& format, const CStringArray& items)
+{
+    if (format.Find('%') < 0)
+        return format;
+    CString text;
+    int nextItem = 0;
+    FormatReader reader(format);
+    while (!reader.IsAtEnd())
+    {
+        CString piece = reader.TakePiece();
+        const Conversion conversion(piece);
+        if (conversion.isLimited && piece.Find('s') < 0)
+            AfxThrowInvalidArgException();
+        if (conversion.takesItem)
+        {
+            const CString& item = items[nextItem++];
+            piece = conversion.isLimited ? item.Left(conversion.limit) : item;
+        }
+        // An item that is a lone backslash goes the same way.
+        const bool isEscape = piece == "\\" && reader.IsBeforeQuote();
+        if (!isEscape)
+            text += piece;
+    }
+    ExpandEscapes(text);
+    return text;
+}
+
+void ClytDialogRules::ExpandEscapes(CString& text)
+{
+    for (int place = 0; place + 2 < text.GetLength(); ++place)
+    {
+        if (text[place] != '\\')
+            continue;
+        const char next = text[place + 1];
+        if (next != 'n' && next != 't')
+            continue;
+        text.SetAt(place, next == 'n' ? '\n' : '\t');
+        text.SetAt(place + 1, ' ');
+    }
+}

@@ -1,0 +1,14 @@
+// Counts something up for as long as it lasts, on every way out.
+#pragma once
+
+class Counted
+{
+public:
+    explicit Counted(int& counter) : m_counter(counter) { ++m_counter; }
+    Counted(const Counted&) = delete;
+    Counted& operator=(const Counted&) = delete;
+    ~Counted() { --m_counter; }
+
+private:
+    int& m_counter; // outlives this
+};

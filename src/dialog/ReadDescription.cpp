@@ -1,0 +1,208 @@
+// The reading of a description: each section in its turn, each statement turned into a control or a rule at once.
+#include "dialog/ClytDialogRules.h"
+
+#include "environment/ClytEnvironment.h"
+#include "environment/ClytException.h"
+
+#include <limits>
+
+namespace
+{
+
+// Layout units to window units, cut to an integer; what no integer holds becomes the nearest one.
+int Scaled(int units, float factor)
+{
+    constexpr auto limit = static_cast<float>(std::numeric_limits<int>::max()); // rounds up to 2 to the 31st
+    const float scaled = static_cast<float>(units) * factor;
+    if (scaled >= limit)
+        return std::numeric_limits<int>::max();
+    return scaled <= -limit ? std::numeric_limits<int>::min() : static_cast<int>(scaled);
+}
+
+} // namespace
+
+void ClytDialogRules::ReadDescription()
+{
+    OpenFile();
+    ReadHeader();
+    ReadControls();
+    ReadValues();
+    ReadDependencies();
+    CreateControlWindows();
+    ReadEvaluations();
+    ReadInputs();
+    ReadOutputGroups();
+    lytInputApplied = 0;
+    ApplyInput(lytParentName);
+    lytInputApplied = 1;
+    RunDependencies();
+    CloseFile();
+}
+
+void ClytDialogRules::OpenFile()
+{
+    if (file.Open(fileName, CFile::modeRead) == 0)
+        lytRaise("207", CString(), fileName);
+}
+
+void ClytDialogRules::CloseFile()
+{
+    try
+    {
+        file.Close();
+    }
+    catch (CException* e)
+    {
+        e->Delete();
+        lytRaise("209", CString(), fileName);
+    }
+}
+
+// The words of a section's header behind the first.
+void ClytDialogRules::TakeHeaderWords(CStringList& words)
+{
+    words.RemoveAll();
+    if (file.TakeTokens(words) == 0)
+        lytRaise("204");
+    words.RemoveHead();
+}
+
+void ClytDialogRules::ReadHeader()
+{
+    CString version;
+    file.ReadVersionHeader(version);
+    TakeHeaderWords(sectionList);
+
+    int width = 0;
+    int height = 0;
+    CString title;
+    CString lastText;
+    if (file.ReadDialogHeader(width, height, title, lastText) == 0)
+        lytRaise("205");
+    const bool isKey = !title.IsEmpty() && !sectionList.IsEmpty();
+    SizeWindow(width, height, isKey ? lytEnvironment.GetText(GetTextSection(), title) : CString());
+}
+
+void ClytDialogRules::ReadControls()
+{
+    ClytControlStatement statement;
+    while (file.ReadControlStatement(statement) != 0)
+    {
+        if (!statement.type.IsEmpty())
+            CreateLayoutControl(statement);
+    }
+}
+
+void ClytDialogRules::CreateLayoutControl(const ClytControlStatement& statement)
+{
+    // The argument is one NUL, so a label with an apostrophe is shown up to and including it.
+    const bool isKey = !statement.text.IsEmpty() && !sectionList.IsEmpty();
+    const CString label = isKey ? lytEnvironment.GetText(GetTextSection(), statement.text, CString('\0')) : CString();
+    auto made =
+        MakeControl(statement.type, statement.name, {Scaled(statement.x, lytScaleX), Scaled(statement.y, lytScaleY)},
+                    {Scaled(statement.width, lytScaleX), Scaled(statement.height, lytScaleY)}, label);
+    if (made == nullptr)
+        return;
+    ClytControl& control = controlList.AddTail(std::move(made));
+    controlMap.SetAt(statement.name, &control);
+}
+
+void ClytDialogRules::ReadValues()
+{
+    CString name;
+    CString keyword;
+    CStringList values;
+    while (file.ReadValueStatement(name, keyword, values) != 0)
+    {
+        ClytControl* control = FindControl(name);
+        // A line without a statement has an empty name, which is that of the last nameless control.
+        if (control != nullptr && !values.IsEmpty())
+            control->SetOption(values, keyword);
+    }
+}
+
+// A rule that names an unknown control is not stored, and what was read of it stays: the next stored rule inherits its
+// conditions. Descriptions in use rely on that.
+void ClytDialogRules::ReadDependencies()
+{
+    auto rule = std::make_unique<ClytControlDep>();
+    while (file.ReadDependencyStatement(*rule) == 1)
+    {
+        if (rule->controlName.IsEmpty() || FindControl(rule->controlName) == nullptr)
+            continue;
+        dependencyList.AddTail(std::move(rule));
+        rule = std::make_unique<ClytControlDep>();
+    }
+}
+
+// The windows come into being here, and not as their statements are read, so that what they send runs no rules.
+void ClytDialogRules::CreateControlWindows()
+{
+    lytControlsReady = 0;
+    for (POSITION place = controlList.GetHeadPosition(); place != nullptr;)
+        CreateControlWindow(*controlList.GetNext(place));
+    lytControlsReady = 1;
+}
+
+void ClytDialogRules::ReadEvaluations()
+{
+    CStringList words;
+    TakeHeaderWords(words);
+    if (words.IsEmpty())
+        lytRaise("204");
+    evaluationSection = words.GetHead();
+
+    while (true)
+    {
+        ClytCtrlValList own;
+        ClytCtrlValList other;
+        CString messageKey;
+        if (file.ReadEvaluationStatement(own, other, messageKey) == 0)
+            return;
+        ClytControl* control = FindControl(own.GetName());
+        if (control != nullptr && !own.GetValues().IsEmpty())
+            control->SetEvaluation(own, other, messageKey);
+    }
+}
+
+void ClytDialogRules::ReadInputs()
+{
+    CString name;
+    while (file.ReadInputHeader(name) != 0)
+    {
+        ClytInputPart& part = inputList.AddTail(std::make_unique<ClytInputPart>());
+        inputMap.SetAt(name.IsEmpty() ? CString(lytParentName) : name, &part);
+        file.ReadInputPart(part);
+    }
+}
+
+// A group is stored under its name when the next header or the end comes. A header that is the last line thus gives the
+// group before it a second name, and a rule without a format stays in front of the next one's, also across a header.
+void ClytDialogRules::ReadOutputGroups()
+{
+    CString name = lytParentName;
+    CString nextName;
+    auto rule = std::make_unique<ClytDialogOutput>();
+    ClytOutput* group = nullptr;
+    bool isGroupDue = true;
+    while (file.ReadOutputStatement(nextName, *rule) != 0)
+    {
+        if (nextName.IsEmpty() && rule->format.IsEmpty())
+            continue;
+        if (isGroupDue)
+            group = &outputList.AddTail(std::make_unique<ClytOutput>());
+        isGroupDue = !nextName.IsEmpty();
+        if (isGroupDue)
+        {
+            outputMap.SetAt(name, group);
+            name = std::exchange(nextName, CString());
+        }
+        else
+        {
+            group->rules.AddTail(std::move(rule));
+            rule = std::make_unique<ClytDialogOutput>();
+        }
+    }
+    if (group != nullptr)
+        outputMap.SetAt(name, group);
+}

@@ -1,0 +1,52 @@
+// Statements of the dependencies section:
+//
+//     name / state word =
+//     name / state word = condition, ...        condition: control [ (value, ...) ]
+#include "dlgfile/ClytDialogFile.h"
+
+#include "model/ClytControlDep.h"
+
+namespace
+{
+
+constexpr DelimiterSet dependencyDelimiters("=,\t\n()/");
+
+}
+
+int ClytDialogFile::ReadDependencyStatement(ClytControlDep& rule)
+{
+    POSITION token = nullptr;
+    if (ReadSectionLine(token, "$EVALUATION", dependencyDelimiters) == 0)
+        return 0;
+    if (token == nullptr)
+        return 1;
+
+    const ClytToken& name = Next(token);
+    if (name.GetDelimiter() != '/')
+        FailStatement();
+    rule.controlName = name.GetText();
+    const ClytToken& word = Next(token);
+    if (word.GetDelimiter() != '=')
+        FailStatement();
+    rule.stateWord = word.GetText();
+    while (token != nullptr)
+        ReadDependencyCondition(token, rule.conditions);
+    return 1;
+}
+
+void ClytDialogFile::ReadDependencyCondition(POSITION& token, ClytConditions& conditions) const
+{
+    const ClytToken* end = &Next(token);
+    ClytCtrlValList& condition = conditions.AddTail(std::make_unique<ClytCtrlValList>(end->GetText()));
+    if (end->GetDelimiter() == '(')
+    {
+        if (!ReadValueList(token, condition.GetValues()))
+            FailStatement();
+        if (token == nullptr)
+            return;
+        // This is the empty token behind the `)`. Only its delimiter counts, so a word in this place is passed over.
+        end = &Next(token);
+    }
+    if (end->GetDelimiter() != ',' && end->GetDelimiter() != '\n')
+        FailStatement();
+}

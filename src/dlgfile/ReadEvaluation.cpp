@@ -1,0 +1,65 @@
+// Statements of the evaluation section:
+//
+//     name (value, ...)
+//     name (value, ...) = other (value, ...) : message key
+//     name = value : message key
+//     name = NULL any-delimiter message key
+#include "dlgfile/ClytDialogFile.h"
+
+#include "environment/Words.h"
+#include "model/ClytCtrlValList.h"
+
+namespace
+{
+
+constexpr DelimiterSet evaluationDelimiters("=,\t\n():;");
+
+}
+
+int ClytDialogFile::ReadEvaluationStatement(ClytCtrlValList& own, ClytCtrlValList& other, CString& messageKey)
+{
+    POSITION token = nullptr;
+    if (ReadSectionLine(token, "$INPUT", evaluationDelimiters) == 0)
+        return 0;
+    if (token == nullptr)
+        return 1;
+
+    const ClytToken& name = Next(token);
+    own.SetName(name.GetText());
+    switch (name.GetDelimiter())
+    {
+    case '(': ReadForbiddenPair(token, own, other, messageKey); break;
+    case '=': ReadForbiddenValue(token, own, messageKey); break;
+    default: FailStatement();
+    }
+    return 1;
+}
+
+void ClytDialogFile::ReadForbiddenPair(POSITION token, ClytCtrlValList& own, ClytCtrlValList& other,
+                                       CString& messageKey) const
+{
+    if (!ReadValueList(token, own.GetValues()))
+        FailStatement();
+    if (token == nullptr)
+        return;
+    if (Next(token).GetDelimiter() != '=')
+        FailStatement();
+    const ClytToken& name = NextOrFail(token);
+    if (name.GetDelimiter() != '(')
+        FailStatement();
+    other.SetName(name.GetText());
+    if (!ReadValueList(token, other.GetValues()))
+        FailStatement();
+    if (NextOrFail(token).GetDelimiter() != ':')
+        FailStatement();
+    messageKey = NextOrFail(token).GetText();
+}
+
+void ClytDialogFile::ReadForbiddenValue(POSITION token, ClytCtrlValList& own, CString& messageKey) const
+{
+    const ClytToken& value = NextOrFail(token);
+    if (value.GetDelimiter() != ':' && !lytSameWord(value.GetText(), "NULL"))
+        FailStatement();
+    own.GetValues().AddTail(value.GetText());
+    messageKey = NextOrFail(token).GetText();
+}

@@ -1,0 +1,129 @@
+// Input parts, each a header with an optional name and its statements:
+//
+//     $INPUT, part
+//     name : ( scan list = fill rule, ...                   cut a piece off and put it into controls
+//     name : control (value, ...), ... = target, target     go on by what the controls hold
+//     name : word = target                                  go on there; the word is ignored
+//
+// A reader finds its line in the token list and leaves the next one there.
+#include "dlgfile/ClytDialogFile.h"
+
+#include "environment/ClytException.h"
+#include "environment/Words.h"
+#include "model/ClytInputPart.h"
+
+namespace
+{
+
+constexpr const char* terminator = "$OUTPUT";
+constexpr DelimiterSet firstLineDelimiters("=,\n():");
+constexpr DelimiterSet inputDelimiters("=,\t\n():;");
+
+// Failures of the class library while a part is read are told as the program's own.
+template <class Read>
+void ReadGuarded(Read read)
+{
+    try
+    {
+        read();
+    }
+    catch (const ClytException*)
+    {
+        throw;
+    }
+    catch (CException* e)
+    {
+        const CString message = lytMessageOf(*e);
+        e->Delete();
+        lytRaise("206", message);
+    }
+}
+
+} // namespace
+
+int ClytDialogFile::ReadInputHeader(CString& name)
+{
+    name.Empty();
+    POSITION token = tokens.GetHeadPosition();
+    const bool isLast = lytSameWord(Next(token).GetText(), terminator);
+    if (token != nullptr)
+        name = Next(token).GetText();
+    if (isLast)
+        return 0;
+    ReadSectionLine(token, terminator, firstLineDelimiters);
+    return 1;
+}
+
+// A statement without a name is not kept, and what was read of it joins the next one.
+void ClytDialogFile::ReadInputPart(ClytInputPart& part)
+{
+    ReadGuarded(
+        [&]
+        {
+            auto statement = std::make_unique<ClytDialogInput>();
+            int goesOn = 1;
+            while (goesOn != 0)
+            {
+                goesOn = ReadInputStatement(*statement);
+                if (statement->name.IsEmpty())
+                    continue;
+                part.Add(std::move(statement));
+                statement = std::make_unique<ClytDialogInput>();
+            }
+        });
+}
+
+int ClytDialogFile::ReadInputStatement(ClytDialogInput& statement)
+{
+    POSITION token = tokens.GetHeadPosition();
+    if (token == nullptr)
+        return ReadInputLine();
+    const ClytToken& name = Next(token);
+    if (lytSameWord(name.GetText(), "$INPUT") || lytSameWord(name.GetText(), terminator))
+        return 0;
+    if (name.GetDelimiter() != ':')
+        FailStatement();
+    statement.name = name.GetText();
+    POSITION form = token;
+    const ClytToken& first = NextOrFail(form);
+    if (first.IsBare('('))
+        ReadScanRule(form, statement.scanRule);
+    else if (first.GetDelimiter() == '=')
+        ReadTargets(token, statement);
+    else
+        ReadInputConditions(token, statement);
+    return ReadInputLine();
+}
+
+int ClytDialogFile::ReadInputLine()
+{
+    POSITION token = nullptr;
+    return ReadSectionLine(token, terminator, inputDelimiters);
+}
+
+void ClytDialogFile::ReadInputConditions(POSITION token, ClytDialogInput& statement) const
+{
+    char end = '\0';
+    while (end != '=')
+    {
+        const ClytToken& control = NextOrFail(token);
+        if (control.GetText().IsEmpty())
+            continue;
+        ClytCtrlValList& condition = statement.conditions.AddTail(std::make_unique<ClytCtrlValList>(control.GetText()));
+        end = control.GetDelimiter();
+        while (end != ')')
+        {
+            const ClytToken& value = NextOrFail(token);
+            condition.GetValues().AddTail(value.GetText());
+            end = value.GetDelimiter();
+        }
+        end = NextOrFail(token).GetDelimiter();
+    }
+    ReadTargets(token, statement);
+}
+
+void ClytDialogFile::ReadTargets(POSITION token, ClytDialogInput& statement) const
+{
+    statement.trueTarget = NextOrFail(token).GetText();
+    statement.falseTarget = NextOrFail(token).GetText();
+}

@@ -1,0 +1,105 @@
+// Statements of the output section:
+//
+//     $OUTPUT, group
+//     ("format", item, ...)
+//     control (value, ...), ... = ("format", item, ...)
+//     control = ("format", item, ...)
+//
+//     item:  word                 the value of a control, or the word itself
+//            word ("separators")  all values of a control with that between them
+//            word ()              all values of a control with blanks between them
+#include "dlgfile/ClytDialogFile.h"
+
+#include "environment/Words.h"
+#include "model/ClytDialogOutput.h"
+
+namespace
+{
+
+constexpr DelimiterSet outputDelimiters("=,\n():<>");
+
+}
+
+int ClytDialogFile::ReadOutputStatement(CString& groupName, ClytDialogOutput& rule)
+{
+    POSITION token = nullptr;
+    if (ReadSectionLine(token, "$END", outputDelimiters) == 0)
+        return 0;
+    if (token == nullptr)
+        return 1;
+
+    bool isRightSide = tokens.GetAt(token)->IsBare('(');
+    while (true)
+    {
+        const ClytToken& first = NextOrFail(token);
+        if (lytSameWord(first.GetText(), "$OUTPUT"))
+        {
+            groupName = NextOrFail(token).GetText();
+            return 1;
+        }
+        if (isRightSide)
+        {
+            if (first.GetDelimiter() != '(')
+                FailStatement();
+            break;
+        }
+        isRightSide = ReadOutputCondition(first, token, rule.conditions);
+    }
+    rule.format = NextOrFail(token).GetText();
+    while (token != nullptr)
+        ReadOutputItem(token, rule);
+    return 1;
+}
+
+// True when the right side follows. A control without values is always the last condition, also before a comma.
+bool ClytDialogFile::ReadOutputCondition(const ClytToken& control, POSITION& token, ClytConditions& conditions) const
+{
+    auto condition = std::make_unique<ClytCtrlValList>(control.GetText());
+    if (control.GetDelimiter() == '(')
+    {
+        if (!ReadValueList(token, condition->GetValues()))
+            FailStatement();
+        conditions.AddTail(std::move(condition));
+        const char end = NextOrFail(token).GetDelimiter();
+        if (end != ',' && end != '=')
+            FailStatement();
+        return end == '=';
+    }
+    const bool isBareName = control.GetDelimiter() == ',' || control.GetDelimiter() == '=';
+    if (!isBareName || control.GetText().IsEmpty())
+        FailStatement();
+    conditions.AddTail(std::move(condition));
+    return true;
+}
+
+void ClytDialogFile::ReadOutputItem(POSITION& token, ClytDialogOutput& rule) const
+{
+    const ClytToken& item = Next(token);
+    CString action;
+    switch (item.GetDelimiter())
+    {
+    case ',':
+    case ')': break;
+    case '(': action = ReadItemAction(token); break;
+    default: FailStatement();
+    }
+    rule.items.Add(item.GetText());
+    rule.actions.Add(action);
+}
+
+// A line that ends inside the brackets or right behind them is the class library's failure. The token behind them is
+// passed over, whatever it says.
+CString ClytDialogFile::ReadItemAction(POSITION& token) const
+{
+    CString action;
+    char end = '\0';
+    while (end != ')')
+    {
+        const ClytToken& text = Next(token);
+        end = text.GetDelimiter();
+        if (end == ',' || end == ')')
+            action += text.GetText();
+    }
+    Next(token);
+    return action.IsEmpty() ? CString("CONCAT") : action;
+}

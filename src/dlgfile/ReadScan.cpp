@@ -1,0 +1,105 @@
+// The scan form of an input statement, behind its `(`:
+//
+//     length, target [, ...]      a piece of fixed length
+//     text, target [, ...]        a piece that ends at a separator
+//     ... = fill rule, ...        fill rule: [ (piece, ...) ] fill
+//
+//     fill:  control              takes the piece
+//            control = value      takes the value instead
+//            control (word, operand, operand, operand)
+#include "dlgfile/ClytDialogFile.h"
+
+#include "environment/Words.h"
+#include "model/ClytScanRule.h"
+
+#include <cstring>
+
+void ClytDialogFile::ReadScanRule(POSITION token, ClytScanRule& rule) const
+{
+    const char end = ReadScanList(token, rule.scan);
+    if (end == ')' && token != nullptr && tokens.GetAt(token)->IsBare('='))
+        Next(token);
+    while (token != nullptr)
+        ReadConditionFill(token, rule.rules.AddTail(std::make_unique<ClytConditionFill>()));
+}
+
+// The list is read in pairs of a length or separator and its target, and ends behind a target with `=` or at a token with
+// `)` that no other follows. A token behind a `)` opens a further pair, unless it has a `)` itself. Gives the delimiter
+// that ended the list.
+char ClytDialogFile::ReadScanList(POSITION& token, ClytScan& scan) const
+{
+    const ClytToken* inHand = &NextOrFail(token);
+    while (inHand->GetDelimiter() != ')')
+    {
+        const ClytToken& target = NextOrFail(token);
+        const int length = lytNumberOf(inHand->GetText());
+        if (length != 0)
+            scan.SetFixedLength(length, target.GetText());
+        else
+            scan.AddSeparator(inHand->GetText(), target.GetText());
+        if (target.GetDelimiter() == '=')
+            return '=';
+        inHand = token != nullptr ? &Next(token) : &target;
+        if (inHand->GetDelimiter() != ')' && token == nullptr)
+            FailStatement();
+    }
+    return ')';
+}
+
+void ClytDialogFile::ReadConditionFill(POSITION& token, ClytConditionFill& rule) const
+{
+    if (tokens.GetAt(token)->IsBare('('))
+    {
+        Next(token);
+        char end = ',';
+        while (end == ',')
+        {
+            const ClytToken& value = NextOrFail(token);
+            rule.values.AddTail(value.GetText());
+            end = value.GetDelimiter();
+        }
+        if (end != ')')
+            FailStatement();
+        if (token != nullptr && tokens.GetAt(token)->IsBare(','))
+            Next(token);
+    }
+    ReadControlFill(token, rule.fills.AddTail(std::make_unique<ClytControlFill>()));
+}
+
+void ClytDialogFile::ReadControlFill(POSITION& token, ClytControlFill& fill) const
+{
+    const ClytToken* end = &NextOrFail(token);
+    fill.controlName = end->GetText();
+    if (end->GetDelimiter() == '(')
+    {
+        ReadFillAction(token, fill);
+        if (token == nullptr)
+            return;
+        end = &Next(token);
+        if (!end->GetText().IsEmpty())
+            FailStatement();
+    }
+    else if (end->GetDelimiter() == '=')
+    {
+        end = &NextOrFail(token);
+        fill.value = end->GetText();
+    }
+    const bool isLast = token == nullptr && std::strchr("\t\n;", end->GetDelimiter()) != nullptr;
+    if (end->GetDelimiter() != ',' && !isLast)
+        FailStatement();
+}
+
+void ClytDialogFile::ReadFillAction(POSITION& token, ClytControlFill& fill) const
+{
+    const ClytToken* last = &NextOrFail(token);
+    fill.action = last->GetText();
+    for (CString& operand : fill.operands)
+    {
+        if (last->GetDelimiter() != ',')
+            break;
+        last = &NextOrFail(token);
+        operand = last->GetText();
+    }
+    if (last->GetDelimiter() != ')')
+        FailStatement();
+}

@@ -1,0 +1,36 @@
+// Statements of the values section:
+//
+//     name = value
+//     name = keyword, value, ...
+//
+// `=`, `:`, commas and round brackets all separate alike.
+#include "dlgfile/ClytDialogFile.h"
+
+namespace
+{
+
+constexpr DelimiterSet valueDelimiters("=,\t\n();:");
+
+}
+
+int ClytDialogFile::ReadValueStatement(CString& name, CString& keyword, CStringList& values)
+{
+    name.Empty();
+    keyword.Empty();
+    values.RemoveAll();
+
+    POSITION token = nullptr;
+    if (ReadSectionLine(token, "$DEPENDANCES", valueDelimiters) == 0)
+        return 0;
+    if (token == nullptr)
+        return 1;
+    if (tokens.GetCount() == 1)
+        FailStatement();
+
+    name = Next(token).GetText();
+    if (tokens.GetCount() > 2)
+        keyword = Next(token).GetText();
+    while (token != nullptr)
+        values.AddTail(Next(token).GetText());
+    return 1;
+}

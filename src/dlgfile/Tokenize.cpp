@@ -1,0 +1,112 @@
+// Cuts lines and value texts into tokens, each in one pass.
+#include "dlgfile/ClytDialogFile.h"
+
+#include "environment/ClytException.h"
+#include "environment/Words.h"
+
+#include <cstring>
+
+namespace
+{
+
+const char* SkipSpace(const char* text)
+{
+    while (lytIsSpace(*text))
+        ++text;
+    return text;
+}
+
+CString Trimmed(const char* start, const char* end)
+{
+    while (start < end && lytIsSpace(*start))
+        ++start;
+    while (start < end && lytIsSpace(end[-1]))
+        --end;
+    return {start, static_cast<int>(end - start)};
+}
+
+// The quote that closes the one before `text`, or null. A quote behind a backslash is content, and the backslash stays.
+const char* FindClosingQuote(const char* text)
+{
+    const char* quote = std::strchr(text, '"');
+    while (quote != nullptr && quote > text && quote[-1] == '\\')
+        quote = std::strchr(quote + 1, '"');
+    return quote;
+}
+
+// A last token without a delimiter ends as if the line went on with its line end.
+char DelimiterAt(const char* end)
+{
+    return *end != '\0' ? *end : '\n';
+}
+
+} // namespace
+
+void ClytDialogFile::Tokenize(const char* line, const DelimiterSet& delimiters)
+{
+    if (!CutTokens(line, delimiters))
+        lytRaise("210");
+}
+
+// False when a quote is not closed; the tokens in front of it stand in the list then.
+bool ClytDialogFile::CutTokens(const char* line, const DelimiterSet& delimiters)
+{
+    tokens.RemoveAll();
+    const char* start = SkipSpace(line);
+    // A `;` that begins a token starts a comment, also where it delimits nothing.
+    while (*start != '\0' && *start != ';')
+    {
+        const char* textEnd = nullptr;
+        if (*start == '"')
+        {
+            textEnd = FindClosingQuote(++start);
+            if (textEnd == nullptr)
+                return false;
+        }
+        // What stands between a closing quote and the delimiter is dropped.
+        const char* end = delimiters.FindIn(textEnd != nullptr ? textEnd + 1 : start);
+        tokens.AddTail(
+            std::make_unique<ClytToken>(Trimmed(start, textEnd != nullptr ? textEnd : end), DelimiterAt(end)));
+        // A `;` is left standing, and so ends the line.
+        start = SkipSpace(*end != '\0' && *end != ';' ? end + 1 : end);
+    }
+    return true;
+}
+
+// `x(a,b)` is one token with its brackets; `(` joins the delimiters for this run. There are no quotes and no comments,
+// and a token without brackets keeps its blanks.
+void ClytDialogFile::TokenizeGrouped(const char* text, const char* delimiters)
+{
+    tokens.RemoveAll();
+    DelimiterSet ends(delimiters);
+    ends.Add('(');
+    const char* start = SkipSpace(text);
+    while (*start != '\0')
+    {
+        const char* end = ends.FindIn(start);
+        if (*end != '(')
+            tokens.AddTail(
+                std::make_unique<ClytToken>(CString(start, static_cast<int>(end - start)), DelimiterAt(end)));
+        else
+        {
+            end = FindGroupEnd(end + 1);
+            if (*end != ',')
+                end = ends.FindIn(end);
+            tokens.AddTail(std::make_unique<ClytToken>(Trimmed(start, end), ')'));
+        }
+        start = *end != '\0' ? end + 1 : end;
+    }
+}
+
+// The place behind the bracket that closes the group.
+const char* ClytDialogFile::FindGroupEnd(const char* text)
+{
+    for (int depth = 1; depth > 0; ++text)
+    {
+        text = std::strpbrk(text, "()");
+        if (text == nullptr)
+            lytRaise("241", lytErrorText("242"));
+        depth += *text == '(' ? 1 : -1;
+    }
+    return text;
+}
