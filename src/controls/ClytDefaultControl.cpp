@@ -1,0 +1,46 @@
+#include "controls/ClytDefaultControl.h"
+
+#include "controls/ClytWindowControl.h"
+#include "dialog/ClytDialog.h"
+#include "environment/ClytEnvironment.h"
+
+#include <iterator>
+
+namespace
+{
+
+struct ButtonKind
+{
+    const char* textKey;
+    DWORD style;
+    UINT id;
+};
+
+// By kind: Cancel, OK.
+constexpr ButtonKind buttonKinds[] = {
+    {"002", WS_TABSTOP, IDCANCEL},
+    {"001", WS_TABSTOP | BS_DEFPUSHBUTTON, IDOK},
+};
+
+} // namespace
+
+ClytDefaultControl::ClytDefaultControl(ClytPosition topLeft, ClytSize extent, int buttonKind)
+    : ClytControl(CString(), topLeft, extent, CString())
+{
+    kind = buttonKind;
+}
+
+// A button that cannot be created goes unnoticed: the dialog can still be closed by its frame.
+void ClytDefaultControl::CreateControl(ClytDialog* owner)
+{
+    if (kind < 0 || kind >= static_cast<int>(std::size(buttonKinds)))
+        return;
+    const ButtonKind& button = buttonKinds[kind];
+    const CRect rect(position.x, position.y, position.x + size.width, position.y + size.height);
+    Create(lytEnvironment.GetText("Buttons", button.textKey), button.style, rect, owner, button.id);
+    if (const CWnd* child = owner->GetDlgItem(static_cast<int>(button.id)))
+    {
+        child->ShowWindow(SW_SHOW);
+        lytTakeDialogFont(*child, *owner);
+    }
+}

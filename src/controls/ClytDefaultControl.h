@@ -1,0 +1,18 @@
+// The OK or the Cancel button of a dialog. Its label comes from the language file, and its identifier is the one by
+// which the platform ends a dialog; rules have no power over it.
+#pragma once
+
+#include "controls/ClytControl.h"
+
+#include <afxwin.h>
+
+class ClytDefaultControl : public CButton, public ClytControl
+{
+public:
+    // The kind is 1 for OK and 0 for Cancel; any other kind never shows.
+    ClytDefaultControl(ClytPosition topLeft, ClytSize extent, int buttonKind);
+
+    void CreateControl(ClytDialog* owner) override;
+    int IsActive() override { return 0; }
+    int HasContent() override { return 0; }
+};

@@ -1,0 +1,14 @@
+// A frame round other controls.
+#pragma once
+
+#include "controls/ClytWindowControl.h"
+
+class ClytGroupBoxControl : public ClytWindowControl<CButton>
+{
+public:
+    // A caption of two quotation marks stands for none.
+    ClytGroupBoxControl(CString controlName, ClytPosition topLeft, ClytSize extent, CString text);
+
+    void CreateControl(ClytDialog* owner) override;
+    void SetOption(const CStringList& values, const CString& keyword) override;
+};

@@ -1,0 +1,61 @@
+// The window half of a control: the sequence in which its window comes into being, and the states that all windows
+// share. A control class derives from it and adds what differs.
+#pragma once
+
+#include "controls/ClytControl.h"
+#include "environment/ClytException.h"
+
+#include <afxwin.h>
+
+// What gives a window its size: the layout statement, or its own text with or without room for a check mark.
+enum class ClytFit
+{
+    ToLayout,
+    ToCaption,
+    ToCaptionWithMargin
+};
+
+// Gives a control's window the font of the dialog, or none when the dialog has none.
+void lytTakeDialogFont(const CWnd& window, const ClytDialog& dialog);
+// Sizes a control's window to its text as displayed, in the dialog's font, and moves it to the position.
+void lytFitToCaption(const CWnd& window, const ClytDialog& dialog, ClytPosition position, const char* caption,
+                     ClytFit fit);
+// "ACTIVE" enables or disables a window; any other word shows or hides it.
+void lytSetWindowState(const CWnd& window, const CString& word, int on);
+
+template <class WINDOW>
+class ClytWindowControl : public WINDOW, public ClytControl
+{
+public:
+    using ClytControl::ClytControl;
+
+    void SetState(const CString& word, int on) override { lytSetWindowState(*this, word, on); }
+    int IsActive() override { return this->IsWindowEnabled() ? 1 : 0; }
+    int HasContent() override { return 1; }
+    int IsVisible() override { return this->IsWindowVisible() ? 1 : 0; }
+
+protected:
+    // `create` makes the window at the rectangle it is given, and answers false when it cannot: that raises 202. The
+    // option flags come after it, where each class wants them.
+    template <class CREATE>
+    void CreateCommon(ClytDialog* owner, ClytFit fit, CREATE create)
+    {
+        const CRect rect(position.x, position.y, position.x + size.width, position.y + size.height);
+        if (!create(rect))
+            lytRaise("202", CString(), name);
+        dialog = owner;
+        lytTakeDialogFont(*this, *owner);
+        if (fit != ClytFit::ToLayout)
+            lytFitToCaption(*this, *owner, position, caption, fit);
+        this->ShowWindow(SW_SHOW);
+    }
+
+    // The option words reach the window through SetState, so that a class's own idea of a state holds for them too.
+    void ApplyOptionFlags()
+    {
+        if (hidden != 0 || invisible != 0)
+            SetState("VISIBLE", 0);
+        if (displayOnly != 0 || inactive != 0)
+            SetState("ACTIVE", 0);
+    }
+};

@@ -1,0 +1,19 @@
+// The type words of the layout section, and the control that each stands for.
+#pragma once
+
+#include "controls/ClytControl.h"
+
+#include <memory>
+
+// What a layout statement says, in window units and with the label ready to be shown.
+struct ClytControlRequest
+{
+    const CString& type;
+    const CString& name;
+    ClytPosition position;
+    ClytSize size;
+    const CString& label;
+};
+
+// Null for a word that stands for no control.
+std::unique_ptr<ClytControl> lytMakeControl(const ClytControlRequest& request);

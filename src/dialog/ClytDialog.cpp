@@ -1,0 +1,150 @@
+#include "dialog/ClytDialog.h"
+
+#include "controls/ClytGroupBoxControl.h"
+#include "dialog/ClytControlTypes.h"
+#include "environment/ClytException.h"
+#include "environment/ProcessState.h"
+#include "res/resource.h"
+#include "tree/ClytNode.h"
+
+namespace
+{
+
+// What DoModal gives when the construction failed.
+constexpr int constructionFailed = 3;
+
+// Layout units are those of the platform's dialogs at two resolutions; there are no others.
+struct Scale
+{
+    int pixelsPerInch;
+    float x;
+    float y;
+};
+
+constexpr Scale scales[] = {
+    {96, 0.7557F, 1.0818F},
+    {120, 1.0033F, 1.3159F},
+};
+
+int Scaled(int length, float factor)
+{
+    return static_cast<int>(static_cast<float>(length) * factor);
+}
+
+} // namespace
+
+BEGIN_MESSAGE_MAP(ClytDialog, CDialog)
+    ON_WM_DESTROY()
+END_MESSAGE_MAP()
+
+ClytDialog::ClytDialog(const CString& descriptionFile, const CString& defineList)
+    : CDialog(IDD_PROPERTIES), ClytDialogRules(descriptionFile, defineList)
+{
+    lytTreeConfirmCount = 0;
+}
+
+BOOL ClytDialog::OnInitDialog()
+{
+    CDialog::OnInitDialog();
+    TakeScale();
+    try
+    {
+        ReadDescription();
+    }
+    catch (CException* e)
+    {
+        e->ReportError();
+        e->Delete();
+        EndDialog(constructionFailed);
+        return FALSE;
+    }
+    return TRUE;
+}
+
+void ClytDialog::TakeScale()
+{
+    const CClientDC screen(nullptr);
+    const int pixelsPerInch = screen.GetDeviceCaps(LOGPIXELSX);
+    for (const Scale& scale : scales)
+    {
+        if (scale.pixelsPerInch != pixelsPerInch)
+            continue;
+        lytScaleX = scale.x;
+        lytScaleY = scale.y;
+        return;
+    }
+    lytScaleX = 1.0F;
+    lytScaleY = 1.0F;
+    lytRaise("240");
+}
+
+// Two passes: the first shows how much of the raw size the frame takes, the second adds it.
+void ClytDialog::SizeWindow(int width, int height, const CString& windowCaption)
+{
+    SetWindowPos(nullptr, 0, 0, width, height, SWP_HIDEWINDOW | SWP_NOACTIVATE | SWP_NOREDRAW);
+    CRect client;
+    GetClientRect(&client);
+    SetWindowPos(nullptr, 0, 0, Scaled(2 * width - client.Width(), lytScaleX),
+                 Scaled(2 * height - client.Height(), lytScaleY), SWP_HIDEWINDOW | SWP_FRAMECHANGED);
+    SetWindowText(windowCaption);
+    CenterWindow();
+}
+
+std::unique_ptr<ClytControl> ClytDialog::MakeControl(const CString& type, const CString& name, ClytPosition position,
+                                                     ClytSize size, const CString& label)
+{
+    return lytMakeControl({type, name, position, size, label});
+}
+
+void ClytDialog::CreateControlWindow(ClytControl& control)
+{
+    control.CreateControl(this);
+}
+
+BOOL ClytDialog::OnCommand(WPARAM wParam, LPARAM lParam)
+{
+    if (!m_isDying && MayRunRules())
+        RunDependencies();
+    lytCommandSeen = 1;
+    return CDialog::OnCommand(wParam, lParam);
+}
+
+void ClytDialog::OnOK()
+{
+    if (const ClytControlDep* rule = FindDefaultButtonRule(FocusName()))
+    {
+        if (FindControl(rule->controlName) != nullptr)
+            RunDependencies();
+        return;
+    }
+    lytTreeConfirmCount = 0;
+    if (ComposeResult() != 0)
+        CDialog::OnOK();
+}
+
+void ClytDialog::OnCancel()
+{
+    // After a confirmation in the wizard the tree keeps its place for the next step.
+    if (lytTreeConfirmCount != -1)
+    {
+        lytTreeConfirmCount = 0;
+        lytRestoreCurrentNode(lytSymbolNodes);
+    }
+    CDialog::OnCancel();
+}
+
+void ClytDialog::OnDestroy()
+{
+    m_isDying = true;
+    CDialog::OnDestroy();
+}
+
+// The name of the control that has the focus; empty for any other window, also for the edit field inside a combo box.
+CString ClytDialog::FocusName()
+{
+    const CWnd* focus = FromHandlePermanent(::GetFocus());
+    const auto* control = dynamic_cast<const ClytControl*>(focus);
+    if (control == nullptr || dynamic_cast<const ClytGroupBoxControl*>(focus) != nullptr)
+        return {};
+    return control->GetName();
+}
