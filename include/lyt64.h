@@ -37,6 +37,33 @@ extern "C"
  * read stay. The library stays usable; start again with lytInitialiseEnvironment. */
     void __stdcall FreeGlobalObject(void);
 
+    /* ---- Catalogue -------------------------------------------------------------------------------------------------- */
+
+    /* Shows the catalogue and copies what the user picks to the target. The first character of the request is the kind:
+     *   S  a symbol; its key is copied
+     *   G  a group; its key is copied
+     *   P  a group of the para tree; its key is copied
+     *   W  any entry: "G/key/label", "S/key/label" or "H//label" (a heading) is copied
+     * What follows it is the entry to select: its key, or the beginning of one for other kinds than groups.
+     * Returns 1 when the user confirmed, else 0 with the target as it was. A result longer than the size leaves the target
+     * empty and writes a NUL at target[size] as well.
+     * Both names are one function; the letter alone chooses the para tree. */
+    int __stdcall lytOpenTreeView(const char* request, char* target, int size);
+    int __stdcall lytOpenTreeViewPara(const char* request, char* target, int size);
+
+    /* Copies the key of the first symbol whose key begins with the text. Returns 1, or 0 when there is none or the text is
+     * empty, with the target as it was. Shows nothing; reads the catalogue for this call unless a dialog has read it. */
+    int __stdcall lytGetSymbolfromTree(const char* text, char* target, int size);
+
+    /* Walk over the symbols below a group of the symbol tree, once a dialog has read it: one start, then reads until 0.
+     * lytTreeStartChildNode returns 1 when an entry with the key was found and another entry follows it. Unless that is a
+     * symbol, reads go on from where an earlier walk stood.
+     * lytTreeReadChildNode copies the label as shown, and the key, a backslash and the label as the data source gave it;
+     * it returns 1, or 0 at the end: behind the last entry, or at one of another level than the very first entry that was
+     * read in this process. */
+    int __stdcall lytTreeStartChildNode(const char* key);
+    int __stdcall lytTreeReadChildNode(char* text, int textSize, char* path, int pathSize);
+
 #ifdef __cplusplus
 }
 #endif

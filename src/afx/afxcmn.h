@@ -5,9 +5,23 @@
 
 #include <commctrl.h>
 
+class CImageList;
+
 class CTreeCtrl : public CWnd
 {
 public:
+    // The list goes on belonging to its object, which outlives the control.
+    void SetImageList(const CImageList* images, int kind) const;
+    // The new item; null when the control cannot take it.
+    HTREEITEM InsertItem(const char* text, int image, int selectedImage, HTREEITEM parent = TVI_ROOT,
+                         HTREEITEM insertAfter = TVI_LAST) const;
+    BOOL Expand(HTREEITEM item, UINT code) const;
+    // Null, like any item that is not there, selects nothing.
+    BOOL SelectItem(HTREEITEM item) const;
+    HTREEITEM GetNextItem(HTREEITEM item, UINT code) const;
+    HTREEITEM GetRootItem() const { return GetNextItem(nullptr, TVGN_ROOT); }
+    HTREEITEM GetSelectedItem() const { return GetNextItem(nullptr, TVGN_CARET); }
+    HTREEITEM GetPrevSiblingItem(HTREEITEM item) const { return GetNextItem(item, TVGN_PREVIOUS); }
     // The state bits of the item, whole as the control keeps them; 0 for an item that does not exist.
     UINT GetItemState(HTREEITEM item, UINT mask) const;
     BOOL ItemHasChildren(HTREEITEM item) const;

@@ -5,6 +5,7 @@
 #include "environment/ClytLogFile.h"
 #include "environment/ProcessState.h"
 #include "exports/ExportFrame.h"
+#include "tree/ClytNode.h"
 
 void __stdcall lytInitialiseEnvironment(const char* docName, const char* dialogFolder, const char* initFolder)
 {
@@ -38,6 +39,7 @@ void __stdcall FreeGlobalObject()
     LYT_EXPORT_FRAME();
     lytEnvironment.Reset();
     lytLog.Reset();
+    lytDeleteNodes();
     lytInputKey.Empty();
     lytWizardGroup.Empty();
 }

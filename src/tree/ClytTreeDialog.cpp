@@ -1,0 +1,256 @@
+#include "tree/ClytTreeDialog.h"
+
+#include "environment/ClytEnvironment.h"
+#include "environment/ClytException.h"
+#include "environment/ProcessState.h"
+#include "res/resource.h"
+#include "tree/NodeExpansion.h"
+#include "tree/NodeFill.h"
+#include "tree/NodeSearch.h"
+#include "tree/TreeSource.h"
+
+#include <cstdlib>
+
+namespace
+{
+
+// The size of the window at the last confirmation, also a refused one; 0 before the first.
+int lytTreeLastWidth = 0;
+int lytTreeLastHeight = 0;
+// The number of confirmed dialogs over the symbol tree. The first one ends the opening by levels for good.
+int lytTreeOpened = 0;
+
+int ReadNumber(const char* key)
+{
+    return std::atoi(lytEnvironment.GetIniValue("global", key));
+}
+
+class WaitCursor
+{
+public:
+    WaitCursor() : m_previous(SetCursor(LoadCursorA(nullptr, IDC_WAIT))) {}
+    WaitCursor(const WaitCursor&) = delete;
+    WaitCursor& operator=(const WaitCursor&) = delete;
+    ~WaitCursor() { SetCursor(m_previous); }
+
+private:
+    HCURSOR m_previous;
+};
+
+// A control that keeps up with every added item on the screen takes a hundred times as long.
+class RedrawPause
+{
+public:
+    explicit RedrawPause(const CWnd& window) : m_window(window) { m_window.SetRedraw(FALSE); }
+    RedrawPause(const RedrawPause&) = delete;
+    RedrawPause& operator=(const RedrawPause&) = delete;
+    ~RedrawPause()
+    {
+        m_window.SetRedraw(TRUE);
+        m_window.Invalidate();
+    }
+
+private:
+    const CWnd& m_window;
+};
+
+class ControlItems : public ClytTreeItems
+{
+public:
+    explicit ControlItems(const CTreeCtrl& control) : m_control(control) {}
+
+    HTREEITEM InsertItem(HTREEITEM parent, const char* text, int image) override
+    {
+        return m_control.InsertItem(text, image, image, parent, TVI_LAST);
+    }
+    void ExpandItem(HTREEITEM item) override { m_control.Expand(item, TVE_EXPAND); }
+    HTREEITEM GetRootItem() const override { return m_control.GetRootItem(); }
+
+private:
+    const CTreeCtrl& m_control;
+};
+
+} // namespace
+
+BEGIN_MESSAGE_MAP(ClytTreeDialog, CDialog)
+    ON_WM_SIZE()
+    ON_NOTIFY(TVN_ITEMEXPANDINGA, IDC_TREE, OnItemExpanding)
+    ON_NOTIFY(NM_DBLCLK, IDC_TREE, OnDoubleClick)
+END_MESSAGE_MAP()
+
+ClytTreeDialog::ClytTreeDialog(const CString& request)
+    : CDialog(IDD_TREE),
+      m_strStart(request.Mid(1)),
+      m_cKind(request[0] == 'P' ? 'G' : request[0]),
+      m_bPara(request[0] == 'P'),
+      m_nodes(m_bPara ? lytParaNodes : lytSymbolNodes)
+{
+}
+
+BOOL ClytTreeDialog::OnInitDialog()
+{
+    CDialog::OnInitDialog();
+    TakeSize();
+    SetTexts();
+    m_ImageList.Create(16, 16, 0, 0, 8);
+    m_treeCtrl.m_hWnd = ::GetDlgItem(m_hWnd, IDC_TREE);
+    {
+        const WaitCursor waiting;
+        HTREEITEM selection = nullptr;
+        {
+            const RedrawPause pause(m_treeCtrl);
+            LoadImages();
+            FillTree();
+            selection = ExpandTree();
+        }
+        // A control that does not redraw does not scroll either.
+        SelectItem(selection);
+    }
+    MarkInitialNode();
+    return TRUE;
+}
+
+void ClytTreeDialog::TakeSize()
+{
+    int width = lytTreeLastWidth;
+    int height = lytTreeLastHeight;
+    if (width == 0 && height == 0)
+    {
+        width = ReadNumber("TreeWidth");
+        height = ReadNumber("TreeHeight");
+    }
+    SetWindowPos(nullptr, 0, 0, width, height, SWP_NOMOVE | SWP_NOOWNERZORDER);
+}
+
+void ClytTreeDialog::SetTexts()
+{
+    SetWindowText(lytEnvironment.GetText("Label", "TreeDlgLabel"));
+    GetDlgItem(IDOK)->SetWindowText(lytEnvironment.GetText("Buttons", "001"));
+    GetDlgItem(IDCANCEL)->SetWindowText(lytEnvironment.GetText("Buttons", "002"));
+}
+
+void ClytTreeDialog::LoadImages()
+{
+    // In the order of the pictures' numbers.
+    for (const int icon : {IDI_HEADING, IDI_GROUP, IDI_SYMBOL})
+        m_ImageList.Add(LoadIconW(AfxGetResourceHandle(), MAKEINTRESOURCEW(icon)));
+    m_treeCtrl.SetImageList(&m_ImageList, TVSIL_NORMAL);
+}
+
+void ClytTreeDialog::FillTree()
+{
+    ControlItems items(m_treeCtrl);
+    if (!m_nodes.IsEmpty())
+    {
+        lytFillFromList(m_nodes, items, m_cKind);
+        return;
+    }
+    ClytTreeSource source;
+    if (lytGetTreeSource(m_bPara ? 'P' : 'S', source.start, source.next))
+        lytFillFromSource(m_nodes, source, &items, m_cKind);
+}
+
+HTREEITEM ClytTreeDialog::ExpandTree()
+{
+    if (!m_strStart.IsEmpty())
+    {
+        const ClytNode* start = lytFindNode(m_nodes, m_cKind, m_strStart);
+        if (start != nullptr)
+            m_strSelectKey = start->m_szKey;
+    }
+    ControlItems items(m_treeCtrl);
+    return lytExpandNodes(m_nodes, {ReadNumber("TreeLevels"), lytTreeOpened == 0 && !m_bPara, m_strSelectKey}, items);
+}
+
+void ClytTreeDialog::SelectItem(HTREEITEM item)
+{
+    if (item == nullptr)
+        return;
+    // Each selection scrolls its item into view, so the way round brings two siblings above into view as well.
+    m_treeCtrl.SelectItem(item);
+    m_treeCtrl.SelectItem(m_treeCtrl.GetPrevSiblingItem(m_treeCtrl.GetPrevSiblingItem(item)));
+    m_treeCtrl.SelectItem(item);
+}
+
+void ClytTreeDialog::MarkInitialNode()
+{
+    if (m_bPara || lytTreeConfirmCount != 0)
+        return;
+    const ClytNode* initial =
+        m_cKind == 'G' ? lytFindCurrentNode(m_nodes) : lytFindNodeByItem(m_nodes, m_treeCtrl.GetSelectedItem());
+    lytMarkInitialNode(m_nodes, initial);
+}
+
+void ClytTreeDialog::OnOK()
+{
+    // A choice that is refused below counts and is remembered all the same.
+    CountConfirmation();
+    StoreSize();
+    const ClytNode* chosen = lytFindNodeByItem(m_nodes, m_treeCtrl.GetSelectedItem());
+    StoreItemStates();
+    if (chosen == nullptr)
+    {
+        lytReport("222");
+        return;
+    }
+
+    lytMarkCurrentNode(m_nodes, chosen);
+    if (m_cKind != 'W' && chosen->m_cType != m_cKind)
+    {
+        lytReport("222");
+        return;
+    }
+    m_strResult = m_cKind == 'W' ? lytWizardChoice(*chosen) : chosen->m_szKey;
+    if (!m_bPara)
+        ++lytTreeOpened;
+    CDialog::OnOK();
+}
+
+void ClytTreeDialog::CountConfirmation() const
+{
+    if (!m_bPara)
+        lytTreeConfirmCount = m_cKind == 'W' ? -1 : lytTreeConfirmCount + 1;
+}
+
+void ClytTreeDialog::StoreSize() const
+{
+    CRect rect;
+    GetWindowRect(&rect);
+    lytTreeLastWidth = std::abs(rect.Width());
+    lytTreeLastHeight = std::abs(rect.Height());
+}
+
+void ClytTreeDialog::StoreItemStates() const
+{
+    for (POSITION position = m_nodes.GetHeadPosition(); position != nullptr;)
+    {
+        ClytNode* node = m_nodes.GetNext(position);
+        node->m_nItemState = m_treeCtrl.GetItemState(node->m_hItem, TVIS_EXPANDED);
+    }
+}
+
+void ClytTreeDialog::OnSize(UINT kind, int width, int height)
+{
+    // The row of buttons is not centred: that is how it is to sit.
+    if (CWnd* tree = GetDlgItem(IDC_TREE))
+        tree->SetWindowPos(nullptr, 0, 0, width - 52, height - 80, SWP_NOZORDER | SWP_NOMOVE);
+    if (CWnd* ok = GetDlgItem(IDOK))
+        ok->SetWindowPos(nullptr, width / 2 - 120, height - 40, 0, 0, SWP_NOZORDER | SWP_NOSIZE);
+    if (CWnd* cancel = GetDlgItem(IDCANCEL))
+        cancel->SetWindowPos(nullptr, width / 2 + 17, height - 40, 0, 0, SWP_NOZORDER | SWP_NOSIZE);
+    CDialog::OnSize(kind, width, height);
+}
+
+void ClytTreeDialog::OnItemExpanding(NMHDR* /*header*/, LRESULT* result)
+{
+    // The branch is complete already, and may always open.
+    *result = 0;
+}
+
+void ClytTreeDialog::OnDoubleClick(NMHDR* /*header*/, LRESULT* result)
+{
+    UpdateData(TRUE);
+    if (!m_treeCtrl.ItemHasChildren(m_treeCtrl.GetSelectedItem()))
+        OnOK();
+    *result = 0;
+}

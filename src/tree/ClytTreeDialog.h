@@ -1,0 +1,53 @@
+// The browser in which an author picks an entry of a catalogue.
+//
+// The whole catalogue stands in the control before the dialog shows. It is read from its data source once and kept; a
+// later opening shows it again, with the branches that were open and the entry that was chosen at the last confirmation.
+#pragma once
+
+#include "tree/ClytNode.h"
+
+#include <afxcmn.h>
+
+class ClytTreeDialog : public CDialog
+{
+public:
+    // The first character of a request says what may be picked:
+    //   S  symbols                         G  groups; symbols are not shown
+    //   P  groups of the para tree         W  any entry, for the wizard
+    // Any other letter wants entries of that type, which there may be none of. The rest is the key (for other kinds than
+    // groups, its beginning) of the entry to select at opening.
+    explicit ClytTreeDialog(const CString& request);
+
+    // The key of the entry picked; in kind W, its type, key and label.
+    const CString& GetResult() const { return m_strResult; }
+
+protected:
+    BOOL OnInitDialog() override;
+    void OnOK() override;
+
+    afx_msg void OnSize(UINT kind, int width, int height);
+    afx_msg void OnItemExpanding(NMHDR* header, LRESULT* result);
+    afx_msg void OnDoubleClick(NMHDR* header, LRESULT* result);
+    DECLARE_MESSAGE_MAP()
+
+private:
+    void TakeSize();
+    void SetTexts();
+    void LoadImages();
+    void FillTree();
+    HTREEITEM ExpandTree();
+    void SelectItem(HTREEITEM item);
+    void MarkInitialNode();
+    void CountConfirmation() const;
+    void StoreSize() const;
+    void StoreItemStates() const;
+
+    CTreeCtrl m_treeCtrl; // stands over control 1000 without joining it: a fill sends it a message for each record
+    CImageList m_ImageList;
+    CString m_strResult;
+    CString m_strSelectKey;
+    CString m_strStart;
+    char m_cKind;
+    bool m_bPara;
+    ClytNodeList& m_nodes; // lives as long as the process
+};
