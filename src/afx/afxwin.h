@@ -192,6 +192,26 @@ public:
     int GetCount() const { return static_cast<int>(SendMessage(LB_GETCOUNT)); }
     int GetCurSel() const { return static_cast<int>(SendMessage(LB_GETCURSEL)); }
     int SetCurSel(int index) const { return static_cast<int>(SendMessage(LB_SETCURSEL, static_cast<WPARAM>(index))); }
+    int GetCaretIndex() const { return static_cast<int>(SendMessage(LB_GETCARETINDEX)); }
+    int GetTopIndex() const { return static_cast<int>(SendMessage(LB_GETTOPINDEX)); }
+    int GetItemHeight(int index) const
+    {
+        return static_cast<int>(SendMessage(LB_GETITEMHEIGHT, static_cast<WPARAM>(index)));
+    }
+    int SetItemHeight(int index, UINT height) const
+    {
+        return static_cast<int>(SendMessage(LB_SETITEMHEIGHT, static_cast<WPARAM>(index), static_cast<LPARAM>(height)));
+    }
+    int GetItemRect(int index, RECT* rect) const;
+    DWORD_PTR GetItemData(int index) const
+    {
+        return static_cast<DWORD_PTR>(SendMessage(LB_GETITEMDATA, static_cast<WPARAM>(index)));
+    }
+    int SetItemData(int index, DWORD_PTR data) const
+    {
+        return static_cast<int>(SendMessage(LB_SETITEMDATA, static_cast<WPARAM>(index), static_cast<LPARAM>(data)));
+    }
+    void GetText(int index, CString& text) const;
     int AddString(const char* text) const;
     int InsertString(int index, const char* text) const;
     int DeleteString(int index) const
@@ -199,6 +219,36 @@ public:
         return static_cast<int>(SendMessage(LB_DELETESTRING, static_cast<WPARAM>(index)));
     }
     void ResetContent() const { SendMessage(LB_RESETCONTENT); }
+};
+
+// Sent to the parent when the user has changed a check mark.
+inline constexpr UINT CLBN_CHKCHANGE = 40;
+
+// An owner-drawn list box with a check mark in front of each item's text. A click on the mark changes it, and so does
+// the space key for the item that has the caret.
+class CCheckListBox : public CListBox
+{
+public:
+    void SetCheck(int index, int check);
+    int GetCheck(int index) const;
+    // Draws one item; without a device nothing.
+    virtual void DrawItem(DRAWITEMSTRUCT* draw);
+
+protected:
+    BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result) override;
+
+    afx_msg LRESULT OnSetFont(WPARAM wParam, LPARAM lParam);
+    afx_msg void OnLButtonDown(UINT flags, CPoint point);
+    afx_msg void OnLButtonDblClk(UINT flags, CPoint point);
+    afx_msg void OnKeyDown(UINT key, UINT count, UINT flags);
+    afx_msg LRESULT OnChar(WPARAM wParam, LPARAM lParam);
+    DECLARE_MESSAGE_MAP()
+
+private:
+    void DrawText(HDC device, int index, const CRect& area, bool selected, bool enabled) const;
+    void ToggleAt(CPoint point);
+    void Toggle(int index);
+    void InvalidateItem(int index) const;
 };
 
 class CComboBox : public CWnd
