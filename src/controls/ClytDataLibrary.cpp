@@ -2,6 +2,8 @@
 
 HMODULE lytLoadPartner(const CString& name)
 {
+    if (name.IsEmpty())
+        return nullptr;
     // A file that is no library of this machine would otherwise be announced in a box of the system's.
     DWORD hostErrorMode = 0;
     SetThreadErrorMode(SEM_FAILCRITICALERRORS, &hostErrorMode);

@@ -1,0 +1,180 @@
+#include "controls/ClytItemControl.h"
+
+#include "controls/ClytRedrawPause.h"
+#include "controls/ClytWaitCursor.h"
+#include "dialog/ClytDialog.h"
+#include "environment/ClytEnvironment.h"
+#include "environment/Words.h"
+
+void ClytListSource::TakeStatement(const CStringList& values)
+{
+    POSITION place = values.GetHeadPosition();
+    for (CString* field : {&library, &startFunction, &nextFunction, &parameterRule})
+    {
+        if (place == nullptr)
+            return;
+        *field = values.GetNext(place);
+    }
+}
+
+template <class WINDOW>
+ClytDataLibrary ClytItemControl<WINDOW>::library;
+
+template <class WINDOW>
+void ClytItemControl<WINDOW>::SetOption(const CStringList& values, const CString& keyword)
+{
+    // The option word comes first: an item whose value is one of them never becomes an item.
+    if (this->TakeCommonOption(values.GetHead()) != 0)
+        return;
+    if (lytSameWord(keyword, "FILLEDBY"))
+        TakeSource(values);
+    else if (!TakeOwnStatement(values, keyword))
+        AddDefinedItem(values.GetHead(), keyword);
+}
+
+template <class WINDOW>
+void ClytItemControl<WINDOW>::GetAllValues(CString& result, const CString& separators)
+{
+    const int length = separators.GetLength();
+    const int last = displayStrings.GetCount() - 1;
+    if (length > 1)
+        result += separators[1];
+    for (int index = 0; index <= last; ++index)
+    {
+        AppendItem(result, index);
+        if (index < last && length > 0)
+            result += separators[0];
+    }
+    if (length > 2)
+        result += separators[2];
+}
+
+template <class WINDOW>
+void ClytItemControl<WINDOW>::DoAction(const CString& word)
+{
+    if (lytSameWord(word, "CLEAR"))
+        EmptyFromSelection();
+    else
+        this->FillByLibrary();
+}
+
+template <class WINDOW>
+void ClytItemControl<WINDOW>::ReplaceCurrentItem(const CString& text)
+{
+    const int index = this->GetCurSel();
+    if (index == LB_ERR)
+    {
+        SetControlFocus();
+        return;
+    }
+    this->DeleteString(index);
+    valueStrings.SetAt(index, text);
+    displayStrings.SetAt(index, text);
+    this->InsertString(index, text);
+    this->SetCurSel(index);
+}
+
+// Every failure on the way ends the fill without a message, and with the list emptied; only an empty library name is
+// told, and does not end it: the library may have been loaded by another list.
+template <class WINDOW>
+void ClytItemControl<WINDOW>::FillByLibrary()
+{
+    const ClytWaitCursor waiting;
+    EmptyFromSelection();
+    CString parameter;
+    if (!ComposeParameter(parameter))
+        return;
+    if (source.library.IsEmpty())
+        lytReport("251", CString(), this->name);
+    if (!library.Load(source.library))
+        return;
+    auto* start = library.template Find<lytDataStart>(source.startFunction);
+    if (start == nullptr)
+        return;
+    start(parameter);
+    auto* next = library.template Find<lytDataNext>(source.nextFunction);
+    if (next == nullptr)
+        return;
+    const ClytRedrawPause pause(*this);
+    AddHeadItem();
+    ClytDataListing listing(*next);
+    AddItems(listing);
+}
+
+template <class WINDOW>
+void ClytItemControl<WINDOW>::AddDefinedItem(const CString& value, const CString& displayKey)
+{
+    displayStrings.Add(displayKey);
+    valueStrings.Add(value);
+}
+
+template <class WINDOW>
+bool ClytItemControl<WINDOW>::ComposeParameter(CString& parameter)
+{
+    return source.parameterRule.IsEmpty() || this->dialog->ComposeNamedOutput(source.parameterRule, parameter) != 0;
+}
+
+template <class WINDOW>
+void ClytItemControl<WINDOW>::AddItems(ClytDataListing& listing)
+{
+    bool added = false;
+    for (; listing.Next(); added = true)
+        PutItem(listing.GetValue(), listing.GetDisplay(), 0);
+    if (added)
+        this->SetCurSel(0);
+}
+
+template <class WINDOW>
+CString ClytItemControl<WINDOW>::TextOf(const CString& key) const
+{
+    return lytEnvironment.GetText(this->dialog->GetTextSection(), key);
+}
+
+template <class WINDOW>
+void ClytItemControl<WINDOW>::PutItem(const CString& value, const CString& display, int place)
+{
+    // The arrays grow at their end wherever the window shows the item: after an insertion elsewhere the two part.
+    valueStrings.Add(value);
+    displayStrings.Add(display);
+    this->InsertString(place != 0 ? place : this->GetCount(), display);
+}
+
+template <class WINDOW>
+int ClytItemControl<WINDOW>::RemoveItem(int index)
+{
+    valueStrings.RemoveAt(index);
+    displayStrings.RemoveAt(index);
+    this->DeleteString(index);
+    return this->SetCurSel(index == this->GetCount() ? index - 1 : index);
+}
+
+template <class WINDOW>
+void ClytItemControl<WINDOW>::EmptyFromSelection()
+{
+    if (this->GetCurSel() == LB_ERR)
+        return;
+    valueStrings.RemoveAll();
+    displayStrings.RemoveAll();
+    this->ResetContent();
+}
+
+template <class WINDOW>
+void ClytItemControl<WINDOW>::ChangePlaces(int current, int other)
+{
+    const CString display = displayStrings.GetAt(current);
+    const CString value = valueStrings.GetAt(current);
+    const CString otherDisplay = displayStrings.GetAt(other);
+    const CString otherValue = valueStrings.GetAt(other);
+
+    // An item that is added at position 0 goes to the end, and the arrays add at their end at any position. So the
+    // order that the user sees and the order of the values part, which descriptions in use have come to expect.
+    this->DeleteCurrentItem();
+    this->AddItem(otherValue, otherDisplay, 1, current);
+    this->SetCurSel(other);
+    this->DeleteCurrentItem();
+    this->AddItem(value, display, 1, other);
+}
+
+template class ClytItemControl<CListBox>;
+template class ClytItemControl<CCheckListBox>;
+template class ClytItemControl<CComboBox>;

@@ -1,0 +1,76 @@
+// What list box, check list and combo box share: items of two texts each, the statements and the library that they come
+// from, and the operations that are the same in all three. What differs stands in the classes themselves.
+//
+// An item has the text that is shown and the value that is delivered; an index names both and the window's item. Where
+// an index leaves the arrays, the invalid-argument exception is raised.
+#pragma once
+
+#include "controls/ClytDataLibrary.h"
+#include "controls/ClytWindowControl.h"
+
+// The four values of a "FILLEDBY" statement; one that is cut short leaves the later ones as they were.
+struct ClytListSource
+{
+    void TakeStatement(const CStringList& values);
+
+    CString library;
+    CString startFunction;
+    CString nextFunction;
+    CString parameterRule; // the output rule that composes the parameter of the start function
+};
+
+template <class WINDOW>
+class ClytItemControl : public ClytWindowControl<WINDOW>
+{
+public:
+    using ClytWindowControl<WINDOW>::ClytWindowControl;
+
+    void SetOption(const CStringList& values, const CString& keyword) override;
+    void SaveState() override { this->savedState = this->GetCurSel(); }
+    void SetControlFocus() override { this->SetFocus(); }
+    // The separators go by position: between items, before the first, behind the last.
+    void GetAllValues(CString& result, const CString& separators) override;
+    int IsChanged() override { return this->GetCurSel() != this->savedState ? 1 : 0; }
+    // "CLEAR" empties the list unless nothing is selected; any other word fills it.
+    void DoAction(const CString& word) override;
+    void ReplaceCurrentItem(const CString& text) override;
+    void FillByLibrary() override;
+    int HasContent() override { return this->GetCount() != 0 ? 1 : 0; }
+
+    // Adds an item before the window is there.
+    void AddDefinedItem(const CString& value, const CString& displayKey);
+
+protected:
+    // Takes a "FILLEDBY" statement.
+    virtual void TakeSource(const CStringList& values) { source.TakeStatement(values); }
+    // Takes a statement that is the class's own; false when it is an item.
+    virtual bool TakeOwnStatement(const CStringList& /*values*/, const CString& /*keyword*/) { return false; }
+    // Appends an item as GetAllValues delivers it.
+    virtual void AppendItem(CString& result, int index) const = 0;
+    // Composes the parameter of a library fill; false when the fill ends here.
+    virtual bool ComposeParameter(CString& parameter);
+    // Adds what stands in front of the items of a library.
+    virtual void AddHeadItem() {}
+    // Adds the items of a library. Each one added selects the first item; that is done once, behind the last.
+    virtual void AddItems(ClytDataListing& listing);
+
+    // The text of a key in the dialog's text section.
+    CString TextOf(const CString& key) const;
+
+    // Puts an item behind the last one of the arrays and at the position of the window, where 0 is the end as well.
+    void PutItem(const CString& value, const CString& display, int place);
+    // Takes an item off and selects the one in its place, the last one, or none; answers what the window answers.
+    int RemoveItem(int index);
+    // Empties the list if an item is selected: deleting the selected item selects another, until none is left.
+    void EmptyFromSelection();
+    // Lets the selected item and its neighbour change places by taking each off and adding the other in its place.
+    void ChangePlaces(int current, int other);
+
+    CStringArray displayStrings; // text keys at creation, later also plain texts
+    CStringArray valueStrings;
+    ClytListSource source;
+
+private:
+    // One library a class, for the whole process.
+    static ClytDataLibrary library;
+};
