@@ -1,9 +1,17 @@
 #include "dialog/ClytControlTypes.h"
 
+#include "controls/ClytCheckBoxControl.h"
+#include "controls/ClytCheckListBox.h"
+#include "controls/ClytComboBoxControl.h"
 #include "controls/ClytDefaultControl.h"
 #include "controls/ClytEditControl.h"
 #include "controls/ClytGroupBoxControl.h"
+#include "controls/ClytListBoxControl.h"
+#include "controls/ClytOptionGroup.h"
+#include "controls/ClytPushButtonControl.h"
+#include "controls/ClytRadioButtonControl.h"
 #include "controls/ClytStaticControl.h"
+#include "dialog/ClytDialogRules.h"
 #include "environment/Words.h"
 
 namespace
@@ -30,9 +38,43 @@ ControlPtr MakeDefault(const ClytControlRequest& request)
     return std::make_unique<ClytDefaultControl>(request.position, request.size, KIND);
 }
 
+// One class serves two words.
+ControlPtr MakeCombo(const ClytControlRequest& request)
+{
+    return std::make_unique<ClytComboBoxControl>(request.type, request.name, request.position, request.size,
+                                                 request.label);
+}
+
+ControlPtr MakeOptionGroup(const ClytControlRequest& request)
+{
+    return std::make_unique<ClytOptionGroup>(request.name);
+}
+
+ControlPtr MakeOptionButton(const ClytControlRequest& request)
+{
+    // The size was scaled once already, like any other; option buttons get theirs by being scaled twice.
+    const ClytSize size = {static_cast<int>(static_cast<float>(request.size.width) * lytScaleX),
+                           static_cast<int>(static_cast<float>(request.size.height) * lytScaleY)};
+    auto button = std::make_unique<ClytRadioButtonControl>(request.name, request.position, size,
+                                                           ClytOptionGroup::TakeFirstOfGroup(), request.label);
+    ClytOptionGroup::AddToCurrentGroup(*button);
+    return button;
+}
+
 constexpr ControlType controlTypes[] = {
-    {"Text", Make<ClytStaticControl>}, {"TextBox", Make<ClytEditControl>}, {"GroupBox", Make<ClytGroupBoxControl>},
-    {"OKButton", MakeDefault<1>},      {"CancelButton", MakeDefault<0>},
+    {"PushButton", Make<ClytPushButtonControl>},
+    {"Text", Make<ClytStaticControl>},
+    {"TextBox", Make<ClytEditControl>},
+    {"GroupBox", Make<ClytGroupBoxControl>},
+    {"ComboBox", MakeCombo},
+    {"DropListBox", MakeCombo},
+    {"ListBox", Make<ClytListBoxControl>},
+    {"CheckListBox", Make<ClytCheckListBox>},
+    {"CheckBox", Make<ClytCheckBoxControl>},
+    {"OptionGroup", MakeOptionGroup},
+    {"OptionButton", MakeOptionButton},
+    {"OKButton", MakeDefault<1>},
+    {"CancelButton", MakeDefault<0>},
 };
 
 } // namespace

@@ -1,6 +1,7 @@
 #include "dialog/ClytDialog.h"
 
 #include "controls/ClytGroupBoxControl.h"
+#include "controls/ClytPushButtonControl.h"
 #include "dialog/ClytControlTypes.h"
 #include "environment/ClytException.h"
 #include "environment/ProcessState.h"
@@ -113,8 +114,8 @@ void ClytDialog::OnOK()
 {
     if (const ClytControlDep* rule = FindDefaultButtonRule(FocusName()))
     {
-        if (FindControl(rule->controlName) != nullptr)
-            RunDependencies();
+        if (ClytControl* button = FindControl(rule->controlName))
+            lytGiveReturnKey(*button, *this);
         return;
     }
     lytTreeConfirmCount = 0;

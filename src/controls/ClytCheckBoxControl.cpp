@@ -1,0 +1,40 @@
+#include "controls/ClytCheckBoxControl.h"
+
+#include "dialog/ClytDialog.h"
+#include "environment/Words.h"
+
+void ClytCheckBoxControl::CreateControl(ClytDialog* owner)
+{
+    CreateCommon(owner, ClytFit::ToCaptionWithMargin,
+                 [&](const CRect& rect) { return Create(caption, WS_TABSTOP | BS_AUTOCHECKBOX, rect, owner, 0); });
+    ApplyOptionFlags();
+
+    // Texts that were never given are equal: a box without any statement starts checked.
+    if (defaultValue == onValue)
+        SetCheck(BST_CHECKED);
+    else if (defaultValue == offValue)
+        SetCheck(BST_UNCHECKED);
+    else if (!defaultValue.IsEmpty())
+        lytRaise("236", "238", name);
+}
+
+void ClytCheckBoxControl::SetOption(const CStringList& values, const CString& keyword)
+{
+    const CString& value = values.GetHead();
+    if (TakeCommonOption(value) != 0)
+        return;
+    if (lytSameWord(keyword, "ON"))
+        onValue = value;
+    else if (lytSameWord(keyword, "OFF"))
+        offValue = value;
+    else
+        defaultValue = value;
+}
+
+void ClytCheckBoxControl::SetValue(const CString& value)
+{
+    if (value == onValue || lytSameWord(value, "ON"))
+        SetCheck(BST_CHECKED);
+    else if (value == offValue || lytSameWord(value, "OFF"))
+        SetCheck(BST_UNCHECKED);
+}

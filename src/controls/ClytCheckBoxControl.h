@@ -1,0 +1,24 @@
+// A check box. Its two states are two texts of the description.
+#pragma once
+
+#include "controls/ClytWindowControl.h"
+
+class ClytCheckBoxControl : public ClytWindowControl<CButton>
+{
+public:
+    using ClytWindowControl::ClytWindowControl;
+
+    void CreateControl(ClytDialog* owner) override;
+    void SetOption(const CStringList& values, const CString& keyword) override;
+    void SaveState() override { savedState = GetCheck(); }
+    void SetControlFocus() override { SetFocus(); }
+    // Takes its own two texts and the words "ON" and "OFF"; any other value changes nothing.
+    void SetValue(const CString& value) override;
+    CString GetValue() override { return GetCheck() == BST_CHECKED ? onValue : offValue; }
+    int IsChanged() override { return GetCheck() != savedState ? 1 : 0; }
+
+private:
+    CString onValue;
+    CString offValue;
+    CString defaultValue; // the state to start in
+};

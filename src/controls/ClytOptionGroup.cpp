@@ -1,0 +1,103 @@
+#include "controls/ClytOptionGroup.h"
+
+#include "controls/ClytRadioButtonControl.h"
+
+#include <utility>
+
+namespace
+{
+
+// The group of the last "OptionGroup" statement of any layout, as long as it lives.
+ClytOptionGroup* CurrentOptionGroup = nullptr;
+// 1 from an "OptionGroup" statement until its first button.
+int optionGroupOpen = 0;
+
+} // namespace
+
+ClytOptionGroup::ClytOptionGroup(CString controlName) : ClytControl(std::move(controlName), {}, {}, CString())
+{
+    CurrentOptionGroup = this;
+    optionGroupOpen = 1;
+}
+
+ClytOptionGroup::~ClytOptionGroup()
+{
+    if (CurrentOptionGroup == this)
+        CurrentOptionGroup = nullptr;
+    for (POSITION place = buttons.GetHeadPosition(); place != nullptr;)
+        buttons.GetNext(place)->JoinGroup(nullptr);
+}
+
+int ClytOptionGroup::TakeFirstOfGroup()
+{
+    return std::exchange(optionGroupOpen, 0);
+}
+
+void ClytOptionGroup::AddToCurrentGroup(ClytRadioButtonControl& button)
+{
+    if (CurrentOptionGroup == nullptr)
+        return;
+    CurrentOptionGroup->buttons.AddTail(&button);
+    button.JoinGroup(CurrentOptionGroup);
+}
+
+void ClytOptionGroup::Remove(const ClytRadioButtonControl& button)
+{
+    for (POSITION place = buttons.GetHeadPosition(); place != nullptr;)
+    {
+        const POSITION here = place;
+        if (buttons.GetNext(place) == &button)
+            buttons.RemoveAt(here);
+    }
+}
+
+void ClytOptionGroup::CreateControl(ClytDialog* owner)
+{
+    dialog = owner;
+    // Only the first option that is set goes on to the buttons, whose windows come after the group.
+    const struct
+    {
+        int isSet;
+        const char* word;
+    } options[] = {{hidden, "HIDDEN"}, {invisible, "INVISIBLE"}, {displayOnly, "DISPLAYONLY"}, {inactive, "INACTIVE"}};
+    for (const auto& option : options)
+    {
+        if (option.isSet == 0)
+            continue;
+        for (POSITION place = buttons.GetHeadPosition(); place != nullptr;)
+            buttons.GetNext(place)->TakeGroupOption(option.word);
+        return;
+    }
+}
+
+void ClytOptionGroup::SetOption(const CStringList& values, const CString& /*keyword*/)
+{
+    if (TakeCommonOption(values.GetHead()) != 0)
+        return;
+    for (POSITION place = buttons.GetHeadPosition(); place != nullptr;)
+        buttons.GetNext(place)->Preselect(values.GetHead());
+}
+
+void ClytOptionGroup::SetValue(const CString& value)
+{
+    for (POSITION place = buttons.GetHeadPosition(); place != nullptr;)
+        buttons.GetNext(place)->SetValue(value);
+}
+
+CString ClytOptionGroup::GetValue()
+{
+    for (POSITION place = buttons.GetHeadPosition(); place != nullptr;)
+    {
+        ClytRadioButtonControl* button = buttons.GetNext(place);
+        if (button->GetCheck() != BST_UNCHECKED)
+            return button->GetValue();
+    }
+    return CString();
+}
+
+void ClytOptionGroup::SetState(const CString& word, int on)
+{
+    active = on != 0 ? 1 : 0;
+    for (POSITION place = buttons.GetHeadPosition(); place != nullptr;)
+        buttons.GetNext(place)->SetState(word, on);
+}

@@ -1,0 +1,44 @@
+// The named control that stands for a group of option buttons: rules and output speak to it, and it answers for its
+// buttons. It has no window.
+#pragma once
+
+#include "controls/ClytControl.h"
+
+#include <afxtempl.h>
+#include <afxwin.h>
+
+class ClytRadioButtonControl;
+
+class ClytOptionGroup : public CWnd, public ClytControl
+{
+public:
+    // Makes the group the one that the option buttons of the layout join.
+    explicit ClytOptionGroup(CString controlName);
+    ~ClytOptionGroup() override;
+
+    // 1 for the first button behind an "OptionGroup" statement, 0 for those that follow it.
+    static int TakeFirstOfGroup();
+    // A button joins the group of the last "OptionGroup" statement; without one it stands alone.
+    static void AddToCurrentGroup(ClytRadioButtonControl& button);
+    void Remove(const ClytRadioButtonControl& button);
+
+    void CreateControl(ClytDialog* owner) override;
+    // The value preselects the button whose own value it is, so the statement stands behind those of the buttons.
+    void SetOption(const CStringList& values, const CString& keyword) override;
+    void SaveState() override { savedValue = GetValue(); }
+    // Without a window of its own no control gets the focus.
+    void SetControlFocus() override { SetFocus(); }
+    void SetValue(const CString& value) override;
+    // The value of the first checked button; empty when there is none.
+    CString GetValue() override;
+    int IsChanged() override { return GetValue() == savedValue ? 0 : 1; }
+    // Any state word, also one that hides the group, decides whether it counts as active.
+    void SetState(const CString& word, int on) override;
+    int IsActive() override { return active; }
+    int HasContent() override { return 1; }
+
+private:
+    CTypedPtrList<CPtrList, ClytRadioButtonControl*> buttons; // owned by the dialog; each leaves the list when it dies
+    CString savedValue;
+    int active = 1;
+};

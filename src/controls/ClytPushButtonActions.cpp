@@ -1,0 +1,208 @@
+// The actions of the push button, one function a word of the description language.
+#include "controls/ClytPushButtonControl.h"
+
+#include "controls/ClytDataLibrary.h"
+#include "controls/ClytWaitCursor.h"
+#include "dialog/ClytDialog.h"
+#include "environment/ClytEnvironment.h"
+#include "environment/ProcessState.h"
+#include "environment/Words.h"
+
+struct ClytPushButtonControl::Word
+{
+    const char* word;
+    After (ClytPushButtonControl::*run)();
+};
+
+const ClytPushButtonControl::Word ClytPushButtonControl::words[] = {
+    {"VISIBLE", &ClytPushButtonControl::ToggleVisible},
+    {"ACTIVE", &ClytPushButtonControl::ToggleActive},
+    {"ADD", &ClytPushButtonControl::AddShownText},
+    {"DELETE", &ClytPushButtonControl::DeleteItem},
+    {"UP", &ClytPushButtonControl::MoveUp},
+    {"DOWN", &ClytPushButtonControl::MoveDown},
+    {"ACTION", &ClytPushButtonControl::CallFunction},
+    {"REJECT", &ClytPushButtonControl::Reject},
+    {"FILL", &ClytPushButtonControl::Fill},
+    {"DIALOG", &ClytPushButtonControl::OpenDialog},
+};
+
+namespace
+{
+
+HMODULE LoadOrFail(const CString& library)
+{
+    const HMODULE module = lytLoadPartner(library);
+    if (module == nullptr)
+        lytRaise("233", "238", library);
+    return module;
+}
+
+} // namespace
+
+ClytPushButtonControl::After ClytPushButtonControl::RunAction()
+{
+    for (const Word& known : words)
+    {
+        if (lytSameWord(action.GetKeyword(), known.word))
+            return (this->*known.run)();
+    }
+    return After::RunRules;
+}
+
+ClytPushButtonControl::After ClytPushButtonControl::ToggleVisible()
+{
+    if (ClytControl* target = Target())
+        target->SetState("VISIBLE", target->IsVisible() != 0 ? 0 : 1);
+    ToggleCaption();
+    return After::RunRules;
+}
+
+ClytPushButtonControl::After ClytPushButtonControl::ToggleActive()
+{
+    if (ClytControl* target = Target())
+        target->SetState("ACTIVE", target->IsActive() != 0 ? 0 : 1);
+    ToggleCaption();
+    return After::RunRules;
+}
+
+ClytPushButtonControl::After ClytPushButtonControl::AddShownText()
+{
+    ClytControl* source = Target();
+    ClytControl* target = dialog->FindControl(action.GetValues().GetTail());
+    // The source is asked twice, as one with a side effect may notice.
+    if (source != nullptr && target != nullptr && !source->GetDisplayValue().IsEmpty())
+        target->AddItem(CString(), source->GetDisplayValue(), 0, 0);
+    return After::RunRules;
+}
+
+ClytPushButtonControl::After ClytPushButtonControl::DeleteItem()
+{
+    ClytControl* target = Target();
+    if (target != nullptr && target->DeleteCurrentItem() == 0)
+        FocusNextControl();
+    return After::RunRules;
+}
+
+ClytPushButtonControl::After ClytPushButtonControl::MoveUp()
+{
+    if (ClytControl* target = Target())
+        target->MoveCurrentItem(1);
+    return After::RunRules;
+}
+
+ClytPushButtonControl::After ClytPushButtonControl::MoveDown()
+{
+    if (ClytControl* target = Target())
+        target->MoveCurrentItem(0);
+    return After::RunRules;
+}
+
+// Calls a function of a library and scans its answer into the dialog. The answer counts only when the function was the
+// tree browser of this library and the user confirmed it.
+ClytPushButtonControl::After ClytPushButtonControl::CallFunction()
+{
+    const CString library = Value(0);
+    const CString function = Value(1);
+    const CString outputRule = Value(2);
+    const CString inputRule = Value(3);
+
+    // Loaded twice and freed once, the library stays for the next call.
+    LoadOrFail(library);
+    lytSetCursor(IDC_WAIT);
+    const HMODULE module = LoadOrFail(library);
+    auto* call = lytFindFunction<lytDataText>(module, function);
+    if (call == nullptr)
+        lytRaise("232", lytErrorText("238"));
+
+    CString answer;
+    CString parameter;
+    if (dialog->ComposeNamedOutput(outputRule, parameter) != 0)
+        answer = lytCallForText(*call, parameter);
+    if (lytTreeResult == 1)
+        lytInputKey = answer;
+    else
+        answer.Empty();
+    if (!lytInputKey.IsEmpty())
+        dialog->RunInput(inputRule, answer);
+    FreeLibrary(module);
+    return After::RunRules;
+}
+
+// Only the rules run.
+ClytPushButtonControl::After ClytPushButtonControl::Reject()
+{
+    return After::RunRules;
+}
+
+ClytPushButtonControl::After ClytPushButtonControl::Fill()
+{
+    if (ClytControl* target = Target())
+        target->FillByLibrary();
+    return After::RunRules;
+}
+
+// Opens a dialog on top of this one. An output rule gives it its input, and an input rule takes its result.
+ClytPushButtonControl::After ClytPushButtonControl::OpenDialog()
+{
+    lytSetCursor(IDC_WAIT);
+    lytInputKey.Empty();
+    const CString file = lytEnvironment.GetDialogPath() + "\\" + Value(0) + ".dlg";
+    const CString outputRule = action.GetValues().GetTail();
+    CString input;
+    if (dialog->ComposeNamedOutput(outputRule, input) != 0)
+        lytInputKey = input;
+    // A description refuses to open its dialog by composing nothing.
+    if (!outputRule.IsEmpty() && lytInputKey.IsEmpty())
+        return After::Nothing;
+
+    ClytDialog nested(file, lytEnvironment.GetDialogDefine());
+    if (nested.DoModal() != IDOK)
+        return After::RunRules;
+    lytInputKey = nested.GetResult();
+    if (!lytInputKey.IsEmpty())
+        dialog->RunInput(Value(1), CString(lytInputKey));
+    return After::RunRules;
+}
+
+CString ClytPushButtonControl::Value(int index) const
+{
+    const CStringList& values = action.GetValues();
+    return values.GetAt(values.FindIndex(index));
+}
+
+ClytControl* ClytPushButtonControl::Target() const
+{
+    return dialog->FindControl(Value(0));
+}
+
+// The button shows its caption and the text of the second value in turn.
+void ClytPushButtonControl::ToggleCaption()
+{
+    const POSITION second = action.GetValues().FindIndex(1);
+    if (second == nullptr)
+        return;
+    if (alternateCaption.IsEmpty())
+    {
+        SetWindowText(lytEnvironment.GetText(dialog->GetTextSection(), action.GetValues().GetAt(second)));
+        GetWindowText(alternateCaption);
+        return;
+    }
+    CString shown;
+    GetWindowText(shown);
+    SetWindowText(shown == alternateCaption ? caption : alternateCaption);
+}
+
+// Behind the last control there is none to go to: that raises the invalid-argument exception.
+void ClytPushButtonControl::FocusNextControl() const
+{
+    ClytControl* self = dialog->FindControl(name);
+    if (self == nullptr)
+        return;
+    const ClytControlList& controls = dialog->GetControlList();
+    POSITION place = controls.GetHeadPosition();
+    while (controls.GetNext(place) != self)
+    {
+    }
+    controls.GetAt(place)->SetControlFocus();
+}

@@ -1,0 +1,90 @@
+#include "controls/ClytPushButtonControl.h"
+
+#include "controls/ClytWaitCursor.h"
+#include "dialog/ClytDialog.h"
+#include "environment/ProcessState.h"
+#include "environment/Words.h"
+
+void ClytPushButtonControl::CreateControl(ClytDialog* owner)
+{
+    CreateCommon(owner, ClytFit::ToLayout,
+                 [&](const CRect& rect) { return Create(caption, WS_TABSTOP, rect, owner, 0); });
+    ApplyOptionFlags();
+}
+
+void ClytPushButtonControl::SetOption(const CStringList& values, const CString& keyword)
+{
+    if (TakeCommonOption(values.GetHead()) == 0)
+        action.Set(keyword, values);
+}
+
+void ClytPushButtonControl::SetState(const CString& word, int on)
+{
+    if (lytSameWord(word, "ACTIVE") || lytSameWord(word, "VISIBLE"))
+        ClytWindowControl::SetState(word, on);
+}
+
+void ClytPushButtonControl::Click()
+{
+    if (armed == 1)
+    {
+        armed = 0;
+        if (RunAction() == After::Nothing)
+            return;
+        dialog->RunDependencies();
+    }
+    lytSetCursor(IDC_ARROW);
+}
+
+LRESULT ClytPushButtonControl::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
+{
+    try
+    {
+        TakeMessage(message, wParam);
+    }
+    catch (...)
+    {
+        // The button comes up before the user is told what failed.
+        CButton::WindowProc(message, wParam, lParam);
+        throw;
+    }
+    return CButton::WindowProc(message, wParam, lParam);
+}
+
+void ClytPushButtonControl::TakeMessage(UINT message, WPARAM wParam)
+{
+    if (message == BM_SETSTATE && wParam == TRUE)
+        Arm();
+    else if (message == BM_SETSTATE)
+    {
+        lytCommandSeen = 1;
+        Click();
+    }
+    else if (message == WM_KEYUP && (wParam == VK_SPACE || wParam == VK_RETURN))
+    {
+        // The window answers the space key with a second click, which is no longer armed.
+        if (wParam == VK_SPACE)
+            lytCommandSeen = 1;
+        lytGiveReturnKey(*this, *dialog);
+    }
+}
+
+void lytClickControl(ClytControl& target, ClytDialog& dialog)
+{
+    if (auto* button = dynamic_cast<ClytPushButtonControl*>(&target))
+    {
+        button->Arm();
+        button->Click();
+        return;
+    }
+    dialog.RunDependencies();
+    lytSetCursor(IDC_ARROW);
+}
+
+void lytGiveReturnKey(ClytControl& target, ClytDialog& dialog)
+{
+    if (lytCommandSeen != 1)
+        return;
+    lytClickControl(target, dialog);
+    lytCommandSeen = 0;
+}

@@ -1,0 +1,65 @@
+// The control that acts: a click runs the action of its statement, on other controls, with a library function or in a
+// nested dialog, and then the dialog's rules.
+#pragma once
+
+#include "controls/ClytWindowControl.h"
+
+class ClytPushButtonControl : public ClytWindowControl<CButton>
+{
+public:
+    using ClytWindowControl::ClytWindowControl;
+
+    void CreateControl(ClytDialog* owner) override;
+    void SetOption(const CStringList& values, const CString& keyword) override;
+    void SetControlFocus() override { SetFocus(); }
+    // Unlike other controls, a button knows only the words "ACTIVE" and "VISIBLE".
+    void SetState(const CString& word, int on) override;
+
+    // Makes the next click take effect.
+    void Arm() { armed = 1; }
+    // Runs the action, and the rules after it. A click that was not armed does nothing.
+    void Click();
+
+protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
+
+private:
+    // Whether the rules run behind the action.
+    enum class After
+    {
+        RunRules,
+        Nothing
+    };
+    struct Word;
+    static const Word words[];
+
+    // Acts on a message of mouse or keyboard before the window sees it.
+    void TakeMessage(UINT message, WPARAM wParam);
+    After RunAction();
+
+    After ToggleVisible();
+    After ToggleActive();
+    After AddShownText();
+    After DeleteItem();
+    After MoveUp();
+    After MoveDown();
+    After CallFunction();
+    After Reject();
+    After Fill();
+    After OpenDialog();
+
+    // The n-th value of the statement, from 0; a missing one raises the invalid-argument exception.
+    CString Value(int index) const;
+    // The control that the first value names, or null.
+    ClytControl* Target() const;
+    void ToggleCaption();
+    void FocusNextControl() const;
+
+    int armed = 0;
+};
+
+// Arms and clicks a button that a double click or a key means. A control that is no button has no action to run; the
+// rules run all the same.
+void lytClickControl(ClytControl& target, ClytDialog& dialog);
+// The Return key, on a button or by a default-button rule: it acts once for each command that reached the dialog.
+void lytGiveReturnKey(ClytControl& target, ClytDialog& dialog);

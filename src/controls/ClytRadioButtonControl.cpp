@@ -1,0 +1,38 @@
+#include "controls/ClytRadioButtonControl.h"
+
+#include "controls/ClytOptionGroup.h"
+#include "dialog/ClytDialog.h"
+
+ClytRadioButtonControl::ClytRadioButtonControl(CString controlName, ClytPosition topLeft, ClytSize extent,
+                                               int isFirstOfGroup, CString text)
+    : ClytWindowControl(std::move(controlName), topLeft, extent, std::move(text)), firstOfGroup(isFirstOfGroup)
+{
+}
+
+ClytRadioButtonControl::~ClytRadioButtonControl()
+{
+    if (group != nullptr)
+        group->Remove(*this);
+}
+
+void ClytRadioButtonControl::CreateControl(ClytDialog* owner)
+{
+    const DWORD style = WS_TABSTOP | BS_AUTORADIOBUTTON | (firstOfGroup != 0 ? WS_GROUP : 0U);
+    CreateCommon(owner, ClytFit::ToCaptionWithMargin,
+                 [&](const CRect& rect) { return Create(caption, style, rect, owner, 0); });
+    ApplyOptionFlags();
+    // Without a preselected button the whole group starts without a mark, its first button included.
+    SetCheck(preselected == 1 ? BST_CHECKED : BST_UNCHECKED);
+}
+
+void ClytRadioButtonControl::SetOption(const CStringList& values, const CString& /*keyword*/)
+{
+    if (TakeCommonOption(values.GetHead()) == 0)
+        optionValue = values.GetHead();
+}
+
+void ClytRadioButtonControl::SetValue(const CString& value)
+{
+    if (!value.IsEmpty())
+        SetCheck(value == optionValue ? BST_CHECKED : BST_UNCHECKED);
+}

@@ -1,0 +1,35 @@
+// One option of a group. Its value is its own text, checked or not; rules name the group instead.
+#pragma once
+
+#include "controls/ClytWindowControl.h"
+
+class ClytOptionGroup;
+
+class ClytRadioButtonControl : public ClytWindowControl<CButton>
+{
+public:
+    ClytRadioButtonControl(CString controlName, ClytPosition topLeft, ClytSize extent, int isFirstOfGroup,
+                           CString text);
+    // Leaves its group.
+    ~ClytRadioButtonControl() override;
+
+    void CreateControl(ClytDialog* owner) override;
+    void SetOption(const CStringList& values, const CString& keyword) override;
+    void SaveState() override { savedState = GetCheck(); }
+    void SetControlFocus() override { SetFocus(); }
+    // Its own value checks it and another one unchecks it; an empty one does nothing.
+    void SetValue(const CString& value) override;
+    CString GetValue() override { return optionValue; }
+    int IsChanged() override { return GetCheck() != savedState ? 1 : 0; }
+
+    // What the group does with its buttons, before their windows are there.
+    void JoinGroup(ClytOptionGroup* optionGroup) { group = optionGroup; }
+    void Preselect(const CString& value) { preselected = optionValue == value ? 1 : 0; }
+    void TakeGroupOption(const CString& word) { TakeCommonOption(word); }
+
+private:
+    CString optionValue;
+    int preselected = 0;
+    int firstOfGroup;
+    ClytOptionGroup* group = nullptr; // parts with its buttons before it dies
+};
