@@ -64,6 +64,36 @@ extern "C"
     int __stdcall lytTreeStartChildNode(const char* key);
     int __stdcall lytTreeReadChildNode(char* text, int textSize, char* path, int pathSize);
 
+    /* ---- Texts, lists and the log ----------------------------------------------------------------------------------- */
+
+    /* Copies the language text of a key to the buffer, with the argument behind the first apostrophe of the text.
+     * Returns 1 when the text is there; without it the buffer holds "no value present" and the result is 0. */
+    int __stdcall lytGetTextForKey(const char* section, const char* key, const char* argument, char* buffer, int size);
+
+    /* Copies the value of lyt.ini that a text of the form "section/key" names to the buffer, and returns 1. A key that
+     * is not there gives "Entry not found" and 1 all the same. A path without "/" shows message 250 and gives 0. */
+    int __stdcall lytGetTextFromIniFile(const char* path, char* buffer, int size);
+
+    /* Starts a list: the value of lyt.ini named by "section/key", cut at its commas. Returns 1 when there is one. A
+     * key that is not there is a list of the one item "Entry not found"; a path without "/" is none. */
+    int __stdcall lytListFromIniStart(const char* path);
+
+    /* Copies the next item to both buffers and returns 1, or returns 0 at the end of the list and writes nothing.
+     * Nothing is trimmed. Also writes a NUL at value[valueSize] and display[displaySize], one byte beyond either
+     * stated size. */
+    int __stdcall lytListFromIniNext(char* value, int valueSize, char* display, int displaySize);
+
+    /* Writes a text to the log, a block of its own between two banners, when the level is not above the key "level" of
+     * the section "LogLevel" in lyt.ini. The log is the document's name up to its first dot, with ".log" behind it;
+     * level 0 in lyt.ini means no log.
+     *
+     * A log that cannot be opened (207), written (208) or closed (209) raises a C++ exception, thrown as a pointer to
+     * the library's ClytException: a failure that leaves the function. A C++ caller of the same tool chain can catch
+     * it, with catch (...) at least. A caller in any other language cannot, and its process may end: it should let
+     * lyt.ini ask for a log only where the document's folder can be written. The log is closed by then, and the next
+     * call starts anew. */
+    void __stdcall lytWriteToLogFile(const char* text, int level);
+
 #ifdef __cplusplus
 }
 #endif

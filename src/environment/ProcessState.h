@@ -8,6 +8,8 @@
 extern CString lytInputKey;
 // The group key of the running wizard step.
 extern CString lytWizardGroup;
+// The unread rest of a comma-separated value of `lyt.ini`.
+extern CString lytIniList;
 // 1 once a command reached a dialog; the push button, which calls it KeyCommandSeen, lets Return act only then.
 extern int lytCommandSeen;
 // The number of confirmations of the tree since a property dialog reset it, -1 after one in the wizard.
