@@ -37,6 +37,31 @@ extern "C"
  * read stay. The library stays usable; start again with lytInitialiseEnvironment. */
     void __stdcall FreeGlobalObject(void);
 
+    /* ---- Property dialogs ------------------------------------------------------------------------------------------- */
+
+    /* Show the dialog of a placeholder's kind, with the key scanned into its controls, until the user ends it.
+ *
+ * Return 1 when the placeholder changed, 2 when it did not, and 0 when there is nothing to take over: the user
+ * cancelled, or the dialog could not be shown and a message said why. After 0 the buffers are as they were. */
+
+    /* The descriptions lytInSym.dlg and lytInPhr.dlg. A result that is empty leaves the buffer as it was. One that is
+ * longer than the size leaves it empty and writes a NUL at result[size], one byte beyond it. */
+    int __stdcall lytSymbolPropertyDialog(const char* key, char* result, int size);
+    int __stdcall lytPhrasePropertyDialog(const char* key, char* result, int size);
+
+    /* The description lytCdGrp.dlg for kind 0, lytRpGrp.dlg for any other.
+ *
+ * The dialog's result is cut at its first ")/1": what stands before the "/" goes to `first`, what stands behind it to
+ * `second`; without ")/1" both get an empty text. Of a key that holds "BNG", and of any key with kind 1, the dialog
+ * sees only what begins with the first "("; after a change the part before it is put in front again, and bytes 5, 6
+ * and 7 of the key are written over those of `second`, if key and second buffer have 8 bytes or more.
+ *
+ * A first part that is longer than its buffer is refused with a message: the buffer is then empty, and 0 is returned.
+ * A second part that is too long leaves its buffer empty and writes a NUL at second[secondSize]. A second buffer that
+ * is null, or whose size is below 1, is not written to. */
+    int __stdcall lytGroupPropertyDialog(int kind, const char* key, char* first, int firstSize, char* second,
+                                         int secondSize);
+
     /* ---- Catalogue -------------------------------------------------------------------------------------------------- */
 
     /* Shows the catalogue and copies what the user picks to the target. The first character of the request is the kind:

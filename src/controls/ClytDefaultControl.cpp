@@ -36,8 +36,8 @@ void ClytDefaultControl::CreateControl(ClytDialog* owner)
     if (kind < 0 || kind >= static_cast<int>(std::size(buttonKinds)))
         return;
     const ButtonKind& button = buttonKinds[kind];
-    const CRect rect(position.x, position.y, position.x + size.width, position.y + size.height);
-    Create(lytEnvironment.GetText("Buttons", button.textKey), button.style, rect, owner, button.id);
+    Create(lytEnvironment.GetText("Buttons", button.textKey), button.style, lytLayoutRect(position, size), owner,
+           button.id);
     if (const CWnd* child = owner->GetDlgItem(static_cast<int>(button.id)))
     {
         child->ShowWindow(SW_SHOW);

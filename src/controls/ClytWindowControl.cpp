@@ -2,6 +2,7 @@
 
 #include "dialog/ClytDialog.h"
 
+#include <algorithm>
 #include <cstring>
 
 namespace
@@ -16,6 +17,18 @@ HGDIOBJ DialogFont(const ClytDialog& dialog)
 }
 
 } // namespace
+
+CRect lytLayoutRect(ClytPosition position, ClytSize size)
+{
+    const auto cut = [](int length)
+    {
+        constexpr int limit = 1 << 29;
+        return std::clamp(length, -limit, limit);
+    };
+    const int left = cut(position.x);
+    const int top = cut(position.y);
+    return {left, top, left + cut(size.width), top + cut(size.height)};
+}
 
 void lytTakeDialogFont(const CWnd& window, const ClytDialog& dialog)
 {

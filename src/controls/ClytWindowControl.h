@@ -15,6 +15,8 @@ enum class ClytFit
     ToCaptionWithMargin
 };
 
+// The rectangle of a layout statement. Lengths beyond any window are cut, so that nothing overflows.
+CRect lytLayoutRect(ClytPosition position, ClytSize size);
 // Gives a control's window the font of the dialog, or none when the dialog has none.
 void lytTakeDialogFont(const CWnd& window, const ClytDialog& dialog);
 // Sizes a control's window to its text as displayed, in the dialog's font, and moves it to the position.
@@ -40,8 +42,7 @@ protected:
     template <class CREATE>
     void CreateCommon(ClytDialog* owner, ClytFit fit, CREATE create)
     {
-        const CRect rect(position.x, position.y, position.x + size.width, position.y + size.height);
-        if (!create(rect))
+        if (!create(lytLayoutRect(position, size)))
             lytRaise("202", CString(), name);
         dialog = owner;
         lytTakeDialogFont(*this, *owner);

@@ -8,6 +8,8 @@
 #include "res/resource.h"
 #include "tree/ClytNode.h"
 
+#include <algorithm>
+
 namespace
 {
 
@@ -27,9 +29,13 @@ constexpr Scale scales[] = {
     {120, 1.0033F, 1.3159F},
 };
 
-int Scaled(int length, float factor)
+// The length that gives a client area of the wanted length, when a window of the wanted length has this client area;
+// scaled and cut to an integer. No window is longer than the limit, whatever a description says.
+int OuterLength(int wanted, int client, float factor)
 {
-    return static_cast<int>(static_cast<float>(length) * factor);
+    constexpr float limit = 1 << 30;
+    const float length = (2.0F * static_cast<float>(wanted) - static_cast<float>(client)) * factor;
+    return static_cast<int>(std::clamp(length, -limit, limit));
 }
 
 } // namespace
@@ -41,7 +47,6 @@ END_MESSAGE_MAP()
 ClytDialog::ClytDialog(const CString& descriptionFile, const CString& defineList)
     : CDialog(IDD_PROPERTIES), ClytDialogRules(descriptionFile, defineList)
 {
-    lytTreeConfirmCount = 0;
 }
 
 BOOL ClytDialog::OnInitDialog()
@@ -85,8 +90,8 @@ void ClytDialog::SizeWindow(int width, int height, const CString& windowCaption)
     SetWindowPos(nullptr, 0, 0, width, height, SWP_HIDEWINDOW | SWP_NOACTIVATE | SWP_NOREDRAW);
     CRect client;
     GetClientRect(&client);
-    SetWindowPos(nullptr, 0, 0, Scaled(2 * width - client.Width(), lytScaleX),
-                 Scaled(2 * height - client.Height(), lytScaleY), SWP_HIDEWINDOW | SWP_FRAMECHANGED);
+    SetWindowPos(nullptr, 0, 0, OuterLength(width, client.Width(), lytScaleX),
+                 OuterLength(height, client.Height(), lytScaleY), SWP_HIDEWINDOW | SWP_FRAMECHANGED);
     SetWindowText(windowCaption);
     CenterWindow();
 }
@@ -118,7 +123,6 @@ void ClytDialog::OnOK()
             lytGiveReturnKey(*button, *this);
         return;
     }
-    lytTreeConfirmCount = 0;
     if (ComposeResult() != 0)
         CDialog::OnOK();
 }

@@ -1,0 +1,152 @@
+// The exports that show the dialog of a placeholder: a key goes in, and comes out as the user has changed it.
+#include "lyt64.h"
+
+#include "dialog/ClytDialog.h"
+#include "environment/ClytEnvironment.h"
+#include "environment/ClytException.h"
+#include "environment/ProcessState.h"
+#include "exports/ExportFrame.h"
+
+#include <algorithm>
+
+namespace
+{
+
+enum Outcome
+{
+    nothing = 0,
+    changed = 1,
+    unchanged = 2
+};
+
+// Where the kind of a placeholder stands in its key, when the key is long enough to have one.
+constexpr int kindBegin = 5;
+constexpr int kindEnd = 8;
+
+CString DescriptionFile(const char* name)
+{
+    return lytEnvironment.GetDialogPath() + "\\" + name;
+}
+
+int EditPlaceholder(const char* description, const CString& key, char* result, int size)
+{
+    ClytDialog dialog(DescriptionFile(description), lytEnvironment.GetDialogDefine());
+    lytInputKey = key;
+    int outcome = nothing;
+    if (dialog.DoModal() == IDOK)
+    {
+        if (!dialog.GetResult().IsEmpty())
+            CopyTextMarkingEnd(result, size, dialog.GetResult());
+        outcome = TextIn(result, size) == key ? unchanged : changed;
+    }
+    lytInputKey.Empty();
+    return outcome;
+}
+
+// One key of a group. The part before the bracket belongs to the document and is kept from the dialog.
+class GroupKey
+{
+public:
+    GroupKey(int groupKind, CString text)
+        : m_kind(groupKind), m_key(std::move(text)), m_input(m_key), m_isSplit(IsToBeSplit(groupKind, m_key))
+    {
+        const int bracket = m_isSplit ? m_key.Find('(') : -1;
+        if (bracket < 0)
+            return;
+        m_head = m_key.Left(bracket);
+        m_input = m_key.Mid(bracket);
+    }
+
+    // What the dialog is to scan.
+    const CString& Input() const { return m_input; }
+    bool IsUnchanged(const CString& tail) const
+    {
+        return m_isSplit && (m_input == tail || (m_kind == 0 && m_input.Find(tail) >= 0));
+    }
+    // Gives back to a changed key what the dialog has not seen.
+    void Rejoin(const CString& tail, char* first, int firstSize, char* second, int secondSize) const
+    {
+        if (m_key.IsEmpty() || !m_isSplit)
+            return;
+        CopyText(first, firstSize, m_head + tail);
+        if (IsUsable(second, secondSize) && secondSize >= kindEnd && m_key.GetLength() >= kindEnd)
+            std::copy_n(m_key.GetString() + kindBegin, kindEnd - kindBegin, second + kindBegin);
+    }
+
+private:
+    static bool IsToBeSplit(int groupKind, const CString& text)
+    {
+        return (groupKind == 1 && !text.IsEmpty()) || text.Find("BNG") >= 0;
+    }
+
+    int m_kind;
+    CString m_key;
+    CString m_input;
+    CString m_head;
+    bool m_isSplit;
+};
+
+// Hands out the two parts of a group dialog's result; false when the first is too long for its buffer.
+bool HandOutParts(const CString& result, char* first, int firstSize, char* second, int secondSize)
+{
+    const int mark = result.Find(")/1");
+    const CString left = mark >= 0 ? result.Left(mark + 1) : CString();
+    const CString right = mark >= 0 ? result.Mid(mark + 2) : CString();
+    CopyText(first, firstSize, left);
+    if (left.GetLength() > firstSize)
+    {
+        CString room;
+        room.Format("%d", firstSize);
+        lytReport("254", CString(), room);
+        return false;
+    }
+    if (IsUsable(second, secondSize))
+        CopyTextMarkingEnd(second, secondSize, right);
+    return true;
+}
+
+int EditGroup(const GroupKey& key, const char* description, char* first, int firstSize, char* second, int secondSize)
+{
+    ClytDialog dialog(DescriptionFile(description), lytEnvironment.GetDialogDefine());
+    if (!key.Input().IsEmpty())
+        lytInputKey = key.Input();
+    if (dialog.DoModal() != IDOK)
+        return nothing;
+    const CString& result = dialog.GetResult();
+    if (!result.IsEmpty() && !HandOutParts(result, first, firstSize, second, secondSize))
+        return nothing;
+
+    const CString text = TextIn(first, firstSize);
+    const int bracket = text.Find('(');
+    const CString tail = bracket >= 0 ? text.Mid(bracket) : CString();
+    if (key.IsUnchanged(tail))
+        return unchanged;
+    key.Rejoin(tail, first, firstSize, second, secondSize);
+    return changed;
+}
+
+} // namespace
+
+int __stdcall lytSymbolPropertyDialog(const char* key, char* result, int size)
+{
+    LYT_EXPORT_FRAME();
+    return IsUsable(result, size) ? EditPlaceholder("lytInSym.dlg", key, result, size) : nothing;
+}
+
+int __stdcall lytPhrasePropertyDialog(const char* key, char* result, int size)
+{
+    LYT_EXPORT_FRAME();
+    return IsUsable(result, size) ? EditPlaceholder("lytInPhr.dlg", key, result, size) : nothing;
+}
+
+int __stdcall lytGroupPropertyDialog(int kind, const char* key, char* first, int firstSize, char* second,
+                                     int secondSize)
+{
+    LYT_EXPORT_FRAME();
+    if (!IsUsable(first, firstSize))
+        return nothing;
+    const char* description = kind == 0 ? "lytCdGrp.dlg" : "lytRpGrp.dlg";
+    const int outcome = EditGroup(GroupKey(kind, key), description, first, firstSize, second, secondSize);
+    lytInputKey.Empty();
+    return outcome;
+}
