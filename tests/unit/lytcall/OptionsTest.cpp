@@ -1,0 +1,72 @@
+#include "lytcall/Options.h"
+
+#include <gtest/gtest.h>
+
+using lytcall::ReadCommandLine;
+using lytcall::Request;
+
+namespace
+{
+
+std::string Mistake(const std::vector<std::string>& words)
+{
+    try
+    {
+        ReadCommandLine(words);
+    }
+    catch (const lytcall::UsageError& error)
+    {
+        return error.what();
+    }
+    return "read without complaint";
+}
+
+} // namespace
+
+TEST(Options, TellsCommandOperandsAndOptionsApart)
+{
+    const Request request = ReadCommandLine({"group", "--kind", "0", "a(b)", "--define", "X", "--define", "Y"});
+    EXPECT_EQ(request.command, "group");
+    EXPECT_EQ(request.operands, std::vector<std::string>{"a(b)"});
+    EXPECT_EQ(request.Number("--kind", 1), 0);
+    EXPECT_EQ(request.Texts("--define"), (std::vector<std::string>{"X", "Y"}));
+    EXPECT_EQ(request.Text("--script", "none"), "none");
+    EXPECT_EQ(request.Number("--size", 7), 7);
+}
+
+TEST(Options, TheLastOfTwoValuesCounts)
+{
+    EXPECT_EQ(ReadCommandLine({"doc", "--size", "1", "--size", "-2"}).Number("--size", 0), -2);
+}
+
+TEST(Options, AreOverBehindTwoHyphens)
+{
+    const Request request = ReadCommandLine({"find", "--", "--key"});
+    EXPECT_EQ(request.operands, std::vector<std::string>{"--key"});
+}
+
+TEST(Options, NothingAndHelpAskForHelp)
+{
+    EXPECT_EQ(ReadCommandLine({}).command, "help");
+    EXPECT_EQ(ReadCommandLine({"--help"}).command, "help");
+    EXPECT_EQ(ReadCommandLine({"group", "a", "b", "--help"}).command, "help");
+}
+
+TEST(Options, MistakesTellTheWayOut)
+{
+    EXPECT_EQ(Mistake({"symbl"}), "there is no command \"symbl\"; did you mean \"symbol\"?");
+    EXPECT_EQ(Mistake({"doc", "--scrpt", "x"}), "there is no option --scrpt; did you mean \"--script\"?");
+    EXPECT_EQ(Mistake({"doc", "--script"}), "option --script needs FILE behind it");
+    EXPECT_EQ(Mistake({"doc", "--size", "big"}), "option --size needs a number and not \"big\"");
+    EXPECT_EQ(Mistake({"find"}), "something is missing behind \"find\"; write: lytcall find KEY");
+    EXPECT_EQ(Mistake({"find", "a", "b"}), "\"b\" is one word too many; write: lytcall find KEY");
+}
+
+TEST(Options, HelpNamesEveryCommandAndOption)
+{
+    const std::string help = lytcall::HelpText();
+    for (const lytcall::CommandForm& form : lytcall::CommandForms())
+        EXPECT_NE(help.find(form.word), std::string::npos) << form.word;
+    for (const lytcall::OptionForm& form : lytcall::OptionForms())
+        EXPECT_NE(help.find(form.word), std::string::npos) << form.word;
+}

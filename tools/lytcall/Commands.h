@@ -1,0 +1,16 @@
+// The commands: each calls its functions of the library and prints what comes back.
+#pragma once
+
+#include "lytcall/Session.h"
+
+namespace lytcall
+{
+
+// Runs the command of the session; the last call's result decides whether it counts as failed. Raises CallError and
+// ScriptError.
+int RunCommand(const Session& session);
+
+// The report, in a file of its own.
+int RunReport(const Session& session);
+
+} // namespace lytcall

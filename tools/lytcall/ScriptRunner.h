@@ -1,0 +1,49 @@
+// Takes the steps of a script on the windows that a call opens, and a picture of the first of them.
+//
+// A timer of the calling thread fires inside every modal loop, between two messages: a step never runs inside one.
+#pragma once
+
+#include "lytcall/Script.h"
+#include "lytcall/StepActions.h"
+
+#include <windows.h>
+
+#include <string>
+#include <vector>
+
+namespace lytcall
+{
+
+class ScriptRunner
+{
+public:
+    // Both file names may be empty: then no step is taken, no picture made. Raises ScriptError for a script that cannot
+    // be read.
+    ScriptRunner(const std::string& scriptFile, const std::string& pictureFile, int secondsPerStep);
+    ScriptRunner(const ScriptRunner&) = delete;
+    ScriptRunner& operator=(const ScriptRunner&) = delete;
+    ~ScriptRunner();
+
+    // To be called when the call has come back: raises ScriptError when a step failed or was left over.
+    void Finish();
+
+private:
+    static void CALLBACK Tick(HWND window, UINT message, UINT_PTR timer, DWORD time);
+    void Run();
+    void TakeStep(const Step& step);
+    void WatchEnd();
+    void Fail(const Step& step, const std::string& reason);
+    void RestartClock();
+
+    std::string m_file;
+    std::string m_picture;
+    std::vector<Step> m_steps;
+    size_t m_next = 0;
+    Stage m_stage;
+    std::string m_failure;
+    ULONGLONG m_patience;
+    ULONGLONG m_deadline = 0;
+    UINT_PTR m_timer = 0;
+};
+
+} // namespace lytcall

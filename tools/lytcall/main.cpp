@@ -1,0 +1,90 @@
+// lytcall: calls any function of lyt64.dll from a command line, for trying descriptions out and for unattended checks.
+#include "lytcall/Commands.h"
+#include "lytcall/Script.h"
+
+#include <cstdio>
+#include <exception>
+
+namespace
+{
+
+enum ExitCode
+{
+    done = 0,
+    callFailed = 1,
+    notUnderstood = 2
+};
+
+std::string ScriptHelp()
+{
+    std::string text = "A script takes one step a line; '#' begins a comment.\n\nsteps:\n";
+    for (const lytcall::StepForm& form : lytcall::StepForms())
+    {
+        std::string left = std::string("  ") + form.word + " " + form.arguments;
+        left.append(left.size() < 34 ? 34 - left.size() : 1, ' ');
+        text += left + form.meaning + "\n";
+    }
+    text += "\nA CONTROL is one of\n"
+            "  \"CAPTION\"   the button with that caption, or the field behind the label with it\n"
+            "  edit2       the second edit field; so with";
+    for (const std::string& word : lytcall::TypeWords())
+        text += " " + word;
+    text += "\n  #5          the fifth control of the window, counted as the description lists them\n"
+            "  focus       the control with the focus\n\n"
+            "Texts stand in quotes; \\\" \\\\ \\n \\t stand for themselves, a line feed and a tab. A step waits until "
+            "it can\n"
+            "be taken, at most as long as --limit says; one that cannot ends the call with a message that tells file, "
+            "line\n"
+            "and column, the reason and the way out.\n";
+    return text;
+}
+
+int Run(const lytcall::Request& request)
+{
+    if (request.command == "help")
+    {
+        std::printf("%s", request.Operand(0, "") == "script" ? ScriptHelp().c_str() : lytcall::HelpText().c_str());
+        return done;
+    }
+    const lytcall::Session session(request);
+    return lytcall::RunCommand(session) != 0 ? done : callFailed;
+}
+
+int Tell(const std::exception& error, ExitCode code)
+{
+    std::fflush(stdout);
+    std::fprintf(stderr, "lytcall: %s\n", error.what());
+    return code;
+}
+
+} // namespace
+
+int main(int count, char** words)
+{
+    SetConsoleOutputCP(CP_UTF8);
+    try
+    {
+        return Run(lytcall::ReadCommandLine({words + 1, words + count}));
+    }
+    catch (const lytcall::UsageError& error)
+    {
+        Tell(error, notUnderstood);
+        std::fprintf(stderr, "`lytcall --help` lists commands and options.\n");
+        return notUnderstood;
+    }
+    catch (const lytcall::ScriptError& error)
+    {
+        return Tell(error, notUnderstood);
+    }
+    catch (const std::exception& error)
+    {
+        return Tell(error, callFailed);
+    }
+    catch (...)
+    {
+        // The log and the text lookup raise the library's own kind of exception, which no other module knows.
+        std::fflush(stdout);
+        std::fprintf(stderr, "lytcall: the library raised an exception; is the folder of the document writable?\n");
+        return callFailed;
+    }
+}
