@@ -119,6 +119,19 @@ extern "C"
      * call starts anew. */
     void __stdcall lytWriteToLogFile(const char* text, int level);
 
+    /* ---- Wizard ----------------------------------------------------------------------------------------------------- */
+
+    /* Leads through a new placeholder: the user picks an entry of the catalogue and fills in the entry's dialog
+     * (lytWzGrp.dlg, lytWzPhr.dlg or lytWzSym.dlg). Call again while the result is 1:
+     *   0  nothing chosen, or cancelled; or the last text of a group, in the buffer
+     *   1  text of a group in the buffer, and more to come with the next call
+     *   2  text of a symbol in the buffer
+     *   3  text of a phrase in the buffer
+     * A group's texts are what its dialog's result holds behind "/LIST" and "{", separated by "|"; the first text is what
+     * stands before, brace included. A list that ends in "|" loses its last text: that call returns 0 and leaves the buffer
+     * as it was. A caller that stops early gets the rest with its next call, before the catalogue is shown again. */
+    int __stdcall lytWizard(char* buffer, int size);
+
 #ifdef __cplusplus
 }
 #endif
