@@ -1,6 +1,8 @@
 // A data library for description files: lists and single texts out of lytdata.txt, which lies beside the library.
 //
 //     OpenList, NextItem    the items of the list that the parameter names; without one, of the first list
+//     OpenMarked, NextItem  of a list, the items that a text marks with an X: the parameter is `Xroof|-walls/list`, as
+//                           a check list writes its marks; without marks, all of them
 //     OpenNames, NextName   the names of all lists
 //     LookUp                the value of one item: the parameter is `list/item`
 //     Remember              an action: keeps the parameter, so that the list `remembered` offers it
@@ -19,6 +21,7 @@
 #define LYTDATA_EXPORT extern "C" __declspec(dllexport)
 
 LYTDATA_EXPORT lytDataStart OpenList;
+LYTDATA_EXPORT lytDataStart OpenMarked;
 LYTDATA_EXPORT lytDataNext NextItem;
 LYTDATA_EXPORT lytDataStart OpenNames;
 LYTDATA_EXPORT lytDataNext NextName;
@@ -142,6 +145,18 @@ void OpenList(const char* parameter)
 int NextItem(char* display, int size, char* value, int valueSize)
 {
     return Deliver(openItems, display, size, value, valueSize);
+}
+
+void OpenMarked(const char* parameter)
+{
+    const std::string request = parameter;
+    const size_t slash = std::min(request.rfind('/'), request.size());
+    const std::string marks = "|" + request.substr(0, slash) + "|";
+    std::vector<Item> items = ItemsOf(request.substr(std::min(slash + 1, request.size())));
+    if (marks != "||")
+        std::erase_if(items,
+                      [&](const Item& item) { return marks.find("|X" + item.value + "|") == std::string::npos; });
+    openItems.Open(std::move(items));
 }
 
 void OpenNames(const char* /*parameter*/)
