@@ -54,3 +54,52 @@ DWORD RegistryKey::ReadNumber(const char* valueName) const
         RegQueryValueExA(m_key, valueName, nullptr, &type, static_cast<BYTE*>(static_cast<void*>(&number)), &size);
     return result == ERROR_SUCCESS && type == REG_DWORD ? number : 0;
 }
+
+bool RegistryKey::ReadSubkey(const char* subkey, LONG size, CString& text) const
+{
+    std::string data(static_cast<size_t>(size), '\0');
+    if (RegQueryValueA(m_key, subkey, data.data(), &size) != ERROR_SUCCESS)
+        return false;
+    text = data.c_str();
+    return true;
+}
+
+LSTATUS RegistryKey::EnumKey(DWORD index, DWORD size, CString& name) const
+{
+    std::string text(size, '\0');
+    const LSTATUS result = RegEnumKeyA(m_key, index, text.data(), size);
+    if (result == ERROR_SUCCESS)
+        name = text.c_str();
+    return result;
+}
+
+LSTATUS RegistryKey::EnumValue(DWORD index, DWORD size, RegistryValue& value) const
+{
+    std::string name(size, '\0');
+    DWORD nameSize = size;
+    DWORD type = REG_NONE;
+    value.data.assign(size, '\0');
+    const LSTATUS result = RegEnumValueA(m_key, index, name.data(), &nameSize, nullptr, &type,
+                                         static_cast<BYTE*>(static_cast<void*>(value.data.data())), &size);
+    value.name = name.c_str();
+    value.type = type;
+    value.data.resize(result == ERROR_SUCCESS ? size : 0);
+    return result;
+}
+
+std::vector<CString> RegistryKey::SubkeyNames(DWORD size) const
+{
+    std::vector<CString> names;
+    CString name;
+    for (DWORD index = 0; EnumKey(index, size, name) == ERROR_SUCCESS; ++index)
+        names.push_back(name);
+    return names;
+}
+
+DWORD RegistryKey::CountValues() const
+{
+    DWORD count = 0;
+    RegQueryInfoKeyA(m_key, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, &count, nullptr, nullptr, nullptr,
+                     nullptr);
+    return count;
+}

@@ -1,8 +1,9 @@
 // An open key of the registry, for reading; closes itself.
 #pragma once
 
-#include <afx.h>
+#include "sysinfo/RegistryValue.h"
 
+#include <vector>
 #include <windows.h>
 
 class RegistryKey
@@ -25,6 +26,16 @@ public:
     bool ReadWholeText(const char* valueName, DWORD size, CString& text) const;
     // A DWORD value, 0 when it cannot be read.
     DWORD ReadNumber(const char* valueName) const;
+    // The default value of a subkey, or of the key itself for null.
+    bool ReadSubkey(const char* subkey, LONG size, CString& text) const;
+
+    // The subkey or value at an index; the platform's result. What does not fit into buffers of `size` bytes fails.
+    LSTATUS EnumKey(DWORD index, DWORD size, CString& name) const;
+    LSTATUS EnumValue(DWORD index, DWORD size, RegistryValue& value) const;
+    // The names of the subkeys up to the first that cannot be had.
+    std::vector<CString> SubkeyNames(DWORD size) const;
+    // 0 when it cannot be told.
+    DWORD CountValues() const;
 
 private:
     // The platform's result; `size` receives the size that the data has.

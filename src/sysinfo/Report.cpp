@@ -1,6 +1,7 @@
 #include "sysinfo/Report.h"
 
 #include "environment/ClytEnvironment.h"
+#include "sysinfo/DirectoryName.h"
 #include "sysinfo/Probes.h"
 #include "sysinfo/RegistryKey.h"
 #include "sysinfo/ReportFrame.h"
@@ -34,11 +35,6 @@ CString NameFrom(BOOL WINAPI getName(char* name, DWORD* size))
     DWORD size = sizeof name;
     getName(name, &size);
     return name;
-}
-
-CString WithSeparator(const CString& directory)
-{
-    return directory.Right(1) == "\\" ? directory : directory + "\\";
 }
 
 void AddWorkstation()

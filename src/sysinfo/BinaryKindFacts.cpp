@@ -1,0 +1,13 @@
+#include "sysinfo/BinaryKind.h"
+
+#include <windows.h>
+
+static_assert(lytBinary64 == SCS_64BIT_BINARY);
+
+std::optional<unsigned> BinaryKindOf(const CString& fileName)
+{
+    DWORD kind = 0;
+    if (!GetBinaryTypeA(fileName, &kind))
+        return {};
+    return kind;
+}
