@@ -1,0 +1,44 @@
+#include "sysinfo/EnabledLanguages.h"
+
+#include "sysinfo/LanguageTags.h"
+#include "sysinfo/RegistryDump.h"
+#include "sysinfo/WordDirectories.h"
+
+#include <cstdlib>
+
+namespace
+{
+
+// From this version on the values bear tags.
+constexpr int firstWithTags = 16;
+
+CString DataText(const RegistryValue& value)
+{
+    if (value.type != registryNumber)
+        return TextOf(value);
+    CString text;
+    text.Format("%d", static_cast<int>(NumberOf(value)));
+    return text;
+}
+
+} // namespace
+
+int VersionNumberOf(const CString& currentVersion)
+{
+    const int dot = currentVersion.Find('.');
+    return std::atoi(dot < 0 ? currentVersion : currentVersion.Left(dot));
+}
+
+CString EnabledLanguagesKey(int n)
+{
+    return OfficeKey(n, n < firstWithTags ? R"(Common\LanguageResources\EnabledLanguages\)"
+                                          : R"(Common\LanguageResources\EnabledEditingLanguages\)");
+}
+
+CString EnabledLanguageLine(int n, const RegistryValue& value)
+{
+    CString language = value.name;
+    if (n < firstWithTags)
+        FindLanguageTag(std::atoi(value.name), language);
+    return language + "=" + DataText(value);
+}

@@ -1,0 +1,37 @@
+#include "sysinfo/KernelVersion.h"
+
+#include <cstdio>
+
+unsigned LanguageAndCodePage(unsigned translation)
+{
+    return translation << 16 | translation >> 16;
+}
+
+std::array<int, 4> VersionNumbers(const KernelVersionFacts& facts)
+{
+    if (!facts.fileVersion)
+        return facts.fixedNumbers;
+    const CString& text = *facts.fileVersion;
+    const int separator = text.FindOneOf(",.");
+    const bool hasCommas = separator >= 0 && text[separator] == ',';
+    std::array<int, 4> numbers = {};
+    std::sscanf(text, hasCommas ? "%d,%d,%d,%d" : "%d.%d.%d.%d", &numbers[0], &numbers[1], &numbers[2], &numbers[3]);
+    return numbers;
+}
+
+CString KernelDateText(unsigned day, unsigned month, unsigned year, unsigned hour, unsigned minute)
+{
+    CString text;
+    text.Format("%02u.%02u.%04u %02u:%02u", day, month, year, hour, minute);
+    return text;
+}
+
+CString KernelVersionText(const KernelVersionFacts& facts)
+{
+    const std::array<int, 4> numbers = VersionNumbers(facts);
+    const bool hasDate = numbers != std::array<int, 4>{};
+    CString text;
+    text.Format("%s; %d,%d,%d,%d; %s; %s", facts.productVersion.GetString(), numbers[0], numbers[1], numbers[2],
+                numbers[3], facts.path.GetString(), hasDate ? facts.date.GetString() : "");
+    return text;
+}

@@ -1,0 +1,23 @@
+#include "sysinfo/WordCurrent.h"
+
+#include "sysinfo/BinaryKind.h"
+
+#include <cstdlib>
+
+CString WordVersionOf(const CString& program)
+{
+    return program.Mid(program.ReverseFind('.') + 1) + ".0";
+}
+
+bool HasBits(const CString& version)
+{
+    return std::atoi(version) >= 14;
+}
+
+CString WordCurrentText(const WordCurrentFacts& facts)
+{
+    if (!facts.program)
+        return "";
+    const CString version = WordVersionOf(*facts.program);
+    return HasBits(version) ? version + BitsText(facts.binaryKind) : version;
+}
