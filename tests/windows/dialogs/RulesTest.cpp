@@ -1,0 +1,252 @@
+// When the rules of a live dialog fire, and in what order.
+#include "DialogFixture.h"
+
+namespace
+{
+
+class Rules : public DialogFixture
+{
+protected:
+    Rules()
+    {
+        description.controls +=
+            "TextBox 10, 40, 150, 15, .A\nTextBox 10, 60, 150, 15, .B\nTextBox 10, 80, 150, 15, .C\n";
+    }
+    static HWND Key(HWND dialog) { return robot::ChildAt(dialog, 0); }
+    static HWND A(HWND dialog) { return robot::ChildAt(dialog, 3); }
+    static HWND B(HWND dialog) { return robot::ChildAt(dialog, 4); }
+    static HWND C(HWND dialog) { return robot::ChildAt(dialog, 5); }
+    static bool IsOn(HWND control) { return IsWindowEnabled(control) != FALSE; }
+    static bool IsShown(HWND control) { return IsWindowVisible(control) != FALSE; }
+
+    Description description;
+};
+
+} // namespace
+
+TEST_F(Rules, FireOnceAtTheEndOfConstruction)
+{
+    description.rules = "A/ACTIVE = Key(x)\nB/VISIBLE = Key(x)\n";
+    Describe(description);
+    On([](HWND dialog) { EXPECT_TRUE(IsOn(A(dialog)) && IsShown(B(dialog))); });
+    EXPECT_EQ(ShowAndPress(IDOK, "x"), 2);
+    On([](HWND dialog) { EXPECT_TRUE(!IsOn(A(dialog)) && !IsShown(B(dialog))); });
+    EXPECT_EQ(ShowAndPress(IDOK, "y"), 2);
+}
+
+TEST_F(Rules, FireAtEveryCommand)
+{
+    description.rules = "A/ACTIVE = Key(x)\n";
+    Describe(description);
+    On(
+        [](HWND dialog)
+        {
+            EXPECT_FALSE(IsOn(A(dialog)));
+            robot::TypeText("x");
+        });
+    On(
+        [](HWND dialog)
+        {
+            EXPECT_TRUE(IsOn(A(dialog)));
+            EnableWindow(A(dialog), FALSE);
+            SendCommand(dialog);
+            EXPECT_TRUE(IsOn(A(dialog))) << "a state word is applied in every run";
+        });
+    EXPECT_EQ(ShowAndPress(IDOK, ""), 1);
+}
+
+TEST_F(Rules, AnyOtherStateWordShowsAndHides)
+{
+    description.rules = "A/NONSENSE = Key(x)\n";
+    Describe(description);
+    On([](HWND dialog) { EXPECT_TRUE(!IsShown(A(dialog)) && IsOn(A(dialog))); });
+    EXPECT_EQ(ShowAndPress(IDOK, "y"), 2);
+}
+
+TEST_F(Rules, OnePassInFileOrderAndNoSecond)
+{
+    // The rule on C looks at B, which the rule below it switches.
+    description.rules = "C/VISIBLE = B\nB/ACTIVE = A\n";
+    Describe(description);
+    On(
+        [](HWND dialog)
+        {
+            EnableWindow(A(dialog), FALSE);
+            SendCommand(dialog);
+            EXPECT_FALSE(IsOn(B(dialog)));
+            EXPECT_TRUE(IsShown(C(dialog))) << "the change waits for the next command";
+            SendCommand(dialog);
+            EXPECT_FALSE(IsShown(C(dialog)));
+        });
+    EXPECT_EQ(ShowAndPress(IDOK, "a"), 2);
+}
+
+TEST_F(Rules, LaterRuleSeesWhatAnEarlierOneDid)
+{
+    description.rules = "B/ACTIVE = A\nC/VISIBLE = B\n";
+    Describe(description);
+    On(
+        [](HWND dialog)
+        {
+            EnableWindow(A(dialog), FALSE);
+            SendCommand(dialog);
+            EXPECT_FALSE(IsShown(C(dialog)));
+        });
+    EXPECT_EQ(ShowAndPress(IDOK, "a"), 2);
+}
+
+TEST_F(Rules, StateRuleWithoutConditionsIsSwitchedOnInEveryRun)
+{
+    description.values = "A = INACTIVE\n";
+    description.rules = "A/ACTIVE =\n";
+    Describe(description);
+    On(
+        [](HWND dialog)
+        {
+            EXPECT_TRUE(IsOn(A(dialog)));
+            EnableWindow(A(dialog), FALSE);
+            SendCommand(dialog);
+            EXPECT_TRUE(IsOn(A(dialog)));
+        });
+    EXPECT_EQ(ShowAndPress(IDOK, "a"), 2);
+}
+
+TEST_F(Rules, ChangeClearsWhatItsRuleNames)
+{
+    description.values = "A = kept\nB = lost\n";
+    description.rules = "B/CLEAR = Key\n";
+    Describe(description);
+    On(
+        [](HWND dialog)
+        {
+            SendCommand(dialog);
+            EXPECT_EQ(robot::TextOf(B(dialog)), "lost") << "nothing has changed yet";
+            robot::ReplaceText(Key(dialog), "new");
+            EXPECT_EQ(robot::TextOf(A(dialog)), "kept");
+            EXPECT_EQ(robot::TextOf(B(dialog)), "");
+        });
+    EXPECT_EQ(ShowAndPress(IDOK, "a"), 1);
+}
+
+TEST_F(Rules, ControlNamedInTwoRulesHasChangedForBoth)
+{
+    description.values = "A = lost\nB = lost\n";
+    description.rules = "A/CLEAR = Key\nB/CLEAR = Key\n";
+    Describe(description);
+    On(
+        [](HWND dialog)
+        {
+            robot::ReplaceText(Key(dialog), "new");
+            EXPECT_EQ(robot::TextOf(A(dialog)) + robot::TextOf(B(dialog)), "");
+        });
+    EXPECT_EQ(ShowAndPress(IDOK, "a"), 1);
+}
+
+TEST_F(Rules, NotificationsOfConstructionRunNoRules)
+{
+    // The default of A and the scanned key both tell the dialog of a change; B stands already, and keeps its text.
+    description.controls = "TextBox 10, 60, 150, 15, .B\nTextBox 10, 40, 150, 15, .A\n" + Description().controls;
+    description.values = "A = default\nB = kept\n";
+    description.rules = "B/CLEAR = A, Key\nB/CLEAR = Key\n";
+    Describe(description);
+    On(
+        [](HWND dialog)
+        {
+            EXPECT_EQ(robot::TextOf(robot::ChildAt(dialog, 1)), "default");
+            EXPECT_EQ(robot::TextOf(robot::ChildAt(dialog, 0)), "kept");
+        });
+    EXPECT_EQ(ShowAndPress(IDOK, "a"), 2);
+}
+
+TEST_F(Rules, FillRuleWithAnUnknownFirstConditionNeverFires)
+{
+    description.values = "A = FILLEDBY, lytdata, LookUp, x, Lookup\n";
+    description.rules = "A/FILL = Ghost, Key\n";
+    description.output += "$OUTPUT, Lookup\n(\"colours/%s\", Key)\n";
+    Describe(description);
+    On(
+        [](HWND dialog)
+        {
+            robot::ReplaceText(Key(dialog), "Red");
+            EXPECT_EQ(robot::TextOf(A(dialog)), "");
+        });
+    EXPECT_EQ(ShowAndPress(IDOK, "a"), 1);
+}
+
+TEST_F(Rules, FieldThatFillsItselfComesToAnEnd)
+{
+    description.values = "Key = FILLEDBY, lytdata, LookUp\n";
+    description.rules = "Key/FILL = Key\n";
+    Describe(description);
+    On([](HWND dialog) { robot::ReplaceText(Key(dialog), "Red"); });
+    EXPECT_EQ(ShowAndPress(IDOK, "a"), 1);
+}
+
+TEST_F(Rules, ListsWithoutASelectionDoNotPassTheFocusForEver)
+{
+    description.controls += "ListBox 10, 100, 60, 40, .One\nListBox 90, 100, 60, 40, .Two\n";
+    description.rules = "A/ACTIVE = One(1)\nB/ACTIVE = Two(1)\n";
+    Describe(description);
+    On(
+        [](HWND dialog)
+        {
+            SendCommand(dialog);
+            EXPECT_EQ(robot::ClassOf(GetFocus()), "ListBox");
+        });
+    EXPECT_EQ(ShowAndPress(IDOK, "a"), 2);
+}
+
+TEST_F(Rules, CommandsFromTheWindowsEndOnRunNothing)
+{
+    description.rules = "B/ACTIVE = Key(x)\n";
+    Describe(description);
+    static WNDPROC original = nullptr;
+    static bool enabledByDyingDialog = true;
+    const WNDPROC onDestroy = [](HWND window, UINT message, WPARAM wParam, LPARAM lParam) -> LRESULT
+    {
+        if (message == WM_DESTROY)
+        {
+            HWND dialog = GetParent(window);
+            EnableWindow(B(dialog), FALSE);
+            SendCommand(dialog);
+            enabledByDyingDialog = IsOn(B(dialog));
+        }
+        return CallWindowProcA(original, window, message, wParam, lParam);
+    };
+    On(
+        [&](HWND dialog)
+        {
+            original = reinterpret_cast<WNDPROC>(
+                SetWindowLongPtrA(A(dialog), GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(onDestroy)));
+        });
+    EXPECT_EQ(ShowAndPress(IDOK, "x"), 2);
+    EXPECT_FALSE(enabledByDyingDialog);
+}
+
+TEST_F(Rules, OutputTakes25ItemsAndRefuses26)
+{
+    std::string items = "Key";
+    for (int item = 2; item <= 25; ++item)
+        items += ", i" + std::to_string(item);
+    description.output = "$OUTPUT\n(\"%s\", " + items + ")\n";
+    Describe(description);
+    EXPECT_EQ(ShowAndPress(IDOK, "a"), 2);
+
+    description.output = "$OUTPUT\n(\"%s\", " + items + ", i26)\n";
+    Describe(description);
+    PressOn(IDOK);
+    robot.AnswerMessage();
+    EXPECT_EQ(ShowAndPress(IDCANCEL, "a"), 0);
+}
+
+TEST_F(Rules, OutputRuleThatNamesAButtonShows201EachTime)
+{
+    description.controls += "PushButton 200, 10, 60, 20, \"Label\", .Go\n";
+    description.output = "$OUTPUT\n(\"%s\", Go)\n";
+    Describe(description);
+    PressOn(IDOK);
+    robot.AnswerMessage();
+    EXPECT_EQ(Show("a"), 1);
+    EXPECT_EQ(text, "as it was") << "an empty result leaves the buffer";
+    EXPECT_EQ(robot.Messages(), Texts{"E201 ''"});
+}
