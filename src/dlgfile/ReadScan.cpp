@@ -70,6 +70,8 @@ void ClytDialogFile::ReadControlFill(POSITION& token, ClytControlFill& fill) con
 {
     const ClytToken* end = &NextOrFail(token);
     fill.controlName = end->GetText();
+    if (fill.controlName.IsEmpty())
+        FailStatement();
     if (end->GetDelimiter() == '(')
     {
         ReadFillAction(token, fill);

@@ -116,14 +116,23 @@ void ClytInputPart::Add(std::unique_ptr<ClytDialogInput> statement)
     statementsByName.SetAt(added.name, &added);
 }
 
+const ClytDialogInput* ClytInputPart::Find(const CString& name) const
+{
+    ClytDialogInput* statement = nullptr;
+    statementsByName.Lookup(name, statement);
+    return statement;
+}
+
 void ClytInputPart::Run(CString text, const CString& name, const ClytControlMap& controls) const
 {
     Scanner scanner(text);
     CString next = name;
     int idle = 0;
-    ClytDialogInput* statement = nullptr;
-    while (!lytSameWord(next, "End") && statementsByName.Lookup(next, statement))
+    while (!lytSameWord(next, "End"))
     {
+        const ClytDialogInput* statement = Find(next);
+        if (statement == nullptr)
+            return;
         const char* before = scanner.GetRest();
         const ClytScanRule& rule = statement->scanRule;
         if (rule.scan.HasScan() == 0)

@@ -8,7 +8,9 @@ class ClytInputPart : public CObject
 public:
     // Of statements with one name the later is found; the part owns them all.
     void Add(std::unique_ptr<ClytDialogInput> statement);
-    int GetCount() const { return statements.GetCount(); }
+    const ClytOwnedList<ClytDialogInput>& GetStatements() const { return statements; }
+    // Null when no statement has that name.
+    const ClytDialogInput* Find(const CString& name) const;
 
     // Runs over the text from the statement of that name until a statement is named "End" or is not there. A run that
     // goes from statement to statement without consuming text raises 206.

@@ -21,6 +21,7 @@ public:
 
     int GetLength() const { return length; }
     const CString& GetTarget() const { return target; }
+    const ClytOwnedList<ClytSeparator>& GetSeparators() const { return separators; }
 
 private:
     int length = 0; // 0 when the scan works by separators

@@ -1,0 +1,24 @@
+// A language folder in which the message of each numbered error is the number with its argument in apostrophes.
+#pragma once
+
+#include "support/LanguageFolder.h"
+#include "support/RaisedMessage.h"
+
+// What the message of the class library's invalid-argument failure reads as.
+inline constexpr const char* missingArgument = "An argument is missing or out of range.";
+
+class ErrorTexts : public LanguageFolder
+{
+public:
+    // `more` is put behind the section of the errors.
+    explicit ErrorTexts(const std::string& more = "") : LanguageFolder(Numbers() + more) {}
+
+private:
+    static std::string Numbers()
+    {
+        std::string texts = "[Dialog_Error]\r\n";
+        for (int number = 200; number <= 254; ++number)
+            texts += std::to_string(number) + "=" + std::to_string(number) + " ''\r\n";
+        return texts;
+    }
+};
