@@ -1,0 +1,123 @@
+// The data-source library: how it is found, what it may lack, how often it is read.
+#include "TreeFixture.h"
+
+using TreeSource = TreeTest;
+
+TEST_F(TreeSource, MissingLibraryIsAnEmptyCatalogueWithoutAMessage)
+{
+    const Answer answer = Open("S",
+                               [](const TreeWindow& tree)
+                               {
+                                   EXPECT_EQ(tree.Items(), Lines());
+                                   tree.Cancel();
+                               });
+    EXPECT_EQ(answer.result, 0);
+    EXPECT_EQ(answer.messages, Lines());
+    EXPECT_EQ(SymbolFor("tin"), "0 untouched");
+}
+
+TEST_F(TreeSource, MissingLibraryIsSoughtAgainAtTheNextUse)
+{
+    EXPECT_EQ(SymbolFor("tin"), "0 untouched");
+    EXPECT_EQ(ItemsShown("S"), Lines());
+    UseSource();
+    EXPECT_EQ(SymbolFor("tin"), "1 tin");
+    EXPECT_EQ(ItemsShown("S"), houseShown);
+}
+
+TEST_F(TreeSource, ParaPairIsRefusedAloneWithoutItsNextFunction)
+{
+    UseSource("without-para-next");
+    EXPECT_EQ(ItemsShown("P"), Lines());
+    EXPECT_EQ(ItemsShown("S"), houseShown);
+    EXPECT_EQ(Starts('P'), 0);
+}
+
+TEST_F(TreeSource, ParaPairIsRefusedAloneWithoutItsStartFunction)
+{
+    UseSource("without-para-start");
+    EXPECT_EQ(ItemsShown("P"), Lines());
+    EXPECT_EQ(ItemsShown("S"), houseShown);
+    EXPECT_EQ(Nexts('P'), 0);
+}
+
+TEST_F(TreeSource, SymbolPairIsRefusedAloneWithoutItsNextFunction)
+{
+    UseSource("without-next");
+    EXPECT_EQ(ItemsShown("S"), Lines());
+    EXPECT_EQ(SymbolFor("tin"), "0 untouched");
+    EXPECT_EQ(ItemsShown("P").size(), 3U);
+    EXPECT_EQ(Starts('S'), 0);
+}
+
+TEST_F(TreeSource, SymbolPairIsRefusedAloneWithoutItsStartFunction)
+{
+    UseSource("without-start");
+    EXPECT_EQ(ItemsShown("S"), Lines());
+    EXPECT_EQ(ItemsShown("P").size(), 3U);
+    EXPECT_EQ(Nexts('S'), 0);
+}
+
+TEST_F(TreeSource, RefusedStartIsAnEmptyCatalogue)
+{
+    UseSource();
+    Serve('S', house, 0);
+    EXPECT_EQ(ItemsShown("S"), Lines());
+    EXPECT_EQ(SymbolFor("tin"), "0 untouched");
+    EXPECT_EQ(Starts('S'), 2);
+    EXPECT_EQ(Nexts('S'), 0);
+}
+
+TEST_F(TreeSource, AnyOtherAnswerThanZeroStarts)
+{
+    UseSource();
+    Serve('S', house, -1);
+    EXPECT_EQ(ItemsShown("S"), houseShown);
+}
+
+TEST_F(TreeSource, EmptyRunIsAnEmptyCatalogueThatIsReadAgain)
+{
+    UseSource();
+    Serve('S', {});
+    EXPECT_EQ(ItemsShown("S"), Lines());
+    Serve('S', house);
+    EXPECT_EQ(ItemsShown("S"), houseShown);
+}
+
+TEST_F(TreeSource, IsReadOnceForEachCatalogueUntilItIsReleased)
+{
+    UseSource();
+    ItemsShown("S");
+    ItemsShown("G");
+    ItemsShown("W");
+    SymbolFor("tin");
+    EXPECT_EQ(Starts('S'), 1);
+    EXPECT_EQ(Nexts('S'), 9);
+    EXPECT_EQ(Starts('P'), 0);
+    ItemsShown("P");
+    ItemsShown("P");
+    EXPECT_EQ(Starts('P'), 1);
+
+    Get<decltype(FreeGlobalObject)>("FreeGlobalObject")();
+    Serve('S', {Entry(0, LYT_TREE_SYMBOL, "New", "new")});
+    EXPECT_EQ(ItemsShown("S"), Lines({"New [2]"}));
+    EXPECT_EQ(Starts('S'), 1);
+}
+
+TEST_F(TreeSource, IsReadForEachLookupWhenNoDialogHasReadIt)
+{
+    UseSource();
+    EXPECT_EQ(SymbolFor("tin"), "1 tin");
+    EXPECT_EQ(SymbolFor("nothing"), "0 untouched");
+    EXPECT_EQ(Starts('S'), 2);
+    ItemsShown("S");
+    EXPECT_EQ(Starts('S'), 3);
+}
+
+TEST_F(TreeSource, RunThatDoesNotEndCountsAsEnded)
+{
+    UseSource();
+    Serve('S', {Entry(0, LYT_TREE_HEADING, "a", "a")}, 1, true);
+    EXPECT_EQ(SymbolFor("b"), "0 untouched");
+    EXPECT_EQ(Nexts('S'), 1'000'000);
+}

@@ -1,0 +1,221 @@
+#include "TreeFixture.h"
+
+#include <algorithm>
+#include <cstring>
+
+namespace
+{
+
+std::string ProgramFolder()
+{
+    char path[MAX_PATH] = "";
+    GetModuleFileNameA(nullptr, path, sizeof path);
+    *std::strrchr(path, '\\') = '\0';
+    return path;
+}
+
+} // namespace
+
+const Records TreeTest::house = {
+    Entry(0, LYT_TREE_HEADING, "House", "h"),       Entry(1, LYT_TREE_GROUP, "Roof", "roof"),
+    Entry(2, LYT_TREE_SYMBOL, "Tile##red", "tile"), Entry(2, LYT_TREE_SYMBOL, "Tin", "tin"),
+    Entry(1, LYT_TREE_GROUP, "Wall", "wall"),       Entry(2, LYT_TREE_SYMBOL, "Brick", "brick"),
+    Entry(0, LYT_TREE_HEADING, "Garden", "garden"), Entry(1, LYT_TREE_SYMBOL, "Lone", "lone"),
+};
+
+const Lines TreeTest::houseShown = {
+    "House [0]",  "  Roof [1]",    "    Tile   red [2]", "    Tin [2]",
+    "  Wall [1]", "    Brick [2]", "Garden [0]",         "  Lone [2]",
+};
+
+const Records TreeTest::yard = {
+    Entry(0, LYT_TREE_GROUP, "Path", "path"),
+    Entry(1, LYT_TREE_GROUP, "Gravel", "gravel"),
+    Entry(1, LYT_TREE_SYMBOL, "Stone", "stone"),
+    Entry(0, LYT_TREE_GROUP, "Fence", "fence"),
+};
+
+lytTreeRecord Entry(int level, int type, const std::string& label, const std::string& key)
+{
+    lytTreeRecord record = {};
+    record.nLevel = level;
+    record.nType = type;
+    std::memcpy(record.szLabel, label.data(), std::min(label.size(), sizeof record.szLabel));
+    std::memcpy(record.szKey, key.data(), std::min(key.size(), sizeof record.szKey));
+    return record;
+}
+
+TreeTest::TreeTest()
+{
+    folder.Write("dialogs/lang/English.nls", "[Label]\nTreeDlgLabel=Catalogue\n"
+                                             "[Buttons]\n001=Fine\n002=Stop\n"
+                                             "[Dialog_Error]\n222=Pick another.\n");
+    Configure("TreeWidth=300\nTreeHeight=400\nTreeLevels=2\n");
+    Reload();
+}
+
+TreeTest::~TreeTest()
+{
+    FreeLibrary(m_library);
+    ReleaseSource();
+    SetDllDirectoryA(nullptr);
+}
+
+void TreeTest::Reload()
+{
+    if (m_library != nullptr)
+        FreeLibrary(m_library);
+    m_library = LoadLibraryA((ProgramFolder() + "\\..\\lyt64.dll").c_str());
+    if (m_library == nullptr)
+        throw std::runtime_error("lyt64.dll is not to be found");
+    Get<decltype(lytInitialiseEnvironment)>("lytInitialiseEnvironment")("", (folder.Path() + "\\dialogs").c_str(),
+                                                                        folder.Path().c_str());
+}
+
+// The library keeps its source for good, so that a fresh start has to take it away from under it.
+void TreeTest::ReleaseSource()
+{
+    while (HMODULE source = GetModuleHandleA("lytsrc"))
+        FreeLibrary(source);
+}
+
+void TreeTest::UseSource(const std::string& variant)
+{
+    SetDllDirectoryA((ProgramFolder() + "\\" + variant).c_str());
+    m_source = LoadLibraryA("lytsrc");
+    Serve('S', house);
+    Serve('P', yard);
+}
+
+template <class Function>
+Function* TreeTest::GetFromSource(const char* name) const
+{
+    return reinterpret_cast<Function*>(reinterpret_cast<void*>(GetProcAddress(m_source, name)));
+}
+
+void TreeTest::Serve(char kind, Records records, int startResult, bool endless)
+{
+    Records& kept = kind == 'P' ? m_paragraphs : m_symbols;
+    kept = std::move(records);
+    const TestSourceScript script = {kept.data(), static_cast<int>(kept.size()), startResult, endless};
+    GetFromSource<decltype(TestSourceServe)>("TestSourceServe")(kind, &script);
+}
+
+int TreeTest::Starts(char kind) const
+{
+    return GetFromSource<decltype(TestSourceStarts)>("TestSourceStarts")(kind);
+}
+
+int TreeTest::Nexts(char kind) const
+{
+    return GetFromSource<decltype(TestSourceNexts)>("TestSourceNexts")(kind);
+}
+
+void TreeTest::Configure(const std::string& lines)
+{
+    folder.Write("lyt.ini", "[global]\nCurrent Language=English\n" + lines);
+}
+
+TreeTest::Answer TreeTest::Open(const std::string& request,
+                                const std::vector<std::function<void(const TreeWindow&)>>& acts)
+{
+    robot::Robot robot;
+    for (size_t index = 0; index < acts.size(); ++index)
+    {
+        if (index > 0)
+            robot.AnswerMessage();
+        const auto isTree = []
+        {
+            HWND dialog = robot::ActiveDialog();
+            return dialog != nullptr && GetDlgItem(dialog, 1000) != nullptr;
+        };
+        robot.When("tree", isTree, [act = acts[index]] { act(TreeWindow(robot::ActiveDialog())); });
+    }
+    GuardedBuffer buffer(255, "untouched");
+    const int result = Get<decltype(lytOpenTreeView)>("lytOpenTreeView")(request.c_str(), buffer.Data(), buffer.Size());
+    EXPECT_TRUE(robot.Done()) << robot.Log();
+    EXPECT_TRUE(buffer.IsIntact());
+    return {result, buffer.Text(), robot.Messages()};
+}
+
+TreeTest::Answer TreeTest::Open(const std::string& request, const std::function<void(const TreeWindow&)>& act)
+{
+    return Open(request, std::vector<std::function<void(const TreeWindow&)>>{act});
+}
+
+Lines TreeTest::ItemsShown(const std::string& request)
+{
+    Lines lines;
+    Open(request,
+         [&](const TreeWindow& tree)
+         {
+             lines = tree.Items();
+             tree.Cancel();
+         });
+    return lines;
+}
+
+Lines TreeTest::ItemsOpen(const std::string& request)
+{
+    Lines lines;
+    Open(request,
+         [&](const TreeWindow& tree)
+         {
+             lines = tree.OpenItems();
+             tree.Cancel();
+         });
+    return lines;
+}
+
+std::string TreeTest::Preselected(const std::string& request)
+{
+    std::string label;
+    Open(request,
+         [&](const TreeWindow& tree)
+         {
+             label = tree.Selected();
+             tree.Cancel();
+         });
+    return label;
+}
+
+SIZE TreeTest::SizeShown(const std::string& request)
+{
+    SIZE size = {};
+    Open(request,
+         [&](const TreeWindow& tree)
+         {
+             size = tree.Size();
+             tree.Cancel();
+         });
+    return size;
+}
+
+TreeTest::Answer TreeTest::Pick(const std::string& request, const std::string& label)
+{
+    return Open(request, [&](const TreeWindow& tree) { tree.Pick(label); });
+}
+
+std::string TreeTest::SymbolFor(const std::string& text)
+{
+    GuardedBuffer buffer(100, "untouched");
+    const int result =
+        Get<decltype(lytGetSymbolfromTree)>("lytGetSymbolfromTree")(text.c_str(), buffer.Data(), buffer.Size());
+    EXPECT_TRUE(buffer.IsIntact());
+    return std::to_string(result) + " " + buffer.Text();
+}
+
+Lines TreeTest::ReadChildren()
+{
+    Lines lines;
+    for (;;)
+    {
+        GuardedBuffer text(255);
+        GuardedBuffer path(255);
+        if (Get<decltype(lytTreeReadChildNode)>("lytTreeReadChildNode")(text.Data(), text.Size(), path.Data(),
+                                                                        path.Size()) == 0)
+            return lines;
+        EXPECT_TRUE(text.IsIntact() && path.IsIntact());
+        lines.push_back(text.Text() + "|" + path.Text());
+    }
+}

@@ -1,0 +1,84 @@
+// lyt64.dll as a fresh process has it: loaded anew for each test, with a data source and a folder of texts.
+#pragma once
+
+#include "TestSource.h"
+#include "TreeWindow.h"
+
+#include "robot/WindowRobot.h"
+#include "support/Library.h"
+#include "support/TestFolder.h"
+
+#include <gtest/gtest.h>
+#include <lyt64.h>
+
+#include <functional>
+
+using Lines = std::vector<std::string>;
+using Records = std::vector<lytTreeRecord>;
+
+// A record; texts of 100 characters or more are cut to 100 and have no NUL.
+lytTreeRecord Entry(int level, int type, const std::string& label, const std::string& key);
+
+class TreeTest : public testing::Test
+{
+protected:
+    TreeTest();
+    ~TreeTest() override;
+
+    // Makes a data source reachable: the name of a folder beside the tests. Until then there is none.
+    void UseSource(const std::string& variant = "complete");
+    // What the source serves from now on; `house` and `yard` unless told.
+    void Serve(char kind, Records records, int startResult = 1, bool endless = false);
+    int Starts(char kind) const;
+    int Nexts(char kind) const;
+
+    // Makes the library a fresh one.
+    void Reload();
+
+    // Writes lyt.ini: the language, and these lines in the section "global".
+    void Configure(const std::string& lines);
+
+    struct Answer
+    {
+        int result;
+        std::string text;
+        Lines messages;
+    };
+    // Opens the browser, lets one action work it, which must end it; messages are confirmed.
+    Answer Open(const std::string& request, const std::function<void(const TreeWindow&)>& act);
+    // The same with an action behind each message.
+    Answer Open(const std::string& request, const std::vector<std::function<void(const TreeWindow&)>>& acts);
+    // Opens the browser and looks only.
+    Lines ItemsShown(const std::string& request);
+    Lines ItemsOpen(const std::string& request);
+    std::string Preselected(const std::string& request);
+    SIZE SizeShown(const std::string& request);
+    Answer Pick(const std::string& request, const std::string& label);
+
+    std::string SymbolFor(const std::string& text);
+    // `text|path` of each read until one gives 0.
+    Lines ReadChildren();
+
+    template <class Function>
+    Function* Get(const char* name) const
+    {
+        return reinterpret_cast<Function*>(reinterpret_cast<void*>(GetProcAddress(m_library, name)));
+    }
+
+    // A heading with groups and symbols, as it is shown, and the para tree.
+    static const Records house;
+    static const Lines houseShown;
+    static const Records yard;
+
+    TestFolder folder;
+
+private:
+    static void ReleaseSource();
+    template <class Function>
+    Function* GetFromSource(const char* name) const;
+
+    HMODULE m_library = nullptr;
+    HMODULE m_source = nullptr;
+    Records m_symbols;
+    Records m_paragraphs;
+};

@@ -1,0 +1,177 @@
+// The wizard: from the entry picked to the texts delivered.
+#include "TreeFixture.h"
+
+class Wizard : public TreeTest
+{
+protected:
+    Wizard()
+    {
+        UseSource();
+        for (const char* file : {"lytWzGrp", "lytWzPhr", "lytWzSym"})
+            WriteDialog(file, file);
+    }
+
+    // A dialog whose title tells the file, and whose one field takes the input and gives the result.
+    void WriteDialog(const std::string& file, const std::string& title)
+    {
+        folder.Write("dialogs/" + file + ".dlg", "$VERSION 1\n$LAYOUT Wizard\n"
+                                                 "Begin Dialog Box 200, 100, \"" +
+                                                     title +
+                                                     "\", .Main\n"
+                                                     "TextBox 10, 10, 100, 19, .Key\n"
+                                                     "OKButton 10, 40, 60, 20, .Ok\n"
+                                                     "CancelButton 80, 40, 60, 20, .Cancel\n"
+                                                     "End Dialog\n"
+                                                     "$VALUES\n$DEPENDANCES\n$EVALUATION, x\n"
+                                                     "$INPUT, parent\nStart: (\"~\", End = Key\n"
+                                                     "$OUTPUT, parent\n(\"%s\", Key)\n$END\n");
+        folder.Write("dialogs/lang/English.nls", "[Label]\nTreeDlgLabel=Catalogue\n"
+                                                 "[Wizard]\nlytWzGrp=Group\nlytWzPhr=Phrase\nlytWzSym=Symbol\n"
+                                                 "[Buttons]\n001=Fine\n002=Stop\n"
+                                                 "[Dialog_Error]\n207=No file ''.\n222=Pick another.\n");
+    }
+
+    // `result text` of one call with nothing on the screen.
+    std::string Next(int size = 255)
+    {
+        GuardedBuffer buffer(size, "untouched");
+        const int result = Get<decltype(lytWizard)>("lytWizard")(buffer.Data(), buffer.Size());
+        EXPECT_TRUE(buffer.IsIntact());
+        return std::to_string(result) + " " + buffer.Text();
+    }
+
+    // One call in which an entry is picked, and the dialog with this title gets the text and OK, or Cancel without one.
+    std::string Ask(const std::string& label, const std::string& title, const char* text, int size = 255)
+    {
+        robot::Robot robot;
+        robot.On("Catalogue", [&](HWND dialog) { TreeWindow(dialog).Pick(label); });
+        robot.On(title,
+                 [&](HWND dialog)
+                 {
+                     HWND field = robot::ChildOfClass(dialog, "Edit");
+                     input = robot::TextOf(field);
+                     if (text != nullptr)
+                         robot::ReplaceText(field, text);
+                     robot::Press(robot::ChildWithText(dialog, text != nullptr ? "Fine" : "Stop"));
+                 });
+        std::string answer = Next(size);
+        EXPECT_TRUE(robot.Done()) << robot.Log();
+        return answer;
+    }
+
+    std::string input; // what stood in the dialog's field
+};
+
+TEST_F(Wizard, DeliversAListOneTextByOne)
+{
+    EXPECT_EQ(Ask("Roof", "Group", "head/LIST{a|b|c"), "1 head/LIST{");
+    EXPECT_EQ(input, "roof/Roof");
+    EXPECT_EQ(Next(), "1 a|");
+    EXPECT_EQ(Next(), "1 b|");
+    EXPECT_EQ(Next(), "0 c");
+    EXPECT_EQ(Ask("Tin", "Symbol", "new"), "2 new");
+}
+
+TEST_F(Wizard, DeliversAListOfOneText)
+{
+    EXPECT_EQ(Ask("Roof", "Group", "head/LIST{only"), "1 head/LIST{");
+    EXPECT_EQ(Next(), "0 only");
+}
+
+TEST_F(Wizard, LosesTheLastTextOfAListThatEndsInAMark)
+{
+    EXPECT_EQ(Ask("Roof", "Group", "head/LIST{a|b|"), "1 head/LIST{");
+    EXPECT_EQ(Next(), "1 a|");
+    EXPECT_EQ(Next(), "0 untouched");
+    EXPECT_EQ(Ask("Tin", "Symbol", "new"), "2 new");
+}
+
+TEST_F(Wizard, TakesAGroupResultApartWithoutItsMarks)
+{
+    EXPECT_EQ(Ask("Roof", "Group", "a|b"), "1 ");
+    EXPECT_EQ(Next(), "1 a|");
+    EXPECT_EQ(Next(), "0 b");
+    EXPECT_EQ(Ask("Roof", "Group", "h{a"), "1 h{");
+    EXPECT_EQ(Next(), "0 a");
+    EXPECT_EQ(Ask("Roof", "Group", "h/LISTa"), "1 h/LIST");
+    EXPECT_EQ(Next(), "0 a");
+}
+
+TEST_F(Wizard, AsksForASymbolByKeyAndLabel)
+{
+    EXPECT_EQ(Ask("Tile   red", "Symbol", "text"), "2 text");
+    EXPECT_EQ(input, "tile/Tile##red");
+}
+
+TEST_F(Wizard, AsksForAPhraseByTheHeadingsLabel)
+{
+    EXPECT_EQ(Ask("Garden", "Phrase", "text"), "3 text");
+    EXPECT_EQ(input, "Garden");
+}
+
+TEST_F(Wizard, CancelInTheTreeGivesZero)
+{
+    robot::Robot robot;
+    robot.On("Catalogue", [](HWND dialog) { TreeWindow(dialog).Cancel(); });
+    EXPECT_EQ(Next(), "0 untouched");
+    EXPECT_TRUE(robot.Done()) << robot.Log();
+}
+
+TEST_F(Wizard, CancelInADialogGivesZeroAndStartsNoDelivery)
+{
+    EXPECT_EQ(Ask("Roof", "Group", nullptr), "0 untouched");
+    EXPECT_EQ(Ask("Garden", "Phrase", nullptr), "0 untouched");
+    EXPECT_EQ(Ask("Tin", "Symbol", nullptr), "0 untouched");
+    EXPECT_EQ(Ask("Tin", "Symbol", "text"), "2 text");
+}
+
+TEST_F(Wizard, MissingDialogGivesZeroAfterItsMessage)
+{
+    DeleteFileA((folder.Path() + "\\dialogs\\lytWzSym.dlg").c_str());
+    robot::Robot robot;
+    robot.On("Catalogue", [](HWND dialog) { TreeWindow(dialog).Pick("Tin"); }).AnswerMessage();
+    EXPECT_EQ(Next(), "0 untouched");
+    EXPECT_TRUE(robot.Done()) << robot.Log();
+    ASSERT_EQ(robot.Messages().size(), 1U);
+    EXPECT_EQ(robot.Messages().front().substr(0, 9), "No file '");
+}
+
+TEST_F(Wizard, DeliversAnOldListBeforeTheTreeIsShownAgain)
+{
+    Ask("Roof", "Group", "head/LIST{a|b");
+    Get<decltype(FreeGlobalObject)>("FreeGlobalObject")();
+    EXPECT_EQ(Next(), "1 a|");
+    EXPECT_EQ(Next(), "0 b");
+}
+
+TEST_F(Wizard, LeavesAShortBufferEmpty)
+{
+    EXPECT_EQ(Ask("Tin", "Symbol", "text", 4), "2 ");
+    // The first text of a group is measured by itself.
+    EXPECT_EQ(Ask("Roof", "Group", "h/LIST{abcdefgh|i", 8), "1 h/LIST{");
+    EXPECT_EQ(Next(8), "1 ");
+    EXPECT_EQ(Next(8), "0 i");
+}
+
+TEST_F(Wizard, TakesNothingFromTheListWithoutRoom)
+{
+    Ask("Roof", "Group", "head/LIST{a");
+    EXPECT_EQ(Get<decltype(lytWizard)>("lytWizard")(nullptr, 10), 0);
+    GuardedBuffer buffer(10, "old");
+    EXPECT_EQ(Get<decltype(lytWizard)>("lytWizard")(buffer.Data(), 0), 0);
+    EXPECT_EQ(Next(), "0 a");
+}
+
+TEST_F(Wizard, CancelOfItsDialogTakesBackTheChoiceInTheTree)
+{
+    Pick("S", "Brick");
+    Ask("Tin", "Symbol", nullptr);
+    // The first opening of the tree had the root selected, and the second one no longer noted what was.
+    EXPECT_EQ(Preselected("S"), "House");
+}
+
+TEST_F(Wizard, OkOfItsDialogKeepsTheChoiceInTheTree)
+{
+    Ask("Tin", "Symbol", "text");
+    EXPECT_EQ(Preselected("S"), "Tin");
+}
