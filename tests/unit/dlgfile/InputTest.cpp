@@ -83,6 +83,23 @@ std::string InputFailure(const std::string& line)
     return RaisedMessage([&] { Input(line); });
 }
 
+// A file on a disk that fails behind a number of lines.
+class FailingDescription : public Description
+{
+public:
+    FailingDescription(const std::string& content, int goodLines) : Description(content), m_goodLines(goodLines) {}
+
+    char* ReadString(char* buffer, UINT count) override
+    {
+        if (m_goodLines-- == 0)
+            AfxThrowFileException(CFileException::genericException, 0, "disk");
+        return Description::ReadString(buffer, count);
+    }
+
+private:
+    int m_goodLines;
+};
+
 class InputPart : public WithErrorTexts
 {
 };
@@ -156,6 +173,17 @@ TEST_F(InputPart, RaisesTheEndOfTheFileWithTheHeaderThatIsMissing)
 {
     EXPECT_EQ(RaisedMessage([&] { Parts("$INPUT\n"); }), "217 '$OUTPUT'");
     EXPECT_EQ(RaisedMessage([&] { Parts("$INPUT\nA: x = End\n"); }), "217 '$OUTPUT'");
+}
+
+TEST_F(InputPart, TellsAFailureOfTheClassLibraryAs206)
+{
+    FailingDescription file("$INPUT\nA: x = End\nB: x = End\n$OUTPUT\n", 2);
+    ClytCtrlValList unused;
+    CString name;
+    file.ReadEvaluationStatement(unused, unused, name);
+    file.ReadInputHeader(name);
+    ClytInputPart part;
+    EXPECT_EQ(RaisedMessage([&] { file.ReadInputPart(part); }), "The file could not be read or written: disk\n206 ''");
 }
 
 TEST_F(InputStatement, TakesConditionsUpToAnEqualsSign)

@@ -1,0 +1,248 @@
+#include "Form.h"
+
+namespace
+{
+
+class Rules : public FormTest
+{
+protected:
+    Rules()
+    {
+        text.layout = "TextBox 1, 2, 3, 4, .A\nTextBox 1, 2, 3, 4, .B\nTextBox 1, 2, 3, 4, .C\n"
+                      "ListBox 1, 2, 3, 4, .L\nListBox 1, 2, 3, 4, .M\nPushButton 1, 2, 3, 4, .P\n"
+                      "OKButton 1, 2, 3, 4, .Ok\n";
+        text.input = "Start: x = End\n";
+    }
+};
+
+} // namespace
+
+TEST_F(Rules, RunOnceAtTheEndOfTheConstruction)
+{
+    text.values = "A = x\n";
+    text.dependencies = "B/ACTIVE = A(NULL)\nC/VISIBLE = A(x)\n";
+    const HeadlessForm& opened = Open();
+    EXPECT_FALSE(opened.IsEnabled("B"));
+    EXPECT_TRUE(opened.IsShown("C"));
+    EXPECT_EQ(opened.runCount, 0);
+}
+
+TEST_F(Rules, SwitchBothWaysAtEveryCommand)
+{
+    text.dependencies = "B/ACTIVE = A(NOTNULL)\nC/VISIBLE = A(x,y)\n";
+    HeadlessForm& opened = Open();
+    EXPECT_FALSE(opened.IsEnabled("B"));
+    EXPECT_FALSE(opened.IsShown("C"));
+    opened.Enter("A", "x");
+    EXPECT_TRUE(opened.IsEnabled("B"));
+    EXPECT_TRUE(opened.IsShown("C"));
+    opened.Enter("A", "");
+    EXPECT_FALSE(opened.IsEnabled("B"));
+    EXPECT_FALSE(opened.IsShown("C"));
+    EXPECT_EQ(opened.runCount, 2);
+    EXPECT_EQ(lytCommandSeen, 1);
+}
+
+TEST_F(Rules, WithoutConditionsSwitchOnInEveryRun)
+{
+    text.values = "B = INACTIVE\n";
+    text.dependencies = "B/ACTIVE =\n";
+    HeadlessForm& opened = Open();
+    EXPECT_TRUE(opened.IsEnabled("B"));
+    opened.Control("B")->isEnabled = false;
+    opened.Command();
+    EXPECT_TRUE(opened.IsEnabled("B"));
+}
+
+TEST_F(Rules, OnADefaultButtonChangeNothing)
+{
+    text.dependencies = "Ok/ACTIVE = A(NOTNULL)\nOk/VISIBLE = A(NOTNULL)\n";
+    const HeadlessForm& opened = Open();
+    EXPECT_TRUE(opened.IsEnabled("Ok"));
+    EXPECT_TRUE(opened.IsShown("Ok"));
+}
+
+TEST_F(Rules, RunInOnePassInFileOrder)
+{
+    // The first rule sees the disabled C at the next command only; the last one in the same pass.
+    text.values = "C = x\n";
+    text.dependencies = "A/ACTIVE = C\nC/ACTIVE = B(NOTNULL)\nM/ACTIVE = C\n";
+    HeadlessForm& opened = Open();
+    EXPECT_TRUE(opened.IsEnabled("A"));
+    EXPECT_FALSE(opened.IsEnabled("C"));
+    EXPECT_FALSE(opened.IsEnabled("M"));
+    opened.Command();
+    EXPECT_FALSE(opened.IsEnabled("A"));
+}
+
+TEST_F(Rules, ClearAControlWhenAnotherChanged)
+{
+    text.values = "B = text\n";
+    text.dependencies = "B/CLEAR = A\n";
+    HeadlessForm& opened = Open();
+    EXPECT_EQ(opened.Value("B"), "text");
+    opened.Command();
+    EXPECT_EQ(opened.Value("B"), "text");
+    opened.Enter("A", "x");
+    EXPECT_EQ(opened.Value("B"), "");
+    opened.Enter("B", "again");
+    EXPECT_EQ(opened.Value("B"), "again");
+}
+
+TEST_F(Rules, SeeAChangeInAllRulesOfARun)
+{
+    text.values = "B = b\nC = c\n";
+    text.dependencies = "B/CLEAR = A\nC/CLEAR = A\n";
+    HeadlessForm& opened = Open();
+    opened.Enter("A", "x");
+    EXPECT_EQ(opened.Value("B"), "");
+    // The run nested in the clearing of B took A's new text as its baseline, after it had cleared C.
+    EXPECT_EQ(opened.Value("C"), "");
+}
+
+TEST_F(Rules, FillAControlByItsLibraryWhenAnotherChanged)
+{
+    text.values = "B = FILLEDBY, library, function, x, Parameter\n";
+    text.dependencies = "B/FILL = A\n";
+    text.output = "(\"\\\"%s\\\"\", A)\n$OUTPUT, Parameter\n(\"<%s>\", A)\n";
+    HeadlessForm& opened = Open();
+    auto* edit = dynamic_cast<HeadlessEdit*>(opened.Control("B"));
+    ASSERT_NE(edit, nullptr);
+    edit->library = [](const CString& parameter) { return "from " + parameter; };
+    EXPECT_EQ(opened.Value("B"), "");
+    opened.Enter("A", "x");
+    EXPECT_EQ(opened.Value("B"), "from <x>");
+}
+
+TEST_F(Rules, NeverFillBehindAnUnknownControl)
+{
+    text.values = "B = text\n";
+    text.dependencies = "B/CLEAR = Unknown, A\n";
+    HeadlessForm& opened = Open();
+    opened.Enter("A", "x");
+    EXPECT_EQ(opened.Value("B"), "text");
+}
+
+TEST_F(Rules, AreNotEnteredAgainWhileTheyAreCarriedOut)
+{
+    // The library always writes another text, so every run nested in the fill finds the field changed again.
+    text.dependencies = "A/FILL = A\n";
+    HeadlessForm& opened = Open();
+    auto* edit = dynamic_cast<HeadlessEdit*>(opened.Control("A"));
+    ASSERT_NE(edit, nullptr);
+    int calls = 0;
+    edit->library = [&](const CString&)
+    {
+        CString filled;
+        filled.Format("fill %d", ++calls);
+        return filled;
+    };
+    opened.Enter("A", "x");
+    EXPECT_EQ(opened.Value("A"), "fill 1");
+    // The mark is taken back, so the rule works again.
+    opened.Enter("A", "y");
+    EXPECT_EQ(opened.Value("A"), "fill 2");
+    EXPECT_EQ(opened.runCount, 4);
+}
+
+TEST_F(Rules, AreEnteredAgainAfterAFailure)
+{
+    text.dependencies = "B/FILL = A\n";
+    HeadlessForm& opened = Open();
+    auto* edit = dynamic_cast<HeadlessEdit*>(opened.Control("B"));
+    ASSERT_NE(edit, nullptr);
+    edit->library = [](const CString&) -> CString { AfxThrowInvalidArgException(); };
+    EXPECT_EQ(RaisedMessage([&] { opened.Enter("A", "x"); }), missingArgument);
+    edit->library = [](const CString&) -> CString { return "filled"; };
+    opened.Enter("A", "y");
+    EXPECT_EQ(opened.Value("B"), "filled");
+}
+
+TEST_F(Rules, DoNotRunForAFocusThatReadingAValueMoves)
+{
+    // Neither list has a selection, so reading the value of each pulls the focus there.
+    text.dependencies = "A/ACTIVE = L(x)\nB/ACTIVE = M(NULL)\n";
+    HeadlessForm& opened = Open();
+    lytCommandSeen = 0;
+    opened.Command();
+    EXPECT_EQ(opened.runCount, 1);
+    EXPECT_EQ(lytCommandSeen, 1);
+    EXPECT_EQ(opened.focus, "M");
+    EXPECT_FALSE(opened.IsEnabled("A"));
+    EXPECT_TRUE(opened.IsEnabled("B"));
+}
+
+TEST_F(Rules, DoNotRunForAFocusThatComposingInsideARunMoves)
+{
+    text.values = "B = FILLEDBY, library, function, x, Parameter\n";
+    text.dependencies = "B/FILL = A\n";
+    text.output = "(\"x\")\n$OUTPUT, Parameter\n(\"%s\", L)\n";
+    HeadlessForm& opened = Open();
+    opened.Enter("A", "x");
+    EXPECT_EQ(opened.focus, "L");
+    EXPECT_EQ(opened.runCount, 1);
+}
+
+TEST_F(Rules, RunForAFocusThatComposingOutsideARunMoves)
+{
+    text.output = "(\"%s\", L)\n";
+    HeadlessForm& opened = Open();
+    EXPECT_TRUE(opened.Confirm());
+    EXPECT_EQ(opened.focus, "L");
+    EXPECT_EQ(opened.runCount, 1);
+}
+
+TEST_F(Rules, DoNotRunWhileTheControlsAreCreated)
+{
+    text.values = "A = one\nB = two\n";
+    text.dependencies = "C/ACTIVE = A\n";
+    EXPECT_EQ(Open().runCount, 0);
+}
+
+TEST_F(Rules, DoNotRunWhileTheInputIsScanned)
+{
+    text.input = "Start: (\";\", End, Rest, End = A, B\n";
+    text.dependencies = "C/CLEAR = A\n";
+    text.values = "C = stays\n";
+    const HeadlessForm& opened = Open("x");
+    EXPECT_EQ(opened.runCount, 0);
+    EXPECT_EQ(opened.Value("A"), "x");
+    // What was scanned is the baseline, so nothing counts as changed.
+    EXPECT_EQ(opened.Value("C"), "stays");
+}
+
+TEST_F(Rules, StayOffAfterAConstructionThatFailedHalfway)
+{
+    HeadlessForm& outer = Open();
+    {
+        DescriptionText circle;
+        circle.input = "Start: x = Start\n";
+        HeadlessForm failing(folder.Write("circle.dlg", circle()).c_str());
+        EXPECT_FALSE(failing.Open());
+        EXPECT_EQ(Messages(), "The input statements go round in a circle.\n206 '';");
+    }
+    EXPECT_EQ(lytInputApplied, 0);
+    outer.Command();
+    EXPECT_EQ(outer.runCount, 0);
+    HeadlessForm inner(folder.Write("inner.dlg", text()).c_str());
+    EXPECT_TRUE(inner.Open());
+    outer.Command();
+    EXPECT_EQ(outer.runCount, 1);
+}
+
+TEST_F(Rules, NameTheButtonThatHasTheReturnKey)
+{
+    text.dependencies = "P/DEFBUTTON = A, B\nP/ACTIVE =\nOk/DEFBUTTON = C, B\n";
+    const HeadlessForm& opened = Open();
+    EXPECT_EQ(opened.DefaultButtonFor("A"), "P");
+    EXPECT_EQ(opened.DefaultButtonFor("B"), "P");
+    EXPECT_EQ(opened.DefaultButtonFor("C"), "Ok");
+    EXPECT_EQ(opened.DefaultButtonFor("L"), "");
+    EXPECT_EQ(opened.DefaultButtonFor(""), "");
+}
+
+TEST_F(Rules, MayNameAButtonForAWindowThatIsNoControl)
+{
+    text.dependencies = "P/DEFBUTTON = (x)\n";
+    EXPECT_EQ(Open().DefaultButtonFor(""), "P");
+}
