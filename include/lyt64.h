@@ -132,6 +132,20 @@ extern "C"
      * as it was. A caller that stops early gets the rest with its next call, before the catalogue is shown again. */
     int __stdcall lytWizard(char* buffer, int size);
 
+    /* ---- System report ---------------------------------------------------------------------------------------------- */
+
+    /* Gathers the report on how this workstation is set up, with a listing of the directory given, in place of an
+     * earlier one, and returns 1. What cannot be read is told in the report's lines; nothing on the machine changes.
+     * The report may move the folder of lyt.ini to where the registry or a template says it is, for all later calls.
+     * It takes its time, all of it in this call. */
+    int __stdcall lytSystemInfoInit(const char* directory);
+
+    /* Copies the line of an index, counted from 0, to the target and returns 1; a longer line is cut to size - 1
+     * characters. The byte target[size - 1] becomes a NUL in any case. An index without a line frees the report,
+     * leaves the target as it was and returns 0: so read upward from 0 until 0 comes back, which is linear. An empty
+     * line is a line. After the report was freed every index gives 0 until the next lytSystemInfoInit. */
+    int __stdcall lytSystemInfoRead(int index, char* target, int size);
+
 #ifdef __cplusplus
 }
 #endif

@@ -1,0 +1,18 @@
+// The exports of the system report.
+#include "sysinfo/Report.h"
+
+#include "lyt64.h"
+
+#include "exports/ExportFrame.h"
+
+int __stdcall lytSystemInfoInit(const char* directory)
+{
+    LYT_EXPORT_FRAME();
+    return lytGatherReport(directory);
+}
+
+int __stdcall lytSystemInfoRead(int index, char* target, int size)
+{
+    LYT_EXPORT_FRAME();
+    return lytReadReportLine(index, target, size);
+}
