@@ -1,0 +1,93 @@
+#include "PrinterFacts.h"
+#include "ReportTest.h"
+
+namespace
+{
+
+class Printers : public ReportTest
+{
+protected:
+    Texts PrinterLines() { return LinesBetween(Report(), "Printers", "PATH    :"); }
+    // The line of the one printer that has this mode.
+    std::string LineWith(const DEVMODEA& mode)
+    {
+        const LocalPrinter printer("Test", mode);
+        return LineOf(PrinterLines(), "  Printer: Test");
+    }
+};
+
+} // namespace
+
+TEST_F(Printers, NoneAtAllLeavesTheHeadingAndTheDefaultLine)
+{
+    const DefaultPrinter none(nullptr);
+    EXPECT_EQ(PrinterLines(), Texts{"  Default Printer : no default printer found"});
+}
+
+TEST_F(Printers, ShowsTheDefaultPrinterAsTheProfileHasIt)
+{
+    const DefaultPrinter device("Office,winspool,LPT1:");
+    EXPECT_EQ(PrinterLines(), Texts{"  Default Printer : Office,winspool,LPT1:"});
+}
+
+TEST_F(Printers, ShowsA4InTwoWays)
+{
+    DEVMODEA mode = PrinterMode(DM_PAPERSIZE | DM_DUPLEX);
+    mode.dmPaperSize = 9;
+    mode.dmPaperWidth = 2100;
+    mode.dmPaperLength = 2970;
+    mode.dmDuplex = 2;
+    EXPECT_EQ(LineWith(mode),
+              "  Printer: Test on LPT1: (LYT Test Driver), Duplex Vertical, A4 210 x 297 mm, 210mm x 297mm");
+}
+
+TEST_F(Printers, ShowsPaper118AsANumber)
+{
+    DEVMODEA mode = PrinterMode(DM_PAPERSIZE);
+    mode.dmPaperSize = 118;
+    mode.dmPaperWidth = 1001;
+    mode.dmPaperLength = 999;
+    EXPECT_EQ(LineWith(mode), "  Printer: Test on LPT1: (LYT Test Driver), no duplex info, 118???, 100mm x 99mm");
+}
+
+TEST_F(Printers, CallsPaper256UserDefined)
+{
+    DEVMODEA mode = PrinterMode(DM_PAPERSIZE);
+    mode.dmPaperSize = 256;
+    mode.dmPaperWidth = 1055;
+    mode.dmPaperLength = 2409;
+    EXPECT_EQ(LineWith(mode),
+              "  Printer: Test on LPT1: (LYT Test Driver), no duplex info, User defined, 105mm x 240mm");
+}
+
+TEST_F(Printers, ShowsANegativePaperAsANumber)
+{
+    DEVMODEA mode = PrinterMode(DM_PAPERSIZE);
+    mode.dmPaperSize = -7;
+    EXPECT_EQ(LineWith(mode), "  Printer: Test on LPT1: (LYT Test Driver), no duplex info, -7???, 0mm x 0mm");
+}
+
+TEST_F(Printers, ShowsDuplex5AsANumber)
+{
+    DEVMODEA mode = PrinterMode(DM_DUPLEX);
+    mode.dmDuplex = 5;
+    EXPECT_EQ(LineWith(mode), "  Printer: Test on LPT1: (LYT Test Driver), 5???, no paper info, ");
+}
+
+TEST_F(Printers, PaperWithUnusualLettersKeepsItsBytes)
+{
+    DEVMODEA mode = PrinterMode(DM_PAPERSIZE);
+    mode.dmPaperSize = 22;
+    EXPECT_EQ(LineWith(mode),
+              "  Printer: Test on LPT1: (LYT Test Driver), no duplex info, Envelope #12 4 \xBE x 11, 0mm x 0mm");
+}
+
+TEST_F(Printers, ListsEachPrinter)
+{
+    const LocalPrinter first("Test One", PrinterMode(0));
+    const LocalPrinter second("Test Two", PrinterMode(0));
+    const Texts lines = PrinterLines();
+    EXPECT_EQ(CountLines(lines, "  Printer: "), 2U);
+    EXPECT_TRUE(HasLine(lines, "  Printer: Test One on LPT1: "));
+    EXPECT_TRUE(HasLine(lines, "  Printer: Test Two on LPT1: "));
+}
