@@ -10,13 +10,23 @@ namespace
 // Modal runs that stand on the stack, one inside the other.
 int modalDepth = 0;
 
+// The owner comes out of a modal run enabled, or disabled, as it went in: not every platform looks when a dialog ends.
 class ModalRun
 {
 public:
-    ModalRun() { ++modalDepth; }
+    explicit ModalRun(HWND owner) : m_owner(owner), m_wasEnabled(::IsWindowEnabled(owner)) { ++modalDepth; }
     ModalRun(const ModalRun&) = delete;
     ModalRun& operator=(const ModalRun&) = delete;
-    ~ModalRun() { --modalDepth; }
+    ~ModalRun()
+    {
+        --modalDepth;
+        if (m_owner != nullptr && ::IsWindowEnabled(m_owner) != m_wasEnabled)
+            ::EnableWindow(m_owner, m_wasEnabled);
+    }
+
+private:
+    HWND m_owner;
+    BOOL m_wasEnabled;
 };
 
 } // namespace
@@ -35,8 +45,8 @@ INT_PTR CDialog::DoModal()
 
     INT_PTR result = -1;
     {
-        const ModalRun run;
         const HWND owner = m_pParentWnd != nullptr ? m_pParentWnd->m_hWnd : ::GetActiveWindow();
+        const ModalRun run(owner);
         result = ::DialogBoxParamA(AfxGetResourceHandle(), MAKEINTRESOURCEA(m_nIDTemplate), owner, DialogProc,
                                    reinterpret_cast<LPARAM>(this));
     }

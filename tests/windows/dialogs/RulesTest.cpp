@@ -162,12 +162,12 @@ TEST_F(Rules, FillRuleWithAnUnknownFirstConditionNeverFires)
 {
     description.values = "A = FILLEDBY, lytdata, LookUp, x, Lookup\n";
     description.rules = "A/FILL = Ghost, Key\n";
-    description.output += "$OUTPUT, Lookup\n(\"colours/%s\", Key)\n";
+    description.output += "$OUTPUT, Lookup\n(\"fruit/%s\", Key)\n";
     Describe(description);
     On(
         [](HWND dialog)
         {
-            robot::ReplaceText(Key(dialog), "Red");
+            robot::ReplaceText(Key(dialog), "Apple");
             EXPECT_EQ(robot::TextOf(A(dialog)), "");
         });
     EXPECT_EQ(ShowAndPress(IDOK, "a"), 1);
@@ -178,7 +178,7 @@ TEST_F(Rules, FieldThatFillsItselfComesToAnEnd)
     description.values = "Key = FILLEDBY, lytdata, LookUp\n";
     description.rules = "Key/FILL = Key\n";
     Describe(description);
-    On([](HWND dialog) { robot::ReplaceText(Key(dialog), "Red"); });
+    On([](HWND dialog) { robot::ReplaceText(Key(dialog), "Apple"); });
     EXPECT_EQ(ShowAndPress(IDOK, "a"), 1);
 }
 
