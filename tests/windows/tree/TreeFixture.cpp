@@ -87,6 +87,11 @@ void TreeTest::UseSource(const std::string& variant)
     Serve('P', yard);
 }
 
+void TreeTest::UseSampleSource()
+{
+    SetDllDirectoryA((ProgramFolder() + "\\..").c_str());
+}
+
 template <class Function>
 Function* TreeTest::GetFromSource(const char* name) const
 {

@@ -27,6 +27,8 @@ protected:
 
     // Makes a data source reachable: the name of a folder beside the tests. Until then there is none.
     void UseSource(const std::string& variant = "complete");
+    // Makes the source of the samples reachable, which cannot be told what to serve.
+    static void UseSampleSource();
     // What the source serves from now on; `house` and `yard` unless told.
     void Serve(char kind, Records records, int startResult = 1, bool endless = false);
     int Starts(char kind) const;
