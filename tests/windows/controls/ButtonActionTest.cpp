@@ -1,0 +1,327 @@
+#include "Form.h"
+
+#include <gtest/gtest.h>
+
+namespace
+{
+
+class ButtonAction : public testing::Test
+{
+protected:
+    ButtonAction()
+    {
+        form.main.layout = {"PushButton Go", "TextBox Edit", "ListBox List"};
+        form.main.values = {"List=ONE,one", "List=TWO,two", "List=THREE,three"};
+        form.texts = {{"ONE", "First"}, {"TWO", "Second"}, {"THREE", "Third"}, {"LATER", "Later"}};
+    }
+
+    void Action(const std::string& statement) { form.main.values.push_back("Go=" + statement); }
+    void Click()
+    {
+        form.Then([this] { robot::Click(form["Go"]); });
+    }
+    void Look(Form::Step step) { form.Then(std::move(step)); }
+    Form::Outcome Open() { return form.Ok().Open(); }
+    Texts Items() const { return robot::ItemsOf(form["List"]); }
+    std::string Caption() const { return robot::TextOf(form["Go"]); }
+
+    Form form;
+};
+
+} // namespace
+
+TEST_F(ButtonAction, VisibleTogglesItsTargetAndTheCaptions)
+{
+    Action("VISIBLE,Edit,LATER");
+    Click();
+    Look(
+        [&]
+        {
+            EXPECT_FALSE(IsWindowVisible(form["Edit"]));
+            EXPECT_EQ(Caption(), "Later");
+        });
+    Click();
+    Look(
+        [&]
+        {
+            EXPECT_TRUE(IsWindowVisible(form["Edit"]));
+            EXPECT_EQ(Caption(), "Go");
+        });
+    Click();
+    Look([&] { EXPECT_EQ(Caption(), "Later"); });
+    EXPECT_EQ(Open().answer, 1);
+}
+
+TEST_F(ButtonAction, ActiveTogglesItsTargetAndTheCaptions)
+{
+    Action("ACTIVE,Edit,LATER");
+    Click();
+    Look(
+        [&]
+        {
+            EXPECT_FALSE(IsWindowEnabled(form["Edit"]));
+            EXPECT_EQ(Caption(), "Later");
+        });
+    Click();
+    Look(
+        [&]
+        {
+            EXPECT_TRUE(IsWindowEnabled(form["Edit"]));
+            EXPECT_EQ(Caption(), "Go");
+        });
+    Open();
+}
+
+TEST_F(ButtonAction, WithoutASecondValueTheCaptionStays)
+{
+    Action("VISIBLE,Edit");
+    Click();
+    Look(
+        [&]
+        {
+            EXPECT_FALSE(IsWindowVisible(form["Edit"]));
+            EXPECT_EQ(Caption(), "Go");
+        });
+    Open();
+}
+
+TEST_F(ButtonAction, TheCaptionTogglesAlsoWithoutATarget)
+{
+    for (const char* action : {"VISIBLE,Nobody,LATER", "ACTIVE,Nobody,LATER"})
+    {
+        SCOPED_TRACE(action);
+        Action(action);
+        Click();
+        Look([&] { EXPECT_EQ(Caption(), "Later"); });
+        Click();
+        Look([&] { EXPECT_EQ(Caption(), "Go"); });
+        Click();
+        Look([&] { EXPECT_EQ(Caption(), "Later"); });
+        EXPECT_EQ(Open().messages, Texts{});
+    }
+}
+
+TEST_F(ButtonAction, ACaptionWithoutTextShowsTheSentinel)
+{
+    Action("VISIBLE,Edit,NOWHERE");
+    Click();
+    Look([&] { EXPECT_EQ(Caption(), "no value present"); });
+    Click();
+    Look([&] { EXPECT_EQ(Caption(), "Go"); });
+    Open();
+}
+
+TEST_F(ButtonAction, ACaptionThatARuleHasChangedGivesWayToTheAlternateText)
+{
+    Action("VISIBLE,Edit,LATER");
+    Click();
+    Look([&] { SetWindowTextA(form["Go"], "other"); });
+    Click();
+    Look([&] { EXPECT_EQ(Caption(), "Later"); });
+    Open();
+}
+
+TEST_F(ButtonAction, AddTakesTheShownTextOfItsSource)
+{
+    form.main.layout.emplace_back("ListBox Target");
+    Action("ADD,List,Target");
+    Look([&] { robot::SelectItem(form["List"], 1); });
+    Click();
+    Look([&] { EXPECT_EQ(robot::ItemsOf(form["Target"]), (Texts{"TWO"})); });
+    form.main.output = {"(\"%s\", Target)"};
+    EXPECT_EQ(Open().text, "TWO");
+}
+
+TEST_F(ButtonAction, AddTakesFirstAndLastValue)
+{
+    form.main.layout.emplace_back("ListBox Target");
+    Action("ADD,List,Edit,Target");
+    Click();
+    Look([&] { EXPECT_EQ(robot::ItemsOf(form["Target"]), (Texts{"ONE"})); });
+    Open();
+}
+
+TEST_F(ButtonAction, AddWithOneValueAddsToItsSource)
+{
+    Action("ADD,List");
+    Click();
+    Look([&] { EXPECT_EQ(Items(), (Texts{"First", "Second", "Third", "ONE"})); });
+    Open();
+}
+
+TEST_F(ButtonAction, AddDoesNothingWithoutSourceOrTarget)
+{
+    for (const char* action : {"ADD,Nobody,List", "ADD,List,Nobody", "ADD,Edit,Nobody"})
+    {
+        SCOPED_TRACE(action);
+        Action(action);
+        Click();
+        Look([&] { EXPECT_EQ(Items().size(), 3U); });
+        EXPECT_EQ(Open().messages, Texts{});
+    }
+}
+
+TEST_F(ButtonAction, AddDoesNothingWhenNothingIsSelected)
+{
+    form.main.layout.emplace_back("ListBox Target");
+    Action("ADD,List,Target");
+    Look([&] { robot::SelectItem(form["List"], -1); });
+    Click();
+    Look(
+        [&]
+        {
+            EXPECT_EQ(robot::ItemsOf(form["Target"]), Texts{});
+            EXPECT_EQ(GetFocus(), form["List"]);
+        });
+    Open();
+}
+
+TEST_F(ButtonAction, AddFromASourceWithoutShownTextTells201Once)
+{
+    form.main.values.emplace_back("Edit=text");
+    Action("ADD,Edit,List");
+    Click();
+    form.Message();
+    Look([&] { EXPECT_EQ(Items().size(), 3U); });
+    EXPECT_EQ(Open().messages, (Texts{"201 ''"}));
+}
+
+TEST_F(ButtonAction, DeleteTakesTheSelectedItemAndKeepsTheFocusWhileItemsAreLeft)
+{
+    Action("DELETE,List");
+    Click();
+    Look(
+        [&]
+        {
+            EXPECT_EQ(Items(), (Texts{"Second", "Third"}));
+            EXPECT_EQ(GetFocus(), form["Go"]);
+        });
+    Open();
+}
+
+TEST_F(ButtonAction, DeletingTheLastItemMovesTheFocusToTheControlBehindTheButton)
+{
+    form.main.values = {"List=ONE,one"};
+    Action("DELETE,List");
+    Click();
+    Look(
+        [&]
+        {
+            EXPECT_EQ(Items(), Texts{});
+            EXPECT_EQ(GetFocus(), form["Edit"]);
+        });
+    EXPECT_EQ(Open().messages, Texts{});
+}
+
+TEST_F(ButtonAction, DeletingTheLastItemFromTheLastControlRaisesTheInvalidArgument)
+{
+    form.main.layout = {"TextBox Edit", "ListBox List", "PushButton Go"};
+    form.main.values = {"List=ONE,one"};
+    form.main.hasButtons = false;
+    Action("DELETE,List");
+    Click();
+    form.Message();
+    Look([&] { EXPECT_EQ(Items(), Texts{}); });
+    EXPECT_EQ(form.Cancel().Open().messages, (Texts{invalidArgument}));
+}
+
+TEST_F(ButtonAction, DeleteOnAControlWithoutItemsDoesNothing)
+{
+    for (const char* action : {"DELETE,Edit", "DELETE,Nobody"})
+    {
+        SCOPED_TRACE(action);
+        Action(action);
+        Click();
+        Look([&] { EXPECT_EQ(GetFocus(), form["Go"]); });
+        EXPECT_EQ(Open().messages, Texts{});
+    }
+}
+
+TEST_F(ButtonAction, UpAndDownDoNothingOnOtherControls)
+{
+    for (const char* action : {"UP,Edit", "DOWN,Edit", "UP,Nobody", "DOWN,Nobody"})
+    {
+        SCOPED_TRACE(action);
+        Action(action);
+        Click();
+        EXPECT_EQ(Open().messages, Texts{});
+    }
+}
+
+TEST_F(ButtonAction, FillDoesNothingOnOtherControls)
+{
+    for (const char* action : {"FILL,Go", "FILL,Nobody"})
+    {
+        SCOPED_TRACE(action);
+        Action(action);
+        Click();
+        EXPECT_EQ(Open().messages, Texts{});
+    }
+}
+
+TEST_F(ButtonAction, ActionWithAMissingLibraryRaises233)
+{
+    Action("ACTION,no-such-library,Function,Send,Take");
+    Click();
+    form.Message();
+    EXPECT_EQ(Open().messages, (Texts{"238\n233 'no-such-library'"}));
+}
+
+TEST_F(ButtonAction, ActionWithAMissingFunctionRaises232AndKeepsTheWaitCursor)
+{
+    Action("ACTION,nasty,NoSuchFunction,Send,Take");
+    Click();
+    form.Message();
+    Look([&] { EXPECT_EQ(GetCursor(), LoadCursorA(nullptr, IDC_WAIT)); });
+    EXPECT_EQ(Open().messages, (Texts{"238 ''\n232 ''"}));
+}
+
+TEST_F(ButtonAction, ActionWithTooFewValuesRaisesTheInvalidArgumentBeforeItLoadsAnything)
+{
+    Action("ACTION,no-such-library,Function,Send");
+    Click();
+    form.Message();
+    EXPECT_EQ(Open().messages, (Texts{invalidArgument}));
+}
+
+TEST_F(ButtonAction, ActionDiscardsTheAnswerOfAnyOtherFunction)
+{
+    for (const char* function : {"EchoText", "FullText", "SilentText"})
+    {
+        SCOPED_TRACE(function);
+        form.main.values = {"Edit=kept"};
+        form.main.output = {"(\"%s\", Edit)", "$OUTPUT, Send", "(\"%s\", Edit)"};
+        form.main.input = {"$INPUT, Take", InputTo("Edit").front()};
+        Action(std::string("ACTION,nasty,") + function + ",Send,Take");
+        Click();
+        const Form::Outcome outcome = Open();
+        EXPECT_EQ(outcome.text, "kept");
+        EXPECT_EQ(outcome.messages, Texts{});
+    }
+}
+
+TEST_F(ButtonAction, ActionWithoutAnOutputRuleCallsNothing)
+{
+    Action("ACTION,lytdata,Remember,Nothing,Take");
+    Click();
+    form.main.layout.emplace_back("ListBox Seen");
+    form.main.values.emplace_back("Seen=FILLEDBY,lytdata,OpenList,NextItem,Which");
+    form.main.output = {"(\"done\")", "$OUTPUT, Which", "(\"remembered\")"};
+    form.main.layout.emplace_back("PushButton Fill");
+    form.main.values.emplace_back("Fill=FILL,Seen");
+    Look([&] { robot::Click(form["Fill"]); });
+    Look([&] { EXPECT_EQ(robot::ItemsOf(form["Seen"]), Texts{}); });
+    EXPECT_EQ(Open().messages, Texts{});
+}
+
+TEST_F(ButtonAction, ActionHandsTheComposedTextToTheFunction)
+{
+    form.main.values = {"Edit=first text", "Seen=FILLEDBY,lytdata,OpenList,NextItem,Which", "Fill=FILL,Seen"};
+    form.main.layout.insert(form.main.layout.end(), {"ListBox Seen", "PushButton Fill"});
+    form.main.output = {"(\"done\")", "$OUTPUT, Which", "(\"remembered\")", "$OUTPUT, Send", "(\"<%s>\", Edit)"};
+    Action("ACTION,lytdata,Remember,Send,Take");
+    Click();
+    Look([&] { robot::Click(form["Fill"]); });
+    Look([&] { EXPECT_EQ(robot::ItemsOf(form["Seen"]), (Texts{"<first text>"})); });
+    EXPECT_EQ(Open().messages, Texts{});
+}

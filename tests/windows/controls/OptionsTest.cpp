@@ -1,0 +1,379 @@
+#include "Form.h"
+
+#include <gtest/gtest.h>
+
+namespace
+{
+
+class CheckBox : public testing::Test
+{
+protected:
+    CheckBox()
+    {
+        form.main.layout = {"CheckBox Box"};
+        form.main.values = {"Box=ON,yes", "Box=OFF,no", "Box=no"};
+        form.main.output = {"(\"<%s>\", Box)"};
+    }
+
+    bool IsChecked() const { return SendMessageA(form["Box"], BM_GETCHECK, 0, 0) == BST_CHECKED; }
+    std::string ValueFor(const std::string& input)
+    {
+        form.main.input = InputTo("Box");
+        return form.Ok().Open(input).text;
+    }
+
+    Form form;
+};
+
+class Options : public testing::Test
+{
+protected:
+    Options()
+    {
+        form.main.layout = {"OptionGroup .Kind", "OptionButton A", "OptionButton B", "OptionButton C"};
+        form.main.values = {"A=a", "B=b", "C=c", "Kind=b"};
+        form.main.output = {"(\"<%s>\", Kind)"};
+    }
+
+    bool IsChecked(const std::string& name) const { return SendMessageA(form[name], BM_GETCHECK, 0, 0) == BST_CHECKED; }
+    std::string Checked() const
+    {
+        std::string names;
+        for (const char* name : {"A", "B", "C"})
+            names += IsChecked(name) ? name : "";
+        return names;
+    }
+
+    Form form;
+};
+
+} // namespace
+
+TEST_F(CheckBox, TakesItsOwnTextAndTheWordAndAnswersItsOwnText)
+{
+    EXPECT_EQ(ValueFor("yes"), "<yes>");
+    EXPECT_EQ(ValueFor("ON"), "<yes>");
+    form.main.values.back() = "Box=yes";
+    EXPECT_EQ(ValueFor("no"), "<no>");
+    EXPECT_EQ(ValueFor("OFF"), "<no>");
+}
+
+TEST_F(CheckBox, WithoutAnOffTextItsUncheckedValueIsEmpty)
+{
+    form.main.values = {"Box=ON,yes"};
+    EXPECT_EQ(form.Ok().Open().text, "<>");
+}
+
+TEST_F(CheckBox, AnUnknownValueLeavesItAsItIs)
+{
+    EXPECT_EQ(ValueFor("other"), "<no>");
+    form.main.values.back() = "Box=yes";
+    EXPECT_EQ(ValueFor("other"), "<yes>");
+}
+
+TEST_F(CheckBox, AnEmptyValueLeavesItAsItIs)
+{
+    form.main.values.back() = "Box=yes";
+    EXPECT_EQ(ValueFor(""), "<yes>");
+}
+
+TEST_F(CheckBox, AnEmptyValueEqualsATextThatWasNeverGiven)
+{
+    // No off text, so that the empty value is it.
+    form.main.values = {"Box=ON,yes", "Box=yes"};
+    EXPECT_EQ(ValueFor(""), "<>");
+    // Neither text: the empty value is the on text.
+    form.main.values = {"Box=OFF,no", "Box=no"};
+    EXPECT_EQ(ValueFor(""), "<>");
+}
+
+TEST_F(CheckBox, StartsInItsDefaultState)
+{
+    form.Then([&] { EXPECT_FALSE(IsChecked()); }).Ok().Open();
+    form.main.values.back() = "Box=yes";
+    form.Then([&] { EXPECT_TRUE(IsChecked()); }).Ok().Open();
+}
+
+TEST_F(CheckBox, WithoutAnyStatementStartsChecked)
+{
+    form.main.values.clear();
+    form.Then([&] { EXPECT_TRUE(IsChecked()); }).Ok().Open();
+    form.main.values = {"Box=ON,yes"};
+    form.Then([&] { EXPECT_FALSE(IsChecked()); }).Ok().Open();
+}
+
+TEST_F(CheckBox, AWrongDefaultRaises236WithItsName)
+{
+    form.main.values.back() = "Box=perhaps";
+    const Form::Outcome outcome = form.Message().Open();
+    EXPECT_EQ(outcome.answer, 0);
+    EXPECT_EQ(outcome.messages, (Texts{"238\n236 'Box'"}));
+}
+
+TEST_F(CheckBox, AClickTogglesItAndRunsTheRules)
+{
+    form.main.layout.emplace_back("TextBox Edit");
+    form.main.rules = {"Edit/ACTIVE=Box(yes)"};
+    form.Then(
+        [&]
+        {
+            EXPECT_FALSE(IsWindowEnabled(form["Edit"]));
+            robot::Click(form["Box"]);
+        });
+    form.Then([&] { EXPECT_TRUE(IsWindowEnabled(form["Edit"])); });
+    EXPECT_EQ(form.Ok().Open().text, "<yes>");
+}
+
+TEST_F(CheckBox, CountsAsChangedByItsState)
+{
+    form.main.layout.emplace_back("TextBox Edit");
+    form.main.values.emplace_back("Edit=kept");
+    form.main.rules = {"Edit/CLEAR=Box"};
+    form.Then([&] { robot::Click(form["Box"]); });
+    form.Then([&] { EXPECT_EQ(robot::TextOf(form["Edit"]), ""); });
+    form.Ok().Open();
+}
+
+TEST_F(CheckBox, IsAsWideAsItsTextWithRoomForTheMark)
+{
+    form.main.layout = {"CheckBox 8, 6, 400, 90, \"Box\", .Box", "Text Box2"};
+    form.texts["Box2"] = "Box";
+    form.Then(
+        [&]
+        {
+            RECT box = {};
+            GetClientRect(form["Box"], &box);
+            RECT text = {};
+            GetClientRect(form["Box2"], &text);
+            // 28 units at 96 dots per inch.
+            EXPECT_EQ(box.right, text.right + 21);
+            EXPECT_EQ(box.bottom, text.bottom);
+        });
+    form.Ok().Open();
+}
+
+TEST_F(Options, TheGroupAnswersForItsCheckedButton)
+{
+    form.Then([&] { EXPECT_EQ(Checked(), "B"); });
+    EXPECT_EQ(form.Ok().Open().text, "<b>");
+}
+
+TEST_F(Options, AGroupStatementBeforeTheButtonsSelectsNothing)
+{
+    form.main.values = {"Kind=b", "A=a", "B=b", "C=c"};
+    form.Then([&] { EXPECT_EQ(Checked(), ""); });
+    EXPECT_EQ(form.Ok().Open().text, "<>");
+}
+
+TEST_F(Options, AGroupWithoutAStatementStartsWithNothingSelected)
+{
+    form.main.values = {"A=a", "B=b", "C=c"};
+    form.Then([&] { EXPECT_EQ(Checked(), ""); });
+    EXPECT_EQ(form.Ok().Open().text, "<>");
+}
+
+TEST_F(Options, AGroupWithoutACheckedButtonIsEmptyAndHasContent)
+{
+    form.main.layout.emplace_back("TextBox Edit");
+    form.main.values = {"A=a", "B=b", "C=c"};
+    form.main.rules = {"Edit/ACTIVE=Kind(NOTNULL)"};
+    form.Then([&] { EXPECT_TRUE(IsWindowEnabled(form["Edit"])); });
+    EXPECT_EQ(form.Ok().Open().text, "<>");
+}
+
+TEST_F(Options, AValueOfNoButtonChecksNothing)
+{
+    form.main.input = InputTo("Kind");
+    form.Then([&] { EXPECT_EQ(Checked(), ""); });
+    EXPECT_EQ(form.Ok().Open("other").text, "<>");
+}
+
+TEST_F(Options, SetValueOfTheGroupChecksTheButtonOfTheValue)
+{
+    form.main.input = InputTo("Kind");
+    form.Then([&] { EXPECT_EQ(Checked(), "C"); });
+    EXPECT_EQ(form.Ok().Open("c").text, "<c>");
+}
+
+TEST_F(Options, AnUnknownValueUnchecksAButton)
+{
+    form.main.input = InputTo("B");
+    form.Then([&] { EXPECT_EQ(Checked(), ""); });
+    form.Ok().Open("other");
+}
+
+TEST_F(Options, AnEmptyValueLeavesButtonsAsTheyAre)
+{
+    form.main.input = InputTo("Kind");
+    form.Then([&] { EXPECT_EQ(Checked(), "B"); });
+    form.Ok().Open("");
+}
+
+TEST_F(Options, TheValueOfAButtonIsItsOwnCheckedOrNot)
+{
+    form.main.output = {"(\"%s%s%s\", A, B, C)"};
+    EXPECT_EQ(form.Ok().Open().text, "abc");
+}
+
+TEST_F(Options, AButtonCountsAsChangedByItsStateAndAGroupByItsText)
+{
+    form.main.layout.insert(form.main.layout.end(), {"TextBox First", "TextBox Second"});
+    // Two buttons of one value: moving the mark between them changes no text.
+    form.main.values = {"A=same", "B=same", "C=c", "Kind=same", "First=kept", "Second=kept"};
+    form.main.rules = {"First/CLEAR=A", "Second/CLEAR=Kind"};
+    form.Then([&] { robot::Click(form["A"]); });
+    form.Then([&] { robot::Click(form["B"]); });
+    form.Then(
+        [&]
+        {
+            EXPECT_EQ(robot::TextOf(form["First"]), "");
+            EXPECT_EQ(robot::TextOf(form["Second"]), "kept");
+            robot::Click(form["C"]);
+        });
+    form.Then([&] { EXPECT_EQ(robot::TextOf(form["Second"]), ""); });
+    form.Ok().Open();
+}
+
+TEST_F(Options, ADisabledGroupKeepsItsValueAndItsMarks)
+{
+    form.main.layout.emplace_back("CheckBox Box");
+    form.main.values.insert(form.main.values.end(), {"Box=ON,yes", "Box=OFF,no", "Box=no"});
+    form.main.rules = {"Kind/ACTIVE=Box(yes)"};
+    form.Then(
+        [&]
+        {
+            for (const char* name : {"A", "B", "C"})
+                EXPECT_FALSE(IsWindowEnabled(form[name]));
+            EXPECT_EQ(Checked(), "B");
+        });
+    EXPECT_EQ(form.Ok().Open().text, "<b>");
+}
+
+TEST_F(Options, AHiddenGroupCountsAsInactive)
+{
+    form.main.layout.insert(form.main.layout.end(), {"CheckBox Box", "TextBox Edit"});
+    form.main.values.insert(form.main.values.end(), {"Box=ON,yes", "Box=OFF,no", "Box=yes"});
+    form.main.rules = {"Kind/VISIBLE=Box(yes)", "Edit/ACTIVE=Kind(b)"};
+    form.Then(
+        [&]
+        {
+            EXPECT_TRUE(IsWindowVisible(form["A"]));
+            EXPECT_TRUE(IsWindowEnabled(form["Edit"]));
+            robot::Click(form["Box"]);
+        });
+    form.Then(
+        [&]
+        {
+            EXPECT_FALSE(IsWindowVisible(form["A"]));
+            EXPECT_FALSE(IsWindowVisible(form["C"]));
+            EXPECT_FALSE(IsWindowEnabled(form["Edit"]));
+        });
+    form.Ok().Open();
+}
+
+TEST_F(Options, OfTwoOptionsOfAGroupTheButtonsGetTheFirst)
+{
+    static const struct
+    {
+        Texts words;
+        bool visible;
+        bool enabled;
+    } cases[] = {
+        {{"Kind=INACTIVE"}, true, false},
+        {{"Kind=DISPLAYONLY"}, true, false},
+        {{"Kind=INACTIVE", "Kind=INVISIBLE"}, false, true},
+        {{"Kind=DISPLAYONLY", "Kind=HIDDEN"}, false, true},
+        {{"Kind=INVISIBLE"}, false, true},
+    };
+    for (const auto& c : cases)
+    {
+        SCOPED_TRACE(c.words.front());
+        form.main.values = {"A=a", "B=b", "C=c"};
+        form.main.values.insert(form.main.values.end(), c.words.begin(), c.words.end());
+        form.Then(
+            [&]
+            {
+                EXPECT_EQ(IsWindowVisible(form["B"]) != FALSE, c.visible);
+                EXPECT_EQ(IsWindowEnabled(form["B"]) != FALSE, c.enabled);
+            });
+        form.Ok().Open();
+    }
+}
+
+TEST_F(Options, OnlyTheFirstButtonBeginsAGroup)
+{
+    form.Then(
+        [&]
+        {
+            const auto startsGroup = [&](const char* name)
+            { return (GetWindowLongPtrA(form[name], GWL_STYLE) & WS_GROUP) != 0; };
+            EXPECT_TRUE(startsGroup("A"));
+            EXPECT_FALSE(startsGroup("B"));
+            EXPECT_FALSE(startsGroup("C"));
+        });
+    form.Ok().Open();
+}
+
+TEST_F(Options, ClicksMoveTheMarkWithinAGroupOnly)
+{
+    form.main.layout.insert(form.main.layout.end(), {"OptionGroup .Other", "OptionButton D", "OptionButton E"});
+    form.main.values.insert(form.main.values.end(), {"D=d", "E=e", "Other=d"});
+    form.main.output = {"(\"%s %s\", Kind, Other)"};
+    form.Then([&] { robot::Click(form["C"]); });
+    form.Then([&] { robot::Click(form["E"]); });
+    form.Then([&] { robot::Click(form["A"]); });
+    EXPECT_EQ(form.Ok().Open().text, "a e");
+}
+
+TEST_F(Options, AButtonWithoutAGroupJoinsThatOfTheOuterDialog)
+{
+    form.main.layout.insert(form.main.layout.end(), {"PushButton Go", "TextBox Edit"});
+    form.main.values.emplace_back("Go=DIALOG,Inner,none,\"\"");
+    form.dialogs["Inner"] = {.layout = {"OptionButton Lone"}, .values = {"Lone=lone"}, .output = {"(\"x\")"}};
+    // The value of the group is asked while the inner button is part of it, and again when it is gone.
+    form.main.rules = {"Edit/ACTIVE=Kind(b)"};
+    form.Then([&] { robot::Click(form["Go"]); });
+    form.In("Inner", [&] { robot::Click(form["Lone"]); });
+    form.Ok("Inner");
+    form.Then([&] { EXPECT_TRUE(IsWindowEnabled(form["Edit"])); });
+    EXPECT_EQ(form.Ok().Open().text, "<b>");
+}
+
+TEST_F(Options, AButtonWithoutAnyGroupStandsAlone)
+{
+    form.main.layout = {"OptionButton A"};
+    form.main.values = {"A=a"};
+    form.main.output = {"(\"%s\", A)"};
+    form.Then([&] { robot::Click(form["A"]); });
+    form.Then([&] { EXPECT_TRUE(IsChecked("A")); });
+    EXPECT_EQ(form.Ok().Open().text, "a");
+}
+
+TEST_F(Options, AnOptionButtonIsSizedByItsText)
+{
+    form.main.layout = {"OptionGroup .Kind", "OptionButton 8, 6, 100, 90, \"A\", .A", "Text T"};
+    form.main.values.clear();
+    form.main.output = {"(\"x\")"};
+    form.texts = {{"A", "Label"}, {"T", "Label"}};
+    form.Then(
+        [&]
+        {
+            RECT button = {};
+            GetClientRect(form["A"], &button);
+            RECT text = {};
+            GetClientRect(form["T"], &text);
+            EXPECT_EQ(button.right, text.right + 21);
+            EXPECT_EQ(button.bottom, text.bottom);
+        });
+    form.Ok().Open();
+}
+
+TEST_F(Options, AGroupThatFailsItsEvaluationTakesNoFocus)
+{
+    form.main.layout.insert(form.main.layout.begin(), "TextBox Edit");
+    form.main.evaluation = {"Kind=b:REFUSED"};
+    form.Ok();
+    form.Message();
+    form.Then([&] { EXPECT_NE(GetFocus(), form["B"]); });
+    EXPECT_EQ(form.Cancel().Open().messages, (Texts{"refused"}));
+}

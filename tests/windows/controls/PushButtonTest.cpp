@@ -1,0 +1,267 @@
+#include "Form.h"
+
+#include <gtest/gtest.h>
+
+namespace
+{
+
+// A button that adds an item to a list each time it acts.
+class PushButton : public testing::Test
+{
+protected:
+    PushButton()
+    {
+        form.main.layout = {"PushButton Go", "ListBox Source", "ListBox Target"};
+        form.main.values = {"Source=ONE,one", "Go=ADD,Source,Target"};
+        form.texts = {{"ONE", "First"}};
+    }
+
+    void Send(UINT message, WPARAM wParam = 0) const { SendMessageA(form["Go"], message, wParam, 0); }
+    int Actions() const { return static_cast<int>(robot::ItemsOf(form["Target"]).size()); }
+    void ExpectActions(int count)
+    {
+        form.Then([this, count] { EXPECT_EQ(Actions(), count); });
+    }
+
+    Form form;
+};
+
+} // namespace
+
+TEST_F(PushButton, OnePressOfTheMouseActsOnce)
+{
+    form.Then([&] { robot::Click(form["Go"]); });
+    ExpectActions(1);
+    form.Then([&] { robot::Click(form["Go"]); });
+    ExpectActions(2);
+    form.Ok().Open();
+}
+
+TEST_F(PushButton, OnePressOfTheSpaceKeyActsOnce)
+{
+    form.Then(
+        [&]
+        {
+            robot::Focus(form["Go"]);
+            robot::PressKey(VK_SPACE);
+        });
+    ExpectActions(1);
+    form.Then([&] { robot::PressKey(VK_SPACE); });
+    ExpectActions(2);
+    form.Ok().Open();
+}
+
+TEST_F(PushButton, OnePressOfTheReturnKeyActsOnce)
+{
+    form.Then(
+        [&]
+        {
+            robot::Focus(form["Go"]);
+            robot::PressKey(VK_RETURN);
+        });
+    ExpectActions(1);
+    form.Ok().Open();
+}
+
+TEST_F(PushButton, ReturnActsOncePerCommandThatReachedTheDialog)
+{
+    form.Then(
+        [&]
+        {
+            robot::Focus(form["Go"]);
+            // A command of any control counts.
+            SendMessageA(robot::ActiveDialog(), WM_COMMAND, MAKEWPARAM(0, LBN_SELCHANGE),
+                         reinterpret_cast<LPARAM>(form["Source"]));
+            Send(WM_KEYUP, VK_RETURN);
+            EXPECT_EQ(Actions(), 1);
+            // The key that opened this dialog may come up here: without a command it is not meant for the button.
+            Send(WM_KEYUP, VK_RETURN);
+            EXPECT_EQ(Actions(), 1);
+            SendMessageA(robot::ActiveDialog(), WM_COMMAND, MAKEWPARAM(0, LBN_SELCHANGE),
+                         reinterpret_cast<LPARAM>(form["Source"]));
+            Send(WM_KEYUP, VK_RETURN);
+            EXPECT_EQ(Actions(), 2);
+        });
+    form.Ok().Open();
+}
+
+TEST_F(PushButton, SpaceNeedsNoEarlierCommand)
+{
+    form.Then(
+        [&]
+        {
+            Send(WM_KEYUP, VK_RETURN);
+            Send(WM_KEYUP, VK_RETURN);
+            const int before = Actions();
+            Send(WM_KEYUP, VK_SPACE);
+            EXPECT_EQ(Actions(), before + 1);
+        });
+    form.Ok().Open();
+}
+
+TEST_F(PushButton, OtherKeysDoNotAct)
+{
+    form.Then(
+        [&]
+        {
+            Send(WM_KEYUP, 'A');
+            Send(WM_KEYUP, VK_TAB);
+            EXPECT_EQ(Actions(), 0);
+        });
+    form.Ok().Open();
+}
+
+TEST_F(PushButton, ComingUpWithoutGoingDownDoesNotAct)
+{
+    form.Then(
+        [&]
+        {
+            Send(BM_SETSTATE, FALSE);
+            EXPECT_EQ(Actions(), 0);
+            Send(BM_SETSTATE, TRUE);
+            EXPECT_EQ(Actions(), 0);
+            Send(BM_SETSTATE, FALSE);
+            EXPECT_EQ(Actions(), 1);
+            Send(BM_SETSTATE, FALSE);
+            EXPECT_EQ(Actions(), 1);
+        });
+    form.Ok().Open();
+}
+
+TEST_F(PushButton, ComingUpAfterTheSpaceKeyFindsNothingToDo)
+{
+    form.Then(
+        [&]
+        {
+            Send(BM_SETSTATE, TRUE);
+            Send(WM_KEYUP, VK_SPACE);
+            Send(BM_SETSTATE, FALSE);
+            EXPECT_EQ(Actions(), 1);
+        });
+    form.Ok().Open();
+}
+
+TEST_F(PushButton, AClickSetsTheArrowArmedOrNot)
+{
+    form.Then(
+        [&]
+        {
+            SetCursor(LoadCursorA(nullptr, IDC_CROSS));
+            Send(BM_SETSTATE, FALSE);
+            EXPECT_EQ(GetCursor(), LoadCursorA(nullptr, IDC_ARROW));
+            SetCursor(LoadCursorA(nullptr, IDC_CROSS));
+            Send(BM_SETSTATE, TRUE);
+            Send(BM_SETSTATE, FALSE);
+            EXPECT_EQ(GetCursor(), LoadCursorA(nullptr, IDC_ARROW));
+        });
+    form.Ok().Open();
+}
+
+TEST_F(PushButton, AnUnknownActionStillRunsTheRules)
+{
+    form.main.layout.emplace_back("TextBox Edit");
+    form.main.values = {"Source=ONE,one", "Go=NOTHING,x", "Edit=kept"};
+    form.main.rules = {"Edit/CLEAR=Source"};
+    form.Then(
+        [&]
+        {
+            SendMessageA(form["Source"], LB_SETCURSEL, static_cast<WPARAM>(-1), 0);
+            EXPECT_EQ(robot::TextOf(form["Edit"]), "kept");
+            Send(BM_SETSTATE, TRUE);
+            Send(BM_SETSTATE, FALSE);
+            EXPECT_EQ(robot::TextOf(form["Edit"]), "");
+        });
+    form.Ok().Open();
+}
+
+TEST_F(PushButton, RejectRunsTheRulesOnly)
+{
+    form.main.layout.emplace_back("TextBox Edit");
+    form.main.values = {"Source=ONE,one", "Go=REJECT,x", "Edit=kept"};
+    form.main.rules = {"Edit/CLEAR=Source"};
+    form.Then(
+        [&]
+        {
+            SendMessageA(form["Source"], LB_SETCURSEL, static_cast<WPARAM>(-1), 0);
+            Send(BM_SETSTATE, TRUE);
+            Send(BM_SETSTATE, FALSE);
+            EXPECT_EQ(robot::TextOf(form["Edit"]), "");
+            EXPECT_EQ(Actions(), 0);
+        });
+    form.Ok().Open();
+}
+
+TEST_F(PushButton, WithoutAStatementTheRulesRun)
+{
+    form.main.values = {"Source=ONE,one"};
+    form.Then([&] { robot::Click(form["Go"]); });
+    ExpectActions(0);
+    form.Ok().Open();
+}
+
+TEST_F(PushButton, ALaterStatementReplacesTheFirst)
+{
+    form.main.values = {"Source=ONE,one", "Go=DELETE,Source", "Go=ADD,Source,Target"};
+    form.Then([&] { robot::Click(form["Go"]); });
+    ExpectActions(1);
+    form.Ok().Open();
+}
+
+TEST_F(PushButton, AnOptionWordIsNoAction)
+{
+    form.main.values.emplace_back("Go=ADD,INACTIVE");
+    form.Then([&] { EXPECT_FALSE(IsWindowEnabled(form["Go"])); });
+    form.Ok().Open();
+}
+
+TEST_F(PushButton, KnowsTwoStateWordsOnly)
+{
+    form.main.rules = {"Go/ACTIVE=Source(two)", "Go/OTHER=Source(two)"};
+    form.Then(
+        [&]
+        {
+            EXPECT_FALSE(IsWindowEnabled(form["Go"]));
+            EXPECT_TRUE(IsWindowVisible(form["Go"]));
+        });
+    form.Ok().Open();
+
+    form.main.rules = {"Go/VISIBLE=Source(two)"};
+    form.Then(
+        [&]
+        {
+            EXPECT_TRUE(IsWindowEnabled(form["Go"]));
+            EXPECT_FALSE(IsWindowVisible(form["Go"]));
+        });
+    form.Ok().Open();
+}
+
+TEST_F(PushButton, HasNoValueAndNoActionForRules)
+{
+    form.main.input = InputTo("Go");
+    form.main.output = {"(\"<%s>\", Go)"};
+    form.Message().Ok().Message();
+    const Form::Outcome outcome = form.Open("x");
+    EXPECT_EQ(outcome.messages, (Texts{"200 ''", "201 ''"}));
+    EXPECT_EQ(outcome.text, "<>");
+
+    form.main.input.clear();
+    form.main.output = {"(\"done\")"};
+    form.main.rules = {"Go/CLEAR=Source"};
+    form.Then(
+        [&]
+        {
+            SendMessageA(form["Source"], LB_SETCURSEL, static_cast<WPARAM>(-1), 0);
+            robot::Click(form["Go"]);
+        });
+    form.Message();
+    EXPECT_EQ(form.Ok().Open().messages, (Texts{"248 ''\n247 'Go'"}));
+}
+
+TEST_F(PushButton, ComesUpBeforeAFailureIsTold)
+{
+    form.main.values = {"Go=ACTION,lib"};
+    form.Then([&] { robot::Click(form["Go"]); });
+    form.Message();
+    form.Then([&] { EXPECT_EQ(SendMessageA(form["Go"], BM_GETSTATE, 0, 0) & BST_PUSHED, 0); });
+    EXPECT_EQ(form.Ok().Open().messages, (Texts{invalidArgument}));
+}
