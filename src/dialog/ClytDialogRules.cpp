@@ -12,6 +12,16 @@ float lytScaleY = 1.0F;
 int lytControlsReady = 0;
 int lytInputApplied = 0;
 
+namespace
+{
+
+// How many runs may stand one inside the other. Each event rule can begin one in the run of another, and a description
+// with thousands of them must not use up the host's stack. The run that is not begun here loses nothing: the rules
+// behind the one that changed something see the change in the pass they stand in.
+constexpr int deepestRun = 50;
+
+} // namespace
+
 ClytDialogRules::ClytDialogRules(CString descriptionFile, const CString& defineList)
     : file(defineList), fileName(std::move(descriptionFile))
 {
@@ -45,7 +55,7 @@ ClytControl* ClytDialogRules::FindControl(const CString& name) const
 bool ClytDialogRules::MayRunRules() const
 {
     const bool isReadingInRun = runDepth > 0 && readDepth > 0;
-    return lytControlsReady != 0 && lytInputApplied != 0 && !isReadingInRun;
+    return lytControlsReady != 0 && lytInputApplied != 0 && !isReadingInRun && runDepth < deepestRun;
 }
 
 void ClytDialogRules::RunDependencies()

@@ -49,7 +49,7 @@ public:
     // One pass over the dependency rules in file order, then a new baseline for the controls of their conditions.
     void RunDependencies();
     // False when a command that arrives now must not run the rules: while windows are created or the first input is
-    // scanned, and when a value that a run reads moved the focus.
+    // scanned, when a value that a run reads moved the focus, and when too many runs stand one inside the other.
     bool MayRunRules() const;
 
     // Scans lytInputKey into the controls, empties it and takes the baseline of every control.

@@ -145,6 +145,25 @@ TEST_F(Rules, AreNotEnteredAgainWhileTheyAreCarriedOut)
     EXPECT_EQ(opened.runCount, 4);
 }
 
+TEST_F(Rules, EndInAChainOfThousands)
+{
+    // Each field empties the next, and each change begins a run inside the one before.
+    constexpr int fields = 3000;
+    text.layout.clear();
+    for (int index = 0; index < fields; ++index)
+    {
+        const std::string name = "F" + std::to_string(index);
+        text.layout += "TextBox 1, 2, 3, 4, ." + name + "\n";
+        text.values += name + " = text\n";
+        if (index > 0)
+            text.dependencies += name + "/CLEAR = F" + std::to_string(index - 1) + "\n";
+    }
+    HeadlessForm& opened = Open();
+    opened.Enter("F0", "x");
+    EXPECT_EQ(opened.Value("F1"), "");
+    EXPECT_EQ(opened.Value("F" + CString(std::to_string(fields - 1).c_str())), "");
+}
+
 TEST_F(Rules, AreEnteredAgainAfterAFailure)
 {
     text.dependencies = "B/FILL = A\n";

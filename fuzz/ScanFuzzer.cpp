@@ -1,0 +1,7 @@
+#include "fuzz/Targets.h"
+
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
+{
+    FuzzScan(data, size);
+    return 0;
+}
