@@ -77,7 +77,8 @@ void lytExpandLabel(char (&target)[lytShownLabelSize], const char* label)
     {
         if (label[0] == '#' && label[1] == '#')
         {
-            std::ranges::for_each("   ", "   " + 3, put);
+            for (int blank = 0; blank < 3; ++blank)
+                put(' ');
             label += 2;
         }
         else
