@@ -1,11 +1,12 @@
 #include "sysinfo/Probes.h"
 
-#include <string>
+#include <algorithm>
+#include <iterator>
 
 namespace
 {
 
-constexpr size_t textLength = 399;
+constexpr size_t textSize = 400;
 
 using GetVersionText = void(char* text);
 
@@ -22,13 +23,17 @@ GetVersionText* FindVersionFunction(HMODULE library)
 // Blanks stand for the version of a library that is missing or does not tell it.
 CString lytProbeResolveVersion()
 {
-    std::string text(textLength, ' ');
+    char text[textSize];
+    std::fill(std::begin(text), std::end(text), ' ');
+    text[textSize - 1] = '\0';
     const HMODULE library = LoadLibraryA("LytRes64.dll");
     if (library != nullptr)
     {
         if (GetVersionText* const getVersion = FindVersionFunction(library))
-            getVersion(text.data());
+            getVersion(text);
         FreeLibrary(library);
     }
-    return text.c_str();
+    // The library need not have left an end.
+    text[textSize - 1] = '\0';
+    return text;
 }

@@ -1,0 +1,152 @@
+#include "ProbeFixture.h"
+
+#include <cstdlib>
+#include <ctime>
+#include <filesystem>
+
+namespace fs = std::filesystem;
+
+namespace
+{
+
+class FileListing : public ProbeFixture
+{
+protected:
+    Texts Lines(const std::string& mask, int recursive = 0) const { return LinesOf(folder.Path(), mask, recursive); }
+    static Texts LinesOf(const std::string& directory, const std::string& mask, int recursive)
+    {
+        TakeLines();
+        lytListFiles(directory.c_str(), mask.c_str(), recursive);
+        return TakeLines();
+    }
+    // Sets the time of the last write, in the universal time zone.
+    void SetTime(const std::string& file, const SYSTEMTIME& time) const
+    {
+        FILETIME written = {};
+        SystemTimeToFileTime(&time, &written);
+        HANDLE handle = CreateFileA(file.c_str(), FILE_WRITE_ATTRIBUTES, 0, nullptr, OPEN_EXISTING,
+                                    FILE_FLAG_BACKUP_SEMANTICS, nullptr);
+        ASSERT_NE(handle, INVALID_HANDLE_VALUE);
+        EXPECT_TRUE(SetFileTime(handle, nullptr, nullptr, &written));
+        CloseHandle(handle);
+    }
+    // A file of the folder with a fixed time, and its line.
+    std::string FileLine(const std::string& name, const std::string& size) const
+    {
+        const std::string path = folder.Path() + "\\" + name;
+        SetTime(path, {2026, 1, 0, 15, 12, 30, 40, 0});
+        const std::string padding(path.size() < 30 ? 30 - path.size() : 0, ' ');
+        return "  " + path + padding + " Size: " + std::string(10 - size.size(), ' ') + size + " Date: " + shown;
+    }
+
+    // Noon of that day, moved twice by the distance of this machine's zone.
+    static std::string ShownTime()
+    {
+        TIME_ZONE_INFORMATION zone = {};
+        GetTimeZoneInformation(&zone);
+        std::tm time = {};
+        time.tm_year = 126;
+        time.tm_mday = 15;
+        time.tm_hour = 12;
+        time.tm_min = 30 - static_cast<int>(2 * (zone.Bias + zone.StandardBias));
+        time.tm_sec = 40;
+        const std::time_t moved = _mkgmtime(&time);
+        char text[128] = "";
+        std::strftime(text, sizeof text, "%c", std::gmtime(&moved));
+        return text;
+    }
+
+    const std::string shown = ShownTime();
+};
+
+} // namespace
+
+TEST_F(FileListing, ShowsTheFilesThatTheMaskNames)
+{
+    folder.Write("LytRes1.dll", "12345");
+    folder.Write("other.dll", "");
+    EXPECT_EQ(Lines("LytRes*.dll"), (Texts{FileLine("LytRes1.dll", "5")}));
+    EXPECT_EQ(LinesOf(folder.Path() + "\\", "LytRes*.dll", 0), (Texts{FileLine("LytRes1.dll", "5")}));
+}
+
+TEST_F(FileListing, ShowsTheTimeMovedTwiceByTheZone)
+{
+    folder.Write("a.txt", "");
+    const std::string line = FileLine("a.txt", "0");
+    EXPECT_EQ(Lines("*.txt"), (Texts{line}));
+    const char* zone = std::getenv("TZ");
+    if (zone != nullptr && std::string(zone) == "Asia/Tokyo")
+    {
+        EXPECT_EQ(line.substr(line.find("Date: ")), "Date: 01/16/26 06:30:40");
+    }
+}
+
+TEST_F(FileListing, WithADotInTheMaskLeavesOutDirectories)
+{
+    folder.Write("sub.d/a.txt", "");
+    EXPECT_EQ(Lines("*.*"), Texts());
+}
+
+TEST_F(FileListing, WithoutADotInTheMaskShowsDirectories)
+{
+    folder.Write("sub/a.txt", "");
+    EXPECT_EQ(Lines("*"), (Texts{"  " + folder.Path() + "\\sub"}));
+}
+
+TEST_F(FileListing, ShowsADirectoryWithFurtherAttributesAsAFile)
+{
+    folder.Write("hidden/a.txt", "");
+    const std::string path = folder.Path() + "\\hidden";
+    if (!SetFileAttributesA(path.c_str(), FILE_ATTRIBUTE_HIDDEN) ||
+        GetFileAttributesA(path.c_str()) == FILE_ATTRIBUTE_DIRECTORY)
+        GTEST_SKIP() << "this file system keeps no attributes";
+    const Texts expected = {FileLine("hidden", "0")};
+    EXPECT_EQ(Lines("*.*"), expected);
+    EXPECT_EQ(Lines("*", 1), expected);
+}
+
+TEST_F(FileListing, ShowsTheLow32BitsOfALargeSize)
+{
+    const std::string path = folder.Write("large.bin", "");
+    std::error_code failure;
+    fs::resize_file(path, 4'294'967'296ULL + 5, failure);
+    ASSERT_FALSE(failure) << failure.message();
+    EXPECT_EQ(Lines("large.bin"), (Texts{FileLine("large.bin", "5")}));
+}
+
+TEST_F(FileListing, GoesDownOnlyWhenAsked)
+{
+    folder.Write("one.txt", "1");
+    folder.Write("sub/two.txt", "22");
+    folder.Write("sub/deep/three.txt", "333");
+    const std::string one = FileLine("one.txt", "1");
+    const std::string two = FileLine("sub\\two.txt", "2");
+    const std::string three = FileLine("sub\\deep\\three.txt", "3");
+    EXPECT_EQ(Lines("*.txt", 0), (Texts{one}));
+    EXPECT_EQ(Lines("*.txt", 2), (Texts{one}));
+    EXPECT_EQ(Lines("*.txt", 1), (Texts{one, two, three}));
+}
+
+TEST_F(FileListing, FindsNothingInADirectoryThatIsMissing)
+{
+    EXPECT_EQ(LinesOf(folder.Path() + "\\none", "*.*", 1), Texts());
+    EXPECT_EQ(LinesOf("Cannot open registry key Software", "lyt*.*", 0), Texts());
+}
+
+TEST_F(FileListing, OfNoDirectoryIsOfTheCurrentOne)
+{
+    const fs::path before = fs::current_path();
+    folder.Write("a.txt", "1");
+    FileLine("a.txt", "1");
+    fs::current_path(folder.Path());
+    const Texts lines = LinesOf("", "a.txt", 0);
+    fs::current_path(before);
+    EXPECT_EQ(lines, (Texts{"  a.txt" + std::string(25, ' ') + " Size:          1 Date: " + shown}));
+}
+
+TEST_F(FileListing, ShowsAllOfManyFiles)
+{
+    for (int i = 0; i < 300; ++i)
+        folder.Write("file" + std::to_string(i) + ".txt", "");
+    EXPECT_EQ(Lines("*.txt").size(), 300U);
+}
