@@ -10,7 +10,7 @@ namespace lytcall
 namespace
 {
 
-// A memory device context with a bitmap of 32 bits a pixel selected into it.
+// A memory device context with a bitmap of 24 bits a pixel selected into it; rows end on a multiple of four bytes.
 class Canvas
 {
 public:
@@ -20,8 +20,8 @@ public:
         m_header.biWidth = width;
         m_header.biHeight = height;
         m_header.biPlanes = 1;
-        m_header.biBitCount = 32;
-        m_header.biSizeImage = static_cast<DWORD>(width * height * 4);
+        m_header.biBitCount = 24;
+        m_header.biSizeImage = static_cast<DWORD>((width * 3 + 3) / 4 * 4 * height);
         BITMAPINFO info = {};
         info.bmiHeader = m_header;
         m_bitmap = CreateDIBSection(m_dc, &info, DIB_RGB_COLORS, &m_pixels, nullptr, 0);
