@@ -19,7 +19,7 @@ void ClytListControl<WINDOW>::AddValues(const CString& text, const CString& sepa
         return;
     const ClytTokenList& tokens = splitter.GetTokens();
     for (POSITION place = tokens.GetHeadPosition(); place != nullptr;)
-        AddPiece(tokens.GetNext(place)->GetText());
+        AddPiece(tokens.GetNext(place).GetText());
 }
 
 template <class WINDOW>

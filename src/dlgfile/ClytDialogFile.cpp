@@ -82,7 +82,7 @@ int ClytDialogFile::ReadSectionLine(POSITION& token, const char* terminator, con
     if (!ReadTokens(delimiters))
         lytRaise("217", CString(), terminator);
     token = tokens.GetHeadPosition();
-    if (token == nullptr || !lytSameWord(tokens.GetHead()->GetText(), terminator))
+    if (token == nullptr || !lytSameWord(tokens.GetHead().GetText(), terminator))
         return 1;
     Next(token);
     return 0;

@@ -80,7 +80,7 @@ private:
     static const char* FindGroupEnd(const char* text);
 
     // The next token; where there is none it is the class library's failure, or that of a statement of wrong form.
-    const ClytToken& Next(POSITION& token) const { return *tokens.GetNext(token); }
+    const ClytToken& Next(POSITION& token) const { return tokens.GetNext(token); }
     const ClytToken& NextOrFail(POSITION& token) const;
     [[noreturn]] void FailStatement() const;
     bool ReadValueList(POSITION& token, CStringList& values) const;

@@ -2,12 +2,13 @@
 // it. The readers decide on the delimiter as much as on the text.
 #pragma once
 
-#include "environment/ClytOwnedList.h"
+#include <afxtempl.h>
 
 class ClytToken : public CObject
 {
 public:
     ClytToken(CString tokenText, char endedBy) : text(std::move(tokenText)), delimiter(endedBy) {}
+    ClytToken(ClytToken&& other) noexcept : text(std::move(other.text)), delimiter(other.delimiter) {}
 
     const CString& GetText() const { return text; }
     char GetDelimiter() const { return delimiter; }
@@ -19,4 +20,5 @@ private:
     char delimiter;
 };
 
-using ClytTokenList = ClytOwnedList<ClytToken>;
+// Held by value: a line's tokens cost one allocation each.
+using ClytTokenList = CList<ClytToken>;

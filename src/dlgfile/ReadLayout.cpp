@@ -42,7 +42,7 @@ int ClytDialogFile::ReadVersionHeader(CString& version)
         const bool isWhole = CutTokens(line, headerDelimiters);
         if (tokens.IsEmpty())
             continue;
-        const CString word = tokens.GetHead()->GetText();
+        const CString word = tokens.GetHead().GetText();
         const bool isVersion = lytSameWord(word, "$VERSION");
         if (!isVersion && !lytSameWord(word, "$LAYOUT"))
             continue;
@@ -52,7 +52,7 @@ int ClytDialogFile::ReadVersionHeader(CString& version)
         {
             if (tokens.GetCount() != 2)
                 FailStatement();
-            version = tokens.GetTail()->GetText();
+            version = tokens.GetTail().GetText();
             isVersionSeen = true;
         }
         if (!lytSameWord(isVersion ? version : word, "$LAYOUT"))
@@ -111,29 +111,29 @@ int ClytDialogFile::ReadControlStatement(ClytControlStatement& statement)
 
 void ClytDialogFile::ReadControlOperands(POSITION token, ClytControlStatement& statement) const
 {
-    CString operand = NextOrFail(token).GetText();
-    if (IsName(operand))
+    const CString& first = NextOrFail(token).GetText();
+    if (IsName(first))
     {
-        statement.name = TakeName(operand);
+        statement.name = TakeName(first);
         return;
     }
-    statement.x = lytNumberOf(operand);
+    statement.x = lytNumberOf(first);
     for (int* number : {&statement.y, &statement.width, &statement.height})
     {
-        operand = NextOrFail(token).GetText();
+        const CString& operand = NextOrFail(token).GetText();
         if (IsName(operand))
             FailStatement();
         *number = lytNumberOf(operand);
     }
     if (token == nullptr)
         return;
-    operand = Next(token).GetText();
-    if (IsName(operand))
+    const CString& fifth = Next(token).GetText();
+    if (IsName(fifth))
     {
-        statement.name = TakeName(operand);
+        statement.name = TakeName(fifth);
         return;
     }
-    statement.text = operand;
+    statement.text = fifth;
     if (token != nullptr)
         statement.name = TakeName(Next(token).GetText());
 }

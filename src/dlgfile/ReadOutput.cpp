@@ -28,7 +28,7 @@ int ClytDialogFile::ReadOutputStatement(CString& groupName, ClytDialogOutput& ru
     if (token == nullptr)
         return 1;
 
-    bool isRightSide = tokens.GetAt(token)->IsBare('(');
+    bool isRightSide = tokens.GetAt(token).IsBare('(');
     while (true)
     {
         const ClytToken& first = NextOrFail(token);

@@ -17,7 +17,7 @@
 void ClytDialogFile::ReadScanRule(POSITION token, ClytScanRule& rule) const
 {
     const char end = ReadScanList(token, rule.scan);
-    if (end == ')' && token != nullptr && tokens.GetAt(token)->IsBare('='))
+    if (end == ')' && token != nullptr && tokens.GetAt(token).IsBare('='))
         Next(token);
     while (token != nullptr)
         ReadConditionFill(token, rule.rules.AddTail(std::make_unique<ClytConditionFill>()));
@@ -48,7 +48,7 @@ char ClytDialogFile::ReadScanList(POSITION& token, ClytScan& scan) const
 
 void ClytDialogFile::ReadConditionFill(POSITION& token, ClytConditionFill& rule) const
 {
-    if (tokens.GetAt(token)->IsBare('('))
+    if (tokens.GetAt(token).IsBare('('))
     {
         Next(token);
         char end = ',';
@@ -60,7 +60,7 @@ void ClytDialogFile::ReadConditionFill(POSITION& token, ClytConditionFill& rule)
         }
         if (end != ')')
             FailStatement();
-        if (token != nullptr && tokens.GetAt(token)->IsBare(','))
+        if (token != nullptr && tokens.GetAt(token).IsBare(','))
             Next(token);
     }
     ReadControlFill(token, rule.fills.AddTail(std::make_unique<ClytControlFill>()));

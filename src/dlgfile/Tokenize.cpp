@@ -65,8 +65,7 @@ bool ClytDialogFile::CutTokens(const char* line, const DelimiterSet& delimiters)
         }
         // What stands between a closing quote and the delimiter is dropped.
         const char* end = delimiters.FindIn(textEnd != nullptr ? textEnd + 1 : start);
-        tokens.AddTail(
-            std::make_unique<ClytToken>(Trimmed(start, textEnd != nullptr ? textEnd : end), DelimiterAt(end)));
+        tokens.AddTail({Trimmed(start, textEnd != nullptr ? textEnd : end), DelimiterAt(end)});
         // A `;` is left standing, and so ends the line.
         start = SkipSpace(*end != '\0' && *end != ';' ? end + 1 : end);
     }
@@ -85,14 +84,13 @@ void ClytDialogFile::TokenizeGrouped(const char* text, const char* delimiters)
     {
         const char* end = ends.FindIn(start);
         if (*end != '(')
-            tokens.AddTail(
-                std::make_unique<ClytToken>(CString(start, static_cast<int>(end - start)), DelimiterAt(end)));
+            tokens.AddTail({CString(start, static_cast<int>(end - start)), DelimiterAt(end)});
         else
         {
             end = FindGroupEnd(end + 1);
             if (*end != ',')
                 end = ends.FindIn(end);
-            tokens.AddTail(std::make_unique<ClytToken>(Trimmed(start, end), ')'));
+            tokens.AddTail({Trimmed(start, end), ')'});
         }
         start = *end != '\0' ? end + 1 : end;
     }

@@ -33,7 +33,7 @@ void HeadlessList::AddValues(const CString& text, const CString& separators)
     ClytDialogFile cutter(nullptr);
     cutter.TokenizeGrouped(text, separators);
     for (POSITION token = cutter.GetTokens().GetHeadPosition(); token != nullptr;)
-        AddItem(CString(), cutter.GetTokens().GetNext(token)->GetText(), 0, 0);
+        AddItem(CString(), cutter.GetTokens().GetNext(token).GetText(), 0, 0);
 }
 
 int HeadlessList::FindValue(const CString& value, size_t count) const

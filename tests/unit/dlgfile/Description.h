@@ -30,7 +30,7 @@ inline std::string Shown(const ClytTokenList& tokens)
     std::string shown;
     for (POSITION place = tokens.GetHeadPosition(); place != nullptr;)
     {
-        const ClytToken& token = *tokens.GetNext(place);
+        const ClytToken& token = tokens.GetNext(place);
         const char delimiter = token.GetDelimiter();
         shown += "[" + std::string(token.GetText().GetString()) + "]";
         shown += delimiter == '\n' ? '/' : delimiter;
