@@ -246,7 +246,7 @@ TEST(Printers, ListsLocalAndNetworkPrinters)
     PrintersFacts facts;
     facts.defaultPrinter = "Office,winspool,LPT1:";
     facts.printers = {{"Office", "LPT1:", "Some PS", mode}, {"Bare", "FILE:", "Other", PrinterMode()}};
-    facts.networkPrinters = {{"\\\\srv\\Floor 2", "\\\\srv"}, {"\\\\srv\\Floor 3", "\\\\srv"}};
+    facts.networkPrinters = {{R"(\\srv\Floor 2)", R"(\\srv)"}, {R"(\\srv\Floor 3)", R"(\\srv)"}};
     EXPECT_EQ(LinesOf(facts),
               (std::vector<std::string>{
                   "Printers",

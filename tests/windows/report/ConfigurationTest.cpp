@@ -10,6 +10,10 @@ class IniPath : public ReportTest
 {
 };
 
+class MachineWithoutAWordProcessor : public ReportTest
+{
+};
+
 // Two word processors, each with template directories of its own.
 class TemplateSearch : public ReportTest
 {
@@ -89,7 +93,7 @@ TEST_F(IniPath, KeepsTheFolderWithoutADefaultValue)
     EXPECT_EQ(InitPath(), folder.Path());
 }
 
-TEST_F(IniPath, MachineWithoutAWordProcessorHasNoBlocks)
+TEST_F(MachineWithoutAWordProcessor, HasNoBlocks)
 {
     const Texts lines = Report();
     EXPECT_EQ(LineOf(lines, "Word Versions"), "Word Versions                  : ");
