@@ -1,0 +1,14 @@
+/* What a caller written in C finds in lyt64.h. */
+#pragma once
+
+#ifdef __cplusplus
+extern "C"
+{
+#endif
+
+int CountFunctionsSeenFromC(void);
+int ReadDocNameFromC(const char* docName, char* buffer, int size);
+
+#ifdef __cplusplus
+}
+#endif

@@ -1,0 +1,103 @@
+// The built DLL as a file: what it exports and imports, how it may be loaded, what it says of itself.
+#include "CallerInC.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <set>
+#include <string>
+#include <vector>
+#include <windows.h>
+
+namespace
+{
+
+class LibraryFile : public testing::Test
+{
+protected:
+    template <class T>
+    const T* At(DWORD offset) const
+    {
+        return reinterpret_cast<const T*>(reinterpret_cast<const char*>(m_module) + offset);
+    }
+    const IMAGE_NT_HEADERS64& Headers() const
+    {
+        return *At<IMAGE_NT_HEADERS64>(static_cast<DWORD>(At<IMAGE_DOS_HEADER>(0)->e_lfanew));
+    }
+    DWORD Directory(int which) const { return Headers().OptionalHeader.DataDirectory[which].VirtualAddress; }
+
+    HMODULE m_module = GetModuleHandleA("lyt64.dll");
+};
+
+std::string InLowerCase(std::string text)
+{
+    std::ranges::transform(text, text.begin(), [](char ch) { return static_cast<char>(std::tolower(ch)); });
+    return text;
+}
+
+} // namespace
+
+TEST_F(LibraryFile, ExportsTheseNamesUndecoratedAndNoOther)
+{
+    const std::set<std::string> expected = {
+        "FreeGlobalObject",        "lytGetCurrentDocName",  "lytGetInitializationPath", "lytGetSymbolfromTree",
+        "lytGetTextForKey",        "lytGetTextFromIniFile", "lytGroupPropertyDialog",   "lytInitialiseEnvironment",
+        "lytListFromIniNext",      "lytListFromIniStart",   "lytOpenTreeView",          "lytOpenTreeViewPara",
+        "lytPhrasePropertyDialog", "lytSetDialogDefine",    "lytSymbolPropertyDialog",  "lytSystemInfoInit",
+        "lytSystemInfoRead",       "lytTreeReadChildNode",  "lytTreeStartChildNode",    "lytWizard",
+        "lytWriteToLogFile",
+    };
+    const auto* table = At<IMAGE_EXPORT_DIRECTORY>(Directory(IMAGE_DIRECTORY_ENTRY_EXPORT));
+    std::set<std::string> names;
+    for (DWORD i = 0; i < table->NumberOfNames; ++i)
+        names.insert(At<char>(At<DWORD>(table->AddressOfNames)[i]));
+    EXPECT_EQ(names, expected);
+    EXPECT_EQ(table->NumberOfFunctions, expected.size());
+}
+
+TEST_F(LibraryFile, OpensBothTreesByOneFunction)
+{
+    EXPECT_EQ(GetProcAddress(m_module, "lytOpenTreeView"), GetProcAddress(m_module, "lytOpenTreeViewPara"));
+}
+
+TEST_F(LibraryFile, ImportsSystemLibrariesOnly)
+{
+    const std::set<std::string> system = {"advapi32.dll", "comctl32.dll", "gdi32.dll",   "kernel32.dll",
+                                          "msvcrt.dll",   "user32.dll",   "version.dll", "winspool.drv"};
+    const auto* import = At<IMAGE_IMPORT_DESCRIPTOR>(Directory(IMAGE_DIRECTORY_ENTRY_IMPORT));
+    for (; import->Name != 0; ++import)
+        EXPECT_TRUE(system.contains(InLowerCase(At<char>(import->Name)))) << At<char>(import->Name);
+}
+
+TEST_F(LibraryFile, MayBeLoadedAnywhereAndRunsNoData)
+{
+    const WORD flags = Headers().OptionalHeader.DllCharacteristics;
+    EXPECT_TRUE(flags & IMAGE_DLLCHARACTERISTICS_DYNAMIC_BASE);
+    EXPECT_TRUE(flags & IMAGE_DLLCHARACTERISTICS_NX_COMPAT);
+    EXPECT_TRUE(flags & 0x0020) << "high-entropy addresses";
+}
+
+TEST_F(LibraryFile, CarriesNoTimeOfItsBuild)
+{
+    EXPECT_EQ(Headers().FileHeader.TimeDateStamp, 0U);
+}
+
+TEST_F(LibraryFile, HasAVersionRecord)
+{
+    char path[MAX_PATH] = "";
+    GetModuleFileNameA(m_module, path, sizeof path);
+    std::vector<char> block(GetFileVersionInfoSizeA(path, nullptr));
+    ASSERT_TRUE(GetFileVersionInfoA(path, 0, static_cast<DWORD>(block.size()), block.data()));
+    void* value = nullptr;
+    UINT length = 0;
+    ASSERT_TRUE(VerQueryValueA(block.data(), "\\StringFileInfo\\040904B0\\OriginalFilename", &value, &length));
+    EXPECT_STREQ(static_cast<const char*>(value), "lyt64.dll");
+}
+
+TEST_F(LibraryFile, ServesACallerInPlainC)
+{
+    EXPECT_EQ(CountFunctionsSeenFromC(), 21);
+    char buffer[10] = "";
+    EXPECT_EQ(ReadDocNameFromC("doc", buffer, sizeof buffer), 1);
+    EXPECT_STREQ(buffer, "doc");
+}
