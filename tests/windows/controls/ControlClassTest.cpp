@@ -1,0 +1,207 @@
+// What no description can bring about: the classes themselves, over a window that stands in for the dialog's.
+#include "controls/ClytCheckBoxControl.h"
+#include "controls/ClytCheckListBox.h"
+#include "controls/ClytComboBoxControl.h"
+#include "controls/ClytListBoxControl.h"
+#include "controls/ClytOptionGroup.h"
+#include "controls/ClytPushButtonControl.h"
+#include "controls/ClytRadioButtonControl.h"
+#include "dialog/ClytDialog.h"
+#include "environment/ProcessState.h"
+#include "support/ErrorTexts.h"
+#include "support/RecordedMessages.h"
+
+#include <gtest/gtest.h>
+
+#include <memory>
+
+namespace
+{
+
+using Texts = std::vector<std::string>;
+
+constexpr ClytPosition origin = {10, 10};
+constexpr ClytSize extent = {100, 80};
+
+CStringList& ListOf(CStringList& list, const char* text)
+{
+    list.RemoveAll();
+    list.AddTail(text);
+    return list;
+}
+
+class ControlClass : public testing::Test
+{
+protected:
+    ControlClass() : dialog("none.dlg", CString())
+    {
+        dialog.SubclassWindow(
+            CreateWindowA("Static", "", WS_POPUP, 0, 0, 300, 300, nullptr, nullptr, nullptr, nullptr));
+    }
+    ~ControlClass() override { TakeMessages(); }
+
+    const ErrorTexts texts;
+    ClytDialog dialog;
+    CStringList values;
+};
+
+// A list whose double click has no target.
+class TargetlessList : public ClytListBoxControl
+{
+public:
+    TargetlessList() : ClytListBoxControl("List", origin, extent, CString()) { action.Set("DBLCLICK", CStringList()); }
+};
+
+} // namespace
+
+TEST_F(ControlClass, AComboBoxOfAnUnknownKindHasNoWindowAndNoMessage)
+{
+    ClytComboBoxControl combo("OtherBox", "Box", origin, extent, CString());
+    combo.SetOption(ListOf(values, "one"), "ONE");
+    combo.SetOption(ListOf(values, "INVISIBLE"), CString());
+    combo.CreateControl(&dialog);
+    EXPECT_EQ(combo.m_hWnd, nullptr);
+    EXPECT_EQ(TakeMessages(), Texts{});
+    // The rest of the interface is safe without a window.
+    combo.SetValue("one");
+    combo.SetValue("other");
+    combo.SaveState();
+    EXPECT_EQ(combo.IsChanged(), 0);
+    EXPECT_EQ(combo.IsActive(), 0);
+    combo.AddItem("two", "Two", 1, 0);
+    combo.DoAction("CLEAR");
+    CString all;
+    combo.GetAllValues(all, CString("/"));
+    EXPECT_STREQ(all, "");
+}
+
+TEST_F(ControlClass, AWindowThatCannotBeCreatedRaises202WithTheControlsName)
+{
+    ClytDialog windowless("none.dlg", CString());
+    ClytListBoxControl list("AList", origin, extent, CString());
+    ClytCheckListBox checkList("ACheckList", origin, extent, CString());
+    ClytComboBoxControl combo("ComboBox", "ACombo", origin, extent, CString());
+    ClytComboBoxControl drop("DropListBox", "ADrop", origin, extent, CString());
+    ClytPushButtonControl push("APush", origin, extent, CString());
+    ClytCheckBoxControl check("ACheck", origin, extent, CString());
+    ClytRadioButtonControl radio("ARadio", origin, extent, 1, CString());
+    ClytControl* const controls[] = {&list, &checkList, &combo, &drop, &push, &check, &radio};
+    for (ClytControl* control : controls)
+    {
+        SCOPED_TRACE(control->GetName().GetString());
+        EXPECT_EQ(RaisedMessage([&] { control->CreateControl(&windowless); }),
+                  "202 '" + std::string(control->GetName()) + "'");
+    }
+}
+
+TEST_F(ControlClass, ADoubleClickWithoutATargetRaisesTheInvalidArgument)
+{
+    TargetlessList list;
+    list.CreateControl(&dialog);
+    list.SendMessage(WM_LBUTTONDBLCLK);
+    EXPECT_EQ(TakeMessages(), (Texts{missingArgument}));
+}
+
+TEST_F(ControlClass, AnItemThatOnlyTheWindowHasRaisesTheInvalidArgument)
+{
+    ClytListBoxControl list("List", origin, extent, CString());
+    list.CreateControl(&dialog);
+    list.InsertString(0, "stray");
+    list.SetCurSel(0);
+    EXPECT_EQ(RaisedMessage([&] { list.GetValue(); }), missingArgument);
+    EXPECT_EQ(RaisedMessage([&] { list.GetDisplayValue(); }), missingArgument);
+    EXPECT_EQ(RaisedMessage([&] { list.DeleteCurrentItem(); }), missingArgument);
+    EXPECT_EQ(list.GetCount(), 1);
+    EXPECT_EQ(RaisedMessage([&] { list.MoveCurrentItem(0); }), missingArgument);
+}
+
+TEST_F(ControlClass, ACheckListInsertsInArraysAndWindowAlike)
+{
+    ClytCheckListBox list("List", origin, extent, CString());
+    list.CreateControl(&dialog);
+    list.InsertItem("a", "A", 0, 1, 0);
+    list.InsertItem("b", "B", 1, 1, 1);
+    list.InsertItem("unused", "C", 1, 0, 1);
+    EXPECT_EQ(list.GetCurSel(), 1);
+    // Without a value of its own the item delivers what it shows.
+    EXPECT_STREQ(list.GetValue(), "C");
+    CString all;
+    list.GetAllValues(all, CString("/"));
+    EXPECT_STREQ(all, "-a/XC/Xb");
+    list.SetCurSel(2);
+    EXPECT_STREQ(list.GetValue(), "b");
+}
+
+TEST_F(ControlClass, ACheckListDrawsNothingWithoutADevice)
+{
+    ClytCheckListBox list("List", origin, extent, CString());
+    list.CreateControl(&dialog);
+    list.InsertItem("a", "A", 1, 1, 0);
+    DRAWITEMSTRUCT record{};
+    record.CtlType = ODT_LISTBOX;
+    list.DrawItem(&record);
+    record.itemID = static_cast<UINT>(-1);
+    list.DrawItem(&record);
+    EXPECT_EQ(TakeMessages(), Texts{});
+}
+
+TEST_F(ControlClass, ACheckListAsksForTheWizardsGroupWithoutAParameter)
+{
+    lytWizardGroup = "group";
+    ClytCheckListBox list("List", origin, extent, CString());
+    values.RemoveAll();
+    for (const char* value : {"nasty", "Open", "NextEcho"})
+        values.AddTail(value);
+    list.SetOption(values, "FILLEDBY");
+    list.CreateControl(&dialog);
+    list.FillByLibrary();
+    CString item;
+    list.GetText(0, item);
+    EXPECT_STREQ(item, "<group>");
+    lytWizardGroup.Empty();
+}
+
+TEST_F(ControlClass, MarksBeyondTheItemsAreNone)
+{
+    ClytCheckListBox list("List", origin, extent, CString());
+    list.CreateControl(&dialog);
+    EXPECT_EQ(list.GetCheck(0), 0);
+    EXPECT_EQ(list.GetCheck(-1), 0);
+    list.SetCheck(5, 1);
+    EXPECT_EQ(list.GetCheck(5), 0);
+}
+
+TEST_F(ControlClass, AGroupThatDiesPartsWithItsButtonsAndAButtonLeavesItsGroup)
+{
+    auto group = std::make_unique<ClytOptionGroup>("Kind");
+    EXPECT_EQ(ClytOptionGroup::TakeFirstOfGroup(), 1);
+    EXPECT_EQ(ClytOptionGroup::TakeFirstOfGroup(), 0);
+    auto first = std::make_unique<ClytRadioButtonControl>("A", origin, extent, 1, CString());
+    auto second = std::make_unique<ClytRadioButtonControl>("B", origin, extent, 0, CString());
+    ClytOptionGroup::AddToCurrentGroup(*first);
+    ClytOptionGroup::AddToCurrentGroup(*second);
+    second->SetOption(ListOf(values, "b"), CString());
+    second->CreateControl(&dialog);
+    first.reset();
+    group->SetValue("b");
+    EXPECT_STREQ(group->GetValue(), "b");
+    group.reset();
+    // Nothing is left to join: the button stands alone.
+    ClytRadioButtonControl lone("C", origin, extent, 0, CString());
+    ClytOptionGroup::AddToCurrentGroup(lone);
+    second.reset();
+}
+
+TEST_F(ControlClass, AGroupWithoutButtonsIsEmpty)
+{
+    ClytOptionGroup group("Kind");
+    group.CreateControl(&dialog);
+    EXPECT_STREQ(group.GetValue(), "");
+    EXPECT_EQ(group.HasContent(), 1);
+    EXPECT_EQ(group.IsVisible(), 1);
+    EXPECT_EQ(group.IsActive(), 1);
+    group.SetState("VISIBLE", 0);
+    EXPECT_EQ(group.IsActive(), 0);
+    group.SetState("ACTIVE", 5);
+    EXPECT_EQ(group.IsActive(), 1);
+}
