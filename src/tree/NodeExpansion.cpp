@@ -18,19 +18,15 @@ bool WasLeftOpen(const ClytNode& node)
 
 HTREEITEM lytExpandNodes(const ClytNodeList& nodes, const ClytExpansion& expansion, ClytTreeItems& items)
 {
+    if (nodes.IsEmpty())
+        return nullptr;
+
     const long long levels = expansion.treeLevels != 0 ? expansion.treeLevels : levelsWithoutValue;
-    HTREEITEM pending = nullptr;
+    HTREEITEM pending = expansion.byLevels && expansion.selectKey.IsEmpty() ? items.GetRootItem() : nullptr;
     for (POSITION position = nodes.GetHeadPosition(); position != nullptr;)
     {
         const ClytNode* node = nodes.GetNext(position);
-        if (expansion.byLevels)
-        {
-            if (node->m_nLevel < levels - 1)
-                items.ExpandItem(node->m_hItem);
-            if (expansion.selectKey.IsEmpty())
-                pending = items.GetRootItem();
-        }
-        else if (WasLeftOpen(*node))
+        if (expansion.byLevels ? node->m_nLevel < levels - 1 : WasLeftOpen(*node))
             items.ExpandItem(node->m_hItem);
 
         // A later entry with the key overrides an earlier one.
