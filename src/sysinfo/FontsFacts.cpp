@@ -4,14 +4,11 @@
 #include "environment/ClytINISection.h"
 #include "sysinfo/Locale.h"
 #include "sysinfo/Probes.h"
-#include "sysinfo/SystemFunction.h"
 
 #include <string>
 
 namespace
 {
-
-constexpr DWORD installedGroup = 1;
 
 // Fetched once per process and kept: nothing gives it back.
 HDC ScreenContext()
@@ -55,25 +52,6 @@ std::vector<lytFontEntry> EnumerateFonts(const CString& name)
     std::vector<lytFontEntry> entries;
     EnumFontFamiliesExW(ScreenContext(), &wanted, KeepFont, reinterpret_cast<LPARAM>(&entries), 0);
     return entries;
-}
-
-CString LocaleText(unsigned locale, unsigned type)
-{
-    const int size = GetLocaleInfoA(locale, type, nullptr, 0);
-    if (size <= 0)
-        return "";
-    CString text;
-    GetLocaleInfoA(locale, type, text.GetBuffer(size), size);
-    text.ReleaseBuffer();
-    return text;
-}
-
-IsGroupInstalled FindGroupTest()
-{
-    auto* const isValid = FindSystemFunction<BOOL WINAPI(DWORD, DWORD)>("Kernel32.dll", "IsValidLanguageGroup");
-    if (isValid == nullptr)
-        return {};
-    return [isValid](unsigned group) { return isValid(group, installedGroup) != FALSE; };
 }
 
 } // namespace

@@ -1,5 +1,7 @@
 #include "ReportTest.h"
 
+#include <thread>
+
 namespace
 {
 
@@ -100,4 +102,14 @@ TEST_F(ReportStore, LeavesTheHostAsItWas)
     GetCurrentDirectoryA(sizeof after, after);
     EXPECT_STREQ(before, after);
     EXPECT_EQ(GetCursor(), cursor);
+}
+
+TEST_F(ReportStore, TwoThreadsGatherOneReportAfterTheOther)
+{
+    const size_t count = Report().size();
+    std::thread other([this] { gather(""); });
+    gather("");
+    other.join();
+    EXPECT_EQ(Read(static_cast<int>(count) - 1), 1);
+    EXPECT_EQ(Read(static_cast<int>(count)), 0);
 }
