@@ -1,6 +1,8 @@
 #include <afxwin.h>
 
 #include <algorithm>
+#include <uxtheme.h>
+#include <vsstyle.h>
 
 namespace
 {
@@ -29,6 +31,37 @@ CRect MarkPosition(HDC device, const CRect& item)
     const int top = item.top + (item.Height() - side) / 2;
     return {item.left + margin, top, item.left + margin + side, top + side};
 }
+
+// Draws a mark as the check boxes of the same dialog look: by their theme, or as the platform does without one.
+class MarkPainter
+{
+public:
+    // Opened for the list itself, the theme of buttons would become the theme of the list's frame.
+    MarkPainter() : m_theme(OpenThemeData(nullptr, L"BUTTON")) {}
+    MarkPainter(const MarkPainter&) = delete;
+    MarkPainter& operator=(const MarkPainter&) = delete;
+    ~MarkPainter()
+    {
+        if (m_theme != nullptr)
+            CloseThemeData(m_theme);
+    }
+
+    void Draw(HDC device, CRect place, bool checked, bool enabled) const
+    {
+        if (m_theme != nullptr)
+        {
+            const int state = checked ? (enabled ? CBS_CHECKEDNORMAL : CBS_CHECKEDDISABLED)
+                                      : (enabled ? CBS_UNCHECKEDNORMAL : CBS_UNCHECKEDDISABLED);
+            DrawThemeBackground(m_theme, device, BP_CHECKBOX, state, &place, nullptr);
+            return;
+        }
+        const int state = DFCS_BUTTONCHECK | (checked ? DFCS_CHECKED : 0) | (enabled ? 0 : DFCS_INACTIVE);
+        DrawFrameControl(device, &place, DFC_BUTTON, static_cast<UINT>(state));
+    }
+
+private:
+    HTHEME m_theme;
+};
 
 } // namespace
 
@@ -75,10 +108,8 @@ void CCheckListBox::DrawItem(DRAWITEMSTRUCT* draw)
     CRect text = item;
     if (index >= 0 && index < GetCount())
     {
-        CRect mark = MarkPosition(draw->hDC, item);
-        DrawFrameControl(draw->hDC, &mark, DFC_BUTTON,
-                         static_cast<UINT>(DFCS_BUTTONCHECK | (GetCheck(index) != 0 ? DFCS_CHECKED : 0) |
-                                           (enabled ? 0 : DFCS_INACTIVE)));
+        const CRect mark = MarkPosition(draw->hDC, item);
+        MarkPainter().Draw(draw->hDC, mark, GetCheck(index) == BST_CHECKED, enabled);
         text.left = mark.right + Scaled(draw->hDC, margin96);
         DrawText(draw->hDC, index, text, selected, enabled);
     }

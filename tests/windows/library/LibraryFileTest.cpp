@@ -62,8 +62,8 @@ TEST_F(LibraryFile, OpensBothTreesByOneFunction)
 
 TEST_F(LibraryFile, ImportsSystemLibrariesOnly)
 {
-    const std::set<std::string> system = {"advapi32.dll", "comctl32.dll", "gdi32.dll",   "kernel32.dll",
-                                          "msvcrt.dll",   "user32.dll",   "version.dll", "winspool.drv"};
+    const std::set<std::string> system = {"advapi32.dll", "comctl32.dll", "gdi32.dll",   "kernel32.dll", "msvcrt.dll",
+                                          "user32.dll",   "uxtheme.dll",  "version.dll", "winspool.drv"};
     const auto* import = At<IMAGE_IMPORT_DESCRIPTOR>(Directory(IMAGE_DIRECTORY_ENTRY_IMPORT));
     for (; import->Name != 0; ++import)
         EXPECT_TRUE(system.contains(InLowerCase(At<char>(import->Name)))) << At<char>(import->Name);
