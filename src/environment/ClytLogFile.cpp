@@ -58,10 +58,15 @@ CString lytLogBannerLine(const char* word, std::time_t time)
     return word + CString("Date ") + Formatted("%x", local) + "           Time " + Formatted("%X", local) + "\n";
 }
 
-void ClytLogFile::Open()
+int ClytLogFile::CurrentLevel()
+{
+    return std::atoi(lytEnvironment.GetLogLevel());
+}
+
+void ClytLogFile::Open(int currentLevel)
 {
     logName = lytEnvironment.GetDocName();
-    level = std::atoi(lytEnvironment.GetLogLevel());
+    level = currentLevel;
     if (level == 0)
         return;
 

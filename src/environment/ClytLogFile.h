@@ -20,10 +20,15 @@
 class ClytLogFile : public CStdioFile
 {
 public:
-    // Names the log after the document, reads the level and, unless it is 0, opens the file at its end and writes the
+    // The level that `lyt.ini` holds at this moment.
+    static int CurrentLevel();
+
+    // Names the log after the document, takes the level and, unless it is 0, opens the file at its end and writes the
     // START banner.
-    void Open();
-    // Writes the text as it stands when its level is within the one read by Open.
+    void Open() { Open(CurrentLevel()); }
+    // The same for a caller that has just read the level: a read costs as much as the writing.
+    void Open(int currentLevel);
+    // Writes the text as it stands when its level is within the one taken by Open.
     void Write(const char* text, int messageLevel);
     // Writes the END banner and closes the file, if Open opened it.
     void Close() override;

@@ -7,7 +7,6 @@
 #include "environment/ProcessState.h"
 #include "exports/ExportFrame.h"
 
-#include <cstdlib>
 #include <cstring>
 #include <utility>
 
@@ -96,9 +95,10 @@ int __stdcall lytListFromIniNext(char* value, int valueSize, char* display, int 
 void __stdcall lytWriteToLogFile(const char* text, int level)
 {
     LYT_EXPORT_FRAME();
-    if (level > std::atoi(lytEnvironment.GetLogLevel()))
+    const int currentLevel = ClytLogFile::CurrentLevel();
+    if (level > currentLevel)
         return;
-    lytLog.Open();
+    lytLog.Open(currentLevel);
     lytLog.Write(text != nullptr ? text : "", level);
     lytLog.Close();
 }
