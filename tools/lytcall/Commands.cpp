@@ -34,6 +34,10 @@ const char* WizardMeaningOf(int result)
 
 // ---- Dialogs
 
+constexpr const char* findingsKey =
+    "F-002REPfindings(Findings;R;roofing;Team North;101 Hall|102 Kitchen;Xroof|Xcellar;PC75;DIN 18338;;"
+    "Cracks in the plaster~2~north wall|Damp patch~3~)";
+
 int CallPropertyDialog(const Session& session, const char* function, const char* defaultKey)
 {
     const std::string key = session.Asked().Operand(0, defaultKey);
@@ -61,8 +65,7 @@ int RunPhrase(const Session& session)
 int RunGroup(const Session& session)
 {
     const int kind = session.Asked().Number("--kind", 1);
-    const std::string key =
-        session.Asked().Operand(0, kind == 0 ? "F-001BNG(area>=20)" : "F-002REPfindings(Findings;101-118)");
+    const std::string key = session.Asked().Operand(0, kind == 0 ? "F-001BNG(area>=20)" : findingsKey);
     std::vector<char> first = session.Buffer("--size");
     std::vector<char> second = session.Buffer("--second-size");
     PrintNumber("kind", kind);

@@ -285,7 +285,7 @@ const StepAction actions[] = {
     {"lift", IsUsable, Lift},
     {"expand", HasItem, Expand},
     {"collapse", HasItem, Collapse},
-    {"resize", HasWindow, Resize},
+    {"resize", Always, Resize},
     {"read", HasControl, Read},
     {"items", HasControl, PrintItems},
     {"show", Always, Show},
