@@ -98,7 +98,7 @@ void FillFromSource(benchmark::State& state, Level level)
 {
     Serve(state, level);
     NoControl control;
-    for (auto round : state)
+    while (state.KeepRunning())
     {
         ClytNodeList nodes;
         lytFillFromSource(nodes, {Start, Next}, &control, 'S');
@@ -113,7 +113,7 @@ void FillFromList(benchmark::State& state, Level level)
     NoControl control;
     ClytNodeList nodes;
     lytFillFromSource(nodes, {Start, Next}, nullptr, 'S');
-    for (auto round : state)
+    while (state.KeepRunning())
         lytFillFromList(nodes, control, 'S');
     CountRecords(state);
 }
@@ -124,7 +124,7 @@ void SearchInVain(benchmark::State& state, Level level)
     Serve(state, level);
     ClytNodeList nodes;
     lytFillFromSource(nodes, {Start, Next}, nullptr, 'S');
-    for (auto round : state)
+    while (state.KeepRunning())
         benchmark::DoNotOptimize(lytFindNode(nodes, 'S', "key."));
     CountRecords(state);
 }

@@ -9,7 +9,7 @@
 #include <lytsrc.h>
 
 // The tree control's name for one of its items, as the platform's headers declare it.
-struct _TREEITEM; // NOLINT(bugprone-reserved-identifier): the platform's name
+struct _TREEITEM;
 using HTREEITEM = _TREEITEM*;
 
 class ClytNode : public CObject
