@@ -214,6 +214,8 @@ void AskForLanguages()
 
 void MakePlainCalls(const char* directory, const char* iniFile, const wchar_t* const* fonts)
 {
+    // Every call of the library looks for its companion first.
+    FreeLibrary(LoadLibraryA("lyt"));
     AskForTheMachine();
     AskForPrinters();
     AskForTheWorkstation();
