@@ -3,6 +3,8 @@
 #include "environment/ClytException.h"
 #include "environment/ProfileFile.h"
 
+#include <utility>
+
 namespace
 {
 
@@ -48,7 +50,12 @@ CString ClytEnvironment::GetLanguage() const
 
 CString ClytEnvironment::GetLanguageFileName() const
 {
-    return dialogPath + "\\lang\\" + GetLanguage() + ".nls";
+    return dialogPath + "\\lang\\" + (heldLanguage ? *heldLanguage : GetLanguage()) + ".nls";
+}
+
+ClytLanguageHold::ClytLanguageHold(ClytEnvironment& owner)
+    : environment(owner), previous(std::exchange(owner.heldLanguage, owner.GetLanguage()))
+{
 }
 
 CString ClytEnvironment::GetLogLevel() const
