@@ -8,6 +8,8 @@ ClytControl::ClytControl(CString controlName, ClytPosition topLeft, ClytSize ext
 {
 }
 
+ClytControl::~ClytControl() = default;
+
 void ClytControl::CreateControl(ClytDialog* owner)
 {
     dialog = owner;

@@ -29,7 +29,7 @@ public:
     ClytControl(CString controlName, ClytPosition topLeft, ClytSize extent, CString text);
     ClytControl(const ClytControl&) = delete;
     ClytControl& operator=(const ClytControl&) = delete;
-    virtual ~ClytControl() = default;
+    virtual ~ClytControl();
 
     // Creates the window under the dialog and remembers the dialog, which outlives the control.
     virtual void CreateControl(ClytDialog* owner);

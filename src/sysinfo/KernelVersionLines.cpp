@@ -1,6 +1,6 @@
 #include "sysinfo/KernelVersion.h"
 
-#include <cstdio>
+#include <cstdlib>
 
 unsigned LanguageAndCodePage(unsigned translation)
 {
@@ -12,10 +12,21 @@ std::array<int, 4> VersionNumbers(const KernelVersionFacts& facts)
     if (!facts.fileVersion)
         return facts.fixedNumbers;
     const CString& text = *facts.fileVersion;
-    const int separator = text.FindOneOf(",.");
-    const bool hasCommas = separator >= 0 && text[separator] == ',';
+    const int found = text.FindOneOf(",.");
+    const char separator = found >= 0 ? text[found] : '.';
     std::array<int, 4> numbers = {};
-    std::sscanf(text, hasCommas ? "%d,%d,%d,%d" : "%d.%d.%d.%d", &numbers[0], &numbers[1], &numbers[2], &numbers[3]);
+    const char* place = text;
+    for (int& number : numbers)
+    {
+        char* end = nullptr;
+        const long value = std::strtol(place, &end, 10);
+        if (end == place)
+            break;
+        number = static_cast<int>(value);
+        if (*end != separator)
+            break;
+        place = end + 1;
+    }
     return numbers;
 }
 

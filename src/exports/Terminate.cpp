@@ -1,0 +1,15 @@
+// The runtime's handler for an exception that nobody catches writes its type's name to a console that no host has, and
+// brings a demangler of 45 KB for it. This one takes its place.
+#include <cstdlib>
+
+namespace __gnu_cxx // NOLINT(bugprone-reserved-identifier): the runtime's name
+{
+
+void __verbose_terminate_handler(); // NOLINT(bugprone-reserved-identifier)
+
+void __verbose_terminate_handler() // NOLINT(bugprone-reserved-identifier)
+{
+    std::abort();
+}
+
+} // namespace __gnu_cxx
