@@ -159,7 +159,9 @@ TEST_F(Failure, EveryPieceOfADescriptionEndsInAMessageOrADialog)
     {
         SCOPED_TRACE(whole.substr(0, length));
         folder.Write("lytInSym.dlg", whole.substr(0, length));
-        robot.When(
+        // A robot a round: each has its own time to wait.
+        robot::Robot user;
+        user.When(
             "message or dialog", [] { return robot::ActiveDialog() != nullptr; }, [] { robot::PressKey(VK_ESCAPE); });
         EXPECT_EQ(Show("key"), 0);
         EXPECT_EQ(text, "as it was");
