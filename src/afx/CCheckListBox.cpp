@@ -67,6 +67,7 @@ private:
 
 BEGIN_MESSAGE_MAP(CCheckListBox, CListBox)
     ON_MESSAGE(WM_SETFONT, OnSetFont)
+    ON_MESSAGE(WM_SETREDRAW, OnSetRedraw)
     ON_WM_LBUTTONDOWN()
     ON_WM_LBUTTONDBLCLK()
     ON_WM_KEYDOWN()
@@ -75,8 +76,9 @@ END_MESSAGE_MAP()
 
 void CCheckListBox::SetCheck(int index, int check)
 {
-    // The platform moves an item's data with the item, so a mark stays with its text.
-    if (SetItemData(index, static_cast<DWORD_PTR>(check)) != LB_ERR)
+    // The platform moves an item's data with the item, so a mark stays with its text. The message goes straight to its
+    // procedure, as a long list sends one an item.
+    if (DefWindowProc(LB_SETITEMDATA, static_cast<WPARAM>(index), check) != LB_ERR && m_bRedraw)
         InvalidateItem(index);
 }
 
@@ -141,6 +143,12 @@ LRESULT CCheckListBox::OnSetFont(WPARAM /*wParam*/, LPARAM /*lParam*/)
     const int margin = Scaled(device.m_hDC, margin96);
     SetItemHeight(0, static_cast<UINT>(std::max(TextHeight(device.m_hDC), Scaled(device.m_hDC, markSize96)) + margin));
     return 0;
+}
+
+LRESULT CCheckListBox::OnSetRedraw(WPARAM wParam, LPARAM /*lParam*/)
+{
+    m_bRedraw = wParam != FALSE;
+    return Default();
 }
 
 void CCheckListBox::OnLButtonDown(UINT flags, CPoint point)

@@ -207,10 +207,6 @@ public:
     {
         return static_cast<DWORD_PTR>(SendMessage(LB_GETITEMDATA, static_cast<WPARAM>(index)));
     }
-    int SetItemData(int index, DWORD_PTR data) const
-    {
-        return static_cast<int>(SendMessage(LB_SETITEMDATA, static_cast<WPARAM>(index), static_cast<LPARAM>(data)));
-    }
     void GetText(int index, CString& text) const;
     int AddString(const char* text) const;
     int InsertString(int index, const char* text) const;
@@ -238,6 +234,7 @@ protected:
     BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result) override;
 
     afx_msg LRESULT OnSetFont(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnSetRedraw(WPARAM wParam, LPARAM lParam);
     afx_msg void OnLButtonDown(UINT flags, CPoint point);
     afx_msg void OnLButtonDblClk(UINT flags, CPoint point);
     afx_msg void OnKeyDown(UINT key, UINT count, UINT flags);
@@ -249,6 +246,8 @@ private:
     void ToggleAt(CPoint point);
     void Toggle(int index);
     void InvalidateItem(int index) const;
+
+    bool m_bRedraw = true; // false while the window does not draw what changes
 };
 
 class CComboBox : public CWnd

@@ -5,6 +5,8 @@
 #include "environment/ClytEnvironment.h"
 #include "environment/ProcessState.h"
 
+#include <utility>
+
 BEGIN_MESSAGE_MAP(ClytCheckListBox, CCheckListBox)
     ON_WM_LBUTTONDBLCLK()
 END_MESSAGE_MAP()
@@ -108,13 +110,13 @@ void ClytCheckListBox::AddItems(ClytDataListing& listing)
         SetCurSel(count - 1);
 }
 
-void ClytCheckListBox::PutChecked(const CString& value, const CString& display, int check, int place)
+void ClytCheckListBox::PutChecked(CString value, CString display, int check, int place)
 {
-    valueStrings.InsertAt(place, value);
-    displayStrings.InsertAt(place, display);
-    InsertString(place, display);
+    ShowItem(display, place);
     if (check == BST_CHECKED)
         SetCheck(place, check);
+    valueStrings.InsertAt(place, std::move(value));
+    displayStrings.InsertAt(place, std::move(display));
 }
 
 void ClytCheckListBox::OnLButtonDblClk(UINT flags, CPoint point)

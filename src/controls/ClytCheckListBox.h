@@ -27,7 +27,7 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
-    void PutChecked(const CString& value, const CString& display, int check, int place);
+    void PutChecked(CString value, CString display, int check, int place);
 
     DRAWITEMSTRUCT drawRecord{};
 };

@@ -6,6 +6,9 @@
 #include "environment/ClytEnvironment.h"
 #include "environment/Words.h"
 
+#include <type_traits>
+#include <utility>
+
 void ClytListSource::TakeStatement(const CStringList& values)
 {
     POSITION place = values.GetHeadPosition();
@@ -131,12 +134,21 @@ CString ClytItemControl<WINDOW>::TextOf(const CString& key) const
 }
 
 template <class WINDOW>
-void ClytItemControl<WINDOW>::PutItem(const CString& value, const CString& display, int place)
+void ClytItemControl<WINDOW>::PutItem(CString value, CString display, int place)
 {
+    constexpr int atTheEnd = -1;
+    ShowItem(display, place != 0 ? place : atTheEnd);
     // The arrays grow at their end wherever the window shows the item: after an insertion elsewhere the two part.
-    valueStrings.Add(value);
-    displayStrings.Add(display);
-    this->InsertString(place != 0 ? place : this->GetCount(), display);
+    valueStrings.Add(std::move(value));
+    displayStrings.Add(std::move(display));
+}
+
+template <class WINDOW>
+void ClytItemControl<WINDOW>::ShowItem(const CString& text, int place)
+{
+    constexpr UINT insert = std::is_base_of_v<CListBox, WINDOW> ? LB_INSERTSTRING : CB_INSERTSTRING;
+    // Straight to the platform's procedure: ten thousand items need not each pass the message maps.
+    this->DefWindowProc(insert, static_cast<WPARAM>(place), reinterpret_cast<LPARAM>(text.GetString()));
 }
 
 template <class WINDOW>

@@ -57,8 +57,10 @@ protected:
     // The text of a key in the dialog's text section.
     CString TextOf(const CString& key) const;
 
-    // Puts an item behind the last one of the arrays and at the position of the window, where 0 is the end as well.
-    void PutItem(const CString& value, const CString& display, int place);
+    // Puts an item behind the last one of the arrays and at the place of the window, where 0 is the end as well.
+    void PutItem(CString value, CString display, int place);
+    // Inserts a text in the window.
+    void ShowItem(const CString& text, int place);
     // Takes an item off and selects the one in its place, the last one, or none; answers what the window answers.
     int RemoveItem(int index);
     // Empties the list if an item is selected: deleting the selected item selects another, until none is left.
