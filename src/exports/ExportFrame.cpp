@@ -18,9 +18,13 @@ void LoadCompanion()
 
 } // namespace
 
-ExportFrame::ExportFrame() : m_state(AfxGetStaticModuleState()), m_cursor(GetCursor()), m_focus(GetFocus())
+QuietFrame::QuietFrame() : m_state(AfxGetStaticModuleState())
 {
     LoadCompanion();
+}
+
+ExportFrame::ExportFrame() : m_cursor(GetCursor()), m_focus(GetFocus())
+{
 }
 
 ExportFrame::~ExportFrame()

@@ -4,8 +4,18 @@
 #include <afx.h>
 #include <afxstat_.h>
 
-// Entered first by every export but lytGetTextFromIniFile: switches the module state, tries the companion library, and
-// keeps cursor and focus of the host. All of it is undone on every way out.
+// Entered first by every export but lytGetTextFromIniFile: switches the module state and tries the companion library. The
+// state is switched back on every way out.
+class QuietFrame
+{
+public:
+    QuietFrame();
+
+private:
+    AFX_MAINTAIN_STATE m_state;
+};
+
+// The same for an export that shows windows: cursor and focus of the host are as before on every way out, too.
 class ExportFrame
 {
 public:
@@ -15,12 +25,14 @@ public:
     ~ExportFrame();
 
 private:
-    AFX_MAINTAIN_STATE m_state;
+    QuietFrame m_frame;
     HCURSOR m_cursor; // the host's
     HWND m_focus;     // the host's
 };
 
 #define LYT_EXPORT_FRAME() const ExportFrame exportFrame
+// Asking for cursor and focus costs more than a short export does, so one without a window leaves it out.
+#define LYT_QUIET_FRAME() const QuietFrame exportFrame
 
 // False for a null buffer or a size below 1: the export answers 0 and does nothing.
 bool IsUsable(const char* buffer, int size);

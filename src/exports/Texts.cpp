@@ -48,7 +48,7 @@ void CopyListItem(char* buffer, int size, const char* item)
 
 int __stdcall lytGetTextForKey(const char* section, const char* key, const char* argument, char* buffer, int size)
 {
-    LYT_EXPORT_FRAME();
+    LYT_QUIET_FRAME();
     if (!IsUsable(buffer, size))
         return 0;
     return CopyUnlessSentinel(buffer, size, lytEnvironment.GetText(CString(section), CString(key), argument));
@@ -72,7 +72,7 @@ int __stdcall lytGetTextFromIniFile(const char* path, char* buffer, int size)
 
 int __stdcall lytListFromIniStart(const char* path)
 {
-    LYT_EXPORT_FRAME();
+    LYT_QUIET_FRAME();
     const CString name = path;
     const int slash = name.Find('/');
     lytIniList.Empty();
@@ -83,7 +83,7 @@ int __stdcall lytListFromIniStart(const char* path)
 
 int __stdcall lytListFromIniNext(char* value, int valueSize, char* display, int displaySize)
 {
-    LYT_EXPORT_FRAME();
+    LYT_QUIET_FRAME();
     if (!IsUsable(value, valueSize) || !IsUsable(display, displaySize) || lytIniList.IsEmpty())
         return 0;
     const CString item = TakeListItem();
@@ -94,7 +94,7 @@ int __stdcall lytListFromIniNext(char* value, int valueSize, char* display, int 
 
 void __stdcall lytWriteToLogFile(const char* text, int level)
 {
-    LYT_EXPORT_FRAME();
+    LYT_QUIET_FRAME();
     const int currentLevel = ClytLogFile::CurrentLevel();
     if (level > currentLevel)
         return;
