@@ -1,8 +1,6 @@
 // Fills a catalogue from its data source, and a control from either.
 #pragma once
 
-#include "environment/ClytOwnedList.h"
-
 #include "tree/ClytTreeItems.h"
 
 // The two functions that serve one catalogue.

@@ -3,8 +3,6 @@
 
 #include "tree/ClytNode.h"
 
-#include <afx.h>
-
 // The first node with this item; null for the null item, which is that of every node not shown.
 ClytNode* lytFindNodeByItem(const ClytNodeList& nodes, HTREEITEM item);
 // The first node that is marked as the one last confirmed.
