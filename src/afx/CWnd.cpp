@@ -272,8 +272,14 @@ void CWnd::OnNcDestroy()
 
 void CWnd::GetWindowText(CString& text) const
 {
-    const int length = ::GetWindowTextLengthA(m_hWnd);
-    const int copied = ::GetWindowTextA(m_hWnd, text.GetBuffer(length), length + 1);
+    // Most texts are short: only one that may have been cut is worth a second message that asks for its length.
+    constexpr int usualLength = 255;
+    int copied = ::GetWindowTextA(m_hWnd, text.GetBuffer(usualLength), usualLength + 1);
+    if (copied >= usualLength)
+    {
+        const int length = ::GetWindowTextLengthA(m_hWnd);
+        copied = ::GetWindowTextA(m_hWnd, text.GetBuffer(length), length + 1);
+    }
     text.ReleaseBuffer(copied);
 }
 

@@ -90,6 +90,18 @@ TEST_F(ComboBox, AnUnknownValueBecomesTheFreeText)
     EXPECT_EQ(form.Ok().Open("free").text, "free");
 }
 
+TEST_F(ComboBox, AFreeTextOfAnyLengthIsTheValue)
+{
+    form.main.values.clear();
+    form.main.input = InputTo("Box");
+    form.main.output = {"(\"%s\", Box)"};
+    for (const size_t length : {254U, 255U, 256U, 700U})
+    {
+        const std::string text(length, 'x');
+        EXPECT_EQ(form.Ok().Open(text).text, text);
+    }
+}
+
 TEST_F(ComboBox, AnUnknownValueLeavesADropListAlone)
 {
     form.main.input = InputTo("Drop");
