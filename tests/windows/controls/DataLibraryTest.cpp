@@ -201,6 +201,20 @@ TEST_F(DataLibrary, AListingWithoutItemsLeavesTheListEmptyAndUnselected)
     }
 }
 
+TEST_F(DataLibrary, AListThatNothingWasDeliveredToPullsTheFocusWhenItsValueIsRead)
+{
+    for (const char* kind : {"ListBox", "CheckListBox"})
+    {
+        SCOPED_TRACE(kind);
+        List(kind, "nasty,Open,NextNone");
+        form.main.layout.emplace_back("Text Label");
+        form.main.rules = {"Label/VISIBLE=List(own)"};
+        ClickFill();
+        form.Then([&] { EXPECT_EQ(GetFocus(), form["List"]); });
+        form.Ok().Open();
+    }
+}
+
 TEST_F(DataLibrary, BuffersFilledToTheLastByteEndThere)
 {
     for (const std::string& kind : classes)
@@ -314,6 +328,15 @@ TEST_F(DataLibrary, AFifthValueIsAFirstItemOfKeyAndValue)
         ExpectSelected(0);
         EXPECT_EQ(form.Ok().Open().text, std::string("<") + c.value + ">");
     }
+}
+
+TEST_F(DataLibrary, AFifthValueOfTwoSlashesIsCutAtTheFirst)
+{
+    List("ComboBox", "nasty,Open,NextThree,\"\",HEAD/a/b");
+    form.main.output = {"(\"%s\", List)"};
+    ClickFill();
+    ExpectItems({"Head", "red", "green", "blue"});
+    EXPECT_EQ(form.Ok().Open().text, "a/b");
 }
 
 TEST_F(DataLibrary, AFifthValueThatBeginsWithASlashIsNoFirstItem)

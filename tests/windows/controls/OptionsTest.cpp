@@ -328,15 +328,37 @@ TEST_F(Options, ClicksMoveTheMarkWithinAGroupOnly)
 TEST_F(Options, AButtonWithoutAGroupJoinsThatOfTheOuterDialog)
 {
     form.main.layout.insert(form.main.layout.end(), {"PushButton Go", "TextBox Edit"});
-    form.main.values.emplace_back("Go=DIALOG,Inner,none,\"\"");
+    form.main.values = {"A=a", "B=b", "C=c", "Go=DIALOG,Inner,none,\"\""};
+    form.main.rules = {"Edit/ACTIVE=Kind(lone)"};
     form.dialogs["Inner"] = {.layout = {"OptionButton Lone"}, .values = {"Lone=lone"}, .output = {"(\"x\")"}};
-    // The value of the group is asked while the inner button is part of it, and again when it is gone.
-    form.main.rules = {"Edit/ACTIVE=Kind(b)"};
-    form.Then([&] { robot::Click(form["Go"]); });
+    HWND outer = nullptr;
+    HWND edit = nullptr;
+    // A command of no meaning: the outer rules run, and ask the group for its value.
+    const auto runOuterRules = [&] { SendMessageA(outer, WM_COMMAND, MAKEWPARAM(0, 0x77), 1); };
+    form.Then(
+        [&]
+        {
+            outer = robot::ActiveDialog();
+            edit = form["Edit"];
+            EXPECT_FALSE(IsWindowEnabled(edit));
+            robot::Click(form["Go"]);
+        });
     form.In("Inner", [&] { robot::Click(form["Lone"]); });
+    form.In("Inner",
+            [&]
+            {
+                runOuterRules();
+                EXPECT_TRUE(IsWindowEnabled(edit));
+            });
     form.Ok("Inner");
-    form.Then([&] { EXPECT_TRUE(IsWindowEnabled(form["Edit"])); });
-    EXPECT_EQ(form.Ok().Open().text, "<b>");
+    // The button is gone, and has left the group.
+    form.Then(
+        [&]
+        {
+            runOuterRules();
+            EXPECT_FALSE(IsWindowEnabled(edit));
+        });
+    EXPECT_EQ(form.Ok().Open().text, "<>");
 }
 
 TEST_F(Options, AButtonWithoutAnyGroupStandsAlone)
