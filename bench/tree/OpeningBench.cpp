@@ -1,5 +1,5 @@
-// Opening the browser over 20,000 records against a dialog of the same template that inserts the same items by hand, and
-// a lookup in a catalogue that is kept.
+// Opening the browser over 20,000 records against a dialog of the same template that inserts the same items with the same
+// pictures by hand, and a lookup in a catalogue that is kept.
 #include "lyt64.h"
 
 #include "support/TestFolder.h"
@@ -105,26 +105,24 @@ void InsertByHand(HWND tree)
     SendMessageA(tree, WM_SETREDRAW, TRUE, 0);
 }
 
-HIMAGELIST MakePictures()
+INT_PTR CALLBACK PlainDialog(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam)
 {
-    static HIMAGELIST const pictures = ImageList_Create(16, 16, ILC_COLOR, 3, 0);
-    while (ImageList_GetImageCount(pictures) < 3)
-        ImageList_ReplaceIcon(pictures, -1, LoadIconA(nullptr, IDI_APPLICATION));
-    return pictures;
-}
-
-INT_PTR CALLBACK PlainDialog(HWND dialog, UINT message, WPARAM wParam, LPARAM /*lParam*/)
-{
+    static HIMAGELIST pictures = nullptr;
     if (message == WM_INITDIALOG)
     {
         SetWindowPos(dialog, nullptr, 0, 0, 400, 500, SWP_NOMOVE | SWP_NOZORDER);
+        pictures = ImageList_Create(16, 16, ILC_COLOR, 3, 0);
+        for (const int icon : {138, 136, 137})
+            ImageList_ReplaceIcon(pictures, -1, LoadIconA(reinterpret_cast<HINSTANCE>(lParam), MAKEINTRESOURCEA(icon)));
         HWND tree = GetDlgItem(dialog, treeControl);
-        SendMessageA(tree, TVM_SETIMAGELIST, TVSIL_NORMAL, reinterpret_cast<LPARAM>(MakePictures()));
+        SendMessageA(tree, TVM_SETIMAGELIST, TVSIL_NORMAL, reinterpret_cast<LPARAM>(pictures));
         InsertByHand(tree);
         return TRUE;
     }
     if (message == WM_COMMAND)
         EndDialog(dialog, LOWORD(wParam));
+    if (message == WM_NCDESTROY)
+        ImageList_Destroy(pictures);
     return 0;
 }
 
@@ -140,7 +138,10 @@ void MeasureOpenings(HMODULE library)
     auto* const release = Find<decltype(FreeGlobalObject)>(library, "FreeGlobalObject");
     char target[256] = "";
     const auto browse = [&](const char* request) { open(request, target, 255); };
-    const auto showPlain = [&] { DialogBoxParamA(library, MAKEINTRESOURCEA(treeTemplate), nullptr, PlainDialog, 0); };
+    const auto showPlain = [&] {
+        DialogBoxParamA(library, MAKEINTRESOURCEA(treeTemplate), nullptr, PlainDialog,
+                        reinterpret_cast<LPARAM>(library));
+    };
 
     browse("S");
     showPlain();
