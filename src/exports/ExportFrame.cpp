@@ -23,9 +23,7 @@ QuietFrame::QuietFrame() : m_state(AfxGetStaticModuleState())
     LoadCompanion();
 }
 
-ExportFrame::ExportFrame() : m_cursor(GetCursor()), m_focus(GetFocus())
-{
-}
+ExportFrame::ExportFrame() : m_cursor(GetCursor()), m_focus(GetFocus()) {}
 
 ExportFrame::~ExportFrame()
 {

@@ -75,7 +75,7 @@ TEST_F(FileListing, ShowsTheTimeMovedTwiceByTheZone)
     const std::string line = FileLine("a.txt", "0");
     EXPECT_EQ(Lines("*.txt"), (Texts{line}));
     const char* zone = std::getenv("TZ");
-    if (zone != nullptr && std::string(zone) == "Asia/Tokyo")
+    if (zone != nullptr && std::string(zone) == "JST-9")
     {
         EXPECT_EQ(line.substr(line.find("Date: ")), "Date: 01/16/26 06:30:40");
     }
