@@ -158,11 +158,6 @@ BOOL CWnd::SubclassWindow(HWND window)
     return TRUE;
 }
 
-BOOL CWnd::SubclassDlgItem(UINT id, CWnd* parent)
-{
-    return SubclassWindow(::GetDlgItem(parent->m_hWnd, static_cast<int>(id)));
-}
-
 HWND CWnd::UnsubclassWindow()
 {
     const HWND window = m_hWnd;

@@ -66,13 +66,10 @@ protected:                                                                      
     AFX_ENTRY(WM_SIZE, 0, 0, self.OnSize(static_cast<UINT>(m.wParam), LOWORD(m.lParam), HIWORD(m.lParam)))
 #define ON_WM_LBUTTONDOWN()                                                                                            \
     AFX_ENTRY(WM_LBUTTONDOWN, 0, 0, self.OnLButtonDown(static_cast<UINT>(m.wParam), CPoint(m.lParam)))
-#define ON_WM_LBUTTONUP() AFX_ENTRY(WM_LBUTTONUP, 0, 0, self.OnLButtonUp(static_cast<UINT>(m.wParam), CPoint(m.lParam)))
 #define ON_WM_LBUTTONDBLCLK()                                                                                          \
     AFX_ENTRY(WM_LBUTTONDBLCLK, 0, 0, self.OnLButtonDblClk(static_cast<UINT>(m.wParam), CPoint(m.lParam)))
 #define ON_WM_KEYDOWN()                                                                                                \
     AFX_ENTRY(WM_KEYDOWN, 0, 0, self.OnKeyDown(static_cast<UINT>(m.wParam), LOWORD(m.lParam), HIWORD(m.lParam)))
-#define ON_WM_KEYUP()                                                                                                  \
-    AFX_ENTRY(WM_KEYUP, 0, 0, self.OnKeyUp(static_cast<UINT>(m.wParam), LOWORD(m.lParam), HIWORD(m.lParam)))
 
 // LRESULT handler(WPARAM, LPARAM)
 #define ON_MESSAGE(message, handler)                                                                                   \
@@ -80,8 +77,6 @@ protected:                                                                      
      [](CWnd& w, const MSG& m) -> LRESULT { return static_cast<ThisClass&>(w).handler(m.wParam, m.lParam); }},
 // void handler(), on the click of a button or a menu's choice
 #define ON_COMMAND(id, handler) AFX_ENTRY(WM_COMMAND, 0, id, self.handler())
-// void handler(), on a control's notification in WM_COMMAND
-#define ON_CONTROL(code, id, handler) AFX_ENTRY(WM_COMMAND, code, id, self.handler())
 // void handler(NMHDR*, LRESULT*), on a control's WM_NOTIFY
 #define ON_NOTIFY(code, id, handler)                                                                                   \
     {WM_NOTIFY, static_cast<UINT>(code), (id),                                                                         \

@@ -37,7 +37,6 @@ public:
     ~CWnd() override;
 
     HWND m_hWnd = nullptr;
-    HWND GetSafeHwnd() const { return m_hWnd; }
 
     // Creates a child window and joins it; false when it cannot be created. PreCreateWindow sees the parameters first.
     virtual BOOL Create(const char* className, const char* windowName, DWORD style, const RECT& rect, CWnd* parent,
@@ -47,14 +46,12 @@ public:
     virtual BOOL DestroyWindow();
     // Joins a window that stands already, and leaves it again.
     BOOL SubclassWindow(HWND window);
-    BOOL SubclassDlgItem(UINT id, CWnd* parent);
     HWND UnsubclassWindow();
 
     // The object that joined the window, else null; FromHandle makes do with an object that lives until the outermost
     // modal dialog ends.
     static CWnd* FromHandlePermanent(HWND window);
     static CWnd* FromHandle(HWND window);
-    static CWnd* GetFocus() { return FromHandle(::GetFocus()); }
     CWnd* GetDlgItem(int id) const { return FromHandle(::GetDlgItem(m_hWnd, id)); }
     CWnd* GetParent() const { return FromHandle(::GetParent(m_hWnd)); }
 
@@ -100,10 +97,8 @@ protected:
     afx_msg void OnDestroy() { Default(); }
     afx_msg void OnSize(UINT /*kind*/, int /*width*/, int /*height*/) { Default(); }
     afx_msg void OnLButtonDown(UINT /*flags*/, CPoint /*point*/) { Default(); }
-    afx_msg void OnLButtonUp(UINT /*flags*/, CPoint /*point*/) { Default(); }
     afx_msg void OnLButtonDblClk(UINT /*flags*/, CPoint /*point*/) { Default(); }
     afx_msg void OnKeyDown(UINT /*key*/, UINT /*count*/, UINT /*flags*/) { Default(); }
-    afx_msg void OnKeyUp(UINT /*key*/, UINT /*count*/, UINT /*flags*/) { Default(); }
 
     static void DeleteTempMap();
 

@@ -28,10 +28,9 @@ public:
 BEGIN_MESSAGE_MAP(RecordingWindow, CWnd)
     ON_WM_SIZE()
     ON_WM_LBUTTONDOWN()
-    ON_WM_KEYUP()
+    ON_WM_KEYDOWN()
     ON_WM_DESTROY()
     ON_COMMAND(7, OnChosen)
-    ON_CONTROL(EN_CHANGE, 8, OnChanged)
     ON_NOTIFY(NM_DBLCLK, 9, OnNotification)
     ON_MESSAGE(questionMessage, OnQuestion)
 END_MESSAGE_MAP()
@@ -52,7 +51,7 @@ void RecordingWindow::OnLButtonDown(UINT flags, CPoint point)
     Note("down " + std::to_string(flags) + " " + std::to_string(point.x) + " " + std::to_string(point.y));
 }
 
-void RecordingWindow::OnKeyUp(UINT key, UINT count, UINT flags)
+void RecordingWindow::OnKeyDown(UINT key, UINT count, UINT flags)
 {
     Note("key " + std::to_string(key) + " " + std::to_string(count) + " " + std::to_string(flags));
 }

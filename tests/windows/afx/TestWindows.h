@@ -19,10 +19,9 @@ protected:
     void Note(const std::string& what) { record.push_back(what); }
     afx_msg void OnSize(UINT kind, int width, int height);
     afx_msg void OnLButtonDown(UINT flags, CPoint point);
-    afx_msg void OnKeyUp(UINT key, UINT count, UINT flags);
+    afx_msg void OnKeyDown(UINT key, UINT count, UINT flags);
     afx_msg void OnDestroy();
     afx_msg void OnChosen() { Note("chosen"); }
-    afx_msg void OnChanged() { Note("changed"); }
     afx_msg void OnNotification(NMHDR* header, LRESULT* result);
     afx_msg LRESULT OnQuestion(WPARAM wParam, LPARAM lParam);
     void PostNcDestroy() override { ++destroyed; }
