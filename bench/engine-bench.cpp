@@ -53,7 +53,7 @@ const std::string& DescriptionFile(int count)
 void SplitPlainly(benchmark::State& state)
 {
     const std::string& name = DescriptionFile(static_cast<int>(state.range(0)));
-    for (auto _ : state)
+    while (state.KeepRunning())
     {
         const std::unique_ptr<std::FILE, int (*)(std::FILE*)> file(std::fopen(name.c_str(), "r"), std::fclose);
         char line[400];
@@ -71,7 +71,7 @@ void SplitPlainly(benchmark::State& state)
 void ReadStatements(benchmark::State& state)
 {
     const std::string& name = DescriptionFile(static_cast<int>(state.range(0)));
-    for (auto _ : state)
+    while (state.KeepRunning())
     {
         ClytDialogFile file(nullptr);
         file.Open(name.c_str(), CFile::modeRead);
@@ -92,7 +92,7 @@ void ReadStatements(benchmark::State& state)
 void BuildForm(benchmark::State& state)
 {
     const std::string& name = DescriptionFile(static_cast<int>(state.range(0)));
-    for (auto _ : state)
+    while (state.KeepRunning())
     {
         HeadlessForm form(name.c_str());
         form.Construct();
@@ -130,7 +130,7 @@ void ScanText(benchmark::State& state)
     std::string text;
     while (text.size() < static_cast<size_t>(state.range(0)))
         text += "a piece (of some; kind) \"with; quotes\";";
-    for (auto _ : state)
+    while (state.KeepRunning())
         benchmark::DoNotOptimize(form.RunInput("parent", text.c_str()));
 }
 
@@ -141,7 +141,7 @@ void ComposeText(benchmark::State& state)
     for (int index = 0; index < 25; ++index)
         form.Enter(("F" + std::to_string(index)).c_str(), part.c_str());
     CString composed;
-    for (auto _ : state)
+    while (state.KeepRunning())
         benchmark::DoNotOptimize(form.ComposeNamedOutput("parent", composed));
 }
 

@@ -2,6 +2,7 @@
 #include "support/HeadlessControls.h"
 
 #include "environment/ClytEnvironment.h"
+#include "environment/ClytException.h"
 #include "environment/Words.h"
 #include "support/HeadlessForm.h"
 
@@ -169,6 +170,12 @@ void HeadlessCombo::SetValue(const CString& value)
 CString HeadlessCombo::GetValue()
 {
     return selection >= 0 ? items[static_cast<size_t>(selection)].value : freeText;
+}
+
+CString HeadlessCombo::GetDisplayValue()
+{
+    lytReport("201");
+    return {};
 }
 
 void HeadlessCombo::Enter(const CString& input)

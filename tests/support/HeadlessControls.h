@@ -129,7 +129,7 @@ public:
     void AddValues(const CString& text, const CString& separators) override;
     void SetValue(const CString& value) override;
     CString GetValue() override;
-    CString GetDisplayValue() override { return ClytControl::GetDisplayValue(); }
+    CString GetDisplayValue() override;
     void Enter(const CString& input) override;
 
 private:
