@@ -1,6 +1,9 @@
 #include "support/HeadlessForm.h"
 
+#include "dialog/Counted.h"
 #include "environment/ProcessState.h"
+
+#include <algorithm>
 
 HeadlessForm::HeadlessForm(const CString& descriptionFile, const CString& defines)
     : ClytDialogRules(descriptionFile, defines)
@@ -26,7 +29,9 @@ void HeadlessForm::Command()
 {
     if (MayRunRules())
     {
+        const Counted run(openRuns);
         ++runCount;
+        deepestRun = std::max(deepestRun, openRuns);
         RunDependencies();
     }
     lytCommandSeen = 1;

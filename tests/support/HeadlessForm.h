@@ -35,8 +35,9 @@ public:
     int width = 0;
     int height = 0;
     CString caption;
-    CString focus;    // the name of the control that has it
-    int runCount = 0; // how many commands ran the rules
+    CString focus;      // the name of the control that has it
+    int runCount = 0;   // how many commands ran the rules
+    int deepestRun = 0; // how many of them stood one inside the other at most
 
 protected:
     void SizeWindow(int windowWidth, int windowHeight, const CString& windowCaption) override;
@@ -46,4 +47,5 @@ protected:
 
 private:
     HeadlessOptionGroup* openGroup = nullptr; // the form's
+    int openRuns = 0;
 };

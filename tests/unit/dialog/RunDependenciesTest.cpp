@@ -162,6 +162,8 @@ TEST_F(Rules, EndInAChainOfThousands)
     opened.Enter("F0", "x");
     EXPECT_EQ(opened.Value("F1"), "");
     EXPECT_EQ(opened.Value("F" + CString(std::to_string(fields - 1).c_str())), "");
+    // So many that no description reaches them, so few that no host's stack ends.
+    EXPECT_EQ(opened.deepestRun, 50);
 }
 
 TEST_F(Rules, AreEnteredAgainAfterAFailure)

@@ -277,10 +277,10 @@ TEST_F(InputStatement, TakesEachFormOfAFillRule)
 TEST_F(InputStatement, OfAWrongFillRuleRaises)
 {
     for (const char* line :
-         {"X: (1, E = N)", "X: (1, E = N: M", "X: (1, E = N =", "X: (1, E = N = f = g", "X: (1, E = N(FILL",
-          "X: (1, E = N(", "X: (1, E = N(CONCAT,a,b,c,d)", "X: (1, E = N(FILL) M", "X: (1, E = N(FILL) = M",
-          "X: (1, E = (a", "X: (1, E = (a,", "X: (1, E = (a)", "X: (1, E = (a)=N", "X: (1, E = N(FILL:x)",
-          "X: (1, E = N,,M", "X: (1, E = (a)(b) N", "X: (1, E = N\tM"})
+         {"X: (1, E = N)", "X: (1, E = = N", "X: (1, E = N: M", "X: (1, E = N =", "X: (1, E = N = f = g",
+          "X: (1, E = N(FILL", "X: (1, E = N(", "X: (1, E = N(CONCAT,a,b,c,d)", "X: (1, E = N(FILL) M",
+          "X: (1, E = N(FILL) = M", "X: (1, E = (a", "X: (1, E = (a,", "X: (1, E = (a)", "X: (1, E = (a)=N",
+          "X: (1, E = N(FILL:x)", "X: (1, E = N,,M", "X: (1, E = (a)(b) N", "X: (1, E = N\tM"})
     {
         SCOPED_TRACE(line);
         EXPECT_EQ(InputFailure(line), "212 '3'");
