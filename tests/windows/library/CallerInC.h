@@ -6,8 +6,8 @@ extern "C"
 {
 #endif
 
-int CountFunctionsSeenFromC(void);
-int ReadDocNameFromC(const char* docName, char* buffer, int size);
+    int CountFunctionsSeenFromC(void);
+    int ReadDocNameFromC(const char* docName, char* buffer, int size);
 
 #ifdef __cplusplus
 }
