@@ -1,5 +1,7 @@
 #include <afx.h>
 
+#include "FormatText.h"
+
 #include <algorithm>
 #include <cctype>
 #include <cstring>
@@ -57,6 +59,13 @@ const char* OrEmpty(const char* text)
 }
 
 } // namespace
+
+CString::CString() = default;
+CString::CString(const CString& text) = default;
+CString::CString(CString&& text) noexcept = default;
+CString& CString::operator=(const CString& text) = default;
+CString& CString::operator=(CString&& text) noexcept = default;
+CString::~CString() = default;
 
 CString::CString(const char* text) : m_text(OrEmpty(text)) {}
 
@@ -213,13 +222,13 @@ void CString::AppendFormatted(const char* format, va_list arguments)
 {
     va_list measured;
     va_copy(measured, arguments);
-    const int length = std::vsnprintf(nullptr, 0, format, measured);
+    const int length = FormattedLength(format, measured);
     va_end(measured);
     if (length < 0)
         AfxThrowInvalidArgException();
 
     std::string formatted(static_cast<size_t>(length) + 1, '\0');
-    std::vsnprintf(formatted.data(), formatted.size(), format, arguments);
+    FormatText(formatted.data(), formatted.size(), format, arguments);
     m_text.append(formatted, 0, static_cast<size_t>(length));
 }
 

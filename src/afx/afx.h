@@ -26,7 +26,13 @@ public:
 class CString
 {
 public:
-    CString() = default;
+    CString();
+    // Texts come and go everywhere: what the compiler would repeat at each place stands once, in CString.cpp.
+    CString(const CString& text);
+    CString(CString&& text) noexcept;
+    CString& operator=(const CString& text);
+    CString& operator=(CString&& text) noexcept;
+    ~CString();
     // A null pointer counts as an empty text.
     CString(const char* text); // NOLINT(google-explicit-constructor): literals stand for strings everywhere
     CString(const char* text, int length);

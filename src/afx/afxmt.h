@@ -1,20 +1,25 @@
 // Locks of the class library.
 #pragma once
 
-#include <mutex>
+#include <windows.h>
 
 class CCriticalSection
 {
 public:
+    CCriticalSection() { ::InitializeCriticalSection(&m_sect); }
+    CCriticalSection(const CCriticalSection&) = delete;
+    CCriticalSection& operator=(const CCriticalSection&) = delete;
+    ~CCriticalSection() { ::DeleteCriticalSection(&m_sect); }
+
     bool Lock()
     {
-        m_mutex.lock();
+        ::EnterCriticalSection(&m_sect);
         return true;
     }
-    void Unlock() { m_mutex.unlock(); }
+    void Unlock() { ::LeaveCriticalSection(&m_sect); }
 
 private:
-    std::recursive_mutex m_mutex;
+    CRITICAL_SECTION m_sect;
 };
 
 // Holds a critical section from construction with `initialLock` set until its own end.
