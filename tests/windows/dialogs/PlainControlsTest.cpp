@@ -1,35 +1,5 @@
-// Edit, static text, group box and the two default buttons, and what all controls share.
-#include "DialogFixture.h"
-
-namespace
-{
-
-class PlainControls : public DialogFixture
-{
-protected:
-    PlainControls()
-    {
-        description.controls += "TextBox 10, 40, 150, 15, .Edit\nText 10, 70, 50, 12, \"Label\", .Static\n"
-                                "GroupBox 5, 90, 200, 50, \"Label\", .Frame\n";
-    }
-    static HWND Key(HWND dialog) { return robot::ChildAt(dialog, 0); }
-    static HWND Ok(HWND dialog) { return robot::ChildAt(dialog, 1); }
-    static HWND Cancel(HWND dialog) { return robot::ChildAt(dialog, 2); }
-    static HWND Edit(HWND dialog) { return robot::ChildAt(dialog, 3); }
-    static HWND Static(HWND dialog) { return robot::ChildAt(dialog, 4); }
-    static HWND Frame(HWND dialog) { return robot::ChildAt(dialog, 5); }
-    static DWORD StyleOf(HWND window) { return static_cast<DWORD>(GetWindowLongPtrA(window, GWL_STYLE)); }
-    static SIZE SizeOf(HWND window)
-    {
-        RECT rect{};
-        GetWindowRect(window, &rect);
-        return {rect.right - rect.left, rect.bottom - rect.top};
-    }
-
-    Description description;
-};
-
-} // namespace
+// Static text, group box and the two default buttons, and what all controls share.
+#include "PlainControlsFixture.h"
 
 TEST_F(PlainControls, HaveTheStylesOfTheirKind)
 {
@@ -101,14 +71,6 @@ TEST_F(PlainControls, OptionWordIsTakenWhateverItsKeyword)
     EXPECT_EQ(ShowAndPress(IDOK, "a"), 2);
 }
 
-TEST_F(PlainControls, EditReadsFilledByBeforeTheOptionWords)
-{
-    description.values = "Edit = FILLEDBY, INACTIVE, function\n";
-    Describe(description);
-    On([](HWND dialog) { EXPECT_TRUE(IsWindowEnabled(Edit(dialog))); });
-    EXPECT_EQ(ShowAndPress(IDOK, "a"), 2);
-}
-
 TEST_F(PlainControls, DisplayOnlyStartsDisabledAndARuleCanEnableIt)
 {
     description.values = "Edit = DISPLAYONLY\n";
@@ -136,104 +98,6 @@ TEST_F(PlainControls, InactiveConditionFailsUnlessItIsHiddenOrDisplayOnly)
         On([&](HWND dialog) { EXPECT_EQ(IsWindowVisible(Static(dialog)) != FALSE, holds); });
         EXPECT_EQ(ShowAndPress(IDOK, "a"), 2);
     }
-}
-
-TEST_F(PlainControls, EditStartsWithItsDefault)
-{
-    description.values = "Edit = first\nEdit = preset, second\n";
-    Describe(description);
-    On([](HWND dialog) { EXPECT_EQ(robot::TextOf(Edit(dialog)), "second"); });
-    EXPECT_EQ(ShowAndPress(IDOK, "a"), 2);
-}
-
-TEST_F(PlainControls, EditWithTheDefaultFillFillsItselfAtCreation)
-{
-    description.values = "Edit = FILLEDBY, lytdata, LookUp, x, Lookup\nEdit = FILL\n";
-    description.output += "$OUTPUT, Lookup\n(\"fruit/Apple\")\n";
-    Describe(description);
-    // The output groups are not read yet when the windows are made, so the rule is not found and nothing happens.
-    On([](HWND dialog) { EXPECT_EQ(robot::TextOf(Edit(dialog)), ""); });
-    EXPECT_EQ(ShowAndPress(IDOK, "a"), 2);
-
-    description.values = "Edit = FILLEDBY, lytdata, CountOf\nEdit = FILL\n";
-    Describe(description);
-    On([](HWND dialog) { EXPECT_EQ(robot::TextOf(Edit(dialog)), "") << "no such function"; });
-    EXPECT_EQ(ShowAndPress(IDOK, "a"), 2);
-}
-
-TEST_F(PlainControls, EditFillsThroughItsRuleAndItsLibrary)
-{
-    description.values = "Edit = FILLEDBY, lytdata, LookUp, x, Lookup\n";
-    description.rules = "Edit/FILL = Key\n";
-    description.output += "$OUTPUT, Lookup\nKey(Apple,Plum) = (\"fruit/%s\", Key)\n";
-    Describe(description);
-    On(
-        [](HWND dialog)
-        {
-            SetWindowTextA(Edit(dialog), "as it was");
-            robot::ReplaceText(Key(dialog), "Apple");
-            EXPECT_EQ(robot::TextOf(Edit(dialog)), "A");
-            robot::ReplaceText(Key(dialog), "Plum");
-            EXPECT_EQ(robot::TextOf(Edit(dialog)), "PL");
-            robot::ReplaceText(Key(dialog), "Pear");
-            EXPECT_EQ(robot::TextOf(Edit(dialog)), "PL") << "a rule that does not compose ends the fill";
-        });
-    EXPECT_EQ(ShowAndPress(IDOK, "a"), 1);
-}
-
-TEST_F(PlainControls, EditsShareTheLibraryThatTheFirstLoaded)
-{
-    description.controls += "TextBox 10, 110, 150, 15, .Other\n";
-    description.values = "Edit = FILLEDBY, lytdata, LookUp, x, Lookup\nKey = FILLEDBY, nowhere, LookUp, x, Lookup\n";
-    description.rules = "Edit/FILL = Other\nKey/FILL = Other\n";
-    description.output += "$OUTPUT, Lookup\n(\"fruit/%s\", Other)\n";
-    Describe(description);
-    On(
-        [](HWND dialog)
-        {
-            robot::ReplaceText(robot::ChildAt(dialog, 6), "Pear");
-            EXPECT_EQ(robot::TextOf(Edit(dialog)), "P");
-            EXPECT_EQ(robot::TextOf(Key(dialog)), "P");
-        });
-    EXPECT_EQ(ShowAndPress(IDOK, "a"), 1);
-}
-
-TEST_F(PlainControls, EditWithoutAFunctionStaysAsItWas)
-{
-    description.values = "Edit = FILLEDBY, lytdata\nEdit = kept\n";
-    description.rules = "Edit/FILL = Key\n";
-    Describe(description);
-    On(
-        [](HWND dialog)
-        {
-            robot::ReplaceText(Key(dialog), "Apple");
-            EXPECT_EQ(robot::TextOf(Edit(dialog)), "kept");
-        });
-    EXPECT_EQ(ShowAndPress(IDOK, "a"), 1);
-}
-
-TEST_F(PlainControls, EmptyPieceDoesNotEmptyAnEdit)
-{
-    description.values = "Edit = kept\n";
-    description.input = "$INPUT, parent\nStart: (\";\", Next, Rest, Next = Key\nNext: (\";\", End, Rest, End = Edit\n";
-    Describe(description);
-    On([](HWND dialog) { EXPECT_EQ(robot::TextOf(Edit(dialog)), "kept"); });
-    EXPECT_EQ(ShowAndPress(IDOK, "a;"), 1);
-}
-
-TEST_F(PlainControls, ClearEmptiesADisplayOnlyEditToo)
-{
-    description.values = "Edit = DISPLAYONLY\nEdit = text\n";
-    description.rules = "Edit/CLEAR = Key\n";
-    Describe(description);
-    On(
-        [](HWND dialog)
-        {
-            EXPECT_EQ(robot::TextOf(Edit(dialog)), "text");
-            robot::ReplaceText(Key(dialog), "x");
-            EXPECT_EQ(robot::TextOf(Edit(dialog)), "");
-        });
-    EXPECT_EQ(ShowAndPress(IDOK, "a"), 1);
 }
 
 TEST_F(PlainControls, StaticTextTakesTheSizeOfItsCaptionAndKeepsIt)
