@@ -19,7 +19,9 @@
  *   4. Functions are called on the thread that runs the dialog, one at a time. They must not raise.
  *   5. All controls of one kind share the library that the first of them loaded, for the life of the process: let one
  *      library carry all functions that the lists of a process need. A library is never unloaded.
- *   6. A function that is missing, a start that finds nothing: the control then stays empty (an edit: as it was), and
+ *   6. An edit with the preset value FILL is filled while its window is created, before the output rules are known: a
+ *      rule for its parameter would end that fill. Later fills, by a rule or by the input, may have one.
+ *   7. A function that is missing, a start that finds nothing: the control then stays empty (an edit: as it was), and
  *      nobody is told. Show your own message if the user should know.
  */
 #ifndef LYTDATA_H
