@@ -1,8 +1,26 @@
 // A class keeps the first library that loads for the life of the process, so these tests run in their order.
 #include "DataLibraryFixture.h"
 
+#include <fstream>
+#include <iterator>
+
 namespace
 {
+
+// The bytes of the nasty library, marked as made for another kind of processor.
+std::string LibraryOfAnotherMachine()
+{
+    char path[MAX_PATH] = "";
+    GetModuleFileNameA(nullptr, path, MAX_PATH);
+    std::string name = path;
+    name.replace(name.find_last_of('\\') + 1, std::string::npos, "nasty.dll");
+    std::ifstream file(name, std::ios::binary);
+    std::string bytes{std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+    const size_t header = bytes.find(std::string("PE\0\0", 4));
+    const WORD machine = IMAGE_FILE_MACHINE_I386;
+    bytes.replace(header + 4, sizeof machine, reinterpret_cast<const char*>(&machine), sizeof machine);
+    return bytes;
+}
 
 bool IsLoaded(const char* library)
 {
@@ -36,16 +54,20 @@ TEST_F(DataLibrary, AMissingLibraryEmptiesTheListInSilence)
     }
 }
 
-TEST_F(DataLibrary, AFileThatIsNoLibraryEmptiesTheListInSilence)
+TEST_F(DataLibrary, AFileThatIsNoLibraryOfThisMachineEmptiesTheListInSilence)
 {
-    form.Folder().Write("wrong.dll", "MZ, and nothing behind it");
-    for (const std::string& kind : classes)
+    form.Folder().Write("broken.dll", "MZ, and nothing behind it");
+    form.Folder().Write("other.dll", LibraryOfAnotherMachine());
+    for (const char* file : {"\\broken.dll", "\\other.dll"})
     {
-        SCOPED_TRACE(kind);
-        List(kind, "\"" + form.Folder().Path() + "\\wrong.dll\",Open,NextThree");
-        ClickFill();
-        ExpectItems({});
-        EXPECT_EQ(form.Ok().Open().messages, Texts{});
+        for (const std::string& kind : classes)
+        {
+            SCOPED_TRACE(kind + file);
+            List(kind, "\"" + form.Folder().Path() + file + "\",Open,NextThree");
+            ClickFill();
+            ExpectItems({});
+            EXPECT_EQ(form.Ok().Open().messages, Texts{});
+        }
     }
 }
 
