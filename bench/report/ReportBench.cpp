@@ -2,11 +2,11 @@
 #include "lyt64.h"
 
 #include "PlainCalls.h"
+#include "Timing.h"
 #include "support/TestFolder.h"
 
 #include <windows.h>
 
-#include <algorithm>
 #include <cstdio>
 #include <string>
 #include <vector>
@@ -19,29 +19,6 @@ Function* Exported(const char* name)
 {
     static const HMODULE library = LoadLibraryA("lyt64.dll");
     return reinterpret_cast<Function*>(reinterpret_cast<void*>(GetProcAddress(library, name)));
-}
-
-double Milliseconds()
-{
-    LARGE_INTEGER frequency;
-    LARGE_INTEGER count;
-    QueryPerformanceFrequency(&frequency);
-    QueryPerformanceCounter(&count);
-    return 1000.0 * static_cast<double>(count.QuadPart) / static_cast<double>(frequency.QuadPart);
-}
-
-template <class Work>
-double TimeOf(Work work)
-{
-    const double start = Milliseconds();
-    work();
-    return Milliseconds() - start;
-}
-
-double Median(std::vector<double> times)
-{
-    std::sort(times.begin(), times.end());
-    return times[times.size() / 2];
 }
 
 int ReadToTheEnd()

@@ -2,6 +2,7 @@
 // pictures by hand, and a lookup in a catalogue that is kept.
 #include "lyt64.h"
 
+#include "Timing.h"
 #include "support/TestFolder.h"
 #include "tree/TestSource.h"
 
@@ -9,7 +10,6 @@
 
 #include <commctrl.h>
 
-#include <algorithm>
 #include <cstdio>
 #include <cstring>
 #include <string>
@@ -35,29 +35,6 @@ template <class Function>
 Function* Find(HMODULE library, const char* name)
 {
     return reinterpret_cast<Function*>(reinterpret_cast<void*>(GetProcAddress(library, name)));
-}
-
-double Milliseconds()
-{
-    LARGE_INTEGER frequency;
-    LARGE_INTEGER count;
-    QueryPerformanceFrequency(&frequency);
-    QueryPerformanceCounter(&count);
-    return 1000.0 * static_cast<double>(count.QuadPart) / static_cast<double>(frequency.QuadPart);
-}
-
-template <class Work>
-double TimeOf(Work work)
-{
-    const double start = Milliseconds();
-    work();
-    return Milliseconds() - start;
-}
-
-double Median(std::vector<double> times)
-{
-    std::ranges::sort(times);
-    return times[times.size() / 2];
 }
 
 // Headings with groups of nine symbols.
