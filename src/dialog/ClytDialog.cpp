@@ -3,7 +3,6 @@
 #include "controls/ClytGroupBoxControl.h"
 #include "controls/ClytPushButtonControl.h"
 #include "dialog/ClytControlTypes.h"
-#include "environment/ClytEnvironment.h"
 #include "environment/ClytException.h"
 #include "environment/ProcessState.h"
 #include "res/resource.h"
@@ -56,7 +55,6 @@ BOOL ClytDialog::OnInitDialog()
     TakeScale();
     try
     {
-        const ClytLanguageHold language(lytEnvironment);
         ReadDescription();
     }
     catch (CException* e)

@@ -3,8 +3,6 @@
 #include "environment/ClytException.h"
 #include "environment/ProfileFile.h"
 
-#include <utility>
-
 namespace
 {
 
@@ -50,12 +48,7 @@ CString ClytEnvironment::GetLanguage() const
 
 CString ClytEnvironment::GetLanguageFileName() const
 {
-    return dialogPath + "\\lang\\" + (heldLanguage ? *heldLanguage : GetLanguage()) + ".nls";
-}
-
-ClytLanguageHold::ClytLanguageHold(ClytEnvironment& owner)
-    : environment(owner), previous(std::exchange(owner.heldLanguage, owner.GetLanguage()))
-{
+    return dialogPath + "\\lang\\" + GetLanguage() + ".nls";
 }
 
 CString ClytEnvironment::GetLogLevel() const

@@ -3,8 +3,6 @@
 
 #include "environment/ClytReportLines.h"
 
-#include <optional>
-
 // What a language text reads as when the language file does not hold it.
 inline constexpr const char* lytNoValue = "no value present";
 // What a value of `lyt.ini` reads as when it is not there.
@@ -49,28 +47,10 @@ public:
     ClytReportLines lytReportLines;
 
 private:
-    friend class ClytLanguageHold;
-
     CString initPath;
     CString dialogPath;
     CString docName;
     CString dialogDefine;
-    std::optional<CString> heldLanguage;
 };
 
 extern ClytEnvironment lytEnvironment;
-
-// While one lives, the language is not asked for again: the many texts of a dialog under construction are of one
-// language, and each costs one read instead of two.
-class ClytLanguageHold
-{
-public:
-    explicit ClytLanguageHold(ClytEnvironment& owner);
-    ClytLanguageHold(const ClytLanguageHold&) = delete;
-    ClytLanguageHold& operator=(const ClytLanguageHold&) = delete;
-    ~ClytLanguageHold() { environment.heldLanguage = std::move(previous); }
-
-private:
-    ClytEnvironment& environment;
-    std::optional<CString> previous;
-};
