@@ -100,7 +100,14 @@ void ScriptRunner::TakeStep(const Step& step)
     // Counted first: acting may open a modal loop in which the timer comes back here.
     ++m_next;
     RestartClock();
-    action.act(m_stage, step);
+    try
+    {
+        action.act(m_stage, step);
+    }
+    catch (const std::runtime_error& error)
+    {
+        Fail(step, error.what());
+    }
 }
 
 // A script that leaves a window open would wait for somebody who is not there.

@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <stdexcept>
 
 namespace lytcall
 {
@@ -264,7 +265,8 @@ void Show(Stage& /*stage*/, const Step& /*step*/)
 void Shoot(Stage& /*stage*/, const Step& step)
 {
     if (!SavePicture(robot::ActiveDialog(), ToAnsi(ArgumentOf(step))))
-        PrintText("no picture", ArgumentOf(step));
+        throw std::runtime_error("the picture " + Quoted(ArgumentOf(step)) +
+                                 " cannot be saved; check its folder and name");
 }
 
 const StepAction actions[] = {

@@ -21,7 +21,8 @@ struct StepAction
     const char* word;
     // Whether the step can be taken; asked again and again until it can or its time is up.
     bool (*ready)(const Stage& stage, const Step& step);
-    // Takes the step. What it posts reaches the windows before the next step is asked.
+    // Takes the step. What it posts reaches the windows before the next step is asked. Raises std::runtime_error with
+    // the reason when it cannot be taken after all.
     void (*act)(Stage& stage, const Step& step);
 };
 
