@@ -1,8 +1,8 @@
 #include "controls/ClytCheckListBox.h"
 
-#include "controls/ClytRedrawPause.h"
 #include "dialog/ClytDialog.h"
 #include "environment/ClytEnvironment.h"
+#include "environment/ClytRedrawPause.h"
 #include "environment/ProcessState.h"
 
 #include <utility>

@@ -1,7 +1,7 @@
 #include "controls/ClytComboBoxControl.h"
 
-#include "controls/ClytRedrawPause.h"
 #include "dialog/ClytDialog.h"
+#include "environment/ClytRedrawPause.h"
 #include "environment/Words.h"
 
 namespace

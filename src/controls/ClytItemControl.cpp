@@ -1,9 +1,9 @@
 #include "controls/ClytItemControl.h"
 
-#include "controls/ClytRedrawPause.h"
 #include "controls/ClytWaitCursor.h"
 #include "dialog/ClytDialog.h"
 #include "environment/ClytEnvironment.h"
+#include "environment/ClytRedrawPause.h"
 #include "environment/Words.h"
 
 #include <type_traits>

@@ -1,8 +1,8 @@
 #include "controls/ClytListBoxControl.h"
 
-#include "controls/ClytRedrawPause.h"
 #include "dialog/ClytDialog.h"
 #include "environment/ClytEnvironment.h"
+#include "environment/ClytRedrawPause.h"
 
 BEGIN_MESSAGE_MAP(ClytListBoxControl, CListBox)
     ON_WM_LBUTTONDBLCLK()

@@ -1,8 +1,8 @@
 #include "controls/ClytListControl.h"
 
 #include "controls/ClytPushButtonControl.h"
-#include "controls/ClytRedrawPause.h"
 #include "dialog/ClytDialog.h"
+#include "environment/ClytRedrawPause.h"
 #include "environment/Words.h"
 
 template <class WINDOW>

@@ -2,6 +2,7 @@
 
 #include "environment/ClytEnvironment.h"
 #include "environment/ClytException.h"
+#include "environment/ClytRedrawPause.h"
 #include "environment/ProcessState.h"
 #include "res/resource.h"
 #include "tree/NodeExpansion.h"
@@ -35,23 +36,6 @@ public:
 
 private:
     HCURSOR m_previous;
-};
-
-// A control that keeps up with every added item on the screen takes a hundred times as long.
-class RedrawPause
-{
-public:
-    explicit RedrawPause(const CWnd& window) : m_window(window) { m_window.SetRedraw(FALSE); }
-    RedrawPause(const RedrawPause&) = delete;
-    RedrawPause& operator=(const RedrawPause&) = delete;
-    ~RedrawPause()
-    {
-        m_window.SetRedraw(TRUE);
-        m_window.Invalidate();
-    }
-
-private:
-    const CWnd& m_window;
 };
 
 class ControlItems : public ClytTreeItems
@@ -98,7 +82,7 @@ BOOL ClytTreeDialog::OnInitDialog()
         const WaitCursor waiting;
         HTREEITEM selection = nullptr;
         {
-            const RedrawPause pause(m_treeCtrl);
+            const ClytRedrawPause pause(m_treeCtrl);
             LoadImages();
             FillTree();
             selection = ExpandTree();
