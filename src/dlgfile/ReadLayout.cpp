@@ -88,7 +88,10 @@ int ClytDialogFile::ReadDialogHeader(int& width, int& height, CString& title, CS
 
 int ClytDialogFile::ReadControlStatement(ClytControlStatement& statement)
 {
-    statement = {};
+    statement.type.Empty();
+    statement.x = statement.y = statement.width = statement.height = 0;
+    statement.text.Empty();
+    statement.name.Empty();
     if (!ReadTokens(controlDelimiters))
         lytRaise("216");
     POSITION token = tokens.GetHeadPosition();
