@@ -7,7 +7,11 @@
 class ClytToken : public CObject
 {
 public:
-    ClytToken(CString tokenText, char endedBy) : text(std::move(tokenText)), delimiter(endedBy) {}
+    // The text stands between two places of the line.
+    ClytToken(const char* start, const char* end, char endedBy)
+        : text(start, static_cast<int>(end - start)), delimiter(endedBy)
+    {
+    }
     ClytToken(ClytToken&& other) noexcept : text(std::move(other.text)), delimiter(other.delimiter) {}
 
     const CString& GetText() const { return text; }

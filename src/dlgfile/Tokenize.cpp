@@ -16,13 +16,13 @@ const char* SkipSpace(const char* text)
     return text;
 }
 
-CString Trimmed(const char* start, const char* end)
+ClytToken Trimmed(const char* start, const char* end, char delimiter)
 {
     while (start < end && lytIsSpace(*start))
         ++start;
     while (start < end && lytIsSpace(end[-1]))
         --end;
-    return {start, static_cast<int>(end - start)};
+    return {start, end, delimiter};
 }
 
 // The quote that closes the one before `text`, or null. A quote behind a backslash is content, and the backslash stays.
@@ -65,7 +65,7 @@ bool ClytDialogFile::CutTokens(const char* line, const DelimiterSet& delimiters)
         }
         // What stands between a closing quote and the delimiter is dropped.
         const char* end = delimiters.FindIn(textEnd != nullptr ? textEnd + 1 : start);
-        tokens.AddTail({Trimmed(start, textEnd != nullptr ? textEnd : end), DelimiterAt(end)});
+        tokens.AddTail(Trimmed(start, textEnd != nullptr ? textEnd : end, DelimiterAt(end)));
         // A `;` is left standing, and so ends the line.
         start = SkipSpace(*end != '\0' && *end != ';' ? end + 1 : end);
     }
@@ -84,13 +84,13 @@ void ClytDialogFile::TokenizeGrouped(const char* text, const char* delimiters)
     {
         const char* end = ends.FindIn(start);
         if (*end != '(')
-            tokens.AddTail({CString(start, static_cast<int>(end - start)), DelimiterAt(end)});
+            tokens.AddTail({start, end, DelimiterAt(end)});
         else
         {
             end = FindGroupEnd(end + 1);
             if (*end != ',')
                 end = ends.FindIn(end);
-            tokens.AddTail({Trimmed(start, end), ')'});
+            tokens.AddTail(Trimmed(start, end, ')'));
         }
         start = *end != '\0' ? end + 1 : end;
     }
