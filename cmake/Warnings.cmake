@@ -9,6 +9,8 @@ target_compile_options(lyt_options INTERFACE
 target_link_options(lyt_options INTERFACE -fstack-protector-strong)
 
 if(LYT_SANITIZE)
+  # What the sanitizers put in makes GCC 12 see unset members inside the standard library.
+  target_compile_options(lyt_options INTERFACE $<$<CXX_COMPILER_ID:GNU>:-Wno-maybe-uninitialized>)
   target_compile_options(lyt_options INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
   target_link_options(lyt_options INTERFACE -fsanitize=address,undefined)
 endif()
