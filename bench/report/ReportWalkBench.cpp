@@ -15,7 +15,7 @@ void WalkReport(benchmark::State& state)
     for (int line = 0; line < count; ++line)
         AddReportLine("  a line of the report, as long as most of them are");
     char target[256];
-    for (auto _ : state)
+    while (state.KeepRunning())
     {
         for (int index = 0; index < count; ++index)
             benchmark::DoNotOptimize(lytReadReportLine(index, target, sizeof target));

@@ -204,7 +204,7 @@ TEST(ProfileText, AnEmptySectionNameMeansWhatStandsAheadOfTheFirstSection)
 TEST(ProfileText, GivesTheDefaultWhenSomethingIsMissing)
 {
     const TestFolder folder;
-    const std::string path = folder.Path();
+    const std::string& path = folder.Path();
     EXPECT_EQ(ReadText("", "s", "k"), defaultText);
     EXPECT_EQ(ReadText("[s]", "s", "k"), defaultText);
     EXPECT_EQ(ReadText("[t]\r\nk=v\r\n", "s", "k"), defaultText);
