@@ -22,6 +22,33 @@ constexpr int deepestRun = 50;
 
 } // namespace
 
+// A run of the rules, for as long as it lasts.
+class ClytDialogRules::Run
+{
+public:
+    explicit Run(ClytDialogRules& owner)
+        : m_owner(owner),
+          m_outer(std::exchange(owner.innermostRun, this)),
+          m_depth(m_outer != nullptr ? m_outer->m_depth + 1 : 1),
+          m_readsBefore(owner.readDepth)
+    {
+    }
+    Run(const Run&) = delete;
+    Run& operator=(const Run&) = delete;
+    ~Run() { m_owner.innermostRun = m_outer; }
+
+    // A value that was being read when the run began is not this run's concern.
+    bool IsReading() const { return m_owner.readDepth > m_readsBefore; }
+    // False when no run fits inside this one.
+    bool Admits() const { return m_depth < deepestRun; }
+
+private:
+    ClytDialogRules& m_owner;
+    Run* m_outer; // lives longer
+    int m_depth;
+    int m_readsBefore; // reads in progress when the run began
+};
+
 ClytDialogRules::ClytDialogRules(CString descriptionFile, const CString& defineList)
     : file(defineList), fileName(std::move(descriptionFile))
 {
@@ -54,13 +81,14 @@ ClytControl* ClytDialogRules::FindControl(const CString& name) const
 
 bool ClytDialogRules::MayRunRules() const
 {
-    const bool isReadingInRun = runDepth > 0 && readDepth > 0;
-    return lytControlsReady != 0 && lytInputApplied != 0 && !isReadingInRun && runDepth < deepestRun;
+    if (lytControlsReady == 0 || lytInputApplied == 0)
+        return false;
+    return innermostRun == nullptr || (!innermostRun->IsReading() && innermostRun->Admits());
 }
 
 void ClytDialogRules::RunDependencies()
 {
-    const Counted run(runDepth);
+    const Run run(*this);
     for (POSITION place = dependencyList.GetHeadPosition(); place != nullptr;)
         RunRule(*dependencyList.GetNext(place));
     for (POSITION place = dependencyList.GetHeadPosition(); place != nullptr;)

@@ -49,7 +49,8 @@ public:
     // One pass over the dependency rules in file order, then a new baseline for the controls of their conditions.
     void RunDependencies();
     // False when a command that arrives now must not run the rules: while windows are created or the first input is
-    // scanned, when a value that a run reads moved the focus, and when too many runs stand one inside the other.
+    // scanned, when a value that the innermost run reads moved the focus, and when too many runs stand one inside the
+    // other.
     bool MayRunRules() const;
 
     // Scans lytInputKey into the controls, empties it and takes the baseline of every control.
@@ -90,6 +91,8 @@ protected:
     int ComposeResult();
 
 private:
+    class Run;
+
     void OpenFile();
     void CloseFile();
     void ReadHeader();
@@ -120,6 +123,6 @@ private:
     CString evaluationSection;
     CString result;
     CString fileName;
-    int runDepth = 0;  // runs of the rules in progress, one inside the other
-    int readDepth = 0; // reads of a control's value in progress
+    Run* innermostRun = nullptr; // on the stack of RunDependencies
+    int readDepth = 0;           // reads of a control's value in progress
 };

@@ -213,6 +213,23 @@ TEST_F(Rules, RunForAFocusThatComposingOutsideARunMoves)
     EXPECT_EQ(opened.runCount, 1);
 }
 
+TEST_F(Rules, NestInARunThatAReadBegan)
+{
+    text.values = "B = text\nC = text\n";
+    text.dependencies = "C/CLEAR = B\nB/CLEAR = A\nP/ACTIVE = M(x)\n";
+    text.output = "(\"%s\", L)\n";
+    HeadlessForm& opened = Open();
+    lytInputApplied = 0;
+    opened.Enter("A", "x");
+    lytInputApplied = 1;
+    ASSERT_EQ(opened.runCount, 0);
+    EXPECT_TRUE(opened.Confirm());
+    EXPECT_EQ(opened.Value("C"), "") << "cleared by the run nested in the clearing of B";
+    // Reading M moved the focus on, in each of the three runs, and began none.
+    EXPECT_EQ(opened.focus, "M");
+    EXPECT_EQ(opened.runCount, 3);
+}
+
 TEST_F(Rules, DoNotRunWhileTheControlsAreCreated)
 {
     text.values = "A = one\nB = two\n";
