@@ -5,6 +5,7 @@
 #include "environment/ProcessState.h"
 #include "environment/Words.h"
 
+#include <list>
 #include <utility>
 
 float lytScaleX = 1.0F;
@@ -15,10 +16,17 @@ int lytInputApplied = 0;
 namespace
 {
 
-// How many runs may stand one inside the other. Each event rule can begin one in the run of another, and a description
-// with thousands of them must not use up the host's stack. The run that is not begun here loses nothing: the rules
-// behind the one that changed something see the change in the pass they stand in.
-constexpr int deepestRun = 50;
+// How many runs the innermost one makes up for, so that rules that set each other off come to an end.
+constexpr int mostMadeUpRuns = 1000;
+
+// One pass over the rules.
+struct Pass
+{
+    Pass(int& mark, POSITION firstRule) : held(mark), nextRule(firstRule) {}
+
+    Counted held; // the mark of the rule that set the pass off
+    POSITION nextRule;
+};
 
 } // namespace
 
@@ -39,14 +47,22 @@ public:
 
     // A value that was being read when the run began is not this run's concern.
     bool IsReading() const { return m_owner.readDepth > m_readsBefore; }
-    // False when no run fits inside this one.
-    bool Admits() const { return m_depth < deepestRun; }
+    // False when no run fits inside this one; the one that wanted to is remembered.
+    bool Admits()
+    {
+        m_hasRefused = m_depth >= m_owner.DeepestRun();
+        return !m_hasRefused;
+    }
+    // True once after a run was refused, as long as it may still be made up for.
+    bool TakeRefusal() { return std::exchange(m_hasRefused, false) && m_madeUp++ < mostMadeUpRuns; }
 
 private:
     ClytDialogRules& m_owner;
     Run* m_outer; // lives longer
     int m_depth;
     int m_readsBefore; // reads in progress when the run began
+    int m_madeUp = 0;
+    bool m_hasRefused = false;
 };
 
 ClytDialogRules::ClytDialogRules(CString descriptionFile, const CString& defineList)
@@ -79,18 +95,40 @@ ClytControl* ClytDialogRules::FindControl(const CString& name) const
     return control;
 }
 
-bool ClytDialogRules::MayRunRules() const
+bool ClytDialogRules::MayRunRules()
 {
     if (lytControlsReady == 0 || lytInputApplied == 0)
         return false;
     return innermostRun == nullptr || (!innermostRun->IsReading() && innermostRun->Admits());
 }
 
+// A run that was refused is made up for as soon as its rule has acted, by a pass of its own with a baseline of its own,
+// and the rule keeps its mark as long. So the rules come to what they would come to if runs nested without a limit; only
+// the stack stays as it is.
 void ClytDialogRules::RunDependencies()
 {
-    const Run run(*this);
-    for (POSITION place = dependencyList.GetHeadPosition(); place != nullptr;)
-        RunRule(*dependencyList.GetNext(place));
+    Run run(*this);
+    int ownMark = 0;
+    std::list<Pass> passes; // each set off by a rule of the one before
+    passes.emplace_back(ownMark, dependencyList.GetHeadPosition());
+    while (!passes.empty())
+    {
+        POSITION& nextRule = passes.back().nextRule;
+        if (nextRule == nullptr)
+        {
+            SaveBaseline();
+            passes.pop_back();
+            continue;
+        }
+        ClytControlDep& rule = *dependencyList.GetNext(nextRule);
+        RunRule(rule);
+        if (run.TakeRefusal())
+            passes.emplace_back(rule.runCount, dependencyList.GetHeadPosition());
+    }
+}
+
+void ClytDialogRules::SaveBaseline()
+{
     for (POSITION place = dependencyList.GetHeadPosition(); place != nullptr;)
         dependencyList.GetNext(place)->SaveStates(controlMap);
 }

@@ -50,8 +50,8 @@ public:
     void RunDependencies();
     // False when a command that arrives now must not run the rules: while windows are created or the first input is
     // scanned, when a value that the innermost run reads moved the focus, and when too many runs stand one inside the
-    // other.
-    bool MayRunRules() const;
+    // other. In the last case the innermost run makes up for the one that it refuses.
+    bool MayRunRules();
 
     // Scans lytInputKey into the controls, empties it and takes the baseline of every control.
     void ApplyInput(const CString& partName);
@@ -83,6 +83,10 @@ protected:
     // Calls the control's CreateControl with the dialog.
     virtual void CreateControlWindow(ClytControl& control) = 0;
 
+    // How many runs may stand one inside the other. Each event rule can begin one in the run of another, and a
+    // description with thousands of them must not use up the host's stack.
+    virtual int DeepestRun() const { return 50; }
+
     // The rule that gives Return in the named control to a button, or null. An empty name is that of a window that is
     // no control.
     const ClytControlDep* FindDefaultButtonRule(const CString& focusName) const;
@@ -107,6 +111,7 @@ private:
     void TakeHeaderWords(CStringList& words);
 
     void RunRule(ClytControlDep& rule);
+    void SaveBaseline();
     int AllConditionsHold(const ClytControlDep& rule);
     bool HoldsForOutput(const ClytConditions& conditions);
     void TakeItem(ClytControl& control, const CString& action, CString& item);

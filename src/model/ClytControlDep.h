@@ -19,5 +19,5 @@ public:
     CString controlName; // the control that the rule acts on
     CString stateWord;
     ClytConditions conditions;
-    int runCount = 0; // 1 while an event rule is being carried out; it is not entered again then
+    int runCount = 0; // above 0 while the rule is being carried out; an event rule is not entered again then
 };

@@ -1,7 +1,86 @@
 #include "Form.h"
 
+#include "dialog/Counted.h"
+
+#include <algorithm>
+#include <array>
+#include <random>
+#include <vector>
+
 namespace
 {
+
+std::string FieldName(int index)
+{
+    return "F" + std::to_string(index);
+}
+
+// In which order the rules of a chain stand in the file.
+enum class Order
+{
+    AsTheChangesGo,
+    AgainstTheChanges
+};
+
+// Fields that fill each other, by rules that nest as deep as they like. Each fill writes its number, so the texts tell
+// which rule acted when.
+class UnlimitedNesting
+{
+public:
+    // A chain through all fields in an order of its own, each with one more field that sets it off.
+    UnlimitedNesting(int fields, unsigned seed) : texts(fields), deepestRun(0), saved(fields), random(seed)
+    {
+        for (int index = 1; index < fields; ++index)
+            rules.push_back({.target = index, .sources = {index - 1, static_cast<int>(random() % fields)}});
+        std::shuffle(rules.begin(), rules.end(), random);
+    }
+
+    std::string Description() const
+    {
+        std::string lines;
+        for (const Rule& rule : rules)
+            lines += FieldName(rule.target) + "/FILL = " + FieldName(rule.sources[0]) + ", " +
+                     FieldName(rule.sources[1]) + "\n";
+        return lines;
+    }
+    void Enter(int field, const std::string& text)
+    {
+        texts[field] = text;
+        const Counted run(runs);
+        deepestRun = std::max(deepestRun, runs);
+        for (Rule& rule : rules)
+        {
+            if (rule.isActing || !(HasChanged(rule.sources[0]) || HasChanged(rule.sources[1])))
+                continue;
+            rule.isActing = true;
+            Enter(rule.target, std::to_string(++fills));
+            rule.isActing = false;
+        }
+        for (const Rule& rule : rules)
+        {
+            for (const int source : rule.sources)
+                saved[source] = texts[source];
+        }
+    }
+
+    std::vector<std::string> texts;
+    int deepestRun;
+
+private:
+    struct Rule
+    {
+        int target;
+        std::array<int, 2> sources;
+        bool isActing = false;
+    };
+    bool HasChanged(int field) const { return texts[field] != saved[field]; }
+
+    std::vector<Rule> rules;
+    std::vector<std::string> saved;
+    std::mt19937 random;
+    int runs = 0;
+    int fills = 0;
+};
 
 class Rules : public FormTest
 {
@@ -12,6 +91,24 @@ protected:
                       "ListBox 1, 2, 3, 4, .L\nListBox 1, 2, 3, 4, .M\nPushButton 1, 2, 3, 4, .P\n"
                       "OKButton 1, 2, 3, 4, .Ok\n";
         text.input = "Start: x = End\n";
+    }
+
+    // Fields of which each empties the next, so that each change begins a run inside the one before.
+    void DescribeChain(int fields, Order order)
+    {
+        text.layout.clear();
+        text.values.clear();
+        text.dependencies.clear();
+        for (int index = 0; index < fields; ++index)
+        {
+            text.layout += "TextBox 1, 2, 3, 4, ." + FieldName(index) + "\n";
+            text.values += FieldName(index) + " = text\n";
+        }
+        for (int step = 1; step < fields; ++step)
+        {
+            const int index = order == Order::AsTheChangesGo ? step : fields - step;
+            text.dependencies += FieldName(index) + "/CLEAR = " + FieldName(index - 1) + "\n";
+        }
     }
 };
 
@@ -147,23 +244,63 @@ TEST_F(Rules, AreNotEnteredAgainWhileTheyAreCarriedOut)
 
 TEST_F(Rules, EndInAChainOfThousands)
 {
-    // Each field empties the next, and each change begins a run inside the one before.
-    constexpr int fields = 3000;
-    text.layout.clear();
-    for (int index = 0; index < fields; ++index)
-    {
-        const std::string name = "F" + std::to_string(index);
-        text.layout += "TextBox 1, 2, 3, 4, ." + name + "\n";
-        text.values += name + " = text\n";
-        if (index > 0)
-            text.dependencies += name + "/CLEAR = F" + std::to_string(index - 1) + "\n";
-    }
+    DescribeChain(2000, Order::AsTheChangesGo);
     HeadlessForm& opened = Open();
     opened.Enter("F0", "x");
     EXPECT_EQ(opened.Value("F1"), "");
-    EXPECT_EQ(opened.Value("F" + CString(std::to_string(fields - 1).c_str())), "");
+    EXPECT_EQ(opened.Value("F1999"), "");
     // So many that no description reaches them, so few that no host's stack ends.
     EXPECT_EQ(opened.deepestRun, 50);
+}
+
+TEST_F(Rules, GoOnBehindTheDeepestRunInEitherOrder)
+{
+    for (const Order order : {Order::AsTheChangesGo, Order::AgainstTheChanges})
+    {
+        SCOPED_TRACE(order == Order::AsTheChangesGo ? "as the changes go" : "against the changes");
+        DescribeChain(200, order);
+        HeadlessForm& opened = Open();
+        opened.Enter("F0", "x");
+        for (int index = 1; index < 200; ++index)
+            EXPECT_EQ(opened.Value(FieldName(index).c_str()), "") << index;
+        EXPECT_EQ(opened.deepestRun, 50);
+    }
+}
+
+TEST_F(Rules, MakeUpForAThousandRunsAtMost)
+{
+    DescribeChain(1100, Order::AgainstTheChanges);
+    HeadlessForm& opened = Open();
+    opened.Enter("F0", "x");
+    EXPECT_EQ(opened.Value("F1050"), "");
+    EXPECT_EQ(opened.Value("F1051"), "text");
+}
+
+TEST_F(Rules, ComeToWhatRunsWithoutALimitWouldComeTo)
+{
+    for (unsigned seed = 1; seed <= 20; ++seed)
+    {
+        SCOPED_TRACE(seed);
+        UnlimitedNesting expected(200, seed);
+        text.layout.clear();
+        text.dependencies = expected.Description();
+        for (int index = 0; index < 200; ++index)
+            text.layout += "TextBox 1, 2, 3, 4, ." + FieldName(index) + "\n";
+        HeadlessForm& opened = Open();
+        int fills = 0;
+        for (int index = 0; index < 200; ++index)
+        {
+            auto* edit = dynamic_cast<HeadlessEdit*>(opened.Control(FieldName(index).c_str()));
+            ASSERT_NE(edit, nullptr);
+            edit->library = [&](const CString&) { return CString(std::to_string(++fills).c_str()); };
+        }
+        opened.Enter("F0", "x");
+        expected.Enter(0, "x");
+        for (int index = 0; index < 200; ++index)
+            EXPECT_EQ(opened.Value(FieldName(index).c_str()), expected.texts[index]) << index;
+        EXPECT_GT(expected.deepestRun, 50) << "or the limit is not reached";
+        EXPECT_EQ(opened.deepestRun, 50);
+    }
 }
 
 TEST_F(Rules, AreEnteredAgainAfterAFailure)

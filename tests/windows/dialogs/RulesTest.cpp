@@ -223,6 +223,60 @@ TEST_F(Rules, CommandsFromTheWindowsEndOnRunNothing)
     EXPECT_FALSE(enabledByDyingDialog);
 }
 
+TEST_F(Rules, ChainGoesOnBehindTheDeepestRunInEitherOrder)
+{
+    constexpr int fields = 120;
+    std::string chain;
+    for (int index = 0; index < fields; ++index)
+    {
+        const std::string name = "F" + std::to_string(index);
+        description.controls += "TextBox 10, 100, 20, 10, ." + name + "\n";
+        description.values += name + " = text\n";
+        const std::string rule = name + "/CLEAR = " + (index > 0 ? "F" + std::to_string(index - 1) : "A") + "\n";
+        description.rules = rule + description.rules;
+        chain += rule;
+    }
+    for (const std::string& rules : {description.rules, chain})
+    {
+        description.rules = rules;
+        Describe(description);
+        On(
+            [](HWND dialog)
+            {
+                robot::ReplaceText(A(dialog), "changed");
+                for (size_t index = 0; index < fields; ++index)
+                    EXPECT_EQ(robot::TextOf(robot::ChildAt(dialog, 6 + index)), "") << index;
+            });
+        EXPECT_EQ(ShowAndPress(IDOK, "a"), 2);
+    }
+}
+
+TEST_F(Rules, RunBegunByAReadHasRunsInsideIt)
+{
+    // The button composes the choice of a list that has none, which pulls the focus there: the key field loses it, and
+    // the rules run. That B is reached, whose rule stands first, takes a run inside this one.
+    description.controls += "PushButton 200, 10, 60, 20, \"Label\", .Go\n"
+                            "ListBox 10, 100, 60, 40, .None\nListBox 90, 100, 60, 40, .Choice\n";
+    description.values =
+        "A = text\nB = text\nChoice = Label, one\nChoice = Long, two\nGo = DIALOG, Nested, Take, Send\n";
+    description.rules = "B/CLEAR = A\nA/CLEAR = Choice\n";
+    description.output += "$OUTPUT, Send\n(\"%s\", None)\n";
+    Describe(description);
+    On(
+        [](HWND dialog)
+        {
+            robot::Focus(Key(dialog));
+            // Sends no command, so the rules do not know yet.
+            SendMessageA(robot::ChildAt(dialog, 8), LB_SETCURSEL, 1, 0);
+            EXPECT_EQ(robot::TextOf(A(dialog)) + robot::TextOf(B(dialog)), "texttext");
+            HWND button = robot::ChildAt(dialog, 6);
+            SendMessageA(button, BM_SETSTATE, TRUE, 0);
+            SendMessageA(button, BM_SETSTATE, FALSE, 0);
+            EXPECT_EQ(robot::TextOf(A(dialog)) + robot::TextOf(B(dialog)), "");
+        });
+    EXPECT_EQ(ShowAndPress(IDOK, "a"), 2);
+}
+
 TEST_F(Rules, OutputTakes25ItemsAndRefuses26)
 {
     std::string items = "Key";
