@@ -9,28 +9,35 @@ namespace
 HMODULE lytLibrary = nullptr;
 
 // A companion library may stand beside the host. Nothing reads the handle, and a failed load is tried again by the
-// next call.
+// next call. What the companion does when it is loaded is its own affair, but the host must not notice.
 void LoadCompanion()
 {
-    if (lytLibrary == nullptr)
-        lytLibrary = LoadLibraryA("lyt");
+    if (lytLibrary != nullptr)
+        return;
+    const HostState host;
+    lytLibrary = LoadLibraryA("lyt");
 }
 
 } // namespace
 
-QuietFrame::QuietFrame() : m_state(AfxGetStaticModuleState())
-{
-    LoadCompanion();
-}
+HostState::HostState() : m_cursor(GetCursor()), m_active(GetActiveWindow()), m_focus(GetFocus()) {}
 
-ExportFrame::ExportFrame() : m_cursor(GetCursor()), m_focus(GetFocus()) {}
-
-ExportFrame::~ExportFrame()
+HostState::~HostState()
 {
     if (GetCursor() != m_cursor)
         SetCursor(m_cursor);
-    if (m_focus != nullptr && GetFocus() != m_focus && IsWindow(m_focus))
+    if (GetFocus() == m_focus)
+        return;
+    // A host without a focus gets none. If it had no active window either and has one at the end, the user has come to
+    // it meanwhile, and taking the focus away would leave that window deaf.
+    const bool isToBeRestored = m_focus != nullptr ? IsWindow(m_focus) != FALSE : GetActiveWindow() == m_active;
+    if (isToBeRestored)
         SetFocus(m_focus);
+}
+
+QuietFrame::QuietFrame() : m_state(AfxGetStaticModuleState())
+{
+    LoadCompanion();
 }
 
 bool IsUsable(const char* buffer, int size)

@@ -4,6 +4,21 @@
 #include <afx.h>
 #include <afxstat_.h>
 
+// Cursor and focus of the host, which are the same again when the object dies.
+class HostState
+{
+public:
+    HostState();
+    HostState(const HostState&) = delete;
+    HostState& operator=(const HostState&) = delete;
+    ~HostState();
+
+private:
+    HCURSOR m_cursor;
+    HWND m_active; // the thread's active window
+    HWND m_focus;
+};
+
 // Entered first by every export but lytGetTextFromIniFile: switches the module state and tries the companion library. The
 // state is switched back on every way out.
 class QuietFrame
@@ -15,23 +30,18 @@ private:
     AFX_MAINTAIN_STATE m_state;
 };
 
-// The same for an export that shows windows: cursor and focus of the host are as before on every way out, too.
+// The same for an export that shows windows or calls a partner library: cursor and focus of the host are as before on
+// every way out, too.
 class ExportFrame
 {
-public:
-    ExportFrame();
-    ExportFrame(const ExportFrame&) = delete;
-    ExportFrame& operator=(const ExportFrame&) = delete;
-    ~ExportFrame();
-
 private:
+    HostState m_host;
     QuietFrame m_frame;
-    HCURSOR m_cursor; // the host's
-    HWND m_focus;     // the host's
 };
 
 #define LYT_EXPORT_FRAME() const ExportFrame exportFrame
-// Asking for cursor and focus costs more than a short export does, so one without a window leaves it out.
+// Asking for cursor and focus costs more than a short export does, so one that reaches neither a window nor a partner
+// leaves it out.
 #define LYT_QUIET_FRAME() const QuietFrame exportFrame
 
 // False for a null buffer or a size below 1: the export answers 0 and does nothing.

@@ -7,7 +7,7 @@
 
 int __stdcall lytSystemInfoInit(const char* directory)
 {
-    LYT_QUIET_FRAME();
+    LYT_EXPORT_FRAME();
     return lytGatherReport(directory);
 }
 

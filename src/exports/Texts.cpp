@@ -54,7 +54,8 @@ int __stdcall lytGetTextForKey(const char* section, const char* key, const char*
     return CopyUnlessSentinel(buffer, size, lytEnvironment.GetText(CString(section), CString(key), argument));
 }
 
-// The one export without the frame: it needs neither the module's resources nor the companion library.
+// The one export without the frame: it needs neither the module's resources nor the companion library. Its message box
+// takes cursor and focus like any other, so it keeps the host's itself.
 int __stdcall lytGetTextFromIniFile(const char* path, char* buffer, int size)
 {
     if (!IsUsable(buffer, size))
@@ -63,6 +64,7 @@ int __stdcall lytGetTextFromIniFile(const char* path, char* buffer, int size)
     const int slash = name.Find('/');
     if (slash < 0)
     {
+        const HostState host;
         lytReport("250");
         return 0;
     }
