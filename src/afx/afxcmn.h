@@ -39,5 +39,5 @@ public:
     BOOL Create(int width, int height, UINT flags, int initialSize, int growth);
     BOOL DeleteImageList();
     // The picture's index, or -1.
-    int Add(HICON icon) const { return ::ImageList_ReplaceIcon(m_hImageList, -1, icon); }
+    int Add(HICON icon) const;
 };

@@ -1,6 +1,7 @@
 // The export that leads through the choice of a new placeholder.
 #include "lyt64.h"
 
+#include "afx/ActivationContext.h"
 #include "dialog/ClytDialog.h"
 #include "environment/ClytEnvironment.h"
 #include "environment/ProcessState.h"
@@ -90,6 +91,13 @@ int AskNext(char* buffer, int size)
     return result;
 }
 
+// The first call decides for the whole process which version of the common controls this library uses.
+void LoadCommonControls()
+{
+    const ModernControls modernControls;
+    InitCommonControls();
+}
+
 int DeliverNext(char* buffer, int size)
 {
     const std::optional<CString> text = lytWizardQueue.Deliver();
@@ -105,6 +113,6 @@ int __stdcall lytWizard(char* buffer, int size)
     LYT_EXPORT_FRAME();
     if (!IsUsable(buffer, size))
         return 0;
-    InitCommonControls();
+    LoadCommonControls();
     return lytWizardQueue.IsPending() ? DeliverNext(buffer, size) : AskNext(buffer, size);
 }

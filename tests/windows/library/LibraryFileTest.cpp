@@ -1,9 +1,9 @@
 // The built DLL as a file: what it exports and imports, how it may be loaded, what it says of itself.
 #include "CallerInC.h"
+#include "support/Modules.h"
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <set>
 #include <string>
 #include <vector>
@@ -28,12 +28,6 @@ protected:
 
     HMODULE m_module = GetModuleHandleA("lyt64.dll");
 };
-
-std::string InLowerCase(std::string text)
-{
-    std::ranges::transform(text, text.begin(), [](char ch) { return static_cast<char>(std::tolower(ch)); });
-    return text;
-}
 
 } // namespace
 
