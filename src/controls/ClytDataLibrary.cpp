@@ -1,17 +1,5 @@
 #include "controls/ClytDataLibrary.h"
 
-HMODULE lytLoadPartner(const CString& name)
-{
-    if (name.IsEmpty())
-        return nullptr;
-    // A file that is no library of this machine would otherwise be announced in a box of the system's.
-    DWORD hostErrorMode = 0;
-    SetThreadErrorMode(SEM_FAILCRITICALERRORS, &hostErrorMode);
-    const HMODULE library = LoadLibraryA(name);
-    SetThreadErrorMode(hostErrorMode, nullptr);
-    return library;
-}
-
 CString lytCallForText(lytDataText& function, const CString& parameter)
 {
     ClytDataText answer;
@@ -31,6 +19,6 @@ bool ClytDataListing::Next()
 bool ClytDataLibrary::Load(const CString& name)
 {
     if (module == nullptr)
-        module = lytLoadPartner(name);
+        module = lytLoadLibrary(name);
     return module != nullptr;
 }

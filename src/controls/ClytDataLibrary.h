@@ -1,21 +1,11 @@
 // How controls reach the partner libraries that description files name; lytdata.h tells what those offer.
 #pragma once
 
+#include "environment/PartnerLibrary.h"
+
 #include "lytdata.h"
 
-#include <afxwin.h>
-
 #include <array>
-
-// Null when the library cannot be loaded. The system shows no message of its own, whatever lies under the name.
-HMODULE lytLoadPartner(const CString& name);
-
-// The function under the type that lytdata.h gives it; null when the library has none of that name.
-template <class FUNCTION>
-FUNCTION* lytFindFunction(HMODULE library, const CString& name)
-{
-    return reinterpret_cast<FUNCTION*>(reinterpret_cast<void*>(GetProcAddress(library, name)));
-}
 
 // A buffer as a partner fills it. What a partner writes to the last byte is lost there, so that the text always ends.
 class ClytDataText

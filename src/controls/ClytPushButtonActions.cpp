@@ -32,7 +32,7 @@ namespace
 
 HMODULE LoadOrFail(const CString& library)
 {
-    const HMODULE module = lytLoadPartner(library);
+    const HMODULE module = lytLoadLibrary(library);
     if (module == nullptr)
         lytRaise("233", "238", library);
     return module;

@@ -1,5 +1,7 @@
 #include "exports/ExportFrame.h"
 
+#include "environment/PartnerLibrary.h"
+
 #include <algorithm>
 #include <cstring>
 
@@ -15,7 +17,7 @@ void LoadCompanion()
     if (lytLibrary != nullptr)
         return;
     const HostState host;
-    lytLibrary = LoadLibraryA("lyt");
+    lytLibrary = lytLoadLibrary("lyt");
 }
 
 } // namespace

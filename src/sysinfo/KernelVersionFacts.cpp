@@ -1,5 +1,6 @@
 #include "sysinfo/KernelVersion.h"
 
+#include "environment/PartnerLibrary.h"
 #include "sysinfo/Probes.h"
 
 #include <string>
@@ -70,7 +71,7 @@ private:
 
 std::optional<CString> KernelPath()
 {
-    const HMODULE library = LoadLibraryA("kernel32.dll");
+    const HMODULE library = lytLoadLibrary("kernel32.dll");
     if (library == nullptr)
         return {};
     char path[MAX_PATH] = "";

@@ -1,6 +1,7 @@
 #include "sysinfo/Report.h"
 
 #include "environment/ClytEnvironment.h"
+#include "environment/PartnerLibrary.h"
 #include "sysinfo/DirectoryName.h"
 #include "sysinfo/Probes.h"
 #include "sysinfo/RegistryKey.h"
@@ -163,6 +164,8 @@ void AddVersionBlocks()
 int lytGatherReport(const char* directory)
 {
     const CSingleLock lock(&lytReportLock, true);
+    // A drive without a disk, or a printer's driver that is broken, is told in the report and not in a box.
+    const ClytErrorBoxesOff noBoxes;
     lytEnvironment.lytReportLines.RemoveAll();
 
     AddReportLine(lytProgramKind());

@@ -1,5 +1,7 @@
 #include "sysinfo/Probes.h"
 
+#include "environment/PartnerLibrary.h"
+
 #include <algorithm>
 #include <iterator>
 
@@ -12,10 +14,8 @@ using GetVersionText = void(char* text);
 
 GetVersionText* FindVersionFunction(HMODULE library)
 {
-    FARPROC function = GetProcAddress(library, "getLYTVersion");
-    if (function == nullptr)
-        function = GetProcAddress(library, "getVersion");
-    return reinterpret_cast<GetVersionText*>(reinterpret_cast<void*>(function));
+    auto* const own = lytFindFunction<GetVersionText>(library, "getLYTVersion");
+    return own != nullptr ? own : lytFindFunction<GetVersionText>(library, "getVersion");
 }
 
 } // namespace
@@ -26,7 +26,7 @@ CString lytProbeResolveVersion()
     char text[textSize];
     std::fill(std::begin(text), std::end(text), ' ');
     text[textSize - 1] = '\0';
-    const HMODULE library = LoadLibraryA("LytRes64.dll");
+    const HMODULE library = lytLoadLibrary("LytRes64.dll");
     if (library != nullptr)
     {
         if (GetVersionText* const getVersion = FindVersionFunction(library))

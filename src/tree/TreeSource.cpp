@@ -1,6 +1,8 @@
 #include "tree/TreeSource.h"
 
-#include <windows.h>
+#include "environment/PartnerLibrary.h"
+
+#include <type_traits>
 
 namespace
 {
@@ -16,22 +18,17 @@ struct SourcePair
 SourcePair symbolPair;
 SourcePair paraPair;
 
-template <class Function>
-Function Find(const char* name)
-{
-    return reinterpret_cast<Function>(reinterpret_cast<void*>(GetProcAddress(lytSourceLibrary, name)));
-}
-
 SourcePair FindPair(const char* start, const char* next)
 {
-    return {Find<lytTreeStartFunction>(start), Find<lytTreeNextFunction>(next)};
+    return {lytFindFunction<std::remove_pointer_t<lytTreeStartFunction>>(lytSourceLibrary, start),
+            lytFindFunction<std::remove_pointer_t<lytTreeNextFunction>>(lytSourceLibrary, next)};
 }
 
 bool LoadSource()
 {
     if (lytSourceLibrary != nullptr)
         return true;
-    lytSourceLibrary = LoadLibraryA("lytsrc");
+    lytSourceLibrary = lytLoadLibrary("lytsrc");
     if (lytSourceLibrary == nullptr)
         return false;
     paraPair = FindPair("lytParaTreeStart", "lytParaTreeNext");

@@ -1,0 +1,29 @@
+// The one place that loads libraries: the partners that stand beside the host, or that a description names.
+#pragma once
+
+#include <afxwin.h>
+
+// While it lives, the system shows no box of its own on this thread for a file that is no library or for a drive without
+// a disk. What else the host has set stays in force, and its mode is back at the end.
+class ClytErrorBoxesOff
+{
+public:
+    ClytErrorBoxesOff() { ::SetThreadErrorMode(::GetThreadErrorMode() | SEM_FAILCRITICALERRORS, &m_hostMode); }
+    ClytErrorBoxesOff(const ClytErrorBoxesOff&) = delete;
+    ClytErrorBoxesOff& operator=(const ClytErrorBoxesOff&) = delete;
+    ~ClytErrorBoxesOff() { ::SetThreadErrorMode(m_hostMode, nullptr); }
+
+private:
+    DWORD m_hostMode = 0;
+};
+
+// Null when the library cannot be loaded, and for an empty name. The system shows no message of its own, whatever lies
+// under the name.
+HMODULE lytLoadLibrary(const char* name);
+
+// The function under the type that the partner's header gives it; null when the library has none of that name.
+template <class FUNCTION>
+FUNCTION* lytFindFunction(HMODULE library, const char* name)
+{
+    return reinterpret_cast<FUNCTION*>(reinterpret_cast<void*>(::GetProcAddress(library, name)));
+}
