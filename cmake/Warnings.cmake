@@ -8,13 +8,16 @@ target_compile_options(lyt_options INTERFACE
   -ffile-prefix-map=${CMAKE_SOURCE_DIR}=. -fstack-protector-strong -ffunction-sections -fdata-sections)
 target_link_options(lyt_options INTERFACE -fstack-protector-strong)
 
+# GCC does not count the conversion of a floating-point number that no integer holds among the undefined behaviour.
+set(LYT_SANITIZERS address,undefined,float-cast-overflow)
+
 if(LYT_SANITIZE)
   # What the sanitizers put in makes GCC 12 see unset members inside the standard library.
   target_compile_options(lyt_options INTERFACE $<$<CXX_COMPILER_ID:GNU>:-Wno-maybe-uninitialized>)
-  target_compile_options(lyt_options INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
-  target_link_options(lyt_options INTERFACE -fsanitize=address,undefined)
+  target_compile_options(lyt_options INTERFACE -fsanitize=${LYT_SANITIZERS} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  target_link_options(lyt_options INTERFACE -fsanitize=${LYT_SANITIZERS})
 endif()
 if(LYT_FUZZ)
-  target_compile_options(lyt_options INTERFACE -fsanitize=fuzzer-no-link,address,undefined -fno-sanitize-recover=all)
-  target_link_options(lyt_options INTERFACE -fsanitize=address,undefined)
+  target_compile_options(lyt_options INTERFACE -fsanitize=fuzzer-no-link,${LYT_SANITIZERS} -fno-sanitize-recover=all)
+  target_link_options(lyt_options INTERFACE -fsanitize=${LYT_SANITIZERS})
 endif()

@@ -53,8 +53,7 @@ ControlPtr MakeOptionGroup(const ClytControlRequest& request)
 ControlPtr MakeOptionButton(const ClytControlRequest& request)
 {
     // The size was scaled once already, like any other; option buttons get theirs by being scaled twice.
-    const ClytSize size = {static_cast<int>(static_cast<float>(request.size.width) * lytScaleX),
-                           static_cast<int>(static_cast<float>(request.size.height) * lytScaleY)};
+    const ClytSize size = {lytScaled(request.size.width, lytScaleX), lytScaled(request.size.height, lytScaleY)};
     auto button = std::make_unique<ClytRadioButtonControl>(request.name, request.position, size,
                                                            ClytOptionGroup::TakeFirstOfGroup(), request.label);
     ClytOptionGroup::AddToCurrentGroup(*button);

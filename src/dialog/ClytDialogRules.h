@@ -14,6 +14,8 @@
 // What layout units are multiplied by; set by the dialog from the screen's resolution, 1 without a window.
 extern float lytScaleX;
 extern float lytScaleY;
+// Layout units to window units, cut to an integer; what no integer holds becomes the nearest one.
+int lytScaled(int units, float factor);
 // 0 while a dialog creates its controls, then 1. A construction that fails in between leaves it at 0.
 extern int lytControlsReady;
 // 0 while a dialog scans its first input, then 1. A construction that fails in between leaves it at 0.

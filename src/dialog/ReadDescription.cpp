@@ -6,11 +6,7 @@
 
 #include <limits>
 
-namespace
-{
-
-// Layout units to window units, cut to an integer; what no integer holds becomes the nearest one.
-int Scaled(int units, float factor)
+int lytScaled(int units, float factor)
 {
     constexpr auto limit = static_cast<float>(std::numeric_limits<int>::max()); // rounds up to 2 to the 31st
     const float scaled = static_cast<float>(units) * factor;
@@ -18,8 +14,6 @@ int Scaled(int units, float factor)
         return std::numeric_limits<int>::max();
     return scaled <= -limit ? std::numeric_limits<int>::min() : static_cast<int>(scaled);
 }
-
-} // namespace
 
 void ClytDialogRules::ReadDescription()
 {
@@ -98,9 +92,9 @@ void ClytDialogRules::CreateLayoutControl(const ClytControlStatement& statement)
     // The argument is one NUL, so a label with an apostrophe is shown up to and including it.
     const bool isKey = !statement.text.IsEmpty() && !sectionList.IsEmpty();
     const CString label = isKey ? lytEnvironment.GetText(GetTextSection(), statement.text, CString('\0')) : CString();
-    auto made =
-        MakeControl(statement.type, statement.name, {Scaled(statement.x, lytScaleX), Scaled(statement.y, lytScaleY)},
-                    {Scaled(statement.width, lytScaleX), Scaled(statement.height, lytScaleY)}, label);
+    auto made = MakeControl(statement.type, statement.name,
+                            {lytScaled(statement.x, lytScaleX), lytScaled(statement.y, lytScaleY)},
+                            {lytScaled(statement.width, lytScaleX), lytScaled(statement.height, lytScaleY)}, label);
     if (made == nullptr)
         return;
     ClytControl& control = controlList.AddTail(std::move(made));

@@ -3,8 +3,7 @@
 #include "environment/ClytEnvironment.h"
 #include "environment/ClytException.h"
 #include "environment/LocalTime.h"
-
-#include <cstdlib>
+#include "environment/Words.h"
 
 namespace
 {
@@ -60,7 +59,7 @@ CString lytLogBannerLine(const char* word, std::time_t time)
 
 int ClytLogFile::CurrentLevel()
 {
-    return std::atoi(lytEnvironment.GetLogLevel());
+    return lytNumberOf(lytEnvironment.GetLogLevel());
 }
 
 void ClytLogFile::Open(int currentLevel)

@@ -1,10 +1,9 @@
 #include "sysinfo/EnabledLanguages.h"
 
+#include "environment/Words.h"
 #include "sysinfo/LanguageTags.h"
 #include "sysinfo/RegistryDump.h"
 #include "sysinfo/WordDirectories.h"
-
-#include <cstdlib>
 
 namespace
 {
@@ -26,7 +25,7 @@ CString DataText(const RegistryValue& value)
 int VersionNumberOf(const CString& currentVersion)
 {
     const int dot = currentVersion.Find('.');
-    return std::atoi(dot < 0 ? currentVersion : currentVersion.Left(dot));
+    return lytNumberOf(dot < 0 ? currentVersion : currentVersion.Left(dot));
 }
 
 CString EnabledLanguagesKey(int n)
@@ -39,6 +38,6 @@ CString EnabledLanguageLine(int n, const RegistryValue& value)
 {
     CString language = value.name;
     if (n < firstWithTags)
-        FindLanguageTag(std::atoi(value.name), language);
+        FindLanguageTag(lytNumberOf(value.name), language);
     return language + "=" + DataText(value);
 }

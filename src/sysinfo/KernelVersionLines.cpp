@@ -1,6 +1,6 @@
 #include "sysinfo/KernelVersion.h"
 
-#include <cstdlib>
+#include "environment/Words.h"
 
 unsigned LanguageAndCodePage(unsigned translation)
 {
@@ -18,12 +18,9 @@ std::array<int, 4> VersionNumbers(const KernelVersionFacts& facts)
     const char* place = text;
     for (int& number : numbers)
     {
-        char* end = nullptr;
-        const long value = std::strtol(place, &end, 10);
-        if (end == place)
-            break;
-        number = static_cast<int>(value);
-        if (*end != separator)
+        const char* end = nullptr;
+        number = lytNumberOf(place, &end);
+        if (end == place || *end != separator)
             break;
         place = end + 1;
     }

@@ -2,13 +2,12 @@
 
 #include "environment/ClytEnvironment.h"
 #include "environment/PartnerLibrary.h"
+#include "environment/Words.h"
 #include "sysinfo/DirectoryName.h"
 #include "sysinfo/Probes.h"
 #include "sysinfo/RegistryKey.h"
 #include "sysinfo/ReportFrame.h"
 #include "sysinfo/ReportLines.h"
-
-#include <cstdlib>
 
 #include <io.h>
 
@@ -112,7 +111,7 @@ class VersionBlocks
 public:
     void Add(const CString& version)
     {
-        const int n = std::atoi(version);
+        const int n = lytNumberOf(version);
         const CString head = "Word " + version;
 
         const CString user = AddDirectory(head + " User Template Dir     : ", lytProbeUserTemplates(n));

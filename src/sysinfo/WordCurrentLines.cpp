@@ -1,8 +1,7 @@
 #include "sysinfo/WordCurrent.h"
 
+#include "environment/Words.h"
 #include "sysinfo/BinaryKind.h"
-
-#include <cstdlib>
 
 CString WordVersionOf(const CString& program)
 {
@@ -11,7 +10,7 @@ CString WordVersionOf(const CString& program)
 
 bool HasBits(const CString& version)
 {
-    return std::atoi(version) >= 14;
+    return lytNumberOf(version) >= 14;
 }
 
 CString WordCurrentText(const WordCurrentFacts& facts)

@@ -4,6 +4,7 @@
 #include "environment/ClytException.h"
 #include "environment/ClytRedrawPause.h"
 #include "environment/ProcessState.h"
+#include "environment/Words.h"
 #include "res/resource.h"
 #include "tree/NodeExpansion.h"
 #include "tree/NodeFill.h"
@@ -23,7 +24,7 @@ int lytTreeOpened = 0;
 
 int ReadNumber(const char* key)
 {
-    return std::atoi(lytEnvironment.GetIniValue("global", key));
+    return lytNumberOf(lytEnvironment.GetIniValue("global", key));
 }
 
 class WaitCursor

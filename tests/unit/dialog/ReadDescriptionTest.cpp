@@ -1,5 +1,7 @@
 #include "Form.h"
 
+#include <climits>
+
 namespace
 {
 
@@ -103,6 +105,15 @@ TEST_F(Construction, KeepsNumbersOutOfRangeInRange)
     const Scale scale(1.3159F, 1.3159F);
     text.layout = "TextBox 2147483647, -2147483648, 99999999999, 0, .A\n";
     EXPECT_EQ(Place(*Open().Control("A")), "2147483647,-2147483648,2147483647,0");
+}
+
+TEST_F(Construction, ScalesWithinTheRangeOfAnInteger)
+{
+    EXPECT_EQ(lytScaled(100, 0.7557F), 75);
+    EXPECT_EQ(lytScaled(-100, 0.7557F), -75);
+    EXPECT_EQ(lytScaled(INT_MAX, 1.0818F), INT_MAX);
+    EXPECT_EQ(lytScaled(INT_MIN, 1.0818F), INT_MIN);
+    EXPECT_EQ(lytScaled(lytScaled(INT_MAX, 1.0818F), 1.0818F), INT_MAX);
 }
 
 TEST_F(Construction, IgnoresAnUnknownTypeWordAndStatementsThatNameIt)

@@ -72,6 +72,14 @@ TEST_F(Log, WritesABlockForEachMessage)
     EXPECT_TRUE(std::regex_match(folder.Read("doc.log"), block)) << folder.Read("doc.log");
 }
 
+TEST_F(Log, TakesALevelOutOfRangeForTheHighest)
+{
+    SetLevel("4294967296");
+    lytEnvironment.SetDocName("doc.rtf");
+    WriteMessage("a detail", 100);
+    EXPECT_NE(folder.Read("doc.log").find("a detail"), std::string::npos);
+}
+
 TEST_F(Log, GrowsWithASecondMessage)
 {
     SetLevel("1");

@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <climits>
+
 namespace
 {
 
@@ -29,6 +31,7 @@ TEST(EnabledLanguages, BelongToTheVersionUpToItsFirstDot)
     EXPECT_EQ(VersionNumberOf(""), 0);
     EXPECT_EQ(VersionNumberOf("Word.0"), 0);
     EXPECT_EQ(VersionNumberOf("-3.0"), -3);
+    EXPECT_EQ(VersionNumberOf("4294967312.0"), INT_MAX);
 }
 
 TEST(EnabledLanguages, HaveAnotherKeyFromVersion16On)
@@ -49,6 +52,11 @@ TEST(EnabledLanguages, BelowVersion16WithAnUnknownIdentifierStandForThemselves)
 {
     EXPECT_EQ(EnabledLanguageLine(15, Text("1027", "On")), "1027=On");
     EXPECT_EQ(EnabledLanguageLine(15, Text("", "On")), "=On");
+}
+
+TEST(EnabledLanguages, BelowVersion16WithAnIdentifierOutOfRangeStandForThemselves)
+{
+    EXPECT_EQ(EnabledLanguageLine(15, Text("4294968329", "On")), "4294968329=On");
 }
 
 TEST(EnabledLanguages, BelowVersion16WithoutANumberStandForThemselves)

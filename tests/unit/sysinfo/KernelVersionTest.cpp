@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <climits>
+
 namespace
 {
 
@@ -31,6 +33,7 @@ TEST(KernelVersion, TakesItsNumbersByTheFirstSeparatorOfTheText)
         {"5.1,2600", {5, 1, 0, 0}},
         {"5, 1, 2600, 5512", {5, 1, 2600, 5512}},
         {"7", {7, 0, 0, 0}},
+        {"5.99999999999.-99999999999.1", {5, INT_MAX, INT_MIN, 1}},
         {"version 7", {0, 0, 0, 0}},
         {"", {0, 0, 0, 0}},
     };

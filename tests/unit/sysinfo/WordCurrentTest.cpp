@@ -31,10 +31,15 @@ TEST(WordCurrent, TellsTheBitsOfItsProgramFromVersion14On)
         std::optional<unsigned> kind;
         const char* text;
     } cases[] = {
-        {"Word.Application.11", 6U, "11.0"},        {"Word.Application.13", 6U, "13.0"},
-        {"Word.Application.14", 6U, "14.0 64 bit"}, {"Word.Application.14", 0U, "14.0 32 bit"},
-        {"Word.Application.16", 6U, "16.0 64 bit"}, {"Word.Application.16", 1U, "16.0 32 bit"},
-        {"Word.Application.16", {}, "16.0"},        {"Word", 6U, "Word.0"},
+        {"Word.Application.11", 6U, "11.0"},
+        {"Word.Application.13", 6U, "13.0"},
+        {"Word.Application.14", 6U, "14.0 64 bit"},
+        {"Word.Application.14", 0U, "14.0 32 bit"},
+        {"Word.Application.16", 6U, "16.0 64 bit"},
+        {"Word.Application.16", 1U, "16.0 32 bit"},
+        {"Word.Application.16", {}, "16.0"},
+        {"Word", 6U, "Word.0"},
+        {"Word.4294967304", 6U, "4294967304.0 64 bit"},
     };
     for (const auto& c : cases)
     {

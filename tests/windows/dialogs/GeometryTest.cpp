@@ -23,6 +23,14 @@ RECT PlaceOf(HWND control)
     return rect;
 }
 
+// Keeps the size with which an option button is created, and allows every window.
+bool NoteOptionButton(const CREATESTRUCTA& create, SIZE& created)
+{
+    if ((create.style & BS_TYPEMASK) == BS_AUTORADIOBUTTON && (create.style & WS_CHILD) != 0)
+        created = {create.cx, create.cy};
+    return true;
+}
+
 class Geometry : public DialogFixture
 {
 protected:
@@ -124,17 +132,23 @@ TEST_F(Geometry, OptionButtonIsCreatedAtASizeScaledTwice)
     description.controls += "OptionGroup .Group\nOptionButton 10, 40, 100, 100, \"Label\", .One\n";
     Describe(description);
     SIZE created{};
-    const CreationHook look(
-        [&](const CREATESTRUCTA& create)
-        {
-            if ((create.style & BS_TYPEMASK) == BS_AUTORADIOBUTTON && (create.style & WS_CHILD) != 0)
-                created = {create.cx, create.cy};
-            return true;
-        });
+    const CreationHook look([&](const CREATESTRUCTA& create) { return NoteOptionButton(create, created); });
     EXPECT_EQ(ShowAndPress(IDOK, "a"), 2);
     EXPECT_EQ(created.cx, ScaledX(ScaledX(100)));
     EXPECT_EQ(created.cy, ScaledY(ScaledY(100)));
     EXPECT_EQ(created.cx, DotsPerInch() == 96 ? 56 : 100);
+}
+
+TEST_F(Geometry, OptionButtonScaledTwiceStaysInRange)
+{
+    Description description;
+    description.controls += "OptionGroup .Group\nOptionButton 10, 40, 2147483647, 2147483647, \"Label\", .One\n";
+    Describe(description);
+    SIZE created{};
+    const CreationHook look([&](const CREATESTRUCTA& create) { return NoteOptionButton(create, created); });
+    EXPECT_EQ(ShowAndPress(IDOK, "a"), 2);
+    EXPECT_GT(created.cx, 0);
+    EXPECT_GT(created.cy, 0);
 }
 
 TEST_F(Geometry, NumbersBeyondAnyWindowAreHarmless)

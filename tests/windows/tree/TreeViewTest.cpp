@@ -75,6 +75,12 @@ TEST_F(TreeView, OpensTheLevelsBelowTheNumberLessOneAtFirst)
     EXPECT_EQ(ItemsOpen("S"), Lines());
 }
 
+TEST_F(TreeView, OpensEveryLevelForANumberOutOfRange)
+{
+    Configure("TreeLevels=4294967297\n");
+    EXPECT_EQ(ItemsOpen("S"), Lines({"House", "Roof", "Wall", "Garden"}));
+}
+
 TEST_F(TreeView, OpensTheFirstLevelWithoutAUsableNumber)
 {
     for (const char* lines : {"", "TreeLevels=0\n", "TreeLevels=many\n", "TreeLevels=\n"})
