@@ -95,8 +95,8 @@ void FuzzFormat(const uint8_t* data, size_t size)
     {
         CString text = items[index];
         ClytDialogRules::ExpandEscapes(text);
-        ClytDialogFile cutter(nullptr);
-        Try([&] { cutter.TokenizeGrouped(text + '\n', format.c_str()); });
-        Try([&] { cutter.Tokenize(text, DelimiterSet(format.c_str())); });
+        ClytTokenList tokens;
+        Try([&] { lytTokenizeGrouped(text + '\n', format.c_str(), tokens); });
+        Try([&] { static_cast<void>(lytTokenize(text, DelimiterSet(format.c_str()), tokens)); });
     }
 }

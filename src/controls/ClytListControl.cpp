@@ -2,22 +2,21 @@
 
 #include "controls/ClytPushButtonControl.h"
 #include "dialog/ClytDialog.h"
+#include "dlgfile/Tokenize.h"
 #include "environment/ClytRedrawPause.h"
 #include "environment/Words.h"
 
 template <class WINDOW>
 void ClytListControl<WINDOW>::AddValues(const CString& text, const CString& separators)
 {
-    ClytDialogFile splitter(nullptr);
-    splitter.TokenizeGrouped(text, separators);
-
+    ClytTokenList tokens;
+    lytTokenizeGrouped(text, separators, tokens);
     const ClytRedrawPause pause(*this);
     const int length = separators.GetLength();
     if (length == 1)
         AddPiece(text);
     if (length != 2 && length != 3)
         return;
-    const ClytTokenList& tokens = splitter.GetTokens();
     for (POSITION place = tokens.GetHeadPosition(); place != nullptr;)
         AddPiece(tokens.GetNext(place).GetText());
 }

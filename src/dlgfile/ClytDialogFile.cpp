@@ -1,53 +1,28 @@
 #include "dlgfile/ClytDialogFile.h"
 
-#include "environment/ClytException.h"
 #include "environment/Words.h"
 
-#include <cstring>
-
-namespace
+ClytDialogFile::ClytDialogFile(const char* defineList, ErrorSink& errorSink)
+    : ClytLineSource(defineList), errors(errorSink)
 {
-
-CString MarkerName(const char* line)
-{
-    return {line, static_cast<int>(std::strcspn(line, " \t;\n\r"))};
 }
 
-} // namespace
-
-ClytDialogFile::ClytDialogFile(const char* defineList)
+void ClytDialogFile::Tokenize(const char* line, const DelimiterSet& delimiters)
 {
-    if (defineList == nullptr || *defineList == '\0')
-        return;
-    const CString list(defineList);
-    int start = 0;
-    for (int comma = list.Find(','); comma >= 0; comma = list.Find(',', start))
-    {
-        defines.SetAt(list.Mid(start, comma - start), nullptr);
-        start = comma + 1;
-    }
-    defines.SetAt(list.Mid(start), nullptr);
+    lastTaken = nullptr;
+    const char* openQuote = lytTokenize(line, delimiters, tokens);
+    if (openQuote != nullptr)
+        FailQuote(line, openQuote);
 }
 
-// A line that begins with `<` switches what follows on or off by a define (`<!` the other way round), one that begins
-// with `>` switches it on. They do not nest, and they count in stretches that are switched off, too.
-char* ClytDialogFile::ReadString(char* buffer, UINT count)
+ClytSpan ClytDialogFile::PlaceOf(const ClytToken& token) const
 {
-    while (CStdioFile::ReadString(buffer, count) != nullptr)
-    {
-        if (*buffer == '<')
-        {
-            const bool isInverted = buffer[1] == '!';
-            void* unused = nullptr;
-            const bool isDefined = defines.Lookup(MarkerName(buffer + (isInverted ? 2 : 1)), unused);
-            lineActive = isDefined != isInverted;
-        }
-        else if (*buffer == '>')
-            lineActive = true;
-        else if (lineActive)
-            return buffer;
-    }
-    return nullptr;
+    return PlaceInLine(token.GetColumn(), token.GetText().GetLength());
+}
+
+ClytSpan ClytDialogFile::EndOfLine() const
+{
+    return PlaceInLine(GetLinePlace().length, 0);
 }
 
 int ClytDialogFile::TakeTokens(CStringList& texts)
@@ -55,23 +30,15 @@ int ClytDialogFile::TakeTokens(CStringList& texts)
     if (tokens.IsEmpty())
         return 0;
     for (POSITION token = tokens.GetHeadPosition(); token != nullptr;)
-        texts.AddTail(Next(token).GetText());
+        texts.AddTail(tokens.GetNext(token).GetText());
     tokens.RemoveAll();
     return 1;
-}
-
-bool ClytDialogFile::ReadLine(char* line)
-{
-    if (ReadString(line, lineSize) == nullptr)
-        return false;
-    ++lineNumber;
-    return true;
 }
 
 bool ClytDialogFile::ReadTokens(const DelimiterSet& delimiters)
 {
     char line[lineSize + 1];
-    if (!ReadLine(line))
+    if (ReadString(line, lineSize) == nullptr)
         return false;
     Tokenize(line, delimiters);
     return true;
@@ -79,8 +46,13 @@ bool ClytDialogFile::ReadTokens(const DelimiterSet& delimiters)
 
 int ClytDialogFile::ReadSectionLine(POSITION& token, const char* terminator, const DelimiterSet& delimiters)
 {
+    token = nullptr;
     if (!ReadTokens(delimiters))
-        lytRaise("217", CString(), terminator);
+    {
+        tokens.RemoveAll();
+        Tell("217", EndOfLine(), terminator);
+        return 0;
+    }
     token = tokens.GetHeadPosition();
     if (token == nullptr || !lytSameWord(tokens.GetHead().GetText(), terminator))
         return 1;
@@ -88,23 +60,45 @@ int ClytDialogFile::ReadSectionLine(POSITION& token, const char* terminator, con
     return 0;
 }
 
-const ClytToken& ClytDialogFile::NextOrFail(POSITION& token) const
+const ClytToken& ClytDialogFile::Next(POSITION& token)
 {
     if (token == nullptr)
-        FailStatement();
+    {
+        errors.TellShortLine(EndOfLine());
+        throw Abandoned();
+    }
+    lastTaken = &tokens.GetNext(token);
+    return *lastTaken;
+}
+
+const ClytToken& ClytDialogFile::NextOrFail(POSITION& token)
+{
+    if (token == nullptr)
+        FailStatement(EndOfLine());
     return Next(token);
 }
 
-void ClytDialogFile::FailStatement() const
+void ClytDialogFile::Tell(const char* number, const ClytSpan& place, const CString& argument)
+{
+    errors.Tell(std::make_unique<ClytException>(lytErrorSection, number, CString(), argument), place);
+}
+
+void ClytDialogFile::FailStatement()
+{
+    FailStatement(lastTaken != nullptr ? PlaceOf(*lastTaken) : GetLinePlace());
+}
+
+void ClytDialogFile::FailStatement(const ClytSpan& place)
 {
     CString number;
-    number.Format("%d", lineNumber);
-    lytRaise("212", CString(), number);
+    number.Format("%d", GetLineNumber());
+    Tell("212", place, number);
+    throw Abandoned();
 }
 
 // The values of a condition whose `(` has been taken, up to the `)`. A line that ends inside the list is the class
 // library's failure, any other delimiter between the values is the caller's to report.
-bool ClytDialogFile::ReadValueList(POSITION& token, CStringList& values) const
+bool ClytDialogFile::ReadValueList(POSITION& token, CStringList& values)
 {
     while (true)
     {
@@ -115,4 +109,12 @@ bool ClytDialogFile::ReadValueList(POSITION& token, CStringList& values) const
         if (value.GetDelimiter() != ',')
             return false;
     }
+}
+
+// From the quote to the end of the line.
+void ClytDialogFile::FailQuote(const char* line, const char* openQuote)
+{
+    const auto column = static_cast<int>(openQuote - line);
+    Tell("210", PlaceInLine(column, GetLinePlace().length - column));
+    throw Abandoned();
 }

@@ -1,13 +1,15 @@
-// Reads a dialog description (`.dlg`): line by line, top to bottom, once. It leaves out the stretches that the defines
-// switch off, cuts each line into tokens and has one read operation a kind of statement. It keeps no tree: a statement
-// goes to the dialog as soon as it is read, and the dialog pulls the next one.
+// Reads the statements of a dialog description (`.dlg`): line by line, top to bottom, once, with one read operation a
+// kind of statement. It keeps no tree: a statement goes to the dialog as soon as it is read, and the dialog pulls the
+// next one.
 //
-// Readers return 1 to go on and 0 at the word that ends their section. A statement of wrong form raises 212 with the
-// number of its line; nothing is read after a failure.
+// Readers return 1 to go on and 0 at the word that ends their section. A statement of wrong form is 212 with the number
+// of its line. Failures go to the error sink. After one that returns, the line counts as one without a statement, and a
+// file that ends too early as the end of its section; what was read of the statement stays in the caller's record.
 #pragma once
 
-#include "dlgfile/ClytToken.h"
-#include "dlgfile/DelimiterSet.h"
+#include "dlgfile/ClytLineSource.h"
+#include "dlgfile/Tokenize.h"
+#include "environment/ErrorSink.h"
 #include "model/ClytCtrlValList.h"
 
 class ClytConditionFill;
@@ -30,24 +32,20 @@ struct ClytControlStatement
     int height = 0;
     CString text;
     CString name;
+    ClytSpan span;
 };
 
-class ClytDialogFile : public CStdioFile
+class ClytDialogFile : public ClytLineSource
 {
 public:
-    // The define list is a text of names joined by commas; null stands for none.
-    explicit ClytDialogFile(const char* defineList);
+    // The define list is a text of names joined by commas; null stands for none. The sink outlives the reader.
+    explicit ClytDialogFile(const char* defineList, ErrorSink& errorSink = lytRaisingSink());
 
-    // Delivers the next line that the defines leave in, at most `count` characters and a NUL; null at the end of the
-    // file.
-    char* ReadString(char* buffer, UINT count) override;
-
-    // Cuts a line into tokens. A quote that is not closed raises 210.
+    // Cuts a line into the tokens of the present line. A quote that is not closed is 210.
     void Tokenize(const char* line, const DelimiterSet& delimiters);
-    // Cuts the text of a value, where a round bracket keeps what it holds together. Brackets that are not closed raise
-    // 241.
-    void TokenizeGrouped(const char* text, const char* delimiters);
     const ClytTokenList& GetTokens() const { return tokens; }
+    // Where a token of the present line stands in the file.
+    ClytSpan PlaceOf(const ClytToken& token) const;
 
     // Appends the texts of the present line's tokens and deletes the tokens; 0 when there are none.
     int TakeTokens(CStringList& texts);
@@ -62,7 +60,7 @@ public:
     // Fills lists and key that come in empty; a line without a statement leaves them so.
     int ReadEvaluationStatement(ClytCtrlValList& own, ClytCtrlValList& other, CString& messageKey);
     int ReadInputHeader(CString& name);
-    // Reads the statements behind a header into the part.
+    // Reads the statements after a header into the part.
     void ReadInputPart(ClytInputPart& part);
     // A group header sets the group name, any other statement adds to the rule's parts and sets its format.
     int ReadOutputStatement(CString& groupName, ClytDialogOutput& rule);
@@ -71,44 +69,75 @@ private:
     // What a read is given; a buffer for it has room for a NUL.
     static constexpr UINT lineSize = 399;
 
-    // Delivers and counts a line.
-    bool ReadLine(char* line);
+    // What is thrown once a failure has been told and the sink wants to hear of more; it ends the statement.
+    struct Abandoned
+    {
+    };
+    // Runs the reader of one statement.
+    template <class READ>
+    int ReadStatement(READ read);
+
     bool ReadTokens(const DelimiterSet& delimiters);
-    // The position stands on the first token, behind the terminator on the second, or is null.
+    // The position stands on the first token, after the terminator on the second, or is null. The end of the file is
+    // told.
     int ReadSectionLine(POSITION& token, const char* terminator, const DelimiterSet& delimiters);
-    bool CutTokens(const char* line, const DelimiterSet& delimiters);
-    static const char* FindGroupEnd(const char* text);
 
     // The next token; where there is none it is the class library's failure, or that of a statement of wrong form.
-    const ClytToken& Next(POSITION& token) const { return tokens.GetNext(token); }
-    const ClytToken& NextOrFail(POSITION& token) const;
-    [[noreturn]] void FailStatement() const;
-    bool ReadValueList(POSITION& token, CStringList& values) const;
+    const ClytToken& Next(POSITION& token);
+    const ClytToken& NextOrFail(POSITION& token);
+    void Tell(const char* number, const ClytSpan& place, const CString& argument = CString());
+    // Tells that the present statement is of wrong form, at the token taken last or at the place given.
+    [[noreturn]] void FailStatement();
+    [[noreturn]] void FailStatement(const ClytSpan& place);
+    [[noreturn]] void FailQuote(const char* line, const char* openQuote);
+    // Where the present line ends.
+    ClytSpan EndOfLine() const;
+    bool ReadValueList(POSITION& token, CStringList& values);
 
-    void ReadControlOperands(POSITION token, ClytControlStatement& statement) const;
-    CString TakeName(const CString& operand) const;
+    int ReadHeaderStatement(CString& version, bool& isVersionSeen);
+    bool ReadHeaderLine();
+    void ReadControl(const CString& type, POSITION token, ClytControlStatement& statement);
+    void ReadControlOperands(POSITION token, ClytControlStatement& statement);
+    CString TakeName(const CString& operand);
 
-    void ReadDependencyCondition(POSITION& token, ClytConditions& conditions) const;
+    void ReadDependency(POSITION token, ClytControlDep& rule);
+    void ReadDependencyCondition(POSITION& token, ClytConditions& conditions);
 
-    void ReadForbiddenPair(POSITION token, ClytCtrlValList& own, ClytCtrlValList& other, CString& messageKey) const;
-    void ReadForbiddenValue(POSITION token, ClytCtrlValList& own, CString& messageKey) const;
+    void ReadEvaluation(POSITION token, ClytCtrlValList& own, ClytCtrlValList& other, CString& messageKey);
+    void ReadForbiddenPair(POSITION token, ClytCtrlValList& own, ClytCtrlValList& other, CString& messageKey);
+    void ReadForbiddenValue(POSITION token, ClytCtrlValList& own, CString& messageKey);
 
     int ReadInputStatement(ClytDialogInput& statement);
+    void ReadInput(POSITION token, ClytDialogInput& statement);
     int ReadInputLine();
-    void ReadInputConditions(POSITION token, ClytDialogInput& statement) const;
-    void ReadTargets(POSITION token, ClytDialogInput& statement) const;
-    void ReadScanRule(POSITION token, ClytScanRule& rule) const;
-    char ReadScanList(POSITION& token, ClytScan& scan) const;
-    void ReadConditionFill(POSITION& token, ClytConditionFill& rule) const;
-    void ReadControlFill(POSITION& token, ClytControlFill& fill) const;
-    void ReadFillAction(POSITION& token, ClytControlFill& fill) const;
+    void ReadInputConditions(POSITION token, ClytDialogInput& statement);
+    void ReadTargets(POSITION token, ClytDialogInput& statement);
+    void ReadScanRule(POSITION token, ClytScanRule& rule);
+    char ReadScanList(POSITION& token, ClytScan& scan);
+    void ReadConditionFill(POSITION& token, ClytConditionFill& rule);
+    void ReadControlFill(POSITION& token, ClytControlFill& fill);
+    void ReadFillAction(POSITION& token, ClytControlFill& fill);
 
-    bool ReadOutputCondition(const ClytToken& control, POSITION& token, ClytConditions& conditions) const;
-    void ReadOutputItem(POSITION& token, ClytDialogOutput& rule) const;
-    CString ReadItemAction(POSITION& token) const;
+    void ReadOutput(POSITION token, CString& groupName, ClytDialogOutput& rule);
+    bool ReadOutputCondition(const ClytToken& control, POSITION& token, ClytConditions& conditions);
+    void ReadOutputItem(POSITION& token, ClytDialogOutput& rule);
+    CString ReadItemAction(POSITION& token);
 
-    ClytTokenList tokens; // of the present line; the next section's reader may start from them
-    int lineNumber = 0;   // of the lines delivered, so lines that are switched off do not count
-    CMapStringToPtr defines;
-    bool lineActive = true;
+    ErrorSink& errors;
+    ClytTokenList tokens;                 // of the present line; the next section's reader may start from them
+    const ClytToken* lastTaken = nullptr; // from the list; null before the first of a line
 };
+
+template <class READ>
+int ClytDialogFile::ReadStatement(READ read)
+{
+    try
+    {
+        return read();
+    }
+    catch (const Abandoned&)
+    {
+        tokens.RemoveAll();
+        return 1;
+    }
+}

@@ -8,19 +8,25 @@ class ClytToken : public CObject
 {
 public:
     // The text stands between two places of the line.
-    ClytToken(const char* start, const char* end, char endedBy)
-        : text(start, static_cast<int>(end - start)), delimiter(endedBy)
+    ClytToken(const char* line, const char* start, const char* end, char endedBy)
+        : text(start, static_cast<int>(end - start)), column(static_cast<int>(start - line)), delimiter(endedBy)
     {
     }
-    ClytToken(ClytToken&& other) noexcept : text(std::move(other.text)), delimiter(other.delimiter) {}
+    ClytToken(ClytToken&& other) noexcept
+        : text(std::move(other.text)), column(other.column), delimiter(other.delimiter)
+    {
+    }
 
     const CString& GetText() const { return text; }
+    // Where the text begins in the line, in bytes from 0.
+    int GetColumn() const { return column; }
     char GetDelimiter() const { return delimiter; }
-    // Nothing in front of the delimiter, such as what stands between two delimiters in a row.
+    // Nothing before the delimiter, such as what stands between two delimiters in a row.
     bool IsBare(char endedBy) const { return delimiter == endedBy && text.IsEmpty(); }
 
 private:
     CString text;
+    int column;
     char delimiter;
 };
 

@@ -15,15 +15,24 @@ constexpr DelimiterSet dependencyDelimiters("=,\t\n()/");
 
 int ClytDialogFile::ReadDependencyStatement(ClytControlDep& rule)
 {
-    POSITION token = nullptr;
-    if (ReadSectionLine(token, "$EVALUATION", dependencyDelimiters) == 0)
-        return 0;
-    if (token == nullptr)
-        return 1;
+    return ReadStatement(
+        [&]
+        {
+            POSITION token = nullptr;
+            if (ReadSectionLine(token, "$EVALUATION", dependencyDelimiters) == 0)
+                return 0;
+            if (token != nullptr)
+                ReadDependency(token, rule);
+            return 1;
+        });
+}
 
+void ClytDialogFile::ReadDependency(POSITION token, ClytControlDep& rule)
+{
     const ClytToken& name = Next(token);
     if (name.GetDelimiter() != '/')
         FailStatement();
+    rule.span = GetLinePlace();
     rule.controlName = name.GetText();
     const ClytToken& word = Next(token);
     if (word.GetDelimiter() != '=')
@@ -31,20 +40,19 @@ int ClytDialogFile::ReadDependencyStatement(ClytControlDep& rule)
     rule.stateWord = word.GetText();
     while (token != nullptr)
         ReadDependencyCondition(token, rule.conditions);
-    return 1;
 }
 
-void ClytDialogFile::ReadDependencyCondition(POSITION& token, ClytConditions& conditions) const
+void ClytDialogFile::ReadDependencyCondition(POSITION& token, ClytConditions& conditions)
 {
     const ClytToken* end = &Next(token);
-    ClytCtrlValList& condition = conditions.AddTail(std::make_unique<ClytCtrlValList>(end->GetText()));
+    ClytCtrlValList& condition = conditions.AddTail(std::make_unique<ClytCtrlValList>(end->GetText(), PlaceOf(*end)));
     if (end->GetDelimiter() == '(')
     {
         if (!ReadValueList(token, condition.GetValues()))
             FailStatement();
         if (token == nullptr)
             return;
-        // This is the empty token behind the `)`. Only its delimiter counts, so a word in this place is passed over.
+        // This is the empty token after the `)`. Only its delimiter counts, so a word in this place is passed over.
         end = &Next(token);
     }
     if (end->GetDelimiter() != ',' && end->GetDelimiter() != '\n')

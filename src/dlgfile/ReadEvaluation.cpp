@@ -18,25 +18,32 @@ constexpr DelimiterSet evaluationDelimiters("=,\t\n():;");
 
 int ClytDialogFile::ReadEvaluationStatement(ClytCtrlValList& own, ClytCtrlValList& other, CString& messageKey)
 {
-    POSITION token = nullptr;
-    if (ReadSectionLine(token, "$INPUT", evaluationDelimiters) == 0)
-        return 0;
-    if (token == nullptr)
-        return 1;
+    return ReadStatement(
+        [&]
+        {
+            POSITION token = nullptr;
+            if (ReadSectionLine(token, "$INPUT", evaluationDelimiters) == 0)
+                return 0;
+            if (token != nullptr)
+                ReadEvaluation(token, own, other, messageKey);
+            return 1;
+        });
+}
 
+void ClytDialogFile::ReadEvaluation(POSITION token, ClytCtrlValList& own, ClytCtrlValList& other, CString& messageKey)
+{
     const ClytToken& name = Next(token);
-    own.SetName(name.GetText());
+    own.SetName(name.GetText(), PlaceOf(name));
     switch (name.GetDelimiter())
     {
     case '(': ReadForbiddenPair(token, own, other, messageKey); break;
     case '=': ReadForbiddenValue(token, own, messageKey); break;
     default: FailStatement();
     }
-    return 1;
 }
 
 void ClytDialogFile::ReadForbiddenPair(POSITION token, ClytCtrlValList& own, ClytCtrlValList& other,
-                                       CString& messageKey) const
+                                       CString& messageKey)
 {
     if (!ReadValueList(token, own.GetValues()))
         FailStatement();
@@ -47,7 +54,7 @@ void ClytDialogFile::ReadForbiddenPair(POSITION token, ClytCtrlValList& own, Cly
     const ClytToken& name = NextOrFail(token);
     if (name.GetDelimiter() != '(')
         FailStatement();
-    other.SetName(name.GetText());
+    other.SetName(name.GetText(), PlaceOf(name));
     if (!ReadValueList(token, other.GetValues()))
         FailStatement();
     if (NextOrFail(token).GetDelimiter() != ':')
@@ -55,7 +62,7 @@ void ClytDialogFile::ReadForbiddenPair(POSITION token, ClytCtrlValList& own, Cly
     messageKey = NextOrFail(token).GetText();
 }
 
-void ClytDialogFile::ReadForbiddenValue(POSITION token, ClytCtrlValList& own, CString& messageKey) const
+void ClytDialogFile::ReadForbiddenValue(POSITION token, ClytCtrlValList& own, CString& messageKey)
 {
     const ClytToken& value = NextOrFail(token);
     if (value.GetDelimiter() != ':' && !lytSameWord(value.GetText(), "NULL"))

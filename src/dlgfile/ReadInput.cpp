@@ -44,14 +44,21 @@ void ReadGuarded(Read read)
 int ClytDialogFile::ReadInputHeader(CString& name)
 {
     name.Empty();
+    // Empty only once the file has ended.
+    if (tokens.IsEmpty())
+        return 0;
     POSITION token = tokens.GetHeadPosition();
     const bool isLast = lytSameWord(Next(token).GetText(), terminator);
     if (token != nullptr)
         name = Next(token).GetText();
     if (isLast)
         return 0;
-    ReadSectionLine(token, terminator, firstLineDelimiters);
-    return 1;
+    return ReadStatement(
+        [&]
+        {
+            ReadSectionLine(token, terminator, firstLineDelimiters);
+            return 1;
+        });
 }
 
 // A statement without a name is not kept, and what was read of it joins the next one.
@@ -75,15 +82,27 @@ void ClytDialogFile::ReadInputPart(ClytInputPart& part)
 
 int ClytDialogFile::ReadInputStatement(ClytDialogInput& statement)
 {
-    POSITION token = tokens.GetHeadPosition();
-    if (token == nullptr)
-        return ReadInputLine();
+    return ReadStatement(
+        [&]
+        {
+            POSITION token = tokens.GetHeadPosition();
+            if (token == nullptr)
+                return ReadInputLine();
+            const CString& word = tokens.GetHead().GetText();
+            if (lytSameWord(word, "$INPUT") || lytSameWord(word, terminator))
+                return 0;
+            ReadInput(token, statement);
+            return ReadInputLine();
+        });
+}
+
+void ClytDialogFile::ReadInput(POSITION token, ClytDialogInput& statement)
+{
     const ClytToken& name = Next(token);
-    if (lytSameWord(name.GetText(), "$INPUT") || lytSameWord(name.GetText(), terminator))
-        return 0;
     if (name.GetDelimiter() != ':')
         FailStatement();
     statement.name = name.GetText();
+    statement.span = GetLinePlace();
     POSITION form = token;
     const ClytToken& first = NextOrFail(form);
     if (first.IsBare('('))
@@ -92,7 +111,6 @@ int ClytDialogFile::ReadInputStatement(ClytDialogInput& statement)
         ReadTargets(token, statement);
     else
         ReadInputConditions(token, statement);
-    return ReadInputLine();
 }
 
 int ClytDialogFile::ReadInputLine()
@@ -101,7 +119,7 @@ int ClytDialogFile::ReadInputLine()
     return ReadSectionLine(token, terminator, inputDelimiters);
 }
 
-void ClytDialogFile::ReadInputConditions(POSITION token, ClytDialogInput& statement) const
+void ClytDialogFile::ReadInputConditions(POSITION token, ClytDialogInput& statement)
 {
     char end = '\0';
     while (end != '=')
@@ -109,7 +127,8 @@ void ClytDialogFile::ReadInputConditions(POSITION token, ClytDialogInput& statem
         const ClytToken& control = NextOrFail(token);
         if (control.GetText().IsEmpty())
             continue;
-        ClytCtrlValList& condition = statement.conditions.AddTail(std::make_unique<ClytCtrlValList>(control.GetText()));
+        ClytCtrlValList& condition =
+            statement.conditions.AddTail(std::make_unique<ClytCtrlValList>(control.GetText(), PlaceOf(control)));
         end = control.GetDelimiter();
         while (end != ')')
         {
@@ -122,7 +141,7 @@ void ClytDialogFile::ReadInputConditions(POSITION token, ClytDialogInput& statem
     ReadTargets(token, statement);
 }
 
-void ClytDialogFile::ReadTargets(POSITION token, ClytDialogInput& statement) const
+void ClytDialogFile::ReadTargets(POSITION token, ClytDialogInput& statement)
 {
     statement.trueTarget = NextOrFail(token).GetText();
     statement.falseTarget = NextOrFail(token).GetText();

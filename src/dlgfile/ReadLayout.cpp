@@ -11,7 +11,6 @@
 // It is not the `End` line that ends the controls but the header of the next section.
 #include "dlgfile/ClytDialogFile.h"
 
-#include "environment/ClytException.h"
 #include "environment/Words.h"
 
 namespace
@@ -33,86 +32,123 @@ bool IsName(const CString& operand)
 int ClytDialogFile::ReadVersionHeader(CString& version)
 {
     bool isVersionSeen = false;
-    while (true)
+    while (ReadStatement([&] { return ReadHeaderStatement(version, isVersionSeen); }) != 0)
+        continue;
+    return tokens.IsEmpty() ? 0 : 1;
+}
+
+// 0 at the layout line, and with no tokens at the end of the file.
+int ClytDialogFile::ReadHeaderStatement(CString& version, bool& isVersionSeen)
+{
+    if (!ReadHeaderLine())
     {
-        char line[lineSize + 1];
-        if (!ReadLine(line))
-            lytRaise("214");
-        // Free text may stand above the header, so a quote without its partner counts on the header lines only.
-        const bool isWhole = CutTokens(line, headerDelimiters);
+        Tell("214", EndOfLine());
+        return 0;
+    }
+    const CString& word = tokens.GetHead().GetText();
+    const bool isVersion = lytSameWord(word, "$VERSION");
+    if (isVersion)
+    {
+        isVersionSeen = true;
+        if (tokens.GetCount() != 2)
+            FailStatement(GetLinePlace());
+        version = tokens.GetTail().GetText();
+    }
+    if (!lytSameWord(isVersion ? version : word, "$LAYOUT"))
+        return 1;
+    if (!isVersionSeen)
+        Tell("213", GetLinePlace());
+    return 0;
+}
+
+// Reads up to a line that begins with a header's word; false at the end of the file. Free text may stand above the
+// headers, so a quote without its partner counts on their own lines only.
+bool ClytDialogFile::ReadHeaderLine()
+{
+    char line[lineSize + 1];
+    while (ReadString(line, lineSize) != nullptr)
+    {
+        const char* openQuote = lytTokenize(line, headerDelimiters, tokens);
         if (tokens.IsEmpty())
             continue;
-        const CString word = tokens.GetHead().GetText();
-        const bool isVersion = lytSameWord(word, "$VERSION");
-        if (!isVersion && !lytSameWord(word, "$LAYOUT"))
+        const CString& word = tokens.GetHead().GetText();
+        if (!lytSameWord(word, "$VERSION") && !lytSameWord(word, "$LAYOUT"))
             continue;
-        if (!isWhole)
-            lytRaise("210");
-        if (isVersion)
-        {
-            if (tokens.GetCount() != 2)
-                FailStatement();
-            version = tokens.GetTail().GetText();
-            isVersionSeen = true;
-        }
-        if (!lytSameWord(isVersion ? version : word, "$LAYOUT"))
-            continue;
-        if (!isVersionSeen)
-            lytRaise("213");
-        return 1;
+        if (openQuote != nullptr)
+            FailQuote(line, openQuote);
+        return true;
     }
+    tokens.RemoveAll();
+    return false;
 }
 
 int ClytDialogFile::ReadDialogHeader(int& width, int& height, CString& title, CString& lastText)
 {
-    do
-    {
-        if (!ReadTokens(dialogDelimiters))
-            lytRaise("215");
-    } while (tokens.IsEmpty());
+    return ReadStatement(
+        [&]
+        {
+            do
+            {
+                if (!ReadTokens(dialogDelimiters))
+                {
+                    Tell("215", EndOfLine());
+                    return 0;
+                }
+            } while (tokens.IsEmpty());
 
-    POSITION token = tokens.GetHeadPosition();
-    if (!lytSameWord(Next(token).GetText(), "Begin"))
-        lytRaise("215");
-    if (tokens.GetCount() != dialogWords)
-        FailStatement();
-    if (!lytSameWord(Next(token).GetText(), "Dialog"))
-        return 0;
-    Next(token);
-    width = lytNumberOf(Next(token).GetText());
-    height = lytNumberOf(Next(token).GetText());
-    title = Next(token).GetText();
-    lastText = Next(token).GetText();
-    return 1;
+            POSITION token = tokens.GetHeadPosition();
+            if (!lytSameWord(Next(token).GetText(), "Begin"))
+            {
+                Tell("215", GetLinePlace());
+                return 0;
+            }
+            if (tokens.GetCount() != dialogWords)
+                FailStatement(GetLinePlace());
+            if (!lytSameWord(Next(token).GetText(), "Dialog"))
+                return 0;
+            Next(token);
+            width = lytNumberOf(Next(token).GetText());
+            height = lytNumberOf(Next(token).GetText());
+            title = Next(token).GetText();
+            lastText = Next(token).GetText();
+            return 1;
+        });
 }
 
 int ClytDialogFile::ReadControlStatement(ClytControlStatement& statement)
 {
-    statement.type.Empty();
-    statement.x = statement.y = statement.width = statement.height = 0;
-    statement.text.Empty();
-    statement.name.Empty();
-    if (!ReadTokens(controlDelimiters))
-        lytRaise("216");
-    POSITION token = tokens.GetHeadPosition();
-    if (token == nullptr)
-        return 1;
-    const CString& word = Next(token).GetText();
-    if (word.IsEmpty())
-        return 1;
-    if (lytSameWord(word, "End"))
-    {
-        Next(token);
-        return 1;
-    }
-    if (lytSameWord(word, "$VALUES"))
-        return 0;
-    statement.type = word;
-    ReadControlOperands(token, statement);
-    return 1;
+    statement = {};
+    return ReadStatement(
+        [&]
+        {
+            if (!ReadTokens(controlDelimiters))
+            {
+                Tell("216", EndOfLine());
+                return 0;
+            }
+            POSITION token = tokens.GetHeadPosition();
+            if (token == nullptr)
+                return 1;
+            const CString& word = Next(token).GetText();
+            if (lytSameWord(word, "$VALUES"))
+                return 0;
+            if (lytSameWord(word, "End"))
+                Next(token);
+            else if (!word.IsEmpty())
+                ReadControl(word, token, statement);
+            return 1;
+        });
 }
 
-void ClytDialogFile::ReadControlOperands(POSITION token, ClytControlStatement& statement) const
+// The type word comes last: a statement that fails is no control.
+void ClytDialogFile::ReadControl(const CString& type, POSITION token, ClytControlStatement& statement)
+{
+    statement.span = GetLinePlace();
+    ReadControlOperands(token, statement);
+    statement.type = type;
+}
+
+void ClytDialogFile::ReadControlOperands(POSITION token, ClytControlStatement& statement)
 {
     const CString& first = NextOrFail(token).GetText();
     if (IsName(first))
@@ -142,7 +178,7 @@ void ClytDialogFile::ReadControlOperands(POSITION token, ClytControlStatement& s
 }
 
 // The first character goes without being looked at, so a name in the last place that lacks its point is cut.
-CString ClytDialogFile::TakeName(const CString& operand) const
+CString ClytDialogFile::TakeName(const CString& operand)
 {
     if (operand == ".")
         FailStatement();

@@ -22,12 +22,20 @@ constexpr DelimiterSet outputDelimiters("=,\n():<>");
 
 int ClytDialogFile::ReadOutputStatement(CString& groupName, ClytDialogOutput& rule)
 {
-    POSITION token = nullptr;
-    if (ReadSectionLine(token, "$END", outputDelimiters) == 0)
-        return 0;
-    if (token == nullptr)
-        return 1;
+    return ReadStatement(
+        [&]
+        {
+            POSITION token = nullptr;
+            if (ReadSectionLine(token, "$END", outputDelimiters) == 0)
+                return 0;
+            if (token != nullptr)
+                ReadOutput(token, groupName, rule);
+            return 1;
+        });
+}
 
+void ClytDialogFile::ReadOutput(POSITION token, CString& groupName, ClytDialogOutput& rule)
+{
     bool isRightSide = tokens.GetAt(token).IsBare('(');
     while (true)
     {
@@ -35,7 +43,7 @@ int ClytDialogFile::ReadOutputStatement(CString& groupName, ClytDialogOutput& ru
         if (lytSameWord(first.GetText(), "$OUTPUT"))
         {
             groupName = NextOrFail(token).GetText();
-            return 1;
+            return;
         }
         if (isRightSide)
         {
@@ -45,16 +53,16 @@ int ClytDialogFile::ReadOutputStatement(CString& groupName, ClytDialogOutput& ru
         }
         isRightSide = ReadOutputCondition(first, token, rule.conditions);
     }
+    rule.span = GetLinePlace();
     rule.format = NextOrFail(token).GetText();
     while (token != nullptr)
         ReadOutputItem(token, rule);
-    return 1;
 }
 
 // True when the right side follows. A control without values is always the last condition, also before a comma.
-bool ClytDialogFile::ReadOutputCondition(const ClytToken& control, POSITION& token, ClytConditions& conditions) const
+bool ClytDialogFile::ReadOutputCondition(const ClytToken& control, POSITION& token, ClytConditions& conditions)
 {
-    auto condition = std::make_unique<ClytCtrlValList>(control.GetText());
+    auto condition = std::make_unique<ClytCtrlValList>(control.GetText(), PlaceOf(control));
     if (control.GetDelimiter() == '(')
     {
         if (!ReadValueList(token, condition->GetValues()))
@@ -72,7 +80,7 @@ bool ClytDialogFile::ReadOutputCondition(const ClytToken& control, POSITION& tok
     return true;
 }
 
-void ClytDialogFile::ReadOutputItem(POSITION& token, ClytDialogOutput& rule) const
+void ClytDialogFile::ReadOutputItem(POSITION& token, ClytDialogOutput& rule)
 {
     const ClytToken& item = Next(token);
     CString action;
@@ -87,9 +95,9 @@ void ClytDialogFile::ReadOutputItem(POSITION& token, ClytDialogOutput& rule) con
     rule.actions.Add(action);
 }
 
-// A line that ends inside the brackets or right behind them is the class library's failure. The token behind them is
+// A line that ends inside the brackets or right after them is the class library's failure. The token after them is
 // passed over, whatever it says.
-CString ClytDialogFile::ReadItemAction(POSITION& token) const
+CString ClytDialogFile::ReadItemAction(POSITION& token)
 {
     CString action;
     char end = '\0';

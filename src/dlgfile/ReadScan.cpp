@@ -1,4 +1,4 @@
-// The scan form of an input statement, behind its `(`:
+// The scan form of an input statement, after its `(`:
 //
 //     length, target [, ...]      a piece of fixed length
 //     text, target [, ...]        a piece that ends at a separator
@@ -14,7 +14,7 @@
 
 #include <cstring>
 
-void ClytDialogFile::ReadScanRule(POSITION token, ClytScanRule& rule) const
+void ClytDialogFile::ReadScanRule(POSITION token, ClytScanRule& rule)
 {
     const char end = ReadScanList(token, rule.scan);
     if (end == ')' && token != nullptr && tokens.GetAt(token).IsBare('='))
@@ -23,10 +23,10 @@ void ClytDialogFile::ReadScanRule(POSITION token, ClytScanRule& rule) const
         ReadConditionFill(token, rule.rules.AddTail(std::make_unique<ClytConditionFill>()));
 }
 
-// The list is read in pairs of a length or separator and its target, and ends behind a target with `=` or at a token with
-// `)` that no other follows. A token behind a `)` opens a further pair, unless it has a `)` itself. Gives the delimiter
+// The list is read in pairs of a length or separator and its target, and ends after a target with `=` or at a token with
+// `)` that no other follows. A token after a `)` opens a further pair, unless it has a `)` itself. Gives the delimiter
 // that ended the list.
-char ClytDialogFile::ReadScanList(POSITION& token, ClytScan& scan) const
+char ClytDialogFile::ReadScanList(POSITION& token, ClytScan& scan)
 {
     const ClytToken* inHand = &NextOrFail(token);
     while (inHand->GetDelimiter() != ')')
@@ -36,7 +36,7 @@ char ClytDialogFile::ReadScanList(POSITION& token, ClytScan& scan) const
         if (length != 0)
             scan.SetFixedLength(length, target.GetText());
         else
-            scan.AddSeparator(inHand->GetText(), target.GetText());
+            scan.AddSeparator(inHand->GetText(), target.GetText(), PlaceOf(*inHand));
         if (target.GetDelimiter() == '=')
             return '=';
         inHand = token != nullptr ? &Next(token) : &target;
@@ -46,7 +46,7 @@ char ClytDialogFile::ReadScanList(POSITION& token, ClytScan& scan) const
     return ')';
 }
 
-void ClytDialogFile::ReadConditionFill(POSITION& token, ClytConditionFill& rule) const
+void ClytDialogFile::ReadConditionFill(POSITION& token, ClytConditionFill& rule)
 {
     if (tokens.GetAt(token).IsBare('('))
     {
@@ -66,10 +66,11 @@ void ClytDialogFile::ReadConditionFill(POSITION& token, ClytConditionFill& rule)
     ReadControlFill(token, rule.fills.AddTail(std::make_unique<ClytControlFill>()));
 }
 
-void ClytDialogFile::ReadControlFill(POSITION& token, ClytControlFill& fill) const
+void ClytDialogFile::ReadControlFill(POSITION& token, ClytControlFill& fill)
 {
     const ClytToken* end = &NextOrFail(token);
     fill.controlName = end->GetText();
+    fill.span = PlaceOf(*end);
     if (fill.controlName.IsEmpty())
         FailStatement();
     if (end->GetDelimiter() == '(')
@@ -91,7 +92,7 @@ void ClytDialogFile::ReadControlFill(POSITION& token, ClytControlFill& fill) con
         FailStatement();
 }
 
-void ClytDialogFile::ReadFillAction(POSITION& token, ClytControlFill& fill) const
+void ClytDialogFile::ReadFillAction(POSITION& token, ClytControlFill& fill)
 {
     const ClytToken* last = &NextOrFail(token);
     fill.action = last->GetText();

@@ -19,18 +19,22 @@ int ClytDialogFile::ReadValueStatement(CString& name, CString& keyword, CStringL
     keyword.Empty();
     values.RemoveAll();
 
-    POSITION token = nullptr;
-    if (ReadSectionLine(token, "$DEPENDANCES", valueDelimiters) == 0)
-        return 0;
-    if (token == nullptr)
-        return 1;
-    if (tokens.GetCount() == 1)
-        FailStatement();
+    return ReadStatement(
+        [&]
+        {
+            POSITION token = nullptr;
+            if (ReadSectionLine(token, "$DEPENDANCES", valueDelimiters) == 0)
+                return 0;
+            if (token == nullptr)
+                return 1;
+            if (tokens.GetCount() == 1)
+                FailStatement();
 
-    name = Next(token).GetText();
-    if (tokens.GetCount() > 2)
-        keyword = Next(token).GetText();
-    while (token != nullptr)
-        values.AddTail(Next(token).GetText());
-    return 1;
+            name = Next(token).GetText();
+            if (tokens.GetCount() > 2)
+                keyword = Next(token).GetText();
+            while (token != nullptr)
+                values.AddTail(Next(token).GetText());
+            return 1;
+        });
 }

@@ -1,5 +1,4 @@
-// Cuts lines and value texts into tokens, each in one pass.
-#include "dlgfile/ClytDialogFile.h"
+#include "dlgfile/Tokenize.h"
 
 #include "environment/ClytException.h"
 #include "environment/Words.h"
@@ -16,16 +15,16 @@ const char* SkipSpace(const char* text)
     return text;
 }
 
-ClytToken Trimmed(const char* start, const char* end, char delimiter)
+ClytToken Trimmed(const char* line, const char* start, const char* end, char delimiter)
 {
     while (start < end && lytIsSpace(*start))
         ++start;
     while (start < end && lytIsSpace(end[-1]))
         --end;
-    return {start, end, delimiter};
+    return {line, start, end, delimiter};
 }
 
-// The quote that closes the one before `text`, or null. A quote behind a backslash is content, and the backslash stays.
+// The quote that closes the one before `text`, or null. A quote after a backslash is content, and the backslash stays.
 const char* FindClosingQuote(const char* text)
 {
     const char* quote = std::strchr(text, '"');
@@ -40,16 +39,22 @@ char DelimiterAt(const char* end)
     return *end != '\0' ? *end : '\n';
 }
 
-} // namespace
-
-void ClytDialogFile::Tokenize(const char* line, const DelimiterSet& delimiters)
+// The place after the bracket that closes the group.
+const char* FindGroupEnd(const char* text)
 {
-    if (!CutTokens(line, delimiters))
-        lytRaise("210");
+    for (int depth = 1; depth > 0; ++text)
+    {
+        text = std::strpbrk(text, "()");
+        if (text == nullptr)
+            lytRaise("241", lytErrorText("242"));
+        depth += *text == '(' ? 1 : -1;
+    }
+    return text;
 }
 
-// False when a quote is not closed; the tokens in front of it stand in the list then.
-bool ClytDialogFile::CutTokens(const char* line, const DelimiterSet& delimiters)
+} // namespace
+
+const char* lytTokenize(const char* line, const DelimiterSet& delimiters, ClytTokenList& tokens)
 {
     tokens.RemoveAll();
     const char* start = SkipSpace(line);
@@ -61,20 +66,20 @@ bool ClytDialogFile::CutTokens(const char* line, const DelimiterSet& delimiters)
         {
             textEnd = FindClosingQuote(++start);
             if (textEnd == nullptr)
-                return false;
+                return start - 1;
         }
         // What stands between a closing quote and the delimiter is dropped.
         const char* end = delimiters.FindIn(textEnd != nullptr ? textEnd + 1 : start);
-        tokens.AddTail(Trimmed(start, textEnd != nullptr ? textEnd : end, DelimiterAt(end)));
+        tokens.AddTail(Trimmed(line, start, textEnd != nullptr ? textEnd : end, DelimiterAt(end)));
         // A `;` is left standing, and so ends the line.
         start = SkipSpace(*end != '\0' && *end != ';' ? end + 1 : end);
     }
-    return true;
+    return nullptr;
 }
 
 // `x(a,b)` is one token with its brackets; `(` joins the delimiters for this run. There are no quotes and no comments,
 // and a token without brackets keeps its blanks.
-void ClytDialogFile::TokenizeGrouped(const char* text, const char* delimiters)
+void lytTokenizeGrouped(const char* text, const char* delimiters, ClytTokenList& tokens)
 {
     tokens.RemoveAll();
     DelimiterSet ends(delimiters);
@@ -84,27 +89,14 @@ void ClytDialogFile::TokenizeGrouped(const char* text, const char* delimiters)
     {
         const char* end = ends.FindIn(start);
         if (*end != '(')
-            tokens.AddTail({start, end, DelimiterAt(end)});
+            tokens.AddTail({text, start, end, DelimiterAt(end)});
         else
         {
             end = FindGroupEnd(end + 1);
             if (*end != ',')
                 end = ends.FindIn(end);
-            tokens.AddTail(Trimmed(start, end, ')'));
+            tokens.AddTail(Trimmed(text, start, end, ')'));
         }
         start = *end != '\0' ? end + 1 : end;
     }
-}
-
-// The place behind the bracket that closes the group.
-const char* ClytDialogFile::FindGroupEnd(const char* text)
-{
-    for (int depth = 1; depth > 0; ++text)
-    {
-        text = std::strpbrk(text, "()");
-        if (text == nullptr)
-            lytRaise("241", lytErrorText("242"));
-        depth += *text == '(' ? 1 : -1;
-    }
-    return text;
 }

@@ -12,6 +12,10 @@ public:
     // The section is "Dialog_Error" for numbered errors and "MsgBox" for the messages of evaluation rules.
     ClytException(CString textSection, CString textKey, CString messagePrefix, CString textArgument);
 
+    const CString& GetNumber() const { return number; }
+    const CString& GetPrefix() const { return prefix; }
+    const CString& GetArgument() const { return argument; }
+
     // The text of the key with the argument behind its first apostrophe, below the prefix and a line feed when there is
     // a prefix; cut to size - 1 characters.
     BOOL GetErrorMessage(char* buffer, UINT size, UINT* helpContext = nullptr) const override;

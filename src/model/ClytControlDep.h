@@ -19,5 +19,6 @@ public:
     CString controlName; // the control that the rule acts on
     CString stateWord;
     ClytConditions conditions;
+    ClytSpan span;    // of the statement
     int runCount = 0; // above 0 while the rule is being carried out; an event rule is not entered again then
 };

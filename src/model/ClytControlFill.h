@@ -12,6 +12,7 @@ public:
     void Apply(const CString& piece, const ClytControlMap& controls) const;
 
     CString controlName;
+    ClytSpan span;                   // of the control name
     CString value;                   // replaces the piece when it is not empty
     CString action;                  // "FILL", "ADD", "MODIFY", "CONCAT"; any other word sets the value
     std::array<CString, 3> operands; // joined, the separators of "CONCAT"

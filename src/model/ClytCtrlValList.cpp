@@ -7,7 +7,7 @@ void ClytCtrlValList::CopyFrom(const ClytCtrlValList& other)
 {
     if (this == &other)
         return;
-    controlName = other.controlName;
+    SetName(other.controlName, other.span);
     values.RemoveAll();
     for (POSITION place = other.values.GetHeadPosition(); place != nullptr;)
         values.AddTail(other.values.GetNext(place));

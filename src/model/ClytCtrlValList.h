@@ -3,6 +3,7 @@
 
 #include <afxcoll.h>
 
+#include "base/ClytSpan.h"
 #include "environment/ClytOwnedList.h"
 
 class ClytControl;
@@ -12,10 +13,16 @@ class ClytCtrlValList : public CObject
 {
 public:
     ClytCtrlValList() = default;
-    explicit ClytCtrlValList(CString name) : controlName(std::move(name)) {}
+    explicit ClytCtrlValList(CString name, const ClytSpan& place = {}) : controlName(std::move(name)), span(place) {}
 
     const CString& GetName() const { return controlName; }
-    void SetName(CString name) { controlName = std::move(name); }
+    void SetName(CString name, const ClytSpan& place = {})
+    {
+        controlName = std::move(name);
+        span = place;
+    }
+    // Where the name stands in the description.
+    const ClytSpan& GetSpan() const { return span; }
     CStringList& GetValues() { return values; }
     const CStringList& GetValues() const { return values; }
     // Takes over another list's name and values as copies.
@@ -29,6 +36,7 @@ public:
 private:
     CString controlName;
     CStringList values;
+    ClytSpan span;
 };
 
 // Conditions as a rule owns them, and as others may look at them.

@@ -15,4 +15,5 @@ public:
     ClytConditions conditions;
     CString trueTarget;
     CString falseTarget;
+    ClytSpan span; // of the statement
 };

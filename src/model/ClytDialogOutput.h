@@ -7,6 +7,7 @@ class ClytDialogOutput : public CObject
 {
 public:
     ClytConditions conditions;
+    ClytSpan span; // of the statement
     CString format;
     CStringArray items;   // control names or literal texts
     CStringArray actions; // one an item: empty, "CONCAT" or the separators between the values of a list

@@ -31,9 +31,9 @@ void ClytScan::SetFixedLength(int pieceLength, const CString& statementName)
     target = statementName;
 }
 
-void ClytScan::AddSeparator(const CString& separatorText, const CString& statementName)
+void ClytScan::AddSeparator(const CString& separatorText, const CString& statementName, const ClytSpan& place)
 {
-    separators.AddTail(std::make_unique<ClytSeparator>(separatorText, statementName));
+    separators.AddTail(std::make_unique<ClytSeparator>(separatorText, statementName, place));
     length = 0;
     target.Empty();
 }

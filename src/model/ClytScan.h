@@ -12,12 +12,12 @@ public:
     // 1 when a separator stands at the start of the rest, with its length; the first in file order wins. An empty rest
     // counts as a separator of length 0 as long as the list has an entry.
     int FindSeparator(const char* rest, int& found) const;
-    // The statement behind the first separator of that text; empty when there is none.
+    // The statement after the first separator of that text; empty when there is none.
     CString TargetOf(const CString& separatorText) const;
 
     // The later of the two kinds of entry decides: a separator wipes an earlier fixed length.
     void SetFixedLength(int pieceLength, const CString& statementName);
-    void AddSeparator(const CString& separatorText, const CString& statementName);
+    void AddSeparator(const CString& separatorText, const CString& statementName, const ClytSpan& place = {});
 
     int GetLength() const { return length; }
     const CString& GetTarget() const { return target; }
@@ -25,6 +25,6 @@ public:
 
 private:
     int length = 0; // 0 when the scan works by separators
-    CString target; // the next statement behind a piece of fixed length
+    CString target; // the next statement after a piece of fixed length
     ClytOwnedList<ClytSeparator> separators;
 };

@@ -31,10 +31,10 @@ void HeadlessList::AddValues(const CString& text, const CString& separators)
         AddItem(CString(), text, 0, 0);
     if (separators.GetLength() != 2 && separators.GetLength() != 3)
         return;
-    ClytDialogFile cutter(nullptr);
-    cutter.TokenizeGrouped(text, separators);
-    for (POSITION token = cutter.GetTokens().GetHeadPosition(); token != nullptr;)
-        AddItem(CString(), cutter.GetTokens().GetNext(token).GetText(), 0, 0);
+    ClytTokenList tokens;
+    lytTokenizeGrouped(text, separators, tokens);
+    for (POSITION token = tokens.GetHeadPosition(); token != nullptr;)
+        AddItem(CString(), tokens.GetNext(token).GetText(), 0, 0);
 }
 
 int HeadlessList::FindValue(const CString& value, size_t count) const

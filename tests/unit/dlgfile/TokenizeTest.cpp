@@ -126,9 +126,9 @@ namespace
 
 std::string Groups(const char* text, const char* delimiters)
 {
-    ClytDialogFile file(nullptr);
-    file.TokenizeGrouped(text, delimiters);
-    return Shown(file.GetTokens());
+    ClytTokenList tokens;
+    lytTokenizeGrouped(text, delimiters, tokens);
+    return Shown(tokens);
 }
 
 class TokenizeGrouped : public WithErrorTexts

@@ -1,0 +1,63 @@
+#include "dlgfile/ClytLineSource.h"
+
+#include <cstring>
+
+namespace
+{
+
+CString MarkerName(const char* line)
+{
+    return {line, static_cast<int>(std::strcspn(line, " \t;\n\r"))};
+}
+
+} // namespace
+
+ClytLineSource::ClytLineSource(const char* defineList)
+{
+    if (defineList == nullptr || *defineList == '\0')
+        return;
+    const CString list(defineList);
+    int start = 0;
+    for (int comma = list.Find(','); comma >= 0; comma = list.Find(',', start))
+    {
+        defines.SetAt(list.Mid(start, comma - start), nullptr);
+        start = comma + 1;
+    }
+    defines.SetAt(list.Mid(start), nullptr);
+}
+
+// A line that begins with `<` switches what follows on or off by a define (`<!` the other way round), one that begins
+// with `>` switches it on. They do not nest, and they count in stretches that are switched off, too.
+char* ClytLineSource::ReadString(char* buffer, UINT count)
+{
+    while (ReadAnyLine(buffer, count))
+    {
+        if (*buffer == '<')
+        {
+            const bool isInverted = buffer[1] == '!';
+            void* unused = nullptr;
+            const bool isDefined = defines.Lookup(MarkerName(buffer + (isInverted ? 2 : 1)), unused);
+            lineActive = isDefined != isInverted;
+        }
+        else if (*buffer == '>')
+            lineActive = true;
+        else if (lineActive)
+        {
+            ++lineNumber;
+            return buffer;
+        }
+    }
+    return nullptr;
+}
+
+bool ClytLineSource::ReadAnyLine(char* buffer, UINT count)
+{
+    if (CStdioFile::ReadString(buffer, count) == nullptr)
+        return false;
+    linePlace.column = isLineOpen ? linePlace.column + linePlace.length : 0;
+    linePlace.line += isLineOpen ? 0 : 1;
+    const size_t length = std::strlen(buffer);
+    isLineOpen = length == 0 || buffer[length - 1] != '\n';
+    linePlace.length = static_cast<int>(length) - (isLineOpen ? 0 : 1);
+    return true;
+}

@@ -1,0 +1,33 @@
+// The lines of a description that the defines leave in, each with its numbers.
+#pragma once
+
+#include "base/ClytSpan.h"
+
+#include <afxcoll.h>
+
+class ClytLineSource : public CStdioFile
+{
+public:
+    // The define list is a text of names joined by commas; null stands for none.
+    explicit ClytLineSource(const char* defineList);
+
+    // Delivers the next line that the defines leave in, at most `count` characters and a NUL; null at the end of the
+    // file. A longer line arrives in pieces, each a line of its own.
+    char* ReadString(char* buffer, UINT count) override;
+
+    // The number of the present line that messages tell: lines that are switched off do not count, pieces do.
+    int GetLineNumber() const { return lineNumber; }
+    // Where the present line stands in the file, and a part of it that begins at a column of the line as delivered.
+    const ClytSpan& GetLinePlace() const { return linePlace; }
+    ClytSpan PlaceInLine(int column, int length) const { return {linePlace.line, linePlace.column + column, length}; }
+
+private:
+    // Reads a line or a piece of one, whether it is switched off or not.
+    bool ReadAnyLine(char* buffer, UINT count);
+
+    CMapStringToPtr defines;
+    bool lineActive = true;
+    int lineNumber = 0;
+    ClytSpan linePlace;
+    bool isLineOpen = false; // the last read ended inside a line
+};

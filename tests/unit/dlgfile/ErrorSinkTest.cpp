@@ -1,0 +1,197 @@
+// All mistakes of a description in one reading, each with its place.
+#include "Description.h"
+
+#include "model/ClytControlDep.h"
+#include "model/ClytDialogOutput.h"
+#include "model/ClytInputPart.h"
+
+namespace
+{
+
+std::string Shown(const ClytSpan& place)
+{
+    return std::to_string(place.line) + ":" + std::to_string(place.column) + "+" + std::to_string(place.length);
+}
+
+// Keeps what it is told, a line each: place, number, argument.
+class KeepingSink final : public ErrorSink
+{
+public:
+    void Tell(std::unique_ptr<ClytException> failure, const ClytSpan& place) override
+    {
+        told += Shown(place) + " " + failure->GetNumber().GetString() + " " + failure->GetArgument().GetString() + "\n";
+    }
+    void TellShortLine(const ClytSpan& place) override { told += Shown(place) + " short\n"; }
+
+    std::string told;
+};
+
+class Reading
+{
+public:
+    explicit Reading(const std::string& content, const char* defines = nullptr) : m_file(defines, m_sink)
+    {
+        m_file.Open(m_folder.Write("test.dlg", content).c_str(), CFile::modeRead);
+    }
+    Reading(const Reading&) = delete;
+    Reading& operator=(const Reading&) = delete;
+    ~Reading() { m_file.Close(); }
+
+    ClytDialogFile& File() { return m_file; }
+    const std::string& Told() const { return m_sink.told; }
+
+    // Reads every section in turn, as a dialog does.
+    std::string ToldOfAll()
+    {
+        ReadHead();
+        while (m_file.ReadControlStatement(control) != 0)
+            continue;
+        ReadRules();
+        CString name;
+        while (m_file.ReadInputHeader(name) != 0)
+            m_file.ReadInputPart(part);
+        while (m_file.ReadOutputStatement(name, output) != 0)
+            continue;
+        return Told();
+    }
+
+    ClytControlStatement control;
+    ClytInputPart part;
+    ClytDialogOutput output;
+
+private:
+    void ReadHead()
+    {
+        CString text;
+        CStringList words;
+        int number = 0;
+        m_file.ReadVersionHeader(text);
+        m_file.TakeTokens(words);
+        m_file.ReadDialogHeader(number, number, text, text);
+    }
+
+    void ReadRules()
+    {
+        CString text;
+        CStringList words;
+        while (m_file.ReadValueStatement(text, text, words) != 0)
+            continue;
+        ClytControlDep rule;
+        while (m_file.ReadDependencyStatement(rule) != 0)
+            continue;
+        ClytCtrlValList own;
+        ClytCtrlValList other;
+        while (m_file.ReadEvaluationStatement(own, other, text) != 0)
+            continue;
+    }
+
+    TestFolder m_folder;
+    KeepingSink m_sink;
+    ClytDialogFile m_file;
+};
+
+} // namespace
+
+TEST(ErrorSink, IsToldOfEveryStatementOfWrongForm)
+{
+    Reading reading("$VERSION 1\n"
+                    "$LAYOUT\n"
+                    "Begin Dialog Box 1, 2, \"T\", .M\n"
+                    "Text 1, .A\n"
+                    "TextBox 1, 2, 3, 4, .B\n"
+                    "End\n"
+                    "$VALUES\n"
+                    "  A\n"
+                    "B = x\n"
+                    "$DEPENDANCES\n"
+                    "A = B\n"
+                    "A, \"open\n"
+                    "A/ACTIVE = B(1,\n"
+                    "$EVALUATION, x\n"
+                    "A : x\n"
+                    "$INPUT\n"
+                    "Start\n"
+                    "Next: (\";\", End\n"
+                    "$OUTPUT\n"
+                    "x<\n");
+    EXPECT_EQ(reading.ToldOfAll(), "4:8+2 212 4\n"
+                                   "6:3+0 short\n"
+                                   "8:0+3 212 8\n"
+                                   "11:0+1 212 11\n"
+                                   "12:3+5 210 \n"
+                                   "13:15+0 short\n"
+                                   "15:0+1 212 15\n"
+                                   "17:0+5 212 17\n"
+                                   "18:12+3 212 18\n"
+                                   "20:0+1 212 20\n"
+                                   "20:2+0 217 $END\n");
+}
+
+TEST(ErrorSink, IsToldWhatIsWrongAboveTheControls)
+{
+    EXPECT_EQ(Reading("").ToldOfAll().substr(0, 10), "0:0+0 214 ");
+    Reading reading("$VERSION 1 2\n"
+                    "free text\n"
+                    "$LAYOUT\n"
+                    "Begin Dialog 1\n");
+    EXPECT_EQ(reading.ToldOfAll().substr(0, 26), "1:0+12 212 1\n4:0+14 212 4\n");
+}
+
+TEST(ErrorSink, IsToldOfTheEndOfTheFileInEachSection)
+{
+    Reading reading("$VERSION 1\n$LAYOUT\nBegin Dialog Box 1, 2, \"T\", .M\n");
+    EXPECT_EQ(reading.ToldOfAll(), "3:30+0 216 \n3:30+0 217 $DEPENDANCES\n3:30+0 217 $EVALUATION\n"
+                                   "3:30+0 217 $INPUT\n3:30+0 217 $END\n");
+}
+
+TEST(Places, AreThoseOfTheFileAndNumbersThoseOfTheLinesLeftIn)
+{
+    Reading reading("<X\nA(1)\n>\nB\n");
+    CString text;
+    CStringList words;
+    EXPECT_EQ(reading.File().ReadValueStatement(text, text, words), 1);
+    EXPECT_EQ(reading.Told(), "4:0+1 212 1\n");
+}
+
+TEST(Places, AreCountedFromTheStartOfALongLine)
+{
+    const std::string blanks(398, ' ');
+    Reading reading(blanks + "x\n");
+    CString text;
+    CStringList words;
+    EXPECT_EQ(reading.File().ReadValueStatement(text, text, words), 1);
+    EXPECT_EQ(reading.File().ReadValueStatement(text, text, words), 1);
+    EXPECT_EQ(reading.Told(), "1:0+399 212 1\n");
+
+    Reading pieces(blanks + " ab\n");
+    EXPECT_EQ(pieces.File().ReadValueStatement(text, text, words), 1);
+    EXPECT_EQ(pieces.File().ReadValueStatement(text, text, words), 1);
+    EXPECT_EQ(pieces.Told(), "1:399+2 212 2\n");
+}
+
+TEST(Places, StandInTheRecords)
+{
+    Reading reading("Text 1, 2, 3, 4, .A\n");
+    reading.File().ReadControlStatement(reading.control);
+    EXPECT_EQ(Shown(reading.control.span), "1:0+19");
+
+    Reading rules(" A/ACTIVE = B(1), C\n");
+    ClytControlDep rule;
+    rules.File().ReadDependencyStatement(rule);
+    EXPECT_EQ(Shown(rule.span), "1:0+19");
+    EXPECT_EQ(Shown(rule.conditions.GetHead()->GetSpan()), "1:12+1");
+    EXPECT_EQ(Shown(rule.conditions.GetTail()->GetSpan()), "1:18+1");
+
+    Reading input("Start: (\";\", Next = A\nNext: A(1) = End, End\n$OUTPUT\n");
+    input.File().ReadInputPart(input.part);
+    const ClytDialogInput& scan = *input.part.GetStatements().GetHead();
+    EXPECT_EQ(Shown(scan.span), "1:0+21");
+    EXPECT_EQ(Shown(scan.scanRule.scan.GetSeparators().GetHead()->span), "1:9+1");
+    EXPECT_EQ(Shown(scan.scanRule.rules.GetHead()->fills.GetHead()->span), "1:20+1");
+    EXPECT_EQ(Shown(input.part.GetStatements().GetTail()->conditions.GetHead()->GetSpan()), "2:6+1");
+
+    Reading output("A = (\"%s\", A)\n");
+    CString name;
+    output.File().ReadOutputStatement(name, output.output);
+    EXPECT_EQ(Shown(output.output.span), "1:0+13");
+}
