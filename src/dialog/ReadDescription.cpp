@@ -3,8 +3,20 @@
 
 #include "environment/ClytEnvironment.h"
 #include "environment/ClytException.h"
+#include "model/ClytObserver.h"
 
 #include <limits>
+
+namespace
+{
+
+void TellPassedOver(ClytPassedOver what, const CString& name, const ClytSpan& place)
+{
+    if (lytObserver != nullptr)
+        lytObserver->PassedOver(what, name, place);
+}
+
+} // namespace
 
 int lytScaled(int units, float factor)
 {
@@ -52,7 +64,7 @@ void ClytDialogRules::CloseFile()
     }
 }
 
-// The words of a section's header behind the first.
+// The words of a section's header after the first.
 void ClytDialogRules::TakeHeaderWords(CStringList& words)
 {
     words.RemoveAll();
@@ -96,7 +108,10 @@ void ClytDialogRules::CreateLayoutControl(const ClytControlStatement& statement)
                             {lytScaled(statement.x, lytScaleX), lytScaled(statement.y, lytScaleY)},
                             {lytScaled(statement.width, lytScaleX), lytScaled(statement.height, lytScaleY)}, label);
     if (made == nullptr)
+    {
+        TellPassedOver(ClytPassedOver::LayoutStatement, statement.type, statement.span);
         return;
+    }
     ClytControl& control = controlList.AddTail(std::move(made));
     controlMap.SetAt(statement.name, &control);
 }
@@ -110,8 +125,12 @@ void ClytDialogRules::ReadValues()
     {
         ClytControl* control = FindControl(name);
         // A line without a statement has an empty name, which is that of the last nameless control.
-        if (control != nullptr && !values.IsEmpty())
+        if (values.IsEmpty())
+            continue;
+        if (control != nullptr)
             control->SetOption(values, keyword);
+        else
+            TellPassedOver(ClytPassedOver::ValueStatement, name, file.GetLinePlace());
     }
 }
 
@@ -122,8 +141,15 @@ void ClytDialogRules::ReadDependencies()
     auto rule = std::make_unique<ClytControlDep>();
     while (file.ReadDependencyStatement(*rule) == 1)
     {
-        if (rule->controlName.IsEmpty() || FindControl(rule->controlName) == nullptr)
+        if (rule->controlName.IsEmpty())
             continue;
+        if (FindControl(rule->controlName) == nullptr)
+        {
+            // The name stays in the record, so an empty line that follows finds it again.
+            if (rule->span.line == file.GetLinePlace().line)
+                TellPassedOver(ClytPassedOver::DependencyRule, rule->controlName, rule->span);
+            continue;
+        }
         dependencyList.AddTail(std::move(rule));
         rule = std::make_unique<ClytControlDep>();
     }
@@ -154,8 +180,12 @@ void ClytDialogRules::ReadEvaluations()
         if (file.ReadEvaluationStatement(own, other, messageKey) == 0)
             return;
         ClytControl* control = FindControl(own.GetName());
-        if (control != nullptr && !own.GetValues().IsEmpty())
+        if (own.GetValues().IsEmpty())
+            continue;
+        if (control != nullptr)
             control->SetEvaluation(own, other, messageKey);
+        else
+            TellPassedOver(ClytPassedOver::Evaluation, own.GetName(), own.GetSpan());
     }
 }
 

@@ -2,12 +2,19 @@
 
 #include "controls/ClytControl.h"
 #include "environment/Words.h"
+#include "model/ClytObserver.h"
 
 void ClytControlFill::Apply(const CString& piece, const ClytControlMap& controls) const
 {
     ClytControl* control = nullptr;
     if (!controls.Lookup(controlName, control))
+    {
+        if (lytObserver != nullptr)
+            lytObserver->PassedOver(ClytPassedOver::Fill, controlName, span);
         return;
+    }
+    if (lytObserver != nullptr)
+        lytObserver->Filled(*this, piece);
     if (lytSameWord(action, "FILL"))
         control->FillByLibrary();
     else if (lytSameWord(action, "ADD"))

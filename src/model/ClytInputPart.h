@@ -3,6 +3,8 @@
 
 #include "model/ClytDialogInput.h"
 
+class ClytScanner;
+
 class ClytInputPart : public CObject
 {
 public:
@@ -17,6 +19,9 @@ public:
     void Run(CString text, const CString& name, const ClytControlMap& controls) const;
 
 private:
+    // Gives the name of the statement that goes on.
+    static CString RunStatement(const ClytDialogInput& statement, ClytScanner& scanner, const ClytControlMap& controls);
+
     ClytOwnedList<ClytDialogInput> statements;
     CTypedPtrMap<CMapStringToPtr, CString, ClytDialogInput*> statementsByName;
 };
