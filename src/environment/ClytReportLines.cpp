@@ -1,26 +1,26 @@
 #include "environment/ClytReportLines.h"
 
-POSITION ClytReportLines::FindIndex(int index)
+const CString* ClytReportLines::Find(int index)
 {
-    if (index < 0 || index >= GetCount())
+    if (index < 0 || index >= lines.GetCount())
         return nullptr;
 
     // From the kept place in either direction, unless the head is nearer.
     if (lastPlace == nullptr || index < lastIndex / 2)
     {
-        lastPlace = GetHeadPosition();
+        lastPlace = lines.GetHeadPosition();
         lastIndex = 0;
     }
     for (; lastIndex < index; ++lastIndex)
-        GetNext(lastPlace);
+        lines.GetNext(lastPlace);
     for (; lastIndex > index; --lastIndex)
-        GetPrev(lastPlace);
-    return lastPlace;
+        lines.GetPrev(lastPlace);
+    return &lines.GetAt(lastPlace);
 }
 
 void ClytReportLines::RemoveAll()
 {
-    CStringList::RemoveAll();
+    lines.RemoveAll();
     lastPlace = nullptr;
     lastIndex = 0;
 }

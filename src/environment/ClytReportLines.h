@@ -1,22 +1,21 @@
 // The lines of the report, in order, until its last line was read. Readers name a line by its index; the place found last
-// is kept, so that a walk from line to line costs one step a line.
+// is kept, so that a walk from line to line costs one step a line. Lines go all at once, so the kept place never outlives
+// its line.
 #pragma once
 
 #include <afxcoll.h>
 
-class ClytReportLines : public CStringList
+class ClytReportLines
 {
 public:
+    void AddTail(CString line) { lines.AddTail(std::move(line)); }
     // Null when no line stands at the index.
-    POSITION FindIndex(int index);
+    const CString* Find(int index);
     void RemoveAll();
+    const CStringList& GetLines() const { return lines; }
 
 private:
-    // Lines go all at once: the kept place must not outlive its line.
-    using CStringList::RemoveAt;
-    using CStringList::RemoveHead;
-    using CStringList::RemoveTail;
-
+    CStringList lines;
     POSITION lastPlace = nullptr;
     int lastIndex = 0;
 };

@@ -4,6 +4,7 @@
 #include "environment/ClytINISection.h"
 #include "sysinfo/Locale.h"
 #include "sysinfo/Probes.h"
+#include "sysinfo/ReportLines.h"
 
 #include <string>
 
@@ -62,8 +63,9 @@ void lytProbeFonts()
     ClytINISection section(iniFile, "FONTS");
     const bool isRead = section.Read();
 
-    CStringList& lines = lytEnvironment.lytReportLines;
+    CStringList lines;
     AddFontLines(iniFile, isRead ? &section : nullptr, EnumerateFonts, lines);
     AddLocaleLines(LocaleText, lines);
     AddLanguageGroupLines(FindGroupTest(), lines);
+    AddReportLines(lines);
 }

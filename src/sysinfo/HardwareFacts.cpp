@@ -1,4 +1,3 @@
-#include "environment/ClytEnvironment.h"
 #include "sysinfo/Hardware.h"
 #include "sysinfo/Probes.h"
 #include "sysinfo/RegistryKey.h"
@@ -81,7 +80,9 @@ HardwareFacts ReadHardwareFacts()
 void lytProbeHardware()
 {
     AddReportLine(lytProbeWindowsName());
-    AddHardwareLines(ReadHardwareFacts(), lytEnvironment.lytReportLines);
+    CStringList lines;
+    AddHardwareLines(ReadHardwareFacts(), lines);
+    AddReportLines(lines);
 }
 
 CString lytProbeScreen()

@@ -1,6 +1,6 @@
-#include "environment/ClytEnvironment.h"
 #include "sysinfo/Printers.h"
 #include "sysinfo/Probes.h"
+#include "sysinfo/ReportLines.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -100,5 +100,7 @@ PrintersFacts ReadPrintersFacts()
 
 void lytProbePrinters()
 {
-    AddPrinterLines(ReadPrintersFacts(), lytEnvironment.lytReportLines);
+    CStringList lines;
+    AddPrinterLines(ReadPrintersFacts(), lines);
+    AddReportLines(lines);
 }

@@ -1,6 +1,7 @@
 // The report's end at which every probe appends.
 #pragma once
 
-#include <afx.h>
+#include <afxcoll.h>
 
 void AddReportLine(CString line);
+void AddReportLines(const CStringList& lines);

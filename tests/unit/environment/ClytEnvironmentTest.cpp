@@ -106,7 +106,7 @@ TEST(ClytEnvironment, ResetKeepsDefinesAndTheVersionInUse)
     EXPECT_EQ(environment.lytWordCurrent, "16.0 64 bit");
     EXPECT_EQ(environment.lytOfficeRelease, "");
     EXPECT_EQ(environment.lytOfficeVersion, "");
-    EXPECT_TRUE(environment.lytReportLines.IsEmpty());
+    EXPECT_TRUE(environment.lytReportLines.GetLines().IsEmpty());
 }
 
 TEST_F(LanguageTexts, StandInTheFileOfTheCurrentLanguage)

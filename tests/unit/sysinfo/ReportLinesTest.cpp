@@ -25,7 +25,7 @@ protected:
         const int read = lytReadReportLine(index, target, sizeof target);
         return std::to_string(read) + ":" + target;
     }
-    static int Count() { return lytEnvironment.lytReportLines.GetCount(); }
+    static int Count() { return lytEnvironment.lytReportLines.GetLines().GetCount(); }
 };
 
 } // namespace

@@ -15,7 +15,7 @@ ProbeFixture::~ProbeFixture()
 ProbeFixture::Texts ProbeFixture::TakeLines()
 {
     Texts texts;
-    const CStringList& lines = lytEnvironment.lytReportLines;
+    const CStringList& lines = lytEnvironment.lytReportLines.GetLines();
     for (POSITION place = lines.GetHeadPosition(); place != nullptr;)
         texts.emplace_back(lines.GetNext(place).GetString());
     lytEnvironment.lytReportLines.RemoveAll();
