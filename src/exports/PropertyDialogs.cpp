@@ -8,6 +8,7 @@
 #include "exports/ExportFrame.h"
 
 #include <algorithm>
+#include <optional>
 
 namespace
 {
@@ -43,6 +44,16 @@ int EditPlaceholder(const char* description, const CString& key, char* result, i
     return outcome;
 }
 
+// What a group's dialog gives back. A buffer without a text is left as the caller gave it.
+struct GroupAnswer
+{
+    Outcome outcome = nothing;
+    bool isTooLong = false; // for the first buffer
+    std::optional<CString> first;
+    std::optional<CString> second;
+    CString kind; // of the old key, for its place in the second buffer; may be empty
+};
+
 // One key of a group. The part before the bracket belongs to the document and is kept from the dialog.
 class GroupKey
 {
@@ -59,24 +70,17 @@ public:
 
     // What the dialog is to scan.
     const CString& Input() const { return m_input; }
-    bool IsUnchanged(const CString& tail) const
-    {
-        return m_isSplit && (m_input == tail || (m_kind == 0 && m_input.Find(tail) >= 0));
-    }
-    // Gives back to a changed key what the dialog has not seen.
-    void Rejoin(const CString& tail, char* first, int firstSize, char* second, int secondSize) const
-    {
-        if (m_key.IsEmpty() || !m_isSplit)
-            return;
-        CopyText(first, firstSize, m_head + tail);
-        if (IsUsable(second, secondSize) && secondSize >= kindEnd && m_key.GetLength() >= kindEnd)
-            std::copy_n(m_key.GetString() + kindBegin, kindEnd - kindBegin, second + kindBegin);
-    }
+    // The answer to a confirmed dialog; `before` is what stands in the first buffer.
+    GroupAnswer AnswerTo(const CString& result, const CString& before, int firstSize) const;
 
 private:
     static bool IsToBeSplit(int groupKind, const CString& text)
     {
         return (groupKind == 1 && !text.IsEmpty()) || text.Find("BNG") >= 0;
+    }
+    bool IsUnchanged(const CString& tail) const
+    {
+        return m_isSplit && (m_input == tail || (m_kind == 0 && m_input.Find(tail) >= 0));
     }
 
     int m_kind;
@@ -86,43 +90,71 @@ private:
     bool m_isSplit;
 };
 
-// Hands out the two parts of a group dialog's result; false when the first is too long for its buffer.
-bool HandOutParts(const CString& result, char* first, int firstSize, char* second, int secondSize)
+// Cuts a result into the parts for the two buffers.
+void CutResult(const CString& result, GroupAnswer& answer)
 {
     const int mark = result.Find(")/1");
-    const CString left = mark >= 0 ? result.Left(mark + 1) : CString();
-    const CString right = mark >= 0 ? result.Mid(mark + 2) : CString();
-    CopyText(first, firstSize, left);
-    if (left.GetLength() > firstSize)
+    answer.first = mark >= 0 ? result.Left(mark + 1) : CString();
+    answer.second = mark >= 0 ? result.Mid(mark + 2) : CString();
+}
+
+GroupAnswer GroupKey::AnswerTo(const CString& result, const CString& before, int firstSize) const
+{
+    GroupAnswer answer;
+    CString text = before;
+    if (!result.IsEmpty())
+    {
+        CutResult(result, answer);
+        const int length = answer.first->GetLength();
+        answer.isTooLong = length > firstSize;
+        // A text as long as its buffer leaves it empty.
+        text = length < firstSize ? *answer.first : CString();
+    }
+    if (answer.isTooLong)
+        return answer;
+
+    const int bracket = text.Find('(');
+    const CString tail = bracket >= 0 ? text.Mid(bracket) : CString();
+    answer.outcome = IsUnchanged(tail) ? unchanged : changed;
+    if (answer.outcome == unchanged || m_key.IsEmpty() || !m_isSplit)
+        return answer;
+    // A changed key gets back what the dialog has not seen.
+    answer.first = m_head + tail;
+    if (m_key.GetLength() >= kindEnd)
+        answer.kind = m_key.Mid(kindBegin, kindEnd - kindBegin);
+    return answer;
+}
+
+Outcome HandOut(const GroupAnswer& answer, char* first, int firstSize, char* second, int secondSize)
+{
+    if (answer.first)
+        CopyText(first, firstSize, *answer.first);
+    if (answer.isTooLong)
     {
         CString room;
         room.Format("%d", firstSize);
         lytReport("254", CString(), room);
-        return false;
+        return nothing;
     }
-    if (IsUsable(second, secondSize))
-        CopyTextMarkingEnd(second, secondSize, right);
-    return true;
+    if (!IsUsable(second, secondSize))
+        return answer.outcome;
+    if (answer.second)
+        CopyTextMarkingEnd(second, secondSize, *answer.second);
+    if (secondSize >= kindEnd)
+        std::copy_n(answer.kind.GetString(), answer.kind.GetLength(), second + kindBegin);
+    return answer.outcome;
 }
 
-int EditGroup(const GroupKey& key, const char* description, char* first, int firstSize, char* second, int secondSize)
+Outcome EditGroup(const GroupKey& key, const char* description, char* first, int firstSize, char* second,
+                  int secondSize)
 {
     ClytDialog dialog(DescriptionFile(description), lytEnvironment.GetDialogDefine());
     if (!key.Input().IsEmpty())
         lytInputKey = key.Input();
     if (dialog.DoModal() != IDOK)
         return nothing;
-    const CString& result = dialog.GetResult();
-    if (!result.IsEmpty() && !HandOutParts(result, first, firstSize, second, secondSize))
-        return nothing;
-
-    const CString text = TextIn(first, firstSize);
-    const int bracket = text.Find('(');
-    const CString tail = bracket >= 0 ? text.Mid(bracket) : CString();
-    if (key.IsUnchanged(tail))
-        return unchanged;
-    key.Rejoin(tail, first, firstSize, second, secondSize);
-    return changed;
+    const GroupAnswer answer = key.AnswerTo(dialog.GetResult(), TextIn(first, firstSize), firstSize);
+    return HandOut(answer, first, firstSize, second, secondSize);
 }
 
 } // namespace
@@ -146,7 +178,7 @@ int __stdcall lytGroupPropertyDialog(int kind, const char* key, char* first, int
     if (!IsUsable(first, firstSize))
         return nothing;
     const char* description = kind == 0 ? "lytCdGrp.dlg" : "lytRpGrp.dlg";
-    const int outcome = EditGroup(GroupKey(kind, key), description, first, firstSize, second, secondSize);
+    const Outcome outcome = EditGroup(GroupKey(kind, key), description, first, firstSize, second, secondSize);
     lytInputKey.Empty();
     return outcome;
 }
