@@ -205,9 +205,9 @@ int ClytDialogRules::ComposeResult()
     }
     catch (ClytException* e)
     {
+        const ClytCaught failure(e);
         char message[255] = "";
-        e->GetErrorMessage(message, sizeof message);
-        e->Delete();
+        failure->GetErrorMessage(message, sizeof message);
         lytRaise("246", message);
     }
 }

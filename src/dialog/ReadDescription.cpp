@@ -59,7 +59,7 @@ void ClytDialogRules::CloseFile()
     }
     catch (CException* e)
     {
-        e->Delete();
+        const ClytCaught failure(e);
         lytRaise("209", CString(), fileName);
     }
 }

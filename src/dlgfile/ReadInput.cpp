@@ -33,9 +33,7 @@ void ReadGuarded(Read read)
     }
     catch (CException* e)
     {
-        const CString message = lytMessageOf(*e);
-        e->Delete();
-        lytRaise("206", message);
+        lytRaiseInstead(ClytCaught(e), "206");
     }
 }
 

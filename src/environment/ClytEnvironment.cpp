@@ -19,9 +19,7 @@ CString Guarded(Read read)
     }
     catch (CException* e)
     {
-        const CString message = lytMessageOf(*e);
-        e->Delete();
-        lytRaise("206", message);
+        lytRaiseInstead(ClytCaught(e), "206");
     }
 }
 

@@ -35,6 +35,11 @@ void lytRaise(const char* number, const CString& prefix, const CString& argument
     throw new ClytException(lytErrorSection, number, prefix, argument);
 }
 
+void lytRaiseInstead(ClytCaught failure, const char* number, const CString& argument)
+{
+    lytRaise(number, lytMessageOf(*failure), argument);
+}
+
 void lytReport(const char* number, const CString& prefix, const CString& argument)
 {
     ClytException(lytErrorSection, number, prefix, argument).ReportError();

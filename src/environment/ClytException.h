@@ -6,6 +6,8 @@
 
 #include <afx.h>
 
+#include <memory>
+
 class ClytException : public CException
 {
 public:
@@ -29,11 +31,20 @@ private:
     CString argument;
 };
 
+// A caught failure; deleted whatever happens next.
+struct ClytDeleteFailure
+{
+    void operator()(CException* e) const { e->Delete(); }
+};
+using ClytCaught = std::unique_ptr<CException, ClytDeleteFailure>;
+
 // The section of the numbered errors.
 inline constexpr const char* lytErrorSection = "Dialog_Error";
 
 // Raises a numbered error.
 [[noreturn]] void lytRaise(const char* number, const CString& prefix = CString(), const CString& argument = CString());
+// Raises a numbered error in place of a caught failure, whose message becomes the prefix.
+[[noreturn]] void lytRaiseInstead(ClytCaught failure, const char* number, const CString& argument = CString());
 // Shows a numbered error; the operation goes on.
 void lytReport(const char* number, const CString& prefix = CString(), const CString& argument = CString());
 // The text of a key of the numbered errors, for those that serve as the prefix of another.

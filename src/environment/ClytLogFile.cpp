@@ -40,10 +40,9 @@ void Guarded(CFile& file, const char* number, const CString& logName, Step step)
     }
     catch (CException* e)
     {
-        const CString message = lytMessageOf(*e);
-        e->Delete();
+        ClytCaught failure(e);
         file.Abort();
-        lytRaise(number, message, logName);
+        lytRaiseInstead(std::move(failure), number, logName);
     }
 }
 
