@@ -35,6 +35,14 @@ TEST_F(EvaluationStatement, MayStopBehindTheFirstValues)
     EXPECT_EQ(Evaluation("A(1)\n"), "A(1); ; ");
 }
 
+TEST_F(EvaluationStatement, PassesOverAWordAfterEitherList)
+{
+    EXPECT_EQ(Evaluation("A(1) word = B(2): KEY\n"), "A(1); B(2); KEY");
+    EXPECT_EQ(Evaluation("A(1) = B(2) word: KEY\n"), "A(1); B(2); KEY");
+    EXPECT_EQ(EvaluationFailure("A(1) word, B(2): KEY\n"), "212 '1'");
+    EXPECT_EQ(EvaluationFailure("A(1) = B(2) word, KEY\n"), "212 '1'");
+}
+
 TEST_F(EvaluationStatement, TakesTheShortForm)
 {
     EXPECT_EQ(Evaluation("EditName = NULL: MSG_EMPTY\n"), "EditName(NULL); ; MSG_EMPTY");

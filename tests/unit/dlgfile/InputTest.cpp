@@ -201,6 +201,17 @@ TEST_F(InputStatement, IgnoresTheWordOfAJump)
     EXPECT_EQ(Input("X: word = Next"), "X: ? word : Next\n");
 }
 
+TEST_F(InputStatement, PassesOverAnEqualsSignWithNothingBeforeItAmongItsConditions)
+{
+    EXPECT_EQ(Input("X: , = A(1) = T, F"), "X:A(1) ? T : F\n");
+    EXPECT_EQ(Input("X: A(1), = B(2) = T, F"), "X:A(1) B(2) ? T : F\n");
+}
+
+TEST_F(InputStatement, JumpsFromAnEqualsSignWithNothingBeforeIt)
+{
+    EXPECT_EQ(Input("X: = Next"), "X: ?  : Next\n");
+}
+
 TEST_F(InputStatement, OfConditionsWithoutBothTargetsRaises)
 {
     for (const char* line :
@@ -247,6 +258,9 @@ TEST_F(InputStatement, TakesFillRulesBehindAListThatALoneWordCloses)
     EXPECT_EQ(Input("X: (\";\", Second, x) = N, M"), "X:[';'>Second] N M\n");
     EXPECT_EQ(Input("X: (\";\", Second, x) N"), "X:[';'>Second] N\n");
     EXPECT_EQ(Input("X: () = N"), "X: N\n");
+    EXPECT_EQ(Input("X: (\";\", Second) x) = N"), "X:[';'>Second] N\n");
+    EXPECT_EQ(Input("X: (\";\", Second, 3)"), "X:[';'>Second]\n");
+    EXPECT_EQ(Input("X: (x) = N"), "X: N\n");
 }
 
 TEST_F(InputStatement, OfAScanListThatStaysUnfinishedRaises)

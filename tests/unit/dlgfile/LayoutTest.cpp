@@ -150,6 +150,22 @@ TEST_F(DialogHeader, OfAnotherThingIsNoDialog)
     EXPECT_EQ(Dialog("Begin Window Box 200, 100, \"T\", .M\n"), "no dialog");
 }
 
+TEST_F(DialogHeader, IsCountedBeforeItsSecondWordIsLookedAt)
+{
+    EXPECT_EQ(DialogFailure("Begin Window 200, 100, \"T\", .M\n"), "212 '1'");
+    EXPECT_EQ(DialogFailure("Begin\n"), "212 '1'");
+}
+
+TEST_F(DialogHeader, DoesNotFollowAnEmptyWord)
+{
+    for (const char* line : {", Begin Dialog Box 200 100 T .M\n", "(Begin Dialog Box 200 100 T .M)\n",
+                             "\"\" Begin Dialog Box 200 100 T\n", ",\nBegin Dialog Box 200 100 T .M\n"})
+    {
+        SCOPED_TRACE(line);
+        EXPECT_EQ(DialogFailure(line), "215 ''");
+    }
+}
+
 TEST_F(DialogHeader, IsNeededBeforeAnythingElse)
 {
     EXPECT_EQ(DialogFailure(""), "215 ''");

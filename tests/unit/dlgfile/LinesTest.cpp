@@ -64,6 +64,19 @@ TEST(Defines, AreNamedUpToABlankOrSemicolon)
     EXPECT_EQ(Lines("<x\na\n>\n", "X"), "");
 }
 
+TEST(Defines, AreNamedUpToACarriageReturn)
+{
+    EXPECT_EQ(Lines("<X\rmore\na\n>\n", "X"), "a\n");
+    EXPECT_EQ(Lines("<!X\rmore\na\n>\n", nullptr), "a\n");
+}
+
+TEST(Defines, EndAtAMarkerLineWhateverFollowsItsFirstCharacter)
+{
+    EXPECT_EQ(Lines("<No\na\n> end of No\nb\n", nullptr), "b\n");
+    EXPECT_EQ(Lines("<No\na\n>No\nb\n", nullptr), "b\n");
+    EXPECT_EQ(Lines("a\n>; note\nb\n", nullptr), "a\nb\n");
+}
+
 TEST(Defines, DoNotNest)
 {
     EXPECT_EQ(Lines("<No\na\n<X\nb\n>\nc\n>\nd\n", "X"), "b\nc\nd\n");

@@ -65,6 +65,22 @@ TEST_F(OutputStatement, PassesOverAWordBehindAnAction)
     EXPECT_EQ(Output("(\"%s\", x(a) y, z)\n"), " = %s, x:a, z");
 }
 
+TEST_F(OutputStatement, PassesOverAWordBeforeTheRightSide)
+{
+    EXPECT_EQ(Output("A(1) = word(\"x\", a)\n"), "A(1) = x, a");
+    EXPECT_EQ(Output("A = word (\"x\")\n"), "A = x");
+}
+
+TEST_F(OutputStatement, GoesOnAfterAListWithACommaOrAnEqualsSignOnly)
+{
+    for (const char* line : {"A(1): B = (\"x\")\n", "A(1) (B = (\"x\")\n", "A(1)) B = (\"x\")\n", "A(1)< B = (\"x\")\n",
+                             "A(1)> B = (\"x\")\n"})
+    {
+        SCOPED_TRACE(line);
+        EXPECT_EQ(OutputFailure(line), "212 '1'");
+    }
+}
+
 TEST_F(OutputStatement, TakesABareNameAsTheLastCondition)
 {
     EXPECT_EQ(Output("A = (\"x\")\n"), "A = x");

@@ -59,6 +59,12 @@ TEST_F(Tokenize, KeepsTheBackslashOfAQuoteInsideQuotes)
     EXPECT_EQ(Tokens("\"a\\\"b\",\n"), "[a\\\"b],");
 }
 
+TEST_F(Tokenize, DoesNotCloseAQuoteAfterTwoBackslashesEither)
+{
+    EXPECT_EQ(Tokens("\"a\\\\\",b\"c,d\n"), "[a\\\\\",b],[d]/");
+    EXPECT_EQ(RaisedMessage([] { Tokens("\"a\\\\\",b\n"); }), "210 ''");
+}
+
 TEST_F(Tokenize, CutsBlanksAlsoInsideQuotes)
 {
     EXPECT_EQ(Tokens("\"  a  \",\n"), "[a],");

@@ -166,6 +166,17 @@ TEST_F(DependencyStatement, OfWrongFormRaises)
     }
 }
 
+TEST_F(DependencyStatement, EndsNoConditionWithATab)
+{
+    for (const char* line :
+         {"Ok/ACTIVE = A\t\n", "Ok/ACTIVE = A\t, B\n", "Ok/ACTIVE = A\tB\n", "Ok/ACTIVE = A(1) B\tC\n"})
+    {
+        SCOPED_TRACE(line);
+        EXPECT_EQ(DependencyFailure(line), "212 '1'");
+    }
+    EXPECT_EQ(Dependency("Ok/ACTIVE =\tA,\tB\n"), "Ok/ACTIVE: A B");
+}
+
 TEST_F(DependencyStatement, FailsInTheClassLibraryWhereALineEndsTooEarly)
 {
     EXPECT_EQ(DependencyFailure("Ok/\n"), missingArgument);
