@@ -113,6 +113,14 @@ TEST_F(FillRules, TakeTheNextRuleAlongWhenTheyDoNotHold)
     EXPECT_EQ(Apply(""), "C.set() ");
 }
 
+TEST_F(FillRules, KnowNoMeaningOfNull)
+{
+    Rule("A", {"NULL"});
+    Rule("B");
+    EXPECT_EQ(Apply(""), "");
+    EXPECT_EQ(Apply("NULL"), "A.set(NULL) B.set(NULL) ");
+}
+
 TEST_F(FillRules, MayEndWithARuleThatDoesNotHold)
 {
     Rule("A");

@@ -36,6 +36,17 @@ protected:
         State(name).scanRule.scan.SetFixedLength(length, target);
     }
     void Jump(const char* name, const char* target) { State(name).falseTarget = target; }
+    // That many jumps in a row, from the state of that name to the one with the number after its name.
+    void JumpUpTo(const std::string& name, int count)
+    {
+        std::string from = name;
+        for (int number = 1; number <= count; ++number)
+        {
+            const std::string to = name + " " + std::to_string(number);
+            Jump(from.c_str(), to.c_str());
+            from = to;
+        }
+    }
     // What the run does, from the state "Start".
     std::string Run(const char* text)
     {
@@ -122,6 +133,16 @@ TEST_F(Scan, KeepsAClosingBracketWhileAnEarlierOneStaysOpen)
     Cut("B", {")", "C"});
     Cut("C", {"|", "End"});
     EXPECT_EQ(Run("((a)b)c"), "Start.set((() B.set(a)b) C.set(c) ");
+}
+
+TEST_F(Scan, CountsAClosingBracketBelowZero)
+{
+    // The first piece leaves the count at -1, and so of the two brackets opened after it only one counts as open.
+    Cut("Start", {")", "Two"});
+    CutLength("Two", 2, "B");
+    Cut("B", {")", "C"});
+    Cut("C", {"|", "End"});
+    EXPECT_EQ(Run("a)((b)c"), "Start.set(a) Two.set((() B.set(b) C.set(c) ");
 }
 
 TEST_F(Scan, CountsTheThreeKindsOfBracketsApart)
@@ -281,6 +302,25 @@ TEST_F(Scan, RaisesACircleOfStatementsThatConsumesNothing)
     controls.TakeLog();
     Cut("B", {")", "End"});
     EXPECT_EQ(Run("a)"), "B.set(a) ");
+}
+
+TEST_F(Scan, RaisesThe10000thChangeOfStateInARowThatConsumesNothing)
+{
+    JumpUpTo("Start", 9999);
+    Cut("Start 9999", {",", "End"});
+    EXPECT_EQ(Run("a,"), "Start 9999.set(a) ");
+    Jump("Start 9999", "Start 10000");
+    Cut("Start 10000", {",", "End"});
+    EXPECT_EQ(RaisedMessage([&] { Run("a,"); }), "The input statements go round in a circle.\n206 ''");
+}
+
+TEST_F(Scan, CountsChangesOfStateAnewOnceTextIsConsumed)
+{
+    JumpUpTo("Start", 9999);
+    Cut("Start 9999", {",", "Again"});
+    JumpUpTo("Again", 9999);
+    Cut("Again 9999", {",", "End"});
+    EXPECT_EQ(Run("a,b,"), "Start 9999.set(a) Again 9999.set(b) ");
 }
 
 TEST_F(Scan, MayGoRoundAsLongAsItConsumesText)
