@@ -182,6 +182,20 @@ TEST_F(Output, EvaluatesTheControlsItTakesWhenItIsTheResult)
     EXPECT_EQ(opened.GetResult(), "x");
 }
 
+TEST_F(Output, EvaluatesControlsThatAreTakenWithAllTheirValues)
+{
+    text.values = "L: one = 1\n";
+    text.evaluation = "L(1) = L(1): CLASH\n";
+    for (const char* item : {"L(\"/\")", "L()"})
+    {
+        SCOPED_TRACE(item);
+        text.output = std::string("(\"%s\", ") + item + ")\n";
+        HeadlessForm& opened = Open();
+        EXPECT_FALSE(opened.Confirm());
+        EXPECT_EQ(Messages(), "do not do that;");
+    }
+}
+
 TEST_F(Output, ShowsTheMessageOfARuleOnAnUnknownOtherControl)
 {
     text.evaluation = "A(x) = Unknown(y): CLASH\n";
