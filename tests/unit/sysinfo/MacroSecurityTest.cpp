@@ -23,10 +23,10 @@ std::string OfLevel(int n, unsigned level)
     return MacroSecurityText(facts).GetString();
 }
 
-std::string OfLocations(const char* directory, std::vector<CString> paths)
+std::string OfLocations(const char* directory, std::vector<CString> paths, int n = 16)
 {
     MacroSecurityFacts facts;
-    facts.n = 16;
+    facts.n = n;
     facts.isKeyOpen = true;
     facts.installDirectory = directory;
     facts.paths = std::move(paths);
@@ -54,6 +54,34 @@ TEST(MacroSecurity, NamesTheKeyThatCannotBeOpened)
     EXPECT_EQ(Fixed(11), R"(Cannot open registry key Software\Microsoft\Office\11.0\Word\Security)");
     EXPECT_EQ(Fixed(12), R"(Cannot open registry key Software\Microsoft\Office\12.0\Word\Security\Trusted Locations)");
     EXPECT_EQ(Fixed(99), R"(Cannot open registry key Software\Microsoft\Office\99.0\Word\Security\Trusted Locations)");
+}
+
+TEST(MacroSecurity, OfEachVersionFrom5To100IsALevelOrATrustedLocationOrFixedWords)
+{
+    const std::vector<CString> paths = {"C:\\lyt\\"};
+    for (int n = 5; n <= 100; ++n)
+    {
+        SCOPED_TRACE(n);
+        const std::string level = OfLevel(n, 3);
+        const std::string trust = OfLocations("C:\\lyt\\", paths, n);
+        const std::string key = R"(Software\Microsoft\Office\)" + std::to_string(n) + R"(.0\Word\Security)";
+        if (n >= 9 && n <= 11)
+        {
+            EXPECT_EQ(level, "3 HIGH");
+            EXPECT_STREQ(MacroSecurityKey(n), key.c_str());
+        }
+        else if (n >= 12 && n <= 99)
+        {
+            EXPECT_EQ(trust, "C:\\lyt\\ is a trusted location");
+            EXPECT_STREQ(MacroSecurityKey(n), (key + R"(\Trusted Locations)").c_str());
+        }
+        else
+        {
+            EXPECT_EQ(level, Fixed(n));
+            EXPECT_EQ(trust, Fixed(n));
+            EXPECT_EQ(MacroSecurityKey(n), "");
+        }
+    }
 }
 
 TEST(MacroSecurity, OfVersions9To11IsALevelWithItsWord)
