@@ -1,12 +1,12 @@
 #include "controls/ClytCheckBoxControl.h"
 
-#include "dialog/ClytDialog.h"
 #include "environment/Words.h"
 
-void ClytCheckBoxControl::CreateControl(ClytDialog* owner)
+void ClytCheckBoxControl::CreateControl(ClytForm* owner)
 {
     CreateCommon(owner, ClytFit::ToCaptionWithMargin,
-                 [&](const CRect& rect) { return Create(caption, WS_TABSTOP | BS_AUTOCHECKBOX, rect, owner, 0); });
+                 [&](const CRect& rect, CWnd* parent)
+                 { return Create(caption, WS_TABSTOP | BS_AUTOCHECKBOX, rect, parent, 0); });
     ApplyOptionFlags();
 
     // Texts that were never given are equal: a box without any statement starts checked.

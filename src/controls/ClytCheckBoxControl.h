@@ -8,7 +8,7 @@ class ClytCheckBoxControl : public ClytWindowControl<CButton>
 public:
     using ClytWindowControl::ClytWindowControl;
 
-    void CreateControl(ClytDialog* owner) override;
+    void CreateControl(ClytForm* owner) override;
     void SetOption(const CStringList& values, const CString& keyword) override;
     void SaveState() override { savedState = GetCheck(); }
     void SetControlFocus() override { SetFocus(); }

@@ -1,6 +1,5 @@
 #include "controls/ClytCheckListBox.h"
 
-#include "dialog/ClytDialog.h"
 #include "environment/ClytEnvironment.h"
 #include "environment/ClytRedrawPause.h"
 #include "environment/ProcessState.h"
@@ -25,10 +24,11 @@ BOOL ClytCheckListBox::PreCreateWindow(CREATESTRUCTA& create)
     return CCheckListBox::PreCreateWindow(create);
 }
 
-void ClytCheckListBox::CreateControl(ClytDialog* owner)
+void ClytCheckListBox::CreateControl(ClytForm* owner)
 {
     constexpr DWORD style = WS_CHILD | WS_VSCROLL | WS_HSCROLL | WS_TABSTOP | LBS_OWNERDRAWFIXED | LBS_HASSTRINGS;
-    CreateCommon(owner, ClytFit::ToLayout, [&](const CRect& rect) { return Create(style, rect, owner, 0); });
+    CreateCommon(owner, ClytFit::ToLayout,
+                 [&](const CRect& rect, CWnd* parent) { return Create(style, rect, parent, 0); });
     ApplyOptionFlags();
 
     const ClytRedrawPause pause(*this);

@@ -8,7 +8,7 @@ class ClytCheckListBox : public ClytListControl<CCheckListBox>
 public:
     ClytCheckListBox(CString controlName, ClytPosition topLeft, ClytSize extent, CString text);
 
-    void CreateControl(ClytDialog* owner) override;
+    void CreateControl(ClytForm* owner) override;
     void MoveCurrentItem(int up) override;
 
     // Inserts an item in arrays and window alike, and selects it; position 0 is the top. Without a value of its own the

@@ -1,6 +1,5 @@
 #include "controls/ClytComboBoxControl.h"
 
-#include "dialog/ClytDialog.h"
 #include "environment/ClytRedrawPause.h"
 #include "environment/Words.h"
 
@@ -36,15 +35,15 @@ BOOL ClytComboBoxControl::PreCreateWindow(CREATESTRUCTA& create)
     return CComboBox::PreCreateWindow(create);
 }
 
-void ClytComboBoxControl::CreateControl(ClytDialog* owner)
+void ClytComboBoxControl::CreateControl(ClytForm* owner)
 {
     CreateCommon(owner, ClytFit::ToLayout,
-                 [&](const CRect& rect)
+                 [&](const CRect& rect, CWnd* parent)
                  {
                      for (const ComboKind& known : comboKinds)
                      {
                          if (lytSameWord(comboKind, known.word))
-                             return Create(known.style, rect, owner, 0);
+                             return Create(known.style, rect, parent, 0);
                      }
                      return TRUE;
                  });

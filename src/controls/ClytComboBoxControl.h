@@ -9,7 +9,7 @@ public:
     // The type word of the layout: "ComboBox" takes free text, "DropListBox" does not; any other makes no window.
     ClytComboBoxControl(CString typeWord, CString controlName, ClytPosition topLeft, ClytSize extent, CString text);
 
-    void CreateControl(ClytDialog* owner) override;
+    void CreateControl(ClytForm* owner) override;
     // "FILL" fills the list through its library; a value that no item has becomes the text of the edit field.
     void SetValue(const CString& value) override;
     // Without a selection the value is the text of the window.

@@ -1,4 +1,4 @@
-#include "dialog/ClytControlTypes.h"
+#include "controls/ClytControlTypes.h"
 
 #include "controls/ClytCheckBoxControl.h"
 #include "controls/ClytCheckListBox.h"
@@ -11,8 +11,8 @@
 #include "controls/ClytPushButtonControl.h"
 #include "controls/ClytRadioButtonControl.h"
 #include "controls/ClytStaticControl.h"
-#include "dialog/ClytDialogRules.h"
 #include "environment/Words.h"
+#include "model/ClytScale.h"
 
 namespace
 {

@@ -1,7 +1,7 @@
 // The type words of the layout section, and the control that each stands for.
 #pragma once
 
-#include "controls/ClytControl.h"
+#include "model/ClytControl.h"
 
 #include <memory>
 

@@ -1,7 +1,6 @@
 #include "controls/ClytDefaultControl.h"
 
 #include "controls/ClytWindowControl.h"
-#include "dialog/ClytDialog.h"
 #include "environment/ClytEnvironment.h"
 
 #include <iterator>
@@ -31,16 +30,17 @@ ClytDefaultControl::ClytDefaultControl(ClytPosition topLeft, ClytSize extent, in
 }
 
 // A button that cannot be created goes unnoticed: the dialog can still be closed by its frame.
-void ClytDefaultControl::CreateControl(ClytDialog* owner)
+void ClytDefaultControl::CreateControl(ClytForm* owner)
 {
     if (kind < 0 || kind >= static_cast<int>(std::size(buttonKinds)))
         return;
     const ButtonKind& button = buttonKinds[kind];
-    Create(lytEnvironment.GetText("Buttons", button.textKey), button.style, lytLayoutRect(position, size), owner,
+    CWnd& window = owner->GetWindow();
+    Create(lytEnvironment.GetText("Buttons", button.textKey), button.style, lytLayoutRect(position, size), &window,
            button.id);
-    if (const CWnd* child = owner->GetDlgItem(static_cast<int>(button.id)))
+    if (const CWnd* child = window.GetDlgItem(static_cast<int>(button.id)))
     {
         child->ShowWindow(SW_SHOW);
-        lytTakeDialogFont(*child, *owner);
+        lytTakeDialogFont(*child, window);
     }
 }

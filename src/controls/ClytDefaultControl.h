@@ -2,7 +2,7 @@
 // which the platform ends a dialog; rules have no power over it.
 #pragma once
 
-#include "controls/ClytControl.h"
+#include "model/ClytControl.h"
 
 #include <afxwin.h>
 
@@ -12,7 +12,7 @@ public:
     // The kind is 1 for OK and 0 for Cancel; any other kind never shows.
     ClytDefaultControl(ClytPosition topLeft, ClytSize extent, int buttonKind);
 
-    void CreateControl(ClytDialog* owner) override;
+    void CreateControl(ClytForm* owner) override;
     int IsActive() override { return 0; }
     int HasContent() override { return 0; }
 };

@@ -2,7 +2,6 @@
 
 #include "controls/ClytDataLibrary.h"
 #include "controls/ClytWaitCursor.h"
-#include "dialog/ClytDialog.h"
 
 namespace
 {
@@ -18,11 +17,11 @@ BOOL ClytEditControl::PreCreateWindow(CREATESTRUCTA& create)
     return CEdit::PreCreateWindow(create);
 }
 
-void ClytEditControl::CreateControl(ClytDialog* owner)
+void ClytEditControl::CreateControl(ClytForm* owner)
 {
     CreateCommon(owner, ClytFit::ToLayout,
-                 [&](const CRect& rect)
-                 { return Create(WS_VISIBLE | WS_BORDER | WS_TABSTOP | ES_AUTOHSCROLL, rect, owner, 0); });
+                 [&](const CRect& rect, CWnd* parent)
+                 { return Create(WS_VISIBLE | WS_BORDER | WS_TABSTOP | ES_AUTOHSCROLL, rect, parent, 0); });
     ApplyOptionFlags();
     SetValue(defaultValue);
 }

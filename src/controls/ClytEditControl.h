@@ -8,7 +8,7 @@ class ClytEditControl : public ClytWindowControl<CEdit>
 public:
     using ClytWindowControl::ClytWindowControl;
 
-    void CreateControl(ClytDialog* owner) override;
+    void CreateControl(ClytForm* owner) override;
     void SetOption(const CStringList& values, const CString& keyword) override;
     void SaveState() override { savedText = GetValue(); }
     void SetControlFocus() override { SetFocus(); }

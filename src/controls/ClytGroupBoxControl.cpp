@@ -1,7 +1,5 @@
 #include "controls/ClytGroupBoxControl.h"
 
-#include "dialog/ClytDialog.h"
-
 ClytGroupBoxControl::ClytGroupBoxControl(CString controlName, ClytPosition topLeft, ClytSize extent, CString text)
     : ClytWindowControl(std::move(controlName), topLeft, extent, std::move(text))
 {
@@ -9,10 +7,10 @@ ClytGroupBoxControl::ClytGroupBoxControl(CString controlName, ClytPosition topLe
         caption.Empty();
 }
 
-void ClytGroupBoxControl::CreateControl(ClytDialog* owner)
+void ClytGroupBoxControl::CreateControl(ClytForm* owner)
 {
     CreateCommon(owner, ClytFit::ToLayout,
-                 [&](const CRect& rect) { return Create(caption, BS_GROUPBOX, rect, owner, 0); });
+                 [&](const CRect& rect, CWnd* parent) { return Create(caption, BS_GROUPBOX, rect, parent, 0); });
     ApplyOptionFlags();
 }
 

@@ -9,6 +9,6 @@ public:
     // A caption of two quotation marks stands for none.
     ClytGroupBoxControl(CString controlName, ClytPosition topLeft, ClytSize extent, CString text);
 
-    void CreateControl(ClytDialog* owner) override;
+    void CreateControl(ClytForm* owner) override;
     void SetOption(const CStringList& values, const CString& keyword) override;
 };

@@ -1,7 +1,6 @@
 #include "controls/ClytItemControl.h"
 
 #include "controls/ClytWaitCursor.h"
-#include "dialog/ClytDialog.h"
 #include "environment/ClytEnvironment.h"
 #include "environment/ClytRedrawPause.h"
 #include "environment/Words.h"

@@ -1,6 +1,5 @@
 #include "controls/ClytListBoxControl.h"
 
-#include "dialog/ClytDialog.h"
 #include "environment/ClytEnvironment.h"
 #include "environment/ClytRedrawPause.h"
 
@@ -15,11 +14,11 @@ BOOL ClytListBoxControl::PreCreateWindow(CREATESTRUCTA& create)
     return CListBox::PreCreateWindow(create);
 }
 
-void ClytListBoxControl::CreateControl(ClytDialog* owner)
+void ClytListBoxControl::CreateControl(ClytForm* owner)
 {
     // The style sorts what is added, but not what is inserted: the items keep their order.
     CreateCommon(owner, ClytFit::ToLayout,
-                 [&](const CRect& rect) { return Create(LBS_STANDARD | WS_TABSTOP, rect, owner, 0); });
+                 [&](const CRect& rect, CWnd* parent) { return Create(LBS_STANDARD | WS_TABSTOP, rect, parent, 0); });
     ApplyOptionFlags();
 
     const ClytRedrawPause pause(*this);

@@ -8,7 +8,7 @@ class ClytListBoxControl : public ClytListControl<CListBox>
 public:
     using ClytListControl::ClytListControl;
 
-    void CreateControl(ClytDialog* owner) override;
+    void CreateControl(ClytForm* owner) override;
     // Position 0 means the end. Every added item selects the first item of the list.
     void AddItem(const CString& value, const CString& display, int hasValue, int place) override;
     void MoveCurrentItem(int up) override;

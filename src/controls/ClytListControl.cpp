@@ -1,7 +1,6 @@
 #include "controls/ClytListControl.h"
 
 #include "controls/ClytPushButtonControl.h"
-#include "dialog/ClytDialog.h"
 #include "dlgfile/Tokenize.h"
 #include "environment/ClytRedrawPause.h"
 #include "environment/Words.h"

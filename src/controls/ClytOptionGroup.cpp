@@ -51,7 +51,7 @@ void ClytOptionGroup::Remove(const ClytRadioButtonControl& button)
     }
 }
 
-void ClytOptionGroup::CreateControl(ClytDialog* owner)
+void ClytOptionGroup::CreateControl(ClytForm* owner)
 {
     dialog = owner;
     // Only the first option that is set goes on to the buttons, whose windows come after the group.

@@ -2,7 +2,7 @@
 // buttons. It has no window.
 #pragma once
 
-#include "controls/ClytControl.h"
+#include "model/ClytForm.h"
 
 #include <afxtempl.h>
 #include <afxwin.h>
@@ -22,7 +22,7 @@ public:
     static void AddToCurrentGroup(ClytRadioButtonControl& button);
     void Remove(const ClytRadioButtonControl& button);
 
-    void CreateControl(ClytDialog* owner) override;
+    void CreateControl(ClytForm* owner) override;
     // The value preselects the button whose own value it is, so the statement stands behind those of the buttons.
     void SetOption(const CStringList& values, const CString& keyword) override;
     void SaveState() override { savedValue = GetValue(); }

@@ -3,7 +3,6 @@
 
 #include "controls/ClytDataLibrary.h"
 #include "controls/ClytWaitCursor.h"
-#include "dialog/ClytDialog.h"
 #include "environment/ClytEnvironment.h"
 #include "environment/ProcessState.h"
 #include "environment/Words.h"
@@ -156,10 +155,10 @@ ClytPushButtonControl::After ClytPushButtonControl::OpenDialog()
     if (!outputRule.IsEmpty() && lytInputKey.IsEmpty())
         return After::Nothing;
 
-    ClytDialog nested(file, lytEnvironment.GetDialogDefine());
-    if (nested.DoModal() != IDOK)
+    const std::optional<CString> result = dialog->ShowNested(file);
+    if (!result)
         return After::RunRules;
-    lytInputKey = nested.GetResult();
+    lytInputKey = *result;
     if (!lytInputKey.IsEmpty())
         dialog->RunInput(Value(1), CString(lytInputKey));
     return After::RunRules;

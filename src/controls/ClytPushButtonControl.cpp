@@ -1,14 +1,13 @@
 #include "controls/ClytPushButtonControl.h"
 
 #include "controls/ClytWaitCursor.h"
-#include "dialog/ClytDialog.h"
 #include "environment/ProcessState.h"
 #include "environment/Words.h"
 
-void ClytPushButtonControl::CreateControl(ClytDialog* owner)
+void ClytPushButtonControl::CreateControl(ClytForm* owner)
 {
     CreateCommon(owner, ClytFit::ToLayout,
-                 [&](const CRect& rect) { return Create(caption, WS_TABSTOP, rect, owner, 0); });
+                 [&](const CRect& rect, CWnd* parent) { return Create(caption, WS_TABSTOP, rect, parent, 0); });
     ApplyOptionFlags();
 }
 
@@ -69,7 +68,7 @@ void ClytPushButtonControl::TakeMessage(UINT message, WPARAM wParam)
     }
 }
 
-void lytClickControl(ClytControl& target, ClytDialog& dialog)
+void lytClickControl(ClytControl& target, ClytForm& dialog)
 {
     if (auto* button = dynamic_cast<ClytPushButtonControl*>(&target))
     {
@@ -81,7 +80,7 @@ void lytClickControl(ClytControl& target, ClytDialog& dialog)
     lytSetCursor(IDC_ARROW);
 }
 
-void lytGiveReturnKey(ClytControl& target, ClytDialog& dialog)
+void lytGiveReturnKey(ClytControl& target, ClytForm& dialog)
 {
     if (lytCommandSeen != 1)
         return;

@@ -9,7 +9,7 @@ class ClytPushButtonControl : public ClytWindowControl<CButton>
 public:
     using ClytWindowControl::ClytWindowControl;
 
-    void CreateControl(ClytDialog* owner) override;
+    void CreateControl(ClytForm* owner) override;
     void SetOption(const CStringList& values, const CString& keyword) override;
     void SetControlFocus() override { SetFocus(); }
     // Unlike other controls, a button knows only the words "ACTIVE" and "VISIBLE".
@@ -60,6 +60,6 @@ private:
 
 // Arms and clicks a button that a double click or a key means. A control that is no button has no action to run; the
 // rules run all the same.
-void lytClickControl(ClytControl& target, ClytDialog& dialog);
+void lytClickControl(ClytControl& target, ClytForm& dialog);
 // The Return key, on a button or by a default-button rule: it acts once for each command that reached the dialog.
-void lytGiveReturnKey(ClytControl& target, ClytDialog& dialog);
+void lytGiveReturnKey(ClytControl& target, ClytForm& dialog);

@@ -1,7 +1,6 @@
 #include "controls/ClytRadioButtonControl.h"
 
 #include "controls/ClytOptionGroup.h"
-#include "dialog/ClytDialog.h"
 
 ClytRadioButtonControl::ClytRadioButtonControl(CString controlName, ClytPosition topLeft, ClytSize extent,
                                                int isFirstOfGroup, CString text)
@@ -15,11 +14,11 @@ ClytRadioButtonControl::~ClytRadioButtonControl()
         group->Remove(*this);
 }
 
-void ClytRadioButtonControl::CreateControl(ClytDialog* owner)
+void ClytRadioButtonControl::CreateControl(ClytForm* owner)
 {
     const DWORD style = WS_TABSTOP | BS_AUTORADIOBUTTON | (firstOfGroup != 0 ? WS_GROUP : 0U);
     CreateCommon(owner, ClytFit::ToCaptionWithMargin,
-                 [&](const CRect& rect) { return Create(caption, style, rect, owner, 0); });
+                 [&](const CRect& rect, CWnd* parent) { return Create(caption, style, rect, parent, 0); });
     ApplyOptionFlags();
     // Without a preselected button the whole group starts without a mark, its first button included.
     SetCheck(preselected == 1 ? BST_CHECKED : BST_UNCHECKED);

@@ -13,7 +13,7 @@ public:
     // Leaves its group.
     ~ClytRadioButtonControl() override;
 
-    void CreateControl(ClytDialog* owner) override;
+    void CreateControl(ClytForm* owner) override;
     void SetOption(const CStringList& values, const CString& keyword) override;
     void SaveState() override { savedState = GetCheck(); }
     void SetControlFocus() override { SetFocus(); }

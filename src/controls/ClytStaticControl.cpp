@@ -1,11 +1,9 @@
 #include "controls/ClytStaticControl.h"
 
-#include "dialog/ClytDialog.h"
-
-void ClytStaticControl::CreateControl(ClytDialog* owner)
+void ClytStaticControl::CreateControl(ClytForm* owner)
 {
     CreateCommon(owner, ClytFit::ToCaption,
-                 [&](const CRect& rect) { return Create(caption, SS_LEFT, rect, owner, 0); });
+                 [&](const CRect& rect, CWnd* parent) { return Create(caption, SS_LEFT, rect, parent, 0); });
     ApplyOptionFlags();
 }
 

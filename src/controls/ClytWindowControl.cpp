@@ -1,6 +1,6 @@
 #include "controls/ClytWindowControl.h"
 
-#include "dialog/ClytDialog.h"
+#include "model/ClytScale.h"
 
 #include <algorithm>
 #include <cstring>
@@ -8,10 +8,10 @@
 namespace
 {
 
-// What a check mark and the gap behind it take, in layout units.
+// What a check mark and the gap after it take, in layout units.
 constexpr double checkMarkUnits = -28.0;
 
-HGDIOBJ DialogFont(const ClytDialog& dialog)
+HGDIOBJ DialogFont(const CWnd& dialog)
 {
     return reinterpret_cast<HGDIOBJ>(dialog.SendMessage(WM_GETFONT));
 }
@@ -30,13 +30,12 @@ CRect lytLayoutRect(ClytPosition position, ClytSize size)
     return {left, top, left + cut(size.width), top + cut(size.height)};
 }
 
-void lytTakeDialogFont(const CWnd& window, const ClytDialog& dialog)
+void lytTakeDialogFont(const CWnd& window, const CWnd& dialog)
 {
     window.SendMessage(WM_SETFONT, reinterpret_cast<WPARAM>(DialogFont(dialog)), TRUE);
 }
 
-void lytFitToCaption(const CWnd& window, const ClytDialog& dialog, ClytPosition position, const char* caption,
-                     ClytFit fit)
+void lytFitToCaption(const CWnd& window, const CWnd& dialog, ClytPosition position, const char* caption, ClytFit fit)
 {
     const CClientDC context(&dialog);
     const HGDIOBJ previous = context.SelectObject(DialogFont(dialog));

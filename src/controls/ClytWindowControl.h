@@ -2,8 +2,8 @@
 // share. A control class derives from it and adds what differs.
 #pragma once
 
-#include "controls/ClytControl.h"
 #include "environment/ClytException.h"
+#include "model/ClytForm.h"
 
 #include <afxwin.h>
 
@@ -18,10 +18,9 @@ enum class ClytFit
 // The rectangle of a layout statement. Lengths beyond any window are cut, so that nothing overflows.
 CRect lytLayoutRect(ClytPosition position, ClytSize size);
 // Gives a control's window the font of the dialog, or none when the dialog has none.
-void lytTakeDialogFont(const CWnd& window, const ClytDialog& dialog);
+void lytTakeDialogFont(const CWnd& window, const CWnd& dialog);
 // Sizes a control's window to its text as displayed, in the dialog's font, and moves it to the position.
-void lytFitToCaption(const CWnd& window, const ClytDialog& dialog, ClytPosition position, const char* caption,
-                     ClytFit fit);
+void lytFitToCaption(const CWnd& window, const CWnd& dialog, ClytPosition position, const char* caption, ClytFit fit);
 // "ACTIVE" enables or disables a window; any other word shows or hides it.
 void lytSetWindowState(const CWnd& window, const CString& word, int on);
 
@@ -37,17 +36,18 @@ public:
     int IsVisible() override { return this->IsWindowVisible() ? 1 : 0; }
 
 protected:
-    // `create` makes the window at the rectangle it is given, and answers false when it cannot: that raises 202. The
+    // `create` makes the window at the rectangle and under the parent that it is given, and answers false when it cannot: that raises 202. The
     // option flags come after it, where each class wants them.
     template <class CREATE>
-    void CreateCommon(ClytDialog* owner, ClytFit fit, CREATE create)
+    void CreateCommon(ClytForm* owner, ClytFit fit, CREATE create)
     {
-        if (!create(lytLayoutRect(position, size)))
+        CWnd& parent = owner->GetWindow();
+        if (!create(lytLayoutRect(position, size), &parent))
             lytRaise("202", CString(), name);
         dialog = owner;
-        lytTakeDialogFont(*this, *owner);
+        lytTakeDialogFont(*this, parent);
         if (fit != ClytFit::ToLayout)
-            lytFitToCaption(*this, *owner, position, caption, fit);
+            lytFitToCaption(*this, parent, position, caption, fit);
         this->ShowWindow(SW_SHOW);
     }
 

@@ -1,12 +1,13 @@
 #include "dialog/ClytDialog.h"
 
+#include "controls/ClytControlTypes.h"
 #include "controls/ClytGroupBoxControl.h"
 #include "controls/ClytPushButtonControl.h"
-#include "dialog/ClytControlTypes.h"
+#include "environment/ClytEnvironment.h"
 #include "environment/ClytException.h"
 #include "environment/ProcessState.h"
+#include "model/ClytScale.h"
 #include "res/resource.h"
-#include "tree/ClytNode.h"
 
 #include <algorithm>
 
@@ -127,13 +128,21 @@ void ClytDialog::OnOK()
         CDialog::OnOK();
 }
 
+std::optional<CString> ClytDialog::ShowNested(const CString& descriptionFile)
+{
+    ClytDialog nested(descriptionFile, lytEnvironment.GetDialogDefine());
+    if (nested.DoModal() != IDOK)
+        return {};
+    return nested.GetResult();
+}
+
 void ClytDialog::OnCancel()
 {
     // After a confirmation in the wizard the tree keeps its place for the next step.
     if (lytTreeConfirmCount != -1)
     {
         lytTreeConfirmCount = 0;
-        lytRestoreCurrentNode(lytSymbolNodes);
+        lytRestoreTreeChoice();
     }
     CDialog::OnCancel();
 }

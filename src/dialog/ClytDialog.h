@@ -17,6 +17,9 @@ public:
     // holds, and when an evaluation refuses.
     void OnOK() override;
 
+    CWnd& GetWindow() override { return *this; }
+    std::optional<CString> ShowNested(const CString& descriptionFile) override;
+
 protected:
     BOOL OnInitDialog() override;
     // Every command runs the rules first, so that a control's own handler sees what they made of its change.

@@ -1,6 +1,6 @@
 #include "dialog/ClytDialogRules.h"
 
-#include "dialog/Counted.h"
+#include "base/Counted.h"
 #include "environment/ClytException.h"
 #include "environment/ProcessState.h"
 #include "environment/Words.h"
@@ -8,8 +8,6 @@
 #include <list>
 #include <utility>
 
-float lytScaleX = 1.0F;
-float lytScaleY = 1.0F;
 int lytControlsReady = 0;
 int lytInputApplied = 0;
 

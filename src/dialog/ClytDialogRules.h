@@ -5,17 +5,12 @@
 // being: ClytDialog with live windows; a headless form for tests, tools and fuzzers with stand-ins.
 #pragma once
 
-#include "controls/ClytControl.h"
 #include "dlgfile/ClytDialogFile.h"
 #include "model/ClytControlDep.h"
+#include "model/ClytForm.h"
 #include "model/ClytInputPart.h"
 #include "model/ClytOutput.h"
 
-// What layout units are multiplied by; set by the dialog from the screen's resolution, 1 without a window.
-extern float lytScaleX;
-extern float lytScaleY;
-// Layout units to window units, cut to an integer; what no integer holds becomes the nearest one.
-int lytScaled(int units, float factor);
 // 0 while a dialog creates its controls, then 1. A construction that fails in between leaves it at 0.
 extern int lytControlsReady;
 // 0 while a dialog scans its first input, then 1. A construction that fails in between leaves it at 0.
@@ -26,11 +21,10 @@ inline constexpr const char* lytParentName = "parent";
 // The statement at which an input part begins.
 inline constexpr const char* lytStartName = "Start";
 
-using ClytControlList = ClytOwnedList<ClytControl, CPtrList>;
 using ClytOutputMap = CTypedPtrMap<CMapStringToPtr, CString, ClytOutput*>;
 using ClytInputMap = CTypedPtrMap<CMapStringToPtr, CString, ClytInputPart*>;
 
-class ClytDialogRules
+class ClytDialogRules : public ClytForm
 {
 public:
     // Opens nothing yet.
@@ -39,17 +33,15 @@ public:
     ClytDialogRules& operator=(const ClytDialogRules&) = delete;
     virtual ~ClytDialogRules();
 
-    // The section of the language texts in which captions are keys; empty when the layout names none.
-    CString GetTextSection() const;
+    CString GetTextSection() const override;
     const CString& GetResult() const { return result; }
     const ClytControlMap& GetControlMap() const { return controlMap; }
-    const ClytControlList& GetControlList() const { return controlList; }
+    const ClytControlList& GetControlList() const override { return controlList; }
     const ClytOutputMap& GetOutputMap() const { return outputMap; }
     const ClytInputMap& GetInputMap() const { return inputMap; }
-    ClytControl* FindControl(const CString& name) const;
+    ClytControl* FindControl(const CString& name) const override;
 
-    // One pass over the dependency rules in file order, then a new baseline for the controls of their conditions.
-    void RunDependencies();
+    void RunDependencies() override;
     // False when a command that arrives now must not run the rules: while windows are created or the first input is
     // scanned, when a value that the innermost run reads moved the focus, and when too many runs stand one inside the
     // other. In the last case the innermost run makes up for the one that it refuses.
@@ -57,16 +49,14 @@ public:
 
     // Scans lytInputKey into the controls, empties it and takes the baseline of every control.
     void ApplyInput(const CString& partName);
-    // Runs an input part over a text, from its statement "Start"; 0 when there is no such part.
-    int RunInput(const CString& partName, const CString& text);
+    int RunInput(const CString& partName, const CString& text) override;
 
     // The first rule of the group whose conditions all hold, or null. A condition on an unknown control raises 245.
     const ClytDialogOutput* SelectRule(const ClytOutput& group);
     // Composes the text of a group; with `check` the evaluations of the controls that it takes are run. 0, with the
     // target as it was, when no rule holds or an evaluation fails (its message is shown).
     int ComposeOutput(const ClytOutput& group, CString& target, int check);
-    // The same, without evaluations, for a group by its name; 0 when there is no such group.
-    int ComposeNamedOutput(const CString& groupName, CString& target);
+    int ComposeNamedOutput(const CString& groupName, CString& target) override;
     // Puts the items into the format. A format without `%` is the result as it stands.
     static CString FormatOutput(const CString& format, const CStringArray& items);
     // Turns `\n` and `\t` into a line feed or a tab and a blank, except at the very end of the text.

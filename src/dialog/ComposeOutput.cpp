@@ -1,7 +1,7 @@
 // The composition of a dialog's text: choose a rule, take the values of the controls, put them into the format.
 #include "dialog/ClytDialogRules.h"
 
-#include "dialog/Counted.h"
+#include "base/Counted.h"
 #include "environment/ClytException.h"
 #include "environment/Words.h"
 

@@ -4,8 +4,7 @@
 #include "environment/ClytEnvironment.h"
 #include "environment/ClytException.h"
 #include "model/ClytObserver.h"
-
-#include <limits>
+#include "model/ClytScale.h"
 
 namespace
 {
@@ -17,15 +16,6 @@ void TellPassedOver(ClytPassedOver what, const CString& name, const ClytSpan& pl
 }
 
 } // namespace
-
-int lytScaled(int units, float factor)
-{
-    constexpr auto limit = static_cast<float>(std::numeric_limits<int>::max()); // rounds up to 2 to the 31st
-    const float scaled = static_cast<float>(units) * factor;
-    if (scaled >= limit)
-        return std::numeric_limits<int>::max();
-    return scaled <= -limit ? std::numeric_limits<int>::min() : static_cast<int>(scaled);
-}
 
 void ClytDialogRules::ReadDescription()
 {

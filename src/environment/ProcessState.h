@@ -16,3 +16,5 @@ extern int lytCommandSeen;
 extern int lytTreeConfirmCount;
 // 1 when the last tree dialog was confirmed.
 extern int lytTreeResult;
+// Makes the entry that was selected when the tree dialog opened the current one again. The tree defines it.
+void lytRestoreTreeChoice();

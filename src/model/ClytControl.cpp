@@ -1,4 +1,4 @@
-#include "controls/ClytControl.h"
+#include "model/ClytControl.h"
 
 #include "environment/ClytException.h"
 #include "environment/Words.h"
@@ -10,7 +10,7 @@ ClytControl::ClytControl(CString controlName, ClytPosition topLeft, ClytSize ext
 
 ClytControl::~ClytControl() = default;
 
-void ClytControl::CreateControl(ClytDialog* owner)
+void ClytControl::CreateControl(ClytForm* owner)
 {
     dialog = owner;
 }

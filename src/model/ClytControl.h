@@ -4,11 +4,10 @@
 // window derive from a window class first and from ClytControl second; tests and tools stand in for them without one.
 #pragma once
 
-#include "controls/ClytControlEval.h"
+#include "model/ClytControlEval.h"
 #include "model/ClytControlVal.h"
 
-class ClytDialog;
-class CWnd;
+class ClytForm;
 
 // Window units (pixels).
 struct ClytPosition
@@ -31,8 +30,8 @@ public:
     ClytControl& operator=(const ClytControl&) = delete;
     virtual ~ClytControl();
 
-    // Creates the window under the dialog and remembers the dialog, which outlives the control.
-    virtual void CreateControl(ClytDialog* owner);
+    // Creates the window under that of the form and remembers the form, which outlives the control.
+    virtual void CreateControl(ClytForm* owner);
     // Takes one statement of the values section.
     virtual void SetOption(const CStringList& values, const CString& keyword);
     // Remembers the present value or selection, for IsChanged.
@@ -93,5 +92,5 @@ protected:
     int kind = 0;
     int savedState = 0;
     ClytControlEval evaluation;
-    ClytDialog* dialog = nullptr; // owns this control
+    ClytForm* dialog = nullptr; // owns this control
 };

@@ -1,7 +1,7 @@
 #include "model/ClytControlDep.h"
 
-#include "controls/ClytControl.h"
 #include "environment/Words.h"
+#include "model/ClytControl.h"
 
 bool ClytControlDep::IsEventRule() const
 {

@@ -1,7 +1,7 @@
 #include "model/ClytControlFill.h"
 
-#include "controls/ClytControl.h"
 #include "environment/Words.h"
+#include "model/ClytControl.h"
 #include "model/ClytObserver.h"
 
 void ClytControlFill::Apply(const CString& piece, const ClytControlMap& controls) const

@@ -1,7 +1,7 @@
 #include "model/ClytCtrlValList.h"
 
-#include "controls/ClytControl.h"
 #include "environment/Words.h"
+#include "model/ClytControl.h"
 
 void ClytCtrlValList::CopyFrom(const ClytCtrlValList& other)
 {

@@ -1,5 +1,6 @@
 #include "tree/ClytNode.h"
 
+#include "environment/ProcessState.h"
 #include "tree/ClytChildCursor.h"
 
 void lytRestoreCurrentNode(const ClytNodeList& nodes)
@@ -9,6 +10,11 @@ void lytRestoreCurrentNode(const ClytNodeList& nodes)
         ClytNode* node = nodes.GetNext(position);
         node->m_nCurrent = node->m_nInitial == 1 ? 1 : 0;
     }
+}
+
+void lytRestoreTreeChoice()
+{
+    lytRestoreCurrentNode(lytSymbolNodes);
 }
 
 void lytDeleteNodes()

@@ -10,7 +10,7 @@ HeadlessControl::HeadlessControl(HeadlessForm& ownerForm, const CString& control
 {
 }
 
-void HeadlessControl::CreateControl(ClytDialog* owner)
+void HeadlessControl::CreateControl(ClytForm* owner)
 {
     ClytControl::CreateControl(owner);
     isCreated = true;

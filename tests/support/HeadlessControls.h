@@ -2,7 +2,7 @@
 // selection, check mark, enabled, shown) and send the form a command where a window would.
 #pragma once
 
-#include "controls/ClytControl.h"
+#include "model/ClytControl.h"
 
 #include <functional>
 #include <memory>
@@ -17,7 +17,7 @@ public:
     HeadlessControl(HeadlessForm& ownerForm, const CString& controlName, ClytPosition topLeft, ClytSize extent,
                     const CString& label);
 
-    void CreateControl(ClytDialog* owner) override;
+    void CreateControl(ClytForm* owner) override;
     void SetOption(const CStringList& values, const CString& keyword) override;
     void SetControlFocus() override;
     void SetState(const CString& word, int on) override;

@@ -1,6 +1,6 @@
 #include "support/HeadlessForm.h"
 
-#include "dialog/Counted.h"
+#include "base/Counted.h"
 #include "environment/ProcessState.h"
 
 #include <algorithm>

@@ -39,6 +39,10 @@ public:
     int runCount = 0;   // how many commands ran the rules
     int deepestRun = 0; // how many of them stood one inside the other at most
 
+    CWnd& GetWindow() override { AfxThrowInvalidArgException(); }
+    void OnOK() override { Confirm(); }
+    std::optional<CString> ShowNested(const CString& /*descriptionFile*/) override { return {}; }
+
 protected:
     void SizeWindow(int windowWidth, int windowHeight, const CString& windowCaption) override;
     std::unique_ptr<ClytControl> MakeControl(const CString& type, const CString& name, ClytPosition position,

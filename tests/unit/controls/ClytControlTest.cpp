@@ -15,7 +15,7 @@ public:
     PlainControl() : ClytControl("Plain", {1, 2}, {3, 4}, "caption") {}
     int IsActive() override { return 1; }
     int HasContent() override { return 1; }
-    ClytDialog* Owner() const { return dialog; }
+    ClytForm* Owner() const { return dialog; }
     bool HasFlags(int isHidden, int isDisplayOnly, int isInvisible, int isInactive) const
     {
         return hidden == isHidden && displayOnly == isDisplayOnly && invisible == isInvisible && inactive == isInactive;

@@ -1,5 +1,7 @@
 #include "Form.h"
 
+#include "model/ClytScale.h"
+
 #include <climits>
 
 namespace

@@ -1,6 +1,6 @@
 #include "Form.h"
 
-#include "dialog/Counted.h"
+#include "base/Counted.h"
 
 #include <algorithm>
 #include <array>

@@ -1,7 +1,7 @@
 // A control for tests of the records: it has what a test gives it, and writes down what is done to it.
 #pragma once
 
-#include "controls/ClytControl.h"
+#include "model/ClytControl.h"
 
 #include <map>
 #include <memory>

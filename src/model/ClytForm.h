@@ -1,0 +1,37 @@
+// A dialog as its controls see it.
+#pragma once
+
+#include "model/ClytControl.h"
+
+#include <optional>
+
+class CWnd;
+
+using ClytControlList = ClytOwnedList<ClytControl, CPtrList>;
+
+class ClytForm
+{
+public:
+    // The window that those of the controls are children of; it has the font that they take.
+    virtual CWnd& GetWindow() = 0;
+    // The section of the language texts in which captions are keys; empty when the layout names none.
+    virtual CString GetTextSection() const = 0;
+    // Null for an unknown name.
+    virtual ClytControl* FindControl(const CString& name) const = 0;
+    // In layout order.
+    virtual const ClytControlList& GetControlList() const = 0;
+    // Composes the text of an output group, without evaluations; 0, with the target as it was, when there is no such
+    // group or no rule of it holds.
+    virtual int ComposeNamedOutput(const CString& groupName, CString& target) = 0;
+    // Runs an input part over a text, from its statement "Start"; 0 when there is no such part.
+    virtual int RunInput(const CString& partName, const CString& text) = 0;
+    // One pass over the dependency rules in file order, then a new baseline for the controls of their conditions.
+    virtual void RunDependencies() = 0;
+    // What Return and the OK button do.
+    virtual void OnOK() = 0;
+    // Shows the dialog of a description over this one; its result, or nothing when it was not confirmed.
+    virtual std::optional<CString> ShowNested(const CString& descriptionFile) = 0;
+
+protected:
+    ~ClytForm() = default;
+};
