@@ -1,5 +1,10 @@
 #include "ReportTest.h"
 
+#include "support/ImportHook.h"
+
+#include <algorithm>
+#include <cstring>
+
 namespace
 {
 
@@ -13,6 +18,16 @@ std::string Column(const std::string& text)
 std::string NameLine(const std::string& name)
 {
     return "  " + Column(name) + " | " + Column("") + " |      ";
+}
+
+// What the platform was asked for.
+std::vector<LOGFONTW> asked;
+
+int WINAPI NoteFont(HDC /*context*/, LOGFONTW* font, FONTENUMPROCW /*enumerate*/, LPARAM /*data*/, DWORD flags)
+{
+    EXPECT_EQ(flags, 0U);
+    asked.push_back(*font);
+    return 1;
 }
 
 class Fonts : public ReportTest
@@ -88,6 +103,24 @@ TEST_F(Fonts, NameIsCutTo31CharactersForTheSearchOnly)
     const Texts lines = FontLines();
     EXPECT_EQ(lines[4], NameLine(name));
     EXPECT_EQ(lines.size(), 6U);
+}
+
+TEST_F(Fonts, AskForTheFirst31CharactersOfANameInAnyCharacterSet)
+{
+    const ImportHook hook(GetModuleHandleA("lyt64"), "EnumFontFamiliesExW", NoteFont);
+    const std::string name = "0123456789012345678901234567890";
+    for (const char* more : {"", "x", "xy", "xyz"})
+    {
+        SCOPED_TRACE(more);
+        asked.clear();
+        WriteIni("[FONTS]\r\nText=" + name + more + "\r\n");
+        Report();
+        ASSERT_EQ(asked.size(), 1U);
+        LOGFONTW wanted = {};
+        wanted.lfCharSet = DEFAULT_CHARSET;
+        std::copy(name.begin(), name.end(), wanted.lfFaceName);
+        EXPECT_EQ(std::memcmp(&asked.front(), &wanted, sizeof wanted), 0);
+    }
 }
 
 TEST_F(Fonts, EmptyPieceNamesNoFont)

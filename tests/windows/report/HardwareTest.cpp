@@ -1,9 +1,29 @@
 #include "ReportTest.h"
 
+#include "support/ImportHook.h"
+
 #include <cstdio>
 
 namespace
 {
+
+// A machine with six figures that cannot be taken for one another.
+BOOL WINAPI TellMemory(MEMORYSTATUSEX* memory)
+{
+    memory->dwMemoryLoad = 42;
+    memory->ullTotalPhys = 1001ULL << 20;
+    memory->ullAvailPhys = 1002ULL << 20;
+    memory->ullTotalPageFile = 1003ULL << 20;
+    memory->ullAvailPageFile = 1004ULL << 20;
+    memory->ullTotalVirtual = 1005ULL << 20;
+    memory->ullAvailVirtual = 1006ULL << 20;
+    return TRUE;
+}
+
+BOOL WINAPI RefuseMemory(MEMORYSTATUSEX* /*memory*/)
+{
+    return FALSE;
+}
 
 constexpr const char* processorKey = "HARDWARE\\DESCRIPTION\\System\\CentralProcessor\\0";
 
@@ -103,6 +123,22 @@ TEST_F(Hardware, ShowsMemoryInMegabytes)
     ExpectNear(lines, "Free paging file      : ", memory.ullAvailPageFile);
     ExpectNear(lines, "Total virtual memory  : ", memory.ullTotalVirtual);
     ExpectNear(lines, "Free virtual memory   : ", memory.ullAvailVirtual);
+}
+
+TEST_F(Hardware, TellsTheSixMemoryFiguresApart)
+{
+    const ImportHook hook(GetModuleHandleA("lyt64"), "GlobalMemoryStatusEx", TellMemory);
+    EXPECT_EQ(LinesBetween(Report(), "Memory in use: 42 %", "Page Size : "),
+              (Texts{"Total physical memory : 1001 MB", "Free physical memory  : 1002 MB",
+                     "Total paging file     : 1003 MB", "Free paging file      : 1004 MB",
+                     "Total virtual memory  : 1005 MB", "Free virtual memory   : 1006 MB"}));
+}
+
+TEST_F(Hardware, ShowsZerosForMemoryThatThePlatformDoesNotTell)
+{
+    const ImportHook hook(GetModuleHandleA("lyt64"), "GlobalMemoryStatusEx", RefuseMemory);
+    EXPECT_EQ(LineOf(Report(), "Memory in use: "), "Memory in use: 0 %");
+    EXPECT_EQ(LineOf(Report(), "Free virtual memory   : "), "Free virtual memory   : 0 MB");
 }
 
 TEST_F(Hardware, InstallationOnTheWindowsDriveAddsNoSecondPairOfDisks)
