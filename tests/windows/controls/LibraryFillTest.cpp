@@ -25,6 +25,23 @@ TEST_F(LibraryFill, AMissingFunctionEmptiesTheListInSilence)
     }
 }
 
+TEST_F(LibraryFill, TheStartFunctionIsCalledBeforeTheNextFunctionIsLookedUp)
+{
+    for (const std::string& kind : classes)
+    {
+        SCOPED_TRACE(kind);
+        List(kind, "nasty,Open,NoNext,Rule");
+        form.main.layout.insert(form.main.layout.end(), {kind + " Second", "PushButton FillSecond"});
+        form.main.values.insert(form.main.values.end(),
+                                {"Second=FILLEDBY,nasty,OpenAgain,NextEcho", "FillSecond=FILL,Second"});
+        form.main.output = {"(\"done\")", "$OUTPUT, Rule", "(\"from " + kind + "\")"};
+        ClickFill();
+        form.Then([&] { robot::Click(form["FillSecond"]); });
+        form.Then([&] { EXPECT_EQ(robot::ItemsOf(form["Second"]), Texts{"<from " + kind + ">"}); });
+        form.Ok().Open();
+    }
+}
+
 TEST_F(LibraryFill, AListingWithoutItemsLeavesTheListEmptyAndUnselected)
 {
     for (const std::string& kind : classes)

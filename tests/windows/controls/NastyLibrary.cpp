@@ -31,6 +31,7 @@ int PutItem(char* display, char* value, const std::string& text)
 } // namespace
 
 NASTY_EXPORT lytDataStart Open;
+NASTY_EXPORT lytDataStart OpenAgain;
 NASTY_EXPORT lytDataNext NextNone;
 NASTY_EXPORT lytDataNext NextFull;
 NASTY_EXPORT lytDataNext NextLazy;
@@ -44,6 +45,12 @@ NASTY_EXPORT lytDataText EchoText;
 void Open(const char* parameter)
 {
     parameterSeen = parameter;
+    delivered = 0;
+}
+
+// Keeps the parameter of the start before it.
+void OpenAgain(const char*)
+{
     delivered = 0;
 }
 

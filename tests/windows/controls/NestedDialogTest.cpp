@@ -107,6 +107,37 @@ TEST_F(NestedDialog, AnEmptyLastValueOpensItWithoutInput)
     EXPECT_EQ(form.Ok().Open().text, "!");
 }
 
+TEST_F(NestedDialog, TheResultOfTheOneBeforeIsNoInputOfTheNext)
+{
+    form.main.layout.insert(form.main.layout.end(), {"PushButton Refused", "PushButton Empty"});
+    form.main.values.insert(form.main.values.end(),
+                            {"Refused=DIALOG,Inner,Take,Nothing", "Empty=DIALOG,Inner,Take,\"\""});
+    Click();
+    form.Ok("Inner");
+    // The second button composes no input, and so opens nothing.
+    form.Then([&] { robot::Click(form["Refused"]); });
+    form.Then([&] { EXPECT_EQ(robot::TextOf(form["Edit"]), "<outer>!"); });
+    form.Then([&] { robot::Click(form["Empty"]); });
+    form.In("Inner", [&] { EXPECT_EQ(robot::TextOf(form["Field"]), ""); });
+    form.Ok("Inner");
+    EXPECT_EQ(form.Ok().Open().text, "!");
+}
+
+TEST_F(NestedDialog, ItsResultMakesALaterActionScanAnEmptyAnswer)
+{
+    form.main.layout.emplace_back("PushButton Act");
+    form.main.values.insert(form.main.values.begin(), "Act=ACTION,nasty,EchoText,Send,Answer");
+    // Taken for an empty answer only.
+    form.main.input.insert(form.main.input.end(), {"$INPUT, Answer", InputTo("(\"\"), Edit = empty").front()});
+    form.Then([&] { robot::Click(form["Act"]); });
+    form.Then([&] { EXPECT_EQ(robot::TextOf(form["Edit"]), "outer"); });
+    Click();
+    form.Ok("Inner");
+    form.Then([&] { EXPECT_EQ(robot::TextOf(form["Edit"]), "<outer>!"); });
+    form.Then([&] { robot::Click(form["Act"]); });
+    EXPECT_EQ(form.Ok().Open().text, "empty");
+}
+
 TEST_F(NestedDialog, TwoValuesUseOneNameForBothRules)
 {
     form.main.input.front() = "$INPUT, Send";
