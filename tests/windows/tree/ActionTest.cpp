@@ -7,6 +7,16 @@ protected:
     TreeAction()
     {
         UseSource();
+        WriteForm("lyt64.dll, lytOpenTreeView");
+        folder.Write("dialogs/lang/English.nls", "[Label]\nTreeDlgLabel=Catalogue\n"
+                                                 "[Symbol]\nForm=Form\nPick=Pick\n"
+                                                 "[Buttons]\n001=Fine\n002=Stop\n"
+                                                 "[Dialog_Error]\n222=Pick another.\n");
+    }
+
+    // A form whose button calls that function of that library.
+    void WriteForm(const std::string& function)
+    {
         folder.Write("dialogs/lytInSym.dlg", "$VERSION 1\n$LAYOUT Symbol\n"
                                              "Begin Dialog Box 200, 100, \"Form\", .Main\n"
                                              "TextBox 10, 10, 100, 19, .Key\n"
@@ -15,25 +25,25 @@ protected:
                                              "OKButton 80, 60, 60, 20, .Ok\n"
                                              "CancelButton 150, 60, 60, 20, .Cancel\n"
                                              "End Dialog\n"
-                                             "$VALUES\nPick: ACTION = lyt64.dll, lytOpenTreeView, PickOut, PickIn\n"
-                                             "$DEPENDANCES\n$EVALUATION, x\n"
-                                             "$INPUT, parent\nStart: (\"~\", End = Key\n"
-                                             "$INPUT, PickIn\nStart: (99, End = Choice\n"
-                                             "$OUTPUT, parent\n(\"%s>%s\", Key, Choice)\n"
-                                             "$OUTPUT, PickOut\n(\"%s\", Key)\n$END\n");
-        folder.Write("dialogs/lang/English.nls", "[Label]\nTreeDlgLabel=Catalogue\n"
-                                                 "[Symbol]\nForm=Form\nPick=Pick\n"
-                                                 "[Buttons]\n001=Fine\n002=Stop\n"
-                                                 "[Dialog_Error]\n222=Pick another.\n");
+                                             "$VALUES\nPick: ACTION = " +
+                                                 function +
+                                                 ", PickOut, PickIn\n"
+                                                 "$DEPENDANCES\n$EVALUATION, x\n"
+                                                 "$INPUT, parent\nStart: (\"~\", End = Key\n"
+                                                 "$INPUT, PickIn\nStart: (99, End = Choice\n"
+                                                 "$OUTPUT, parent\n(\"%s>%s\", Key, Choice)\n"
+                                                 "$OUTPUT, PickOut\n(\"%s\", Key)\n$END\n");
     }
 
-    // Opens the form over the key, presses the button, lets the browser be worked, and confirms the form.
-    std::string Run(const char* key, const std::function<void(const TreeWindow&)>& act)
+    // Opens the form over the key, presses the button, lets the browser be worked when there is one, and confirms the
+    // form.
+    std::string Run(const char* key, const std::function<void(const TreeWindow&)>& act = nullptr)
     {
         robot::Robot robot;
-        robot.On("Form", [](HWND dialog) { robot::Click(robot::ChildWithText(dialog, "Pick")); })
-            .On("Catalogue", [&](HWND dialog) { act(TreeWindow(dialog)); })
-            .On("Form", [](HWND dialog) { robot::Press(robot::ChildWithText(dialog, "Fine")); });
+        robot.On("Form", [](HWND dialog) { robot::Click(robot::ChildWithText(dialog, "Pick")); });
+        if (act != nullptr)
+            robot.On("Catalogue", [&](HWND dialog) { act(TreeWindow(dialog)); });
+        robot.On("Form", [](HWND dialog) { robot::Press(robot::ChildWithText(dialog, "Fine")); });
         GuardedBuffer buffer(255, "untouched");
         Get<decltype(lytSymbolPropertyDialog)>("lytSymbolPropertyDialog")(key, buffer.Data(), buffer.Size());
         EXPECT_TRUE(robot.Done()) << robot.Log();
@@ -66,4 +76,15 @@ TEST_F(TreeAction, TakesNothingFromACancelledBrowserAfterAChoiceEither)
 {
     EXPECT_EQ(Pick("S", "Tin").text, "tin");
     EXPECT_EQ(Run("S", [](const TreeWindow& tree) { tree.Cancel(); }), "S>");
+}
+
+TEST_F(TreeAction, TakesTheAnswerOfAnyFunctionOnceABrowserWasConfirmed)
+{
+    WriteForm(NastyLibrary() + ", EchoText");
+    EXPECT_EQ(Run("key"), "key>");
+    EXPECT_EQ(Pick("S", "Tin").text, "tin");
+    EXPECT_EQ(Run("key"), "key><key> 255");
+    EXPECT_EQ(Run("key"), "key><key> 255");
+    Open("S", [](const TreeWindow& tree) { tree.Cancel(); });
+    EXPECT_EQ(Run("key"), "key>");
 }

@@ -98,6 +98,11 @@ Function* TreeTest::GetFromSource(const char* name) const
     return reinterpret_cast<Function*>(reinterpret_cast<void*>(GetProcAddress(m_source, name)));
 }
 
+std::string TreeTest::NastyLibrary()
+{
+    return "\"" + ProgramFolder() + "\\..\\nasty.dll\"";
+}
+
 void TreeTest::Serve(char kind, Records records, int startResult, bool endless)
 {
     Records& kept = kind == 'P' ? m_paragraphs : m_symbols;

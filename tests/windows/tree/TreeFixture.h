@@ -29,6 +29,8 @@ protected:
     void UseSource(const std::string& variant = "complete");
     // Makes the source of the samples reachable, which cannot be told what to serve.
     static void UseSampleSource();
+    // The data library of the tests, as a description names it.
+    static std::string NastyLibrary();
     // What the source serves from now on; `house` and `yard` unless told.
     void Serve(char kind, Records records, int startResult = 1, bool endless = false);
     int Starts(char kind) const;

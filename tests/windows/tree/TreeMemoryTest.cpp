@@ -221,6 +221,19 @@ TEST_F(TreeMemory, CancelOfAPropertyDialogGoesBackBehindSeveralChoices)
     EXPECT_EQ(Preselected("S"), "Tin");
 }
 
+TEST_F(TreeMemory, CancelOfAPropertyDialogGoesBackBeforeARefusedChoice)
+{
+    Pick("S", "Tin");
+    CancelPropertyDialog(
+        [&]
+        {
+            PickRefused("S", "Roof");
+            // A choice was made in this property dialog, so this opening does not note its entry.
+            EXPECT_EQ(Preselected("S"), "Roof");
+        });
+    EXPECT_EQ(Preselected("S"), "Tin");
+}
+
 TEST_F(TreeMemory, GroupDialogNotesTheCurrentEntryAsInitial)
 {
     Pick("S", "Tin");

@@ -12,17 +12,21 @@ protected:
     }
 
     // A dialog whose title tells the file, and whose one field takes the input and gives the result.
-    void WriteDialog(const std::string& file, const std::string& title)
+    void WriteDialog(const std::string& file, const std::string& title, const std::string& moreControls = "",
+                     const std::string& values = "")
     {
         folder.Write("dialogs/" + file + ".dlg", "$VERSION 1\n$LAYOUT Wizard\n"
                                                  "Begin Dialog Box 200, 100, \"" +
                                                      title +
                                                      "\", .Main\n"
-                                                     "TextBox 10, 10, 100, 19, .Key\n"
+                                                     "TextBox 10, 10, 100, 19, .Key\n" +
+                                                     moreControls +
                                                      "OKButton 10, 40, 60, 20, .Ok\n"
                                                      "CancelButton 80, 40, 60, 20, .Cancel\n"
                                                      "End Dialog\n"
-                                                     "$VALUES\n$DEPENDANCES\n$EVALUATION, x\n"
+                                                     "$VALUES\n" +
+                                                     values +
+                                                     "$DEPENDANCES\n$EVALUATION, x\n"
                                                      "$INPUT, parent\nStart: (\"~\", End = Key\n"
                                                      "$OUTPUT, parent\n(\"%s\", Key)\n$END\n");
         folder.Write("dialogs/lang/English.nls", "[Label]\nTreeDlgLabel=Catalogue\n"
@@ -95,6 +99,26 @@ TEST_F(Wizard, TakesAGroupResultApartWithoutItsMarks)
     EXPECT_EQ(Next(), "0 a");
     EXPECT_EQ(Ask("Roof", "Group", "h/LISTa"), "1 h/LIST");
     EXPECT_EQ(Next(), "0 a");
+}
+
+TEST_F(Wizard, LetsItsGroupDialogFillACheckListForTheGroup)
+{
+    WriteDialog("lytWzGrp", "lytWzGrp", "CheckListBox 10, 70, 100, 60, .List\nPushButton 120, 10, 60, 20, .Fill\n",
+                "List = FILLEDBY, " + NastyLibrary() + ", Open, NextEcho\nFill = FILL, List\n");
+    for (const auto& [label, group] : {std::pair("Roof", "<roof>"), std::pair("Wall", "<wall>")})
+    {
+        robot::Robot robot;
+        robot.On("Catalogue", [&](HWND dialog) { TreeWindow(dialog).Pick(label); })
+            .On("Group", [](HWND dialog) { robot::Click(robot::ChildOfClass(dialog, "Button")); })
+            .On("Group",
+                [&](HWND dialog)
+                {
+                    EXPECT_EQ(robot::ItemsOf(robot::ChildOfClass(dialog, "ListBox")), Lines{group});
+                    robot::Press(robot::ChildWithText(dialog, "Stop"));
+                });
+        EXPECT_EQ(Next(), "0 untouched");
+        EXPECT_TRUE(robot.Done()) << robot.Log();
+    }
 }
 
 TEST_F(Wizard, AsksForASymbolByKeyAndLabel)
