@@ -1,0 +1,67 @@
+#!/bin/sh
+# run-page.sh PAGE BUILD_FOLDER: does what a page of the documents tells its reader to do, in a folder of its own.
+#
+# A block of text or ini is saved under the file name in backquotes in the line above it; one that begins with a section's
+# header takes the place of that section. A block of sh is entered at a shell, and a block of output is what it must print.
+set -u
+page=$1
+folder=$(mktemp -d) || exit 2
+trap 'rm -rf "$folder"' EXIT
+cd "$folder" || exit 2
+mkdir build && ln -s "$2" build/windows || exit 2
+
+# The page as a shell script: commands as they are, files and output as here-documents.
+awk -v q="'" '
+    !inside && /^```/ {
+        inside = 1
+        kind = substr($0, 4)
+        body = ""
+        next
+    }
+    inside && /^```$/ {
+        inside = 0
+        if (kind == "sh") {
+            printf "{\n%s} >actual 2>&1\n", body
+            commands++
+        } else if (kind == "output") {
+            printf "cat >expected <<%send of block%s\n%send of block\n", q, q, body
+            printf "diff -u expected actual || { echo %s^^^ line %d of the page%s; exit 1; }\n", q, NR, q
+            outputs++
+        } else if (file != "") {
+            printf "mkdir -p \"$(dirname %s)\"\ncat >block <<%send of block%s\n%send of block\nput_block %s\n", file, q, q, body, file
+        } else {
+            printf "line %d: no line above this block names a file\n", NR > "/dev/stderr"
+            exit 1
+        }
+        next
+    }
+    inside { body = body $0 "\n"; next }
+    # The last file name before a block is its file.
+    /`mine\/[^`]*`/ {
+        file = $0
+        sub(/.*`mine\//, "mine/", file)
+        sub(/`.*/, "", file)
+    }
+    END { if (commands == 0 || outputs == 0) { print "the page has nothing to run" > "/dev/stderr"; exit 1 } }
+' "$page" >steps || exit 1
+
+# put_block FILE: saves the block, or puts it in place of the section that its first line heads.
+put_block() {
+    case $(head -n 1 block) in
+    '$VERSION'*) cp block "$1" ;;
+    '$'*)
+        awk '
+            NR == FNR { if (FNR == 1) header = $1; block = block $0 "\n"; next }
+            /^\$/ {
+                inside = index($1, header) == 1
+                if (inside) { printf "%s", block; found = 1 }
+            }
+            !inside { print }
+            END { exit !found }
+        ' block "$1" >whole && mv whole "$1" || { echo "$1 has no section to put this in place of:"; cat block; exit 1; }
+        ;;
+    *) cp block "$1" ;;
+    esac
+}
+
+. ./steps

@@ -1,0 +1,75 @@
+#!/bin/sh
+# run-symptoms.sh WINE_RUN LYTCALL PAGE EXPECTED: puts each wrong line of PAGE in place of the right one in a copy of the
+# dialog beside this script, and compares what lytcall prints to the file EXPECTED. With LYT_UPDATE set it writes that file.
+#
+# A row of the page is | number | symptom | `wrong line` ... | `right line` ... |. A mistake that begins with "no" leaves the
+# right line out, and one that begins otherwise changes no line. What a symptom has in quotes must be printed.
+set -u
+wine_run=$1
+lytcall=$2
+page=$3
+expected=$4
+here=$(cd "$(dirname "$0")" && pwd)
+folder=$(mktemp -d) || exit 2
+trap 'rm -rf "$folder"' EXIT
+cd "$folder" || exit 2
+bad=0
+
+# spoil RIGHT WRONG: one file of the copy holds the right line, and then the wrong one. Files are in code page 1252; a
+# mistake that lies in the encoding puts the line as the page has it.
+spoil() {
+    for file in lyt.ini dialogs/lytInSym.dlg dialogs/lang/English.nls; do
+        old=$1 new=$2 awk '
+            { line = $0; sub(/^ +/, "", line) }
+            line == ENVIRON["old"] { if (ENVIRON["new"] != "") print ENVIRON["new"]; found = 1; next }
+            { print }
+            END { exit !found }
+        ' "$file" >spoilt && cp spoilt "$file" && return
+    done
+    echo "row $number: no file has the line $1"
+    bad=1
+}
+
+cell() { printf '%s\n' "$row" | awk -F ' [|] ' -v n="$1" '{ print $n }'; }
+code() { printf '%s\n' "$1" | sed -n 's/^`\([^`]*\)`.*/\1/p'; }
+ansi() { printf '%s' "$1" | iconv -f UTF-8 -t CP1252; }
+
+run() {
+    "$wine_run" "$lytcall" symbol "$key" --dialogs dialogs --init . --script steps $words >output
+    echo "exit = $?" >>output
+}
+
+grep -v '^#' "$here/symptoms.cases" >cases
+while IFS='|' read -r number which key steps words; do
+    row=$(sed -n "s/^| $number | /| /p" "$page")
+    mistake=$(cell 2)
+    right=$(code "$(cell 3)")
+    [ -n "$mistake" ] || { echo "the page has no row $number"; bad=1; continue; }
+    printf '%s\n' "$steps" | sed 's, / ,\n,g' >steps
+    cp -r "$here/symptoms/." .
+    if [ "$which" = both ]; then
+        echo "== $number, right"
+        run
+        cat output
+    fi >>actual
+    wrong=$(code "$mistake")
+    case $mistake in
+    '`'*'UTF-8') spoil "$(ansi "$right")" "$wrong" ;;
+    '`'*) spoil "$(ansi "$right")" "$(ansi "$wrong")" ;;
+    'no '*) spoil "$(ansi "$right")" "" ;;
+    esac
+    run
+    { echo "== $number, wrong"; cat output; } >>actual
+    cell 1 | sed 's/^| //; s/`[^`]*`//g' | grep -o '"[^"]*"' | tr -d '"' | while read -r quoted; do
+        grep -qF -- "$quoted" output || echo "row $number: \"$quoted\" is not what comes out"
+    done >complaints
+    [ ! -s complaints ] || { cat complaints; bad=1; }
+done <cases
+[ "$(grep -c '^| [0-9]' "$page")" = "$(wc -l <cases)" ] || { echo "the page has other rows than symptoms.cases"; bad=1; }
+
+if [ -n "${LYT_UPDATE:-}" ]; then
+    cp actual "$expected"
+else
+    diff -u "$expected" actual || bad=1
+fi
+exit $bad
