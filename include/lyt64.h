@@ -11,6 +11,18 @@
  *     folder, cursor, focus and the enabled state of its windows.
  *   - All calls come from one thread, one at a time. Dialogs are modal and belong to that thread's active window.
  *   - State lives in the process from load to unload. Call lytInitialiseEnvironment first.
+ *   - The library is 64-bit, and so must its host be.
+ *   - Partner libraries (the catalogue's lytsrc.dll, the data libraries that descriptions name, LytRes64.dll) are looked
+ *     for where Windows looks for any library: in the host program's folder, in the folders of Windows, in the current
+ *     folder and in PATH, and not beside this library. One that is not found is treated as empty, without a message.
+ *
+ * Traps
+ *   - Take the result of a property dialog over only at 1. At 2 nothing changed, and the buffer holds what the dialog
+ *     composed, which need not be the key: of a group whose key was split, it lacks the part before the bracket.
+ *   - 1 with an empty text means that the buffer was too small; a text as long as the stated size does not fit. Only a
+ *     group's first text that is longer than its buffer is refused with a message and 0.
+ *   - A 0 of lytWizard can come with the last text of a group, and the texts before it keep the "|" at their end: see
+ *     there.
  */
 #ifndef LYT64_H
 #define LYT64_H
@@ -22,7 +34,7 @@ extern "C"
 
     /* ---- Environment ------------------------------------------------------------------------------------------------ */
 
-    /* Says where things are: the document, the folder of the dialog descriptions (its subfolder `lang` holds the language
+    /* Sets where things are: the document, the folder of the dialog descriptions (its subfolder `lang` holds the language
  * files) and the folder of lyt.ini. Nothing is checked or opened. Empties the list of defines. */
     void __stdcall lytInitialiseEnvironment(const char* docName, const char* dialogFolder, const char* initFolder);
 
@@ -51,7 +63,7 @@ extern "C"
 
     /* The description lytCdGrp.dlg for kind 0, lytRpGrp.dlg for any other.
  *
- * The dialog's result is cut at its first ")/1": what stands before the "/" goes to `first`, what stands behind it to
+ * The dialog's result is cut at its first ")/1": what stands before the "/" goes to `first`, what follows it to
  * `second`; without ")/1" both get an empty text. Of a key that holds "BNG", and of any key with kind 1, the dialog
  * sees only what begins with the first "("; after a change the part before it is put in front again, and bytes 5, 6
  * and 7 of the key are written over those of `second`, if key and second buffer have 8 bytes or more.
@@ -84,14 +96,14 @@ extern "C"
      * lytTreeStartChildNode returns 1 when an entry with the key was found and another entry follows it. Unless that is a
      * symbol, reads go on from where an earlier walk stood.
      * lytTreeReadChildNode copies the label as shown, and the key, a backslash and the label as the data source gave it;
-     * it returns 1, or 0 at the end: behind the last entry, or at one of another level than the very first entry that was
+     * it returns 1, or 0 at the end: after the last entry, or at one of another level than the very first entry that was
      * read in this process. */
     int __stdcall lytTreeStartChildNode(const char* key);
     int __stdcall lytTreeReadChildNode(char* text, int textSize, char* path, int pathSize);
 
     /* ---- Texts, lists and the log ----------------------------------------------------------------------------------- */
 
-    /* Copies the language text of a key to the buffer, with the argument behind the first apostrophe of the text.
+    /* Copies the language text of a key to the buffer, with the argument after the first apostrophe of the text.
      * Returns 1 when the text is there; without it the buffer holds "no value present" and the result is 0. */
     int __stdcall lytGetTextForKey(const char* section, const char* key, const char* argument, char* buffer, int size);
 
@@ -109,33 +121,34 @@ extern "C"
     int __stdcall lytListFromIniNext(char* value, int valueSize, char* display, int displaySize);
 
     /* Writes a text to the log, a block of its own between two banners, when the level is not above the key "level" of
-     * the section "LogLevel" in lyt.ini. The log is the document's name up to its first dot, with ".log" behind it;
+     * the section "LogLevel" in lyt.ini. The log is named as the document up to its first dot, and ".log";
      * level 0 in lyt.ini means no log.
      *
      * A log that cannot be opened (207), written (208) or closed (209) raises a C++ exception, thrown as a pointer to
      * the library's ClytException: a failure that leaves the function. A C++ caller of the same tool chain can catch
      * it, with catch (...) at least. A caller in any other language cannot, and its process may end: it should let
      * lyt.ini ask for a log only where the document's folder can be written. The log is closed by then, and the next
-     * call starts anew. */
+     * call starts again. */
     void __stdcall lytWriteToLogFile(const char* text, int level);
 
     /* ---- Wizard ----------------------------------------------------------------------------------------------------- */
 
     /* Leads through a new placeholder: the user picks an entry of the catalogue and fills in the entry's dialog
      * (lytWzGrp.dlg, lytWzPhr.dlg or lytWzSym.dlg). Call again while the result is 1:
-     *   0  nothing chosen, or cancelled; or the last text of a group, in the buffer
+     *   0  after a 1: the last text of a group, in the buffer, or the end of a list that ended in "|", with the buffer as
+     *      it was; at any other time: nothing chosen, or cancelled. Empty the buffer before each call to tell them apart
      *   1  text of a group in the buffer, and more to come with the next call
      *   2  text of a symbol in the buffer
      *   3  text of a phrase in the buffer
-     * A group's texts are what its dialog's result holds behind "/LIST" and "{", separated by "|"; the first text is what
-     * stands before, brace included. A list that ends in "|" loses its last text: that call returns 0 and leaves the buffer
-     * as it was. A caller that stops early gets the rest with its next call, before the catalogue is shown again. */
+     * A group's texts are what its dialog's result holds after "/LIST" and "{", separated by "|"; the first text is what
+     * stands before, brace included. Each but the last keeps its "|" at the end: "a|b|c" comes as "a|", "b|" and "c". A
+     * list that ends in "|" loses its last text: that call returns 0 and leaves the buffer as it was. A caller that stops early gets the rest with its next call, before the catalogue is shown again. */
     int __stdcall lytWizard(char* buffer, int size);
 
     /* ---- System report ---------------------------------------------------------------------------------------------- */
 
     /* Gathers the report on how this workstation is set up, with a listing of the directory given, in place of an
-     * earlier one, and returns 1. What cannot be read is told in the report's lines; nothing on the machine changes.
+     * earlier one, and returns 1. What cannot be read is noted in the report's lines; nothing on the machine changes.
      * The report may move the folder of lyt.ini to where the registry or a template says it is, for all later calls.
      * It takes its time, all of it in this call. */
     int __stdcall lytSystemInfoInit(const char* directory);

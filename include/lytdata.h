@@ -21,18 +21,21 @@
  *      library carry all functions that the lists of a process need. A library is never unloaded.
  *   6. An edit with the preset value FILL is filled while its window is created, before the output rules are known: a
  *      rule for its parameter would end that fill. Later fills, by a rule or by the input, may have one.
- *   7. A function that is missing, a start that finds nothing: the control then stays empty (an edit: as it was), and
- *      nobody is told. Show your own message if the user should know.
+ *   7. When a library or function is missing, or a start finds nothing, the control stays empty (an edit: as it was), and
+ *      no message is shown. Show your own if the user should know.
+ *   8. A library is looked for where Windows looks for any library: in the host program's folder, in the folders of
+ *      Windows, in the current folder and in PATH, and not beside lyt64.dll. A description may name it with its whole
+ *      path, in quotes.
  */
 #ifndef LYTDATA_H
 #define LYTDATA_H
 
 #define LYT_DATA_SIZE 256
 
-/* Opens a listing. Nothing is made of an answer: a listing that cannot be opened has no first item. */
+/* Opens a listing. It returns nothing: a listing that cannot be opened simply has no first item. */
 typedef void lytDataStart(const char* parameter);
 
-/* Delivers one item: the text to show and the value that the control gives back. Nonzero with an item, 0 behind the
+/* Delivers one item: the text to show and the value that the control gives back. Nonzero with an item, 0 after the
  * last. The buffers are empty at the first call and are not cleared between calls: a buffer that is left alone repeats
  * the item before it. */
 typedef int lytDataNext(char* display, int size, char* value, int valueSize);

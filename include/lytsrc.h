@@ -1,26 +1,28 @@
 /* lytsrc.h: what a catalogue's data source implements.
  *
  * The tree browser of lyt64 shows a catalogue that it does not own: headings, groups under them, symbols under the
- * groups. The catalogue comes from a library of your making, named lytsrc.dll and placed where the system finds it by
- * its bare name (beside the host program, for instance). The library exports the four functions below, in C and under
- * undecorated names. There are two catalogues, the symbol tree and the para tree, and a pair of functions for each; a
- * library may leave out a pair, and that catalogue is then empty.
+ * groups. The catalogue comes from a library of your making, named lytsrc.dll and placed where Windows finds it by
+ * its bare name: beside the host program or in a folder of PATH, for instance. Windows does not look beside lyt64.dll.
+ *
+ * The library exports the four functions below, in C and under undecorated names. There are two catalogues, the symbol
+ * tree and the para tree, and a pair of functions for each; a library may leave out a pair, and that catalogue is then
+ * empty.
  *
  * How a catalogue is read:
  *
  *   1. lytTreeStart("") makes a new run of records ready. Nonzero: it is; 0: there is nothing to read.
- *   2. lytTreeNext(&record) fills the record and returns nonzero, again and again; it returns 0 behind the last one,
+ *   2. lytTreeNext(&record) fills the record and returns nonzero, again and again; it returns 0 after the last one,
  *      and what then stands in the record is not looked at.
  *
  * Nothing tells the source that reading has ended. A start call may come at any time, also in the middle of a run, and
- * begins anew. All calls come from the one thread that called lyt64; records and texts need not outlive a call. A
+ * begins again. All calls come from the one thread that called lyt64; records and texts need not outlive a call. A
  * catalogue is read once and then kept until FreeGlobalObject (lytGetSymbolfromTree without a kept catalogue reads it
  * through each time). A run ends after 1,000,000 records, whatever the source says.
  *
- * The order of the records is the order on the screen, depth first: an entry stands behind the entry it belongs to, and
- * before the next one of that entry's level. Its parent is the nearest record before it with a smaller nLevel; without
- * one it stands at the root. Levels may be any numbers, may begin anywhere and may skip numbers. Up to lyt.ini's
- * "TreeLevels" the first opening shows branches open, counting the root as level 0.
+ * The order of the records is the order on the screen, depth first: an entry follows the entry it belongs to, and
+ * comes before the next one of that entry's level. Its parent is the nearest record before it with a smaller nLevel;
+ * without one it is at the root. Levels may be any numbers, may begin anywhere and may skip numbers. When the catalogue
+ * is first shown, branches are open down to the level that "TreeLevels" in lyt.ini gives, counting the root as 0.
  */
 /* NOLINTBEGIN(modernize-*): this header is C. */
 #ifndef LYTSRC_H
