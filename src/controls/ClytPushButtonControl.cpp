@@ -4,6 +4,8 @@
 #include "environment/ProcessState.h"
 #include "environment/Words.h"
 
+#include <utility>
+
 void ClytPushButtonControl::CreateControl(ClytForm* owner)
 {
     CreateCommon(owner, ClytFit::ToLayout,
@@ -59,13 +61,24 @@ void ClytPushButtonControl::TakeMessage(UINT message, WPARAM wParam)
         lytCommandSeen = 1;
         Click();
     }
-    else if (message == WM_KEYUP && (wParam == VK_SPACE || wParam == VK_RETURN))
+    else if (message == WM_SETFOCUS)
+        passesOverReturn = ::GetKeyState(VK_RETURN) < 0;
+    else if (message == WM_KEYUP)
+        TakeKeyUp(wParam);
+}
+
+void ClytPushButtonControl::TakeKeyUp(WPARAM key)
+{
+    if (key == VK_SPACE)
     {
         // The window answers the space key with a second click, which is no longer armed.
-        if (wParam == VK_SPACE)
-            lytCommandSeen = 1;
+        lytCommandSeen = 1;
         lytGiveReturnKey(*this, *dialog);
     }
+    // The Return that ended a nested dialog or a message comes up over the button that opened it, which would open it
+    // again.
+    else if (key == VK_RETURN && !std::exchange(passesOverReturn, false))
+        lytGiveReturnKey(*this, *dialog);
 }
 
 void lytClickControl(ClytControl& target, ClytForm& dialog)

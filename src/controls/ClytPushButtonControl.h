@@ -35,6 +35,7 @@ private:
 
     // Acts on a message of mouse or keyboard before the window sees it.
     void TakeMessage(UINT message, WPARAM wParam);
+    void TakeKeyUp(WPARAM key);
     After RunAction();
 
     After ToggleVisible();
@@ -56,6 +57,7 @@ private:
     void FocusNextControl() const;
 
     int armed = 0;
+    bool passesOverReturn = false; // the focus came here under a Return that was pressed elsewhere
 };
 
 // Arms and clicks a button that a double click or a key means. A control that is no button has no action to run; the

@@ -25,6 +25,16 @@ LPARAM Point(int x, int y)
     return MAKELPARAM(x, y);
 }
 
+void SendKey(UINT virtualKey, DWORD flags)
+{
+    INPUT input = {};
+    input.type = INPUT_KEYBOARD;
+    input.ki.wVk = static_cast<WORD>(virtualKey);
+    input.ki.wScan = static_cast<WORD>(MapVirtualKeyA(virtualKey, MAPVK_VK_TO_VSC));
+    input.ki.dwFlags = flags;
+    SendInput(1, &input, sizeof input);
+}
+
 bool IsCombo(HWND list)
 {
     return ClassOf(list) == "ComboBox";
@@ -121,6 +131,21 @@ void PressKey(UINT virtualKey)
     HWND focus = GetFocus();
     PostMessageA(focus, WM_KEYDOWN, virtualKey, KeyData(virtualKey, false));
     PostMessageA(focus, WM_KEYUP, virtualKey, KeyData(virtualKey, true));
+}
+
+void HoldKey(UINT virtualKey)
+{
+    SendKey(virtualKey, 0);
+}
+
+void ReleaseKey(UINT virtualKey)
+{
+    SendKey(virtualKey, KEYEVENTF_KEYUP);
+}
+
+bool IsKeyHeld(UINT virtualKey)
+{
+    return GetKeyState(static_cast<int>(virtualKey)) < 0;
 }
 
 void TypeText(const std::string& text)

@@ -35,6 +35,12 @@ void Focus(HWND control);
 // Keys go to the window that has the focus, through the dialog's own key handling.
 void PressKey(UINT virtualKey);
 void TypeText(const std::string& text);
+// Keys of the keyboard itself. Unlike posted ones they also change the key state of the thread that takes them, and they
+// wait in one queue: what a key releases goes to the window that has the focus by then.
+void HoldKey(UINT virtualKey);
+void ReleaseKey(UINT virtualKey);
+// As this thread has seen it.
+bool IsKeyHeld(UINT virtualKey);
 // The letter of an access key, as with Alt held down.
 void PressMnemonic(char letter);
 // A click with the mouse in the middle of a control; Press clicks a button without the mouse.

@@ -91,6 +91,19 @@ Form& Form::In(const std::string& name, Step step)
     return *this;
 }
 
+Form& Form::Release(UINT key, Step step)
+{
+    const auto isUp = [key] { return !robot::IsKeyHeld(key); };
+    steps.emplace_back(
+        [key](robot::Robot& user)
+        {
+            user.When(
+                "held", [key] { return robot::IsKeyHeld(key); }, [key] { robot::ReleaseKey(key); });
+        });
+    steps.emplace_back([isUp, step = std::move(step)](robot::Robot& user) { user.When("released", isUp, step); });
+    return *this;
+}
+
 Form& Form::Message()
 {
     steps.emplace_back([](robot::Robot& user) { user.AnswerMessage(); });

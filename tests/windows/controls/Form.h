@@ -57,6 +57,8 @@ public:
     // Steps are taken in order, each when the dialog of that name is the active one; the last one closes the dialog.
     Form& Then(Step step) { return In("Main", std::move(step)); }
     Form& In(const std::string& name, Step step);
+    // Releases a key of the keyboard, and acts once that was handled, whatever dialog is there.
+    Form& Release(UINT key, Step step);
     // Answers the message box that the last step brought up.
     Form& Message();
     Form& Ok(const std::string& name = "Main");

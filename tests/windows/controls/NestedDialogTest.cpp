@@ -246,3 +246,25 @@ TEST_F(NestedDialog, OpensByTheKeyboardAndGivesTheFocusBack)
     form.Then([&] { EXPECT_EQ(GetFocus(), form["Go"]); });
     EXPECT_EQ(form.Ok().Open().text, "<outer>!");
 }
+
+TEST_F(NestedDialog, IsNotOpenedAgainByTheReturnThatConfirmsIt)
+{
+    Click();
+    form.In("Inner", [] { robot::HoldKey(VK_RETURN); });
+    form.In("Main", [&] { EXPECT_EQ(GetFocus(), form["Go"]); });
+    form.Release(VK_RETURN, [] { EXPECT_EQ(robot::TextOf(robot::ActiveDialog()), "Main"); });
+    EXPECT_EQ(form.Ok().Open().text, "<outer>!");
+}
+
+TEST_F(NestedDialog, OpensAtEachReturnOnItsButton)
+{
+    form.Then([&] { robot::Focus(form["Go"]); });
+    for (int round = 0; round < 2; ++round)
+    {
+        form.Then([] { robot::HoldKey(VK_RETURN); });
+        form.Release(VK_RETURN, [] {});
+        form.In("Inner", [] { robot::HoldKey(VK_RETURN); });
+        form.Release(VK_RETURN, [] { EXPECT_EQ(robot::TextOf(robot::ActiveDialog()), "Main"); });
+    }
+    EXPECT_EQ(form.Ok().Open().text, "<<outer>!>!");
+}

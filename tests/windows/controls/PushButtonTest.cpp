@@ -99,6 +99,35 @@ TEST_F(PushButton, SpaceNeedsNoEarlierCommand)
     form.Ok().Open();
 }
 
+TEST_F(PushButton, TheReturnThatAnswersAMessageDoesNotActAgain)
+{
+    // An edit shows no items, so each action tells of that.
+    form.main.layout.emplace_back("TextBox Edit");
+    form.main.values = {"Go=ADD,Edit,Target", "Edit=text"};
+    form.Then([&] { robot::Click(form["Go"]); });
+    form.In("lyt64", [] { robot::HoldKey(VK_RETURN); });
+    form.Release(VK_RETURN, [] { EXPECT_FALSE(robot::IsMessageBox(robot::ActiveDialog())); });
+    form.Ok().Open();
+}
+
+TEST_F(PushButton, PassesOverTheReturnUnderWhichItGotTheFocusOnly)
+{
+    // OK finds nothing to compose, so Return leaves the dialog open.
+    form.main.output = {"Source(none) = (\"done\")"};
+    form.Then(
+        [&]
+        {
+            robot::Focus(form["Source"]);
+            robot::HoldKey(VK_RETURN);
+        });
+    form.Then([&] { robot::Focus(form["Go"]); });
+    form.Then([&] { robot::Focus(form["Source"]); });
+    form.Release(VK_RETURN, [&] { robot::Focus(form["Go"]); });
+    form.Then([] { robot::HoldKey(VK_RETURN); });
+    form.Release(VK_RETURN, [&] { EXPECT_EQ(Actions(), 1); });
+    form.Cancel().Open();
+}
+
 TEST_F(PushButton, OtherKeysDoNotAct)
 {
     form.Then(
