@@ -54,6 +54,11 @@ public:
     static CWnd* FromHandle(HWND window);
     CWnd* GetDlgItem(int id) const { return FromHandle(::GetDlgItem(m_hWnd, id)); }
     CWnd* GetParent() const { return FromHandle(::GetParent(m_hWnd)); }
+    // The tab stop after a child of this dialog, or the one before it.
+    CWnd* GetNextDlgTabItem(const CWnd* child, BOOL previous = FALSE) const
+    {
+        return FromHandle(::GetNextDlgTabItem(m_hWnd, child->m_hWnd, previous));
+    }
 
     LRESULT SendMessage(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const
     {
@@ -136,6 +141,11 @@ public:
     // told, -1 when there is no such template.
     virtual INT_PTR DoModal();
     void EndDialog(int result) const { ::EndDialog(m_hWnd, result); }
+    // Gives a child the focus as the Tab key does.
+    void GotoDlgCtrl(const CWnd* child) const
+    {
+        SendMessage(WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(child->m_hWnd), TRUE);
+    }
 
 protected:
     // TRUE lets the platform choose the control that has the focus first.

@@ -39,6 +39,38 @@ int OuterLength(int wanted, int client, float factor)
     return static_cast<int>(std::clamp(length, -limit, limit));
 }
 
+// Puts the focus back into a dialog that loses it meanwhile. Keys go to the window with the focus, and disabling that
+// window leaves none.
+class FocusKeeper
+{
+public:
+    explicit FocusKeeper(const CDialog& dialog) : m_dialog(dialog), m_focus(::GetFocus()) {}
+    FocusKeeper(const FocusKeeper&) = delete;
+    FocusKeeper& operator=(const FocusKeeper&) = delete;
+    ~FocusKeeper()
+    {
+        // When another window is active the dialog gets the focus back with its activation.
+        const bool isLost = ::GetFocus() == nullptr && ::GetActiveWindow() == m_dialog.m_hWnd;
+        if (!isLost || !::IsChild(m_dialog.m_hWnd, m_focus))
+            return;
+        if (const CWnd* next = m_dialog.GetNextDlgTabItem(Control()))
+            m_dialog.GotoDlgCtrl(next);
+    }
+
+private:
+    // The child of the dialog that has the focus itself or around the window that has it, as a combo box has.
+    CWnd* Control() const
+    {
+        HWND control = m_focus;
+        while (::GetParent(control) != m_dialog.m_hWnd)
+            control = ::GetParent(control);
+        return CWnd::FromHandle(control);
+    }
+
+    const CDialog& m_dialog;
+    HWND m_focus; // null, or the window that had the focus at first
+};
+
 } // namespace
 
 BEGIN_MESSAGE_MAP(ClytDialog, CDialog)
@@ -106,6 +138,17 @@ std::unique_ptr<ClytControl> ClytDialog::MakeControl(const CString& type, const 
 void ClytDialog::CreateControlWindow(ClytControl& control)
 {
     control.CreateControl(this);
+}
+
+void ClytDialog::RunDependencies()
+{
+    if (IsRunning())
+    {
+        ClytDialogRules::RunDependencies();
+        return;
+    }
+    const FocusKeeper keeper(*this);
+    ClytDialogRules::RunDependencies();
 }
 
 BOOL ClytDialog::OnCommand(WPARAM wParam, LPARAM lParam)

@@ -13,6 +13,9 @@ public:
     // the user was told). Only after 1 is there a result.
     ClytDialog(const CString& descriptionFile, const CString& defineList);
 
+    // Leaves no dialog deaf to the keyboard: the focus of a control that a rule disables goes to the next tab stop.
+    void RunDependencies() override;
+
     // Return and the OK button. The dialog stays open when a default-button rule has the key, when no output rule
     // holds, and when an evaluation refuses.
     void OnOK() override;

@@ -66,6 +66,9 @@ protected:
     // Reads the description, creates the controls, scans the input and runs the rules once. Any failure is raised.
     void ReadDescription();
 
+    // True while a run of the rules is in progress.
+    bool IsRunning() const { return innermostRun != nullptr; }
+
     // Sizes the window so that its client area has the scaled size; the caption is ready to be shown.
     virtual void SizeWindow(int width, int height, const CString& windowCaption) = 0;
     // Makes the control of a type word, null for an unknown word. Position and size are scaled, the label is ready to

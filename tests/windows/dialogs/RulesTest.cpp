@@ -196,6 +196,68 @@ TEST_F(Rules, ListsWithoutASelectionDoNotPassTheFocusForEver)
     EXPECT_EQ(ShowAndPress(IDOK, "a"), 2);
 }
 
+TEST_F(Rules, DisablingTheControlWithTheFocusGivesItToTheNextTabStop)
+{
+    // B, which stands next, goes too.
+    description.rules = "B/ACTIVE = A(NULL)\nA/ACTIVE = A(NULL)\n";
+    Describe(description);
+    On(
+        [](HWND dialog)
+        {
+            robot::Focus(A(dialog));
+            robot::TypeText("x");
+        });
+    On(
+        [](HWND dialog)
+        {
+            EXPECT_FALSE(IsOn(A(dialog)) || IsOn(B(dialog)));
+            EXPECT_EQ(GetFocus(), C(dialog));
+            robot::TypeText("y");
+        });
+    On(
+        [](HWND dialog)
+        {
+            EXPECT_EQ(robot::TextOf(C(dialog)), "y");
+            robot::PressKey(VK_ESCAPE);
+        });
+    EXPECT_EQ(Show("a"), 0);
+}
+
+TEST_F(Rules, DisablingAComboBoxWhoseFieldHasTheFocusMovesItOn)
+{
+    description.controls += "ComboBox 10, 100, 60, 40, .Combo\nTextBox 10, 120, 150, 15, .After\n";
+    description.rules = "Combo/ACTIVE = Combo(NULL)\n";
+    Describe(description);
+    On(
+        [](HWND dialog)
+        {
+            robot::Focus(robot::ChildAt(dialog, 6));
+            ASSERT_EQ(robot::ClassOf(GetFocus()), "Edit");
+            robot::TypeText("x");
+        });
+    On(
+        [](HWND dialog)
+        {
+            EXPECT_FALSE(IsOn(robot::ChildAt(dialog, 6)));
+            EXPECT_EQ(GetFocus(), robot::ChildAt(dialog, 7));
+        });
+    EXPECT_EQ(ShowAndPress(IDOK, "a"), 2);
+}
+
+TEST_F(Rules, OnesThatRunWithoutTheFocusDoNotTakeIt)
+{
+    description.rules = "A/ACTIVE = Key(x)\n";
+    Describe(description);
+    On(
+        [](HWND dialog)
+        {
+            SetFocus(nullptr);
+            SendCommand(dialog);
+            EXPECT_EQ(GetFocus(), nullptr);
+        });
+    EXPECT_EQ(ShowAndPress(IDOK, "a"), 2);
+}
+
 TEST_F(Rules, CommandsFromTheWindowsEndOnRunNothing)
 {
     description.rules = "B/ACTIVE = Key(x)\n";
