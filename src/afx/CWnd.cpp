@@ -278,6 +278,16 @@ void CWnd::GetWindowText(CString& text) const
     text.ReleaseBuffer(copied);
 }
 
+BOOL CWnd::ModifyStyle(DWORD remove, DWORD add) const
+{
+    const DWORD style = GetStyle();
+    const DWORD modified = (style & ~remove) | add;
+    if (modified == style)
+        return FALSE;
+    ::SetWindowLongPtrA(m_hWnd, GWL_STYLE, static_cast<LONG_PTR>(modified));
+    return TRUE;
+}
+
 CWnd* CWnd::SetFocus() const
 {
     return m_hWnd != nullptr ? FromHandle(::SetFocus(m_hWnd)) : nullptr;

@@ -65,6 +65,8 @@ public:
         return ::SendMessageA(m_hWnd, message, wParam, lParam);
     }
     DWORD GetStyle() const { return static_cast<DWORD>(::GetWindowLongPtrA(m_hWnd, GWL_STYLE)); }
+    // False when the window has the style already.
+    BOOL ModifyStyle(DWORD remove, DWORD add) const;
     int GetDlgCtrlID() const { return ::GetDlgCtrlID(m_hWnd); }
     void SetWindowText(const char* text) const { ::SetWindowTextA(m_hWnd, text); }
     void GetWindowText(CString& text) const;

@@ -86,13 +86,31 @@ void ClytOptionGroup::SetValue(const CString& value)
 
 CString ClytOptionGroup::GetValue()
 {
+    ClytRadioButtonControl* checked = Checked();
+    return checked != nullptr ? checked->GetValue() : CString();
+}
+
+ClytRadioButtonControl* ClytOptionGroup::Checked() const
+{
     for (POSITION place = buttons.GetHeadPosition(); place != nullptr;)
     {
         ClytRadioButtonControl* button = buttons.GetNext(place);
         if (button->GetCheck() != BST_UNCHECKED)
-            return button->GetValue();
+            return button;
     }
-    return CString();
+    return nullptr;
+}
+
+// The platform takes the tab stop of each option that is unchecked, and would leave a group without a choice out of
+// reach of the keyboard. What the first option gets for that time it loses to the one that is chosen.
+void ClytOptionGroup::PlaceTabStop()
+{
+    const ClytRadioButtonControl* checked = Checked();
+    const ClytRadioButtonControl* first = buttons.GetHead();
+    if (checked == nullptr)
+        first->ModifyStyle(0, WS_TABSTOP);
+    else if (checked != first)
+        first->ModifyStyle(WS_TABSTOP, 0);
 }
 
 void ClytOptionGroup::SetState(const CString& word, int on)

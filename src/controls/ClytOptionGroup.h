@@ -21,6 +21,8 @@ public:
     // A button joins the group of the last "OptionGroup" statement; without one it stands alone.
     static void AddToCurrentGroup(ClytRadioButtonControl& button);
     void Remove(const ClytRadioButtonControl& button);
+    // The Tab key reaches the chosen option, or the first while none is chosen.
+    void PlaceTabStop();
 
     void CreateControl(ClytForm* owner) override;
     // The value preselects the button whose own value it is, so the statement stands behind those of the buttons.
@@ -38,6 +40,9 @@ public:
     int HasContent() override { return 1; }
 
 private:
+    // The first checked button, or null.
+    ClytRadioButtonControl* Checked() const;
+
     CTypedPtrList<CPtrList, ClytRadioButtonControl*> buttons; // owned by the dialog; each leaves the list when it dies
     CString savedValue;
     int active = 1;

@@ -21,7 +21,7 @@ void ClytRadioButtonControl::CreateControl(ClytForm* owner)
                  [&](const CRect& rect, CWnd* parent) { return Create(caption, style, rect, parent, 0); });
     ApplyOptionFlags();
     // Without a preselected button the whole group starts without a mark, its first button included.
-    SetCheck(preselected == 1 ? BST_CHECKED : BST_UNCHECKED);
+    Check(preselected == 1);
 }
 
 void ClytRadioButtonControl::SetOption(const CStringList& values, const CString& /*keyword*/)
@@ -33,5 +33,12 @@ void ClytRadioButtonControl::SetOption(const CStringList& values, const CString&
 void ClytRadioButtonControl::SetValue(const CString& value)
 {
     if (!value.IsEmpty())
-        SetCheck(value == optionValue ? BST_CHECKED : BST_UNCHECKED);
+        Check(value == optionValue);
+}
+
+void ClytRadioButtonControl::Check(bool isChecked)
+{
+    SetCheck(isChecked ? BST_CHECKED : BST_UNCHECKED);
+    if (group != nullptr)
+        group->PlaceTabStop();
 }

@@ -28,6 +28,8 @@ public:
     void TakeGroupOption(const CString& word) { TakeCommonOption(word); }
 
 private:
+    void Check(bool isChecked);
+
     CString optionValue;
     int preselected = 0;
     int firstOfGroup;

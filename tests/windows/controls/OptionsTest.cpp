@@ -24,6 +24,14 @@ protected:
         return names;
     }
 
+    std::string TabStops() const
+    {
+        std::string names;
+        for (const char* name : {"A", "B", "C"})
+            names += (GetWindowLongPtrA(form[name], GWL_STYLE) & WS_TABSTOP) != 0 ? name : "";
+        return names;
+    }
+
     Form form;
 };
 
@@ -246,6 +254,60 @@ TEST_F(Options, AButtonWithoutAnyGroupStandsAlone)
     form.Then([&] { robot::Click(form["A"]); });
     form.Then([&] { EXPECT_TRUE(IsChecked("A")); });
     EXPECT_EQ(form.Ok().Open().text, "a");
+}
+
+TEST_F(Options, TabReachesTheFirstOfAGroupWithoutAChoice)
+{
+    form.main.layout.insert(form.main.layout.begin(), "TextBox Edit");
+    form.main.values.back() = "Kind=none";
+    form.Then(
+        [&]
+        {
+            EXPECT_EQ(TabStops(), "A");
+            EXPECT_EQ(GetFocus(), form["Edit"]);
+            robot::PressKey(VK_TAB);
+        });
+    form.Then([&] { EXPECT_EQ(GetFocus(), form["A"]); });
+    EXPECT_EQ(form.Ok().Open().text, "<>");
+}
+
+TEST_F(Options, TabReachesTheFirstAgainWhenAValueUnchecksAll)
+{
+    for (const char* fill : {"Kind", "B"})
+    {
+        SCOPED_TRACE(fill);
+        form.main.input = InputTo(fill);
+        form.Then([&] { EXPECT_EQ(TabStops(), "A"); });
+        form.Ok().Open("other");
+    }
+}
+
+TEST_F(Options, TabReachesNothingButTheChosenOption)
+{
+    form.main.input = InputTo("Kind");
+    form.main.values.back() = "Kind=none";
+    static const struct
+    {
+        const char* value;
+        const char* chosen;
+        const char* other;
+    } cases[] = {{"a", "A", "B"}, {"b", "B", "C"}, {"c", "C", "A"}};
+    for (const auto& c : cases)
+    {
+        SCOPED_TRACE(c.value);
+        form.Then(
+            [&]
+            {
+                EXPECT_EQ(TabStops(), c.chosen);
+                robot::Click(form[c.other]);
+            });
+        form.Then([&] { EXPECT_EQ(TabStops(), c.other); });
+        form.Ok().Open(c.value);
+    }
+    form.main.input.clear();
+    form.main.values.back() = "Kind=b";
+    form.Then([&] { EXPECT_EQ(TabStops(), "B"); });
+    form.Ok().Open();
 }
 
 TEST_F(Options, AnOptionButtonIsSizedByItsText)
