@@ -11,6 +11,9 @@
  *     folder, cursor, focus and the enabled state of its windows.
  *   - All calls come from one thread, one at a time. Dialogs are modal and belong to that thread's active window.
  *   - State lives in the process from load to unload. Call lytInitialiseEnvironment first.
+ *   - Unloading frees everything: a host may load, call and unload as often as it likes, and a library that is loaded
+ *     again starts afresh. Unload on the thread that calls, with no call under way. Partner libraries and the system's
+ *     own libraries that a call has loaded stay in the process.
  *   - The library is 64-bit, and so must its host be.
  *   - Partner libraries (the catalogue's lytsrc.dll, the data libraries that descriptions name, LytRes64.dll) are looked
  *     for where Windows looks for any library: in the host program's folder, in the folders of Windows, in the current

@@ -1,7 +1,16 @@
-// What the loader calls: the first code of the library that runs.
+// What the loader calls: the first code of the library that runs, and the last.
 #include "exports/StackGuard.h"
+#include "exports/ThreadCalls.h"
 
 #include <windows.h>
+
+namespace __gnu_cxx // NOLINT(bugprone-reserved-identifier): the runtime's name
+{
+
+// Frees the memory that the runtime keeps for exceptions when there is no other.
+void __freeres(); // NOLINT(bugprone-reserved-identifier)
+
+} // namespace __gnu_cxx
 
 extern "C"
 {
@@ -10,11 +19,18 @@ extern "C"
 
     BOOL WINAPI lytLibraryEntry(HINSTANCE module, DWORD reason, void* reserved);
 
-    // Sets the stack guard before anything protected runs.
+    // Sets the stack guard before anything protected runs, and empties the runtime after the last destructor. A process
+    // that ends (`reserved` is set then) takes everything with it; its other threads may have died holding a lock.
     __attribute__((no_stack_protector)) BOOL WINAPI lytLibraryEntry(HINSTANCE module, DWORD reason, void* reserved)
     {
         if (reason == DLL_PROCESS_ATTACH)
             SeedStackGuard();
-        return DllMainCRTStartup(module, reason, reserved);
+        const BOOL result = DllMainCRTStartup(module, reason, reserved);
+        if (reason == DLL_PROCESS_DETACH && reserved == nullptr)
+        {
+            ReleaseThreadCalls();
+            __gnu_cxx::__freeres();
+        }
+        return result;
     }
 }

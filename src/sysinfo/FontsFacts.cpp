@@ -6,16 +6,18 @@
 #include "sysinfo/Probes.h"
 #include "sysinfo/ReportLines.h"
 
+#include <afxwin.h>
+
 #include <string>
 
 namespace
 {
 
-// Fetched once per process and kept: nothing gives it back.
+// Fetched once per process and kept until the library is unloaded.
 HDC ScreenContext()
 {
-    static const HDC context = GetDC(nullptr);
-    return context;
+    static const CClientDC screen(nullptr);
+    return screen.m_hDC;
 }
 
 std::wstring Wide(const CString& text)

@@ -1,4 +1,5 @@
-// Demands that something done over and over takes nothing with it: no window, no graphics object, no memory.
+// Demands that something done over and over takes nothing with it: no window, no graphics object, no kernel handle, no
+// thread-local slot, no memory.
 #pragma once
 
 #include <functional>

@@ -1,0 +1,109 @@
+// The C++ runtime keeps its exceptions in flight by thread and guards its few shared structures, all through the calls
+// below. The toolchain's thread library serves them too, but keeps a thread-local slot, handles and a handler of its own
+// for the life of the process, so a host that loads and unloads this library ran out of slots. Here a slot comes with
+// its clean-up, and nothing else is taken.
+//
+// These are all the calls that the runtime makes. One that were missing would bring the thread library back with its
+// own definitions, and the link would fail.
+#include "exports/ThreadCalls.h"
+
+#include <windows.h>
+
+#include <array>
+#include <cerrno>
+
+#include <pthread.h>
+
+namespace
+{
+
+// One lock serves for all: each is held for a few instructions, and never two at a time. `once` is another, since what
+// is done once may lock.
+SRWLOCK sharedLock = SRWLOCK_INIT;
+CONDITION_VARIABLE sharedCondition = CONDITION_VARIABLE_INIT;
+SRWLOCK onceLock = SRWLOCK_INIT;
+
+std::array<DWORD, 4> slots;
+size_t slotCount = 0;
+
+} // namespace
+
+void ReleaseThreadCalls()
+{
+    // Runs the clean-up for the values of all threads.
+    while (slotCount > 0)
+        FlsFree(slots[--slotCount]);
+}
+
+extern "C"
+{
+    int pthread_once(pthread_once_t* control, void (*initialise)())
+    {
+        AcquireSRWLockExclusive(&onceLock);
+        if (*control == PTHREAD_ONCE_INIT)
+        {
+            initialise();
+            *control = PTHREAD_ONCE_INIT + 1;
+        }
+        ReleaseSRWLockExclusive(&onceLock);
+        return 0;
+    }
+
+    int pthread_key_create(pthread_key_t* key, void (*destroy)(void*))
+    {
+        const DWORD slot = slotCount < slots.size() ? FlsAlloc(destroy) : FLS_OUT_OF_INDEXES;
+        if (slot == FLS_OUT_OF_INDEXES)
+            return EAGAIN;
+        slots[slotCount++] = slot;
+        *key = slot;
+        return 0;
+    }
+
+    // Is asked whenever an exception passes, which must leave the host's last error alone.
+    void* pthread_getspecific(pthread_key_t key)
+    {
+        const DWORD lastError = GetLastError();
+        void* const value = FlsGetValue(key);
+        SetLastError(lastError);
+        return value;
+    }
+
+    int pthread_setspecific(pthread_key_t key, const void* value)
+    {
+        return FlsSetValue(key, const_cast<void*>(value)) != FALSE ? 0 : ENOMEM;
+    }
+
+    int pthread_mutex_init(pthread_mutex_t* /*mutex*/, const pthread_mutexattr_t* /*attributes*/)
+    {
+        return 0;
+    }
+
+    int pthread_mutex_destroy(pthread_mutex_t* /*mutex*/)
+    {
+        return 0;
+    }
+
+    int pthread_mutex_lock(pthread_mutex_t* /*mutex*/)
+    {
+        AcquireSRWLockExclusive(&sharedLock);
+        return 0;
+    }
+
+    int pthread_mutex_unlock(pthread_mutex_t* /*mutex*/)
+    {
+        ReleaseSRWLockExclusive(&sharedLock);
+        return 0;
+    }
+
+    int pthread_cond_wait(pthread_cond_t* /*condition*/, pthread_mutex_t* /*mutex*/)
+    {
+        SleepConditionVariableSRW(&sharedCondition, &sharedLock, INFINITE, 0);
+        return 0;
+    }
+
+    int pthread_cond_broadcast(pthread_cond_t* /*condition*/)
+    {
+        WakeAllConditionVariable(&sharedCondition);
+        return 0;
+    }
+}

@@ -1,0 +1,137 @@
+// Loaded, called and unloaded over and over, the library leaves nothing behind in the process.
+#include "dialogs/DialogFixture.h"
+#include "support/Leaks.h"
+
+namespace
+{
+
+constexpr int rounds = 300;
+
+// The library, from load to unload.
+class Library
+{
+public:
+    Library() : m_module(LoadLibraryA("lyt64.dll")) { EXPECT_NE(m_module, nullptr); }
+    Library(const Library&) = delete;
+    Library& operator=(const Library&) = delete;
+    ~Library()
+    {
+        FreeLibrary(m_module);
+        EXPECT_EQ(GetModuleHandleA("lyt64.dll"), nullptr) << "still loaded";
+    }
+
+    template <class Function>
+    Function* Get(const char* name) const
+    {
+        return reinterpret_cast<Function*>(reinterpret_cast<void*>(GetProcAddress(m_module, name)));
+    }
+
+private:
+    HMODULE m_module;
+};
+
+class Unloading : public testing::Test
+{
+protected:
+    Unloading()
+    {
+        folder.Write("lyt.ini", "[global]\r\nCurrent Language=Test\r\n[LogLevel]\r\nlevel=1\r\n"
+                                "[FONTS]\r\nFont=Tahoma\r\n");
+        folder.Write("lang/Test.nls", SharedTexts());
+        for (const char* name : {"lytInSym", "lytWzGrp", "lytWzPhr", "lytWzSym"})
+            folder.Write(std::string(name) + ".dlg", Description().Text());
+    }
+
+    // Loads the library, tells it where things are, makes the call and unloads it, again and again.
+    void Cycle(const std::function<void(const Library&)>& call) const
+    {
+        ExpectNoGrowth(
+            [&]
+            {
+                const Library library;
+                library.Get<decltype(lytInitialiseEnvironment)>("lytInitialiseEnvironment")(
+                    (folder.Path() + "\\doc.rtf").c_str(), folder.Path().c_str(), folder.Path().c_str());
+                call(library);
+            },
+            rounds);
+    }
+    // The same for a call that shows one dialog after another, each of which is confirmed.
+    void CycleWithDialogs(int dialogs, const std::function<void(const Library&)>& call) const
+    {
+        Cycle(
+            [&](const Library& library)
+            {
+                // A robot a round: its log would grow.
+                robot::Robot user;
+                for (int dialog = 0; dialog < dialogs; ++dialog)
+                    user.On("", [](HWND window) { robot::Press(GetDlgItem(window, IDOK)); });
+                call(library);
+                EXPECT_TRUE(user.Done()) << user.Log();
+            });
+    }
+
+    const TestFolder folder;
+    char buffer[300] = "";
+};
+
+} // namespace
+
+TEST_F(Unloading, AfterATextLeavesNothingBehind)
+{
+    Cycle(
+        [&](const Library& library) {
+            EXPECT_EQ(library.Get<decltype(lytGetTextForKey)>("lytGetTextForKey")("Buttons", "001", "", buffer, 200),
+                      1);
+        });
+}
+
+TEST_F(Unloading, AfterALogLeavesNothingBehind)
+{
+    Cycle([](const Library& library) { library.Get<decltype(lytWriteToLogFile)>("lytWriteToLogFile")("text", 1); });
+    EXPECT_TRUE(folder.Has("doc.log"));
+}
+
+TEST_F(Unloading, AfterAPropertyDialogLeavesNothingBehind)
+{
+    CycleWithDialogs(1,
+                     [&](const Library& library)
+                     {
+                         auto* show = library.Get<decltype(lytSymbolPropertyDialog)>("lytSymbolPropertyDialog");
+                         EXPECT_NE(show("key", buffer, 200), 0);
+                     });
+}
+
+TEST_F(Unloading, AfterADialogThatFailsLeavesNothingBehind)
+{
+    folder.Write("lytInSym.dlg", "no version\n");
+    Cycle(
+        [&](const Library& library)
+        {
+            robot::Robot user;
+            user.AnswerMessage();
+            auto* show = library.Get<decltype(lytSymbolPropertyDialog)>("lytSymbolPropertyDialog");
+            EXPECT_EQ(show("key", buffer, 200), 0);
+            EXPECT_TRUE(user.Done()) << user.Log();
+        });
+}
+
+TEST_F(Unloading, AfterACatalogueLeavesNothingBehind)
+{
+    CycleWithDialogs(1, [&](const Library& library)
+                     { library.Get<decltype(lytOpenTreeView)>("lytOpenTreeView")("W", buffer, 200); });
+}
+
+TEST_F(Unloading, AfterAWizardLeavesNothingBehind)
+{
+    CycleWithDialogs(2, [&](const Library& library) { library.Get<decltype(lytWizard)>("lytWizard")(buffer, 200); });
+}
+
+TEST_F(Unloading, AfterAReportLeavesNothingBehind)
+{
+    Cycle(
+        [&](const Library& library)
+        {
+            EXPECT_EQ(library.Get<decltype(lytSystemInfoInit)>("lytSystemInfoInit")(folder.Path().c_str()), 1);
+            EXPECT_EQ(library.Get<decltype(lytSystemInfoRead)>("lytSystemInfoRead")(1, buffer, 200), 1);
+        });
+}
