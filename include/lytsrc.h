@@ -17,7 +17,12 @@
  * Nothing tells the source that reading has ended. A start call may come at any time, also in the middle of a run, and
  * begins again. All calls come from the one thread that called lyt64; records and texts need not outlive a call. A
  * catalogue is read once and then kept until FreeGlobalObject (lytGetSymbolfromTree without a kept catalogue reads it
- * through each time). A run ends after 1,000,000 records, whatever the source says.
+ * through each time). A run ends after 1,000,000 records, whatever the source says. A source may call lyt64 from inside
+ * a call: FreeGlobalObject then drops what is kept, and not the run that is being read.
+ *
+ * The functions must not raise. If one does all the same, what was read of the run is dropped and the catalogue stays as
+ * it was before, so that the next use starts a new run. The browser shows the failure and stands empty;
+ * lytGetSymbolfromTree lets the exception through to its caller.
  *
  * The order of the records is the order on the screen, depth first: an entry follows the entry it belongs to, and
  * comes before the next one of that entry's level. Its parent is the nearest record before it with a smaller nLevel;

@@ -22,6 +22,11 @@ HTREEITEM CTreeCtrl::InsertItem(const char* text, int image, int selectedImage, 
     return reinterpret_cast<HTREEITEM>(SendMessage(TVM_INSERTITEMA, 0, reinterpret_cast<LPARAM>(&insert)));
 }
 
+BOOL CTreeCtrl::DeleteAllItems() const
+{
+    return static_cast<BOOL>(SendMessage(TVM_DELETEITEM, 0, reinterpret_cast<LPARAM>(TVI_ROOT)));
+}
+
 BOOL CTreeCtrl::Expand(HTREEITEM item, UINT code) const
 {
     return static_cast<BOOL>(SendMessage(TVM_EXPAND, code, reinterpret_cast<LPARAM>(item)));

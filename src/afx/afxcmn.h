@@ -15,6 +15,7 @@ public:
     // The new item; null when the control cannot take it.
     HTREEITEM InsertItem(const char* text, int image, int selectedImage, HTREEITEM parent = TVI_ROOT,
                          HTREEITEM insertAfter = TVI_LAST) const;
+    BOOL DeleteAllItems() const;
     BOOL Expand(HTREEITEM item, UINT code) const;
     // Null, like any item that is not there, selects nothing.
     BOOL SelectItem(HTREEITEM item) const;

@@ -58,6 +58,10 @@ public:
         return Place(*std::next(m_nodes.begin(), index));
     }
 
+protected:
+    // Each list takes over the elements of the other; their POSITIONs go with them.
+    void Swap(CListBody& other) noexcept { m_nodes.swap(other.m_nodes); }
+
 private:
     struct Node
     {

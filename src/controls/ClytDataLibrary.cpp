@@ -1,5 +1,7 @@
 #include "controls/ClytDataLibrary.h"
 
+#include "base/LongestRun.h"
+
 CString lytCallForText(lytDataText& function, const CString& parameter)
 {
     ClytDataText answer;
@@ -10,10 +12,13 @@ CString lytCallForText(lytDataText& function, const CString& parameter)
 
 bool ClytDataListing::Next()
 {
-    const int delivered = next(display.Buffer(), ClytDataText::usableSize, value.Buffer(), ClytDataText::usableSize);
+    if (delivered == lytLongestRun)
+        return false;
+    ++delivered;
+    const int answer = next(display.Buffer(), ClytDataText::usableSize, value.Buffer(), ClytDataText::usableSize);
     display.End();
     value.End();
-    return delivered != 0;
+    return answer != 0;
 }
 
 bool ClytDataLibrary::Load(const CString& name)

@@ -31,13 +31,14 @@ class ClytDataListing
 public:
     explicit ClytDataListing(lytDataNext& nextFunction) : next(nextFunction) {}
 
-    // False at the end of the listing.
+    // False at the end of the listing, and of a run that does not end.
     bool Next();
     CString GetDisplay() const { return display.Text(); }
     CString GetValue() const { return value.Text(); }
 
 private:
     lytDataNext& next;
+    int delivered = 0;
     ClytDataText display;
     ClytDataText value;
 };

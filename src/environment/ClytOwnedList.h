@@ -34,6 +34,8 @@ public:
             RemoveHead();
     }
 
+    // Each list takes over the records of the other.
+    void Exchange(ClytOwnedList& other) noexcept { List::Swap(other); }
     // Moves every record of the other list behind the records of this one.
     void TakeAll(ClytOwnedList& other)
     {

@@ -131,8 +131,18 @@ void ClytTreeDialog::FillTree()
         return;
     }
     ClytTreeSource source;
-    if (lytGetTreeSource(m_bPara ? 'P' : 'S', source.start, source.next))
+    if (!lytGetTreeSource(m_bPara ? 'P' : 'S', source.start, source.next))
+        return;
+    try
+    {
         lytFillFromSource(m_nodes, source, &items, m_cKind);
+    }
+    catch (...)
+    {
+        // Nothing could be done with entries that have no node.
+        m_treeCtrl.DeleteAllItems();
+        throw;
+    }
 }
 
 HTREEITEM ClytTreeDialog::ExpandTree()

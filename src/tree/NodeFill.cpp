@@ -1,6 +1,8 @@
 #include "tree/NodeFill.h"
 
+#include "base/LongestRun.h"
 #include "tree/ClytAncestors.h"
+#include "tree/ClytChildCursor.h"
 
 #include <algorithm>
 #include <cstring>
@@ -61,6 +63,14 @@ HTREEITEM Show(const ClytNode& node, HTREEITEM parent, ClytTreeItems& items, int
     return items.InsertItem(parent, label, image);
 }
 
+// A source that calls back may have filled the list meanwhile. The items belong to the nodes of the run that ended last.
+void Replace(ClytNodeList& nodes, ClytNodeList& run)
+{
+    if (!nodes.IsEmpty())
+        lytChildCursor.Forget();
+    nodes.Exchange(run);
+}
+
 } // namespace
 
 void lytExpandLabel(char (&target)[lytShownLabelSize], const char* label)
@@ -92,6 +102,7 @@ void lytFillFromSource(ClytNodeList& nodes, const ClytTreeSource& source, ClytTr
     if (source.start("") == 0)
         return;
 
+    ClytNodeList run;
     ClytAncestors ancestors;
     const EntryType* type = &entryTypes[0];
     for (int count = 0; count < lytLongestRun; ++count)
@@ -100,7 +111,7 @@ void lytFillFromSource(ClytNodeList& nodes, const ClytTreeSource& source, ClytTr
         if (source.next(&record) == 0)
             break;
         type = &TypeOf(record.nType, *type);
-        ClytNode& node = nodes.AddTail(NodeOf(record, *type));
+        ClytNode& node = run.AddTail(NodeOf(record, *type));
         const HTREEITEM parent = ancestors.lytFindParentItem(node.m_nLevel);
         ancestors.Add(node.m_nLevel, &node);
 
@@ -110,6 +121,7 @@ void lytFillFromSource(ClytNodeList& nodes, const ClytTreeSource& source, ClytTr
         if (items != nullptr && shown)
             node.m_hItem = Show(node, parent, *items, type->image);
     }
+    Replace(nodes, run);
 }
 
 void lytFillFromList(const ClytNodeList& nodes, ClytTreeItems& items, char kind)

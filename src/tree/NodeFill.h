@@ -10,17 +10,16 @@ struct ClytTreeSource
     lytTreeNextFunction next = nullptr;
 };
 
-// A run that has not ended by then counts as ended, so that a source cannot hang its caller.
-inline constexpr int lytLongestRun = 1'000'000;
-
 // Room for a label as shown.
 inline constexpr int lytShownLabelSize = 255;
 
 // Writes a label with three blanks in place of each "##"; three marks in a row leave the third.
 void lytExpandLabel(char (&target)[lytShownLabelSize], const char* label);
 
-// Reads one run into the list and shows each entry, unless the source refuses to start; without `items` the nodes are
-// only held. In a dialog of kind 'G' symbols become nodes that are not shown.
+// Reads one run and shows each entry, unless the source refuses to start; without `items` the nodes are only held. In a
+// dialog of kind 'G' symbols become nodes that are not shown. The run takes the place of what the list holds when it has
+// ended: a source that raises leaves the list as it was, and whatever a source does to the list meanwhile, the run is
+// not touched.
 void lytFillFromSource(ClytNodeList& nodes, const ClytTreeSource& source, ClytTreeItems* items, char kind);
 // Shows the entries of a list that is already filled, and gives each node the item of this control.
 void lytFillFromList(const ClytNodeList& nodes, ClytTreeItems& items, char kind);

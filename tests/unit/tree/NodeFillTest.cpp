@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <climits>
+#include <stdexcept>
 
 namespace
 {
@@ -171,6 +172,50 @@ TEST(NodeFill, EndsARunThatDoesNotEnd)
     EXPECT_EQ(nodes.GetCount(), 1'000'000);
 }
 
+TEST(NodeFill, KeepsNothingOfARunThatBreaksOff)
+{
+    RecordedSource source(house);
+    ClytNodeList nodes;
+    RecordedItems items;
+    source.Interrupt(3, [] { throw std::runtime_error("broken"); });
+    EXPECT_THROW(lytFillFromSource(nodes, source.Source(), &items, 'S'), std::runtime_error);
+    EXPECT_TRUE(nodes.IsEmpty());
+}
+
+TEST(NodeFill, KeepsTheListOfARunThatBreaksOffAsItWas)
+{
+    RecordedSource source(house);
+    ClytNodeList nodes;
+    lytFillFromSource(nodes, source.Source(), nullptr, 'S');
+    const ClytNode* kept = nodes.GetTail();
+    source.Interrupt(3, [] { throw std::runtime_error("broken"); });
+    EXPECT_THROW(lytFillFromSource(nodes, source.Source(), nullptr, 'S'), std::runtime_error);
+    EXPECT_EQ(TypesOf(nodes), "HGSG");
+    EXPECT_EQ(nodes.GetTail(), kept);
+}
+
+TEST(NodeFill, OutlivesASourceThatEmptiesTheListFromInsideACall)
+{
+    RecordedSource source(house);
+    ClytNodeList nodes;
+    RecordedItems items;
+    source.Interrupt(3, [&] { nodes.RemoveAll(); });
+    lytFillFromSource(nodes, source.Source(), &items, 'S');
+    EXPECT_EQ(TypesOf(nodes), "HGSG");
+    EXPECT_EQ(items.inserted, Lines({"0: House [0]", "1: Roof [1]", "2: Tile [2]", "1: Wall [1]"}));
+}
+
+TEST(NodeFill, KeepsTheRunThatEndsLastWhenASourceFillsTheListFromInsideACall)
+{
+    RecordedSource source(house);
+    ClytNodeList nodes;
+    RecordedItems items;
+    source.Interrupt(2, [&] { nodes.AddTail(std::make_unique<ClytNode>(nullptr, 0)); });
+    lytFillFromSource(nodes, source.Source(), &items, 'S');
+    EXPECT_EQ(TypesOf(nodes), "HGSG");
+    EXPECT_EQ(RecordedItems::Number(NodeAt(nodes, 3).m_hItem), 4);
+}
+
 TEST(NodeFill, KeepsTextsOfNinetyNineCharacters)
 {
     const std::string label(99, 'l');
@@ -224,10 +269,12 @@ TEST(NodeFill, StoresARecordOfTypeSevenBehindAGroupAsAGroup)
 TEST(NodeFill, StartsEachLoadFromHeading)
 {
     RecordedSource source({Record(0, 7, "", ""), Record(0, LYT_TREE_SYMBOL, "", "")});
-    ClytNodeList nodes;
-    lytFillFromSource(nodes, source.Source(), nullptr, 'S');
-    lytFillFromSource(nodes, source.Source(), nullptr, 'S');
-    EXPECT_EQ(TypesOf(nodes), "HSHS");
+    for (int load = 0; load < 2; ++load)
+    {
+        ClytNodeList nodes;
+        lytFillFromSource(nodes, source.Source(), nullptr, 'S');
+        EXPECT_EQ(TypesOf(nodes), "HS");
+    }
 }
 
 TEST(NodeFill, MakesLevelsThreeAndTwoChildrenOfLevelOne)

@@ -37,6 +37,12 @@ ClytTreeSource RecordedSource::Source() const
     return {&Start, &Next};
 }
 
+void RecordedSource::Interrupt(size_t record, std::function<void()> act)
+{
+    m_interrupted = record;
+    m_act = std::move(act);
+}
+
 ClytTreeSource RecordedSource::Refusing()
 {
     return {[](const char*) { return 0; }, [](lytTreeRecord*) { return 1; }};
@@ -59,6 +65,8 @@ int32_t RecordedSource::Next(lytTreeRecord* record)
     if (s_current->m_next == s_current->m_records.size())
         return 0;
     *record = s_current->m_records[s_current->m_next++];
+    if (s_current->m_next == s_current->m_interrupted)
+        s_current->m_act();
     return 1;
 }
 

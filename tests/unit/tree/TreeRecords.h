@@ -3,6 +3,7 @@
 
 #include "tree/NodeFill.h"
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -19,6 +20,8 @@ public:
     ~RecordedSource();
 
     ClytTreeSource Source() const;
+    // Acts from inside the next call that asks for the record of this number, counted from 1.
+    void Interrupt(size_t record, std::function<void()> act);
     // A source that says no to the start, and one that never says there is no more.
     static ClytTreeSource Refusing();
     static ClytTreeSource Endless();
@@ -31,6 +34,8 @@ private:
 
     std::vector<lytTreeRecord> m_records;
     size_t m_next = 0;
+    size_t m_interrupted = 0;
+    std::function<void()> m_act;
     static RecordedSource* s_current;
 };
 

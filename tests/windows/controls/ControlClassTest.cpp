@@ -2,6 +2,7 @@
 #include "controls/ClytCheckBoxControl.h"
 #include "controls/ClytCheckListBox.h"
 #include "controls/ClytComboBoxControl.h"
+#include "controls/ClytDataLibrary.h"
 #include "controls/ClytListBoxControl.h"
 #include "controls/ClytOptionGroup.h"
 #include "controls/ClytPushButtonControl.h"
@@ -204,4 +205,22 @@ TEST_F(ControlClass, AGroupWithoutButtonsIsEmpty)
     EXPECT_EQ(group.IsActive(), 0);
     group.SetState("ACTIVE", 5);
     EXPECT_EQ(group.IsActive(), 1);
+}
+
+TEST(DataListing, ThatDoesNotEndCountsAsEnded)
+{
+    static int calls = 0;
+    lytDataNext& endless = *[](char* display, int /*size*/, char* /*value*/, int /*valueSize*/)
+    {
+        display[0] = 'x';
+        ++calls;
+        return 1;
+    };
+    ClytDataListing listing(endless);
+    int delivered = 0;
+    while (delivered <= 1'000'000 && listing.Next())
+        ++delivered;
+    EXPECT_EQ(delivered, 1'000'000);
+    EXPECT_EQ(calls, 1'000'000);
+    EXPECT_FALSE(listing.Next());
 }

@@ -1,7 +1,26 @@
 // The data-source library: how it is found, what it may lack, how often it is read.
 #include "TreeFixture.h"
 
+#include <stdexcept>
+
 using TreeSource = TreeTest;
+
+namespace
+{
+
+void BreakOff()
+{
+    throw std::runtime_error("The source broke off.");
+}
+
+void ReleaseEverything()
+{
+    const HMODULE library = GetModuleHandleA("lyt64");
+    reinterpret_cast<decltype(&FreeGlobalObject)>(
+        reinterpret_cast<void*>(GetProcAddress(library, "FreeGlobalObject")))();
+}
+
+} // namespace
 
 TEST_F(TreeSource, MissingLibraryIsAnEmptyCatalogueWithoutAMessage)
 {
@@ -120,4 +139,40 @@ TEST_F(TreeSource, RunThatDoesNotEndCountsAsEnded)
     Serve('S', {Entry(0, LYT_TREE_HEADING, "a", "a")}, 1, true);
     EXPECT_EQ(SymbolFor("b"), "0 untouched");
     EXPECT_EQ(Nexts('S'), 1'000'000);
+}
+
+TEST_F(TreeSource, RunThatBreaksOffIsToldAndNotKept)
+{
+    UseSource();
+    Interrupt(3, BreakOff);
+    robot::Robot robot;
+    robot.AnswerMessage();
+    const Lines shown = ItemsShown("S");
+    EXPECT_EQ(robot.Messages(), Lines({"The source broke off."}));
+    EXPECT_EQ(shown, Lines());
+
+    Interrupt(0, nullptr);
+    EXPECT_EQ(ItemsShown("S"), houseShown);
+    EXPECT_EQ(Starts('S'), 2);
+}
+
+TEST_F(TreeSource, RunThatBreaksOffInALookupIsNotKept)
+{
+    UseSource();
+    Interrupt(3, BreakOff);
+    EXPECT_THROW(SymbolFor("tin"), std::runtime_error);
+    Interrupt(0, nullptr);
+    EXPECT_EQ(SymbolFor("tin"), "1 tin");
+    EXPECT_EQ(ItemsShown("S"), houseShown);
+    EXPECT_EQ(Starts('S'), 3);
+}
+
+TEST_F(TreeSource, MayReleaseEverythingFromInsideACall)
+{
+    UseSource();
+    Interrupt(4, ReleaseEverything);
+    EXPECT_EQ(ItemsShown("S"), houseShown);
+    Interrupt(0, nullptr);
+    EXPECT_EQ(ItemsShown("S"), houseShown);
+    EXPECT_EQ(Starts('S'), 1);
 }

@@ -11,6 +11,9 @@ struct Catalogue
     int nexts;
 };
 
+int interrupted = 0;
+void (*interrupt)() = nullptr;
+
 Catalogue symbols;
 Catalogue paragraphs;
 
@@ -37,6 +40,8 @@ int32_t Next(Catalogue& catalogue, lytTreeRecord* record)
         catalogue.next = 0;
     }
     *record = script.records[catalogue.next++];
+    if (catalogue.next == interrupted)
+        interrupt();
     return 1;
 }
 
@@ -55,6 +60,12 @@ int TestSourceStarts(char kind)
 int TestSourceNexts(char kind)
 {
     return CatalogueOf(kind).nexts;
+}
+
+void TestSourceInterrupt(int record, void (*act)())
+{
+    interrupted = record;
+    interrupt = act;
 }
 
 int32_t lytTreeStart(const char* selection)

@@ -18,4 +18,6 @@ extern "C"
     // The number of start calls since then that were given the empty text; any other text counts a hundred.
     int TestSourceStarts(char kind);
     int TestSourceNexts(char kind);
+    // Acts from inside a next call: that which delivers the record of this number, counted from 1 in each run.
+    void TestSourceInterrupt(int record, void (*act)());
 }

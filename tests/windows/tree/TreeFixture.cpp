@@ -111,6 +111,11 @@ void TreeTest::Serve(char kind, Records records, int startResult, bool endless)
     GetFromSource<decltype(TestSourceServe)>("TestSourceServe")(kind, &script);
 }
 
+void TreeTest::Interrupt(int record, void (*act)()) const
+{
+    GetFromSource<decltype(TestSourceInterrupt)>("TestSourceInterrupt")(record, act);
+}
+
 int TreeTest::Starts(char kind) const
 {
     return GetFromSource<decltype(TestSourceStarts)>("TestSourceStarts")(kind);

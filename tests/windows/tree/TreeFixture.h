@@ -33,6 +33,8 @@ protected:
     static std::string NastyLibrary();
     // What the source serves from now on; `house` and `yard` unless told.
     void Serve(char kind, Records records, int startResult = 1, bool endless = false);
+    // Acts from inside the call in which the source delivers the record of this number; 0 for never.
+    void Interrupt(int record, void (*act)()) const;
     int Starts(char kind) const;
     int Nexts(char kind) const;
 
