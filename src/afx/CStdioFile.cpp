@@ -1,5 +1,6 @@
 #include <afx.h>
 
+#include "FileNameLength.h"
 #include "StdioStream.h"
 
 #include <cerrno>
@@ -15,7 +16,10 @@ BOOL CStdioFile::Open(const char* fileName, UINT flags, CFileException* error)
 {
     SetFilePath(fileName);
     errno = 0;
-    m_pStream.reset(OpenTextStream(fileName, flags));
+    if (FileNameFits(fileName))
+        m_pStream.reset(OpenTextStream(fileName, flags));
+    else
+        errno = ENOENT;
     if (m_pStream != nullptr)
         return 1;
     if (error != nullptr)

@@ -1,6 +1,7 @@
 // The actions of the push button, one function a word of the description language.
 #include "controls/ClytPushButtonControl.h"
 
+#include "base/ClytHandle.h"
 #include "controls/ClytDataLibrary.h"
 #include "controls/ClytWaitCursor.h"
 #include "environment/ClytEnvironment.h"
@@ -106,13 +107,14 @@ ClytPushButtonControl::After ClytPushButtonControl::CallFunction()
     const CString outputRule = Value(2);
     const CString inputRule = Value(3);
 
-    // Loaded twice and freed once, the library stays for the next call.
+    // Loaded twice and freed once, the library stays for the next call; one without the function is not freed at all.
     LoadOrFail(library);
     lytSetCursor(IDC_WAIT);
     const HMODULE module = LoadOrFail(library);
     auto* call = lytFindFunction<lytDataText>(module, function);
     if (call == nullptr)
         lytRaise("232", lytErrorText("238"));
+    const ClytModuleHandle second(module);
 
     CString answer;
     CString parameter;
@@ -124,7 +126,6 @@ ClytPushButtonControl::After ClytPushButtonControl::CallFunction()
         answer.Empty();
     if (!lytInputKey.IsEmpty())
         dialog->RunInput(inputRule, answer);
-    FreeLibrary(module);
     return After::RunRules;
 }
 

@@ -1,5 +1,6 @@
 #include "sysinfo/BinaryKind.h"
 
+#include <FileNameLength.h>
 #include <windows.h>
 
 static_assert(lytBinary64 == SCS_64BIT_BINARY);
@@ -7,7 +8,7 @@ static_assert(lytBinary64 == SCS_64BIT_BINARY);
 std::optional<unsigned> BinaryKindOf(const CString& fileName)
 {
     DWORD kind = 0;
-    if (!GetBinaryTypeA(fileName, &kind))
+    if (!FileNameFits(fileName) || !GetBinaryTypeA(fileName, &kind))
         return {};
     return kind;
 }

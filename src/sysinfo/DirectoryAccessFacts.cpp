@@ -1,9 +1,7 @@
 #include "sysinfo/DirectoryAccess.h"
+#include "sysinfo/FileSearch.h"
 #include "sysinfo/Probes.h"
 #include "sysinfo/ReportLines.h"
-
-#include <cerrno>
-#include <io.h>
 
 namespace
 {
@@ -14,8 +12,8 @@ constexpr int readAndWrite = 6;
 
 void lytCheckDirectory(const CString& directory)
 {
-    if (_access(directory, readAndWrite) != 0)
-        if (std::optional<CString> line = DirectoryAccessLine(errno, directory))
+    if (const int error = lytAccessError(directory, readAndWrite); error != 0)
+        if (std::optional<CString> line = DirectoryAccessLine(error, directory))
             AddReportLine(*std::move(line));
     lytListFiles(directory, "*.*", 0);
 }

@@ -1,5 +1,6 @@
 #include "sysinfo/DirectoryName.h"
 #include "sysinfo/FileListing.h"
+#include "sysinfo/FileSearch.h"
 #include "sysinfo/Probes.h"
 #include "sysinfo/ReportLines.h"
 
@@ -44,13 +45,12 @@ std::vector<FileEntry> ReadFileEntries(const CString& directory, const CString& 
 {
     std::vector<FileEntry> entries;
     WIN32_FIND_DATAA found = {};
-    const HANDLE search = FindFirstFileA(directory + mask, &found);
-    if (search == INVALID_HANDLE_VALUE)
+    const ClytSearchHandle search = lytFindFirst(directory + mask, found);
+    if (!search.IsOpen())
         return entries;
     do
         entries.push_back(EntryOf(found));
-    while (FindNextFileA(search, &found));
-    FindClose(search);
+    while (FindNextFileA(search.Get(), &found));
     return entries;
 }
 

@@ -8,7 +8,10 @@
 
 #include <afxwin.h>
 
+#include <CallbackFailure.h>
+
 #include <string>
+#include <utility>
 
 namespace
 {
@@ -38,13 +41,21 @@ CString Narrow(const WCHAR* text, size_t room)
     return narrow;
 }
 
-int CALLBACK KeepFont(const LOGFONTW* font, const TEXTMETRICW* /*metric*/, DWORD /*type*/, LPARAM list)
+struct Enumeration
 {
-    // The platform passes the longer record, and the list comes back as it was handed in.
+    std::vector<lytFontEntry> entries;
+    CallbackFailure failure;
+};
+
+int CALLBACK KeepFont(const LOGFONTW* font, const TEXTMETRICW* /*metric*/, DWORD /*type*/, LPARAM target) noexcept
+{
+    // The platform passes the longer record, and the target comes back as it was handed in.
     const auto& record = *reinterpret_cast<const ENUMLOGFONTEXW*>(font);
-    auto& entries = *reinterpret_cast<std::vector<lytFontEntry>*>(list);
-    entries.push_back({Narrow(record.elfFullName, LF_FULLFACESIZE), record.elfLogFont.lfCharSet});
-    return 1;
+    auto& enumeration = *reinterpret_cast<Enumeration*>(target);
+    const auto keep = [&] {
+        enumeration.entries.push_back({Narrow(record.elfFullName, LF_FULLFACESIZE), record.elfLogFont.lfCharSet});
+    };
+    return enumeration.failure.Run(keep) ? 1 : 0;
 }
 
 std::vector<lytFontEntry> EnumerateFonts(const CString& name)
@@ -52,9 +63,10 @@ std::vector<lytFontEntry> EnumerateFonts(const CString& name)
     LOGFONTW wanted = {};
     wanted.lfCharSet = DEFAULT_CHARSET;
     Wide(name).copy(wanted.lfFaceName, LF_FACESIZE - 1);
-    std::vector<lytFontEntry> entries;
-    EnumFontFamiliesExW(ScreenContext(), &wanted, KeepFont, reinterpret_cast<LPARAM>(&entries), 0);
-    return entries;
+    Enumeration enumeration;
+    EnumFontFamiliesExW(ScreenContext(), &wanted, KeepFont, reinterpret_cast<LPARAM>(&enumeration), 0);
+    enumeration.failure.Rethrow();
+    return std::move(enumeration.entries);
 }
 
 } // namespace

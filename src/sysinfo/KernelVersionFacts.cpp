@@ -1,5 +1,6 @@
 #include "sysinfo/KernelVersion.h"
 
+#include "base/ClytHandle.h"
 #include "environment/PartnerLibrary.h"
 #include "sysinfo/Probes.h"
 
@@ -71,30 +72,24 @@ private:
 
 std::optional<CString> KernelPath()
 {
-    const HMODULE library = lytLoadLibrary("kernel32.dll");
-    if (library == nullptr)
+    const ClytModuleHandle library(lytLoadLibrary("kernel32.dll"));
+    if (!library.IsOpen())
         return {};
     char path[MAX_PATH] = "";
-    const DWORD length = GetModuleFileNameA(library, path, sizeof path);
-    FreeLibrary(library);
-    if (length == 0)
+    if (GetModuleFileNameA(library.Get(), path, sizeof path) == 0)
         return {};
     return path;
 }
 
 std::optional<CString> LastWriteDate(const CString& fileName)
 {
-    const HANDLE file =
-        CreateFileA(fileName, GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
-    if (file == INVALID_HANDLE_VALUE)
-        return {};
+    const ClytFileHandle file(
+        CreateFileA(fileName, GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
     FILETIME written = {};
-    const BOOL isTold = GetFileTime(file, nullptr, nullptr, &written);
-    CloseHandle(file);
-
     FILETIME local = {};
     SYSTEMTIME time = {};
-    if (!isTold || !FileTimeToLocalFileTime(&written, &local) || !FileTimeToSystemTime(&local, &time))
+    if (!file.IsOpen() || !GetFileTime(file.Get(), nullptr, nullptr, &written) ||
+        !FileTimeToLocalFileTime(&written, &local) || !FileTimeToSystemTime(&local, &time))
         return {};
     return KernelDateText(time.wDay, time.wMonth, time.wYear, time.wHour, time.wMinute);
 }

@@ -1,9 +1,8 @@
 #include "sysinfo/ProgramKind.h"
 
 #include "sysinfo/BinaryKind.h"
+#include "sysinfo/FileSearch.h"
 #include "sysinfo/Probes.h"
-
-#include <io.h>
 
 namespace
 {
@@ -27,7 +26,7 @@ CString lytProgramKind()
         return "";
     const CString server = lytInstallDirectory() + "lytRfcSv.exe";
     ProgramKindFacts facts;
-    facts.hasServer = _access_s(server, readAccess) == 0;
+    facts.hasServer = lytAccessError(server, readAccess) == 0;
     facts.binaryKind = BinaryKindOf(facts.hasServer ? server : host);
     return ProgramKindText(facts);
 }

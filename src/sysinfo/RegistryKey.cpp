@@ -5,27 +5,23 @@
 
 RegistryKey::RegistryKey(HKEY root, const char* name)
 {
-    if (RegOpenKeyA(root, name, &m_key) != ERROR_SUCCESS)
-        m_key = nullptr;
+    HKEY key = nullptr;
+    if (RegOpenKeyA(root, name, &key) == ERROR_SUCCESS)
+        m_key.Reset(key);
 }
 
 RegistryKey::RegistryKey(HKEY root, const char* name, REGSAM rights)
 {
-    if (RegOpenKeyExA(root, name, 0, rights, &m_key) != ERROR_SUCCESS)
-        m_key = nullptr;
-}
-
-RegistryKey::~RegistryKey()
-{
-    if (m_key != nullptr)
-        RegCloseKey(m_key);
+    HKEY key = nullptr;
+    if (RegOpenKeyExA(root, name, 0, rights, &key) == ERROR_SUCCESS)
+        m_key.Reset(key);
 }
 
 LSTATUS RegistryKey::Read(const char* valueName, DWORD& size, CString& text) const
 {
     // Data need not end with a NUL, and only its reported size is looked at.
     std::string data(size, '\0');
-    const LSTATUS result = RegQueryValueExA(m_key, valueName, nullptr, nullptr,
+    const LSTATUS result = RegQueryValueExA(m_key.Get(), valueName, nullptr, nullptr,
                                             static_cast<BYTE*>(static_cast<void*>(data.data())), &size);
     if (result == ERROR_SUCCESS)
         text = CString(data.c_str(), static_cast<int>(strnlen(data.c_str(), size)));
@@ -50,15 +46,15 @@ DWORD RegistryKey::ReadNumber(const char* valueName) const
     DWORD number = 0;
     DWORD type = REG_NONE;
     DWORD size = sizeof number;
-    const LSTATUS result =
-        RegQueryValueExA(m_key, valueName, nullptr, &type, static_cast<BYTE*>(static_cast<void*>(&number)), &size);
+    const LSTATUS result = RegQueryValueExA(m_key.Get(), valueName, nullptr, &type,
+                                            static_cast<BYTE*>(static_cast<void*>(&number)), &size);
     return result == ERROR_SUCCESS && type == REG_DWORD ? number : 0;
 }
 
 bool RegistryKey::ReadSubkey(const char* subkey, LONG size, CString& text) const
 {
     std::string data(static_cast<size_t>(size), '\0');
-    if (RegQueryValueA(m_key, subkey, data.data(), &size) != ERROR_SUCCESS)
+    if (RegQueryValueA(m_key.Get(), subkey, data.data(), &size) != ERROR_SUCCESS)
         return false;
     text = data.c_str();
     return true;
@@ -67,7 +63,7 @@ bool RegistryKey::ReadSubkey(const char* subkey, LONG size, CString& text) const
 LSTATUS RegistryKey::EnumKey(DWORD index, DWORD size, CString& name) const
 {
     std::string text(size, '\0');
-    const LSTATUS result = RegEnumKeyA(m_key, index, text.data(), size);
+    const LSTATUS result = RegEnumKeyA(m_key.Get(), index, text.data(), size);
     if (result == ERROR_SUCCESS)
         name = text.c_str();
     return result;
@@ -79,7 +75,7 @@ LSTATUS RegistryKey::EnumValue(DWORD index, DWORD size, RegistryValue& value) co
     DWORD nameSize = size;
     DWORD type = REG_NONE;
     value.data.assign(size, '\0');
-    const LSTATUS result = RegEnumValueA(m_key, index, name.data(), &nameSize, nullptr, &type,
+    const LSTATUS result = RegEnumValueA(m_key.Get(), index, name.data(), &nameSize, nullptr, &type,
                                          static_cast<BYTE*>(static_cast<void*>(value.data.data())), &size);
     value.name = name.c_str();
     value.type = type;
@@ -99,7 +95,7 @@ std::vector<CString> RegistryKey::SubkeyNames(DWORD size) const
 DWORD RegistryKey::CountValues() const
 {
     DWORD count = 0;
-    RegQueryInfoKeyA(m_key, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, &count, nullptr, nullptr, nullptr,
-                     nullptr);
+    RegQueryInfoKeyA(m_key.Get(), nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, &count, nullptr, nullptr,
+                     nullptr, nullptr);
     return count;
 }

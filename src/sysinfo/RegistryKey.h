@@ -1,6 +1,7 @@
 // An open key of the registry, for reading; closes itself.
 #pragma once
 
+#include "base/ClytHandle.h"
 #include "sysinfo/RegistryValue.h"
 
 #include <vector>
@@ -12,12 +13,9 @@ public:
     // Opens the key with all rights that the user has on it.
     RegistryKey(HKEY root, const char* name);
     RegistryKey(HKEY root, const char* name, REGSAM rights);
-    RegistryKey(const RegistryKey&) = delete;
-    RegistryKey& operator=(const RegistryKey&) = delete;
-    ~RegistryKey();
 
-    bool IsOpen() const { return m_key != nullptr; }
-    HKEY Get() const { return m_key; }
+    bool IsOpen() const { return m_key.IsOpen(); }
+    HKEY Get() const { return m_key.Get(); }
 
     // The value's data up to its first NUL; `text` stays as it is unless the read works. A null name is the default
     // value. Data of more than `size` bytes counts as unreadable.
@@ -41,5 +39,5 @@ private:
     // The platform's result; `size` receives the size that the data has.
     LSTATUS Read(const char* valueName, DWORD& size, CString& text) const;
 
-    HKEY m_key = nullptr;
+    ClytKeyHandle m_key;
 };

@@ -4,12 +4,11 @@
 #include "environment/PartnerLibrary.h"
 #include "environment/Words.h"
 #include "sysinfo/DirectoryName.h"
+#include "sysinfo/FileSearch.h"
 #include "sysinfo/Probes.h"
 #include "sysinfo/RegistryKey.h"
 #include "sysinfo/ReportFrame.h"
 #include "sysinfo/ReportLines.h"
-
-#include <io.h>
 
 namespace
 {
@@ -63,7 +62,7 @@ void AddResourceFiles()
         lytListFiles(directory, "LytRes*.dll", 0);
 
     const CString iniFile = lytEnvironment.GetIniFileName();
-    if (const errno_t error = _access_s(iniFile, readAccess); error != 0)
+    if (const int error = lytAccessError(iniFile, readAccess); error != 0)
         AddReportLine(IniAccessLine(error, iniFile));
 }
 
@@ -98,11 +97,7 @@ void AddRegistrySettings()
 bool HoldsTemplate(const CString& directory)
 {
     WIN32_FIND_DATAA found;
-    const HANDLE search = FindFirstFileA(directory + "lyt.dot", &found);
-    if (search == INVALID_HANDLE_VALUE)
-        return false;
-    FindClose(search);
-    return true;
+    return lytFindFirst(directory + "lyt.dot", found).IsOpen();
 }
 
 // The blocks of the versions look for the configuration while they list: the template of the version in use settles it.

@@ -1,6 +1,6 @@
-#include "sysinfo/Probes.h"
-
+#include "base/ClytHandle.h"
 #include "environment/PartnerLibrary.h"
+#include "sysinfo/Probes.h"
 
 #include <algorithm>
 #include <iterator>
@@ -18,21 +18,37 @@ GetVersionText* FindVersionFunction(HMODULE library)
     return own != nullptr ? own : lytFindFunction<GetVersionText>(library, "getVersion");
 }
 
+using VersionText = char[textSize];
+
+void Clear(VersionText& text)
+{
+    std::fill(std::begin(text), std::end(text), ' ');
+}
+
+// What the library raises ends here: it is made of the library's code, and cannot outlive the library.
+void Ask(GetVersionText& getVersion, VersionText& text)
+{
+    try
+    {
+        getVersion(text);
+    }
+    catch (...)
+    {
+        Clear(text);
+    }
+}
+
 } // namespace
 
 // Blanks stand for the version of a library that is missing or does not tell it.
 CString lytProbeResolveVersion()
 {
-    char text[textSize];
-    std::fill(std::begin(text), std::end(text), ' ');
-    text[textSize - 1] = '\0';
-    const HMODULE library = lytLoadLibrary("LytRes64.dll");
-    if (library != nullptr)
-    {
-        if (GetVersionText* const getVersion = FindVersionFunction(library))
-            getVersion(text);
-        FreeLibrary(library);
-    }
+    VersionText text;
+    Clear(text);
+    const ClytModuleHandle library(lytLoadLibrary("LytRes64.dll"));
+    if (library.IsOpen())
+        if (GetVersionText* const getVersion = FindVersionFunction(library.Get()))
+            Ask(*getVersion, text);
     // The library need not have left an end.
     text[textSize - 1] = '\0';
     return text;

@@ -33,6 +33,13 @@ TEST_F(DirectoryAccess, SaysThatADirectoryIsMissing)
     EXPECT_EQ(Lines(missing), (Texts{"Directory '" + missing + "' does not exist!"}));
 }
 
+TEST_F(DirectoryAccess, SaysThatADirectoryIsMissingWhoseNameIsLongerThanThePlatformTakes)
+{
+    // Of this name the platform would take the beginning, which is there.
+    const std::string name = folder.Path() + std::string(32'768, 'x');
+    EXPECT_EQ(Lines(name), (Texts{"Directory '" + name + "' does not exist!"}));
+}
+
 TEST_F(DirectoryAccess, SaysThatItCannotBeWritten)
 {
     const std::string path = folder.Write("shut", "");

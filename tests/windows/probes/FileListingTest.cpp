@@ -1,5 +1,7 @@
 #include "ProbeFixture.h"
 
+#include "support/FailingAllocation.h"
+
 #include <cstdlib>
 #include <ctime>
 #include <filesystem>
@@ -8,6 +10,14 @@ namespace fs = std::filesystem;
 
 namespace
 {
+
+// The platform gives out the lowest handle that is free, so one that is left open moves it.
+HANDLE LowestFreeHandle()
+{
+    HANDLE event = CreateEventA(nullptr, FALSE, FALSE, nullptr);
+    CloseHandle(event);
+    return event;
+}
 
 class FileListing : public ProbeFixture
 {
@@ -149,4 +159,24 @@ TEST_F(FileListing, ShowsAllOfManyFiles)
     for (int i = 0; i < 300; ++i)
         folder.Write("file" + std::to_string(i) + ".txt", "");
     EXPECT_EQ(Lines("*.txt").size(), 300U);
+}
+
+TEST_F(FileListing, OfANameBeyondThePlatformsLengthIsEmpty)
+{
+    folder.Write("a.txt", "");
+    const std::string name = folder.Path() + "\\*";
+    EXPECT_EQ(LinesOf("", name, 0).size(), 1U);
+    // Of this name the platform would take the beginning.
+    EXPECT_EQ(LinesOf("", name + std::string(32'768, 'x'), 0), Texts());
+}
+
+TEST_F(FileListing, ClosesItsSearchWhenItBreaksOff)
+{
+    for (char letter = 'a'; letter <= 'z'; ++letter)
+        folder.Write(std::string(40, letter), "");
+    const HANDLE before = LowestFreeHandle();
+    const int failures = FailEachAllocation([&] { lytListFiles(folder.Path().c_str(), "*", 0); });
+    EXPECT_GT(failures, 26);
+    EXPECT_EQ(LowestFreeHandle(), before);
+    TakeLines();
 }

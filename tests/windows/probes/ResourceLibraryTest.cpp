@@ -51,6 +51,13 @@ TEST_F(ResourceLibrary, IsCutAt399CharactersWhenItLeavesNoEnd)
     EXPECT_EQ(lytProbeResolveVersion(), std::string(399, 'x').c_str());
 }
 
+TEST_F(ResourceLibrary, ThatRaisesGivesBlanksAndIsFreed)
+{
+    Provide("raising");
+    EXPECT_EQ(lytProbeResolveVersion(), blanks.c_str());
+    EXPECT_EQ(GetModuleHandleA("LytRes64.dll"), nullptr);
+}
+
 TEST_F(ResourceLibrary, IsFreedAgain)
 {
     Provide("both");

@@ -1,0 +1,92 @@
+// Owners of what the platform hands out and wants back.
+#pragma once
+
+#include <windows.h>
+
+#include <utility>
+
+// Keeps the thread's last error over a clean-up: the code round it may be about to ask for it.
+class ClytKeptError
+{
+public:
+    ClytKeptError() = default;
+    ClytKeptError(const ClytKeptError&) = delete;
+    ClytKeptError& operator=(const ClytKeptError&) = delete;
+    ~ClytKeptError() { SetLastError(m_error); }
+
+private:
+    DWORD m_error = GetLastError();
+};
+
+// Owns one handle and closes it on every way out. KIND names the type, the value that stands for none, and the way to
+// close: `Handle`, `None()`, `Close(handle)`.
+template <class KIND>
+class ClytHandle
+{
+public:
+    using Handle = typename KIND::Handle;
+
+    ClytHandle() = default;
+    explicit ClytHandle(Handle handle) noexcept : m_handle(handle) {}
+    ClytHandle(const ClytHandle&) = delete;
+    ClytHandle& operator=(const ClytHandle&) = delete;
+    ClytHandle(ClytHandle&& other) noexcept : m_handle(other.Release()) {}
+    ClytHandle& operator=(ClytHandle&& other) noexcept
+    {
+        Reset(other.Release());
+        return *this;
+    }
+    ~ClytHandle() { Reset(); }
+
+    bool IsOpen() const noexcept { return m_handle != KIND::None(); }
+    Handle Get() const noexcept { return m_handle; }
+    // Hands the handle over to the caller, who closes it.
+    [[nodiscard]] Handle Release() noexcept { return std::exchange(m_handle, KIND::None()); }
+    // Closes the handle and takes over another.
+    void Reset(Handle handle = KIND::None()) noexcept
+    {
+        const Handle old = std::exchange(m_handle, handle);
+        if (old == KIND::None())
+            return;
+        const ClytKeptError kept;
+        KIND::Close(old);
+    }
+
+private:
+    Handle m_handle = KIND::None();
+};
+
+struct ClytFileKind
+{
+    using Handle = HANDLE;
+    static Handle None() noexcept { return INVALID_HANDLE_VALUE; }
+    static void Close(Handle file) noexcept { CloseHandle(file); }
+};
+using ClytFileHandle = ClytHandle<ClytFileKind>;
+
+// A search for files.
+struct ClytSearchKind
+{
+    using Handle = HANDLE;
+    static Handle None() noexcept { return INVALID_HANDLE_VALUE; }
+    static void Close(Handle search) noexcept { FindClose(search); }
+};
+using ClytSearchHandle = ClytHandle<ClytSearchKind>;
+
+// A loaded library.
+struct ClytModuleKind
+{
+    using Handle = HMODULE;
+    static Handle None() noexcept { return nullptr; }
+    static void Close(Handle module) noexcept { FreeLibrary(module); }
+};
+using ClytModuleHandle = ClytHandle<ClytModuleKind>;
+
+// A key of the registry.
+struct ClytKeyKind
+{
+    using Handle = HKEY;
+    static Handle None() noexcept { return nullptr; }
+    static void Close(Handle key) noexcept { RegCloseKey(key); }
+};
+using ClytKeyHandle = ClytHandle<ClytKeyKind>;
