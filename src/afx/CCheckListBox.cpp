@@ -99,7 +99,7 @@ BOOL CCheckListBox::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LR
 
 void CCheckListBox::DrawItem(DRAWITEMSTRUCT* draw)
 {
-    if (draw->hDC == nullptr)
+    if (draw == nullptr || draw->hDC == nullptr)
         return;
     const CRect item(draw->rcItem.left, draw->rcItem.top, draw->rcItem.right, draw->rcItem.bottom);
     const bool enabled = IsWindowEnabled() != FALSE;

@@ -1,6 +1,7 @@
 #include <afxwin.h>
 
 #include "ActivationContext.h"
+#include "CallbackFailure.h"
 
 #include <commctrl.h>
 
@@ -29,6 +30,13 @@ private:
     BOOL m_wasEnabled;
 };
 
+// What the dialog procedure is handed: the object to join with the window, and room for what goes wrong in that.
+struct Creation
+{
+    CDialog& dialog;
+    CallbackFailure failure;
+};
+
 } // namespace
 
 BEGIN_MESSAGE_MAP(CDialog, CWnd)
@@ -44,25 +52,32 @@ INT_PTR CDialog::DoModal()
     ::InitCommonControlsEx(&classes);
 
     INT_PTR result = -1;
+    Creation creation{*this, {}};
     {
         const HWND owner = m_pParentWnd != nullptr ? m_pParentWnd->m_hWnd : ::GetActiveWindow();
         const ModalRun run(owner);
         result = ::DialogBoxParamA(AfxGetResourceHandle(), MAKEINTRESOURCEA(m_nIDTemplate), owner, DialogProc,
-                                   reinterpret_cast<LPARAM>(this));
+                                   reinterpret_cast<LPARAM>(&creation));
     }
     if (modalDepth == 0)
         DeleteTempMap();
+    creation.failure.Rethrow();
     return result;
 }
 
 // The platform's own dialog procedure stays in charge of keys and focus; ours only joins the object with its window.
-INT_PTR CALLBACK CDialog::DialogProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
+INT_PTR CALLBACK CDialog::DialogProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept
 {
     if (message != WM_INITDIALOG)
         return FALSE;
-    auto* dialog = reinterpret_cast<CDialog*>(lParam);
-    dialog->SubclassWindow(window);
-    return AfxCallWndProc(*dialog, message, wParam, lParam);
+    auto& creation = *reinterpret_cast<Creation*>(lParam);
+    BOOL isJoined = FALSE;
+    if (!creation.failure.Run([&] { isJoined = creation.dialog.SubclassWindow(window); }) || !isJoined)
+    {
+        ::EndDialog(window, -1);
+        return FALSE;
+    }
+    return AfxCallWndProc(creation.dialog, message, wParam, lParam);
 }
 
 LRESULT CDialog::HandleInitDialog(WPARAM /*wParam*/, LPARAM /*lParam*/)

@@ -4,6 +4,8 @@
 
 #include <algorithm>
 #include <exception>
+#include <memory>
+#include <type_traits>
 
 namespace
 {
@@ -23,13 +25,32 @@ private:
     const MSG* m_previous; // stands further down the stack
 };
 
-LRESULT CALLBACK WindowProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
+// The window goes on without its object: ours stays in the chain of procedures and hands everything to the one below.
+LRESULT PassBelow(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept
+{
+    const WNDPROC below = WindowMap::Get().FindBelow(window);
+    if (below == nullptr)
+        return ::DefWindowProcA(window, message, wParam, lParam);
+    const LRESULT result = ::CallWindowProcA(below, window, message, wParam, lParam);
+    if (message == WM_NCDESTROY)
+        WindowMap::Get().RemovePermanent(window);
+    return result;
+}
+
+LRESULT CALLBACK WindowProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept
 {
     CWnd* object = CWnd::FromHandlePermanent(window);
     if (object == nullptr)
-        return ::DefWindowProcA(window, message, wParam, lParam);
+        return PassBelow(window, message, wParam, lParam);
     return AfxCallWndProc(*object, message, wParam, lParam);
 }
+
+// A window that was created and that no object stands over yet.
+struct WindowDestroyer
+{
+    void operator()(HWND window) const { ::DestroyWindow(window); }
+};
+using CreatedWindow = std::unique_ptr<std::remove_pointer_t<HWND>, WindowDestroyer>;
 
 // A report that fails in its turn is given up: there is no one left to tell.
 template <class REPORT>
@@ -131,10 +152,13 @@ BOOL CWnd::CreateEx(DWORD exStyle, const char* className, const char* windowName
     create.hInstance = AfxGetInstanceHandle();
     if (!PreCreateWindow(create))
         return FALSE;
-    const HWND window = ::CreateWindowExA(create.dwExStyle, create.lpszClass, create.lpszName,
-                                          static_cast<DWORD>(create.style), create.x, create.y, create.cx, create.cy,
-                                          create.hwndParent, create.hMenu, create.hInstance, create.lpCreateParams);
-    return window != nullptr && SubclassWindow(window);
+    CreatedWindow window(::CreateWindowExA(create.dwExStyle, create.lpszClass, create.lpszName,
+                                           static_cast<DWORD>(create.style), create.x, create.y, create.cx, create.cy,
+                                           create.hwndParent, create.hMenu, create.hInstance, create.lpCreateParams));
+    if (!SubclassWindow(window.get()))
+        return FALSE;
+    static_cast<void>(window.release());
+    return TRUE;
 }
 
 BOOL CWnd::PreCreateWindow(CREATESTRUCTA& /*create*/)
@@ -149,12 +173,16 @@ BOOL CWnd::DestroyWindow()
 
 BOOL CWnd::SubclassWindow(HWND window)
 {
-    if (window == nullptr || m_hWnd != nullptr)
+    WindowMap& map = WindowMap::Get();
+    if (window == nullptr || m_hWnd != nullptr || map.FindPermanent(window) != nullptr)
         return FALSE;
-    WindowMap::Get().SetPermanent(window, this);
+    const WNDPROC below = map.FindBelow(window);
+    map.SetPermanent(window, this);
     m_hWnd = window;
-    m_pfnSuper = reinterpret_cast<WNDPROC>(
-        ::SetWindowLongPtrA(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(WindowProcedure)));
+    // Where an object left under another's procedure, ours still stands in the chain and must not come in twice.
+    m_pfnSuper = below != nullptr ? below
+                                  : reinterpret_cast<WNDPROC>(::SetWindowLongPtrA(
+                                        window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(WindowProcedure)));
     return TRUE;
 }
 
@@ -163,8 +191,16 @@ HWND CWnd::UnsubclassWindow()
     const HWND window = m_hWnd;
     if (window == nullptr)
         return nullptr;
-    WindowMap::Get().RemovePermanent(window);
-    ::SetWindowLongPtrA(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(m_pfnSuper));
+    if (::GetWindowLongPtrA(window, GWLP_WNDPROC) == reinterpret_cast<LONG_PTR>(WindowProcedure))
+    {
+        WindowMap::Get().RemovePermanent(window);
+        ::SetWindowLongPtrA(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(m_pfnSuper));
+    }
+    else
+    {
+        // Somebody joined the window after us. To put back what we found would take them out of the chain.
+        WindowMap::Get().Leave(window, m_pfnSuper);
+    }
     m_hWnd = nullptr;
     m_pfnSuper = nullptr;
     return window;
@@ -214,7 +250,7 @@ BOOL CWnd::OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result)
     case WM_DRAWITEM:
     {
         const auto* draw = reinterpret_cast<const DRAWITEMSTRUCT*>(lParam);
-        CWnd* child = FromHandlePermanent(draw->hwndItem);
+        CWnd* child = draw != nullptr ? FromHandlePermanent(draw->hwndItem) : nullptr;
         return child != nullptr && child->OnChildNotify(message, wParam, lParam, result);
     }
     case WM_NCDESTROY: OnNcDestroy(); return TRUE;
@@ -262,6 +298,7 @@ void CWnd::OnNcDestroy()
     const WNDPROC super = m_pfnSuper;
     const HWND window = UnsubclassWindow();
     ::CallWindowProcA(super, window, WM_NCDESTROY, currentMessage->wParam, currentMessage->lParam);
+    WindowMap::Get().RemovePermanent(window);
     PostNcDestroy();
 }
 

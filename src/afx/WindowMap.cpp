@@ -9,7 +9,20 @@ WindowMap& WindowMap::Get()
 CWnd* WindowMap::FindPermanent(HWND window) const
 {
     const auto entry = m_permanent.find(window);
-    return entry != m_permanent.end() ? entry->second : nullptr;
+    return entry != m_permanent.end() ? entry->second.object : nullptr;
+}
+
+void WindowMap::Leave(HWND window, WNDPROC below) noexcept
+{
+    const auto entry = m_permanent.find(window);
+    if (entry != m_permanent.end())
+        entry->second = {nullptr, below};
+}
+
+WNDPROC WindowMap::FindBelow(HWND window) const
+{
+    const auto entry = m_permanent.find(window);
+    return entry != m_permanent.end() ? entry->second.below : nullptr;
 }
 
 CWnd* WindowMap::FindOrMakeTemporary(HWND window)

@@ -13,14 +13,23 @@ public:
 
     // Objects that joined their window. The map does not own them.
     CWnd* FindPermanent(HWND window) const;
-    void SetPermanent(HWND window, CWnd* object) { m_permanent[window] = object; }
+    void SetPermanent(HWND window, CWnd* object) { m_permanent[window] = {object, nullptr}; }
     void RemovePermanent(HWND window) { m_permanent.erase(window); }
+    // The object leaves, and what it leaves behind is the procedure that stands below ours.
+    void Leave(HWND window, WNDPROC below) noexcept;
+    WNDPROC FindBelow(HWND window) const;
 
     // Stand-ins for windows that no object joined: a handle in the clothes of a CWnd. Null for null.
     CWnd* FindOrMakeTemporary(HWND window);
     void RemoveTemporaries() { m_temporary.clear(); }
 
 private:
-    std::unordered_map<HWND, CWnd*> m_permanent;
+    struct Joined
+    {
+        CWnd* object;
+        WNDPROC below; // null as long as the object is there, which knows it
+    };
+
+    std::unordered_map<HWND, Joined> m_permanent;
     std::unordered_map<HWND, std::unique_ptr<CWnd>> m_temporary;
 };

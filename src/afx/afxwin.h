@@ -44,7 +44,8 @@ public:
     BOOL CreateEx(DWORD exStyle, const char* className, const char* windowName, DWORD style, const RECT& rect,
                   CWnd* parent, UINT id);
     virtual BOOL DestroyWindow();
-    // Joins a window that stands already, and leaves it again.
+    // Joins a window that stands already and has no object yet; leaves it again with the procedure that it had, unless
+    // somebody has put another one on top meanwhile.
     BOOL SubclassWindow(HWND window);
     HWND UnsubclassWindow();
 
@@ -140,7 +141,8 @@ public:
     explicit CDialog(UINT templateId, CWnd* parent = nullptr) : m_nIDTemplate(templateId), m_pParentWnd(parent) {}
 
     // Runs the dialog; its owner is the parent, or the thread's active window without one. Gives what EndDialog was
-    // told, -1 when there is no such template.
+    // told, -1 when there is no such template or the object stands over a window already. Raises what joining the window
+    // raised, once the window is gone again.
     virtual INT_PTR DoModal();
     void EndDialog(int result) const { ::EndDialog(m_hWnd, result); }
     // Gives a child the focus as the Tab key does.
@@ -158,7 +160,7 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
-    static INT_PTR CALLBACK DialogProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+    static INT_PTR CALLBACK DialogProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept;
     LRESULT HandleInitDialog(WPARAM wParam, LPARAM lParam);
 
     UINT m_nIDTemplate;
@@ -234,7 +236,7 @@ class CCheckListBox : public CListBox
 public:
     void SetCheck(int index, int check);
     int GetCheck(int index) const;
-    // Draws one item; without a device nothing.
+    // Draws one item; without a record or a device nothing.
     virtual void DrawItem(DRAWITEMSTRUCT* draw);
 
 protected:

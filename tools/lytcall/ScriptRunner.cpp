@@ -62,8 +62,17 @@ void ScriptRunner::Finish()
 
 void ScriptRunner::Tick(HWND /*window*/, UINT /*message*/, UINT_PTR /*timer*/, DWORD /*time*/)
 {
-    if (running != nullptr)
+    if (running == nullptr)
+        return;
+    // The platform called this, and nothing may be raised through it.
+    try
+    {
         running->Run();
+    }
+    catch (const std::exception& error)
+    {
+        running->m_failure = error.what();
+    }
 }
 
 void ScriptRunner::Run()

@@ -258,8 +258,19 @@ Robot& Robot::AnswerMessage(int button)
 
 void Robot::Tick(HWND /*window*/, UINT /*message*/, UINT_PTR /*timer*/, DWORD /*time*/)
 {
-    if (current != nullptr)
-        current->Run();
+    Robot* const robot = current;
+    if (robot == nullptr)
+        return;
+    // The platform called this, and nothing may be raised through it.
+    try
+    {
+        robot->Run();
+    }
+    catch (const std::exception& error)
+    {
+        robot->m_log += std::string(" raised '") + error.what() + "'";
+        robot->GiveUp();
+    }
 }
 
 void Robot::Run()

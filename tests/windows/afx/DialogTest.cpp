@@ -1,9 +1,12 @@
 #include "TestWindows.h"
 
 #include "robot/WindowRobot.h"
+#include "support/FailingAllocation.h"
 #include "support/RecordedMessages.h"
 
 #include <gtest/gtest.h>
+
+#include <stdexcept>
 
 namespace
 {
@@ -70,6 +73,50 @@ TEST(Dialog, WithoutATemplateDoesNotStart)
     ScriptedDialog dialog(999);
     EXPECT_EQ(dialog.DoModal(), -1);
     EXPECT_EQ(dialog.record, Record{});
+}
+
+TEST(Dialog, ThatCannotJoinItsWindowRaisesOnceTheWindowIsGone)
+{
+    RecordingWindow owner;
+    owner.ShowWindow(SW_SHOW);
+    ::SetActiveWindow(owner.m_hWnd);
+    ScriptedDialog dialog(emptyTemplate);
+    {
+        const FailingAllocation failing(0);
+        EXPECT_THROW(dialog.DoModal(), std::bad_alloc);
+    }
+    EXPECT_EQ(::FindWindowA("#32770", "Empty"), nullptr);
+    EXPECT_EQ(dialog.m_hWnd, nullptr);
+    EXPECT_EQ(dialog.record, Record{});
+    EXPECT_TRUE(::IsWindowEnabled(owner.m_hWnd));
+
+    dialog.init = ScriptedDialog::Init::EndAtOnce;
+    EXPECT_EQ(dialog.DoModal(), 33);
+}
+
+TEST(Dialog, RunsOnceAtATime)
+{
+    ScriptedDialog dialog(emptyTemplate);
+    robot::Robot robot;
+    robot.On("Empty",
+             [&](HWND window)
+             {
+                 EXPECT_EQ(dialog.DoModal(), -1);
+                 EXPECT_EQ(dialog.m_hWnd, window);
+                 PostMessageA(window, WM_CLOSE, 0, 0);
+             });
+    EXPECT_EQ(dialog.DoModal(), IDCANCEL);
+    EXPECT_EQ(dialog.record, (Record{"init", "cancel"}));
+}
+
+TEST(Dialog, RobotGivesUpWhenAnActRaises)
+{
+    ScriptedDialog dialog(emptyTemplate);
+    robot::Robot robot;
+    robot.On("Empty", [](HWND) { throw std::runtime_error("no such thing"); });
+    EXPECT_EQ(dialog.DoModal(), -1);
+    EXPECT_FALSE(robot.Done());
+    EXPECT_NE(robot.Log().find("raised 'no such thing'"), std::string::npos) << robot.Log();
 }
 
 TEST(Dialog, SpeaksAnsi)

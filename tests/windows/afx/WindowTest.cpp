@@ -2,11 +2,37 @@
 
 #include <afxcmn.h>
 
+#include "support/FailingAllocation.h"
 #include "support/RecordedMessages.h"
 
 #include <gtest/gtest.h>
 
 using Record = std::vector<std::string>;
+
+namespace
+{
+
+WNDPROC under = nullptr;
+
+// A procedure of somebody else, who joins a window after us.
+LRESULT CALLBACK Upper(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    return message == questionMessage ? 77 : CallWindowProcA(under, window, message, wParam, lParam);
+}
+
+void PutOnTop(HWND window)
+{
+    under = reinterpret_cast<WNDPROC>(
+        ::SetWindowLongPtrA(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(static_cast<WNDPROC>(Upper))));
+}
+
+HWND PlainEdit(const CWnd& parent)
+{
+    return ::CreateWindowExA(0, "Edit", "kept", WS_CHILD, 0, 0, 10, 10, parent.m_hWnd, nullptr, AfxGetInstanceHandle(),
+                             nullptr);
+}
+
+} // namespace
 
 TEST(MessageMap, CracksParameters)
 {
@@ -41,6 +67,15 @@ TEST(MessageMap, NotificationGivesItsResultToTheSender)
     EXPECT_EQ(window.SendMessage(WM_NOTIFY, 9, reinterpret_cast<LPARAM>(&header)), 42);
     EXPECT_EQ(window.SendMessage(WM_NOTIFY, 9, 0), 0);
     EXPECT_EQ(window.record, Record{"notified by 9"});
+}
+
+TEST(MessageMap, DrawingWithoutARecordIsNobodys)
+{
+    RecordingWindow window;
+    EXPECT_EQ(window.SendMessage(WM_DRAWITEM, 0, 0), 0);
+    DRAWITEMSTRUCT draw{};
+    EXPECT_EQ(window.SendMessage(WM_DRAWITEM, 0, reinterpret_cast<LPARAM>(&draw)), 0);
+    EXPECT_EQ(TakeMessages(), Record{});
 }
 
 TEST(MessageMap, ClassStandsBeforeItsBase)
@@ -153,8 +188,7 @@ TEST(Window, JoinedControlKeepsItsBehaviourAndItsClass)
 TEST(Window, LeavesAWindowAsItFoundIt)
 {
     RecordingWindow parent;
-    const HWND handle = ::CreateWindowExA(0, "Edit", "kept", WS_CHILD, 0, 0, 10, 10, parent.m_hWnd, nullptr,
-                                          AfxGetInstanceHandle(), nullptr);
+    const HWND handle = PlainEdit(parent);
     const LONG_PTR procedure = ::GetWindowLongPtrA(handle, GWLP_WNDPROC);
     CEdit edit;
     EXPECT_TRUE(edit.SubclassWindow(handle));
@@ -162,6 +196,77 @@ TEST(Window, LeavesAWindowAsItFoundIt)
     EXPECT_EQ(edit.UnsubclassWindow(), handle);
     EXPECT_EQ(::GetWindowLongPtrA(handle, GWLP_WNDPROC), procedure);
     EXPECT_EQ(edit.UnsubclassWindow(), nullptr);
+}
+
+TEST(Window, LeavesAProcedureThatStandsOnTopOfOurs)
+{
+    RecordingWindow parent;
+    const HWND handle = PlainEdit(parent);
+    CEdit edit;
+    ASSERT_TRUE(edit.SubclassWindow(handle));
+    PutOnTop(handle);
+    EXPECT_EQ(edit.UnsubclassWindow(), handle);
+    EXPECT_EQ(::SendMessageA(handle, questionMessage, 0, 0), 77) << "what stands on top stays there";
+    ::SendMessageA(handle, WM_CHAR, '!', 1);
+    char text[16] = "";
+    ::GetWindowTextA(handle, text, sizeof text);
+    EXPECT_STREQ(text, "!kept") << "the messages still reach the edit";
+
+    CEdit later;
+    ASSERT_TRUE(later.SubclassWindow(handle));
+    EXPECT_EQ(::SendMessageA(handle, questionMessage, 0, 0), 77);
+    ::SendMessageA(handle, WM_CHAR, '?', 1);
+    ::GetWindowTextA(handle, text, sizeof text);
+    EXPECT_STREQ(text, "!?kept") << "ours came into the chain once";
+    later.UnsubclassWindow();
+    ::DestroyWindow(handle);
+    EXPECT_FALSE(::IsWindow(handle));
+}
+
+TEST(Window, ObjectThatDiesUnderAnotherProcedureTakesItsWindowAlong)
+{
+    HWND handle = nullptr;
+    {
+        RecordingWindow window;
+        handle = window.m_hWnd;
+        PutOnTop(handle);
+    }
+    EXPECT_FALSE(::IsWindow(handle));
+    EXPECT_EQ(CWnd::FromHandlePermanent(handle), nullptr);
+}
+
+TEST(Window, ThatDiesUnderAnotherProcedureLetsItsObjectGo)
+{
+    RecordingWindow window;
+    PutOnTop(window.m_hWnd);
+    ::DestroyWindow(window.m_hWnd);
+    EXPECT_EQ(window.m_hWnd, nullptr);
+    EXPECT_EQ(window.destroyed, 1);
+}
+
+TEST(Window, HasOneObject)
+{
+    RecordingWindow window;
+    CWnd other;
+    EXPECT_FALSE(other.SubclassWindow(window.m_hWnd));
+    EXPECT_EQ(CWnd::FromHandlePermanent(window.m_hWnd), &window);
+}
+
+TEST(Window, ThatCannotBeJoinedIsDestroyed)
+{
+    RecordingWindow parent;
+    CEdit edit;
+    {
+        const FailingAllocation failing(0);
+        EXPECT_THROW(edit.Create(0, CRect(0, 0, 1, 1), &parent, 0), std::bad_alloc);
+    }
+    EXPECT_EQ(::GetWindow(parent.m_hWnd, GW_CHILD), nullptr);
+    EXPECT_EQ(edit.m_hWnd, nullptr);
+    ASSERT_TRUE(edit.Create(0, CRect(0, 0, 1, 1), &parent, 0));
+    const HWND first = edit.m_hWnd;
+    EXPECT_FALSE(edit.Create(0, CRect(0, 0, 1, 1), &parent, 0)) << "an object stands over one window";
+    EXPECT_EQ(::GetWindow(parent.m_hWnd, GW_CHILD), first);
+    EXPECT_EQ(::GetWindow(first, GW_HWNDNEXT), nullptr);
 }
 
 TEST(Window, ThatCannotBeCreatedLeavesNoHandle)
