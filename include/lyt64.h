@@ -129,9 +129,9 @@ extern "C"
      *
      * A log that cannot be opened (207), written (208) or closed (209) raises a C++ exception, thrown as a pointer to
      * the library's ClytException: a failure that leaves the function. A C++ caller of the same tool chain can catch
-     * it, with catch (...) at least. A caller in any other language cannot, and its process may end: it should let
-     * lyt.ini ask for a log only where the document's folder can be written. The log is closed by then, and the next
-     * call starts again. */
+     * it, with catch (...) at least. A caller in any other language cannot, and its process may end. This is what a
+     * level above 0 costs: let lyt.ini ask for a log only where the document's folder can be written. The log is
+     * closed by then, and the next call starts again. */
     void __stdcall lytWriteToLogFile(const char* text, int level);
 
     /* ---- Wizard ----------------------------------------------------------------------------------------------------- */

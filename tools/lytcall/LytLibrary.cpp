@@ -10,11 +10,6 @@ LytLibrary::LytLibrary(const std::string& fileName) : m_fileName(fileName), m_mo
                         "); name it with --library, as a 64-bit DLL");
 }
 
-LytLibrary::~LytLibrary()
-{
-    FreeLibrary(m_module);
-}
-
 FARPROC LytLibrary::Address(const char* name) const
 {
     FARPROC address = GetProcAddress(m_module, name);

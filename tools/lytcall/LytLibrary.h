@@ -18,6 +18,8 @@ public:
     using std::runtime_error::runtime_error;
 };
 
+// The library stays loaded until the program ends: an exception that it raised is ended by code of its own, and that
+// may be wanted after the owner of this object is gone.
 class LytLibrary
 {
 public:
@@ -25,7 +27,6 @@ public:
     explicit LytLibrary(const std::string& fileName);
     LytLibrary(const LytLibrary&) = delete;
     LytLibrary& operator=(const LytLibrary&) = delete;
-    ~LytLibrary();
 
     // A function by its prototype and name; raises CallError when the library does not export it.
     template <class Function>

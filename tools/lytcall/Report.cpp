@@ -1,10 +1,10 @@
 #include "lytcall/Commands.h"
 
+#include "lytcall/OwnedFile.h"
 #include "lytcall/Text.h"
 
 #include <cstdio>
 #include <io.h>
-#include <memory>
 
 namespace lytcall
 {
@@ -16,11 +16,6 @@ using InitFunction = int __stdcall(const char*);
 using ReadFunction = int __stdcall(int, char*, int);
 
 constexpr int lineSize = 4096;
-
-struct FileCloser
-{
-    void operator()(FILE* file) const { std::fclose(file); }
-};
 
 // A line of progress that overwrites itself, for somebody who waits at a terminal; nobody else wants it.
 class Progress
@@ -47,7 +42,7 @@ int RunReport(const Session& session)
 {
     const std::string folder = session.Asked().Operand(0, ProgramFolder());
     const std::string fileName = session.Asked().Text("--out", "");
-    const std::unique_ptr<FILE, FileCloser> file(fileName.empty() ? nullptr : std::fopen(fileName.c_str(), "wb"));
+    const OwnedFile file(fileName.empty() ? nullptr : std::fopen(fileName.c_str(), "wb"));
     if (!fileName.empty() && file == nullptr)
         throw CallError(fileName + " cannot be written; check the name behind --out");
 

@@ -1,11 +1,11 @@
 #include "lytcall/ScriptRunner.h"
 
+#include "lytcall/OwnedFile.h"
 #include "lytcall/Picture.h"
 #include "lytcall/Text.h"
 
 #include "robot/WindowRobot.h"
 
-#include <fstream>
 #include <iterator>
 #include <utility>
 
@@ -23,10 +23,12 @@ std::vector<Step> StepsOfFile(const std::string& fileName)
 {
     if (fileName.empty())
         return {};
-    std::ifstream file(fileName, std::ios::binary);
-    if (!file)
+    const OwnedFile file(std::fopen(fileName.c_str(), "rb"));
+    if (file == nullptr)
         throw ScriptError(fileName, 1, 1, "the script cannot be opened; check its name");
-    const std::string text{std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+    std::string text;
+    for (int ch = std::fgetc(file.get()); ch != EOF; ch = std::fgetc(file.get()))
+        text += static_cast<char>(ch);
     return ReadScript(fileName, text);
 }
 

@@ -2,6 +2,8 @@
 
 #include "lytcall/ScriptRunner.h"
 
+#include <cstdio>
+
 namespace lytcall
 {
 
@@ -82,6 +84,8 @@ int Session::WithWindows(const std::function<int()>& call) const
 {
     ScriptRunner runner(m_request.Text("--script", ""), m_request.Text("--shot", ""),
                         m_request.Number("--limit", defaultPatience));
+    // Whoever looks at a window wants to see first what it was opened with.
+    std::fflush(stdout);
     const int result = call();
     runner.Finish();
     return result;

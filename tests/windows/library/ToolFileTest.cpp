@@ -1,0 +1,33 @@
+// lytcall as a file: it is handed out with the library.
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <iterator>
+#include <string>
+#include <windows.h>
+
+namespace
+{
+
+std::string ReadToolFile()
+{
+    char path[MAX_PATH] = "";
+    GetModuleFileNameA(GetModuleHandleA("lyt64.dll"), path, sizeof path);
+    const std::string library = path;
+    std::ifstream file(library.substr(0, library.find_last_of('\\')) + "\\lytcall.exe", std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+}
+
+} // namespace
+
+TEST(ToolFile, IsSmallAndCarriesNoSymbols)
+{
+    const std::string file = ReadToolFile();
+    ASSERT_GT(file.size(), sizeof(IMAGE_DOS_HEADER));
+    EXPECT_LT(file.size(), 1000000U);
+    const auto* dos = reinterpret_cast<const IMAGE_DOS_HEADER*>(file.data());
+    ASSERT_GT(file.size(), static_cast<size_t>(dos->e_lfanew) + sizeof(IMAGE_NT_HEADERS64));
+    const auto* headers = reinterpret_cast<const IMAGE_NT_HEADERS64*>(file.data() + dos->e_lfanew);
+    EXPECT_EQ(headers->FileHeader.PointerToSymbolTable, 0U);
+    EXPECT_EQ(headers->FileHeader.NumberOfSymbols, 0U);
+}
