@@ -1,12 +1,18 @@
 #!/bin/sh
-# wine-prefix.sh DIR [null|x11] [DPI]: makes a Wine prefix for tests unless DIR holds one, and keeps its server running
-# for ten minutes. `null` needs no display; `x11` needs DISPLAY and serves for pictures. DPI is 96 unless given.
+# wine-prefix.sh DIR [null|x11|screen] [DPI]: makes a Wine prefix unless DIR holds one, and keeps its server running for
+# ten minutes. `null` needs no display; the others need DISPLAY: `x11` serves for pictures, `screen` for somebody who works
+# the windows. DPI is 96 unless given.
 set -e
 dir=$1
 mode=${2:-null}
 dpi=${3:-96}
 export WINEPREFIX="$dir" WINEDEBUG=-all WINEDLLOVERRIDES="mscoree,mshtml=" WINEARCH=win64
-[ "$mode" = x11 ] || unset DISPLAY
+[ "$mode" != null ] || unset DISPLAY
+driver=x11
+[ "$mode" != null ] || driver=null
+# Without a window manager each closed dialog would wait two seconds for one; with one, it gives windows the keyboard.
+managed=N
+[ "$mode" != screen ] || managed=Y
 
 # Wine's background processes inherit the output; ctest would wait for them.
 quiet() { "$@" >/dev/null 2>&1 </dev/null; }
@@ -20,9 +26,8 @@ if [ ! -f "$dir/.ready-$mode" ]; then
     set_value 'HKLM\Software\Microsoft\Windows NT\CurrentVersion\AeDebug' /v Debugger /t REG_SZ /d false
     set_value 'HKLM\Software\Microsoft\Windows NT\CurrentVersion\AeDebug' /v Auto /t REG_SZ /d 1
     set_value 'HKCU\Software\Wine\WineDbg' /v ShowCrashDialog /t REG_DWORD /d 0
-    set_value 'HKCU\Software\Wine\Drivers' /v Graphics /t REG_SZ /d "$mode"
-    # Without a window manager each closed dialog would wait two seconds for one.
-    set_value 'HKCU\Software\Wine\X11 Driver' /v Managed /t REG_SZ /d N
+    set_value 'HKCU\Software\Wine\Drivers' /v Graphics /t REG_SZ /d "$driver"
+    set_value 'HKCU\Software\Wine\X11 Driver' /v Managed /t REG_SZ /d "$managed"
     set_value 'HKCU\Control Panel\Desktop' /v LogPixels /t REG_DWORD /d "$dpi"
     quiet timeout 60 wineserver -w || true
     # Debian's build does not find its own fonts: without them no Tahoma and no MS Sans Serif.

@@ -6,7 +6,7 @@
 
 #include "robot/WindowRobot.h"
 
-#include <iterator>
+#include <cstdlib>
 #include <utility>
 
 namespace lytcall
@@ -38,6 +38,7 @@ ScriptRunner::ScriptRunner(const std::string& scriptFile, const std::string& pic
     : m_file(scriptFile),
       m_picture(pictureFile),
       m_steps(StepsOfFile(scriptFile)),
+      m_unseen(std::getenv("LYT_UNSEEN") != nullptr),
       m_patience(static_cast<ULONGLONG>(secondsPerStep) * 1000)
 {
     running = this;
@@ -121,14 +122,17 @@ void ScriptRunner::TakeStep(const Step& step)
     }
 }
 
-// A script that leaves a window open would wait for somebody who is not there.
+// A script that leaves a window open, or a window without a script where nobody sees it, would wait for somebody who is not there.
 void ScriptRunner::WatchEnd()
 {
-    if (m_steps.empty() || GetTickCount64() <= m_deadline)
+    if ((m_steps.empty() && !m_unseen) || GetTickCount64() <= m_deadline)
         return;
     HWND dialog = robot::ActiveDialog();
     if (dialog == nullptr)
         RestartClock();
+    else if (m_steps.empty())
+        m_failure = "the window " + Quoted(ToUtf8(robot::TextOf(dialog))) +
+                    " is open, and there is no screen to show it; set DISPLAY, or give a script with --script";
     else if (robot::IsMessageBox(dialog))
         Fail(m_steps.back(), "after it a message is open: " + Quoted(ToUtf8(robot::MessageTextOf(dialog))) +
                                  "; answer it with the steps `message` and `answer`");

@@ -41,6 +41,7 @@ private:
     size_t m_next = 0;
     Stage m_stage;
     std::string m_failure;
+    bool m_unseen; // the environment's LYT_UNSEEN: there is no screen
     ULONGLONG m_patience;
     ULONGLONG m_deadline = 0;
     UINT_PTR m_timer = 0;
