@@ -36,7 +36,7 @@ const char* WizardMeaningOf(int result)
 
 constexpr const char* findingsKey =
     "F-002REPfindings(Findings;R;roofing;Team North;101 Hall|102 Kitchen;Xroof|Xcellar;PC75;DIN 18338;;"
-    "Cracks in the plaster~2~north wall|Damp patch~3~)";
+    "Cracks in the plaster; medium; north wall|Damp patch; severe)";
 
 int CallPropertyDialog(const Session& session, const char* function, const char* defaultKey)
 {
