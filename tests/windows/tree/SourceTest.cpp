@@ -146,10 +146,17 @@ TEST_F(TreeSource, RunThatBreaksOffIsToldAndNotKept)
     UseSource();
     Interrupt(3, BreakOff);
     robot::Robot robot;
-    robot.AnswerMessage();
-    const Lines shown = ItemsShown("S");
+    robot.AnswerMessage().On("Catalogue",
+                             [](HWND window)
+                             {
+                                 const TreeWindow tree(window);
+                                 EXPECT_EQ(tree.Items(), Lines());
+                                 tree.Cancel();
+                             });
+    GuardedBuffer buffer(255, "untouched");
+    EXPECT_EQ(Get<decltype(lytOpenTreeView)>("lytOpenTreeView")("S", buffer.Data(), buffer.Size()), 0);
+    EXPECT_TRUE(robot.Done()) << robot.Log();
     EXPECT_EQ(robot.Messages(), Lines({"The source broke off."}));
-    EXPECT_EQ(shown, Lines());
 
     Interrupt(0, nullptr);
     EXPECT_EQ(ItemsShown("S"), houseShown);
