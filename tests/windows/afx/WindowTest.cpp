@@ -28,8 +28,8 @@ void PutOnTop(HWND window)
 
 HWND PlainEdit(const CWnd& parent)
 {
-    return ::CreateWindowExA(0, "Edit", "kept", WS_CHILD, 0, 0, 10, 10, parent.m_hWnd, nullptr, AfxGetInstanceHandle(),
-                             nullptr);
+    return ::CreateWindowExA(0, "Edit", "kept", WS_CHILD | ES_AUTOHSCROLL, 0, 0, 90, 20, parent.m_hWnd, nullptr,
+                             AfxGetInstanceHandle(), nullptr);
 }
 
 } // namespace
