@@ -1,5 +1,6 @@
 #include "support/TestFolder.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -25,7 +26,7 @@ TestFolder::~TestFolder()
 
 std::string TestFolder::File(const std::string& name) const
 {
-    const fs::path path = fs::path(m_path) / name;
+    const fs::path path = PathOf(name);
     fs::create_directories(path.parent_path());
     return path.string();
 }
@@ -45,5 +46,12 @@ std::string TestFolder::Read(const std::string& name) const
 
 bool TestFolder::Has(const std::string& name) const
 {
-    return fs::exists(fs::path(m_path) / name);
+    return fs::exists(PathOf(name));
+}
+
+// A name of a file in a folder may be written with `\` on any machine.
+std::filesystem::path TestFolder::PathOf(std::string name) const
+{
+    std::ranges::replace(name, '\\', '/');
+    return (fs::path(m_path) / name).make_preferred();
 }

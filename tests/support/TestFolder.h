@@ -1,6 +1,7 @@
 // A folder of files for one test, gone with it.
 #pragma once
 
+#include <filesystem>
 #include <string>
 
 class TestFolder
@@ -21,5 +22,7 @@ public:
     bool Has(const std::string& name) const;
 
 private:
+    std::filesystem::path PathOf(std::string name) const;
+
     std::string m_path;
 };

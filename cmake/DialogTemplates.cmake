@@ -1,0 +1,58 @@
+# lyt_dialog_templates(TARGET SCRIPT.rc) makes the dialogs of a resource script known to windows in memory: its dialog
+# statements become a table that is compiled into the target. As a script (cmake -P) it writes that table.
+if(NOT CMAKE_SCRIPT_MODE_FILE)
+  set(LYT_DIALOG_TEMPLATES ${CMAKE_CURRENT_LIST_FILE})
+  function(lyt_dialog_templates target script)
+    get_filename_component(script ${script} ABSOLUTE)
+    get_filename_component(folder ${script} DIRECTORY)
+    set(table ${CMAKE_CURRENT_BINARY_DIR}/${target}-templates.cpp)
+    add_custom_command(
+      OUTPUT ${table}
+      COMMAND ${CMAKE_COMMAND} -D SCRIPT=${script} -D TABLE=${table} -P ${LYT_DIALOG_TEMPLATES}
+      DEPENDS ${script} ${LYT_DIALOG_TEMPLATES}
+      VERBATIM)
+    target_sources(${target} PRIVATE ${table})
+    target_include_directories(${target} PRIVATE ${folder})
+  endfunction()
+  return()
+endif()
+
+# What the statements with a class of their own stand for.
+set(class_DEFPUSHBUTTON Button)
+set(style_DEFPUSHBUTTON "BS_DEFPUSHBUTTON | WS_TABSTOP")
+set(class_PUSHBUTTON Button)
+set(style_PUSHBUTTON "BS_PUSHBUTTON | WS_TABSTOP")
+
+file(STRINGS ${SCRIPT} lines)
+set(templates "")
+set(header "")
+set(items "")
+foreach(line IN LISTS lines)
+  string(STRIP "${line}" line)
+  if(line MATCHES "^#include \"(.*)\"$")
+    string(APPEND includes "#include \"${CMAKE_MATCH_1}\"\n")
+  elseif(line MATCHES "^([A-Za-z0-9_]+) DIALOGEX [0-9]+, [0-9]+, ([0-9]+), ([0-9]+)$")
+    set(header ${CMAKE_MATCH_1})
+    set(size "${CMAKE_MATCH_2}, ${CMAKE_MATCH_3}")
+    set(items "")
+  elseif(header STREQUAL "")
+    continue()
+  elseif(line MATCHES "^STYLE (.*)$")
+    set(style "${CMAKE_MATCH_1}")
+  elseif(line MATCHES "^CAPTION (\".*\")$")
+    set(caption "${CMAKE_MATCH_1}")
+  elseif(line MATCHES "^(DEFPUSHBUTTON|PUSHBUTTON) (\"[^\"]*\"), ([A-Za-z0-9_]+), (.*)$")
+    string(APPEND items "         {\"${class_${CMAKE_MATCH_1}}\", ${CMAKE_MATCH_2}, ${CMAKE_MATCH_3}, ${style_${CMAKE_MATCH_1}}, ${CMAKE_MATCH_4}},\n")
+  elseif(line MATCHES "^EDITTEXT ([A-Za-z0-9_]+), (.*)$")
+    string(APPEND items "         {\"Edit\", \"\", ${CMAKE_MATCH_1}, ES_LEFT | WS_BORDER | WS_TABSTOP, ${CMAKE_MATCH_2}},\n")
+  elseif(line MATCHES "^CONTROL (\"[^\"]*\"), ([A-Za-z0-9_]+), (\"[^\"]*\"), ([^,]*), (.*)$")
+    string(APPEND items "         {${CMAKE_MATCH_3}, ${CMAKE_MATCH_1}, ${CMAKE_MATCH_2}, ${CMAKE_MATCH_4}, ${CMAKE_MATCH_5}},\n")
+  elseif(line STREQUAL "END")
+    string(APPEND templates "    {${header}, ${caption}, ${style}, ${size},\n     {\n${items}     }},\n")
+    set(header "")
+  elseif(NOT line MATCHES "^(BEGIN|FONT 8, \"MS Sans Serif\")$")
+    message(FATAL_ERROR "${SCRIPT}: no windows in memory for the statement\n${line}")
+  endif()
+endforeach()
+file(WRITE ${TABLE} "#include \"platform/DialogTemplates.h\"\n${includes}\n#include <commctrl.h>\n
+static const platform::DialogTemplates templates({\n${templates}});\n")

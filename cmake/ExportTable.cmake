@@ -1,0 +1,23 @@
+# lyt_export_table(TARGET DEFINITION.def) makes the exports of the DLL, those of the report apart, known to windows in
+# memory under the DLL's name, so that a program that loads the DLL by name finds them.
+function(lyt_export_table target definition)
+  file(STRINGS ${definition} lines)
+  set(additions "")
+  foreach(line IN LISTS lines)
+    if(line MATCHES "^LIBRARY ([A-Za-z0-9_]+)$")
+      set(library ${CMAKE_MATCH_1})
+    elseif(NOT line MATCHES "SystemInfo" AND line MATCHES "^  ([A-Za-z0-9_]+)( = ([A-Za-z0-9_]+))?$")
+      set(name ${CMAKE_MATCH_1})
+      set(function ${name})
+      if(CMAKE_MATCH_3)
+        set(function ${CMAKE_MATCH_3})
+      endif()
+      string(APPEND additions "    platform::AddFunction(\"${library}\", \"${name}\", ${function});\n")
+    endif()
+  endforeach()
+  set(table ${CMAKE_CURRENT_BINARY_DIR}/${target}-exports.cpp)
+  file(CONFIGURE OUTPUT ${table} CONTENT "#include \"lyt64.h\"\n#include \"platform/PartnerLibraries.h\"\n
+[[maybe_unused]] static const bool areAdded = []\n{\n${additions}    return true;\n}();\n")
+  set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${definition})
+  target_sources(${target} PRIVATE ${table})
+endfunction()

@@ -1,0 +1,140 @@
+#include "ButtonWindow.h"
+
+#include "Desktop.h"
+
+#include <algorithm>
+
+namespace platform
+{
+
+LRESULT ButtonWindow::Handle(UINT message, WPARAM wParam, LPARAM lParam)
+{
+    switch (message)
+    {
+    case WM_GETDLGCODE: return DialogCodes();
+    case BM_GETCHECK: return static_cast<LRESULT>(m_check);
+    case BM_SETCHECK: SetCheck(static_cast<UINT>(wParam)); return 0;
+    case BM_GETSTATE: return static_cast<LRESULT>(m_check | (m_isPushed ? UINT{BST_PUSHED} : 0U));
+    case BM_SETSTATE: m_isPushed = wParam != 0; return 0;
+    case BM_SETSTYLE: style = (style & ~DWORD{BS_TYPEMASK}) | (static_cast<DWORD>(wParam) & BS_TYPEMASK); return 0;
+    case BM_CLICK:
+        Send(WM_LBUTTONDOWN);
+        Send(WM_LBUTTONUP);
+        return 0;
+    case WM_LBUTTONDOWN:
+        if (Kind() == BS_GROUPBOX)
+            return 0;
+        ::SetFocus(handle);
+        Press();
+        return 0;
+    case WM_LBUTTONDBLCLK: Press(); return 0;
+    case WM_LBUTTONUP: Release(!IsInside(lParam)); return 0;
+    case WM_KEYDOWN:
+        if (wParam == VK_SPACE)
+            Press();
+        return 0;
+    case WM_KEYUP:
+        if (wParam == VK_SPACE)
+            Release(false);
+        return 0;
+    case WM_CAPTURECHANGED: LoseCapture(); return 0;
+    case WM_KILLFOCUS:
+        if (::GetCapture() == handle)
+            ::ReleaseCapture();
+        return 0;
+    default: return Window::Handle(message, wParam, lParam);
+    }
+}
+
+LRESULT ButtonWindow::DialogCodes() const
+{
+    switch (Kind())
+    {
+    case BS_PUSHBUTTON: return DLGC_BUTTON | DLGC_UNDEFPUSHBUTTON;
+    case BS_DEFPUSHBUTTON: return DLGC_BUTTON | DLGC_DEFPUSHBUTTON;
+    case BS_AUTORADIOBUTTON: return DLGC_BUTTON | DLGC_RADIOBUTTON;
+    case BS_GROUPBOX: return DLGC_STATIC;
+    default: return DLGC_BUTTON;
+    }
+}
+
+void ButtonWindow::Press()
+{
+    ::SetCapture(handle);
+    m_isHeld = true;
+    Send(BM_SETSTATE, TRUE);
+}
+
+// The command is the last thing: a handler may destroy the window.
+void ButtonWindow::Release(bool isOutside)
+{
+    if (!m_isHeld)
+        return;
+    m_isHeld = false;
+    if (!m_isPushed)
+    {
+        ::ReleaseCapture();
+        return;
+    }
+    Send(BM_SETSTATE, FALSE);
+    if (isOutside)
+    {
+        ::ReleaseCapture();
+        return;
+    }
+    if (Kind() == BS_AUTOCHECKBOX)
+        Send(BM_SETCHECK, m_check == BST_CHECKED ? BST_UNCHECKED : BST_CHECKED);
+    else if (Kind() == BS_AUTORADIOBUTTON)
+        Send(BM_SETCHECK, BST_CHECKED);
+    ::ReleaseCapture();
+    Notify(BN_CLICKED);
+}
+
+void ButtonWindow::LoseCapture()
+{
+    if (!m_isHeld)
+        return;
+    m_isHeld = false;
+    if (m_isPushed)
+        Send(BM_SETSTATE, FALSE);
+}
+
+// An option button is a tab stop as long as it is the chosen one, and unchooses the others of its group.
+void ButtonWindow::SetCheck(UINT check)
+{
+    const bool isOption = Kind() == BS_AUTORADIOBUTTON;
+    if (isOption)
+        style = check != BST_UNCHECKED ? style | WS_TABSTOP : style & ~DWORD{WS_TABSTOP};
+    m_check = check;
+    if (isOption && check != BST_UNCHECKED && parent != nullptr)
+        UncheckOthers();
+}
+
+void ButtonWindow::UncheckOthers() const
+{
+    const std::vector<Window*>& row = parent->children;
+    const auto self = std::ranges::find(row, this);
+    const auto begins = [](const Window* child) { return child->HasStyle(WS_GROUP); };
+    auto first = self;
+    while (first != row.begin() && !begins(*first))
+        --first;
+    const auto end = std::find_if(self + 1, row.end(), begins);
+    std::vector<HWND> others;
+    for (auto member = first; member != end; ++member)
+    {
+        const auto* button = dynamic_cast<const ButtonWindow*>(*member);
+        if (button != nullptr && button != this && button->Kind() == BS_AUTORADIOBUTTON)
+            others.push_back(button->handle);
+    }
+    for (HWND other : others)
+        ::SendMessageA(other, BM_SETCHECK, BST_UNCHECKED, 0);
+}
+
+bool ButtonWindow::IsInside(LPARAM point) const
+{
+    const SIZE size = ClientSize();
+    const RECT area{0, 0, size.cx, size.cy};
+    return ::PtInRect(&area, {static_cast<short>(LOWORD(point)), static_cast<short>(HIWORD(point))}) != FALSE;
+}
+
+} // namespace platform

@@ -1,0 +1,29 @@
+// Push button, check box, option button, group box: what a button is stands in its style.
+#pragma once
+
+#include "Window.h"
+
+namespace platform
+{
+
+class ButtonWindow : public Window
+{
+public:
+    LRESULT Handle(UINT message, WPARAM wParam, LPARAM lParam) override;
+
+private:
+    DWORD Kind() const { return style & BS_TYPEMASK; }
+    LRESULT DialogCodes() const;
+    void Press();
+    void Release(bool isOutside);
+    void LoseCapture();
+    void SetCheck(UINT check);
+    void UncheckOthers() const;
+    bool IsInside(LPARAM point) const;
+
+    UINT m_check = BST_UNCHECKED;
+    bool m_isPushed = false; // looks pressed
+    bool m_isHeld = false;   // by the mouse or the space key
+};
+
+} // namespace platform

@@ -1,0 +1,313 @@
+#include "ComboBoxWindow.h"
+
+#include "Desktop.h"
+#include "Metrics.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace platform
+{
+
+namespace
+{
+
+constexpr int editId = 1001;
+// The frame and the blanks round the text of the closed box.
+constexpr int fieldMargin = 8;
+constexpr int editMargin = 6;
+constexpr DWORD kindMask = 3;
+
+} // namespace
+
+ComboBoxWindow& ComboEditWindow::Combo() const
+{
+    return static_cast<ComboBoxWindow&>(*parent);
+}
+
+LRESULT ComboEditWindow::Handle(UINT message, WPARAM wParam, LPARAM lParam)
+{
+    switch (message)
+    {
+    case WM_GETDLGCODE: return EditWindow::Handle(message, wParam, lParam) | Combo().DialogCodes(wParam);
+    case WM_KEYDOWN:
+    case WM_SYSKEYDOWN:
+        if (Combo().TakeKey(message, wParam))
+            return 0;
+        break;
+    case WM_CHAR:
+        // What closed the list is no text.
+        if (wParam == VK_RETURN || wParam == VK_ESCAPE)
+            return 0;
+        break;
+    default: break;
+    }
+    return EditWindow::Handle(message, wParam, lParam);
+}
+
+void ComboBoxWindow::OnCreated()
+{
+    exStyle &= ~DWORD{WS_EX_CLIENTEDGE};
+    style &= ~DWORD{WS_VSCROLL | WS_HSCROLL | WS_BORDER};
+    if ((style & kindMask) != CBS_DROPDOWN)
+        return;
+    auto edit = std::make_unique<ComboEditWindow>();
+    edit->className = "Edit";
+    edit->style = WS_CHILD | WS_VISIBLE | ES_AUTOHSCROLL | (style & WS_DISABLED);
+    edit->id = editId;
+    const SIZE size = ClientSize();
+    edit->place = {editMargin / 2, editMargin / 2, size.cx - CurrentMetrics().scrollBarWidth - editMargin / 2,
+                   size.cy - editMargin / 2};
+    m_edit = Desktop::Get().Adopt(std::move(edit), this).handle;
+}
+
+SIZE ComboBoxWindow::Adjusted(SIZE wanted) const
+{
+    return {wanted.cx, LineHeight(font) + fieldMargin};
+}
+
+LRESULT ComboBoxWindow::Handle(UINT message, WPARAM wParam, LPARAM lParam)
+{
+    switch (message)
+    {
+    case WM_GETDLGCODE: return DialogCodes(wParam);
+    case WM_SETFONT:
+        Window::Handle(message, wParam, lParam);
+        place.bottom = place.top + LineHeight(font) + fieldMargin;
+        ::SendMessageA(m_edit, message, wParam, lParam);
+        return 0;
+    case WM_ENABLE: ::EnableWindow(m_edit, wParam != 0 ? TRUE : FALSE); return 0;
+    case WM_SETTEXT:
+    case WM_GETTEXT:
+    case WM_GETTEXTLENGTH: return HandleText(message, wParam, lParam);
+    case WM_COMMAND:
+        if (!m_isQuiet)
+            HandleEdit(HIWORD(wParam));
+        return 0;
+    case WM_SETFOCUS: TakeFocus(); return 0;
+    case WM_KILLFOCUS:
+        if (!HasEdit())
+            HandleEdit(EN_KILLFOCUS);
+        return 0;
+    case WM_LBUTTONDOWN:
+    case WM_LBUTTONDBLCLK: TakeClick(lParam); return 0;
+    case WM_KEYDOWN:
+    case WM_SYSKEYDOWN: TakeKey(message, wParam); return 0;
+    case WM_CHAR: TakeCharacter(wParam); return 0;
+    default: return HandleItems(message, wParam, lParam);
+    }
+}
+
+LRESULT ComboBoxWindow::HandleItems(UINT message, WPARAM wParam, LPARAM lParam)
+{
+    const int index = static_cast<int>(wParam);
+    switch (message)
+    {
+    case CB_ADDSTRING: return m_items.Insert(-1, reinterpret_cast<const char*>(lParam));
+    case CB_INSERTSTRING: return m_items.Insert(index, reinterpret_cast<const char*>(lParam));
+    case CB_DELETESTRING: return Delete(index);
+    case CB_RESETCONTENT:
+        m_items.Clear();
+        m_caret = 0;
+        ShowCurrent();
+        return TRUE;
+    case CB_GETCOUNT: return m_items.Count();
+    case CB_GETCURSEL: return m_items.Current();
+    case CB_SETCURSEL:
+    {
+        const int selected = m_items.Select(index);
+        m_caret = std::max(0, m_items.Current());
+        ShowCurrent();
+        return selected;
+    }
+    case CB_GETLBTEXTLEN: return m_items.Has(index) ? static_cast<LRESULT>(m_items.At(index).text.size()) : CB_ERR;
+    case CB_GETLBTEXT: return m_items.CopyOut(index, lParam);
+    case CB_GETDROPPEDSTATE: return m_isOpen ? TRUE : FALSE;
+    case CB_SHOWDROPDOWN:
+        if (wParam != 0)
+            Open();
+        else
+            Close(CBN_SELENDCANCEL);
+        return TRUE;
+    default: return Window::Handle(message, wParam, lParam);
+    }
+}
+
+// Without an edit field the text is that of the current item, and no one else sets it.
+LRESULT ComboBoxWindow::HandleText(UINT message, WPARAM wParam, LPARAM lParam)
+{
+    if (!HasEdit())
+        return message == WM_SETTEXT ? LRESULT{CB_ERR} : Window::Handle(message, wParam, lParam);
+    const bool wasQuiet = std::exchange(m_isQuiet, true);
+    const LRESULT result = ::SendMessageA(m_edit, message, wParam, lParam);
+    m_isQuiet = wasQuiet;
+    return result;
+}
+
+void ComboBoxWindow::HandleEdit(UINT code)
+{
+    switch (code)
+    {
+    case EN_SETFOCUS: Notify(CBN_SETFOCUS); return;
+    case EN_KILLFOCUS:
+        if (m_isOpen)
+            Close(CBN_SELENDCANCEL);
+        else
+            Notify(CBN_SELENDCANCEL);
+        Notify(CBN_KILLFOCUS);
+        return;
+    case EN_UPDATE: Notify(CBN_EDITUPDATE); return;
+    case EN_CHANGE:
+        m_items.Select(-1);
+        Notify(CBN_EDITCHANGE);
+        return;
+    default: return;
+    }
+}
+
+void ComboBoxWindow::TakeFocus()
+{
+    if (!HasEdit())
+    {
+        Notify(CBN_SETFOCUS);
+        return;
+    }
+    ::SetFocus(m_edit);
+    ::SendMessageA(m_edit, EM_SETSEL, 0, -1);
+}
+
+// The whole box of the kind without an edit field opens the list, else the arrow.
+void ComboBoxWindow::TakeClick(LPARAM point)
+{
+    if (::GetFocus() != (HasEdit() ? m_edit : handle))
+        ::SetFocus(handle);
+    const bool isArrow = static_cast<short>(LOWORD(point)) >= ClientSize().cx - CurrentMetrics().scrollBarWidth;
+    if (HasEdit() && !isArrow)
+        return;
+    if (m_isOpen)
+        Close(CBN_SELENDCANCEL);
+    else
+        Open();
+}
+
+LRESULT ComboBoxWindow::DialogCodes(WPARAM key) const
+{
+    const LRESULT codes = DLGC_WANTARROWS | DLGC_WANTCHARS;
+    return m_isOpen && (key == VK_RETURN || key == VK_ESCAPE) ? codes | LRESULT{DLGC_WANTALLKEYS} : codes;
+}
+
+bool ComboBoxWindow::TakeKey(UINT message, WPARAM key)
+{
+    const bool withAlt = message == WM_SYSKEYDOWN;
+    if (key == VK_F4 || (withAlt && (key == VK_DOWN || key == VK_UP)))
+    {
+        if (m_isOpen)
+            Close(CBN_SELENDCANCEL);
+        else
+            Open();
+        return true;
+    }
+    if (m_isOpen && (key == VK_RETURN || key == VK_ESCAPE))
+    {
+        Close(key == VK_RETURN ? CBN_SELENDOK : CBN_SELENDCANCEL);
+        return true;
+    }
+    const int target = Place(key);
+    if (withAlt || target < 0)
+        return false;
+    Choose(target);
+    return true;
+}
+
+// The item that a key moves to, -1 for a key that does not move.
+int ComboBoxWindow::Place(WPARAM key) const
+{
+    const int last = m_items.Count() - 1;
+    const int current = m_items.Current();
+    switch (key)
+    {
+    case VK_UP: return std::min(last, std::max(0, (current < 0 ? m_caret : current) - 1));
+    case VK_DOWN: return std::min(last, current < 0 ? m_caret : current + 1);
+    case VK_HOME: return HasEdit() ? -1 : std::min(last, 0);
+    case VK_END: return HasEdit() ? -1 : last;
+    default: return -1;
+    }
+}
+
+void ComboBoxWindow::TakeCharacter(WPARAM character)
+{
+    const char letter = static_cast<char>(character);
+    if (static_cast<unsigned char>(letter) <= VK_SPACE)
+        return;
+    const int found = m_items.FindPrefix(std::string(1, letter), m_items.Current() + 1);
+    if (found >= 0)
+        Choose(found);
+}
+
+// The user chooses with a closed list at once; with an open one the choice stands when it closes. The edit field follows
+// the notification.
+void ComboBoxWindow::Choose(int index)
+{
+    m_items.Select(index);
+    m_caret = index;
+    if (!HasEdit())
+        ShowCurrent();
+    if (!m_isOpen)
+        Notify(CBN_SELENDOK);
+    Notify(CBN_SELCHANGE);
+    ShowCurrent();
+    if (HasEdit())
+        ::SendMessageA(m_edit, EM_SETSEL, 0, -1);
+}
+
+// A list that opens under free text selects the first item that begins with it, and completes the text.
+void ComboBoxWindow::Open()
+{
+    if (m_isOpen)
+        return;
+    m_isOpen = true;
+    Notify(CBN_DROPDOWN);
+    if (!HasEdit())
+        return;
+    const std::string typed = Desktop::Get().Find(m_edit)->text;
+    m_items.Select(m_items.FindPrefix(typed, 0));
+    m_caret = std::max(0, m_items.Current());
+    if (m_items.Current() >= 0)
+        ShowCurrent();
+    ::SendMessageA(m_edit, EM_SETSEL, 0, -1);
+}
+
+void ComboBoxWindow::Close(UINT why)
+{
+    if (!m_isOpen)
+        return;
+    Notify(why);
+    m_isOpen = false;
+    Notify(CBN_CLOSEUP);
+}
+
+void ComboBoxWindow::ShowCurrent()
+{
+    ShowText(m_items.Current() >= 0 ? m_items.At(m_items.Current()).text : std::string());
+}
+
+void ComboBoxWindow::ShowText(const std::string& shown)
+{
+    if (HasEdit())
+        HandleText(WM_SETTEXT, 0, reinterpret_cast<LPARAM>(shown.c_str()));
+    else
+        text = shown;
+}
+
+// The edit field keeps the text of an item that goes.
+LRESULT ComboBoxWindow::Delete(int index)
+{
+    const bool wasCurrent = index == m_items.Current();
+    const int left = m_items.Delete(index);
+    m_caret = std::max(0, std::min(m_caret, left - 1));
+    if (left >= 0 && wasCurrent && !HasEdit())
+        ShowCurrent();
+    return left;
+}
+
+} // namespace platform

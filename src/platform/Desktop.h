@@ -1,0 +1,50 @@
+// All windows of the process, and what there is one of: focus, active window, mouse capture.
+#pragma once
+
+#include "Window.h"
+
+#include <unordered_map>
+
+namespace platform
+{
+
+class Desktop
+{
+public:
+    static Desktop& Get();
+
+    // Null for a handle that is stale, or none.
+    Window* Find(HWND window) const;
+    // The same for one class of windows.
+    template <class WINDOW>
+    WINDOW* FindAs(HWND window) const
+    {
+        return dynamic_cast<WINDOW*>(Find(window));
+    }
+    // Keeps a window's object alive, also one that is destroyed meanwhile.
+    std::shared_ptr<Window> Hold(HWND window) const;
+    size_t Count() const { return m_windows.size(); }
+    // Top-level windows, the one activated last first.
+    const std::vector<HWND>& TopLevels() const { return m_topLevels; }
+
+    // Gives the window its handle and a place in the tree.
+    Window& Adopt(std::unique_ptr<Window> window, Window* parentOrOwner);
+    // Takes a window out of the tree, without a message.
+    void Forget(HWND window);
+
+    // Activates a top-level window; null activates none. The windows are told.
+    void Activate(HWND window);
+    // Moves the focus inside the active window and tells both windows.
+    HWND MoveFocus(HWND window);
+
+    HWND focus = nullptr;
+    HWND active = nullptr;
+    HWND capture = nullptr;
+
+private:
+    std::unordered_map<HWND, std::shared_ptr<Window>> m_windows;
+    std::vector<HWND> m_topLevels;
+    uintptr_t m_lastHandle = 0x10000;
+};
+
+} // namespace platform

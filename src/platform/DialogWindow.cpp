@@ -1,0 +1,157 @@
+#include "DialogWindow.h"
+
+#include "Desktop.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace platform
+{
+
+namespace
+{
+
+LRESULT CodesOf(HWND window)
+{
+    return SendMessageA(window, WM_GETDLGCODE, 0, 0);
+}
+
+bool HasCode(HWND window, UINT code)
+{
+    return (CodesOf(window) & code) != 0;
+}
+
+} // namespace
+
+LRESULT DialogWindow::Handle(UINT message, WPARAM wParam, LPARAM lParam)
+{
+    if (dialogProcedure != nullptr && dialogProcedure(handle, message, wParam, lParam) != FALSE)
+        return TRUE;
+    return HandleDefault(message, wParam, lParam);
+}
+
+LRESULT DialogWindow::HandleDefault(UINT message, WPARAM wParam, LPARAM lParam)
+{
+    switch (message)
+    {
+    case DM_GETDEFID: return hasEnded ? 0 : static_cast<LRESULT>(MAKEWPARAM(defaultId, DC_HASDEFID));
+    case DM_SETDEFID: defaultId = static_cast<int>(wParam); return TRUE;
+    case WM_NEXTDLGCTL: MoveToControl(wParam, lParam); return 0;
+    case WM_SETFOCUS:
+        if (!hasEnded)
+            RestoreFocus();
+        return 0;
+    case WM_ACTIVATE:
+        if (LOWORD(wParam) == WA_INACTIVE)
+            m_savedFocus = FocusedChild() != nullptr ? ::GetFocus() : nullptr;
+        else if (const HWND saved = std::exchange(m_savedFocus, nullptr); ::IsWindow(saved))
+            ::SetFocus(saved);
+        return 0;
+    case WM_CLOSE:
+        ::PostMessageA(handle, WM_COMMAND, MAKEWPARAM(IDCANCEL, BN_CLICKED),
+                       reinterpret_cast<LPARAM>(::GetDlgItem(handle, IDCANCEL)));
+        return 0;
+    default: return Window::Handle(message, wParam, lParam);
+    }
+}
+
+Window* DialogWindow::NextTabStop(const Window* from, bool backwards) const
+{
+    std::vector<Window*> row = children;
+    if (backwards)
+        std::ranges::reverse(row);
+    const auto here = std::ranges::find(row, from);
+    if (here != row.end())
+        std::ranges::rotate(row, here + 1);
+    const auto found =
+        std::ranges::find_if(row, [](const Window* child) { return child->HasStyle(WS_TABSTOP) && child->IsReady(); });
+    return found != row.end() ? *found : nullptr;
+}
+
+// Forwards the group ends before the next child that begins one. Backwards it is left over its own first child.
+Window* DialogWindow::NextInGroup(const Window& from, bool backwards) const
+{
+    const auto here = std::ranges::find(children, &from);
+    if (here == children.end())
+        return nullptr;
+    const auto begins = [](const Window* child) { return child->HasStyle(WS_GROUP); };
+    const auto isReady = [](const Window* child) { return child->IsReady(); };
+    if (backwards)
+    {
+        const auto found = std::find_if(std::make_reverse_iterator(here), children.rend(), isReady);
+        return found != children.rend() ? *found : *here;
+    }
+    const auto end = std::find_if(here + 1, children.end(), begins);
+    const auto next = std::find_if(here + 1, end, isReady);
+    if (next != end)
+        return *next;
+    auto first = here;
+    while (first != children.begin() && !begins(*first))
+        --first;
+    return *std::find_if(first, here, isReady);
+}
+
+void DialogWindow::MoveToControl(WPARAM wParam, LPARAM lParam)
+{
+    if (lParam != 0)
+    {
+        FocusChild(reinterpret_cast<HWND>(wParam));
+        return;
+    }
+    if (const Window* next = NextTabStop(FocusedChild(), wParam != 0))
+        FocusChild(next->handle);
+}
+
+void DialogWindow::FocusChild(HWND child)
+{
+    if (HasCode(child, DLGC_HASSETSEL))
+        ::SendMessageA(child, EM_SETSEL, 0, -1);
+    ::SetFocus(child);
+    MoveDefaultTo(child);
+}
+
+// The default style goes with the focus from push button to push button, and back to the dialog's own where the focus is
+// on anything else.
+void DialogWindow::MoveDefaultTo(HWND focused) const
+{
+    const HWND current = DefaultButton();
+    HWND wanted = ::GetDlgItem(handle, defaultId);
+    if (HasCode(focused, DLGC_UNDEFPUSHBUTTON) || HasCode(focused, DLGC_DEFPUSHBUTTON))
+        wanted = focused;
+    if (current == wanted)
+        return;
+    if (current != nullptr)
+        ::SendMessageA(current, BM_SETSTYLE, BS_PUSHBUTTON, TRUE);
+    if (wanted != nullptr && HasCode(wanted, DLGC_UNDEFPUSHBUTTON))
+        ::SendMessageA(wanted, BM_SETSTYLE, BS_DEFPUSHBUTTON, TRUE);
+}
+
+HWND DialogWindow::DefaultButton() const
+{
+    const auto found =
+        std::ranges::find_if(children, [](const Window* child) { return HasCode(child->handle, DLGC_DEFPUSHBUTTON); });
+    return found != children.end() ? (*found)->handle : nullptr;
+}
+
+Window* DialogWindow::FocusedChild() const
+{
+    Window* window = Desktop::Get().Find(::GetFocus());
+    while (window != nullptr && window->parent != this)
+        window = window->parent;
+    return window;
+}
+
+void DialogWindow::RestoreFocus()
+{
+    const HWND saved = std::exchange(m_savedFocus, nullptr);
+    if (::IsWindow(saved))
+        ::SetFocus(saved);
+    else if (const Window* first = NextTabStop(nullptr))
+    {
+        if (HasCode(first->handle, DLGC_HASSETSEL))
+            ::SendMessageA(first->handle, EM_SETSEL, 0, -1);
+        ::SetFocus(first->handle);
+    }
+}
+
+} // namespace platform

@@ -1,0 +1,40 @@
+// A dialog: which child has the focus, which button is the default one, and how a modal run ends.
+#pragma once
+
+#include "Window.h"
+
+namespace platform
+{
+
+class DialogWindow : public Window
+{
+public:
+    LRESULT Handle(UINT message, WPARAM wParam, LPARAM lParam) override;
+
+    // The next (previous) child that the tab key reaches, coming from one of the children or from none; null when there
+    // is none.
+    Window* NextTabStop(const Window* from, bool backwards = false) const;
+    // The child that an arrow key reaches: the next (previous) one of the group, or itself.
+    Window* NextInGroup(const Window& from, bool backwards) const;
+    // Gives the focus to a child as the tab key does: an edit field is selected, and a push button becomes the default.
+    void FocusChild(HWND child);
+    // The child that holds the focus, itself or in a window of its own; null when it is none.
+    Window* FocusedChild() const;
+    // A dialog that has no saved focus gives it to its first tab stop.
+    void RestoreFocus();
+
+    DLGPROC dialogProcedure = nullptr;
+    int defaultId = IDOK;
+    bool hasEnded = false;
+    INT_PTR result = 0;
+
+private:
+    LRESULT HandleDefault(UINT message, WPARAM wParam, LPARAM lParam);
+    void MoveToControl(WPARAM wParam, LPARAM lParam);
+    void MoveDefaultTo(HWND focused) const;
+    HWND DefaultButton() const;
+
+    HWND m_savedFocus = nullptr; // while the dialog is not active
+};
+
+} // namespace platform

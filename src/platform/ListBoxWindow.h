@@ -1,0 +1,42 @@
+// A list of items of which one can be selected. The caret is the item that keys go on from.
+#pragma once
+
+#include "ListItems.h"
+#include "Window.h"
+
+namespace platform
+{
+
+class ListBoxWindow : public Window
+{
+public:
+    LRESULT Handle(UINT message, WPARAM wParam, LPARAM lParam) override;
+    // Whole items only.
+    SIZE Adjusted(SIZE wanted) const override;
+
+private:
+    LRESULT HandleItems(UINT message, WPARAM wParam, LPARAM lParam);
+    LRESULT HandleInput(UINT message, WPARAM wParam, LPARAM lParam);
+    bool IsOwnerDrawn() const { return HasStyle(LBS_OWNERDRAWFIXED); }
+    int ItemAt(LPARAM point) const;
+    int VisibleItems() const;
+    LRESULT ItemRect(int index, RECT& rect) const;
+    LRESULT Select(int index);
+    LRESULT Delete(int index);
+    void ShowItem(int index);
+    void TakeKey(WPARAM key);
+    void TakeCharacter(WPARAM character);
+    // What the user selects is told, also when it was selected before.
+    void Choose(int index);
+    void Tell(UINT code) const;
+
+    ListItems m_items;
+    int m_itemHeight = LineHeightOfSystem();
+    int m_caret = 0;
+    int m_top = 0;
+    bool m_isPressed = false;
+
+    static int LineHeightOfSystem();
+};
+
+} // namespace platform

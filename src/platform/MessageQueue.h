@@ -1,0 +1,18 @@
+// The queue of the thread: what was posted comes first, then what the user typed, then timers. Time stands still while
+// there is anything to do, and goes on to the next timer when there is nothing.
+#pragma once
+
+#include <windows.h>
+
+namespace platform
+{
+
+// Takes the next message; false when nothing will ever come.
+bool TakeMessage(MSG& message);
+// Posts the characters that a message of the keyboard stands for.
+void TranslateKey(const MSG& message);
+void Dispatch(const MSG& message);
+// Handles a message as a key of the dialog; false when it is none, and is to be dispatched.
+bool TakeDialogKey(HWND dialog, const MSG& message);
+
+} // namespace platform

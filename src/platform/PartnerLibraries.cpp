@@ -1,0 +1,83 @@
+#include "PartnerLibraries.h"
+
+#include <algorithm>
+#include <cctype>
+#include <cstdint>
+#include <map>
+#include <string>
+
+namespace platform
+{
+
+namespace
+{
+
+struct Library
+{
+    HMODULE handle = nullptr;
+    std::map<std::string, FARPROC> functions;
+};
+
+std::map<std::string, Library>& Libraries()
+{
+    static std::map<std::string, Library> libraries;
+    return libraries;
+}
+
+std::string PlainName(const char* library)
+{
+    std::string name(library);
+    std::ranges::transform(name, name.begin(), [](unsigned char ch) { return static_cast<char>(std::tolower(ch)); });
+    return name.ends_with(".dll") ? name.substr(0, name.size() - 4) : name;
+}
+
+Library& LibraryOf(const char* name)
+{
+    static uintptr_t lastHandle = 0x100;
+    Library& library = Libraries()[PlainName(name)];
+    if (library.handle == nullptr)
+        library.handle = reinterpret_cast<HMODULE>(++lastHandle);
+    return library;
+}
+
+} // namespace
+
+void AddFunctionPointer(const char* library, const char* function, void* pointer)
+{
+    LibraryOf(library).functions[function] = reinterpret_cast<FARPROC>(pointer);
+}
+
+void AddLibrary(const char* library)
+{
+    LibraryOf(library);
+}
+
+void RemoveLibrary(const char* library)
+{
+    Libraries().erase(PlainName(library));
+}
+
+} // namespace platform
+
+HMODULE LoadLibraryA(LPCSTR name)
+{
+    const auto found = platform::Libraries().find(platform::PlainName(name));
+    return found != platform::Libraries().end() ? found->second.handle : nullptr;
+}
+
+FARPROC GetProcAddress(HMODULE library, LPCSTR name)
+{
+    for (const auto& [libraryName, known] : platform::Libraries())
+    {
+        if (known.handle != library)
+            continue;
+        const auto function = known.functions.find(name);
+        return function != known.functions.end() ? function->second : nullptr;
+    }
+    return nullptr;
+}
+
+BOOL FreeLibrary(HMODULE /*library*/)
+{
+    return TRUE;
+}

@@ -1,0 +1,75 @@
+// A window in memory: what it is, and the procedure of its class.
+//
+// Windows belong to the desktop (Desktop.h); pointers between them are cleared when a window dies, and whoever keeps a
+// window across a message keeps its handle, which is never given out again.
+#pragma once
+
+#include <windows.h>
+
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace platform
+{
+
+class Window
+{
+public:
+    Window() = default;
+    Window(const Window&) = delete;
+    Window& operator=(const Window&) = delete;
+    virtual ~Window() = default;
+
+    // The procedure that a window of the class has until someone replaces it.
+    virtual LRESULT Handle(UINT message, WPARAM wParam, LPARAM lParam);
+    // Called once, when the window stands in the tree.
+    virtual void OnCreated() {}
+    // The size that a window of the class takes when it is given one.
+    virtual SIZE Adjusted(SIZE wanted) const { return wanted; }
+
+    bool HasStyle(DWORD flag) const { return (style & flag) != 0; }
+    // Visible and enabled itself, whatever its parents are.
+    bool IsReady() const { return HasStyle(WS_VISIBLE) && !HasStyle(WS_DISABLED); }
+    bool IsFocused() const;
+    // What the frame takes of the window's size.
+    SIZE Frame() const;
+    SIZE ClientSize() const;
+    // The window's place on the screen.
+    RECT ScreenPlace() const;
+    // Where the client area begins on the screen.
+    POINT ClientOrigin() const;
+    // The children in order of creation, as handles: what is sent to one may destroy another.
+    std::vector<HWND> ChildHandles() const;
+    // The top-level window that this one stands in.
+    Window& Root();
+
+    HWND handle = nullptr;
+    const char* className = "";
+    DWORD style = 0;
+    DWORD exStyle = 0;
+    int id = 0;
+    Window* parent = nullptr; // of a child
+    Window* owner = nullptr;  // of a top-level window
+    std::vector<Window*> children;
+    std::string text;
+    RECT place{}; // in the parent's client area, else on the screen
+    WNDPROC procedure = nullptr;
+    HGDIOBJ font = nullptr;
+
+protected:
+    LRESULT Send(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const
+    {
+        return SendMessageA(handle, message, wParam, lParam);
+    }
+    // Sends the parent a command with a notification code.
+    LRESULT Notify(UINT code) const;
+};
+
+// Copies a text as WM_GETTEXT does.
+LRESULT CopyText(const std::string& text, WPARAM size, LPARAM buffer);
+
+// A window of the named class; null for an unknown one.
+std::unique_ptr<Window> MakeWindow(const char* className);
+
+} // namespace platform

@@ -1,0 +1,303 @@
+// The platform's functions that make, end, change and look at windows.
+#include "Desktop.h"
+#include "Metrics.h"
+
+#include <algorithm>
+#include <strings.h>
+
+using platform::Desktop;
+using platform::Window;
+
+namespace
+{
+
+constexpr DWORD thread = 1;
+
+void TellDestruction(HWND window)
+{
+    SendMessageA(window, WM_DESTROY, 0, 0);
+    if (const Window* dying = Desktop::Get().Find(window))
+    {
+        for (HWND child : dying->ChildHandles())
+            TellDestruction(child);
+    }
+}
+
+void Remove(HWND window)
+{
+    Desktop& desktop = Desktop::Get();
+    const Window* dying = desktop.Find(window);
+    if (dying == nullptr)
+        return;
+    for (HWND child : dying->ChildHandles())
+        Remove(child);
+    SendMessageA(window, WM_NCDESTROY, 0, 0);
+    if (desktop.Find(window) != nullptr)
+        desktop.Forget(window);
+}
+
+void Resize(Window& window, SIZE wanted)
+{
+    const SIZE size = window.Adjusted({std::max<LONG>(0, wanted.cx), std::max<LONG>(0, wanted.cy)});
+    window.place.right = window.place.left + size.cx;
+    window.place.bottom = window.place.top + size.cy;
+}
+
+// Where the client area of a window begins on the screen.
+POINT ClientOrigin(HWND window)
+{
+    const Window* found = Desktop::Get().Find(window);
+    return found != nullptr ? found->ClientOrigin() : POINT{0, 0};
+}
+
+HWND HandleOf(const Window* window)
+{
+    return window != nullptr ? window->handle : nullptr;
+}
+
+} // namespace
+
+LRESULT SendMessageA(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    const Window* receiver = Desktop::Get().Find(window);
+    return receiver != nullptr ? receiver->procedure(window, message, wParam, lParam) : 0;
+}
+
+LRESULT DefWindowProcA(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    const std::shared_ptr<Window> object = Desktop::Get().Hold(window);
+    return object != nullptr ? object->Window::Handle(message, wParam, lParam) : 0;
+}
+
+LRESULT CallWindowProcA(WNDPROC procedure, HWND window, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    return procedure(window, message, wParam, lParam);
+}
+
+HWND CreateWindowExA(DWORD exStyle, LPCSTR className, LPCSTR text, DWORD style, int x, int y, int width, int height,
+                     HWND parent, HMENU id, HINSTANCE /*instance*/, void* /*parameter*/)
+{
+    Desktop& desktop = Desktop::Get();
+    Window* above = desktop.Find(parent);
+    std::unique_ptr<Window> made = className != nullptr ? platform::MakeWindow(className) : nullptr;
+    if (made == nullptr || ((style & WS_CHILD) != 0 && above == nullptr))
+        return nullptr;
+    made->style = style;
+    made->exStyle = exStyle;
+    made->id = static_cast<int>(reinterpret_cast<INT_PTR>(id));
+    made->text = text != nullptr ? text : "";
+    made->place = {x, y, x, y};
+    Window& window = desktop.Adopt(std::move(made), above);
+    Resize(window, {width, height});
+    window.OnCreated();
+    return window.handle;
+}
+
+// Like a window that is hidden first, one that dies gives focus and activation away before it is told.
+BOOL DestroyWindow(HWND window)
+{
+    Desktop& desktop = Desktop::Get();
+    const Window* dying = desktop.Find(window);
+    if (dying == nullptr)
+        return FALSE;
+    if (desktop.active == window)
+        SetActiveWindow(HandleOf(dying->owner));
+    else if (dying->parent != nullptr && dying->IsFocused())
+        SetFocus(dying->parent->handle);
+    TellDestruction(window);
+    Remove(window);
+    return TRUE;
+}
+
+LONG_PTR GetWindowLongPtrA(HWND window, int index)
+{
+    const Window* found = Desktop::Get().Find(window);
+    if (found == nullptr)
+        return 0;
+    switch (index)
+    {
+    case GWL_STYLE: return static_cast<LONG_PTR>(found->style);
+    case GWL_EXSTYLE: return static_cast<LONG_PTR>(found->exStyle);
+    case GWLP_WNDPROC: return reinterpret_cast<LONG_PTR>(found->procedure);
+    default: return 0;
+    }
+}
+
+LONG_PTR SetWindowLongPtrA(HWND window, int index, LONG_PTR value)
+{
+    Window* found = Desktop::Get().Find(window);
+    if (found == nullptr || index != GWLP_WNDPROC)
+        return 0;
+    const auto previous = reinterpret_cast<LONG_PTR>(found->procedure);
+    found->procedure = reinterpret_cast<WNDPROC>(value);
+    return previous;
+}
+
+int GetClassNameA(HWND window, char* buffer, int size)
+{
+    const Window* found = Desktop::Get().Find(window);
+    if (found == nullptr)
+        return 0;
+    return static_cast<int>(
+        platform::CopyText(found->className, static_cast<WPARAM>(size), reinterpret_cast<LPARAM>(buffer)));
+}
+
+int GetDlgCtrlID(HWND window)
+{
+    const Window* found = Desktop::Get().Find(window);
+    return found != nullptr ? found->id : 0;
+}
+
+HWND GetDlgItem(HWND dialog, int id)
+{
+    const Window* found = Desktop::Get().Find(dialog);
+    if (found == nullptr)
+        return nullptr;
+    const auto child = std::ranges::find(found->children, id, &Window::id);
+    return child != found->children.end() ? (*child)->handle : nullptr;
+}
+
+HWND GetParent(HWND window)
+{
+    const Window* found = Desktop::Get().Find(window);
+    if (found == nullptr)
+        return nullptr;
+    return HandleOf(found->parent != nullptr ? found->parent : found->owner);
+}
+
+HWND GetWindow(HWND window, UINT relation)
+{
+    const Window* found = Desktop::Get().Find(window);
+    if (found == nullptr)
+        return nullptr;
+    if (relation == GW_OWNER)
+        return HandleOf(found->owner);
+    if (relation == GW_CHILD)
+        return found->children.empty() ? nullptr : found->children.front()->handle;
+    if (relation != GW_HWNDNEXT || found->parent == nullptr)
+        return nullptr;
+    const std::vector<Window*>& row = found->parent->children;
+    const auto next = std::ranges::find(row, found) + 1;
+    return next != row.end() ? (*next)->handle : nullptr;
+}
+
+DWORD GetCurrentThreadId()
+{
+    return thread;
+}
+
+BOOL EnumThreadWindows(DWORD /*thread*/, WNDENUMPROC procedure, LPARAM parameter)
+{
+    const std::vector<HWND> windows = Desktop::Get().TopLevels();
+    return std::ranges::all_of(windows, [&](HWND window) { return procedure(window, parameter) != FALSE; });
+}
+
+BOOL SetWindowTextA(HWND window, LPCSTR text)
+{
+    return static_cast<BOOL>(SendMessageA(window, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(text)));
+}
+
+int GetWindowTextA(HWND window, char* buffer, int size)
+{
+    if (size > 0)
+        *buffer = '\0';
+    return static_cast<int>(
+        SendMessageA(window, WM_GETTEXT, static_cast<WPARAM>(size), reinterpret_cast<LPARAM>(buffer)));
+}
+
+int GetWindowTextLengthA(HWND window)
+{
+    return static_cast<int>(SendMessageA(window, WM_GETTEXTLENGTH, 0, 0));
+}
+
+BOOL EnableWindow(HWND window, BOOL enable)
+{
+    Window* found = Desktop::Get().Find(window);
+    if (found == nullptr)
+        return FALSE;
+    const BOOL wasDisabled = found->HasStyle(WS_DISABLED) ? TRUE : FALSE;
+    if ((enable == FALSE) == (wasDisabled != FALSE))
+        return wasDisabled;
+    const std::shared_ptr<Window> held = Desktop::Get().Hold(window);
+    if (enable == FALSE)
+        SendMessageA(window, WM_CANCELMODE, 0, 0);
+    held->style ^= WS_DISABLED;
+    if (enable == FALSE && held->IsFocused())
+        SetFocus(nullptr);
+    SendMessageA(window, WM_ENABLE, static_cast<WPARAM>(enable), 0);
+    return wasDisabled;
+}
+
+BOOL ShowWindow(HWND window, int command)
+{
+    const std::shared_ptr<Window> found = Desktop::Get().Hold(window);
+    if (found == nullptr)
+        return FALSE;
+    const BOOL wasVisible = found->HasStyle(WS_VISIBLE) ? TRUE : FALSE;
+    if ((command != SW_HIDE) == (wasVisible != FALSE))
+        return wasVisible;
+    SendMessageA(window, WM_SHOWWINDOW, command != SW_HIDE ? TRUE : FALSE, 0);
+    found->style ^= WS_VISIBLE;
+    if (command == SW_HIDE && found->IsFocused())
+        SetFocus(GetParent(window));
+    return wasVisible;
+}
+
+BOOL SetWindowPos(HWND window, HWND /*insertAfter*/, int x, int y, int width, int height, UINT flags)
+{
+    const std::shared_ptr<Window> found = Desktop::Get().Hold(window);
+    if (found == nullptr)
+        return FALSE;
+    const SIZE before = found->ClientSize();
+    SIZE size{found->place.right - found->place.left, found->place.bottom - found->place.top};
+    if ((flags & SWP_NOSIZE) == 0)
+        size = found->Adjusted({std::max(width, 0), std::max(height, 0)});
+    if ((flags & SWP_NOMOVE) == 0)
+    {
+        found->place.left = x;
+        found->place.top = y;
+    }
+    found->place.right = found->place.left + size.cx;
+    found->place.bottom = found->place.top + size.cy;
+    if ((flags & SWP_HIDEWINDOW) != 0)
+        found->style &= ~DWORD{WS_VISIBLE};
+    if ((flags & SWP_SHOWWINDOW) != 0)
+        found->style |= WS_VISIBLE;
+    const SIZE after = found->ClientSize();
+    if (before.cx != after.cx || before.cy != after.cy)
+        SendMessageA(window, WM_SIZE, 0, MAKELPARAM(after.cx, after.cy));
+    return TRUE;
+}
+
+BOOL GetClientRect(HWND window, RECT* rect)
+{
+    const Window* found = Desktop::Get().Find(window);
+    if (found == nullptr)
+        return FALSE;
+    const SIZE size = found->ClientSize();
+    *rect = {0, 0, size.cx, size.cy};
+    return TRUE;
+}
+
+BOOL GetWindowRect(HWND window, RECT* rect)
+{
+    const Window* found = Desktop::Get().Find(window);
+    if (found == nullptr)
+        return FALSE;
+    *rect = found->ScreenPlace();
+    return TRUE;
+}
+
+int MapWindowPoints(HWND from, HWND to, POINT* points, UINT count)
+{
+    const POINT start = ClientOrigin(from);
+    const POINT end = ClientOrigin(to);
+    for (UINT index = 0; index < count; ++index)
+        points[index] = {points[index].x + start.x - end.x, points[index].y + start.y - end.y};
+    return static_cast<int>(MAKEWPARAM(start.x - end.x, start.y - end.y));
+}
+
+int lstrcmpiA(LPCSTR left, LPCSTR right)
+{
+    return strcasecmp(left, right);
+}

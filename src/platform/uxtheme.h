@@ -1,0 +1,16 @@
+// Visual themes for the native build: there is none.
+#pragma once
+
+#include <windows.h>
+
+using HTHEME = void*;
+
+inline HTHEME OpenThemeData(HWND /*window*/, LPCWSTR /*classes*/)
+{
+    return nullptr;
+}
+inline void CloseThemeData(HTHEME /*theme*/) {}
+inline void DrawThemeBackground(HTHEME /*theme*/, HDC /*device*/, int /*part*/, int /*state*/, const RECT* /*rect*/,
+                                const RECT* /*clip*/)
+{
+}
