@@ -22,8 +22,6 @@ LRESULT ButtonWindow::Handle(UINT message, WPARAM wParam, LPARAM lParam)
         Send(WM_LBUTTONUP);
         return 0;
     case WM_LBUTTONDOWN:
-        if (Kind() == BS_GROUPBOX)
-            return 0;
         ::SetFocus(handle);
         Press();
         return 0;
@@ -110,6 +108,7 @@ void ButtonWindow::SetCheck(UINT check)
         UncheckOthers();
 }
 
+// Backwards from this one, around the beginning of the group.
 void ButtonWindow::UncheckOthers() const
 {
     const std::vector<Window*>& row = parent->children;
@@ -119,11 +118,13 @@ void ButtonWindow::UncheckOthers() const
     while (first != row.begin() && !begins(*first))
         --first;
     const auto end = std::find_if(self + 1, row.end(), begins);
+    std::vector<const Window*> members(first, end);
+    std::ranges::rotate(members, members.begin() + (self - first) + 1);
     std::vector<HWND> others;
-    for (auto member = first; member != end; ++member)
+    for (auto member = members.rbegin() + 1; member != members.rend(); ++member)
     {
         const auto* button = dynamic_cast<const ButtonWindow*>(*member);
-        if (button != nullptr && button != this && button->Kind() == BS_AUTORADIOBUTTON)
+        if (button != nullptr && button->Kind() == BS_AUTORADIOBUTTON)
             others.push_back(button->handle);
     }
     for (HWND other : others)

@@ -32,6 +32,8 @@ LRESULT ComboEditWindow::Handle(UINT message, WPARAM wParam, LPARAM lParam)
     case WM_GETDLGCODE: return EditWindow::Handle(message, wParam, lParam) | Combo().DialogCodes(wParam);
     case WM_KEYDOWN:
     case WM_SYSKEYDOWN:
+        if (wParam == VK_RETURN || wParam == VK_ESCAPE)
+            return ::SendMessageA(parent->handle, message, wParam, lParam);
         if (Combo().TakeKey(message, wParam))
             return 0;
         break;
@@ -76,6 +78,8 @@ LRESULT ComboBoxWindow::Handle(UINT message, WPARAM wParam, LPARAM lParam)
         place.bottom = place.top + LineHeight(font) + fieldMargin;
         ::SendMessageA(m_edit, message, wParam, lParam);
         return 0;
+    // Like a list, one that does not draw is visible all the same.
+    case WM_SETREDRAW: return 0;
     case WM_ENABLE: ::EnableWindow(m_edit, wParam != 0 ? TRUE : FALSE); return 0;
     case WM_SETTEXT:
     case WM_GETTEXT:
@@ -91,6 +95,10 @@ LRESULT ComboBoxWindow::Handle(UINT message, WPARAM wParam, LPARAM lParam)
         return 0;
     case WM_LBUTTONDOWN:
     case WM_LBUTTONDBLCLK: TakeClick(lParam); return 0;
+    case WM_LBUTTONUP:
+        if (::GetCapture() == handle)
+            ::ReleaseCapture();
+        return 0;
     case WM_KEYDOWN:
     case WM_SYSKEYDOWN: TakeKey(message, wParam); return 0;
     case WM_CHAR: TakeCharacter(wParam); return 0;
@@ -116,7 +124,8 @@ LRESULT ComboBoxWindow::HandleItems(UINT message, WPARAM wParam, LPARAM lParam)
     case CB_SETCURSEL:
     {
         const int selected = m_items.Select(index);
-        m_caret = std::max(0, m_items.Current());
+        if (selected >= 0)
+            m_caret = selected;
         ShowCurrent();
         return selected;
     }
@@ -158,7 +167,9 @@ void ComboBoxWindow::HandleEdit(UINT code)
         return;
     case EN_UPDATE: Notify(CBN_EDITUPDATE); return;
     case EN_CHANGE:
-        m_items.Select(-1);
+        if (!std::exchange(m_keepsCurrent, false))
+            m_items.Select(-1);
+        MoveCaretToText();
         Notify(CBN_EDITCHANGE);
         return;
     default: return;
@@ -185,9 +196,12 @@ void ComboBoxWindow::TakeClick(LPARAM point)
     if (HasEdit() && !isArrow)
         return;
     if (m_isOpen)
-        Close(CBN_SELENDCANCEL);
-    else
-        Open();
+    {
+        Close(CBN_SELENDOK);
+        return;
+    }
+    ::SetCapture(handle);
+    Open();
 }
 
 LRESULT ComboBoxWindow::DialogCodes(WPARAM key) const
@@ -226,8 +240,8 @@ int ComboBoxWindow::Place(WPARAM key) const
     const int current = m_items.Current();
     switch (key)
     {
-    case VK_UP: return std::min(last, std::max(0, (current < 0 ? m_caret : current) - 1));
-    case VK_DOWN: return std::min(last, current < 0 ? m_caret : current + 1);
+    case VK_UP: return std::min(last, current == m_caret ? std::max(0, m_caret - 1) : m_caret);
+    case VK_DOWN: return std::min(last, current == m_caret ? m_caret + 1 : m_caret);
     case VK_HOME: return HasEdit() ? -1 : std::min(last, 0);
     case VK_END: return HasEdit() ? -1 : last;
     default: return -1;
@@ -258,6 +272,16 @@ void ComboBoxWindow::Choose(int index)
     ShowCurrent();
     if (HasEdit())
         ::SendMessageA(m_edit, EM_SETSEL, 0, -1);
+    m_keepsCurrent = HasEdit();
+}
+
+// The keys go on from the item that the text begins.
+void ComboBoxWindow::MoveCaretToText()
+{
+    const std::string& typed = Desktop::Get().Find(m_edit)->text;
+    const int found = typed.empty() ? -1 : m_items.FindPrefix(typed, 0);
+    if (found >= 0)
+        m_caret = found;
 }
 
 // A list that opens under free text selects the first item that begins with it, and completes the text.
@@ -270,8 +294,8 @@ void ComboBoxWindow::Open()
     if (!HasEdit())
         return;
     const std::string typed = Desktop::Get().Find(m_edit)->text;
-    m_items.Select(m_items.FindPrefix(typed, 0));
-    m_caret = std::max(0, m_items.Current());
+    m_items.Select(typed.empty() ? -1 : m_items.FindPrefix(typed, 0));
+    MoveCaretToText();
     if (m_items.Current() >= 0)
         ShowCurrent();
     ::SendMessageA(m_edit, EM_SETSEL, 0, -1);
@@ -293,6 +317,7 @@ void ComboBoxWindow::ShowCurrent()
 
 void ComboBoxWindow::ShowText(const std::string& shown)
 {
+    m_keepsCurrent = false;
     if (HasEdit())
         HandleText(WM_SETTEXT, 0, reinterpret_cast<LPARAM>(shown.c_str()));
     else

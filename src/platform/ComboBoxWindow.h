@@ -40,6 +40,7 @@ private:
     void TakeFocus();
     void TakeClick(LPARAM point);
     bool HasEdit() const { return m_edit != nullptr; }
+    void MoveCaretToText();
     void Open();
     void Close(UINT why);
     void Choose(int index);
@@ -54,6 +55,8 @@ private:
     int m_caret = 0;
     bool m_isOpen = false;
     bool m_isQuiet = false; // while the program, and not the user, changes the text
+    // The first character that the user types after choosing with a key leaves the choice: so does the real one.
+    bool m_keepsCurrent = false;
 };
 
 } // namespace platform

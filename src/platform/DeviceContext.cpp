@@ -2,6 +2,7 @@
 #include "Metrics.h"
 
 #include <cstdint>
+#include <cstdlib>
 #include <numeric>
 #include <utility>
 
@@ -13,7 +14,14 @@ namespace
 
 constexpr int systemFontHeight = 16;
 
-int currentResolution = 96;
+// A program starts on a screen of 96 pixels per inch, unless the environment names another.
+int StartResolution()
+{
+    const char* named = std::getenv("LYT_DOTS_PER_INCH");
+    return named != nullptr ? std::atoi(named) : 96;
+}
+
+int currentResolution = StartResolution();
 HGDIOBJ selectedFont = nullptr;
 HCURSOR currentCursor = LoadCursorA(nullptr, IDC_ARROW);
 
@@ -84,7 +92,7 @@ HGDIOBJ SelectObject(HDC /*device*/, HGDIOBJ object)
 
 BOOL GetTextExtentPoint32A(HDC /*device*/, LPCSTR text, int length, SIZE* size)
 {
-    *size = {TextWidth(text, length), LineHeight(selectedFont)};
+    *size = {TextWidth(text, length), length > 0 ? LineHeight(selectedFont) : 0};
     return TRUE;
 }
 

@@ -11,9 +11,9 @@ namespace platform
 namespace
 {
 
-bool HasCode(HWND window, UINT code)
+bool HasCode(HWND window, UINT code, WPARAM key = 0)
 {
-    return (SendMessageA(window, WM_GETDLGCODE, 0, 0) & code) != 0;
+    return (SendMessageA(window, WM_GETDLGCODE, key, 0) & code) != 0;
 }
 
 void Press(const DialogWindow& dialog, int id, HWND button)
@@ -48,7 +48,8 @@ void MoveInGroup(const DialogWindow& dialog, HWND focused, bool backwards)
     if (HasCode(focused, DLGC_RADIOBUTTON) && HasCode(target, DLGC_RADIOBUTTON))
     {
         SetFocus(target);
-        SendMessageA(target, BM_CLICK, 0, 0);
+        if (SendMessageA(target, BM_GETCHECK, 0, 0) == BST_UNCHECKED)
+            SendMessageA(target, BM_CLICK, 0, 0);
     }
     else
         SendMessageA(dialog.handle, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(target), TRUE);
@@ -103,7 +104,7 @@ bool TakeAccessKey(const DialogWindow& dialog, WPARAM character)
 
 bool TakeKeyDown(const DialogWindow& dialog, const MSG& message)
 {
-    if (HasCode(message.hwnd, DLGC_WANTALLKEYS))
+    if (HasCode(message.hwnd, DLGC_WANTALLKEYS, message.wParam))
         return false;
     switch (message.wParam)
     {
@@ -136,8 +137,8 @@ bool TakeDialogKey(HWND window, const MSG& message)
     {
     case WM_KEYDOWN: return TakeKeyDown(*dialog, message);
     case WM_CHAR:
-        return !HasCode(message.hwnd, DLGC_WANTCHARS | DLGC_WANTALLKEYS) && message.wParam != VK_SPACE &&
-               TakeAccessKey(*dialog, message.wParam);
+        return !HasCode(message.hwnd, DLGC_WANTCHARS | DLGC_WANTALLKEYS, message.wParam) &&
+               message.wParam != VK_SPACE && TakeAccessKey(*dialog, message.wParam);
     case WM_SYSCHAR: return TakeAccessKey(*dialog, message.wParam);
     default: return false;
     }

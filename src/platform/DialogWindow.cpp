@@ -68,27 +68,27 @@ Window* DialogWindow::NextTabStop(const Window* from, bool backwards) const
     return found != row.end() ? *found : nullptr;
 }
 
-// Forwards the group ends before the next child that begins one. Backwards it is left over its own first child.
+// A group ends before the next child that begins one, and then goes round. One that no other follows goes on with the
+// dialog's first children instead.
 Window* DialogWindow::NextInGroup(const Window& from, bool backwards) const
 {
     const auto here = std::ranges::find(children, &from);
     if (here == children.end())
         return nullptr;
     const auto begins = [](const Window* child) { return child->HasStyle(WS_GROUP); };
-    const auto isReady = [](const Window* child) { return child->IsReady(); };
-    if (backwards)
-    {
-        const auto found = std::find_if(std::make_reverse_iterator(here), children.rend(), isReady);
-        return found != children.rend() ? *found : *here;
-    }
-    const auto end = std::find_if(here + 1, children.end(), begins);
-    const auto next = std::find_if(here + 1, end, isReady);
-    if (next != end)
-        return *next;
     auto first = here;
     while (first != children.begin() && !begins(*first))
         --first;
-    return *std::find_if(first, here, isReady);
+    const auto end = std::find_if(here + 1, children.end(), begins);
+    std::vector<Window*> members;
+    if (end == children.end() && first != children.begin())
+        members.assign(children.begin(), std::find_if(children.begin(), first, begins));
+    members.insert(members.end(), first, end);
+
+    if (backwards)
+        std::ranges::reverse(members);
+    std::ranges::rotate(members, std::ranges::find(members, &from) + 1);
+    return *std::ranges::find_if(members, [&](const Window* child) { return child == &from || child->IsReady(); });
 }
 
 void DialogWindow::MoveToControl(WPARAM wParam, LPARAM lParam)

@@ -28,7 +28,12 @@ LRESULT EditWindow::Handle(UINT message, WPARAM wParam, LPARAM lParam)
     case WM_KEYDOWN: TakeKey(wParam); return 0;
     case WM_LBUTTONDOWN:
         ::SetFocus(handle);
+        ::SetCapture(handle);
         m_anchor = m_caret = PlaceAt(static_cast<short>(LOWORD(lParam)));
+        return 0;
+    case WM_LBUTTONUP:
+        if (::GetCapture() == handle)
+            ::ReleaseCapture();
         return 0;
     case WM_SETFOCUS: Notify(EN_SETFOCUS); return 0;
     case WM_KILLFOCUS: Notify(EN_KILLFOCUS); return 0;

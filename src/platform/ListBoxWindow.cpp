@@ -28,6 +28,8 @@ LRESULT ListBoxWindow::Handle(UINT message, WPARAM wParam, LPARAM lParam)
         if (!IsOwnerDrawn())
             m_itemHeight = LineHeight(reinterpret_cast<HGDIOBJ>(wParam));
         return Window::Handle(message, wParam, lParam);
+    // A list that does not draw is visible all the same.
+    case WM_SETREDRAW: return 0;
     case LB_ADDSTRING:
     case LB_INSERTSTRING:
     case LB_DELETESTRING:
@@ -127,13 +129,14 @@ int ListBoxWindow::VisibleItems() const
 LRESULT ListBoxWindow::ItemRect(int index, RECT& rect) const
 {
     rect = {};
-    if (!m_items.Has(index))
+    // An empty list, too, knows where an item before the first would be.
+    if (index != -1 && !m_items.Has(index))
         return LB_ERR;
     const int top = (index - m_top) * m_itemHeight;
     const bool isScrolled = HasStyle(WS_VSCROLL) && m_items.Count() > VisibleItems();
     const LONG width = ClientSize().cx - (isScrolled ? CurrentMetrics().scrollBarWidth : 0);
     rect = {0, top, width, top + m_itemHeight};
-    return TRUE;
+    return rect.bottom > 0 && rect.top < ClientSize().cy ? TRUE : FALSE;
 }
 
 LRESULT ListBoxWindow::Select(int index)
@@ -171,12 +174,14 @@ void ListBoxWindow::TakeKey(WPARAM key)
     const int last = m_items.Count() - 1;
     if (last < 0)
         return;
+    // A caret that is not on the selected item is selected first.
+    const bool isAtCaret = m_items.Current() == m_caret;
     switch (key)
     {
     case VK_UP:
-    case VK_LEFT: Choose(std::max(0, m_caret - 1)); return;
+    case VK_LEFT: Choose(isAtCaret ? std::max(0, m_caret - 1) : m_caret); return;
     case VK_DOWN:
-    case VK_RIGHT: Choose(std::min(last, m_items.Current() < 0 && m_caret == 0 ? 0 : m_caret + 1)); return;
+    case VK_RIGHT: Choose(isAtCaret ? std::min(last, m_caret + 1) : m_caret); return;
     case VK_HOME: Choose(0); return;
     case VK_END: Choose(last); return;
     case VK_PRIOR: Choose(std::max(0, m_caret - std::max(1, VisibleItems() - 1))); return;

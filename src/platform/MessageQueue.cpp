@@ -33,6 +33,7 @@ std::vector<Timer> timers;
 UINT_PTR lastTimer = 0;
 ULONGLONG now = 1000;
 std::array<bool, 256> isDown{};
+bool isAltAlone = false;
 
 bool IsDown(UINT key)
 {
@@ -49,7 +50,10 @@ bool TakeTypedKey(MSG& message)
     typed.pop_front();
     isDown[key.code & 0xFFU] = !key.isUp;
     const Desktop& desktop = Desktop::Get();
-    const bool isSystem = desktop.focus == nullptr || key.code == VK_MENU || (IsDown(VK_MENU) && !IsDown(VK_CONTROL));
+    const bool isAlt = key.code == VK_MENU;
+    // Alt that came up after another key was no key of the menu.
+    isAltAlone = isAlt && (!key.isUp || isAltAlone);
+    const bool isSystem = desktop.focus == nullptr || (isAlt ? isAltAlone : IsDown(VK_MENU) && !IsDown(VK_CONTROL));
     const UINT down = isSystem ? WM_SYSKEYDOWN : WM_KEYDOWN;
     const UINT up = isSystem ? WM_SYSKEYUP : WM_KEYUP;
     const HWND receiver = desktop.focus != nullptr ? desktop.focus : desktop.active;
@@ -86,6 +90,21 @@ bool TakeMessage(MSG& message)
         return TakeTypedKey(message) || TakeTimer(message);
     message = posted.front();
     posted.pop_front();
+    return true;
+}
+
+bool IsIdle()
+{
+    return posted.empty() && typed.empty();
+}
+
+bool TakePosted(HWND window, UINT message)
+{
+    const auto found = std::ranges::find_if(posted, [&](const MSG& waiting)
+                                            { return waiting.hwnd == window && waiting.message == message; });
+    if (found == posted.end())
+        return false;
+    posted.erase(found);
     return true;
 }
 

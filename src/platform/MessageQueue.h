@@ -9,6 +9,10 @@ namespace platform
 
 // Takes the next message; false when nothing will ever come.
 bool TakeMessage(MSG& message);
+// True when all that was posted and typed has been taken.
+bool IsIdle();
+// Takes one message out of turn, if it was posted to the window.
+bool TakePosted(HWND window, UINT message);
 // Posts the characters that a message of the keyboard stands for.
 void TranslateKey(const MSG& message);
 void Dispatch(const MSG& message);

@@ -64,8 +64,16 @@ HWND CreateFromTemplate(const DialogTemplate& source, HWND owner)
 void RunUntilEnd(const DialogWindow& dialog)
 {
     MSG message{};
+    bool isShown = false;
     while (!dialog.hasEnded && IsWindow(dialog.handle))
     {
+        // The dialog shows when what was there before it has been handled.
+        if (!isShown && IsIdle())
+        {
+            isShown = true;
+            ShowWindow(dialog.handle, SW_SHOW);
+            continue;
+        }
         if (!TakeMessage(message))
         {
             ++starvedRuns;
@@ -83,10 +91,8 @@ void Open(DialogWindow& dialog, LPARAM parameter)
 {
     if (SendMessageA(dialog.handle, WM_INITDIALOG, 0, parameter) != FALSE && !dialog.hasEnded)
         dialog.RestoreFocus();
-    if (dialog.hasEnded)
-        return;
-    SetActiveWindow(dialog.handle);
-    ShowWindow(dialog.handle, SW_SHOW);
+    if (!dialog.hasEnded)
+        SetActiveWindow(dialog.handle);
 }
 
 constexpr int messageTextId = 0xFFFF;

@@ -1,6 +1,7 @@
 #include "TreeWindow.h"
 
 #include "Desktop.h"
+#include "MessageQueue.h"
 #include "Metrics.h"
 
 #include <algorithm>
@@ -40,6 +41,8 @@ LRESULT TreeWindow::Handle(UINT message, WPARAM wParam, LPARAM lParam)
             return FALSE;
         ShowItem(ItemOf(lParam));
         return TRUE;
+    // A tree that does not draw is visible and scrolls all the same.
+    case WM_SETREDRAW: return 0;
     case TVM_SETIMAGELIST: m_images = reinterpret_cast<HIMAGELIST>(lParam); return 0;
     case TVM_GETIMAGELIST: return reinterpret_cast<LRESULT>(m_images);
     default: return HandleInput(message, wParam, lParam);
@@ -145,18 +148,56 @@ LRESULT TreeWindow::NextItem(WPARAM relation, size_t item) const
 bool TreeWindow::Expand(size_t item, UINT action, bool isByUser)
 {
     const bool isExpanding = action == TVE_EXPAND;
-    if (m_items[item].children.empty() || IsExpanded(item) == isExpanding)
+    if (m_items[item].children.empty())
         return false;
+    if (IsExpanded(item) == isExpanding)
+        return isExpanding;
     const bool isFirst = isExpanding && (m_items[item].state & TVIS_EXPANDEDONCE) == 0;
     if ((isFirst || isByUser) && Tell(TVN_ITEMEXPANDINGA, action, root, item) != 0)
         return false;
     if (isExpanding)
         m_items[item].state |= TVIS_EXPANDED | TVIS_EXPANDEDONCE;
     else
-        m_items[item].state &= ~UINT{TVIS_EXPANDED};
+        Collapse(item);
+    if (isExpanding)
+        ShowChildren(item);
     if (isFirst || isByUser)
         Tell(TVN_ITEMEXPANDEDA, action, root, item);
     return true;
+}
+
+// A selection inside moves up to what is still seen, and no one is told.
+void TreeWindow::Collapse(size_t item)
+{
+    m_items[item].state &= ~UINT{TVIS_EXPANDED};
+    for (size_t above = m_selected; above != root; above = m_items[above].parent)
+    {
+        if (m_items[above].parent != item)
+            continue;
+        m_items[m_selected].state &= ~UINT{TVIS_SELECTED};
+        m_selected = item;
+        m_items[item].state |= TVIS_SELECTED;
+        break;
+    }
+    m_top = std::min(m_top, LastTop());
+}
+
+// As many children as there is room for, and the item itself.
+void TreeWindow::ShowChildren(size_t item)
+{
+    const std::vector<size_t> rows = Rows();
+    const auto row = static_cast<size_t>(std::ranges::find(rows, item) - rows.begin());
+    const auto last = static_cast<size_t>(std::ranges::find(rows, m_items[item].children.back()) - rows.begin());
+    const auto room = static_cast<size_t>(VisibleRows());
+    if (row < rows.size() && last >= m_top + room)
+        m_top = std::min(row, last - room + 1);
+}
+
+size_t TreeWindow::LastTop() const
+{
+    const size_t count = Rows().size();
+    const auto room = static_cast<size_t>(VisibleRows());
+    return count > room ? count - room : 0;
 }
 
 bool TreeWindow::Select(size_t item, UINT action)
@@ -183,7 +224,12 @@ void TreeWindow::ShowItem(size_t item)
     std::vector<size_t> ancestors;
     for (size_t above = m_items[item].parent; above != root; above = m_items[above].parent)
         ancestors.push_back(above);
-    std::for_each(ancestors.rbegin(), ancestors.rend(), [&](size_t above) { Expand(above, TVE_EXPAND, false); });
+    std::for_each(ancestors.rbegin(), ancestors.rend(),
+                  [&](size_t above)
+                  {
+                      if (!IsExpanded(above))
+                          Expand(above, TVE_EXPAND, true);
+                  });
     const std::vector<size_t> rows = Rows();
     const auto row = static_cast<size_t>(std::ranges::find(rows, item) - rows.begin());
     const auto room = static_cast<size_t>(VisibleRows());
@@ -225,8 +271,8 @@ int TreeWindow::LabelStart(size_t item) const
 
 int TreeWindow::RowHeight() const
 {
-    const int height = std::max(CurrentMetrics().textHeight + 1, m_images != nullptr ? imageWidth : 0) + 2;
-    return height / 2 * 2;
+    constexpr int blanks = 3;
+    return std::max(CurrentMetrics().textHeight + blanks, imageWidth) / 2 * 2;
 }
 
 int TreeWindow::VisibleRows() const
@@ -268,6 +314,13 @@ void TreeWindow::TakeClick(LPARAM point, bool isDouble)
         if (Tell(NM_DBLCLK) == 0 && isLabel)
             Expand(item, IsExpanded(item) ? TVE_COLLAPSE : TVE_EXPAND, true);
         return;
+    }
+    if (isLabel)
+    {
+        // Whether the label is to be dragged shows when the button comes up: that message goes no further.
+        ::SetCapture(handle);
+        TakePosted(handle, WM_LBUTTONUP);
+        ::ReleaseCapture();
     }
     if (Tell(NM_CLICK) != 0)
         return;

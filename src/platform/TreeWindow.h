@@ -40,7 +40,11 @@ private:
     size_t Sibling(size_t item, int step) const;
 
     bool Expand(size_t item, UINT action, bool isByUser);
+    void Collapse(size_t item);
     bool Select(size_t item, UINT action);
+    void ShowChildren(size_t item);
+    // The row at the top when the last one is in sight.
+    size_t LastTop() const;
     void ShowItem(size_t item);
     // The items that are seen when the tree is high enough, from top to bottom.
     std::vector<size_t> Rows() const;

@@ -263,6 +263,8 @@ BOOL SetWindowPos(HWND window, HWND /*insertAfter*/, int x, int y, int width, in
         found->style &= ~DWORD{WS_VISIBLE};
     if ((flags & SWP_SHOWWINDOW) != 0)
         found->style |= WS_VISIBLE;
+    if (found->parent == nullptr && (flags & UINT{SWP_NOACTIVATE | SWP_HIDEWINDOW}) == 0)
+        SetActiveWindow(window);
     const SIZE after = found->ClientSize();
     if (before.cx != after.cx || before.cy != after.cy)
         SendMessageA(window, WM_SIZE, 0, MAKELPARAM(after.cx, after.cy));

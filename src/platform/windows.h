@@ -510,6 +510,10 @@ inline BOOL DrawFrameControl(HDC /*device*/, RECT* /*rect*/, UINT /*type*/, UINT
 }
 
 // Libraries
+inline HMODULE GetModuleHandleA(LPCSTR /*name*/)
+{
+    return nullptr;
+}
 HMODULE LoadLibraryA(LPCSTR name);
 FARPROC GetProcAddress(HMODULE library, LPCSTR name);
 BOOL FreeLibrary(HMODULE library);

@@ -1,0 +1,246 @@
+#include "Stage.h"
+
+#include "res/resource.h"
+
+#include <cstdarg>
+#include <cstdio>
+
+namespace
+{
+
+int depth = 0;
+
+struct MessageName
+{
+    UINT message;
+    const char* name;
+    bool withParameter;
+};
+
+// In no message of the list do the grounds differ in the parameter printed.
+constexpr MessageName names[] = {
+    {WM_INITDIALOG, "INITDIALOG", false},
+    {WM_ACTIVATE, "ACTIVATE", true},
+    {WM_SETFOCUS, "SETFOCUS", false},
+    {WM_KILLFOCUS, "KILLFOCUS", false},
+    {WM_ENABLE, "ENABLE", true},
+    {WM_SHOWWINDOW, "SHOWWINDOW", true},
+    {WM_CLOSE, "CLOSE", false},
+    {WM_DESTROY, "DESTROY", false},
+    {WM_NCDESTROY, "NCDESTROY", false},
+    {WM_KEYDOWN, "KEYDOWN", true},
+    {WM_KEYUP, "KEYUP", true},
+    {WM_CHAR, "CHAR", true},
+    {WM_SYSKEYDOWN, "SYSKEYDOWN", true},
+    {WM_SYSCHAR, "SYSCHAR", true},
+    {WM_LBUTTONDOWN, "LBUTTONDOWN", false},
+    {WM_LBUTTONUP, "LBUTTONUP", false},
+    {WM_LBUTTONDBLCLK, "LBUTTONDBLCLK", false},
+    {WM_CAPTURECHANGED, "CAPTURECHANGED", false},
+    {WM_CLEAR, "CLEAR", false},
+    {DM_GETDEFID, "GETDEFID", false},
+    {DM_SETDEFID, "SETDEFID", true},
+    {BM_SETCHECK, "SETCHECK", true},
+    {BM_SETSTATE, "SETSTATE", true},
+    {BM_SETSTYLE, "SETSTYLE", true},
+    {BM_CLICK, "CLICK", false},
+    {EM_SETSEL, "SETSEL", false},
+};
+
+std::string WindowName(HWND window)
+{
+    if (window == nullptr)
+        return "none";
+    if (robot::ClassOf(window) == "#32770")
+        return "dialog";
+    std::string name = std::to_string(::GetDlgCtrlID(window));
+    // The field inside a combo box.
+    if (HWND parent = ::GetParent(window); parent != nullptr && robot::ClassOf(parent) == "ComboBox")
+        name += " in " + std::to_string(::GetDlgCtrlID(parent));
+    return name;
+}
+
+std::string Described(UINT message, WPARAM wParam, LPARAM lParam)
+{
+    if (message == WM_COMMAND)
+        return "COMMAND of " + std::to_string(LOWORD(wParam)) + " code " + std::to_string(HIWORD(wParam)) +
+               (lParam != 0 ? "" : " without a control");
+    if (message == WM_NOTIFY)
+    {
+        const auto* header = reinterpret_cast<const NMHDR*>(lParam);
+        const int code = static_cast<int>(header->code);
+        const bool isTree = code <= static_cast<int>(TVN_SELCHANGINGA) && code >= static_cast<int>(TVN_ITEMEXPANDEDA);
+        // The tree also asks how to draw; that is no event.
+        static constexpr UINT told[] = {NM_CLICK, NM_DBLCLK, NM_SETFOCUS, NM_KILLFOCUS, TVN_KEYDOWN};
+        bool isTold = isTree;
+        for (const UINT known : told)
+            isTold = isTold || known == header->code;
+        if (!isTold)
+            return {};
+        std::string text = "NOTIFY of " + std::to_string(wParam) + " code " + std::to_string(code);
+        if (isTree)
+            text += " action " + std::to_string(reinterpret_cast<const NMTREEVIEWA*>(lParam)->action);
+        return text;
+    }
+    if (message == WM_NEXTDLGCTL)
+        return lParam != 0 ? "NEXTDLGCTL to " + WindowName(reinterpret_cast<HWND>(wParam))
+                           : "NEXTDLGCTL " + std::string(wParam != 0 ? "back" : "on");
+    for (const MessageName& known : names)
+    {
+        if (known.message == message)
+            return known.name + (known.withParameter ? " " + std::to_string(LOWORD(wParam)) : "");
+    }
+    return {};
+}
+
+} // namespace
+
+void Print(const char* format, ...)
+{
+    std::printf("%*s", depth * 2, "");
+    va_list arguments;
+    va_start(arguments, format);
+    std::vprintf(format, arguments);
+    va_end(arguments);
+    std::printf("\n");
+}
+
+RecordedMessage::RecordedMessage(int id, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    // What the windows inside a combo box tell it is its own affair, and so is how a dialog looks for a menu.
+    const bool isInner = id != 0 ? message == WM_COMMAND || message == DM_GETDEFID : message == WM_CAPTURECHANGED;
+    const std::string text = isInner ? std::string() : Described(message, wParam, lParam);
+    m_isPrinted = !text.empty();
+    if (!m_isPrinted)
+        return;
+    Print("%s %s", id != 0 ? std::to_string(id).c_str() : "dialog", text.c_str());
+    ++depth;
+}
+
+RecordedMessage::~RecordedMessage()
+{
+    if (m_isPrinted)
+        --depth;
+}
+
+Stage::Stage(const char* title) : Recorded(IDD_PROPERTIES), m_title(title) {}
+
+CButton& Stage::Button(int id, const std::string& text, DWORD style)
+{
+    return Add<CButton>(id, "Button", text, style | WS_TABSTOP);
+}
+
+CButton& Stage::Ok()
+{
+    return Button(IDOK, "OK", BS_DEFPUSHBUTTON);
+}
+
+CButton& Stage::Cancel()
+{
+    return Button(IDCANCEL, "Cancel");
+}
+
+CEdit& Stage::Edit(int id)
+{
+    return Add<CEdit>(id, "Edit", "", WS_BORDER | WS_TABSTOP | ES_AUTOHSCROLL, 20, WS_EX_CLIENTEDGE);
+}
+
+CListBox& Stage::List(int id, DWORD style)
+{
+    return Add<CListBox>(id, "ListBox", "", style | WS_TABSTOP | WS_VSCROLL, 60, WS_EX_CLIENTEDGE);
+}
+
+CComboBox& Stage::Combo(int id, DWORD style)
+{
+    return Add<CComboBox>(id, "ComboBox", "", style | WS_TABSTOP | WS_VSCROLL | CBS_NOINTEGRALHEIGHT, 80,
+                          WS_EX_CLIENTEDGE);
+}
+
+CStatic& Stage::Static(int id, const std::string& text)
+{
+    return Add<CStatic>(id, "Static", text, SS_LEFT);
+}
+
+CTreeCtrl& Stage::Tree(int id)
+{
+    return Add<CTreeCtrl>(id, "SysTreeView32", "",
+                          TVS_HASBUTTONS | TVS_HASLINES | TVS_LINESATROOT | TVS_SHOWSELALWAYS | WS_BORDER | WS_TABSTOP,
+                          120);
+}
+
+void Stage::Act(const std::string& title, std::function<void()> act)
+{
+    Look(
+        [title, act = std::move(act)]
+        {
+            std::printf("# %s\n", title.c_str());
+            act();
+        });
+    Look([] { std::printf("= focus %s\n", FocusName().c_str()); });
+}
+
+void Stage::Look(std::function<void()> look)
+{
+    m_robot.When(
+        "act", [] { return robot::ActiveDialog() != nullptr; }, std::move(look));
+}
+
+void Stage::Run()
+{
+    std::printf("\n## %s\n", m_title);
+    Look([this] { EndDialog(7); });
+    const INT_PTR result = DoModal();
+    Print("gives %d, %s", static_cast<int>(result), m_robot.Done() ? "done" : "given up");
+}
+
+BOOL Stage::OnInitDialog()
+{
+    CDialog::OnInitDialog();
+    SetWindowText(m_title);
+    SetWindowPos(nullptr, 0, 0, 500, 600, SWP_NOZORDER);
+    int top = 5;
+    for (Control& control : m_controls)
+    {
+        const CRect place(10, top, 210, top + control.height);
+        top += control.height + 5;
+        control.window->CreateEx(control.exStyle, control.windowClass.c_str(), control.text.c_str(),
+                                 control.style | WS_CHILD | WS_VISIBLE, place, this, static_cast<UINT>(control.id));
+        control.window->SendMessage(WM_SETFONT, static_cast<WPARAM>(SendMessage(WM_GETFONT)), TRUE);
+    }
+    return TRUE;
+}
+
+BOOL Stage::OnCommand(WPARAM wParam, LPARAM lParam)
+{
+    if (onCommand)
+        onCommand(LOWORD(wParam), HIWORD(wParam));
+    return CDialog::OnCommand(wParam, lParam);
+}
+
+std::string FocusName()
+{
+    return WindowName(::GetFocus());
+}
+
+void KeyDown(UINT key)
+{
+    INPUT input{};
+    input.type = INPUT_KEYBOARD;
+    input.ki.wVk = static_cast<WORD>(key);
+    ::SendInput(1, &input, sizeof input);
+}
+
+void KeyUp(UINT key)
+{
+    INPUT input{};
+    input.type = INPUT_KEYBOARD;
+    input.ki.wVk = static_cast<WORD>(key);
+    input.ki.dwFlags = KEYEVENTF_KEYUP;
+    ::SendInput(1, &input, sizeof input);
+}
+
+void Strike(UINT key)
+{
+    KeyDown(key);
+    KeyUp(key);
+}

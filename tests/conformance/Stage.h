@@ -1,0 +1,120 @@
+// A dialog on which a chapter of the conformance program acts, and the record of what its windows are told.
+//
+// Every message that matters is printed when it arrives, indented under the message inside which it was sent; so the
+// record shows the order and what was absent, and not results alone.
+#pragma once
+
+#include "robot/WindowRobot.h"
+
+#include <afxcmn.h>
+
+#include <functional>
+#include <list>
+#include <memory>
+#include <string>
+
+// Prints one line of the record.
+void Print(const char* format, ...) __attribute__((format(printf, 1, 2)));
+
+// Prints a message for as long as it is handled; `id` is the window's.
+class RecordedMessage
+{
+public:
+    RecordedMessage(int id, UINT message, WPARAM wParam, LPARAM lParam);
+    RecordedMessage(const RecordedMessage&) = delete;
+    RecordedMessage& operator=(const RecordedMessage&) = delete;
+    ~RecordedMessage();
+
+private:
+    bool m_isPrinted;
+};
+
+// A window of the class library that records its messages.
+template <class WINDOW>
+class Recorded : public WINDOW
+{
+public:
+    using WINDOW::WINDOW;
+
+protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+    {
+        const RecordedMessage recorded(this->GetDlgCtrlID(), message, wParam, lParam);
+        return WINDOW::WindowProc(message, wParam, lParam);
+    }
+};
+
+class Stage : public Recorded<CDialog>
+{
+public:
+    // The title is the window's.
+    explicit Stage(const char* title);
+
+    // Adds a control; it is made, in this order, when the dialog opens.
+    template <class WINDOW>
+    WINDOW& Add(int id, const std::string& windowClass, const std::string& text, DWORD style, int height = 20,
+                DWORD exStyle = 0)
+    {
+        auto window = std::make_unique<Recorded<WINDOW>>();
+        WINDOW& added = *window;
+        m_controls.push_back({std::move(window), id, windowClass, text, style, height, exStyle});
+        return added;
+    }
+    CButton& Button(int id, const std::string& text, DWORD style = 0);
+    CButton& Ok();
+    CButton& Cancel();
+    CEdit& Edit(int id);
+    CListBox& List(int id, DWORD style = LBS_STANDARD);
+    CComboBox& Combo(int id, DWORD style);
+    CStatic& Static(int id, const std::string& text);
+    CTreeCtrl& Tree(int id);
+
+    // Acts when everything that the act before led to has been handled.
+    void Act(const std::string& title, std::function<void()> act);
+    // An act on whatever dialog is on top.
+    void Look(std::function<void()> look);
+    // Opens the dialog, acts, and prints what it gives. What is never closed is closed by the robot.
+    void Run();
+
+    // What a button's command does beyond the record.
+    std::function<void(int id, int code)> onCommand;
+
+protected:
+    BOOL OnInitDialog() override;
+    BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
+    void OnOK() override {}
+    void OnCancel() override {}
+
+private:
+    struct Control
+    {
+        std::unique_ptr<CWnd> window;
+        int id;
+        std::string windowClass;
+        std::string text;
+        DWORD style;
+        int height;
+        DWORD exStyle;
+    };
+
+    const char* m_title;
+    std::list<Control> m_controls;
+    robot::Robot m_robot;
+};
+
+// The window that has the focus, as the record names it.
+std::string FocusName();
+// A key as the keyboard sends it, with its state; Type presses keys one after the other.
+void KeyDown(UINT key);
+void KeyUp(UINT key);
+void Strike(UINT key);
+
+// The chapters.
+void Buttons();
+void Edits();
+void Lists();
+void Combos();
+void Trees();
+void Dialogs();
+void Keys();
+void Measuring();

@@ -1,0 +1,28 @@
+// Acts on the class library over whatever windows there are, and prints what every window is told. The output over the
+// windows of the platform and over those in memory is the same, line by line: conformance.txt holds it. The name of a
+// chapter plays that one alone.
+#include "Stage.h"
+
+#include <afxstat_.h>
+
+#include <cstdio>
+
+int main(int argc, char** argv)
+{
+    struct Chapter
+    {
+        const char* name;
+        void (*run)();
+    };
+    static constexpr Chapter chapters[] = {
+        {"buttons", Buttons}, {"edits", Edits},     {"lists", Lists}, {"combos", Combos},
+        {"trees", Trees},     {"dialogs", Dialogs}, {"keys", Keys},   {"measuring", Measuring},
+    };
+    const HINSTANCE module = ::GetModuleHandleA(nullptr);
+    *AfxGetStaticModuleState() = {module, module};
+    for (const Chapter& chapter : chapters)
+    {
+        if (argc < 2 || std::string(argv[1]) == chapter.name)
+            chapter.run();
+    }
+}
