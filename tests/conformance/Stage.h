@@ -99,7 +99,7 @@ private:
 
     const char* m_title;
     std::list<Control> m_controls;
-    robot::Robot m_robot;
+    robot::Robot m_robot{120000};
 };
 
 // The window that has the focus, as the record names it.
