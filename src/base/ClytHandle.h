@@ -56,23 +56,6 @@ private:
     Handle m_handle = KIND::None();
 };
 
-struct ClytFileKind
-{
-    using Handle = HANDLE;
-    static Handle None() noexcept { return INVALID_HANDLE_VALUE; }
-    static void Close(Handle file) noexcept { CloseHandle(file); }
-};
-using ClytFileHandle = ClytHandle<ClytFileKind>;
-
-// A search for files.
-struct ClytSearchKind
-{
-    using Handle = HANDLE;
-    static Handle None() noexcept { return INVALID_HANDLE_VALUE; }
-    static void Close(Handle search) noexcept { FindClose(search); }
-};
-using ClytSearchHandle = ClytHandle<ClytSearchKind>;
-
 // A loaded library.
 struct ClytModuleKind
 {
@@ -81,12 +64,3 @@ struct ClytModuleKind
     static void Close(Handle module) noexcept { FreeLibrary(module); }
 };
 using ClytModuleHandle = ClytHandle<ClytModuleKind>;
-
-// A key of the registry.
-struct ClytKeyKind
-{
-    using Handle = HKEY;
-    static Handle None() noexcept { return nullptr; }
-    static void Close(Handle key) noexcept { RegCloseKey(key); }
-};
-using ClytKeyHandle = ClytHandle<ClytKeyKind>;

@@ -155,3 +155,13 @@ void DialogWindow::RestoreFocus()
 }
 
 } // namespace platform
+
+HWND GetNextDlgTabItem(HWND dialog, HWND control, BOOL previous)
+{
+    const platform::Desktop& desktop = platform::Desktop::Get();
+    const auto* window = desktop.FindAs<platform::DialogWindow>(dialog);
+    if (window == nullptr)
+        return nullptr;
+    const platform::Window* next = window->NextTabStop(desktop.Find(control), previous != FALSE);
+    return next != nullptr ? next->handle : nullptr;
+}

@@ -26,6 +26,7 @@ LRESULT TreeWindow::Handle(UINT message, WPARAM wParam, LPARAM lParam)
     {
     case WM_GETDLGCODE: return DLGC_WANTARROWS | DLGC_WANTCHARS;
     case TVM_INSERTITEMA: return Insert(*reinterpret_cast<const TVINSERTSTRUCTA*>(lParam));
+    case TVM_DELETEITEM: return ItemOf(lParam) == root ? DeleteAll() : FALSE;
     case TVM_EXPAND:
     {
         const size_t item = ItemOf(lParam);
@@ -68,7 +69,7 @@ size_t TreeWindow::ItemOf(LPARAM itemHandle) const
     if (itemHandle == 0 || itemHandle == reinterpret_cast<LPARAM>(TVI_ROOT))
         return root;
     const auto item = static_cast<size_t>(itemHandle);
-    return item < m_items.size() ? item : none;
+    return item < m_items.size() && m_items[item].isThere ? item : none;
 }
 
 LRESULT TreeWindow::Insert(const TVINSERTSTRUCTA& insert)
@@ -77,9 +78,20 @@ LRESULT TreeWindow::Insert(const TVINSERTSTRUCTA& insert)
     if (under == none)
         return 0;
     const size_t item = m_items.size();
-    m_items.push_back({insert.item.pszText, under, insert.item.iImage, 0, {}});
+    m_items.push_back({insert.item.pszText, under, insert.item.iImage, 0, true, {}});
     m_items[under].children.push_back(item);
     return HandleOf(item);
+}
+
+// Items go one by one only where someone needs it: no one does.
+LRESULT TreeWindow::DeleteAll()
+{
+    for (size_t item = root + 1; item < m_items.size(); ++item)
+        m_items[item] = {{}, root, 0, 0, false, {}};
+    m_items[root].children.clear();
+    m_selected = root;
+    m_top = 0;
+    return TRUE;
 }
 
 // The state is given whole, whatever the mask asks for.

@@ -20,6 +20,7 @@ private:
         size_t parent = root;
         int image = 0;
         UINT state = 0;
+        bool isThere = true; // the handle of one that is gone names no other
         std::vector<size_t> children;
     };
 
@@ -33,6 +34,7 @@ private:
 
     LRESULT HandleInput(UINT message, WPARAM wParam, LPARAM lParam);
     LRESULT Insert(const TVINSERTSTRUCTA& insert);
+    LRESULT DeleteAll();
     LRESULT GetItem(TVITEMA& request) const;
     LRESULT SetItem(const TVITEMA& change);
     LRESULT ItemRect(RECT& rect, bool isLabel) const;

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <strings.h>
+#include <utility>
 
 using platform::Desktop;
 using platform::Window;
@@ -126,6 +127,8 @@ LONG_PTR GetWindowLongPtrA(HWND window, int index)
 LONG_PTR SetWindowLongPtrA(HWND window, int index, LONG_PTR value)
 {
     Window* found = Desktop::Get().Find(window);
+    if (found != nullptr && index == GWL_STYLE)
+        return static_cast<LONG_PTR>(std::exchange(found->style, static_cast<DWORD>(value)));
     if (found == nullptr || index != GWLP_WNDPROC)
         return 0;
     const auto previous = reinterpret_cast<LONG_PTR>(found->procedure);
@@ -288,6 +291,14 @@ BOOL GetWindowRect(HWND window, RECT* rect)
         return FALSE;
     *rect = found->ScreenPlace();
     return TRUE;
+}
+
+BOOL IsChild(HWND parent, HWND window)
+{
+    const Window* inner = Desktop::Get().Find(window);
+    while (inner != nullptr && HandleOf(inner->parent) != parent)
+        inner = inner->parent;
+    return parent != nullptr && inner != nullptr ? TRUE : FALSE;
 }
 
 int MapWindowPoints(HWND from, HWND to, POINT* points, UINT count)

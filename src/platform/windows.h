@@ -378,6 +378,12 @@ inline constexpr int COLOR_HIGHLIGHTTEXT = 14;
 inline constexpr int COLOR_GRAYTEXT = 17;
 
 int lstrcmpiA(LPCSTR left, LPCSTR right);
+// No function here leaves an error.
+inline DWORD GetLastError()
+{
+    return 0;
+}
+inline void SetLastError(DWORD /*error*/) {}
 
 // Messages and their queue
 LRESULT SendMessageA(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
@@ -445,7 +451,11 @@ BOOL ReleaseCapture();
 HMONITOR MonitorFromWindow(HWND window, DWORD flags);
 BOOL GetMonitorInfoA(HMONITOR monitor, MONITORINFO* info);
 
+BOOL IsChild(HWND parent, HWND window);
+
 // Dialogs
+// The control that the tab key reaches from the given one.
+HWND GetNextDlgTabItem(HWND dialog, HWND control, BOOL previous);
 INT_PTR DialogBoxParamA(HINSTANCE instance, LPCSTR name, HWND owner, DLGPROC procedure, LPARAM parameter);
 BOOL EndDialog(HWND dialog, INT_PTR result);
 int MessageBoxA(HWND owner, LPCSTR text, LPCSTR caption, UINT type);
@@ -517,6 +527,10 @@ inline HMODULE GetModuleHandleA(LPCSTR /*name*/)
 HMODULE LoadLibraryA(LPCSTR name);
 FARPROC GetProcAddress(HMODULE library, LPCSTR name);
 BOOL FreeLibrary(HMODULE library);
+inline DWORD GetThreadErrorMode()
+{
+    return 0;
+}
 inline BOOL SetThreadErrorMode(DWORD /*mode*/, DWORD* previous)
 {
     if (previous != nullptr)

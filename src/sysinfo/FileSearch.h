@@ -1,7 +1,7 @@
 // A search for files by a pattern, and the question whether a file may be used.
 #pragma once
 
-#include "base/ClytHandle.h"
+#include "sysinfo/FactHandles.h"
 
 #include <FileNameLength.h>
 #include <afx.h>

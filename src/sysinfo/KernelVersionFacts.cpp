@@ -1,7 +1,7 @@
 #include "sysinfo/KernelVersion.h"
 
-#include "base/ClytHandle.h"
 #include "environment/PartnerLibrary.h"
+#include "sysinfo/FactHandles.h"
 #include "sysinfo/Probes.h"
 
 #include <string>

@@ -1,7 +1,7 @@
 // An open key of the registry, for reading; closes itself.
 #pragma once
 
-#include "base/ClytHandle.h"
+#include "sysinfo/FactHandles.h"
 #include "sysinfo/RegistryValue.h"
 
 #include <vector>

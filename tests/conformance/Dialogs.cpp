@@ -112,6 +112,12 @@ void States()
                   Print("%d children, %d", static_cast<int>(robot::ChildrenOf(dialog).size()),
                         ::GetDlgItem(dialog, 10) == push.m_hWnd);
                   Print("none: %d %d", ::GetDlgItem(dialog, 77) == nullptr, ::IsWindow(nullptr));
+                  Print("child %d %d", ::IsChild(dialog, push.m_hWnd), ::IsChild(push.m_hWnd, dialog));
+                  for (const BOOL previous : {FALSE, TRUE})
+                      Print("next tab stop %d", ::GetDlgCtrlID(::GetNextDlgTabItem(dialog, push.m_hWnd, previous)));
+                  for (int time = 0; time < 2; ++time)
+                      Print("changed %d", push.ModifyStyle(WS_TABSTOP, 0));
+                  Print("tab stop %d", (push.GetStyle() & WS_TABSTOP) != 0);
                   Print("ids %d %d", ::GetDlgCtrlID(push.m_hWnd), ::GetDlgCtrlID(first.m_hWnd));
               });
     stage.Run();

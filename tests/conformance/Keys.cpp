@@ -172,9 +172,9 @@ void WithKeyboard()
     stage.Act("a capital letter",
               []
               {
-                  KeyDown(VK_SHIFT);
+                  robot::HoldKey(VK_SHIFT);
                   Strike('B');
-                  KeyUp(VK_SHIFT);
+                  robot::ReleaseKey(VK_SHIFT);
               });
     stage.Look(
         [&]
@@ -189,17 +189,17 @@ void WithKeyboard()
     stage.Act("tab back",
               []
               {
-                  KeyDown(VK_SHIFT);
+                  robot::HoldKey(VK_SHIFT);
                   Strike(VK_TAB);
-                  KeyUp(VK_SHIFT);
+                  robot::ReleaseKey(VK_SHIFT);
               });
     stage.Act("return in the field", [] { Strike(VK_RETURN); });
     stage.Act("access key",
               []
               {
-                  KeyDown(VK_MENU);
+                  robot::HoldKey(VK_MENU);
                   Strike('P');
-                  KeyUp(VK_MENU);
+                  robot::ReleaseKey(VK_MENU);
               });
     stage.Act("down in a list",
               [&]
@@ -216,9 +216,9 @@ void WithKeyboard()
                   combo.AddString("one");
                   combo.AddString("two");
                   combo.SetFocus();
-                  KeyDown(VK_MENU);
+                  robot::HoldKey(VK_MENU);
                   Strike(VK_DOWN);
-                  KeyUp(VK_MENU);
+                  robot::ReleaseKey(VK_MENU);
               });
     stage.Act("down", [] { Strike(VK_DOWN); });
     stage.Act("return", [] { Strike(VK_RETURN); });

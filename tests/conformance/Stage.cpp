@@ -222,25 +222,8 @@ std::string FocusName()
     return WindowName(::GetFocus());
 }
 
-void KeyDown(UINT key)
-{
-    INPUT input{};
-    input.type = INPUT_KEYBOARD;
-    input.ki.wVk = static_cast<WORD>(key);
-    ::SendInput(1, &input, sizeof input);
-}
-
-void KeyUp(UINT key)
-{
-    INPUT input{};
-    input.type = INPUT_KEYBOARD;
-    input.ki.wVk = static_cast<WORD>(key);
-    input.ki.dwFlags = KEYEVENTF_KEYUP;
-    ::SendInput(1, &input, sizeof input);
-}
-
 void Strike(UINT key)
 {
-    KeyDown(key);
-    KeyUp(key);
+    robot::HoldKey(key);
+    robot::ReleaseKey(key);
 }

@@ -104,9 +104,7 @@ private:
 
 // The window that has the focus, as the record names it.
 std::string FocusName();
-// A key as the keyboard sends it, with its state; Type presses keys one after the other.
-void KeyDown(UINT key);
-void KeyUp(UINT key);
+// A key of the keyboard, down and up.
 void Strike(UINT key);
 
 // The chapters.

@@ -174,6 +174,13 @@ void Run(const char* title, bool withImages)
     act("a letter", [] { robot::TypeText("d"); });
     act("return", [] { robot::PressKey(VK_RETURN); });
     act("tab", [] { robot::PressKey(VK_TAB); });
+    stage.Act("delete all",
+              [&]
+              {
+                  Print("gives %d", tree.DeleteAllItems());
+                  Print("is empty %d", tree.GetRootItem() == nullptr);
+                  Print("selected %s", items.NameOf(tree.GetSelectedItem()).c_str());
+              });
     stage.Run();
 }
 
