@@ -17,6 +17,13 @@ if(LYT_SANITIZE)
   target_compile_options(lyt_options INTERFACE -fsanitize=${LYT_SANITIZERS} -fno-sanitize-recover=all -fno-omit-frame-pointer)
   target_link_options(lyt_options INTERFACE -fsanitize=${LYT_SANITIZERS})
 endif()
+if(LYT_CHECKED)
+  # There is no sanitizer runtime for this platform; what the checks find ends the program.
+  target_compile_options(lyt_options INTERFACE -fsanitize=undefined,float-cast-overflow -fsanitize-undefined-trap-on-error
+    -fno-sanitize=vptr -D_GLIBCXX_ASSERTIONS -D_FORTIFY_SOURCE=2)
+  # What the checks put in makes GCC 12 see unset members and null pointers inside the standard library.
+  target_compile_options(lyt_options INTERFACE -Wno-maybe-uninitialized -Wno-null-dereference)
+endif()
 if(LYT_FUZZ)
   target_compile_options(lyt_options INTERFACE -fsanitize=fuzzer-no-link,${LYT_SANITIZERS} -fno-sanitize-recover=all)
   target_link_options(lyt_options INTERFACE -fsanitize=${LYT_SANITIZERS})
