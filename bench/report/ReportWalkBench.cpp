@@ -1,7 +1,7 @@
 // Reading a report line by line: each call names an index, and the walk as a whole stays linear.
 #include "environment/ClytEnvironment.h"
-#include "sysinfo/Report.h"
-#include "sysinfo/ReportLines.h"
+#include "sysinfo/frame/Report.h"
+#include "sysinfo/frame/ReportLines.h"
 
 #include <benchmark/benchmark.h>
 

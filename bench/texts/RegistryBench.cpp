@@ -1,7 +1,7 @@
 #include "Measurements.h"
 
 #include "environment/ClytEnvironment.h"
-#include "sysinfo/Probes.h"
+#include "sysinfo/frame/Probes.h"
 
 #include "Timing.h"
 

@@ -1,5 +1,5 @@
 // The exports of the system report.
-#include "sysinfo/Report.h"
+#include "sysinfo/frame/Report.h"
 
 #include "lyt64.h"
 

@@ -1,4 +1,4 @@
-#include "sysinfo/DirectoryAccess.h"
+#include "sysinfo/files/FileListing.h"
 
 #include <gtest/gtest.h>
 

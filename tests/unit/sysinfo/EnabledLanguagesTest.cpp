@@ -1,6 +1,6 @@
-#include "sysinfo/EnabledLanguages.h"
+#include "sysinfo/word/EnabledLanguages.h"
 
-#include "sysinfo/LanguageTags.h"
+#include "sysinfo/word/LanguageTags.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "sysinfo/FileListing.h"
+#include "sysinfo/files/FileListing.h"
 
 #include "environment/LocalTime.h"
 

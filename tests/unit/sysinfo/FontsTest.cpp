@@ -1,4 +1,4 @@
-#include "sysinfo/Fonts.h"
+#include "sysinfo/fonts/Fonts.h"
 
 #include "environment/ClytINISection.h"
 

@@ -1,4 +1,4 @@
-#include "sysinfo/Hardware.h"
+#include "sysinfo/system/Hardware.h"
 
 #include "Lines.h"
 

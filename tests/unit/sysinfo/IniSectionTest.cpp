@@ -1,4 +1,4 @@
-#include "sysinfo/IniSection.h"
+#include "sysinfo/files/IniSection.h"
 
 #include "environment/ClytINISection.h"
 #include "support/TestFolder.h"

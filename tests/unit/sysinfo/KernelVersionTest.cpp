@@ -1,4 +1,4 @@
-#include "sysinfo/KernelVersion.h"
+#include "sysinfo/system/KernelVersion.h"
 
 #include <gtest/gtest.h>
 

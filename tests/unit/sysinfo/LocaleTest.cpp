@@ -1,4 +1,4 @@
-#include "sysinfo/Locale.h"
+#include "sysinfo/fonts/Locale.h"
 
 #include "Lines.h"
 

@@ -1,4 +1,4 @@
-#include "sysinfo/MacroSecurity.h"
+#include "sysinfo/word/MacroSecurity.h"
 
 #include <gtest/gtest.h>
 

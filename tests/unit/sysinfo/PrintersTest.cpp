@@ -1,4 +1,4 @@
-#include "sysinfo/Printers.h"
+#include "sysinfo/printers/Printers.h"
 
 #include "Lines.h"
 

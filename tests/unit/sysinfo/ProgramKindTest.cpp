@@ -1,4 +1,4 @@
-#include "sysinfo/ProgramKind.h"
+#include "sysinfo/files/ProgramKind.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "sysinfo/RegistryDump.h"
+#include "sysinfo/files/RegistryDump.h"
 
 #include <gtest/gtest.h>
 

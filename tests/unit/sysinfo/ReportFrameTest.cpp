@@ -1,4 +1,4 @@
-#include "sysinfo/ReportFrame.h"
+#include "sysinfo/frame/ReportFrame.h"
 
 #include <gtest/gtest.h>
 

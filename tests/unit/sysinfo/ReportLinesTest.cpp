@@ -1,7 +1,7 @@
-#include "sysinfo/ReportLines.h"
+#include "sysinfo/frame/ReportLines.h"
 
 #include "environment/ClytEnvironment.h"
-#include "sysinfo/Report.h"
+#include "sysinfo/frame/Report.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "sysinfo/ShellCommand.h"
+#include "sysinfo/files/ShellCommand.h"
 
 #include <gtest/gtest.h>
 

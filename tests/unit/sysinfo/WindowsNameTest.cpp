@@ -1,4 +1,4 @@
-#include "sysinfo/WindowsName.h"
+#include "sysinfo/system/WindowsName.h"
 
 #include <gtest/gtest.h>
 

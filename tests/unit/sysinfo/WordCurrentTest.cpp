@@ -1,6 +1,6 @@
-#include "sysinfo/WordCurrent.h"
+#include "sysinfo/word/WordCurrent.h"
 
-#include "sysinfo/BinaryKind.h"
+#include "sysinfo/files/ProgramKind.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "sysinfo/WordDirectories.h"
+#include "sysinfo/word/WordDirectories.h"
 
 #include <gtest/gtest.h>
 

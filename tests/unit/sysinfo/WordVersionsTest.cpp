@@ -1,4 +1,4 @@
-#include "sysinfo/WordVersions.h"
+#include "sysinfo/word/WordVersions.h"
 
 #include <gtest/gtest.h>
 

@@ -3,7 +3,7 @@
 
 #include "support/RegistryFacts.h"
 #include "support/TestFolder.h"
-#include "sysinfo/Probes.h"
+#include "sysinfo/frame/Probes.h"
 
 #include <gtest/gtest.h>
 

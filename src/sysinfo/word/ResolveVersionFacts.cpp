@@ -1,0 +1,55 @@
+#include "base/ClytHandle.h"
+#include "environment/PartnerLibrary.h"
+#include "sysinfo/frame/Probes.h"
+
+#include <algorithm>
+#include <iterator>
+
+namespace
+{
+
+constexpr size_t textSize = 400;
+
+using GetVersionText = void(char* text);
+
+GetVersionText* FindVersionFunction(HMODULE library)
+{
+    auto* const own = lytFindFunction<GetVersionText>(library, "getLYTVersion");
+    return own != nullptr ? own : lytFindFunction<GetVersionText>(library, "getVersion");
+}
+
+using VersionText = char[textSize];
+
+void Clear(VersionText& text)
+{
+    std::fill(std::begin(text), std::end(text), ' ');
+}
+
+// What the library raises ends here: it is made of the library's code, and cannot outlive the library.
+void Ask(GetVersionText& getVersion, VersionText& text)
+{
+    try
+    {
+        getVersion(text);
+    }
+    catch (...)
+    {
+        Clear(text);
+    }
+}
+
+} // namespace
+
+// Blanks stand for the version of a library that is missing or does not tell it.
+CString lytProbeResolveVersion()
+{
+    VersionText text;
+    Clear(text);
+    const ClytModuleHandle library(lytLoadLibrary("LytRes64.dll"));
+    if (library.IsOpen())
+        if (GetVersionText* const getVersion = FindVersionFunction(library.Get()))
+            Ask(*getVersion, text);
+    // The library need not have left an end.
+    text[textSize - 1] = '\0';
+    return text;
+}
