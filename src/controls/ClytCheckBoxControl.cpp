@@ -1,6 +1,6 @@
 #include "controls/ClytCheckBoxControl.h"
 
-#include "environment/Words.h"
+#include "base/Words.h"
 
 void ClytCheckBoxControl::CreateControl(ClytForm* owner)
 {

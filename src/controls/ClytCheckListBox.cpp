@@ -1,7 +1,7 @@
 #include "controls/ClytCheckListBox.h"
 
+#include "base/ClytRedrawPause.h"
 #include "environment/ClytEnvironment.h"
-#include "environment/ClytRedrawPause.h"
 #include "environment/ProcessState.h"
 
 #include <utility>

@@ -1,7 +1,7 @@
 #include "controls/ClytComboBoxControl.h"
 
-#include "environment/ClytRedrawPause.h"
-#include "environment/Words.h"
+#include "base/ClytRedrawPause.h"
+#include "base/Words.h"
 
 namespace
 {

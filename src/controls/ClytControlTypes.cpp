@@ -1,5 +1,6 @@
 #include "controls/ClytControlTypes.h"
 
+#include "base/Words.h"
 #include "controls/ClytCheckBoxControl.h"
 #include "controls/ClytCheckListBox.h"
 #include "controls/ClytComboBoxControl.h"
@@ -11,7 +12,6 @@
 #include "controls/ClytPushButtonControl.h"
 #include "controls/ClytRadioButtonControl.h"
 #include "controls/ClytStaticControl.h"
-#include "environment/Words.h"
 #include "model/ClytScale.h"
 
 namespace

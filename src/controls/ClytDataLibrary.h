@@ -1,7 +1,7 @@
 // How controls reach the partner libraries that description files name; lytdata.h tells what those offer.
 #pragma once
 
-#include "environment/PartnerLibrary.h"
+#include "base/PartnerLibrary.h"
 
 #include "lytdata.h"
 

@@ -1,9 +1,9 @@
 #include "controls/ClytItemControl.h"
 
+#include "base/ClytRedrawPause.h"
+#include "base/Words.h"
 #include "controls/ClytWaitCursor.h"
 #include "environment/ClytEnvironment.h"
-#include "environment/ClytRedrawPause.h"
-#include "environment/Words.h"
 
 #include <type_traits>
 #include <utility>

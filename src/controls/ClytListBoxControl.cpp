@@ -1,7 +1,7 @@
 #include "controls/ClytListBoxControl.h"
 
+#include "base/ClytRedrawPause.h"
 #include "environment/ClytEnvironment.h"
-#include "environment/ClytRedrawPause.h"
 
 BEGIN_MESSAGE_MAP(ClytListBoxControl, CListBox)
     ON_WM_LBUTTONDBLCLK()

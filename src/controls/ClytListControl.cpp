@@ -1,9 +1,9 @@
 #include "controls/ClytListControl.h"
 
+#include "base/ClytRedrawPause.h"
+#include "base/Words.h"
 #include "controls/ClytPushButtonControl.h"
 #include "dlgfile/Tokenize.h"
-#include "environment/ClytRedrawPause.h"
-#include "environment/Words.h"
 
 template <class WINDOW>
 void ClytListControl<WINDOW>::AddValues(const CString& text, const CString& separators)

@@ -2,11 +2,11 @@
 #include "controls/ClytPushButtonControl.h"
 
 #include "base/ClytHandle.h"
+#include "base/Words.h"
 #include "controls/ClytDataLibrary.h"
 #include "controls/ClytWaitCursor.h"
 #include "environment/ClytEnvironment.h"
 #include "environment/ProcessState.h"
-#include "environment/Words.h"
 
 struct ClytPushButtonControl::Word
 {

@@ -1,8 +1,8 @@
 #include "controls/ClytPushButtonControl.h"
 
+#include "base/Words.h"
 #include "controls/ClytWaitCursor.h"
 #include "environment/ProcessState.h"
-#include "environment/Words.h"
 
 #include <utility>
 

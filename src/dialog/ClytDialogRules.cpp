@@ -1,9 +1,9 @@
 #include "dialog/ClytDialogRules.h"
 
 #include "base/Counted.h"
+#include "base/Words.h"
 #include "environment/ClytException.h"
 #include "environment/ProcessState.h"
-#include "environment/Words.h"
 
 #include <list>
 #include <utility>

@@ -2,8 +2,8 @@
 #include "dialog/ClytDialogRules.h"
 
 #include "base/Counted.h"
+#include "base/Words.h"
 #include "environment/ClytException.h"
-#include "environment/Words.h"
 
 namespace
 {

@@ -1,6 +1,6 @@
 #include "dlgfile/ClytDialogFile.h"
 
-#include "environment/Words.h"
+#include "base/Words.h"
 
 ClytDialogFile::ClytDialogFile(const char* defineList, ErrorSink& errorSink)
     : ClytLineSource(defineList), errors(errorSink)

@@ -6,7 +6,7 @@
 //     name = NULL any-delimiter message key
 #include "dlgfile/ClytDialogFile.h"
 
-#include "environment/Words.h"
+#include "base/Words.h"
 #include "model/ClytCtrlValList.h"
 
 namespace

@@ -8,8 +8,8 @@
 // A reader finds its line in the token list and leaves the next one there.
 #include "dlgfile/ClytDialogFile.h"
 
+#include "base/Words.h"
 #include "environment/ClytException.h"
-#include "environment/Words.h"
 #include "model/ClytInputPart.h"
 
 namespace

@@ -11,7 +11,7 @@
 // It is not the `End` line that ends the controls but the header of the next section.
 #include "dlgfile/ClytDialogFile.h"
 
-#include "environment/Words.h"
+#include "base/Words.h"
 
 namespace
 {

@@ -10,7 +10,7 @@
 //            word ()              all values of a control with blanks between them
 #include "dlgfile/ClytDialogFile.h"
 
-#include "environment/Words.h"
+#include "base/Words.h"
 #include "model/ClytDialogOutput.h"
 
 namespace

@@ -9,7 +9,7 @@
 //            control (word, operand, operand, operand)
 #include "dlgfile/ClytDialogFile.h"
 
-#include "environment/Words.h"
+#include "base/Words.h"
 #include "model/ClytScanRule.h"
 
 #include <cstring>

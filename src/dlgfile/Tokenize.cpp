@@ -1,7 +1,7 @@
 #include "dlgfile/Tokenize.h"
 
+#include "base/Words.h"
 #include "environment/ClytException.h"
-#include "environment/Words.h"
 
 #include <cstring>
 

@@ -1,9 +1,9 @@
 #include "environment/ClytLogFile.h"
 
+#include "base/Words.h"
 #include "environment/ClytEnvironment.h"
 #include "environment/ClytException.h"
 #include "environment/LocalTime.h"
-#include "environment/Words.h"
 
 namespace
 {

@@ -1,5 +1,7 @@
 #include "environment/LocalTime.h"
 
+#include <afxwin.h>
+
 bool LocalTimeOf(std::time_t time, std::tm& local)
 {
     return _localtime64_s(&local, &time) == 0;

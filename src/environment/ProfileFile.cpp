@@ -1,16 +1,16 @@
 #include "environment/ProfileFile.h"
 
 #include <FileNameLength.h>
+#include <afxwin.h>
 
 #include <string>
-#include <windows.h>
 
 CString ReadProfileText(const char* section, const char* key, const char* defaultText, int size, const char* fileName)
 {
     if (!FileNameFits(fileName))
         return CString(defaultText).Left(size - 1);
     std::string value(static_cast<size_t>(size), '\0');
-    GetPrivateProfileStringA(section, key, defaultText, value.data(), static_cast<DWORD>(size), fileName);
+    ::GetPrivateProfileStringA(section, key, defaultText, value.data(), static_cast<DWORD>(size), fileName);
     return value.c_str();
 }
 
@@ -21,5 +21,5 @@ int ReadProfileSection(const char* section, char* buffer, int size, const char* 
         buffer[0] = buffer[1] = '\0';
         return 0;
     }
-    return static_cast<int>(GetPrivateProfileSectionA(section, buffer, static_cast<DWORD>(size), fileName));
+    return static_cast<int>(::GetPrivateProfileSectionA(section, buffer, static_cast<DWORD>(size), fileName));
 }

@@ -1,6 +1,6 @@
 // Reads of configuration files (`lyt.ini`, the language files), with the line forms of the platform's profile functions:
 // names without regard to case, blanks round names and values cut, one pair of quotes round a value taken off, comments
-// left out. On Windows the platform itself reads; elsewhere a stand-in that answers alike.
+// left out.
 #pragma once
 
 #include <afx.h>

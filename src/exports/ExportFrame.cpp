@@ -1,6 +1,6 @@
 #include "exports/ExportFrame.h"
 
-#include "environment/PartnerLibrary.h"
+#include "base/PartnerLibrary.h"
 
 #include <algorithm>
 #include <cstring>

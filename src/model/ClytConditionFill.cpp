@@ -1,6 +1,6 @@
 #include "model/ClytConditionFill.h"
 
-#include "environment/Words.h"
+#include "base/Words.h"
 
 int ClytConditionFill::Apply(const CString& piece, const ClytControlMap& controls) const
 {

@@ -1,7 +1,7 @@
 #include "model/ClytControl.h"
 
+#include "base/Words.h"
 #include "environment/ClytException.h"
-#include "environment/Words.h"
 
 ClytControl::ClytControl(CString controlName, ClytPosition topLeft, ClytSize extent, CString text)
     : position(topLeft), size(extent), caption(std::move(text)), name(std::move(controlName))

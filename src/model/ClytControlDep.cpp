@@ -1,6 +1,6 @@
 #include "model/ClytControlDep.h"
 
-#include "environment/Words.h"
+#include "base/Words.h"
 #include "model/ClytControl.h"
 
 bool ClytControlDep::IsEventRule() const

@@ -1,6 +1,6 @@
 #include "model/ClytControlFill.h"
 
-#include "environment/Words.h"
+#include "base/Words.h"
 #include "model/ClytControl.h"
 #include "model/ClytObserver.h"
 

@@ -1,6 +1,6 @@
 #include "model/ClytCtrlValList.h"
 
-#include "environment/Words.h"
+#include "base/Words.h"
 #include "model/ClytControl.h"
 
 void ClytCtrlValList::CopyFrom(const ClytCtrlValList& other)

@@ -3,8 +3,8 @@
 
 #include <afxcoll.h>
 
+#include "base/ClytOwnedList.h"
 #include "base/ClytSpan.h"
-#include "environment/ClytOwnedList.h"
 
 class ClytControl;
 using ClytControlMap = CTypedPtrMap<CMapStringToPtr, CString, ClytControl*>;

@@ -1,7 +1,7 @@
 #include "model/ClytInputPart.h"
 
+#include "base/Words.h"
 #include "environment/ClytException.h"
-#include "environment/Words.h"
 #include "model/ClytObserver.h"
 #include "model/ClytScanner.h"
 

@@ -1,7 +1,7 @@
 // How a statement cuts its piece off the front of the input: by a fixed length or by separators.
 #pragma once
 
-#include "environment/ClytOwnedList.h"
+#include "base/ClytOwnedList.h"
 #include "model/ClytSeparator.h"
 
 class ClytScan : public CObject

@@ -1,10 +1,12 @@
-// The stand-in for the platform's profile functions. One table of cases in the tests runs against both.
-#include "environment/ProfileFile.h"
-
+// The platform's profile functions. One table of cases in the tests runs against both.
 #include "platform/NativePath.h"
 
+#include <windows.h>
+
+#include <afx.h>
 #include <algorithm>
 #include <cstring>
+#include <ctime>
 #include <memory>
 #include <string_view>
 #include <vector>
@@ -129,7 +131,8 @@ std::string_view Default(std::string_view text)
 
 } // namespace
 
-CString ReadProfileText(const char* section, const char* key, const char* defaultText, int size, const char* fileName)
+DWORD GetPrivateProfileStringA(const char* section, const char* key, const char* defaultText, char* buffer, DWORD size,
+                               const char* fileName)
 {
     const std::string file = ReadWholeFile(fileName);
     std::string_view value = Default(defaultText);
@@ -137,10 +140,12 @@ CString ReadProfileText(const char* section, const char* key, const char* defaul
     const auto line = std::ranges::find_if(lines, [&](const Line& each) { return SameName(each.name, key); });
     if (line != lines.end() && line->hasValue)
         value = line->value;
-    return Text(Unquoted(value).substr(0, static_cast<size_t>(size) - 1));
+    const size_t written = Unquoted(value).copy(buffer, size - 1);
+    buffer[written] = '\0';
+    return static_cast<DWORD>(written);
 }
 
-int ReadProfileSection(const char* section, char* buffer, int size, const char* fileName)
+DWORD GetPrivateProfileSectionA(const char* section, char* buffer, DWORD size, const char* fileName)
 {
     const std::string file = ReadWholeFile(fileName);
     std::string lines;
@@ -154,10 +159,10 @@ int ReadProfileSection(const char* section, char* buffer, int size, const char* 
         lines += '\0';
     }
 
-    const size_t room = static_cast<size_t>(size) - 2;
+    const size_t room = size - 2;
     const size_t written = std::min(lines.size(), room);
     std::memcpy(buffer, lines.data(), written);
     buffer[written] = '\0';
     buffer[written + 1] = '\0';
-    return static_cast<int>(written);
+    return static_cast<DWORD>(written);
 }

@@ -3,7 +3,9 @@
 // draw do nothing.
 #pragma once
 
+#include <cerrno>
 #include <cstdint>
+#include <ctime>
 
 #define CALLBACK
 #define WINAPI
@@ -551,6 +553,14 @@ inline BOOL ActivateActCtx(HANDLE /*context*/, ULONG_PTR* /*cookie*/)
 inline BOOL DeactivateActCtx(DWORD /*flags*/, ULONG_PTR /*cookie*/)
 {
     return FALSE;
+}
+
+// Profile files, and the runtime's local time: 0 when the time has one.
+DWORD GetPrivateProfileStringA(LPCSTR section, LPCSTR key, LPCSTR defaultText, char* buffer, DWORD size, LPCSTR file);
+DWORD GetPrivateProfileSectionA(LPCSTR section, char* buffer, DWORD size, LPCSTR file);
+inline int _localtime64_s(std::tm* local, const std::time_t* time)
+{
+    return localtime_r(time, local) != nullptr ? 0 : EINVAL;
 }
 
 // There is one thread.

@@ -4,7 +4,7 @@
 // smaller level, so levels may skip numbers and begin anywhere.
 #pragma once
 
-#include "environment/ClytOwnedList.h"
+#include "base/ClytOwnedList.h"
 
 #include <lytsrc.h>
 

@@ -1,10 +1,10 @@
 #include "tree/ClytTreeDialog.h"
 
+#include "base/ClytRedrawPause.h"
+#include "base/Words.h"
 #include "environment/ClytEnvironment.h"
 #include "environment/ClytException.h"
-#include "environment/ClytRedrawPause.h"
 #include "environment/ProcessState.h"
-#include "environment/Words.h"
 #include "res/resource.h"
 #include "tree/NodeExpansion.h"
 #include "tree/NodeFill.h"

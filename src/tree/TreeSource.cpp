@@ -1,6 +1,6 @@
 #include "tree/TreeSource.h"
 
-#include "environment/PartnerLibrary.h"
+#include "base/PartnerLibrary.h"
 
 #include <type_traits>
 

@@ -1,9 +1,9 @@
 // The stand-ins that choose among items, options and marks.
 #include "support/HeadlessControls.h"
 
+#include "base/Words.h"
 #include "environment/ClytEnvironment.h"
 #include "environment/ClytException.h"
-#include "environment/Words.h"
 #include "support/HeadlessForm.h"
 
 #include <utility>

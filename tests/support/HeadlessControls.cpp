@@ -1,7 +1,7 @@
 #include "support/HeadlessControls.h"
 
+#include "base/Words.h"
 #include "environment/ClytException.h"
-#include "environment/Words.h"
 #include "support/HeadlessForm.h"
 
 HeadlessControl::HeadlessControl(HeadlessForm& ownerForm, const CString& controlName, ClytPosition topLeft,

@@ -1,8 +1,8 @@
 #include "sysinfo/frame/Report.h"
 
+#include "base/PartnerLibrary.h"
+#include "base/Words.h"
 #include "environment/ClytEnvironment.h"
-#include "environment/PartnerLibrary.h"
-#include "environment/Words.h"
 #include "sysinfo/files/DirectoryName.h"
 #include "sysinfo/files/FileSearch.h"
 #include "sysinfo/frame/Probes.h"

@@ -1,6 +1,6 @@
 #include "sysinfo/system/KernelVersion.h"
 
-#include "environment/PartnerLibrary.h"
+#include "base/PartnerLibrary.h"
 #include "sysinfo/frame/Probes.h"
 #include "sysinfo/system/FactHandles.h"
 

@@ -1,6 +1,6 @@
 #include "sysinfo/system/KernelVersion.h"
 
-#include "environment/Words.h"
+#include "base/Words.h"
 
 unsigned LanguageAndCodePage(unsigned translation)
 {

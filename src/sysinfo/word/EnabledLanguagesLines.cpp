@@ -1,6 +1,6 @@
 #include "sysinfo/word/EnabledLanguages.h"
 
-#include "environment/Words.h"
+#include "base/Words.h"
 #include "sysinfo/files/RegistryDump.h"
 #include "sysinfo/word/LanguageTags.h"
 #include "sysinfo/word/WordDirectories.h"

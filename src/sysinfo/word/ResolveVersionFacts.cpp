@@ -1,5 +1,5 @@
 #include "base/ClytHandle.h"
-#include "environment/PartnerLibrary.h"
+#include "base/PartnerLibrary.h"
 #include "sysinfo/frame/Probes.h"
 
 #include <algorithm>

@@ -1,6 +1,6 @@
 #include "sysinfo/word/WordCurrent.h"
 
-#include "environment/Words.h"
+#include "base/Words.h"
 #include "sysinfo/files/ProgramKind.h"
 
 CString WordVersionOf(const CString& program)

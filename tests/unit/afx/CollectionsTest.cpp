@@ -1,4 +1,4 @@
-#include "environment/ClytOwnedList.h"
+#include "base/ClytOwnedList.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "environment/PartnerLibrary.h"
+#include "base/PartnerLibrary.h"
 
 HMODULE lytLoadLibrary(const char* name)
 {
