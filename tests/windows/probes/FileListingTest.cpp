@@ -174,8 +174,10 @@ TEST_F(FileListing, ClosesItsSearchWhenItBreaksOff)
 {
     for (char letter = 'a'; letter <= 'z'; ++letter)
         folder.Write(std::string(40, letter), "");
+    const auto list = [&] { lytListFiles(folder.Path().c_str(), "*", 0); };
+    list(); // the first search of a process leaves the platform's own handles behind
     const HANDLE before = LowestFreeHandle();
-    const int failures = FailEachAllocation([&] { lytListFiles(folder.Path().c_str(), "*", 0); });
+    const int failures = FailEachAllocation(list);
     EXPECT_GT(failures, 26);
     EXPECT_EQ(LowestFreeHandle(), before);
     TakeLines();
