@@ -119,7 +119,7 @@ void ButtonWindow::UncheckOthers() const
         --first;
     const auto end = std::find_if(self + 1, row.end(), begins);
     std::vector<const Window*> members(first, end);
-    std::ranges::rotate(members, members.begin() + (self - first) + 1);
+    std::rotate(members.begin(), members.begin() + (self - first) + 1, members.end());
     std::vector<HWND> others;
     for (auto member = members.rbegin() + 1; member != members.rend(); ++member)
     {

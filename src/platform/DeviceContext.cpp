@@ -1,4 +1,5 @@
 // Device contexts measure text; there is nothing to draw on.
+#include "MemoryWindows.h"
 #include "Metrics.h"
 
 #include <cstdint>

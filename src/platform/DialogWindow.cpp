@@ -62,7 +62,7 @@ Window* DialogWindow::NextTabStop(const Window* from, bool backwards) const
         std::ranges::reverse(row);
     const auto here = std::ranges::find(row, from);
     if (here != row.end())
-        std::ranges::rotate(row, here + 1);
+        std::rotate(row.begin(), here + 1, row.end());
     const auto found =
         std::ranges::find_if(row, [](const Window* child) { return child->HasStyle(WS_TABSTOP) && child->IsReady(); });
     return found != row.end() ? *found : nullptr;
@@ -87,7 +87,7 @@ Window* DialogWindow::NextInGroup(const Window& from, bool backwards) const
 
     if (backwards)
         std::ranges::reverse(members);
-    std::ranges::rotate(members, std::ranges::find(members, &from) + 1);
+    std::rotate(members.begin(), std::ranges::find(members, &from) + 1, members.end());
     return *std::ranges::find_if(members, [&](const Window* child) { return child == &from || child->IsReady(); });
 }
 

@@ -17,6 +17,6 @@ bool TakePosted(HWND window, UINT message);
 void TranslateKey(const MSG& message);
 void Dispatch(const MSG& message);
 // Handles a message as a key of the dialog; false when it is none, and is to be dispatched.
-bool TakeDialogKey(HWND dialog, const MSG& message);
+bool TakeDialogKey(HWND window, const MSG& message);
 
 } // namespace platform

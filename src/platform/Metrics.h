@@ -20,8 +20,7 @@ struct Metrics
 };
 
 const Metrics& CurrentMetrics();
-// 96 or 120; others have the metrics of 96.
-void SetPixelsPerInch(int pixelsPerInch);
+// Other resolutions than 96 and 120 have the metrics of 96.
 int PixelsPerInch();
 
 // The handle under which windows and device contexts have the dialog's font.

@@ -389,7 +389,7 @@ void TreeWindow::TakeCharacter(WPARAM character)
     std::vector<size_t> rows = Rows();
     const auto here = std::ranges::find(rows, m_selected);
     if (here != rows.end())
-        std::ranges::rotate(rows, here + 1);
+        std::rotate(rows.begin(), here + 1, rows.end());
     const auto fold = [](char ch) { return std::tolower(static_cast<unsigned char>(ch)); };
     const auto found =
         std::ranges::find_if(rows,

@@ -10,7 +10,7 @@ void Buttons()
     CButton& second = stage.Button(13, "Second", BS_AUTORADIOBUTTON);
     CButton& third = stage.Button(14, "Third", BS_AUTORADIOBUTTON);
     CButton& other = stage.Button(15, "Other", BS_AUTORADIOBUTTON | WS_GROUP);
-    CButton& box = stage.Add<CButton>(16, "Button", "Box", BS_GROUPBOX | WS_GROUP);
+    auto& box = stage.Add<CButton>(16, "Button", "Box", BS_GROUPBOX | WS_GROUP);
     CStatic& label = stage.Static(17, "Label");
     stage.Ok();
     stage.Cancel();

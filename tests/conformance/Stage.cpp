@@ -12,39 +12,39 @@ int depth = 0;
 
 struct MessageName
 {
-    UINT message;
     const char* name;
+    UINT message;
     bool withParameter;
 };
 
 // In no message of the list do the grounds differ in the parameter printed.
 constexpr MessageName names[] = {
-    {WM_INITDIALOG, "INITDIALOG", false},
-    {WM_ACTIVATE, "ACTIVATE", true},
-    {WM_SETFOCUS, "SETFOCUS", false},
-    {WM_KILLFOCUS, "KILLFOCUS", false},
-    {WM_ENABLE, "ENABLE", true},
-    {WM_SHOWWINDOW, "SHOWWINDOW", true},
-    {WM_CLOSE, "CLOSE", false},
-    {WM_DESTROY, "DESTROY", false},
-    {WM_NCDESTROY, "NCDESTROY", false},
-    {WM_KEYDOWN, "KEYDOWN", true},
-    {WM_KEYUP, "KEYUP", true},
-    {WM_CHAR, "CHAR", true},
-    {WM_SYSKEYDOWN, "SYSKEYDOWN", true},
-    {WM_SYSCHAR, "SYSCHAR", true},
-    {WM_LBUTTONDOWN, "LBUTTONDOWN", false},
-    {WM_LBUTTONUP, "LBUTTONUP", false},
-    {WM_LBUTTONDBLCLK, "LBUTTONDBLCLK", false},
-    {WM_CAPTURECHANGED, "CAPTURECHANGED", false},
-    {WM_CLEAR, "CLEAR", false},
-    {DM_GETDEFID, "GETDEFID", false},
-    {DM_SETDEFID, "SETDEFID", true},
-    {BM_SETCHECK, "SETCHECK", true},
-    {BM_SETSTATE, "SETSTATE", true},
-    {BM_SETSTYLE, "SETSTYLE", true},
-    {BM_CLICK, "CLICK", false},
-    {EM_SETSEL, "SETSEL", false},
+    {"INITDIALOG", WM_INITDIALOG, false},
+    {"ACTIVATE", WM_ACTIVATE, true},
+    {"SETFOCUS", WM_SETFOCUS, false},
+    {"KILLFOCUS", WM_KILLFOCUS, false},
+    {"ENABLE", WM_ENABLE, true},
+    {"SHOWWINDOW", WM_SHOWWINDOW, true},
+    {"CLOSE", WM_CLOSE, false},
+    {"DESTROY", WM_DESTROY, false},
+    {"NCDESTROY", WM_NCDESTROY, false},
+    {"KEYDOWN", WM_KEYDOWN, true},
+    {"KEYUP", WM_KEYUP, true},
+    {"CHAR", WM_CHAR, true},
+    {"SYSKEYDOWN", WM_SYSKEYDOWN, true},
+    {"SYSCHAR", WM_SYSCHAR, true},
+    {"LBUTTONDOWN", WM_LBUTTONDOWN, false},
+    {"LBUTTONUP", WM_LBUTTONUP, false},
+    {"LBUTTONDBLCLK", WM_LBUTTONDBLCLK, false},
+    {"CAPTURECHANGED", WM_CAPTURECHANGED, false},
+    {"CLEAR", WM_CLEAR, false},
+    {"GETDEFID", DM_GETDEFID, false},
+    {"SETDEFID", DM_SETDEFID, true},
+    {"SETCHECK", BM_SETCHECK, true},
+    {"SETSTATE", BM_SETSTATE, true},
+    {"SETSTYLE", BM_SETSTYLE, true},
+    {"CLICK", BM_CLICK, false},
+    {"SETSEL", EM_SETSEL, false},
 };
 
 std::string WindowName(HWND window)
@@ -100,7 +100,7 @@ void Print(const char* format, ...)
     std::printf("%*s", depth * 2, "");
     va_list arguments;
     va_start(arguments, format);
-    std::vprintf(format, arguments);
+    std::vprintf(format, arguments); // NOLINT(clang-analyzer-valist.Uninitialized): va_start stands above
     va_end(arguments);
     std::printf("\n");
 }
