@@ -1,7 +1,7 @@
 // Owners of what the platform hands out and wants back.
 #pragma once
 
-#include <windows.h>
+#include <afxwin.h>
 
 #include <utility>
 

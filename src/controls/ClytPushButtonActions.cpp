@@ -113,7 +113,7 @@ ClytPushButtonControl::After ClytPushButtonControl::CallFunction()
     const HMODULE module = LoadOrFail(library);
     auto* call = lytFindFunction<lytDataText>(module, function);
     if (call == nullptr)
-        lytRaise("232", lytErrorText("238"));
+        lytRaise("232", ClytPrefix::OfKey("238"));
     const ClytModuleHandle second(module);
 
     CString answer;

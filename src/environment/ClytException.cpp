@@ -9,7 +9,19 @@ constexpr UINT messageSize = 75;
 
 }
 
-ClytException::ClytException(CString textSection, CString textKey, CString messagePrefix, CString textArgument)
+ClytPrefix ClytPrefix::OfKey(const char* key)
+{
+    ClytPrefix prefix(key);
+    prefix.m_isKey = true;
+    return prefix;
+}
+
+CString ClytPrefix::Worded() const
+{
+    return m_isKey ? lytEnvironment.GetText(lytErrorSection, m_text) : m_text;
+}
+
+ClytException::ClytException(CString textSection, CString textKey, ClytPrefix messagePrefix, CString textArgument)
     : section(std::move(textSection)),
       number(std::move(textKey)),
       prefix(std::move(messagePrefix)),
@@ -20,8 +32,8 @@ ClytException::ClytException(CString textSection, CString textKey, CString messa
 BOOL ClytException::GetErrorMessage(char* buffer, UINT size, UINT* /*helpContext*/) const
 {
     CString message = lytEnvironment.GetText(section, number, argument);
-    if (!prefix.IsEmpty())
-        message = prefix + "\n" + message;
+    if (const CString above = prefix.Worded(); !above.IsEmpty())
+        message = above + "\n" + message;
     return CopyMessage(message, buffer, size);
 }
 
@@ -30,7 +42,7 @@ int ClytException::ReportError(UINT /*type*/, UINT /*help*/)
     return AfxMessageBox(lytMessageOf(*this));
 }
 
-void lytRaise(const char* number, const CString& prefix, const CString& argument)
+void lytRaise(const char* number, const ClytPrefix& prefix, const CString& argument)
 {
     throw new ClytException(lytErrorSection, number, prefix, argument);
 }
@@ -40,14 +52,9 @@ void lytRaiseInstead(ClytCaught failure, const char* number, const CString& argu
     lytRaise(number, lytMessageOf(*failure), argument);
 }
 
-void lytReport(const char* number, const CString& prefix, const CString& argument)
+void lytReport(const char* number, const ClytPrefix& prefix, const CString& argument)
 {
     ClytException(lytErrorSection, number, prefix, argument).ReportError();
-}
-
-CString lytErrorText(const char* key)
-{
-    return lytEnvironment.GetText(lytErrorSection, key);
 }
 
 CString lytMessageOf(const CException& e)

@@ -8,14 +8,34 @@
 
 #include <memory>
 
+// What stands above a message, with a line feed between them: a text, or the text of a key of the numbered errors, which
+// is looked up when the message is worded.
+class ClytPrefix
+{
+public:
+    ClytPrefix() = default;
+    ClytPrefix(CString text) : m_text(std::move(text)) {}
+    ClytPrefix(const char* text) : m_text(text) {}
+    static ClytPrefix OfKey(const char* key);
+
+    bool IsKey() const { return m_isKey; }
+    // The text or the key.
+    const CString& Get() const { return m_text; }
+    CString Worded() const;
+
+private:
+    CString m_text;
+    bool m_isKey = false;
+};
+
 class ClytException : public CException
 {
 public:
     // The section is "Dialog_Error" for numbered errors and "MsgBox" for the messages of evaluation rules.
-    ClytException(CString textSection, CString textKey, CString messagePrefix, CString textArgument);
+    ClytException(CString textSection, CString textKey, ClytPrefix messagePrefix, CString textArgument);
 
     const CString& GetNumber() const { return number; }
-    const CString& GetPrefix() const { return prefix; }
+    const ClytPrefix& GetPrefix() const { return prefix; }
     const CString& GetArgument() const { return argument; }
 
     // The text of the key with the argument behind its first apostrophe, below the prefix and a line feed when there is
@@ -27,7 +47,7 @@ public:
 private:
     CString section;
     CString number;
-    CString prefix;
+    ClytPrefix prefix;
     CString argument;
 };
 
@@ -42,12 +62,10 @@ using ClytCaught = std::unique_ptr<CException, ClytDeleteFailure>;
 inline constexpr const char* lytErrorSection = "Dialog_Error";
 
 // Raises a numbered error.
-[[noreturn]] void lytRaise(const char* number, const CString& prefix = CString(), const CString& argument = CString());
+[[noreturn]] void lytRaise(const char* number, const ClytPrefix& prefix = {}, const CString& argument = CString());
 // Raises a numbered error in place of a caught failure, whose message becomes the prefix.
 [[noreturn]] void lytRaiseInstead(ClytCaught failure, const char* number, const CString& argument = CString());
 // Shows a numbered error; the operation goes on.
-void lytReport(const char* number, const CString& prefix = CString(), const CString& argument = CString());
-// The text of a key of the numbered errors, for those that serve as the prefix of another.
-CString lytErrorText(const char* key);
+void lytReport(const char* number, const ClytPrefix& prefix = {}, const CString& argument = CString());
 // The message of an exception, at most 74 characters.
 CString lytMessageOf(const CException& e);

@@ -8,8 +8,8 @@
 #include "exports/ExportFrame.h"
 #include "tree/ClytWizardQueue.h"
 
+#include <afxcmn.h>
 #include <algorithm>
-#include <commctrl.h>
 
 namespace
 {

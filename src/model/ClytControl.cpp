@@ -49,7 +49,7 @@ int ClytControl::IsChanged()
 
 void ClytControl::DoAction(const CString& /*word*/)
 {
-    lytReport("247", lytErrorText("248"), name);
+    lytReport("247", ClytPrefix::OfKey("248"), name);
 }
 
 int ClytControl::DeleteCurrentItem()

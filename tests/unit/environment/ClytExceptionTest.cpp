@@ -131,8 +131,8 @@ TEST_F(Errors, AreCaughtAsTheProgramsOwn)
 
 TEST_F(Errors, TextsOfAKeyServeAsPrefixes)
 {
-    EXPECT_EQ(lytErrorText("242"), "unbalanced");
-    EXPECT_EQ(lytErrorText("238"), "no value present");
+    EXPECT_EQ(ClytPrefix::OfKey("242").Worded(), "unbalanced");
+    EXPECT_EQ(ClytPrefix::OfKey("238").Worded(), "no value present");
 }
 
 TEST_F(Errors, MessagesFollowTheLanguageAtTheTimeTheyAreShown)

@@ -450,7 +450,8 @@ TEST_P(SampleTexts, WordEveryNumberedMessageSoThatItFitsItsBox)
     {
         SCOPED_TRACE(message.number);
         numbers.insert(message.number);
-        const std::string prefix = *message.prefixKey != '\0' ? lytErrorText(message.prefixKey).GetString() : "";
+        const std::string prefix =
+            *message.prefixKey != '\0' ? ClytPrefix::OfKey(message.prefixKey).Worded().GetString() : "";
         EXPECT_NE(prefix, lytNoValue);
         const std::string text = MessageOf(message.number, prefix.c_str(), message.argument);
         EXPECT_EQ(text.find(lytNoValue), std::string::npos);
