@@ -1,5 +1,6 @@
 #include "TestWindows.h"
 
+#include <WindowMap.h>
 #include <afxcmn.h>
 
 #include "support/FailingAllocation.h"
@@ -221,6 +222,7 @@ TEST(Window, LeavesAProcedureThatStandsOnTopOfOurs)
     later.UnsubclassWindow();
     ::DestroyWindow(handle);
     EXPECT_FALSE(::IsWindow(handle));
+    EXPECT_EQ(WindowMap::Get().FindBelow(handle), nullptr) << "the handle may come back as another window's";
 }
 
 TEST(Window, ObjectThatDiesUnderAnotherProcedureTakesItsWindowAlong)
@@ -238,10 +240,12 @@ TEST(Window, ObjectThatDiesUnderAnotherProcedureTakesItsWindowAlong)
 TEST(Window, ThatDiesUnderAnotherProcedureLetsItsObjectGo)
 {
     RecordingWindow window;
-    PutOnTop(window.m_hWnd);
-    ::DestroyWindow(window.m_hWnd);
+    const HWND handle = window.m_hWnd;
+    PutOnTop(handle);
+    ::DestroyWindow(handle);
     EXPECT_EQ(window.m_hWnd, nullptr);
     EXPECT_EQ(window.destroyed, 1);
+    EXPECT_EQ(WindowMap::Get().FindBelow(handle), nullptr);
 }
 
 TEST(Window, HasOneObject)
