@@ -17,8 +17,8 @@ private:
     DWORD m_hostMode = 0;
 };
 
-// Null when the library cannot be loaded, and for a name that is empty or longer than the platform takes. The system shows
-// no message of its own, whatever lies under the name.
+// Null when the library cannot be loaded, and for a name that is empty or longer than the platform takes. The system
+// shows no message of its own, whatever lies under the name.
 HMODULE lytLoadLibrary(const char* name);
 
 // The function under the type that the partner's header gives it; null when the library has none of that name.

@@ -1,5 +1,6 @@
 #include "tree/NodeFill.h"
 
+#include "tree/ClytChildCursor.h"
 #include "unit/tree/TreeRecords.h"
 
 #include <gtest/gtest.h>
@@ -214,6 +215,23 @@ TEST(NodeFill, KeepsTheRunThatEndsLastWhenASourceFillsTheListFromInsideACall)
     lytFillFromSource(nodes, source.Source(), &items, 'S');
     EXPECT_EQ(TypesOf(nodes), "HGSG");
     EXPECT_EQ(RecordedItems::Number(NodeAt(nodes, 3).m_hItem), 4);
+}
+
+TEST(NodeFill, EndsTheWalkOverTheListThatItReplaces)
+{
+    RecordedSource source(house);
+    ClytNodeList nodes;
+    const auto beginWalk = [&]
+    {
+        nodes.AddTail(std::make_unique<ClytNode>(nullptr, 0));
+        nodes.AddTail(std::make_unique<ClytNode>(nullptr, 0)).m_cType = 'S';
+        EXPECT_TRUE(lytChildCursor.Start(nodes, ""));
+    };
+    source.Interrupt(2, beginWalk);
+    lytFillFromSource(nodes, source.Source(), nullptr, 'S');
+    CString text;
+    CString path;
+    EXPECT_FALSE(lytChildCursor.Read(nodes, text, path));
 }
 
 TEST(NodeFill, KeepsTextsOfNinetyNineCharacters)
