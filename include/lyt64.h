@@ -145,7 +145,8 @@ extern "C"
      *   3  text of a phrase in the buffer
      * A group's texts are what its dialog's result holds after "/LIST" and "{", separated by "|"; the first text is what
      * stands before, brace included. Each but the last keeps its "|" at the end: "a|b|c" comes as "a|", "b|" and "c". A
-     * list that ends in "|" loses its last text: that call returns 0 and leaves the buffer as it was. A caller that stops early gets the rest with its next call, before the catalogue is shown again. */
+     * list that ends in "|" loses its last text: that call returns 0 and leaves the buffer as it was. A caller that stops
+     * early gets the rest with its next call, before the catalogue is shown again. */
     int __stdcall lytWizard(char* buffer, int size);
 
     /* ---- System report ---------------------------------------------------------------------------------------------- */

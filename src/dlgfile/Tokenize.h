@@ -8,6 +8,6 @@
 // then.
 [[nodiscard]] const char* lytTokenize(const char* line, const DelimiterSet& delimiters, ClytTokenList& tokens);
 
-// Replaces the tokens by those of a value's text, where a round bracket keeps what it holds together. Brackets that are not closed raise
-// 241.
+// Replaces the tokens by those of a value's text, where a round bracket keeps what it holds together. Brackets that are
+// not closed raise 241.
 void lytTokenizeGrouped(const char* text, const char* delimiters, ClytTokenList& tokens);

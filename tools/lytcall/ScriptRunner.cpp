@@ -122,7 +122,8 @@ void ScriptRunner::TakeStep(const Step& step)
     }
 }
 
-// A script that leaves a window open, or a window without a script where nobody sees it, would wait for somebody who is not there.
+// A script that leaves a window open, or a window without a script where nobody sees it, would wait for somebody who is
+// not there.
 void ScriptRunner::WatchEnd()
 {
     if ((m_steps.empty() && !m_unseen) || GetTickCount64() <= m_deadline)

@@ -253,7 +253,7 @@ TEST_F(Rules, EndInAChainOfThousands)
     EXPECT_EQ(opened.deepestRun, 50);
 }
 
-TEST_F(Rules, GoOnBehindTheDeepestRunInEitherOrder)
+TEST_F(Rules, GoOnPastTheDeepestRunInEitherOrder)
 {
     for (const Order order : {Order::AsTheChangesGo, Order::AgainstTheChanges})
     {

@@ -285,7 +285,7 @@ TEST_F(Rules, CommandsFromTheWindowsEndOnRunNothing)
     EXPECT_FALSE(enabledByDyingDialog);
 }
 
-TEST_F(Rules, ChainGoesOnBehindTheDeepestRunInEitherOrder)
+TEST_F(Rules, ChainGoesOnPastTheDeepestRunInEitherOrder)
 {
     constexpr int fields = 120;
     std::string chain;
