@@ -1,25 +1,11 @@
 // Whatever an export shows or calls, and however it ends, the host has its cursor, its focus and its window again.
 #include "dialogs/DialogFixture.h"
+#include "support/Image.h"
 
 #include <set>
 
 namespace
 {
-
-std::set<std::string> ExportedNames()
-{
-    const HMODULE library = GetModuleHandleA("lyt64.dll");
-    const auto at = [library](DWORD offset) { return reinterpret_cast<const char*>(library) + offset; };
-    const auto* dos = reinterpret_cast<const IMAGE_DOS_HEADER*>(at(0));
-    const auto* headers = reinterpret_cast<const IMAGE_NT_HEADERS64*>(at(static_cast<DWORD>(dos->e_lfanew)));
-    const auto* table = reinterpret_cast<const IMAGE_EXPORT_DIRECTORY*>(
-        at(headers->OptionalHeader.DataDirectory[IMAGE_DIRECTORY_ENTRY_EXPORT].VirtualAddress));
-    const auto* names = reinterpret_cast<const DWORD*>(at(table->AddressOfNames));
-    std::set<std::string> exported;
-    for (DWORD index = 0; index < table->NumberOfNames; ++index)
-        exported.insert(at(names[index]));
-    return exported;
-}
 
 // A program's window that puts no focus back by itself, with a field in it.
 class Host
@@ -283,7 +269,7 @@ TEST_F(HostState, IsAsBeforeAfterEveryExportOnEveryWayOut)
     CheckLog();
     CheckEnvironment();
     CheckReport();
-    EXPECT_EQ(seen, ExportedNames());
+    EXPECT_EQ(seen, Image(GetModuleHandleA("lyt64.dll")).ExportedNames());
 }
 
 TEST_F(HostState, HasNoFocusAfterADialogIfItHadNone)

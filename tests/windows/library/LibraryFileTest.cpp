@@ -1,5 +1,6 @@
 // The built DLL as a file: what it exports and imports, how it may be loaded, what it says of itself.
 #include "CallerInC.h"
+#include "support/Image.h"
 #include "support/Modules.h"
 
 #include <gtest/gtest.h>
@@ -15,18 +16,8 @@ namespace
 class LibraryFile : public testing::Test
 {
 protected:
-    template <class T>
-    const T* At(DWORD offset) const
-    {
-        return reinterpret_cast<const T*>(reinterpret_cast<const char*>(m_module) + offset);
-    }
-    const IMAGE_NT_HEADERS64& Headers() const
-    {
-        return *At<IMAGE_NT_HEADERS64>(static_cast<DWORD>(At<IMAGE_DOS_HEADER>(0)->e_lfanew));
-    }
-    DWORD Directory(int which) const { return Headers().OptionalHeader.DataDirectory[which].VirtualAddress; }
-
     HMODULE m_module = GetModuleHandleA("lyt64.dll");
+    const Image image{m_module};
 };
 
 } // namespace
@@ -41,12 +32,8 @@ TEST_F(LibraryFile, ExportsTheseNamesUndecoratedAndNoOther)
         "lytSystemInfoRead",       "lytTreeReadChildNode",  "lytTreeStartChildNode",    "lytWizard",
         "lytWriteToLogFile",
     };
-    const auto* table = At<IMAGE_EXPORT_DIRECTORY>(Directory(IMAGE_DIRECTORY_ENTRY_EXPORT));
-    std::set<std::string> names;
-    for (DWORD i = 0; i < table->NumberOfNames; ++i)
-        names.insert(At<char>(At<DWORD>(table->AddressOfNames)[i]));
-    EXPECT_EQ(names, expected);
-    EXPECT_EQ(table->NumberOfFunctions, expected.size());
+    EXPECT_EQ(image.ExportedNames(), expected);
+    EXPECT_EQ(image.Exports().NumberOfFunctions, expected.size());
 }
 
 TEST_F(LibraryFile, OpensBothTreesByOneFunction)
@@ -58,14 +45,13 @@ TEST_F(LibraryFile, ImportsSystemLibrariesOnly)
 {
     const std::set<std::string> system = {"advapi32.dll", "comctl32.dll", "gdi32.dll",   "kernel32.dll", "msvcrt.dll",
                                           "user32.dll",   "uxtheme.dll",  "version.dll", "winspool.drv"};
-    const auto* import = At<IMAGE_IMPORT_DESCRIPTOR>(Directory(IMAGE_DIRECTORY_ENTRY_IMPORT));
-    for (; import->Name != 0; ++import)
-        EXPECT_TRUE(system.contains(InLowerCase(At<char>(import->Name)))) << At<char>(import->Name);
+    for (const auto* import = image.Imports(); import->Name != 0; ++import)
+        EXPECT_TRUE(system.contains(InLowerCase(image.At<char>(import->Name)))) << image.At<char>(import->Name);
 }
 
 TEST_F(LibraryFile, MayBeLoadedAnywhereAndRunsNoData)
 {
-    const WORD flags = Headers().OptionalHeader.DllCharacteristics;
+    const WORD flags = image.Headers().OptionalHeader.DllCharacteristics;
     EXPECT_TRUE(flags & IMAGE_DLLCHARACTERISTICS_DYNAMIC_BASE);
     EXPECT_TRUE(flags & IMAGE_DLLCHARACTERISTICS_NX_COMPAT);
     EXPECT_TRUE(flags & 0x0020) << "high-entropy addresses";
@@ -73,7 +59,7 @@ TEST_F(LibraryFile, MayBeLoadedAnywhereAndRunsNoData)
 
 TEST_F(LibraryFile, CarriesNoTimeOfItsBuild)
 {
-    EXPECT_EQ(Headers().FileHeader.TimeDateStamp, 0U);
+    EXPECT_EQ(image.Headers().FileHeader.TimeDateStamp, 0U);
 }
 
 TEST_F(LibraryFile, HasAVersionRecord)

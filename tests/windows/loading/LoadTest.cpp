@@ -1,4 +1,5 @@
 // What loading the library brings into a process.
+#include "support/Image.h"
 #include "support/Modules.h"
 
 #include <gtest/gtest.h>
@@ -11,15 +12,10 @@ namespace
 // Adds the file names of all modules that this one is bound to at load, and of all that those are bound to.
 void AddImported(HMODULE module, std::set<std::string>& names)
 {
-    const auto at = [module](DWORD offset) { return reinterpret_cast<const char*>(module) + offset; };
-    const auto* dos = reinterpret_cast<const IMAGE_DOS_HEADER*>(at(0));
-    const auto* headers = reinterpret_cast<const IMAGE_NT_HEADERS64*>(at(static_cast<DWORD>(dos->e_lfanew)));
-    const DWORD table = headers->OptionalHeader.DataDirectory[IMAGE_DIRECTORY_ENTRY_IMPORT].VirtualAddress;
-    if (table == 0)
-        return;
-    for (const auto* import = reinterpret_cast<const IMAGE_IMPORT_DESCRIPTOR*>(at(table)); import->Name != 0; ++import)
+    const Image image(module);
+    for (const auto* import = image.Imports(); import != nullptr && import->Name != 0; ++import)
     {
-        const std::string name = InLowerCase(at(import->Name));
+        const std::string name = InLowerCase(image.At<char>(import->Name));
         const HMODULE imported = GetModuleHandleA(name.c_str());
         if (names.insert(name).second && imported != nullptr)
             AddImported(imported, names);

@@ -1,5 +1,7 @@
 #include "support/ImportHook.h"
 
+#include "support/Image.h"
+
 #include <cstring>
 #include <stdexcept>
 #include <string>
@@ -9,17 +11,14 @@ namespace
 
 void** FindImport(HMODULE module, const char* name)
 {
-    const auto at = [module](ULONGLONG offset) { return reinterpret_cast<char*>(module) + offset; };
-    const auto* dos = reinterpret_cast<const IMAGE_DOS_HEADER*>(at(0));
-    const auto* headers = reinterpret_cast<const IMAGE_NT_HEADERS64*>(at(static_cast<ULONGLONG>(dos->e_lfanew)));
-    const DWORD table = headers->OptionalHeader.DataDirectory[IMAGE_DIRECTORY_ENTRY_IMPORT].VirtualAddress;
-    for (const auto* import = reinterpret_cast<const IMAGE_IMPORT_DESCRIPTOR*>(at(table)); import->Name != 0; ++import)
+    const Image image(module);
+    for (const auto* import = image.Imports(); import->Name != 0; ++import)
     {
-        const auto* names = reinterpret_cast<const ULONGLONG*>(at(import->OriginalFirstThunk));
-        auto* places = reinterpret_cast<void**>(at(import->FirstThunk));
+        const auto* names = image.At<ULONGLONG>(import->OriginalFirstThunk);
+        auto* places = image.At<void*>(import->FirstThunk);
         for (size_t index = 0; names[index] != 0; ++index)
         {
-            const auto* entry = reinterpret_cast<const IMAGE_IMPORT_BY_NAME*>(at(names[index]));
+            const auto* entry = image.At<IMAGE_IMPORT_BY_NAME>(names[index]);
             if (!IMAGE_SNAP_BY_ORDINAL64(names[index]) && std::strcmp(entry->Name, name) == 0)
                 return places + index;
         }
