@@ -314,7 +314,7 @@ TEST_F(Scan, RaisesThe10000thChangeOfStateInARowThatConsumesNothing)
     EXPECT_EQ(RaisedMessage([&] { Run("a,"); }), "The input statements go round in a circle.\n206 ''");
 }
 
-TEST_F(Scan, CountsChangesOfStateAnewOnceTextIsConsumed)
+TEST_F(Scan, CountsChangesOfStateFromZeroOnceTextIsConsumed)
 {
     JumpUpTo("Start", 9999);
     Cut("Start 9999", {",", "Again"});
