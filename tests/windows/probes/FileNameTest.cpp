@@ -1,7 +1,7 @@
 // Names that the platform, which counts them in 16 bits, takes for the file with whose name they begin.
 #include "ProbeFixture.h"
 
-#include "environment/PartnerLibrary.h"
+#include "base/PartnerLibrary.h"
 #include "sysinfo/BinaryKind.h"
 
 namespace
