@@ -2,7 +2,7 @@
 #include "ProbeFixture.h"
 
 #include "base/PartnerLibrary.h"
-#include "sysinfo/BinaryKind.h"
+#include "sysinfo/files/ProgramKind.h"
 
 namespace
 {

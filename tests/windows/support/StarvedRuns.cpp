@@ -1,0 +1,26 @@
+// A modal run over windows in memory that nothing could end any more was cancelled, so that the call came back. The test
+// that opened it has failed, whatever else it found.
+#include "platform/MemoryWindows.h"
+
+#include <gtest/gtest.h>
+
+namespace
+{
+
+class StarvedRuns : public testing::EmptyTestEventListener
+{
+    void OnTestEnd(const testing::TestInfo& /*test*/) override
+    {
+        const int count = platform::TakeStarvedRuns();
+        if (count != 0)
+            ADD_FAILURE() << count << " modal runs were cancelled, since nothing was left that could have ended them";
+    }
+};
+
+[[maybe_unused]] const bool isListening = []
+{
+    testing::UnitTest::GetInstance()->listeners().Append(std::make_unique<StarvedRuns>().release());
+    return true;
+}();
+
+} // namespace
