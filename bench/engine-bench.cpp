@@ -16,11 +16,12 @@ namespace
 
 constexpr const char* help =
     "engine-bench [--benchmark_filter=REGEX] [--benchmark_repetitions=N]\n"
-    "Reads descriptions of 100 to 10,000 controls and splits the same lines by the standard library alone; scans "
-    "inputs\n"
-    "and composes outputs of 1 KB to 1 MB. Prints medians of processor time and their ratios.\n";
+    "Reads descriptions of 100 to 10,000 controls and splits the same lines by the standard library alone; runs 10 to\n"
+    "1,000 rules; scans inputs and composes outputs of 1 KB to 1 MB. Prints medians of processor time and their "
+    "ratios.\n";
 
 constexpr int statements[] = {100, 1000, 10000};
+constexpr int ruleCounts[] = {10, 100, 1000};
 constexpr int textSizes[] = {1 << 10, 1 << 12, 1 << 14, 1 << 16, 1 << 18, 1 << 20};
 
 // A description of that many controls, of the kinds and lengths that descriptions have.
@@ -100,6 +101,43 @@ void BuildForm(benchmark::State& state)
     }
 }
 
+// A form of that many rules, of the three kinds that descriptions mix. Nothing changes between two runs.
+HeadlessForm& RuleForm(int rules)
+{
+    static const TestFolder folder;
+    static std::map<int, std::unique_ptr<HeadlessForm>> forms;
+    std::unique_ptr<HeadlessForm>& form = forms[rules];
+    if (form != nullptr)
+        return *form;
+    DescriptionText text;
+    text.layout = "TextBox 0, 0, 1, 1, .FieldForMode\n";
+    text.values = "FieldForMode = expert\n";
+    text.input = "Start: x = End\n";
+    for (int index = 0; index < rules; ++index)
+    {
+        const std::string field = "FieldNumber" + std::to_string(index);
+        const std::string other = "FieldNumber" + std::to_string((index + 1) % rules);
+        text.layout += "TextBox 0, 0, 1, 1, ." + field + "\n";
+        text.dependencies += field;
+        if (index % 3 == 0)
+            text.dependencies += "/ACTIVE = FieldForMode(simple, expert), " + other + "(one, two, NULL)\n";
+        else if (index % 3 == 1)
+            text.dependencies += "/VISIBLE = FieldForMode(NOTNULL)\n";
+        else
+            text.dependencies += "/CLEAR = " + other + ", FieldForMode\n";
+    }
+    form = std::make_unique<HeadlessForm>(folder.Write(std::to_string(rules) + ".dlg", text()).c_str());
+    form->Construct();
+    return *form;
+}
+
+void RunRules(benchmark::State& state)
+{
+    HeadlessForm& form = RuleForm(static_cast<int>(state.range(0)));
+    while (state.KeepRunning())
+        form.RunDependencies();
+}
+
 // A form that scans pieces of text into fields in turn, and composes 25 fields.
 HeadlessForm& TextForm()
 {
@@ -153,6 +191,8 @@ void RegisterAll()
         benchmark::RegisterBenchmark("reader", ReadStatements)->Arg(count);
         benchmark::RegisterBenchmark("form", BuildForm)->Arg(count);
     }
+    for (const int count : ruleCounts)
+        benchmark::RegisterBenchmark("rules", RunRules)->Arg(count);
     for (const int size : textSizes)
     {
         benchmark::RegisterBenchmark("scan", ScanText)->Arg(size);
@@ -172,6 +212,17 @@ void PrintReading(const Medians& medians)
         const double reader = medians.Of("reader" + size);
         std::printf("%10d %12.1f %12.1f %8.2f %16.1f %12.1f\n", count, plain / 1000, reader / 1000, reader / plain,
                     reader / count, medians.Of("form" + size) / 1000);
+    }
+}
+
+void PrintRules(const Medians& medians)
+{
+    std::printf("\nA run of the rules                (aim: per rule level)\n");
+    std::printf("%10s %12s %12s\n", "rules", "us", "ns a rule");
+    for (const int count : ruleCounts)
+    {
+        const double run = medians.Of("rules/" + std::to_string(count));
+        std::printf("%10d %12.2f %12.1f\n", count, run / 1000, run / count);
     }
 }
 
@@ -202,6 +253,7 @@ int main(int argc, char** argv)
     medians.Measure(argc, argv, help);
     std::printf("%s\n", MachineName().c_str());
     PrintReading(medians);
+    PrintRules(medians);
     PrintTexts(medians);
     return 0;
 }
