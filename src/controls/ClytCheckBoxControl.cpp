@@ -1,7 +1,5 @@
 #include "controls/ClytCheckBoxControl.h"
 
-#include "base/Words.h"
-
 void ClytCheckBoxControl::CreateControl(ClytForm* owner)
 {
     CreateCommon(owner, ClytFit::ToCaptionWithMargin,
@@ -23,9 +21,9 @@ void ClytCheckBoxControl::SetOption(const CStringList& values, const CString& ke
     const CString& value = values.GetHead();
     if (TakeCommonOption(value) != 0)
         return;
-    if (lytSameWord(keyword, "ON"))
+    if (lytMeans<ClytKeyword::On>(keyword))
         onValue = value;
-    else if (lytSameWord(keyword, "OFF"))
+    else if (lytMeans<ClytKeyword::Off>(keyword))
         offValue = value;
     else
         defaultValue = value;
@@ -33,8 +31,8 @@ void ClytCheckBoxControl::SetOption(const CStringList& values, const CString& ke
 
 void ClytCheckBoxControl::SetValue(const CString& value)
 {
-    if (value == onValue || lytSameWord(value, "ON"))
+    if (value == onValue || lytMeans<ClytValueWord::On>(value))
         SetCheck(BST_CHECKED);
-    else if (value == offValue || lytSameWord(value, "OFF"))
+    else if (value == offValue || lytMeans<ClytValueWord::Off>(value))
         SetCheck(BST_UNCHECKED);
 }

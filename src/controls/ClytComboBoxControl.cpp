@@ -57,7 +57,7 @@ void ClytComboBoxControl::CreateControl(ClytForm* owner)
 
 void ClytComboBoxControl::SetValue(const CString& value)
 {
-    if (lytSameWord(value, "FILL"))
+    if (lytMeans<ClytValueWord::Fill>(value))
     {
         FillByLibrary();
         return;

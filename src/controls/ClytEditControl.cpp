@@ -28,7 +28,7 @@ void ClytEditControl::CreateControl(ClytForm* owner)
 
 void ClytEditControl::SetOption(const CStringList& values, const CString& keyword)
 {
-    if (keyword != "FILLEDBY")
+    if (!lytMeans<ClytKeyword::FilledBy>(keyword))
     {
         if (TakeCommonOption(values.GetHead()) == 0)
             defaultValue = values.GetHead();
@@ -49,7 +49,7 @@ void ClytEditControl::SetOption(const CStringList& values, const CString& keywor
 
 void ClytEditControl::SetValue(const CString& value)
 {
-    if (value == "FILL")
+    if (lytMeans<ClytValueWord::Fill>(value))
         FillByLibrary();
     else if (!value.IsEmpty())
         SetWindowText(value);
@@ -62,9 +62,9 @@ CString ClytEditControl::GetValue()
     return text;
 }
 
-void ClytEditControl::DoAction(const CString& word)
+void ClytEditControl::DoAction(const ClytStateWord& word)
 {
-    if (word != "CLEAR")
+    if (word.GetMeaning() != ClytState::Clear)
     {
         FillByLibrary();
         return;

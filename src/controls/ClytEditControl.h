@@ -17,7 +17,7 @@ public:
     CString GetValue() override;
     int IsChanged() override { return GetValue() == savedText ? 0 : 1; }
     // "CLEAR" empties the field as the user's delete key does; any other word fills it.
-    void DoAction(const CString& word) override;
+    void DoAction(const ClytStateWord& word) override;
     void FillByLibrary() override;
     int HasContent() override { return GetValue().IsEmpty() ? 0 : 1; }
 

@@ -1,7 +1,6 @@
 #include "controls/ClytItemControl.h"
 
 #include "base/ClytRedrawPause.h"
-#include "base/Words.h"
 #include "controls/ClytWaitCursor.h"
 #include "environment/ClytEnvironment.h"
 
@@ -28,7 +27,7 @@ void ClytItemControl<WINDOW>::SetOption(const CStringList& values, const CString
     // The option word comes first: an item whose value is one of them never becomes an item.
     if (this->TakeCommonOption(values.GetHead()) != 0)
         return;
-    if (lytSameWord(keyword, "FILLEDBY"))
+    if (lytMeans<ClytKeyword::FilledBy>(keyword))
         TakeSource(values);
     else if (!TakeOwnStatement(values, keyword))
         AddDefinedItem(values.GetHead(), keyword);
@@ -52,9 +51,9 @@ void ClytItemControl<WINDOW>::GetAllValues(CString& result, const CString& separ
 }
 
 template <class WINDOW>
-void ClytItemControl<WINDOW>::DoAction(const CString& word)
+void ClytItemControl<WINDOW>::DoAction(const ClytStateWord& word)
 {
-    if (lytSameWord(word, "CLEAR"))
+    if (word.GetMeaning() == ClytState::Clear)
         EmptyFromSelection();
     else
         this->FillByLibrary();

@@ -32,7 +32,7 @@ public:
     void GetAllValues(CString& result, const CString& separators) override;
     int IsChanged() override { return this->GetCurSel() != this->savedState ? 1 : 0; }
     // "CLEAR" empties the list unless nothing is selected; any other word fills it.
-    void DoAction(const CString& word) override;
+    void DoAction(const ClytStateWord& word) override;
     void ReplaceCurrentItem(const CString& text) override;
     void FillByLibrary() override;
     int HasContent() override { return this->GetCount() != 0 ? 1 : 0; }

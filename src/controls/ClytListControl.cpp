@@ -1,7 +1,6 @@
 #include "controls/ClytListControl.h"
 
 #include "base/ClytRedrawPause.h"
-#include "base/Words.h"
 #include "controls/ClytPushButtonControl.h"
 #include "dlgfile/Tokenize.h"
 
@@ -49,7 +48,7 @@ int ClytListControl<WINDOW>::DeleteCurrentItem()
 template <class WINDOW>
 bool ClytListControl<WINDOW>::TakeOwnStatement(const CStringList& values, const CString& keyword)
 {
-    if (!lytSameWord(keyword, "DBLCLICK"))
+    if (!lytMeans<ClytKeyword::DoubleClick>(keyword))
         return false;
     this->action.Set(keyword, values);
     return true;
@@ -58,10 +57,10 @@ bool ClytListControl<WINDOW>::TakeOwnStatement(const CStringList& values, const 
 template <class WINDOW>
 void ClytListControl<WINDOW>::RunDoubleClick()
 {
-    if (!lytSameWord(this->action.GetKeyword(), "DBLCLICK"))
+    if (!lytMeans<ClytKeyword::DoubleClick>(this->action.GetKeyword()))
         return;
     const CString& target = this->action.GetValues().GetHead();
-    if (lytSameWord(target, "OK"))
+    if (lytMeans<ClytValueWord::Ok>(target))
         this->dialog->OnOK();
     else if (ClytControl* control = this->dialog->FindControl(target))
         lytClickControl(*control, *this->dialog);

@@ -58,14 +58,17 @@ void ClytOptionGroup::CreateControl(ClytForm* owner)
     const struct
     {
         int isSet;
-        const char* word;
-    } options[] = {{hidden, "HIDDEN"}, {invisible, "INVISIBLE"}, {displayOnly, "DISPLAYONLY"}, {inactive, "INACTIVE"}};
+        ClytOption meaning;
+    } options[] = {{hidden, ClytOption::Hidden},
+                   {invisible, ClytOption::Invisible},
+                   {displayOnly, ClytOption::DisplayOnly},
+                   {inactive, ClytOption::Inactive}};
     for (const auto& option : options)
     {
         if (option.isSet == 0)
             continue;
         for (POSITION place = buttons.GetHeadPosition(); place != nullptr;)
-            buttons.GetNext(place)->TakeGroupOption(option.word);
+            buttons.GetNext(place)->TakeGroupOption(option.meaning);
         return;
     }
 }
@@ -113,7 +116,7 @@ void ClytOptionGroup::PlaceTabStop()
         first->ModifyStyle(WS_TABSTOP, 0);
 }
 
-void ClytOptionGroup::SetState(const CString& word, int on)
+void ClytOptionGroup::SetState(const ClytStateWord& word, int on)
 {
     active = on != 0 ? 1 : 0;
     for (POSITION place = buttons.GetHeadPosition(); place != nullptr;)

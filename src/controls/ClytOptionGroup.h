@@ -35,7 +35,7 @@ public:
     CString GetValue() override;
     int IsChanged() override { return GetValue() == savedValue ? 0 : 1; }
     // Any state word, also one that hides the group, decides whether it counts as active.
-    void SetState(const CString& word, int on) override;
+    void SetState(const ClytStateWord& word, int on) override;
     int IsActive() override { return active; }
     int HasContent() override { return 1; }
 

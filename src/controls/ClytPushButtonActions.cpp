@@ -8,23 +8,23 @@
 #include "environment/ClytEnvironment.h"
 #include "environment/ProcessState.h"
 
-struct ClytPushButtonControl::Word
+struct ClytPushButtonControl::Action
 {
-    const char* word;
+    ClytAction meaning;
     After (ClytPushButtonControl::*run)();
 };
 
-const ClytPushButtonControl::Word ClytPushButtonControl::words[] = {
-    {"VISIBLE", &ClytPushButtonControl::ToggleVisible},
-    {"ACTIVE", &ClytPushButtonControl::ToggleActive},
-    {"ADD", &ClytPushButtonControl::AddShownText},
-    {"DELETE", &ClytPushButtonControl::DeleteItem},
-    {"UP", &ClytPushButtonControl::MoveUp},
-    {"DOWN", &ClytPushButtonControl::MoveDown},
-    {"ACTION", &ClytPushButtonControl::CallFunction},
-    {"REJECT", &ClytPushButtonControl::Reject},
-    {"FILL", &ClytPushButtonControl::Fill},
-    {"DIALOG", &ClytPushButtonControl::OpenDialog},
+const ClytPushButtonControl::Action ClytPushButtonControl::actions[] = {
+    {ClytAction::Visible, &ClytPushButtonControl::ToggleVisible},
+    {ClytAction::Active, &ClytPushButtonControl::ToggleActive},
+    {ClytAction::Add, &ClytPushButtonControl::AddShownText},
+    {ClytAction::Delete, &ClytPushButtonControl::DeleteItem},
+    {ClytAction::Up, &ClytPushButtonControl::MoveUp},
+    {ClytAction::Down, &ClytPushButtonControl::MoveDown},
+    {ClytAction::Action, &ClytPushButtonControl::CallFunction},
+    {ClytAction::Reject, &ClytPushButtonControl::Reject},
+    {ClytAction::Fill, &ClytPushButtonControl::Fill},
+    {ClytAction::Dialog, &ClytPushButtonControl::OpenDialog},
 };
 
 namespace
@@ -42,9 +42,10 @@ HMODULE LoadOrFail(const CString& library)
 
 ClytPushButtonControl::After ClytPushButtonControl::RunAction()
 {
-    for (const Word& known : words)
+    const auto meaning = lytMeaningOf<ClytAction>(action.GetKeyword());
+    for (const Action& known : actions)
     {
-        if (lytSameWord(action.GetKeyword(), known.word))
+        if (known.meaning == meaning)
             return (this->*known.run)();
     }
     return After::RunRules;
@@ -53,7 +54,7 @@ ClytPushButtonControl::After ClytPushButtonControl::RunAction()
 ClytPushButtonControl::After ClytPushButtonControl::ToggleVisible()
 {
     if (ClytControl* target = Target())
-        target->SetState("VISIBLE", target->IsVisible() != 0 ? 0 : 1);
+        target->SetState(ClytState::Visible, target->IsVisible() != 0 ? 0 : 1);
     ToggleCaption();
     return After::RunRules;
 }
@@ -61,7 +62,7 @@ ClytPushButtonControl::After ClytPushButtonControl::ToggleVisible()
 ClytPushButtonControl::After ClytPushButtonControl::ToggleActive()
 {
     if (ClytControl* target = Target())
-        target->SetState("ACTIVE", target->IsActive() != 0 ? 0 : 1);
+        target->SetState(ClytState::Active, target->IsActive() != 0 ? 0 : 1);
     ToggleCaption();
     return After::RunRules;
 }

@@ -19,9 +19,9 @@ void ClytPushButtonControl::SetOption(const CStringList& values, const CString& 
         action.Set(keyword, values);
 }
 
-void ClytPushButtonControl::SetState(const CString& word, int on)
+void ClytPushButtonControl::SetState(const ClytStateWord& word, int on)
 {
-    if (lytSameWord(word, "ACTIVE") || lytSameWord(word, "VISIBLE"))
+    if (word.GetMeaning() == ClytState::Active || word.GetMeaning() == ClytState::Visible)
         ClytWindowControl::SetState(word, on);
 }
 

@@ -13,7 +13,7 @@ public:
     void SetOption(const CStringList& values, const CString& keyword) override;
     void SetControlFocus() override { SetFocus(); }
     // Unlike other controls, a button knows only the words "ACTIVE" and "VISIBLE".
-    void SetState(const CString& word, int on) override;
+    void SetState(const ClytStateWord& word, int on) override;
 
     // Makes the next click take effect.
     void Arm() { armed = 1; }
@@ -30,8 +30,8 @@ private:
         RunRules,
         Nothing
     };
-    struct Word;
-    static const Word words[];
+    struct Action;
+    static const Action actions[];
 
     // Acts on a message of mouse or keyboard before the window sees it.
     void TakeMessage(UINT message, WPARAM wParam);

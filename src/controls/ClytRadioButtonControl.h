@@ -25,7 +25,7 @@ public:
     // What the group does with its buttons, before their windows are there.
     void JoinGroup(ClytOptionGroup* optionGroup) { group = optionGroup; }
     void Preselect(const CString& value) { preselected = optionValue == value ? 1 : 0; }
-    void TakeGroupOption(const CString& word) { TakeCommonOption(word); }
+    void TakeGroupOption(ClytOption option) { TakeCommonOption(lytTextOf(option)); }
 
 private:
     void Check(bool isChecked);

@@ -47,9 +47,9 @@ void lytFitToCaption(const CWnd& window, const CWnd& dialog, ClytPosition positi
     window.SetWindowPos(nullptr, position.x, position.y, extent.cx, extent.cy, SWP_NOZORDER);
 }
 
-void lytSetWindowState(const CWnd& window, const CString& word, int on)
+void lytSetWindowState(const CWnd& window, ClytState state, int on)
 {
-    if (word == "ACTIVE")
+    if (state == ClytState::Active)
         window.EnableWindow(on != 0);
     else
         window.ShowWindow(on != 0 ? SW_SHOW : SW_HIDE);

@@ -22,7 +22,7 @@ void lytTakeDialogFont(const CWnd& window, const CWnd& dialog);
 // Sizes a control's window to its text as displayed, in the dialog's font, and moves it to the position.
 void lytFitToCaption(const CWnd& window, const CWnd& dialog, ClytPosition position, const char* caption, ClytFit fit);
 // "ACTIVE" enables or disables a window; any other word shows or hides it.
-void lytSetWindowState(const CWnd& window, const CString& word, int on);
+void lytSetWindowState(const CWnd& window, ClytState state, int on);
 
 template <class WINDOW>
 class ClytWindowControl : public WINDOW, public ClytControl
@@ -30,7 +30,7 @@ class ClytWindowControl : public WINDOW, public ClytControl
 public:
     using ClytControl::ClytControl;
 
-    void SetState(const CString& word, int on) override { lytSetWindowState(*this, word, on); }
+    void SetState(const ClytStateWord& word, int on) override { lytSetWindowState(*this, word.GetMeaning(), on); }
     int IsActive() override { return this->IsWindowEnabled() ? 1 : 0; }
     int HasContent() override { return 1; }
     int IsVisible() override { return this->IsWindowVisible() ? 1 : 0; }
@@ -55,8 +55,8 @@ protected:
     void ApplyOptionFlags()
     {
         if (hidden != 0 || invisible != 0)
-            SetState("VISIBLE", 0);
+            SetState(ClytState::Visible, 0);
         if (displayOnly != 0 || inactive != 0)
-            SetState("ACTIVE", 0);
+            SetState(ClytState::Active, 0);
     }
 };

@@ -180,7 +180,7 @@ const ClytControlDep* ClytDialogRules::FindDefaultButtonRule(const CString& focu
     for (POSITION place = dependencyList.GetHeadPosition(); place != nullptr;)
     {
         const ClytControlDep* rule = dependencyList.GetNext(place);
-        if (!lytSameWord(rule->stateWord, "DEFBUTTON"))
+        if (rule->stateWord.GetMeaning() != ClytState::DefButton)
             continue;
         for (POSITION at = rule->conditions.GetHeadPosition(); at != nullptr;)
         {

@@ -132,7 +132,7 @@ void ClytDialogRules::TakeItem(ClytControl& control, const CString& action, CStr
     }
     item.Empty();
     if (hasName)
-        control.GetAllValues(item, lytSameWord(action, "CONCAT") ? CString(listSeparator) : action);
+        control.GetAllValues(item, lytMeans<ClytFillAction::Concat>(action) ? CString(listSeparator) : action);
 }
 
 int ClytDialogRules::ComposeNamedOutput(const CString& groupName, CString& target)

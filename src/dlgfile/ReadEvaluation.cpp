@@ -6,8 +6,8 @@
 //     name = NULL any-delimiter message key
 #include "dlgfile/ClytDialogFile.h"
 
-#include "base/Words.h"
 #include "model/ClytCtrlValList.h"
+#include "model/ClytWords.h"
 
 namespace
 {
@@ -65,7 +65,7 @@ void ClytDialogFile::ReadForbiddenPair(POSITION token, ClytCtrlValList& own, Cly
 void ClytDialogFile::ReadForbiddenValue(POSITION token, ClytCtrlValList& own, CString& messageKey)
 {
     const ClytToken& value = NextOrFail(token);
-    if (value.GetDelimiter() != ':' && !lytSameWord(value.GetText(), "NULL"))
+    if (value.GetDelimiter() != ':' && !lytMeans<ClytValueWord::Null>(value.GetText()))
         FailStatement();
     own.GetValues().AddTail(value.GetText());
     messageKey = NextOrFail(token).GetText();

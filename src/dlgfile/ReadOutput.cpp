@@ -10,8 +10,8 @@
 //            word ()              all values of a control with blanks between them
 #include "dlgfile/ClytDialogFile.h"
 
-#include "base/Words.h"
 #include "model/ClytDialogOutput.h"
+#include "model/ClytWords.h"
 
 namespace
 {
@@ -109,5 +109,5 @@ CString ClytDialogFile::ReadItemAction(POSITION& token)
             action += text.GetText();
     }
     Next(token);
-    return action.IsEmpty() ? CString("CONCAT") : action;
+    return action.IsEmpty() ? CString(lytTextOf(ClytFillAction::Concat)) : action;
 }

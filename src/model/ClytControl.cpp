@@ -47,7 +47,7 @@ int ClytControl::IsChanged()
     return 0;
 }
 
-void ClytControl::DoAction(const CString& /*word*/)
+void ClytControl::DoAction(const ClytStateWord& /*word*/)
 {
     lytReport("247", ClytPrefix::OfKey("248"), name);
 }
@@ -65,7 +65,7 @@ void ClytControl::MoveCurrentItem(int /*up*/) {}
 
 void ClytControl::FillByLibrary() {}
 
-void ClytControl::SetState(const CString& /*word*/, int /*on*/) {}
+void ClytControl::SetState(const ClytStateWord& /*word*/, int /*on*/) {}
 
 int ClytControl::IsVisible()
 {
@@ -84,7 +84,7 @@ int ClytControl::Evaluate(const ClytControlMap& controls)
     const CStringList& forbidden = evaluation.ownValues.GetValues();
     if (forbidden.IsEmpty())
         return 1;
-    if (lytSameWord(forbidden.GetHead(), "NULL"))
+    if (lytMeans<ClytValueWord::Null>(forbidden.GetHead()))
     {
         if (!GetValue().IsEmpty())
             return 1;
@@ -123,23 +123,13 @@ int ClytControl::HasValueIn(const CStringList& values)
 
 int ClytControl::TakeCommonOption(const CString& word)
 {
-    static constexpr struct
+    switch (lytMeaningOf<ClytOption>(word))
     {
-        const char* word;
-        int ClytControl::*flag;
-    } options[] = {
-        {"HIDDEN", &ClytControl::hidden},
-        {"DISPLAYONLY", &ClytControl::displayOnly},
-        {"INVISIBLE", &ClytControl::invisible},
-        {"INACTIVE", &ClytControl::inactive},
-    };
-    for (const auto& option : options)
-    {
-        if (lytSameWord(word, option.word))
-        {
-            this->*option.flag = 1;
-            return 1;
-        }
+    case ClytOption::Hidden: hidden = 1; return 1;
+    case ClytOption::DisplayOnly: displayOnly = 1; return 1;
+    case ClytOption::Invisible: invisible = 1; return 1;
+    case ClytOption::Inactive: inactive = 1; return 1;
+    case ClytOption::Other: break;
     }
     return 0;
 }

@@ -6,6 +6,7 @@
 
 #include "model/ClytControlEval.h"
 #include "model/ClytControlVal.h"
+#include "model/ClytWords.h"
 
 class ClytForm;
 
@@ -47,7 +48,7 @@ public:
     // Nonzero when the value differs from what SaveState remembered.
     virtual int IsChanged();
     // Carries out the word of an event rule.
-    virtual void DoAction(const CString& word);
+    virtual void DoAction(const ClytStateWord& word);
     // Removes the selected item; the result tells what is left.
     virtual int DeleteCurrentItem();
     virtual void AddItem(const CString& value, const CString& display, int hasValue, int position);
@@ -57,7 +58,7 @@ public:
     // Fills the control through the library of its "FILLEDBY" statement.
     virtual void FillByLibrary();
     // "ACTIVE" enables or disables, other words show or hide.
-    virtual void SetState(const CString& word, int on);
+    virtual void SetState(const ClytStateWord& word, int on);
     virtual int IsActive() = 0;
     virtual int HasContent() = 0;
     virtual int IsVisible();

@@ -1,11 +1,10 @@
 #include "model/ClytControlDep.h"
 
-#include "base/Words.h"
 #include "model/ClytControl.h"
 
 bool ClytControlDep::IsEventRule() const
 {
-    return lytSameWord(stateWord, "CLEAR") || lytSameWord(stateWord, "FILL");
+    return stateWord.GetMeaning() == ClytState::Clear || stateWord.GetMeaning() == ClytState::Fill;
 }
 
 int ClytControlDep::AllHold(const ClytControlMap& controls) const
@@ -23,7 +22,7 @@ int ClytControlDep::AllHold(const ClytControlMap& controls) const
             continue;
         // The last value decides, so a "NOTNULL" further to the front is a value like any other; and conditions behind
         // this one are not looked at.
-        if (lytSameWord(values.GetTail(), "NOTNULL"))
+        if (lytMeans<ClytValueWord::NotNull>(values.GetTail()))
             return control->HasContent();
         if (condition.Contains(control->GetValue()) == 0)
             return 0;

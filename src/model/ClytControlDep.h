@@ -2,6 +2,7 @@
 #pragma once
 
 #include "model/ClytCtrlValList.h"
+#include "model/ClytWords.h"
 
 class ClytControlDep : public CObject
 {
@@ -17,7 +18,7 @@ public:
     void SaveStates(const ClytControlMap& controls) const;
 
     CString controlName; // the control that the rule acts on
-    CString stateWord;
+    ClytStateWord stateWord;
     ClytConditions conditions;
     ClytSpan span;    // of the statement
     int runCount = 0; // above 0 while the rule is being carried out; an event rule is not entered again then

@@ -1,6 +1,5 @@
 #include "model/ClytControlFill.h"
 
-#include "base/Words.h"
 #include "model/ClytControl.h"
 #include "model/ClytObserver.h"
 
@@ -15,14 +14,14 @@ void ClytControlFill::Apply(const CString& piece, const ClytControlMap& controls
     }
     if (lytObserver != nullptr)
         lytObserver->Filled(*this, piece);
-    if (lytSameWord(action, "FILL"))
-        control->FillByLibrary();
-    else if (lytSameWord(action, "ADD"))
-        control->AddItem(CString(), piece, 0, 0);
-    else if (lytSameWord(action, "MODIFY"))
-        control->ReplaceCurrentItem(piece);
-    else if (lytSameWord(action, "CONCAT"))
+    switch (action.GetMeaning())
+    {
+    case ClytFillAction::Fill: control->FillByLibrary(); break;
+    case ClytFillAction::Add: control->AddItem(CString(), piece, 0, 0); break;
+    case ClytFillAction::Modify: control->ReplaceCurrentItem(piece); break;
+    case ClytFillAction::Concat:
         control->AddValues(piece + '\n', operands[0] + operands[1] + operands[2] + '\n');
-    else
-        control->SetValue(value.IsEmpty() ? piece : value);
+        break;
+    case ClytFillAction::Other: control->SetValue(value.IsEmpty() ? piece : value);
+    }
 }

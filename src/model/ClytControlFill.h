@@ -2,6 +2,7 @@
 #pragma once
 
 #include "model/ClytCtrlValList.h"
+#include "model/ClytWords.h"
 
 #include <array>
 
@@ -14,6 +15,6 @@ public:
     CString controlName;
     ClytSpan span;                   // of the control name
     CString value;                   // replaces the piece when it is not empty
-    CString action;                  // "FILL", "ADD", "MODIFY", "CONCAT"; any other word sets the value
+    ClytFillWord action;             // any other word sets the value
     std::array<CString, 3> operands; // joined, the separators of "CONCAT"
 };

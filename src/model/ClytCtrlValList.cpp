@@ -1,7 +1,7 @@
 #include "model/ClytCtrlValList.h"
 
-#include "base/Words.h"
 #include "model/ClytControl.h"
+#include "model/ClytWords.h"
 
 void ClytCtrlValList::CopyFrom(const ClytCtrlValList& other)
 {
@@ -18,7 +18,7 @@ int ClytCtrlValList::Contains(const CString& value) const
     for (POSITION place = values.GetHeadPosition(); place != nullptr;)
     {
         const CString& listed = values.GetNext(place);
-        if (listed == value || (value.IsEmpty() && listed == "NULL"))
+        if (listed == value || (value.IsEmpty() && lytMeans<ClytValueWord::Null>(listed)))
             return 1;
     }
     return 0;

@@ -10,7 +10,7 @@
 
 void HeadlessList::TakeStatement(const CStringList& values, const CString& keyword)
 {
-    if (!lytSameWord(keyword, "FILLEDBY") && !lytSameWord(keyword, "DBLCLICK"))
+    if (!lytMeans<ClytKeyword::FilledBy>(keyword) && !lytMeans<ClytKeyword::DoubleClick>(keyword))
         items.push_back({keyword, values.GetHead()});
 }
 
@@ -86,9 +86,9 @@ CString HeadlessList::GetDisplayValue()
     return {};
 }
 
-void HeadlessList::DoAction(const CString& word)
+void HeadlessList::DoAction(const ClytStateWord& word)
 {
-    if (!lytSameWord(word, "CLEAR"))
+    if (word.GetMeaning() != ClytState::Clear)
         return FillByLibrary();
     if (selection >= 0)
         items.clear();
@@ -155,7 +155,7 @@ void HeadlessCombo::AddValues(const CString& /*text*/, const CString& /*separato
 
 void HeadlessCombo::SetValue(const CString& value)
 {
-    if (lytSameWord(value, "FILL"))
+    if (lytMeans<ClytValueWord::Fill>(value))
         return FillByLibrary();
     const int found = FindValue(value, items.size());
     if (found >= 0)
@@ -186,7 +186,9 @@ void HeadlessCombo::Enter(const CString& input)
 
 void HeadlessCheckBox::TakeStatement(const CStringList& values, const CString& keyword)
 {
-    CString& target = lytSameWord(keyword, "ON") ? onValue : lytSameWord(keyword, "OFF") ? offValue : defaultValue;
+    CString& target = lytMeans<ClytKeyword::On>(keyword)    ? onValue
+                      : lytMeans<ClytKeyword::Off>(keyword) ? offValue
+                                                            : defaultValue;
     target = values.GetHead();
 }
 
@@ -203,9 +205,9 @@ void HeadlessCheckBox::SaveState()
 
 void HeadlessCheckBox::SetValue(const CString& value)
 {
-    if (value == onValue || lytSameWord(value, "ON"))
+    if (value == onValue || lytMeans<ClytValueWord::On>(value))
         isChecked = true;
-    else if (value == offValue || lytSameWord(value, "OFF"))
+    else if (value == offValue || lytMeans<ClytValueWord::Off>(value))
         isChecked = false;
 }
 

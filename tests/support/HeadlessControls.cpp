@@ -15,9 +15,9 @@ void HeadlessControl::CreateControl(ClytForm* owner)
     ClytControl::CreateControl(owner);
     isCreated = true;
     if (hidden != 0 || invisible != 0)
-        SetState("VISIBLE", 0);
+        SetState(ClytState::Visible, 0);
     if (displayOnly != 0 || inactive != 0)
-        SetState("ACTIVE", 0);
+        SetState(ClytState::Active, 0);
     FillInitially();
 }
 
@@ -32,9 +32,9 @@ void HeadlessControl::SetControlFocus()
     form.MoveFocusTo(name);
 }
 
-void HeadlessControl::SetState(const CString& word, int on)
+void HeadlessControl::SetState(const ClytStateWord& word, int on)
 {
-    (lytSameWord(word, "ACTIVE") ? isEnabled : isShown) = on != 0;
+    (word.GetMeaning() == ClytState::Active ? isEnabled : isShown) = on != 0;
 }
 
 void HeadlessControl::Enter(const CString& /*input*/)
@@ -52,7 +52,7 @@ void HeadlessControl::SendCommand()
 
 void HeadlessEdit::SetOption(const CStringList& values, const CString& keyword)
 {
-    if (!lytSameWord(keyword, "FILLEDBY"))
+    if (!lytMeans<ClytKeyword::FilledBy>(keyword))
         return HeadlessControl::SetOption(values, keyword);
     if (values.GetCount() > 3)
         parameterRule = values.GetAt(values.FindIndex(3));
@@ -71,15 +71,15 @@ void HeadlessEdit::SaveState()
 
 void HeadlessEdit::SetValue(const CString& value)
 {
-    if (lytSameWord(value, "FILL"))
+    if (lytMeans<ClytValueWord::Fill>(value))
         FillByLibrary();
     else if (!value.IsEmpty())
         SetText(value);
 }
 
-void HeadlessEdit::DoAction(const CString& word)
+void HeadlessEdit::DoAction(const ClytStateWord& word)
 {
-    if (lytSameWord(word, "CLEAR"))
+    if (word.GetMeaning() == ClytState::Clear)
         SetText(CString());
     else
         FillByLibrary();

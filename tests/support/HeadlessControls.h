@@ -20,7 +20,7 @@ public:
     void CreateControl(ClytForm* owner) override;
     void SetOption(const CStringList& values, const CString& keyword) override;
     void SetControlFocus() override;
-    void SetState(const CString& word, int on) override;
+    void SetState(const ClytStateWord& word, int on) override;
     int IsActive() override { return isEnabled ? 1 : 0; }
     int HasContent() override { return 1; }
     int IsVisible() override { return isShown ? 1 : 0; }
@@ -55,7 +55,7 @@ public:
     void SetValue(const CString& value) override;
     CString GetValue() override { return text; }
     int IsChanged() override { return text == savedText ? 0 : 1; }
-    void DoAction(const CString& word) override;
+    void DoAction(const ClytStateWord& word) override;
     void FillByLibrary() override;
     int HasContent() override { return text.IsEmpty() ? 0 : 1; }
     void Enter(const CString& input) override { SetText(input); }
@@ -94,7 +94,7 @@ public:
     CString GetValue() override;
     CString GetDisplayValue() override;
     int IsChanged() override { return selection == savedState ? 0 : 1; }
-    void DoAction(const CString& word) override;
+    void DoAction(const ClytStateWord& word) override;
     int DeleteCurrentItem() override;
     void AddItem(const CString& value, const CString& display, int hasValue, int position) override;
     void ReplaceCurrentItem(const CString& text) override;
@@ -212,7 +212,7 @@ class HeadlessDefault : public HeadlessControl
 public:
     HeadlessDefault(HeadlessForm& ownerForm, ClytPosition topLeft, ClytSize extent);
     void SetOption(const CStringList& /*values*/, const CString& /*keyword*/) override {}
-    void SetState(const CString& /*word*/, int /*on*/) override {}
+    void SetState(const ClytStateWord& /*word*/, int /*on*/) override {}
     void SetControlFocus() override {}
     int IsActive() override { return 0; }
     int HasContent() override { return 0; }

@@ -23,9 +23,9 @@ std::string Shown(const ClytControlFill& fill)
     std::string shown = fill.controlName.GetString();
     if (!fill.value.IsEmpty())
         shown += "=" + std::string(fill.value.GetString());
-    if (!fill.action.IsEmpty())
+    if (!fill.action.GetText().IsEmpty())
     {
-        shown += ":" + std::string(fill.action.GetString());
+        shown += ":" + std::string(fill.action.GetText().GetString());
         for (const CString& operand : fill.operands)
             shown += "/" + std::string(operand.GetString());
     }

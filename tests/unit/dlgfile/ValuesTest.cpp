@@ -28,7 +28,8 @@ std::string Dependency(const std::string& line)
     ClytControlDep rule;
     if (file.ReadDependencyStatement(rule) == 0)
         return "end";
-    return std::string(rule.controlName.GetString()) + "/" + rule.stateWord.GetString() + ": " + Shown(rule.conditions);
+    return std::string(rule.controlName.GetString()) + "/" + rule.stateWord.GetText().GetString() + ": " +
+           Shown(rule.conditions);
 }
 
 std::string DependencyFailure(const std::string& line)

@@ -1,0 +1,63 @@
+#include "model/ClytWords.h"
+
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <iterator>
+#include <string>
+
+namespace
+{
+
+std::string DictionaryOfTheFuzzers()
+{
+    std::ifstream file(LYT_SOURCE_FOLDER "/fuzz/words.dict", std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
+}
+
+template <class MEANING>
+class WordTable : public testing::Test
+{
+};
+using Kinds = testing::Types<ClytState, ClytOption, ClytAction, ClytKeyword, ClytFillAction, ClytValueWord>;
+TYPED_TEST_SUITE(WordTable, Kinds);
+
+} // namespace
+
+TYPED_TEST(WordTable, HasOneWordForEachMeaning)
+{
+    for (const auto& word : ClytWordTable<TypeParam>::words)
+    {
+        EXPECT_EQ(lytMeaningOf<TypeParam>(word.text), word.meaning) << word.text;
+        EXPECT_STREQ(lytTextOf(word.meaning), word.text);
+    }
+}
+
+TYPED_TEST(WordTable, ComparesByteForByte)
+{
+    for (const auto& word : ClytWordTable<TypeParam>::words)
+    {
+        CString lower = word.text;
+        EXPECT_EQ(lytMeaningOf<TypeParam>(lower.MakeLower()), TypeParam::Other) << word.text;
+        EXPECT_EQ(lytMeaningOf<TypeParam>(CString(word.text) + " "), TypeParam::Other) << word.text;
+    }
+    EXPECT_EQ(lytMeaningOf<TypeParam>(CString()), TypeParam::Other);
+}
+
+TYPED_TEST(WordTable, StandsInTheDictionaryOfTheFuzzers)
+{
+    const std::string dictionary = DictionaryOfTheFuzzers();
+    for (const auto& word : ClytWordTable<TypeParam>::words)
+        EXPECT_NE(dictionary.find("\"" + std::string(word.text) + "\"\n"), std::string::npos) << word.text;
+}
+
+TEST(Word, KeepsTheTextOfTheDescription)
+{
+    const ClytStateWord known("CLEAR");
+    EXPECT_EQ(known.GetText(), "CLEAR");
+    EXPECT_EQ(known.GetMeaning(), ClytState::Clear);
+    const ClytStateWord unknown("ENLARGE");
+    EXPECT_EQ(unknown.GetText(), "ENLARGE");
+    EXPECT_EQ(unknown.GetMeaning(), ClytState::Other);
+    EXPECT_EQ(ClytStateWord(ClytState::DefButton).GetText(), "DEFBUTTON");
+}
