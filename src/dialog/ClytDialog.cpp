@@ -163,8 +163,7 @@ void ClytDialog::OnOK()
 {
     if (const ClytControlDep* rule = FindDefaultButtonRule(FocusName()))
     {
-        if (ClytControl* button = FindControl(rule->controlName))
-            lytGiveReturnKey(*button, *this);
+        lytGiveReturnKey(*rule->GetControl(), *this);
         return;
     }
     if (ComposeResult() != 0)

@@ -128,22 +128,20 @@ void ClytDialogRules::RunDependencies()
 void ClytDialogRules::SaveBaseline()
 {
     for (POSITION place = dependencyList.GetHeadPosition(); place != nullptr;)
-        dependencyList.GetNext(place)->SaveStates(controlMap);
+        dependencyList.GetNext(place)->SaveStates();
 }
 
 // What a rule does to its control sends commands, and so further runs take place inside this one. An event rule that
 // is being carried out is left out of them, or a field that fills itself would never come to an end.
 void ClytDialogRules::RunRule(ClytControlDep& rule)
 {
-    ClytControl* control = FindControl(rule.controlName);
-    if (control == nullptr)
-        return;
+    ClytControl* control = rule.GetControl();
     if (!rule.IsEventRule())
         control->SetState(rule.stateWord, AllConditionsHold(rule));
     else if (rule.runCount == 0)
     {
         const Counted running(rule.runCount);
-        if (rule.AnyChanged(controlMap) != 0)
+        if (rule.AnyChanged() != 0)
             control->DoAction(rule.stateWord);
     }
 }
@@ -151,7 +149,7 @@ void ClytDialogRules::RunRule(ClytControlDep& rule)
 int ClytDialogRules::AllConditionsHold(const ClytControlDep& rule)
 {
     const Counted read(readDepth);
-    return rule.AllHold(controlMap) != 0 ? 1 : 0;
+    return rule.AllHold() != 0 ? 1 : 0;
 }
 
 void ClytDialogRules::ApplyInput(const CString& partName)
@@ -159,7 +157,7 @@ void ClytDialogRules::ApplyInput(const CString& partName)
     ClytInputPart* part = nullptr;
     if (!inputMap.Lookup(partName, part))
         lytRaise("217", CString(), partName);
-    part->Run(lytInputKey, lytStartName, controlMap);
+    part->Run(lytInputKey, lytStartName);
     // Emptied, so that no nested dialog scans the same text.
     lytInputKey.Empty();
     for (POSITION place = controlList.GetHeadPosition(); place != nullptr;)
@@ -171,7 +169,7 @@ int ClytDialogRules::RunInput(const CString& partName, const CString& text)
     ClytInputPart* part = nullptr;
     if (!inputMap.Lookup(partName, part))
         return 0;
-    part->Run(text, lytStartName, controlMap);
+    part->Run(text, lytStartName);
     return 1;
 }
 

@@ -81,7 +81,7 @@ bool ClytDialogRules::HoldsForOutput(const ClytConditions& conditions)
     for (POSITION place = conditions.GetHeadPosition(); place != nullptr;)
     {
         const ClytCtrlValList& condition = *conditions.GetNext(place);
-        ClytControl* control = FindControl(condition.GetName());
+        ClytControl* control = condition.GetControl();
         if (control == nullptr)
             lytRaise("245", CString(), condition.GetName());
         if (control->IsActive() == 0)
@@ -103,15 +103,15 @@ int ClytDialogRules::ComposeOutput(const ClytOutput& group, CString& target, int
         items.SetAt(index, rule->items[index]);
     for (int index = 0; index < rule->items.GetCount(); ++index)
     {
-        CString item = items[index];
-        ClytControl* control = FindControl(item);
+        ClytControl* control = rule->GetItemControl(index);
         if (control == nullptr)
             continue;
-        if (check != 0 && control->Evaluate(controlMap) == 0)
+        if (check != 0 && control->Evaluate() == 0)
         {
             control->ShowEvalMessage();
             return 0;
         }
+        CString item = items[index];
         TakeItem(*control, rule->actions[index], item);
         items.SetAt(index, item);
     }

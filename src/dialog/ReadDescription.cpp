@@ -140,7 +140,7 @@ void ClytDialogRules::ReadDependencies()
                 TellPassedOver(ClytPassedOver::DependencyRule, rule->controlName, rule->span);
             continue;
         }
-        dependencyList.AddTail(std::move(rule));
+        dependencyList.AddTail(std::move(rule)).Bind(controlMap);
         rule = std::make_unique<ClytControlDep>();
     }
 }
@@ -172,6 +172,7 @@ void ClytDialogRules::ReadEvaluations()
         ClytControl* control = FindControl(own.GetName());
         if (own.GetValues().IsEmpty())
             continue;
+        other.Bind(controlMap);
         if (control != nullptr)
             control->SetEvaluation(own, other, messageKey);
         else
@@ -187,6 +188,7 @@ void ClytDialogRules::ReadInputs()
         ClytInputPart& part = inputList.AddTail(std::make_unique<ClytInputPart>());
         inputMap.SetAt(name.IsEmpty() ? CString(lytParentName) : name, &part);
         file.ReadInputPart(part);
+        part.Bind(controlMap);
     }
 }
 
@@ -213,7 +215,7 @@ void ClytDialogRules::ReadOutputGroups()
         }
         else
         {
-            group->rules.AddTail(std::move(rule));
+            group->rules.AddTail(std::move(rule)).Bind(controlMap);
             rule = std::make_unique<ClytDialogOutput>();
         }
     }

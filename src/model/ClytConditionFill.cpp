@@ -2,7 +2,13 @@
 
 #include "base/Words.h"
 
-int ClytConditionFill::Apply(const CString& piece, const ClytControlMap& controls) const
+void ClytConditionFill::Bind(const ClytControlMap& controls)
+{
+    for (POSITION place = fills.GetHeadPosition(); place != nullptr;)
+        fills.GetNext(place)->Bind(controls);
+}
+
+int ClytConditionFill::Apply(const CString& piece) const
 {
     if (!Holds(piece))
         return 0;
@@ -10,7 +16,7 @@ int ClytConditionFill::Apply(const CString& piece, const ClytControlMap& control
     {
         const ClytControlFill& fill = *fills.GetNext(place);
         if (!fill.controlName.IsEmpty())
-            fill.Apply(piece, controls);
+            fill.Apply(piece);
     }
     return 1;
 }

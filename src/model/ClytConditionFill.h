@@ -6,8 +6,9 @@
 class ClytConditionFill : public CObject
 {
 public:
+    void Bind(const ClytControlMap& controls);
     // 1 when the rule held for the piece and its fills were applied.
-    int Apply(const CString& piece, const ClytControlMap& controls) const;
+    int Apply(const CString& piece) const;
 
     CStringList values; // the pieces for which the rule holds; empty means all
     ClytOwnedList<ClytControlFill> fills;

@@ -79,7 +79,7 @@ void ClytControl::SetEvaluation(const ClytCtrlValList& own, const ClytCtrlValLis
     evaluation.messageKey = messageKey;
 }
 
-int ClytControl::Evaluate(const ClytControlMap& controls)
+int ClytControl::Evaluate()
 {
     const CStringList& forbidden = evaluation.ownValues.GetValues();
     if (forbidden.IsEmpty())
@@ -93,8 +93,8 @@ int ClytControl::Evaluate(const ClytControlMap& controls)
     {
         if (evaluation.ownValues.Contains(GetValue()) == 0)
             return 1;
-        ClytControl* other = nullptr;
-        if (!controls.Lookup(evaluation.otherValues.GetName(), other))
+        ClytControl* other = evaluation.otherValues.GetControl();
+        if (other == nullptr)
             return 0;
         if (evaluation.otherValues.Contains(other->GetValue()) == 0)
             return 1;

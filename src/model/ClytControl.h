@@ -67,10 +67,11 @@ public:
     // "HIDDEN" and "DISPLAYONLY" exempt an inactive control from failing a condition.
     bool IsExemptFromActive() const { return hidden != 0 || displayOnly != 0; }
 
+    // The other list is bound to its control.
     void SetEvaluation(const ClytCtrlValList& own, const ClytCtrlValList& other, const CString& messageKey);
     // 1 when the control passes its evaluation; 0 when it fails, with the focus moved to it unless the other control is
     // unknown.
-    int Evaluate(const ClytControlMap& controls);
+    int Evaluate();
     // Shows the message of the evaluation.
     void ShowEvalMessage() const;
     // 1 when GetValue equals one of the texts.

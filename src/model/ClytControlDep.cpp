@@ -2,20 +2,27 @@
 
 #include "model/ClytControl.h"
 
+void ClytControlDep::Bind(const ClytControlMap& controls)
+{
+    control = nullptr;
+    controls.Lookup(controlName, control);
+    lytBindConditions(conditions, controls);
+}
+
 bool ClytControlDep::IsEventRule() const
 {
     return stateWord.GetMeaning() == ClytState::Clear || stateWord.GetMeaning() == ClytState::Fill;
 }
 
-int ClytControlDep::AllHold(const ClytControlMap& controls) const
+int ClytControlDep::AllHold() const
 {
     for (POSITION place = conditions.GetHeadPosition(); place != nullptr;)
     {
         const ClytCtrlValList& condition = *conditions.GetNext(place);
-        ClytControl* control = nullptr;
-        if (!controls.Lookup(condition.GetName(), control))
+        ClytControl* asked = condition.GetControl();
+        if (asked == nullptr)
             continue;
-        if (control->IsActive() == 0 && !control->IsExemptFromActive())
+        if (asked->IsActive() == 0 && !asked->IsExemptFromActive())
             return 0;
         const CStringList& values = condition.GetValues();
         if (values.IsEmpty())
@@ -23,32 +30,31 @@ int ClytControlDep::AllHold(const ClytControlMap& controls) const
         // The last value decides, so a "NOTNULL" further to the front is a value like any other; and conditions behind
         // this one are not looked at.
         if (lytMeans<ClytValueWord::NotNull>(values.GetTail()))
-            return control->HasContent();
-        if (condition.Contains(control->GetValue()) == 0)
+            return asked->HasContent();
+        if (condition.Contains(asked->GetValue()) == 0)
             return 0;
     }
     return 1;
 }
 
-int ClytControlDep::AnyChanged(const ClytControlMap& controls) const
+int ClytControlDep::AnyChanged() const
 {
     for (POSITION place = conditions.GetHeadPosition(); place != nullptr;)
     {
-        ClytControl* control = nullptr;
-        if (!controls.Lookup(conditions.GetNext(place)->GetName(), control))
+        ClytControl* asked = conditions.GetNext(place)->GetControl();
+        if (asked == nullptr)
             return 0;
-        if (control->IsChanged() != 0)
+        if (asked->IsChanged() != 0)
             return 1;
     }
     return 0;
 }
 
-void ClytControlDep::SaveStates(const ClytControlMap& controls) const
+void ClytControlDep::SaveStates() const
 {
     for (POSITION place = conditions.GetHeadPosition(); place != nullptr;)
     {
-        ClytControl* control = nullptr;
-        if (controls.Lookup(conditions.GetNext(place)->GetName(), control))
-            control->SaveState();
+        if (ClytControl* asked = conditions.GetNext(place)->GetControl())
+            asked->SaveState();
     }
 }

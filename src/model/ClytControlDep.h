@@ -7,19 +7,26 @@
 class ClytControlDep : public CObject
 {
 public:
+    // Looks up the control that the rule acts on and those of its conditions.
+    void Bind(const ClytControlMap& controls);
+    // Null before the rule is bound, and for an unknown control.
+    ClytControl* GetControl() const { return control; }
     // An event rule acts when a control of its conditions changed; any other rule sets a state in every run.
     bool IsEventRule() const;
     // 1 when every condition holds. An inactive control fails its condition unless it is exempt; "NOTNULL" as a
     // condition's last value ends the test with whether that control holds anything.
-    int AllHold(const ClytControlMap& controls) const;
+    int AllHold() const;
     // 1 when the control of a condition changed; an unknown control ends the test with 0.
-    int AnyChanged(const ClytControlMap& controls) const;
+    int AnyChanged() const;
     // Takes the present values of the conditions' controls as the ones to compare with.
-    void SaveStates(const ClytControlMap& controls) const;
+    void SaveStates() const;
 
     CString controlName; // the control that the rule acts on
     ClytStateWord stateWord;
     ClytConditions conditions;
     ClytSpan span;    // of the statement
     int runCount = 0; // above 0 while the rule is being carried out; an event rule is not entered again then
+
+private:
+    ClytControl* control = nullptr; // the form's, which outlives the rule's use
 };

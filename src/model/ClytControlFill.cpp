@@ -3,10 +3,15 @@
 #include "model/ClytControl.h"
 #include "model/ClytObserver.h"
 
-void ClytControlFill::Apply(const CString& piece, const ClytControlMap& controls) const
+void ClytControlFill::Bind(const ClytControlMap& controls)
 {
-    ClytControl* control = nullptr;
-    if (!controls.Lookup(controlName, control))
+    control = nullptr;
+    controls.Lookup(controlName, control);
+}
+
+void ClytControlFill::Apply(const CString& piece) const
+{
+    if (control == nullptr)
     {
         if (lytObserver != nullptr)
             lytObserver->PassedOver(ClytPassedOver::Fill, controlName, span);

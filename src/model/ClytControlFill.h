@@ -9,12 +9,16 @@
 class ClytControlFill : public CObject
 {
 public:
+    void Bind(const ClytControlMap& controls);
     // An unknown control is passed over.
-    void Apply(const CString& piece, const ClytControlMap& controls) const;
+    void Apply(const CString& piece) const;
 
     CString controlName;
     ClytSpan span;                   // of the control name
     CString value;                   // replaces the piece when it is not empty
     ClytFillWord action;             // any other word sets the value
     std::array<CString, 3> operands; // joined, the separators of "CONCAT"
+
+private:
+    ClytControl* control = nullptr; // the form's, which outlives the fill's use
 };

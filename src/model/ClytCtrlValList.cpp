@@ -8,9 +8,16 @@ void ClytCtrlValList::CopyFrom(const ClytCtrlValList& other)
     if (this == &other)
         return;
     SetName(other.controlName, other.span);
+    control = other.control;
     values.RemoveAll();
     for (POSITION place = other.values.GetHeadPosition(); place != nullptr;)
         values.AddTail(other.values.GetNext(place));
+}
+
+void ClytCtrlValList::Bind(const ClytControlMap& controls)
+{
+    control = nullptr;
+    controls.Lookup(controlName, control);
 }
 
 int ClytCtrlValList::Contains(const CString& value) const
@@ -24,10 +31,13 @@ int ClytCtrlValList::Contains(const CString& value) const
     return 0;
 }
 
-int ClytCtrlValList::IsSatisfied(const ClytControlMap& controls) const
+int ClytCtrlValList::IsSatisfied() const
 {
-    ClytControl* control = nullptr;
-    if (!controls.Lookup(controlName, control))
-        return 0;
-    return control->HasValueIn(values);
+    return control != nullptr ? control->HasValueIn(values) : 0;
+}
+
+void lytBindConditions(const ClytConditions& conditions, const ClytControlMap& controls)
+{
+    for (POSITION place = conditions.GetHeadPosition(); place != nullptr;)
+        conditions.GetNext(place)->Bind(controls);
 }

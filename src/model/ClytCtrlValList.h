@@ -25,19 +25,26 @@ public:
     const ClytSpan& GetSpan() const { return span; }
     CStringList& GetValues() { return values; }
     const CStringList& GetValues() const { return values; }
-    // Takes over another list's name and values as copies.
+    // Looks the control up. A condition that is not bound counts as one on an unknown control.
+    void Bind(const ClytControlMap& controls);
+    // Null for an unknown control.
+    ClytControl* GetControl() const { return control; }
+    // Takes over another list's name, control and values as copies.
     void CopyFrom(const ClytCtrlValList& other);
 
     // 1 when a listed value equals the text byte for byte, or is "NULL" and the text is empty.
     int Contains(const CString& value) const;
-    // 1 when the named control holds one of the values; "NULL" has no meaning here, and an unknown control gives 0.
-    int IsSatisfied(const ClytControlMap& controls) const;
+    // 1 when the control holds one of the values; "NULL" has no meaning here, and an unknown control gives 0.
+    int IsSatisfied() const;
 
 private:
     CString controlName;
+    ClytControl* control = nullptr; // the form's, which outlives its rules' use
     CStringList values;
     ClytSpan span;
 };
 
 // Conditions as a rule owns them, and as others may look at them.
 using ClytConditions = ClytOwnedList<ClytCtrlValList>;
+
+void lytBindConditions(const ClytConditions& conditions, const ClytControlMap& controls);

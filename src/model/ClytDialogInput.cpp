@@ -1,10 +1,16 @@
 #include "model/ClytDialogInput.h"
 
-int ClytDialogInput::ConditionsHold(const ClytControlMap& controls) const
+void ClytDialogInput::Bind(const ClytControlMap& controls)
+{
+    lytBindConditions(conditions, controls);
+    scanRule.Bind(controls);
+}
+
+int ClytDialogInput::ConditionsHold() const
 {
     for (POSITION place = conditions.GetHeadPosition(); place != nullptr;)
     {
-        if (conditions.GetNext(place)->IsSatisfied(controls) != 0)
+        if (conditions.GetNext(place)->IsSatisfied() != 0)
             return 1;
     }
     return 0;

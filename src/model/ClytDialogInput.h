@@ -7,8 +7,10 @@
 class ClytDialogInput : public CObject
 {
 public:
+    // Looks up the controls of conditions and fills.
+    void Bind(const ClytControlMap& controls);
     // 1 when any condition is satisfied, 0 without conditions.
-    int ConditionsHold(const ClytControlMap& controls) const;
+    int ConditionsHold() const;
 
     CString name;
     ClytScanRule scanRule;

@@ -25,7 +25,13 @@ const ClytDialogInput* ClytInputPart::Find(const CString& name) const
     return statement;
 }
 
-void ClytInputPart::Run(CString text, const CString& name, const ClytControlMap& controls) const
+void ClytInputPart::Bind(const ClytControlMap& controls)
+{
+    for (POSITION place = statements.GetHeadPosition(); place != nullptr;)
+        statements.GetNext(place)->Bind(controls);
+}
+
+void ClytInputPart::Run(CString text, const CString& name) const
 {
     ClytScanner scanner(text);
     CString next = name;
@@ -36,20 +42,19 @@ void ClytInputPart::Run(CString text, const CString& name, const ClytControlMap&
         if (statement == nullptr)
             return;
         const char* before = scanner.GetRest();
-        next = RunStatement(*statement, scanner, controls);
+        next = RunStatement(*statement, scanner);
         idle = scanner.GetRest() == before ? idle + 1 : 0;
         if (idle == circleLimit)
             lytRaise("206", "The input statements go round in a circle.");
     }
 }
 
-CString ClytInputPart::RunStatement(const ClytDialogInput& statement, ClytScanner& scanner,
-                                    const ClytControlMap& controls)
+CString ClytInputPart::RunStatement(const ClytDialogInput& statement, ClytScanner& scanner)
 {
     const ClytScanRule& rule = statement.scanRule;
     if (rule.scan.HasScan() == 0)
     {
-        CString next = statement.ConditionsHold(controls) != 0 ? statement.trueTarget : statement.falseTarget;
+        CString next = statement.ConditionsHold() != 0 ? statement.trueTarget : statement.falseTarget;
         if (lytObserver != nullptr)
             lytObserver->Jumped(statement, next);
         return next;
@@ -58,6 +63,6 @@ CString ClytInputPart::RunStatement(const ClytDialogInput& statement, ClytScanne
     CString next = scanner.Cut(rule.scan, piece);
     if (lytObserver != nullptr)
         lytObserver->Cut(statement, piece, scanner.GetRest(), next);
-    rule.ApplyFills(piece, controls);
+    rule.ApplyFills(piece);
     return next;
 }

@@ -14,13 +14,15 @@ public:
     // Null when no statement has that name.
     const ClytDialogInput* Find(const CString& name) const;
 
+    // Looks up the controls of all statements.
+    void Bind(const ClytControlMap& controls);
     // Runs over the text from the statement of that name until a statement is named "End" or is not there. A run that
     // goes from statement to statement without consuming text raises 206.
-    void Run(CString text, const CString& name, const ClytControlMap& controls) const;
+    void Run(CString text, const CString& name) const;
 
 private:
     // Gives the name of the statement that goes on.
-    static CString RunStatement(const ClytDialogInput& statement, ClytScanner& scanner, const ClytControlMap& controls);
+    static CString RunStatement(const ClytDialogInput& statement, ClytScanner& scanner);
 
     ClytOwnedList<ClytDialogInput> statements;
     CTypedPtrMap<CMapStringToPtr, CString, ClytDialogInput*> statementsByName;

@@ -7,9 +7,11 @@
 class ClytScanRule : public CObject
 {
 public:
+    // Looks up the controls of the fill rules.
+    void Bind(const ClytControlMap& controls);
     // Applies the fill rules in order. A rule that does not hold takes the one behind it along: a conditional rule and
     // its successor are a pair.
-    void ApplyFills(const CString& piece, const ClytControlMap& controls) const;
+    void ApplyFills(const CString& piece) const;
 
     ClytScan scan;
     ClytOwnedList<ClytConditionFill> rules;

@@ -34,24 +34,25 @@ protected:
         return all;
     }
 
+    void Evaluation(ClytControl& control, std::initializer_list<const char*> own, const char* otherName = "",
+                    std::initializer_list<const char*> other = {})
+    {
+        ClytCtrlValList ownValues("A");
+        for (const char* value : own)
+            ownValues.GetValues().AddTail(value);
+        ClytCtrlValList otherValues(otherName);
+        for (const char* value : other)
+            otherValues.GetValues().AddTail(value);
+        otherValues.Bind(controls.map);
+        control.SetEvaluation(ownValues, otherValues, "CLASH");
+    }
+
     void TearDown() override { EXPECT_EQ(Messages(), ""); }
 
     const ErrorTexts texts{"[MsgBox]\r\nCLASH=do not do that\r\n"};
     PlainControl plain;
     Controls controls;
 };
-
-void Evaluation(ClytControl& control, std::initializer_list<const char*> own, const char* otherName = "",
-                std::initializer_list<const char*> other = {})
-{
-    ClytCtrlValList ownValues("A");
-    for (const char* value : own)
-        ownValues.GetValues().AddTail(value);
-    ClytCtrlValList otherValues(otherName);
-    for (const char* value : other)
-        otherValues.GetValues().AddTail(value);
-    control.SetEvaluation(ownValues, otherValues, "CLASH");
-}
 
 } // namespace
 
@@ -129,53 +130,53 @@ TEST_F(BaseControl, ComparesItsValueWithAList)
 
 TEST_F(BaseControl, PassesWithoutAnEvaluation)
 {
-    EXPECT_EQ(controls.Add("A").Evaluate(controls.map), 1);
+    EXPECT_EQ(controls.Add("A").Evaluate(), 1);
     RecordingControl& control = controls.Add("A", "x");
     Evaluation(control, {}, "B", {"y"});
-    EXPECT_EQ(control.Evaluate(controls.map), 1);
+    EXPECT_EQ(control.Evaluate(), 1);
 }
 
 TEST_F(BaseControl, FailsWhenItIsEmptyAndMustNotBe)
 {
     RecordingControl& control = controls.Add("A");
     Evaluation(control, {"NULL"});
-    EXPECT_EQ(control.Evaluate(controls.map), 0);
+    EXPECT_EQ(control.Evaluate(), 0);
     EXPECT_EQ(controls.TakeLog(), "A.focus() ");
     control.value = "x";
-    EXPECT_EQ(control.Evaluate(controls.map), 1);
+    EXPECT_EQ(control.Evaluate(), 1);
     EXPECT_EQ(controls.TakeLog(), "");
 }
 
 TEST_F(BaseControl, IgnoresTheRestOfAnEvaluationThatBeginsWithNull)
 {
     RecordingControl& control = controls.Add("A", "x");
-    controls.Add("B", "y");
+    RecordingControl& other = controls.Add("B", "y");
     Evaluation(control, {"NULL", "x"}, "B", {"y"});
-    EXPECT_EQ(control.Evaluate(controls.map), 1);
+    EXPECT_EQ(control.Evaluate(), 1);
     control.value.Empty();
-    controls.Add("B", "z");
-    EXPECT_EQ(control.Evaluate(controls.map), 0);
+    other.value = "z";
+    EXPECT_EQ(control.Evaluate(), 0);
 }
 
 TEST_F(BaseControl, FailsOnAForbiddenPairOfValues)
 {
     RecordingControl& control = controls.Add("A", "x");
-    controls.Add("B", "y");
+    RecordingControl& other = controls.Add("B", "y");
     Evaluation(control, {"w", "x"}, "B", {"y"});
-    EXPECT_EQ(control.Evaluate(controls.map), 0);
+    EXPECT_EQ(control.Evaluate(), 0);
     EXPECT_EQ(controls.TakeLog(), "A.focus() ");
-    controls.Add("B", "z");
-    EXPECT_EQ(control.Evaluate(controls.map), 1);
-    controls.Add("B", "y");
+    other.value = "z";
+    EXPECT_EQ(control.Evaluate(), 1);
+    other.value = "y";
     control.value = "v";
-    EXPECT_EQ(control.Evaluate(controls.map), 1);
+    EXPECT_EQ(control.Evaluate(), 1);
 }
 
 TEST_F(BaseControl, FailsWithoutMovingTheFocusWhenTheOtherControlIsUnknown)
 {
     RecordingControl& control = controls.Add("A", "x");
     Evaluation(control, {"x"}, "Unknown", {"y"});
-    EXPECT_EQ(control.Evaluate(controls.map), 0);
+    EXPECT_EQ(control.Evaluate(), 0);
     EXPECT_EQ(controls.TakeLog(), "");
 }
 
@@ -184,7 +185,7 @@ TEST_F(BaseControl, MatchesEmptyValuesOfAForbiddenPairByNull)
     RecordingControl& control = controls.Add("A");
     controls.Add("B");
     Evaluation(control, {"x", "NULL"}, "B", {"NULL"});
-    EXPECT_EQ(control.Evaluate(controls.map), 0);
+    EXPECT_EQ(control.Evaluate(), 0);
 }
 
 TEST_F(BaseControl, ReplacesAnEarlierEvaluation)
@@ -192,7 +193,7 @@ TEST_F(BaseControl, ReplacesAnEarlierEvaluation)
     RecordingControl& control = controls.Add("A", "x");
     Evaluation(control, {"x"});
     Evaluation(control, {"NULL"});
-    EXPECT_EQ(control.Evaluate(controls.map), 1);
+    EXPECT_EQ(control.Evaluate(), 1);
 }
 
 TEST_F(BaseControl, ShowsTheMessageOfItsEvaluation)

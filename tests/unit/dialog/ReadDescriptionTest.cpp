@@ -136,6 +136,27 @@ TEST_F(Construction, KeepsTwoControlsOfOneNameAndFindsTheLater)
     EXPECT_EQ(Place(*opened.Control("A")), "2,0,3,4");
 }
 
+TEST_F(Construction, GivesEveryRuleTheLaterOfTwoControlsOfOneName)
+{
+    text.layout = "TextBox 1, 0, 3, 4, .A\nTextBox 2, 0, 3, 4, .A\nTextBox 1, 2, 3, 4, .B\nTextBox 1, 2, 3, 4, .C\n";
+    text.values = "A = x\nB = y\n";
+    text.dependencies = "B/ACTIVE = A(x)\nA/ACTIVE = C(never)\n";
+    text.evaluation = "B(y) = A(x): CLASH\n";
+    text.input = "Start: A(x) = Hit, End\nHit: (\";\", End, Rest, End = C, A = x\n";
+    text.output = "(\"%s\", B)\n$OUTPUT, other\n(\"<%s>\", A)\n";
+    HeadlessForm& opened = Open("piece");
+    auto* first = dynamic_cast<HeadlessControl*>(opened.GetControlList().GetHead());
+    ASSERT_NE(first, nullptr);
+    EXPECT_EQ(first->GetValue(), "");
+    EXPECT_TRUE(first->isEnabled);
+    EXPECT_FALSE(opened.IsEnabled("A"));
+    EXPECT_TRUE(opened.IsEnabled("B"));
+    EXPECT_EQ(opened.Value("C"), "piece");
+    EXPECT_FALSE(opened.Confirm());
+    EXPECT_EQ(Messages(), "do not do that;");
+    EXPECT_EQ(Compose("other"), "<x>");
+}
+
 TEST_F(Construction, FindsTheLastNamelessControlUnderTheEmptyName)
 {
     text.layout = "TextBox 1, 0, 3, 4\nTextBox 2, 0, 3, 4\n";

@@ -14,6 +14,12 @@ ClytCtrlValList& Fill(ClytCtrlValList& list, std::initializer_list<const char*> 
     return list;
 }
 
+int IsSatisfied(ClytCtrlValList& list, const Controls& controls)
+{
+    list.Bind(controls.map);
+    return list.IsSatisfied();
+}
+
 int Contains(std::initializer_list<const char*> values, const char* value)
 {
     ClytCtrlValList list;
@@ -23,6 +29,12 @@ int Contains(std::initializer_list<const char*> values, const char* value)
 class DependencyRule : public testing::Test
 {
 protected:
+    ClytControlDep& Bound()
+    {
+        rule.Bind(controls.map);
+        return rule;
+    }
+
     Controls controls;
     ClytControlDep rule;
 };
@@ -61,13 +73,13 @@ TEST(ValueList, IsSatisfiedByTheControlsValueWithoutAMeaningOfNull)
     controls.Add("A", "x");
     controls.Add("Empty");
     ClytCtrlValList list("A");
-    EXPECT_EQ(list.IsSatisfied(controls.map), 0);
-    EXPECT_EQ(Fill(list, {"y", "x"}).IsSatisfied(controls.map), 1);
+    EXPECT_EQ(IsSatisfied(list, controls), 0);
+    EXPECT_EQ(IsSatisfied(Fill(list, {"y", "x"}), controls), 1);
     list.SetName("Empty");
-    EXPECT_EQ(Fill(list, {"NULL"}).IsSatisfied(controls.map), 0);
-    EXPECT_EQ(Fill(list, {""}).IsSatisfied(controls.map), 1);
+    EXPECT_EQ(IsSatisfied(Fill(list, {"NULL"}), controls), 0);
+    EXPECT_EQ(IsSatisfied(Fill(list, {""}), controls), 1);
     list.SetName("Unknown");
-    EXPECT_EQ(list.IsSatisfied(controls.map), 0);
+    EXPECT_EQ(IsSatisfied(list, controls), 0);
 }
 
 TEST(ValueList, CopiesNameAndValues)
@@ -84,7 +96,7 @@ TEST(ValueList, CopiesNameAndValues)
 
 TEST_F(DependencyRule, HoldsWithoutConditions)
 {
-    EXPECT_EQ(rule.AllHold(controls.map), 1);
+    EXPECT_EQ(Bound().AllHold(), 1);
 }
 
 TEST_F(DependencyRule, HoldsWhenEveryControlHasOneOfItsValues)
@@ -93,24 +105,24 @@ TEST_F(DependencyRule, HoldsWhenEveryControlHasOneOfItsValues)
     controls.Add("B", "2");
     AddCondition(rule.conditions, "A", {"0", "1"});
     AddCondition(rule.conditions, "B", {"2"});
-    EXPECT_EQ(rule.AllHold(controls.map), 1);
+    EXPECT_EQ(Bound().AllHold(), 1);
     controls.Add("B", "3");
-    EXPECT_EQ(rule.AllHold(controls.map), 0);
+    EXPECT_EQ(Bound().AllHold(), 0);
 }
 
 TEST_F(DependencyRule, PassesOverUnknownControls)
 {
     AddCondition(rule.conditions, "Unknown", {"1"});
-    EXPECT_EQ(rule.AllHold(controls.map), 1);
+    EXPECT_EQ(Bound().AllHold(), 1);
 }
 
 TEST_F(DependencyRule, FailsOnADisabledControl)
 {
     RecordingControl& control = controls.Add("A");
     AddCondition(rule.conditions, "A");
-    EXPECT_EQ(rule.AllHold(controls.map), 1);
+    EXPECT_EQ(Bound().AllHold(), 1);
     control.isActive = 0;
-    EXPECT_EQ(rule.AllHold(controls.map), 0);
+    EXPECT_EQ(Bound().AllHold(), 0);
 }
 
 TEST_F(DependencyRule, ExemptsADisabledControlThatIsHiddenOrDisplayOnly)
@@ -123,14 +135,14 @@ TEST_F(DependencyRule, ExemptsADisabledControlThatIsHiddenOrDisplayOnly)
         control.Exempt(option);
         rule.conditions.RemoveAll();
         AddCondition(rule.conditions, "A", {"x"});
-        EXPECT_EQ(rule.AllHold(controls.map), 1);
+        EXPECT_EQ(Bound().AllHold(), 1);
         control.value = "y";
-        EXPECT_EQ(rule.AllHold(controls.map), 0);
+        EXPECT_EQ(Bound().AllHold(), 0);
     }
     RecordingControl& control = controls.Add("A", "x");
     control.isActive = 0;
     control.Exempt("INACTIVE");
-    EXPECT_EQ(rule.AllHold(controls.map), 0);
+    EXPECT_EQ(Bound().AllHold(), 0);
 }
 
 TEST_F(DependencyRule, EndsAtNotNullWithoutLookingAtLaterConditions)
@@ -139,41 +151,41 @@ TEST_F(DependencyRule, EndsAtNotNullWithoutLookingAtLaterConditions)
     controls.Add("B", "2");
     AddCondition(rule.conditions, "A", {"NOTNULL"});
     AddCondition(rule.conditions, "B", {"wrong"});
-    EXPECT_EQ(rule.AllHold(controls.map), 1);
+    EXPECT_EQ(Bound().AllHold(), 1);
     control.value.Empty();
-    EXPECT_EQ(rule.AllHold(controls.map), 0);
+    EXPECT_EQ(Bound().AllHold(), 0);
 }
 
 TEST_F(DependencyRule, KnowsNotNullAsTheLastValueOnly)
 {
     controls.Add("A", "something");
     AddCondition(rule.conditions, "A", {"NOTNULL", "x"});
-    EXPECT_EQ(rule.AllHold(controls.map), 0);
+    EXPECT_EQ(Bound().AllHold(), 0);
     rule.conditions.RemoveAll();
     AddCondition(rule.conditions, "A", {"x", "NOTNULL"});
-    EXPECT_EQ(rule.AllHold(controls.map), 1);
+    EXPECT_EQ(Bound().AllHold(), 1);
     rule.conditions.RemoveAll();
     AddCondition(rule.conditions, "A", {"notnull"});
-    EXPECT_EQ(rule.AllHold(controls.map), 0);
+    EXPECT_EQ(Bound().AllHold(), 0);
 }
 
 TEST_F(DependencyRule, MatchesAnEmptyControlByNull)
 {
     controls.Add("A");
     AddCondition(rule.conditions, "A", {"NULL"});
-    EXPECT_EQ(rule.AllHold(controls.map), 1);
+    EXPECT_EQ(Bound().AllHold(), 1);
 }
 
 TEST_F(DependencyRule, SeesAnyChangedControl)
 {
     controls.Add("A");
     RecordingControl& control = controls.Add("B");
-    EXPECT_EQ(rule.AnyChanged(controls.map), 0);
+    EXPECT_EQ(Bound().AnyChanged(), 0);
     AddCondition(rule.conditions, "A");
     AddCondition(rule.conditions, "B");
-    EXPECT_EQ(rule.AnyChanged(controls.map), 0);
+    EXPECT_EQ(Bound().AnyChanged(), 0);
     control.isChanged = 7;
-    EXPECT_EQ(rule.AnyChanged(controls.map), 1);
+    EXPECT_EQ(Bound().AnyChanged(), 1);
 }
 
 TEST_F(DependencyRule, SeesNoChangeBehindAnUnknownControl)
@@ -181,7 +193,7 @@ TEST_F(DependencyRule, SeesNoChangeBehindAnUnknownControl)
     controls.Add("A").isChanged = 1;
     AddCondition(rule.conditions, "Unknown");
     AddCondition(rule.conditions, "A");
-    EXPECT_EQ(rule.AnyChanged(controls.map), 0);
+    EXPECT_EQ(Bound().AnyChanged(), 0);
 }
 
 TEST_F(DependencyRule, SavesTheStatesOfItsConditionsControls)
@@ -191,7 +203,7 @@ TEST_F(DependencyRule, SavesTheStatesOfItsConditionsControls)
     AddCondition(rule.conditions, "A");
     AddCondition(rule.conditions, "Unknown");
     AddCondition(rule.conditions, "B");
-    rule.SaveStates(controls.map);
+    Bound().SaveStates();
     EXPECT_EQ(controls.TakeLog(), "A.save() B.save() ");
 }
 

@@ -12,7 +12,8 @@ class ControlFill : public testing::Test
 protected:
     std::string Apply(const char* piece)
     {
-        fill.Apply(piece, controls.map);
+        fill.Bind(controls.map);
+        fill.Apply(piece);
         return controls.TakeLog();
     }
 
@@ -40,7 +41,8 @@ protected:
     }
     std::string Apply(const char* piece)
     {
-        rule.ApplyFills(piece, controls.map);
+        rule.Bind(controls.map);
+        rule.ApplyFills(piece);
         return controls.TakeLog();
     }
 

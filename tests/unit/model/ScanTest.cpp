@@ -47,10 +47,11 @@ protected:
             from = to;
         }
     }
-    // What the run does, from the state "Start".
-    std::string Run(const char* text)
+    // What the run does, from the state of that name.
+    std::string Run(const CString& text, const char* start = "Start")
     {
-        part.Run(text, "Start", controls.map);
+        part.Bind(controls.map);
+        part.Run(text, start);
         return controls.TakeLog();
     }
 
@@ -251,8 +252,7 @@ TEST_F(Scan, EndsAtEndOrAnUnknownName)
     EXPECT_EQ(Run("a,b"), "Start.set(a) ");
     Cut("Start", {",", "Nowhere"});
     EXPECT_EQ(Run("a,b"), "Start.set(a) ");
-    part.Run("a,b", "Nowhere", controls.map);
-    EXPECT_EQ(controls.TakeLog(), "");
+    EXPECT_EQ(Run("a,b", "Nowhere"), "");
 }
 
 TEST_F(Scan, DoesNothingWithoutStatements)
@@ -341,7 +341,7 @@ TEST_F(Scan, WorksOnItsOwnCopyOfTheText)
     Cut("Start", {",", "B"});
     Cut("B", {"|", "End"});
     CString text = "a,b";
-    part.Run(text, "Start", controls.map);
+    Run(text);
     EXPECT_EQ(text, "a,b");
 }
 
