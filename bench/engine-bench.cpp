@@ -2,6 +2,7 @@
 #include "MedianTable.h"
 
 #include "environment/ProcessState.h"
+#include "model/ClytObserver.h"
 #include "support/DescriptionText.h"
 #include "support/HeadlessForm.h"
 #include "support/TestFolder.h"
@@ -138,6 +139,33 @@ void RunRules(benchmark::State& state)
         form.RunDependencies();
 }
 
+// Counts what it hears of a run.
+class Listener final : public ClytObserver
+{
+public:
+    Listener() { lytObserver = this; }
+    Listener(const Listener&) = delete;
+    Listener& operator=(const Listener&) = delete;
+    ~Listener() { lytObserver = nullptr; }
+
+    void ConditionTested(const ClytControlDep& /*rule*/, const ClytCtrlValList& /*condition*/,
+                         ClytTested /*result*/) override
+    {
+        ++m_count;
+    }
+    void StateSet(const ClytControlDep& /*rule*/, int /*on*/) override { ++m_count; }
+    void EventDecided(const ClytControlDep& /*rule*/, ClytEvent /*event*/) override { ++m_count; }
+
+private:
+    size_t m_count = 0;
+};
+
+void RunRulesWithListener(benchmark::State& state)
+{
+    const Listener listener;
+    RunRules(state);
+}
+
 // A form that scans pieces of text into fields in turn, and composes 25 fields.
 HeadlessForm& TextForm()
 {
@@ -192,7 +220,10 @@ void RegisterAll()
         benchmark::RegisterBenchmark("form", BuildForm)->Arg(count);
     }
     for (const int count : ruleCounts)
+    {
         benchmark::RegisterBenchmark("rules", RunRules)->Arg(count);
+        benchmark::RegisterBenchmark("listened", RunRulesWithListener)->Arg(count);
+    }
     for (const int size : textSizes)
     {
         benchmark::RegisterBenchmark("scan", ScanText)->Arg(size);
@@ -217,12 +248,15 @@ void PrintReading(const Medians& medians)
 
 void PrintRules(const Medians& medians)
 {
-    std::printf("\nA run of the rules                (aim: per rule level)\n");
-    std::printf("%10s %12s %12s\n", "rules", "us", "ns a rule");
+    std::printf("\nA run of the rules                (aim: per rule level, and a listener costs little)\n");
+    std::printf("%10s %12s %12s %16s %8s\n", "rules", "us", "ns a rule", "with listener us", "ratio");
     for (const int count : ruleCounts)
     {
-        const double run = medians.Of("rules/" + std::to_string(count));
-        std::printf("%10d %12.2f %12.1f\n", count, run / 1000, run / count);
+        const std::string size = "/" + std::to_string(count);
+        const double run = medians.Of("rules" + size);
+        const double listened = medians.Of("listened" + size);
+        std::printf("%10d %12.2f %12.1f %16.2f %8.2f\n", count, run / 1000, run / count, listened / 1000,
+                    listened / run);
     }
 }
 

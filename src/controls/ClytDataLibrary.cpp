@@ -25,5 +25,7 @@ bool ClytDataLibrary::Load(const CString& name)
 {
     if (module == nullptr)
         module = lytLoadLibrary(name);
+    if (module == nullptr)
+        lytTellMissing(ClytMissing::Library, name);
     return module != nullptr;
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "base/PartnerLibrary.h"
+#include "model/ClytObserver.h"
 
 #include "lytdata.h"
 
@@ -52,7 +53,10 @@ public:
     template <class FUNCTION>
     FUNCTION* Find(const CString& name) const
     {
-        return lytFindFunction<FUNCTION>(module, name);
+        auto* found = lytFindFunction<FUNCTION>(module, name);
+        if (found == nullptr)
+            lytTellMissing(ClytMissing::LibraryFunction, name);
+        return found;
     }
 
 private:

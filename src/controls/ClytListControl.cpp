@@ -3,6 +3,7 @@
 #include "base/ClytRedrawPause.h"
 #include "controls/ClytPushButtonControl.h"
 #include "dlgfile/Tokenize.h"
+#include "model/ClytObserver.h"
 
 template <class WINDOW>
 void ClytListControl<WINDOW>::AddValues(const CString& text, const CString& separators)
@@ -64,6 +65,8 @@ void ClytListControl<WINDOW>::RunDoubleClick()
         this->dialog->OnOK();
     else if (ClytControl* control = this->dialog->FindControl(target))
         lytClickControl(*control, *this->dialog);
+    else
+        lytTellMissing(ClytMissing::DoubleClickTarget, target, this);
 }
 
 template <class WINDOW>

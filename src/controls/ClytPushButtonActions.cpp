@@ -7,6 +7,7 @@
 #include "controls/ClytWaitCursor.h"
 #include "environment/ClytEnvironment.h"
 #include "environment/ProcessState.h"
+#include "model/ClytObserver.h"
 
 struct ClytPushButtonControl::Action
 {
@@ -70,7 +71,7 @@ ClytPushButtonControl::After ClytPushButtonControl::ToggleActive()
 ClytPushButtonControl::After ClytPushButtonControl::AddShownText()
 {
     ClytControl* source = Target();
-    ClytControl* target = dialog->FindControl(action.GetValues().GetTail());
+    ClytControl* target = Find(action.GetValues().GetTail());
     // The source is asked twice, as one with a side effect may notice.
     if (source != nullptr && target != nullptr && !source->GetDisplayValue().IsEmpty())
         target->AddItem(CString(), source->GetDisplayValue(), 0, 0);
@@ -155,7 +156,10 @@ ClytPushButtonControl::After ClytPushButtonControl::OpenDialog()
         lytInputKey = input;
     // A description refuses to open its dialog by composing nothing.
     if (!outputRule.IsEmpty() && lytInputKey.IsEmpty())
+    {
+        lytTellMissing(ClytMissing::NestedDialog, Value(0), this);
         return After::Nothing;
+    }
 
     const std::optional<CString> result = dialog->ShowNested(file);
     if (!result)
@@ -172,9 +176,12 @@ CString ClytPushButtonControl::Value(int index) const
     return values.GetAt(values.FindIndex(index));
 }
 
-ClytControl* ClytPushButtonControl::Target() const
+ClytControl* ClytPushButtonControl::Find(const CString& target) const
 {
-    return dialog->FindControl(Value(0));
+    ClytControl* found = dialog->FindControl(target);
+    if (found == nullptr)
+        lytTellMissing(ClytMissing::ButtonTarget, target, this);
+    return found;
 }
 
 // The button shows its caption and the text of the second value in turn.

@@ -52,7 +52,8 @@ private:
     // The n-th value of the statement, from 0; a missing one raises the invalid-argument exception.
     CString Value(int index) const;
     // The control that the first value names, or null.
-    ClytControl* Target() const;
+    ClytControl* Target() const { return Find(Value(0)); }
+    ClytControl* Find(const CString& target) const;
     void ToggleCaption();
     void FocusNextControl() const;
 

@@ -4,6 +4,7 @@
 #include "base/Words.h"
 #include "environment/ClytException.h"
 #include "environment/ProcessState.h"
+#include "model/ClytObserver.h"
 
 #include <list>
 #include <utility>
@@ -38,10 +39,17 @@ public:
           m_depth(m_outer != nullptr ? m_outer->m_depth + 1 : 1),
           m_readsBefore(owner.readDepth)
     {
+        if (lytObserver != nullptr)
+            lytObserver->RunBegan(m_depth);
     }
     Run(const Run&) = delete;
     Run& operator=(const Run&) = delete;
-    ~Run() { m_owner.innermostRun = m_outer; }
+    ~Run()
+    {
+        m_owner.innermostRun = m_outer;
+        if (lytObserver != nullptr)
+            lytObserver->RunEnded(m_depth);
+    }
 
     // A value that was being read when the run began is not this run's concern.
     bool IsReading() const { return m_owner.readDepth > m_readsBefore; }
@@ -131,19 +139,32 @@ void ClytDialogRules::SaveBaseline()
         dependencyList.GetNext(place)->SaveStates();
 }
 
-// What a rule does to its control sends commands, and so further runs take place inside this one. An event rule that
-// is being carried out is left out of them, or a field that fills itself would never come to an end.
 void ClytDialogRules::RunRule(ClytControlDep& rule)
 {
-    ClytControl* control = rule.GetControl();
-    if (!rule.IsEventRule())
-        control->SetState(rule.stateWord, AllConditionsHold(rule));
-    else if (rule.runCount == 0)
+    if (rule.IsEventRule())
     {
-        const Counted running(rule.runCount);
-        if (rule.AnyChanged() != 0)
-            control->DoAction(rule.stateWord);
+        RunEventRule(rule);
+        return;
     }
+    const int on = AllConditionsHold(rule);
+    if (lytObserver != nullptr)
+        lytObserver->StateSet(rule, on);
+    rule.GetControl()->SetState(rule.stateWord, on);
+}
+
+// What a rule does to its control sends commands, and so further runs take place inside this one. An event rule that
+// is being carried out is left out of them, or a field that fills itself would never come to an end.
+void ClytDialogRules::RunEventRule(ClytControlDep& rule)
+{
+    const bool isInProgress = rule.runCount != 0;
+    const Counted running(rule.runCount);
+    const ClytEvent event = isInProgress             ? ClytEvent::InProgress
+                            : rule.AnyChanged() != 0 ? ClytEvent::Acts
+                                                     : ClytEvent::NothingChanged;
+    if (lytObserver != nullptr)
+        lytObserver->EventDecided(rule, event);
+    if (event == ClytEvent::Acts)
+        rule.GetControl()->DoAction(rule.stateWord);
 }
 
 int ClytDialogRules::AllConditionsHold(const ClytControlDep& rule)
@@ -168,7 +189,10 @@ int ClytDialogRules::RunInput(const CString& partName, const CString& text)
 {
     ClytInputPart* part = nullptr;
     if (!inputMap.Lookup(partName, part))
+    {
+        lytTellMissing(ClytMissing::InputPart, partName);
         return 0;
+    }
     part->Run(text, lytStartName);
     return 1;
 }
@@ -194,7 +218,10 @@ int ClytDialogRules::ComposeResult()
     lytTreeConfirmCount = 0;
     ClytOutput* group = nullptr;
     if (!outputMap.Lookup(lytParentName, group))
+    {
+        lytTellMissing(ClytMissing::OutputGroup, lytParentName);
         return 0;
+    }
     try
     {
         return ComposeOutput(*group, result, 1);

@@ -106,9 +106,10 @@ private:
     void TakeHeaderWords(CStringList& words);
 
     void RunRule(ClytControlDep& rule);
+    static void RunEventRule(ClytControlDep& rule);
     void SaveBaseline();
     int AllConditionsHold(const ClytControlDep& rule);
-    bool HoldsForOutput(const ClytConditions& conditions);
+    bool HoldsForOutput(const ClytDialogOutput& rule);
     void TakeItem(ClytControl& control, const CString& action, CString& item);
 
     ClytDialogFile file;

@@ -4,6 +4,7 @@
 #include "base/Counted.h"
 #include "base/Words.h"
 #include "environment/ClytException.h"
+#include "model/ClytObserver.h"
 
 namespace
 {
@@ -62,31 +63,45 @@ private:
     int place = 0;
 };
 
+ClytTested Test(const ClytCtrlValList& condition)
+{
+    ClytControl* control = condition.GetControl();
+    if (control == nullptr)
+        return ClytTested::UnknownControl;
+    if (control->IsActive() == 0)
+        return ClytTested::Inactive;
+    const bool isAnyValue = condition.GetValues().IsEmpty();
+    return isAnyValue || condition.Contains(control->GetValue()) != 0 ? ClytTested::Holds : ClytTested::NotListed;
+}
+
 } // namespace
 
 const ClytDialogOutput* ClytDialogRules::SelectRule(const ClytOutput& group)
 {
-    for (POSITION place = group.rules.GetHeadPosition(); place != nullptr;)
+    const ClytDialogOutput* chosen = nullptr;
+    for (POSITION place = group.rules.GetHeadPosition(); place != nullptr && chosen == nullptr;)
     {
         const ClytDialogOutput* rule = group.rules.GetNext(place);
-        if (HoldsForOutput(rule->conditions))
-            return rule;
+        if (HoldsForOutput(*rule))
+            chosen = rule;
     }
-    return nullptr;
+    if (lytObserver != nullptr)
+        lytObserver->OutputChosen(chosen);
+    return chosen;
 }
 
-bool ClytDialogRules::HoldsForOutput(const ClytConditions& conditions)
+bool ClytDialogRules::HoldsForOutput(const ClytDialogOutput& rule)
 {
     const Counted read(readDepth);
-    for (POSITION place = conditions.GetHeadPosition(); place != nullptr;)
+    for (POSITION place = rule.conditions.GetHeadPosition(); place != nullptr;)
     {
-        const ClytCtrlValList& condition = *conditions.GetNext(place);
-        ClytControl* control = condition.GetControl();
-        if (control == nullptr)
+        const ClytCtrlValList& condition = *rule.conditions.GetNext(place);
+        const ClytTested tested = Test(condition);
+        if (lytObserver != nullptr)
+            lytObserver->OutputConditionTested(rule, condition, tested);
+        if (tested == ClytTested::UnknownControl)
             lytRaise("245", CString(), condition.GetName());
-        if (control->IsActive() == 0)
-            return false;
-        if (!condition.GetValues().IsEmpty() && condition.Contains(control->GetValue()) == 0)
+        if (tested != ClytTested::Holds)
             return false;
     }
     return true;
@@ -138,7 +153,10 @@ void ClytDialogRules::TakeItem(ClytControl& control, const CString& action, CStr
 int ClytDialogRules::ComposeNamedOutput(const CString& groupName, CString& target)
 {
     ClytOutput* group = nullptr;
-    return outputMap.Lookup(groupName, group) ? ComposeOutput(*group, target, 0) : 0;
+    if (outputMap.Lookup(groupName, group))
+        return ComposeOutput(*group, target, 0);
+    lytTellMissing(ClytMissing::OutputGroup, groupName);
+    return 0;
 }
 
 // In a format with any `%`, an ordinary `s` takes an item as `%s` does, and an ordinary point is a limit without its

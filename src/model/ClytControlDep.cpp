@@ -1,6 +1,35 @@
 #include "model/ClytControlDep.h"
 
 #include "model/ClytControl.h"
+#include "model/ClytObserver.h"
+
+namespace
+{
+
+ClytTested TestState(const ClytCtrlValList& condition)
+{
+    ClytControl* control = condition.GetControl();
+    if (control == nullptr)
+        return ClytTested::UnknownControl;
+    if (control->IsActive() == 0 && !control->IsExemptFromActive())
+        return ClytTested::Inactive;
+    if (condition.GetValues().IsEmpty())
+        return ClytTested::Holds;
+    // The last value decides, so a "NOTNULL" further to the front is a value like any other.
+    if (condition.AsksForContent())
+        return control->HasContent() != 0 ? ClytTested::HasContent : ClytTested::IsEmpty;
+    return condition.Contains(control->GetValue()) != 0 ? ClytTested::Holds : ClytTested::NotListed;
+}
+
+ClytTested TestChange(const ClytCtrlValList& condition)
+{
+    ClytControl* control = condition.GetControl();
+    if (control == nullptr)
+        return ClytTested::UnknownControl;
+    return control->IsChanged() != 0 ? ClytTested::Changed : ClytTested::Unchanged;
+}
+
+} // namespace
 
 void ClytControlDep::Bind(const ClytControlMap& controls)
 {
@@ -19,19 +48,12 @@ int ClytControlDep::AllHold() const
     for (POSITION place = conditions.GetHeadPosition(); place != nullptr;)
     {
         const ClytCtrlValList& condition = *conditions.GetNext(place);
-        ClytControl* asked = condition.GetControl();
-        if (asked == nullptr)
-            continue;
-        if (asked->IsActive() == 0 && !asked->IsExemptFromActive())
-            return 0;
-        const CStringList& values = condition.GetValues();
-        if (values.IsEmpty())
-            continue;
-        // The last value decides, so a "NOTNULL" further to the front is a value like any other; and conditions behind
-        // this one are not looked at.
-        if (lytMeans<ClytValueWord::NotNull>(values.GetTail()))
-            return asked->HasContent();
-        if (condition.Contains(asked->GetValue()) == 0)
+        const ClytTested result = TestState(condition);
+        if (lytObserver != nullptr)
+            lytObserver->ConditionTested(*this, condition, result);
+        if (result == ClytTested::HasContent)
+            return 1;
+        if (result != ClytTested::Holds && result != ClytTested::UnknownControl)
             return 0;
     }
     return 1;
@@ -41,11 +63,12 @@ int ClytControlDep::AnyChanged() const
 {
     for (POSITION place = conditions.GetHeadPosition(); place != nullptr;)
     {
-        ClytControl* asked = conditions.GetNext(place)->GetControl();
-        if (asked == nullptr)
-            return 0;
-        if (asked->IsChanged() != 0)
-            return 1;
+        const ClytCtrlValList& condition = *conditions.GetNext(place);
+        const ClytTested result = TestChange(condition);
+        if (lytObserver != nullptr)
+            lytObserver->ConditionTested(*this, condition, result);
+        if (result != ClytTested::Unchanged)
+            return result == ClytTested::Changed ? 1 : 0;
     }
     return 0;
 }

@@ -9,6 +9,7 @@ void ClytCtrlValList::CopyFrom(const ClytCtrlValList& other)
         return;
     SetName(other.controlName, other.span);
     control = other.control;
+    asksForContent = other.asksForContent;
     values.RemoveAll();
     for (POSITION place = other.values.GetHeadPosition(); place != nullptr;)
         values.AddTail(other.values.GetNext(place));
@@ -18,6 +19,7 @@ void ClytCtrlValList::Bind(const ClytControlMap& controls)
 {
     control = nullptr;
     controls.Lookup(controlName, control);
+    asksForContent = !values.IsEmpty() && lytMeans<ClytValueWord::NotNull>(values.GetTail());
 }
 
 int ClytCtrlValList::Contains(const CString& value) const

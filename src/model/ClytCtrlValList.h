@@ -25,10 +25,13 @@ public:
     const ClytSpan& GetSpan() const { return span; }
     CStringList& GetValues() { return values; }
     const CStringList& GetValues() const { return values; }
-    // Looks the control up. A condition that is not bound counts as one on an unknown control.
+    // Looks the control up, once the values are there. A condition that is not bound counts as one on an unknown
+    // control.
     void Bind(const ClytControlMap& controls);
     // Null for an unknown control.
     ClytControl* GetControl() const { return control; }
+    // Whether the last value is "NOTNULL".
+    bool AsksForContent() const { return asksForContent; }
     // Takes over another list's name, control and values as copies.
     void CopyFrom(const ClytCtrlValList& other);
 
@@ -40,6 +43,7 @@ public:
 private:
     CString controlName;
     ClytControl* control = nullptr; // the form's, which outlives its rules' use
+    bool asksForContent = false;
     CStringList values;
     ClytSpan span;
 };

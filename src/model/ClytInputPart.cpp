@@ -40,7 +40,10 @@ void ClytInputPart::Run(CString text, const CString& name) const
     {
         const ClytDialogInput* statement = Find(next);
         if (statement == nullptr)
+        {
+            lytTellMissing(ClytMissing::InputStatement, next);
             return;
+        }
         const char* before = scanner.GetRest();
         next = RunStatement(*statement, scanner);
         idle = scanner.GetRest() == before ? idle + 1 : 0;

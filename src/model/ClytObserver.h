@@ -1,13 +1,18 @@
-// Listens to what a dialog does without a word: what it passes over, how it scans its input. The library has no
-// listener, and then each of these places costs a test of one pointer; a tool sets one while it works.
+// Listens to what a dialog does without a word: what it passes over, how it scans its input, runs its rules, chooses its
+// output, and what it looks for in vain. The library has no listener, and then each of these places costs a test of one
+// pointer; a tool sets one while it works.
 #pragma once
 
 #include "base/ClytSpan.h"
 
 #include <afx.h>
 
+class ClytControl;
+class ClytControlDep;
 class ClytControlFill;
+class ClytCtrlValList;
 class ClytDialogInput;
+class ClytDialogOutput;
 
 // What of a description is passed over because a word or name in it is unknown.
 enum class ClytPassedOver
@@ -19,20 +24,86 @@ enum class ClytPassedOver
     Fill
 };
 
+// What the test of a condition came to.
+enum class ClytTested
+{
+    Holds,
+    UnknownControl, // a state rule passes the condition over, an event rule ends with it, an output rule raises 245
+    Inactive,
+    NotListed,
+    HasContent, // "NOTNULL" decided: the rule holds, and later conditions are not looked at
+    IsEmpty,    // "NOTNULL" decided: the rule does not hold
+    Changed,
+    Unchanged
+};
+
+// What came of an event rule.
+enum class ClytEvent
+{
+    Acts,
+    NothingChanged,
+    InProgress // a run inside its own action leaves it out
+};
+
+// What a dialog at work looked for in vain.
+enum class ClytMissing
+{
+    ButtonTarget,
+    DoubleClickTarget,
+    NestedDialog, // it exists, but its output rule composed nothing for it, and so it does not open
+    OutputGroup,
+    InputPart,
+    InputStatement, // a scan ends there
+    Library,
+    LibraryFunction
+};
+
+// A listener overrides what it wants to hear. It throws nothing and leaves the dialog as it is.
 class ClytObserver
 {
 public:
-    virtual void PassedOver(ClytPassedOver what, const CString& name, const ClytSpan& place) = 0;
+    virtual void PassedOver(ClytPassedOver /*what*/, const CString& /*name*/, const ClytSpan& /*place*/) {}
+    // The control that looked for it is null where the dialog itself did, or where it is not known.
+    virtual void Missed(ClytMissing /*what*/, const CString& /*name*/, const ClytControl* /*control*/) {}
+
     // A statement cut a piece off the input; `rest` is what follows it.
-    virtual void Cut(const ClytDialogInput& statement, const CString& piece, const char* rest,
-                     const CString& nextStatement) = 0;
+    virtual void Cut(const ClytDialogInput& /*statement*/, const CString& /*piece*/, const char* /*rest*/,
+                     const CString& /*nextStatement*/)
+    {
+    }
     // A statement without a scan decided where the run goes on.
-    virtual void Jumped(const ClytDialogInput& statement, const CString& nextStatement) = 0;
+    virtual void Jumped(const ClytDialogInput& /*statement*/, const CString& /*nextStatement*/) {}
     // A fill rule put a text into its control.
-    virtual void Filled(const ClytControlFill& fill, const CString& piece) = 0;
+    virtual void Filled(const ClytControlFill& /*fill*/, const CString& /*piece*/) {}
+
+    // A run of the rules, counted from 1 as they stand one inside the other. It ends on every way out.
+    virtual void RunBegan(int /*depth*/) {}
+    virtual void RunEnded(int /*depth*/) {}
+    // Of the conditions of a rule, those that were looked at are told in their order, and then what comes of the rule,
+    // before it is done: doing it may begin a run inside this one.
+    virtual void ConditionTested(const ClytControlDep& /*rule*/, const ClytCtrlValList& /*condition*/,
+                                 ClytTested /*result*/)
+    {
+    }
+    virtual void StateSet(const ClytControlDep& /*rule*/, int /*on*/) {}
+    virtual void EventDecided(const ClytControlDep& /*rule*/, ClytEvent /*event*/) {}
+
+    // The same for the rules of an output group; the chosen one is null when none holds.
+    virtual void OutputConditionTested(const ClytDialogOutput& /*rule*/, const ClytCtrlValList& /*condition*/,
+                                       ClytTested /*result*/)
+    {
+    }
+    virtual void OutputChosen(const ClytDialogOutput* /*rule*/) {}
 
 protected:
     ~ClytObserver() = default;
 };
 
 inline ClytObserver* lytObserver = nullptr; // outlives what it listens to
+
+// Tells the listener, if there is one, of something that was looked for in vain.
+inline void lytTellMissing(ClytMissing what, const CString& name, const ClytControl* control = nullptr)
+{
+    if (lytObserver != nullptr)
+        lytObserver->Missed(what, name, control);
+}

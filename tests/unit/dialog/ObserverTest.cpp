@@ -1,55 +1,10 @@
 // What a dialog does without a word, as a listener hears it.
 #include "Form.h"
 
-#include "model/ClytControlFill.h"
-#include "model/ClytDialogInput.h"
-#include "model/ClytObserver.h"
+#include "support/RecordingObserver.h"
 
 namespace
 {
-
-const char* NameOf(ClytPassedOver what)
-{
-    switch (what)
-    {
-    case ClytPassedOver::LayoutStatement: return "layout";
-    case ClytPassedOver::ValueStatement: return "value";
-    case ClytPassedOver::DependencyRule: return "rule";
-    case ClytPassedOver::Evaluation: return "evaluation";
-    case ClytPassedOver::Fill: return "fill";
-    }
-    return "";
-}
-
-class Listener final : public ClytObserver
-{
-public:
-    Listener() { lytObserver = this; }
-    Listener(const Listener&) = delete;
-    Listener& operator=(const Listener&) = delete;
-    ~Listener() { lytObserver = nullptr; }
-
-    void PassedOver(ClytPassedOver what, const CString& name, const ClytSpan& place) override
-    {
-        heard += std::string(NameOf(what)) + " " + name.GetString() + " in line " + std::to_string(place.line) + "\n";
-    }
-    void Cut(const ClytDialogInput& statement, const CString& piece, const char* rest,
-             const CString& nextStatement) override
-    {
-        heard += std::string(statement.name) + " cut '" + piece.GetString() + "' before '" + rest + "', on to " +
-                 nextStatement.GetString() + "\n";
-    }
-    void Jumped(const ClytDialogInput& statement, const CString& nextStatement) override
-    {
-        heard += std::string(statement.name) + " on to " + nextStatement.GetString() + "\n";
-    }
-    void Filled(const ClytControlFill& fill, const CString& piece) override
-    {
-        heard += std::string(fill.controlName) + " takes '" + piece.GetString() + "'\n";
-    }
-
-    std::string heard;
-};
 
 class Observer : public FormTest
 {
@@ -60,7 +15,28 @@ protected:
         text.input = "Start: x = End\n";
     }
 
-    Listener listener;
+    // What is heard while a user enters something, or while a group is composed.
+    std::string Enter(const char* control, const char* input)
+    {
+        observer.TakeHeard();
+        form->Enter(control, input);
+        return observer.TakeHeard();
+    }
+    std::string Composed(const char* group)
+    {
+        observer.TakeHeard();
+        Compose(group);
+        return observer.TakeHeard();
+    }
+
+    RecordingObserver observer;
+};
+
+// The fields A, B and C.
+class RuleObserver : public Observer
+{
+protected:
+    RuleObserver() { text.layout += "TextBox 1, 2, 3, 4, .B\nTextBox 1, 2, 3, 4, .C\n"; }
 };
 
 } // namespace
@@ -72,24 +48,29 @@ TEST_F(Observer, HearsOfStatementsThatNameNothingKnown)
     text.dependencies = "D/ACTIVE = A\n\n; note\nE/ACTIVE = A\n";
     text.evaluation = "F(1)\n";
     Open();
-    EXPECT_EQ(listener.heard, "layout TextBocks in line 5\n"
-                              "value C in line 8\n"
-                              "rule D in line 10\n"
-                              "rule E in line 13\n"
-                              "evaluation F in line 15\n"
-                              "Start on to End\n");
+    EXPECT_EQ(observer.TakeHeard(), "layout TextBocks in line 5\n"
+                                    "value C in line 8\n"
+                                    "rule D in line 10\n"
+                                    "rule E in line 13\n"
+                                    "evaluation F in line 15\n"
+                                    "Start on to End\n"
+                                    "run 1\n"
+                                    "end 1\n");
 }
 
 TEST_F(Observer, HearsEachStepOfTheScan)
 {
     text.input = "Start: (\";\", Second, Rest, End = A\nSecond: (2, Third = A, G\nThird: A(bc) = Fourth, End\n";
     Open("a;bcd");
-    EXPECT_EQ(listener.heard, "Start cut 'a' before 'bcd', on to Second\n"
-                              "A takes 'a'\n"
-                              "Second cut 'bc' before 'd', on to Third\n"
-                              "A takes 'bc'\n"
-                              "fill G in line 11\n"
-                              "Third on to Fourth\n");
+    EXPECT_EQ(observer.TakeHeard(), "Start cut 'a' before 'bcd', on to Second\n"
+                                    "A takes 'a'\n"
+                                    "Second cut 'bc' before 'd', on to Third\n"
+                                    "A takes 'bc'\n"
+                                    "fill G in line 11\n"
+                                    "Third on to Fourth\n"
+                                    "no statement Fourth\n"
+                                    "run 1\n"
+                                    "end 1\n");
 }
 
 TEST_F(Observer, HearsNothingOfBlankLines)
@@ -98,5 +79,89 @@ TEST_F(Observer, HearsNothingOfBlankLines)
     text.dependencies = "\n; note\n";
     text.evaluation = "\n; note\n";
     Open();
-    EXPECT_EQ(listener.heard, "Start on to End\n");
+    EXPECT_EQ(observer.TakeHeard(), "Start on to End\nrun 1\nend 1\n");
+}
+
+TEST_F(RuleObserver, HearsWhatEachConditionCameToAndWhatWasSet)
+{
+    text.values = "B = b\nC = INACTIVE\n";
+    text.dependencies = "A/ACTIVE = Unknown(x), B(a, b)\nA/VISIBLE = B(x), A\nB/ACTIVE = C\nB/VISIBLE =\n";
+    Open();
+    EXPECT_EQ(observer.TakeHeard(), "Start on to End\n"
+                                    "run 1\n"
+                                    "A/ACTIVE asks Unknown: unknown control\n"
+                                    "A/ACTIVE asks B: holds\n"
+                                    "A/ACTIVE set to 1\n"
+                                    "A/VISIBLE asks B: not listed\n"
+                                    "A/VISIBLE set to 0\n"
+                                    "B/ACTIVE asks C: inactive\n"
+                                    "B/ACTIVE set to 0\n"
+                                    "B/VISIBLE set to 1\n"
+                                    "end 1\n");
+}
+
+TEST_F(RuleObserver, HearsThatNotNullDecides)
+{
+    text.dependencies = "B/ACTIVE = A(NOTNULL), B(never)\n";
+    Open();
+    EXPECT_EQ(Enter("A", "x"), "run 1\nB/ACTIVE asks A: has content\nB/ACTIVE set to 1\nend 1\n");
+    EXPECT_EQ(Enter("A", ""), "run 1\nB/ACTIVE asks A: is empty\nB/ACTIVE set to 0\nend 1\n");
+}
+
+TEST_F(RuleObserver, HearsWhichChangeSetsAnEventRuleOffAndTheRunInside)
+{
+    text.dependencies = "C/CLEAR = B, A\nB/CLEAR = Unknown, A\n";
+    Open();
+    EXPECT_EQ(Enter("A", "x"), "run 1\n"
+                               "C/CLEAR asks B: unchanged\n"
+                               "C/CLEAR asks A: changed\n"
+                               "C/CLEAR acts\n"
+                               "run 2\n"
+                               "C/CLEAR is in progress\n"
+                               "B/CLEAR asks Unknown: unknown control\n"
+                               "B/CLEAR finds nothing changed\n"
+                               "end 2\n"
+                               "B/CLEAR asks Unknown: unknown control\n"
+                               "B/CLEAR finds nothing changed\n"
+                               "end 1\n");
+}
+
+TEST_F(RuleObserver, HearsTheEndOfARunThatFails)
+{
+    text.dependencies = "B/FILL = A\n";
+    Open();
+    auto* edit = dynamic_cast<HeadlessEdit*>(form->Control("B"));
+    ASSERT_NE(edit, nullptr);
+    edit->library = [](const CString&) -> CString { AfxThrowInvalidArgException(); };
+    observer.TakeHeard();
+    EXPECT_EQ(RaisedMessage([&] { form->Enter("A", "x"); }), missingArgument);
+    EXPECT_EQ(observer.TakeHeard(), "run 1\nB/FILL asks A: changed\nB/FILL acts\nend 1\n");
+}
+
+TEST_F(RuleObserver, HearsWhichOutputRuleIsChosenAndWhyTheOthersWereNot)
+{
+    text.values = "A = a\nC = INACTIVE\n";
+    text.output =
+        "$OUTPUT, some\nC = (\"one\")\nA(a), B(x) = (\"two\")\nA(x) = (\"three\")\nA(a) = (\"four\")\n(\"five\")\n"
+        "$OUTPUT, none\nA(x) = (\"one\")\n$OUTPUT, wrong\nUnknown = (\"one\")\n(\"two\")\n";
+    Open();
+    EXPECT_EQ(Composed("some"), "output in line 17 asks C: inactive\n"
+                                "output in line 18 asks A: holds\n"
+                                "output in line 18 asks B: not listed\n"
+                                "output in line 19 asks A: not listed\n"
+                                "output in line 20 asks A: holds\n"
+                                "output in line 20\n");
+    EXPECT_EQ(Composed("none"), "output in line 23 asks A: not listed\noutput by no rule\n");
+    EXPECT_EQ(RaisedMessage([&] { Compose("wrong"); }), "245 'Unknown'");
+    EXPECT_EQ(observer.TakeHeard(), "output in line 25 asks Unknown: unknown control\n");
+}
+
+TEST_F(Observer, HearsOfGroupsAndPartsThatAreNotThere)
+{
+    Open();
+    EXPECT_EQ(Composed("absent"), "no output group absent\n");
+    EXPECT_EQ(form->RunInput("absent", "text"), 0);
+    EXPECT_EQ(observer.TakeHeard(), "no input part absent\n");
+    EXPECT_FALSE(form->Confirm());
+    EXPECT_EQ(observer.TakeHeard(), "no output group parent\n");
 }

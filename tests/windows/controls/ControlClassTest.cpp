@@ -11,6 +11,7 @@
 #include "environment/ProcessState.h"
 #include "support/ErrorTexts.h"
 #include "support/RecordedMessages.h"
+#include "support/RecordingObserver.h"
 
 #include <gtest/gtest.h>
 
@@ -101,6 +102,45 @@ TEST_F(ControlClass, ADoubleClickWithoutATargetRaisesTheInvalidArgument)
     list.CreateControl(&dialog);
     list.SendMessage(WM_LBUTTONDBLCLK);
     EXPECT_EQ(TakeMessages(), (Texts{missingArgument}));
+}
+
+TEST_F(ControlClass, AListenerHearsOfATargetThatIsNotThere)
+{
+    ClytPushButtonControl button("Push", origin, extent, CString());
+    button.CreateControl(&dialog);
+    RecordingObserver observer;
+    for (const char* word : {"VISIBLE", "ACTIVE", "DELETE", "UP", "DOWN", "FILL"})
+    {
+        SCOPED_TRACE(word);
+        button.SetOption(ListOf(values, "Absent"), word);
+        lytClickControl(button, dialog);
+        EXPECT_EQ(observer.TakeHeard(), "no target Absent for Push\nrun 1\nend 1\n");
+    }
+    button.SetOption(ListOf(values, "Absent"), "ADD");
+    lytClickControl(button, dialog);
+    EXPECT_EQ(observer.TakeHeard(), "no target Absent for Push\nno target Absent for Push\nrun 1\nend 1\n");
+}
+
+TEST_F(ControlClass, AListenerHearsOfADoubleClicksTargetThatIsNotThere)
+{
+    ClytListBoxControl list("List", origin, extent, CString());
+    list.SetOption(ListOf(values, "Absent"), "DBLCLICK");
+    list.CreateControl(&dialog);
+    RecordingObserver observer;
+    list.SendMessage(WM_LBUTTONDBLCLK);
+    EXPECT_EQ(observer.TakeHeard(), "no double click's target Absent for List\n");
+}
+
+TEST_F(ControlClass, AListenerHearsOfANestedDialogThatRefusesToOpen)
+{
+    ClytPushButtonControl button("Push", origin, extent, CString());
+    ListOf(values, "Nested").AddTail("Part");
+    values.AddTail("Group");
+    button.SetOption(values, "DIALOG");
+    button.CreateControl(&dialog);
+    RecordingObserver observer;
+    lytClickControl(button, dialog);
+    EXPECT_EQ(observer.TakeHeard(), "no output group Group\nno nested dialog Nested for Push\n");
 }
 
 TEST_F(ControlClass, AnItemThatOnlyTheWindowHasRaisesTheInvalidArgument)
@@ -223,4 +263,15 @@ TEST(DataListing, ThatDoesNotEndCountsAsEnded)
     EXPECT_EQ(delivered, 1'000'000);
     EXPECT_EQ(calls, 1'000'000);
     EXPECT_FALSE(listing.Next());
+}
+
+TEST(DataLibrary, TellsAListenerWhatIsNotThere)
+{
+    RecordingObserver observer;
+    ClytDataLibrary library;
+    EXPECT_FALSE(library.Load("absent.dll"));
+    EXPECT_EQ(observer.TakeHeard(), "no library absent.dll\n");
+    ASSERT_TRUE(library.Load("nasty.dll"));
+    EXPECT_EQ(library.Find<lytDataText>("Absent"), nullptr);
+    EXPECT_EQ(observer.TakeHeard(), "no function Absent\n");
 }
