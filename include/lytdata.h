@@ -32,17 +32,20 @@
 
 #define LYT_DATA_SIZE 256
 
+/* NOLINTBEGIN(modernize-use-using): these serve partners in C, too. */
+
 /* Opens a listing. It returns nothing: a listing that cannot be opened simply has no first item. */
 typedef void lytDataStart(const char* parameter);
 
 /* Delivers one item: the text to show and the value that the control gives back. Nonzero with an item, 0 after the
  * last; a listing ends after 1,000,000 items, whatever the function says. The buffers are empty at the first call and are
- * not cleared between calls: a buffer that is left alone repeats
- * the item before it. */
+ * not cleared between calls: a buffer that is left alone repeats the item before it. */
 typedef int lytDataNext(char* display, int size, char* value, int valueSize);
 
 /* Answers one text. The buffer is empty when the function is called; what is returned is not looked at. As the function
  * of an action, its text is scanned into the dialog only after a tree browser was confirmed. */
 typedef int lytDataText(const char* parameter, char* text, int size);
+
+/* NOLINTEND(modernize-use-using) */
 
 #endif

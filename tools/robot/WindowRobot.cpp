@@ -45,9 +45,10 @@ std::string ItemOf(HWND list, int index)
     const bool combo = IsCombo(list);
     const LRESULT length = SendMessageA(list, combo ? CB_GETLBTEXTLEN : LB_GETTEXTLEN, static_cast<WPARAM>(index), 0);
     std::string text(static_cast<size_t>(std::max<LRESULT>(length, 0)) + 1, '\0');
-    SendMessageA(list, combo ? CB_GETLBTEXT : LB_GETTEXT, static_cast<WPARAM>(index),
-                 reinterpret_cast<LPARAM>(text.data()));
-    return text.c_str();
+    const LRESULT written = SendMessageA(list, combo ? CB_GETLBTEXT : LB_GETTEXT, static_cast<WPARAM>(index),
+                                         reinterpret_cast<LPARAM>(text.data()));
+    text.resize(static_cast<size_t>(std::max<LRESULT>(written, 0)));
+    return text;
 }
 
 } // namespace
@@ -69,8 +70,9 @@ HWND ActiveDialog()
 std::string TextOf(HWND window)
 {
     std::string text(static_cast<size_t>(SendMessageA(window, WM_GETTEXTLENGTH, 0, 0)) + 1, '\0');
-    SendMessageA(window, WM_GETTEXT, text.size(), reinterpret_cast<LPARAM>(text.data()));
-    return text.c_str();
+    const LRESULT written = SendMessageA(window, WM_GETTEXT, text.size(), reinterpret_cast<LPARAM>(text.data()));
+    text.resize(static_cast<size_t>(written));
+    return text;
 }
 
 std::string ClassOf(HWND window)
