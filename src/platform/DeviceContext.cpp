@@ -132,6 +132,17 @@ HMONITOR MonitorFromWindow(HWND /*window*/, DWORD /*flags*/)
     return nullptr;
 }
 
+int GetSystemMetrics(int index)
+{
+    const Metrics& metrics = CurrentMetrics();
+    switch (index)
+    {
+    case SM_CXMINTRACK: return metrics.minimalWidth;
+    case SM_CYMINTRACK: return metrics.captionHeight + metrics.sizingFrame;
+    default: return 0;
+    }
+}
+
 BOOL GetMonitorInfoA(HMONITOR /*monitor*/, MONITORINFO* info)
 {
     info->rcMonitor = info->rcWork = {0, 0, 1024, 768};

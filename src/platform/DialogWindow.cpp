@@ -23,6 +23,14 @@ bool HasCode(HWND window, UINT code)
 
 } // namespace
 
+// A frame that can be sized keeps room for the buttons of the caption.
+SIZE DialogWindow::Adjusted(SIZE wanted) const
+{
+    if (!HasStyle(WS_THICKFRAME))
+        return wanted;
+    return {std::max(wanted.cx, GetSystemMetrics(SM_CXMINTRACK)), std::max(wanted.cy, GetSystemMetrics(SM_CYMINTRACK))};
+}
+
 LRESULT DialogWindow::Handle(UINT message, WPARAM wParam, LPARAM lParam)
 {
     if (dialogProcedure != nullptr && dialogProcedure(handle, message, wParam, lParam) != FALSE)

@@ -10,6 +10,7 @@ class DialogWindow : public Window
 {
 public:
     LRESULT Handle(UINT message, WPARAM wParam, LPARAM lParam) override;
+    SIZE Adjusted(SIZE wanted) const override;
 
     // The next (previous) child that the tab key reaches, coming from one of the children or from none; null when there
     // is none.

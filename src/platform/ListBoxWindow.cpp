@@ -43,6 +43,7 @@ LRESULT ListBoxWindow::Handle(UINT message, WPARAM wParam, LPARAM lParam)
     case LB_SETITEMDATA:
     case LB_GETCARETINDEX:
     case LB_GETTOPINDEX:
+    case LB_SETTOPINDEX:
     case LB_GETITEMHEIGHT:
     case LB_SETITEMHEIGHT:
     case LB_GETITEMRECT: return HandleItems(message, wParam, lParam);
@@ -76,6 +77,7 @@ LRESULT ListBoxWindow::HandleItems(UINT message, WPARAM wParam, LPARAM lParam)
         return TRUE;
     case LB_GETCARETINDEX: return m_caret;
     case LB_GETTOPINDEX: return m_top;
+    case LB_SETTOPINDEX: m_top = std::clamp(index, 0, LastTop()); return 0;
     case LB_GETITEMHEIGHT: return m_itemHeight;
     case LB_SETITEMHEIGHT: m_itemHeight = std::max(1, static_cast<int>(lParam)); return 0;
     default: return ItemRect(index, *reinterpret_cast<RECT*>(lParam));
@@ -156,9 +158,15 @@ LRESULT ListBoxWindow::Delete(int index)
     if (left >= 0)
     {
         m_caret = std::max(0, std::min(m_caret, left - 1));
-        m_top = std::max(0, std::min(m_top, left - VisibleItems()));
+        m_top = std::min(m_top, LastTop());
     }
     return left;
+}
+
+// The top item when the last one is in view.
+int ListBoxWindow::LastTop() const
+{
+    return std::max(0, m_items.Count() - VisibleItems());
 }
 
 void ListBoxWindow::ShowItem(int index)

@@ -23,6 +23,7 @@ private:
     LRESULT ItemRect(int index, RECT& rect) const;
     LRESULT Select(int index);
     LRESULT Delete(int index);
+    int LastTop() const;
     void ShowItem(int index);
     void TakeKey(WPARAM key);
     void TakeCharacter(WPARAM character);

@@ -24,9 +24,11 @@ std::map<std::string, Library>& Libraries()
     return libraries;
 }
 
+// Without the folder: there is one library of a name.
 std::string PlainName(const char* library)
 {
     std::string name(library);
+    name.erase(0, name.find_last_of("\\/") + 1);
     std::ranges::transform(name, name.begin(), [](unsigned char ch) { return static_cast<char>(std::tolower(ch)); });
     return name.ends_with(".dll") ? name.substr(0, name.size() - 4) : name;
 }
@@ -59,10 +61,25 @@ void RemoveLibrary(const char* library)
 
 } // namespace platform
 
+HMODULE GetModuleHandleA(LPCSTR name)
+{
+    return name != nullptr ? LoadLibraryA(name) : nullptr;
+}
+
 HMODULE LoadLibraryA(LPCSTR name)
 {
     const auto found = platform::Libraries().find(platform::PlainName(name));
-    return found != platform::Libraries().end() ? found->second.handle : nullptr;
+    if (found != platform::Libraries().end())
+        return found->second.handle;
+    SetLastError(ERROR_MOD_NOT_FOUND);
+    return nullptr;
+}
+
+// Every function is part of the program.
+BOOL GetModuleHandleExA(DWORD /*flags*/, LPCSTR /*address*/, HMODULE* module)
+{
+    *module = nullptr;
+    return TRUE;
 }
 
 FARPROC GetProcAddress(HMODULE library, LPCSTR name)

@@ -6,7 +6,7 @@
 namespace platform
 {
 
-// From now on the library is there (its name is compared without case and without ".dll"), and has the function.
+// From now on the library is there (its name is compared without case, folder and ".dll"), and has the function.
 void AddFunctionPointer(const char* library, const char* function, void* pointer);
 template <class FUNCTION>
 void AddFunction(const char* library, const char* name, FUNCTION* function)

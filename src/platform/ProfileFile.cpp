@@ -14,6 +14,11 @@
 namespace
 {
 
+struct CloseFile
+{
+    void operator()(std::FILE* file) const { std::fclose(file); }
+};
+
 struct Line
 {
     bool isComment;
@@ -55,10 +60,6 @@ bool SameName(std::string_view left, std::string_view right)
 // Empty for a file that cannot be read, a folder among them.
 std::string ReadWholeFile(const char* fileName)
 {
-    struct CloseFile
-    {
-        void operator()(std::FILE* file) const { std::fclose(file); }
-    };
     std::string content;
     const std::unique_ptr<std::FILE, CloseFile> file(std::fopen(NativePath(fileName).c_str(), "rb"));
     if (file == nullptr)
@@ -129,7 +130,58 @@ std::string_view Default(std::string_view text)
     return text;
 }
 
+// Where the value of a key is to be written: over the lines of its old value, or at the end of its section.
+struct Place
+{
+    size_t begin = std::string::npos; // npos without the section
+    size_t end = std::string::npos;
+};
+
+Place PlaceOf(std::string_view file, std::string_view section, std::string_view key)
+{
+    Place place;
+    bool inside = false;
+    for (size_t begin = 0; begin < file.size();)
+    {
+        const size_t end = std::min(file.find('\n', begin), file.size() - 1) + 1;
+        const std::string_view text = Trimmed(file.substr(begin, end - begin));
+        std::string_view name;
+        if (IsSectionLine(text, name))
+        {
+            if (inside)
+                return place;
+            inside = SameName(name, section);
+        }
+        else if (inside && !text.empty() && SameName(SplitLine(text).name, key))
+            return {begin, end};
+        if (inside && !text.empty())
+            place = {end, end};
+        begin = end;
+    }
+    return place;
+}
+
+bool WriteWholeFile(const char* fileName, const std::string& content)
+{
+    const std::unique_ptr<std::FILE, CloseFile> file(std::fopen(NativePath(fileName).c_str(), "wb"));
+    return file != nullptr && std::fwrite(content.data(), 1, content.size(), file.get()) == content.size();
+}
+
 } // namespace
+
+BOOL WritePrivateProfileStringA(const char* section, const char* key, const char* value, const char* fileName)
+{
+    std::string file = ReadWholeFile(fileName);
+    if (!file.empty() && file.back() != '\n')
+        file += "\r\n";
+    const std::string line = std::string(key) + "=" + value + "\r\n";
+    const Place place = PlaceOf(file, section, key);
+    if (place.begin == std::string::npos)
+        file += "[" + std::string(section) + "]\r\n" + line;
+    else
+        file.replace(place.begin, place.end - place.begin, line);
+    return WriteWholeFile(fileName, file) ? TRUE : FALSE;
+}
 
 DWORD GetPrivateProfileStringA(const char* section, const char* key, const char* defaultText, char* buffer, DWORD size,
                                const char* fileName)

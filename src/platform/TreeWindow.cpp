@@ -58,7 +58,7 @@ LRESULT TreeWindow::HandleInput(UINT message, WPARAM wParam, LPARAM lParam)
     case WM_LBUTTONDBLCLK: TakeClick(lParam, true); return 0;
     case WM_KEYDOWN: TakeKey(wParam); return 0;
     case WM_CHAR: TakeCharacter(wParam); return 0;
-    case WM_SETFOCUS: Tell(NM_SETFOCUS); return 0;
+    case WM_SETFOCUS: TakeFocus(); return 0;
     case WM_KILLFOCUS: Tell(NM_KILLFOCUS); return 0;
     default: return Window::Handle(message, wParam, lParam);
     }
@@ -133,6 +133,13 @@ size_t TreeWindow::Sibling(size_t item, int step) const
     return here + 1 != row.end() ? *(here + 1) : root;
 }
 
+size_t TreeWindow::RowAfter(size_t item) const
+{
+    const std::vector<size_t> rows = Rows();
+    const auto found = std::ranges::find(rows, item);
+    return found != rows.end() && found + 1 != rows.end() ? *(found + 1) : root;
+}
+
 LRESULT TreeWindow::NextItem(WPARAM relation, size_t item) const
 {
     if (relation == TVGN_ROOT)
@@ -152,6 +159,7 @@ LRESULT TreeWindow::NextItem(WPARAM relation, size_t item) const
     case TVGN_PARENT: return HandleOf(m_items[item].parent);
     case TVGN_NEXT: return HandleOf(Sibling(item, 1));
     case TVGN_PREVIOUS: return HandleOf(Sibling(item, -1));
+    case TVGN_NEXTVISIBLE: return HandleOf(RowAfter(item));
     default: return 0;
     }
 }
@@ -346,6 +354,15 @@ void TreeWindow::TakeClick(LPARAM point, bool isDouble)
     ::SetFocus(handle);
 }
 
+// A tree without a selection selects what stands at its top.
+void TreeWindow::TakeFocus()
+{
+    const std::vector<size_t> rows = Rows();
+    if (m_selected == root && m_top < rows.size())
+        Select(rows[m_top], TVC_UNKNOWN);
+    Tell(NM_SETFOCUS);
+}
+
 void TreeWindow::TakeKey(WPARAM key)
 {
     Tell(TVN_KEYDOWN);
@@ -423,20 +440,25 @@ LRESULT TreeWindow::Tell(UINT code, UINT action, size_t oldItem, size_t newItem)
 namespace
 {
 
-// How many pictures each list holds.
-std::map<HIMAGELIST, int>& ImageLists()
+struct ImageList
 {
-    static std::map<HIMAGELIST, int> lists;
+    SIZE size;
+    int count;
+};
+
+std::map<HIMAGELIST, ImageList>& ImageLists()
+{
+    static std::map<HIMAGELIST, ImageList> lists;
     return lists;
 }
 
 } // namespace
 
-HIMAGELIST ImageList_Create(int /*width*/, int /*height*/, UINT /*flags*/, int /*initialSize*/, int /*growth*/)
+HIMAGELIST ImageList_Create(int width, int height, UINT /*flags*/, int /*initialSize*/, int /*growth*/)
 {
     static uintptr_t lastHandle = 0x1000;
     const auto list = reinterpret_cast<HIMAGELIST>(++lastHandle);
-    ImageLists()[list] = 0;
+    ImageLists()[list] = {{width, height}, 0};
     return list;
 }
 
@@ -448,11 +470,21 @@ BOOL ImageList_Destroy(HIMAGELIST list)
 int ImageList_ReplaceIcon(HIMAGELIST list, int /*index*/, HICON /*icon*/)
 {
     const auto found = ImageLists().find(list);
-    return found != ImageLists().end() ? found->second++ : -1;
+    return found != ImageLists().end() ? found->second.count++ : -1;
 }
 
 int ImageList_GetImageCount(HIMAGELIST list)
 {
     const auto found = ImageLists().find(list);
-    return found != ImageLists().end() ? found->second : 0;
+    return found != ImageLists().end() ? found->second.count : 0;
+}
+
+BOOL ImageList_GetIconSize(HIMAGELIST list, int* width, int* height)
+{
+    const auto found = ImageLists().find(list);
+    if (found == ImageLists().end())
+        return FALSE;
+    *width = found->second.size.cx;
+    *height = found->second.size.cy;
+    return TRUE;
 }

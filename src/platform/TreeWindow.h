@@ -39,6 +39,7 @@ private:
     LRESULT SetItem(const TVITEMA& change);
     LRESULT ItemRect(RECT& rect, bool isLabel) const;
     LRESULT NextItem(WPARAM relation, size_t item) const;
+    size_t RowAfter(size_t item) const;
     size_t Sibling(size_t item, int step) const;
 
     bool Expand(size_t item, UINT action, bool isByUser);
@@ -57,6 +58,7 @@ private:
     int VisibleRows() const;
 
     void TakeClick(LPARAM point, bool isDouble);
+    void TakeFocus();
     void TakeKey(WPARAM key);
     void TakeCharacter(WPARAM character);
     LRESULT Tell(UINT code) const;

@@ -160,6 +160,16 @@ HWND GetDlgItem(HWND dialog, int id)
     return child != found->children.end() ? (*child)->handle : nullptr;
 }
 
+HWND FindWindowExA(HWND parent, HWND /*after*/, LPCSTR className, LPCSTR /*text*/)
+{
+    const Window* found = Desktop::Get().Find(parent);
+    if (found == nullptr)
+        return nullptr;
+    const auto child = std::ranges::find_if(found->children, [&](const Window* each)
+                                            { return lstrcmpiA(each->className, className) == 0; });
+    return child != found->children.end() ? (*child)->handle : nullptr;
+}
+
 HWND GetParent(HWND window)
 {
     const Window* found = Desktop::Get().Find(window);

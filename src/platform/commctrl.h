@@ -64,6 +64,7 @@ enum : UINT
     TVGN_PARENT = 3,
     TVGN_CHILD = 4,
     TVGN_FIRSTVISIBLE = 5,
+    TVGN_NEXTVISIBLE = 6,
     TVGN_CARET = 9,
     TVM_INSERTITEMA = 0x1100,
     TVM_DELETEITEM = 0x1101,
@@ -101,3 +102,4 @@ HIMAGELIST ImageList_Create(int width, int height, UINT flags, int initialSize, 
 BOOL ImageList_Destroy(HIMAGELIST list);
 int ImageList_ReplaceIcon(HIMAGELIST list, int index, HICON icon);
 int ImageList_GetImageCount(HIMAGELIST list);
+BOOL ImageList_GetIconSize(HIMAGELIST list, int* width, int* height);

@@ -134,6 +134,7 @@ struct CRITICAL_SECTION
 {
 };
 
+#define MAX_PATH 260
 #define FALSE 0
 #define TRUE 1
 #define LOWORD(l) (static_cast<WORD>(static_cast<DWORD_PTR>(l) & 0xffffU))
@@ -157,6 +158,11 @@ enum : UINT
     MB_OK = 0,
     MB_ICONERROR = 0x10,
     SEM_FAILCRITICALERRORS = 1,
+    ERROR_MOD_NOT_FOUND = 126,
+    GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT = 2,
+    GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS = 4,
+    CP_ACP = 0,
+    CP_UTF8 = 65001,
     ACTCTX_FLAG_RESOURCE_NAME_VALID = 8,
     ACTCTX_FLAG_HMODULE_VALID = 0x80,
 
@@ -259,7 +265,9 @@ enum : UINT
 
     BS_PUSHBUTTON = 0,
     BS_DEFPUSHBUTTON = 1,
+    BS_CHECKBOX = 2,
     BS_AUTOCHECKBOX = 3,
+    BS_RADIOBUTTON = 4,
     BS_GROUPBOX = 7,
     BS_AUTORADIOBUTTON = 9,
     BS_TYPEMASK = 0xF,
@@ -301,6 +309,7 @@ enum : UINT
     LB_GETTEXTLEN = 0x18A,
     LB_GETCOUNT = 0x18B,
     LB_GETTOPINDEX = 0x18E,
+    LB_SETTOPINDEX = 0x197,
     LB_GETITEMRECT = 0x198,
     LB_GETITEMDATA = 0x199,
     LB_SETITEMDATA = 0x19A,
@@ -366,6 +375,8 @@ inline constexpr int CB_ERR = -1;
 inline constexpr int GWL_STYLE = -16;
 inline constexpr int GWL_EXSTYLE = -20;
 inline constexpr int GWLP_WNDPROC = -4;
+inline constexpr int SM_CXMINTRACK = 34;
+inline constexpr int SM_CYMINTRACK = 35;
 inline constexpr int SW_HIDE = 0;
 inline constexpr int SW_SHOW = 5;
 inline constexpr int LOGPIXELSX = 88;
@@ -380,12 +391,9 @@ inline constexpr int COLOR_HIGHLIGHTTEXT = 14;
 inline constexpr int COLOR_GRAYTEXT = 17;
 
 int lstrcmpiA(LPCSTR left, LPCSTR right);
-// No function here leaves an error.
-inline DWORD GetLastError()
-{
-    return 0;
-}
-inline void SetLastError(DWORD /*error*/) {}
+DWORD GetLastError();
+void SetLastError(DWORD error);
+DWORD GetCurrentProcessId();
 
 // Messages and their queue
 LRESULT SendMessageA(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
@@ -409,9 +417,15 @@ BOOL DestroyWindow(HWND window);
 BOOL IsWindow(HWND window);
 LONG_PTR GetWindowLongPtrA(HWND window, int index);
 LONG_PTR SetWindowLongPtrA(HWND window, int index, LONG_PTR value);
+inline LONG GetWindowLongA(HWND window, int index)
+{
+    return static_cast<LONG>(GetWindowLongPtrA(window, index));
+}
 int GetClassNameA(HWND window, char* buffer, int size);
 int GetDlgCtrlID(HWND window);
 HWND GetDlgItem(HWND dialog, int id);
+// The first child of a class, whatever its text is.
+HWND FindWindowExA(HWND parent, HWND after, LPCSTR className, LPCSTR text);
 HWND GetParent(HWND window);
 HWND GetWindow(HWND window, UINT relation);
 BOOL EnumThreadWindows(DWORD thread, WNDENUMPROC procedure, LPARAM parameter);
@@ -452,6 +466,7 @@ HWND GetCapture();
 BOOL ReleaseCapture();
 HMONITOR MonitorFromWindow(HWND window, DWORD flags);
 BOOL GetMonitorInfoA(HMONITOR monitor, MONITORINFO* info);
+int GetSystemMetrics(int index);
 
 BOOL IsChild(HWND parent, HWND window);
 
@@ -522,10 +537,9 @@ inline BOOL DrawFrameControl(HDC /*device*/, RECT* /*rect*/, UINT /*type*/, UINT
 }
 
 // Libraries
-inline HMODULE GetModuleHandleA(LPCSTR /*name*/)
-{
-    return nullptr;
-}
+// Null for the program itself.
+HMODULE GetModuleHandleA(LPCSTR name);
+BOOL GetModuleHandleExA(DWORD flags, LPCSTR address, HMODULE* module);
 HMODULE LoadLibraryA(LPCSTR name);
 FARPROC GetProcAddress(HMODULE library, LPCSTR name);
 BOOL FreeLibrary(HMODULE library);
@@ -555,9 +569,28 @@ inline BOOL DeactivateActCtx(DWORD /*flags*/, ULONG_PTR /*cookie*/)
     return FALSE;
 }
 
+// Files and folders
+DWORD GetModuleFileNameA(HMODULE module, char* buffer, DWORD size);
+DWORD GetCurrentDirectoryA(DWORD size, char* buffer);
+DWORD GetTempPathA(DWORD size, char* buffer);
+BOOL CreateDirectoryA(LPCSTR folder, const void* security);
+BOOL RemoveDirectoryA(LPCSTR folder);
+BOOL CopyFileA(LPCSTR from, LPCSTR to, BOOL keepExisting);
+BOOL DeleteFileA(LPCSTR file);
+
+// Texts in code page 1252, UTF-8 and wide characters. The terminal of this machine reads UTF-8.
+int MultiByteToWideChar(UINT codePage, DWORD flags, LPCSTR text, int length, wchar_t* buffer, int size);
+int WideCharToMultiByte(UINT codePage, DWORD flags, LPCWSTR text, int length, char* buffer, int size,
+                        LPCSTR replacement, BOOL* isReplaced);
+inline BOOL SetConsoleOutputCP(UINT /*codePage*/)
+{
+    return TRUE;
+}
+
 // Profile files, and the runtime's local time: 0 when the time has one.
 DWORD GetPrivateProfileStringA(LPCSTR section, LPCSTR key, LPCSTR defaultText, char* buffer, DWORD size, LPCSTR file);
 DWORD GetPrivateProfileSectionA(LPCSTR section, char* buffer, DWORD size, LPCSTR file);
+BOOL WritePrivateProfileStringA(LPCSTR section, LPCSTR key, LPCSTR value, LPCSTR file);
 inline int _localtime64_s(std::tm* local, const std::time_t* time)
 {
     return localtime_r(time, local) != nullptr ? 0 : EINVAL;

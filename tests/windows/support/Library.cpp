@@ -17,6 +17,14 @@ HMODULE Library()
 
 } // namespace
 
+std::string ProgramFolder()
+{
+    char path[MAX_PATH] = "";
+    GetModuleFileNameA(nullptr, path, sizeof path);
+    const std::string program = path;
+    return program.substr(0, program.find_last_of("\\/"));
+}
+
 FARPROC Exported(const char* name)
 {
     FARPROC function = Library() != nullptr ? GetProcAddress(Library(), name) : nullptr;

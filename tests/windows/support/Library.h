@@ -5,6 +5,9 @@
 
 #include <string>
 
+// The folder of the test program, without a separator at its end.
+std::string ProgramFolder();
+
 // The address of an exported function; the test fails when it is missing.
 FARPROC Exported(const char* name);
 

@@ -6,7 +6,8 @@
 class SampleSource : public TreeTest
 {
 protected:
-    SampleSource() { UseSampleSource(); }
+    // It lies beside the DLL.
+    SampleSource() { SetDllDirectoryA((ProgramFolder() + "\\..").c_str()); }
 
     static size_t DepthOf(const std::string& line) { return line.find_first_not_of(' ') / 2; }
 };

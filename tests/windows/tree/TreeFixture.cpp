@@ -1,20 +1,9 @@
 #include "TreeFixture.h"
 
+#include "TestSources.h"
+
 #include <algorithm>
 #include <cstring>
-
-namespace
-{
-
-std::string ProgramFolder()
-{
-    char path[MAX_PATH] = "";
-    GetModuleFileNameA(nullptr, path, sizeof path);
-    *std::strrchr(path, '\\') = '\0';
-    return path;
-}
-
-} // namespace
 
 const Records TreeTest::house = {
     Entry(0, LYT_TREE_HEADING, "House", "h"),       Entry(1, LYT_TREE_GROUP, "Roof", "roof"),
@@ -57,8 +46,7 @@ TreeTest::TreeTest()
 TreeTest::~TreeTest()
 {
     FreeLibrary(m_library);
-    ReleaseSource();
-    SetDllDirectoryA(nullptr);
+    TakeTestSourceAway();
 }
 
 void TreeTest::Reload()
@@ -72,24 +60,11 @@ void TreeTest::Reload()
                                                                         folder.Path().c_str());
 }
 
-// The library keeps its source for good, so that a fresh start has to take it away from under it.
-void TreeTest::ReleaseSource()
-{
-    while (HMODULE source = GetModuleHandleA("lytsrc"))
-        FreeLibrary(source);
-}
-
 void TreeTest::UseSource(const std::string& variant)
 {
-    SetDllDirectoryA((ProgramFolder() + "\\" + variant).c_str());
-    m_source = LoadLibraryA("lytsrc");
+    m_source = LoadTestSource(variant);
     Serve('S', house);
     Serve('P', yard);
-}
-
-void TreeTest::UseSampleSource()
-{
-    SetDllDirectoryA((ProgramFolder() + "\\..").c_str());
 }
 
 template <class Function>

@@ -1,4 +1,4 @@
-// lyt64.dll as a fresh process has it: loaded anew for each test, with a data source and a folder of texts.
+// lyt64.dll as a fresh process has it, with a data source and a folder of texts.
 #pragma once
 
 #include "TestSource.h"
@@ -25,10 +25,8 @@ protected:
     TreeTest();
     ~TreeTest() override;
 
-    // Makes a data source reachable: the name of a folder beside the tests. Until then there is none.
+    // Makes a data source reachable. Until then there is none.
     void UseSource(const std::string& variant = "complete");
-    // Makes the source of the samples reachable, which cannot be told what to serve.
-    static void UseSampleSource();
     // The data library of the tests, as a description names it.
     static std::string NastyLibrary();
     // What the source serves from now on; `house` and `yard` unless told.
@@ -79,7 +77,6 @@ protected:
     TestFolder folder;
 
 private:
-    static void ReleaseSource();
     template <class Function>
     Function* GetFromSource(const char* name) const;
 

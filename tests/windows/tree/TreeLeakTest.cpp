@@ -43,8 +43,8 @@ TEST_F(TreeUse, ReleasingAndReadingAgainCostsNothingForGood)
 
 TEST_F(TreeUse, LeavesTheHostAsItWas)
 {
-    HWND host = CreateWindowA("Edit", "host", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0, 300, 200, nullptr, nullptr,
-                              nullptr, nullptr);
+    HWND host = CreateWindowExA(0, "Edit", "host", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0, 300, 200, nullptr, nullptr,
+                                nullptr, nullptr);
     SetActiveWindow(host);
     SetFocus(host);
     char before[MAX_PATH] = "";

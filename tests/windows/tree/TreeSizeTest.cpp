@@ -167,17 +167,3 @@ TEST_F(TreeSize, CursorOfTheHostIsBackWhenTheBrowserIsOpen)
     EXPECT_NE(open, LoadCursorA(nullptr, IDC_WAIT));
     EXPECT_EQ(GetCursor(), cross);
 }
-
-TEST_F(TreeSize, DrawsAgainWhenTheBrowserIsOpen)
-{
-    Open("S",
-         [](const TreeWindow& tree)
-         {
-             EXPECT_TRUE(IsWindowVisible(tree.Tree()));
-             RECT update = {};
-             UpdateWindow(tree.Tree());
-             tree.Expand("Roof");
-             EXPECT_TRUE(GetUpdateRect(tree.Tree(), &update, FALSE));
-             tree.Cancel();
-         });
-}

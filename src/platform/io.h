@@ -1,0 +1,14 @@
+// The runtime's streams as the native build has them.
+#pragma once
+
+#include <cstdio>
+#include <unistd.h>
+
+inline int _fileno(std::FILE* stream)
+{
+    return fileno(stream);
+}
+inline int _isatty(int stream)
+{
+    return isatty(stream);
+}
