@@ -88,7 +88,7 @@ std::string DataFileName()
     char path[MAX_PATH] = "";
     GetModuleFileNameA(self, path, MAX_PATH);
     const std::string library = path;
-    return library.substr(0, library.find_last_of('\\') + 1) + "lytdata.txt";
+    return library.substr(0, library.find_last_of("\\/") + 1) + "lytdata.txt";
 }
 
 // `[name]` opens a list, the lines below it are its items; blank lines and lines behind a `;` are comments.

@@ -34,7 +34,7 @@ std::string CatalogueFileName()
     char path[MAX_PATH] = "";
     GetModuleFileNameA(self, path, MAX_PATH);
     const std::string library = path;
-    return library.substr(0, library.find_last_of('\\') + 1) + "lytsrc.txt";
+    return library.substr(0, library.find_last_of("\\/") + 1) + "lytsrc.txt";
 }
 
 std::string Trimmed(const std::string& text)

@@ -29,7 +29,7 @@ std::string ProgramFolder()
     char name[MAX_PATH] = "";
     GetModuleFileNameA(nullptr, name, sizeof name);
     const std::string path = name;
-    return path.substr(0, path.find_last_of('\\'));
+    return path.substr(0, path.find_last_of("\\/"));
 }
 
 Session::Session(const Request& commandLine)
