@@ -4,7 +4,7 @@
 #include "environment/ProcessState.h"
 #include "model/ClytObserver.h"
 #include "support/DescriptionText.h"
-#include "support/HeadlessForm.h"
+#include "support/LiveForm.h"
 #include "support/TestFolder.h"
 
 #include <cstdio>
@@ -96,18 +96,18 @@ void BuildForm(benchmark::State& state)
     const std::string& name = DescriptionFile(static_cast<int>(state.range(0)));
     while (state.KeepRunning())
     {
-        HeadlessForm form(name.c_str());
+        LiveForm form(name.c_str());
         form.Construct();
-        benchmark::DoNotOptimize(form.width);
+        benchmark::DoNotOptimize(form.m_hWnd);
     }
 }
 
 // A form of that many rules, of the three kinds that descriptions mix. Nothing changes between two runs.
-HeadlessForm& RuleForm(int rules)
+LiveForm& RuleForm(int rules)
 {
     static const TestFolder folder;
-    static std::map<int, std::unique_ptr<HeadlessForm>> forms;
-    std::unique_ptr<HeadlessForm>& form = forms[rules];
+    static std::map<int, std::unique_ptr<LiveForm>> forms;
+    std::unique_ptr<LiveForm>& form = forms[rules];
     if (form != nullptr)
         return *form;
     DescriptionText text;
@@ -127,14 +127,14 @@ HeadlessForm& RuleForm(int rules)
         else
             text.dependencies += "/CLEAR = " + other + ", FieldForMode\n";
     }
-    form = std::make_unique<HeadlessForm>(folder.Write(std::to_string(rules) + ".dlg", text()).c_str());
+    form = std::make_unique<LiveForm>(folder.Write(std::to_string(rules) + ".dlg", text()).c_str());
     form->Construct();
     return *form;
 }
 
 void RunRules(benchmark::State& state)
 {
-    HeadlessForm& form = RuleForm(static_cast<int>(state.range(0)));
+    LiveForm& form = RuleForm(static_cast<int>(state.range(0)));
     while (state.KeepRunning())
         form.RunDependencies();
 }
@@ -167,10 +167,10 @@ void RunRulesWithListener(benchmark::State& state)
 }
 
 // A form that scans pieces of text into fields in turn, and composes 25 fields.
-HeadlessForm& TextForm()
+LiveForm& TextForm()
 {
     static const TestFolder folder;
-    static std::unique_ptr<HeadlessForm> form;
+    static std::unique_ptr<LiveForm> form;
     if (form != nullptr)
         return *form;
     DescriptionText text;
@@ -185,14 +185,14 @@ HeadlessForm& TextForm()
     }
     text.input = "Start: (\";\", Second, Rest, End = F0\nSecond: (\";\", Start, Rest, End = F1\n";
     text.output = "(\"" + format + "\"" + items + ")\n";
-    form = std::make_unique<HeadlessForm>(folder.Write("text.dlg", text()).c_str());
+    form = std::make_unique<LiveForm>(folder.Write("text.dlg", text()).c_str());
     form->Construct();
     return *form;
 }
 
 void ScanText(benchmark::State& state)
 {
-    HeadlessForm& form = TextForm();
+    LiveForm& form = TextForm();
     std::string text;
     while (text.size() < static_cast<size_t>(state.range(0)))
         text += "a piece (of some; kind) \"with; quotes\";";
@@ -202,10 +202,10 @@ void ScanText(benchmark::State& state)
 
 void ComposeText(benchmark::State& state)
 {
-    HeadlessForm& form = TextForm();
+    LiveForm& form = TextForm();
     const std::string part(static_cast<size_t>(state.range(0)) / 25, 'x');
     for (int index = 0; index < 25; ++index)
-        form.Enter(("F" + std::to_string(index)).c_str(), part.c_str());
+        form.FindControl(("F" + std::to_string(index)).c_str())->SetValue(part.c_str());
     CString composed;
     while (state.KeepRunning())
         benchmark::DoNotOptimize(form.ComposeNamedOutput("parent", composed));

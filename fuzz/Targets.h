@@ -4,7 +4,7 @@
 #include <cstddef>
 #include <cstdint>
 
-// The input is a whole description: it is read into a headless form, its controls are entered into and its result is
+// The input is a whole description: it is read into a live form, its controls are entered into and its result is
 // composed.
 void FuzzDescription(const uint8_t* data, size_t size);
 // The input is the statements of an input part up to a line "$OUTPUT", and behind it the text that they scan.

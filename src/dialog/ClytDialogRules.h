@@ -1,8 +1,8 @@
 // The engine of a described dialog: its controls and its rules, without a window. It reads a description in its fixed
 // order, runs the dependency rules, scans input into the controls and composes output from them.
 //
-// A face derives from it and says how a control is made, how the window is sized and how a control's window comes into
-// being: ClytDialog with live windows; a headless form for tests, tools and fuzzers with stand-ins.
+// ClytDialog derives from it and says how a control is made, how the window is sized and how a control's window comes
+// into being.
 #pragma once
 
 #include "dlgfile/ClytDialogFile.h"

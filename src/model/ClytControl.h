@@ -1,7 +1,7 @@
 // The one interface through which dialog, rules and composition speak to a control. A control's value is always a text.
 //
 // The base class answers an operation that a control does not offer, some with a message to the user. Controls with a
-// window derive from a window class first and from ClytControl second; tests and tools stand in for them without one.
+// window derive from a window class first and from ClytControl second.
 #pragma once
 
 #include "model/ClytControlEval.h"

@@ -12,6 +12,9 @@
 #include <string>
 #include <vector>
 
+// A macro of the platform's common dialogs, which not every includer of windows.h takes along.
+#undef ReplaceText
+
 namespace robot
 {
 

@@ -41,7 +41,7 @@ std::string Expanded(const char* text)
 TEST_F(Output, TakesTheFirstRuleThatHolds)
 {
     text.output = "A(1) = (\"one\")\nA(2), B(NULL) = (\"two\")\nA(2) = (\"three\")\n(\"else\")\n";
-    HeadlessForm& opened = Open();
+    LiveForm& opened = Open();
     EXPECT_EQ(Compose(), "else");
     opened.Enter("A", "1");
     EXPECT_EQ(Compose(), "one");
@@ -54,9 +54,9 @@ TEST_F(Output, TakesTheFirstRuleThatHolds)
 TEST_F(Output, NeedsTheControlsOfItsConditionsActive)
 {
     text.output = "A = (\"active\")\n(\"else\")\n";
-    HeadlessForm& opened = Open();
+    LiveForm& opened = Open();
     EXPECT_EQ(Compose(), "active");
-    opened.Control("A")->isEnabled = false;
+    opened.FindControl("A")->SetState("ACTIVE", 0);
     EXPECT_EQ(Compose(), "else");
     // Being hidden or for display only exempts a control in the dependency rules alone.
     text.values = "A = DISPLAYONLY\n";
@@ -74,7 +74,7 @@ TEST_F(Output, KnowsNoMeaningOfNotNull)
 TEST_F(Output, LeavesTheTextAsItWasWhenNoRuleHolds)
 {
     text.output = "A(1) = (\"one\")\n";
-    HeadlessForm& opened = Open();
+    LiveForm& opened = Open();
     EXPECT_EQ(Compose(), "none");
     EXPECT_EQ(Compose("missing"), "none");
     EXPECT_FALSE(opened.Confirm());
@@ -84,7 +84,7 @@ TEST_F(Output, LeavesTheTextAsItWasWhenNoRuleHolds)
 TEST_F(Output, RaisesAConditionOnAnUnknownControl)
 {
     text.output = "Unknown(1) = (\"one\")\n";
-    HeadlessForm& opened = Open();
+    LiveForm& opened = Open();
     EXPECT_EQ(RaisedMessage([&] { Compose(); }), "245 'Unknown'");
     EXPECT_EQ(RaisedMessage([&] { opened.Confirm(); }), "245 'Unknown'\n246 ''");
 }
@@ -92,14 +92,14 @@ TEST_F(Output, RaisesAConditionOnAnUnknownControl)
 TEST_F(Output, LeavesOtherFailuresOfTheConfirmationAsTheyAre)
 {
     text.output = "(\"%s%x\", A)\n";
-    HeadlessForm& opened = Open();
+    LiveForm& opened = Open();
     EXPECT_EQ(RaisedMessage([&] { opened.Confirm(); }), missingArgument);
 }
 
 TEST_F(Output, TakesTheValuesOfControlsAndOtherWordsAsTheyStand)
 {
     text.output = "(\"%s/%s/%s\", A, word, B)\n";
-    HeadlessForm& opened = Open();
+    LiveForm& opened = Open();
     opened.Enter("A", "a");
     EXPECT_EQ(Compose(), "a/word/");
 }
@@ -172,11 +172,11 @@ TEST_F(Output, EvaluatesTheControlsItTakesWhenItIsTheResult)
 {
     text.evaluation = "A = NULL: EMPTY\nB = NULL: CLASH\n";
     text.output = "(\"%s\", A)\n";
-    HeadlessForm& opened = Open();
+    LiveForm& opened = Open();
     EXPECT_EQ(Compose(), "");
     EXPECT_FALSE(opened.Confirm());
     EXPECT_EQ(Messages(), "please fill in;");
-    EXPECT_EQ(opened.focus, "A");
+    EXPECT_EQ(opened.Focus(), "A");
     opened.Enter("A", "x");
     EXPECT_TRUE(opened.Confirm());
     EXPECT_EQ(opened.GetResult(), "x");
@@ -190,7 +190,7 @@ TEST_F(Output, EvaluatesControlsThatAreTakenWithAllTheirValues)
     {
         SCOPED_TRACE(item);
         text.output = std::string("(\"%s\", ") + item + ")\n";
-        HeadlessForm& opened = Open();
+        LiveForm& opened = Open();
         EXPECT_FALSE(opened.Confirm());
         EXPECT_EQ(Messages(), "do not do that;");
     }
@@ -200,16 +200,17 @@ TEST_F(Output, ShowsTheMessageOfARuleOnAnUnknownOtherControl)
 {
     text.evaluation = "A(x) = Unknown(y): CLASH\n";
     text.output = "(\"%s\", A)\n";
-    HeadlessForm& opened = Open();
+    LiveForm& opened = Open();
     opened.Enter("A", "x");
+    opened.MoveFocusTo("B");
     EXPECT_FALSE(opened.Confirm());
     EXPECT_EQ(Messages(), "do not do that;");
-    EXPECT_EQ(opened.focus, "");
+    EXPECT_EQ(opened.Focus(), "B") << "no control is known that the user could put right";
 }
 
 TEST_F(Output, WithoutAParentGroupKeepsTheDialogOpen)
 {
-    HeadlessForm& opened = Open();
+    LiveForm& opened = Open();
     EXPECT_TRUE(opened.GetOutputMap().IsEmpty());
     lytTreeConfirmCount = 3;
     EXPECT_FALSE(opened.Confirm());
@@ -247,7 +248,7 @@ TEST_F(Output, GivesTheLastGroupASecondNameByALastHeader)
 TEST_F(Output, KeepsTheConditionsOfARuleWithoutAFormatForTheNext)
 {
     text.output = "A(1) = (\"\")\n(\"one\")\n(\"else\")\n";
-    HeadlessForm& opened = Open();
+    LiveForm& opened = Open();
     EXPECT_EQ(Compose(), "else");
     opened.Enter("A", "1");
     EXPECT_EQ(Compose(), "one");

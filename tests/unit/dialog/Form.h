@@ -1,10 +1,10 @@
-// A test's own headless form, its description and its texts.
+// A test's own form, its description and its texts.
 #pragma once
 
 #include "environment/ProcessState.h"
 #include "support/DescriptionText.h"
 #include "support/ErrorTexts.h"
-#include "support/HeadlessForm.h"
+#include "support/LiveForm.h"
 #include "support/RecordedMessages.h"
 
 #include <gtest/gtest.h>
@@ -22,8 +22,8 @@ protected:
     }
 
     // Reads the description, with the input that it scans.
-    HeadlessForm& Open(const char* input = "") { return OpenText(text(), input); }
-    HeadlessForm& OpenText(const std::string& description, const char* input = "")
+    LiveForm& Open(const char* input = "") { return OpenText(text(), input); }
+    LiveForm& OpenText(const std::string& description, const char* input = "")
     {
         MakeForm(description, input).Construct();
         return *form;
@@ -32,13 +32,13 @@ protected:
     std::string OpenFailure(const char* input = "") { return OpenTextFailure(text(), input); }
     std::string OpenTextFailure(const std::string& description, const char* input = "")
     {
-        HeadlessForm& made = MakeForm(description, input);
+        LiveForm& made = MakeForm(description, input);
         return RaisedMessage([&] { made.Construct(); });
     }
-    HeadlessForm& MakeForm(const std::string& description, const char* input = "")
+    LiveForm& MakeForm(const std::string& description, const char* input = "")
     {
         lytInputKey = input;
-        form = std::make_unique<HeadlessForm>(folder.Write("test.dlg", description).c_str(), defines.c_str());
+        form = std::make_unique<LiveForm>(folder.Write("test.dlg", description).c_str(), defines.c_str());
         return *form;
     }
     // The composed text of an output group; "none" when no rule holds.
@@ -60,5 +60,5 @@ protected:
                             "[MsgBox]\r\nEMPTY=please fill in\r\nCLASH=do not do that\r\n"};
     DescriptionText text;
     std::string defines;
-    std::unique_ptr<HeadlessForm> form;
+    std::unique_ptr<LiveForm> form;
 };

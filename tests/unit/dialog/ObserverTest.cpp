@@ -15,11 +15,15 @@ protected:
         text.input = "Start: x = End\n";
     }
 
-    // What is heard while a user enters something, or while a group is composed.
+    // What is heard of one run of the rules after a user entered something, or while a group is composed.
     std::string Enter(const char* control, const char* input)
     {
-        observer.TakeHeard();
+        // A user's act sends several commands; no run answers them until the last.
+        lytInputApplied = 0;
         form->Enter(control, input);
+        lytInputApplied = 1;
+        observer.TakeHeard();
+        form->Command();
         return observer.TakeHeard();
     }
     std::string Composed(const char* group)
@@ -110,32 +114,40 @@ TEST_F(RuleObserver, HearsThatNotNullDecides)
 
 TEST_F(RuleObserver, HearsWhichChangeSetsAnEventRuleOffAndTheRunInside)
 {
+    text.values = "C = text\n";
     text.dependencies = "C/CLEAR = B, A\nB/CLEAR = Unknown, A\n";
     Open();
-    EXPECT_EQ(Enter("A", "x"), "run 1\n"
-                               "C/CLEAR asks B: unchanged\n"
-                               "C/CLEAR asks A: changed\n"
-                               "C/CLEAR acts\n"
-                               "run 2\n"
+    // A field tells each change of its text twice.
+    const std::string inside = "run 2\n"
                                "C/CLEAR is in progress\n"
                                "B/CLEAR asks Unknown: unknown control\n"
                                "B/CLEAR finds nothing changed\n"
-                               "end 2\n"
-                               "B/CLEAR asks Unknown: unknown control\n"
-                               "B/CLEAR finds nothing changed\n"
-                               "end 1\n");
+                               "end 2\n";
+    EXPECT_EQ(Enter("A", "x"), "run 1\n"
+                               "C/CLEAR asks B: unchanged\n"
+                               "C/CLEAR asks A: changed\n"
+                               "C/CLEAR acts\n" +
+                                   inside + inside +
+                                   "B/CLEAR asks Unknown: unknown control\n"
+                                   "B/CLEAR finds nothing changed\n"
+                                   "end 1\n");
 }
 
 TEST_F(RuleObserver, HearsTheEndOfARunThatFails)
 {
+    text.values = "B = FILLEDBY, library, Function, x, Parameter\n";
     text.dependencies = "B/FILL = A\n";
+    text.output = "$OUTPUT, Parameter\n(\"100%\")\n";
     Open();
-    auto* edit = dynamic_cast<HeadlessEdit*>(form->Control("B"));
-    ASSERT_NE(edit, nullptr);
-    edit->library = [](const CString&) -> CString { AfxThrowInvalidArgException(); };
-    observer.TakeHeard();
-    EXPECT_EQ(RaisedMessage([&] { form->Enter("A", "x"); }), missingArgument);
-    EXPECT_EQ(observer.TakeHeard(), "run 1\nB/FILL asks A: changed\nB/FILL acts\nend 1\n");
+    EXPECT_EQ(Enter("A", "x"), "run 1\n"
+                               "B/FILL asks A: changed\n"
+                               "B/FILL acts\n"
+                               "output in line 17\n"
+                               "end 1\n");
+    EXPECT_EQ(Messages(), missingArgument + std::string(";"));
+    // The field that loses the focus with its window sends a last command, and the rule fails again.
+    form.reset();
+    EXPECT_EQ(Messages(), missingArgument + std::string(";"));
 }
 
 TEST_F(RuleObserver, HearsWhichOutputRuleIsChosenAndWhyTheOthersWereNot)

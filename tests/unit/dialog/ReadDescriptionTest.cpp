@@ -30,12 +30,27 @@ public:
     }
 };
 
-std::string Place(const HeadlessControl& control)
+// Left, top, width and height of a control's window, in the client area of the dialog.
+std::string Place(const LiveForm& form, const char* name)
 {
-    const ClytPosition position = control.GetPosition();
-    const ClytSize size = control.GetSize();
-    return std::to_string(position.x) + "," + std::to_string(position.y) + "," + std::to_string(size.width) + "," +
-           std::to_string(size.height);
+    RECT place;
+    form.Window(name)->GetWindowRect(&place);
+    POINT corner = {place.left, place.top};
+    ::MapWindowPoints(nullptr, form.m_hWnd, &corner, 1);
+    return std::to_string(corner.x) + "," + std::to_string(corner.y) + "," + std::to_string(place.right - place.left) +
+           "," + std::to_string(place.bottom - place.top);
+}
+
+std::string TextOf(const LiveForm& form, const char* name)
+{
+    return WindowText(*form.Window(name));
+}
+
+std::string ClientSize(const LiveForm& form)
+{
+    RECT client;
+    form.GetClientRect(&client);
+    return std::to_string(client.right) + "," + std::to_string(client.bottom);
 }
 
 std::string Names(const ClytDialogRules& form)
@@ -53,12 +68,11 @@ TEST_F(Construction, ReadsAWholeDescription)
     text.layout = "Text 10, 10, 80, 12, \"LABEL\", .Label\n"
                   "TextBox 10, 24, 120, 12, .Name\n";
     text.section = "TEXTS";
-    const HeadlessForm& opened = Open();
-    EXPECT_EQ(opened.width, 200);
-    EXPECT_EQ(opened.height, 100);
-    EXPECT_EQ(opened.caption, "the title");
+    const LiveForm& opened = Open();
+    EXPECT_EQ(ClientSize(opened), "200,100");
+    EXPECT_EQ(WindowText(opened), "the title");
     EXPECT_EQ(Names(opened), "Label Name ");
-    EXPECT_EQ(opened.Control("Label")->GetLabel(), "a label");
+    EXPECT_EQ(TextOf(opened, "Label"), "a label");
     EXPECT_EQ(opened.GetTextSection(), "TEXTS");
     EXPECT_EQ(lytControlsReady, 1);
     EXPECT_EQ(lytInputApplied, 1);
@@ -67,9 +81,9 @@ TEST_F(Construction, ReadsAWholeDescription)
 TEST_F(Construction, WithoutATextSectionHasNoTexts)
 {
     text.layout = "Text 10, 10, 80, 12, \"LABEL\", .Label\n";
-    const HeadlessForm& opened = Open();
-    EXPECT_EQ(opened.caption, "");
-    EXPECT_EQ(opened.Control("Label")->GetLabel(), "");
+    const LiveForm& opened = Open();
+    EXPECT_EQ(WindowText(opened), "");
+    EXPECT_EQ(TextOf(opened, "Label"), "");
     EXPECT_EQ(opened.GetTextSection(), "");
 }
 
@@ -77,36 +91,33 @@ TEST_F(Construction, ShowsTheSentinelForAMissingText)
 {
     text.section = "TEXTS";
     text.layout = "Text 10, 10, 80, 12, \"UNKNOWN\", .Label\nText 1, 2, 3, 4, .Bare\n";
-    const HeadlessForm& opened = Open();
-    EXPECT_EQ(opened.Control("Label")->GetLabel(), "no value present");
-    EXPECT_EQ(opened.Control("Bare")->GetLabel(), "");
+    const LiveForm& opened = Open();
+    EXPECT_EQ(TextOf(opened, "Label"), "no value present");
+    EXPECT_EQ(TextOf(opened, "Bare"), "");
 }
 
 TEST_F(Construction, EndsALabelBehindItsApostrophe)
 {
     text.section = "TEXTS";
     text.layout = "Text 10, 10, 80, 12, \"QUOTED\", .Label\n";
-    const CString& label = Open().Control("Label")->GetLabel();
-    EXPECT_STREQ(label.GetString(), "it'");
-    EXPECT_EQ(label.GetLength(), 9);
+    EXPECT_EQ(TextOf(Open(), "Label"), "it'");
 }
 
 TEST_F(Construction, ScalesAndCutsPositionsAndSizes)
 {
     const Scale scale(0.7557F, 1.0818F);
     text.layout = "TextBox 100, 100, 100, 100, .A\nTextBox -1, -10, 10000, 3, .B\n";
-    const HeadlessForm& opened = Open();
-    EXPECT_EQ(Place(*opened.Control("A")), "75,108,75,108");
-    EXPECT_EQ(Place(*opened.Control("B")), "0,-10,7557,3");
-    // The window's face scales the size of the window itself.
-    EXPECT_EQ(opened.width, 200);
+    const LiveForm& opened = Open();
+    EXPECT_EQ(Place(opened, "A"), "75,108,75,108");
+    EXPECT_EQ(Place(opened, "B"), "0,-10,7557,3");
+    EXPECT_EQ(ClientSize(opened), "151,108");
 }
 
-TEST_F(Construction, KeepsNumbersOutOfRangeInRange)
+TEST_F(Construction, CutsNumbersBeyondAnyWindow)
 {
     const Scale scale(1.3159F, 1.3159F);
     text.layout = "TextBox 2147483647, -2147483648, 99999999999, 0, .A\n";
-    EXPECT_EQ(Place(*Open().Control("A")), "2147483647,-2147483648,2147483647,0");
+    EXPECT_EQ(Place(Open(), "A"), "536870912,-536870912,536870912,0");
 }
 
 TEST_F(Construction, ScalesWithinTheRangeOfAnInteger)
@@ -123,7 +134,7 @@ TEST_F(Construction, IgnoresAnUnknownTypeWordAndStatementsThatNameIt)
     text.layout = "Gadget 1, 2, 3, 4, .A\nTextBox 1, 2, 3, 4, .B\n";
     text.values = "A = x\nB = y\n";
     text.dependencies = "A/ACTIVE = B(1)\n";
-    const HeadlessForm& opened = Open();
+    const LiveForm& opened = Open();
     EXPECT_EQ(Names(opened), "B ");
     EXPECT_EQ(opened.Value("B"), "y");
 }
@@ -131,9 +142,9 @@ TEST_F(Construction, IgnoresAnUnknownTypeWordAndStatementsThatNameIt)
 TEST_F(Construction, KeepsTwoControlsOfOneNameAndFindsTheLater)
 {
     text.layout = "TextBox 1, 0, 3, 4, .A\nTextBox 2, 0, 3, 4, .A\n";
-    const HeadlessForm& opened = Open();
+    const LiveForm& opened = Open();
     EXPECT_EQ(Names(opened), "A A ");
-    EXPECT_EQ(Place(*opened.Control("A")), "2,0,3,4");
+    EXPECT_EQ(Place(opened, "A"), "2,0,3,4");
 }
 
 TEST_F(Construction, GivesEveryRuleTheLaterOfTwoControlsOfOneName)
@@ -144,11 +155,10 @@ TEST_F(Construction, GivesEveryRuleTheLaterOfTwoControlsOfOneName)
     text.evaluation = "B(y) = A(x): CLASH\n";
     text.input = "Start: A(x) = Hit, End\nHit: (\";\", End, Rest, End = C, A = x\n";
     text.output = "(\"%s\", B)\n$OUTPUT, other\n(\"<%s>\", A)\n";
-    HeadlessForm& opened = Open("piece");
-    auto* first = dynamic_cast<HeadlessControl*>(opened.GetControlList().GetHead());
-    ASSERT_NE(first, nullptr);
+    LiveForm& opened = Open("piece");
+    ClytControl* first = opened.GetControlList().GetHead();
     EXPECT_EQ(first->GetValue(), "");
-    EXPECT_TRUE(first->isEnabled);
+    EXPECT_EQ(first->IsActive(), 1);
     EXPECT_FALSE(opened.IsEnabled("A"));
     EXPECT_TRUE(opened.IsEnabled("B"));
     EXPECT_EQ(opened.Value("C"), "piece");
@@ -161,8 +171,8 @@ TEST_F(Construction, FindsTheLastNamelessControlUnderTheEmptyName)
 {
     text.layout = "TextBox 1, 0, 3, 4\nTextBox 2, 0, 3, 4\n";
     text.values = "=x\n";
-    const HeadlessForm& opened = Open();
-    EXPECT_EQ(Place(*opened.Control("")), "2,0,3,4");
+    const LiveForm& opened = Open();
+    EXPECT_EQ(Place(opened, ""), "2,0,3,4");
     EXPECT_EQ(opened.Value(""), "x");
 }
 
@@ -172,7 +182,7 @@ TEST_F(Construction, GivesNamelessControlsNoneOfTheEmptyLines)
     text.values = "=x\n\n; note\n";
     text.evaluation = "= NULL: EMPTY\n\n; note\n";
     text.output = "(\"%s\", \"\")\n";
-    HeadlessForm& opened = Open();
+    LiveForm& opened = Open();
     EXPECT_EQ(opened.Value(""), "x");
     opened.Enter("", "");
     EXPECT_FALSE(opened.Confirm());
@@ -183,8 +193,8 @@ TEST_F(Construction, KeepsTheOkButtonUnderItsNameWithoutGivingItOne)
 {
     text.layout = "OKButton 1, 2, 3, 4, .Ok\n";
     text.output = "(\"%s\", Ok)\n";
-    HeadlessForm& opened = Open();
-    EXPECT_EQ(opened.Control("Ok")->GetName(), "");
+    LiveForm& opened = Open();
+    EXPECT_EQ(opened.FindControl("Ok")->GetName(), "");
     EXPECT_EQ(Compose(), "Ok");
     EXPECT_TRUE(opened.Confirm());
 }
@@ -193,7 +203,7 @@ TEST_F(Construction, TakesOptionsAndPresetTexts)
 {
     text.layout = "TextBox 1, 2, 3, 4, .A\nTextBox 1, 2, 3, 4, .B\nTextBox 1, 2, 3, 4, .C\nTextBox 1, 2, 3, 4, .D\n";
     text.values = "A = HIDDEN\nB = DISPLAYONLY\nC = INVISIBLE\nD = INACTIVE\nA = text\nUnknown = x\n";
-    const HeadlessForm& opened = Open();
+    const LiveForm& opened = Open();
     EXPECT_FALSE(opened.IsShown("A"));
     EXPECT_TRUE(opened.IsEnabled("A"));
     EXPECT_FALSE(opened.IsEnabled("B"));
@@ -202,13 +212,20 @@ TEST_F(Construction, TakesOptionsAndPresetTexts)
     EXPECT_EQ(opened.Value("A"), "text");
 }
 
+TEST_F(Construction, RaisesADefaultThatIsNoStateOfItsCheckBox)
+{
+    text.layout = "CheckBox 1, 2, 3, 4, .K\n";
+    text.values = "K: ON = yes\nK: OFF = no\nK = maybe\n";
+    EXPECT_EQ(OpenFailure(), "238\n236 'K'");
+}
+
 TEST_F(Construction, LetsARuleInheritTheConditionsOfOneThatIsNotStored)
 {
     text.layout = "TextBox 1, 2, 3, 4, .A\nTextBox 1, 2, 3, 4, .B\nTextBox 1, 2, 3, 4, .C\n";
     text.values = "A = 1\n";
     // The rule on the unknown control goes, and its false condition joins the rule on C.
     text.dependencies = "B/ACTIVE = A(1)\nUnknown/ACTIVE = A(2)\n\nC/ACTIVE = A(1)\nB/VISIBLE = A(1)\n";
-    const HeadlessForm& opened = Open();
+    const LiveForm& opened = Open();
     EXPECT_TRUE(opened.IsEnabled("B"));
     EXPECT_FALSE(opened.IsEnabled("C"));
     EXPECT_TRUE(opened.IsShown("B"));
@@ -219,7 +236,7 @@ TEST_F(Construction, ReplacesAnEarlierEvaluationOfTheSameControl)
     text.layout = "TextBox 1, 2, 3, 4, .A\n";
     text.evaluation = "A = x: CLASH\nA = NULL: EMPTY\n";
     text.output = "(\"%s\", A)\n";
-    HeadlessForm& opened = Open();
+    LiveForm& opened = Open();
     EXPECT_FALSE(opened.Confirm());
     EXPECT_EQ(Messages(), "please fill in;");
     opened.Enter("A", "x");
@@ -231,7 +248,7 @@ TEST_F(Construction, StartsEachEvaluationStatementAfresh)
     text.layout = "TextBox 1, 2, 3, 4, .A\nTextBox 1, 2, 3, 4, .B\n";
     text.evaluation = "A(x) = B(y): CLASH\nB(z)\n";
     text.output = "(\"%s%s\", A, B)\n";
-    HeadlessForm& opened = Open();
+    LiveForm& opened = Open();
     opened.Enter("A", "x");
     opened.Enter("B", "y");
     EXPECT_FALSE(opened.Confirm());
@@ -253,18 +270,18 @@ TEST_F(Construction, ReadsTheStretchesOfItsDefines)
 TEST_F(Construction, RaisesAFileThatCannotBeOpened)
 {
     const std::string missing = folder.Path() + "/missing.dlg";
-    HeadlessForm none(missing.c_str());
+    LiveForm none(missing.c_str());
     // The message is cut at 74 characters, so the folder's name may be all that is left of the path.
     EXPECT_EQ(RaisedMessage([&] { none.Construct(); }), ("207 '" + missing + "'").substr(0, 74));
-    HeadlessForm ofFolder(folder.Path().c_str());
+    LiveForm ofFolder(folder.Path().c_str());
     EXPECT_EQ(RaisedMessage([&] { ofFolder.Construct(); }), ("207 '" + folder.Path() + "'").substr(0, 74));
-    HeadlessForm ofNothing("");
+    LiveForm ofNothing("");
     EXPECT_EQ(RaisedMessage([&] { ofNothing.Construct(); }), "207 ''");
 }
 
 TEST_F(Construction, ShowsOneMessageForAFailure)
 {
-    HeadlessForm none("missing.dlg");
+    LiveForm none("missing.dlg");
     EXPECT_FALSE(none.Open());
     EXPECT_EQ(Messages(), "207 'missing.dlg';");
 }
@@ -316,7 +333,7 @@ TEST_F(Construction, RunsTheLaterOfTwoPartsOfOneName)
     text.input =
         "Start: (\";\", End, Rest, End = A = first\n$INPUT, parent\nStart: (\";\", End, Rest, End = A = second\n"
         "$INPUT, other\nStart: (\";\", End, Rest, End = A = third\n";
-    HeadlessForm& opened = Open("x");
+    LiveForm& opened = Open("x");
     EXPECT_EQ(opened.Value("A"), "second");
     EXPECT_EQ(opened.GetInputMap().GetCount(), 2);
     EXPECT_EQ(opened.RunInput("other", ""), 1);

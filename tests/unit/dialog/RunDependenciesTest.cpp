@@ -1,6 +1,7 @@
 #include "Form.h"
 
 #include "base/Counted.h"
+#include "support/DataFunction.h"
 
 #include <algorithm>
 #include <array>
@@ -13,6 +14,19 @@ namespace
 std::string FieldName(int index)
 {
     return "F" + std::to_string(index);
+}
+
+// A statement that lets the library fill B; what follows it names the rule for its parameter.
+const std::string filledB = "B = " + std::string(DataFunction::source);
+
+// So many runs stand one inside the other at most: the platform drops what nests much deeper.
+constexpr int deepestNesting = 10;
+
+CString Numbered(const char* text, int number)
+{
+    CString numbered;
+    numbered.Format("%s%d", text, number);
+    return numbered;
 }
 
 // In which order the rules of a chain stand in the file.
@@ -93,8 +107,7 @@ protected:
         text.input = "Start: x = End\n";
     }
 
-    // Fields of which each empties the next, so that each change begins a run inside the one before.
-    void DescribeChain(int fields, Order order)
+    void DescribeFields(int fields, const std::string& value)
     {
         text.layout.clear();
         text.values.clear();
@@ -102,8 +115,14 @@ protected:
         for (int index = 0; index < fields; ++index)
         {
             text.layout += "TextBox 1, 2, 3, 4, ." + FieldName(index) + "\n";
-            text.values += FieldName(index) + " = text\n";
+            text.values += FieldName(index) + " = " + value + "\n";
         }
+    }
+
+    // Fields of which each empties the next, so that each change begins a run inside the one before.
+    void DescribeChain(int fields, Order order)
+    {
+        DescribeFields(fields, "text");
         for (int step = 1; step < fields; ++step)
         {
             const int index = order == Order::AsTheChangesGo ? step : fields - step;
@@ -118,7 +137,7 @@ TEST_F(Rules, RunOnceAtTheEndOfTheConstruction)
 {
     text.values = "A = x\n";
     text.dependencies = "B/ACTIVE = A(NULL)\nC/VISIBLE = A(x)\n";
-    const HeadlessForm& opened = Open();
+    const LiveForm& opened = Open();
     EXPECT_FALSE(opened.IsEnabled("B"));
     EXPECT_TRUE(opened.IsShown("C"));
     EXPECT_EQ(opened.runCount, 0);
@@ -127,7 +146,7 @@ TEST_F(Rules, RunOnceAtTheEndOfTheConstruction)
 TEST_F(Rules, SwitchBothWaysAtEveryCommand)
 {
     text.dependencies = "B/ACTIVE = A(NOTNULL)\nC/VISIBLE = A(x,y)\n";
-    HeadlessForm& opened = Open();
+    LiveForm& opened = Open();
     EXPECT_FALSE(opened.IsEnabled("B"));
     EXPECT_FALSE(opened.IsShown("C"));
     opened.Enter("A", "x");
@@ -136,7 +155,8 @@ TEST_F(Rules, SwitchBothWaysAtEveryCommand)
     opened.Enter("A", "");
     EXPECT_FALSE(opened.IsEnabled("B"));
     EXPECT_FALSE(opened.IsShown("C"));
-    EXPECT_EQ(opened.runCount, 2);
+    // The field tells that it gets the focus, and twice of each change.
+    EXPECT_EQ(opened.runCount, 5);
     EXPECT_EQ(lytCommandSeen, 1);
 }
 
@@ -144,9 +164,9 @@ TEST_F(Rules, WithoutConditionsSwitchOnInEveryRun)
 {
     text.values = "B = INACTIVE\n";
     text.dependencies = "B/ACTIVE =\n";
-    HeadlessForm& opened = Open();
+    LiveForm& opened = Open();
     EXPECT_TRUE(opened.IsEnabled("B"));
-    opened.Control("B")->isEnabled = false;
+    opened.FindControl("B")->SetState("ACTIVE", 0);
     opened.Command();
     EXPECT_TRUE(opened.IsEnabled("B"));
 }
@@ -154,7 +174,7 @@ TEST_F(Rules, WithoutConditionsSwitchOnInEveryRun)
 TEST_F(Rules, OnADefaultButtonChangeNothing)
 {
     text.dependencies = "Ok/ACTIVE = A(NOTNULL)\nOk/VISIBLE = A(NOTNULL)\n";
-    const HeadlessForm& opened = Open();
+    const LiveForm& opened = Open();
     EXPECT_TRUE(opened.IsEnabled("Ok"));
     EXPECT_TRUE(opened.IsShown("Ok"));
 }
@@ -164,7 +184,7 @@ TEST_F(Rules, RunInOnePassInFileOrder)
     // The first rule sees the disabled C at the next command only; the last one in the same pass.
     text.values = "C = x\n";
     text.dependencies = "A/ACTIVE = C\nC/ACTIVE = B(NOTNULL)\nM/ACTIVE = C\n";
-    HeadlessForm& opened = Open();
+    LiveForm& opened = Open();
     EXPECT_TRUE(opened.IsEnabled("A"));
     EXPECT_FALSE(opened.IsEnabled("C"));
     EXPECT_FALSE(opened.IsEnabled("M"));
@@ -176,7 +196,7 @@ TEST_F(Rules, ClearAControlWhenAnotherChanged)
 {
     text.values = "B = text\n";
     text.dependencies = "B/CLEAR = A\n";
-    HeadlessForm& opened = Open();
+    LiveForm& opened = Open();
     EXPECT_EQ(opened.Value("B"), "text");
     opened.Command();
     EXPECT_EQ(opened.Value("B"), "text");
@@ -190,7 +210,7 @@ TEST_F(Rules, SeeAChangeInAllRulesOfARun)
 {
     text.values = "B = b\nC = c\n";
     text.dependencies = "B/CLEAR = A\nC/CLEAR = A\n";
-    HeadlessForm& opened = Open();
+    LiveForm& opened = Open();
     opened.Enter("A", "x");
     EXPECT_EQ(opened.Value("B"), "");
     // The run nested in the clearing of B took A's new text as its baseline, after it had cleared C.
@@ -199,13 +219,11 @@ TEST_F(Rules, SeeAChangeInAllRulesOfARun)
 
 TEST_F(Rules, FillAControlByItsLibraryWhenAnotherChanged)
 {
-    text.values = "B = FILLEDBY, library, function, x, Parameter\n";
+    text.values = filledB + ", x, Parameter\n";
     text.dependencies = "B/FILL = A\n";
     text.output = "(\"\\\"%s\\\"\", A)\n$OUTPUT, Parameter\n(\"<%s>\", A)\n";
-    HeadlessForm& opened = Open();
-    auto* edit = dynamic_cast<HeadlessEdit*>(opened.Control("B"));
-    ASSERT_NE(edit, nullptr);
-    edit->library = [](const CString& parameter) { return "from " + parameter; };
+    const DataFunction library([](const CString& parameter) { return "from " + parameter; });
+    LiveForm& opened = Open();
     EXPECT_EQ(opened.Value("B"), "");
     opened.Enter("A", "x");
     EXPECT_EQ(opened.Value("B"), "from <x>");
@@ -215,7 +233,7 @@ TEST_F(Rules, NeverFillBehindAnUnknownControl)
 {
     text.values = "B = text\n";
     text.dependencies = "B/CLEAR = Unknown, A\n";
-    HeadlessForm& opened = Open();
+    LiveForm& opened = Open();
     opened.Enter("A", "x");
     EXPECT_EQ(opened.Value("B"), "text");
 }
@@ -223,34 +241,27 @@ TEST_F(Rules, NeverFillBehindAnUnknownControl)
 TEST_F(Rules, AreNotEnteredAgainWhileTheyAreCarriedOut)
 {
     // The library always writes another text, so every run nested in the fill finds the field changed again.
+    text.values = "A = " + std::string(DataFunction::source) + "\n";
     text.dependencies = "A/FILL = A\n";
-    HeadlessForm& opened = Open();
-    auto* edit = dynamic_cast<HeadlessEdit*>(opened.Control("A"));
-    ASSERT_NE(edit, nullptr);
     int calls = 0;
-    edit->library = [&](const CString&)
-    {
-        CString filled;
-        filled.Format("fill %d", ++calls);
-        return filled;
-    };
+    const DataFunction library([&](const CString&) { return Numbered("fill ", ++calls); });
+    LiveForm& opened = Open();
     opened.Enter("A", "x");
     EXPECT_EQ(opened.Value("A"), "fill 1");
     // The mark is taken back, so the rule works again.
     opened.Enter("A", "y");
     EXPECT_EQ(opened.Value("A"), "fill 2");
-    EXPECT_EQ(opened.runCount, 4);
+    EXPECT_EQ(calls, 2);
 }
 
-TEST_F(Rules, EndInAChainOfThousands)
+TEST_F(Rules, EndInAChainOfAThousand)
 {
-    DescribeChain(2000, Order::AsTheChangesGo);
-    HeadlessForm& opened = Open();
+    DescribeChain(1000, Order::AsTheChangesGo);
+    LiveForm& opened = Open();
     opened.Enter("F0", "x");
     EXPECT_EQ(opened.Value("F1"), "");
-    EXPECT_EQ(opened.Value("F1999"), "");
-    // So many that no description reaches them, so few that no host's stack ends.
-    EXPECT_EQ(opened.deepestRun, 50);
+    EXPECT_EQ(opened.Value("F999"), "");
+    EXPECT_EQ(opened.deepestRun, deepestNesting);
 }
 
 TEST_F(Rules, GoOnPastTheDeepestRunInEitherOrder)
@@ -259,21 +270,21 @@ TEST_F(Rules, GoOnPastTheDeepestRunInEitherOrder)
     {
         SCOPED_TRACE(order == Order::AsTheChangesGo ? "as the changes go" : "against the changes");
         DescribeChain(200, order);
-        HeadlessForm& opened = Open();
+        LiveForm& opened = Open();
         opened.Enter("F0", "x");
         for (int index = 1; index < 200; ++index)
             EXPECT_EQ(opened.Value(FieldName(index).c_str()), "") << index;
-        EXPECT_EQ(opened.deepestRun, 50);
+        EXPECT_EQ(opened.deepestRun, deepestNesting);
     }
 }
 
 TEST_F(Rules, MakeUpForAThousandRunsAtMost)
 {
-    DescribeChain(1100, Order::AgainstTheChanges);
-    HeadlessForm& opened = Open();
+    DescribeChain(1020, Order::AgainstTheChanges);
+    LiveForm& opened = Open();
     opened.Enter("F0", "x");
-    EXPECT_EQ(opened.Value("F1050"), "");
-    EXPECT_EQ(opened.Value("F1051"), "text");
+    EXPECT_EQ(opened.Value("F1010"), "");
+    EXPECT_EQ(opened.Value("F1011"), "text");
 }
 
 TEST_F(Rules, ComeToWhatRunsWithoutALimitWouldComeTo)
@@ -282,71 +293,67 @@ TEST_F(Rules, ComeToWhatRunsWithoutALimitWouldComeTo)
     {
         SCOPED_TRACE(seed);
         UnlimitedNesting expected(200, seed);
-        text.layout.clear();
+        DescribeFields(200, DataFunction::source);
         text.dependencies = expected.Description();
-        for (int index = 0; index < 200; ++index)
-            text.layout += "TextBox 1, 2, 3, 4, ." + FieldName(index) + "\n";
-        HeadlessForm& opened = Open();
         int fills = 0;
-        for (int index = 0; index < 200; ++index)
-        {
-            auto* edit = dynamic_cast<HeadlessEdit*>(opened.Control(FieldName(index).c_str()));
-            ASSERT_NE(edit, nullptr);
-            edit->library = [&](const CString&) { return CString(std::to_string(++fills).c_str()); };
-        }
+        const DataFunction library([&](const CString&) { return Numbered("", ++fills); });
+        LiveForm& opened = Open();
         opened.Enter("F0", "x");
         expected.Enter(0, "x");
         for (int index = 0; index < 200; ++index)
             EXPECT_EQ(opened.Value(FieldName(index).c_str()), expected.texts[index]) << index;
-        EXPECT_GT(expected.deepestRun, 50) << "or the limit is not reached";
-        EXPECT_EQ(opened.deepestRun, 50);
+        EXPECT_GT(expected.deepestRun, deepestNesting) << "or the limit is not reached";
+        EXPECT_EQ(opened.deepestRun, deepestNesting);
     }
 }
 
 TEST_F(Rules, AreEnteredAgainAfterAFailure)
 {
+    text.values = filledB + ", x, Parameter\n";
     text.dependencies = "B/FILL = A\n";
-    HeadlessForm& opened = Open();
-    auto* edit = dynamic_cast<HeadlessEdit*>(opened.Control("B"));
-    ASSERT_NE(edit, nullptr);
-    edit->library = [](const CString&) -> CString { AfxThrowInvalidArgException(); };
-    EXPECT_EQ(RaisedMessage([&] { opened.Enter("A", "x"); }), missingArgument);
-    edit->library = [](const CString&) -> CString { return "filled"; };
+    text.output = "(\"x\")\n$OUTPUT, Parameter\nA(x) = (\"100%\")\nA(y) = (\"%s\", A)\n";
+    const DataFunction library([](const CString& parameter) { return "filled by " + parameter; });
+    LiveForm& opened = Open();
+    opened.Enter("A", "x");
+    EXPECT_EQ(Messages(), missingArgument + std::string(";") + missingArgument + ";") << "once for each command";
     opened.Enter("A", "y");
-    EXPECT_EQ(opened.Value("B"), "filled");
+    EXPECT_EQ(opened.Value("B"), "filled by y");
 }
 
 TEST_F(Rules, DoNotRunForAFocusThatReadingAValueMoves)
 {
     // Neither list has a selection, so reading the value of each pulls the focus there.
     text.dependencies = "A/ACTIVE = L(x)\nB/ACTIVE = M(NULL)\n";
-    HeadlessForm& opened = Open();
+    LiveForm& opened = Open();
     lytCommandSeen = 0;
     opened.Command();
     EXPECT_EQ(opened.runCount, 1);
     EXPECT_EQ(lytCommandSeen, 1);
-    EXPECT_EQ(opened.focus, "M");
+    EXPECT_EQ(opened.Focus(), "M");
     EXPECT_FALSE(opened.IsEnabled("A"));
     EXPECT_TRUE(opened.IsEnabled("B"));
 }
 
 TEST_F(Rules, DoNotRunForAFocusThatComposingInsideARunMoves)
 {
-    text.values = "B = FILLEDBY, library, function, x, Parameter\n";
+    // The parameter is composed first; the function that is not there then changes nothing.
+    text.values = "B = FILLEDBY, unit-tests.exe, NoFunction, x, Parameter\n";
     text.dependencies = "B/FILL = A\n";
     text.output = "(\"x\")\n$OUTPUT, Parameter\n(\"%s\", L)\n";
-    HeadlessForm& opened = Open();
+    LiveForm& opened = Open();
+    opened.MoveFocusTo("A");
+    const int runsBefore = opened.runCount;
     opened.Enter("A", "x");
-    EXPECT_EQ(opened.focus, "L");
-    EXPECT_EQ(opened.runCount, 1);
+    EXPECT_EQ(opened.Focus(), "L");
+    EXPECT_EQ(opened.runCount - runsBefore, 2) << "one for each command of the changed field";
 }
 
 TEST_F(Rules, RunForAFocusThatComposingOutsideARunMoves)
 {
     text.output = "(\"%s\", L)\n";
-    HeadlessForm& opened = Open();
+    LiveForm& opened = Open();
     EXPECT_TRUE(opened.Confirm());
-    EXPECT_EQ(opened.focus, "L");
+    EXPECT_EQ(opened.Focus(), "L");
     EXPECT_EQ(opened.runCount, 1);
 }
 
@@ -355,16 +362,17 @@ TEST_F(Rules, NestInARunThatAReadBegan)
     text.values = "B = text\nC = text\n";
     text.dependencies = "C/CLEAR = B\nB/CLEAR = A\nP/ACTIVE = M(x)\n";
     text.output = "(\"%s\", L)\n";
-    HeadlessForm& opened = Open();
+    LiveForm& opened = Open();
     lytInputApplied = 0;
     opened.Enter("A", "x");
     lytInputApplied = 1;
     ASSERT_EQ(opened.runCount, 0);
     EXPECT_TRUE(opened.Confirm());
     EXPECT_EQ(opened.Value("C"), "") << "cleared by the run nested in the clearing of B";
-    // Reading M moved the focus on, in each of the three runs, and began none.
-    EXPECT_EQ(opened.focus, "M");
-    EXPECT_EQ(opened.runCount, 3);
+    // Reading M moved the focus on, in each of the runs, and began none: there is one for the focus that reading L
+    // moved, and two for each field that was emptied.
+    EXPECT_EQ(opened.Focus(), "M");
+    EXPECT_EQ(opened.runCount, 5);
 }
 
 TEST_F(Rules, DoNotRunWhileTheControlsAreCreated)
@@ -379,7 +387,7 @@ TEST_F(Rules, DoNotRunWhileTheInputIsScanned)
     text.input = "Start: (\";\", End, Rest, End = A, B\n";
     text.dependencies = "C/CLEAR = A\n";
     text.values = "C = stays\n";
-    const HeadlessForm& opened = Open("x");
+    const LiveForm& opened = Open("x");
     EXPECT_EQ(opened.runCount, 0);
     EXPECT_EQ(opened.Value("A"), "x");
     // What was scanned is the baseline, so nothing counts as changed.
@@ -388,18 +396,18 @@ TEST_F(Rules, DoNotRunWhileTheInputIsScanned)
 
 TEST_F(Rules, StayOffAfterAConstructionThatFailedHalfway)
 {
-    HeadlessForm& outer = Open();
+    LiveForm& outer = Open();
     {
         DescriptionText circle;
         circle.input = "Start: x = Start\n";
-        HeadlessForm failing(folder.Write("circle.dlg", circle()).c_str());
+        LiveForm failing(folder.Write("circle.dlg", circle()).c_str());
         EXPECT_FALSE(failing.Open());
         EXPECT_EQ(Messages(), "The input statements go round in a circle.\n206 '';");
     }
     EXPECT_EQ(lytInputApplied, 0);
     outer.Command();
     EXPECT_EQ(outer.runCount, 0);
-    HeadlessForm inner(folder.Write("inner.dlg", text()).c_str());
+    LiveForm inner(folder.Write("inner.dlg", text()).c_str());
     EXPECT_TRUE(inner.Open());
     outer.Command();
     EXPECT_EQ(outer.runCount, 1);
@@ -408,12 +416,21 @@ TEST_F(Rules, StayOffAfterAConstructionThatFailedHalfway)
 TEST_F(Rules, NameTheButtonThatHasTheReturnKey)
 {
     text.dependencies = "P/DEFBUTTON = A, B\nP/ACTIVE =\nOk/DEFBUTTON = C, B\n";
-    const HeadlessForm& opened = Open();
+    const LiveForm& opened = Open();
     EXPECT_EQ(opened.DefaultButtonFor("A"), "P");
     EXPECT_EQ(opened.DefaultButtonFor("B"), "P");
     EXPECT_EQ(opened.DefaultButtonFor("C"), "Ok");
     EXPECT_EQ(opened.DefaultButtonFor("L"), "");
     EXPECT_EQ(opened.DefaultButtonFor(""), "");
+}
+
+TEST_F(Rules, ThatGiveTheReturnKeyNeitherHideNorDisableTheButton)
+{
+    text.dependencies = "P/DEFBUTTON = A(x)\n";
+    LiveForm& opened = Open();
+    opened.Command();
+    EXPECT_TRUE(opened.IsShown("P"));
+    EXPECT_TRUE(opened.IsEnabled("P"));
 }
 
 TEST_F(Rules, MayNameAButtonForAWindowThatIsNoControl)

@@ -30,7 +30,7 @@ protected:
 // True for a dialog, false for a failure of this program or an argument that is missing.
 bool OpensOrFails(const std::string& file)
 {
-    HeadlessForm form(file.c_str());
+    LiveForm form(file.c_str());
     lytInputKey = "S1:area(2,kWh/(m2a))=\"n. a.\"";
     try
     {

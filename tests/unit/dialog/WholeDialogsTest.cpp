@@ -46,7 +46,7 @@ private:
     void TakeDescription();
     void TakeSample(const std::string& name);
     void Expect(const std::string& got, const std::string& wanted) { EXPECT_EQ(got, wanted); }
-    HeadlessForm& Made() { return MakeForm(description, input.c_str()); }
+    LiveForm& Made() { return MakeForm(description, input.c_str()); }
     // The message of a confirmation that keeps the dialog open.
     std::string Refusal();
 

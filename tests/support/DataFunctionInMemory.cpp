@@ -1,0 +1,15 @@
+// Natively libraries stand in a table, which knows the function from the start of the program.
+#include "platform/PartnerLibraries.h"
+#include "support/DataFunction.h"
+
+namespace
+{
+
+struct Registration
+{
+    Registration() { platform::AddFunction("unit-tests.exe", "FillText", DataFunction::Call); }
+};
+
+const Registration registration;
+
+} // namespace
