@@ -68,9 +68,8 @@ std::wstring WideOfUtf8(std::string_view text)
 std::string Utf8OfWide(std::wstring_view wide)
 {
     std::string text;
-    for (const wchar_t ch : wide)
+    for (const char32_t code : std::u32string(wide.begin(), wide.end()))
     {
-        const auto code = static_cast<unsigned>(ch);
         if (code >= 0x800)
             text += static_cast<char>(0xE0U | code >> 12U);
         if (code >= 0x80)
