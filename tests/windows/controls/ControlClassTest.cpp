@@ -38,7 +38,7 @@ protected:
     ControlClass() : dialog("none.dlg", CString())
     {
         dialog.SubclassWindow(
-            CreateWindowA("Static", "", WS_POPUP, 0, 0, 300, 300, nullptr, nullptr, nullptr, nullptr));
+            CreateWindowExA(0, "Static", "", WS_POPUP, 0, 0, 300, 300, nullptr, nullptr, nullptr, nullptr));
     }
     ~ControlClass() override { TakeMessages(); }
 
