@@ -5,11 +5,11 @@
 namespace
 {
 
-class Record : public CObject
+class ListedRecord : public CObject
 {
 public:
-    explicit Record(int* deaths) : m_deaths(deaths) {}
-    ~Record() override { ++*m_deaths; }
+    explicit ListedRecord(int* deaths) : m_deaths(deaths) {}
+    ~ListedRecord() override { ++*m_deaths; }
 
 private:
     int* m_deaths;
@@ -95,10 +95,10 @@ TEST(ClytOwnedList, DeletesEachRecordOnce)
 {
     int deaths = 0;
     {
-        ClytOwnedList<Record> list;
-        ClytOwnedList<Record> other;
-        list.AddTail(std::make_unique<Record>(&deaths));
-        other.AddTail(std::make_unique<Record>(&deaths));
+        ClytOwnedList<ListedRecord> list;
+        ClytOwnedList<ListedRecord> other;
+        list.AddTail(std::make_unique<ListedRecord>(&deaths));
+        other.AddTail(std::make_unique<ListedRecord>(&deaths));
         list.TakeAll(other);
         EXPECT_EQ(list.GetCount(), 2);
         list.RemoveHead();

@@ -33,7 +33,6 @@ protected:
     {
         return RecordedItems::Number(lytExpandNodes(nodes, {treeLevels, byLevels, selectKey}, items));
     }
-    ClytNode& NodeAt(int index) const { return *nodes.GetAt(nodes.FindIndex(index)); }
 
     ClytNodeList nodes;
     RecordedItems items;
@@ -69,7 +68,7 @@ TEST_F(NodeExpansion, OpensEverythingForAHugeNumber)
 
 TEST_F(NodeExpansion, SelectsTheRootAtTheOpeningByLevels)
 {
-    NodeAt(3).m_nCurrent = 1;
+    NodeAt(nodes, 3).m_nCurrent = 1;
     EXPECT_EQ(Expand(3, true, ""), 1);
 }
 
@@ -81,7 +80,7 @@ TEST_F(NodeExpansion, SelectsTheLastEntryWithTheKey)
 
 TEST_F(NodeExpansion, SelectsTheCurrentNodeUnlessTheKeyIsFound)
 {
-    NodeAt(3).m_nCurrent = 1;
+    NodeAt(nodes, 3).m_nCurrent = 1;
     EXPECT_EQ(Expand(3, false, ""), 4);
     EXPECT_EQ(Expand(3, false, "b"), 2);
     EXPECT_EQ(Expand(3, true, "unknown"), 4);
@@ -89,7 +88,7 @@ TEST_F(NodeExpansion, SelectsTheCurrentNodeUnlessTheKeyIsFound)
 
 TEST_F(NodeExpansion, LetsALaterKeyOverrideTheCurrentNode)
 {
-    NodeAt(1).m_nCurrent = 1;
+    NodeAt(nodes, 1).m_nCurrent = 1;
     EXPECT_EQ(Expand(3, false, "c"), 3);
 }
 
@@ -103,7 +102,7 @@ TEST_F(NodeExpansion, SelectsNothingForACurrentNodeThatIsNotShown)
 {
     RecordedItems groups;
     lytFillFromList(nodes, groups, 'G');
-    NodeAt(3).m_nCurrent = 1;
+    NodeAt(nodes, 3).m_nCurrent = 1;
     EXPECT_EQ(Expand(3, false, ""), 0);
 }
 
@@ -119,7 +118,7 @@ TEST_F(NodeExpansion, OpensWhatWasLeftOpenByItsExactState)
     {
         SCOPED_TRACE(c.state);
         items.expanded.clear();
-        NodeAt(1).m_nItemState = c.state;
+        NodeAt(nodes, 1).m_nItemState = c.state;
         Expand(9, false, "");
         EXPECT_EQ(items.expanded, c.open ? Numbers({2}) : Numbers());
     }
@@ -127,7 +126,7 @@ TEST_F(NodeExpansion, OpensWhatWasLeftOpenByItsExactState)
 
 TEST_F(NodeExpansion, LooksAtNoStateAtTheOpeningByLevels)
 {
-    NodeAt(2).m_nItemState = 96;
+    NodeAt(nodes, 2).m_nItemState = 96;
     Expand(2, true, "");
     EXPECT_EQ(items.expanded, Numbers({1, 5}));
 }

@@ -22,11 +22,6 @@ std::string TypesOf(const ClytNodeList& nodes)
     return types;
 }
 
-ClytNode& NodeAt(const ClytNodeList& nodes, int index)
-{
-    return *nodes.GetAt(nodes.FindIndex(index));
-}
-
 // The number of each entry's parent (0 is the root), as the told rule finds it: a walk back to the nearest entry with a
 // smaller level.
 std::vector<int> ParentsByWalkingBack(const std::vector<int>& levels)

@@ -31,25 +31,20 @@ std::string Found(const ClytNodeList& nodes, char kind, const char* text)
     return node != nullptr ? node->m_szLabel : "-";
 }
 
-const ClytNode* NodeAt(const ClytNodeList& nodes, int index)
-{
-    return nodes.GetAt(nodes.FindIndex(index));
-}
-
 // The told search, climbing back through the list from each match.
 const ClytNode* SearchByWalkingBack(const ClytNodeList& nodes, char kind, const std::string& text)
 {
     for (int match = 0; match < nodes.GetCount(); ++match)
     {
-        const std::string key = NodeAt(nodes, match)->m_szKey;
+        const std::string key = NodeAt(nodes, match).m_szKey;
         if (kind == 'G' ? key != text : key.compare(0, text.size(), text) != 0)
             continue;
         for (int place = match; place >= 0;)
         {
-            const ClytNode* node = NodeAt(nodes, place);
+            const ClytNode* node = &NodeAt(nodes, place);
             if (node->m_cType == kind)
                 return node;
-            while (place >= 0 && NodeAt(nodes, place)->m_nLevel >= node->m_nLevel)
+            while (place >= 0 && NodeAt(nodes, place).m_nLevel >= node->m_nLevel)
                 --place;
         }
     }
@@ -142,7 +137,7 @@ TEST(NodeSearch, FindsTheFirstNodeWithAnItem)
     FillHouse(nodes);
     RecordedItems items;
     lytFillFromList(nodes, items, 'S');
-    EXPECT_EQ(lytFindNodeByItem(nodes, RecordedItems::Item(3)), NodeAt(nodes, 2));
+    EXPECT_EQ(lytFindNodeByItem(nodes, RecordedItems::Item(3)), &NodeAt(nodes, 2));
     EXPECT_EQ(lytFindNodeByItem(nodes, RecordedItems::Item(99)), nullptr);
 }
 
@@ -158,28 +153,28 @@ TEST(NodeMarks, MoveToOneNode)
     ClytNodeList nodes;
     FillHouse(nodes);
     EXPECT_EQ(lytFindCurrentNode(nodes), nullptr);
-    lytMarkCurrentNode(nodes, NodeAt(nodes, 3));
-    lytMarkCurrentNode(nodes, NodeAt(nodes, 1));
-    EXPECT_EQ(lytFindCurrentNode(nodes), NodeAt(nodes, 1));
-    EXPECT_EQ(NodeAt(nodes, 3)->m_nCurrent, 0);
+    lytMarkCurrentNode(nodes, &NodeAt(nodes, 3));
+    lytMarkCurrentNode(nodes, &NodeAt(nodes, 1));
+    EXPECT_EQ(lytFindCurrentNode(nodes), &NodeAt(nodes, 1));
+    EXPECT_EQ(NodeAt(nodes, 3).m_nCurrent, 0);
 }
 
 TEST(NodeMarks, RestoreTheNodeSelectedAtOpening)
 {
     ClytNodeList nodes;
     FillHouse(nodes);
-    lytMarkInitialNode(nodes, NodeAt(nodes, 2));
-    lytMarkCurrentNode(nodes, NodeAt(nodes, 4));
+    lytMarkInitialNode(nodes, &NodeAt(nodes, 2));
+    lytMarkCurrentNode(nodes, &NodeAt(nodes, 4));
     lytRestoreCurrentNode(nodes);
-    EXPECT_EQ(lytFindCurrentNode(nodes), NodeAt(nodes, 2));
-    EXPECT_EQ(NodeAt(nodes, 4)->m_nCurrent, 0);
+    EXPECT_EQ(lytFindCurrentNode(nodes), &NodeAt(nodes, 2));
+    EXPECT_EQ(NodeAt(nodes, 4).m_nCurrent, 0);
 }
 
 TEST(NodeMarks, RestoreToNoneWhenNoneWasSelected)
 {
     ClytNodeList nodes;
     FillHouse(nodes);
-    lytMarkCurrentNode(nodes, NodeAt(nodes, 4));
+    lytMarkCurrentNode(nodes, &NodeAt(nodes, 4));
     lytRestoreCurrentNode(nodes);
     EXPECT_EQ(lytFindCurrentNode(nodes), nullptr);
 }
@@ -192,7 +187,7 @@ TEST(WizardChoice, NamesTypeKeyAndLabelWithItsMarks)
                     Record(0, LYT_TREE_GROUP, "c##d", "g"),
                     Record(0, LYT_TREE_SYMBOL, "e/f", "s"),
                 });
-    EXPECT_EQ(lytWizardChoice(*NodeAt(nodes, 0)), "H//a##b");
-    EXPECT_EQ(lytWizardChoice(*NodeAt(nodes, 1)), "G/g/c##d");
-    EXPECT_EQ(lytWizardChoice(*NodeAt(nodes, 2)), "S/s/e/f");
+    EXPECT_EQ(lytWizardChoice(NodeAt(nodes, 0)), "H//a##b");
+    EXPECT_EQ(lytWizardChoice(NodeAt(nodes, 1)), "G/g/c##d");
+    EXPECT_EQ(lytWizardChoice(NodeAt(nodes, 2)), "S/s/e/f");
 }

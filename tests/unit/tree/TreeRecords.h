@@ -10,6 +10,12 @@
 // A record with texts; both must fit.
 lytTreeRecord Record(int level, int type, const std::string& label, const std::string& key);
 
+// The node at a place of the list, counted from 0.
+inline ClytNode& NodeAt(const ClytNodeList& nodes, int index)
+{
+    return *nodes.GetAt(nodes.FindIndex(index));
+}
+
 // Serves the records to whoever reads `Source()` while it lives; one at a time.
 class RecordedSource
 {
