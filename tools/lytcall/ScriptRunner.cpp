@@ -34,9 +34,9 @@ std::vector<Step> StepsOfFile(const std::string& fileName)
 
 } // namespace
 
-ScriptRunner::ScriptRunner(const std::string& scriptFile, const std::string& pictureFile, int secondsPerStep)
+ScriptRunner::ScriptRunner(const std::string& scriptFile, std::string pictureFile, int secondsPerStep)
     : m_file(scriptFile),
-      m_picture(pictureFile),
+      m_picture(std::move(pictureFile)),
       m_steps(StepsOfFile(scriptFile)),
       m_unseen(std::getenv("LYT_UNSEEN") != nullptr),
       m_patience(static_cast<ULONGLONG>(secondsPerStep) * 1000)

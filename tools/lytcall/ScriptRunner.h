@@ -19,7 +19,7 @@ class ScriptRunner
 public:
     // Both file names may be empty: then no step is taken, no picture made. Raises ScriptError for a script that cannot
     // be read.
-    ScriptRunner(const std::string& scriptFile, const std::string& pictureFile, int secondsPerStep);
+    ScriptRunner(const std::string& scriptFile, std::string pictureFile, int secondsPerStep);
     ScriptRunner(const ScriptRunner&) = delete;
     ScriptRunner& operator=(const ScriptRunner&) = delete;
     ~ScriptRunner();

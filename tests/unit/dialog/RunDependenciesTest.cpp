@@ -42,7 +42,7 @@ class UnlimitedNesting
 {
 public:
     // A chain through all fields in an order of its own, each with one more field that sets it off.
-    UnlimitedNesting(int fields, unsigned seed) : texts(fields), deepestRun(0), saved(fields), random(seed)
+    UnlimitedNesting(int fields, unsigned seed) : texts(fields), saved(fields), random(seed)
     {
         for (int index = 1; index < fields; ++index)
             rules.push_back({.target = index, .sources = {index - 1, static_cast<int>(random() % fields)}});
@@ -78,7 +78,7 @@ public:
     }
 
     std::vector<std::string> texts;
-    int deepestRun;
+    int deepestRun = 0;
 
 private:
     struct Rule

@@ -95,7 +95,7 @@ TEST_F(PlainControls, InactiveConditionFailsUnlessItIsHiddenOrDisplayOnly)
         description.values = std::string("Edit = ") + word + "\nEdit = INACTIVE\n";
         description.rules = "Static/VISIBLE = Edit\n";
         Describe(description);
-        On([&](HWND dialog) { EXPECT_EQ(IsWindowVisible(Static(dialog)) != FALSE, holds); });
+        On([expected = holds](HWND dialog) { EXPECT_EQ(IsWindowVisible(Static(dialog)) != FALSE, expected); });
         EXPECT_EQ(ShowAndPress(IDOK, "a"), 2);
     }
 }

@@ -26,7 +26,7 @@ public:
 
     char* Data() { return m_bytes.data(); }
     int Size() const { return m_size; }
-    std::string Text() const { return m_bytes.c_str(); }
+    std::string Text() const { return m_bytes.substr(0, m_bytes.find('\0')); }
     // The byte one beyond the stated size, which some functions may write.
     char ByteBeyond() const { return m_bytes[static_cast<size_t>(m_size)]; }
     // True when nothing was written from `offset` bytes beyond the stated size on.
