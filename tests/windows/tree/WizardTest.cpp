@@ -108,12 +108,12 @@ TEST_F(Wizard, LetsItsGroupDialogFillACheckListForTheGroup)
     for (const auto& [label, group] : {std::pair("Roof", "<roof>"), std::pair("Wall", "<wall>")})
     {
         robot::Robot robot;
-        robot.On("Catalogue", [&](HWND dialog) { TreeWindow(dialog).Pick(label); })
+        robot.On("Catalogue", [choice = label](HWND dialog) { TreeWindow(dialog).Pick(choice); })
             .On("Group", [](HWND dialog) { robot::Click(robot::ChildOfClass(dialog, "Button")); })
             .On("Group",
-                [&](HWND dialog)
+                [items = Lines{group}](HWND dialog)
                 {
-                    EXPECT_EQ(robot::ItemsOf(robot::ChildOfClass(dialog, "ListBox")), Lines{group});
+                    EXPECT_EQ(robot::ItemsOf(robot::ChildOfClass(dialog, "ListBox")), items);
                     robot::Press(robot::ChildWithText(dialog, "Stop"));
                 });
         EXPECT_EQ(Next(), "0 untouched");
