@@ -34,9 +34,6 @@ protected:
     std::unique_ptr<ClytControl> MakeControl(const CString& type, const CString& name, ClytPosition position,
                                              ClytSize size, const CString& label) override;
     void CreateControlWindow(ClytControl& control) override;
-    // The platform delivers some sixty messages one inside the other and drops what goes beyond without a word. A run
-    // takes two of them or more, and the dialogs below this one have had theirs.
-    int DeepestRun() const override { return 10; }
 
     DECLARE_MESSAGE_MAP()
 

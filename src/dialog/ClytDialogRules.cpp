@@ -15,6 +15,10 @@ int lytInputApplied = 0;
 namespace
 {
 
+// How many runs may stand one inside the other. The platform delivers some sixty messages one inside the other and drops
+// what goes beyond without a word. A run takes two of them or more, and the dialogs below this one have had theirs.
+constexpr int deepestRun = 10;
+
 // How many runs the innermost one makes up for, so that rules that set each other off come to an end.
 constexpr int mostMadeUpRuns = 1000;
 
@@ -56,7 +60,7 @@ public:
     // False when no run fits inside this one; the one that wanted to is remembered.
     bool Admits()
     {
-        m_hasRefused = m_depth >= m_owner.DeepestRun();
+        m_hasRefused = m_depth >= deepestRun;
         return !m_hasRefused;
     }
     // True once after a run was refused, as long as it may still be made up for.

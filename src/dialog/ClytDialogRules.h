@@ -78,10 +78,6 @@ protected:
     // Calls the control's CreateControl with the dialog.
     virtual void CreateControlWindow(ClytControl& control) = 0;
 
-    // How many runs may stand one inside the other. Each event rule can begin one in the run of another, and a
-    // description with thousands of them must not use up the host's stack.
-    virtual int DeepestRun() const { return 50; }
-
     // The rule that gives Return in the named control to a button, or null. An empty name is that of a window that is
     // no control.
     const ClytControlDep* FindDefaultButtonRule(const CString& focusName) const;
