@@ -1,6 +1,6 @@
 #include "lytcall/Script.h"
 
-#include "lytcall/Words.h"
+#include "commandline/Suggestion.h"
 
 #include <algorithm>
 #include <cctype>
@@ -114,7 +114,7 @@ const StepForm& LineReader::FormOf(const Word& word) const
     std::vector<std::string> known;
     for (const StepForm& form : forms)
         known.emplace_back(form.word);
-    Fail(word.column, "there is no step \"" + word.text + "\"; " + Suggestion(word.text, known));
+    Fail(word.column, "there is no step \"" + word.text + "\"; " + commandline::Suggestion(word.text, known));
 }
 
 Target LineReader::TargetOf(const Word& word) const
@@ -138,8 +138,8 @@ Target LineReader::TargetOf(const Word& word) const
 void LineReader::CheckWord(const Word& word, const char* what, const std::vector<std::string>& known) const
 {
     if (std::ranges::find(known, word.text) == known.end())
-        Fail(word.column,
-             std::string("there is no ") + what + " \"" + word.text + "\"; " + Suggestion(word.text, known));
+        Fail(word.column, std::string("there is no ") + what + " \"" + word.text + "\"; " +
+                              commandline::Suggestion(word.text, known));
 }
 
 void LineReader::CheckArgument(char shape, const Word& word) const

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "lytcall/LytLibrary.h"
-#include "lytcall/Options.h"
+#include "lytcall/ProgramForm.h"
 
 #include <functional>
 #include <string>

@@ -43,7 +43,8 @@ int Run(const lytcall::Request& request)
 {
     if (request.command == "help")
     {
-        std::printf("%s", request.Operand(0, "") == "script" ? ScriptHelp().c_str() : lytcall::HelpText().c_str());
+        std::printf("%s", request.Operand(0, "") == "script" ? ScriptHelp().c_str()
+                                                             : commandline::HelpText(lytcall::TheProgram()).c_str());
         return done;
     }
     const lytcall::Session session(request);
@@ -64,9 +65,9 @@ int main(int count, char** words)
     SetConsoleOutputCP(CP_UTF8);
     try
     {
-        return Run(lytcall::ReadCommandLine({words + 1, words + count}));
+        return Run(commandline::ReadCommandLine(lytcall::TheProgram(), {words + 1, words + count}));
     }
-    catch (const lytcall::UsageError& error)
+    catch (const commandline::UsageError& error)
     {
         Tell(error, notUnderstood);
         std::fprintf(stderr, "`lytcall --help` lists commands and options.\n");

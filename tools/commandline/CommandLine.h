@@ -1,4 +1,4 @@
-// The command line of lytcall: one table of commands, one of options; reading and help follow from them.
+// The command line of a tool: a table of commands and options that reading and help both follow from.
 #pragma once
 
 #include <map>
@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-namespace lytcall
+namespace commandline
 {
 
 // A command line that cannot be understood; the text tells the way out.
@@ -14,15 +14,6 @@ class UsageError : public std::runtime_error
 {
 public:
     using std::runtime_error::runtime_error;
-};
-
-struct CommandForm
-{
-    const char* word;
-    const char* operands; // as help shows them; those in brackets may be left out
-    size_t least;         // how many must be there
-    size_t most;
-    const char* meaning;
 };
 
 struct OptionForm
@@ -33,8 +24,24 @@ struct OptionForm
     const char* meaning;
 };
 
-const std::vector<CommandForm>& CommandForms();
-const std::vector<OptionForm>& OptionForms();
+struct CommandForm
+{
+    const char* word;
+    const char* operands; // as help shows them; those in brackets may be left out
+    size_t least;         // how many must be there
+    size_t most;
+    const char* meaning;
+    std::vector<OptionForm> options = {}; // those of this command alone
+};
+
+struct ProgramForm
+{
+    const char* name;
+    const char* purpose; // a sentence
+    std::vector<CommandForm> commands;
+    std::vector<OptionForm> options; // those that every command takes
+    const char* remarks;             // what help ends with
+};
 
 // A command line that was understood.
 class Request
@@ -44,7 +51,7 @@ public:
     std::vector<std::string> operands;
 
     bool Has(const std::string& option) const { return m_options.contains(option); }
-    // The value of an option that was given last, or what stands for it.
+    // The value of an option that was given last, or the other text without one.
     std::string Text(const std::string& option, const std::string& otherwise) const;
     int Number(const std::string& option, int otherwise) const;
     // Every value of an option that may be given more than once, in order.
@@ -56,9 +63,11 @@ private:
     std::map<std::string, std::vector<std::string>> m_options;
 };
 
-// Reads a command line without the program's name. An empty one, `help` and `--help` give the command "help".
-Request ReadCommandLine(const std::vector<std::string>& words);
-// What --help prints.
-std::string HelpText();
+// Reads a command line without the program's name. An empty one, `help` and `--help` give the command "help"; after a
+// command, `--help` gives it with that command as its operand.
+Request ReadCommandLine(const ProgramForm& program, const std::vector<std::string>& words);
+// What help prints: for the program, or for the command of that name.
+std::string HelpText(const ProgramForm& program);
+std::string HelpText(const ProgramForm& program, const std::string& command);
 
-} // namespace lytcall
+} // namespace commandline

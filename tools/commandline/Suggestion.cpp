@@ -1,9 +1,9 @@
-#include "lytcall/Words.h"
+#include "commandline/Suggestion.h"
 
 #include <algorithm>
 #include <numeric>
 
-namespace lytcall
+namespace commandline
 {
 
 namespace
@@ -46,4 +46,4 @@ std::string Suggestion(const std::string& word, const std::vector<std::string>& 
     return "use one of: " + list;
 }
 
-} // namespace lytcall
+} // namespace commandline

@@ -1,12 +1,16 @@
-#include "lytcall/Options.h"
+#include "lytcall/ProgramForm.h"
 
 #include <gtest/gtest.h>
 
-using lytcall::ReadCommandLine;
 using lytcall::Request;
 
 namespace
 {
+
+Request ReadCommandLine(const std::vector<std::string>& words)
+{
+    return commandline::ReadCommandLine(lytcall::TheProgram(), words);
+}
 
 std::string Mistake(const std::vector<std::string>& words)
 {
@@ -14,7 +18,7 @@ std::string Mistake(const std::vector<std::string>& words)
     {
         ReadCommandLine(words);
     }
-    catch (const lytcall::UsageError& error)
+    catch (const commandline::UsageError& error)
     {
         return error.what();
     }
@@ -23,7 +27,7 @@ std::string Mistake(const std::vector<std::string>& words)
 
 } // namespace
 
-TEST(Options, TellsCommandOperandsAndOptionsApart)
+TEST(CommandLine, TellsCommandOperandsAndOptionsApart)
 {
     const Request request = ReadCommandLine({"group", "--kind", "0", "a(b)", "--define", "X", "--define", "Y"});
     EXPECT_EQ(request.command, "group");
@@ -34,39 +38,39 @@ TEST(Options, TellsCommandOperandsAndOptionsApart)
     EXPECT_EQ(request.Number("--size", 7), 7);
 }
 
-TEST(Options, TheLastOfTwoValuesCounts)
+TEST(CommandLine, TheLastOfTwoValuesCounts)
 {
     EXPECT_EQ(ReadCommandLine({"doc", "--size", "1", "--size", "-2"}).Number("--size", 0), -2);
 }
 
-TEST(Options, AreOverBehindTwoHyphens)
+TEST(CommandLine, OptionsEndAtTwoHyphens)
 {
     const Request request = ReadCommandLine({"find", "--", "--key"});
     EXPECT_EQ(request.operands, std::vector<std::string>{"--key"});
 }
 
-TEST(Options, NothingAndHelpAskForHelp)
+TEST(CommandLine, NothingAndHelpAskForHelp)
 {
     EXPECT_EQ(ReadCommandLine({}).command, "help");
     EXPECT_EQ(ReadCommandLine({"--help"}).command, "help");
     EXPECT_EQ(ReadCommandLine({"group", "a", "b", "--help"}).command, "help");
 }
 
-TEST(Options, MistakesTellTheWayOut)
+TEST(CommandLine, MistakesTellTheWayOut)
 {
     EXPECT_EQ(Mistake({"symbl"}), "there is no command \"symbl\"; did you mean \"symbol\"?");
     EXPECT_EQ(Mistake({"doc", "--scrpt", "x"}), "there is no option --scrpt; did you mean \"--script\"?");
-    EXPECT_EQ(Mistake({"doc", "--script"}), "option --script needs FILE behind it");
+    EXPECT_EQ(Mistake({"doc", "--script"}), "option --script needs FILE after it");
     EXPECT_EQ(Mistake({"doc", "--size", "big"}), "option --size needs a number and not \"big\"");
-    EXPECT_EQ(Mistake({"find"}), "something is missing behind \"find\"; write: lytcall find KEY");
+    EXPECT_EQ(Mistake({"find"}), "something is missing after \"find\"; write: lytcall find KEY");
     EXPECT_EQ(Mistake({"find", "a", "b"}), "\"b\" is one word too many; write: lytcall find KEY");
 }
 
-TEST(Options, HelpNamesEveryCommandAndOption)
+TEST(CommandLine, HelpNamesEveryCommandAndOption)
 {
-    const std::string help = lytcall::HelpText();
-    for (const lytcall::CommandForm& form : lytcall::CommandForms())
+    const std::string help = commandline::HelpText(lytcall::TheProgram());
+    for (const commandline::CommandForm& form : lytcall::TheProgram().commands)
         EXPECT_NE(help.find(form.word), std::string::npos) << form.word;
-    for (const lytcall::OptionForm& form : lytcall::OptionForms())
+    for (const commandline::OptionForm& form : lytcall::TheProgram().options)
         EXPECT_NE(help.find(form.word), std::string::npos) << form.word;
 }

@@ -4,10 +4,10 @@
 #include <string>
 #include <vector>
 
-namespace lytcall
+namespace commandline
 {
 
 // "did you mean ...?" when one of the known words is close, else a list of them all.
 std::string Suggestion(const std::string& word, const std::vector<std::string>& known);
 
-} // namespace lytcall
+} // namespace commandline

@@ -1,0 +1,208 @@
+#include "commandline/CommandLine.h"
+
+#include "commandline/Suggestion.h"
+
+#include <algorithm>
+#include <cctype>
+
+namespace commandline
+{
+
+namespace
+{
+
+constexpr size_t helpColumn = 30;
+
+template <class Form>
+const Form* Find(const std::vector<Form>& forms, const std::string& word)
+{
+    const auto found = std::ranges::find_if(forms, [&](const Form& form) { return word == form.word; });
+    return found != forms.end() ? &*found : nullptr;
+}
+
+template <class Form>
+void AddWords(const std::vector<Form>& forms, std::vector<std::string>& words)
+{
+    for (const Form& form : forms)
+        words.emplace_back(form.word);
+}
+
+bool IsNumber(const std::string& text)
+{
+    const size_t sign = !text.empty() && text.front() == '-' ? 1 : 0;
+    return text.size() > sign && text.size() < 10 &&
+           std::all_of(text.begin() + static_cast<std::ptrdiff_t>(sign), text.end(),
+                       [](unsigned char ch) { return std::isdigit(ch) != 0; });
+}
+
+const CommandForm& CommandOf(const ProgramForm& program, const std::string& word)
+{
+    if (const CommandForm* form = Find(program.commands, word))
+        return *form;
+    std::vector<std::string> known;
+    AddWords(program.commands, known);
+    throw UsageError("there is no command \"" + word + "\"; " + Suggestion(word, known));
+}
+
+// Options may stand before the command, so until it is known those of all commands are.
+const OptionForm& OptionOf(const ProgramForm& program, const std::string& command, const std::string& word)
+{
+    if (const OptionForm* form = Find(program.options, word))
+        return *form;
+    std::vector<std::string> known;
+    AddWords(program.options, known);
+    for (const CommandForm& candidate : program.commands)
+    {
+        if (!command.empty() && command != candidate.word)
+            continue;
+        if (const OptionForm* form = Find(candidate.options, word))
+            return *form;
+        AddWords(candidate.options, known);
+    }
+    throw UsageError("there is no option " + word + "; " + Suggestion(word, known));
+}
+
+std::string Padded(std::string text)
+{
+    text.append(text.size() < helpColumn ? helpColumn - text.size() : 1, ' ');
+    return text;
+}
+
+std::string HelpLine(const CommandForm& form)
+{
+    return "  " + Padded(std::string(form.word) + " " + form.operands) + form.meaning + "\n";
+}
+
+std::string HelpLines(const std::vector<OptionForm>& forms)
+{
+    std::string text;
+    for (const OptionForm& form : forms)
+    {
+        const std::string value = form.value != nullptr ? std::string(" ") + form.value : "";
+        text += "  " + Padded(form.word + value) + form.meaning + "\n";
+    }
+    return text;
+}
+
+// The words of a command line, one after the other.
+class Reader
+{
+public:
+    Reader(const ProgramForm& form, const std::vector<std::string>& commandWords) : program(form), words(commandWords)
+    {
+    }
+
+    Request Read()
+    {
+        while (next < words.size())
+        {
+            const std::string& word = words[next++];
+            if (!optionsEnded && word == "--")
+                optionsEnded = true;
+            else if (!optionsEnded && word.starts_with("--"))
+                TakeOption(word);
+            else if (request.command.empty())
+                request.command = word;
+            else
+                request.operands.push_back(word);
+        }
+        if (request.command.empty() || request.Has("--help"))
+            return HelpRequest();
+        CheckOptions();
+        CheckOperands();
+        return std::move(request);
+    }
+
+private:
+    void TakeOption(const std::string& word)
+    {
+        const OptionForm& form = OptionOf(program, request.command, word);
+        if (form.value != nullptr && next == words.size())
+            throw UsageError("option " + word + " needs " + form.value + " after it");
+        const std::string value = form.value != nullptr ? words[next++] : "";
+        if (form.number && !IsNumber(value))
+            throw UsageError("option " + word + " needs a number and not \"" + value + "\"");
+        request.Add(word, value);
+        taken.push_back(word);
+    }
+
+    Request HelpRequest() const
+    {
+        Request help;
+        help.command = "help";
+        if (!request.command.empty() && request.command != help.command)
+            help.operands.push_back(request.command);
+        return help;
+    }
+
+    void CheckOptions() const
+    {
+        for (const std::string& word : taken)
+            OptionOf(program, request.command, word);
+    }
+
+    void CheckOperands() const
+    {
+        const CommandForm& form = CommandOf(program, request.command);
+        const std::string shape = std::string("write: ") + program.name + " " + form.word + " " + form.operands;
+        if (request.operands.size() < form.least)
+            throw UsageError("something is missing after \"" + request.command + "\"; " + shape);
+        if (request.operands.size() > form.most)
+            throw UsageError("\"" + request.operands[form.most] + "\" is one word too many; " + shape);
+    }
+
+    const ProgramForm& program;
+    const std::vector<std::string>& words;
+    size_t next = 0;
+    bool optionsEnded = false;
+    Request request;
+    std::vector<std::string> taken;
+};
+
+} // namespace
+
+std::string Request::Text(const std::string& option, const std::string& otherwise) const
+{
+    const auto found = m_options.find(option);
+    return found != m_options.end() ? found->second.back() : otherwise;
+}
+
+int Request::Number(const std::string& option, int otherwise) const
+{
+    return Has(option) ? std::stoi(Text(option, "")) : otherwise;
+}
+
+std::vector<std::string> Request::Texts(const std::string& option) const
+{
+    const auto found = m_options.find(option);
+    return found != m_options.end() ? found->second : std::vector<std::string>();
+}
+
+std::string Request::Operand(size_t index, const std::string& otherwise) const
+{
+    return index < operands.size() ? operands[index] : otherwise;
+}
+
+Request ReadCommandLine(const ProgramForm& program, const std::vector<std::string>& words)
+{
+    return Reader(program, words).Read();
+}
+
+std::string HelpText(const ProgramForm& program)
+{
+    std::string text =
+        std::string(program.purpose) + "\n\nusage: " + program.name + " COMMAND [OPERANDS] [OPTIONS]\n\ncommands:\n";
+    for (const CommandForm& form : program.commands)
+        text += HelpLine(form);
+    return text + "\noptions:\n" + HelpLines(program.options) + "\n" + program.remarks;
+}
+
+std::string HelpText(const ProgramForm& program, const std::string& command)
+{
+    const CommandForm& form = CommandOf(program, command);
+    const std::string text = std::string("usage: ") + program.name + " " + form.word + " " + form.operands + "\n\n" +
+                             form.meaning + "\n\noptions:\n";
+    return text + HelpLines(form.options) + HelpLines(program.options);
+}
+
+} // namespace commandline
