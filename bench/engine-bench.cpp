@@ -2,9 +2,9 @@
 #include "MedianTable.h"
 
 #include "environment/ProcessState.h"
+#include "liveform/LiveForm.h"
 #include "model/ClytObserver.h"
 #include "support/DescriptionText.h"
-#include "support/LiveForm.h"
 #include "support/TestFolder.h"
 
 #include <cstdio>

@@ -2,8 +2,8 @@
 
 #include "controls/ClytPushButtonControl.h"
 #include "environment/ProcessState.h"
+#include "liveform/LiveForm.h"
 #include "support/DescriptionText.h"
-#include "support/LiveForm.h"
 #include "support/RecordedMessages.h"
 #include "support/TestFolder.h"
 

@@ -11,7 +11,7 @@ namespace commandline
 namespace
 {
 
-constexpr size_t helpColumn = 30;
+constexpr size_t helpColumn = 28;
 
 template <class Form>
 const Form* Find(const std::vector<Form>& forms, const std::string& word)

@@ -1,12 +1,15 @@
 #include "lytcall/Commands.h"
 
-#include "lytcall/Text.h"
+#include "commandline/Text.h"
 
 #include <algorithm>
 #include <cstdio>
 
 namespace lytcall
 {
+
+using commandline::PrintNumber;
+using commandline::PrintText;
 
 namespace
 {

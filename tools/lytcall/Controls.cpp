@@ -1,6 +1,6 @@
 #include "lytcall/Controls.h"
 
-#include "lytcall/Text.h"
+#include "commandline/Text.h"
 #include "lytcall/TreeItems.h"
 
 #include "robot/WindowRobot.h"
@@ -10,6 +10,10 @@
 
 namespace lytcall
 {
+
+using commandline::Quoted;
+using commandline::ToAnsi;
+using commandline::ToUtf8;
 
 namespace
 {

@@ -1,13 +1,16 @@
 #include "lytcall/Commands.h"
 
+#include "commandline/Text.h"
 #include "lytcall/OwnedFile.h"
-#include "lytcall/Text.h"
 
 #include <cstdio>
 #include <io.h>
 
 namespace lytcall
 {
+
+using commandline::PrintNumber;
+using commandline::ToUtf8;
 
 namespace
 {

@@ -1,8 +1,8 @@
 #include "lytcall/ScriptRunner.h"
 
+#include "commandline/Text.h"
 #include "lytcall/OwnedFile.h"
 #include "lytcall/Picture.h"
-#include "lytcall/Text.h"
 
 #include "robot/WindowRobot.h"
 
@@ -11,6 +11,9 @@
 
 namespace lytcall
 {
+
+using commandline::Quoted;
+using commandline::ToUtf8;
 
 namespace
 {

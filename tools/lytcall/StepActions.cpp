@@ -1,8 +1,8 @@
 #include "lytcall/StepActions.h"
 
+#include "commandline/Text.h"
 #include "lytcall/Controls.h"
 #include "lytcall/Picture.h"
-#include "lytcall/Text.h"
 #include "lytcall/TreeItems.h"
 
 #include "robot/WindowRobot.h"
@@ -13,6 +13,12 @@
 
 namespace lytcall
 {
+
+using commandline::PrintNumber;
+using commandline::PrintText;
+using commandline::Quoted;
+using commandline::ToAnsi;
+using commandline::ToUtf8;
 
 namespace
 {

@@ -2,9 +2,9 @@
 #pragma once
 
 #include "environment/ProcessState.h"
+#include "liveform/LiveForm.h"
 #include "support/DescriptionText.h"
 #include "support/ErrorTexts.h"
-#include "support/LiveForm.h"
 #include "support/RecordedMessages.h"
 
 #include <gtest/gtest.h>

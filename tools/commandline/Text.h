@@ -3,7 +3,7 @@
 
 #include <string>
 
-namespace lytcall
+namespace commandline
 {
 
 std::string ToUtf8(const std::string& ansi);
@@ -14,4 +14,4 @@ std::string Quoted(const std::string& text);
 void PrintText(const std::string& name, const std::string& ansi);
 void PrintNumber(const std::string& name, int value, const std::string& meaning = "");
 
-} // namespace lytcall
+} // namespace commandline

@@ -1,4 +1,4 @@
-#include "support/LiveForm.h"
+#include "liveform/LiveForm.h"
 
 #include "base/Counted.h"
 #include "controls/ClytCheckBoxControl.h"

@@ -1,10 +1,10 @@
-#include "lytcall/Text.h"
+#include "commandline/Text.h"
 
 #include <windows.h>
 
 #include <cstdio>
 
-namespace lytcall
+namespace commandline
 {
 
 namespace
@@ -61,4 +61,4 @@ void PrintNumber(const std::string& name, int value, const std::string& meaning)
     std::printf("%s = %d%s\n", name.c_str(), value, meaning.empty() ? "" : (" (" + meaning + ")").c_str());
 }
 
-} // namespace lytcall
+} // namespace commandline
