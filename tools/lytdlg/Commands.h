@@ -1,0 +1,32 @@
+// The commands of lytdlg: a row of one table each, and what carries it out.
+#pragma once
+
+#include "commandline/CommandLine.h"
+
+namespace lytdlg
+{
+
+using commandline::Request;
+
+// What a command ends with. A command line that cannot be understood is a UsageError.
+enum ExitCode
+{
+    good = 0,
+    found = 1, // findings, differences, a dialog that was refused
+    notUnderstood = 2
+};
+
+struct Command
+{
+    commandline::CommandForm form;
+    ExitCode (*run)(const Request& request);
+};
+
+// Every command, in the order of the help.
+const std::vector<Command>& Commands();
+const commandline::ProgramForm& TheProgram();
+
+// Carries a command line out, without the program's name, and gives the exit code.
+int Run(const std::vector<std::string>& words);
+
+} // namespace lytdlg
