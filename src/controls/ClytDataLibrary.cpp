@@ -21,11 +21,23 @@ bool ClytDataListing::Next()
     return answer != 0;
 }
 
-bool ClytDataLibrary::Load(const CString& name)
+void ClytListSource::TakeStatement(const CStringList& values, const ClytSpan& place)
+{
+    span = place;
+    POSITION value = values.GetHeadPosition();
+    for (CString* field : {&library, &startFunction, &nextFunction, &parameterRule})
+    {
+        if (value == nullptr)
+            return;
+        *field = values.GetNext(value);
+    }
+}
+
+bool ClytDataLibrary::Load(const ClytListSource& source)
 {
     if (module == nullptr)
-        module = lytLoadLibrary(name);
+        module = lytLoadLibrary(source.library);
     if (module == nullptr)
-        lytTellMissing(ClytMissing::Library, name);
+        lytTellMissing(ClytMissing::Library, source.library, nullptr, source.span);
     return module != nullptr;
 }

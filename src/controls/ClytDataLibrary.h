@@ -6,6 +6,8 @@
 
 #include "lytdata.h"
 
+#include <afxcoll.h>
+
 #include <array>
 
 // A buffer as a partner fills it. What a partner writes to the last byte is lost there, so that the text always ends.
@@ -44,18 +46,33 @@ private:
     ClytDataText value;
 };
 
+// The values of a "FILLEDBY" statement. Where one field only is filled there is no next function, and that value is not
+// looked at.
+struct ClytListSource
+{
+    // A statement that is cut short leaves the later values as they were.
+    void TakeStatement(const CStringList& values, const ClytSpan& place);
+
+    CString library;
+    CString startFunction;
+    CString nextFunction;
+    CString parameterRule; // the output rule that composes the parameter of the start function
+    ClytSpan span;         // of the statement
+};
+
 // The library that all controls of one class share. The first that loads stays: later names are not looked at.
 class ClytDataLibrary
 {
 public:
-    // False when there is no library yet and this one cannot be loaded.
-    bool Load(const CString& name);
+    // False when there is no library yet and that of the source cannot be loaded.
+    bool Load(const ClytListSource& source);
+    // A function that the source names; null when the library does not have it.
     template <class FUNCTION>
-    FUNCTION* Find(const CString& name) const
+    FUNCTION* Find(const CString& name, const ClytListSource& source) const
     {
         auto* found = lytFindFunction<FUNCTION>(module, name);
         if (found == nullptr)
-            lytTellMissing(ClytMissing::LibraryFunction, name);
+            lytTellMissing(ClytMissing::LibraryFunction, name, nullptr, source.span);
         return found;
     }
 

@@ -1,6 +1,5 @@
 #include "controls/ClytEditControl.h"
 
-#include "controls/ClytDataLibrary.h"
 #include "controls/ClytWaitCursor.h"
 
 namespace
@@ -28,23 +27,10 @@ void ClytEditControl::CreateControl(ClytForm* owner)
 
 void ClytEditControl::SetOption(const CStringList& values, const CString& keyword)
 {
-    if (!lytMeans<ClytKeyword::FilledBy>(keyword))
-    {
-        if (TakeCommonOption(values.GetHead()) == 0)
-            defaultValue = values.GetHead();
-        return;
-    }
-    // Library, function, one value that an edit has no use for, and the rule that composes the function's parameter. A
-    // statement that ends early leaves the later fields as they were.
-    CString ignored;
-    CString* const fields[] = {&library, &function, &ignored, &parameterRule};
-    POSITION place = values.GetHeadPosition();
-    for (CString* field : fields)
-    {
-        if (place == nullptr)
-            break;
-        *field = values.GetNext(place);
-    }
+    if (lytMeans<ClytKeyword::FilledBy>(keyword))
+        source.TakeStatement(values, StatementSpan());
+    else if (TakeCommonOption(values.GetHead()) == 0)
+        defaultValue = values.GetHead();
 }
 
 void ClytEditControl::SetValue(const CString& value)
@@ -78,10 +64,10 @@ void ClytEditControl::FillByLibrary()
 {
     const ClytWaitCursor waiting;
     CString parameter;
-    if (!parameterRule.IsEmpty() && !dialog->ComposeNamedOutput(parameterRule, parameter))
+    if (!source.parameterRule.IsEmpty() && dialog->ComposeNamedOutput(source.parameterRule, parameter) == 0)
         return;
-    if (!editLibrary.Load(library))
+    if (!editLibrary.Load(source))
         return;
-    if (auto* fill = editLibrary.Find<lytDataText>(function))
+    if (auto* fill = editLibrary.Find<lytDataText>(source.startFunction, source))
         SetWindowText(lytCallForText(*fill, parameter));
 }

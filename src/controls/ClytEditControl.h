@@ -1,6 +1,7 @@
 // A text field of one line. Its value is its text, which a data library can fill.
 #pragma once
 
+#include "controls/ClytDataLibrary.h"
 #include "controls/ClytWindowControl.h"
 
 class ClytEditControl : public ClytWindowControl<CEdit>
@@ -26,8 +27,6 @@ protected:
 
 private:
     CString defaultValue;
-    CString library;
-    CString function;
-    CString parameterRule;
+    ClytListSource source; // its start function gives the text
     CString savedText;
 };

@@ -7,17 +7,6 @@
 #include <type_traits>
 #include <utility>
 
-void ClytListSource::TakeStatement(const CStringList& values)
-{
-    POSITION place = values.GetHeadPosition();
-    for (CString* field : {&library, &startFunction, &nextFunction, &parameterRule})
-    {
-        if (place == nullptr)
-            return;
-        *field = values.GetNext(place);
-    }
-}
-
 template <class WINDOW>
 ClytDataLibrary ClytItemControl<WINDOW>::library;
 
@@ -87,13 +76,13 @@ void ClytItemControl<WINDOW>::FillByLibrary()
         return;
     if (source.library.IsEmpty())
         lytReport("251", CString(), this->name);
-    if (!library.Load(source.library))
+    if (!library.Load(source))
         return;
-    auto* start = library.template Find<lytDataStart>(source.startFunction);
+    auto* start = library.template Find<lytDataStart>(source.startFunction, source);
     if (start == nullptr)
         return;
     start(parameter);
-    auto* next = library.template Find<lytDataNext>(source.nextFunction);
+    auto* next = library.template Find<lytDataNext>(source.nextFunction, source);
     if (next == nullptr)
         return;
     const ClytRedrawPause pause(*this);

@@ -8,17 +8,6 @@
 #include "controls/ClytDataLibrary.h"
 #include "controls/ClytWindowControl.h"
 
-// The four values of a "FILLEDBY" statement; one that is cut short leaves the later ones as they were.
-struct ClytListSource
-{
-    void TakeStatement(const CStringList& values);
-
-    CString library;
-    CString startFunction;
-    CString nextFunction;
-    CString parameterRule; // the output rule that composes the parameter of the start function
-};
-
 template <class WINDOW>
 class ClytItemControl : public ClytWindowControl<WINDOW>
 {
@@ -42,7 +31,7 @@ public:
 
 protected:
     // Takes a "FILLEDBY" statement.
-    virtual void TakeSource(const CStringList& values) { source.TakeStatement(values); }
+    virtual void TakeSource(const CStringList& values) { source.TakeStatement(values, this->StatementSpan()); }
     // Takes a statement that is the class's own; false when it is an item.
     virtual bool TakeOwnStatement(const CStringList& /*values*/, const CString& /*keyword*/) { return false; }
     // Appends an item as GetAllValues delivers it.

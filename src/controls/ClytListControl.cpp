@@ -51,7 +51,7 @@ bool ClytListControl<WINDOW>::TakeOwnStatement(const CStringList& values, const 
 {
     if (!lytMeans<ClytKeyword::DoubleClick>(keyword))
         return false;
-    this->action.Set(keyword, values);
+    this->action.Set(keyword, values, this->StatementSpan());
     return true;
 }
 
@@ -66,7 +66,7 @@ void ClytListControl<WINDOW>::RunDoubleClick()
     else if (ClytControl* control = this->dialog->FindControl(target))
         lytClickControl(*control, *this->dialog);
     else
-        lytTellMissing(ClytMissing::DoubleClickTarget, target, this);
+        lytTellMissing(ClytMissing::DoubleClickTarget, target, this, this->action.GetSpan());
 }
 
 template <class WINDOW>

@@ -157,7 +157,7 @@ ClytPushButtonControl::After ClytPushButtonControl::OpenDialog()
     // A description refuses to open its dialog by composing nothing.
     if (!outputRule.IsEmpty() && lytInputKey.IsEmpty())
     {
-        lytTellMissing(ClytMissing::NestedDialog, Value(0), this);
+        lytTellMissing(ClytMissing::NestedDialog, Value(0), this, action.GetSpan());
         return After::Nothing;
     }
 
@@ -180,7 +180,7 @@ ClytControl* ClytPushButtonControl::Find(const CString& target) const
 {
     ClytControl* found = dialog->FindControl(target);
     if (found == nullptr)
-        lytTellMissing(ClytMissing::ButtonTarget, target, this);
+        lytTellMissing(ClytMissing::ButtonTarget, target, this, action.GetSpan());
     return found;
 }
 

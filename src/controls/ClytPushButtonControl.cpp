@@ -16,7 +16,7 @@ void ClytPushButtonControl::CreateControl(ClytForm* owner)
 void ClytPushButtonControl::SetOption(const CStringList& values, const CString& keyword)
 {
     if (TakeCommonOption(values.GetHead()) == 0)
-        action.Set(keyword, values);
+        action.Set(keyword, values, StatementSpan());
 }
 
 void ClytPushButtonControl::SetState(const ClytStateWord& word, int on)

@@ -106,7 +106,8 @@ private:
     void SaveBaseline();
     int AllConditionsHold(const ClytControlDep& rule);
     bool HoldsForOutput(const ClytDialogOutput& rule);
-    void TakeItem(ClytControl& control, const CString& action, CString& item);
+    // What a control gives for an item.
+    CString TakeItem(const ClytOutputItem& item);
 
     ClytDialogFile file;
     ClytControlMap controlMap;

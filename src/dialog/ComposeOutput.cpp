@@ -112,42 +112,41 @@ int ClytDialogRules::ComposeOutput(const ClytOutput& group, CString& target, int
     const ClytDialogOutput* rule = SelectRule(group);
     if (rule == nullptr)
         return 0;
-    CStringArray items;
-    items.SetSize(itemPlaces);
-    for (int index = 0; index < rule->items.GetCount(); ++index)
-        items.SetAt(index, rule->items[index]);
-    for (int index = 0; index < rule->items.GetCount(); ++index)
+    CStringArray texts;
+    texts.SetSize(itemPlaces);
+    int index = 0;
+    for (const ClytOutputItem& item : rule->items)
+        texts.SetAt(index++, item.text);
+    index = 0;
+    for (const ClytOutputItem& item : rule->items)
     {
-        ClytControl* control = rule->GetItemControl(index);
-        if (control == nullptr)
-            continue;
-        if (check != 0 && control->Evaluate() == 0)
+        if (item.control != nullptr)
         {
-            control->ShowEvalMessage();
-            return 0;
+            if (check != 0 && item.control->Evaluate() == 0)
+            {
+                item.control->ShowEvalMessage();
+                return 0;
+            }
+            texts.SetAt(index, TakeItem(item));
         }
-        CString item = items[index];
-        TakeItem(*control, rule->actions[index], item);
-        items.SetAt(index, item);
+        ++index;
     }
-    target = FormatOutput(rule->format, items);
+    target = FormatOutput(rule->format, texts);
     return 1;
 }
 
 // Controls that know no name of their own (OK and Cancel) give no value.
-void ClytDialogRules::TakeItem(ClytControl& control, const CString& action, CString& item)
+CString ClytDialogRules::TakeItem(const ClytOutputItem& item)
 {
     const Counted read(readDepth);
-    const bool hasName = !control.GetName().IsEmpty();
-    if (action.IsEmpty())
-    {
-        if (hasName)
-            item = control.GetValue();
-        return;
-    }
-    item.Empty();
+    const bool hasName = !item.control->GetName().IsEmpty();
+    if (item.action.IsEmpty())
+        return hasName ? item.control->GetValue() : item.text;
+    CString values;
     if (hasName)
-        control.GetAllValues(item, lytMeans<ClytFillAction::Concat>(action) ? CString(listSeparator) : action);
+        item.control->GetAllValues(values, lytMeans<ClytFillAction::Concat>(item.action) ? CString(listSeparator)
+                                                                                         : item.action);
+    return values;
 }
 
 int ClytDialogRules::ComposeNamedOutput(const CString& groupName, CString& target)

@@ -118,9 +118,9 @@ void ClytDialogRules::ReadValues()
         if (values.IsEmpty())
             continue;
         if (control != nullptr)
-            control->SetOption(values, keyword);
+            control->TakeStatement(values, keyword, file.GetStatementPlace());
         else
-            TellPassedOver(ClytPassedOver::ValueStatement, name, file.GetLinePlace());
+            TellPassedOver(ClytPassedOver::ValueStatement, name, file.GetStatementPlace());
     }
 }
 
@@ -197,6 +197,7 @@ void ClytDialogRules::ReadInputs()
 void ClytDialogRules::ReadOutputGroups()
 {
     CString name = lytParentName;
+    ClytSpan header = file.GetStatementPlace();
     CString nextName;
     auto rule = std::make_unique<ClytDialogOutput>();
     ClytOutput* group = nullptr;
@@ -206,12 +207,16 @@ void ClytDialogRules::ReadOutputGroups()
         if (nextName.IsEmpty() && rule->format.IsEmpty())
             continue;
         if (isGroupDue)
+        {
             group = &outputList.AddTail(std::make_unique<ClytOutput>());
+            group->span = header;
+        }
         isGroupDue = !nextName.IsEmpty();
         if (isGroupDue)
         {
             outputMap.SetAt(name, group);
             name = std::exchange(nextName, CString());
+            header = file.GetStatementPlace();
         }
         else
         {

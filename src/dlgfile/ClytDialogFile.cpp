@@ -20,6 +20,12 @@ ClytSpan ClytDialogFile::PlaceOf(const ClytToken& token) const
     return PlaceInLine(token.GetColumn(), token.GetText().GetLength());
 }
 
+ClytSpan ClytDialogFile::GetStatementPlace() const
+{
+    const int column = tokens.IsEmpty() ? 0 : tokens.GetHead().GetColumn();
+    return PlaceInLine(column, GetLinePlace().length - column);
+}
+
 ClytSpan ClytDialogFile::EndOfLine() const
 {
     return PlaceInLine(GetLinePlace().length, 0);

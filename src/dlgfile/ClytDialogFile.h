@@ -46,6 +46,8 @@ public:
     const ClytTokenList& GetTokens() const { return tokens; }
     // Where a token of the present line stands in the file.
     ClytSpan PlaceOf(const ClytToken& token) const;
+    // Where the statement of the present line stands: from its first token to the end of the line.
+    ClytSpan GetStatementPlace() const;
 
     // Appends the texts of the present line's tokens and deletes the tokens; 0 when there are none.
     int TakeTokens(CStringList& texts);
@@ -124,6 +126,7 @@ private:
     CString ReadItemAction(POSITION& token);
 
     ErrorSink& errors;
+    ClytSpan partPlace;                   // of the last header of an input part
     ClytTokenList tokens;                 // of the present line; the next section's reader may start from them
     const ClytToken* lastTaken = nullptr; // from the list; null before the first of a line
 };

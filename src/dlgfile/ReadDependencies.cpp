@@ -32,7 +32,7 @@ void ClytDialogFile::ReadDependency(POSITION token, ClytControlDep& rule)
     const ClytToken& name = Next(token);
     if (name.GetDelimiter() != '/')
         FailStatement();
-    rule.span = GetLinePlace();
+    rule.span = GetStatementPlace();
     rule.controlName = name.GetText();
     const ClytToken& word = Next(token);
     if (word.GetDelimiter() != '=')

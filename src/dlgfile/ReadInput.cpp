@@ -45,6 +45,7 @@ int ClytDialogFile::ReadInputHeader(CString& name)
     // Empty only once the file has ended.
     if (tokens.IsEmpty())
         return 0;
+    partPlace = GetStatementPlace();
     POSITION token = tokens.GetHeadPosition();
     const bool isLast = lytSameWord(Next(token).GetText(), terminator);
     if (token != nullptr)
@@ -62,6 +63,7 @@ int ClytDialogFile::ReadInputHeader(CString& name)
 // A statement without a name is not kept, and what was read of it joins the next one.
 void ClytDialogFile::ReadInputPart(ClytInputPart& part)
 {
+    part.span = partPlace;
     ReadGuarded(
         [&]
         {
@@ -100,7 +102,7 @@ void ClytDialogFile::ReadInput(POSITION token, ClytDialogInput& statement)
     if (name.GetDelimiter() != ':')
         FailStatement();
     statement.name = name.GetText();
-    statement.span = GetLinePlace();
+    statement.span = GetStatementPlace();
     POSITION form = token;
     const ClytToken& first = NextOrFail(form);
     if (first.IsBare('('))

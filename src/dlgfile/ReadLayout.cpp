@@ -143,7 +143,7 @@ int ClytDialogFile::ReadControlStatement(ClytControlStatement& statement)
 // The type word comes last: a statement that fails is no control.
 void ClytDialogFile::ReadControl(const CString& type, POSITION token, ClytControlStatement& statement)
 {
-    statement.span = GetLinePlace();
+    statement.span = GetStatementPlace();
     ReadControlOperands(token, statement);
     statement.type = type;
 }

@@ -53,7 +53,7 @@ void ClytDialogFile::ReadOutput(POSITION token, CString& groupName, ClytDialogOu
         }
         isRightSide = ReadOutputCondition(first, token, rule.conditions);
     }
-    rule.span = GetLinePlace();
+    rule.span = GetStatementPlace();
     rule.format = NextOrFail(token).GetText();
     while (token != nullptr)
         ReadOutputItem(token, rule);
@@ -91,8 +91,7 @@ void ClytDialogFile::ReadOutputItem(POSITION& token, ClytDialogOutput& rule)
     case '(': action = ReadItemAction(token); break;
     default: FailStatement();
     }
-    rule.items.Add(item.GetText());
-    rule.actions.Add(action);
+    rule.items.push_back({item.GetText(), action, PlaceOf(item)});
 }
 
 // A line that ends inside the brackets or right after them is the class library's failure. The token after them is

@@ -34,7 +34,7 @@ char ClytDialogFile::ReadScanList(POSITION& token, ClytScan& scan)
         const ClytToken& target = NextOrFail(token);
         const int length = lytNumberOf(inHand->GetText());
         if (length != 0)
-            scan.SetFixedLength(length, target.GetText());
+            scan.SetFixedLength(length, target.GetText(), PlaceOf(*inHand));
         else
             scan.AddSeparator(inHand->GetText(), target.GetText(), PlaceOf(*inHand));
         if (target.GetDelimiter() == '=')
@@ -48,6 +48,7 @@ char ClytDialogFile::ReadScanList(POSITION& token, ClytScan& scan)
 
 void ClytDialogFile::ReadConditionFill(POSITION& token, ClytConditionFill& rule)
 {
+    rule.span = PlaceOf(tokens.GetAt(token));
     if (tokens.GetAt(token).IsBare('('))
     {
         Next(token);

@@ -10,6 +10,7 @@ public:
     // 1 when the rule held for the piece and its fills were applied.
     int Apply(const CString& piece) const;
 
+    ClytSpan span;      // of the rule's first word
     CStringList values; // the pieces for which the rule holds; empty means all
     ClytOwnedList<ClytControlFill> fills;
 

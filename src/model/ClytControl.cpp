@@ -15,6 +15,12 @@ void ClytControl::CreateControl(ClytForm* owner)
     dialog = owner;
 }
 
+void ClytControl::TakeStatement(const CStringList& values, const CString& keyword, const ClytSpan& place)
+{
+    statementSpan = place;
+    SetOption(values, keyword);
+}
+
 void ClytControl::SetOption(const CStringList& /*values*/, const CString& /*keyword*/) {}
 
 void ClytControl::SaveState() {}

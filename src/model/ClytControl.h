@@ -33,7 +33,8 @@ public:
 
     // Creates the window under that of the form and remembers the form, which outlives the control.
     virtual void CreateControl(ClytForm* owner);
-    // Takes one statement of the values section.
+    // Takes one statement of the values section, which stands at that place of the description.
+    void TakeStatement(const CStringList& values, const CString& keyword, const ClytSpan& place);
     virtual void SetOption(const CStringList& values, const CString& keyword);
     // Remembers the present value or selection, for IsChanged.
     virtual void SaveState();
@@ -80,6 +81,8 @@ public:
 protected:
     // Takes an option word and answers 1, or answers 0 for any other word.
     int TakeCommonOption(const CString& word);
+    // Where the statement stands that SetOption is given.
+    const ClytSpan& StatementSpan() const { return statementSpan; }
 
     ClytPosition position;
     ClytSize size;
@@ -95,4 +98,7 @@ protected:
     int savedState = 0;
     ClytControlEval evaluation;
     ClytForm* dialog = nullptr; // owns this control
+
+private:
+    ClytSpan statementSpan;
 };

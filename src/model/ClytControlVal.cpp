@@ -1,11 +1,12 @@
 #include "model/ClytControlVal.h"
 
-void ClytControlVal::Set(const CString& keyword, const CStringList& statementValues)
+void ClytControlVal::Set(const CString& word, const CStringList& statementValues, const ClytSpan& place)
 {
-    secondName = keyword;
+    keyword = word;
+    span = place;
     if (&statementValues == &values)
         return;
     values.RemoveAll();
-    for (POSITION place = statementValues.GetHeadPosition(); place != nullptr;)
-        values.AddTail(statementValues.GetNext(place));
+    for (POSITION value = statementValues.GetHeadPosition(); value != nullptr;)
+        values.AddTail(statementValues.GetNext(value));
 }

@@ -3,11 +3,9 @@
 void ClytDialogOutput::Bind(const ClytControlMap& controls)
 {
     lytBindConditions(conditions, controls);
-    itemControls.clear();
-    for (int index = 0; index < items.GetCount(); ++index)
+    for (ClytOutputItem& item : items)
     {
-        ClytControl* control = nullptr;
-        controls.Lookup(items[index], control);
-        itemControls.push_back(control);
+        item.control = nullptr;
+        controls.Lookup(item.text, item.control);
     }
 }

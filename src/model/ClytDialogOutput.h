@@ -5,20 +5,22 @@
 
 #include <vector>
 
+struct ClytOutputItem
+{
+    CString text;                   // a control's name, or a literal text
+    CString action;                 // empty, "CONCAT" or the separators between the values of a list
+    ClytSpan span;                  // of the text
+    ClytControl* control = nullptr; // the form's, which outlives the rule's use; null for a literal text
+};
+
 class ClytDialogOutput : public CObject
 {
 public:
     // Looks up the controls of conditions and items.
     void Bind(const ClytControlMap& controls);
-    // The control that an item names; null for a literal text.
-    ClytControl* GetItemControl(int index) const { return itemControls[static_cast<size_t>(index)]; }
 
     ClytConditions conditions;
     ClytSpan span; // of the statement
     CString format;
-    CStringArray items;   // control names or literal texts
-    CStringArray actions; // one an item: empty, "CONCAT" or the separators between the values of a list
-
-private:
-    std::vector<ClytControl*> itemControls; // the form's, which outlive the rule's use
+    std::vector<ClytOutputItem> items;
 };

@@ -35,15 +35,17 @@ void ClytInputPart::Run(CString text, const CString& name) const
 {
     ClytScanner scanner(text);
     CString next = name;
+    ClytSpan asker = span;
     int idle = 0;
     while (!lytSameWord(next, "End"))
     {
         const ClytDialogInput* statement = Find(next);
         if (statement == nullptr)
         {
-            lytTellMissing(ClytMissing::InputStatement, next);
+            lytTellMissing(ClytMissing::InputStatement, next, nullptr, asker);
             return;
         }
+        asker = statement->span;
         const char* before = scanner.GetRest();
         next = RunStatement(*statement, scanner);
         idle = scanner.GetRest() == before ? idle + 1 : 0;

@@ -20,6 +20,8 @@ public:
     // goes from statement to statement without consuming text raises 206.
     void Run(CString text, const CString& name) const;
 
+    ClytSpan span; // of the header
+
 private:
     // Gives the name of the statement that goes on.
     static CString RunStatement(const ClytDialogInput& statement, ClytScanner& scanner);

@@ -63,8 +63,12 @@ class ClytObserver
 {
 public:
     virtual void PassedOver(ClytPassedOver /*what*/, const CString& /*name*/, const ClytSpan& /*place*/) {}
-    // The control that looked for it is null where the dialog itself did, or where it is not known.
-    virtual void Missed(ClytMissing /*what*/, const CString& /*name*/, const ClytControl* /*control*/) {}
+    // The control that looked for it is null where the dialog itself did, or where it is not known. The place is that of
+    // the statement that names it, and no place where that is not known.
+    virtual void Missed(ClytMissing /*what*/, const CString& /*name*/, const ClytControl* /*control*/,
+                        const ClytSpan& /*place*/)
+    {
+    }
 
     // A statement cut a piece off the input; `rest` is what follows it.
     virtual void Cut(const ClytDialogInput& /*statement*/, const CString& /*piece*/, const char* /*rest*/,
@@ -102,8 +106,9 @@ protected:
 inline ClytObserver* lytObserver = nullptr; // outlives what it listens to
 
 // Tells the listener, if there is one, of something that was looked for in vain.
-inline void lytTellMissing(ClytMissing what, const CString& name, const ClytControl* control = nullptr)
+inline void lytTellMissing(ClytMissing what, const CString& name, const ClytControl* control = nullptr,
+                           const ClytSpan& place = {})
 {
     if (lytObserver != nullptr)
-        lytObserver->Missed(what, name, control);
+        lytObserver->Missed(what, name, control, place);
 }

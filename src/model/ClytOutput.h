@@ -7,4 +7,5 @@ class ClytOutput : public CObject
 {
 public:
     ClytOwnedList<ClytDialogOutput> rules;
+    ClytSpan span; // of the header
 };

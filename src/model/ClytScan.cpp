@@ -25,9 +25,10 @@ CString ClytScan::TargetOf(const CString& separatorText) const
     return {};
 }
 
-void ClytScan::SetFixedLength(int pieceLength, const CString& statementName)
+void ClytScan::SetFixedLength(int pieceLength, const CString& statementName, const ClytSpan& place)
 {
     length = pieceLength;
+    lengthSpan = place;
     target = statementName;
 }
 

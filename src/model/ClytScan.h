@@ -16,15 +16,18 @@ public:
     CString TargetOf(const CString& separatorText) const;
 
     // The later of the two kinds of entry decides: a separator wipes an earlier fixed length.
-    void SetFixedLength(int pieceLength, const CString& statementName);
+    void SetFixedLength(int pieceLength, const CString& statementName, const ClytSpan& place = {});
     void AddSeparator(const CString& separatorText, const CString& statementName, const ClytSpan& place = {});
 
     int GetLength() const { return length; }
     const CString& GetTarget() const { return target; }
+    // Of the fixed length; a separator has its own.
+    const ClytSpan& GetLengthSpan() const { return lengthSpan; }
     const ClytOwnedList<ClytSeparator>& GetSeparators() const { return separators; }
 
 private:
     int length = 0; // 0 when the scan works by separators
+    ClytSpan lengthSpan;
     CString target; // the next statement after a piece of fixed length
     ClytOwnedList<ClytSeparator> separators;
 };

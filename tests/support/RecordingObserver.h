@@ -28,13 +28,14 @@ public:
         constexpr std::array names = {"layout", "value", "rule", "evaluation", "fill"};
         Hear(names.at(static_cast<size_t>(what)), " ", name, " in line ", std::to_string(place.line));
     }
-    void Missed(ClytMissing what, const CString& name, const ClytControl* control) override
+    void Missed(ClytMissing what, const CString& name, const ClytControl* control, const ClytSpan& place) override
     {
         constexpr std::array names = {
             "target",  "double click's target", "nested dialog", "output group", "input part", "statement", "library",
             "function"};
         Hear("no ", names.at(static_cast<size_t>(what)), " ", name, control != nullptr ? " for " : "",
-             control != nullptr ? control->GetName().GetString() : "");
+             control != nullptr ? control->GetName().GetString() : "",
+             place.line != 0 ? " in line " + std::to_string(place.line) : "");
     }
     void Cut(const ClytDialogInput& statement, const CString& piece, const char* rest,
              const CString& nextStatement) override

@@ -245,6 +245,18 @@ TEST_F(Output, GivesTheLastGroupASecondNameByALastHeader)
     EXPECT_EQ(Open().GetOutputMap().GetCount(), 3);
 }
 
+TEST_F(Output, GroupsKnowThePlacesOfTheirHeaders)
+{
+    text.output = "(\"one\")\n\n  $OUTPUT, second\n(\"two\")\n";
+    const ClytOutputMap& groups = Open().GetOutputMap();
+    ClytOutput* group = nullptr;
+    ASSERT_TRUE(groups.Lookup("parent", group));
+    EXPECT_EQ(group->span.line, 15);
+    ASSERT_TRUE(groups.Lookup("second", group));
+    EXPECT_EQ(group->span.line, 18);
+    EXPECT_EQ(group->span.column, 2);
+}
+
 TEST_F(Output, KeepsTheConditionsOfARuleWithoutAFormatForTheNext)
 {
     text.output = "A(1) = (\"\")\n(\"one\")\n(\"else\")\n";

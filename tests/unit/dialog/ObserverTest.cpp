@@ -32,6 +32,11 @@ protected:
         Compose(group);
         return observer.TakeHeard();
     }
+    std::string FirstHeard()
+    {
+        const std::string heard = observer.TakeHeard();
+        return heard.substr(0, heard.find('\n'));
+    }
 
     RecordingObserver observer;
 };
@@ -72,7 +77,7 @@ TEST_F(Observer, HearsEachStepOfTheScan)
                                     "A takes 'bc'\n"
                                     "fill G in line 11\n"
                                     "Third on to Fourth\n"
-                                    "no statement Fourth\n"
+                                    "no statement Fourth in line 12\n"
                                     "run 1\n"
                                     "end 1\n");
 }
@@ -166,6 +171,34 @@ TEST_F(RuleObserver, HearsWhichOutputRuleIsChosenAndWhyTheOthersWereNot)
     EXPECT_EQ(Composed("none"), "output in line 23 asks A: not listed\noutput by no rule\n");
     EXPECT_EQ(RaisedMessage([&] { Compose("wrong"); }), "245 'Unknown'");
     EXPECT_EQ(observer.TakeHeard(), "output in line 25 asks Unknown: unknown control\n");
+}
+
+TEST_F(Observer, HearsWhichValueStatementNamesWhatIsNotThere)
+{
+    text.layout += "PushButton 1, 2, 3, 4, .P\nListBox 1, 2, 30, 40, .L\n";
+    text.values = "P = DELETE, Absent\n"
+                  "L = DBLCLICK, Away\n"
+                  "L = FILLEDBY, nowhere, Start, Next\n"
+                  "A = FILLEDBY, nowhere, Text\n";
+    Open();
+    observer.TakeHeard();
+    form->Enter("P", "");
+    EXPECT_EQ(FirstHeard(), "no target Absent for P in line 9");
+    form->Window("L")->SendMessage(WM_LBUTTONDBLCLK);
+    EXPECT_EQ(FirstHeard(), "no double click's target Away for L in line 10");
+    form->FindControl("L")->FillByLibrary();
+    EXPECT_EQ(FirstHeard(), "no library nowhere in line 11");
+    form->FindControl("A")->FillByLibrary();
+    EXPECT_EQ(FirstHeard(), "no library nowhere in line 12");
+}
+
+TEST_F(Observer, HearsWhichHeaderBeginsAPartWithoutAStart)
+{
+    text.input = "Start: x = End\n$INPUT, Other\nNext: x = End\n";
+    Open();
+    observer.TakeHeard();
+    form->RunInput("Other", "text");
+    EXPECT_EQ(observer.TakeHeard(), "no statement Start in line 11\n");
 }
 
 TEST_F(Observer, HearsOfGroupsAndPartsThatAreNotThere)

@@ -178,7 +178,7 @@ TEST(Places, StandInTheRecords)
     Reading rules(" A/ACTIVE = B(1), C\n");
     ClytControlDep rule;
     rules.File().ReadDependencyStatement(rule);
-    EXPECT_EQ(Shown(rule.span), "1:0+19");
+    EXPECT_EQ(Shown(rule.span), "1:1+18");
     EXPECT_EQ(Shown(rule.conditions.GetHead()->GetSpan()), "1:12+1");
     EXPECT_EQ(Shown(rule.conditions.GetTail()->GetSpan()), "1:18+1");
 
@@ -190,8 +190,47 @@ TEST(Places, StandInTheRecords)
     EXPECT_EQ(Shown(scan.scanRule.rules.GetHead()->fills.GetHead()->span), "1:20+1");
     EXPECT_EQ(Shown(input.part.GetStatements().GetTail()->conditions.GetHead()->GetSpan()), "2:6+1");
 
-    Reading output("A = (\"%s\", A)\n");
+    Reading output("A = (\"%s\", A, B())\n");
     CString name;
     output.File().ReadOutputStatement(name, output.output);
-    EXPECT_EQ(Shown(output.output.span), "1:0+13");
+    EXPECT_EQ(Shown(output.output.span), "1:0+18");
+    EXPECT_EQ(Shown(output.output.items.front().span), "1:11+1");
+    EXPECT_EQ(Shown(output.output.items.back().span), "1:14+1");
+}
+
+TEST(Places, OfAPartAndItsFillRulesStandInThem)
+{
+    Reading reading("$INPUT\n  $INPUT, Part\n\n Start: (2, End = (a), A, (b, c), B\n$OUTPUT\n");
+    CString name;
+    ClytCtrlValList unused;
+    EXPECT_EQ(reading.File().ReadEvaluationStatement(unused, unused, name), 0);
+    EXPECT_EQ(reading.File().ReadInputHeader(name), 1);
+    reading.File().ReadInputPart(reading.part);
+    EXPECT_EQ(Shown(reading.part.span), "1:0+6");
+    EXPECT_EQ(reading.File().ReadInputHeader(name), 1);
+    ClytInputPart part;
+    reading.File().ReadInputPart(part);
+    EXPECT_EQ(Shown(part.span), "2:2+12");
+    const ClytDialogInput& statement = *part.GetStatements().GetHead();
+    EXPECT_EQ(Shown(statement.span), "4:1+34");
+    EXPECT_EQ(Shown(statement.scanRule.scan.GetLengthSpan()), "4:9+1");
+    EXPECT_EQ(Shown(statement.scanRule.rules.GetHead()->span), "4:18+0");
+    EXPECT_EQ(Shown(statement.scanRule.rules.GetTail()->span), "4:26+0");
+    EXPECT_EQ(Shown(statement.scanRule.rules.GetTail()->fills.GetHead()->span), "4:34+1");
+}
+
+TEST(Places, OfAStatementBeginWithItsFirstWord)
+{
+    Reading reading("  A = KEYWORD, x\n");
+    CString text;
+    CStringList words;
+    EXPECT_EQ(reading.File().ReadValueStatement(text, text, words), 1);
+    EXPECT_EQ(Shown(reading.File().GetStatementPlace()), "1:2+14");
+
+    Reading evaluation(" A(1) = B(2) : KEY\n");
+    ClytCtrlValList own;
+    ClytCtrlValList other;
+    EXPECT_EQ(evaluation.File().ReadEvaluationStatement(own, other, text), 1);
+    EXPECT_EQ(Shown(own.GetSpan()), "1:1+1");
+    EXPECT_EQ(Shown(other.GetSpan()), "1:8+1");
 }

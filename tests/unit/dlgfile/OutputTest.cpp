@@ -15,11 +15,11 @@ std::string Output(const std::string& line)
     if (!group.IsEmpty())
         return "group " + std::string(group.GetString()) + " " + Shown(rule.conditions);
     std::string shown = Shown(rule.conditions) + " = " + rule.format.GetString();
-    for (int index = 0; index < rule.items.GetCount(); ++index)
+    for (const ClytOutputItem& item : rule.items)
     {
-        shown += ", " + std::string(rule.items[index].GetString());
-        if (!rule.actions[index].IsEmpty())
-            shown += ":" + std::string(rule.actions[index].GetString());
+        shown += ", " + std::string(item.text.GetString());
+        if (!item.action.IsEmpty())
+            shown += ":" + std::string(item.action.GetString());
     }
     return shown;
 }
