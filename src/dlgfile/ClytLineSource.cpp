@@ -52,10 +52,11 @@ char* ClytLineSource::ReadString(char* buffer, UINT count)
 
 bool ClytLineSource::ReadAnyLine(char* buffer, UINT count)
 {
-    if (CStdioFile::ReadString(buffer, count) == nullptr)
+    const int distance = TakeLine(buffer, count);
+    if (distance == 0)
         return false;
     linePlace.column = isLineOpen ? linePlace.column + linePlace.length : 0;
-    linePlace.line += isLineOpen ? 0 : 1;
+    linePlace.line += isLineOpen ? 0 : distance;
     const size_t length = std::strlen(buffer);
     isLineOpen = length == 0 || buffer[length - 1] != '\n';
     linePlace.length = static_cast<int>(length) - (isLineOpen ? 0 : 1);

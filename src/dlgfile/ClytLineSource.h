@@ -21,6 +21,11 @@ public:
     const ClytSpan& GetLinePlace() const { return linePlace; }
     ClytSpan PlaceInLine(int column, int length) const { return {linePlace.line, linePlace.column + column, length}; }
 
+protected:
+    // Takes the next line or piece of one, at most `count` characters and a NUL; gives by how many lines its number is
+    // above that of the line before, 0 at the end. Here the text is the file.
+    virtual int TakeLine(char* buffer, UINT count) { return CStdioFile::ReadString(buffer, count) != nullptr ? 1 : 0; }
+
 private:
     // Reads a line or a piece of one, whether it is switched off or not.
     bool ReadAnyLine(char* buffer, UINT count);

@@ -33,12 +33,23 @@ size_t Distance(const std::string& left, const std::string& right)
 
 } // namespace
 
-std::string Suggestion(const std::string& word, const std::vector<std::string>& known)
+bool IsClose(const std::string& word, const std::string& known)
+{
+    return Distance(word, known) <= std::max<size_t>(1, word.size() / 3);
+}
+
+std::string Nearest(const std::string& word, const std::vector<std::string>& known)
 {
     const auto nearest =
         std::ranges::min_element(known, {}, [&](const std::string& candidate) { return Distance(word, candidate); });
-    if (nearest != known.end() && Distance(word, *nearest) <= std::max<size_t>(1, word.size() / 3))
-        return "did you mean \"" + *nearest + "\"?";
+    return nearest != known.end() && IsClose(word, *nearest) ? *nearest : "";
+}
+
+std::string Suggestion(const std::string& word, const std::vector<std::string>& known)
+{
+    const std::string nearest = Nearest(word, known);
+    if (!nearest.empty())
+        return "did you mean \"" + nearest + "\"?";
 
     std::string list;
     for (const std::string& candidate : known)

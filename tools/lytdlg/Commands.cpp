@@ -35,7 +35,7 @@ int Tell(const char* text, ExitCode code)
 
 const std::vector<Command>& Commands()
 {
-    static const std::vector<Command> commands = {HelpCommand()};
+    static const std::vector<Command> commands = {CheckCommand(), HelpCommand()};
     return commands;
 }
 

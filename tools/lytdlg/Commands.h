@@ -22,6 +22,8 @@ struct Command
     ExitCode (*run)(const Request& request);
 };
 
+Command CheckCommand();
+
 // Every command, in the order of the help.
 const std::vector<Command>& Commands();
 const commandline::ProgramForm& TheProgram();

@@ -1,0 +1,211 @@
+#include "lytdlg/judge/Description.h"
+
+#include "lytdlg/judge/SectionReader.h"
+
+#include <algorithm>
+
+namespace lytdlg
+{
+
+namespace
+{
+
+std::vector<std::string> Strings(const CStringList& list)
+{
+    std::vector<std::string> strings;
+    for (POSITION place = list.GetHeadPosition(); place != nullptr;)
+        strings.emplace_back(list.GetNext(place).GetString());
+    return strings;
+}
+
+// The words of a header after its first.
+std::vector<std::string> HeaderWords(ClytDialogFile& file)
+{
+    CStringList words;
+    file.TakeTokens(words);
+    std::vector<std::string> strings = Strings(words);
+    if (!strings.empty())
+        strings.erase(strings.begin());
+    return strings;
+}
+
+// The lines of some sections, in their order in the file, without the header that opens the last section's first part:
+// its word comes from the reader.
+std::vector<const SourceLine*> Body(const DescriptionText& text, Section section)
+{
+    std::vector<const SourceLine*> lines = text.LinesOf(section);
+    if (!lines.empty() && lines.front()->isHeader)
+        lines.erase(lines.begin());
+    return lines;
+}
+
+} // namespace
+
+Description::Description(std::string filePath, const std::string& bytes, const std::vector<std::string>& defines)
+    : path(std::move(filePath)), text(bytes, defines)
+{
+    ReadLayout();
+    ReadValues();
+    ReadDependencies();
+    ReadEvaluations();
+    ReadInputs();
+    ReadOutputs();
+}
+
+const ClytControlStatement* Description::FindControl(const std::string& name) const
+{
+    const auto found = std::find_if(controls.rbegin(), controls.rend(),
+                                    [&](const ClytControlStatement& control) { return control.name == name.c_str(); });
+    return found != controls.rend() ? &*found : nullptr;
+}
+
+ClytSpan Description::PlaceOf(int line, const std::string& word, int fromColumn) const
+{
+    const size_t column = text.Line(line).text.find(word, static_cast<size_t>(fromColumn));
+    if (word.empty() || column == std::string::npos)
+        return PlaceOf(line);
+    return {line, static_cast<int>(column), static_cast<int>(word.size())};
+}
+
+ClytSpan Description::PlaceOf(int line) const
+{
+    const std::string& content = text.Line(line).text;
+    const size_t start = content.find_first_not_of(" \t");
+    if (start == std::string::npos)
+        return {line, 0, 0};
+    const size_t end = content.find_last_not_of(" \t");
+    return {line, static_cast<int>(start), static_cast<int>(end + 1 - start)};
+}
+
+void Description::ReadLayout()
+{
+    std::vector<const SourceLine*> lines = text.LinesOf(Section::Head);
+    const std::vector<const SourceLine*> layout = text.LinesOf(Section::Layout);
+    lines.insert(lines.end(), layout.begin(), layout.end());
+    SectionReader file(lines, WordOf(Section::Values), mistakes);
+
+    CString version;
+    if (file.ReadVersionHeader(version) == 0)
+        return;
+    layoutWords = HeaderWords(file);
+    CString caption;
+    CString lastText;
+    hasDialogHeader = file.ReadDialogHeader(width, height, caption, lastText) != 0;
+    title = caption.GetString();
+    dialogHeader = file.GetLinePlace();
+
+    ClytControlStatement statement;
+    while (file.ReadControlStatement(statement) != 0)
+    {
+        if (statement.type.IsEmpty())
+            continue;
+        controls.push_back(statement);
+    }
+}
+
+void Description::ReadValues()
+{
+    SectionReader file(Body(text, Section::Values), WordOf(Section::Dependencies), mistakes);
+    CString name;
+    CString keyword;
+    CStringList list;
+    while (file.ReadValueStatement(name, keyword, list) != 0)
+    {
+        if (!list.IsEmpty())
+            values.push_back({name.GetString(), keyword.GetString(), Strings(list), file.GetLinePlace()});
+    }
+}
+
+void Description::ReadDependencies()
+{
+    // The last line is the header of the next section, as the file has it.
+    std::vector<const SourceLine*> lines = Body(text, Section::Dependencies);
+    const SourceLine* header = text.HeaderOf(Section::Evaluation);
+    const bool isHeaderRight = header != nullptr && header->text.find(WordOf(Section::Evaluation)) != std::string::npos;
+    if (isHeaderRight)
+        lines.push_back(header);
+    SectionReader file(lines, WordOf(Section::Evaluation), mistakes);
+    auto rule = std::make_unique<ClytControlDep>();
+    size_t mistakesBefore = mistakes.size();
+    while (file.ReadDependencyStatement(*rule) == 1)
+    {
+        const bool isRead = !rule->controlName.IsEmpty() && mistakes.size() == mistakesBefore;
+        mistakesBefore = mistakes.size();
+        if (isRead)
+        {
+            rules.AddTail(std::move(rule));
+        }
+        rule = std::make_unique<ClytControlDep>();
+    }
+    evaluationWords = HeaderWords(file);
+}
+
+void Description::ReadEvaluations()
+{
+    SectionReader file(Body(text, Section::Evaluation), WordOf(Section::Input), mistakes);
+    while (true)
+    {
+        EvaluationStatement& statement = evaluations.emplace_back();
+        CString key;
+        const int goesOn = file.ReadEvaluationStatement(statement.own, statement.other, key);
+        statement.messageKey = key.GetString();
+        statement.span = file.GetLinePlace();
+        if (goesOn == 0 || statement.own.GetValues().IsEmpty())
+            evaluations.pop_back();
+        if (goesOn == 0)
+            return;
+    }
+}
+
+void Description::ReadInputs()
+{
+    // A reader of parts finds the header of the first in its token list, where the section before has left it.
+    std::vector<const SourceLine*> lines = text.LinesOf(Section::Input);
+    if (lines.empty())
+        return;
+    SectionReader file(lines, WordOf(Section::Output), mistakes);
+    ClytCtrlValList own;
+    ClytCtrlValList other;
+    CString word;
+    while (file.ReadEvaluationStatement(own, other, word) != 0)
+        continue;
+    ClytSpan header = file.GetLinePlace();
+    while (file.ReadInputHeader(word) != 0)
+    {
+        InputPart& part = inputs.emplace_back();
+        part.name = word.IsEmpty() ? "parent" : word.GetString();
+        part.header = header;
+        file.ReadInputPart(part.part);
+        header = file.GetLinePlace();
+    }
+}
+
+void Description::ReadOutputs()
+{
+    std::vector<const SourceLine*> lines = text.LinesOf(Section::Output);
+    if (lines.empty())
+        return;
+    OutputGroup* group = &outputs.emplace_back();
+    group->name = "parent";
+    group->header = PlaceOf(lines.front()->number);
+    lines.erase(lines.begin());
+    SectionReader file(lines, WordOf(Section::End), mistakes);
+    CString nextName;
+    auto rule = std::make_unique<ClytDialogOutput>();
+    while (file.ReadOutputStatement(nextName, *rule) != 0)
+    {
+        if (!nextName.IsEmpty())
+        {
+            group = &outputs.emplace_back();
+            group->name = std::exchange(nextName, CString()).GetString();
+            group->header = file.GetLinePlace();
+        }
+        else if (!rule->format.IsEmpty())
+        {
+            group->rules.AddTail(std::move(rule));
+            rule = std::make_unique<ClytDialogOutput>();
+        }
+    }
+}
+
+} // namespace lytdlg

@@ -1,0 +1,97 @@
+// A description read whole by the library's own readers, each section by itself and each statement on its own: the
+// records with their places, and every mistake that a reader tells.
+#pragma once
+
+#include "dlgfile/ClytDialogFile.h"
+#include "lytdlg/judge/DescriptionText.h"
+#include "model/ClytControlDep.h"
+#include "model/ClytInputPart.h"
+#include "model/ClytOutput.h"
+
+#include <list>
+
+namespace lytdlg
+{
+
+// What a reader tells of a line that it refuses.
+struct Mistake
+{
+    std::string number; // of the library's message; empty when the line ends too early in a place without a number
+    std::string argument;
+    ClytSpan place;
+};
+
+struct ValueStatement
+{
+    std::string name;
+    std::string keyword;
+    std::vector<std::string> values;
+    ClytSpan span;
+};
+
+struct EvaluationStatement
+{
+    ClytCtrlValList own;
+    ClytCtrlValList other;
+    std::string messageKey;
+    ClytSpan span;
+};
+
+struct InputPart
+{
+    std::string name;
+    ClytSpan header;
+    ClytInputPart part;
+};
+
+struct OutputGroup
+{
+    std::string name;
+    ClytSpan header;
+    ClytOwnedList<ClytDialogOutput> rules;
+};
+
+class Description
+{
+public:
+    Description(std::string path, const std::string& bytes, const std::vector<std::string>& defines);
+    Description(const Description&) = delete;
+    Description& operator=(const Description&) = delete;
+
+    const std::string path; // as the user named it
+    const DescriptionText text;
+
+    // The words after $LAYOUT, the text section first.
+    std::vector<std::string> layoutWords;
+    bool hasDialogHeader = false;
+    int width = 0;
+    int height = 0;
+    std::string title;
+    ClytSpan dialogHeader;
+    std::vector<ClytControlStatement> controls;
+    std::vector<ValueStatement> values;
+    ClytOwnedList<ClytControlDep> rules;
+    std::vector<std::string> evaluationWords;
+    std::list<EvaluationStatement> evaluations;
+    std::list<InputPart> inputs;
+    std::list<OutputGroup> outputs;
+    std::vector<Mistake> mistakes;
+
+    std::string TextSection() const { return layoutWords.empty() ? "" : layoutWords.front(); }
+    // The statement of a control's name, the last one as in the library; null for an unknown name.
+    const ClytControlStatement* FindControl(const std::string& name) const;
+    // The place of a word of a line, from a column on; the whole line when it does not stand there.
+    ClytSpan PlaceOf(int line, const std::string& word, int fromColumn = 0) const;
+    // The place of a line's content, without the blanks round it.
+    ClytSpan PlaceOf(int line) const;
+
+private:
+    void ReadLayout();
+    void ReadValues();
+    void ReadDependencies();
+    void ReadEvaluations();
+    void ReadInputs();
+    void ReadOutputs();
+};
+
+} // namespace lytdlg

@@ -1,0 +1,85 @@
+// The text of a description as the library sees it: its lines, which of them the defines leave in, and the lines that open
+// its sections.
+#pragma once
+
+#include "base/ClytSpan.h"
+
+#include <string>
+#include <vector>
+
+namespace lytdlg
+{
+
+// The sections in the order that a description must have. Each opens with its word, but for the head, which is what
+// stands above $LAYOUT.
+enum class Section
+{
+    Head,
+    Layout,
+    Values,
+    Dependencies,
+    Evaluation,
+    Input,
+    Output,
+    End
+};
+
+inline constexpr Section allSections[] = {Section::Head,       Section::Layout, Section::Values, Section::Dependencies,
+                                          Section::Evaluation, Section::Input,  Section::Output, Section::End};
+
+// The word that opens a section; "$VERSION" for the head, which must hold that word.
+const char* WordOf(Section section);
+
+struct SourceLine
+{
+    std::string text;                // without its line end
+    int number = 0;                  // in the file, from 1
+    int counted = 0;                 // as messages of the library count it; 0 for a line that is not read
+    bool isRead = true;              // the defines leave it in, and it is no mark itself
+    Section section = Section::Head; // in which it stands; a header stands in its own
+    bool isHeader = false;           // it opens its section, or a further part of it
+};
+
+// A line that was meant as a header and is none, since its word is misspelt or goes on after a blank.
+struct FalseHeader
+{
+    Section section = Section::Head;
+    std::string word; // as the library reads it
+    ClytSpan place;
+};
+
+class DescriptionText
+{
+public:
+    // The bytes of a file, and the defines that switch its lines.
+    DescriptionText(const std::string& bytes, const std::vector<std::string>& defines);
+
+    const std::vector<SourceLine>& Lines() const { return m_lines; }
+    // An empty line for a number that the file does not have.
+    const SourceLine& Line(int number) const;
+    const std::vector<FalseHeader>& FalseHeaders() const { return m_falseHeaders; }
+    // The names that lines are switched by, each once.
+    const std::vector<std::string>& DefineNames() const { return m_defineNames; }
+    // The line that opens a section first; null when none does.
+    const SourceLine* HeaderOf(Section section) const;
+    // The lines of a section that are read, its header and those of its parts among them.
+    std::vector<const SourceLine*> LinesOf(Section section) const;
+    bool EndsWithLineEnd() const { return m_endsWithLineEnd; }
+    // What stands after a Ctrl-Z, which ends the text, is not read.
+    bool HasEndMark() const { return m_hasEndMark; }
+
+private:
+    void SplitLines(const std::string& bytes);
+    void ApplyDefines(const std::vector<std::string>& defines);
+    void FindSections();
+    // The section that the line opens; the present one when it opens none.
+    Section Opened(SourceLine& line, Section present);
+
+    std::vector<SourceLine> m_lines;
+    std::vector<FalseHeader> m_falseHeaders;
+    std::vector<std::string> m_defineNames;
+    bool m_endsWithLineEnd = true;
+    bool m_hasEndMark = false;
+};
+
+} // namespace lytdlg

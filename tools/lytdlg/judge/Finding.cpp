@@ -1,0 +1,42 @@
+#include "lytdlg/judge/Finding.h"
+
+#include <algorithm>
+#include <tuple>
+
+namespace lytdlg
+{
+
+namespace
+{
+
+auto KeyOf(const Finding& finding)
+{
+    return std::tuple(finding.place.line, finding.place.column, finding.rule->level, std::string(finding.rule->id),
+                      finding.message);
+}
+
+} // namespace
+
+const char* WordOf(Level level)
+{
+    switch (level)
+    {
+    case Level::Error: return "error";
+    case Level::Warning: return "warning";
+    default: return "note";
+    }
+}
+
+Finding& Findings::Add(const Rule& rule, const ClytSpan& place, std::string message, std::string hint)
+{
+    return m_findings.emplace_back(Finding{&rule, place, std::move(message), std::move(hint), ""});
+}
+
+void Findings::Sort()
+{
+    std::ranges::sort(m_findings, {}, KeyOf);
+    const auto twice = std::ranges::unique(m_findings, {}, KeyOf);
+    m_findings.erase(twice.begin(), twice.end());
+}
+
+} // namespace lytdlg

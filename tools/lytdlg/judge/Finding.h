@@ -1,0 +1,57 @@
+// What there is to say about a place of a description, and who collects it.
+#pragma once
+
+#include "base/ClytSpan.h"
+
+#include <string>
+#include <vector>
+
+namespace lytdlg
+{
+
+enum class Level
+{
+    Error,   // the library refuses the file, or the dialog
+    Warning, // it is passed over, or data gets lost or looks wrong
+    Note     // it does no harm and no good
+};
+
+const char* WordOf(Level level);
+
+// One rule that descriptions are judged by.
+struct Rule
+{
+    const char* id; // short words with hyphens
+    Level level;
+    const char* summary; // one sentence, for lists
+    const char* reason;  // why it matters and what to do, for --explain
+    // What is wrong and what would be right: lines for the description of the examples, each group under its section's
+    // word; see Examples.h.
+    const char* wrong;
+    const char* right;
+};
+
+struct Finding
+{
+    const Rule* rule = nullptr;
+    ClytSpan place;
+    std::string message;
+    std::string hint;
+    std::string number; // of the library's message; empty when it shows none
+};
+
+// Collects the findings on one description.
+class Findings
+{
+public:
+    // The rule outlives the finding.
+    Finding& Add(const Rule& rule, const ClytSpan& place, std::string message, std::string hint);
+    const std::vector<Finding>& All() const { return m_findings; }
+    // By place, and at one place the graver first; what was said twice of a place stays once.
+    void Sort();
+
+private:
+    std::vector<Finding> m_findings;
+};
+
+} // namespace lytdlg

@@ -1,0 +1,38 @@
+// Judges a description by every rule there is. The rules come in families, one for each section and a few more; a family
+// is a source with its rules and one function, and a row in the table of Judge.cpp.
+#pragma once
+
+#include "lytdlg/judge/Description.h"
+#include "lytdlg/judge/Finding.h"
+
+namespace lytdlg
+{
+
+// What stands round a description: folders to look into. Read once for all descriptions of a folder.
+struct Surroundings
+{
+    std::string folder;                // of the description, without a `\` or `/` at its end; empty for a text alone
+    std::vector<std::string> partners; // folders that may hold libraries
+};
+
+struct Case
+{
+    const Description& description;
+    const Surroundings& surroundings;
+    Findings& findings;
+};
+
+struct Family
+{
+    std::vector<const Rule*> rules;
+    void (*judge)(const Case& judged);
+};
+
+const std::vector<Family>& Families();
+// Null when there is no rule of that id.
+const Rule* FindRule(const std::string& id);
+
+// All findings on a description, in the order of its lines.
+Findings Judge(const Description& description, const Surroundings& surroundings);
+
+} // namespace lytdlg
