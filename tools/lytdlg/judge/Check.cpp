@@ -1,9 +1,12 @@
 // The command that judges descriptions.
-#include "commandline/Text.h"
+#include "commandline/Suggestion.h"
 #include "lytdlg/Commands.h"
-#include "lytdlg/judge/FindingText.h"
+#include "lytdlg/judge/Baseline.h"
+#include "lytdlg/judge/Report.h"
+#include "lytdlg/judge/RuleTexts.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <cstdio>
 #include <filesystem>
 #include <fstream>
@@ -41,62 +44,115 @@ std::vector<std::string> DescriptionsOf(const std::string& path)
             found.push_back(entry.path().string());
     }
     std::ranges::sort(found);
+    if (found.empty())
+        throw commandline::UsageError("the folder \"" + path + "\" holds no description (*.dlg)");
     return found;
 }
 
-struct Counts
+std::unique_ptr<Report> ReportFor(const std::string& format)
 {
-    int files = 0;
-    int errors = 0;
-    int warnings = 0;
-    int notes = 0;
-};
-
-void Count(const Findings& findings, Counts& counts)
-{
-    ++counts.files;
-    for (const Finding& finding : findings.All())
+    static const std::vector<std::pair<std::string, std::unique_ptr<Report> (*)()>> formats = {
+        {"text", MakeTextReport}, {"json", MakeJsonReport}, {"sarif", MakeSarifReport}};
+    std::vector<std::string> known;
+    for (const auto& [word, make] : formats)
     {
-        switch (finding.rule->level)
+        if (format == word)
+            return make();
+        known.push_back(word);
+    }
+    throw commandline::UsageError("there is no format \"" + format + "\"; " + commandline::Suggestion(format, known));
+}
+
+// One run of the command: where its findings go.
+class Checker
+{
+public:
+    explicit Checker(const Request& asked) : m_request(asked), m_report(ReportFor(asked.Text("--format", "text")))
+    {
+        if (asked.Has("--baseline"))
+            m_known = Baseline(asked.Text("--baseline", ""));
+    }
+
+    void JudgeAt(const std::string& path)
+    {
+        const std::string bytes = path == "-" ? ReadAll(std::cin) : ReadFile(path);
+        const Description description(path, bytes, m_request.Texts("--define"));
+        Surroundings surroundings;
+        surroundings.folder = path == "-" ? "" : std::filesystem::path(path).parent_path().string();
+        surroundings.partners = m_request.Texts("--partners");
+        Findings findings = Judge(description, surroundings);
+        m_found.Add(description, findings);
+        m_known.Subtract(description, findings);
+        m_report->Add(description, findings);
+        Count(findings);
+    }
+
+    ExitCode End()
+    {
+        m_report->End(m_counts);
+        if (!m_request.Has("--write-baseline"))
+            return m_counts.errors + m_counts.warnings == 0 ? good : found;
+        m_found.Write(m_request.Text("--write-baseline", ""));
+        return good;
+    }
+
+private:
+    void Count(const Findings& findings)
+    {
+        ++m_counts.files;
+        for (const Finding& finding : findings.All())
         {
-        case Level::Error: ++counts.errors; break;
-        case Level::Warning: ++counts.warnings; break;
-        default: ++counts.notes;
+            switch (finding.rule->level)
+            {
+            case Level::Error: ++m_counts.errors; break;
+            case Level::Warning: ++m_counts.warnings; break;
+            case Level::Note: ++m_counts.notes; break;
+            }
         }
     }
+
+    const Request& m_request; // of the caller
+    std::unique_ptr<Report> m_report;
+    Baseline m_known;
+    Baseline m_found;
+    Counts m_counts;
+};
+
+ExitCode ListRules(const std::string& format)
+{
+    std::fputs((format == "markdown" ? RulePage() : RuleList()).c_str(), stdout);
+    return good;
 }
 
-void JudgeFile(const std::string& path, const Request& request, Counts& counts)
+ExitCode Explain(const std::string& id)
 {
-    const std::string bytes = path == "-" ? ReadAll(std::cin) : ReadFile(path);
-    const Description description(path, bytes, request.Texts("--define"));
-    Surroundings surroundings;
-    surroundings.folder = path == "-" ? "" : std::filesystem::path(path).parent_path().string();
-    surroundings.partners = request.Texts("--partners");
-    const Findings findings = Judge(description, surroundings);
-    for (const Finding& finding : findings.All())
-        std::fputs(TextOf(finding, description, false).c_str(), stdout);
-    Count(findings, counts);
-}
-
-std::string Counted(int count, const char* one, const char* many)
-{
-    return std::to_string(count) + " " + (count == 1 ? one : many);
+    const Rule* rule = FindRule(id);
+    if (rule == nullptr)
+    {
+        const std::string nearest = commandline::Nearest(id, RuleNames());
+        throw commandline::UsageError(
+            "there is no rule \"" + id + "\"; " +
+            (nearest.empty() ? "`lytdlg check --rules` lists them" : "did you mean \"" + nearest + "\"?"));
+    }
+    std::fputs(Explanation(*rule).c_str(), stdout);
+    return good;
 }
 
 ExitCode Check(const Request& request)
 {
-    Counts counts;
+    if (request.Has("--rules"))
+        return ListRules(request.Text("--format", "text"));
+    if (request.Has("--explain"))
+        return Explain(request.Text("--explain", ""));
+    if (request.operands.empty())
+        throw commandline::UsageError("something is missing after \"check\"; write: lytdlg check PATH...");
+    Checker checker(request);
     for (const std::string& operand : request.operands)
     {
         for (const std::string& path : DescriptionsOf(operand))
-            JudgeFile(path, request, counts);
+            checker.JudgeAt(path);
     }
-    std::printf("%s judged: %s, %s, %s\n", Counted(counts.files, "description", "descriptions").c_str(),
-                Counted(counts.errors, "error", "errors").c_str(),
-                Counted(counts.warnings, "warning", "warnings").c_str(),
-                Counted(counts.notes, "note", "notes").c_str());
-    return counts.errors + counts.warnings == 0 ? good : found;
+    return checker.End();
 }
 
 } // namespace
@@ -105,11 +161,16 @@ Command CheckCommand()
 {
     return {{"check",
              "PATH...",
-             1,
+             0,
              SIZE_MAX,
-             "judge descriptions (files, folders, - for standard input): all findings, a line each",
-             {{"--define", "WORD", false, "read the lines that this define switches on; may be given more than once"},
-              {"--partners", "FOLDER", false, "a folder that holds partner libraries; may be given more than once"}}},
+             "judge descriptions (files, folders, - for standard input): all that is wrong with them",
+             {{"--format", "FORMAT", false, "text (default), json, or sarif (version 2.1.0)"},
+              {"--define", "WORD", false, "read the lines that this define switches on; may be given more than once"},
+              {"--partners", "FOLDER", false, "a folder that holds partner libraries; may be given more than once"},
+              {"--baseline", "FILE", false, "pass over the findings that this file tells as known"},
+              {"--write-baseline", "FILE", false, "write the findings to such a file, and end with 0"},
+              {"--rules", nullptr, false, "list the rules; as a page with --format markdown"},
+              {"--explain", "RULE", false, "explain a rule, with a wrong and a right example"}}},
             Check};
 }
 

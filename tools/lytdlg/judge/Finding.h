@@ -47,6 +47,12 @@ public:
     // The rule outlives the finding.
     Finding& Add(const Rule& rule, const ClytSpan& place, std::string message, std::string hint);
     const std::vector<Finding>& All() const { return m_findings; }
+    // Takes away what the predicate is true for, and says how many there were.
+    template <class PREDICATE>
+    size_t Remove(PREDICATE predicate)
+    {
+        return std::erase_if(m_findings, predicate);
+    }
     // By place, and at one place the graver first; what was said twice of a place stays once.
     void Sort();
 

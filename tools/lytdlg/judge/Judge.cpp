@@ -1,5 +1,6 @@
 #include "lytdlg/judge/Judge.h"
 
+#include "lytdlg/judge/Ignores.h"
 #include "lytdlg/judge/SectionRules.h"
 
 namespace lytdlg
@@ -7,7 +8,7 @@ namespace lytdlg
 
 const std::vector<Family>& Families()
 {
-    static const std::vector<Family> families = {SectionRules()};
+    static const std::vector<Family> families = {SectionRules(), IgnoreRules()};
     return families;
 }
 
@@ -24,11 +25,23 @@ const Rule* FindRule(const std::string& id)
     return nullptr;
 }
 
+std::vector<std::string> RuleNames()
+{
+    std::vector<std::string> names;
+    for (const Family& family : Families())
+    {
+        for (const Rule* rule : family.rules)
+            names.emplace_back(rule->id);
+    }
+    return names;
+}
+
 Findings Judge(const Description& description, const Surroundings& surroundings)
 {
     Findings findings;
     for (const Family& family : Families())
         family.judge({description, surroundings, findings});
+    ApplyIgnores(description, findings);
     findings.Sort();
     return findings;
 }

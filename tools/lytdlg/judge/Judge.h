@@ -31,6 +31,7 @@ struct Family
 const std::vector<Family>& Families();
 // Null when there is no rule of that id.
 const Rule* FindRule(const std::string& id);
+std::vector<std::string> RuleNames();
 
 // All findings on a description, in the order of its lines.
 Findings Judge(const Description& description, const Surroundings& surroundings);

@@ -1,6 +1,8 @@
-#include "lytdlg/judge/FindingText.h"
-
+#include "commandline/Terminal.h"
 #include "commandline/Text.h"
+#include "lytdlg/judge/Report.h"
+
+#include <cstdio>
 
 namespace lytdlg
 {
@@ -27,7 +29,38 @@ const char* ColourOf(Level level)
     }
 }
 
+std::string Counted(int count, const char* one, const char* many)
+{
+    return std::to_string(count) + " " + (count == 1 ? one : many);
+}
+
+class TextReport : public Report
+{
+public:
+    void Add(const Description& description, const Findings& findings) override
+    {
+        for (const Finding& finding : findings.All())
+            std::fputs(TextOf(finding, description, m_isColoured).c_str(), stdout);
+    }
+
+    void End(const Counts& counts) override
+    {
+        std::printf("%s judged: %s, %s, %s\n", Counted(counts.files, "description", "descriptions").c_str(),
+                    Counted(counts.errors, "error", "errors").c_str(),
+                    Counted(counts.warnings, "warning", "warnings").c_str(),
+                    Counted(counts.notes, "note", "notes").c_str());
+    }
+
+private:
+    const bool m_isColoured = commandline::IsTerminal(stdout);
+};
+
 } // namespace
+
+std::unique_ptr<Report> MakeTextReport()
+{
+    return std::make_unique<TextReport>();
+}
 
 std::string TextOf(const Finding& finding, const Description& description, bool isColoured)
 {

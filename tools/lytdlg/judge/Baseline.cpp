@@ -1,0 +1,68 @@
+#include "lytdlg/judge/Baseline.h"
+
+#include "commandline/CommandLine.h"
+
+#include <algorithm>
+#include <fstream>
+
+namespace lytdlg
+{
+
+namespace
+{
+
+constexpr const char* title = "lytdlg baseline 1";
+
+std::string KeyOf(const Finding& finding, const Description& description)
+{
+    std::string path = description.path;
+    std::ranges::replace(path, '\\', '/');
+    const ClytSpan content = description.PlaceOf(finding.place.line);
+    return std::string(finding.rule->id) + '\t' + path + '\t' +
+           description.text.Line(content.line)
+               .text.substr(static_cast<size_t>(content.column), static_cast<size_t>(content.length));
+}
+
+} // namespace
+
+Baseline::Baseline(const std::string& path)
+{
+    std::ifstream file(path, std::ios::binary);
+    std::string line;
+    if (!std::getline(file, line) || line != title)
+        throw commandline::UsageError("\"" + path +
+                                      "\" is no file of known findings; write one with --write-baseline FILE");
+    while (std::getline(file, line))
+        ++m_known[line];
+}
+
+void Baseline::Subtract(const Description& description, Findings& findings)
+{
+    findings.Remove(
+        [&](const Finding& finding)
+        {
+            const auto known = m_known.find(KeyOf(finding, description));
+            return known != m_known.end() && known->second-- > 0;
+        });
+}
+
+void Baseline::Add(const Description& description, const Findings& findings)
+{
+    for (const Finding& finding : findings.All())
+        ++m_known[KeyOf(finding, description)];
+}
+
+void Baseline::Write(const std::string& path) const
+{
+    std::ofstream file(path, std::ios::binary);
+    file << title << '\n';
+    for (const auto& [line, count] : m_known)
+    {
+        for (int written = 0; written < count; ++written)
+            file << line << '\n';
+    }
+    if (!file.flush())
+        throw commandline::UsageError("\"" + path + "\" cannot be written; check its folder and rights");
+}
+
+} // namespace lytdlg

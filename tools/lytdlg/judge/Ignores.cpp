@@ -1,0 +1,96 @@
+#include "lytdlg/judge/Ignores.h"
+
+#include "commandline/Suggestion.h"
+
+#include <algorithm>
+
+namespace lytdlg
+{
+
+namespace
+{
+
+constexpr const char* mark = "; lytdlg: ignore";
+
+constexpr Rule unknown = {
+    "ignore-unknown",
+    Level::Warning,
+    "A remark silences a rule that does not exist.",
+    "A remark reads `; lytdlg: ignore RULE reason`, with the name of a rule as the findings tell it.",
+    "$VALUES\n    Field = 60   ; lytdlg: ignore value-twcie kept for older documents",
+    "$VALUES\n    Field = 60"};
+
+constexpr Rule unreasoned = {
+    "ignore-without-reason",
+    Level::Warning,
+    "A remark silences a rule and does not say why.",
+    "Whoever reads the description later wants to know why the finding is no mistake: write the\n"
+    "reason after the name of the rule.",
+    "$VALUES\n    Field = 60   ; lytdlg: ignore ignore-unused",
+    "$VALUES\n    Field = 60"};
+
+constexpr Rule unused = {"ignore-unused",
+                         Level::Note,
+                         "A remark silences a rule that finds nothing there.",
+                         "The remark does no harm, but hides a mistake that is made in this line later: take it away.",
+                         "$VALUES\n    Field = 60   ; lytdlg: ignore ignore-unknown nothing is here to silence",
+                         "$VALUES\n    Field = 60"};
+
+struct Remark
+{
+    ClytSpan place;
+    std::string rule;
+    bool hasReason = false;
+};
+
+std::vector<Remark> RemarksOf(const DescriptionText& text)
+{
+    std::vector<Remark> remarks;
+    for (const SourceLine& line : text.Lines())
+    {
+        const size_t start = line.text.find(mark);
+        if (start == std::string::npos)
+            continue;
+        const std::string rest = line.text.substr(start + std::string(mark).size());
+        const size_t word = std::min(rest.find_first_not_of(' '), rest.size());
+        const size_t end = std::min(rest.find(' ', word), rest.size());
+        Remark& remark = remarks.emplace_back();
+        remark.place = {line.number, static_cast<int>(start), static_cast<int>(line.text.size() - start)};
+        remark.rule = rest.substr(word, end - word);
+        remark.hasReason = rest.find_first_not_of(' ', end) != std::string::npos;
+    }
+    return remarks;
+}
+
+bool Silences(const Remark& remark, const Finding& finding)
+{
+    return finding.place.line == remark.place.line && remark.rule == finding.rule->id &&
+           finding.rule->level != Level::Error;
+}
+
+} // namespace
+
+Family IgnoreRules()
+{
+    return {{&unknown, &unreasoned, &unused}, [](const Case&) {}};
+}
+
+void ApplyIgnores(const Description& description, Findings& findings)
+{
+    for (const Remark& remark : RemarksOf(description.text))
+    {
+        if (FindRule(remark.rule) == nullptr)
+        {
+            const std::string nearest = commandline::Nearest(remark.rule, RuleNames());
+            findings.Add(unknown, remark.place, "there is no rule \"" + remark.rule + "\"",
+                         nearest.empty() ? "`lytdlg check --rules` lists them" : "did you mean \"" + nearest + "\"?");
+        }
+        else if (!remark.hasReason)
+            findings.Add(unreasoned, remark.place, "the remark gives no reason",
+                         "write why after \"" + remark.rule + "\"");
+        else if (findings.Remove([&](const Finding& finding) { return Silences(remark, finding); }) == 0)
+            findings.Add(unused, remark.place, "\"" + remark.rule + "\" finds nothing here", "take the remark away");
+    }
+}
+
+} // namespace lytdlg
