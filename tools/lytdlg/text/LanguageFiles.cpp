@@ -1,0 +1,184 @@
+#include "lytdlg/text/LanguageFiles.h"
+
+#include "environment/ClytEnvironment.h"
+#include "lytdlg/text/TextFile.h"
+
+#include <algorithm>
+
+namespace lytdlg
+{
+
+namespace
+{
+
+// What the platform's profile functions take for a blank.
+constexpr std::string_view blanks = " \t\n\v\f\r\x1A";
+
+std::string_view Trimmed(std::string_view text)
+{
+    const size_t start = std::min(text.find_first_not_of(blanks), text.size());
+    text.remove_prefix(start);
+    return text.substr(0, text.find_last_not_of(blanks) + 1);
+}
+
+std::string_view UpToNul(std::string_view text)
+{
+    return text.substr(0, text.find('\0'));
+}
+
+// One pair of quotes round a text falls away.
+std::string_view Unquoted(std::string_view text)
+{
+    const bool isQuoted =
+        text.size() >= 2 && (text.front() == '"' || text.front() == '\'') && text.front() == text.back();
+    return isQuoted ? text.substr(1, text.size() - 2) : text;
+}
+
+bool IsSectionLine(std::string_view text)
+{
+    return !text.empty() && text.front() == '[' && text.find(']') != std::string_view::npos;
+}
+
+// Reads a file from its first line to its last.
+class KeyReader
+{
+public:
+    explicit KeyReader(std::string_view content) : m_rest(content) {}
+
+    std::vector<LanguageKey> Read()
+    {
+        while (!m_rest.empty())
+            TakeLine();
+        return std::move(m_keys);
+    }
+
+private:
+    // A line ends at a carriage return, a line feed or both.
+    void TakeLine()
+    {
+        const size_t end = std::min(m_rest.find_first_of("\r\n"), m_rest.size());
+        const std::string_view line = m_rest.substr(0, end);
+        const size_t endLength = m_rest.substr(end).starts_with("\r\n") ? 2 : 1;
+        m_rest.remove_prefix(std::min(end + endLength, m_rest.size()));
+        ++m_line;
+        const std::string_view text = Trimmed(line);
+        if (IsSectionLine(text))
+            BeginSection(Trimmed(text.substr(1, text.rfind(']') - 1)));
+        else if (!text.empty() && text.front() != ';')
+            AddKey(text, static_cast<int>(text.data() - line.data()));
+    }
+
+    void BeginSection(std::string_view name)
+    {
+        m_isReached = !name.empty() && std::ranges::none_of(m_sections, [&](const std::string& section)
+                                                            { return IsSameName(section, name); });
+        m_section = name;
+        m_sections.push_back(m_section);
+    }
+
+    void AddKey(std::string_view text, int column)
+    {
+        const size_t sign = text.find('=');
+        const std::string_view name = UpToNul(Trimmed(text.substr(0, sign)));
+        LanguageKey key = {m_section, std::string(name), {}, {m_line, column, static_cast<int>(name.size())}};
+        key.hasText = sign != std::string_view::npos;
+        if (key.hasText)
+            key.text = Unquoted(UpToNul(Trimmed(text.substr(sign + 1))));
+        key.isReached = m_isReached && !HasInSection(key.name);
+        m_keys.push_back(std::move(key));
+    }
+
+    bool HasInSection(const std::string& name) const
+    {
+        return std::ranges::any_of(
+            m_keys, [&](const LanguageKey& key)
+            { return key.isReached && IsSameName(key.name, name) && IsSameName(key.section, m_section); });
+    }
+
+    std::string_view m_rest;
+    int m_line = 0;
+    std::string m_section;
+    bool m_isReached = true; // above the first section, what an empty name of a section finds
+    std::vector<std::string> m_sections;
+    std::vector<LanguageKey> m_keys;
+};
+
+} // namespace
+
+bool IsSameName(std::string_view left, std::string_view right)
+{
+    const std::string text(Trimmed(right));
+    return CString(std::string(Trimmed(left)).c_str()).CompareNoCase(text.c_str()) == 0;
+}
+
+LanguageFile::LanguageFile(std::string language, std::string fileName)
+    : m_language(std::move(language)), m_fileName(std::move(fileName))
+{
+    const std::string content = ReadWholeFile(m_fileName).value_or("");
+    m_keys = KeyReader(content).Read();
+}
+
+const LanguageKey* LanguageFile::Find(const std::string& section, const std::string& key) const
+{
+    const auto found = std::ranges::find_if(
+        m_keys, [&](const LanguageKey& each)
+        { return each.isReached && IsSameName(each.name, key) && IsSameName(each.section, section); });
+    return found != m_keys.end() && found->hasText ? &*found : nullptr;
+}
+
+LanguageFiles::LanguageFiles(const std::filesystem::path& folder)
+{
+    for (const std::filesystem::path& file : FilesIn(folder / "lang", ".nls"))
+        m_files.emplace_back(file.stem().string(), file.string());
+}
+
+std::vector<std::string> LanguageFiles::Languages() const
+{
+    std::vector<std::string> languages;
+    for (const LanguageFile& file : m_files)
+        languages.push_back(file.Language());
+    return languages;
+}
+
+const LanguageFile* LanguageFiles::FileOf(const std::string& language) const
+{
+    const auto found = std::ranges::find(m_files, language, &LanguageFile::Language);
+    return found != m_files.end() ? &*found : nullptr;
+}
+
+const LanguageKey* LanguageFiles::Find(const std::string& language, const std::string& section,
+                                       const std::string& key) const
+{
+    const LanguageFile* file = FileOf(language);
+    return file != nullptr ? file->Find(section, key) : nullptr;
+}
+
+bool LanguageFiles::Has(const std::string& language, const std::string& section, const std::string& key) const
+{
+    return Find(language, section, key) != nullptr;
+}
+
+std::string LanguageFiles::Text(const std::string& language, const std::string& section, const std::string& key) const
+{
+    const LanguageKey* found = Find(language, section, key);
+    return found != nullptr ? found->text : lytNoValue;
+}
+
+ClytSpan LanguageFiles::Place(const std::string& language, const std::string& section, const std::string& key) const
+{
+    const LanguageKey* found = Find(language, section, key);
+    return found != nullptr ? found->place : ClytSpan();
+}
+
+std::vector<LanguageKey> LanguageFiles::Keys(const std::string& language, const std::string& section) const
+{
+    std::vector<LanguageKey> keys;
+    const LanguageFile* file = FileOf(language);
+    if (file == nullptr)
+        return keys;
+    std::ranges::copy_if(file->Keys(), std::back_inserter(keys),
+                         [&](const LanguageKey& key) { return key.isReached && IsSameName(key.section, section); });
+    return keys;
+}
+
+} // namespace lytdlg
