@@ -1,0 +1,192 @@
+// What `lytdlg check` prints, silences and ends with, over descriptions in a folder of the test.
+#include "lytdlg/Commands.h"
+#include "lytdlg/judge/Judge.h"
+#include "support/TestFolder.h"
+
+#include <gtest/gtest.h>
+#include <nlohmann/json.hpp>
+
+using nlohmann::json;
+
+namespace
+{
+
+// A description that holds what a rule wants to see and nothing else.
+const std::string sound = "$VERSION 1\n$LAYOUT Box\nBegin Dialog Box 300, 100, \"Title\", .Main\n"
+                          "    TextBox 10, 10, 200, 19, .Field\n    OKButton 10, 60, 100, 22, .Ok\n"
+                          "    CancelButton 120, 60, 100, 22, .Cancel\nEnd Dialog\n$VALUES\n$DEPENDANCES\n"
+                          "$EVALUATION, x\n$INPUT, parent\n    Start: (999, End = Field\n$OUTPUT, parent\n"
+                          "    (\"%s\", Field)\n$END\n";
+
+std::string With(const std::string& from, const std::string& to)
+{
+    std::string text = sound;
+    return text.replace(text.find(from), from.size(), to);
+}
+
+class CheckReport : public testing::Test
+{
+protected:
+    CheckReport()
+    {
+        const std::string texts = "[Buttons]\n001=&OK\n002=&Cancel\n[Box]\nTitle=Box\n";
+        m_folder.Write("lang/English.nls", texts);
+    }
+
+    // What the command prints for the description, the folder's path left out.
+    std::string Check(const std::string& description, std::vector<std::string> options = {})
+    {
+        const std::string path = m_folder.Write("box.dlg", description);
+        options.insert(options.begin(), {"check", path});
+        testing::internal::CaptureStdout();
+        m_exit = lytdlg::Run(options);
+        std::string text = testing::internal::GetCapturedStdout();
+        for (size_t at = text.find(m_folder.Path()); at != std::string::npos; at = text.find(m_folder.Path()))
+            text.erase(at, m_folder.Path().size() + 1);
+        return text;
+    }
+
+    TestFolder m_folder;
+    int m_exit = -1;
+};
+
+constexpr const char* misspelt = "$EVALUATION x";
+
+} // namespace
+
+TEST_F(CheckReport, TellsPlaceLevelRuleMessageAndTheWayOut)
+{
+    EXPECT_EQ(Check(With("$EVALUATION, x", misspelt)),
+              "box.dlg:10:1: error section-misspelt: \"$EVALUATION x\" opens no section\n"
+              "    $EVALUATION x\n"
+              "    ^~~~~~~~~~~~~\n"
+              "    hint: a blank does not end the word; write \"$EVALUATION, x\"\n"
+              "1 description judged: 1 error, 0 warnings, 0 notes\n");
+    EXPECT_EQ(m_exit, 1);
+}
+
+TEST_F(CheckReport, OfASoundDescriptionIsOneLine)
+{
+    EXPECT_EQ(Check(sound), "1 description judged: 0 errors, 0 warnings, 0 notes\n");
+    EXPECT_EQ(m_exit, 0);
+}
+
+TEST_F(CheckReport, GivesJsonThatAProgramReads)
+{
+    const json told = json::parse(Check(With("$EVALUATION, x", misspelt), {"--format", "json"}));
+    EXPECT_EQ(told["descriptions"], 1);
+    EXPECT_EQ(told["errors"], 1);
+    ASSERT_EQ(told["findings"].size(), 1U);
+    const json& finding = told["findings"][0];
+    EXPECT_EQ(finding["path"], "box.dlg");
+    EXPECT_EQ(finding["line"], 10);
+    EXPECT_EQ(finding["column"], 1);
+    EXPECT_EQ(finding["length"], 13);
+    EXPECT_EQ(finding["level"], "error");
+    EXPECT_EQ(finding["rule"], "section-misspelt");
+}
+
+// What the published schema requires of a log, a run, a tool, a rule and a result.
+TEST_F(CheckReport, GivesSarifWithAllThatItsSchemaRequires)
+{
+    const json log = json::parse(Check(With("$EVALUATION, x", misspelt), {"--format", "sarif"}));
+    EXPECT_EQ(log.at("version"), "2.1.0");
+    ASSERT_EQ(log.at("runs").size(), 1U);
+    const json& run = log["runs"][0];
+    const json& driver = run.at("tool").at("driver");
+    EXPECT_EQ(driver.at("name"), "lytdlg");
+    std::vector<std::string> ids;
+    for (const json& rule : driver.at("rules"))
+    {
+        ids.push_back(rule.at("id"));
+        EXPECT_TRUE(rule.at("shortDescription").at("text").is_string());
+    }
+    EXPECT_EQ(ids, lytdlg::RuleNames());
+    ASSERT_EQ(run.at("results").size(), 1U);
+    const json& result = run["results"][0];
+    EXPECT_TRUE(result.at("message").at("text").is_string());
+    EXPECT_EQ(result.at("level"), "error");
+    EXPECT_EQ(result.at("ruleId"), "section-misspelt");
+    const json& place = result.at("locations").at(0).at("physicalLocation");
+    EXPECT_TRUE(place.at("artifactLocation").at("uri").is_string());
+    EXPECT_EQ(place.at("region"), json({{"startLine", 10}, {"startColumn", 1}, {"endColumn", 14}}));
+}
+
+TEST_F(CheckReport, IsTheSameAfterAByteThatIsNoText)
+{
+    const std::string description = With("$EVALUATION, x", "$EVALUATION \xE4\x81");
+    EXPECT_EQ(json::parse(Check(description, {"--format", "json"}))["errors"], 1);
+    EXPECT_EQ(json::parse(Check(description, {"--format", "sarif"}))["version"], "2.1.0");
+}
+
+TEST_F(CheckReport, PassesOverWhatIsKnown)
+{
+    const std::string known = m_folder.File("known.txt");
+    const std::string description = With("$EVALUATION, x", misspelt);
+    Check(description, {"--write-baseline", known});
+    EXPECT_EQ(m_exit, 0);
+    EXPECT_EQ(Check(description, {"--baseline", known}), "1 description judged: 0 errors, 0 warnings, 0 notes\n");
+    EXPECT_EQ(m_exit, 0);
+    // Lines above the known one change its number only.
+    EXPECT_EQ(Check("; one more\n" + description, {"--baseline", known}),
+              "1 description judged: 0 errors, 0 warnings, 0 notes\n");
+    Check(With("$EVALUATION, x", "$EVALUATION y"), {"--baseline", known});
+    EXPECT_EQ(m_exit, 1);
+}
+
+TEST_F(CheckReport, TellsOfRemarksThatSilenceNothing)
+{
+    static const struct
+    {
+        const char* remark;
+        const char* told;
+    } cases[] = {
+        {"ignore section-ordr it is", "warning ignore-unknown: there is no rule \"section-ordr\""},
+        {"ignore ignore-unused", "warning ignore-without-reason: the remark gives no reason"},
+        {"ignore ignore-unused because", "note ignore-unused: \"ignore-unused\" finds nothing here"},
+        {"ignore section-misspelt because", "note ignore-unused: \"section-misspelt\" finds nothing here"},
+    };
+    for (const auto& c : cases)
+    {
+        SCOPED_TRACE(c.remark);
+        const std::string told = Check(With("$VALUES\n", std::string("$VALUES ; lytdlg: ") + c.remark + "\n"));
+        EXPECT_NE(told.find(c.told), std::string::npos) << told;
+    }
+}
+
+TEST_F(CheckReport, DoesNotSilenceAnError)
+{
+    const std::string told = Check(With("$EVALUATION, x", "$EVALUATION x ; lytdlg: ignore section-misspelt because"));
+    EXPECT_NE(told.find("error section-misspelt"), std::string::npos) << told;
+}
+
+TEST_F(CheckReport, MistakesOfTheCommandLineTellTheWayOut)
+{
+    static const struct
+    {
+        std::vector<std::string> words;
+        const char* told;
+    } cases[] = {
+        {{"check"}, "something is missing after \"check\"; write: lytdlg check PATH..."},
+        {{"check", "x", "--format", "jsn"}, "there is no format \"jsn\"; did you mean \"json\"?"},
+        {{"check", "--explain", "section-ordr"}, "there is no rule \"section-ordr\"; did you mean \"section-order\"?"},
+        {{"check", "missing.dlg"}, "\"missing.dlg\" cannot be read; check its name and rights"},
+    };
+    for (const auto& c : cases)
+    {
+        testing::internal::CaptureStderr();
+        EXPECT_EQ(lytdlg::Run(c.words), 2);
+        EXPECT_EQ(testing::internal::GetCapturedStderr(),
+                  std::string("lytdlg: ") + c.told + "\n`lytdlg --help` lists commands and options.\n");
+    }
+}
+
+TEST_F(CheckReport, ExplainsARuleWithExamples)
+{
+    testing::internal::CaptureStdout();
+    EXPECT_EQ(lytdlg::Run({"check", "--explain", "section-misspelt"}), 0);
+    const std::string told = testing::internal::GetCapturedStdout();
+    EXPECT_TRUE(
+        told.starts_with("section-misspelt (error)\nA line was meant as the header of a section and is none.\n"));
+    EXPECT_NE(told.find("\nWrong:\n\n    $EVALUATION x\n\nRight:\n\n    $EVALUATION, x\n"), std::string::npos) << told;
+}
