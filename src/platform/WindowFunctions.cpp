@@ -1,4 +1,5 @@
 // The platform's functions that make, end, change and look at windows.
+#include "CreationHook.h"
 #include "Desktop.h"
 #include "Metrics.h"
 
@@ -76,8 +77,11 @@ LRESULT CallWindowProcA(WNDPROC procedure, HWND window, UINT message, WPARAM wPa
 }
 
 HWND CreateWindowExA(DWORD exStyle, LPCSTR className, LPCSTR text, DWORD style, int x, int y, int width, int height,
-                     HWND parent, HMENU id, HINSTANCE /*instance*/, void* /*parameter*/)
+                     HWND parent, HMENU id, HINSTANCE instance, void* parameter)
 {
+    if (platform::IsCreationRefused(
+            {parameter, instance, id, parent, height, width, y, x, static_cast<LONG>(style), text, className, exStyle}))
+        return nullptr;
     Desktop& desktop = Desktop::Get();
     Window* above = desktop.Find(parent);
     std::unique_ptr<Window> made = className != nullptr ? platform::MakeWindow(className) : nullptr;

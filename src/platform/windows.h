@@ -44,6 +44,8 @@ using DLGPROC = INT_PTR (*)(HWND, UINT, WPARAM, LPARAM);
 using WNDENUMPROC = BOOL (*)(HWND, LPARAM);
 using TIMERPROC = void (*)(HWND, UINT, UINT_PTR, DWORD);
 using FARPROC = INT_PTR (*)();
+using HHOOK = struct HHOOK__*;
+using HOOKPROC = LRESULT (*)(int, WPARAM, LPARAM);
 
 struct POINT
 {
@@ -80,6 +82,12 @@ struct CREATESTRUCTA
     LONG style;
     LPCSTR lpszName, lpszClass;
     DWORD dwExStyle;
+};
+
+struct CBT_CREATEWNDA
+{
+    CREATESTRUCTA* lpcs;
+    HWND hwndInsertAfter;
 };
 
 struct DRAWITEMSTRUCT
@@ -208,6 +216,7 @@ enum : UINT
     DM_SETDEFID = WM_USER + 1,
     DC_HASDEFID = 0x534B,
 
+    SIZE_RESTORED = 0,
     WA_INACTIVE = 0,
     WA_ACTIVE = 1,
 
@@ -377,6 +386,8 @@ inline constexpr int GWL_EXSTYLE = -20;
 inline constexpr int GWLP_WNDPROC = -4;
 inline constexpr int SM_CXMINTRACK = 34;
 inline constexpr int SM_CYMINTRACK = 35;
+inline constexpr int WH_CBT = 5;
+inline constexpr int HCBT_CREATEWND = 3;
 inline constexpr int SW_HIDE = 0;
 inline constexpr int SW_SHOW = 5;
 inline constexpr int LOGPIXELSX = 88;
@@ -414,6 +425,13 @@ UINT MapVirtualKeyA(UINT code, UINT kind);
 HWND CreateWindowExA(DWORD exStyle, LPCSTR className, LPCSTR text, DWORD style, int x, int y, int width, int height,
                      HWND parent, HMENU id, HINSTANCE instance, void* parameter);
 BOOL DestroyWindow(HWND window);
+// The one hook there is sees windows before they are created: WH_CBT with HCBT_CREATEWND.
+HHOOK SetWindowsHookExA(int kind, HOOKPROC procedure, HINSTANCE instance, DWORD thread);
+BOOL UnhookWindowsHookEx(HHOOK hook);
+inline LRESULT CallNextHookEx(HHOOK /*hook*/, int /*code*/, WPARAM /*wParam*/, LPARAM /*lParam*/)
+{
+    return 0;
+}
 BOOL IsWindow(HWND window);
 LONG_PTR GetWindowLongPtrA(HWND window, int index);
 LONG_PTR SetWindowLongPtrA(HWND window, int index, LONG_PTR value);

@@ -14,7 +14,7 @@ protected:
     {
         INITCOMMONCONTROLSEX classes{sizeof classes, ICC_TREEVIEW_CLASSES};
         ::InitCommonControlsEx(&classes);
-        ASSERT_TRUE(tree.Create(WC_TREEVIEWA, "", TVS_HASBUTTONS, CRect(0, 0, 100, 100), &parent, 1000));
+        ASSERT_TRUE(tree.Create("SysTreeView32", "", TVS_HASBUTTONS, CRect(0, 0, 100, 100), &parent, 1000));
         root = Insert(TVI_ROOT);
         leaf = Insert(root);
     }
@@ -65,8 +65,8 @@ TEST(ImageList, GoesWithItsObject)
         EXPECT_FALSE(images.DeleteImageList());
         ASSERT_TRUE(images.Create(16, 16, 0, 0, 8));
         handle = images.GetSafeHandle();
-        EXPECT_EQ(images.Add(::LoadIconA(nullptr, IDI_APPLICATION)), 0);
-        EXPECT_EQ(images.Add(::LoadIconA(nullptr, IDI_QUESTION)), 1);
+        EXPECT_EQ(images.Add(::LoadIconW(nullptr, MAKEINTRESOURCEW(32512))), 0);
+        EXPECT_EQ(images.Add(::LoadIconW(nullptr, MAKEINTRESOURCEW(32514))), 1);
         EXPECT_EQ(::ImageList_GetImageCount(handle), 2);
     }
     EXPECT_EQ(::ImageList_GetImageCount(handle), 0);

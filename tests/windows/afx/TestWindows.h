@@ -47,6 +47,10 @@ protected:
     DECLARE_MESSAGE_MAP()
 };
 
+// The dialogs of templates.rc.
+constexpr UINT emptyTemplate = 200;
+constexpr UINT filledTemplate = 201;
+
 // A dialog over the templates of this program that does what the test tells it.
 class ScriptedDialog : public CDialog
 {

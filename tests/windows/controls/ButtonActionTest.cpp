@@ -276,18 +276,6 @@ TEST_F(ButtonAction, ActionWithAMissingFunctionRaises232AndKeepsTheWaitCursor)
     EXPECT_EQ(Open().messages, (Texts{"238 ''\n232 ''"}));
 }
 
-TEST_F(ButtonAction, ActionThatRaisesFreesItsLibraryOnceLikeAnyOther)
-{
-    ASSERT_EQ(GetModuleHandleA("lz32.dll"), nullptr);
-    form.main.output = {"(\"done\")", "$OUTPUT, Send", "Nobody(1) = (\"%s\", Edit)"};
-    Action("ACTION,lz32,LZClose,Send,Take");
-    Click();
-    form.Message();
-    EXPECT_EQ(Open().messages, (Texts{"245 'Nobody'"}));
-    FreeLibrary(GetModuleHandleA("lz32.dll"));
-    EXPECT_EQ(GetModuleHandleA("lz32.dll"), nullptr);
-}
-
 TEST_F(ButtonAction, ActionWithTooFewValuesRaisesTheInvalidArgumentBeforeItLoadsAnything)
 {
     Action("ACTION,no-such-library,Function,Send");

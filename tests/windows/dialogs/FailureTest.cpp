@@ -119,7 +119,7 @@ TEST_F(Failure, WindowThatCannotBeCreatedIs202WithItsName)
             [&](const CREATESTRUCTA& create)
             {
                 return create.hwndParent == nullptr || GetParent(create.hwndParent) != nullptr ||
-                       (create.style & WS_CHILD) == 0 || ++made < 4;
+                       (create.style & WS_CHILD) == 0 || ++made != 4;
             });
         robot.When(
             "message", [] { return robot::IsMessageBox(robot::ActiveDialog()); },
@@ -136,7 +136,8 @@ TEST_F(Failure, WindowThatCannotBeCreatedIs202WithItsName)
 TEST_F(Failure, ButtonThatCannotBeCreatedGoesUnnoticed)
 {
     Describe({});
-    const CreationHook refuse([](const CREATESTRUCTA& create) { return LOWORD(create.hMenu) != IDCANCEL; });
+    const CreationHook refuse([](const CREATESTRUCTA& create)
+                              { return create.hMenu != reinterpret_cast<HMENU>(UINT_PTR{IDCANCEL}); });
     On([](HWND dialog) { EXPECT_EQ(robot::ChildrenOf(dialog).size(), 2U); });
     EXPECT_EQ(ShowAndPress(IDOK, "a"), 2);
 }

@@ -178,7 +178,7 @@ TEST_F(OtherResolution, Is240AndTheEmptyTemplateStandsUntilItIsClosed)
                  [byKey](HWND dialog)
                  {
                      EXPECT_TRUE(robot::ChildrenOf(dialog).empty());
-                     PostMessageA(dialog, byKey ? WM_KEYDOWN : WM_CLOSE, byKey ? VK_ESCAPE : 0, 0);
+                     PostMessageA(dialog, byKey ? WM_KEYDOWN : WM_CLOSE, byKey ? WPARAM{VK_ESCAPE} : 0, 0);
                  });
         EXPECT_EQ(Show("a"), 0);
         EXPECT_EQ(text, "as it was");

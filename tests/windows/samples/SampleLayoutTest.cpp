@@ -68,27 +68,27 @@ std::vector<Control> VisibleControlsOf(HWND dialog)
 }
 
 // The width of a caption as a button shows it, without the mark of its access key.
-int ShownWidth(HWND dialog, const std::string& caption)
+int ShownWidth(HWND dialog, std::string caption)
 {
+    std::erase(caption, '&');
     HDC context = GetDC(dialog);
     HGDIOBJ before = SelectObject(context, reinterpret_cast<HGDIOBJ>(SendMessageA(dialog, WM_GETFONT, 0, 0)));
-    RECT rect{};
-    DrawTextA(context, caption.c_str(), -1, &rect, DT_CALCRECT | DT_SINGLELINE);
+    SIZE extent{};
+    GetTextExtentPoint32A(context, caption.c_str(), static_cast<int>(caption.size()), &extent);
     SelectObject(context, before);
     ReleaseDC(dialog, context);
-    return rect.right;
+    return extent.cx;
 }
 
 bool Overlap(const RECT& one, const RECT& other)
 {
-    RECT common{};
-    return IntersectRect(&common, &one, &other) != FALSE;
+    return one.left < other.right && other.left < one.right && one.top < other.bottom && other.top < one.bottom;
 }
 
 bool Holds(const RECT& outer, const RECT& inner)
 {
-    RECT common{};
-    return IntersectRect(&common, &outer, &inner) != FALSE && EqualRect(&common, &inner) != FALSE;
+    return inner.left >= outer.left && inner.right <= outer.right && inner.top >= outer.top &&
+           inner.bottom <= outer.bottom;
 }
 
 std::string Name(const Control& control)
@@ -180,9 +180,7 @@ protected:
     SampleLayout()
     {
         folder.Write("lyt.ini", std::string("[global]\r\nCurrent Language=") + GetParam().language + "\r\n");
-        char program[MAX_PATH] = "";
-        GetModuleFileNameA(nullptr, program, sizeof program);
-        const fs::path samples = fs::path(program).parent_path() / "samples" / "dialogs";
+        const fs::path samples = fs::path(ProgramFolder()) / "samples" / "dialogs";
         // Every description opens as that of a symbol: what it is called is not looked at.
         fs::copy(samples, folder.Path(), fs::copy_options::recursive | fs::copy_options::overwrite_existing);
         fs::copy_file(samples / (GetParam().file + std::string(".dlg")), fs::path(folder.Path()) / "lytInSym.dlg",
