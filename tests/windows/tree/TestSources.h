@@ -5,6 +5,7 @@
 
 #include <string>
 
-// Makes a variant the library `lytsrc`, until it is taken away.
+// Makes a variant the library `lytsrc`.
 HMODULE LoadTestSource(const std::string& variant);
-void TakeTestSourceAway();
+// Takes the library under test and its data source away, whoever still holds them.
+void TakeLibrariesAway();

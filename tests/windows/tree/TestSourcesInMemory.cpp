@@ -22,7 +22,8 @@ HMODULE LoadTestSource(const std::string& variant)
     return LoadLibraryA("lytsrc");
 }
 
-void TakeTestSourceAway()
+// The library under test stays: it is part of the program, and goes with the process.
+void TakeLibrariesAway()
 {
     platform::RemoveLibrary("lytsrc");
 }

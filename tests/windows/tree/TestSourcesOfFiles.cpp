@@ -9,10 +9,14 @@ HMODULE LoadTestSource(const std::string& variant)
     return LoadLibraryA("lytsrc");
 }
 
-// The library under test keeps its source for good, so that a fresh start has to take it away from under it.
-void TakeTestSourceAway()
+// A button whose action names the library under test leaves it loaded once more with each press, and the library keeps
+// its source for good.
+void TakeLibrariesAway()
 {
-    while (HMODULE source = GetModuleHandleA("lytsrc"))
-        FreeLibrary(source);
+    for (const char* name : {"lyt64", "lytsrc"})
+    {
+        while (HMODULE library = GetModuleHandleA(name))
+            FreeLibrary(library);
+    }
     SetDllDirectoryA(nullptr);
 }

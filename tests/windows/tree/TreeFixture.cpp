@@ -40,24 +40,16 @@ TreeTest::TreeTest()
                                              "[Buttons]\n001=Fine\n002=Stop\n"
                                              "[Dialog_Error]\n222=Pick another.\n");
     Configure("TreeWidth=300\nTreeHeight=400\nTreeLevels=2\n");
-    Reload();
-}
-
-TreeTest::~TreeTest()
-{
-    FreeLibrary(m_library);
-    TakeTestSourceAway();
-}
-
-void TreeTest::Reload()
-{
-    if (m_library != nullptr)
-        FreeLibrary(m_library);
     m_library = LoadLibraryA((ProgramFolder() + "\\..\\lyt64.dll").c_str());
     if (m_library == nullptr)
         throw std::runtime_error("lyt64.dll is not to be found");
     Get<decltype(lytInitialiseEnvironment)>("lytInitialiseEnvironment")("", (folder.Path() + "\\dialogs").c_str(),
                                                                         folder.Path().c_str());
+}
+
+TreeTest::~TreeTest()
+{
+    TakeLibrariesAway();
 }
 
 void TreeTest::UseSource(const std::string& variant)

@@ -36,9 +36,6 @@ protected:
     int Starts(char kind) const;
     int Nexts(char kind) const;
 
-    // Makes the library a fresh one.
-    void Reload();
-
     // Writes lyt.ini: the language, and these lines in the section "global".
     void Configure(const std::string& lines);
 
