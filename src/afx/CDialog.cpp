@@ -1,7 +1,7 @@
 #include <afxwin.h>
 
-#include "ActivationContext.h"
 #include "CallbackFailure.h"
+#include "ModernControls.h"
 
 #include <commctrl.h>
 

@@ -1,29 +1,14 @@
 #include <afxwin.h>
 
+#include "CurrentMessage.h"
 #include "WindowMap.h"
 
 #include <algorithm>
-#include <exception>
 #include <memory>
 #include <type_traits>
 
 namespace
 {
-
-// The message that is being handled, for Default. A message sent meanwhile takes its place and gives it back.
-const MSG* currentMessage = nullptr;
-
-class CurrentMessage
-{
-public:
-    explicit CurrentMessage(const MSG& message) : m_previous(currentMessage) { currentMessage = &message; }
-    CurrentMessage(const CurrentMessage&) = delete;
-    CurrentMessage& operator=(const CurrentMessage&) = delete;
-    ~CurrentMessage() { currentMessage = m_previous; }
-
-private:
-    const MSG* m_previous; // stands further down the stack
-};
 
 // The window goes on without its object: ours stays in the chain of procedures and hands everything to the one below.
 LRESULT PassBelow(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept
@@ -52,77 +37,7 @@ struct WindowDestroyer
 };
 using CreatedWindow = std::unique_ptr<std::remove_pointer_t<HWND>, WindowDestroyer>;
 
-// A report that fails in its turn is given up: there is no one left to tell.
-template <class REPORT>
-void Report(REPORT report) noexcept
-{
-    try
-    {
-        report();
-    }
-    catch (CException* e)
-    {
-        e->Delete();
-    }
-    catch (...)
-    {
-        ::MessageBeep(MB_ICONERROR);
-    }
-}
-
-// What the sender of a message whose handler failed is told.
-LRESULT FailedResult(UINT message)
-{
-    return message == WM_COMMAND ? TRUE : 0;
-}
-
 } // namespace
-
-LRESULT AfxCallWndProc(CWnd& window, UINT message, WPARAM wParam, LPARAM lParam) noexcept
-{
-    const HWND handle = window.m_hWnd;
-    // A window that is not validated would be painted, and fail, for ever.
-    const auto stopPainting = [&]
-    {
-        if (message == WM_PAINT)
-            ::ValidateRect(handle, nullptr);
-    };
-    try
-    {
-        const MSG received{handle, message, wParam, lParam, 0, {}};
-        const CurrentMessage current(received);
-        return window.WindowProc(message, wParam, lParam);
-    }
-    catch (CException* e)
-    {
-        stopPainting();
-        Report([&] { e->ReportError(); });
-        e->Delete();
-    }
-    catch (const std::exception& e)
-    {
-        stopPainting();
-        Report([&] { AfxMessageBox(e.what()); });
-    }
-    catch (...)
-    {
-        stopPainting();
-        Report([] { AfxMessageBox("An unknown error occurred."); });
-    }
-    return FailedResult(message);
-}
-
-const AFX_MSGMAP* CCmdTarget::GetThisMessageMap()
-{
-    static constexpr AFX_MSGMAP_ENTRY entries[] = {{0, 0, 0, nullptr}};
-    static constexpr AFX_MSGMAP map = {nullptr, entries};
-    return &map;
-}
-
-const AFX_MSGMAP* CCmdTarget::GetMessageMap() const
-{
-    return GetThisMessageMap();
-}
 
 CWnd::~CWnd()
 {
@@ -238,7 +153,8 @@ LRESULT CWnd::DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam)
 
 LRESULT CWnd::Default()
 {
-    return DefWindowProc(currentMessage->message, currentMessage->wParam, currentMessage->lParam);
+    const MSG& message = CurrentMessage::Get();
+    return DefWindowProc(message.message, message.wParam, message.lParam);
 }
 
 BOOL CWnd::OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result)
@@ -267,7 +183,7 @@ BOOL CWnd::Dispatch(UINT message, UINT code, UINT id, LRESULT* result)
         {
             if (entry->nMessage != message || entry->nCode != code || entry->nID != id)
                 continue;
-            *result = entry->pfnCall(*this, *currentMessage);
+            *result = entry->pfnCall(*this, CurrentMessage::Get());
             return TRUE;
         }
     }
@@ -297,7 +213,8 @@ void CWnd::OnNcDestroy()
 {
     const WNDPROC super = m_pfnSuper;
     const HWND window = UnsubclassWindow();
-    ::CallWindowProcA(super, window, WM_NCDESTROY, currentMessage->wParam, currentMessage->lParam);
+    const MSG& message = CurrentMessage::Get();
+    ::CallWindowProcA(super, window, WM_NCDESTROY, message.wParam, message.lParam);
     WindowMap::Get().RemovePermanent(window);
     PostNcDestroy();
 }

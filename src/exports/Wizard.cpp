@@ -1,7 +1,7 @@
 // The export that leads through the choice of a new placeholder.
 #include "lyt64.h"
 
-#include "afx/ActivationContext.h"
+#include "afx/ModernControls.h"
 #include "dialog/ClytDialog.h"
 #include "environment/ClytEnvironment.h"
 #include "environment/ProcessState.h"

@@ -1,4 +1,4 @@
-#include "ActivationContext.h"
+#include "ModernControls.h"
 
 #include <afxstat_.h>
 

@@ -1,9 +1,5 @@
 #include <afxcmn.h>
 
-#include "ActivationContext.h"
-
-#include <utility>
-
 void CTreeCtrl::SetImageList(const CImageList* images, int kind) const
 {
     SendMessage(TVM_SETIMAGELIST, static_cast<WPARAM>(kind), reinterpret_cast<LPARAM>(images->GetSafeHandle()));
@@ -59,29 +55,4 @@ BOOL CTreeCtrl::ItemHasChildren(HTREEITEM item) const
     request.mask = TVIF_CHILDREN;
     SendMessage(TVM_GETITEMA, 0, reinterpret_cast<LPARAM>(&request));
     return request.cChildren != 0;
-}
-
-// A list of pictures may also be made, and usually dies, where no dialog has the module's manifest in force. The first
-// call into the library of the common controls decides which version all others reach, so each of them has it.
-BOOL CImageList::Create(int width, int height, UINT flags, int initialSize, int growth)
-{
-    DeleteImageList();
-    const ModernControls modernControls;
-    m_hImageList = ::ImageList_Create(width, height, flags, initialSize, growth);
-    return m_hImageList != nullptr;
-}
-
-BOOL CImageList::DeleteImageList()
-{
-    const HIMAGELIST list = std::exchange(m_hImageList, nullptr);
-    if (list == nullptr)
-        return FALSE;
-    const ModernControls modernControls;
-    return ::ImageList_Destroy(list);
-}
-
-int CImageList::Add(HICON icon) const
-{
-    const ModernControls modernControls;
-    return ::ImageList_ReplaceIcon(m_hImageList, -1, icon);
 }

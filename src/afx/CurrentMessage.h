@@ -1,0 +1,22 @@
+// The message that is being handled: a handler hands it on as it came.
+#pragma once
+
+#include <windows.h>
+
+// In force while the object lives. A message sent meanwhile takes its place and gives it back.
+class CurrentMessage
+{
+public:
+    explicit CurrentMessage(const MSG& message) : m_previous(current) { current = &message; }
+    CurrentMessage(const CurrentMessage&) = delete;
+    CurrentMessage& operator=(const CurrentMessage&) = delete;
+    ~CurrentMessage() { current = m_previous; }
+
+    // Only while a message is being handled.
+    static const MSG& Get() { return *current; }
+
+private:
+    static inline const MSG* current = nullptr;
+
+    const MSG* m_previous; // stands further down the stack
+};
