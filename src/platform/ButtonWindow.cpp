@@ -1,6 +1,6 @@
 #include "ButtonWindow.h"
 
-#include "Desktop.h"
+#include "DialogWindow.h"
 
 #include <algorithm>
 
@@ -16,7 +16,11 @@ LRESULT ButtonWindow::Handle(UINT message, WPARAM wParam, LPARAM lParam)
     case BM_SETCHECK: SetCheck(static_cast<UINT>(wParam)); return 0;
     case BM_GETSTATE: return static_cast<LRESULT>(m_check | (m_isPushed ? UINT{BST_PUSHED} : 0U));
     case BM_SETSTATE: m_isPushed = wParam != 0; return 0;
-    case BM_SETSTYLE: style = (style & ~DWORD{BS_TYPEMASK}) | (static_cast<DWORD>(wParam) & BS_TYPEMASK); return 0;
+    case BM_SETSTYLE:
+        style = (style & ~DWORD{BS_TYPEMASK}) | (static_cast<DWORD>(wParam) & BS_TYPEMASK);
+        OnStyleChanged();
+        return 0;
+    case WM_NCDESTROY: TellKind(BS_PUSHBUTTON); return 0;
     case BM_CLICK:
         Send(WM_LBUTTONDOWN);
         Send(WM_LBUTTONUP);
@@ -42,6 +46,12 @@ LRESULT ButtonWindow::Handle(UINT message, WPARAM wParam, LPARAM lParam)
         return 0;
     default: return Window::Handle(message, wParam, lParam);
     }
+}
+
+void ButtonWindow::TellKind(DWORD kind) const
+{
+    if (auto* dialog = dynamic_cast<DialogWindow*>(parent))
+        dialog->NoteButton(handle, kind == BS_DEFPUSHBUTTON);
 }
 
 LRESULT ButtonWindow::DialogCodes() const
@@ -111,17 +121,16 @@ void ButtonWindow::SetCheck(UINT check)
 // Backwards from this one, around the beginning of the group.
 void ButtonWindow::UncheckOthers() const
 {
-    const std::vector<Window*>& row = parent->children;
-    const auto self = std::ranges::find(row, this);
+    const WindowRow& row = parent->children;
+    const WindowRow::const_iterator self = inRow;
     const auto begins = [](const Window* child) { return child->HasStyle(WS_GROUP); };
     auto first = self;
     while (first != row.begin() && !begins(*first))
         --first;
-    const auto end = std::find_if(self + 1, row.end(), begins);
-    std::vector<const Window*> members(first, end);
-    std::rotate(members.begin(), members.begin() + (self - first) + 1, members.end());
+    const auto end = std::find_if(std::next(self), row.end(), begins);
     std::vector<HWND> others;
-    for (auto member = members.rbegin() + 1; member != members.rend(); ++member)
+    for (auto member = std::prev(self == first ? end : self); member != self;
+         member = std::prev(member == first ? end : member))
     {
         const auto* button = dynamic_cast<const ButtonWindow*>(*member);
         if (button != nullptr && button->Kind() == BS_AUTORADIOBUTTON)

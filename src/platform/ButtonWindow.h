@@ -10,9 +10,13 @@ class ButtonWindow : public Window
 {
 public:
     LRESULT Handle(UINT message, WPARAM wParam, LPARAM lParam) override;
+    void OnCreated() override { TellKind(Kind()); }
+    void OnStyleChanged() override { TellKind(Kind()); }
 
 private:
     DWORD Kind() const { return style & BS_TYPEMASK; }
+    // Tells the dialog whether this is a default button.
+    void TellKind(DWORD kind) const;
     LRESULT DialogCodes() const;
     void Press();
     void Release(bool isOutside);

@@ -43,7 +43,8 @@ Window& Desktop::Adopt(std::unique_ptr<Window> window, Window* parentOrOwner)
     if (window->HasStyle(WS_CHILD))
     {
         window->parent = parentOrOwner;
-        parentOrOwner->children.push_back(window.get());
+        window->inRow = parentOrOwner->children.insert(parentOrOwner->children.end(), window.get());
+        window->inIds = parentOrOwner->childrenById.emplace(window->id, window.get());
     }
     else
     {
@@ -57,18 +58,29 @@ void Desktop::Forget(HWND window)
 {
     const std::shared_ptr<Window> dying = Hold(window);
     if (dying->parent != nullptr)
-        std::erase(dying->parent->children, dying.get());
-    for (const auto& [handle, other] : m_windows)
     {
-        if (other->owner == dying.get())
-            other->owner = nullptr;
+        dying->parent->children.erase(dying->inRow);
+        dying->parent->childrenById.erase(dying->inIds);
     }
-    std::erase(m_topLevels, window);
+    else
+        ForgetTopLevel(*dying);
     m_windows.erase(window);
     for (HWND* place : {&focus, &active, &capture})
     {
         if (*place == window)
             *place = nullptr;
+    }
+}
+
+// Only windows of the top level are owners, and only they have one.
+void Desktop::ForgetTopLevel(const Window& dying)
+{
+    std::erase(m_topLevels, dying.handle);
+    for (const HWND each : m_topLevels)
+    {
+        Window& other = *Find(each);
+        if (other.owner == &dying)
+            other.owner = nullptr;
     }
 }
 

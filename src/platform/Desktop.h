@@ -42,6 +42,8 @@ public:
     HWND capture = nullptr;
 
 private:
+    void ForgetTopLevel(const Window& dying);
+
     std::unordered_map<HWND, std::shared_ptr<Window>> m_windows;
     std::vector<HWND> m_topLevels;
     uintptr_t m_lastHandle = 0x10000;

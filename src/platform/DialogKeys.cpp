@@ -82,17 +82,14 @@ void TakeAccess(const DialogWindow& dialog, HWND target)
 bool TakeAccessKey(const DialogWindow& dialog, WPARAM character)
 {
     const auto wanted = static_cast<char>(std::tolower(static_cast<unsigned char>(character)));
-    const std::vector<Window*>& row = dialog.children;
-    size_t start = 0;
-    if (const Window* focused = dialog.FocusedChild())
-    {
-        while (row[start] != focused)
-            ++start;
-        ++start;
-    }
+    const WindowRow& row = dialog.children;
+    const Window* focused = dialog.FocusedChild();
+    WindowRow::const_iterator place = focused != nullptr ? std::next(focused->inRow) : row.begin();
     for (size_t step = 0; step < row.size(); ++step)
     {
-        const Window& child = *row[(start + step) % row.size()];
+        if (place == row.end())
+            place = row.begin();
+        const Window& child = **place++;
         const bool isText = HasCode(child.handle, DLGC_BUTTON | DLGC_STATIC);
         if (!isText || !child.IsReady() || AccessKeyOf(child.text) != wanted)
             continue;

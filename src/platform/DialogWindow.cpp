@@ -65,29 +65,41 @@ LRESULT DialogWindow::HandleDefault(UINT message, WPARAM wParam, LPARAM lParam)
 
 Window* DialogWindow::NextTabStop(const Window* from, bool backwards) const
 {
-    std::vector<Window*> row = children;
+    if (children.empty())
+        return nullptr;
+    const bool isChild = from != nullptr && from->parent == this;
+    Window* const last = isChild ? *from->inRow : backwards ? children.front() : children.back();
+    Window* child = last;
+    do
+    {
+        child = &Neighbour(*child, backwards);
+        if (child->HasStyle(WS_TABSTOP) && child->IsReady())
+            return child;
+    } while (child != last);
+    return nullptr;
+}
+
+Window& DialogWindow::Neighbour(const Window& child, bool backwards) const
+{
+    WindowRow::const_iterator at = child.inRow;
     if (backwards)
-        std::ranges::reverse(row);
-    const auto here = std::ranges::find(row, from);
-    if (here != row.end())
-        std::rotate(row.begin(), here + 1, row.end());
-    const auto found =
-        std::ranges::find_if(row, [](const Window* child) { return child->HasStyle(WS_TABSTOP) && child->IsReady(); });
-    return found != row.end() ? *found : nullptr;
+        return **std::prev(at == children.begin() ? children.end() : at);
+    ++at;
+    return at != children.end() ? **at : *children.front();
 }
 
 // A group ends before the next child that begins one, and then goes round. One that no other follows goes on with the
 // dialog's first children instead.
 Window* DialogWindow::NextInGroup(const Window& from, bool backwards) const
 {
-    const auto here = std::ranges::find(children, &from);
-    if (here == children.end())
+    if (from.parent != this)
         return nullptr;
+    const WindowRow::const_iterator here = from.inRow;
     const auto begins = [](const Window* child) { return child->HasStyle(WS_GROUP); };
     auto first = here;
     while (first != children.begin() && !begins(*first))
         --first;
-    const auto end = std::find_if(here + 1, children.end(), begins);
+    const auto end = std::find_if(std::next(here), children.end(), begins);
     std::vector<Window*> members;
     if (end == children.end() && first != children.begin())
         members.assign(children.begin(), std::find_if(children.begin(), first, begins));
@@ -137,8 +149,16 @@ void DialogWindow::MoveDefaultTo(HWND focused) const
 HWND DialogWindow::DefaultButton() const
 {
     const auto found =
-        std::ranges::find_if(children, [](const Window* child) { return HasCode(child->handle, DLGC_DEFPUSHBUTTON); });
-    return found != children.end() ? (*found)->handle : nullptr;
+        std::ranges::find_if(m_defaultButtons, [](HWND button) { return HasCode(button, DLGC_DEFPUSHBUTTON); });
+    return found != m_defaultButtons.end() ? *found : nullptr;
+}
+
+void DialogWindow::NoteButton(HWND button, bool isDefault)
+{
+    if (isDefault)
+        m_defaultButtons.insert(button);
+    else
+        m_defaultButtons.erase(button);
 }
 
 Window* DialogWindow::FocusedChild() const

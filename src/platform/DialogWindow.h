@@ -3,6 +3,8 @@
 
 #include "Window.h"
 
+#include <set>
+
 namespace platform
 {
 
@@ -21,6 +23,8 @@ public:
     void FocusChild(HWND child);
     // The child that holds the focus, itself or in a window of its own; null when it is none.
     Window* FocusedChild() const;
+    // A button has become a default button, or is none any more.
+    void NoteButton(HWND button, bool isDefault);
     // A dialog that has no saved focus gives it to its first tab stop.
     void RestoreFocus();
 
@@ -31,11 +35,14 @@ public:
 
 private:
     LRESULT HandleDefault(UINT message, WPARAM wParam, LPARAM lParam);
+    // The child after (before) one of the children, around the end.
+    Window& Neighbour(const Window& child, bool backwards) const;
     void MoveToControl(WPARAM wParam, LPARAM lParam);
     void MoveDefaultTo(HWND focused) const;
     HWND DefaultButton() const;
 
-    HWND m_savedFocus = nullptr; // while the dialog is not active
+    std::set<HWND> m_defaultButtons; // in order of creation, as handles grow
+    HWND m_savedFocus = nullptr;     // while the dialog is not active
 };
 
 } // namespace platform

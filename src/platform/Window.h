@@ -6,12 +6,19 @@
 
 #include <windows.h>
 
+#include <list>
+#include <map>
 #include <memory>
 #include <string>
 #include <vector>
 
 namespace platform
 {
+
+class Window;
+
+// Children in order of creation. One finds its neighbours, and leaves, without a walk over the others.
+using WindowRow = std::list<Window*>;
 
 class Window
 {
@@ -25,6 +32,8 @@ public:
     virtual LRESULT Handle(UINT message, WPARAM wParam, LPARAM lParam);
     // Called once, when the window stands in the tree.
     virtual void OnCreated() {}
+    // Called when a program has replaced the style.
+    virtual void OnStyleChanged() {}
     // The size that a window of the class takes when it is given one.
     virtual SIZE Adjusted(SIZE wanted) const { return wanted; }
 
@@ -51,7 +60,10 @@ public:
     int id = 0;
     Window* parent = nullptr; // of a child
     Window* owner = nullptr;  // of a top-level window
-    std::vector<Window*> children;
+    WindowRow children;
+    std::multimap<int, Window*> childrenById; // those of one id in order of creation
+    WindowRow::iterator inRow;                // of a child: its place in both of the parent
+    std::multimap<int, Window*>::iterator inIds;
     std::string text;
     RECT place{}; // in the parent's client area, else on the screen
     WNDPROC procedure = nullptr;

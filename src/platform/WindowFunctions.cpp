@@ -132,7 +132,11 @@ LONG_PTR SetWindowLongPtrA(HWND window, int index, LONG_PTR value)
 {
     Window* found = Desktop::Get().Find(window);
     if (found != nullptr && index == GWL_STYLE)
-        return static_cast<LONG_PTR>(std::exchange(found->style, static_cast<DWORD>(value)));
+    {
+        const DWORD before = std::exchange(found->style, static_cast<DWORD>(value));
+        found->OnStyleChanged();
+        return static_cast<LONG_PTR>(before);
+    }
     if (found == nullptr || index != GWLP_WNDPROC)
         return 0;
     const auto previous = reinterpret_cast<LONG_PTR>(found->procedure);
@@ -160,8 +164,9 @@ HWND GetDlgItem(HWND dialog, int id)
     const Window* found = Desktop::Get().Find(dialog);
     if (found == nullptr)
         return nullptr;
-    const auto child = std::ranges::find(found->children, id, &Window::id);
-    return child != found->children.end() ? (*child)->handle : nullptr;
+    // The bound is the first of that id; any other search may give a later one.
+    const auto child = found->childrenById.lower_bound(id);
+    return child != found->childrenById.end() && child->first == id ? child->second->handle : nullptr;
 }
 
 HWND FindWindowExA(HWND parent, HWND /*after*/, LPCSTR className, LPCSTR /*text*/)
@@ -193,9 +198,8 @@ HWND GetWindow(HWND window, UINT relation)
         return found->children.empty() ? nullptr : found->children.front()->handle;
     if (relation != GW_HWNDNEXT || found->parent == nullptr)
         return nullptr;
-    const std::vector<Window*>& row = found->parent->children;
-    const auto next = std::ranges::find(row, found) + 1;
-    return next != row.end() ? (*next)->handle : nullptr;
+    const auto next = std::next(found->inRow);
+    return next != found->parent->children.end() ? (*next)->handle : nullptr;
 }
 
 DWORD GetCurrentThreadId()
