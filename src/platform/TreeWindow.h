@@ -1,9 +1,8 @@
 // A tree of items, of which one is selected and some are expanded.
 #pragma once
 
+#include "TreeItems.h"
 #include "Window.h"
-
-#include <commctrl.h>
 
 namespace platform
 {
@@ -14,23 +13,15 @@ public:
     LRESULT Handle(UINT message, WPARAM wParam, LPARAM lParam) override;
 
 private:
-    struct Item
-    {
-        std::string text;
-        size_t parent = root;
-        int image = 0;
-        UINT state = 0;
-        bool isThere = true; // the handle of one that is gone names no other
-        std::vector<size_t> children;
-    };
+    static constexpr size_t root = TreeItems::root;
+    static constexpr size_t none = TreeItems::none;
 
-    static constexpr size_t root = 0; // above the items that have no parent; no item itself
-    static constexpr size_t none = ~size_t{0};
+    // Pixels.
+    static constexpr int indent = 19;
+    static constexpr int imageWidth = 16;
+    static constexpr int labelMargin = 2;
 
-    static LPARAM HandleOf(size_t item) { return static_cast<LPARAM>(item); }
-    size_t ItemOf(LPARAM itemHandle) const;
-    size_t ItemOf(HTREEITEM itemHandle) const { return ItemOf(reinterpret_cast<LPARAM>(itemHandle)); }
-    bool IsExpanded(size_t item) const { return (m_items[item].state & TVIS_EXPANDED) != 0; }
+    size_t Find(HTREEITEM handleOfItem) const { return m_items.Find(reinterpret_cast<LPARAM>(handleOfItem)); }
 
     LRESULT HandleInput(UINT message, WPARAM wParam, LPARAM lParam);
     LRESULT Insert(const TVINSERTSTRUCTA& insert);
@@ -39,8 +30,10 @@ private:
     LRESULT SetItem(const TVITEMA& change);
     LRESULT ItemRect(RECT& rect, bool isLabel) const;
     LRESULT NextItem(WPARAM relation, size_t item) const;
-    size_t RowAfter(size_t item) const;
-    size_t Sibling(size_t item, int step) const;
+    // The item so many rows after an item that is seen; root where there is none.
+    size_t Neighbour(size_t item, int step) const;
+
+    void ChangeState(size_t item, UINT remove, UINT add);
 
     bool Expand(size_t item, UINT action, bool isByUser);
     void Collapse(size_t item);
@@ -49,10 +42,6 @@ private:
     // The row at the top when the last one is in sight.
     size_t LastTop() const;
     void ShowItem(size_t item);
-    // The items that are seen when the tree is high enough, from top to bottom.
-    std::vector<size_t> Rows() const;
-    void AddRows(size_t item, std::vector<size_t>& rows) const;
-    int LevelOf(size_t item) const;
     int LabelStart(size_t item) const;
     int RowHeight() const;
     int VisibleRows() const;
@@ -61,10 +50,12 @@ private:
     void TakeFocus();
     void TakeKey(WPARAM key);
     void TakeCharacter(WPARAM character);
+    // By the keyboard; root is not selected.
+    void SelectFound(size_t item);
     LRESULT Tell(UINT code) const;
     LRESULT Tell(UINT code, UINT action, size_t oldItem, size_t newItem) const;
 
-    std::vector<Item> m_items{Item{}};
+    TreeItems m_items;
     size_t m_selected = root;
     size_t m_top = 0;              // the row at the top
     HIMAGELIST m_images = nullptr; // the program's
