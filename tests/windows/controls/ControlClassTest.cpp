@@ -269,9 +269,12 @@ TEST(DataLibrary, TellsAListenerWhatIsNotThere)
 {
     RecordingObserver observer;
     ClytDataLibrary library;
-    EXPECT_FALSE(library.Load("absent.dll"));
+    ClytListSource source;
+    source.library = "absent.dll";
+    EXPECT_FALSE(library.Load(source));
     EXPECT_EQ(observer.TakeHeard(), "no library absent.dll\n");
-    ASSERT_TRUE(library.Load("nasty.dll"));
-    EXPECT_EQ(library.Find<lytDataText>("Absent"), nullptr);
+    source.library = "nasty.dll";
+    ASSERT_TRUE(library.Load(source));
+    EXPECT_EQ(library.Find<lytDataText>("Absent", source), nullptr);
     EXPECT_EQ(observer.TakeHeard(), "no function Absent\n");
 }
