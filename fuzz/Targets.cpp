@@ -93,11 +93,11 @@ void FuzzFormat(const uint8_t* data, size_t size)
     int count = 0;
     for (std::string line; count < items.GetCount() && std::getline(lines, line); ++count)
         items.SetAt(count, line.c_str());
-    Try([&] { ClytDialogRules::FormatOutput(format.c_str(), items); });
+    Try([&] { ClytDialog::FormatOutput(format.c_str(), items); });
     for (int index = 0; index < count; ++index)
     {
         CString text = items[index];
-        ClytDialogRules::ExpandEscapes(text);
+        ClytDialog::ExpandEscapes(text);
         ClytTokenList tokens;
         Try([&] { lytTokenizeGrouped(text + '\n', format.c_str(), tokens); });
         Try([&] { static_cast<void>(lytTokenize(text, DelimiterSet(format.c_str()), tokens)); });

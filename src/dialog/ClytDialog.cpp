@@ -1,15 +1,16 @@
 #include "dialog/ClytDialog.h"
 
-#include "controls/ClytControlTypes.h"
 #include "controls/ClytGroupBoxControl.h"
 #include "controls/ClytPushButtonControl.h"
 #include "environment/ClytEnvironment.h"
 #include "environment/ClytException.h"
 #include "environment/ProcessState.h"
+#include "model/ClytObserver.h"
 #include "model/ClytScale.h"
 #include "res/resource.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace
 {
@@ -77,9 +78,28 @@ BEGIN_MESSAGE_MAP(ClytDialog, CDialog)
     ON_WM_DESTROY()
 END_MESSAGE_MAP()
 
-ClytDialog::ClytDialog(const CString& descriptionFile, const CString& defineList)
-    : CDialog(IDD_PROPERTIES), ClytDialogRules(descriptionFile, defineList)
+ClytDialog::ClytDialog(CString descriptionFile, const CString& defineList)
+    : CDialog(IDD_PROPERTIES), file(defineList), fileName(std::move(descriptionFile))
 {
+    lytTreeConfirmCount = 0;
+}
+
+// Controls may look at rules, groups and parts as they go, so they go first.
+ClytDialog::~ClytDialog()
+{
+    controlList.RemoveAll();
+}
+
+CString ClytDialog::GetTextSection() const
+{
+    return sectionList.IsEmpty() ? CString() : sectionList.GetHead();
+}
+
+ClytControl* ClytDialog::FindControl(const CString& name) const
+{
+    ClytControl* control = nullptr;
+    controlMap.Lookup(name, control);
+    return control;
 }
 
 BOOL ClytDialog::OnInitDialog()
@@ -118,45 +138,72 @@ void ClytDialog::TakeScale()
 }
 
 // Two passes: the first shows how much of the raw size the frame takes, the second adds it.
-void ClytDialog::SizeWindow(int width, int height, const CString& windowCaption)
+void ClytDialog::Resize(int width, int height)
 {
     SetWindowPos(nullptr, 0, 0, width, height, SWP_HIDEWINDOW | SWP_NOACTIVATE | SWP_NOREDRAW);
     CRect client;
     GetClientRect(&client);
     SetWindowPos(nullptr, 0, 0, OuterLength(width, client.Width(), lytScaleX),
                  OuterLength(height, client.Height(), lytScaleY), SWP_HIDEWINDOW | SWP_FRAMECHANGED);
-    SetWindowText(windowCaption);
-    CenterWindow();
 }
 
-std::unique_ptr<ClytControl> ClytDialog::MakeControl(const CString& type, const CString& name, ClytPosition position,
-                                                     ClytSize size, const CString& label)
+void ClytDialog::ApplyInput(const CString& partName)
 {
-    return lytMakeControl({type, name, position, size, label});
+    ClytInputPart* part = nullptr;
+    if (!inputMap.Lookup(partName, part))
+        lytRaise("217", CString(), partName);
+    part->Run(lytInputKey, lytStartName);
+    // Emptied, so that no nested dialog scans the same text.
+    lytInputKey.Empty();
+    for (POSITION place = controlList.GetHeadPosition(); place != nullptr;)
+        controlList.GetNext(place)->SaveState();
 }
 
-void ClytDialog::CreateControlWindow(ClytControl& control)
+int ClytDialog::RunInput(const CString& partName, const CString& text)
 {
-    control.CreateControl(this);
+    ClytInputPart* part = nullptr;
+    if (!inputMap.Lookup(partName, part))
+    {
+        lytTellMissing(ClytMissing::InputPart, partName);
+        return 0;
+    }
+    part->Run(text, lytStartName);
+    return 1;
 }
 
 void ClytDialog::RunDependencies()
 {
-    if (IsRunning())
+    if (innermostRun != nullptr)
     {
-        ClytDialogRules::RunDependencies();
+        RunRules();
         return;
     }
     const FocusKeeper keeper(*this);
-    ClytDialogRules::RunDependencies();
+    RunRules();
 }
 
 BOOL ClytDialog::OnCommand(WPARAM wParam, LPARAM lParam)
 {
-    if (!m_isDying && MayRunRules())
+    if (!isDying && MayRunRules())
         RunDependencies();
     lytCommandSeen = 1;
     return CDialog::OnCommand(wParam, lParam);
+}
+
+const ClytControlDep* ClytDialog::FindDefaultButtonRule(const CString& focusName) const
+{
+    for (POSITION place = dependencyList.GetHeadPosition(); place != nullptr;)
+    {
+        const ClytControlDep* rule = dependencyList.GetNext(place);
+        if (rule->stateWord.GetMeaning() != ClytState::DefButton)
+            continue;
+        for (POSITION at = rule->conditions.GetHeadPosition(); at != nullptr;)
+        {
+            if (rule->conditions.GetNext(at)->GetName() == focusName)
+                return rule;
+        }
+    }
+    return nullptr;
 }
 
 void ClytDialog::OnOK()
@@ -191,7 +238,7 @@ void ClytDialog::OnCancel()
 
 void ClytDialog::OnDestroy()
 {
-    m_isDying = true;
+    isDying = true;
     CDialog::OnDestroy();
 }
 

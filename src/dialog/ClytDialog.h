@@ -1,26 +1,73 @@
-// The live dialog of a description. It starts from an empty template and, while its window initialises, reads the
-// description into a sized window, live controls and rules.
+// The dialog of a description. It starts from an empty template and, while its window initialises, reads the description
+// in its fixed order into a sized window, live controls and rules. From then on it runs the dependency rules at each
+// command, scans input into the controls and composes output from them.
+//
+// ReadDescription.cpp holds the construction, RunDependencies.cpp the rules, ComposeOutput.cpp the output, and
+// ClytDialog.cpp the life of the window.
 #pragma once
 
-#include "dialog/ClytDialogRules.h"
+#include "dlgfile/ClytDialogFile.h"
+#include "model/ClytControlDep.h"
+#include "model/ClytForm.h"
+#include "model/ClytInputPart.h"
+#include "model/ClytOutput.h"
 
 #include <afxwin.h>
 
-class ClytDialog : public CDialog, public ClytDialogRules
+// 0 while a dialog creates its controls, then 1. A construction that fails in between leaves it at 0.
+extern int lytControlsReady;
+// 0 while a dialog scans its first input, then 1. A construction that fails in between leaves it at 0.
+extern int lytInputApplied;
+
+// The name of the input part and of the output group that belong to the dialog as a whole.
+inline constexpr const char* lytParentName = "parent";
+// The statement at which an input part begins.
+inline constexpr const char* lytStartName = "Start";
+
+using ClytOutputMap = CTypedPtrMap<CMapStringToPtr, CString, ClytOutput*>;
+using ClytInputMap = CTypedPtrMap<CMapStringToPtr, CString, ClytInputPart*>;
+
+class ClytDialog : public CDialog, public ClytForm
 {
 public:
     // Opens nothing: the work happens inside DoModal, which gives 1 (OK), 2 (Cancel) or 3 (the construction failed and
     // the user was told). Only after 1 is there a result.
-    ClytDialog(const CString& descriptionFile, const CString& defineList);
+    ClytDialog(CString descriptionFile, const CString& defineList);
+    ~ClytDialog() override;
+
+    CWnd& GetWindow() override { return *this; }
+    CString GetTextSection() const override;
+    const CString& GetResult() const { return result; }
+    const ClytControlList& GetControlList() const override { return controlList; }
+    const ClytOutputMap& GetOutputMap() const { return outputMap; }
+    const ClytInputMap& GetInputMap() const { return inputMap; }
+    ClytControl* FindControl(const CString& name) const override;
 
     // Leaves no dialog deaf to the keyboard: the focus of a control that a rule disables goes to the next tab stop.
     void RunDependencies() override;
+    // False when a command that arrives now must not run the rules: while windows are created or the first input is
+    // scanned, when a value that the innermost run reads moved the focus, and when too many runs stand one inside the
+    // other. In the last case the innermost run makes up for the one that it refuses.
+    bool MayRunRules();
+
+    // Scans lytInputKey into the controls, empties it and takes the baseline of every control.
+    void ApplyInput(const CString& partName);
+    int RunInput(const CString& partName, const CString& text) override;
+
+    // The first rule of the group whose conditions all hold, or null. A condition on an unknown control raises 245.
+    const ClytDialogOutput* SelectRule(const ClytOutput& group);
+    // Composes the text of a group; with `check` the evaluations of the controls that it takes are run. 0, with the
+    // target as it was, when no rule holds or an evaluation fails (its message is shown).
+    int ComposeOutput(const ClytOutput& group, CString& target, int check);
+    int ComposeNamedOutput(const CString& groupName, CString& target) override;
+    // Puts the items into the format. A format without `%` is the result as it stands.
+    static CString FormatOutput(const CString& format, const CStringArray& items);
+    // Turns `\n` and `\t` into a line feed or a tab and a blank, except at the very end of the text.
+    static void ExpandEscapes(CString& text);
 
     // Return and the OK button. The dialog stays open when a default-button rule has the key, when no output rule
     // holds, and when an evaluation refuses.
     void OnOK() override;
-
-    CWnd& GetWindow() override { return *this; }
     std::optional<CString> ShowNested(const CString& descriptionFile) override;
 
 protected:
@@ -30,16 +77,59 @@ protected:
     void OnCancel() override;
     afx_msg void OnDestroy();
 
-    void SizeWindow(int width, int height, const CString& windowCaption) override;
-    std::unique_ptr<ClytControl> MakeControl(const CString& type, const CString& name, ClytPosition position,
-                                             ClytSize size, const CString& label) override;
-    void CreateControlWindow(ClytControl& control) override;
+    // Reads the description, creates the controls, scans the input and runs the rules once. Any failure is raised.
+    void ReadDescription();
+    // The rule that gives Return in the named control to a button, or null. An empty name is that of a window that is
+    // no control.
+    const ClytControlDep* FindDefaultButtonRule(const CString& focusName) const;
+    // What OK does before the window ends: composes the result, with evaluations. 0 when the dialog is to stay open. A
+    // failure of the program's own is raised again as 246.
+    int ComposeResult();
 
     DECLARE_MESSAGE_MAP()
 
 private:
+    class Run;
+
+    void OpenFile();
+    void CloseFile();
+    void ReadHeader();
+    void ReadControls();
+    void CreateLayoutControl(const ClytControlStatement& statement);
+    void ReadValues();
+    void ReadDependencies();
+    void CreateControlWindows();
+    void ReadEvaluations();
+    void ReadInputs();
+    void ReadOutputGroups();
+    void TakeHeaderWords(CStringList& words);
     static void TakeScale();
+    // Sizes the window so that its client area has the scaled size.
+    void Resize(int width, int height);
+    // Of the control that has the focus.
     static CString FocusName();
 
-    bool m_isDying = false; // the window is being destroyed, and its controls with it
+    void RunRules();
+    void RunRule(ClytControlDep& rule);
+    static void RunEventRule(ClytControlDep& rule);
+    void SaveBaseline();
+    int AllConditionsHold(const ClytControlDep& rule);
+    bool HoldsForOutput(const ClytDialogOutput& rule);
+    // What a control gives for an item.
+    CString TakeItem(const ClytOutputItem& item);
+
+    ClytDialogFile file;
+    ClytControlMap controlMap;
+    ClytControlList controlList; // in layout order
+    ClytOwnedList<ClytControlDep> dependencyList;
+    ClytOutputMap outputMap;
+    ClytOwnedList<ClytOutput> outputList;
+    ClytInputMap inputMap;
+    ClytOwnedList<ClytInputPart> inputList;
+    CStringList sectionList; // the words of the layout header, the text section first
+    CString result;
+    CString fileName;
+    Run* innermostRun = nullptr; // on the stack of RunRules
+    int readDepth = 0;           // reads of a control's value in progress
+    bool isDying = false;        // the window is being destroyed, and its controls with it
 };

@@ -1,9 +1,10 @@
 // The composition of a dialog's text: choose a rule, take the values of the controls, put them into the format.
-#include "dialog/ClytDialogRules.h"
+#include "dialog/ClytDialog.h"
 
 #include "base/Counted.h"
 #include "base/Words.h"
 #include "environment/ClytException.h"
+#include "environment/ProcessState.h"
 #include "model/ClytObserver.h"
 
 namespace
@@ -76,7 +77,7 @@ ClytTested Test(const ClytCtrlValList& condition)
 
 } // namespace
 
-const ClytDialogOutput* ClytDialogRules::SelectRule(const ClytOutput& group)
+const ClytDialogOutput* ClytDialog::SelectRule(const ClytOutput& group)
 {
     const ClytDialogOutput* chosen = nullptr;
     for (POSITION place = group.rules.GetHeadPosition(); place != nullptr && chosen == nullptr;)
@@ -90,7 +91,7 @@ const ClytDialogOutput* ClytDialogRules::SelectRule(const ClytOutput& group)
     return chosen;
 }
 
-bool ClytDialogRules::HoldsForOutput(const ClytDialogOutput& rule)
+bool ClytDialog::HoldsForOutput(const ClytDialogOutput& rule)
 {
     const Counted read(readDepth);
     for (POSITION place = rule.conditions.GetHeadPosition(); place != nullptr;)
@@ -107,7 +108,7 @@ bool ClytDialogRules::HoldsForOutput(const ClytDialogOutput& rule)
     return true;
 }
 
-int ClytDialogRules::ComposeOutput(const ClytOutput& group, CString& target, int check)
+int ClytDialog::ComposeOutput(const ClytOutput& group, CString& target, int check)
 {
     const ClytDialogOutput* rule = SelectRule(group);
     if (rule == nullptr)
@@ -136,7 +137,7 @@ int ClytDialogRules::ComposeOutput(const ClytOutput& group, CString& target, int
 }
 
 // Controls that know no name of their own (OK and Cancel) give no value.
-CString ClytDialogRules::TakeItem(const ClytOutputItem& item)
+CString ClytDialog::TakeItem(const ClytOutputItem& item)
 {
     const Counted read(readDepth);
     const bool hasName = !item.control->GetName().IsEmpty();
@@ -149,7 +150,7 @@ CString ClytDialogRules::TakeItem(const ClytOutputItem& item)
     return values;
 }
 
-int ClytDialogRules::ComposeNamedOutput(const CString& groupName, CString& target)
+int ClytDialog::ComposeNamedOutput(const CString& groupName, CString& target)
 {
     ClytOutput* group = nullptr;
     if (outputMap.Lookup(groupName, group))
@@ -158,9 +159,31 @@ int ClytDialogRules::ComposeNamedOutput(const CString& groupName, CString& targe
     return 0;
 }
 
+int ClytDialog::ComposeResult()
+{
+    lytTreeConfirmCount = 0;
+    ClytOutput* group = nullptr;
+    if (!outputMap.Lookup(lytParentName, group))
+    {
+        lytTellMissing(ClytMissing::OutputGroup, lytParentName);
+        return 0;
+    }
+    try
+    {
+        return ComposeOutput(*group, result, 1);
+    }
+    catch (ClytException* e)
+    {
+        const ClytCaught failure(e);
+        char message[255] = "";
+        failure->GetErrorMessage(message, sizeof message);
+        lytRaise("246", message);
+    }
+}
+
 // In a format with any `%`, an ordinary `s` takes an item as `%s` does, and an ordinary point is a limit without its
 // `s`. Formats in use rely on the former.
-CString ClytDialogRules::FormatOutput(const CString& format, const CStringArray& items)
+CString ClytDialog::FormatOutput(const CString& format, const CStringArray& items)
 {
     if (format.Find('%') < 0)
         return format;
@@ -187,7 +210,7 @@ CString ClytDialogRules::FormatOutput(const CString& format, const CStringArray&
     return text;
 }
 
-void ClytDialogRules::ExpandEscapes(CString& text)
+void ClytDialog::ExpandEscapes(CString& text)
 {
     for (int place = 0; place + 2 < text.GetLength(); ++place)
     {

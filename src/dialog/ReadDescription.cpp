@@ -1,6 +1,7 @@
 // The reading of a description: each section in its turn, each statement turned into a control or a rule at once.
-#include "dialog/ClytDialogRules.h"
+#include "dialog/ClytDialog.h"
 
+#include "controls/ClytControlTypes.h"
 #include "environment/ClytEnvironment.h"
 #include "environment/ClytException.h"
 #include "model/ClytObserver.h"
@@ -17,7 +18,7 @@ void TellPassedOver(ClytPassedOver what, const CString& name, const ClytSpan& pl
 
 } // namespace
 
-void ClytDialogRules::ReadDescription()
+void ClytDialog::ReadDescription()
 {
     OpenFile();
     ReadHeader();
@@ -35,13 +36,13 @@ void ClytDialogRules::ReadDescription()
     CloseFile();
 }
 
-void ClytDialogRules::OpenFile()
+void ClytDialog::OpenFile()
 {
     if (file.Open(fileName, CFile::modeRead) == 0)
         lytRaise("207", CString(), fileName);
 }
 
-void ClytDialogRules::CloseFile()
+void ClytDialog::CloseFile()
 {
     try
     {
@@ -55,7 +56,7 @@ void ClytDialogRules::CloseFile()
 }
 
 // The words of a section's header after the first.
-void ClytDialogRules::TakeHeaderWords(CStringList& words)
+void ClytDialog::TakeHeaderWords(CStringList& words)
 {
     words.RemoveAll();
     if (file.TakeTokens(words) == 0)
@@ -63,7 +64,7 @@ void ClytDialogRules::TakeHeaderWords(CStringList& words)
     words.RemoveHead();
 }
 
-void ClytDialogRules::ReadHeader()
+void ClytDialog::ReadHeader()
 {
     CString version;
     file.ReadVersionHeader(version);
@@ -76,10 +77,13 @@ void ClytDialogRules::ReadHeader()
     if (file.ReadDialogHeader(width, height, title, lastText) == 0)
         lytRaise("205");
     const bool isKey = !title.IsEmpty() && !sectionList.IsEmpty();
-    SizeWindow(width, height, isKey ? lytEnvironment.GetText(GetTextSection(), title) : CString());
+    const CString windowCaption = isKey ? lytEnvironment.GetText(GetTextSection(), title) : CString();
+    Resize(width, height);
+    SetWindowText(windowCaption);
+    CenterWindow();
 }
 
-void ClytDialogRules::ReadControls()
+void ClytDialog::ReadControls()
 {
     ClytControlStatement statement;
     while (file.ReadControlStatement(statement) != 0)
@@ -89,14 +93,16 @@ void ClytDialogRules::ReadControls()
     }
 }
 
-void ClytDialogRules::CreateLayoutControl(const ClytControlStatement& statement)
+void ClytDialog::CreateLayoutControl(const ClytControlStatement& statement)
 {
     // The argument is one NUL, so a label with an apostrophe is shown up to and including it.
     const bool isKey = !statement.text.IsEmpty() && !sectionList.IsEmpty();
     const CString label = isKey ? lytEnvironment.GetText(GetTextSection(), statement.text, CString('\0')) : CString();
-    auto made = MakeControl(statement.type, statement.name,
-                            {lytScaled(statement.x, lytScaleX), lytScaled(statement.y, lytScaleY)},
-                            {lytScaled(statement.width, lytScaleX), lytScaled(statement.height, lytScaleY)}, label);
+    auto made = lytMakeControl({statement.type,
+                                statement.name,
+                                {lytScaled(statement.x, lytScaleX), lytScaled(statement.y, lytScaleY)},
+                                {lytScaled(statement.width, lytScaleX), lytScaled(statement.height, lytScaleY)},
+                                label});
     if (made == nullptr)
     {
         TellPassedOver(ClytPassedOver::LayoutStatement, statement.type, statement.span);
@@ -106,7 +112,7 @@ void ClytDialogRules::CreateLayoutControl(const ClytControlStatement& statement)
     controlMap.SetAt(statement.name, &control);
 }
 
-void ClytDialogRules::ReadValues()
+void ClytDialog::ReadValues()
 {
     CString name;
     CString keyword;
@@ -126,7 +132,7 @@ void ClytDialogRules::ReadValues()
 
 // A rule that names an unknown control is not stored, and what was read of it stays: the next stored rule inherits its
 // conditions. Descriptions in use rely on that.
-void ClytDialogRules::ReadDependencies()
+void ClytDialog::ReadDependencies()
 {
     auto rule = std::make_unique<ClytControlDep>();
     while (file.ReadDependencyStatement(*rule) == 1)
@@ -146,21 +152,20 @@ void ClytDialogRules::ReadDependencies()
 }
 
 // The windows come into being here, and not as their statements are read, so that what they send runs no rules.
-void ClytDialogRules::CreateControlWindows()
+void ClytDialog::CreateControlWindows()
 {
     lytControlsReady = 0;
     for (POSITION place = controlList.GetHeadPosition(); place != nullptr;)
-        CreateControlWindow(*controlList.GetNext(place));
+        controlList.GetNext(place)->CreateControl(this);
     lytControlsReady = 1;
 }
 
-void ClytDialogRules::ReadEvaluations()
+void ClytDialog::ReadEvaluations()
 {
     CStringList words;
     TakeHeaderWords(words);
     if (words.IsEmpty())
         lytRaise("204");
-    evaluationSection = words.GetHead();
 
     while (true)
     {
@@ -180,7 +185,7 @@ void ClytDialogRules::ReadEvaluations()
     }
 }
 
-void ClytDialogRules::ReadInputs()
+void ClytDialog::ReadInputs()
 {
     CString name;
     while (file.ReadInputHeader(name) != 0)
@@ -194,7 +199,7 @@ void ClytDialogRules::ReadInputs()
 
 // A group is stored under its name when the next header or the end comes. A header that is the last line thus gives the
 // group before it a second name, and a rule without a format stays in front of the next one's, also across a header.
-void ClytDialogRules::ReadOutputGroups()
+void ClytDialog::ReadOutputGroups()
 {
     CString name = lytParentName;
     ClytSpan header = file.GetStatementPlace();

@@ -26,13 +26,13 @@ CStringArray& Items(CStringArray& items, std::initializer_list<const char*> text
 std::string Formatted(const char* format, std::initializer_list<const char*> texts = {})
 {
     CStringArray items;
-    return ClytDialogRules::FormatOutput(format, Items(items, texts)).GetString();
+    return ClytDialog::FormatOutput(format, Items(items, texts)).GetString();
 }
 
 std::string Expanded(const char* text)
 {
     CString expanded = text;
-    ClytDialogRules::ExpandEscapes(expanded);
+    ClytDialog::ExpandEscapes(expanded);
     return expanded.GetString();
 }
 

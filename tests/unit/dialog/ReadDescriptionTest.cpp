@@ -53,7 +53,7 @@ std::string ClientSize(const LiveForm& form)
     return std::to_string(client.right) + "," + std::to_string(client.bottom);
 }
 
-std::string Names(const ClytDialogRules& form)
+std::string Names(const ClytDialog& form)
 {
     std::string names;
     for (POSITION place = form.GetControlList().GetHeadPosition(); place != nullptr;)

@@ -1,9 +1,7 @@
-#include "dialog/ClytDialogRules.h"
+// The runs of the dependency rules: one at the end of the construction, and one at each command.
+#include "dialog/ClytDialog.h"
 
 #include "base/Counted.h"
-#include "base/Words.h"
-#include "environment/ClytException.h"
-#include "environment/ProcessState.h"
 #include "model/ClytObserver.h"
 
 #include <list>
@@ -34,10 +32,10 @@ struct Pass
 } // namespace
 
 // A run of the rules, for as long as it lasts.
-class ClytDialogRules::Run
+class ClytDialog::Run
 {
 public:
-    explicit Run(ClytDialogRules& owner)
+    explicit Run(ClytDialog& owner)
         : m_owner(owner),
           m_outer(std::exchange(owner.innermostRun, this)),
           m_depth(m_outer != nullptr ? m_outer->m_depth + 1 : 1),
@@ -67,7 +65,7 @@ public:
     bool TakeRefusal() { return std::exchange(m_hasRefused, false) && m_madeUp++ < mostMadeUpRuns; }
 
 private:
-    ClytDialogRules& m_owner;
+    ClytDialog& m_owner;
     Run* m_outer; // lives longer
     int m_depth;
     int m_readsBefore; // reads in progress when the run began
@@ -75,37 +73,7 @@ private:
     bool m_hasRefused = false;
 };
 
-ClytDialogRules::ClytDialogRules(CString descriptionFile, const CString& defineList)
-    : file(defineList), fileName(std::move(descriptionFile))
-{
-    lytTreeConfirmCount = 0;
-}
-
-// Controls may look at rules, groups and parts as they go, so they go first, and the maps that name them last.
-ClytDialogRules::~ClytDialogRules()
-{
-    controlList.RemoveAll();
-    sectionList.RemoveAll();
-    dependencyList.RemoveAll();
-    outputList.RemoveAll();
-    inputList.RemoveAll();
-    controlMap.RemoveAll();
-    outputMap.RemoveAll();
-}
-
-CString ClytDialogRules::GetTextSection() const
-{
-    return sectionList.IsEmpty() ? CString() : sectionList.GetHead();
-}
-
-ClytControl* ClytDialogRules::FindControl(const CString& name) const
-{
-    ClytControl* control = nullptr;
-    controlMap.Lookup(name, control);
-    return control;
-}
-
-bool ClytDialogRules::MayRunRules()
+bool ClytDialog::MayRunRules()
 {
     if (lytControlsReady == 0 || lytInputApplied == 0)
         return false;
@@ -115,7 +83,7 @@ bool ClytDialogRules::MayRunRules()
 // A run that was refused is made up for as soon as its rule has acted, by a pass of its own with a baseline of its own,
 // and the rule keeps its mark as long. So the rules come to what they would come to if runs nested without a limit; only
 // the stack stays as it is.
-void ClytDialogRules::RunDependencies()
+void ClytDialog::RunRules()
 {
     Run run(*this);
     int ownMark = 0;
@@ -137,13 +105,13 @@ void ClytDialogRules::RunDependencies()
     }
 }
 
-void ClytDialogRules::SaveBaseline()
+void ClytDialog::SaveBaseline()
 {
     for (POSITION place = dependencyList.GetHeadPosition(); place != nullptr;)
         dependencyList.GetNext(place)->SaveStates();
 }
 
-void ClytDialogRules::RunRule(ClytControlDep& rule)
+void ClytDialog::RunRule(ClytControlDep& rule)
 {
     if (rule.IsEventRule())
     {
@@ -158,7 +126,7 @@ void ClytDialogRules::RunRule(ClytControlDep& rule)
 
 // What a rule does to its control sends commands, and so further runs take place inside this one. An event rule that
 // is being carried out is left out of them, or a field that fills itself would never come to an end.
-void ClytDialogRules::RunEventRule(ClytControlDep& rule)
+void ClytDialog::RunEventRule(ClytControlDep& rule)
 {
     const bool isInProgress = rule.runCount != 0;
     const Counted running(rule.runCount);
@@ -171,70 +139,8 @@ void ClytDialogRules::RunEventRule(ClytControlDep& rule)
         rule.GetControl()->DoAction(rule.stateWord);
 }
 
-int ClytDialogRules::AllConditionsHold(const ClytControlDep& rule)
+int ClytDialog::AllConditionsHold(const ClytControlDep& rule)
 {
     const Counted read(readDepth);
     return rule.AllHold() != 0 ? 1 : 0;
-}
-
-void ClytDialogRules::ApplyInput(const CString& partName)
-{
-    ClytInputPart* part = nullptr;
-    if (!inputMap.Lookup(partName, part))
-        lytRaise("217", CString(), partName);
-    part->Run(lytInputKey, lytStartName);
-    // Emptied, so that no nested dialog scans the same text.
-    lytInputKey.Empty();
-    for (POSITION place = controlList.GetHeadPosition(); place != nullptr;)
-        controlList.GetNext(place)->SaveState();
-}
-
-int ClytDialogRules::RunInput(const CString& partName, const CString& text)
-{
-    ClytInputPart* part = nullptr;
-    if (!inputMap.Lookup(partName, part))
-    {
-        lytTellMissing(ClytMissing::InputPart, partName);
-        return 0;
-    }
-    part->Run(text, lytStartName);
-    return 1;
-}
-
-const ClytControlDep* ClytDialogRules::FindDefaultButtonRule(const CString& focusName) const
-{
-    for (POSITION place = dependencyList.GetHeadPosition(); place != nullptr;)
-    {
-        const ClytControlDep* rule = dependencyList.GetNext(place);
-        if (rule->stateWord.GetMeaning() != ClytState::DefButton)
-            continue;
-        for (POSITION at = rule->conditions.GetHeadPosition(); at != nullptr;)
-        {
-            if (rule->conditions.GetNext(at)->GetName() == focusName)
-                return rule;
-        }
-    }
-    return nullptr;
-}
-
-int ClytDialogRules::ComposeResult()
-{
-    lytTreeConfirmCount = 0;
-    ClytOutput* group = nullptr;
-    if (!outputMap.Lookup(lytParentName, group))
-    {
-        lytTellMissing(ClytMissing::OutputGroup, lytParentName);
-        return 0;
-    }
-    try
-    {
-        return ComposeOutput(*group, result, 1);
-    }
-    catch (ClytException* e)
-    {
-        const ClytCaught failure(e);
-        char message[255] = "";
-        failure->GetErrorMessage(message, sizeof message);
-        lytRaise("246", message);
-    }
 }
