@@ -33,11 +33,11 @@ void ClytListSource::TakeStatement(const CStringList& values, const ClytSpan& pl
     }
 }
 
-bool ClytDataLibrary::Load(const ClytListSource& source)
+bool ClytDataLibrary::Load(const CString& name, const ClytSpan& place)
 {
     if (module == nullptr)
-        module = lytLoadLibrary(source.library);
+        module = lytLoadLibrary(name);
     if (module == nullptr)
-        lytTellMissing(ClytMissing::Library, source.library, nullptr, source.span);
+        lytTellMissing(ClytMissing::Library, name, nullptr, place);
     return module != nullptr;
 }

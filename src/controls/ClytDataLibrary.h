@@ -64,15 +64,15 @@ struct ClytListSource
 class ClytDataLibrary
 {
 public:
-    // False when there is no library yet and that of the source cannot be loaded.
-    bool Load(const ClytListSource& source);
-    // A function that the source names; null when the library does not have it.
+    // False when there is no library yet and this one cannot be loaded. The place is that of the statement that names it.
+    bool Load(const CString& name, const ClytSpan& place = {});
+    // Null for a function that the library does not have.
     template <class FUNCTION>
-    FUNCTION* Find(const CString& name, const ClytListSource& source) const
+    FUNCTION* Find(const CString& name, const ClytSpan& place = {}) const
     {
         auto* found = lytFindFunction<FUNCTION>(module, name);
         if (found == nullptr)
-            lytTellMissing(ClytMissing::LibraryFunction, name, nullptr, source.span);
+            lytTellMissing(ClytMissing::LibraryFunction, name, nullptr, place);
         return found;
     }
 

@@ -66,8 +66,8 @@ void ClytEditControl::FillByLibrary()
     CString parameter;
     if (!source.parameterRule.IsEmpty() && dialog->ComposeNamedOutput(source.parameterRule, parameter) == 0)
         return;
-    if (!editLibrary.Load(source))
+    if (!editLibrary.Load(source.library, source.span))
         return;
-    if (auto* fill = editLibrary.Find<lytDataText>(source.startFunction, source))
+    if (auto* fill = editLibrary.Find<lytDataText>(source.startFunction, source.span))
         SetWindowText(lytCallForText(*fill, parameter));
 }

@@ -76,13 +76,13 @@ void ClytItemControl<WINDOW>::FillByLibrary()
         return;
     if (source.library.IsEmpty())
         lytReport("251", CString(), this->name);
-    if (!library.Load(source))
+    if (!library.Load(source.library, source.span))
         return;
-    auto* start = library.template Find<lytDataStart>(source.startFunction, source);
+    auto* start = library.template Find<lytDataStart>(source.startFunction, source.span);
     if (start == nullptr)
         return;
     start(parameter);
-    auto* next = library.template Find<lytDataNext>(source.nextFunction, source);
+    auto* next = library.template Find<lytDataNext>(source.nextFunction, source.span);
     if (next == nullptr)
         return;
     const ClytRedrawPause pause(*this);

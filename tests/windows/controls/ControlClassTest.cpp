@@ -269,12 +269,9 @@ TEST(DataLibrary, TellsAListenerWhatIsNotThere)
 {
     RecordingObserver observer;
     ClytDataLibrary library;
-    ClytListSource source;
-    source.library = "absent.dll";
-    EXPECT_FALSE(library.Load(source));
+    EXPECT_FALSE(library.Load("absent.dll"));
     EXPECT_EQ(observer.TakeHeard(), "no library absent.dll\n");
-    source.library = "nasty.dll";
-    ASSERT_TRUE(library.Load(source));
-    EXPECT_EQ(library.Find<lytDataText>("Absent", source), nullptr);
+    ASSERT_TRUE(library.Load("nasty.dll"));
+    EXPECT_EQ(library.Find<lytDataText>("Absent"), nullptr);
     EXPECT_EQ(observer.TakeHeard(), "no function Absent\n");
 }
