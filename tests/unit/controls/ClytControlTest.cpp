@@ -56,25 +56,6 @@ protected:
 
 } // namespace
 
-TEST_F(BaseControl, ReportsThatItTakesNoValue)
-{
-    plain.SetValue("x");
-    EXPECT_EQ(Messages(), "200 '';");
-}
-
-TEST_F(BaseControl, ReportsThatItHasNoValue)
-{
-    EXPECT_EQ(plain.GetValue(), "");
-    EXPECT_EQ(plain.GetDisplayValue(), "");
-    EXPECT_EQ(Messages(), "201 '';201 '';");
-}
-
-TEST_F(BaseControl, ReportsThatItHasNoActions)
-{
-    plain.DoAction("CLEAR");
-    EXPECT_EQ(Messages(), "248 ''\n247 'Plain';");
-}
-
 TEST_F(BaseControl, AnswersQuietlyOtherwise)
 {
     plain.CreateControl(nullptr);

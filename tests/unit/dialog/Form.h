@@ -56,7 +56,7 @@ protected:
         return all;
     }
 
-    const ErrorTexts folder{"[TEXTS]\r\nTITLE=the title\r\nLABEL=a label\r\nQUOTED=it's cut\r\n"
+    const ErrorTexts folder{"[TEXTS]\r\nTITLE=the title\r\nLABEL=a label\r\n"
                             "[MsgBox]\r\nEMPTY=please fill in\r\nCLASH=do not do that\r\n"};
     DescriptionText text;
     std::string defines;

@@ -96,13 +96,6 @@ TEST_F(Construction, ShowsTheSentinelForAMissingText)
     EXPECT_EQ(TextOf(opened, "Bare"), "");
 }
 
-TEST_F(Construction, EndsALabelBehindItsApostrophe)
-{
-    text.section = "TEXTS";
-    text.layout = "Text 10, 10, 80, 12, \"QUOTED\", .Label\n";
-    EXPECT_EQ(TextOf(Open(), "Label"), "it'");
-}
-
 TEST_F(Construction, ScalesAndCutsPositionsAndSizes)
 {
     const Scale scale(0.7557F, 1.0818F);
@@ -131,9 +124,10 @@ TEST_F(Construction, ScalesWithinTheRangeOfAnInteger)
 
 TEST_F(Construction, IgnoresAnUnknownTypeWordAndStatementsThatNameIt)
 {
-    text.layout = "Gadget 1, 2, 3, 4, .A\nTextBox 1, 2, 3, 4, .B\n";
+    text.layout = "Gadget 1, 2, 3, 4, .A\nTextBox 1, 2, 3, 4, .B\ntextbox 1, 2, 3, 4, .C\n";
     text.values = "A = x\nB = y\n";
     text.dependencies = "A/ACTIVE = B(1)\n";
+    text.evaluation = "A = NULL: EMPTY\n";
     const LiveForm& opened = Open();
     EXPECT_EQ(Names(opened), "B ");
     EXPECT_EQ(opened.Value("B"), "y");
@@ -199,26 +193,6 @@ TEST_F(Construction, KeepsTheOkButtonUnderItsNameWithoutGivingItOne)
     EXPECT_TRUE(opened.Confirm());
 }
 
-TEST_F(Construction, TakesOptionsAndPresetTexts)
-{
-    text.layout = "TextBox 1, 2, 3, 4, .A\nTextBox 1, 2, 3, 4, .B\nTextBox 1, 2, 3, 4, .C\nTextBox 1, 2, 3, 4, .D\n";
-    text.values = "A = HIDDEN\nB = DISPLAYONLY\nC = INVISIBLE\nD = INACTIVE\nA = text\nUnknown = x\n";
-    const LiveForm& opened = Open();
-    EXPECT_FALSE(opened.IsShown("A"));
-    EXPECT_TRUE(opened.IsEnabled("A"));
-    EXPECT_FALSE(opened.IsEnabled("B"));
-    EXPECT_FALSE(opened.IsShown("C"));
-    EXPECT_FALSE(opened.IsEnabled("D"));
-    EXPECT_EQ(opened.Value("A"), "text");
-}
-
-TEST_F(Construction, RaisesADefaultThatIsNoStateOfItsCheckBox)
-{
-    text.layout = "CheckBox 1, 2, 3, 4, .K\n";
-    text.values = "K: ON = yes\nK: OFF = no\nK = maybe\n";
-    EXPECT_EQ(OpenFailure(), "238\n236 'K'");
-}
-
 TEST_F(Construction, LetsARuleInheritTheConditionsOfOneThatIsNotStored)
 {
     text.layout = "TextBox 1, 2, 3, 4, .A\nTextBox 1, 2, 3, 4, .B\nTextBox 1, 2, 3, 4, .C\n";
@@ -259,14 +233,6 @@ TEST_F(Construction, StartsEachEvaluationStatementAfresh)
     EXPECT_EQ(Messages(), "no value present;");
 }
 
-TEST_F(Construction, ReadsTheStretchesOfItsDefines)
-{
-    text.layout = "<X\nTextBox 1, 2, 3, 4, .A\n>\n<!X\nTextBox 1, 2, 3, 4, .B\n>\n";
-    EXPECT_EQ(Names(Open()), "B ");
-    defines = "W,X";
-    EXPECT_EQ(Names(Open()), "A ");
-}
-
 TEST_F(Construction, RaisesAFileThatCannotBeOpened)
 {
     const std::string missing = folder.Path() + "/missing.dlg";
@@ -277,13 +243,6 @@ TEST_F(Construction, RaisesAFileThatCannotBeOpened)
     EXPECT_EQ(RaisedMessage([&] { ofFolder.Construct(); }), ("207 '" + folder.Path() + "'").substr(0, 74));
     LiveForm ofNothing("");
     EXPECT_EQ(RaisedMessage([&] { ofNothing.Construct(); }), "207 ''");
-}
-
-TEST_F(Construction, ShowsOneMessageForAFailure)
-{
-    LiveForm none("missing.dlg");
-    EXPECT_FALSE(none.Open());
-    EXPECT_EQ(Messages(), "207 'missing.dlg';");
 }
 
 TEST_F(Construction, RaisesEachMissingSection)

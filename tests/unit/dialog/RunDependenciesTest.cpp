@@ -217,25 +217,14 @@ TEST_F(Rules, SeeAChangeInAllRulesOfARun)
     EXPECT_EQ(opened.Value("C"), "");
 }
 
-TEST_F(Rules, FillAControlByItsLibraryWhenAnotherChanged)
+TEST_F(Rules, NeverFillAfterAnUnknownControl)
 {
-    text.values = filledB + ", x, Parameter\n";
-    text.dependencies = "B/FILL = A\n";
-    text.output = "(\"\\\"%s\\\"\", A)\n$OUTPUT, Parameter\n(\"<%s>\", A)\n";
-    const DataFunction library([](const CString& parameter) { return "from " + parameter; });
+    text.values = filledB + "\n";
+    text.dependencies = "B/FILL = Unknown, A\n";
+    const DataFunction library([](const CString&) { return CString("filled"); });
     LiveForm& opened = Open();
+    opened.Enter("A", "x");
     EXPECT_EQ(opened.Value("B"), "");
-    opened.Enter("A", "x");
-    EXPECT_EQ(opened.Value("B"), "from <x>");
-}
-
-TEST_F(Rules, NeverFillBehindAnUnknownControl)
-{
-    text.values = "B = text\n";
-    text.dependencies = "B/CLEAR = Unknown, A\n";
-    LiveForm& opened = Open();
-    opened.Enter("A", "x");
-    EXPECT_EQ(opened.Value("B"), "text");
 }
 
 TEST_F(Rules, AreNotEnteredAgainWhileTheyAreCarriedOut)

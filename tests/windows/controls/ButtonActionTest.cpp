@@ -176,16 +176,6 @@ TEST_F(ButtonAction, AddDoesNothingWhenNothingIsSelected)
     Open();
 }
 
-TEST_F(ButtonAction, AddFromASourceWithoutShownTextTells201Once)
-{
-    form.main.values.emplace_back("Edit=text");
-    Action("ADD,Edit,List");
-    Click();
-    form.Message();
-    Look([&] { EXPECT_EQ(Items().size(), 3U); });
-    EXPECT_EQ(Open().messages, (Texts{"201 ''"}));
-}
-
 TEST_F(ButtonAction, DeleteTakesTheSelectedItemAndKeepsTheFocusWhileItemsAreLeft)
 {
     Action("DELETE,List");

@@ -54,17 +54,6 @@ TEST_F(CheckList, AddsAWholeTextWithoutASeparator)
     form.Ok().Open("a,b");
 }
 
-TEST_F(CheckList, SetValueStopsTwoItemsBeforeTheEndToo)
-{
-    form.main.input = InputTo("List");
-    form.Then([&] { EXPECT_EQ(Selected(), 0); }).Ok().Open("Xone");
-    form.Then([&] { EXPECT_EQ(Selected(), -1); }).Ok().Open("xtwo");
-    form.Then([&] { EXPECT_EQ(Selected(), -1); }).Ok().Open("tri");
-
-    form.main.values.clear();
-    EXPECT_EQ(form.Message().Open("one").messages, (Texts{invalidArgument}));
-}
-
 TEST_F(CheckList, ValueAndShownTextAreThoseOfTheSelectedItem)
 {
     form.main.layout.insert(form.main.layout.end(), {"ListBox Target", "PushButton Add"});
@@ -78,16 +67,6 @@ TEST_F(CheckList, ValueAndShownTextAreThoseOfTheSelectedItem)
         });
     form.Then([&] { EXPECT_EQ(robot::ItemsOf(form["Target"]), (Texts{"TWO"})); });
     EXPECT_EQ(form.Ok().Open().text, "xtwo");
-}
-
-TEST_F(CheckList, ReadingAValueWithoutASelectionPullsTheFocus)
-{
-    form.main.layout = {"TextBox Edit", "CheckListBox List", "Text Label", "PushButton Run"};
-    form.main.values.emplace_back("Run=REJECT,x");
-    form.main.rules = {"Label/VISIBLE=List(Xone)"};
-    form.Then([&] { Press("Run"); });
-    form.Then([&] { EXPECT_EQ(GetFocus(), form["List"]); });
-    form.Ok().Open();
 }
 
 TEST_F(CheckList, MovesItemsWithTheirValuesAndMarks)
@@ -143,53 +122,6 @@ TEST_F(CheckList, MovingBeyondTheEndsReports235And234)
     const Form::Outcome outcome = form.Ok().Open();
     EXPECT_EQ(outcome.messages, (Texts{"235 ''", "234 ''"}));
     EXPECT_EQ(outcome.text, "XXone/-xtwo/-tri");
-}
-
-TEST_F(CheckList, MovingOrDeletingWithoutASelectionMovesTheFocusOnly)
-{
-    AddButtons();
-    for (const char* button : {"Up", "Down", "Delete"})
-    {
-        form.Then([&, button] { Press(button); });
-        form.Then([&] { EXPECT_EQ(GetFocus(), form["List"]); });
-    }
-    const Form::Outcome outcome = form.Ok().Open();
-    EXPECT_EQ(outcome.messages, Texts{});
-    EXPECT_EQ(outcome.text, "XXone/-xtwo/-tri");
-}
-
-TEST_F(CheckList, ClearEmptiesTheListFromASelectionOnly)
-{
-    form.main.layout.emplace_back("TextBox Edit");
-    form.main.rules = {"List/CLEAR=Edit"};
-    form.Then([&] { robot::ReplaceText(form["Edit"], "x"); });
-    form.Then(
-        [&]
-        {
-            EXPECT_EQ(Items().size(), 3U);
-            Select(1);
-            robot::ReplaceText(form["Edit"], "y");
-        });
-    form.Then([&] { EXPECT_EQ(Items().size(), 0U); });
-    EXPECT_EQ(form.Ok().Open().text, "");
-}
-
-TEST_F(CheckList, CountsAsChangedByItsSelectionAndHasContentByItsItems)
-{
-    AddButtons();
-    form.main.layout.insert(form.main.layout.end(), {"TextBox Edit", "TextBox Other"});
-    form.main.values = {"List=ONE,one", "Edit=kept", "Delete=DELETE,List"};
-    form.main.rules = {"Edit/CLEAR=List", "Other/ACTIVE=List(NOTNULL)"};
-    form.Then([&] { ClickMark(0); });
-    form.Then(
-        [&]
-        {
-            EXPECT_EQ(robot::TextOf(form["Edit"]), "");
-            EXPECT_TRUE(IsWindowEnabled(form["Other"]));
-            Press("Delete");
-        });
-    form.Then([&] { EXPECT_FALSE(IsWindowEnabled(form["Other"])); });
-    form.Ok().Open();
 }
 
 TEST_F(CheckList, KeepsItsItemsReadableAndDrawsThemItself)

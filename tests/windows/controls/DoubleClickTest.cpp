@@ -101,22 +101,6 @@ TEST_P(DoubleClick, AFailureOfTheButtonIsToldAndTheDialogLivesOn)
 
 INSTANTIATE_TEST_SUITE_P(Lists, DoubleClick, testing::Values("ListBox", "CheckListBox"));
 
-TEST(DefaultButtonRule, ReturnInAFieldPressesTheButtonAndTheDialogStays)
-{
-    Form form;
-    form.main.layout = {"TextBox Edit", "PushButton Go", "TextBox Other"};
-    form.main.values = {"Go=VISIBLE,Other"};
-    form.main.rules = {"Go/DEFBUTTON=Edit"};
-    form.Then(
-        [&]
-        {
-            robot::Focus(form["Edit"]);
-            robot::PressKey(VK_RETURN);
-        });
-    form.Then([&] { EXPECT_FALSE(IsWindowVisible(form["Other"])); });
-    form.Ok().Open();
-}
-
 TEST(DefaultButtonRule, ATargetThatIsNoButtonRunsTheRulesOnly)
 {
     Form form;

@@ -1,27 +1,6 @@
 // Items of a list box that are added, replaced, deleted and moved.
 #include "ListBoxFixture.h"
 
-TEST_F(ListBox, SetValueOfTwoItemsClearsTheSelection)
-{
-    form.main.values = {"List=ONE,one", "List=TWO,two"};
-    form.main.input = InputTo("List");
-    form.Then([&] { EXPECT_EQ(Selected(), -1); }).Ok().Open("one");
-}
-
-TEST_F(ListBox, AddedItemsGoToTheEndAndSelectTheFirst)
-{
-    form.main.input = InputTo("List(ADD)");
-    form.main.output = {"(\"%s\", List(\"/\"))"};
-    form.Then(
-        [&]
-        {
-            EXPECT_EQ(Items(), (Texts{"First", "Second", "Third", "new"}));
-            EXPECT_EQ(Selected(), 0);
-            Select(3);
-        });
-    EXPECT_EQ(form.Ok().Open("new").text, "First/Second/Third/new");
-}
-
 TEST_F(ListBox, AddingSelectsTheFirstItemWhicheverWasSelected)
 {
     form.main.layout.emplace_back("PushButton Add");
@@ -40,27 +19,6 @@ TEST_F(ListBox, AddingSelectsTheFirstItemWhicheverWasSelected)
             EXPECT_EQ(Selected(), 0);
         });
     form.Ok().Open();
-}
-
-TEST_F(ListBox, AnAddedItemWithoutValueDeliversWhatItShows)
-{
-    form.main.input = InputTo("List(ADD)");
-    form.main.output = {"(\"%s\", List)"};
-    form.Then([&] { Select(3); });
-    EXPECT_EQ(form.Ok().Open("new").text, "new");
-}
-
-TEST_F(ListBox, ReplacesTextValueAndSelectionInPlace)
-{
-    form.main.input = InputTo("List(MODIFY)");
-    form.main.output = {"(\"%s;%s\", List, List(\"/\"))"};
-    form.Then(
-        [&]
-        {
-            EXPECT_EQ(Items(), (Texts{"new", "Second", "Third"}));
-            EXPECT_EQ(Selected(), 0);
-        });
-    EXPECT_EQ(form.Ok().Open("new").text, "new;new/Second/Third");
 }
 
 TEST_F(ListBox, ReplacingWithoutASelectionMovesTheFocusOnly)
@@ -137,66 +95,6 @@ TEST_F(ListBox, DeletingSelectsTheItemInItsPlaceOrTheLast)
     EXPECT_EQ(form.Ok().Open().text, "one");
 }
 
-TEST_F(ListBox, DeletingWithoutASelectionMovesTheFocusOnly)
-{
-    ClearSelection();
-    AddButtons();
-    form.Then([&] { Press("Delete"); });
-    form.Then(
-        [&]
-        {
-            EXPECT_EQ(Items().size(), 3U);
-            EXPECT_EQ(GetFocus(), form["List"]);
-        });
-    form.Ok().Open("x");
-}
-
-TEST_F(ListBox, ClearEmptiesTheListFromASelection)
-{
-    form.main.layout.emplace_back("TextBox Edit");
-    form.main.rules = {"List/CLEAR=Edit"};
-    form.Then([&] { robot::ReplaceText(form["Edit"], "x"); });
-    form.Then(
-        [&]
-        {
-            EXPECT_EQ(Items(), Texts{});
-            EXPECT_EQ(Selected(), -1);
-        });
-    form.Ok().Open();
-}
-
-TEST_F(ListBox, ClearLeavesAListWithoutASelectionAlone)
-{
-    ClearSelection();
-    form.main.layout.emplace_back("TextBox Edit");
-    form.main.rules = {"List/CLEAR=Edit"};
-    form.Then([&] { robot::ReplaceText(form["Edit"], "x"); });
-    form.Then([&] { EXPECT_EQ(Items().size(), 3U); });
-    form.Ok().Open("x");
-}
-
-TEST_F(ListBox, MovingUpFromTheSecondPlacePutsTheItemAtTheEnd)
-{
-    AddButtons();
-    form.main.output = {"(\"%s;%s\", List, List(\"/\"))"};
-    form.Then(
-        [&]
-        {
-            Select(1);
-            Press("Up");
-        });
-    form.Then(
-        [&]
-        {
-            // What is put back is the display string as the list keeps it: the key.
-            EXPECT_EQ(Items(), (Texts{"ONE", "Third", "TWO"}));
-            EXPECT_EQ(Selected(), 0);
-        });
-    form.Ok();
-    // The values stand in another order than the user sees: the selected first item delivers the third's value.
-    EXPECT_EQ(form.Open().text, "three;Third/First/Second");
-}
-
 TEST_F(ListBox, MovingUpFurtherDownKeepsTheWindowsOrder)
 {
     AddButtons();
@@ -223,41 +121,4 @@ TEST_F(ListBox, MovingTheFirstItemDownPutsItsNeighbourAtTheEnd)
     form.Then([&] { EXPECT_EQ(Items(), (Texts{"Second", "ONE", "TWO"})); });
     form.main.output = {"(\"%s\", List(\"/\"))"};
     EXPECT_EQ(form.Ok().Open().text, "Second/Second/First");
-}
-
-TEST_F(ListBox, MovingTheFirstItemUpRaises235)
-{
-    AddButtons();
-    form.Then([&] { Press("Up"); });
-    form.Message();
-    form.Then([&] { EXPECT_EQ(Items(), (Texts{"First", "Second", "Third"})); });
-    EXPECT_EQ(form.Ok().Open().messages, (Texts{"235 ''"}));
-}
-
-TEST_F(ListBox, MovingTheLastItemDownRaisesTheInvalidArgumentNotANumber)
-{
-    AddButtons();
-    form.Then(
-        [&]
-        {
-            Select(2);
-            Press("Down");
-        });
-    form.Message();
-    form.Then([&] { EXPECT_EQ(Items(), (Texts{"First", "Second", "Third"})); });
-    EXPECT_EQ(form.Ok().Open().messages, (Texts{invalidArgument}));
-}
-
-TEST_F(ListBox, MovingWithoutASelectionMovesTheFocusOnly)
-{
-    ClearSelection();
-    AddButtons();
-    form.Then([&] { Press("Up"); });
-    form.Then(
-        [&]
-        {
-            EXPECT_EQ(GetFocus(), form["List"]);
-            EXPECT_EQ(Items(), (Texts{"First", "Second", "Third"}));
-        });
-    EXPECT_EQ(form.Ok().Open("x").messages, Texts{});
 }

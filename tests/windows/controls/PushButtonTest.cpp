@@ -264,28 +264,6 @@ TEST_F(PushButton, KnowsTwoStateWordsOnly)
     form.Ok().Open();
 }
 
-TEST_F(PushButton, HasNoValueAndNoActionForRules)
-{
-    form.main.input = InputTo("Go");
-    form.main.output = {"(\"<%s>\", Go)"};
-    form.Message().Ok().Message();
-    const Form::Outcome outcome = form.Open("x");
-    EXPECT_EQ(outcome.messages, (Texts{"200 ''", "201 ''"}));
-    EXPECT_EQ(outcome.text, "<>");
-
-    form.main.input.clear();
-    form.main.output = {"(\"done\")"};
-    form.main.rules = {"Go/CLEAR=Source"};
-    form.Then(
-        [&]
-        {
-            SendMessageA(form["Source"], LB_SETCURSEL, static_cast<WPARAM>(-1), 0);
-            robot::Click(form["Go"]);
-        });
-    form.Message();
-    EXPECT_EQ(form.Ok().Open().messages, (Texts{"248 ''\n247 'Go'"}));
-}
-
 TEST_F(PushButton, ComesUpBeforeAFailureIsTold)
 {
     form.main.values = {"Go=ACTION,lib"};

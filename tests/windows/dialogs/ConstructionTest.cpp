@@ -43,37 +43,6 @@ TEST_F(Construction, KeyIsScannedAndComesBack)
     EXPECT_EQ(text, "B2");
 }
 
-TEST_F(Construction, TitleAndLabelsAreKeysOfTheTextSection)
-{
-    Description description;
-    description.controls += "Text 10, 60, 50, 12, \"Label\", .L\nText 10, 80, 50, 12, \"Unknown\", .U\n";
-    Describe(description);
-    On(
-        [](HWND dialog)
-        {
-            EXPECT_EQ(robot::TextOf(robot::ChildAt(dialog, 3)), "A label");
-            EXPECT_EQ(robot::TextOf(robot::ChildAt(dialog, 4)), "no value present");
-            robot::PressKey(VK_ESCAPE);
-        });
-    EXPECT_EQ(Show(), 0);
-}
-
-TEST_F(Construction, WithoutATextSectionTitleAndLabelsAreEmpty)
-{
-    Description description;
-    description.head = "$VERSION 1\n$LAYOUT\n";
-    description.controls += "Text 10, 60, 50, 12, \"Label\", .L\n";
-    Describe(description);
-    robot.On("",
-             [](HWND dialog)
-             {
-                 EXPECT_EQ(robot::TextOf(dialog), "");
-                 EXPECT_EQ(robot::TextOf(robot::ChildAt(dialog, 3)), "");
-                 robot::PressKey(VK_ESCAPE);
-             });
-    EXPECT_EQ(Show(), 0);
-}
-
 TEST_F(Construction, LabelEndsAfterItsApostropheAndIsMeasuredSo)
 {
     Description description;
@@ -96,41 +65,6 @@ TEST_F(Construction, LabelEndsAfterItsApostropheAndIsMeasuredSo)
             robot::PressKey(VK_ESCAPE);
         });
     EXPECT_EQ(Show(), 0);
-}
-
-TEST_F(Construction, UnknownTypeWordIsIgnoredAndSoAreItsStatements)
-{
-    Description description;
-    description.controls = "Gadget 1, 2, 3, 4, \"Label\", .X\n" + description.controls;
-    description.values = "X = HIDDEN\n";
-    description.rules = "X/ACTIVE = Key(1)\n";
-    description.checks = "X = NULL: Refused\n";
-    Describe(description);
-    On([](HWND dialog) { EXPECT_EQ(robot::ChildrenOf(dialog).size(), 3U); });
-    EXPECT_EQ(ShowAndPress(IDOK, "a"), 2);
-}
-
-TEST_F(Construction, TypeWordsCompareByteForByte)
-{
-    Description description;
-    description.controls += "textbox 10, 40, 50, 15, .Lower\n";
-    Describe(description);
-    On([](HWND dialog) { EXPECT_EQ(robot::ChildrenOf(dialog).size(), 3U); });
-    EXPECT_EQ(ShowAndPress(IDOK, "a"), 2);
-}
-
-TEST_F(Construction, LaterOfTwoControlsOfOneNameTakesTheValueAndBothStand)
-{
-    Description description;
-    description.controls += "TextBox 10, 40, 150, 15, .Key\n";
-    Describe(description);
-    On(
-        [](HWND dialog)
-        {
-            EXPECT_EQ(robot::TextOf(robot::ChildAt(dialog, 0)), "");
-            EXPECT_EQ(robot::TextOf(robot::ChildAt(dialog, 3)), "A1");
-        });
-    EXPECT_EQ(ShowAndPress(IDOK, "A1"), 2);
 }
 
 TEST_F(Construction, DefinesSwitchStretchesOfTheDescription)

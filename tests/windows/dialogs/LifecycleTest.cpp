@@ -43,15 +43,6 @@ TEST_F(Lifecycle, ReturnInAFieldWithADefaultButtonRunsThatButtonAndTheDialogStay
     EXPECT_EQ(Show("a"), 0);
 }
 
-TEST_F(Lifecycle, ReturnInAFieldWithoutADefaultButtonIsOk)
-{
-    Description description = WithButton();
-    description.rules = "Go/DEFBUTTON = Other\n";
-    Describe(description);
-    On([](HWND) { robot::PressKey(VK_RETURN); });
-    EXPECT_EQ(Show("a"), 2);
-}
-
 TEST_F(Lifecycle, DefaultButtonOfAnUnknownControlKeepsTheDialogOpen)
 {
     Description description = WithButton();
@@ -194,19 +185,6 @@ TEST_F(Lifecycle, FailureOfOkIs246BelowTheFirstTextAndTheDialogStays)
     EXPECT_EQ(Show("a"), 0);
     EXPECT_EQ(text, "as it was");
     EXPECT_EQ(robot.Messages(), Texts{"E245 'Ghost'\nE246 ''"});
-}
-
-TEST_F(Lifecycle, ForeignFailureOfOkIsShownAsItIs)
-{
-    Description description;
-    description.output = "$OUTPUT\n(\"%s%s%s%s%s%s%s%s%s%s%s%s%s%s%s%s%s%s%s%s%s%s%s%s%s%s\", Key)\n";
-    Describe(description);
-    PressOn(IDOK);
-    robot.AnswerMessage();
-    PressOn(IDCANCEL);
-    EXPECT_EQ(Show("a"), 0);
-    ASSERT_EQ(robot.Messages().size(), 1U);
-    EXPECT_EQ(robot.Messages()[0].find("E246"), std::string::npos);
 }
 
 TEST_F(Lifecycle, MessagesCarryTheLibrarysTitleAndBelongToTheDialog)

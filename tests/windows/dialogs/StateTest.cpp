@@ -48,14 +48,17 @@ TEST_F(State, ResultThatIsTooLongLeavesTheBufferEmptyWithANulBeyond)
 TEST_F(State, EmptyResultLeavesTheBufferAndComparesItAllTheSame)
 {
     GuardedBuffer buffer(20, "A1");
-    On(
-        [](HWND dialog)
-        {
-            robot::ReplaceText(robot::ChildAt(dialog, 0), "");
-            robot::PressKey(VK_RETURN);
-        });
-    EXPECT_EQ(symbol("A1", buffer.Data(), buffer.Size()), 2);
-    EXPECT_EQ(buffer.Text(), "A1");
+    for (const auto& [key, answer] : {std::pair("A1", 2), std::pair("B1", 1)})
+    {
+        On(
+            [](HWND dialog)
+            {
+                robot::ReplaceText(robot::ChildAt(dialog, 0), "");
+                robot::PressKey(VK_RETURN);
+            });
+        EXPECT_EQ(symbol(key, buffer.Data(), buffer.Size()), answer);
+        EXPECT_EQ(buffer.Text(), "A1");
+    }
 }
 
 TEST_F(State, BufferWithoutANulIsReadNoFurtherThanItsSize)
