@@ -60,7 +60,7 @@ TEST_F(ChildCursor, StartsAtAHeadingWithoutAPlaceToRead)
     EXPECT_EQ(ReadAll(), Lines());
 }
 
-TEST_F(ChildCursor, ReadsOnFromTheOldPlaceBehindAHeading)
+TEST_F(ChildCursor, ReadsOnFromTheOldPlaceAfterAHeading)
 {
     ASSERT_TRUE(cursor.Start(nodes, "roof"));
     CString text;

@@ -61,6 +61,20 @@ const std::vector<lytTreeRecord> house = {
     Record(1, LYT_TREE_GROUP, "Wall", "g2"),
 };
 
+class NodeFill : public testing::Test
+{
+protected:
+    // Fills the list and the items from these records.
+    void Fill(std::vector<lytTreeRecord> records, char kind = 'S')
+    {
+        RecordedSource source(std::move(records));
+        lytFillFromSource(nodes, source.Source(), &items, kind);
+    }
+
+    ClytNodeList nodes;
+    RecordedItems items;
+};
+
 } // namespace
 
 TEST(ExpandLabel, PutsThreeBlanksInPlaceOfEachMark)
@@ -119,10 +133,9 @@ TEST(ExpandLabel, NeverWritesBeyondItsTarget)
     EXPECT_EQ(target.guard, '!');
 }
 
-TEST(NodeFill, TakesARecordOverAsItIs)
+TEST_F(NodeFill, TakesARecordOverAsItIs)
 {
     RecordedSource source({Record(-7, LYT_TREE_SYMBOL, "a##b", "key")});
-    ClytNodeList nodes;
     lytFillFromSource(nodes, source.Source(), nullptr, 'S');
     ASSERT_EQ(nodes.GetCount(), 1);
     const ClytNode& node = *nodes.GetHead();
@@ -136,52 +149,43 @@ TEST(NodeFill, TakesARecordOverAsItIs)
     EXPECT_EQ(node.m_nInitial, 0);
 }
 
-TEST(NodeFill, StartsTheSourceWithTheEmptyText)
+TEST_F(NodeFill, StartsTheSourceWithTheEmptyText)
 {
     RecordedSource source(house);
-    ClytNodeList nodes;
     lytFillFromSource(nodes, source.Source(), nullptr, 'S');
     EXPECT_EQ(source.selections, Lines({""}));
 }
 
-TEST(NodeFill, LeavesTheListEmptyWhenTheSourceRefusesToStart)
+TEST_F(NodeFill, LeavesTheListEmptyWhenTheSourceRefusesToStart)
 {
-    ClytNodeList nodes;
     lytFillFromSource(nodes, RecordedSource::Refusing(), nullptr, 'S');
     EXPECT_TRUE(nodes.IsEmpty());
 }
 
-TEST(NodeFill, TakesAnEmptyRunForAnEmptyCatalogue)
+TEST_F(NodeFill, TakesAnEmptyRunForAnEmptyCatalogue)
 {
-    RecordedSource source({});
-    ClytNodeList nodes;
-    RecordedItems items;
-    lytFillFromSource(nodes, source.Source(), &items, 'S');
+    Fill({});
     EXPECT_TRUE(nodes.IsEmpty());
     EXPECT_TRUE(items.inserted.empty());
 }
 
-TEST(NodeFill, EndsARunThatDoesNotEnd)
+TEST_F(NodeFill, EndsARunThatDoesNotEnd)
 {
-    ClytNodeList nodes;
     lytFillFromSource(nodes, RecordedSource::Endless(), nullptr, 'S');
     EXPECT_EQ(nodes.GetCount(), 1'000'000);
 }
 
-TEST(NodeFill, KeepsNothingOfARunThatBreaksOff)
+TEST_F(NodeFill, KeepsNothingOfARunThatBreaksOff)
 {
     RecordedSource source(house);
-    ClytNodeList nodes;
-    RecordedItems items;
     source.Interrupt(3, [] { throw std::runtime_error("broken"); });
     EXPECT_THROW(lytFillFromSource(nodes, source.Source(), &items, 'S'), std::runtime_error);
     EXPECT_TRUE(nodes.IsEmpty());
 }
 
-TEST(NodeFill, KeepsTheListOfARunThatBreaksOffAsItWas)
+TEST_F(NodeFill, KeepsTheListOfARunThatBreaksOffAsItWas)
 {
     RecordedSource source(house);
-    ClytNodeList nodes;
     lytFillFromSource(nodes, source.Source(), nullptr, 'S');
     const ClytNode* kept = nodes.GetTail();
     source.Interrupt(3, [] { throw std::runtime_error("broken"); });
@@ -190,32 +194,27 @@ TEST(NodeFill, KeepsTheListOfARunThatBreaksOffAsItWas)
     EXPECT_EQ(nodes.GetTail(), kept);
 }
 
-TEST(NodeFill, OutlivesASourceThatEmptiesTheListFromInsideACall)
+TEST_F(NodeFill, OutlivesASourceThatEmptiesTheListFromInsideACall)
 {
     RecordedSource source(house);
-    ClytNodeList nodes;
-    RecordedItems items;
     source.Interrupt(3, [&] { nodes.RemoveAll(); });
     lytFillFromSource(nodes, source.Source(), &items, 'S');
     EXPECT_EQ(TypesOf(nodes), "HGSG");
     EXPECT_EQ(items.inserted, Lines({"0: House [0]", "1: Roof [1]", "2: Tile [2]", "1: Wall [1]"}));
 }
 
-TEST(NodeFill, KeepsTheRunThatEndsLastWhenASourceFillsTheListFromInsideACall)
+TEST_F(NodeFill, KeepsTheRunThatEndsLastWhenASourceFillsTheListFromInsideACall)
 {
     RecordedSource source(house);
-    ClytNodeList nodes;
-    RecordedItems items;
     source.Interrupt(2, [&] { nodes.AddTail(std::make_unique<ClytNode>(nullptr, 0)); });
     lytFillFromSource(nodes, source.Source(), &items, 'S');
     EXPECT_EQ(TypesOf(nodes), "HGSG");
     EXPECT_EQ(RecordedItems::Number(NodeAt(nodes, 3).m_hItem), 4);
 }
 
-TEST(NodeFill, EndsTheWalkOverTheListThatItReplaces)
+TEST_F(NodeFill, EndsTheWalkOverTheListThatItReplaces)
 {
     RecordedSource source(house);
-    ClytNodeList nodes;
     const auto beginWalk = [&]
     {
         nodes.AddTail(std::make_unique<ClytNode>(nullptr, 0));
@@ -229,24 +228,19 @@ TEST(NodeFill, EndsTheWalkOverTheListThatItReplaces)
     EXPECT_FALSE(lytChildCursor.Read(nodes, text, path));
 }
 
-TEST(NodeFill, KeepsTextsOfNinetyNineCharacters)
+TEST_F(NodeFill, KeepsTextsOfNinetyNineCharacters)
 {
     const std::string label(99, 'l');
     const std::string key(99, 'k');
-    RecordedSource source({Record(0, LYT_TREE_SYMBOL, label, key)});
-    ClytNodeList nodes;
-    lytFillFromSource(nodes, source.Source(), nullptr, 'S');
+    Fill({Record(0, LYT_TREE_SYMBOL, label, key)});
     EXPECT_EQ(nodes.GetHead()->m_szLabel, label);
     EXPECT_EQ(nodes.GetHead()->m_szKey, key);
 }
 
-TEST(NodeFill, TakesATextWithoutAnEndForEmpty)
+TEST_F(NodeFill, TakesATextWithoutAnEndForEmpty)
 {
-    RecordedSource source({Record(0, LYT_TREE_SYMBOL, std::string(100, 'l'), "key"),
-                           Record(0, LYT_TREE_SYMBOL, "label", std::string(100, 'k'))});
-    ClytNodeList nodes;
-    RecordedItems items;
-    lytFillFromSource(nodes, source.Source(), &items, 'S');
+    Fill({Record(0, LYT_TREE_SYMBOL, std::string(100, 'l'), "key"),
+          Record(0, LYT_TREE_SYMBOL, "label", std::string(100, 'k'))});
     EXPECT_STREQ(NodeAt(nodes, 0).m_szLabel, "");
     EXPECT_STREQ(NodeAt(nodes, 0).m_szKey, "key");
     EXPECT_STREQ(NodeAt(nodes, 1).m_szLabel, "label");
@@ -254,9 +248,9 @@ TEST(NodeFill, TakesATextWithoutAnEndForEmpty)
     EXPECT_EQ(items.inserted, Lines({"0:  [2]", "0: label [2]"}));
 }
 
-TEST(NodeFill, CarriesTheTypeOverAnUnknownNumber)
+TEST_F(NodeFill, CarriesTheTypeOverAnUnknownNumber)
 {
-    RecordedSource source({
+    Fill({
         Record(0, 0, "", ""),
         Record(0, LYT_TREE_GROUP, "", ""),
         Record(0, 7, "", ""),
@@ -264,51 +258,40 @@ TEST(NodeFill, CarriesTheTypeOverAnUnknownNumber)
         Record(0, LYT_TREE_SYMBOL, "", ""),
         Record(0, 4, "", ""),
     });
-    ClytNodeList nodes;
-    lytFillFromSource(nodes, source.Source(), nullptr, 'S');
     EXPECT_EQ(TypesOf(nodes), "HGGGSS");
 }
 
-TEST(NodeFill, StoresARecordOfTypeSevenBehindAGroupAsAGroup)
+TEST_F(NodeFill, StoresARecordOfTypeSevenAfterAGroupAsAGroup)
 {
-    RecordedSource source({Record(0, LYT_TREE_GROUP, "a", ""), Record(0, 7, "b", "")});
-    ClytNodeList nodes;
-    RecordedItems items;
-    lytFillFromSource(nodes, source.Source(), &items, 'S');
+    Fill({Record(0, LYT_TREE_GROUP, "a", ""), Record(0, 7, "b", "")});
     EXPECT_EQ(TypesOf(nodes), "GG");
     EXPECT_EQ(items.inserted, Lines({"0: a [1]", "0: b [1]"}));
 }
 
-TEST(NodeFill, StartsEachLoadFromHeading)
+TEST_F(NodeFill, StartsEachLoadFromHeading)
 {
     RecordedSource source({Record(0, 7, "", ""), Record(0, LYT_TREE_SYMBOL, "", "")});
     for (int load = 0; load < 2; ++load)
     {
-        ClytNodeList nodes;
-        lytFillFromSource(nodes, source.Source(), nullptr, 'S');
-        EXPECT_EQ(TypesOf(nodes), "HS");
+        ClytNodeList loaded;
+        lytFillFromSource(loaded, source.Source(), nullptr, 'S');
+        EXPECT_EQ(TypesOf(loaded), "HS");
     }
 }
 
-TEST(NodeFill, MakesLevelsThreeAndTwoChildrenOfLevelOne)
+TEST_F(NodeFill, MakesLevelsThreeAndTwoChildrenOfLevelOne)
 {
-    RecordedSource source(RecordsOf({1, 3, 2}));
-    ClytNodeList nodes;
-    RecordedItems items;
-    lytFillFromSource(nodes, source.Source(), &items, 'S');
+    Fill(RecordsOf({1, 3, 2}));
     EXPECT_EQ(ParentsOf(items), std::vector<int>({0, 1, 1}));
 }
 
-TEST(NodeFill, MakesTwoRecordsOfOneLevelSiblings)
+TEST_F(NodeFill, MakesTwoRecordsOfOneLevelSiblings)
 {
-    RecordedSource source(RecordsOf({1, 2, 2}));
-    ClytNodeList nodes;
-    RecordedItems items;
-    lytFillFromSource(nodes, source.Source(), &items, 'S');
+    Fill(RecordsOf({1, 2, 2}));
     EXPECT_EQ(ParentsOf(items), std::vector<int>({0, 1, 1}));
 }
 
-TEST(NodeFill, FindsTheParentsThatAWalkBackFinds)
+TEST_F(NodeFill, FindsTheParentsThatAWalkBackFinds)
 {
     static const std::vector<int> shapes[] = {
         {0},
@@ -325,18 +308,18 @@ TEST(NodeFill, FindsTheParentsThatAWalkBackFinds)
     {
         SCOPED_TRACE(testing::PrintToString(levels));
         RecordedSource source(RecordsOf(levels));
-        ClytNodeList nodes;
-        RecordedItems items;
-        lytFillFromSource(nodes, source.Source(), &items, 'S');
-        EXPECT_EQ(ParentsOf(items), ParentsByWalkingBack(levels));
+        ClytNodeList loaded;
+        RecordedItems shown;
+        lytFillFromSource(loaded, source.Source(), &shown, 'S');
+        EXPECT_EQ(ParentsOf(shown), ParentsByWalkingBack(levels));
 
         RecordedItems again;
-        lytFillFromList(nodes, again, 'S');
+        lytFillFromList(loaded, again, 'S');
         EXPECT_EQ(ParentsOf(again), ParentsByWalkingBack(levels));
     }
 }
 
-TEST(NodeFill, FindsTheParentsThatAWalkBackFindsInEveryShapeOfSixRecords)
+TEST_F(NodeFill, FindsTheParentsThatAWalkBackFindsInEveryShapeOfSixRecords)
 {
     for (int shape = 0; shape < 4 * 4 * 4 * 4 * 4 * 4; ++shape)
     {
@@ -344,39 +327,30 @@ TEST(NodeFill, FindsTheParentsThatAWalkBackFindsInEveryShapeOfSixRecords)
         for (int rest = shape; levels.size() < 6; rest /= 4)
             levels.push_back(rest % 4);
         RecordedSource source(RecordsOf(levels));
-        ClytNodeList nodes;
-        RecordedItems items;
-        lytFillFromSource(nodes, source.Source(), &items, 'S');
-        ASSERT_EQ(ParentsOf(items), ParentsByWalkingBack(levels)) << testing::PrintToString(levels);
+        ClytNodeList loaded;
+        RecordedItems shown;
+        lytFillFromSource(loaded, source.Source(), &shown, 'S');
+        ASSERT_EQ(ParentsOf(shown), ParentsByWalkingBack(levels)) << testing::PrintToString(levels);
     }
 }
 
-TEST(NodeFill, ShowsEveryEntryInRecordOrder)
+TEST_F(NodeFill, ShowsEveryEntryInRecordOrder)
 {
-    RecordedSource source(house);
-    ClytNodeList nodes;
-    RecordedItems items;
-    lytFillFromSource(nodes, source.Source(), &items, 'S');
+    Fill(house);
     EXPECT_EQ(items.inserted, Lines({"0: House [0]", "1: Roof [1]", "2: Tile [2]", "1: Wall [1]"}));
     EXPECT_EQ(RecordedItems::Number(NodeAt(nodes, 3).m_hItem), 4);
 }
 
-TEST(NodeFill, ShowsALabelExpandedAndKeepsItsMarks)
+TEST_F(NodeFill, ShowsALabelExpandedAndKeepsItsMarks)
 {
-    RecordedSource source({Record(0, LYT_TREE_SYMBOL, "a##b##c", "")});
-    ClytNodeList nodes;
-    RecordedItems items;
-    lytFillFromSource(nodes, source.Source(), &items, 'S');
+    Fill({Record(0, LYT_TREE_SYMBOL, "a##b##c", "")});
     EXPECT_EQ(items.inserted, Lines({"0: a   b   c [2]"}));
     EXPECT_STREQ(nodes.GetHead()->m_szLabel, "a##b##c");
 }
 
-TEST(NodeFill, HoldsSymbolsUnshownForGroups)
+TEST_F(NodeFill, HoldsSymbolsUnshownForGroups)
 {
-    RecordedSource source(house);
-    ClytNodeList nodes;
-    RecordedItems items;
-    lytFillFromSource(nodes, source.Source(), &items, 'G');
+    Fill(house, 'G');
     EXPECT_EQ(items.inserted, Lines({"0: House [0]", "1: Roof [1]", "1: Wall [1]"}));
     EXPECT_EQ(TypesOf(nodes), "HGSG");
     EXPECT_EQ(NodeAt(nodes, 2).m_hItem, nullptr);
@@ -386,20 +360,17 @@ TEST(NodeFill, HoldsSymbolsUnshownForGroups)
     EXPECT_EQ(later.inserted.size(), 4U);
 }
 
-TEST(NodeFill, SendsWhatStandsUnderAnUnshownEntryToTheRoot)
+TEST_F(NodeFill, SendsWhatStandsUnderAnUnshownEntryToTheRoot)
 {
-    RecordedSource source({Record(0, LYT_TREE_HEADING, "top", ""), Record(1, LYT_TREE_SYMBOL, "hidden", ""),
-                           Record(2, LYT_TREE_GROUP, "below", "")});
-    ClytNodeList nodes;
-    RecordedItems items;
-    lytFillFromSource(nodes, source.Source(), &items, 'G');
+    Fill({Record(0, LYT_TREE_HEADING, "top", ""), Record(1, LYT_TREE_SYMBOL, "hidden", ""),
+          Record(2, LYT_TREE_GROUP, "below", "")},
+         'G');
     EXPECT_EQ(items.inserted, Lines({"0: top [0]", "0: below [1]"}));
 }
 
-TEST(NodeFill, ShowsATypeTakenOverToGroupsOnlyOnLaterOpenings)
+TEST_F(NodeFill, ShowsATypeTakenOverToGroupsOnlyOnLaterOpenings)
 {
     RecordedSource source({Record(0, LYT_TREE_GROUP, "a", ""), Record(0, 7, "b", "")});
-    ClytNodeList nodes;
     RecordedItems first;
     lytFillFromSource(nodes, source.Source(), &first, 'G');
     EXPECT_EQ(first.inserted, Lines({"0: a [1]"}));
@@ -408,12 +379,9 @@ TEST(NodeFill, ShowsATypeTakenOverToGroupsOnlyOnLaterOpenings)
     EXPECT_EQ(second.inserted, Lines({"0: a [1]", "0: b [1]"}));
 }
 
-TEST(NodeFill, GivesEachNodeTheItemOfTheLatestControl)
+TEST_F(NodeFill, GivesEachNodeTheItemOfTheLatestControl)
 {
-    RecordedSource source(house);
-    ClytNodeList nodes;
-    RecordedItems items;
-    lytFillFromSource(nodes, source.Source(), &items, 'S');
+    Fill(house);
     RecordedItems later;
     lytFillFromList(nodes, later, 'G');
     EXPECT_EQ(later.inserted, Lines({"0: House [0]", "1: Roof [1]", "1: Wall [1]"}));

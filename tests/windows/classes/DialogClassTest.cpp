@@ -1,26 +1,16 @@
 // The dialog's part in the state that it shares with button and tree.
-#include "dialog/ClytDialog.h"
+#include "ControlClass.h"
+
 #include "environment/ProcessState.h"
 #include "tree/ClytNode.h"
-
-#include <gtest/gtest.h>
 
 namespace
 {
 
-class DialogClass : public testing::Test
+class DialogClass : public ControlClass
 {
 protected:
-    DialogClass() : dialog("", "")
-    {
-        dialog.SubclassWindow(CreateWindowExA(0, "#32770", "", WS_POPUP, 0, 0, 300, 200, nullptr, nullptr,
-                                              AfxGetInstanceHandle(), nullptr));
-    }
-    ~DialogClass() override
-    {
-        dialog.DestroyWindow();
-        lytDeleteNodes();
-    }
+    ~DialogClass() override { lytDeleteNodes(); }
 
     static ClytNode& AddNode(int current, int initial)
     {
@@ -29,8 +19,6 @@ protected:
         node.m_nInitial = initial;
         return node;
     }
-
-    ClytDialog dialog;
 };
 
 } // namespace

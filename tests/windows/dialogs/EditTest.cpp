@@ -71,20 +71,6 @@ TEST_F(Edits, EditsShareTheLibraryThatTheFirstLoaded)
     EXPECT_EQ(ShowAndPress(IDOK, "a"), 1);
 }
 
-TEST_F(Edits, EditWithoutAFunctionStaysAsItWas)
-{
-    description.values = "Edit = FILLEDBY, lytdata\nEdit = kept\n";
-    description.rules = "Edit/FILL = Key\n";
-    Describe(description);
-    On(
-        [](HWND dialog)
-        {
-            robot::ReplaceText(Key(dialog), "Apple");
-            EXPECT_EQ(robot::TextOf(Edit(dialog)), "kept");
-        });
-    EXPECT_EQ(ShowAndPress(IDOK, "a"), 1);
-}
-
 TEST_F(Edits, EmptyPieceDoesNotEmptyAnEdit)
 {
     description.values = "Edit = kept\n";

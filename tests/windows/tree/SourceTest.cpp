@@ -44,38 +44,23 @@ TEST_F(TreeSource, MissingLibraryIsSoughtAgainAtTheNextUse)
     EXPECT_EQ(ItemsShown("S"), houseShown);
 }
 
-TEST_F(TreeSource, ParaPairIsRefusedAloneWithoutItsNextFunction)
+class IncompleteSource : public TreeTest, public testing::WithParamInterface<std::pair<const char*, char>>
 {
-    UseSource("without-para-next");
-    EXPECT_EQ(ItemsShown("P"), Lines());
-    EXPECT_EQ(ItemsShown("S"), houseShown);
-    EXPECT_EQ(Starts('P'), 0);
+};
+
+TEST_P(IncompleteSource, IsRefusedForThePairThatLacksAFunctionAlone)
+{
+    const auto& [variant, refused] = GetParam();
+    UseSource(variant);
+    EXPECT_EQ(ItemsShown("P").size(), refused == 'P' ? 0U : 3U);
+    EXPECT_EQ(ItemsShown("S"), refused == 'S' ? Lines() : houseShown);
+    EXPECT_EQ(SymbolFor("tin"), refused == 'S' ? "0 untouched" : "1 tin");
+    EXPECT_EQ(Starts(refused) + Nexts(refused), 0);
 }
 
-TEST_F(TreeSource, ParaPairIsRefusedAloneWithoutItsStartFunction)
-{
-    UseSource("without-para-start");
-    EXPECT_EQ(ItemsShown("P"), Lines());
-    EXPECT_EQ(ItemsShown("S"), houseShown);
-    EXPECT_EQ(Nexts('P'), 0);
-}
-
-TEST_F(TreeSource, SymbolPairIsRefusedAloneWithoutItsNextFunction)
-{
-    UseSource("without-next");
-    EXPECT_EQ(ItemsShown("S"), Lines());
-    EXPECT_EQ(SymbolFor("tin"), "0 untouched");
-    EXPECT_EQ(ItemsShown("P").size(), 3U);
-    EXPECT_EQ(Starts('S'), 0);
-}
-
-TEST_F(TreeSource, SymbolPairIsRefusedAloneWithoutItsStartFunction)
-{
-    UseSource("without-start");
-    EXPECT_EQ(ItemsShown("S"), Lines());
-    EXPECT_EQ(ItemsShown("P").size(), 3U);
-    EXPECT_EQ(Nexts('S'), 0);
-}
+INSTANTIATE_TEST_SUITE_P(Sources, IncompleteSource,
+                         testing::Values(std::pair("without-para-next", 'P'), std::pair("without-para-start", 'P'),
+                                         std::pair("without-next", 'S'), std::pair("without-start", 'S')));
 
 TEST_F(TreeSource, RefusedStartIsAnEmptyCatalogue)
 {
@@ -131,14 +116,6 @@ TEST_F(TreeSource, IsReadForEachLookupWhenNoDialogHasReadIt)
     EXPECT_EQ(Starts('S'), 2);
     ItemsShown("S");
     EXPECT_EQ(Starts('S'), 3);
-}
-
-TEST_F(TreeSource, RunThatDoesNotEndCountsAsEnded)
-{
-    UseSource();
-    Serve('S', {Entry(0, LYT_TREE_HEADING, "a", "a")}, 1, true);
-    EXPECT_EQ(SymbolFor("b"), "0 untouched");
-    EXPECT_EQ(Nexts('S'), 1'000'000);
 }
 
 TEST_F(TreeSource, RunThatBreaksOffIsToldAndNotKept)

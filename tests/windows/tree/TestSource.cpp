@@ -34,11 +34,7 @@ int32_t Next(Catalogue& catalogue, lytTreeRecord* record)
     ++catalogue.nexts;
     const TestSourceScript& script = catalogue.script;
     if (catalogue.next == script.count)
-    {
-        if (!script.endless)
-            return 0;
-        catalogue.next = 0;
-    }
+        return 0;
     *record = script.records[catalogue.next++];
     if (catalogue.next == interrupted)
         interrupt();

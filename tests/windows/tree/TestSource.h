@@ -8,7 +8,6 @@ struct TestSourceScript
     const lytTreeRecord* records; // must live as long as they are served
     int count;
     int startResult;
-    bool endless; // the records come again and again
 };
 
 extern "C"

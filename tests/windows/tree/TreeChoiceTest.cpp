@@ -173,52 +173,28 @@ TEST_F(TreeChoice, LetsEveryBranchOpen)
 
 // ---- the caller's buffer
 
-class TreeTarget : public TreeChoice
+using TreeTarget = TreeChoice;
+
+TEST_F(TreeTarget, TakesATextThatFitsAndIsLeftEmptyByALongerOne)
 {
-protected:
-    struct Written
+    static const struct
     {
-        int result;
-        std::string text;
-        char beyond;
-        bool intact; // behind the one byte that may be written
-    };
-    Written PickInto(int size, const std::string& request, const std::string& label)
+        int size;
+        const char* text;
+        char beyond; // the byte one beyond the stated size
+    } cases[] = {{6, "brick", GuardedBuffer::guard}, {5, "", GuardedBuffer::guard}, {4, "", '\0'}};
+    for (const auto& c : cases)
     {
+        SCOPED_TRACE(c.size);
         robot::Robot robot;
-        robot.On("Catalogue", [&](HWND dialog) { TreeWindow(dialog).Pick(label); });
-        GuardedBuffer buffer(size, "old");
-        const int result =
-            Get<decltype(lytOpenTreeView)>("lytOpenTreeView")(request.c_str(), buffer.Data(), buffer.Size());
+        robot.On("Catalogue", [&](HWND dialog) { TreeWindow(dialog).Pick("Brick"); });
+        GuardedBuffer buffer(c.size, "old");
+        EXPECT_EQ(Get<decltype(lytOpenTreeView)>("lytOpenTreeView")("S", buffer.Data(), buffer.Size()), 1);
         EXPECT_TRUE(robot.Done()) << robot.Log();
-        return {result, buffer.Text(), buffer.ByteBeyond(), buffer.IsIntact(1)};
+        EXPECT_EQ(buffer.Text(), c.text);
+        EXPECT_EQ(buffer.ByteBeyond(), c.beyond);
+        EXPECT_TRUE(buffer.IsIntact(1));
     }
-};
-
-TEST_F(TreeTarget, TakesATextThatJustFits)
-{
-    const Written written = PickInto(6, "S", "Brick");
-    EXPECT_EQ(written.result, 1);
-    EXPECT_EQ(written.text, "brick");
-    EXPECT_EQ(written.beyond, GuardedBuffer::guard);
-}
-
-TEST_F(TreeTarget, IsLeftEmptyByATextOfItsSize)
-{
-    const Written written = PickInto(5, "S", "Brick");
-    EXPECT_EQ(written.result, 1);
-    EXPECT_EQ(written.text, "");
-    EXPECT_EQ(written.beyond, GuardedBuffer::guard);
-    EXPECT_TRUE(written.intact);
-}
-
-TEST_F(TreeTarget, GetsANulBeyondItsSizeForALongerText)
-{
-    const Written written = PickInto(4, "S", "Brick");
-    EXPECT_EQ(written.result, 1);
-    EXPECT_EQ(written.text, "");
-    EXPECT_EQ(written.beyond, '\0');
-    EXPECT_TRUE(written.intact);
 }
 
 TEST_F(TreeTarget, OpensNoDialogWithoutRoom)

@@ -70,11 +70,11 @@ std::string TreeTest::NastyLibrary()
     return "\"" + ProgramFolder() + "\\..\\nasty.dll\"";
 }
 
-void TreeTest::Serve(char kind, Records records, int startResult, bool endless)
+void TreeTest::Serve(char kind, Records records, int startResult)
 {
     Records& kept = kind == 'P' ? m_paragraphs : m_symbols;
     kept = std::move(records);
-    const TestSourceScript script = {kept.data(), static_cast<int>(kept.size()), startResult, endless};
+    const TestSourceScript script = {kept.data(), static_cast<int>(kept.size()), startResult};
     GetFromSource<decltype(TestSourceServe)>("TestSourceServe")(kind, &script);
 }
 

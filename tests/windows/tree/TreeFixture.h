@@ -30,7 +30,7 @@ protected:
     // The data library of the tests, as a description names it.
     static std::string NastyLibrary();
     // What the source serves from now on; `house` and `yard` unless told.
-    void Serve(char kind, Records records, int startResult = 1, bool endless = false);
+    void Serve(char kind, Records records, int startResult = 1);
     // Acts from inside the call in which the source delivers the record of this number; 0 for never.
     void Interrupt(int record, void (*act)()) const;
     int Starts(char kind) const;

@@ -1,7 +1,5 @@
-// What the browser shows of odd and of large catalogues.
+// What the browser shows of long texts and of large catalogues.
 #include "TreeFixture.h"
-
-#include <climits>
 
 class TreeShape : public TreeTest
 {
@@ -14,86 +12,12 @@ protected:
     }
 };
 
-TEST_F(TreeShape, OneRecord)
-{
-    EXPECT_EQ(Shown({Entry(5, LYT_TREE_SYMBOL, "only", "k")}), Lines({"only [2]"}));
-}
-
-TEST_F(TreeShape, TwoRecordsOfOneLevelAreSiblings)
-{
-    EXPECT_EQ(Shown({Entry(1, LYT_TREE_GROUP, "a", ""), Entry(1, LYT_TREE_GROUP, "b", "")}), Lines({"a [1]", "b [1]"}));
-}
-
-TEST_F(TreeShape, LevelsThreeAndTwoBehindOneAreBothItsChildren)
-{
-    EXPECT_EQ(Shown({Entry(1, LYT_TREE_HEADING, "one", ""), Entry(3, LYT_TREE_GROUP, "three", ""),
-                     Entry(2, LYT_TREE_SYMBOL, "two", "")}),
-              Lines({"one [0]", "  three [1]", "  two [2]"}));
-}
-
-TEST_F(TreeShape, LevelsBelowTheFirstStandAtTheRoot)
-{
-    EXPECT_EQ(Shown({Entry(5, LYT_TREE_HEADING, "five", ""), Entry(3, LYT_TREE_HEADING, "three", ""),
-                     Entry(4, LYT_TREE_HEADING, "four", ""), Entry(-1, LYT_TREE_HEADING, "minus", "")}),
-              Lines({"five [0]", "three [0]", "  four [0]", "minus [0]"}));
-}
-
-TEST_F(TreeShape, NegativeAndHugeLevelsOrderLikeAnyOthers)
-{
-    EXPECT_EQ(Shown({Entry(INT_MIN, LYT_TREE_HEADING, "min", ""), Entry(INT_MAX, LYT_TREE_HEADING, "max", ""),
-                     Entry(-7, LYT_TREE_HEADING, "minus", ""), Entry(0, LYT_TREE_HEADING, "zero", ""),
-                     Entry(INT_MIN, LYT_TREE_HEADING, "again", "")}),
-              Lines({"min [0]", "  max [0]", "  minus [0]", "    zero [0]", "again [0]"}));
-}
-
-TEST_F(TreeShape, TypeSevenBehindAGroupIsAGroup)
-{
-    UseSource();
-    Serve('S', {Entry(0, LYT_TREE_GROUP, "a", "ka"), Entry(0, 7, "b", "kb")});
-    EXPECT_EQ(ItemsShown("S"), Lines({"a [1]", "b [1]"}));
-    EXPECT_EQ(Pick("G", "b").text, "kb");
-}
-
-TEST_F(TreeShape, UnknownTypesCarryOverFromHeadingOn)
-{
-    EXPECT_EQ(Shown({Entry(0, 0, "a", ""), Entry(0, LYT_TREE_SYMBOL, "b", ""), Entry(0, -1, "c", "")}),
-              Lines({"a [0]", "b [2]", "c [2]"}));
-}
-
-TEST_F(TreeShape, TypeTakenOverIsShownToGroupsFromTheSecondOpeningOn)
-{
-    UseSource();
-    Serve('S', {Entry(0, LYT_TREE_GROUP, "a", ""), Entry(0, 7, "b", "")});
-    EXPECT_EQ(ItemsShown("G"), Lines({"a [1]"}));
-    EXPECT_EQ(ItemsShown("G"), Lines({"a [1]", "b [1]"}));
-}
-
-TEST_F(TreeShape, LabelMarksShowAsThreeBlanksEach)
-{
-    EXPECT_EQ(Shown({Entry(0, LYT_TREE_SYMBOL, "a##b##c", "k"), Entry(0, LYT_TREE_SYMBOL, "###", "l")}),
-              Lines({"a   b   c [2]", "   # [2]"}));
-}
-
 TEST_F(TreeShape, TextsOfNinetyNineCharactersAreWhole)
 {
     const std::string label(99, 'l');
     const std::string key(99, 'k');
     EXPECT_EQ(Shown({Entry(0, LYT_TREE_SYMBOL, label, key)}), Lines({label + " [2]"}));
     EXPECT_EQ(Pick("S", label).text, key);
-}
-
-TEST_F(TreeShape, LongestLabelOfMarksIsWhole)
-{
-    EXPECT_EQ(Shown({Entry(0, LYT_TREE_SYMBOL, std::string(98, '#') + "x", "")}),
-              Lines({std::string(147, ' ') + "x [2]"}));
-}
-
-TEST_F(TreeShape, TextsWithoutAnEndAreEmpty)
-{
-    EXPECT_EQ(Shown({Entry(0, LYT_TREE_HEADING, std::string(100, 'l'), "h"),
-                     Entry(1, LYT_TREE_SYMBOL, "symbol", std::string(100, 'k'))}),
-              Lines({" [0]", "  symbol [2]"}));
-    EXPECT_EQ(Pick("S", "symbol").text, "");
 }
 
 TEST_F(TreeShape, BytesOfTheCodePageStayAsTheyAre)

@@ -21,13 +21,6 @@ TEST_F(TreeView, ShowsNoSymbolsToGroups)
     EXPECT_EQ(ItemsShown("G"), groups);
 }
 
-TEST_F(TreeView, ShowsTheSymbolsThatAGroupDialogRead)
-{
-    ItemsShown("G");
-    EXPECT_EQ(ItemsShown("S"), houseShown);
-    EXPECT_EQ(Starts('S'), 1);
-}
-
 TEST_F(TreeView, ShowsGroupsFromTheListThatASymbolDialogRead)
 {
     ItemsShown("S");
@@ -91,12 +84,6 @@ TEST_F(TreeView, OpensTheFirstLevelWithoutAUsableNumber)
     }
 }
 
-TEST_F(TreeView, OpensNothingForANegativeNumber)
-{
-    Configure("TreeLevels=-2147483648\n");
-    EXPECT_EQ(ItemsOpen("S"), Lines());
-}
-
 TEST_F(TreeView, StartsTheParaTreeClosedAndWithoutASelection)
 {
     Configure("TreeLevels=9\n");
@@ -124,27 +111,10 @@ TEST_F(TreeView, SelectsTheGroupAboveASymbolThatTheStartTextNames)
     EXPECT_EQ(Preselected("Groof"), "Roof");
 }
 
-TEST_F(TreeView, WantsAWholeKeyForGroups)
-{
-    EXPECT_EQ(Preselected("Gbri"), "House");
-    EXPECT_EQ(Preselected("Pgrave"), "");
-    EXPECT_EQ(Preselected("Pstone"), "Path");
-    EXPECT_EQ(Preselected("Pgravel"), "Gravel");
-    Pick("G", "Wall");
-    EXPECT_EQ(Preselected("Groo"), "Wall");
-    EXPECT_EQ(Preselected("Groof"), "Roof");
-}
-
 TEST_F(TreeView, FindsNoStartInTheWizard)
 {
     Pick("S", "Tin");
     EXPECT_EQ(Preselected("Wbrick"), "Tin");
-}
-
-TEST_F(TreeView, SelectsTheLastEntryWithTheKeyOfTheStart)
-{
-    Serve('S', {Entry(0, LYT_TREE_SYMBOL, "first", "k"), Entry(0, LYT_TREE_SYMBOL, "second", "k")});
-    EXPECT_EQ(Preselected("Sk"), "second");
 }
 
 TEST_F(TreeView, BringsTwoSiblingsAboveTheSelectionIntoView)

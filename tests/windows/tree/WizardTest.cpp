@@ -90,17 +90,6 @@ TEST_F(Wizard, LosesTheLastTextOfAListThatEndsInAMark)
     EXPECT_EQ(Ask("Tin", "Symbol", "new"), "2 new");
 }
 
-TEST_F(Wizard, TakesAGroupResultApartWithoutItsMarks)
-{
-    EXPECT_EQ(Ask("Roof", "Group", "a|b"), "1 ");
-    EXPECT_EQ(Next(), "1 a|");
-    EXPECT_EQ(Next(), "0 b");
-    EXPECT_EQ(Ask("Roof", "Group", "h{a"), "1 h{");
-    EXPECT_EQ(Next(), "0 a");
-    EXPECT_EQ(Ask("Roof", "Group", "h/LISTa"), "1 h/LIST");
-    EXPECT_EQ(Next(), "0 a");
-}
-
 TEST_F(Wizard, LetsItsGroupDialogFillACheckListForTheGroup)
 {
     WriteDialog("lytWzGrp", "lytWzGrp", "CheckListBox 10, 70, 100, 60, .List\nPushButton 120, 10, 60, 20, .Fill\n",

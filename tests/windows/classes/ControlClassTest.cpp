@@ -1,51 +1,28 @@
-// What no description can bring about: the classes themselves, over a window that stands in for the dialog's.
+// What no description can bring about: the classes themselves.
+#include "ControlClass.h"
+
 #include "controls/ClytCheckBoxControl.h"
 #include "controls/ClytCheckListBox.h"
 #include "controls/ClytComboBoxControl.h"
 #include "controls/ClytDataLibrary.h"
+#include "controls/ClytDefaultControl.h"
+#include "controls/ClytEditControl.h"
+#include "controls/ClytGroupBoxControl.h"
 #include "controls/ClytListBoxControl.h"
 #include "controls/ClytOptionGroup.h"
 #include "controls/ClytPushButtonControl.h"
 #include "controls/ClytRadioButtonControl.h"
-#include "dialog/ClytDialog.h"
+#include "controls/ClytStaticControl.h"
 #include "environment/ProcessState.h"
-#include "support/ErrorTexts.h"
-#include "support/RecordedMessages.h"
 #include "support/RecordingObserver.h"
-
-#include <gtest/gtest.h>
 
 #include <memory>
 
 namespace
 {
 
-using Texts = std::vector<std::string>;
-
 constexpr ClytPosition origin = {10, 10};
 constexpr ClytSize extent = {100, 80};
-
-CStringList& ListOf(CStringList& list, const char* text)
-{
-    list.RemoveAll();
-    list.AddTail(text);
-    return list;
-}
-
-class ControlClass : public testing::Test
-{
-protected:
-    ControlClass() : dialog("none.dlg", CString())
-    {
-        dialog.SubclassWindow(
-            CreateWindowExA(0, "Static", "", WS_POPUP, 0, 0, 300, 300, nullptr, nullptr, nullptr, nullptr));
-    }
-    ~ControlClass() override { TakeMessages(); }
-
-    const ErrorTexts texts;
-    ClytDialog dialog;
-    CStringList values;
-};
 
 // A list whose double click has no target.
 class TargetlessList : public ClytListBoxControl
@@ -59,8 +36,8 @@ public:
 TEST_F(ControlClass, AComboBoxOfAnUnknownKindHasNoWindowAndNoMessage)
 {
     ClytComboBoxControl combo("OtherBox", "Box", origin, extent, CString());
-    combo.SetOption(ListOf(values, "one"), "ONE");
-    combo.SetOption(ListOf(values, "INVISIBLE"), CString());
+    SetOption(combo, "ONE", {"one"});
+    SetOption(combo, "", {"INVISIBLE"});
     combo.CreateControl(&dialog);
     EXPECT_EQ(combo.m_hWnd, nullptr);
     EXPECT_EQ(TakeMessages(), Texts{});
@@ -87,13 +64,18 @@ TEST_F(ControlClass, AWindowThatCannotBeCreatedRaises202WithTheControlsName)
     ClytPushButtonControl push("APush", origin, extent, CString());
     ClytCheckBoxControl check("ACheck", origin, extent, CString());
     ClytRadioButtonControl radio("ARadio", origin, extent, 1, CString());
-    ClytControl* const controls[] = {&list, &checkList, &combo, &drop, &push, &check, &radio};
+    ClytEditControl edit("AnEdit", origin, extent, CString());
+    ClytStaticControl text("AText", origin, extent, CString());
+    ClytGroupBoxControl frame("AFrame", origin, extent, CString());
+    ClytControl* const controls[] = {&list, &checkList, &combo, &drop, &push, &check, &radio, &edit, &text, &frame};
     for (ClytControl* control : controls)
     {
         SCOPED_TRACE(control->GetName().GetString());
         EXPECT_EQ(RaisedMessage([&] { control->CreateControl(&windowless); }),
                   "202 '" + std::string(control->GetName()) + "'");
     }
+    ClytDefaultControl ok(origin, extent, 1);
+    EXPECT_EQ(RaisedMessage([&] { ok.CreateControl(&windowless); }), "nothing was raised");
 }
 
 TEST_F(ControlClass, ADoubleClickWithoutATargetRaisesTheInvalidArgument)
@@ -112,11 +94,11 @@ TEST_F(ControlClass, AListenerHearsOfATargetThatIsNotThere)
     for (const char* word : {"VISIBLE", "ACTIVE", "DELETE", "UP", "DOWN", "FILL"})
     {
         SCOPED_TRACE(word);
-        button.SetOption(ListOf(values, "Absent"), word);
+        SetOption(button, word, {"Absent"});
         lytClickControl(button, dialog);
         EXPECT_EQ(observer.TakeHeard(), "no target Absent for Push\nrun 1\nend 1\n");
     }
-    button.SetOption(ListOf(values, "Absent"), "ADD");
+    SetOption(button, "ADD", {"Absent"});
     lytClickControl(button, dialog);
     EXPECT_EQ(observer.TakeHeard(), "no target Absent for Push\nno target Absent for Push\nrun 1\nend 1\n");
 }
@@ -124,7 +106,7 @@ TEST_F(ControlClass, AListenerHearsOfATargetThatIsNotThere)
 TEST_F(ControlClass, AListenerHearsOfADoubleClicksTargetThatIsNotThere)
 {
     ClytListBoxControl list("List", origin, extent, CString());
-    list.SetOption(ListOf(values, "Absent"), "DBLCLICK");
+    SetOption(list, "DBLCLICK", {"Absent"});
     list.CreateControl(&dialog);
     RecordingObserver observer;
     list.SendMessage(WM_LBUTTONDBLCLK);
@@ -134,9 +116,7 @@ TEST_F(ControlClass, AListenerHearsOfADoubleClicksTargetThatIsNotThere)
 TEST_F(ControlClass, AListenerHearsOfANestedDialogThatRefusesToOpen)
 {
     ClytPushButtonControl button("Push", origin, extent, CString());
-    ListOf(values, "Nested").AddTail("Part");
-    values.AddTail("Group");
-    button.SetOption(values, "DIALOG");
+    SetOption(button, "DIALOG", {"Nested", "Part", "Group"});
     button.CreateControl(&dialog);
     RecordingObserver observer;
     lytClickControl(button, dialog);
@@ -190,10 +170,7 @@ TEST_F(ControlClass, ACheckListAsksForTheWizardsGroupWithoutAParameter)
 {
     lytWizardGroup = "group";
     ClytCheckListBox list("List", origin, extent, CString());
-    values.RemoveAll();
-    for (const char* value : {"nasty", "Open", "NextEcho"})
-        values.AddTail(value);
-    list.SetOption(values, "FILLEDBY");
+    SetOption(list, "FILLEDBY", {"nasty", "Open", "NextEcho"});
     list.CreateControl(&dialog);
     list.FillByLibrary();
     CString item;
@@ -221,7 +198,7 @@ TEST_F(ControlClass, AGroupThatDiesPartsWithItsButtonsAndAButtonLeavesItsGroup)
     auto second = std::make_unique<ClytRadioButtonControl>("B", origin, extent, 0, CString());
     ClytOptionGroup::AddToCurrentGroup(*first);
     ClytOptionGroup::AddToCurrentGroup(*second);
-    second->SetOption(ListOf(values, "b"), CString());
+    SetOption(*second, "", {"b"});
     second->CreateControl(&dialog);
     first.reset();
     group->SetValue("b");
