@@ -38,6 +38,9 @@ struct ClytControlStatement
 class ClytDialogFile : public ClytLineSource
 {
 public:
+    // What a read of a line is given; a buffer for it has room for a NUL.
+    static constexpr UINT lineSize = 399;
+
     // The define list is a text of names joined by commas; null stands for none. The sink outlives the reader.
     explicit ClytDialogFile(const char* defineList, ErrorSink& errorSink = lytRaisingSink());
 
@@ -68,9 +71,6 @@ public:
     int ReadOutputStatement(CString& groupName, ClytDialogOutput& rule);
 
 private:
-    // What a read is given; a buffer for it has room for a NUL.
-    static constexpr UINT lineSize = 399;
-
     // What is thrown once a failure has been told and the sink wants to hear of more; it ends the statement.
     struct Abandoned
     {

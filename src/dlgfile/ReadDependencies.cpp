@@ -4,14 +4,8 @@
 //     name / state word = condition, ...        condition: control [ (value, ...) ]
 #include "dlgfile/ClytDialogFile.h"
 
+#include "dlgfile/SectionDelimiters.h"
 #include "model/ClytControlDep.h"
-
-namespace
-{
-
-constexpr DelimiterSet dependencyDelimiters("=,\t\n()/");
-
-}
 
 int ClytDialogFile::ReadDependencyStatement(ClytControlDep& rule)
 {
@@ -19,7 +13,7 @@ int ClytDialogFile::ReadDependencyStatement(ClytControlDep& rule)
         [&]
         {
             POSITION token = nullptr;
-            if (ReadSectionLine(token, "$EVALUATION", dependencyDelimiters) == 0)
+            if (ReadSectionLine(token, "$EVALUATION", lytDependencyDelimiters) == 0)
                 return 0;
             if (token != nullptr)
                 ReadDependency(token, rule);

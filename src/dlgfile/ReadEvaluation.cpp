@@ -6,15 +6,9 @@
 //     name = NULL any-delimiter message key
 #include "dlgfile/ClytDialogFile.h"
 
+#include "dlgfile/SectionDelimiters.h"
 #include "model/ClytCtrlValList.h"
 #include "model/ClytWords.h"
-
-namespace
-{
-
-constexpr DelimiterSet evaluationDelimiters("=,\t\n():;");
-
-}
 
 int ClytDialogFile::ReadEvaluationStatement(ClytCtrlValList& own, ClytCtrlValList& other, CString& messageKey)
 {
@@ -22,7 +16,7 @@ int ClytDialogFile::ReadEvaluationStatement(ClytCtrlValList& own, ClytCtrlValLis
         [&]
         {
             POSITION token = nullptr;
-            if (ReadSectionLine(token, "$INPUT", evaluationDelimiters) == 0)
+            if (ReadSectionLine(token, "$INPUT", lytEvaluationDelimiters) == 0)
                 return 0;
             if (token != nullptr)
                 ReadEvaluation(token, own, other, messageKey);

@@ -9,6 +9,7 @@
 #include "dlgfile/ClytDialogFile.h"
 
 #include "base/Words.h"
+#include "dlgfile/SectionDelimiters.h"
 #include "environment/ClytException.h"
 #include "model/ClytInputPart.h"
 
@@ -16,8 +17,6 @@ namespace
 {
 
 constexpr const char* terminator = "$OUTPUT";
-constexpr DelimiterSet firstLineDelimiters("=,\n():");
-constexpr DelimiterSet inputDelimiters("=,\t\n():;");
 
 // Failures of the class library while a part is read are told as the program's own.
 template <class Read>
@@ -55,7 +54,7 @@ int ClytDialogFile::ReadInputHeader(CString& name)
     return ReadStatement(
         [&]
         {
-            ReadSectionLine(token, terminator, firstLineDelimiters);
+            ReadSectionLine(token, terminator, lytFirstInputDelimiters);
             return 1;
         });
 }
@@ -116,7 +115,7 @@ void ClytDialogFile::ReadInput(POSITION token, ClytDialogInput& statement)
 int ClytDialogFile::ReadInputLine()
 {
     POSITION token = nullptr;
-    return ReadSectionLine(token, terminator, inputDelimiters);
+    return ReadSectionLine(token, terminator, lytInputDelimiters);
 }
 
 void ClytDialogFile::ReadInputConditions(POSITION token, ClytDialogInput& statement)

@@ -12,13 +12,10 @@
 #include "dlgfile/ClytDialogFile.h"
 
 #include "base/Words.h"
+#include "dlgfile/SectionDelimiters.h"
 
 namespace
 {
-
-constexpr DelimiterSet headerDelimiters(" ,\t\n();:");
-constexpr DelimiterSet dialogDelimiters(" ,\t\n();");
-constexpr DelimiterSet controlDelimiters(" ,\t\n;");
 
 constexpr int dialogWords = 7;
 
@@ -68,7 +65,7 @@ bool ClytDialogFile::ReadHeaderLine()
     char line[lineSize + 1];
     while (ReadString(line, lineSize) != nullptr)
     {
-        const char* openQuote = lytTokenize(line, headerDelimiters, tokens);
+        const char* openQuote = lytTokenize(line, lytHeaderDelimiters, tokens);
         if (tokens.IsEmpty())
             continue;
         const CString& word = tokens.GetHead().GetText();
@@ -89,7 +86,7 @@ int ClytDialogFile::ReadDialogHeader(int& width, int& height, CString& title, CS
         {
             do
             {
-                if (!ReadTokens(dialogDelimiters))
+                if (!ReadTokens(lytDialogDelimiters))
                 {
                     Tell("215", EndOfLine());
                     return 0;
@@ -121,7 +118,7 @@ int ClytDialogFile::ReadControlStatement(ClytControlStatement& statement)
     return ReadStatement(
         [&]
         {
-            if (!ReadTokens(controlDelimiters))
+            if (!ReadTokens(lytControlDelimiters))
             {
                 Tell("216", EndOfLine());
                 return 0;

@@ -10,15 +10,9 @@
 //            word ()              all values of a control with blanks between them
 #include "dlgfile/ClytDialogFile.h"
 
+#include "dlgfile/SectionDelimiters.h"
 #include "model/ClytDialogOutput.h"
 #include "model/ClytWords.h"
-
-namespace
-{
-
-constexpr DelimiterSet outputDelimiters("=,\n():<>");
-
-}
 
 int ClytDialogFile::ReadOutputStatement(CString& groupName, ClytDialogOutput& rule)
 {
@@ -26,7 +20,7 @@ int ClytDialogFile::ReadOutputStatement(CString& groupName, ClytDialogOutput& ru
         [&]
         {
             POSITION token = nullptr;
-            if (ReadSectionLine(token, "$END", outputDelimiters) == 0)
+            if (ReadSectionLine(token, "$END", lytOutputDelimiters) == 0)
                 return 0;
             if (token != nullptr)
                 ReadOutput(token, groupName, rule);

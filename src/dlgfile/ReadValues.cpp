@@ -6,12 +6,7 @@
 // `=`, `:`, commas and round brackets all separate alike.
 #include "dlgfile/ClytDialogFile.h"
 
-namespace
-{
-
-constexpr DelimiterSet valueDelimiters("=,\t\n();:");
-
-}
+#include "dlgfile/SectionDelimiters.h"
 
 int ClytDialogFile::ReadValueStatement(CString& name, CString& keyword, CStringList& values)
 {
@@ -23,7 +18,7 @@ int ClytDialogFile::ReadValueStatement(CString& name, CString& keyword, CStringL
         [&]
         {
             POSITION token = nullptr;
-            if (ReadSectionLine(token, "$DEPENDANCES", valueDelimiters) == 0)
+            if (ReadSectionLine(token, "$DEPENDANCES", lytValueDelimiters) == 0)
                 return 0;
             if (token == nullptr)
                 return 1;
