@@ -17,13 +17,31 @@ private:
     DWORD m_hostMode = 0;
 };
 
+// Libraries that a program has inside and offers in place of files.
+class ClytOwnLibraries
+{
+public:
+    // Null for a library that is none of them. The handle is one that the platform's loader does not know.
+    virtual HMODULE Load(const char* name) = 0;
+    virtual bool Owns(HMODULE library) const = 0;
+    // Null when the library has no function of that name.
+    virtual FARPROC Find(HMODULE library, const char* function) = 0;
+
+protected:
+    ~ClytOwnLibraries() = default;
+};
+
+// The shipped library has none, and then looking for them costs a test of one pointer; a tool sets its own while it works.
+inline ClytOwnLibraries* lytOwnLibraries = nullptr;
+
 // Null when the library cannot be loaded, and for a name that is empty or longer than the platform takes. The system
 // shows no message of its own, whatever lies under the name.
 HMODULE lytLoadLibrary(const char* name);
 
+FARPROC lytFunctionAddress(HMODULE library, const char* name);
 // The function under the type that the partner's header gives it; null when the library has none of that name.
 template <class FUNCTION>
 FUNCTION* lytFindFunction(HMODULE library, const char* name)
 {
-    return reinterpret_cast<FUNCTION*>(reinterpret_cast<void*>(::GetProcAddress(library, name)));
+    return reinterpret_cast<FUNCTION*>(reinterpret_cast<void*>(lytFunctionAddress(library, name)));
 }

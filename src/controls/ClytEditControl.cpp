@@ -63,6 +63,8 @@ void ClytEditControl::DoAction(const ClytStateWord& word)
 void ClytEditControl::FillByLibrary()
 {
     const ClytWaitCursor waiting;
+    if (lytObserver != nullptr)
+        lytObserver->LibraryAsked(*this);
     CString parameter;
     if (!source.parameterRule.IsEmpty() && dialog->ComposeNamedOutput(source.parameterRule, parameter) == 0)
         return;

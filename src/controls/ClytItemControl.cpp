@@ -3,6 +3,7 @@
 #include "base/ClytRedrawPause.h"
 #include "controls/ClytWaitCursor.h"
 #include "environment/ClytEnvironment.h"
+#include "model/ClytObserver.h"
 
 #include <type_traits>
 #include <utility>
@@ -70,6 +71,8 @@ template <class WINDOW>
 void ClytItemControl<WINDOW>::FillByLibrary()
 {
     const ClytWaitCursor waiting;
+    if (lytObserver != nullptr)
+        lytObserver->LibraryAsked(*this);
     EmptyFromSelection();
     CString parameter;
     if (!ComposeParameter(parameter))

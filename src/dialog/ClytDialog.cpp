@@ -112,7 +112,7 @@ BOOL ClytDialog::OnInitDialog()
     }
     catch (CException* e)
     {
-        e->ReportError();
+        ShowFailure(*e);
         e->Delete();
         EndDialog(constructionFailed);
         return FALSE;

@@ -75,6 +75,8 @@ protected:
     // Every command runs the rules first, so that a control's own handler sees what they made of its change.
     BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
     void OnCancel() override;
+    // Tells the user why the construction failed.
+    virtual void ShowFailure(CException& failure) { failure.ReportError(); }
     afx_msg void OnDestroy();
 
     // Reads the description, creates the controls, scans the input and runs the rules once. Any failure is raised.

@@ -80,6 +80,9 @@ public:
     // A fill rule put a text into its control.
     virtual void Filled(const ClytControlFill& /*fill*/, const CString& /*piece*/) {}
 
+    // A control is about to be filled by its library; its list is still as it was.
+    virtual void LibraryAsked(const ClytControl& /*control*/) {}
+
     // A run of the rules, counted from 1 as they stand one inside the other. It ends on every way out.
     virtual void RunBegan(int /*depth*/) {}
     virtual void RunEnded(int /*depth*/) {}
