@@ -46,9 +46,6 @@ public:
     std::optional<CString> ShowNested(const CString& /*descriptionFile*/) override { return {}; }
 
 private:
-    // The button of an option group that has the value; null when there is none.
-    ClytControl* OptionOf(const ClytControl& group, const CString& value) const;
-
     int m_openRuns = 0;
 };
 

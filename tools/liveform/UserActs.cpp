@@ -1,0 +1,135 @@
+#include "liveform/UserActs.h"
+
+#include "controls/ClytCheckBoxControl.h"
+#include "controls/ClytGroupBoxControl.h"
+#include "controls/ClytOptionGroup.h"
+#include "controls/ClytRadioButtonControl.h"
+#include "robot/WindowRobot.h"
+
+#include <algorithm>
+
+namespace
+{
+
+void SendCommand(const CWnd& control, int code)
+{
+    const WPARAM command = MAKEWPARAM(control.GetDlgCtrlID(), code);
+    control.GetParent()->SendMessage(WM_COMMAND, command, reinterpret_cast<LPARAM>(control.m_hWnd));
+}
+
+// Chooses the item with that value, as a click on it does; false when no item has it. The platform tells nothing of a
+// selection that is made by message, so the items can be tried one after another.
+template <class LIST>
+bool Choose(const LIST& list, ClytControl& control, const CString& value, int code)
+{
+    const int before = list.GetCurSel();
+    for (int index = 0; index < list.GetCount(); ++index)
+    {
+        list.SetCurSel(index);
+        if (control.GetValue() != value)
+            continue;
+        SendCommand(list, code);
+        return true;
+    }
+    list.SetCurSel(before);
+    return false;
+}
+
+// A value that no item has is typed, where the box takes free text.
+bool ChooseOrType(const CComboBox& box, ClytControl& control, const CString& value)
+{
+    if (Choose(box, control, value, CBN_SELCHANGE))
+        return true;
+    const bool isFree = ::GetWindow(box.m_hWnd, GW_CHILD) != nullptr;
+    if (isFree)
+        robot::ReplaceText(box.m_hWnd, value.GetString());
+    return isFree;
+}
+
+// By the space key: a box without a label has no height, so the mouse never meets it.
+void Mark(const CButton& box)
+{
+    robot::Focus(box.m_hWnd);
+    box.SendMessage(WM_KEYDOWN, VK_SPACE);
+    box.SendMessage(WM_KEYUP, VK_SPACE);
+}
+
+bool Press(const CButton& button, ClytControl& control, const CString& value)
+{
+    const bool isCheckBox = dynamic_cast<const ClytCheckBoxControl*>(&button) != nullptr;
+    if (isCheckBox && control.GetValue() == value)
+        return true;
+    if (isCheckBox || dynamic_cast<const ClytRadioButtonControl*>(&button) != nullptr)
+        Mark(button);
+    else if (dynamic_cast<const ClytGroupBoxControl*>(&button) == nullptr)
+        button.SendMessage(BM_CLICK);
+    else
+        return false;
+    return true;
+}
+
+Entered EnterInWindow(const CWnd& window, ClytControl& control, const CString& input)
+{
+    bool isOffered = true;
+    if (dynamic_cast<const CEdit*>(&window) != nullptr)
+        robot::ReplaceText(window.m_hWnd, input.GetString());
+    else if (const auto* list = dynamic_cast<const CListBox*>(&window))
+        isOffered = Choose(*list, control, input, LBN_SELCHANGE);
+    else if (const auto* box = dynamic_cast<const CComboBox*>(&window))
+        isOffered = ChooseOrType(*box, control, input);
+    else if (const auto* button = dynamic_cast<const CButton*>(&window))
+        isOffered = Press(*button, control, input);
+    else
+        isOffered = false;
+    return isOffered ? Entered::Done : Entered::NotOffered;
+}
+
+} // namespace
+
+Entered EnterAsUser(const ClytForm& form, ClytControl& control, const CString& input)
+{
+    if (dynamic_cast<ClytOptionGroup*>(&control) != nullptr)
+    {
+        const std::vector<ClytControl*> options = OptionsOf(form, control);
+        const auto option = std::ranges::find_if(options, [&](ClytControl* one) { return one->GetValue() == input; });
+        return option != options.end() ? EnterAsUser(form, **option, input) : Entered::NotOffered;
+    }
+    const auto* window = dynamic_cast<const CWnd*>(&control);
+    if (window == nullptr || !window->IsWindowEnabled() || !window->IsWindowVisible())
+        return Entered::OutOfReach;
+    return EnterInWindow(*window, control, input);
+}
+
+std::vector<ClytControl*> OptionsOf(const ClytForm& form, const ClytControl& group)
+{
+    std::vector<ClytControl*> options;
+    bool isOfGroup = false;
+    for (POSITION place = form.GetControlList().GetHeadPosition(); place != nullptr;)
+    {
+        ClytControl* control = form.GetControlList().GetNext(place);
+        if (dynamic_cast<ClytOptionGroup*>(control) != nullptr)
+            isOfGroup = control == &group;
+        else if (isOfGroup && dynamic_cast<ClytRadioButtonControl*>(control) != nullptr)
+            options.push_back(control);
+    }
+    return options;
+}
+
+bool IsSeenEnabled(ClytControl& control)
+{
+    const auto* window = dynamic_cast<const CWnd*>(&control);
+    return window != nullptr && window->m_hWnd != nullptr ? window->IsWindowEnabled() != FALSE
+                                                          : control.IsActive() != 0;
+}
+
+bool IsSeen(const ClytForm& form, ClytControl& control)
+{
+    const auto isShown = [](const ClytControl* one)
+    {
+        const auto* window = dynamic_cast<const CWnd*>(one);
+        return window != nullptr && window->IsWindowVisible() != FALSE;
+    };
+    if (dynamic_cast<ClytOptionGroup*>(&control) == nullptr)
+        return isShown(&control);
+    return std::ranges::any_of(OptionsOf(form, control), isShown);
+}

@@ -1,0 +1,23 @@
+// What a user does to the controls of a described dialog, and what is seen of them, however its window runs.
+#pragma once
+
+#include "model/ClytForm.h"
+
+#include <vector>
+
+enum class Entered
+{
+    Done,
+    OutOfReach, // the control is disabled or hidden, or takes no value
+    NotOffered  // no item or option has that value
+};
+
+// Enters a value: types it into a field, chooses the item or the option that has it, checks or unchecks a box. A button is
+// pressed. What that sets off happens before the function returns.
+Entered EnterAsUser(const ClytForm& form, ClytControl& control, const CString& input);
+
+// The buttons of an option group: they stand after it in the layout, up to the next group.
+std::vector<ClytControl*> OptionsOf(const ClytForm& form, const ClytControl& group);
+// An option group has no window of its own; it is shown when one of its buttons is.
+bool IsSeenEnabled(ClytControl& control);
+bool IsSeen(const ClytForm& form, ClytControl& control);
