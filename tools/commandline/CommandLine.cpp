@@ -178,6 +178,12 @@ std::vector<std::string> Request::Texts(const std::string& option) const
     return found != m_options.end() ? found->second : std::vector<std::string>();
 }
 
+void Request::Add(const std::string& option, const std::string& value)
+{
+    m_options[option].push_back(value);
+    m_inOrder.push_back({option, value});
+}
+
 std::string Request::Operand(size_t index, const std::string& otherwise) const
 {
     return index < operands.size() ? operands[index] : otherwise;

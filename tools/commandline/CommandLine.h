@@ -57,10 +57,18 @@ public:
     // Every value of an option that may be given more than once, in order.
     std::vector<std::string> Texts(const std::string& option) const;
     std::string Operand(size_t index, const std::string& otherwise) const;
-    void Add(const std::string& option, const std::string& value) { m_options[option].push_back(value); }
+    // Every option with its value as given, in the order of the command line.
+    struct Given
+    {
+        std::string option;
+        std::string value;
+    };
+    const std::vector<Given>& InOrder() const { return m_inOrder; }
+    void Add(const std::string& option, const std::string& value);
 
 private:
     std::map<std::string, std::vector<std::string>> m_options;
+    std::vector<Given> m_inOrder;
 };
 
 // Reads a command line without the program's name. An empty one, `help` and `--help` give the command "help"; after a
