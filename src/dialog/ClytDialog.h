@@ -75,6 +75,8 @@ protected:
     // Every command runs the rules first, so that a control's own handler sees what they made of its change.
     BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
     void OnCancel() override;
+    // A statement of the layout has made a control.
+    virtual void ControlMade(const ClytControl& /*control*/, const ClytControlStatement& /*statement*/) {}
     // Tells the user why the construction failed.
     virtual void ShowFailure(CException& failure) { failure.ReportError(); }
     afx_msg void OnDestroy();

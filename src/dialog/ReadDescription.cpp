@@ -110,6 +110,7 @@ void ClytDialog::CreateLayoutControl(const ClytControlStatement& statement)
     }
     ClytControl& control = controlList.AddTail(std::move(made));
     controlMap.SetAt(statement.name, &control);
+    ControlMade(control, statement);
 }
 
 void ClytDialog::ReadValues()

@@ -1,5 +1,7 @@
 #include "lytdlg/Commands.h"
 
+#include "lytdlg/try/RunCommand.h"
+
 #include <afx.h>
 
 #include <algorithm>
@@ -35,7 +37,11 @@ int Tell(const char* text, ExitCode code)
 
 const std::vector<Command>& Commands()
 {
-    static const std::vector<Command> commands = {CheckCommand(), HelpCommand()};
+    static const std::vector<Command> commands = {
+        CheckCommand(),
+        RunCommand(),
+        HelpCommand(),
+    };
     return commands;
 }
 

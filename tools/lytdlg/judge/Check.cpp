@@ -77,7 +77,7 @@ public:
     {
         const std::string bytes = path == "-" ? ReadAll(std::cin) : ReadFile(path);
         const Description description(path, bytes, m_request.Texts("--define"));
-        Surroundings surroundings;
+        FolderContext surroundings;
         surroundings.folder = path == "-" ? "" : std::filesystem::path(path).parent_path().string();
         surroundings.partners = m_request.Texts("--partners");
         Findings findings = Judge(description, surroundings);

@@ -36,7 +36,7 @@ std::vector<std::string> RuleNames()
     return names;
 }
 
-Findings Judge(const Description& description, const Surroundings& surroundings)
+Findings Judge(const Description& description, const FolderContext& surroundings)
 {
     Findings findings;
     for (const Family& family : Families())

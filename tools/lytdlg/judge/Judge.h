@@ -9,7 +9,7 @@ namespace lytdlg
 {
 
 // What stands round a description: folders to look into. Read once for all descriptions of a folder.
-struct Surroundings
+struct FolderContext
 {
     std::string folder;                // of the description, without a `\` or `/` at its end; empty for a text alone
     std::vector<std::string> partners; // folders that may hold libraries
@@ -18,7 +18,7 @@ struct Surroundings
 struct Case
 {
     const Description& description;
-    const Surroundings& surroundings;
+    const FolderContext& surroundings;
     Findings& findings;
 };
 
@@ -34,6 +34,6 @@ const Rule* FindRule(const std::string& id);
 std::vector<std::string> RuleNames();
 
 // All findings on a description, in the order of its lines.
-Findings Judge(const Description& description, const Surroundings& surroundings);
+Findings Judge(const Description& description, const FolderContext& surroundings);
 
 } // namespace lytdlg

@@ -1,0 +1,175 @@
+#include "lytdlg/try/ControlState.h"
+
+#include "commandline/Text.h"
+#include "controls/ClytItemControl.h"
+#include "liveform/UserActs.h"
+#include "robot/WindowRobot.h"
+
+#include <algorithm>
+#include <array>
+
+namespace lytdlg
+{
+
+using commandline::Quoted;
+using commandline::ToUtf8;
+
+namespace
+{
+
+constexpr std::array withItems = {"ListBox", "CheckListBox", "DropListBox", "ComboBox"};
+constexpr std::array withValue = {"TextBox", "CheckBox", "OptionGroup", "OptionButton"};
+
+constexpr size_t typeWidth = 13;
+constexpr size_t stateWidth = 9;
+
+template <class WORDS>
+bool IsOneOf(const WORDS& words, const std::string& word)
+{
+    return std::ranges::any_of(words, [&](const char* known) { return word == known; });
+}
+
+std::string Padded(std::string text, size_t width)
+{
+    text.append(text.size() < width ? width - text.size() : 1, ' ');
+    return text;
+}
+
+template <class WINDOW>
+const CStringArray* ValuesOf(const ClytControl& control)
+{
+    const auto* list = dynamic_cast<const ClytItemControl<WINDOW>*>(&control);
+    return list != nullptr ? &list->GetItemValues() : nullptr;
+}
+
+const CStringArray* ItemValuesOf(const ClytControl& control)
+{
+    if (const auto* values = ValuesOf<CListBox>(control))
+        return values;
+    if (const auto* values = ValuesOf<CCheckListBox>(control))
+        return values;
+    return ValuesOf<CComboBox>(control);
+}
+
+std::vector<ItemState> ItemsOf(const ClytControl& control)
+{
+    std::vector<ItemState> items;
+    const auto& window = dynamic_cast<const CWnd&>(control);
+    const CStringArray* values = ItemValuesOf(control);
+    for (const std::string& shown : robot::ItemsOf(window.m_hWnd))
+    {
+        const auto index = static_cast<int>(items.size());
+        const std::string value =
+            values != nullptr && index < values->GetCount() ? values->GetAt(index).GetString() : "";
+        const auto* checkList = dynamic_cast<const CCheckListBox*>(&window);
+        items.push_back({shown, value, checkList != nullptr && checkList->GetCheck(index) == BST_CHECKED});
+    }
+    return items;
+}
+
+// A list without a choice is not asked for its value: it would take the focus.
+std::optional<std::string> ValueOf(const std::string& type, ClytControl& control)
+{
+    const auto* list = dynamic_cast<const CListBox*>(&control);
+    if (list != nullptr && list->GetCurSel() == LB_ERR)
+        return {};
+    if (!HasItems(type) && !HasValue(type))
+        return {};
+    return control.GetValue().GetString();
+}
+
+std::string States(const ControlState& state)
+{
+    return Padded(state.isEnabled ? "enabled" : "disabled", stateWidth) +
+           Padded(state.isShown ? "shown" : "hidden", stateWidth - 2);
+}
+
+std::string DescribeContent(const ControlState& state)
+{
+    if (HasItems(state.type))
+        return (state.value ? Quoted(ToUtf8(*state.value)) : "nothing chosen") + DescribeItems(state);
+    if (state.value)
+        return Quoted(ToUtf8(*state.value)) + (state.isChosen ? " chosen" : "");
+    return state.caption.empty() ? "" : "text " + Quoted(ToUtf8(state.caption));
+}
+
+std::string ShownName(const ControlState& state)
+{
+    return state.name.empty() ? "-" : ToUtf8(state.name);
+}
+
+std::string Describe(const ControlState& state, size_t nameWidth)
+{
+    std::string line =
+        Padded(ShownName(state), nameWidth) + Padded(state.type, typeWidth) + States(state) + DescribeContent(state);
+    line.erase(line.find_last_not_of(' ') + 1);
+    return "  " + line + "\n";
+}
+
+} // namespace
+
+const ControlState* DialogState::Find(const std::string& name) const
+{
+    const auto found = std::ranges::find(controls, name, &ControlState::name);
+    return !name.empty() && found != controls.end() ? &*found : nullptr;
+}
+
+DialogState LookAt(const TrialDialog& dialog)
+{
+    DialogState state{robot::TextOf(dialog.m_hWnd), {}};
+    for (POSITION place = dialog.GetControlList().GetHeadPosition(); place != nullptr;)
+        state.controls.push_back(LookAt(dialog, *dialog.GetControlList().GetNext(place)));
+    return state;
+}
+
+ControlState LookAt(const TrialDialog& dialog, ClytControl& control)
+{
+    const std::string& type = dialog.TypeOf(control);
+    ControlState state{dialog.NameOf(control), type, IsSeenEnabled(control), IsSeen(dialog, control)};
+    state.value = ValueOf(type, control);
+    const auto& window = dynamic_cast<const CWnd&>(control);
+    if (HasItems(type))
+        state.items = ItemsOf(control);
+    else if (!HasValue(type))
+        state.caption = robot::TextOf(window.m_hWnd);
+    if (const auto* button = dynamic_cast<const CButton*>(&window); button != nullptr && type == "OptionButton")
+        state.isChosen = button->GetCheck() == BST_CHECKED;
+    return state;
+}
+
+bool HasItems(const std::string& type)
+{
+    return IsOneOf(withItems, type);
+}
+
+bool HasValue(const std::string& type)
+{
+    return IsOneOf(withValue, type);
+}
+
+std::string Describe(const DialogState& state)
+{
+    std::string text = "dialog " + Quoted(ToUtf8(state.title)) + "\n";
+    size_t nameWidth = 0;
+    for (const ControlState& control : state.controls)
+        nameWidth = std::max(nameWidth, ShownName(control).size() + 1);
+    for (const ControlState& control : state.controls)
+        text += Describe(control, nameWidth);
+    return text;
+}
+
+std::string DescribeItems(const ControlState& state)
+{
+    if (state.items.empty())
+        return ", no items";
+    std::string text = " of ";
+    for (const ItemState& item : state.items)
+    {
+        const std::string mark = state.type != "CheckListBox" ? "" : item.isMarked ? "[x] " : "[ ] ";
+        const std::string shown = item.shown == item.value ? "" : " (" + Quoted(ToUtf8(item.shown)) + ")";
+        text += (&item != &state.items.front() ? ", " : "") + mark + Quoted(ToUtf8(item.value)) + shown;
+    }
+    return text;
+}
+
+} // namespace lytdlg

@@ -1,0 +1,54 @@
+// What a user sees of a dialog at one moment.
+#pragma once
+
+#include "lytdlg/try/TrialDialog.h"
+
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace lytdlg
+{
+
+struct ItemState
+{
+    std::string shown;
+    std::string value;
+    bool isMarked = false; // in a check list
+};
+
+// Texts are in the code page of the dialogs.
+struct ControlState
+{
+    std::string name; // empty for one without
+    std::string type;
+    bool isEnabled = false;
+    bool isShown = false;
+    std::optional<std::string> value = {}; // none for a control without one, and for a list with nothing chosen
+    std::string caption = {};              // of a control that has no value but a text
+    bool isChosen = false;                 // an option button
+    std::vector<ItemState> items = {};
+};
+
+struct DialogState
+{
+    std::string title;
+    std::vector<ControlState> controls; // in layout order
+
+    const ControlState* Find(const std::string& name) const;
+};
+
+// Looks at an open dialog, and changes nothing of it.
+DialogState LookAt(const TrialDialog& dialog);
+// The same of one control.
+ControlState LookAt(const TrialDialog& dialog, ClytControl& control);
+
+// The type words with a list of items, and with a value.
+bool HasItems(const std::string& type);
+bool HasValue(const std::string& type);
+
+// A line for each control, in UTF-8: name, type, states, value or text, items.
+std::string Describe(const DialogState& state);
+std::string DescribeItems(const ControlState& state);
+
+} // namespace lytdlg

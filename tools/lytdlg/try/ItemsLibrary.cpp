@@ -1,0 +1,208 @@
+#include "lytdlg/try/ItemsLibrary.h"
+
+#include "controls/ClytEditControl.h"
+#include "lytdlg/try/LineReader.h"
+
+#include "lyt64.h"
+#include "lytdata.h"
+
+#include <algorithm>
+#include <cstring>
+
+namespace lytdlg
+{
+
+namespace
+{
+
+ItemsLibrary* current = nullptr;
+
+// A library as descriptions name it; its address is its handle. Controls keep the first that they load for the life of
+// the process, and so do these.
+struct KnownLibrary
+{
+    HMODULE real = nullptr; // null when there is no such file
+};
+
+std::map<std::string, KnownLibrary>& KnownLibraries()
+{
+    static std::map<std::string, KnownLibrary> libraries;
+    return libraries;
+}
+
+constexpr const char* ownName = "lyt64";
+
+struct OwnFunction
+{
+    const char* name;
+    lytDataText* function;
+};
+
+constexpr OwnFunction ownFunctions[] = {
+    {"lytOpenTreeView", lytOpenTreeView},
+    {"lytOpenTreeViewPara", lytOpenTreeView},
+};
+
+std::string PlainName(const char* library)
+{
+    std::string name(library);
+    name.erase(0, name.find_last_of("\\/") + 1);
+    std::ranges::transform(name, name.begin(),
+                           [](char ch) { return ch >= 'A' && ch <= 'Z' ? char(ch - 'A' + 'a') : ch; });
+    return name.ends_with(".dll") ? name.substr(0, name.size() - 4) : name;
+}
+
+HMODULE HandleOf(KnownLibrary& library)
+{
+    return reinterpret_cast<HMODULE>(&library);
+}
+
+template <class FUNCTION>
+FARPROC AddressOf(FUNCTION* function)
+{
+    return reinterpret_cast<FARPROC>(reinterpret_cast<void*>(function));
+}
+
+void CopyText(const std::string& text, char* buffer, int size)
+{
+    buffer[text.copy(buffer, static_cast<size_t>(size))] = '\0';
+}
+
+void StartItems(const char* parameter)
+{
+    current->Start(parameter);
+}
+
+int NextItem(char* display, int size, char* value, int valueSize)
+{
+    const LibraryItem* item = current->Next();
+    if (item == nullptr)
+        return 0;
+    CopyText(item->shown, display, size);
+    CopyText(item->value, value, valueSize);
+    return 1;
+}
+
+int TextItem(const char* parameter, char* text, int size)
+{
+    CopyText(current->TextFor(parameter), text, size);
+    return 1;
+}
+
+std::string Trimmed(const std::string& text)
+{
+    const size_t first = text.find_first_not_of(" \t");
+    return first != std::string::npos ? text.substr(first, text.find_last_not_of(" \t") + 1 - first) : "";
+}
+
+LibraryItem ItemOf(const std::string& line)
+{
+    const size_t sign = line.find('=');
+    if (sign == std::string::npos)
+        return {line, line, line};
+    return {Trimmed(line.substr(0, sign)), Trimmed(line.substr(sign + 1)), line};
+}
+
+} // namespace
+
+ItemsFile::ItemsFile(const std::string& name)
+{
+    std::vector<LibraryItem>* section = &m_others;
+    for (const std::string& text : LinesOf(ReadWholeFile(name)))
+    {
+        const std::string line = AnsiOf(Trimmed(text));
+        if (line.empty() || line.front() == '#')
+            continue;
+        if (line.ends_with("->"))
+            section = &m_sections[Trimmed(line.substr(0, line.size() - 2))];
+        else
+            section->push_back(ItemOf(line));
+    }
+}
+
+const std::vector<LibraryItem>& ItemsFile::For(const std::string& parameter) const
+{
+    const auto found = m_sections.find(parameter);
+    return found != m_sections.end() ? found->second : m_others;
+}
+
+ItemsLibrary::ItemsLibrary(const std::vector<ItemsOption>& options)
+{
+    for (const ItemsOption& option : options)
+        m_files.emplace(option.control, ItemsFile(option.file));
+    current = this;
+    lytOwnLibraries = this;
+}
+
+ItemsLibrary::~ItemsLibrary()
+{
+    lytOwnLibraries = nullptr;
+    current = nullptr;
+}
+
+void ItemsLibrary::Asked(const ClytControl& control)
+{
+    const auto found = m_files.find(control.GetName().GetString());
+    m_asking = found != m_files.end() ? &found->second : nullptr;
+    const bool isField = dynamic_cast<const ClytEditControl*>(&control) != nullptr;
+    m_wanted = m_asking == nullptr ? Role::None : isField ? Role::Text : Role::Start;
+}
+
+HMODULE ItemsLibrary::Load(const char* name)
+{
+    const std::string plain = PlainName(name);
+    KnownLibrary& library = KnownLibraries()[plain];
+    const ClytErrorBoxesOff noBoxes;
+    if (library.real == nullptr && plain != ownName)
+        library.real = ::LoadLibraryA(name);
+    const bool isThere = library.real != nullptr || m_wanted != Role::None || plain == ownName;
+    return isThere ? HandleOf(library) : nullptr;
+}
+
+bool ItemsLibrary::Owns(HMODULE library) const
+{
+    return std::ranges::any_of(KnownLibraries(), [&](auto& known) { return HandleOf(known.second) == library; });
+}
+
+FARPROC ItemsLibrary::Find(HMODULE library, const char* function)
+{
+    const Role wanted = m_wanted;
+    m_wanted = wanted == Role::Start ? Role::Next : Role::None;
+    switch (wanted)
+    {
+    case Role::Start: return AddressOf(StartItems);
+    case Role::Next: return AddressOf(NextItem);
+    case Role::Text: return AddressOf(TextItem);
+    case Role::None: break;
+    }
+    for (auto& [name, known] : KnownLibraries())
+    {
+        if (HandleOf(known) != library)
+            continue;
+        const auto* own = std::ranges::find_if(ownFunctions, [&](const OwnFunction& one)
+                                               { return name == ownName && std::strcmp(one.name, function) == 0; });
+        if (own != std::end(ownFunctions))
+            return AddressOf(own->function);
+        return known.real != nullptr ? ::GetProcAddress(known.real, function) : nullptr;
+    }
+    return nullptr;
+}
+
+void ItemsLibrary::Start(const std::string& parameter)
+{
+    m_listing = &m_asking->For(parameter);
+    m_delivered = 0;
+}
+
+const LibraryItem* ItemsLibrary::Next()
+{
+    return m_delivered < m_listing->size() ? &(*m_listing)[m_delivered++] : nullptr;
+}
+
+std::string ItemsLibrary::TextFor(const std::string& parameter) const
+{
+    const std::vector<LibraryItem>& items = m_asking->For(parameter);
+    return items.empty() ? "" : items.front().line;
+}
+
+} // namespace lytdlg

@@ -1,0 +1,203 @@
+#include "lytdlg/try/LineReader.h"
+
+#include "commandline/CommandLine.h"
+#include "commandline/Text.h"
+
+#include <cstdio>
+#include <memory>
+
+namespace lytdlg
+{
+
+namespace
+{
+
+constexpr const char* blanks = " \t\r";
+
+struct CloseFile
+{
+    void operator()(FILE* file) const { std::fclose(file); }
+};
+using OpenFile = std::unique_ptr<FILE, CloseFile>;
+
+// The number of bytes of the UTF-8 character that begins there; 0 when none does.
+size_t LengthOfCharacter(const std::string& text, size_t place)
+{
+    const auto lead = static_cast<unsigned char>(text[place]);
+    const size_t length = lead < 0x80 ? 1 : lead >= 0xF0 ? 4 : lead >= 0xE0 ? 3 : lead >= 0xC2 ? 2 : 0;
+    if (place + length > text.size())
+        return 0;
+    for (size_t next = place + 1; next < place + length; ++next)
+    {
+        if ((static_cast<unsigned char>(text[next]) & 0xC0U) != 0x80U)
+            return 0;
+    }
+    return length;
+}
+
+bool IsUtf8(const std::string& text)
+{
+    for (size_t place = 0; place < text.size();)
+    {
+        const size_t length = LengthOfCharacter(text, place);
+        if (length == 0)
+            return false;
+        place += length;
+    }
+    return true;
+}
+
+} // namespace
+
+FileError::FileError(const LinePlace& place, size_t column, const std::string& message)
+    : std::runtime_error(place.file + ":" + std::to_string(place.line) + ":" + std::to_string(column) +
+                         ": error: " + message)
+{
+}
+
+std::string ReadWholeFile(const std::string& name)
+{
+    const OpenFile file(std::fopen(name.c_str(), "rb"));
+    if (file == nullptr)
+        throw commandline::UsageError("there is no file \"" + name + "\"; check folder and name");
+    std::string text;
+    char buffer[4096];
+    while (const size_t count = std::fread(buffer, 1, sizeof buffer, file.get()))
+        text.append(buffer, count);
+    constexpr const char* byteOrderMark = "\xEF\xBB\xBF";
+    if (text.starts_with(byteOrderMark))
+        text.erase(0, 3);
+    return IsUtf8(text) ? text : commandline::ToUtf8(text);
+}
+
+void WriteWholeFile(const std::string& name, const std::string& text)
+{
+    const OpenFile file(std::fopen(name.c_str(), "wb"));
+    if (file == nullptr || std::fwrite(text.data(), 1, text.size(), file.get()) != text.size())
+        throw std::runtime_error("\"" + name + "\" cannot be written; check its folder and rights");
+}
+
+std::vector<std::string> LinesOf(const std::string& text)
+{
+    std::vector<std::string> lines;
+    for (size_t start = 0; start < text.size();)
+    {
+        const size_t end = std::min(text.find('\n', start), text.size());
+        const size_t length = end - start;
+        lines.push_back(text.substr(start, length > 0 && text[end - 1] == '\r' ? length - 1 : length));
+        start = end + 1;
+    }
+    return lines;
+}
+
+std::string AnsiOf(const std::string& text)
+{
+    return IsUtf8(text) ? commandline::ToAnsi(text) : text;
+}
+
+bool LineReader::IsAtEnd()
+{
+    SkipBlanks();
+    return m_next == m_text.size() || m_text[m_next] == '#';
+}
+
+bool LineReader::Takes(char ch)
+{
+    if (IsAtEnd() || m_text[m_next] != ch)
+        return false;
+    m_start = m_next++;
+    return true;
+}
+
+void LineReader::Expect(char ch, const std::string& wayOut)
+{
+    if (Takes(ch))
+        return;
+    FailAt(m_next + 1, std::string("a '") + ch + "' is missing; " + wayOut);
+}
+
+std::string LineReader::Word(const std::string& what)
+{
+    if (IsAtEnd())
+        FailAt(m_next + 1, what + " is missing; write it here");
+    m_start = m_next;
+    if (m_text[m_next] == '"')
+        return Quoted();
+    m_next = std::min(m_text.find_first_of(" \t\r=:,", m_next), m_text.size());
+    if (m_next == m_start)
+        Fail("'" + m_text.substr(m_start, 1) + "' stands where " + what + " should be; take it away");
+    return m_text.substr(m_start, m_next - m_start);
+}
+
+std::string LineReader::Text()
+{
+    SkipBlanks();
+    m_start = m_next;
+    if (m_next < m_text.size() && m_text[m_next] == '"')
+    {
+        std::string text = Quoted();
+        ExpectEnd();
+        return text;
+    }
+    const size_t last = m_text.find_last_not_of(blanks);
+    m_next = m_text.size();
+    return last != std::string::npos && last >= m_start ? m_text.substr(m_start, last + 1 - m_start) : "";
+}
+
+std::vector<std::string> LineReader::Texts()
+{
+    std::vector<std::string> texts;
+    if (IsAtEnd())
+        return texts;
+    do
+        texts.push_back(Word("a text"));
+    while (Takes(','));
+    ExpectEnd();
+    return texts;
+}
+
+void LineReader::ExpectEnd()
+{
+    if (!IsAtEnd())
+        FailAt(m_next + 1, "\"" + m_text.substr(m_next) +
+                               "\" is too much here; put texts with blanks in quotes, and a "
+                               "comment after a '#'");
+}
+
+void LineReader::Fail(const std::string& message) const
+{
+    FailAt(Column(), message);
+}
+
+void LineReader::FailAt(size_t column, const std::string& message) const
+{
+    throw FileError(m_place, column, message);
+}
+
+void LineReader::SkipBlanks()
+{
+    m_next = std::min(m_text.find_first_not_of(blanks, m_next), m_text.size());
+}
+
+std::string LineReader::Quoted()
+{
+    std::string text;
+    for (size_t place = m_start + 1; place < m_text.size(); ++place)
+    {
+        if (m_text[place] == '"')
+        {
+            m_next = place + 1;
+            return text;
+        }
+        if (m_text[place] != '\\' || place + 1 == m_text.size())
+        {
+            text += m_text[place];
+            continue;
+        }
+        const char escaped = m_text[++place];
+        text += escaped == 'n' ? '\n' : escaped == 'r' ? '\r' : escaped == 't' ? '\t' : escaped;
+    }
+    Fail("the text has no closing quote; end it with a '\"'");
+}
+
+} // namespace lytdlg

@@ -1,0 +1,25 @@
+// Hears what a dialog does without a word, for as long as it lives, and passes on which control asks its library.
+#pragma once
+
+#include "lytdlg/try/ItemsLibrary.h"
+#include "model/ClytObserver.h"
+
+namespace lytdlg
+{
+
+class Listener : public ClytObserver
+{
+public:
+    // The library outlives the listener.
+    explicit Listener(ItemsLibrary& itemsLibrary) : m_items(itemsLibrary) { lytObserver = this; }
+    Listener(const Listener&) = delete;
+    Listener& operator=(const Listener&) = delete;
+    ~Listener() { lytObserver = nullptr; }
+
+    void LibraryAsked(const ClytControl& control) override { m_items.Asked(control); }
+
+private:
+    ItemsLibrary& m_items;
+};
+
+} // namespace lytdlg

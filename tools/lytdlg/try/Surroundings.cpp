@@ -1,0 +1,128 @@
+#include "lytdlg/try/Surroundings.h"
+
+#include "environment/ClytEnvironment.h"
+#include "environment/ProcessState.h"
+#include "lytdlg/try/LineReader.h"
+
+#include <windows.h>
+
+#include <filesystem>
+
+namespace lytdlg
+{
+
+using commandline::UsageError;
+namespace fs = std::filesystem;
+
+namespace
+{
+
+constexpr const char* iniFile = "lyt.ini";
+
+// Where lyt.ini stands near a folder of dialogs; empty when it stands nowhere.
+std::string InitFolderNear(const fs::path& dialogs)
+{
+    for (const fs::path& folder : {dialogs, dialogs.parent_path() / "init", dialogs.parent_path()})
+    {
+        if (fs::exists(folder / iniFile))
+            return folder.string();
+    }
+    return "";
+}
+
+// English, unless there is one other language alone.
+std::string LanguageOf(const fs::path& dialogs)
+{
+    std::vector<std::string> languages;
+    std::error_code noFolder;
+    for (const auto& entry : fs::directory_iterator(dialogs / "lang", noFolder))
+    {
+        if (entry.path().extension() == ".nls")
+            languages.push_back(entry.path().stem().string());
+    }
+    return languages.size() == 1 ? languages.front() : "English";
+}
+
+} // namespace
+
+const std::vector<commandline::OptionForm>& SetupOptions()
+{
+    static const std::vector<commandline::OptionForm> options = {
+        {"--define", "WORD", false, "switch on the lines of a define; may be given again"},
+        {"--language", "NAME", false, "the texts of lang/NAME.nls (as lyt.ini says)"},
+        {"--init", "FOLDER", false, "where lyt.ini is (looked for near the dialogs)"},
+        {"--items", "LIST=FILE", false, "what a data library delivers to a list or field"},
+    };
+    return options;
+}
+
+ItemsOption ItemsOptionOf(const std::string& text)
+{
+    const size_t sign = text.find('=');
+    if (sign == std::string::npos || sign == 0)
+        throw UsageError("option --items needs LIST=FILE after it and not \"" + text + "\"");
+    return {AnsiOf(text.substr(0, sign)), text.substr(sign + 1)};
+}
+
+Setup SetupOf(const commandline::Request& request)
+{
+    Setup setup{request.Operand(0, "")};
+    setup.input = AnsiOf(request.Text("--input", ""));
+    setup.language = AnsiOf(request.Text("--language", ""));
+    setup.initFolder = request.Text("--init", "");
+    for (const std::string& define : request.Texts("--define"))
+        setup.defines.push_back(AnsiOf(define));
+    for (const std::string& items : request.Texts("--items"))
+        setup.items.push_back(ItemsOptionOf(items));
+    return setup;
+}
+
+Surroundings::Surroundings(const Setup& setup)
+{
+    // In full: a configuration file without a folder is looked for in that of the system.
+    const fs::path file = fs::absolute(setup.dialog).lexically_normal();
+    if (!fs::is_regular_file(file))
+        throw UsageError("there is no dialog \"" + setup.dialog + "\"; name a .dlg file with its folder");
+    const fs::path dialogs = file.parent_path();
+    m_descriptionFile = dialogs.string() + "\\" + file.filename().string();
+    std::string init =
+        setup.initFolder.empty() ? InitFolderNear(dialogs) : fs::absolute(setup.initFolder).lexically_normal().string();
+    if (!setup.initFolder.empty() && !fs::exists(fs::path(init) / iniFile))
+        throw UsageError("there is no lyt.ini in \"" + setup.initFolder + "\"; check the folder after --init");
+    if (!setup.language.empty() && !fs::exists(dialogs / "lang" / (setup.language + ".nls")))
+        throw UsageError("there is no lang/" + setup.language + ".nls beside the dialog; check the language");
+    if (init.empty() || !setup.language.empty())
+    {
+        MakeIniFile(init, setup.language.empty() ? LanguageOf(dialogs) : setup.language);
+        init = m_ownFolder;
+    }
+    lytEnvironment.SetDialogPath(dialogs.string().c_str());
+    lytEnvironment.SetInitPath(init.c_str());
+    lytEnvironment.ClearDialogDefine();
+    for (const std::string& define : setup.defines)
+        lytEnvironment.AddDialogDefine(define.c_str());
+}
+
+Surroundings::~Surroundings()
+{
+    lytEnvironment.Reset();
+    lytEnvironment.ClearDialogDefine();
+    lytInputKey.Empty();
+    std::error_code ignored;
+    if (!m_ownFolder.empty())
+        fs::remove_all(m_ownFolder, ignored);
+}
+
+void Surroundings::MakeIniFile(const std::string& source, const std::string& language)
+{
+    m_ownFolder = (fs::temp_directory_path() / ("lytdlg-" + std::to_string(GetCurrentProcessId()))).string();
+    fs::create_directories(m_ownFolder);
+    const std::string copy = m_ownFolder + "\\" + iniFile;
+    std::error_code ignored;
+    if (!source.empty())
+        fs::copy_file(fs::path(source) / iniFile, fs::path(m_ownFolder) / iniFile, ignored);
+    if (!WritePrivateProfileStringA("global", "Current Language", language.c_str(), copy.c_str()))
+        throw std::runtime_error(copy + " cannot be written; make the temporary folder writable");
+}
+
+} // namespace lytdlg

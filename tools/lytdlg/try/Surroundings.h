@@ -1,0 +1,57 @@
+// What a dialog is tried with: its folders, its language, the defines and what stands for its data libraries.
+#pragma once
+
+#include "commandline/CommandLine.h"
+
+#include <string>
+#include <vector>
+
+namespace lytdlg
+{
+
+// What a partner library would deliver to a control.
+struct ItemsOption
+{
+    std::string control;
+    std::string file;
+};
+
+// File names are as the command line has them; other texts are in the code page of the dialogs.
+struct Setup
+{
+    std::string dialog; // path of the description
+    std::string input = {};
+    std::string language = {};   // empty for that of lyt.ini
+    std::string initFolder = {}; // empty for the one near the dialogs
+    std::vector<std::string> defines = {};
+    std::vector<ItemsOption> items = {};
+};
+
+// The options of Setup, and what a command line says of them with the dialog as its first operand.
+const std::vector<commandline::OptionForm>& SetupOptions();
+Setup SetupOf(const commandline::Request& request);
+// "LIST=FILE".
+ItemsOption ItemsOptionOf(const std::string& text);
+
+// The library's environment while it lives.
+class Surroundings
+{
+public:
+    // Without a folder, lyt.ini is looked for beside the dialogs, in the folder `init` beside theirs, and above them; where
+    // there is none, and for another language, one is made for the time.
+    explicit Surroundings(const Setup& setup);
+    Surroundings(const Surroundings&) = delete;
+    Surroundings& operator=(const Surroundings&) = delete;
+    ~Surroundings();
+
+    // The description's name as the library opens it.
+    const std::string& DescriptionFile() const { return m_descriptionFile; }
+
+private:
+    void MakeIniFile(const std::string& source, const std::string& language);
+
+    std::string m_descriptionFile;
+    std::string m_ownFolder; // holds a lyt.ini of its own
+};
+
+} // namespace lytdlg

@@ -1,0 +1,17 @@
+// Carries an act out on the window on top.
+#pragma once
+
+#include "lytdlg/try/Act.h"
+#include "lytdlg/try/TrialDialog.h"
+
+namespace lytdlg
+{
+
+// The dialog is null when the window on top is none that a description makes. Raises UsageError for a name or a value that
+// the dialog does not have, and ActError for what a user could not do.
+void TakeAct(TrialDialog* dialog, const Act& act);
+
+// The control of that name; raises UsageError, which begins with the place, when there is none.
+ClytControl& ControlNamed(const TrialDialog& dialog, const std::string& name, const std::string& place);
+
+} // namespace lytdlg

@@ -1,0 +1,47 @@
+#include "lytdlg/try/TrialDialog.h"
+
+#include "environment/ClytEnvironment.h"
+
+namespace lytdlg
+{
+
+TrialDialog::TrialDialog(const CString& descriptionFile, const CString& defines, TrialWatcher& dialogWatcher)
+    : ClytDialog(descriptionFile, defines), m_file(descriptionFile.GetString()), m_watcher(dialogWatcher)
+{
+}
+
+INT_PTR TrialDialog::Run()
+{
+    m_watcher.Opening(*this);
+    const INT_PTR ending = DoModal();
+    m_watcher.Closed(*this, ending);
+    return ending;
+}
+
+std::optional<CString> TrialDialog::ShowNested(const CString& descriptionFile)
+{
+    TrialDialog nested(descriptionFile, lytEnvironment.GetDialogDefine(), m_watcher);
+    if (nested.Run() != IDOK)
+        return {};
+    return nested.GetResult();
+}
+
+void TrialDialog::Leave()
+{
+    m_isEnding = true;
+    EndDialog(IDCANCEL);
+}
+
+void TrialDialog::ControlMade(const ClytControl& control, const ClytControlStatement& statement)
+{
+    m_types[&control] = statement.type.GetString();
+    m_names[&control] = statement.name.GetString();
+}
+
+void TrialDialog::ShowFailure(CException& failure)
+{
+    m_watcher.Failed(*this, failure);
+    ClytDialog::ShowFailure(failure);
+}
+
+} // namespace lytdlg

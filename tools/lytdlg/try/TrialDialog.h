@@ -1,0 +1,59 @@
+// A described dialog as the library runs it, which tells who watches it what became of it.
+#pragma once
+
+#include "dialog/ClytDialog.h"
+
+#include <map>
+#include <string>
+
+namespace lytdlg
+{
+
+class TrialDialog;
+
+class TrialWatcher
+{
+public:
+    // A dialog is about to be opened, and is gone; one inside the other.
+    virtual void Opening(TrialDialog& dialog) = 0;
+    virtual void Closed(TrialDialog& dialog, INT_PTR result) = 0;
+    // The construction failed; the user is told next.
+    virtual void Failed(const TrialDialog& dialog, const CException& failure) = 0;
+
+protected:
+    ~TrialWatcher() = default;
+};
+
+class TrialDialog : public ClytDialog
+{
+public:
+    // The watcher outlives the dialog.
+    TrialDialog(const CString& descriptionFile, const CString& defines, TrialWatcher& dialogWatcher);
+
+    // DoModal, with the watcher told before and after.
+    INT_PTR Run();
+    std::optional<CString> ShowNested(const CString& descriptionFile) override;
+
+    const std::string& DescriptionFile() const { return m_file; }
+    // The type word of a control.
+    const std::string& TypeOf(const ClytControl& control) const { return m_types.at(&control); }
+    // The name in the layout, which OK and Cancel do not know of themselves.
+    const std::string& NameOf(const ClytControl& control) const { return m_names.at(&control); }
+    // Between the last act and the end of the window.
+    bool IsEnding() const { return m_isEnding; }
+    // Ends the dialog without a result, as closing it does, but past what rules and tree make of that.
+    void Leave();
+
+protected:
+    void ControlMade(const ClytControl& control, const ClytControlStatement& statement) override;
+    void ShowFailure(CException& failure) override;
+
+private:
+    std::string m_file;
+    TrialWatcher& m_watcher;
+    std::map<const ClytControl*, std::string> m_types;
+    std::map<const ClytControl*, std::string> m_names;
+    bool m_isEnding = false;
+};
+
+} // namespace lytdlg
