@@ -96,8 +96,3 @@ TEST_F(EvaluationStatement, FailsInTheClassLibraryWhereAListEndsTooEarly)
     EXPECT_EQ(EvaluationFailure("A(1,\n"), missingArgument);
     EXPECT_EQ(EvaluationFailure("A(1) = B(\n"), missingArgument);
 }
-
-TEST_F(EvaluationStatement, RaisesTheEndOfTheFileWithTheHeaderThatIsMissing)
-{
-    EXPECT_EQ(EvaluationFailure(""), "217 '$INPUT'");
-}

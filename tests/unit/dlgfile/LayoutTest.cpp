@@ -100,11 +100,6 @@ TEST_F(VersionHeader, WithAnyNumberOfOperandsButOneRaises)
     EXPECT_EQ(HeaderFailure("$VERSION\n$LAYOUT\n"), "212 '1'");
 }
 
-TEST_F(VersionHeader, IsNeededAboveTheLayoutLine)
-{
-    EXPECT_EQ(HeaderFailure("$LAYOUT\n"), "213 ''");
-}
-
 TEST_F(VersionHeader, WithoutALayoutLineRaises)
 {
     EXPECT_EQ(HeaderFailure(""), "214 ''");
@@ -255,9 +250,4 @@ TEST_F(ControlStatement, OfWrongFormRaises)
         SCOPED_TRACE(line);
         EXPECT_EQ(ControlFailure(line), "212 '1'");
     }
-}
-
-TEST_F(ControlStatement, RaisesTheEndOfTheFile)
-{
-    EXPECT_EQ(ControlFailure(""), "216 ''");
 }

@@ -149,8 +149,3 @@ TEST_F(OutputStatement, FailsInTheClassLibraryWhereALineEndsTooEarly)
     EXPECT_EQ(OutputFailure("(\"x\", a(b\n"), missingArgument);
     EXPECT_EQ(OutputFailure("(\"x\", a(\n"), missingArgument);
 }
-
-TEST_F(OutputStatement, RaisesTheEndOfTheFileWithTheWordThatIsMissing)
-{
-    EXPECT_EQ(OutputFailure(""), "217 '$END'");
-}

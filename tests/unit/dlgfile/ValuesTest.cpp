@@ -95,11 +95,6 @@ TEST_F(ValueStatement, OfOneTokenRaises)
     EXPECT_EQ(ValueFailure("$DEPENDENCIES\n"), "212 '1'");
 }
 
-TEST_F(ValueStatement, RaisesTheEndOfTheFileWithTheHeaderThatIsMissing)
-{
-    EXPECT_EQ(ValueFailure(""), "217 '$DEPENDANCES'");
-}
-
 TEST_F(DependencyStatement, TakesNameWordAndConditions)
 {
     EXPECT_EQ(Dependency("Ok/ACTIVE = EditName(NOTNULL), Kind(1,2)\n"), "Ok/ACTIVE: EditName(NOTNULL) Kind(1,2)");
@@ -183,9 +178,4 @@ TEST_F(DependencyStatement, FailsInTheClassLibraryWhereALineEndsTooEarly)
     EXPECT_EQ(DependencyFailure("Ok/\n"), missingArgument);
     EXPECT_EQ(DependencyFailure("Ok/ACTIVE = A(1,\n"), missingArgument);
     EXPECT_EQ(DependencyFailure("Ok/ACTIVE = A(\n"), missingArgument);
-}
-
-TEST_F(DependencyStatement, RaisesTheEndOfTheFileWithTheHeaderThatIsMissing)
-{
-    EXPECT_EQ(DependencyFailure(""), "217 '$EVALUATION'");
 }

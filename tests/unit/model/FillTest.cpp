@@ -52,35 +52,24 @@ protected:
 
 } // namespace
 
-TEST_F(ControlFill, SetsThePiece)
+TEST_F(ControlFill, DoesWhatItsWordSays)
 {
-    EXPECT_EQ(Apply("x"), "A.set(x) ");
-    fill.action = "fill";
-    EXPECT_EQ(Apply("x"), "A.set(x) ");
-}
-
-TEST_F(ControlFill, SetsItsFixedValueInsteadOfThePiece)
-{
-    fill.value = "fixed";
-    EXPECT_EQ(Apply("x"), "A.set(fixed) ");
-}
-
-TEST_F(ControlFill, FillsByLibrary)
-{
-    fill.action = "FILL";
-    EXPECT_EQ(Apply("x"), "A.fill() ");
-}
-
-TEST_F(ControlFill, AddsAnItemWithoutAValueOfItsOwn)
-{
-    fill.action = "ADD";
-    EXPECT_EQ(Apply("x"), "A.add(,x,00) ");
-}
-
-TEST_F(ControlFill, ReplacesTheCurrentItem)
-{
-    fill.action = "MODIFY";
-    EXPECT_EQ(Apply("x"), "A.replace(x) ");
+    static const struct
+    {
+        const char* action;
+        const char* value; // fixed, instead of the piece
+        const char* log;
+    } cases[] = {
+        {"", "", "A.set(x) "},     {"fill", "", "A.set(x) "},    {"", "fixed", "A.set(fixed) "},
+        {"FILL", "", "A.fill() "}, {"ADD", "", "A.add(,x,00) "}, {"MODIFY", "", "A.replace(x) "},
+    };
+    for (const auto& c : cases)
+    {
+        SCOPED_TRACE(c.log);
+        fill.action = c.action;
+        fill.value = c.value;
+        EXPECT_EQ(Apply("x"), c.log);
+    }
 }
 
 TEST_F(ControlFill, JoinsItsOperandsAndALineFeedToTheSeparators)

@@ -38,15 +38,6 @@ TEST(Locale, ListsEachValueInOrderUnderItsLabel)
                               }));
 }
 
-TEST(Locale, LabelsForLanguageAndCountryStandTwice)
-{
-    CStringList lines;
-    AddLocaleLines([](unsigned, unsigned) { return ""; }, lines);
-    const Texts texts = TextsOf(lines);
-    EXPECT_EQ(std::count(texts.begin(), texts.end(), "LOCALE.USER.LANGUAGE              = "), 2);
-    EXPECT_EQ(std::count(texts.begin(), texts.end(), "LOCALE.USER.COUNTRY               = "), 2);
-}
-
 TEST(Locale, ValueThatCannotBeReadIsEmpty)
 {
     CStringList lines;

@@ -116,9 +116,3 @@ TEST(MacroSecurity, AnEmptyLocationTrustsNothing)
     EXPECT_EQ(OfLocations("\\", {""}), "\\ is NO trusted location");
     EXPECT_EQ(OfLocations("\\", {"\\"}), "\\ is a trusted location");
 }
-
-TEST(MacroSecurity, HasAKeyOnlyFromVersion9To99)
-{
-    for (const int n : {5, 6, 7, 8, 100})
-        EXPECT_EQ(MacroSecurityKey(n), "");
-}

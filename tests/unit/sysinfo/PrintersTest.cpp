@@ -161,7 +161,7 @@ TEST(Printers, NamesEachPaperByItsNumber)
 }
 // clang-format on
 
-TEST(Printers, ShowsPaperNumbersBehindTheTable)
+TEST(Printers, ShowsPaperNumbersAfterTheTable)
 {
     EXPECT_EQ(PaperNameText(Paper(118)), "118???");
     EXPECT_EQ(PaperNameText(Paper(255)), "255???");
@@ -215,7 +215,7 @@ TEST(Printers, NamesEachDuplexMode)
     EXPECT_EQ(DuplexText(Duplex(3)), "Duplex Horizontal");
 }
 
-TEST(Printers, ShowsDuplexNumbersBehindTheTable)
+TEST(Printers, ShowsDuplexNumbersAfterTheTable)
 {
     EXPECT_EQ(DuplexText(Duplex(4)), "4???");
     EXPECT_EQ(DuplexText(Duplex(5)), "5???");

@@ -24,6 +24,17 @@ void FillHouse(ClytNodeList& nodes)
                 });
 }
 
+// The list is the house, unless a test fills another.
+class NodeSearch : public testing::Test
+{
+protected:
+    NodeSearch() { FillHouse(nodes); }
+
+    ClytNodeList nodes;
+};
+
+using NodeMarks = NodeSearch;
+
 // The label of the node that the text names, "-" when it names none.
 std::string Found(const ClytNodeList& nodes, char kind, const char* text)
 {
@@ -53,68 +64,58 @@ const ClytNode* SearchByWalkingBack(const ClytNodeList& nodes, char kind, const 
 
 } // namespace
 
-TEST(NodeSearch, FindsTheFirstSymbolThatBeginsWithTheText)
+TEST_F(NodeSearch, FindsTheFirstSymbolThatBeginsWithTheText)
 {
-    ClytNodeList nodes;
-    FillHouse(nodes);
     EXPECT_EQ(Found(nodes, 'S', "roof-tin"), "Tin");
     EXPECT_EQ(Found(nodes, 'S', "roof-t"), "Tile");
     EXPECT_EQ(Found(nodes, 'S', "roof-tilers"), "-");
     EXPECT_EQ(Found(nodes, 'S', "Roof-tin"), "-");
 }
 
-TEST(NodeSearch, MovesOnFromAGroupThatHasNoSymbolAbove)
+TEST_F(NodeSearch, MovesOnFromAGroupThatHasNoSymbolAbove)
 {
-    ClytNodeList nodes;
-    FillHouse(nodes);
     EXPECT_EQ(Found(nodes, 'S', "roof"), "Tile");
     EXPECT_EQ(Found(nodes, 'S', "h"), "-");
 }
 
-TEST(NodeSearch, ClimbsFromASymbolToItsGroup)
+TEST_F(NodeSearch, ClimbsFromASymbolToItsGroup)
 {
-    ClytNodeList nodes;
-    FillHouse(nodes);
     EXPECT_EQ(Found(nodes, 'G', "roof-tin"), "Roof");
     EXPECT_EQ(Found(nodes, 'G', "roof"), "Roof");
     EXPECT_EQ(Found(nodes, 'H', "roof-t"), "House");
 }
 
-TEST(NodeSearch, WantsAWholeKeyForGroups)
+TEST_F(NodeSearch, WantsAWholeKeyForGroups)
 {
-    ClytNodeList nodes;
-    FillHouse(nodes);
     EXPECT_EQ(Found(nodes, 'G', "roof-t"), "-");
     EXPECT_EQ(Found(nodes, 'G', "roo"), "-");
 }
 
-TEST(NodeSearch, GoesOnBehindAMatchThatClimbsToTheRoot)
+TEST_F(NodeSearch, GoesOnBehindAMatchThatClimbsToTheRoot)
 {
-    ClytNodeList nodes;
-    Fill(nodes, {
+    ClytNodeList other;
+    Fill(other, {
                     Record(1, LYT_TREE_SYMBOL, "outside", "x"),
                     Record(0, LYT_TREE_GROUP, "group", "g"),
                     Record(1, LYT_TREE_SYMBOL, "inside", "x"),
                 });
-    EXPECT_EQ(Found(nodes, 'G', "x"), "group");
+    EXPECT_EQ(Found(other, 'G', "x"), "group");
 }
 
-TEST(NodeSearch, FindsNothingForAKindThatNoNodeHas)
+TEST_F(NodeSearch, FindsNothingForAKindThatNoNodeHas)
 {
-    ClytNodeList nodes;
-    FillHouse(nodes);
     EXPECT_EQ(Found(nodes, 'W', "roof"), "-");
     EXPECT_EQ(Found(nodes, '\0', "roof"), "-");
 }
 
-TEST(NodeSearch, FindsNothingInAnEmptyList)
+TEST_F(NodeSearch, FindsNothingInAnEmptyList)
 {
     EXPECT_EQ(Found(ClytNodeList(), 'S', "a"), "-");
 }
 
-TEST(NodeSearch, FindsWhatAClimbBackThroughTheListFinds)
+TEST_F(NodeSearch, FindsWhatAClimbBackThroughTheListFinds)
 {
-    // Every shape of five nodes with three levels and all types; keys differ in their last letter only.
+    // Every shape of five other with three levels and all types; keys differ in their last letter only.
     for (unsigned shape = 0; shape < 9U * 9U * 9U * 9U * 9U; shape += 7)
     {
         std::vector<lytTreeRecord> records;
@@ -122,36 +123,30 @@ TEST(NodeSearch, FindsWhatAClimbBackThroughTheListFinds)
         for (char letter = 'a'; letter < 'f'; ++letter, rest /= 9)
             records.push_back(Record(static_cast<int>(rest % 3), static_cast<int>(rest / 3 % 3) + 1, "",
                                      std::string(letter % 2 != 0 ? "k" : "l") + letter));
-        ClytNodeList nodes;
-        Fill(nodes, records);
+        ClytNodeList other;
+        Fill(other, records);
         for (const char kind : {'S', 'G', 'H'})
             for (const char* text : {"k", "l", "kc", "ld", ""})
-                ASSERT_EQ(lytFindNode(nodes, kind, text), SearchByWalkingBack(nodes, kind, text))
+                ASSERT_EQ(lytFindNode(other, kind, text), SearchByWalkingBack(other, kind, text))
                     << shape << kind << text;
     }
 }
 
-TEST(NodeSearch, FindsTheFirstNodeWithAnItem)
+TEST_F(NodeSearch, FindsTheFirstNodeWithAnItem)
 {
-    ClytNodeList nodes;
-    FillHouse(nodes);
     RecordedItems items;
     lytFillFromList(nodes, items, 'S');
     EXPECT_EQ(lytFindNodeByItem(nodes, RecordedItems::Item(3)), &NodeAt(nodes, 2));
     EXPECT_EQ(lytFindNodeByItem(nodes, RecordedItems::Item(99)), nullptr);
 }
 
-TEST(NodeSearch, FindsNoNodeByTheNullItem)
+TEST_F(NodeSearch, FindsNoNodeByTheNullItem)
 {
-    ClytNodeList nodes;
-    FillHouse(nodes);
     EXPECT_EQ(lytFindNodeByItem(nodes, nullptr), nullptr);
 }
 
-TEST(NodeMarks, MoveToOneNode)
+TEST_F(NodeMarks, MoveToOneNode)
 {
-    ClytNodeList nodes;
-    FillHouse(nodes);
     EXPECT_EQ(lytFindCurrentNode(nodes), nullptr);
     lytMarkCurrentNode(nodes, &NodeAt(nodes, 3));
     lytMarkCurrentNode(nodes, &NodeAt(nodes, 1));
@@ -159,10 +154,8 @@ TEST(NodeMarks, MoveToOneNode)
     EXPECT_EQ(NodeAt(nodes, 3).m_nCurrent, 0);
 }
 
-TEST(NodeMarks, RestoreTheNodeSelectedAtOpening)
+TEST_F(NodeMarks, RestoreTheNodeSelectedAtOpening)
 {
-    ClytNodeList nodes;
-    FillHouse(nodes);
     lytMarkInitialNode(nodes, &NodeAt(nodes, 2));
     lytMarkCurrentNode(nodes, &NodeAt(nodes, 4));
     lytRestoreCurrentNode(nodes);
@@ -170,10 +163,8 @@ TEST(NodeMarks, RestoreTheNodeSelectedAtOpening)
     EXPECT_EQ(NodeAt(nodes, 4).m_nCurrent, 0);
 }
 
-TEST(NodeMarks, RestoreToNoneWhenNoneWasSelected)
+TEST_F(NodeMarks, RestoreToNoneWhenNoneWasSelected)
 {
-    ClytNodeList nodes;
-    FillHouse(nodes);
     lytMarkCurrentNode(nodes, &NodeAt(nodes, 4));
     lytRestoreCurrentNode(nodes);
     EXPECT_EQ(lytFindCurrentNode(nodes), nullptr);

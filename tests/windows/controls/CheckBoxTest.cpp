@@ -111,21 +111,3 @@ TEST_F(CheckBox, CountsAsChangedByItsState)
     form.Then([&] { EXPECT_EQ(robot::TextOf(form["Edit"]), ""); });
     form.Ok().Open();
 }
-
-TEST_F(CheckBox, IsAsWideAsItsTextWithRoomForTheMark)
-{
-    form.main.layout = {"CheckBox 8, 6, 400, 90, \"Box\", .Box", "Text Box2"};
-    form.texts["Box2"] = "Box";
-    form.Then(
-        [&]
-        {
-            RECT box = {};
-            GetClientRect(form["Box"], &box);
-            RECT text = {};
-            GetClientRect(form["Box2"], &text);
-            // 28 units at 96 dots per inch.
-            EXPECT_EQ(box.right, text.right + 21);
-            EXPECT_EQ(box.bottom, text.bottom);
-        });
-    form.Ok().Open();
-}

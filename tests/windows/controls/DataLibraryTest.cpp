@@ -92,16 +92,6 @@ TEST_F(DataLibrary, AListWithoutAStatementIs251Too)
     EXPECT_EQ(form.Message().Ok().Open().messages, (Texts{"251 'List'"}));
 }
 
-TEST_F(DataLibrary, AFailedFillReadsAnEmptyValueAndPullsTheFocus)
-{
-    List("ListBox", "no-such-library,Open,NextThree");
-    form.main.layout.emplace_back("Text Label");
-    form.main.rules = {"Label/VISIBLE=List(own)"};
-    ClickFill();
-    form.Then([&] { EXPECT_EQ(GetFocus(), form["List"]); });
-    form.Ok().Open();
-}
-
 TEST_F(DataLibrary, FillsFromTheFirstLibraryThatLoads)
 {
     for (const std::string& kind : classes)

@@ -99,3 +99,26 @@ TEST(EveryControl, TellsWhatItDoesNotOffer)
         EXPECT_EQ(form.Open("x").messages, expected);
     }
 }
+
+TEST(EveryControl, WithAMarkIsAsWideAsItsTextWithRoomForTheMark)
+{
+    Form form;
+    form.main.layout = {"CheckBox 8, 6, 400, 90, \"Box\", .Box", "OptionGroup .Kind",
+                        "OptionButton 8, 40, 100, 90, \"Box\", .Option", "Text Label"};
+    form.texts = {{"Box", "A label"}, {"Label", "A label"}};
+    form.Then(
+        [&]
+        {
+            RECT text = {};
+            GetClientRect(form["Label"], &text);
+            for (const char* name : {"Box", "Option"})
+            {
+                RECT area = {};
+                GetClientRect(form[name], &area);
+                // 28 units at 96 dots per inch.
+                EXPECT_EQ(area.right, text.right + 21) << name;
+                EXPECT_EQ(area.bottom, text.bottom) << name;
+            }
+        });
+    form.Ok().Open();
+}

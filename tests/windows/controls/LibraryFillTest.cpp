@@ -8,51 +8,49 @@ class LibraryFill : public DataLibrary
 {
 };
 
+// Runs once for each kind of list.
+class EachKind : public DataLibrary, public testing::WithParamInterface<std::string>
+{
+protected:
+    const std::string& kind = GetParam();
+};
+
+INSTANTIATE_TEST_SUITE_P(LibraryFill, EachKind, testing::ValuesIn(classes));
+
 } // namespace
 
-TEST_F(LibraryFill, AMissingFunctionEmptiesTheListInSilence)
+TEST_P(EachKind, AMissingFunctionEmptiesTheListInSilence)
 {
     for (const char* functions : {"NoStart,NextThree", "Open,NoNext", "Open", "\"\",\"\""})
     {
-        for (const std::string& kind : classes)
-        {
-            SCOPED_TRACE(kind + functions);
-            List(kind, std::string("nasty,") + functions);
-            ClickFill();
-            ExpectItems({});
-            EXPECT_EQ(form.Ok().Open().messages, Texts{});
-        }
-    }
-}
-
-TEST_F(LibraryFill, TheStartFunctionIsCalledBeforeTheNextFunctionIsLookedUp)
-{
-    for (const std::string& kind : classes)
-    {
-        SCOPED_TRACE(kind);
-        List(kind, "nasty,Open,NoNext,Rule");
-        form.main.layout.insert(form.main.layout.end(), {kind + " Second", "PushButton FillSecond"});
-        form.main.values.insert(form.main.values.end(),
-                                {"Second=FILLEDBY,nasty,OpenAgain,NextEcho", "FillSecond=FILL,Second"});
-        form.main.output = {"(\"done\")", "$OUTPUT, Rule", "(\"from " + kind + "\")"};
-        ClickFill();
-        form.Then([&] { robot::Click(form["FillSecond"]); });
-        form.Then([&] { EXPECT_EQ(robot::ItemsOf(form["Second"]), Texts{"<from " + kind + ">"}); });
-        form.Ok().Open();
-    }
-}
-
-TEST_F(LibraryFill, AListingWithoutItemsLeavesTheListEmptyAndUnselected)
-{
-    for (const std::string& kind : classes)
-    {
-        SCOPED_TRACE(kind);
-        List(kind, "nasty,Open,NextNone");
+        SCOPED_TRACE(functions);
+        List(kind, std::string("nasty,") + functions);
         ClickFill();
         ExpectItems({});
-        ExpectSelected(-1);
-        form.Ok().Open();
+        EXPECT_EQ(form.Ok().Open().messages, Texts{});
     }
+}
+
+TEST_P(EachKind, TheStartFunctionIsCalledBeforeTheNextFunctionIsLookedUp)
+{
+    List(kind, "nasty,Open,NoNext,Rule");
+    form.main.layout.insert(form.main.layout.end(), {kind + " Second", "PushButton FillSecond"});
+    form.main.values.insert(form.main.values.end(),
+                            {"Second=FILLEDBY,nasty,OpenAgain,NextEcho", "FillSecond=FILL,Second"});
+    form.main.output = {"(\"done\")", "$OUTPUT, Rule", "(\"from " + kind + "\")"};
+    ClickFill();
+    form.Then([&] { robot::Click(form["FillSecond"]); });
+    form.Then([&] { EXPECT_EQ(robot::ItemsOf(form["Second"]), Texts{"<from " + kind + ">"}); });
+    form.Ok().Open();
+}
+
+TEST_P(EachKind, AListingWithoutItemsLeavesTheListEmptyAndUnselected)
+{
+    List(kind, "nasty,Open,NextNone");
+    ClickFill();
+    ExpectItems({});
+    ExpectSelected(-1);
+    form.Ok().Open();
 }
 
 TEST_F(LibraryFill, AListThatNothingWasDeliveredToPullsTheFocusWhenItsValueIsRead)
@@ -69,17 +67,13 @@ TEST_F(LibraryFill, AListThatNothingWasDeliveredToPullsTheFocusWhenItsValueIsRea
     }
 }
 
-TEST_F(LibraryFill, BuffersFilledToTheLastByteEndThere)
+TEST_P(EachKind, BuffersFilledToTheLastByteEndThere)
 {
-    for (const std::string& kind : classes)
-    {
-        SCOPED_TRACE(kind);
-        List(kind, "nasty,Open,NextFull");
-        form.main.output = {"(\"%s\", List)"};
-        ClickFill();
-        ExpectItems({std::string(255, 'D')});
-        EXPECT_EQ(form.Ok().Open().text, std::string(255, 'V'));
-    }
+    List(kind, "nasty,Open,NextFull");
+    form.main.output = {"(\"%s\", List)"};
+    ClickFill();
+    ExpectItems({std::string(255, 'D')});
+    EXPECT_EQ(form.Ok().Open().text, std::string(255, 'V'));
 }
 
 TEST_F(LibraryFill, ANextFunctionThatLeavesABufferAloneRepeatsTheTextBefore)
@@ -92,45 +86,34 @@ TEST_F(LibraryFill, ANextFunctionThatLeavesABufferAloneRepeatsTheTextBefore)
     EXPECT_EQ(form.Ok().Open().text, "one-value");
 }
 
-TEST_F(LibraryFill, TheParameterIsComposedByItsRule)
+TEST_P(EachKind, TheParameterIsComposedByItsRule)
 {
-    for (const std::string& kind : classes)
-    {
-        SCOPED_TRACE(kind);
-        List(kind, "nasty,Open,NextEcho,Rule");
-        form.main.values.emplace_back("Edit=text");
-        form.main.output = {"(\"%s\", List)", "$OUTPUT, Rule", "(\"[%s]\", Edit)"};
-        ClickFill();
-        ExpectItems({"<[text]>"});
-        EXPECT_EQ(form.Ok().Open().text, "255/255");
-    }
+    List(kind, "nasty,Open,NextEcho,Rule");
+    form.main.values.emplace_back("Edit=text");
+    form.main.output = {"(\"%s\", List)", "$OUTPUT, Rule", "(\"[%s]\", Edit)"};
+    ClickFill();
+    ExpectItems({"<[text]>"});
+    EXPECT_EQ(form.Ok().Open().text, "255/255");
 }
 
-TEST_F(LibraryFill, WithoutARuleTheParameterIsEmpty)
+TEST_P(EachKind, WithoutARuleTheParameterIsEmpty)
 {
-    for (const std::string& kind : classes)
-    {
-        SCOPED_TRACE(kind);
-        List(kind, "nasty,Open,NextEcho");
-        ClickFill();
-        ExpectItems({"<>"});
-        form.Ok().Open();
-    }
+    List(kind, "nasty,Open,NextEcho");
+    ClickFill();
+    ExpectItems({"<>"});
+    form.Ok().Open();
 }
 
-TEST_F(LibraryFill, ARuleThatIsMissingOrDoesNotApplyEndsTheFillExceptOfACheckList)
+TEST_P(EachKind, ARuleThatIsMissingOrDoesNotApplyEndsTheFillExceptOfACheckList)
 {
     for (const char* rule : {"Missing", "Refusing"})
     {
-        for (const std::string& kind : classes)
-        {
-            SCOPED_TRACE(kind + rule);
-            List(kind, std::string("nasty,Open,NextEcho,") + rule);
-            form.main.output = {"(\"x\")", "$OUTPUT, Refusing", "Edit(never) = (\"y\")"};
-            ClickFill();
-            ExpectItems(kind == "CheckListBox" ? Texts{"<>"} : Texts{});
-            EXPECT_EQ(form.Ok().Open().messages, Texts{});
-        }
+        SCOPED_TRACE(rule);
+        List(kind, std::string("nasty,Open,NextEcho,") + rule);
+        form.main.output = {"(\"x\")", "$OUTPUT, Refusing", "Edit(never) = (\"y\")"};
+        ClickFill();
+        ExpectItems(kind == "CheckListBox" ? Texts{"<>"} : Texts{});
+        EXPECT_EQ(form.Ok().Open().messages, Texts{});
     }
 }
 
@@ -235,55 +218,43 @@ TEST_F(LibraryFill, TheWordFillAsAValueFillsAComboBox)
     form.Ok().Open("FILL");
 }
 
-TEST_F(LibraryFill, AnyOtherActionWordFills)
+TEST_P(EachKind, AnyOtherActionWordFills)
 {
-    for (const std::string& kind : classes)
-    {
-        SCOPED_TRACE(kind);
-        List(kind, "nasty,Open,NextThree");
-        form.main.rules = {"List/FILL=Edit"};
-        form.Then(
-            [&]
-            {
-                robot::SelectItem(form["List"], 0);
-                robot::ReplaceText(form["Edit"], "x");
-            });
-        ExpectItems({"red", "green", "blue"});
-        form.Ok().Open();
-    }
+    List(kind, "nasty,Open,NextThree");
+    form.main.rules = {"List/FILL=Edit"};
+    form.Then(
+        [&]
+        {
+            robot::SelectItem(form["List"], 0);
+            robot::ReplaceText(form["Edit"], "x");
+        });
+    ExpectItems({"red", "green", "blue"});
+    form.Ok().Open();
 }
 
-TEST_F(LibraryFill, TheInputCanFill)
+TEST_P(EachKind, TheInputCanFill)
 {
-    for (const std::string& kind : classes)
-    {
-        SCOPED_TRACE(kind);
-        List(kind, "nasty,Open,NextThree");
-        form.main.input = InputTo("List(FILL)");
-        ExpectItems(kind == "CheckListBox" ? Texts{"red", "green", "blue", "Own"} : Texts{"red", "green", "blue"});
-        form.Ok().Open("x");
-    }
+    List(kind, "nasty,Open,NextThree");
+    form.main.input = InputTo("List(FILL)");
+    ExpectItems(kind == "CheckListBox" ? Texts{"red", "green", "blue", "Own"} : Texts{"red", "green", "blue"});
+    form.Ok().Open("x");
 }
 
-TEST_F(LibraryFill, TakesTenThousandItemsAgainAndAgain)
+TEST_P(EachKind, TakesTenThousandItemsAgainAndAgain)
 {
-    for (const std::string& kind : classes)
-    {
-        SCOPED_TRACE(kind);
-        List(kind, "nasty,Open,NextMany,Rule");
-        form.main.output = {"(\"%s\", List)", "$OUTPUT, Rule", "(\"10000\")"};
-        for (int round = 0; round < 3; ++round)
-            ClickFill();
-        form.Then(
-            [&]
-            {
-                const Texts items = robot::ItemsOf(form["List"]);
-                ASSERT_EQ(items.size(), 10000U);
-                EXPECT_EQ(items.back(), "item 9999");
-                robot::SelectItem(form["List"], 9999);
-            });
-        EXPECT_EQ(form.Ok().Open().text, "item 9999-value");
-    }
+    List(kind, "nasty,Open,NextMany,Rule");
+    form.main.output = {"(\"%s\", List)", "$OUTPUT, Rule", "(\"10000\")"};
+    for (int round = 0; round < 3; ++round)
+        ClickFill();
+    form.Then(
+        [&]
+        {
+            const Texts items = robot::ItemsOf(form["List"]);
+            ASSERT_EQ(items.size(), 10000U);
+            EXPECT_EQ(items.back(), "item 9999");
+            robot::SelectItem(form["List"], 9999);
+        });
+    EXPECT_EQ(form.Ok().Open().text, "item 9999-value");
 }
 
 TEST_F(LibraryFill, TheArrowIsBackAfterAFill)

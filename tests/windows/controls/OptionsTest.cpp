@@ -310,25 +310,6 @@ TEST_F(Options, TabReachesNothingButTheChosenOption)
     form.Ok().Open();
 }
 
-TEST_F(Options, AnOptionButtonIsSizedByItsText)
-{
-    form.main.layout = {"OptionGroup .Kind", "OptionButton 8, 6, 100, 90, \"A\", .A", "Text T"};
-    form.main.values.clear();
-    form.main.output = {"(\"x\")"};
-    form.texts = {{"A", "Label"}, {"T", "Label"}};
-    form.Then(
-        [&]
-        {
-            RECT button = {};
-            GetClientRect(form["A"], &button);
-            RECT text = {};
-            GetClientRect(form["T"], &text);
-            EXPECT_EQ(button.right, text.right + 21);
-            EXPECT_EQ(button.bottom, text.bottom);
-        });
-    form.Ok().Open();
-}
-
 TEST_F(Options, AGroupThatFailsItsEvaluationTakesNoFocus)
 {
     form.main.layout.insert(form.main.layout.begin(), "TextBox Edit");

@@ -55,12 +55,40 @@ TEST_F(Group, ChangedTailGetsItsHeadBack)
         << "bytes 5 to 7 of the key go to the same places, behind the end of the text as well";
 }
 
-TEST_F(Group, ThreeBytesOfTheKeyGoOverThoseOfTheSecondText)
+TEST_F(Group, SplitsTheKeyAndJoinsItAgain)
 {
-    EXPECT_EQ(Edit(1, "KEY01abc(x)", "(y)/123456789"), 1);
-    EXPECT_EQ(scanned, "(x)");
-    EXPECT_EQ(first.Text(), "KEY01abc(y)");
-    EXPECT_EQ(second.Text(), "12345abc9");
+    static const struct
+    {
+        int kind;
+        const char* key;
+        const char* value; // what the field gives back
+        int outcome;
+        const char* first;
+        const char* second;
+        const char* scanned; // what the field was given
+    } cases[] = {
+        // Three bytes of the key go over those of the second text.
+        {1, "KEY01abc(x)", "(y)/123456789", 1, "KEY01abc(y)", "12345abc9", "(x)"},
+        // An empty tail occurs in any input of kind 0.
+        {0, "xBNGy(a)", "no separator", 2, "", "", "(a)"},
+        {1, "xBNGy(a)", "no separator", 1, "xBNGy", "", "(a)"},
+        // A tail inside the input is no change for kind 0 only.
+        {0, "BNG(a)(b)", "(b)/1", 2, "(b)", "1", "(a)(b)"},
+        {1, "BNG(a)(b)", "(b)/1", 1, "BNG(b)", "1", "(a)(b)"},
+        // Kind 1 splits any key; one without a bracket has no head, and an empty one is not split.
+        {1, "head(a)", "(a)/1", 2, "(a)", "1", "(a)"},
+        {1, "BNG", "(a)/1", 1, "(a)", "1", "BNG"},
+        {1, "", "(a)/1", 1, "(a)", "1", ""},
+        {1, nullptr, "(a)/1", 1, "(a)", "1", ""},
+    };
+    for (const auto& c : cases)
+    {
+        SCOPED_TRACE(testing::Message() << c.kind << " " << (c.key != nullptr ? c.key : "null"));
+        EXPECT_EQ(Edit(c.kind, c.key, c.value), c.outcome);
+        EXPECT_EQ(first.Text(), c.first);
+        EXPECT_EQ(second.Text(), c.second);
+        EXPECT_EQ(scanned, c.scanned);
+    }
 }
 
 TEST_F(Group, ShortKeyAndShortSecondBufferAreLeftAlone)
@@ -96,20 +124,6 @@ TEST_F(Group, ResultWithoutTheSeparatorGivesTwoEmptyTexts)
     EXPECT_EQ(second.Text(), "");
 }
 
-TEST_F(Group, EmptyTailOccursInAnyInputOfKind0)
-{
-    EXPECT_EQ(Edit(0, "xBNGy(a)", "no separator"), 2);
-    EXPECT_EQ(Edit(1, "xBNGy(a)", "no separator"), 1);
-    EXPECT_EQ(first.Text(), "xBNGy");
-}
-
-TEST_F(Group, TailInsideTheInputIsNoChangeForKind0Only)
-{
-    EXPECT_EQ(Edit(0, "BNG(a)(b)", "(b)/1"), 2);
-    EXPECT_EQ(Edit(1, "BNG(a)(b)", "(b)/1"), 1);
-    EXPECT_EQ(first.Text(), "BNG(b)");
-}
-
 TEST_F(Group, Kind2TakesTheOtherDescriptionAndSplitsOnlyAtTheMark)
 {
     Description other;
@@ -119,26 +133,6 @@ TEST_F(Group, Kind2TakesTheOtherDescriptionAndSplitsOnlyAtTheMark)
     EXPECT_EQ(scanned, "head(a)");
     EXPECT_EQ(Edit(2, "BNG(a)", "(a)/1"), 2);
     EXPECT_EQ(scanned, "(a)");
-}
-
-TEST_F(Group, Kind1SplitsAnyKey)
-{
-    EXPECT_EQ(Edit(1, "head(a)", "(a)/1"), 2);
-    EXPECT_EQ(scanned, "(a)");
-}
-
-TEST_F(Group, SplitKeyWithoutABracketHasNoHead)
-{
-    EXPECT_EQ(Edit(1, "BNG", "(a)/1"), 1);
-    EXPECT_EQ(scanned, "BNG");
-    EXPECT_EQ(first.Text(), "(a)");
-}
-
-TEST_F(Group, EmptyKeyIsNeverSplit)
-{
-    EXPECT_EQ(Edit(1, "", "(a)/1"), 1);
-    EXPECT_EQ(first.Text(), "(a)");
-    EXPECT_EQ(Edit(1, nullptr, "(a)/1"), 1) << "null stands for an empty key";
 }
 
 TEST_F(Group, EmptyResultLeavesBothBuffersAndTheTailIsTakenFromTheFirst)

@@ -78,16 +78,3 @@ TEST_F(EnvironmentExports, ReleaseTwiceFindsEverythingEmpty)
     EXPECT_EQ(getPath(buffer.Data(), buffer.Size()), 0);
     EXPECT_EQ(getDocName(buffer.Data(), buffer.Size()), 0);
 }
-
-TEST_F(EnvironmentExports, KeepsCursorAndCurrentFolderOfTheHost)
-{
-    HCURSOR cursor = LoadCursorA(nullptr, IDC_CROSS);
-    SetCursor(cursor);
-    char before[MAX_PATH] = "";
-    GetCurrentDirectoryA(sizeof before, before);
-    initialise("doc.rtf", "", "");
-    char after[MAX_PATH] = "";
-    GetCurrentDirectoryA(sizeof after, after);
-    EXPECT_EQ(GetCursor(), cursor);
-    EXPECT_STREQ(before, after);
-}

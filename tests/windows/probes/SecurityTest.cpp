@@ -34,13 +34,6 @@ TEST_F(Security, OfVersion11WithoutItsKeyIsWords)
     EXPECT_EQ(lytProbeMacroSecurity(11), ("Cannot open registry key " + level).c_str());
 }
 
-TEST_F(Security, OfOldVersionsDoesNotApply)
-{
-    EXPECT_EQ(lytProbeMacroSecurity(6), "N/A in Word 6.0");
-    EXPECT_EQ(lytProbeMacroSecurity(7), "N/A in Word 7.0/95");
-    EXPECT_EQ(lytProbeMacroSecurity(8), "N/A in Word 8.0/97");
-}
-
 TEST_F(Security, TrustsTheInstallationBelowAnySubkey)
 {
     Install("C:\\lyt");

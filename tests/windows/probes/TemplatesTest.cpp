@@ -17,28 +17,6 @@ const std::string office = "Software\\Microsoft\\Office\\";
 
 } // namespace
 
-TEST_F(Templates, OfVersion6StandInOneKey)
-{
-    const std::string key = "Software\\Microsoft\\Word\\6.0\\Options";
-    SetText(key, "USER-DOT-PATH", "C:\\user");
-    SetText(key, "WORKGROUP-DOT-PATH", "C:\\group");
-    SetText(key, "STARTUP-PATH", "C:\\start");
-    EXPECT_EQ(lytProbeUserTemplates(6), "C:\\user");
-    EXPECT_EQ(lytProbeWorkgroupTemplates(6), "C:\\group");
-    EXPECT_EQ(lytProbeStartup(6), "C:\\start");
-}
-
-TEST_F(Templates, OfVersion7AreDefaultValuesOfSubkeys)
-{
-    const std::string key = "Software\\Microsoft\\Microsoft Office\\95\\FileNew";
-    SetText(key + "\\LocalTemplates", "", "C:\\user");
-    SetText(key + "\\SharedTemplates", "", "C:\\group");
-    SetText("Software\\Microsoft\\Word\\7.0\\Options", "STARTUP-PATH", "C:\\start");
-    EXPECT_EQ(lytProbeUserTemplates(7), "C:\\user");
-    EXPECT_EQ(lytProbeWorkgroupTemplates(7), "C:\\group");
-    EXPECT_EQ(lytProbeStartup(7), "C:\\start");
-}
-
 TEST_F(Templates, OfVersion8AreDefaultValuesOfSubkeys)
 {
     const std::string key = office + "8.0\\Common\\FileNew";

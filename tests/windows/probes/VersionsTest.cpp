@@ -48,14 +48,6 @@ TEST_F(WordVersions, AreEmptyOnAMachineWithoutAWordProcessor)
     EXPECT_EQ(lytEnvironment.lytWordVersions, "");
 }
 
-TEST_F(WordVersions, EndAtANameAheadOfTheDigits)
-{
-    AddWord("6.0");
-    AddOffice("!Common");
-    AddOffice("16.0");
-    EXPECT_EQ(lytProbeWordVersions(), "6.0");
-}
-
 TEST_F(WordVersions, EndAtANameOfMoreThanNineCharacters)
 {
     AddOffice("12.0");
@@ -90,19 +82,6 @@ TEST_F(WordCurrent, TellsNoBitsWithoutAProgram)
     EXPECT_EQ(lytProbeWordCurrent(), "16.0");
     SetWordProgram(folder.Path() + "\\none.exe");
     EXPECT_EQ(lytProbeWordCurrent(), "16.0");
-}
-
-TEST_F(WordCurrent, BelowVersion14TellsNoBits)
-{
-    SetWordProgram(OwnFile());
-    SetCurrentVersion("Word.Application.11");
-    EXPECT_EQ(lytProbeWordCurrent(), "11.0");
-}
-
-TEST_F(WordCurrent, TakesTheWholeOfATextWithoutADot)
-{
-    SetCurrentVersion("12");
-    EXPECT_EQ(lytProbeWordCurrent(), "12.0");
 }
 
 TEST_F(WordCurrent, TakesTheFirstValueWhateverItsName)

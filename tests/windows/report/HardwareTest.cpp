@@ -111,20 +111,6 @@ TEST_F(Hardware, LeavesOutAProcessorNameOfMoreThan256Bytes)
     EXPECT_FALSE(HasLine(Report(), "CPU Name"));
 }
 
-TEST_F(Hardware, ShowsMemoryInMegabytes)
-{
-    MEMORYSTATUSEX memory = {};
-    memory.dwLength = sizeof memory;
-    ASSERT_TRUE(GlobalMemoryStatusEx(&memory));
-    const Texts lines = Report();
-    ExpectNear(lines, "Total physical memory : ", memory.ullTotalPhys);
-    ExpectNear(lines, "Free physical memory  : ", memory.ullAvailPhys);
-    ExpectNear(lines, "Total paging file     : ", memory.ullTotalPageFile);
-    ExpectNear(lines, "Free paging file      : ", memory.ullAvailPageFile);
-    ExpectNear(lines, "Total virtual memory  : ", memory.ullTotalVirtual);
-    ExpectNear(lines, "Free virtual memory   : ", memory.ullAvailVirtual);
-}
-
 TEST_F(Hardware, TellsTheSixMemoryFiguresApart)
 {
     const ImportHook hook(GetModuleHandleA("lyt64"), "GlobalMemoryStatusEx", TellMemory);

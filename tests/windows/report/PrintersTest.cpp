@@ -41,45 +41,11 @@ TEST_F(Printers, ShowsA4InTwoWays)
               "  Printer: Test on LPT1: (LYT Test Driver), Duplex Vertical, A4 210 x 297 mm, 210mm x 297mm");
 }
 
-TEST_F(Printers, ShowsPaper118AsANumber)
-{
-    DEVMODEA mode = PrinterMode(DM_PAPERSIZE);
-    mode.dmPaperSize = 118;
-    mode.dmPaperWidth = 1001;
-    mode.dmPaperLength = 999;
-    EXPECT_EQ(LineWith(mode), "  Printer: Test on LPT1: (LYT Test Driver), no duplex info, 118???, 100mm x 99mm");
-}
-
-TEST_F(Printers, CallsPaper256UserDefined)
-{
-    DEVMODEA mode = PrinterMode(DM_PAPERSIZE);
-    mode.dmPaperSize = 256;
-    mode.dmPaperWidth = 1055;
-    mode.dmPaperLength = 2409;
-    EXPECT_EQ(LineWith(mode),
-              "  Printer: Test on LPT1: (LYT Test Driver), no duplex info, User defined, 105mm x 240mm");
-}
-
 TEST_F(Printers, ShowsANegativePaperAsANumber)
 {
     DEVMODEA mode = PrinterMode(DM_PAPERSIZE);
     mode.dmPaperSize = -7;
     EXPECT_EQ(LineWith(mode), "  Printer: Test on LPT1: (LYT Test Driver), no duplex info, -7???, 0mm x 0mm");
-}
-
-TEST_F(Printers, ShowsDuplex5AsANumber)
-{
-    DEVMODEA mode = PrinterMode(DM_DUPLEX);
-    mode.dmDuplex = 5;
-    EXPECT_EQ(LineWith(mode), "  Printer: Test on LPT1: (LYT Test Driver), 5???, no paper info, ");
-}
-
-TEST_F(Printers, PaperWithUnusualLettersKeepsItsBytes)
-{
-    DEVMODEA mode = PrinterMode(DM_PAPERSIZE);
-    mode.dmPaperSize = 22;
-    EXPECT_EQ(LineWith(mode),
-              "  Printer: Test on LPT1: (LYT Test Driver), no duplex info, Envelope #12 4 \xBE x 11, 0mm x 0mm");
 }
 
 TEST_F(Printers, ListsEachPrinter)

@@ -43,43 +43,6 @@ TEST_F(ReportStore, NextReportStartsAfresh)
     EXPECT_EQ(Report().size(), count);
 }
 
-TEST_F(ReportStore, ReadPastTheEndFreesIt)
-{
-    gather("");
-    EXPECT_EQ(Read(100000), 0);
-    EXPECT_EQ(Read(0), 0);
-}
-
-TEST_F(ReportStore, NegativeIndexFreesIt)
-{
-    gather("");
-    EXPECT_EQ(Read(-1), 0);
-    EXPECT_EQ(Read(0), 0);
-}
-
-TEST_F(ReportStore, CutsALongLineTo255CharactersAndANul)
-{
-    const EnvironmentVariable path("PATH", std::string(400, 'x').c_str());
-    const size_t index = FindLine(Report(), "PATH    :");
-    gather("");
-    GuardedBuffer target(256);
-    EXPECT_EQ(readLine(static_cast<int>(index), target.Data(), target.Size()), 1);
-    EXPECT_EQ(target.Text(), "PATH    :" + std::string(255 - 9, 'x'));
-    EXPECT_EQ(target.Data()[255], '\0');
-    EXPECT_TRUE(target.IsIntact());
-}
-
-TEST_F(ReportStore, RefusesBuffersThatHoldNothingAndStays)
-{
-    gather("");
-    char line[16] = "untouched";
-    EXPECT_EQ(readLine(0, nullptr, 16), 0);
-    EXPECT_EQ(readLine(100000, line, 0), 0);
-    EXPECT_EQ(readLine(100000, line, -5), 0);
-    EXPECT_STREQ(line, "untouched");
-    EXPECT_EQ(Read(0), 1);
-}
-
 TEST_F(ReportStore, TakesNullForNoDirectory)
 {
     EXPECT_TRUE(HasLine(Report(nullptr), "LYT Directory Tree ()"));

@@ -45,34 +45,6 @@ TEST_F(SearchPath, ListsTheResourceLibrariesOfEachDirectory)
                      Lower(installed) + "\\LytRes1.dll"}));
 }
 
-TEST_F(SearchPath, ListsTheInstallationDirectoryOnceWhenThePathNamesIt)
-{
-    const std::string installed = InstallInto("Installed");
-    WriteIni("");
-    WriteLibrary("Installed", "LytRes1.dll");
-    const EnvironmentVariable path("PATH", ("C:\\nothing;" + Lower(installed)).c_str());
-    EXPECT_EQ(FilesFound(), Texts{Lower(installed) + "\\LytRes1.dll"});
-}
-
-TEST_F(SearchPath, EmptyPieceHidesWhatStandsBehindIt)
-{
-    const std::string installed = InstallInto("Installed");
-    WriteIni("");
-    WriteLibrary("Installed", "LytRes1.dll");
-    const EnvironmentVariable path("PATH", ("C:\\nothing;;" + Lower(installed)).c_str());
-    EXPECT_EQ(FilesFound(), Texts{});
-}
-
-TEST_F(SearchPath, IsBuiltFromTheWordsForAMissingPath)
-{
-    const std::string installed = InstallInto("Installed");
-    WriteIni("");
-    WriteLibrary("Installed", "LytRes1.dll");
-    const EnvironmentVariable path("PATH", nullptr);
-    EXPECT_EQ(FilesFound(), Texts{Lower(installed) + "\\LytRes1.dll"});
-    EXPECT_TRUE(HasLine(Report(), "PATH    :Value not set."));
-}
-
 TEST_F(SearchPath, ConfigurationFileThatIsThereAddsNoLine)
 {
     WriteIni("[paths]\r\nGUI-HOME=C:\\gui\r\n");

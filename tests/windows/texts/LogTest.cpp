@@ -1,37 +1,6 @@
-#include "TextsFixture.h"
-
-#include "environment/ClytException.h"
+#include "LogFixture.h"
 
 #include <regex>
-#include <windows.h>
-
-namespace
-{
-
-class LogFile : public TextsFixture
-{
-protected:
-    void SetLevel(const std::string& level) const { WriteIni("[LogLevel]\r\nlevel=" + level + "\r\n"); }
-
-    // The message of the exception that a call of the export lets out.
-    std::string Failure(const char* text, int level) const
-    {
-        try
-        {
-            writeToLog(text, level);
-        }
-        catch (ClytException* e)
-        {
-            char message[75] = "";
-            e->GetErrorMessage(message, sizeof message);
-            e->Delete();
-            return message;
-        }
-        return "";
-    }
-};
-
-} // namespace
 
 TEST_F(LogFile, StaysUnbornWithLevel0)
 {
@@ -93,41 +62,6 @@ TEST_F(LogFile, ThatCannotBeOpenedRaises207ToTheCaller)
     EXPECT_EQ(Failure("text", 1), "The file was not found: none\\doc.log\nopen 'none\\doc.log'");
 }
 
-TEST_F(LogFile, ThatAnotherProgramKeepsToItselfRaises207)
-{
-    SetLevel("1");
-    WriteTexts("[Dialog_Error]\r\n207=open\r\n");
-    const std::string log = folder.Write("doc.log", "");
-    HANDLE other = CreateFileA(log.c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr);
-    ASSERT_NE(other, INVALID_HANDLE_VALUE);
-    EXPECT_EQ(Failure("text", 1).substr(0, 19), "Access was denied: ");
-    CloseHandle(other);
-    EXPECT_EQ(Failure("text", 1), "");
-}
-
-TEST_F(LogFile, WithAFolderInItsPlaceRaises207)
-{
-    SetLevel("1");
-    CreateDirectoryA(folder.File("doc.log").c_str(), nullptr);
-    EXPECT_EQ(Failure("text", 1).substr(0, 19), "Access was denied: ");
-}
-
-TEST_F(LogFile, ItsErrorsAreCaughtWithoutTheirTypeToo)
-{
-    SetLevel("1");
-    initialise("none\\doc.rtf", folder.Path().c_str(), folder.Path().c_str());
-    bool caught = false;
-    try
-    {
-        writeToLog("text", 1);
-    }
-    catch (...)
-    {
-        caught = true;
-    }
-    EXPECT_TRUE(caught);
-}
-
 TEST_F(LogFile, WorksAgainAfterAHundredFailures)
 {
     SetLevel("1");
@@ -139,13 +73,4 @@ TEST_F(LogFile, WorksAgainAfterAHundredFailures)
     SetDocument("doc.rtf");
     EXPECT_EQ(Failure("text", 1), "");
     EXPECT_TRUE(folder.Has("doc.log"));
-}
-
-TEST_F(LogFile, IsClosedAfterEachMessage)
-{
-    SetLevel("1");
-    writeToLog("text", 1);
-    HANDLE alone = CreateFileA(folder.File("doc.log").c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr);
-    EXPECT_NE(alone, INVALID_HANDLE_VALUE);
-    CloseHandle(alone);
 }
