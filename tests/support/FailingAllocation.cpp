@@ -1,6 +1,6 @@
 #include "support/FailingAllocation.h"
 
-#include <cstdlib>
+#include <cstddef>
 
 namespace
 {
@@ -10,7 +10,13 @@ constexpr int never = -1;
 int allocationsLeft = never;
 bool hasFailed = false;
 
-void* Allocate(std::size_t size)
+} // namespace
+
+// The linker puts the first in the place of `operator new` wherever that is called, and the second is what it was.
+extern "C" void* AllocateOrFail(std::size_t size) __asm__("__wrap__Znwy");
+extern "C" void* Allocate(std::size_t size) __asm__("__real__Znwy");
+
+void* AllocateOrFail(std::size_t size)
 {
     if (allocationsLeft == 0)
     {
@@ -20,13 +26,8 @@ void* Allocate(std::size_t size)
     }
     if (allocationsLeft > 0)
         --allocationsLeft;
-    void* memory = std::malloc(size != 0 ? size : 1);
-    if (memory == nullptr)
-        throw std::bad_alloc();
-    return memory;
+    return Allocate(size);
 }
-
-} // namespace
 
 FailingAllocation::FailingAllocation(int allocationsBefore)
 {
@@ -42,34 +43,4 @@ FailingAllocation::~FailingAllocation()
 bool FailingAllocation::HasFailed()
 {
     return hasFailed;
-}
-
-void* operator new(std::size_t size)
-{
-    return Allocate(size);
-}
-
-void* operator new[](std::size_t size)
-{
-    return Allocate(size);
-}
-
-void operator delete(void* memory) noexcept
-{
-    std::free(memory);
-}
-
-void operator delete[](void* memory) noexcept
-{
-    std::free(memory);
-}
-
-void operator delete(void* memory, std::size_t /*size*/) noexcept
-{
-    std::free(memory);
-}
-
-void operator delete[](void* memory, std::size_t /*size*/) noexcept
-{
-    std::free(memory);
 }
