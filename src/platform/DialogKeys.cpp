@@ -11,11 +11,6 @@ namespace platform
 namespace
 {
 
-bool HasCode(HWND window, UINT code, WPARAM key = 0)
-{
-    return (SendMessageA(window, WM_GETDLGCODE, key, 0) & code) != 0;
-}
-
 void Press(const DialogWindow& dialog, int id, HWND button)
 {
     SendMessageA(dialog.handle, WM_COMMAND, MAKEWPARAM(id, BN_CLICKED), reinterpret_cast<LPARAM>(button));

@@ -8,20 +8,10 @@
 namespace platform
 {
 
-namespace
+bool HasCode(HWND window, UINT codes, WPARAM key)
 {
-
-LRESULT CodesOf(HWND window)
-{
-    return SendMessageA(window, WM_GETDLGCODE, 0, 0);
+    return (SendMessageA(window, WM_GETDLGCODE, key, 0) & codes) != 0;
 }
-
-bool HasCode(HWND window, UINT code)
-{
-    return (CodesOf(window) & code) != 0;
-}
-
-} // namespace
 
 // A frame that can be sized keeps room for the buttons of the caption.
 SIZE DialogWindow::Adjusted(SIZE wanted) const

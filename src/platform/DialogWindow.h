@@ -45,4 +45,7 @@ private:
     HWND m_savedFocus = nullptr;     // while the dialog is not active
 };
 
+// Whether a control wants one of these inputs, or is of one of these kinds (DLGC_...); what it wants may depend on the key.
+bool HasCode(HWND window, UINT codes, WPARAM key = 0);
+
 } // namespace platform
