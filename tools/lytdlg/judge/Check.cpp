@@ -49,6 +49,14 @@ std::vector<std::string> DescriptionsOf(const std::string& path)
     return found;
 }
 
+std::string FolderOf(const std::string& operand)
+{
+    if (operand == "-" || std::filesystem::is_directory(operand))
+        return operand == "-" ? "" : operand;
+    const std::string folder = std::filesystem::path(operand).parent_path().string();
+    return folder.empty() ? "." : folder;
+}
+
 std::unique_ptr<Report> ReportFor(const std::string& format)
 {
     static const std::vector<std::pair<std::string, std::unique_ptr<Report> (*)()>> formats = {
@@ -73,13 +81,10 @@ public:
             m_known = Baseline(asked.Text("--baseline", ""));
     }
 
-    void JudgeAt(const std::string& path)
+    void JudgeAt(const std::string& path, const Surroundings& surroundings)
     {
         const std::string bytes = path == "-" ? ReadAll(std::cin) : ReadFile(path);
         const Description description(path, bytes, m_request.Texts("--define"));
-        FolderContext surroundings;
-        surroundings.folder = path == "-" ? "" : std::filesystem::path(path).parent_path().string();
-        surroundings.partners = m_request.Texts("--partners");
         Findings findings = Judge(description, surroundings);
         m_found.Add(description, findings);
         m_known.Subtract(description, findings);
@@ -149,8 +154,9 @@ ExitCode Check(const Request& request)
     Checker checker(request);
     for (const std::string& operand : request.operands)
     {
+        const Surroundings surroundings = SurroundingsOf(FolderOf(operand), request.Texts("--partners"));
         for (const std::string& path : DescriptionsOf(operand))
-            checker.JudgeAt(path);
+            checker.JudgeAt(path, surroundings);
     }
     return checker.End();
 }

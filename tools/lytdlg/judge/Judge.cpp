@@ -6,6 +6,11 @@
 namespace lytdlg
 {
 
+Surroundings SurroundingsOf(const std::string& folder, const std::vector<std::string>& partners)
+{
+    return {folder, partners, LanguageFiles(folder)};
+}
+
 const std::vector<Family>& Families()
 {
     static const std::vector<Family> families = {SectionRules(), IgnoreRules()};
@@ -36,7 +41,7 @@ std::vector<std::string> RuleNames()
     return names;
 }
 
-Findings Judge(const Description& description, const FolderContext& surroundings)
+Findings Judge(const Description& description, const Surroundings& surroundings)
 {
     Findings findings;
     for (const Family& family : Families())

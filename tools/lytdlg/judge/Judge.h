@@ -4,21 +4,25 @@
 
 #include "lytdlg/judge/Description.h"
 #include "lytdlg/judge/Finding.h"
+#include "lytdlg/text/LanguageFiles.h"
 
 namespace lytdlg
 {
 
-// What stands round a description: folders to look into. Read once for all descriptions of a folder.
-struct FolderContext
+// What stands round a description. Read once for all descriptions of a folder.
+struct Surroundings
 {
     std::string folder;                // of the description, without a `\` or `/` at its end; empty for a text alone
     std::vector<std::string> partners; // folders that may hold libraries
+    LanguageFiles texts;
 };
+
+Surroundings SurroundingsOf(const std::string& folder, const std::vector<std::string>& partners);
 
 struct Case
 {
     const Description& description;
-    const FolderContext& surroundings;
+    const Surroundings& surroundings;
     Findings& findings;
 };
 
@@ -34,6 +38,6 @@ const Rule* FindRule(const std::string& id);
 std::vector<std::string> RuleNames();
 
 // All findings on a description, in the order of its lines.
-Findings Judge(const Description& description, const FolderContext& surroundings);
+Findings Judge(const Description& description, const Surroundings& surroundings);
 
 } // namespace lytdlg

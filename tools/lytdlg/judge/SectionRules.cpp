@@ -25,8 +25,8 @@ constexpr Rule missing = {
     "A section has no header.",
     "Every section must be there, in the fixed order, also when it is empty. Without its header the\n"
     "library reads on to the end of the file and refuses it.",
-    "",
-    ""};
+    "-$END",
+    "$END"};
 
 constexpr Rule order = {
     "section-order",
@@ -34,8 +34,8 @@ constexpr Rule order = {
     "A section does not stand in its place.",
     "The sections stand in one fixed order: $VERSION, $LAYOUT, $VALUES, $DEPENDANCES, $EVALUATION,\n"
     "$INPUT, $OUTPUT, $END. A header in another place is read as a statement of the section above it.",
-    "",
-    ""};
+    "$DEPENDANCES\n    $VALUES",
+    "$DEPENDANCES"};
 
 void JudgeFalseHeaders(const Case& judged)
 {

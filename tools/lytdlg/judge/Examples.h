@@ -1,0 +1,32 @@
+// What the rules show as wrong and right, as a whole description.
+//
+// An example is a few lines, put into a small description against which nothing can be said:
+//
+//     $VALUES             a header: the lines below it go into its section. When it reads otherwise than the header of the
+//     Mark = HIDDEN       section does, it takes its place; one that names another part or group opens it at the end.
+//     -Mark = HIDDEN      takes that line away
+//     Begin Dialog ...    takes the place of the line that begins so; a statement of $INPUT that of the same name
+//
+// New controls stand above OKButton (the part of the dialog from 500 to the right is free), new output rules above those
+// that are there, other lines below. Lines above the first header begin the file. {NUL} stands for that byte, {LONG} for
+// 400 letters, and {CUT} is where the file ends.
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace lytdlg
+{
+
+std::string ExampleDescription(const std::string& lines);
+
+struct ExampleFile
+{
+    const char* name; // below the folder of the description
+    const char* content;
+};
+
+// What stands beside the description: texts for it, and a dialog that a button may open.
+const std::vector<ExampleFile>& ExampleFiles();
+
+} // namespace lytdlg
