@@ -3,7 +3,7 @@
 #pragma once
 
 #include "base/PartnerLibrary.h"
-#include "lytdlg/try/Surroundings.h"
+#include "lytdlg/try/TrialEnvironment.h"
 #include "model/ClytObserver.h"
 
 #include <map>

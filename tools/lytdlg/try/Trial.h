@@ -4,7 +4,7 @@
 #include "lytdlg/try/Act.h"
 #include "lytdlg/try/ControlState.h"
 #include "lytdlg/try/ItemsLibrary.h"
-#include "lytdlg/try/Surroundings.h"
+#include "lytdlg/try/TrialEnvironment.h"
 #include "robot/WindowRobot.h"
 
 #include <deque>
@@ -83,7 +83,7 @@ private:
     void LookAtAll();
     void DoOn(TrialDialog& dialog, const Act& act);
 
-    Surroundings m_surroundings;
+    TrialEnvironment m_surroundings;
     ItemsLibrary& m_items;
     CString m_input;
     robot::Robot m_robot;

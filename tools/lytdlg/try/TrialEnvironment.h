@@ -34,15 +34,15 @@ Setup SetupOf(const commandline::Request& request);
 ItemsOption ItemsOptionOf(const std::string& text);
 
 // The library's environment while it lives.
-class Surroundings
+class TrialEnvironment
 {
 public:
     // Without a folder, lyt.ini is looked for beside the dialogs, in the folder `init` beside theirs, and above them; where
     // there is none, and for another language, one is made for the time.
-    explicit Surroundings(const Setup& setup);
-    Surroundings(const Surroundings&) = delete;
-    Surroundings& operator=(const Surroundings&) = delete;
-    ~Surroundings();
+    explicit TrialEnvironment(const Setup& setup);
+    TrialEnvironment(const TrialEnvironment&) = delete;
+    TrialEnvironment& operator=(const TrialEnvironment&) = delete;
+    ~TrialEnvironment();
 
     // The description's name as the library opens it.
     const std::string& DescriptionFile() const { return m_descriptionFile; }

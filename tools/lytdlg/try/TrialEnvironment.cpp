@@ -1,4 +1,4 @@
-#include "lytdlg/try/Surroundings.h"
+#include "lytdlg/try/TrialEnvironment.h"
 
 #include "environment/ClytEnvironment.h"
 #include "environment/ProcessState.h"
@@ -77,7 +77,7 @@ Setup SetupOf(const commandline::Request& request)
     return setup;
 }
 
-Surroundings::Surroundings(const Setup& setup)
+TrialEnvironment::TrialEnvironment(const Setup& setup)
 {
     // In full: a configuration file without a folder is looked for in that of the system.
     const fs::path file = fs::absolute(setup.dialog).lexically_normal();
@@ -103,7 +103,7 @@ Surroundings::Surroundings(const Setup& setup)
         lytEnvironment.AddDialogDefine(define.c_str());
 }
 
-Surroundings::~Surroundings()
+TrialEnvironment::~TrialEnvironment()
 {
     lytEnvironment.Reset();
     lytEnvironment.ClearDialogDefine();
@@ -113,7 +113,7 @@ Surroundings::~Surroundings()
         fs::remove_all(m_ownFolder, ignored);
 }
 
-void Surroundings::MakeIniFile(const std::string& source, const std::string& language)
+void TrialEnvironment::MakeIniFile(const std::string& source, const std::string& language)
 {
     m_ownFolder = (fs::temp_directory_path() / ("lytdlg-" + std::to_string(GetCurrentProcessId()))).string();
     fs::create_directories(m_ownFolder);
