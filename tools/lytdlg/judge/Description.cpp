@@ -1,5 +1,7 @@
 #include "lytdlg/judge/Description.h"
 
+#include "commandline/Suggestion.h"
+#include "lytdlg/judge/LineTokens.h"
 #include "lytdlg/judge/SectionReader.h"
 
 #include <algorithm>
@@ -37,6 +39,14 @@ std::vector<const SourceLine*> Body(const DescriptionText& text, Section section
     if (!lines.empty() && lines.front()->isHeader)
         lines.erase(lines.begin());
     return lines;
+}
+
+// A line that was meant to begin the dialog.
+bool IsDialogLine(const DescriptionText& text, int line)
+{
+    const std::vector<LineToken> words = TokensOf(text.Line(line).text, Section::Layout);
+    return !words.empty() && (commandline::IsClose(words[0].text, "Begin") ||
+                              (words.size() > 1 && commandline::IsClose(words[1].text, "Dialog")));
 }
 
 } // namespace
@@ -79,27 +89,41 @@ ClytSpan Description::PlaceOf(int line) const
 
 void Description::ReadLayout()
 {
-    std::vector<const SourceLine*> lines = text.LinesOf(Section::Head);
     const std::vector<const SourceLine*> layout = text.LinesOf(Section::Layout);
-    lines.insert(lines.end(), layout.begin(), layout.end());
+    const bool hasHeader = text.HeaderOf(Section::Layout) != nullptr;
+    std::vector<const SourceLine*> lines = hasHeader ? text.LinesOf(Section::Head) : layout;
+    if (hasHeader)
+        lines.insert(lines.end(), layout.begin(), layout.end());
     SectionReader file(lines, WordOf(Section::Values), mistakes);
 
     CString version;
-    if (file.ReadVersionHeader(version) == 0)
+    if (hasHeader && file.ReadVersionHeader(version) == 0)
         return;
     layoutWords = HeaderWords(file);
     CString caption;
     CString lastText;
+    const size_t mistakesBefore = mistakes.size();
     hasDialogHeader = file.ReadDialogHeader(width, height, caption, lastText) != 0;
     title = caption.GetString();
     dialogHeader = file.GetLinePlace();
+    if (mistakes.size() == mistakesBefore || mistakes.back().number != "215" || IsDialogLine(text, dialogHeader.line))
+    {
+        ReadControls(file);
+        return;
+    }
+    // The line that should have been the dialog's is a control.
+    const auto first = std::ranges::find(lines, dialogHeader.line, &SourceLine::number);
+    SectionReader rest({first, lines.end()}, WordOf(Section::Values), mistakes);
+    ReadControls(rest);
+}
 
+void Description::ReadControls(ClytDialogFile& file)
+{
     ClytControlStatement statement;
     while (file.ReadControlStatement(statement) != 0)
     {
-        if (statement.type.IsEmpty())
-            continue;
-        controls.push_back(statement);
+        if (!statement.type.IsEmpty())
+            controls.push_back(statement);
     }
 }
 
@@ -118,11 +142,9 @@ void Description::ReadValues()
 
 void Description::ReadDependencies()
 {
-    // The last line is the header of the next section, as the file has it.
+    // The last line is the header of the next section: its words come from the reader.
     std::vector<const SourceLine*> lines = Body(text, Section::Dependencies);
-    const SourceLine* header = text.HeaderOf(Section::Evaluation);
-    const bool isHeaderRight = header != nullptr && header->text.find(WordOf(Section::Evaluation)) != std::string::npos;
-    if (isHeaderRight)
+    if (const SourceLine* header = text.HeaderOf(Section::Evaluation))
         lines.push_back(header);
     SectionReader file(lines, WordOf(Section::Evaluation), mistakes);
     auto rule = std::make_unique<ClytControlDep>();

@@ -63,7 +63,7 @@ public:
 
     // The words after $LAYOUT, the text section first.
     std::vector<std::string> layoutWords;
-    bool hasDialogHeader = false;
+    bool hasDialogHeader = false; // the line Begin Dialog is there, whatever is wrong with its numbers
     int width = 0;
     int height = 0;
     std::string title;
@@ -87,6 +87,7 @@ public:
 
 private:
     void ReadLayout();
+    void ReadControls(ClytDialogFile& file);
     void ReadValues();
     void ReadDependencies();
     void ReadEvaluations();

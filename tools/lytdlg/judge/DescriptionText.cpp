@@ -1,9 +1,12 @@
 #include "lytdlg/judge/DescriptionText.h"
 
 #include "commandline/Suggestion.h"
+#include "dlgfile/Tokenize.h"
 
 #include <algorithm>
 #include <cctype>
+#include <cstring>
+#include <optional>
 
 namespace lytdlg
 {
@@ -16,6 +19,7 @@ constexpr const char* words[] = {"$VERSION",    "$LAYOUT", "$VALUES", "$DEPENDAN
 // A line is read in pieces of this length, and each counts.
 constexpr size_t pieceLength = 399;
 constexpr char endOfText = 0x1A;
+constexpr const char* byteOrderMark = "\xEF\xBB\xBF";
 
 std::string Upper(std::string text)
 {
@@ -23,42 +27,65 @@ std::string Upper(std::string text)
     return text;
 }
 
-// Headers are few and unlike each other, so a word that is close to one was meant as it.
-bool IsLike(const std::string& word, const char* header)
-{
-    const std::string upper = Upper(word);
-    return upper == header || "$" + upper == header || commandline::IsClose(upper, header);
-}
-
 // The first word of a line, as the reader of a section takes it.
 struct HeaderWord
 {
     std::string text;
     int column = 0;
-    bool isAlone = false; // nothing but a comment follows it
+    bool isAlone = false; // no other word follows it
+    std::string next;     // the word after it
 };
+
+// Cheaper than a look at the words: most lines are none.
+bool MayHoldHeader(const std::string& line)
+{
+    const size_t start = line.find_first_not_of(" \t");
+    if (start == std::string::npos)
+        return false;
+    const auto isCapital = [](unsigned char ch) { return std::isupper(ch) != 0 || std::isspace(ch) != 0; };
+    return line[start] == '$' || line[start] == '"' || line.compare(start, 5, "Begin") == 0 ||
+           std::all_of(line.begin(), line.end(), isCapital);
+}
 
 HeaderWord HeaderWordOf(const std::string& line, Section section)
 {
-    const size_t start = line.find_first_not_of(" \t");
-    if (start == std::string::npos || line[start] == ';')
+    if (!MayHoldHeader(line))
         return {};
-    const bool isBlankAnEnd = section == Section::Head || section == Section::Layout;
-    const size_t end = std::min(line.find_first_of(isBlankAnEnd ? " ,\t();:=<>/" : ",\t():;=<>/", start), line.size());
-    std::string text = line.substr(start, end - start);
-    text.erase(text.find_last_not_of(' ') + 1);
-    const size_t next = line.find_first_not_of(" \t", end);
-    return {text, static_cast<int>(start), next == std::string::npos || line[next] == ';'};
+    ClytTokenList tokens;
+    static_cast<void>(lytTokenize(line.c_str(), DelimitersOf(section), tokens));
+    if (tokens.IsEmpty())
+        return {};
+    HeaderWord word = {tokens.GetHead().GetText().GetString(), tokens.GetHead().GetColumn(), tokens.GetCount() == 1, ""};
+    if (!word.isAlone)
+        word.next = tokens.GetAt(tokens.FindIndex(1)).GetText().GetString();
+    return word;
 }
 
-// A word with a `$` is meant as a header, and so is one that stands alone. A blank ends the word of a header only where
-// blanks separate.
-bool IsMeantAs(const HeaderWord& word, Section section)
+// The section whose header a word was meant to be. A word with a `$` is meant as one, and so is one in capitals that
+// stands alone. A blank ends the word of a header only where blanks separate.
+std::optional<Section> MeantBy(const HeaderWord& word, Section present)
 {
-    const std::string first = word.text.substr(0, word.text.find(' '));
-    if (first.empty() || (first.front() != '$' && !(word.isAlone && first == word.text)))
-        return false;
-    return IsLike(first, WordOf(section));
+    std::string first = word.text.substr(0, word.text.find(' '));
+    const bool hasSign = first.starts_with('$');
+    if (first.empty() || (!hasSign && (!word.isAlone || first != word.text || first != Upper(first))))
+        return std::nullopt;
+    if (!hasSign && present == Section::Head)
+        return std::nullopt;
+    first = (hasSign ? "" : "$") + Upper(first);
+    static const std::vector<std::string> known(std::begin(words), std::end(words));
+    const auto place = std::ranges::find(known, commandline::Nearest(first, known));
+    if (place == known.end())
+        return std::nullopt;
+    return allSections[place - known.begin()];
+}
+
+// The header as it should be: a comma ends its word where a blank does not.
+std::string CorrectHeader(const HeaderWord& word, Section section)
+{
+    const size_t blank = word.text.find(' ');
+    const std::string name = blank != std::string::npos ? word.text.substr(blank + 1) : word.next;
+    const char* const separator = section <= Section::Layout ? " " : ", ";
+    return WordOf(section) + (name.empty() ? "" : separator + name);
 }
 
 int PiecesOf(const std::string& text)
@@ -73,12 +100,29 @@ const char* WordOf(Section section)
     return words[static_cast<size_t>(section)];
 }
 
-DescriptionText::DescriptionText(const std::string& bytes, const std::vector<std::string>& defines)
+const DelimiterSet& DelimitersOf(Section section)
 {
-    SplitLines(bytes.substr(0, bytes.find(endOfText)));
-    m_hasEndMark = bytes.find(endOfText) != std::string::npos;
-    ApplyDefines(defines);
+    static constexpr DelimiterSet delimiters[] = {
+        DelimiterSet(" ,\t\n();:"), DelimiterSet(" ,\t\n;"),   DelimiterSet("=,\t\n();:"), DelimiterSet("=,\t\n()/"),
+        DelimiterSet("=,\t\n():;"), DelimiterSet("=,\t\n():;"), DelimiterSet("=,\n():<>"),  DelimiterSet("\n")};
+    return delimiters[static_cast<size_t>(section)];
+}
+
+DescriptionText::DescriptionText(const std::string& bytes, const std::vector<std::string>& defines) : m_defines(defines)
+{
+    m_hasByteOrderMark = bytes.starts_with(byteOrderMark);
+    const size_t start = m_hasByteOrderMark ? std::strlen(byteOrderMark) : 0;
+    const size_t end = bytes.find(endOfText, start);
+    SplitLines(bytes.substr(start, end - start));
+    m_hasEndMark = end != std::string::npos;
+    m_hasTextAfterEndMark = m_hasEndMark && bytes.find_first_not_of("\x1A \t\r\n", end) != std::string::npos;
+    ApplyDefines();
     FindSections();
+}
+
+bool DescriptionText::IsDefined(const std::string& name) const
+{
+    return std::ranges::find(m_defines, name) != m_defines.end();
 }
 
 const SourceLine& DescriptionText::Line(int number) const
@@ -123,7 +167,7 @@ void DescriptionText::SplitLines(const std::string& bytes)
     }
 }
 
-void DescriptionText::ApplyDefines(const std::vector<std::string>& defines)
+void DescriptionText::ApplyDefines()
 {
     bool isActive = true;
     int counted = 0;
@@ -134,7 +178,7 @@ void DescriptionText::ApplyDefines(const std::vector<std::string>& defines)
         {
             const size_t start = line.text.starts_with("<!") ? 2 : 1;
             const std::string name = line.text.substr(start, line.text.find_first_of(" \t;", start) - start);
-            isActive = (std::ranges::find(defines, name) != defines.end()) == (start == 1);
+            isActive = IsDefined(name) == (start == 1);
             if (std::ranges::find(m_defineNames, name) == m_defineNames.end())
                 m_defineNames.push_back(name);
         }
@@ -160,9 +204,14 @@ void DescriptionText::FindSections()
 }
 
 // A line that was meant as a header counts as one here, so that what follows it is judged as what it was meant to be.
+// Without a line $LAYOUT the layout begins with the dialog.
 Section DescriptionText::Opened(SourceLine& line, Section present)
 {
     const HeaderWord word = HeaderWordOf(line.text, present);
+    if (word.text.empty())
+        return present;
+    if (present == Section::Head && word.text == "Begin" && word.next == "Dialog")
+        return Section::Layout;
     for (const Section section : allSections)
     {
         if (word.text != WordOf(section) || (section == Section::Head && present != Section::Head))
@@ -170,11 +219,13 @@ Section DescriptionText::Opened(SourceLine& line, Section present)
         line.isHeader = true;
         return section;
     }
-    const auto meant = std::ranges::find_if(allSections, [&](Section section) { return IsMeantAs(word, section); });
-    if (meant == std::end(allSections) || *meant == Section::Head)
+    const std::optional<Section> meant = MeantBy(word, present);
+    if (!meant || (*meant == Section::Head && present != Section::Head))
         return present;
-    line.isHeader = true;
-    m_falseHeaders.push_back({*meant, word.text, {line.number, word.column, static_cast<int>(word.text.size())}});
+    line.isHeader = *meant != Section::Head;
+    line.meant = CorrectHeader(word, *meant);
+    m_falseHeaders.push_back({*meant, present, word.text, line.meant,
+                              {line.number, word.column, static_cast<int>(word.text.size())}});
     return *meant;
 }
 

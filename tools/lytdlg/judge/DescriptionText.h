@@ -3,6 +3,7 @@
 #pragma once
 
 #include "base/ClytSpan.h"
+#include "dlgfile/DelimiterSet.h"
 
 #include <string>
 #include <vector>
@@ -29,6 +30,8 @@ inline constexpr Section allSections[] = {Section::Head,       Section::Layout, 
 
 // The word that opens a section; "$VERSION" for the head, which must hold that word.
 const char* WordOf(Section section);
+// The characters that end a word in the statements of a section.
+const DelimiterSet& DelimitersOf(Section section);
 
 struct SourceLine
 {
@@ -38,13 +41,16 @@ struct SourceLine
     bool isRead = true;              // the defines leave it in, and it is no mark itself
     Section section = Section::Head; // in which it stands; a header stands in its own
     bool isHeader = false;           // it opens its section, or a further part of it
+    std::string meant;               // what a header was meant to be; empty when it is right, or no header
 };
 
 // A line that was meant as a header and is none, since its word is misspelt or goes on after a blank.
 struct FalseHeader
 {
-    Section section = Section::Head;
-    std::string word; // as the library reads it
+    Section section = Section::Head; // that it was meant to open
+    Section present = Section::Head; // that it is read as a statement of
+    std::string word;                // as the library reads it
+    std::string meant;               // the whole line as it should be
     ClytSpan place;
 };
 
@@ -60,6 +66,7 @@ public:
     const std::vector<FalseHeader>& FalseHeaders() const { return m_falseHeaders; }
     // The names that lines are switched by, each once.
     const std::vector<std::string>& DefineNames() const { return m_defineNames; }
+    bool IsDefined(const std::string& name) const;
     // The line that opens a section first; null when none does.
     const SourceLine* HeaderOf(Section section) const;
     // The lines of a section that are read, its header and those of its parts among them.
@@ -67,19 +74,26 @@ public:
     bool EndsWithLineEnd() const { return m_endsWithLineEnd; }
     // What stands after a Ctrl-Z, which ends the text, is not read.
     bool HasEndMark() const { return m_hasEndMark; }
+    // Whether more than blanks stand after it.
+    bool HasTextAfterEndMark() const { return m_hasTextAfterEndMark; }
+    // The mark that some editors put before a text in UTF-8. The library takes it for letters; it is not in the lines.
+    bool HasByteOrderMark() const { return m_hasByteOrderMark; }
 
 private:
     void SplitLines(const std::string& bytes);
-    void ApplyDefines(const std::vector<std::string>& defines);
+    void ApplyDefines();
     void FindSections();
     // The section that the line opens; the present one when it opens none.
     Section Opened(SourceLine& line, Section present);
 
     std::vector<SourceLine> m_lines;
     std::vector<FalseHeader> m_falseHeaders;
+    std::vector<std::string> m_defines;
     std::vector<std::string> m_defineNames;
     bool m_endsWithLineEnd = true;
     bool m_hasEndMark = false;
+    bool m_hasTextAfterEndMark = false;
+    bool m_hasByteOrderMark = false;
 };
 
 } // namespace lytdlg

@@ -19,7 +19,9 @@ int SectionReader::TakeLine(char* buffer, UINT count)
     if (m_line > m_lines.size())
         return 0;
     const bool isEnd = m_line == m_lines.size();
-    const std::string& line = isEnd ? m_endLine : m_lines[m_line]->text;
+    const std::string& line = isEnd                             ? m_endLine
+                              : m_lines[m_line]->meant.empty() ? m_lines[m_line]->text
+                                                               : m_lines[m_line]->meant;
     const size_t length = std::min<size_t>(line.size() + 1 - m_column, count);
     for (size_t index = 0; index < length; ++index)
         buffer[index] = m_column + index < line.size() ? line[m_column + index] : '\n';

@@ -1,5 +1,8 @@
 #include "lytdlg/judge/SectionRules.h"
 
+#include "commandline/Suggestion.h"
+#include "lytdlg/judge/LineTokens.h"
+
 #include <algorithm>
 
 namespace lytdlg
@@ -37,30 +40,121 @@ constexpr Rule order = {
     "$DEPENDANCES\n    $VALUES",
     "$DEPENDANCES"};
 
+constexpr Rule dialogLine = {
+    "dialog-header",
+    Level::Error,
+    "The line Begin Dialog is missing or has the wrong form.",
+    "After $LAYOUT the first line says how large the dialog is and which text is its title. It has seven words:\n"
+    "Begin Dialog Box WIDTH, HEIGHT, \"TITLE\", .NAME. The third and the last are not used, but must be there.",
+    "Begin Dialog 760, 420, \"Title\", .Main",
+    "Begin Dialog Box 760, 420, \"Title\", .Main"};
+
+constexpr Rule textSection = {
+    "layout-without-texts",
+    Level::Warning,
+    "The line $LAYOUT names no section of the language file, and so the dialog shows no texts.",
+    "Titles and captions are keys of a section of the language file, never the texts themselves. The\n"
+    "word after $LAYOUT names the section.",
+    "$LAYOUT",
+    "$LAYOUT Example"};
+
+constexpr Rule evaluationWord = {"evaluation-without-word",
+                                 Level::Error,
+                                 "No word follows $EVALUATION.",
+                                 "The word after $EVALUATION must be there, and says nothing: any word will do.",
+                                 "$EVALUATION",
+                                 "$EVALUATION, x"};
+
+constexpr Rule parentPart = {
+    "input-parent",
+    Level::Error,
+    "No input part is named parent.",
+    "The part parent runs when the dialog opens. Without it the dialog does not open. Upper and lower case\n"
+    "differ. A header $INPUT without a name opens the part parent, too.",
+    "$INPUT, Parent",
+    "$INPUT, parent"};
+
+// What the library shows at a line that it reads as a statement of the section above; nothing where it may pass as one.
+std::string NumberWithin(Section above)
+{
+    return above == Section::Values ? "" : "212";
+}
+
 void JudgeFalseHeaders(const Case& judged)
 {
     for (const FalseHeader& header : judged.description.text.FalseHeaders())
     {
-        const std::string word = WordOf(header.section);
-        const bool isBlank = header.word.starts_with(word + " ");
-        judged.findings.Add(misspelt, header.place, "\"" + header.word + "\" opens no section",
-                            isBlank ? "a blank does not end the word; write \"" + word + ", " +
-                                          header.word.substr(header.word.find_last_of(' ') + 1) + "\""
-                                    : "did you mean \"" + word + "\"?");
+        // Free text may stand above the version.
+        if (header.section == Section::Head && judged.description.text.HeaderOf(Section::Head) != nullptr)
+            continue;
+        const bool isBlank = header.word.starts_with(std::string(WordOf(header.section)) + " ");
+        Finding& finding = judged.findings.Add(misspelt, header.place, "\"" + header.word + "\" opens no section",
+                                               (isBlank ? "a blank does not end the word; write \"" + header.meant + "\""
+                                                        : "did you mean \"" + header.meant + "\"?"));
+        finding.number = header.present != Section::Head     ? NumberWithin(header.present)
+                         : header.section == Section::Layout ? "214"
+                                                             : "213";
     }
 }
 
+bool HasHeader(const DescriptionText& text, Section section)
+{
+    return text.HeaderOf(section) != nullptr ||
+           std::ranges::any_of(text.FalseHeaders(),
+                               [&](const FalseHeader& header) { return header.section == section; });
+}
+
+// Where the first section after a missing one begins; the last line when none does.
+int LineAfter(const DescriptionText& text, Section section)
+{
+    const auto next = std::ranges::find_if(text.Lines(), [&](const SourceLine& line)
+                                           { return line.isRead && line.section >= section; });
+    if (next != text.Lines().end())
+        return next->number;
+    return text.Lines().empty() ? 1 : text.Lines().back().number;
+}
+
+std::string NumberOfMissing(const DescriptionText& text, Section section)
+{
+    if (section == Section::Head && HasHeader(text, Section::Layout))
+        return "213";
+    if (section <= Section::Layout)
+        return "214";
+    const auto above = static_cast<Section>(static_cast<int>(section) - 1);
+    for (auto next = section; next != Section::End;)
+    {
+        next = static_cast<Section>(static_cast<int>(next) + 1);
+        if (HasHeader(text, next))
+            return NumberWithin(above);
+    }
+    return above == Section::Layout ? "216" : "217";
+}
+
+// Sections that are missing side by side have one finding.
 void JudgeMissing(const Case& judged)
 {
     const DescriptionText& text = judged.description.text;
+    bool isAboveMissing = false;
     for (const Section section : allSections)
     {
-        if (text.HeaderOf(section) != nullptr)
+        const bool isMissing = !HasHeader(text, section);
+        const bool isFirst = isMissing && !isAboveMissing;
+        isAboveMissing = isMissing;
+        if (!isFirst)
             continue;
-        const int last = text.Lines().empty() ? 1 : text.Lines().back().number;
-        judged.findings.Add(missing, judged.description.PlaceOf(last),
-                            std::string("the line \"") + WordOf(section) + "\" is missing",
-                            "add it, also when its section is empty");
+        std::string names;
+        int count = 0;
+        for (Section each = section; !HasHeader(text, each); each = static_cast<Section>(static_cast<int>(each) + 1))
+        {
+            names += (count++ == 0 ? "\"" : "\", \"") + std::string(WordOf(each));
+            if (each == Section::End)
+                break;
+        }
+        judged.findings
+            .Add(missing, judged.description.PlaceOf(LineAfter(text, section)),
+                 count == 1 ? "the line " + names + "\" is missing" : "the lines " + names + "\" are missing",
+                 "every section must be there, also when it is empty")
+            .number = NumberOfMissing(text, section);
     }
 }
 
@@ -73,23 +167,95 @@ void JudgeOrder(const Case& judged)
             continue;
         const bool mayRepeat = line.section == Section::Input || line.section == Section::Output;
         if (line.section < above || (line.section == above && !mayRepeat && line.section != Section::Head))
-            judged.findings.Add(order, judged.description.PlaceOf(line.number),
-                                std::string("\"") + WordOf(line.section) + "\" stands after \"" + WordOf(above) + "\"",
-                                "move the section to its place, or take the second header away");
+            judged.findings
+                .Add(order, judged.description.PlaceOf(line.number),
+                     std::string("\"") + WordOf(line.section) + "\" stands after \"" + WordOf(above) + "\"",
+                     "move the section to its place, or take the second header away")
+                .number = NumberWithin(above);
         above = std::max(above, line.section);
     }
+}
+
+void AddDialogLine(const Case& judged, const ClytSpan& place, const char* number, std::string message)
+{
+    judged.findings.Add(dialogLine, place, std::move(message), "write: Begin Dialog Box WIDTH, HEIGHT, \"TITLE\", .NAME")
+        .number = number;
+}
+
+void JudgeDialogLine(const Case& judged)
+{
+    const Description& description = judged.description;
+    if (!HasHeader(description.text, Section::Layout) || description.dialogHeader.line == 0)
+        return;
+    const int line = description.dialogHeader.line;
+    const std::vector<LineToken> words = TokensOf(description.text.Line(line).text, Section::Layout);
+    const ClytSpan place = description.PlaceOf(line);
+    if (words.empty() || words[0].text != "Begin")
+    {
+        const bool isMeant = !words.empty() && commandline::IsClose(words[0].text, "Begin");
+        AddDialogLine(judged, place, "215",
+                      isMeant ? "\"" + words[0].text + "\" does not begin a dialog"
+                              : "the line \"Begin Dialog\" is missing before this one");
+    }
+    else if (!description.hasDialogHeader)
+        AddDialogLine(judged, description.PlaceOf(line, words[1].text, words[1].column), "205",
+                      "\"" + words[1].text + "\" stands where \"Dialog\" must stand");
+    else if (std::ranges::any_of(description.mistakes,
+                                 [&](const Mistake& mistake)
+                                 { return mistake.place.line == line && mistake.number == "212"; }))
+        AddDialogLine(judged, place, "212",
+                      "the line has " + std::to_string(words.size()) + (words.size() == 1 ? " word" : " words") +
+                          ", and not seven");
+}
+
+void JudgeHeaderWords(const Case& judged)
+{
+    const Description& description = judged.description;
+    const bool hasTexts = !description.title.empty() ||
+                          std::ranges::any_of(description.controls, [](const ClytControlStatement& control)
+                                              { return !control.text.IsEmpty(); });
+    const SourceLine* layout = description.text.HeaderOf(Section::Layout);
+    if (layout != nullptr && description.layoutWords.empty() && hasTexts)
+        judged.findings.Add(textSection, description.PlaceOf(layout->number),
+                            "$LAYOUT names no text section, and so title and captions stay empty",
+                            "name the section of the language file, as in \"$LAYOUT Symbol\"");
+    const SourceLine* evaluation = description.text.HeaderOf(Section::Evaluation);
+    if (evaluation != nullptr && description.evaluationWords.empty())
+        judged.findings
+            .Add(evaluationWord, description.PlaceOf(evaluation->number), "a word must follow $EVALUATION",
+                 "any word will do: write \"$EVALUATION, x\"")
+            .number = "204";
+}
+
+void JudgeParent(const Case& judged)
+{
+    const Description& description = judged.description;
+    if (description.inputs.empty() || std::ranges::any_of(description.inputs, [](const InputPart& part)
+                                                          { return part.name == "parent"; }))
+        return;
+    const auto meant = std::ranges::find_if(description.inputs, [](const InputPart& part)
+                                            { return commandline::IsClose(part.name, "parent"); });
+    const InputPart& part = meant != description.inputs.end() ? *meant : description.inputs.front();
+    const ClytSpan place = description.PlaceOf(part.header.line, part.name, static_cast<int>(sizeof "$INPUT") - 1);
+    judged.findings.Add(parentPart, place, "no input part is named \"parent\", and so the dialog does not open",
+                        meant != description.inputs.end() ? "did you mean \"parent\"?"
+                                                          : "add \"$INPUT, parent\" with the statements that begin")
+        .number = "217";
 }
 
 } // namespace
 
 Family SectionRules()
 {
-    return {{&misspelt, &missing, &order},
+    return {{&misspelt, &missing, &order, &dialogLine, &textSection, &evaluationWord, &parentPart},
             [](const Case& judged)
             {
                 JudgeFalseHeaders(judged);
                 JudgeMissing(judged);
                 JudgeOrder(judged);
+                JudgeDialogLine(judged);
+                JudgeHeaderWords(judged);
+                JudgeParent(judged);
             }};
 }
 
