@@ -42,6 +42,8 @@ public:
     const ClytOutputMap& GetOutputMap() const { return outputMap; }
     const ClytInputMap& GetInputMap() const { return inputMap; }
     ClytControl* FindControl(const CString& name) const override;
+    // How far the description has been read: its last line, once all of it has.
+    const ClytSpan& GetReadPlace() const { return file.GetLinePlace(); }
 
     // Leaves no dialog deaf to the keyboard: the focus of a control that a rule disables goes to the next tab stop.
     void RunDependencies() override;

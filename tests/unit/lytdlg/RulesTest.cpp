@@ -70,6 +70,9 @@ TEST(Rules, FindTheirWrongExampleAndNothingElseInIt)
     {
         for (const Rule* rule : family.rules)
         {
+            // What no other rule names has no example.
+            if (std::string(rule->id) == "refused")
+                continue;
             SCOPED_TRACE(rule->id);
             const Found found = FindIn(rule->wrong);
             EXPECT_EQ(found.rules, std::set<std::string>{rule->id}) << found.text;

@@ -55,7 +55,8 @@ HeaderWord HeaderWordOf(const std::string& line, Section section)
     static_cast<void>(lytTokenize(line.c_str(), DelimitersOf(section), tokens));
     if (tokens.IsEmpty())
         return {};
-    HeaderWord word = {tokens.GetHead().GetText().GetString(), tokens.GetHead().GetColumn(), tokens.GetCount() == 1, ""};
+    HeaderWord word = {tokens.GetHead().GetText().GetString(), tokens.GetHead().GetColumn(), tokens.GetCount() == 1,
+                       ""};
     if (!word.isAlone)
         word.next = tokens.GetAt(tokens.FindIndex(1)).GetText().GetString();
     return word;
@@ -102,20 +103,29 @@ const char* WordOf(Section section)
 
 const DelimiterSet& DelimitersOf(Section section)
 {
-    static constexpr DelimiterSet delimiters[] = {
-        DelimiterSet(" ,\t\n();:"), DelimiterSet(" ,\t\n;"),   DelimiterSet("=,\t\n();:"), DelimiterSet("=,\t\n()/"),
-        DelimiterSet("=,\t\n():;"), DelimiterSet("=,\t\n():;"), DelimiterSet("=,\n():<>"),  DelimiterSet("\n")};
-    return delimiters[static_cast<size_t>(section)];
+    static constexpr DelimiterSet endsNothing("\n");
+    switch (section)
+    {
+    case Section::Head: return lytHeaderDelimiters;
+    case Section::Layout: return lytControlDelimiters;
+    case Section::Values: return lytValueDelimiters;
+    case Section::Dependencies: return lytDependencyDelimiters;
+    case Section::Evaluation: return lytEvaluationDelimiters;
+    case Section::Input: return lytInputDelimiters;
+    case Section::Output: return lytOutputDelimiters;
+    default: return endsNothing;
+    }
 }
 
-DescriptionText::DescriptionText(const std::string& bytes, const std::vector<std::string>& defines) : m_defines(defines)
+DescriptionText::DescriptionText(std::string bytes, const std::vector<std::string>& defines)
+    : m_bytes(std::move(bytes)), m_defines(defines)
 {
-    m_hasByteOrderMark = bytes.starts_with(byteOrderMark);
+    m_hasByteOrderMark = m_bytes.starts_with(byteOrderMark);
     const size_t start = m_hasByteOrderMark ? std::strlen(byteOrderMark) : 0;
-    const size_t end = bytes.find(endOfText, start);
-    SplitLines(bytes.substr(start, end - start));
+    const size_t end = m_bytes.find(endOfText, start);
+    SplitLines(m_bytes.substr(start, end - start));
     m_hasEndMark = end != std::string::npos;
-    m_hasTextAfterEndMark = m_hasEndMark && bytes.find_first_not_of("\x1A \t\r\n", end) != std::string::npos;
+    m_hasTextAfterEndMark = m_hasEndMark && m_bytes.find_first_not_of("\x1A \t\r\n", end) != std::string::npos;
     ApplyDefines();
     FindSections();
 }
@@ -224,8 +234,8 @@ Section DescriptionText::Opened(SourceLine& line, Section present)
         return present;
     line.isHeader = *meant != Section::Head;
     line.meant = CorrectHeader(word, *meant);
-    m_falseHeaders.push_back({*meant, present, word.text, line.meant,
-                              {line.number, word.column, static_cast<int>(word.text.size())}});
+    m_falseHeaders.push_back(
+        {*meant, present, word.text, line.meant, {line.number, word.column, static_cast<int>(word.text.size())}});
     return *meant;
 }
 

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "base/ClytSpan.h"
-#include "dlgfile/DelimiterSet.h"
+#include "dlgfile/SectionDelimiters.h"
 
 #include <string>
 #include <vector>
@@ -58,8 +58,10 @@ class DescriptionText
 {
 public:
     // The bytes of a file, and the defines that switch its lines.
-    DescriptionText(const std::string& bytes, const std::vector<std::string>& defines);
+    DescriptionText(std::string bytes, const std::vector<std::string>& defines);
 
+    const std::string& Bytes() const { return m_bytes; }
+    const std::vector<std::string>& Defines() const { return m_defines; }
     const std::vector<SourceLine>& Lines() const { return m_lines; }
     // An empty line for a number that the file does not have.
     const SourceLine& Line(int number) const;
@@ -86,6 +88,7 @@ private:
     // The section that the line opens; the present one when it opens none.
     Section Opened(SourceLine& line, Section present);
 
+    std::string m_bytes;
     std::vector<SourceLine> m_lines;
     std::vector<FalseHeader> m_falseHeaders;
     std::vector<std::string> m_defines;

@@ -149,7 +149,7 @@ private:
     void OpenSection(const std::string& section, const std::string& header)
     {
         m_section = section;
-        auto line = Find(header);
+        auto line = header == section ? Known(section) : std::ranges::find(m_lines, header);
         if (line == m_lines.end())
             line = OpenPart(section, header);
         m_part = line;
@@ -158,11 +158,16 @@ private:
             m_place = std::prev(m_place, 3); // OKButton, CancelButton, End Dialog
     }
 
+    // The header of a section, the first one.
+    Lines::iterator Known(const std::string& section)
+    {
+        return std::ranges::find_if(m_lines, [&](const std::string& line) { return SectionOf(line) == section; });
+    }
+
     // Another header takes the place of the one that is there, or opens a further part below its section.
     Lines::iterator OpenPart(const std::string& section, const std::string& header)
     {
-        const auto line =
-            std::ranges::find_if(m_lines, [&](const std::string& known) { return SectionOf(known) == section; });
+        const auto line = Known(section);
         const bool isPart = header.starts_with(section + ", ") && (section == "$INPUT" || section == "$OUTPUT");
         if (isPart && !header.ends_with(", Parent"))
             return m_lines.insert(EndOf(line), header);

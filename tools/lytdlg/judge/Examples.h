@@ -2,8 +2,10 @@
 //
 // An example is a few lines, put into a small description against which nothing can be said:
 //
-//     $VALUES             a header: the lines below it go into its section. When it reads otherwise than the header of the
-//     Mark = HIDDEN       section does, it takes its place; one that names another part or group opens it at the end.
+//     $VALUES             the word of a section: the lines below it go there
+//     Mark = HIDDEN
+//     $INPUT, other       a header with more than its word, be it a blank, takes the place of the one that is there; a
+//                         part or group of another name is opened at the end of its section
 //     -Mark = HIDDEN      takes that line away
 //     Begin Dialog ...    takes the place of the line that begins so; a statement of $INPUT that of the same name
 //

@@ -53,6 +53,7 @@ public:
     {
         return std::erase_if(m_findings, predicate);
     }
+    std::vector<Finding>& All() { return m_findings; }
     // By place, and at one place the graver first; what was said twice of a place stays once.
     void Sort();
 

@@ -1,7 +1,9 @@
 #include "lytdlg/judge/Judge.h"
 
 #include "lytdlg/judge/Ignores.h"
+#include "lytdlg/judge/LibraryVerdict.h"
 #include "lytdlg/judge/SectionRules.h"
+#include "lytdlg/judge/StatementRules.h"
 
 namespace lytdlg
 {
@@ -13,7 +15,13 @@ Surroundings SurroundingsOf(const std::string& folder, const std::vector<std::st
 
 const std::vector<Family>& Families()
 {
-    static const std::vector<Family> families = {SectionRules(), IgnoreRules()};
+    // The library comes last: it looks whether a finding stands for its failure.
+    static const std::vector<Family> families = {
+        SectionRules(),
+        StatementRules(),
+        IgnoreRules(),
+        LibraryRules(),
+    };
     return families;
 }
 

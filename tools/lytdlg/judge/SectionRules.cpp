@@ -55,14 +55,14 @@ constexpr Rule textSection = {
     "The line $LAYOUT names no section of the language file, and so the dialog shows no texts.",
     "Titles and captions are keys of a section of the language file, never the texts themselves. The\n"
     "word after $LAYOUT names the section.",
-    "$LAYOUT",
+    "$LAYOUT ",
     "$LAYOUT Example"};
 
 constexpr Rule evaluationWord = {"evaluation-without-word",
                                  Level::Error,
                                  "No word follows $EVALUATION.",
                                  "The word after $EVALUATION must be there, and says nothing: any word will do.",
-                                 "$EVALUATION",
+                                 "$EVALUATION ",
                                  "$EVALUATION, x"};
 
 constexpr Rule parentPart = {
@@ -88,9 +88,10 @@ void JudgeFalseHeaders(const Case& judged)
         if (header.section == Section::Head && judged.description.text.HeaderOf(Section::Head) != nullptr)
             continue;
         const bool isBlank = header.word.starts_with(std::string(WordOf(header.section)) + " ");
-        Finding& finding = judged.findings.Add(misspelt, header.place, "\"" + header.word + "\" opens no section",
-                                               (isBlank ? "a blank does not end the word; write \"" + header.meant + "\""
-                                                        : "did you mean \"" + header.meant + "\"?"));
+        Finding& finding =
+            judged.findings.Add(misspelt, header.place, "\"" + header.word + "\" opens no section",
+                                (isBlank ? "a blank does not end the word; write \"" + header.meant + "\""
+                                         : "did you mean \"" + header.meant + "\"?"));
         finding.number = header.present != Section::Head     ? NumberWithin(header.present)
                          : header.section == Section::Layout ? "214"
                                                              : "213";
@@ -99,9 +100,8 @@ void JudgeFalseHeaders(const Case& judged)
 
 bool HasHeader(const DescriptionText& text, Section section)
 {
-    return text.HeaderOf(section) != nullptr ||
-           std::ranges::any_of(text.FalseHeaders(),
-                               [&](const FalseHeader& header) { return header.section == section; });
+    return text.HeaderOf(section) != nullptr || std::ranges::any_of(text.FalseHeaders(), [&](const FalseHeader& header)
+                                                                    { return header.section == section; });
 }
 
 // Where the first section after a missing one begins; the last line when none does.
@@ -178,7 +178,8 @@ void JudgeOrder(const Case& judged)
 
 void AddDialogLine(const Case& judged, const ClytSpan& place, const char* number, std::string message)
 {
-    judged.findings.Add(dialogLine, place, std::move(message), "write: Begin Dialog Box WIDTH, HEIGHT, \"TITLE\", .NAME")
+    judged.findings
+        .Add(dialogLine, place, std::move(message), "write: Begin Dialog Box WIDTH, HEIGHT, \"TITLE\", .NAME")
         .number = number;
 }
 
@@ -200,8 +201,7 @@ void JudgeDialogLine(const Case& judged)
     else if (!description.hasDialogHeader)
         AddDialogLine(judged, description.PlaceOf(line, words[1].text, words[1].column), "205",
                       "\"" + words[1].text + "\" stands where \"Dialog\" must stand");
-    else if (std::ranges::any_of(description.mistakes,
-                                 [&](const Mistake& mistake)
+    else if (std::ranges::any_of(description.mistakes, [&](const Mistake& mistake)
                                  { return mistake.place.line == line && mistake.number == "212"; }))
         AddDialogLine(judged, place, "212",
                       "the line has " + std::to_string(words.size()) + (words.size() == 1 ? " word" : " words") +
@@ -211,9 +211,9 @@ void JudgeDialogLine(const Case& judged)
 void JudgeHeaderWords(const Case& judged)
 {
     const Description& description = judged.description;
-    const bool hasTexts = !description.title.empty() ||
-                          std::ranges::any_of(description.controls, [](const ClytControlStatement& control)
-                                              { return !control.text.IsEmpty(); });
+    const bool hasTexts =
+        !description.title.empty() || std::ranges::any_of(description.controls, [](const ClytControlStatement& control)
+                                                          { return !control.text.IsEmpty(); });
     const SourceLine* layout = description.text.HeaderOf(Section::Layout);
     if (layout != nullptr && description.layoutWords.empty() && hasTexts)
         judged.findings.Add(textSection, description.PlaceOf(layout->number),
@@ -230,16 +230,17 @@ void JudgeHeaderWords(const Case& judged)
 void JudgeParent(const Case& judged)
 {
     const Description& description = judged.description;
-    if (description.inputs.empty() || std::ranges::any_of(description.inputs, [](const InputPart& part)
-                                                          { return part.name == "parent"; }))
+    if (description.inputs.empty() ||
+        std::ranges::any_of(description.inputs, [](const InputPart& part) { return part.name == "parent"; }))
         return;
     const auto meant = std::ranges::find_if(description.inputs, [](const InputPart& part)
                                             { return commandline::IsClose(part.name, "parent"); });
     const InputPart& part = meant != description.inputs.end() ? *meant : description.inputs.front();
     const ClytSpan place = description.PlaceOf(part.header.line, part.name, static_cast<int>(sizeof "$INPUT") - 1);
-    judged.findings.Add(parentPart, place, "no input part is named \"parent\", and so the dialog does not open",
-                        meant != description.inputs.end() ? "did you mean \"parent\"?"
-                                                          : "add \"$INPUT, parent\" with the statements that begin")
+    judged.findings
+        .Add(parentPart, place, "no input part is named \"parent\", and so the dialog does not open",
+             meant != description.inputs.end() ? "did you mean \"parent\"?"
+                                               : "add \"$INPUT, parent\" with the statements that begin")
         .number = "217";
 }
 

@@ -1,0 +1,162 @@
+#include "lytdlg/judge/LibraryVerdict.h"
+
+#include "commandline/Text.h"
+#include "environment/ClytEnvironment.h"
+#include "environment/ProcessState.h"
+#include "liveform/LiveForm.h"
+#include "lytdlg/judge/ScratchFile.h"
+#include "robot/WindowRobot.h"
+
+#include <algorithm>
+
+namespace lytdlg
+{
+
+namespace
+{
+
+constexpr Rule refused = {"refused",
+                          Level::Error,
+                          "The library refuses the description for a reason that no other rule names.",
+                          "The dialog was constructed as the library does it, and it failed. The message is what the\n"
+                          "library shows. Mend the findings above it first: it may be what they lead to.",
+                          "",
+                          ""};
+
+// Presses OK in every message box that comes up, for as long as it lives.
+class BoxAnswerer
+{
+public:
+    BoxAnswerer() { Await(); }
+
+private:
+    void Await()
+    {
+        m_robot.When(
+            "box", [] { return robot::IsMessageBox(robot::ActiveDialog()); },
+            [this]
+            {
+                Await();
+                robot::Press(GetDlgItem(robot::ActiveDialog(), IDOK));
+            });
+    }
+
+    robot::Robot m_robot;
+};
+
+// Looks for texts where none are, since each one would be looked up in a file.
+class WithoutTexts
+{
+public:
+    explicit WithoutTexts(const std::string& folder)
+        : m_dialogPath(lytEnvironment.GetDialogPath()), m_initPath(lytEnvironment.GetInitPath())
+    {
+        lytEnvironment.SetDialogPath(folder.c_str());
+        lytEnvironment.SetInitPath(folder.c_str());
+    }
+    WithoutTexts(const WithoutTexts&) = delete;
+    WithoutTexts& operator=(const WithoutTexts&) = delete;
+    ~WithoutTexts()
+    {
+        lytEnvironment.SetDialogPath(m_dialogPath);
+        lytEnvironment.SetInitPath(m_initPath);
+    }
+
+private:
+    const CString m_dialogPath;
+    const CString m_initPath;
+};
+
+std::string Joined(const std::vector<std::string>& words)
+{
+    std::string text;
+    for (const std::string& word : words)
+        text += (text.empty() ? "" : ",") + word;
+    return text;
+}
+
+Refusal RefusalOf(const CException& failure, int line)
+{
+    const auto* own = dynamic_cast<const ClytException*>(&failure);
+    if (own == nullptr)
+        return {"", lytMessageOf(failure).GetString(), "", line};
+    return {own->GetNumber().GetString(), own->GetPrefix().IsKey() ? "" : own->GetPrefix().Get().GetString(),
+            own->GetArgument().GetString(), line};
+}
+
+// The wording of a number in the first language that has it, with the argument after its first apostrophe.
+std::string WordingOf(const Refusal& refusal, const LanguageFiles& texts)
+{
+    for (const std::string& language : texts.Languages())
+    {
+        if (refusal.number.empty() || !texts.Has(language, "Dialog_Error", refusal.number))
+            continue;
+        std::string text = texts.Text(language, "Dialog_Error", refusal.number);
+        if (const size_t mark = text.find('\''); mark != std::string::npos)
+            text.insert(mark + 1, refusal.argument);
+        return text;
+    }
+    return refusal.words;
+}
+
+// A message with the number of a line belongs to that line, the others to the whole description.
+bool StandsFor(const Finding& finding, const Refusal& refusal)
+{
+    const bool isOfLine = refusal.number.empty() || refusal.number == "210" || refusal.number == "212";
+    return finding.rule->level == Level::Error && finding.number == refusal.number &&
+           (!isOfLine || finding.place.line == refusal.line);
+}
+
+} // namespace
+
+std::optional<Refusal> RefusalOf(const Description& description)
+{
+    const ScratchFile file(description.text.Bytes());
+    const WithoutTexts noTexts(file.Folder() + "/none");
+    const BoxAnswerer answerer;
+    lytInputKey.Empty();
+    LiveForm form(file.Path().c_str(), Joined(description.text.Defines()).c_str());
+    try
+    {
+        form.Construct();
+        return std::nullopt;
+    }
+    catch (CException* e)
+    {
+        const ClytCaught failure(e);
+        return RefusalOf(*failure, form.GetReadPlace().line);
+    }
+}
+
+void JudgeByLibrary(const Case& judged)
+{
+    const std::optional<Refusal> refusal = RefusalOf(judged.description);
+    if (!refusal)
+        return;
+    std::vector<Finding>& findings = judged.findings.All();
+    if (std::ranges::any_of(findings, [&](const Finding& finding) { return StandsFor(finding, *refusal); }))
+        return;
+    const auto here = std::ranges::find_if(findings,
+                                           [&](const Finding& finding) {
+                                               return finding.rule->level == Level::Error && finding.number.empty() &&
+                                                      finding.place.line == refusal->line;
+                                           });
+    if (here != findings.end())
+    {
+        here->number = refusal->number;
+        return;
+    }
+    const std::string words = WordingOf(*refusal, judged.surroundings.texts);
+    judged.findings
+        .Add(refused, judged.description.PlaceOf(refusal->line),
+             "the library refuses the description here" + (words.empty() ? "" : ": " + words),
+             findings.empty() ? "" : "mend the findings above first")
+        .number = refusal->number;
+}
+
+Family LibraryRules()
+{
+    return {{&refused}, JudgeByLibrary};
+}
+
+} // namespace lytdlg
