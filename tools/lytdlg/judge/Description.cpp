@@ -2,6 +2,7 @@
 
 #include "commandline/Suggestion.h"
 #include "lytdlg/judge/LineTokens.h"
+#include "lytdlg/judge/Lists.h"
 #include "lytdlg/judge/SectionReader.h"
 
 #include <algorithm>
@@ -11,14 +12,6 @@ namespace lytdlg
 
 namespace
 {
-
-std::vector<std::string> Strings(const CStringList& list)
-{
-    std::vector<std::string> strings;
-    for (POSITION place = list.GetHeadPosition(); place != nullptr;)
-        strings.emplace_back(list.GetNext(place).GetString());
-    return strings;
-}
 
 // The words of a header after its first.
 std::vector<std::string> HeaderWords(ClytDialogFile& file)
@@ -67,6 +60,11 @@ const ClytControlStatement* Description::FindControl(const std::string& name) co
     const auto found = std::find_if(controls.rbegin(), controls.rend(),
                                     [&](const ClytControlStatement& control) { return control.name == name.c_str(); });
     return found != controls.rend() ? &*found : nullptr;
+}
+
+bool Description::IsRefused(int line) const
+{
+    return std::ranges::any_of(mistakes, [&](const Mistake& mistake) { return mistake.place.line == line; });
 }
 
 ClytSpan Description::PlaceOf(int line, const std::string& word, int fromColumn) const

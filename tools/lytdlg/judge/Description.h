@@ -80,6 +80,8 @@ public:
     std::string TextSection() const { return layoutWords.empty() ? "" : layoutWords.front(); }
     // The statement of a control's name, the last one as in the library; null for an unknown name.
     const ClytControlStatement* FindControl(const std::string& name) const;
+    // Whether a reader refuses the line: what is there of its statement is not whole.
+    bool IsRefused(int line) const;
     // The place of a word of a line, from a column on; the whole line when it does not stand there.
     ClytSpan PlaceOf(int line, const std::string& word, int fromColumn = 0) const;
     // The place of a line's content, without the blanks round it.

@@ -1,8 +1,12 @@
 #include "lytdlg/judge/Judge.h"
 
+#include "lytdlg/judge/EvaluationRules.h"
+#include "lytdlg/judge/FillRules.h"
 #include "lytdlg/judge/Ignores.h"
 #include "lytdlg/judge/LibraryVerdict.h"
+#include "lytdlg/judge/ScanRules.h"
 #include "lytdlg/judge/SectionRules.h"
+#include "lytdlg/judge/SeparatorRules.h"
 #include "lytdlg/judge/StatementRules.h"
 
 namespace lytdlg
@@ -19,6 +23,10 @@ const std::vector<Family>& Families()
     static const std::vector<Family> families = {
         SectionRules(),
         StatementRules(),
+        EvaluationRules(),
+        ScanRules(),
+        SeparatorRules(),
+        FillRules(),
         IgnoreRules(),
         LibraryRules(),
     };

@@ -1,0 +1,89 @@
+// What the rules say about the separators of the input.
+#include "JudgedExample.h"
+
+#include <gtest/gtest.h>
+
+TEST(SeparatorRules, TellOfSeparatorsThatNeverComeIntoPlay)
+{
+    static const JudgedLines cases[] = {
+        {R"($INPUT, parent
+    Start: (">", Unit, ">=", Unit = Name)",
+         R"(example.dlg:50:25: warning scan-separator: the separator ">" before ">=" wins
+        Start: (">", Unit, ">=", Unit = Name
+                            ^~
+    hint: put the longer one first
+)"},
+        {R"($INPUT, parent
+    Start: ("", Unit, ";", Unit = Name)",
+         R"(example.dlg:50:24: warning scan-separator: the empty separator before ";" fits everywhere
+        Start: ("", Unit, ";", Unit = Name
+                           ^
+    hint: put the empty separator last
+)"},
+        {R"($INPUT, parent
+    Start: (";", Unit, ";", Unit = Name)",
+         R"(example.dlg:50:25: warning scan-separator: the separator ";" stands here twice
+        Start: (";", Unit, ";", Unit = Name
+                            ^
+    hint: take one of them away
+)"},
+        {R"($INPUT, parent
+    Start: (3, Unit, ";", Unit = Name)",
+         R"(example.dlg:50:13: warning scan-length: the separators after it take the place of the length
+        Start: (3, Unit, ";", Unit = Name
+                ^
+    hint: cut by a length or at separators, in two statements
+)"},
+        {R"($INPUT, parent
+    Start: (";", Unit, 3, Unit = Name)",
+         R"(example.dlg:50:24: warning scan-length: the length wins over the separators before it
+        Start: (";", Unit, 3, Unit = Name
+                           ^
+    hint: cut by a length or at separators, in two statements
+)"},
+    };
+    for (const JudgedLines& c : cases)
+        EXPECT_EQ(TextsOfFindings(c.lines), c.findings) << c.lines;
+}
+
+TEST(SeparatorRules, TellOfTextThatIsCutOrDropped)
+{
+    static const JudgedLines cases[] = {
+        {R"--($INPUT, parent
+    Unit: (")", End, Rest, End = Unit)--",
+         R"--(example.dlg:51:22: warning scan-rest: "Rest" cuts a text that holds these letters, and is not needed here
+        Unit: (")", End, Rest, End = Unit
+                         ^~~~
+    hint: leave it out: the end of the text ends the piece, and the run
+)--"},
+        {R"($INPUT, parent
+    Unit: (",", End = Unit)",
+         R"(example.dlg:51:13: warning scan-dropped: what follows "," in the text is dropped
+        Unit: (",", End = Unit
+                ^
+    hint: go on with another statement; a piece that takes all is (999, End
+)"},
+    };
+    for (const JudgedLines& c : cases)
+        EXPECT_EQ(TextsOfFindings(c.lines), c.findings) << c.lines;
+}
+
+TEST(SeparatorRules, FindNothingWrongInFairSeparators)
+{
+    static const char* const cases[] = {
+        R"(
+$INPUT, parent
+    Start: (">=", Unit, ">", Unit, "", Unit, Rest, Unit = Name)",
+        R"(
+$INPUT, parent
+    Unit: (Rest, End = Unit)",
+        R"(
+$INPUT, parent
+    Unit: ("]", End = Unit)",
+        R"(
+$INPUT, parent
+    Unit: (",", End))",
+    };
+    for (const char* lines : cases)
+        EXPECT_EQ(TextsOfFindings(lines), "") << lines;
+}

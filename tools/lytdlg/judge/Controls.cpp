@@ -1,0 +1,265 @@
+#include "lytdlg/judge/Controls.h"
+
+#include "commandline/Suggestion.h"
+#include "lytdlg/judge/Lists.h"
+#include "lytdlg/text/LanguageFiles.h"
+
+#include <algorithm>
+
+namespace lytdlg
+{
+
+namespace
+{
+
+struct KindWord
+{
+    const char* word;
+    ControlKind kind;
+};
+
+constexpr KindWord kindWords[] = {
+    {"Text", ControlKind::Text},
+    {"TextBox", ControlKind::TextBox},
+    {"GroupBox", ControlKind::GroupBox},
+    {"ListBox", ControlKind::ListBox},
+    {"CheckListBox", ControlKind::CheckListBox},
+    {"DropListBox", ControlKind::DropListBox},
+    {"ComboBox", ControlKind::ComboBox},
+    {"CheckBox", ControlKind::CheckBox},
+    {"OptionGroup", ControlKind::OptionGroup},
+    {"OptionButton", ControlKind::OptionButton},
+    {"PushButton", ControlKind::PushButton},
+    {"OKButton", ControlKind::OkButton},
+    {"CancelButton", ControlKind::CancelButton},
+};
+
+ClytOption OptionOf(const ValueStatement& statement)
+{
+    return lytMeaningOf<ClytOption>(statement.values.front().c_str());
+}
+
+ClytKeyword KeywordOf(const ValueStatement& statement)
+{
+    return lytMeaningOf<ClytKeyword>(statement.keyword.c_str());
+}
+
+bool IsFilledByInput(const InputPart& part, const std::string& name)
+{
+    for (const ClytDialogInput* statement : Records(part.part.GetStatements()))
+    {
+        for (const ClytConditionFill* rule : Records(statement->scanRule.rules))
+        {
+            for (const ClytControlFill* fill : Records(rule->fills))
+            {
+                if (fill->controlName == name.c_str() && AddsItems(*fill))
+                    return true;
+            }
+        }
+    }
+    return false;
+}
+
+// The last value that is no option word.
+std::string OwnValue(const Description& description, const std::string& name)
+{
+    std::string value;
+    for (const ValueStatement* statement : StatementsOf(description, name))
+    {
+        if (OptionOf(*statement) == ClytOption::Other)
+            value = statement->values.front();
+    }
+    return value;
+}
+
+std::set<std::string> CheckBoxValues(const Description& description, const std::string& name)
+{
+    std::string on;
+    std::string off;
+    for (const ValueStatement* statement : StatementsOf(description, name))
+    {
+        if (OptionOf(*statement) != ClytOption::Other)
+            continue;
+        if (KeywordOf(*statement) == ClytKeyword::On)
+            on = statement->values.front();
+        else if (KeywordOf(*statement) == ClytKeyword::Off)
+            off = statement->values.front();
+    }
+    return {on, off};
+}
+
+std::set<std::string> OptionValues(const Description& description, const std::string& group)
+{
+    std::set<std::string> values;
+    for (const ClytControlStatement* option : OptionsOf(description, group))
+        values.insert(OwnValue(description, option->name.GetString()));
+    return values;
+}
+
+std::optional<std::set<std::string>> ItemValues(const Description& description, const std::string& name)
+{
+    if (GetsItems(description, name))
+        return {};
+    std::set<std::string> values;
+    for (const ValueStatement* item : ItemsOf(description, name))
+        values.insert(item->values.front());
+    return values;
+}
+
+} // namespace
+
+ControlKind KindOf(const ClytControlStatement& control)
+{
+    for (const KindWord& known : kindWords)
+    {
+        if (control.type == known.word)
+            return known.kind;
+    }
+    return ControlKind::Unknown;
+}
+
+bool HasItems(ControlKind kind)
+{
+    return IsOpenList(kind) || kind == ControlKind::DropListBox || kind == ControlKind::ComboBox;
+}
+
+bool IsOpenList(ControlKind kind)
+{
+    return kind == ControlKind::ListBox || kind == ControlKind::CheckListBox;
+}
+
+bool AddsItems(const ClytControlFill& fill)
+{
+    const ClytFillAction action = fill.action.GetMeaning();
+    return action == ClytFillAction::Add || action == ClytFillAction::Modify || action == ClytFillAction::Concat;
+}
+
+bool TakesPiece(const ClytControlFill& fill)
+{
+    return AddsItems(fill) || (fill.action.GetMeaning() == ClytFillAction::Other && fill.value.IsEmpty());
+}
+
+bool HasValue(ControlKind kind)
+{
+    switch (kind)
+    {
+    case ControlKind::Text:
+    case ControlKind::GroupBox:
+    case ControlKind::PushButton:
+    case ControlKind::OkButton:
+    case ControlKind::CancelButton: return false;
+    default: return true;
+    }
+}
+
+std::vector<std::string> ControlNames(const Description& description)
+{
+    std::vector<std::string> names;
+    for (const ClytControlStatement& control : description.controls)
+    {
+        if (!control.name.IsEmpty())
+            names.emplace_back(control.name.GetString());
+    }
+    return names;
+}
+
+std::string HintFor(const std::string& word, const std::vector<std::string>& known, const std::string& otherwise)
+{
+    constexpr size_t fewestLetters = 3; // any two shorter words are close
+    const auto sameLetters =
+        std::ranges::find_if(known, [&](const std::string& candidate) { return IsSameName(candidate, word); });
+    if (sameLetters != known.end())
+        return "did you mean " + InQuotes(*sameLetters) + "?";
+    const std::string nearest = word.size() < fewestLetters ? "" : commandline::Nearest(word, known);
+    return nearest.empty() ? otherwise : "did you mean " + InQuotes(nearest) + "?";
+}
+
+std::string InQuotes(const std::string& word)
+{
+    return "\"" + word + "\"";
+}
+
+std::vector<const ValueStatement*> StatementsOf(const Description& description, const std::string& name)
+{
+    std::vector<const ValueStatement*> statements;
+    for (const ValueStatement& statement : description.values)
+    {
+        if (statement.name == name)
+            statements.push_back(&statement);
+    }
+    return statements;
+}
+
+bool HasOption(const Description& description, const std::string& name, ClytOption option)
+{
+    return std::ranges::any_of(StatementsOf(description, name),
+                               [&](const ValueStatement* statement) { return OptionOf(*statement) == option; });
+}
+
+const ValueStatement* SourceOf(const Description& description, const std::string& name)
+{
+    const ValueStatement* source = nullptr;
+    for (const ValueStatement* statement : StatementsOf(description, name))
+    {
+        if (KeywordOf(*statement) == ClytKeyword::FilledBy && OptionOf(*statement) == ClytOption::Other)
+            source = statement;
+    }
+    return source;
+}
+
+std::vector<const ValueStatement*> ItemsOf(const Description& description, const std::string& name)
+{
+    std::vector<const ValueStatement*> items = StatementsOf(description, name);
+    const ClytControlStatement* control = description.FindControl(name);
+    const bool hasDoubleClick = control != nullptr && IsOpenList(KindOf(*control));
+    std::erase_if(items,
+                  [&](const ValueStatement* statement)
+                  {
+                      const ClytKeyword keyword = KeywordOf(*statement);
+                      return OptionOf(*statement) != ClytOption::Other || keyword == ClytKeyword::FilledBy ||
+                             (hasDoubleClick && keyword == ClytKeyword::DoubleClick);
+                  });
+    return items;
+}
+
+bool GetsItems(const Description& description, const std::string& name)
+{
+    const auto isAdded = [&](const ValueStatement& statement) {
+        return lytMeaningOf<ClytAction>(statement.keyword.c_str()) == ClytAction::Add &&
+               statement.values.back() == name;
+    };
+    return SourceOf(description, name) != nullptr || std::ranges::any_of(description.values, isAdded) ||
+           std::ranges::any_of(description.inputs, [&](const InputPart& part) { return IsFilledByInput(part, name); });
+}
+
+std::vector<const ClytControlStatement*> OptionsOf(const Description& description, const std::string& group)
+{
+    std::vector<const ClytControlStatement*> options;
+    bool isInGroup = false;
+    for (const ClytControlStatement& control : description.controls)
+    {
+        const ControlKind kind = KindOf(control);
+        if (kind == ControlKind::OptionGroup)
+            isInGroup = control.name == group.c_str();
+        else if (kind == ControlKind::OptionButton && isInGroup)
+            options.push_back(&control);
+    }
+    return options;
+}
+
+std::optional<std::set<std::string>> PossibleValues(const Description& description, const ClytControlStatement& control)
+{
+    const std::string name = control.name.GetString();
+    switch (KindOf(control))
+    {
+    case ControlKind::CheckBox: return CheckBoxValues(description, name);
+    case ControlKind::OptionGroup: return OptionValues(description, name);
+    case ControlKind::OptionButton: return std::set<std::string>{OwnValue(description, name)};
+    case ControlKind::DropListBox:
+    case ControlKind::ListBox:
+    case ControlKind::CheckListBox: return ItemValues(description, name);
+    default: return {};
+    }
+}
+
+} // namespace lytdlg

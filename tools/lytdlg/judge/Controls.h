@@ -1,0 +1,61 @@
+// What the controls of a description are and what they can hold, as far as the description tells.
+#pragma once
+
+#include "lytdlg/judge/Description.h"
+
+#include <optional>
+#include <set>
+
+namespace lytdlg
+{
+
+enum class ControlKind
+{
+    Unknown,
+    Text,
+    TextBox,
+    GroupBox,
+    ListBox,
+    CheckListBox,
+    DropListBox,
+    ComboBox,
+    CheckBox,
+    OptionGroup,
+    OptionButton,
+    PushButton,
+    OkButton,
+    CancelButton
+};
+
+ControlKind KindOf(const ClytControlStatement& control);
+// Lists of every kind, those that drop down among them.
+bool HasItems(ControlKind kind);
+// A list that stands open.
+bool IsOpenList(ControlKind kind);
+// Reading or setting the value of any other control is told to the user as a mistake.
+bool HasValue(ControlKind kind);
+bool AddsItems(const ClytControlFill& fill);
+// Whether the piece of the input goes into the control.
+bool TakesPiece(const ClytControlFill& fill);
+
+std::vector<std::string> ControlNames(const Description& description);
+// "did you mean ...?" when one of the known words is close, else the other text.
+std::string HintFor(const std::string& word, const std::vector<std::string>& known, const std::string& otherwise);
+std::string InQuotes(const std::string& word);
+
+std::vector<const ValueStatement*> StatementsOf(const Description& description, const std::string& name);
+// Whether the control has a statement whose value is that option, as HIDDEN.
+bool HasOption(const Description& description, const std::string& name, ClytOption option);
+// The FILLEDBY statement of a control, the last one; null without one.
+const ValueStatement* SourceOf(const Description& description, const std::string& name);
+// The items that $VALUES gives to a list, in their order.
+std::vector<const ValueStatement*> ItemsOf(const Description& description, const std::string& name);
+// Whether a list gets items from elsewhere than $VALUES.
+bool GetsItems(const Description& description, const std::string& name);
+// The option buttons of a group.
+std::vector<const ClytControlStatement*> OptionsOf(const Description& description, const std::string& group);
+// The values that the control can have beside the empty one; nothing when it can have any.
+std::optional<std::set<std::string>> PossibleValues(const Description& description,
+                                                    const ClytControlStatement& control);
+
+} // namespace lytdlg

@@ -1,0 +1,30 @@
+// The lists of records and texts as the standard library's loops take them.
+#pragma once
+
+#include "base/ClytOwnedList.h"
+
+#include <string>
+#include <vector>
+
+namespace lytdlg
+{
+
+inline std::vector<std::string> Strings(const CStringList& list)
+{
+    std::vector<std::string> strings;
+    for (POSITION place = list.GetHeadPosition(); place != nullptr;)
+        strings.emplace_back(list.GetNext(place).GetString());
+    return strings;
+}
+
+// The records stay the list's.
+template <class T>
+std::vector<const T*> Records(const ClytOwnedList<T>& list)
+{
+    std::vector<const T*> records;
+    for (POSITION place = list.GetHeadPosition(); place != nullptr;)
+        records.push_back(list.GetNext(place));
+    return records;
+}
+
+} // namespace lytdlg

@@ -1,0 +1,143 @@
+#include "lytdlg/judge/SeparatorRules.h"
+
+#include "lytdlg/judge/Controls.h"
+#include "lytdlg/judge/Lists.h"
+
+#include <algorithm>
+
+namespace lytdlg
+{
+
+namespace
+{
+
+constexpr Rule hidden = {"scan-separator",
+                         Level::Warning,
+                         "A separator stands after one that begins it, and never comes into play.",
+                         "The first separator that fits wins: put the longer before the shorter. An empty one fits "
+                         "everywhere.",
+                         "$INPUT, parent\n    Start: (\">\", Unit, \">=\", Unit = Name",
+                         "$INPUT, parent\n    Start: (\">=\", Unit, \">\", Unit = Name"};
+
+constexpr Rule mixed = {"scan-length",
+                        Level::Warning,
+                        "A statement has a length and separators, and only one of them counts.",
+                        "The later of the two decides: a separator after a length takes its place, a length after "
+                        "separators wins over them.",
+                        "$INPUT, parent\n    Start: (3, Unit, \";\", Unit = Name",
+                        "$INPUT, parent\n    Start: (3, Unit = Name"};
+
+constexpr Rule restNotNeeded = {
+    "scan-rest",
+    Level::Warning,
+    "`Rest` leads to the end, where a run ends anyway, and cuts texts that hold these letters.",
+    "Rest is also a separator like any other. The end of a text ends each piece without it.",
+    "$INPUT, parent\n    Unit: (\")\", End, Rest, End = Unit",
+    "$INPUT, parent\n    Unit: (\")\", End = Unit"};
+
+constexpr Rule dropped = {
+    "scan-dropped",
+    Level::Warning,
+    "The text after a separator is dropped.",
+    "A run that ends at a separator leaves what follows it. That is right after a closing "
+    "bracket; elsewhere go on\nwith another statement, or take all that is left with a large number.",
+    "$INPUT, parent\n    Unit: (\",\", End = Unit",
+    "$INPUT, parent\n    Unit: (\")\", End = Unit"};
+
+void JudgeSeparators(const Case& judged, const ClytScan& scan)
+{
+    const std::vector<const ClytSeparator*> separators = Records(scan.GetSeparators());
+    for (size_t index = 1; index < separators.size(); ++index)
+    {
+        const std::string text = separators[index]->text.GetString();
+        const auto first = separators.begin();
+        const auto here = first + static_cast<std::ptrdiff_t>(index);
+        const auto before = std::find_if(first, here,
+                                         [&](const ClytSeparator* other)
+                                         {
+                                             const std::string earlier = other->text.GetString();
+                                             return earlier == text || (text != "Rest" && text.starts_with(earlier));
+                                         });
+        if (before == here)
+            continue;
+        const std::string earlier = (*before)->text.GetString();
+        if (earlier == text)
+            judged.findings.Add(hidden, separators[index]->span,
+                                "the separator " + InQuotes(text) + " stands here twice", "take one of them away");
+        else if (earlier.empty())
+            judged.findings.Add(hidden, separators[index]->span,
+                                "the empty separator before " + InQuotes(text) + " fits everywhere",
+                                "put the empty separator last");
+        else
+            judged.findings.Add(hidden, separators[index]->span,
+                                "the separator " + InQuotes(earlier) + " before " + InQuotes(text) + " wins",
+                                "put the longer one first");
+    }
+}
+
+void JudgeLength(const Case& judged, const ClytScan& scan)
+{
+    const bool hasSeparators = !scan.GetSeparators().IsEmpty();
+    if (scan.GetLength() != 0 && hasSeparators)
+        judged.findings.Add(mixed, scan.GetLengthSpan(), "the length wins over the separators before it",
+                            "cut by a length or at separators, in two statements");
+    else if (scan.GetLength() == 0 && hasSeparators && scan.GetLengthSpan().line != 0)
+        judged.findings.Add(mixed, scan.GetLengthSpan(), "the separators after it take the place of the length",
+                            "cut by a length or at separators, in two statements");
+}
+
+bool EndsInClosingBracket(const std::string& text)
+{
+    return !text.empty() && std::string(")]}>").find(text.back()) != std::string::npos;
+}
+
+// A piece that goes nowhere was not wanted, and neither was what follows it.
+bool IsPieceTaken(const ClytScanRule& rule)
+{
+    return std::ranges::any_of(Records(rule.rules),
+                               [](const ClytConditionFill* fills) { return TakesPiece(*fills->fills.GetHead()); });
+}
+
+void JudgeEnds(const Case& judged, const ClytScanRule& rule)
+{
+    const ClytScan& scan = rule.scan;
+    if (scan.GetLength() != 0 || !IsPieceTaken(rule))
+        return;
+    const std::vector<const ClytSeparator*> separators = Records(scan.GetSeparators());
+    for (const ClytSeparator* separator : separators)
+    {
+        const std::string text = separator->text.GetString();
+        if (separator->target != "End" || text.empty() || EndsInClosingBracket(text))
+            continue;
+        if (text != "Rest")
+            judged.findings.Add(dropped, separator->span, "what follows " + InQuotes(text) + " in the text is dropped",
+                                "go on with another statement; a piece that takes all is (999, End");
+        else if (separators.size() > 1)
+            judged.findings.Add(restNotNeeded, separator->span,
+                                "\"Rest\" cuts a text that holds these letters, and is not needed here",
+                                "leave it out: the end of the text ends the piece, and the run");
+    }
+}
+
+} // namespace
+
+Family SeparatorRules()
+{
+    return {{&hidden, &mixed, &restNotNeeded, &dropped},
+            [](const Case& judged)
+            {
+                for (const InputPart& part : judged.description.inputs)
+                {
+                    for (const ClytDialogInput* statement : Records(part.part.GetStatements()))
+                    {
+                        if (judged.description.IsRefused(statement->span.line))
+                            continue;
+                        JudgeSeparators(judged, statement->scanRule.scan);
+                        JudgeLength(judged, statement->scanRule.scan);
+                        JudgeEnds(judged, statement->scanRule);
+                    }
+                }
+            }};
+}
+
+} // namespace lytdlg
