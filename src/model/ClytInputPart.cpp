@@ -34,6 +34,8 @@ void ClytInputPart::Bind(const ClytControlMap& controls)
 void ClytInputPart::Run(CString text, const CString& name) const
 {
     ClytScanner scanner(text);
+    if (lytObserver != nullptr)
+        lytObserver->ScanBegan(scanner.GetRest());
     CString next = name;
     ClytSpan asker = span;
     int idle = 0;

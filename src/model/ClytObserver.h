@@ -70,6 +70,8 @@ public:
     {
     }
 
+    // A run of an input part over a text. The rests that are told then point into it.
+    virtual void ScanBegan(const char* /*text*/) {}
     // A statement cut a piece off the input; `rest` is what follows it.
     virtual void Cut(const ClytDialogInput& /*statement*/, const CString& /*piece*/, const char* /*rest*/,
                      const CString& /*nextStatement*/)
