@@ -1,6 +1,7 @@
 #include "lytdlg/Commands.h"
 
 #include "lytdlg/try/RunCommand.h"
+#include "lytdlg/try/ScanCommands.h"
 
 #include <afx.h>
 
@@ -40,6 +41,9 @@ const std::vector<Command>& Commands()
     static const std::vector<Command> commands = {
         CheckCommand(),
         RunCommand(),
+        ScanCommand(),
+        ComposeCommand(),
+        RoundtripCommand(),
         HelpCommand(),
     };
     return commands;

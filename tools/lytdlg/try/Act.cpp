@@ -1,6 +1,7 @@
 #include "lytdlg/try/Act.h"
 
 #include "commandline/Suggestion.h"
+#include "commandline/Text.h"
 
 #include <algorithm>
 
@@ -77,6 +78,17 @@ std::vector<Act> ActsOfScript(const std::string& file)
 }
 
 } // namespace
+
+std::string Describe(const Act& act)
+{
+    const auto* form = std::ranges::find(forms, act.kind, &ActForm::kind);
+    std::string text = form->word;
+    if (form->shape != Shape::Alone)
+        text += " " + commandline::ToUtf8(act.name);
+    if (form->shape == Shape::NameAndValue)
+        text += " = " + commandline::Quoted(commandline::ToUtf8(act.value));
+    return text;
+}
 
 const std::vector<commandline::OptionForm>& ActOptions()
 {

@@ -31,6 +31,9 @@ struct Act
     std::string place = {}; // "file:line:column: error: " for one of a file, empty for one of the command line
 };
 
+// As a script has it, in UTF-8.
+std::string Describe(const Act& act);
+
 // The options that are acts, and what a command lists of them in its form.
 const std::vector<commandline::OptionForm>& ActOptions();
 // Every act of the command line, in its order; those of a script stand where the script is named.

@@ -1,7 +1,10 @@
 #include "lytdlg/try/ControlState.h"
 
 #include "commandline/Text.h"
+#include "controls/ClytCheckBoxControl.h"
 #include "controls/ClytItemControl.h"
+#include "controls/ClytOptionGroup.h"
+#include "controls/ClytRadioButtonControl.h"
 #include "liveform/UserActs.h"
 #include "robot/WindowRobot.h"
 
@@ -35,6 +38,12 @@ std::string Padded(std::string text, size_t width)
     return text;
 }
 
+template <class... TYPES>
+bool IsAnyOf(const ClytControl& control)
+{
+    return ((dynamic_cast<const TYPES*>(&control) != nullptr) || ...);
+}
+
 template <class WINDOW>
 const CStringArray* ValuesOf(const ClytControl& control)
 {
@@ -65,17 +74,6 @@ std::vector<ItemState> ItemsOf(const ClytControl& control)
         items.push_back({shown, value, checkList != nullptr && checkList->GetCheck(index) == BST_CHECKED});
     }
     return items;
-}
-
-// A list without a choice is not asked for its value: it would take the focus.
-std::optional<std::string> ValueOf(const std::string& type, ClytControl& control)
-{
-    const auto* list = dynamic_cast<const CListBox*>(&control);
-    if (list != nullptr && list->GetCurSel() == LB_ERR)
-        return {};
-    if (!HasItems(type) && !HasValue(type))
-        return {};
-    return control.GetValue().GetString();
 }
 
 std::string States(const ControlState& state)
@@ -126,7 +124,7 @@ ControlState LookAt(const TrialDialog& dialog, ClytControl& control)
 {
     const std::string& type = dialog.TypeOf(control);
     ControlState state{dialog.NameOf(control), type, IsSeenEnabled(control), IsSeen(dialog, control)};
-    state.value = ValueOf(type, control);
+    state.value = ValueOf(control);
     const auto& window = dynamic_cast<const CWnd&>(control);
     if (HasItems(type))
         state.items = ItemsOf(control);
@@ -135,6 +133,19 @@ ControlState LookAt(const TrialDialog& dialog, ClytControl& control)
     if (const auto* button = dynamic_cast<const CButton*>(&window); button != nullptr && type == "OptionButton")
         state.isChosen = button->GetCheck() == BST_CHECKED;
     return state;
+}
+
+// A list without a choice is not asked for its value: it would take the focus.
+std::optional<std::string> ValueOf(ClytControl& control)
+{
+    if (const auto* list = dynamic_cast<const CListBox*>(&control))
+    {
+        if (list->GetCurSel() == LB_ERR)
+            return {};
+    }
+    else if (!IsAnyOf<CComboBox, CEdit, ClytCheckBoxControl, ClytRadioButtonControl, ClytOptionGroup>(control))
+        return {};
+    return control.GetValue().GetString();
 }
 
 bool HasItems(const std::string& type)

@@ -43,6 +43,9 @@ DialogState LookAt(const TrialDialog& dialog);
 // The same of one control.
 ControlState LookAt(const TrialDialog& dialog, ClytControl& control);
 
+// The value of a control, without the side effects that asking a list without a choice has; none where there is none.
+std::optional<std::string> ValueOf(ClytControl& control);
+
 // The type words with a list of items, and with a value.
 bool HasItems(const std::string& type);
 bool HasValue(const std::string& type);

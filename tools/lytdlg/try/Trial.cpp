@@ -40,8 +40,8 @@ const char* WordOf(Ending ending)
     return words.at(static_cast<size_t>(ending));
 }
 
-Trial::Trial(const Setup& setup, ItemsLibrary& items)
-    : m_surroundings(setup), m_items(items), m_input(setup.input.c_str()), m_robot(patienceInMilliseconds)
+Trial::Trial(const Setup& setup, EventLog& eventLog)
+    : m_surroundings(setup), m_input(setup.input.c_str()), m_robot(patienceInMilliseconds), m_events(eventLog)
 {
 }
 
@@ -65,7 +65,7 @@ const Outcome& Trial::Run(std::deque<Step> steps)
 void Trial::Opening(TrialDialog& dialog)
 {
     if (!m_open.empty())
-        m_events.push_back({false, "opened " + NameOf(dialog)});
+        m_events.push_back({EventKind::Dialog, "opened " + NameOf(dialog)});
     m_open.push_back(&dialog);
 }
 
@@ -82,8 +82,10 @@ void Trial::Closed(TrialDialog& dialog, INT_PTR result)
     else if (!dialog.IsEnding())
     {
         const std::string text =
-            ended == Ending::Confirmed ? " with " + commandline::Quoted(dialog.GetResult().GetString()) : "";
-        m_events.push_back({false, std::string(WordOf(ended)) + " " + NameOf(dialog) + text});
+            ended == Ending::Confirmed
+                ? " with " + commandline::Quoted(commandline::ToUtf8(dialog.GetResult().GetString()))
+                : "";
+        m_events.push_back({EventKind::Dialog, std::string(WordOf(ended)) + " " + NameOf(dialog) + text});
     }
     m_hasPressedOk = m_hasPressedOk && m_isLeaving;
 }
@@ -153,7 +155,7 @@ void Trial::TakeStep()
 
 void Trial::Answer(HWND box)
 {
-    m_events.push_back({true, robot::MessageTextOf(box)});
+    m_events.push_back({EventKind::Message, robot::MessageTextOf(box)});
     robot::Press(GetDlgItem(box, IDOK));
 }
 

@@ -3,7 +3,7 @@
 
 #include "lytdlg/try/Act.h"
 #include "lytdlg/try/ControlState.h"
-#include "lytdlg/try/ItemsLibrary.h"
+#include "lytdlg/try/EventLog.h"
 #include "lytdlg/try/TrialEnvironment.h"
 #include "robot/WindowRobot.h"
 
@@ -41,20 +41,13 @@ struct Outcome
     std::vector<DialogState> states = {}; // of the dialogs as they were seen last, the outermost first
 };
 
-// What happened besides acts.
-struct Event
-{
-    bool isMessage = false; // else a nested dialog was opened or closed
-    std::string text = {};  // in the code page of the dialogs
-};
-
 class Trial : private TrialWatcher
 {
 public:
     using Step = std::function<void(Trial&)>;
 
-    // Both outlive the trial.
-    Trial(const Setup& setup, ItemsLibrary& items);
+    // The log outlives the trial.
+    Trial(const Setup& setup, EventLog& eventLog);
     Trial(const Trial&) = delete;
     Trial& operator=(const Trial&) = delete;
 
@@ -63,7 +56,7 @@ public:
 
     // For steps, and afterwards.
     void Do(const Act& act);
-    const std::vector<Event>& Events() const { return m_events; }
+    EventLog& Events() { return m_events; }
     const Outcome& Result() const { return m_outcome; }
     // Of the dialog on top; the state that it was seen in last, once all are closed.
     const DialogState& State();
@@ -84,12 +77,11 @@ private:
     void DoOn(TrialDialog& dialog, const Act& act);
 
     TrialEnvironment m_surroundings;
-    ItemsLibrary& m_items;
     CString m_input;
     robot::Robot m_robot;
     std::deque<Step> m_steps;
     std::vector<TrialDialog*> m_open; // the outermost first
-    std::vector<Event> m_events;
+    EventLog& m_events;
     Outcome m_outcome;
     std::exception_ptr m_failure;
     bool m_isInStep = false;

@@ -1,0 +1,43 @@
+// What a description says line by line, read once more for whoever explains a dialog.
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace lytdlg
+{
+
+struct ControlFact
+{
+    std::string name;
+    std::string type;
+    int line = 0;
+};
+
+// A statement of $VALUES.
+struct ValueFact
+{
+    std::string name;
+    std::string keyword;
+    std::vector<std::string> values;
+    int line = 0;
+};
+
+// Texts are in the code page of the dialogs, lines those of the file.
+struct DialogFacts
+{
+    std::vector<ControlFact> controls;
+    std::vector<ValueFact> values;
+    std::vector<std::string> parts;  // of the input
+    std::vector<std::string> groups; // of the output
+
+    // Reads a description that the library takes; raises what the library raises for any other.
+    DialogFacts(const std::string& file, const std::string& defines);
+
+    // The last statement that gives the control this option word; null when there is none.
+    const ValueFact* OptionOf(const std::string& control, const std::string& word) const;
+    // The statement of that keyword, such as FILLEDBY.
+    const ValueFact* StatementOf(const std::string& control, const std::string& keyword) const;
+};
+
+} // namespace lytdlg

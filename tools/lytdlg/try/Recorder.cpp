@@ -1,0 +1,276 @@
+#include "lytdlg/try/Recorder.h"
+
+#include "commandline/Text.h"
+#include "lytdlg/try/ControlState.h"
+
+#include <array>
+
+namespace lytdlg
+{
+
+using commandline::Quoted;
+using commandline::ToUtf8;
+
+namespace
+{
+
+std::string Shown(const CString& text)
+{
+    return Quoted(ToUtf8(text.GetString()));
+}
+
+std::string Name(const CString& name)
+{
+    return ToUtf8(name.GetString());
+}
+
+std::string Line(const ClytSpan& span)
+{
+    return "line " + std::to_string(span.line);
+}
+
+std::string Listed(const CStringList& values)
+{
+    std::string text;
+    for (POSITION place = values.GetHeadPosition(); place != nullptr;)
+        text += (text.empty() ? "" : ", ") + Name(values.GetNext(place));
+    return text;
+}
+
+std::string PresentValue(const ClytCtrlValList& condition)
+{
+    const std::optional<std::string> value =
+        condition.GetControl() != nullptr ? ValueOf(*condition.GetControl()) : std::nullopt;
+    return !value ? "has no value" : value->empty() ? "is empty" : "is " + Quoted(ToUtf8(*value));
+}
+
+// What a state rule comes to, as a sentence.
+std::string Consequence(const RuleRecord& rule)
+{
+    const bool isActive = rule.word == "ACTIVE";
+    const bool isShown = !isActive && rule.word != "DEFBUTTON";
+    const std::string name = ToUtf8(rule.control);
+    if (isActive)
+        return name + (rule.isOn ? " is enabled" : " is disabled");
+    return isShown || !rule.isOn ? name + (rule.isOn ? " is shown" : " is hidden") : name + " is shown";
+}
+
+std::string Joined(const std::vector<TestedCondition>& conditions)
+{
+    std::string text;
+    for (const TestedCondition& condition : conditions)
+        text += (text.empty() ? "" : "; ") + condition.text;
+    return text.empty() ? "no condition" : text;
+}
+
+// What becomes of a piece in a control.
+std::string TextOf(const ClytControlFill& fill, const CString& piece)
+{
+    switch (fill.action.GetMeaning())
+    {
+    case ClytFillAction::Fill: return "is filled by its library";
+    case ClytFillAction::Add: return "takes the item " + Shown(piece);
+    case ClytFillAction::Modify: return "takes " + Shown(piece) + " in place of the chosen item";
+    case ClytFillAction::Concat: return "takes the items of " + Shown(piece);
+    case ClytFillAction::Other: break;
+    }
+    const CString& value = fill.value.IsEmpty() ? piece : fill.value;
+    return value.IsEmpty() ? "is handed an empty text" : "takes " + Shown(value);
+}
+
+} // namespace
+
+std::string ClauseOf(const ClytCtrlValList& condition, ClytTested result)
+{
+    const std::string name = Name(condition.GetName());
+    const std::string listed = Listed(condition.GetValues());
+    switch (result)
+    {
+    case ClytTested::Holds:
+        return listed.empty() ? name + " is enabled"
+                              : name + " " + PresentValue(condition) + ", which is in (" + listed + ")";
+    case ClytTested::UnknownControl: return name + " is no control";
+    case ClytTested::Inactive: return name + " is disabled";
+    case ClytTested::NotListed: return name + " " + PresentValue(condition) + ", which is not in (" + listed + ")";
+    case ClytTested::HasContent: return name + " holds something";
+    case ClytTested::IsEmpty: return name + " holds nothing";
+    case ClytTested::Changed: return name + " has changed: it " + PresentValue(condition);
+    case ClytTested::Unchanged: return name + " has not changed";
+    }
+    return name;
+}
+
+void Recorder::Trace(const std::string& text)
+{
+    if (m_log != nullptr)
+        m_log->push_back({EventKind::Trace, std::string(static_cast<size_t>(m_depth) * 2, ' ') + text});
+}
+
+void Recorder::LibraryAsked(const ClytControl& control)
+{
+    Listener::LibraryAsked(control);
+    Trace(Name(control.GetName()) + " asks its library");
+}
+
+void Recorder::PassedOver(ClytPassedOver what, const CString& name, const ClytSpan& place)
+{
+    constexpr std::array whats = {"type word", "control of a value", "control of a rule", "control of an evaluation",
+                                  "control of a fill"};
+    Trace(Line(place) + ": passed over, since there is no " + whats.at(static_cast<size_t>(what)) + " " + Shown(name));
+}
+
+void Recorder::Missed(ClytMissing what, const CString& name, const ClytControl* control)
+{
+    constexpr std::array whats = {"button's target",
+                                  "double click's target",
+                                  "text for the nested dialog",
+                                  "output group",
+                                  "input part",
+                                  "input statement",
+                                  "library",
+                                  "library function"};
+    const std::string text = std::string("there is no ") + whats.at(static_cast<size_t>(what)) + " " + Shown(name) +
+                             (control != nullptr ? " for " + Name(control->GetName()) : "");
+    m_missing.push_back(text);
+    Trace(text);
+}
+
+void Recorder::ScanBegan(const char* text)
+{
+    m_rest = text;
+    m_restText = ToUtf8(text);
+    m_next.clear();
+    Trace("scan of " + Quoted(m_restText));
+}
+
+// What ended the piece: the text between it and the rest. A fixed length has none, nor has the end of the text.
+std::string Recorder::SeparatorOf(const ClytDialogInput& statement, const CString& piece, const char* rest,
+                                  const CString& nextStatement) const
+{
+    const ClytScan& scan = statement.scanRule.scan;
+    if (scan.GetLength() != 0)
+        return piece.GetLength() < scan.GetLength() ? "to the end of the text" : "by its length";
+    const std::string consumed(m_rest, rest);
+    for (POSITION place = scan.GetSeparators().GetHeadPosition(); place != nullptr;)
+    {
+        const ClytSeparator& separator = *scan.GetSeparators().GetNext(place);
+        const bool isAtEnd = *rest == '\0' && consumed == piece.GetString() && !separator.text.IsEmpty();
+        if (!isAtEnd && separator.target == nextStatement && consumed.ends_with(separator.text.GetString()))
+            return separator.text.IsEmpty() ? "by the empty separator" : "at " + Shown(separator.text);
+    }
+    return "to the end of the text";
+}
+
+void Recorder::Cut(const ClytDialogInput& statement, const CString& piece, const char* rest,
+                   const CString& nextStatement)
+{
+    const std::string separator = SeparatorOf(statement, piece, rest, nextStatement);
+    m_rest = rest;
+    m_restText = ToUtf8(rest);
+    m_statement = &statement;
+    m_next = nextStatement.GetString();
+    m_reached.emplace_back(statement.name.GetString());
+    Trace("  " + Line(statement.span) + " " + Name(statement.name) + ": cut " + Shown(piece) + " " + separator +
+          ", rest " + Quoted(m_restText) + (nextStatement.IsEmpty() ? ", the end" : ", on to " + Name(nextStatement)));
+}
+
+void Recorder::Jumped(const ClytDialogInput& statement, const CString& nextStatement)
+{
+    m_next = nextStatement.GetString();
+    m_reached.emplace_back(statement.name.GetString());
+    std::string clauses;
+    for (POSITION place = statement.conditions.GetHeadPosition(); place != nullptr;)
+    {
+        const ClytCtrlValList& condition = *statement.conditions.GetNext(place);
+        const ClytTested result = condition.GetControl() == nullptr ? ClytTested::UnknownControl
+                                  : condition.IsSatisfied() != 0    ? ClytTested::Holds
+                                                                    : ClytTested::NotListed;
+        clauses += ClauseOf(condition, result) + "; ";
+    }
+    Trace("  " + Line(statement.span) + " " + Name(statement.name) + ": " + clauses + "on to " + Name(nextStatement));
+}
+
+void Recorder::Filled(const ClytControlFill& fill, const CString& piece)
+{
+    const bool ownValue = fill.action.GetMeaning() == ClytFillAction::Other && !fill.value.IsEmpty();
+    m_fills.push_back({fill.controlName.GetString(), fill.span.line, TextOf(fill, piece),
+                       (ownValue ? fill.value : piece).GetString(), fill.action.GetText().GetString(),
+                       m_statement != nullptr ? m_statement->name.GetString() : "",
+                       m_statement != nullptr ? m_statement->span.line : 0});
+    Trace("    " + Line(fill.span) + " " + Name(fill.controlName) + " " + m_fills.back().text);
+}
+
+void Recorder::ForgetScan()
+{
+    m_fills.clear();
+    m_reached.clear();
+}
+
+void Recorder::RunBegan(int depth)
+{
+    m_tested.clear();
+    if (depth == 1 && m_log != nullptr)
+        m_runBegin = m_log->size();
+    m_depth = depth - 1;
+    Trace(depth == 1 ? "rules" : "rules once more, inside this");
+}
+
+// A run that comes to the same as the one just before, as one does when the focus moves, is not told again.
+void Recorder::RunEnded(int depth)
+{
+    m_depth = std::max(depth - 2, 0);
+    if (depth != 1 || m_log == nullptr)
+        return;
+    const auto begin = m_log->begin() + static_cast<std::ptrdiff_t>(m_runBegin);
+    std::vector<Event> heard(begin, m_log->end());
+    if (m_runBegin == m_runEnd && heard == m_lastRun)
+        m_log->erase(begin, m_log->end());
+    else
+        m_lastRun = std::move(heard);
+    m_runEnd = m_log->size();
+}
+
+void Recorder::ConditionTested(const ClytControlDep& /*rule*/, const ClytCtrlValList& condition, ClytTested result)
+{
+    m_tested.push_back({ClauseOf(condition, result), result});
+}
+
+void Recorder::StateSet(const ClytControlDep& rule, int on)
+{
+    m_rules.push_back({rule.controlName.GetString(), rule.stateWord.GetText().GetString(), rule.span.line,
+                       std::exchange(m_tested, {}), on != 0, false});
+    const RuleRecord& record = m_rules.back();
+    Trace("  " + Line(rule.span) + " " + Name(rule.controlName) + "/" + record.word + ": " + Joined(record.conditions) +
+          "; " + Consequence(record));
+}
+
+void Recorder::EventDecided(const ClytControlDep& rule, ClytEvent event)
+{
+    m_rules.push_back({rule.controlName.GetString(), rule.stateWord.GetText().GetString(), rule.span.line,
+                       std::exchange(m_tested, {}), event == ClytEvent::Acts, true});
+    const RuleRecord& record = m_rules.back();
+    const std::string consequence = event == ClytEvent::InProgress       ? "left out, since it is in progress"
+                                    : event == ClytEvent::NothingChanged ? "nothing to do"
+                                    : record.word == "CLEAR"             ? Name(rule.controlName) + " is emptied"
+                                                                         : Name(rule.controlName) + " is filled";
+    const std::string clauses = event == ClytEvent::InProgress ? "" : Joined(record.conditions) + "; ";
+    Trace("  " + Line(rule.span) + " " + Name(rule.controlName) + "/" + record.word + ": " + clauses + consequence);
+}
+
+void Recorder::OutputConditionTested(const ClytDialogOutput& rule, const ClytCtrlValList& condition, ClytTested result)
+{
+    if (result == ClytTested::Holds)
+        return;
+    m_nextOutput.refusals.push_back({ClauseOf(condition, result), result});
+    m_nextOutput.refusedLines.push_back(rule.span.line);
+    Trace("output " + Line(rule.span) + ": no, " + m_nextOutput.refusals.back().text);
+}
+
+void Recorder::OutputChosen(const ClytDialogOutput* rule)
+{
+    m_output = std::exchange(m_nextOutput, {});
+    m_output.line = rule != nullptr ? rule->span.line : 0;
+    Trace(rule != nullptr ? "output " + Line(rule->span) + ": yes" : "output: no rule holds");
+}
+
+} // namespace lytdlg

@@ -1,0 +1,173 @@
+#include "lytdlg/try/ScanCommands.h"
+
+#include "commandline/Text.h"
+#include "lytdlg/try/TrialRun.h"
+
+#include <algorithm>
+#include <cstdio>
+
+namespace lytdlg
+{
+
+using commandline::PrintText;
+using commandline::Quoted;
+using commandline::ToUtf8;
+
+namespace
+{
+
+constexpr commandline::OptionForm traceOption = {"--trace", nullptr, false, "print each step"};
+
+void PrintFills(const Recorder& recorder)
+{
+    for (const FillRecord& fill : recorder.Fills())
+        std::printf("line %d %s: %s %s\n", fill.line, ToUtf8(fill.statement).c_str(), ToUtf8(fill.control).c_str(),
+                    fill.text.c_str());
+    if (recorder.LastStatement() == "End" || recorder.LastStatement().empty())
+        std::printf("the scan ended at %s\n", recorder.LastStatement().empty() ? "the end of the text" : "End");
+    else
+        std::printf("the scan ended at %s, which is no statement\n", Quoted(ToUtf8(recorder.LastStatement())).c_str());
+    if (!recorder.Rest().empty())
+        std::printf("left over: %s\n", Quoted(recorder.Rest()).c_str());
+}
+
+ExitCode Scan(const Request& request)
+{
+    Setup setup = SetupOf(request);
+    const std::string part = AnsiOf(request.Text("--part", lytParentName));
+    const std::string text = setup.input;
+    // Any other part works on a dialog that is open.
+    const bool isParent = part == lytParentName;
+    if (!isParent)
+        setup.input.clear();
+    TrialRun run(setup, request.Has("--trace"));
+    const auto scan = [&](Trial& trial)
+    {
+        if (isParent)
+            return;
+        CheckKnown("input part", part, FactsOf(*trial.Top()).parts);
+        run.recorder.ForgetScan();
+        run.events.clear();
+        trial.Top()->RunInput(part.c_str(), text.c_str());
+    };
+    if (run.Run({}, scan).ending == Ending::NotOpened)
+        return static_cast<ExitCode>(run.PrintFailure());
+    run.PrintEvents();
+    PrintFills(run.recorder);
+    return good;
+}
+
+int PrintComposed(const Recorder& recorder, const std::string& group, const std::string& text)
+{
+    const OutputRecord& output = recorder.LastOutput();
+    if (output.line != 0)
+    {
+        PrintText("result", text);
+        std::printf("by the rule in line %d\n", output.line);
+        return good;
+    }
+    std::printf("no rule of the output group %s holds\n", Quoted(ToUtf8(group)).c_str());
+    for (size_t index = 0; index < output.refusals.size(); ++index)
+        std::printf("line %d: %s\n", output.refusedLines[index], output.refusals[index].text.c_str());
+    return found;
+}
+
+ExitCode Compose(const Request& request)
+{
+    const std::string group = AnsiOf(request.Text("--group", lytParentName));
+    TrialRun run(SetupOf(request), request.Has("--trace"));
+    CString text;
+    const auto compose = [&](Trial& trial)
+    {
+        if (trial.Top() == nullptr)
+            return;
+        CheckKnown("output group", group, FactsOf(*trial.Top()).groups);
+        trial.Top()->ComposeNamedOutput(group.c_str(), text);
+    };
+    if (run.Run(ActsOf(request), compose).ending == Ending::NotOpened)
+        return static_cast<ExitCode>(run.PrintFailure());
+    run.PrintEvents();
+    return static_cast<ExitCode>(PrintComposed(run.recorder, group, text.GetString()));
+}
+
+// What follows this mark in the result of a group's dialog is for the macros.
+std::string PlaceholderOf(const std::string& result)
+{
+    const size_t mark = result.find(")/1");
+    return mark != std::string::npos ? result.substr(0, mark + 1) : result;
+}
+
+// What a text comes back as; the reason in words when it does not.
+std::string RoundOf(const Setup& setup, const std::string& text)
+{
+    TrialRun run(setup, false);
+    CString composed;
+    bool isComposed = false;
+    const auto compose = [&](Trial& trial)
+    { isComposed = trial.Top()->ComposeNamedOutput(lytParentName, composed) != 0; };
+    const Outcome& outcome = run.Run({}, compose);
+    if (outcome.ending == Ending::NotOpened)
+        return "the dialog does not open: " + Quoted(ToUtf8(outcome.failureMessage));
+    if (!isComposed)
+        return "no output rule holds";
+    const std::string result = PlaceholderOf(composed.GetString());
+    return result == text ? "" : "comes back as " + Quoted(ToUtf8(result));
+}
+
+ExitCode Roundtrip(const Request& request)
+{
+    if (!request.Has("--inputs"))
+        throw commandline::UsageError("option --inputs FILE is missing; name a file with an input a line");
+    Setup setup = SetupOf(request);
+    int number = 0;
+    int count = 0;
+    int differences = 0;
+    for (const std::string& line : LinesOf(ReadWholeFile(request.Text("--inputs", ""))))
+    {
+        ++number;
+        if (line.empty() || line.front() == '#')
+            continue;
+        ++count;
+        setup.input = AnsiOf(line);
+        const std::string difference = RoundOf(setup, setup.input);
+        if (difference.empty())
+            continue;
+        ++differences;
+        std::printf("line %d: %s %s\n", number, Quoted(line).c_str(), difference.c_str());
+    }
+    std::printf("%d of %d inputs come back as they are\n", count - differences, count);
+    return differences == 0 ? good : found;
+}
+
+std::vector<commandline::OptionForm> SetupOptionsAnd(std::vector<commandline::OptionForm> options)
+{
+    std::ranges::copy(SetupOptions(), std::back_inserter(options));
+    return options;
+}
+
+} // namespace
+
+Command ScanCommand()
+{
+    return {{"scan", "DIALOG", 1, 1, "take a text apart, and print what went where",
+             SetupOptionsAnd({{"--input", "TEXT", false, "the text"},
+                              {"--part", "NAME", false, "the input part that takes it (parent)"},
+                              traceOption})},
+            Scan};
+}
+
+Command ComposeCommand()
+{
+    return {{"compose", "DIALOG", 1, 1, "compose a text, and print which rule gave it",
+             TrialOptions({{"--group", "NAME", false, "the output group that composes it (parent)"}, traceOption})},
+            Compose};
+}
+
+Command RoundtripCommand()
+{
+    return {{"roundtrip", "DIALOG", 1, 1, "take texts apart and compose them again, and print those that change",
+             SetupOptionsAnd({{"--inputs", "FILE", false, "a text a line; lines that begin with '#' are comments"}})},
+            Roundtrip};
+}
+
+} // namespace lytdlg

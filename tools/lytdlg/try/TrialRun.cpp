@@ -1,0 +1,70 @@
+#include "lytdlg/try/TrialRun.h"
+
+#include "commandline/Suggestion.h"
+#include "commandline/Text.h"
+#include "environment/ClytEnvironment.h"
+#include "lytdlg/Commands.h"
+
+#include <algorithm>
+#include <cstdio>
+
+namespace lytdlg
+{
+
+using commandline::PrintText;
+using commandline::ToUtf8;
+
+const Outcome& TrialRun::Run(const std::vector<Act>& acts, Trial::Step last)
+{
+    std::deque<Trial::Step> steps;
+    for (const Act& act : acts)
+    {
+        steps.emplace_back(
+            [act, this](Trial& running)
+            {
+                if (traced)
+                    events.push_back({EventKind::Trace, "> " + Describe(act)});
+                running.Do(act);
+            });
+    }
+    if (last)
+        steps.push_back(std::move(last));
+    return trial.Run(std::move(steps));
+}
+
+void TrialRun::PrintEvents() const
+{
+    for (const Event& event : events)
+    {
+        if (event.kind == EventKind::Message)
+            PrintText("message", event.text);
+        else
+            std::printf("%s\n", event.text.c_str());
+    }
+}
+
+int TrialRun::PrintFailure() const
+{
+    const Outcome& outcome = trial.Result();
+    const std::string number = outcome.failureNumber.empty() ? "" : " " + outcome.failureNumber;
+    std::printf("%s\n", WordOf(Ending::NotOpened));
+    PrintText("error" + number, outcome.failureMessage);
+    return found;
+}
+
+DialogFacts FactsOf(const TrialDialog& dialog)
+{
+    return {dialog.DescriptionFile(), lytEnvironment.GetDialogDefine().GetString()};
+}
+
+void CheckKnown(const std::string& what, const std::string& name, const std::vector<std::string>& known)
+{
+    if (std::ranges::find(known, name) != known.end())
+        return;
+    std::vector<std::string> shown;
+    std::ranges::transform(known, std::back_inserter(shown), ToUtf8);
+    throw commandline::UsageError("the dialog has no " + what + " \"" + ToUtf8(name) + "\"; " +
+                                  commandline::Suggestion(ToUtf8(name), shown));
+}
+
+} // namespace lytdlg

@@ -1,0 +1,37 @@
+// One trial of a command, with all that hears of it.
+#pragma once
+
+#include "lytdlg/try/DialogFacts.h"
+#include "lytdlg/try/Recorder.h"
+#include "lytdlg/try/Trial.h"
+
+namespace lytdlg
+{
+
+struct TrialRun
+{
+    // With a trace, the log has what the dialog did without a word.
+    TrialRun(const Setup& setup, bool isTraced)
+        : items(setup.items), recorder(items, isTraced ? &events : nullptr), trial(setup, events), traced(isTraced)
+    {
+    }
+
+    // The acts, and then a step that looks at the dialog.
+    const Outcome& Run(const std::vector<Act>& acts, Trial::Step last = {});
+    // Prints messages, nested dialogs and trace in their order.
+    void PrintEvents() const;
+    // Prints why the dialog was not opened, and gives the exit code for it.
+    int PrintFailure() const;
+
+    EventLog events;
+    ItemsLibrary items;
+    Recorder recorder;
+    Trial trial;
+    bool traced;
+};
+
+// What the description of an open dialog says; raises UsageError when a name is none of those known.
+DialogFacts FactsOf(const TrialDialog& dialog);
+void CheckKnown(const std::string& what, const std::string& name, const std::vector<std::string>& known);
+
+} // namespace lytdlg
