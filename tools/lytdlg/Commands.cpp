@@ -2,6 +2,8 @@
 
 #include "lytdlg/try/RunCommand.h"
 #include "lytdlg/try/ScanCommands.h"
+#include "lytdlg/try/TestCommand.h"
+#include "lytdlg/try/WhyCommand.h"
 
 #include <afx.h>
 
@@ -44,6 +46,8 @@ const std::vector<Command>& Commands()
         ScanCommand(),
         ComposeCommand(),
         RoundtripCommand(),
+        WhyCommand(),
+        TestCommand(),
         HelpCommand(),
     };
     return commands;

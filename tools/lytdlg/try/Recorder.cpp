@@ -109,6 +109,8 @@ void Recorder::Trace(const std::string& text)
 void Recorder::LibraryAsked(const ClytControl& control)
 {
     Listener::LibraryAsked(control);
+    m_asking = control.GetName().GetString();
+    m_asked[m_asking].clear();
     Trace(Name(control.GetName()) + " asks its library");
 }
 
@@ -131,7 +133,8 @@ void Recorder::Missed(ClytMissing what, const CString& name, const ClytControl* 
                                   "library function"};
     const std::string text = std::string("there is no ") + whats.at(static_cast<size_t>(what)) + " " + Shown(name) +
                              (control != nullptr ? " for " + Name(control->GetName()) : "");
-    m_missing.push_back(text);
+    if (what == ClytMissing::Library || what == ClytMissing::LibraryFunction)
+        m_asked[m_asking] = text;
     Trace(text);
 }
 
@@ -238,7 +241,7 @@ void Recorder::ConditionTested(const ClytControlDep& /*rule*/, const ClytCtrlVal
 void Recorder::StateSet(const ClytControlDep& rule, int on)
 {
     m_rules.push_back({rule.controlName.GetString(), rule.stateWord.GetText().GetString(), rule.span.line,
-                       std::exchange(m_tested, {}), on != 0, false});
+                       std::exchange(m_tested, {}), on != 0, false, rule.GetControl()});
     const RuleRecord& record = m_rules.back();
     Trace("  " + Line(rule.span) + " " + Name(rule.controlName) + "/" + record.word + ": " + Joined(record.conditions) +
           "; " + Consequence(record));
@@ -247,7 +250,7 @@ void Recorder::StateSet(const ClytControlDep& rule, int on)
 void Recorder::EventDecided(const ClytControlDep& rule, ClytEvent event)
 {
     m_rules.push_back({rule.controlName.GetString(), rule.stateWord.GetText().GetString(), rule.span.line,
-                       std::exchange(m_tested, {}), event == ClytEvent::Acts, true});
+                       std::exchange(m_tested, {}), event == ClytEvent::Acts, true, rule.GetControl()});
     const RuleRecord& record = m_rules.back();
     const std::string consequence = event == ClytEvent::InProgress       ? "left out, since it is in progress"
                                     : event == ClytEvent::NothingChanged ? "nothing to do"

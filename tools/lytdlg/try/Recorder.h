@@ -26,6 +26,7 @@ struct RuleRecord
     std::vector<TestedCondition> conditions = {}; // those that were looked at
     bool isOn = false;                            // what a state rule set; whether an event rule acted
     bool isEvent = false;
+    const ClytControl* target = nullptr; // gone with its dialog
 };
 
 struct FillRecord
@@ -79,7 +80,8 @@ public:
     const std::string& LastStatement() const { return m_next; }
     const std::string& Rest() const { return m_restText; }
     const OutputRecord& LastOutput() const { return m_output; }
-    const std::vector<std::string>& Missing() const { return m_missing; }
+    // The controls that have asked their library, with what was missing at that.
+    const std::map<std::string, std::string>& Asked() const { return m_asked; }
 
 private:
     void Trace(const std::string& text);
@@ -90,7 +92,8 @@ private:
     std::vector<RuleRecord> m_rules;
     std::vector<FillRecord> m_fills;
     std::vector<std::string> m_reached;
-    std::vector<std::string> m_missing;
+    std::map<std::string, std::string> m_asked;
+    std::string m_asking;
     std::vector<TestedCondition> m_tested; // of the rule whose test is in progress
     OutputRecord m_output;
     OutputRecord m_nextOutput;

@@ -20,16 +20,16 @@ using commandline::UsageError;
 namespace
 {
 
-std::vector<std::string> NamesOf(const TrialDialog& dialog)
+[[noreturn]] void FailUnknown(const DialogState& dialog, const std::string& name, const std::string& place)
 {
     std::vector<std::string> names;
-    for (POSITION place = dialog.GetControlList().GetHeadPosition(); place != nullptr;)
+    for (const ControlState& control : dialog.controls)
     {
-        const std::string& name = dialog.NameOf(*dialog.GetControlList().GetNext(place));
-        if (!name.empty())
-            names.push_back(ToUtf8(name));
+        if (!control.name.empty())
+            names.push_back(ToUtf8(control.name));
     }
-    return names;
+    throw UsageError(place + "the dialog has no control \"" + ToUtf8(name) + "\"; " +
+                     commandline::Suggestion(ToUtf8(name), names));
 }
 
 [[noreturn]] void FailWrongType(const TrialDialog& dialog, ClytControl& control, const Act& act, const char* wanted)
@@ -151,10 +151,17 @@ void End(int id)
 ClytControl& ControlNamed(const TrialDialog& dialog, const std::string& name, const std::string& place)
 {
     ClytControl* control = name.empty() ? nullptr : dialog.FindControl(name.c_str());
-    if (control != nullptr)
-        return *control;
-    throw UsageError(place + "the dialog has no control \"" + ToUtf8(name) + "\"; " +
-                     commandline::Suggestion(ToUtf8(name), NamesOf(dialog)));
+    if (control == nullptr)
+        FailUnknown(LookAt(dialog), name, place);
+    return *control;
+}
+
+const ControlState& StateNamed(const DialogState& dialog, const std::string& name)
+{
+    const ControlState* state = dialog.Find(name);
+    if (state == nullptr)
+        FailUnknown(dialog, name, "");
+    return *state;
 }
 
 void TakeAct(TrialDialog* dialog, const Act& act)

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "lytdlg/try/Act.h"
-#include "lytdlg/try/TrialDialog.h"
+#include "lytdlg/try/ControlState.h"
 
 namespace lytdlg
 {
@@ -11,7 +11,9 @@ namespace lytdlg
 // the dialog does not have, and ActError for what a user could not do.
 void TakeAct(TrialDialog* dialog, const Act& act);
 
-// The control of that name; raises UsageError, which begins with the place, when there is none.
-ClytControl& ControlNamed(const TrialDialog& dialog, const std::string& name, const std::string& place);
+// The control of that name; raises UsageError when there is none.
+ClytControl& ControlNamed(const TrialDialog& dialog, const std::string& name, const std::string& place = "");
+// What is seen of the control of that name; raises UsageError when there is none.
+const ControlState& StateNamed(const DialogState& dialog, const std::string& name);
 
 } // namespace lytdlg

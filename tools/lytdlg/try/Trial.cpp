@@ -97,6 +97,13 @@ void Trial::Failed(const TrialDialog& /*dialog*/, const CException& failure)
     m_outcome.failureMessage = MessageOf(failure);
 }
 
+Ending Trial::PresentEnding() const
+{
+    if (m_open.empty())
+        return m_outcome.ending;
+    return m_hasPressedOk ? Ending::Refused : Ending::Open;
+}
+
 // Arranged before anything is done: what is done may open a window, whose turn comes inside.
 void Trial::AwaitTurn()
 {
@@ -197,6 +204,8 @@ const DialogState& Trial::State()
 
 void Trial::Do(const Act& act)
 {
+    if (m_open.empty() && m_outcome.ending == Ending::NotOpened)
+        return;
     if (m_open.empty())
         throw ActError(act.place + "the dialog is closed; take what follows away, or do it before");
     // What is about to be closed is seen for the last time.

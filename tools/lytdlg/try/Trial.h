@@ -58,6 +58,8 @@ public:
     void Do(const Act& act);
     EventLog& Events() { return m_events; }
     const Outcome& Result() const { return m_outcome; }
+    // How the outermost dialog stands or has ended.
+    Ending PresentEnding() const;
     // Of the dialog on top; the state that it was seen in last, once all are closed.
     const DialogState& State();
     // The described dialog on top; null when none is open.

@@ -1,0 +1,206 @@
+#include "lytdlg/try/CaseFile.h"
+
+#include "commandline/Suggestion.h"
+#include "commandline/Text.h"
+
+#include <algorithm>
+#include <array>
+#include <filesystem>
+
+namespace lytdlg
+{
+
+using commandline::Quoted;
+using commandline::ToUtf8;
+namespace fs = std::filesystem;
+
+namespace
+{
+
+const std::vector<std::string> headerWords = {"case", "dialog", "input", "define", "language", "init", "items"};
+const std::vector<std::string> stateWords = {"enabled", "disabled", "shown", "hidden"};
+const std::vector<std::string> endingWords = {"confirmed", "cancelled", "refused", "open"};
+
+bool Has(const std::vector<std::string>& words, const std::string& word)
+{
+    return std::ranges::find(words, word) != words.end();
+}
+
+// Reads one line after the other into cases.
+class CaseReader
+{
+public:
+    explicit CaseReader(const std::string& fileName)
+        : m_file(fileName), m_common{fs::path(fileName).filename().string(), fileName, 1, {}, {}}
+    {
+    }
+
+    void Read(LineReader line)
+    {
+        if (line.IsAtEnd())
+            return;
+        const std::string word = line.Word("a word");
+        if (word == "case")
+            BeginCase(line);
+        else if (word == "expect")
+            AddExpectation(line);
+        else if (std::optional<Act> act = ReadAct(word, line))
+            Steps().push_back({line.Place().line, true, *std::move(act), {}});
+        else
+            ReadHeader(word, line);
+    }
+
+    std::vector<Case> TakeCases()
+    {
+        if (m_cases.empty())
+            m_cases.push_back(m_common);
+        for (const Case& one : m_cases)
+        {
+            if (one.setup.dialog.empty())
+                throw FileError({m_file, one.line}, 1, "the case names no dialog; write dialog: FILE.dlg");
+        }
+        return std::move(m_cases);
+    }
+
+private:
+    void BeginCase(LineReader& line)
+    {
+        line.Expect(':', "write: case: what it shows");
+        Case begun = m_common;
+        begun.name = line.Text();
+        begun.line = line.Place().line;
+        m_cases.push_back(std::move(begun));
+    }
+
+    Case& Current() { return m_cases.empty() ? m_common : m_cases.back(); }
+    std::vector<CaseStep>& Steps() { return Current().steps; }
+
+    // A path as the case file sees it.
+    std::string PathOf(const std::string& text) const
+    {
+        return (fs::path(m_file).parent_path() / fs::path(text)).lexically_normal().string();
+    }
+
+    void ReadHeader(const std::string& word, LineReader& line)
+    {
+        const size_t column = line.Column();
+        Setup& setup = Current().setup;
+        if (word == "items")
+        {
+            const std::string control = AnsiOf(line.Word("the name of a list"));
+            line.Expect('=', "write: items LIST = FILE");
+            setup.items.push_back({control, PathOf(line.Text())});
+            return;
+        }
+        if (!Has(headerWords, word))
+            FailUnknown(word, column, line);
+        line.Expect(':', "write: " + word + ": text");
+        const std::string text = line.Text();
+        if (word == "dialog")
+            setup.dialog = PathOf(text);
+        else if (word == "input")
+            setup.input = AnsiOf(text);
+        else if (word == "define")
+            setup.defines.push_back(AnsiOf(text));
+        else if (word == "language")
+            setup.language = AnsiOf(text);
+        else
+            setup.initFolder = PathOf(text);
+    }
+
+    [[noreturn]] static void FailUnknown(const std::string& word, size_t column, const LineReader& line)
+    {
+        std::vector<std::string> known = headerWords;
+        known.emplace_back("expect");
+        std::ranges::copy(ActWords(), std::back_inserter(known));
+        line.FailAt(column, "there is no word \"" + word + "\"; " + commandline::Suggestion(word, known));
+    }
+
+    void AddExpectation(LineReader& line) { Steps().push_back({line.Place().line, false, {}, ReadExpectation(line)}); }
+
+    static Expectation ReadExpectation(LineReader& line)
+    {
+        const std::string word = line.Word("what is expected");
+        if (word == "message")
+            return {ExpectationKind::Message, "", line.Text()};
+        if (word == "error")
+            return {ExpectationKind::Error, "", line.Text()};
+        if (word == "result" || word == "title")
+        {
+            line.Expect('=', "write: expect " + word + " = \"text\"");
+            return {word == "result" ? ExpectationKind::Result : ExpectationKind::Title, "", line.Text()};
+        }
+        return line.IsAtEnd() || word == "not" ? ReadEnding(word, line) : ReadOfControl(AnsiOf(word), line);
+    }
+
+    static Expectation ReadEnding(const std::string& word, LineReader& line)
+    {
+        if (word == "not")
+        {
+            if (line.Word("opened") != "opened")
+                line.Fail("write: expect not opened");
+            line.ExpectEnd();
+            return {ExpectationKind::Ending, "", "not opened"};
+        }
+        if (!Has(endingWords, word))
+            line.Fail("\"" + word +
+                      "\" alone is nothing to expect; write a control's name with = VALUE or a state, or " +
+                      commandline::Suggestion(word, endingWords));
+        return {ExpectationKind::Ending, "", word};
+    }
+
+    static Expectation ReadOfControl(const std::string& name, LineReader& line)
+    {
+        if (line.Takes('='))
+            return {ExpectationKind::Value, name, line.Text()};
+        const std::string state = line.Word("a state");
+        if (state == "items")
+        {
+            Expectation items{ExpectationKind::Items, name};
+            for (const std::string& item : line.Texts())
+                items.expected += (items.expected.empty() ? "" : ", ") + Quoted(item);
+            return items;
+        }
+        std::vector<std::string> known = stateWords;
+        known.emplace_back("items");
+        if (!Has(stateWords, state))
+            line.Fail("there is no state \"" + state + "\"; " + commandline::Suggestion(state, known));
+        line.ExpectEnd();
+        return {ExpectationKind::State, name, state};
+    }
+
+    std::string m_file;
+    Case m_common;
+    std::vector<Case> m_cases;
+};
+
+} // namespace
+
+std::vector<Case> ReadCases(const std::string& file, const std::vector<std::string>& lines)
+{
+    CaseReader reader(file);
+    int number = 0;
+    for (const std::string& line : lines)
+        reader.Read(LineReader({file, ++number}, line));
+    return reader.TakeCases();
+}
+
+std::string Describe(const Expectation& expectation)
+{
+    const std::string name = ToUtf8(expectation.name);
+    switch (expectation.kind)
+    {
+    case ExpectationKind::Value: return "expect " + name + " = " + Quoted(expectation.expected);
+    case ExpectationKind::State: return "expect " + name + " " + expectation.expected;
+    case ExpectationKind::Items:
+        return "expect " + name + " items" + (expectation.expected.empty() ? "" : " ") + expectation.expected;
+    case ExpectationKind::Title: return "expect title = " + Quoted(expectation.expected);
+    case ExpectationKind::Message: return "expect message " + Quoted(expectation.expected);
+    case ExpectationKind::Result: return "expect result = " + Quoted(expectation.expected);
+    case ExpectationKind::Error: return "expect error " + expectation.expected;
+    case ExpectationKind::Ending: break;
+    }
+    return "expect " + expectation.expected;
+}
+
+} // namespace lytdlg

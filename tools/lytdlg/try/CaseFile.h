@@ -1,0 +1,66 @@
+// Golden cases as a person writes them: a dialog, what is done to it, and what is expected.
+//
+//     # a comment
+//     dialog: ../dialogs/lytInSym.dlg        paths are seen from the file's folder
+//
+//     case: a unit needs decimal places
+//     input: S1:area(2,m2)
+//     set Digits = ""
+//     expect Unit disabled
+//     ok
+//     expect message "Please enter the decimal places, 0 to 9."
+//     expect refused
+//
+// What stands before the first `case:` goes for all cases of the file; a file without one is a single case.
+#pragma once
+
+#include "lytdlg/try/Act.h"
+#include "lytdlg/try/TrialEnvironment.h"
+
+namespace lytdlg
+{
+
+enum class ExpectationKind
+{
+    Value,   // NAME = "text"
+    State,   // NAME enabled, disabled, shown, hidden
+    Items,   // NAME items "a", "b"
+    Title,   // title = "text"
+    Message, // message "text"
+    Result,  // result = "text"
+    Error,   // error NUMBER
+    Ending   // confirmed, cancelled, refused, open, not opened
+};
+
+struct Expectation
+{
+    ExpectationKind kind = ExpectationKind::Ending;
+    std::string name = {};     // of a control, in the code page of the dialogs
+    std::string expected = {}; // as the file would have it, in UTF-8
+};
+
+// A line of a case that is an act or an expectation.
+struct CaseStep
+{
+    int line = 0;
+    bool isAct = false;
+    Act act = {};
+    Expectation expectation = {};
+};
+
+struct Case
+{
+    std::string name; // as `case:` has it, or that of the file
+    std::string file;
+    int line = 0; // where it begins
+    Setup setup;
+    std::vector<CaseStep> steps;
+};
+
+// Raises FileError, with place and way out, at the first mistake.
+std::vector<Case> ReadCases(const std::string& file, const std::vector<std::string>& lines);
+
+// An expectation as a line of a file has it.
+std::string Describe(const Expectation& expectation);
+
+} // namespace lytdlg

@@ -1,0 +1,124 @@
+#include "lytdlg/try/TestCommand.h"
+
+#include "lytdlg/try/CaseRun.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <filesystem>
+
+namespace lytdlg
+{
+
+namespace fs = std::filesystem;
+
+namespace
+{
+
+// The case files that an operand stands for, in the order of their names.
+std::vector<std::string> FilesOf(const std::string& operand)
+{
+    if (!fs::exists(operand))
+        throw commandline::UsageError("there is no file or folder \"" + operand +
+                                      "\"; name case files or their folder");
+    if (!fs::is_directory(operand))
+        return {fs::path(operand).generic_string()};
+    std::vector<std::string> files;
+    for (const auto& entry : fs::recursive_directory_iterator(operand))
+    {
+        if (entry.path().extension() == ".case")
+            files.push_back(entry.path().generic_string());
+    }
+    std::ranges::sort(files);
+    if (files.empty())
+        throw commandline::UsageError("the folder \"" + operand + "\" holds no file NAME.case; write one");
+    return files;
+}
+
+struct Count
+{
+    int passed = 0;
+    int failed = 0;
+    int notUnderstood = 0; // files
+};
+
+void Print(const Case& one, const Difference& difference)
+{
+    std::printf("%s:%d: %s\n", one.file.c_str(), difference.line, one.name.c_str());
+    if (difference.isStop)
+    {
+        std::printf("    cannot go on: %s\n", difference.got.c_str());
+        return;
+    }
+    if (!difference.expected.empty())
+        std::printf("    expected: %s\n", difference.expected.c_str());
+    else
+        std::printf("    expected: nothing more\n");
+    std::printf("    got:      %s\n", difference.got.empty() ? "nothing" : difference.got.c_str());
+}
+
+void Update(const std::string& file, const std::vector<std::string>& lines, const CaseUpdate& update)
+{
+    std::string text;
+    for (const std::string& line : Updated(lines, update))
+        text += line + "\n";
+    WriteWholeFile(file, text);
+    std::printf("%s: brought up to date\n", file.c_str());
+}
+
+void TestFile(const std::string& file, bool isUpdate, Count& count)
+{
+    const std::vector<std::string> lines = LinesOf(ReadWholeFile(file));
+    CaseUpdate all;
+    for (const Case& one : ReadCases(file, lines))
+    {
+        CaseResult result = RunCase(one);
+        ++(result.differences.empty() ? count.passed : count.failed);
+        all.replaced.merge(result.update.replaced);
+        all.insertions.merge(result.update.insertions);
+        for (const Difference& difference : result.differences)
+            Print(one, difference);
+    }
+    if (isUpdate && (!all.replaced.empty() || !all.insertions.empty()))
+        Update(file, lines, all);
+}
+
+ExitCode Test(const Request& request)
+{
+    Count count;
+    for (const std::string& operand : request.operands)
+    {
+        for (const std::string& file : FilesOf(operand))
+        {
+            try
+            {
+                TestFile(file, request.Has("--update"), count);
+            }
+            catch (const FileError& error)
+            {
+                std::printf("%s\n", error.what());
+                ++count.notUnderstood;
+            }
+        }
+    }
+    std::printf("%d passed, %d failed", count.passed, count.failed);
+    std::printf(count.notUnderstood == 0 ? "\n" : ", %d not understood\n", count.notUnderstood);
+    if (count.notUnderstood != 0)
+        return notUnderstood;
+    return count.failed == 0 ? good : found;
+}
+
+} // namespace
+
+Command TestCommand()
+{
+    constexpr size_t many = 10000;
+    return {{"test",
+             "FOLDER|FILE...",
+             1,
+             many,
+             "carry out golden cases, NAME.case, and tell what differs",
+             {{"--update", nullptr, false, "write what was seen into the files in place of what was expected"}}},
+            Test};
+}
+
+} // namespace lytdlg
