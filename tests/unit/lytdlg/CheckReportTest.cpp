@@ -57,7 +57,7 @@ constexpr const char* misspelt = "$EVALUATION x";
 TEST_F(CheckReport, TellsPlaceLevelRuleMessageAndTheWayOut)
 {
     EXPECT_EQ(Check(With("$EVALUATION, x", misspelt)),
-              "box.dlg:10:1: error section-misspelt: \"$EVALUATION x\" opens no section\n"
+              "box.dlg:10:1: error section-misspelt: \"$EVALUATION x\" opens no section (message 212)\n"
               "    $EVALUATION x\n"
               "    ^~~~~~~~~~~~~\n"
               "    hint: a blank does not end the word; write \"$EVALUATION, x\"\n"

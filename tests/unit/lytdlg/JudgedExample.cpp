@@ -1,7 +1,7 @@
 #include "JudgedExample.h"
 
 #include "lytdlg/judge/Examples.h"
-#include "lytdlg/judge/FindingText.h"
+#include "lytdlg/judge/Report.h"
 #include "support/TestFolder.h"
 
 using namespace lytdlg;

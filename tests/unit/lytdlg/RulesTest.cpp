@@ -1,7 +1,7 @@
 // Every rule shows what is wrong and what would be right: the wrong lines have this finding and no other, the right ones
 // have none.
 #include "lytdlg/judge/Examples.h"
-#include "lytdlg/judge/FindingText.h"
+#include "lytdlg/judge/Report.h"
 #include "support/TestFolder.h"
 
 #include <gtest/gtest.h>

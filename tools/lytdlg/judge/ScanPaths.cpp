@@ -1,6 +1,6 @@
 #include "lytdlg/judge/ScanPaths.h"
 
-#include "dialog/ClytDialogRules.h"
+#include "dialog/ClytDialog.h"
 #include "lytdlg/judge/Lists.h"
 
 #include <algorithm>

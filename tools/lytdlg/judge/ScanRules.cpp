@@ -1,6 +1,6 @@
 #include "lytdlg/judge/ScanRules.h"
 
-#include "dialog/ClytDialogRules.h"
+#include "dialog/ClytDialog.h"
 #include "lytdlg/judge/Controls.h"
 #include "lytdlg/judge/Lists.h"
 #include "lytdlg/judge/ScanPaths.h"

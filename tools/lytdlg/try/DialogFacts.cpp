@@ -1,6 +1,6 @@
 #include "lytdlg/try/DialogFacts.h"
 
-#include "dialog/ClytDialogRules.h"
+#include "dialog/ClytDialog.h"
 
 #include <algorithm>
 

@@ -121,7 +121,7 @@ void Recorder::PassedOver(ClytPassedOver what, const CString& name, const ClytSp
     Trace(Line(place) + ": passed over, since there is no " + whats.at(static_cast<size_t>(what)) + " " + Shown(name));
 }
 
-void Recorder::Missed(ClytMissing what, const CString& name, const ClytControl* control)
+void Recorder::Missed(ClytMissing what, const CString& name, const ClytControl* control, const ClytSpan& place)
 {
     constexpr std::array whats = {"button's target",
                                   "double click's target",
@@ -135,7 +135,7 @@ void Recorder::Missed(ClytMissing what, const CString& name, const ClytControl* 
                              (control != nullptr ? " for " + Name(control->GetName()) : "");
     if (what == ClytMissing::Library || what == ClytMissing::LibraryFunction)
         m_asked[m_asking] = text;
-    Trace(text);
+    Trace(place.line > 0 ? Line(place) + ": " + text : text);
 }
 
 void Recorder::ScanBegan(const char* text)

@@ -56,7 +56,7 @@ public:
 
     void LibraryAsked(const ClytControl& control) override;
     void PassedOver(ClytPassedOver what, const CString& name, const ClytSpan& place) override;
-    void Missed(ClytMissing what, const CString& name, const ClytControl* control) override;
+    void Missed(ClytMissing what, const CString& name, const ClytControl* control, const ClytSpan& place) override;
     void ScanBegan(const char* text) override;
     void Cut(const ClytDialogInput& statement, const CString& piece, const char* rest,
              const CString& nextStatement) override;
