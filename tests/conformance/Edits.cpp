@@ -71,7 +71,7 @@ void Edits()
             robot::TypeText(">");
         });
     act("click", [&] { robot::ClickAt(first.m_hWnd, 3, 3); });
-    act("click behind the text", [&] { robot::ClickAt(first.m_hWnd, 150, 3); });
+    act("click after the text", [&] { robot::ClickAt(first.m_hWnd, 150, 3); });
     act("type there", [] { robot::TypeText("!"); });
     act("replace as a user does", [&] { robot::ReplaceText(second.m_hWnd, "new"); });
     act("a disabled one",

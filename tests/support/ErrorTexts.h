@@ -10,7 +10,7 @@ inline constexpr const char* missingArgument = "An argument is missing or out of
 class ErrorTexts : public LanguageFolder
 {
 public:
-    // `more` is put behind the section of the errors.
+    // `more` is put after the section of the errors.
     explicit ErrorTexts(const std::string& more = "") : LanguageFolder(Numbers() + more) {}
 
 private:

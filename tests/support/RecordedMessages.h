@@ -1,4 +1,4 @@
-// Stands in for the message box in programs without a window: messages are kept, in order, for the test to look at.
+// Takes the place of the message box in programs without a window: messages are kept, in order, for the test to look at.
 #pragma once
 
 #include <string>

@@ -119,7 +119,7 @@ TEST_F(Output, JoinsTheValuesOfAList)
                   "$OUTPUT, word\n(\"%s\", Word(\"/\"))\n";
     Open();
     EXPECT_EQ(Compose(), "one/two");
-    // Three blanks: one between the items, one in front of them and one behind.
+    // Three blanks: one between the items, one before them and one after.
     EXPECT_EQ(Compose("three"), " one two ");
     EXPECT_EQ(Compose("framed"), "[one+two]");
     EXPECT_EQ(Compose("word"), "Word");

@@ -30,7 +30,7 @@ TEST_F(EvaluationStatement, TakesTheLongForm)
     EXPECT_EQ(Evaluation("Kind(1,2) = EditName(a,b): MSG_CLASH\n"), "Kind(1,2); EditName(a,b); MSG_CLASH");
 }
 
-TEST_F(EvaluationStatement, MayStopBehindTheFirstValues)
+TEST_F(EvaluationStatement, MayStopAfterTheFirstValues)
 {
     EXPECT_EQ(Evaluation("A(1)\n"), "A(1); ; ");
 }
@@ -49,13 +49,13 @@ TEST_F(EvaluationStatement, TakesTheShortForm)
     EXPECT_EQ(Evaluation("A = x: KEY\n"), "A(x); ; KEY");
 }
 
-TEST_F(EvaluationStatement, AllowsAnyDelimiterBehindNull)
+TEST_F(EvaluationStatement, AllowsAnyDelimiterAfterNull)
 {
     EXPECT_EQ(Evaluation("A = NULL, KEY\n"), "A(NULL); ; KEY");
     EXPECT_EQ(Evaluation("A = NULL (KEY)\n"), "A(NULL); ; KEY");
 }
 
-TEST_F(EvaluationStatement, NeedsAColonBehindAnyOtherValue)
+TEST_F(EvaluationStatement, NeedsAColonAfterAnyOtherValue)
 {
     EXPECT_EQ(EvaluationFailure("A = x y\n"), "212 '1'");
     EXPECT_EQ(EvaluationFailure("A = x, KEY\n"), "212 '1'");

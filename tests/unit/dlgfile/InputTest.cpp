@@ -71,7 +71,7 @@ std::string Parts(const std::string& section)
     return shown;
 }
 
-// One statement that is not the first behind its header.
+// One statement that is not the first after its header.
 std::string Input(const std::string& line)
 {
     const std::string shown = Parts("$INPUT\nFirst: x = End\n" + line + "\n$OUTPUT\n");
@@ -83,7 +83,7 @@ std::string InputFailure(const std::string& line)
     return RaisedMessage([&] { Input(line); });
 }
 
-// A file on a disk that fails behind a number of lines.
+// A file on a disk that fails after a number of lines.
 class FailingDescription : public Description
 {
 public:
@@ -245,15 +245,15 @@ TEST_F(InputStatement, LetsTheLaterKindOfScanEntryDecide)
     EXPECT_EQ(Input("X: (-3, A = N"), "X:[-3>A] N\n");
 }
 
-TEST_F(InputStatement, DoesNotEndAScanListAtABracketWithMoreBehindIt)
+TEST_F(InputStatement, DoesNotEndAScanListAtABracketWithMoreAfterIt)
 {
     EXPECT_EQ(InputFailure("X: (\";\", Second) = N"), "212 '3'");
     EXPECT_EQ(InputFailure("X: (\";\", Second) N"), "212 '3'");
-    // The word behind the bracket is a further separator, and here it finds a target with an equals sign.
+    // The word after the bracket is a further separator, and here it finds a target with an equals sign.
     EXPECT_EQ(Input("X: (\";\", Second) a, Third = N"), "X:[';'>Second]['a'>Third] N\n");
 }
 
-TEST_F(InputStatement, TakesFillRulesBehindAListThatALoneWordCloses)
+TEST_F(InputStatement, TakesFillRulesAfterAListThatALoneWordCloses)
 {
     EXPECT_EQ(Input("X: (\";\", Second, x) = N, M"), "X:[';'>Second] N M\n");
     EXPECT_EQ(Input("X: (\";\", Second, x) N"), "X:[';'>Second] N\n");

@@ -60,7 +60,7 @@ TEST_F(OutputStatement, TakesAnEmptyActionAsAJoin)
     EXPECT_EQ(Output("(\"%s\", EditName(\" \"))\n"), " = %s, EditName:CONCAT");
 }
 
-TEST_F(OutputStatement, PassesOverAWordBehindAnAction)
+TEST_F(OutputStatement, PassesOverAWordAfterAnAction)
 {
     EXPECT_EQ(Output("(\"%s\", x(a) y, z)\n"), " = %s, x:a, z");
 }

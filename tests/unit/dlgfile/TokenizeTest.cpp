@@ -173,7 +173,7 @@ TEST_F(TokenizeGrouped, EndsAGroupAtACommaThatIsNoDelimiter)
     EXPECT_EQ(Groups("x(a),b/c\n", "/\n"), "[x(a)])[b]/[c]/");
 }
 
-TEST_F(TokenizeGrouped, EndsTheTextBehindAGroupAtTheNextBracket)
+TEST_F(TokenizeGrouped, EndsTheTextAfterAGroupAtTheNextBracket)
 {
     EXPECT_EQ(Groups("x(a)y(b),c\n", ",\n"), "[x(a)y])[b)],[c]/");
 }

@@ -112,7 +112,7 @@ TEST_F(DependencyStatement, MayHaveNoConditions)
     EXPECT_EQ(Dependency("Ok/ACTIVE =\n"), "Ok/ACTIVE: ");
 }
 
-TEST_F(DependencyStatement, PassesOverAWordBehindABracket)
+TEST_F(DependencyStatement, PassesOverAWordAfterABracket)
 {
     EXPECT_EQ(Dependency("Ok/ACTIVE = A(1) B\n"), "Ok/ACTIVE: A(1)");
     EXPECT_EQ(Dependency("Ok/ACTIVE = A(1) B, C\n"), "Ok/ACTIVE: A(1) C");
@@ -146,7 +146,7 @@ TEST_F(DependencyStatement, EndsWithTheEvaluationHeader)
     EXPECT_EQ(Dependency("$EVALUATION, x\n"), "end");
 }
 
-TEST_F(DependencyStatement, NeedsADelimiterBehindTheEvaluationHeader)
+TEST_F(DependencyStatement, NeedsADelimiterAfterTheEvaluationHeader)
 {
     EXPECT_EQ(DependencyFailure("$EVALUATION x\n"), "212 '1'");
 }

@@ -74,7 +74,7 @@ TEST(ClytEnvironment, JoinsDefinesByCommas)
     EXPECT_EQ(environment.GetDialogDefine(), "");
 }
 
-TEST(ClytEnvironment, JoinsAnEmptyDefineOnlyBehindAnother)
+TEST(ClytEnvironment, JoinsAnEmptyDefineOnlyAfterAnother)
 {
     ClytEnvironment environment;
     environment.AddDialogDefine("");
@@ -149,7 +149,7 @@ TEST_F(LanguageTexts, FollowThePlatformForEmptyNames)
     EXPECT_EQ(environment.GetText("", ""), "no value present");
 }
 
-TEST_F(LanguageTexts, TakeAnArgumentBehindTheirFirstApostrophe)
+TEST_F(LanguageTexts, TakeAnArgumentAfterTheirFirstApostrophe)
 {
     EXPECT_EQ(TextOf("it's", "x"), "it'xs");
     EXPECT_EQ(TextOf("a''b", "x"), "a'x'b");

@@ -41,7 +41,7 @@ TEST_F(Errors, WithoutATextSpeakWithTheSentinel)
     EXPECT_EQ(MessageOf({"Dialog_Error", "999", "prefix", ""}), "prefix\nno value present");
 }
 
-TEST_F(Errors, PutTheArgumentOnceBehindTheFirstApostrophe)
+TEST_F(Errors, PutTheArgumentOnceAfterTheFirstApostrophe)
 {
     EXPECT_EQ(MessageOf({"Dialog_Error", "212", "", "17"}), "line '17' is wrong");
     EXPECT_EQ(MessageOf({"Dialog_Error", "212", "", ""}), "line '' is wrong");

@@ -50,7 +50,7 @@ const std::string moment = "Date \\d\\d/\\d\\d/\\d\\d           Time \\d\\d:\\d\
 
 } // namespace
 
-TEST_F(Log, StaysUnbornWithoutALevel)
+TEST_F(Log, IsNotCreatedWithoutALevel)
 {
     lytEnvironment.SetDocName("doc.rtf");
     const size_t files = CountFiles();

@@ -1,5 +1,5 @@
-// One table of cases for the platform's profile functions and for the native stand-in: natively these tests show that
-// the stand-in answers like the platform, on Windows that the table is right.
+// One table of cases for the platform's profile functions and for the native substitute: natively these tests show that
+// the substitute answers like the platform, on Windows that the table is right.
 #include "environment/ProfileFile.h"
 
 #include "support/TestFolder.h"
@@ -23,7 +23,7 @@ std::string ReadText(const std::string& content, const char* section, const char
     return ReadProfileText(section, key, defaultText, size, folder.Write("test.ini", content).c_str()).GetString();
 }
 
-// The value that the text behind `k=` reads as.
+// The value that the text after `k=` reads as.
 std::string ReadValue(const std::string& value)
 {
     return ReadText("[s]\r\na=1\r\nk=" + value + "\r\nz=2\r\n", "s", "k");
@@ -286,7 +286,7 @@ TEST(ProfileText, CutsAValueToOneByteLessThanTheBuffer)
     }
 }
 
-TEST(ProfileText, CutsBehindTheOpeningQuoteAndKeepsInnerBlanks)
+TEST(ProfileText, CutsAfterTheOpeningQuoteAndKeepsInnerBlanks)
 {
     const std::string text(80, 'x');
     EXPECT_EQ(ReadValue("\"" + text + "\""), text.substr(0, 74));

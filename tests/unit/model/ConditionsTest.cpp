@@ -188,7 +188,7 @@ TEST_F(DependencyRule, SeesAnyChangedControl)
     EXPECT_EQ(Bound().AnyChanged(), 1);
 }
 
-TEST_F(DependencyRule, SeesNoChangeBehindAnUnknownControl)
+TEST_F(DependencyRule, SeesNoChangeAfterAnUnknownControl)
 {
     controls.Add("A").isChanged = 1;
     AddCondition(rule.conditions, "Unknown");

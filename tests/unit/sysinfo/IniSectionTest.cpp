@@ -25,7 +25,7 @@ Texts Shown(const std::string& content)
 
 } // namespace
 
-TEST(IniSectionDump, AlignsValuesBehindTheLongestKey)
+TEST(IniSectionDump, AlignsValuesAfterTheLongestKey)
 {
     EXPECT_EQ(Shown("[Convert]\r\na=1\r\nlonger=two\r\n"),
               (Texts{"Section [Convert] in lyt.ini:", "  a      = 1", "  longer = two"}));

@@ -12,7 +12,7 @@ std::string Line(const char* key, const RegistryValue& value)
     return ValueLine(key, value).GetString();
 }
 
-// What stands behind the head of a value of that type.
+// What stands after the head of a value of that type.
 std::string Worded(unsigned type, const std::string& data)
 {
     const std::string line = Line("key", {"v", type, data});

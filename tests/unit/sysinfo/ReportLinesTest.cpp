@@ -119,7 +119,7 @@ TEST_F(ReportRead, FreshStoreIsReadFromItsOwnBeginning)
     EXPECT_EQ(Line(0), "1:fresh");
 }
 
-TEST_F(ReportRead, LinesAddedBehindTheLastReadAreReached)
+TEST_F(ReportRead, LinesAddedAfterTheLastReadAreReached)
 {
     EXPECT_EQ(Line(3), "1:three");
     AddReportLine("four");

@@ -24,7 +24,7 @@ WindowsFacts Release(unsigned major, unsigned minor, unsigned productType, unsig
     return facts;
 }
 
-// The name without what stands in front of and behind every name.
+// The name without what stands before and after every name.
 std::string NameOf(const WindowsFacts& facts)
 {
     const std::string line = WindowsNameLine(facts).GetString();
@@ -149,7 +149,7 @@ TEST(WindowsName, StandsForVersion10WhenTheVersionCannotBeRead)
     EXPECT_EQ(WindowsNameLine(WindowsFacts()), "Microsoft Windows   Version 10.0.0  (build 0), 32-bit (Kernel ) ");
 }
 
-TEST(WindowsName, PutsTheEditionBehindTheVersionWithoutABlankOfItsOwn)
+TEST(WindowsName, PutsTheEditionAfterTheVersionWithoutABlankOfItsOwn)
 {
     WindowsFacts facts = Release(6, 1, workstation, 0, amd64);
     facts.build = 7601;
@@ -160,7 +160,7 @@ TEST(WindowsName, PutsTheEditionBehindTheVersionWithoutABlankOfItsOwn)
                                       "64-bit (Kernel 6.1.7601.1) ");
 }
 
-TEST(WindowsName, PutsTheEditionBehindOlderReleasesToo)
+TEST(WindowsName, PutsTheEditionAfterOlderReleasesToo)
 {
     WindowsFacts facts = Release(5, 1, workstation, 0, intel);
     facts.edition = 48;

@@ -91,7 +91,7 @@ TEST_F(NodeSearch, WantsAWholeKeyForGroups)
     EXPECT_EQ(Found(nodes, 'G', "roo"), "-");
 }
 
-TEST_F(NodeSearch, GoesOnBehindAMatchThatClimbsToTheRoot)
+TEST_F(NodeSearch, GoesOnAfterAMatchThatClimbsToTheRoot)
 {
     ClytNodeList other;
     Fill(other, {

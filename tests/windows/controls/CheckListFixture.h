@@ -25,7 +25,7 @@ protected:
         form.main.layout.insert(form.main.layout.end(), {"PushButton Up", "PushButton Down", "PushButton Delete"});
         form.main.values.insert(form.main.values.end(), {"Up=UP,List", "Down=DOWN,List", "Delete=DELETE,List"});
     }
-    // A press of the left button on the mark of an item, and behind its text.
+    // A press of the left button on the mark of an item, and after its text.
     void ClickMark(int index) const { ClickItem(index, 6); }
     void ClickText(int index) const { ClickItem(index, 60); }
     void ClickItem(int index, int x) const

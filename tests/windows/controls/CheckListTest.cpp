@@ -12,7 +12,7 @@ TEST_F(CheckList, AllValuesSkipAnEmptyValueButNotItsSeparator)
     EXPECT_EQ(form.Ok().Open().text, "-a//-c");
 }
 
-TEST_F(CheckList, PutsSeparatorsBetweenBeforeAndBehindItsValues)
+TEST_F(CheckList, PutsSeparatorsBetweenBeforeAndAfterItsValues)
 {
     form.main.output = {"(\"%s\", List(\",\",\"[\",\"]\"))"};
     EXPECT_EQ(form.Ok().Open().text, "[XXone,-xtwo,-tri]");
@@ -117,7 +117,7 @@ TEST_F(CheckList, MovingBeyondTheEndsReports235And234)
             Press("Down");
         });
     form.Message();
-    // Reported, not raised: the rules run behind the action.
+    // Reported, not raised: the rules run after the action.
     form.Then([&] { EXPECT_TRUE(IsWindowEnabled(form["Edit"])); });
     const Form::Outcome outcome = form.Ok().Open();
     EXPECT_EQ(outcome.messages, (Texts{"235 ''", "234 ''"}));

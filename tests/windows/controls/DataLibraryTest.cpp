@@ -56,7 +56,7 @@ TEST_F(DataLibrary, AMissingLibraryEmptiesTheListInSilence)
 
 TEST_F(DataLibrary, AFileThatIsNoLibraryOfThisMachineEmptiesTheListInSilence)
 {
-    form.Folder().Write("broken.dll", "MZ, and nothing behind it");
+    form.Folder().Write("broken.dll", "MZ, and nothing after it");
     form.Folder().Write("other.dll", LibraryOfAnotherMachine());
     for (const char* file : {"\\broken.dll", "\\other.dll"})
     {

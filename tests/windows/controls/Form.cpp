@@ -20,7 +20,7 @@ bool IsShort(const std::string& line)
     return line.find(',') == std::string::npos;
 }
 
-// The name of a layout line: `type name`, or what stands behind the last point.
+// The name of a layout line: `type name`, or what stands after the last point.
 std::string NameOf(const std::string& line)
 {
     return line.substr(line.find_last_of(IsShort(line) ? ' ' : '.') + 1);

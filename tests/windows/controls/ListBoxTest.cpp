@@ -27,7 +27,7 @@ TEST_F(ListBox, DeliversTheDisplayKeyOfAnItemWithoutValueAmongAllValues)
     EXPECT_EQ(form.Ok().Open().text, "ONE/Second");
 }
 
-TEST_F(ListBox, PutsSeparatorsBetweenBeforeAndBehindItsValues)
+TEST_F(ListBox, PutsSeparatorsBetweenBeforeAndAfterItsValues)
 {
     form.main.output = {"(\"%s;%s;%s\", List(\",\",\"[\",\"]\"), List(\",\",\"[\"), List())"};
     EXPECT_EQ(form.Ok().Open().text, "[First,Second,Third];[First,Second,Third; First Second Third ");

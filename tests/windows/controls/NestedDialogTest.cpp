@@ -59,13 +59,6 @@ TEST_F(NestedDialog, AnOutputRuleThatComposesNothingDoesNotOpenIt)
     EXPECT_EQ(form.Ok().Open().messages, Texts{});
 }
 
-TEST_F(NestedDialog, AnUnknownOutputRuleDoesNotOpenIt)
-{
-    Action("DIALOG,Inner,Take,Nothing");
-    Click();
-    EXPECT_EQ(form.Ok().Open().text, "outer");
-}
-
 TEST_F(NestedDialog, RefusingToOpenRunsNoRulesAndKeepsTheWaitCursor)
 {
     form.main.layout = {"PushButton Go", "TextBox Edit", "ListBox List", "CheckListBox Quiet"};

@@ -1,4 +1,4 @@
-// The group dialog: the key is split before it and joined again behind it.
+// The group dialog: the key is split before it and joined again after it.
 #include "DialogFixture.h"
 
 namespace
@@ -52,7 +52,7 @@ TEST_F(Group, ChangedTailGetsItsHeadBack)
     EXPECT_EQ(std::string(second.Data(), 8), std::string("1b\0"
                                                          "2\0(a)",
                                                          8))
-        << "bytes 5 to 7 of the key go to the same places, behind the end of the text as well";
+        << "bytes 5 to 7 of the key go to the same places, after the end of the text as well";
 }
 
 TEST_F(Group, SplitsTheKeyAndJoinsItAgain)

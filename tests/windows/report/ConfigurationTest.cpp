@@ -153,7 +153,7 @@ TEST_F(TemplateSearch, LastUserTemplateStaysInForceWhenNoneIsOfTheVersionInUse)
     EXPECT_EQ(InitPath(), folder.File("user12") + "\\");
 }
 
-TEST_F(TemplateSearch, WidthBehindTheVersionInUseKeepsItFromBeingMet)
+TEST_F(TemplateSearch, WidthAfterTheVersionInUseKeepsItFromBeingMet)
 {
     // The suffix " 64 bit" makes the text of the version in use unlike that of any version, so the search goes on.
     registry.AddKey(HKEY_LOCAL_MACHINE, "Software\\Microsoft\\Word\\17.0");
@@ -198,7 +198,7 @@ TEST_F(TemplateSearch, WorkgroupTemplateBesideAUserTemplateKeepsTheUsersFolder)
     EXPECT_EQ(InitPath(), folder.File("user16") + "\\");
 }
 
-TEST_F(TemplateSearch, StepsBehindTheBlocksReadTheFileThatWasFound)
+TEST_F(TemplateSearch, StepsAfterTheBlocksReadTheFileThatWasFound)
 {
     UseVersion("16");
     WriteIni("[paths]\r\nGUI-HOME=first\r\n[Convert]\r\na=first\r\n");

@@ -121,7 +121,7 @@ protected:
             std::string text = Replaced(Replaced(line, folder.Path(), "<folder>"), lowerPath, "<lower folder>");
             for (const auto& m : masks)
                 text = std::regex_replace(text, m.pattern, m.mask);
-            // The names of the folder differ in length, and with them the blanks behind.
+            // The names of the folder differ in length, and with them the blanks after.
             masked.push_back(std::regex_replace(text, std::regex("(folder>\\S*) +Size: +"), "$1 Size: "));
         }
         return masked;

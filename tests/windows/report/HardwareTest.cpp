@@ -30,7 +30,7 @@ constexpr const char* processorKey = "HARDWARE\\DESCRIPTION\\System\\CentralProc
 class Hardware : public ReportTest
 {
 protected:
-    // A number behind a label, checked against what the platform says at the moment; memory and disks move.
+    // A number after a label, checked against what the platform says at the moment; memory and disks move.
     static void ExpectNear(const Texts& lines, const std::string& label, unsigned long long bytes)
     {
         const std::string line = LineOf(lines, label);
@@ -43,7 +43,7 @@ protected:
 
 } // namespace
 
-TEST_F(Hardware, NameLineStandsBehindTheProgramKind)
+TEST_F(Hardware, NameLineStandsAfterTheProgramKind)
 {
     const Texts lines = Report();
     ASSERT_GT(lines.size(), 2U);

@@ -60,6 +60,6 @@ size_t FindLine(const Texts& lines, const std::string& beginning);
 bool HasLine(const Texts& lines, const std::string& beginning);
 // The first line that begins so.
 std::string LineOf(const Texts& lines, const std::string& beginning);
-// The lines behind the first that begins with `first`, up to the next that begins with `last`.
+// The lines after the first that begins with `first`, up to the next that begins with `last`.
 Texts LinesBetween(const Texts& lines, const std::string& first, const std::string& last);
 size_t CountLines(const Texts& lines, const std::string& beginning);

@@ -11,7 +11,7 @@ class Workstation : public ReportTest
 
 } // namespace
 
-TEST_F(Workstation, ShowsVariablesWithoutABlankBehindTheColon)
+TEST_F(Workstation, ShowsVariablesWithoutABlankAfterTheColon)
 {
     const EnvironmentVariable path("PATH", "C:\\one;C:\\two");
     const EnvironmentVariable temp("TEMP", "C:\\temp");
@@ -44,7 +44,7 @@ TEST_F(Workstation, TakesAnEmptyVariableForOneThatIsNotSet)
     EXPECT_TRUE(HasLine(lines, "TMP     :Value not set."));
 }
 
-TEST_F(Workstation, NamesComputerUserAndScreenBehindTheVariables)
+TEST_F(Workstation, NamesComputerUserAndScreenAfterTheVariables)
 {
     char computer[128] = "";
     DWORD size = sizeof computer;

@@ -18,7 +18,7 @@ Function* Call(const char* name)
     return reinterpret_cast<Function*>(reinterpret_cast<void*>(Exported(name)));
 }
 
-// A buffer of a stated size with guard bytes behind it.
+// A buffer of a stated size with guard bytes after it.
 class GuardedBuffer
 {
 public:

@@ -51,7 +51,7 @@ TEST_F(ListFromIni, GivesEmptyItemsBetweenTwoCommas)
     EXPECT_EQ(ItemsOf(",x"), (Texts{"", "x"}));
 }
 
-TEST_F(ListFromIni, GivesNoEmptyItemBehindALastComma)
+TEST_F(ListFromIni, GivesNoEmptyItemAfterALastComma)
 {
     EXPECT_EQ(ItemsOf("x,"), (Texts{"x"}));
     EXPECT_EQ(ItemsOf(","), (Texts{""}));

@@ -2,7 +2,7 @@
 
 #include <regex>
 
-TEST_F(LogFile, StaysUnbornWithLevel0)
+TEST_F(LogFile, IsNotCreatedWithLevel0)
 {
     writeToLog("text", 0);
     SetLevel("0");
@@ -11,7 +11,7 @@ TEST_F(LogFile, StaysUnbornWithLevel0)
     EXPECT_FALSE(folder.Has("doc.log"));
 }
 
-TEST_F(LogFile, StaysUnbornWhenTheMessageIsAboveTheLevel)
+TEST_F(LogFile, IsNotCreatedForAMessageAboveTheLevel)
 {
     SetLevel("2");
     writeToLog("text", 3);

@@ -24,7 +24,7 @@ TEST_F(TextForKey, CopiesTheTextOfTheCurrentLanguage)
     EXPECT_TRUE(buffer.IsIntact());
 }
 
-TEST_F(TextForKey, PutsTheArgumentBehindTheFirstApostrophe)
+TEST_F(TextForKey, PutsTheArgumentAfterTheFirstApostrophe)
 {
     WriteTexts("[s]\r\nk=a''b\r\n");
     GuardedBuffer buffer(20);

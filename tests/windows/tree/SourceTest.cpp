@@ -3,7 +3,18 @@
 
 #include <stdexcept>
 
-using TreeSource = TreeTest;
+class TreeSource : public TreeTest
+{
+protected:
+    // One catalogue is empty and was asked for nothing, the other is whole.
+    void ExpectRefusedAlone(char refused)
+    {
+        EXPECT_EQ(ItemsShown("P").size(), refused == 'P' ? 0U : 3U);
+        EXPECT_EQ(ItemsShown("S"), refused == 'S' ? Lines() : houseShown);
+        EXPECT_EQ(SymbolFor("tin"), refused == 'S' ? "0 untouched" : "1 tin");
+        EXPECT_EQ(Starts(refused) + Nexts(refused), 0);
+    }
+};
 
 namespace
 {
@@ -44,23 +55,29 @@ TEST_F(TreeSource, MissingLibraryIsSoughtAgainAtTheNextUse)
     EXPECT_EQ(ItemsShown("S"), houseShown);
 }
 
-class IncompleteSource : public TreeTest, public testing::WithParamInterface<std::pair<const char*, char>>
+TEST_F(TreeSource, ParaPairIsRefusedAloneWithoutItsNextFunction)
 {
-};
-
-TEST_P(IncompleteSource, IsRefusedForThePairThatLacksAFunctionAlone)
-{
-    const auto& [variant, refused] = GetParam();
-    UseSource(variant);
-    EXPECT_EQ(ItemsShown("P").size(), refused == 'P' ? 0U : 3U);
-    EXPECT_EQ(ItemsShown("S"), refused == 'S' ? Lines() : houseShown);
-    EXPECT_EQ(SymbolFor("tin"), refused == 'S' ? "0 untouched" : "1 tin");
-    EXPECT_EQ(Starts(refused) + Nexts(refused), 0);
+    UseSource("without-para-next");
+    ExpectRefusedAlone('P');
 }
 
-INSTANTIATE_TEST_SUITE_P(Sources, IncompleteSource,
-                         testing::Values(std::pair("without-para-next", 'P'), std::pair("without-para-start", 'P'),
-                                         std::pair("without-next", 'S'), std::pair("without-start", 'S')));
+TEST_F(TreeSource, ParaPairIsRefusedAloneWithoutItsStartFunction)
+{
+    UseSource("without-para-start");
+    ExpectRefusedAlone('P');
+}
+
+TEST_F(TreeSource, SymbolPairIsRefusedAloneWithoutItsNextFunction)
+{
+    UseSource("without-next");
+    ExpectRefusedAlone('S');
+}
+
+TEST_F(TreeSource, SymbolPairIsRefusedAloneWithoutItsStartFunction)
+{
+    UseSource("without-start");
+    ExpectRefusedAlone('S');
+}
 
 TEST_F(TreeSource, RefusedStartIsAnEmptyCatalogue)
 {

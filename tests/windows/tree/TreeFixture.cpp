@@ -125,52 +125,37 @@ TreeTest::Answer TreeTest::Open(const std::string& request, const std::function<
     return Open(request, std::vector<std::function<void(const TreeWindow&)>>{act});
 }
 
-Lines TreeTest::ItemsShown(const std::string& request)
+template <class SEEN>
+SEEN TreeTest::Look(const std::string& request, SEEN (TreeWindow::*look)() const)
 {
-    Lines lines;
+    SEEN seen{};
     Open(request,
          [&](const TreeWindow& tree)
          {
-             lines = tree.Items();
+             seen = (tree.*look)();
              tree.Cancel();
          });
-    return lines;
+    return seen;
+}
+
+Lines TreeTest::ItemsShown(const std::string& request)
+{
+    return Look(request, &TreeWindow::Items);
 }
 
 Lines TreeTest::ItemsOpen(const std::string& request)
 {
-    Lines lines;
-    Open(request,
-         [&](const TreeWindow& tree)
-         {
-             lines = tree.OpenItems();
-             tree.Cancel();
-         });
-    return lines;
+    return Look(request, &TreeWindow::OpenItems);
 }
 
 std::string TreeTest::Preselected(const std::string& request)
 {
-    std::string label;
-    Open(request,
-         [&](const TreeWindow& tree)
-         {
-             label = tree.Selected();
-             tree.Cancel();
-         });
-    return label;
+    return Look(request, &TreeWindow::Selected);
 }
 
 SIZE TreeTest::SizeShown(const std::string& request)
 {
-    SIZE size = {};
-    Open(request,
-         [&](const TreeWindow& tree)
-         {
-             size = tree.Size();
-             tree.Cancel();
-         });
-    return size;
+    return Look(request, &TreeWindow::Size);
 }
 
 TreeTest::Answer TreeTest::Pick(const std::string& request, const std::string& label)

@@ -47,7 +47,7 @@ protected:
     };
     // Opens the browser, lets one action work it, which must end it; messages are confirmed.
     Answer Open(const std::string& request, const std::function<void(const TreeWindow&)>& act);
-    // The same with an action behind each message.
+    // The same with an action after each message.
     Answer Open(const std::string& request, const std::vector<std::function<void(const TreeWindow&)>>& acts);
     // Opens the browser and looks only.
     Lines ItemsShown(const std::string& request);
@@ -76,6 +76,8 @@ protected:
 private:
     template <class Function>
     Function* GetFromSource(const char* name) const;
+    template <class SEEN>
+    SEEN Look(const std::string& request, SEEN (TreeWindow::*look)() const);
 
     HMODULE m_library = nullptr;
     HMODULE m_source = nullptr;

@@ -209,7 +209,7 @@ TEST_F(TreeMemory, CancelOfAPropertyDialogBringsBackTheEntrySelectedAtOpening)
     EXPECT_EQ(Preselected("S"), "Tin");
 }
 
-TEST_F(TreeMemory, CancelOfAPropertyDialogGoesBackBehindSeveralChoices)
+TEST_F(TreeMemory, CancelOfAPropertyDialogGoesBackPastSeveralChoices)
 {
     Pick("S", "Tin");
     CancelPropertyDialog(
