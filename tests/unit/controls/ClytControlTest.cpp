@@ -1,6 +1,5 @@
 #include "unit/model/Controls.h"
 
-#include "support/ErrorTexts.h"
 #include "support/RecordedMessages.h"
 
 #include <gtest/gtest.h>
@@ -26,14 +25,6 @@ public:
 class BaseControl : public testing::Test
 {
 protected:
-    std::string Messages() const
-    {
-        std::string all;
-        for (const std::string& message : TakeMessages())
-            all += message + ";";
-        return all;
-    }
-
     void Evaluation(ClytControl& control, std::initializer_list<const char*> own, const char* otherName = "",
                     std::initializer_list<const char*> other = {})
     {
@@ -47,9 +38,8 @@ protected:
         control.SetEvaluation(ownValues, otherValues, "CLASH");
     }
 
-    void TearDown() override { EXPECT_EQ(Messages(), ""); }
+    void TearDown() override { EXPECT_TRUE(TakeMessages().empty()); }
 
-    const ErrorTexts texts{"[MsgBox]\r\nCLASH=do not do that\r\n"};
     PlainControl plain;
     Controls controls;
 };
@@ -117,17 +107,6 @@ TEST_F(BaseControl, PassesWithoutAnEvaluation)
     EXPECT_EQ(control.Evaluate(), 1);
 }
 
-TEST_F(BaseControl, FailsWhenItIsEmptyAndMustNotBe)
-{
-    RecordingControl& control = controls.Add("A");
-    Evaluation(control, {"NULL"});
-    EXPECT_EQ(control.Evaluate(), 0);
-    EXPECT_EQ(controls.TakeLog(), "A.focus() ");
-    control.value = "x";
-    EXPECT_EQ(control.Evaluate(), 1);
-    EXPECT_EQ(controls.TakeLog(), "");
-}
-
 TEST_F(BaseControl, IgnoresTheRestOfAnEvaluationThatBeginsWithNull)
 {
     RecordingControl& control = controls.Add("A", "x");
@@ -153,35 +132,12 @@ TEST_F(BaseControl, FailsOnAForbiddenPairOfValues)
     EXPECT_EQ(control.Evaluate(), 1);
 }
 
-TEST_F(BaseControl, FailsWithoutMovingTheFocusWhenTheOtherControlIsUnknown)
-{
-    RecordingControl& control = controls.Add("A", "x");
-    Evaluation(control, {"x"}, "Unknown", {"y"});
-    EXPECT_EQ(control.Evaluate(), 0);
-    EXPECT_EQ(controls.TakeLog(), "");
-}
-
 TEST_F(BaseControl, MatchesEmptyValuesOfAForbiddenPairByNull)
 {
     RecordingControl& control = controls.Add("A");
     controls.Add("B");
     Evaluation(control, {"x", "NULL"}, "B", {"NULL"});
     EXPECT_EQ(control.Evaluate(), 0);
-}
-
-TEST_F(BaseControl, ReplacesAnEarlierEvaluation)
-{
-    RecordingControl& control = controls.Add("A", "x");
-    Evaluation(control, {"x"});
-    Evaluation(control, {"NULL"});
-    EXPECT_EQ(control.Evaluate(), 1);
-}
-
-TEST_F(BaseControl, ShowsTheMessageOfItsEvaluation)
-{
-    Evaluation(plain, {"x"});
-    plain.ShowEvalMessage();
-    EXPECT_EQ(Messages(), "do not do that;");
 }
 
 TEST_F(BaseControl, KeepsAStatementAsACopy)

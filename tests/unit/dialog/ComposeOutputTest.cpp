@@ -208,15 +208,6 @@ TEST_F(Output, ShowsTheMessageOfARuleOnAnUnknownOtherControl)
     EXPECT_EQ(opened.Focus(), "B") << "no control is known that the user could put right";
 }
 
-TEST_F(Output, WithoutAParentGroupKeepsTheDialogOpen)
-{
-    LiveForm& opened = Open();
-    EXPECT_TRUE(opened.GetOutputMap().IsEmpty());
-    lytTreeConfirmCount = 3;
-    EXPECT_FALSE(opened.Confirm());
-    EXPECT_EQ(lytTreeConfirmCount, 0);
-}
-
 TEST_F(Output, OfTheFirstGroupIsTheParents)
 {
     std::string description = text();

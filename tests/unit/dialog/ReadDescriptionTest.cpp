@@ -299,10 +299,3 @@ TEST_F(Construction, RunsTheLaterOfTwoPartsOfOneName)
     EXPECT_EQ(opened.Value("A"), "third");
     EXPECT_EQ(opened.RunInput("missing", ""), 0);
 }
-
-TEST_F(Construction, ResetsTheTreesConfirmations)
-{
-    lytTreeConfirmCount = -1;
-    MakeForm(text());
-    EXPECT_EQ(lytTreeConfirmCount, 0);
-}

@@ -51,17 +51,6 @@ TEST(ClytEnvironment, NamesTheConfigurationFileWithOneSeparator)
     EXPECT_EQ(environment.GetIniFileName(), "\\lyt.ini");
 }
 
-TEST(ClytEnvironment, KeepsFoldersAndDocumentAsGiven)
-{
-    ClytEnvironment environment;
-    environment.SetInitPath("C:\\init");
-    environment.SetDialogPath("dialogs");
-    environment.SetDocName("doc.rtf");
-    EXPECT_EQ(environment.GetInitPath(), "C:\\init");
-    EXPECT_EQ(environment.GetDialogPath(), "dialogs");
-    EXPECT_EQ(environment.GetDocName(), "doc.rtf");
-}
-
 TEST(ClytEnvironment, JoinsDefinesByCommas)
 {
     ClytEnvironment environment;

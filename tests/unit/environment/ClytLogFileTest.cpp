@@ -45,9 +45,6 @@ protected:
     const LanguageFolder folder{"[Dialog_Error]\r\n207=open ''\r\n208=write ''\r\n209=close ''\r\n"};
 };
 
-const std::string rule(77, '-');
-const std::string moment = "Date \\d\\d/\\d\\d/\\d\\d           Time \\d\\d:\\d\\d:\\d\\d";
-
 } // namespace
 
 TEST_F(Log, IsNotCreatedWithoutALevel)
@@ -60,16 +57,6 @@ TEST_F(Log, IsNotCreatedWithoutALevel)
     SetLevel("loud");
     WriteMessage("text", -1);
     EXPECT_EQ(CountFiles(), files);
-}
-
-TEST_F(Log, WritesABlockForEachMessage)
-{
-    SetLevel("1");
-    lytEnvironment.SetDocName("doc.rtf");
-    WriteMessage("a message");
-    const std::regex block("\r\n" + rule + "\r\nSTART\\.\\.\\.  " + moment + "\r\n" + rule + "\r\n\r\n" +
-                           "a message\r\n" + rule + "\r\nEND\\.\\.\\.    " + moment + "\r\n\r\n");
-    EXPECT_TRUE(std::regex_match(folder.Read("doc.log"), block)) << folder.Read("doc.log");
 }
 
 TEST_F(Log, TakesALevelOutOfRangeForTheHighest)
@@ -174,14 +161,6 @@ TEST_F(Log, WritesMoreThanAStreamHoldsBack)
     EXPECT_NE(folder.Read("doc.log").find("\r\n\r\n" + text + "\r\n---"), std::string::npos);
 }
 
-TEST_F(Log, Raises207WhenItsFolderIsMissing)
-{
-    SetLevel("1");
-    lytEnvironment.SetDocName("none\\doc.rtf");
-    EXPECT_EQ(RaisedMessage([] { WriteMessage("text"); }),
-              "The file was not found: none\\doc.log\nopen 'none\\doc.log'");
-}
-
 TEST_F(Log, Raises207WhenAFolderStandsInItsPlace)
 {
     SetLevel("1");
@@ -198,16 +177,6 @@ TEST_F(Log, Raises208WhenNoFileIsOpen)
     const char* const message = "An argument is missing or out of range.\nwrite 'none\\doc.log'";
     EXPECT_EQ(RaisedMessage([] { lytLog.Write("text", 1); }), message);
     EXPECT_EQ(RaisedMessage([] { lytLog.Close(); }), message);
-}
-
-TEST_F(Log, WorksAgainAfterAFailure)
-{
-    SetLevel("1");
-    lytEnvironment.SetDocName("none\\doc.rtf");
-    RaisedMessage([] { WriteMessage("text"); });
-    lytEnvironment.SetDocName("doc.rtf");
-    WriteMessage("text");
-    EXPECT_EQ(CountBlocks("doc.log"), 1U);
 }
 
 TEST_F(Log, RaisesTheInvalidArgumentExceptionForATimeWithoutADate)

@@ -113,15 +113,6 @@ TEST_F(State, ReleaseTwiceAndStartAgain)
     EXPECT_EQ(ShowAndPress(IDOK, "a"), 2);
 }
 
-TEST_F(State, LanguageIsReadAnewByEachDialog)
-{
-    EXPECT_EQ(ShowAndPress(IDOK, "a"), 2);
-    folder.Write("lang/Other.nls", "[TEXTS]\r\nTitle=Der Titel\r\n");
-    folder.Write("lyt.ini", "[global]\r\nCurrent Language=Other\r\n");
-    robot.On("Der Titel", [](HWND) { robot::PressKey(VK_RETURN); });
-    EXPECT_EQ(Show("a"), 2);
-}
-
 TEST_F(State, HostIsAsBeforeOnEveryWayOut)
 {
     HWND host =

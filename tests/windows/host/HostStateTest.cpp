@@ -1,7 +1,8 @@
-// Whatever an export shows or calls, and however it ends, the host has its cursor, its focus and its window again.
+// Whatever an export shows or calls, and however it ends, the host has its cursor, focus, window and current folder again.
 #include "dialogs/DialogFixture.h"
 #include "support/Image.h"
 
+#include <filesystem>
 #include <set>
 
 namespace
@@ -72,6 +73,7 @@ protected:
     void ExpectHostAsBefore(const std::function<void()>& call) const
     {
         host.Work();
+        const std::filesystem::path current = std::filesystem::current_path();
         try
         {
             call();
@@ -83,6 +85,7 @@ protected:
         EXPECT_EQ(GetActiveWindow(), host.window);
         EXPECT_EQ(GetCursor(), host.own);
         EXPECT_TRUE(IsWindowEnabled(host.window));
+        EXPECT_EQ(std::filesystem::current_path(), current);
     }
 
     // A user who comes to a window with the mouse, which changes the cursor.

@@ -54,19 +54,6 @@ TEST_F(ReportStore, HoldsNoLineBreaks)
         EXPECT_EQ(line.find_first_of("\r\n"), std::string::npos) << line;
 }
 
-TEST_F(ReportStore, LeavesTheHostAsItWas)
-{
-    char before[MAX_PATH] = "";
-    GetCurrentDirectoryA(sizeof before, before);
-    HCURSOR cursor = LoadCursorA(nullptr, IDC_CROSS);
-    SetCursor(cursor);
-    Report();
-    char after[MAX_PATH] = "";
-    GetCurrentDirectoryA(sizeof after, after);
-    EXPECT_STREQ(before, after);
-    EXPECT_EQ(GetCursor(), cursor);
-}
-
 TEST_F(ReportStore, TwoThreadsGatherOneReportAfterTheOther)
 {
     const size_t count = Report().size();
