@@ -114,21 +114,6 @@ TEST_F(Errors, RaisedEndTheOperationAndShowNothing)
     EXPECT_TRUE(TakeMessages().empty());
 }
 
-TEST_F(Errors, AreCaughtAsTheProgramsOwn)
-{
-    try
-    {
-        lytRaise("201");
-    }
-    catch (ClytException* e)
-    {
-        EXPECT_EQ(lytMessageOf(*e), "no value");
-        e->Delete();
-        return;
-    }
-    FAIL() << "nothing was raised";
-}
-
 TEST_F(Errors, TextsOfAKeyServeAsPrefixes)
 {
     EXPECT_EQ(ClytPrefix::OfKey("242").Worded(), "unbalanced");

@@ -23,6 +23,16 @@ protected:
         return joined;
     }
 
+    // Reads a section of these lines: what it holds, and its lengths.
+    void ExpectRead(const std::string& content, const std::string& lines, size_t longestKey, size_t longestValue)
+    {
+        Write(content);
+        EXPECT_TRUE(section.Read());
+        EXPECT_EQ(Lines(), lines);
+        EXPECT_EQ(section.GetLongestKey(), longestKey);
+        EXPECT_EQ(section.GetLongestValue(), longestValue);
+    }
+
     const TestFolder folder;
     const std::string file = folder.Write("test.ini", "");
     ClytINISection section{file.c_str(), "s"};
@@ -32,59 +42,37 @@ protected:
 
 TEST_F(IniSection, ReadsKeysAndValuesInFileOrder)
 {
-    Write("b=1\r\na = two \r\n; note\r\n\r\n");
-    EXPECT_TRUE(section.Read());
-    EXPECT_EQ(Lines(), "<b|1><a|two>");
-    EXPECT_EQ(section.GetLongestKey(), 1U);
-    EXPECT_EQ(section.GetLongestValue(), 3U);
+    ExpectRead("b=1\r\na = two \r\n; note\r\n\r\n", "<b|1><a|two>", 1, 3);
 }
 
 TEST_F(IniSection, TakesALineThatBeginsWithEqualsAsAKey)
 {
-    Write("=value\r\n");
-    EXPECT_TRUE(section.Read());
-    EXPECT_EQ(Lines(), "<=value|>");
-    EXPECT_EQ(section.GetLongestKey(), 0U);
-    EXPECT_EQ(section.GetLongestValue(), 6U);
+    ExpectRead("=value\r\n", "<=value|>", 0, 6);
 }
 
 TEST_F(IniSection, CountsALineWithoutEqualsAsAValueOnly)
 {
-    Write("a long key\r\nb=1\r\n");
-    EXPECT_TRUE(section.Read());
-    EXPECT_EQ(Lines(), "<a long key|><b|1>");
-    EXPECT_EQ(section.GetLongestKey(), 1U);
-    EXPECT_EQ(section.GetLongestValue(), 10U);
+    ExpectRead("a long key\r\nb=1\r\n", "<a long key|><b|1>", 1, 10);
 }
 
 TEST_F(IniSection, SplitsAtTheFirstEqualsOnly)
 {
-    Write("key=a=b\r\n");
-    EXPECT_TRUE(section.Read());
-    EXPECT_EQ(Lines(), "<key|a=b>");
-    EXPECT_EQ(section.GetLongestValue(), 3U);
+    ExpectRead("key=a=b\r\n", "<key|a=b>", 3, 3);
 }
 
 TEST_F(IniSection, KeepsBothLinesWithOneKey)
 {
-    Write("k=1\r\nk=2\r\n");
-    EXPECT_TRUE(section.Read());
-    EXPECT_EQ(Lines(), "<k|1><k|2>");
+    ExpectRead("k=1\r\nk=2\r\n", "<k|1><k|2>", 1, 1);
 }
 
 TEST_F(IniSection, KeepsAnEmptyValue)
 {
-    Write("k=\r\n");
-    EXPECT_TRUE(section.Read());
-    EXPECT_EQ(Lines(), "<k|>");
-    EXPECT_EQ(section.GetLongestKey(), 1U);
-    EXPECT_EQ(section.GetLongestValue(), 0U);
+    ExpectRead("k=\r\n", "<k|>", 1, 0);
 }
 
 TEST_F(IniSection, OnceAbsentIsEmptyAndKeepsItsLengths)
 {
-    Write("key=value\r\n");
-    EXPECT_TRUE(section.Read());
+    ExpectRead("key=value\r\n", "<key|value>", 3, 5);
     folder.Write("test.ini", "[other]\r\na=1\r\n");
     EXPECT_FALSE(section.Read());
     EXPECT_TRUE(section.empty());
@@ -94,13 +82,8 @@ TEST_F(IniSection, OnceAbsentIsEmptyAndKeepsItsLengths)
 
 TEST_F(IniSection, ReadAgainHoldsTheNewLinesAndTheGreatestLengths)
 {
-    Write("key=value\r\n");
-    EXPECT_TRUE(section.Read());
-    Write("a=1\r\n");
-    EXPECT_TRUE(section.Read());
-    EXPECT_EQ(Lines(), "<a|1>");
-    EXPECT_EQ(section.GetLongestKey(), 3U);
-    EXPECT_EQ(section.GetLongestValue(), 5U);
+    ExpectRead("key=value\r\n", "<key|value>", 3, 5);
+    ExpectRead("a=1\r\n", "<a|1>", 3, 5);
 }
 
 TEST_F(IniSection, IsEmptyWhenFileOrSectionIsMissing)

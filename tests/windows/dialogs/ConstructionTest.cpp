@@ -28,19 +28,22 @@ TEST_F(Construction, ControlsStandInTheOrderOfTheLayout)
     EXPECT_EQ(Show(), 0);
 }
 
-TEST_F(Construction, KeyIsScannedAndComesBack)
+TEST_F(Construction, KeyIsScannedAndComesBackChangedOrNot)
 {
     Describe({});
-    On(
-        [](HWND dialog)
-        {
-            EXPECT_EQ(robot::TextOf(robot::ChildAt(dialog, 0)), "A1");
-            EXPECT_EQ(GetFocus(), robot::ChildAt(dialog, 0));
-            robot::ReplaceText(robot::ChildAt(dialog, 0), "B2");
-            robot::PressKey(VK_RETURN);
-        });
-    EXPECT_EQ(Show("A1"), 1);
-    EXPECT_EQ(text, "B2");
+    for (const auto& [entered, answer] : {std::pair("A1", 2), std::pair("B2", 1)})
+    {
+        On(
+            [input = entered](HWND dialog)
+            {
+                EXPECT_EQ(robot::TextOf(robot::ChildAt(dialog, 0)), "A1");
+                EXPECT_EQ(GetFocus(), robot::ChildAt(dialog, 0));
+                robot::ReplaceText(robot::ChildAt(dialog, 0), input);
+                robot::PressKey(VK_RETURN);
+            });
+        EXPECT_EQ(Show("A1"), answer);
+        EXPECT_EQ(text, entered);
+    }
 }
 
 TEST_F(Construction, LabelEndsAfterItsApostropheAndIsMeasuredSo)

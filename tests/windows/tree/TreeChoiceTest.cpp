@@ -36,13 +36,6 @@ TEST_F(TreeChoice, HandsOutTheKeyOfAGroup)
     EXPECT_EQ(Pick("P", "Gravel").text, "gravel");
 }
 
-TEST_F(TreeChoice, TellsTheWizardTypeKeyAndLabel)
-{
-    EXPECT_EQ(Pick("W", "Roof").text, "G/roof/Roof");
-    EXPECT_EQ(Pick("W", "Tile   red").text, "S/tile/Tile##red");
-    EXPECT_EQ(Pick("W", "Garden").text, "H//Garden");
-}
-
 TEST_F(TreeChoice, CancelLeavesTheTargetAsItWas)
 {
     const Answer answer = Open("S", [](const TreeWindow& tree) { tree.Cancel(); });
