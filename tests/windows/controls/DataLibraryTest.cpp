@@ -1,4 +1,5 @@
-// A class keeps the first library that loads for the life of the process, so these tests run in their order.
+// Which library files a class of controls loads: windows in memory load none. A class keeps the first library that loads
+// for the life of the process, so these tests run in their order.
 #include "DataLibraryFixture.h"
 
 #include <fstream>
