@@ -8,6 +8,7 @@
 #include "support/TestFolder.h"
 
 #include <cstdio>
+#include <cstdlib>
 #include <cstring>
 #include <memory>
 #include <stdexcept>
@@ -76,14 +77,15 @@ void ReadStatements(benchmark::State& state)
     while (state.KeepRunning())
     {
         ClytDialogFile file(nullptr);
-        file.Open(name.c_str(), CFile::modeRead);
+        if (!file.Open(name.c_str(), CFile::modeRead))
+            std::abort();
         CString text;
         CStringList words;
         int width = 0;
         int height = 0;
         file.ReadVersionHeader(text);
         file.TakeTokens(words);
-        file.ReadDialogHeader(width, height, text, text);
+        benchmark::DoNotOptimize(file.ReadDialogHeader(width, height, text, text));
         ClytControlStatement statement;
         while (file.ReadControlStatement(statement) != 0)
             benchmark::DoNotOptimize(statement.x);

@@ -16,7 +16,7 @@ function(lyt_function_table target library)
   list(REMOVE_DUPLICATES functions)
   list(JOIN functions "();\nvoid " declarations)
   set(table ${CMAKE_CURRENT_BINARY_DIR}/${target}-functions.cpp)
-  # Only addresses are taken, so the functions need no types.
+  # Only addresses are taken, so the functions need no types; of the variable only the making counts.
   file(CONFIGURE OUTPUT ${table} CONTENT "#include \"platform/PartnerLibraries.h\"\n
 extern \"C\"\n{\nvoid ${declarations}();\n}\n
 [[maybe_unused]] static const bool areAdded = []\n{\n${additions}    return true;\n}();\n")

@@ -161,6 +161,7 @@ int RegisterAll()
     return 0;
 }
 
+// Only its making counts.
 [[maybe_unused]] const int registered = RegisterAll();
 
 } // namespace

@@ -74,7 +74,7 @@ void InsertByHand(HWND tree)
         insert.hParent = record.nLevel > 0 ? parents[record.nLevel - 1] : nullptr;
         insert.hInsertAfter = TVI_LAST;
         insert.item.mask = TVIF_TEXT | TVIF_IMAGE | TVIF_SELECTEDIMAGE;
-        insert.item.pszText = const_cast<char*>(record.szLabel);
+        insert.item.pszText = const_cast<char*>(record.szLabel); // the control copies it
         insert.item.iImage = insert.item.iSelectedImage = record.nType - 1;
         parents[record.nLevel] =
             reinterpret_cast<HTREEITEM>(SendMessageA(tree, TVM_INSERTITEMA, 0, reinterpret_cast<LPARAM>(&insert)));

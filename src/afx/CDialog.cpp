@@ -87,14 +87,12 @@ LRESULT CDialog::HandleInitDialog(WPARAM /*wParam*/, LPARAM /*lParam*/)
 
 BOOL CDialog::OnInitDialog()
 {
-    UpdateData(FALSE);
     return TRUE;
 }
 
 void CDialog::OnOK()
 {
-    if (UpdateData(TRUE))
-        EndDialog(IDOK);
+    EndDialog(IDOK);
 }
 
 void CDialog::OnCancel()

@@ -5,13 +5,6 @@
 
 #include <cerrno>
 
-void CFile::SetFilePath(const char* fileName)
-{
-    if (fileName == nullptr)
-        AfxThrowInvalidArgException();
-    m_strFileName = fileName;
-}
-
 BOOL CStdioFile::Open(const char* fileName, UINT flags, CFileException* error)
 {
     SetFilePath(fileName);
@@ -24,7 +17,6 @@ BOOL CStdioFile::Open(const char* fileName, UINT flags, CFileException* error)
         return 1;
     if (error != nullptr)
     {
-        error->m_osError = errno;
         error->m_cause = CFileException::ErrnoToException(errno);
         error->m_strFileName = fileName;
     }
@@ -68,5 +60,5 @@ std::FILE* CStdioFile::Stream() const
 
 void CStdioFile::Fail() const
 {
-    AfxThrowFileException(CFileException::ErrnoToException(errno), errno, m_strFileName);
+    AfxThrowFileException(CFileException::ErrnoToException(errno), 0, m_strFileName);
 }

@@ -3,7 +3,6 @@
 #include "FormatText.h"
 
 #include <algorithm>
-#include <cctype>
 #include <cstring>
 
 namespace
@@ -41,11 +40,6 @@ unsigned char ToUpper1252(unsigned char ch)
 unsigned char Byte(char ch)
 {
     return static_cast<unsigned char>(ch);
-}
-
-bool IsSpace(char ch)
-{
-    return ch == ' ' || (ch >= '\t' && ch <= '\r');
 }
 
 int Index(size_t position)
@@ -179,24 +173,6 @@ CString& CString::MakeUpper()
 {
     std::ranges::transform(m_text, m_text.begin(), [](char ch) { return static_cast<char>(ToUpper1252(Byte(ch))); });
     return *this;
-}
-
-CString& CString::TrimLeft()
-{
-    m_text.erase(m_text.begin(), std::ranges::find_if_not(m_text, IsSpace));
-    return *this;
-}
-
-CString& CString::TrimRight()
-{
-    while (!m_text.empty() && IsSpace(m_text.back()))
-        m_text.pop_back();
-    return *this;
-}
-
-CString& CString::Trim()
-{
-    return TrimRight().TrimLeft();
 }
 
 void CString::Format(const char* format, ...)

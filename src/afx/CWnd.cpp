@@ -274,12 +274,3 @@ void CWnd::CenterWindow() const
                  std::max(std::min<LONG>(y, area.bottom - own.Height()), area.top), -1, -1,
                  SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
-
-BOOL CWnd::UpdateData(BOOL saveAndValidate)
-{
-    CDataExchange exchange(this, saveAndValidate);
-    DoDataExchange(&exchange);
-    return TRUE;
-}
-
-void CWnd::DoDataExchange(CDataExchange* /*exchange*/) {}

@@ -10,7 +10,7 @@ class CallbackFailure
 public:
     // Runs what a callback has to do; false when it raised, and the callback then asks the platform to stop.
     template <class STEP>
-    bool Run(STEP step) noexcept
+    [[nodiscard]] bool Run(STEP step) noexcept
     {
         try
         {

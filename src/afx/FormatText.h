@@ -5,7 +5,7 @@
 #include <cstddef>
 
 // The length of the formatted text, negative for a format that is none.
-int FormattedLength(const char* format, va_list arguments);
+[[nodiscard]] int FormattedLength(const char* format, va_list arguments);
 
 // Writes the formatted text and a NUL; `size` counts both.
 void FormatText(char* buffer, size_t size, const char* format, va_list arguments);

@@ -4,10 +4,10 @@
 #include <afx.h>
 
 // Opens a stream under the flags of CFile; null with `errno` set when that fails, also for a folder.
-std::FILE* OpenTextStream(const char* fileName, UINT flags);
+[[nodiscard]] std::FILE* OpenTextStream(const char* fileName, UINT flags);
 
 // Reads up to and including a line end, at most `count` characters and a NUL; false at the end of the text.
-bool ReadTextLine(std::FILE* stream, char* buffer, UINT count);
+[[nodiscard]] bool ReadTextLine(std::FILE* stream, char* buffer, UINT count);
 
 // False when the text cannot be written.
-bool WriteText(std::FILE* stream, const char* text);
+[[nodiscard]] bool WriteText(std::FILE* stream, const char* text);

@@ -38,7 +38,7 @@ public:
     CString(const char* text, int length);
     explicit CString(char ch, int repeat = 1);
 
-    operator const char*() const noexcept { return m_text.c_str(); } // NOLINT(google-explicit-constructor)
+    operator const char*() const noexcept { return m_text.c_str(); } // NOLINT(google-explicit-constructor): as above
     const char* GetString() const noexcept { return m_text.c_str(); }
     int GetLength() const noexcept { return static_cast<int>(m_text.size()); }
     bool IsEmpty() const noexcept { return m_text.empty(); }
@@ -53,8 +53,6 @@ public:
     CString& operator+=(const char* text);
     CString& operator+=(char ch);
     void Append(const char* text, int length);
-    void AppendChar(char ch) { m_text += ch; }
-    void Preallocate(int length) { m_text.reserve(static_cast<size_t>(length)); }
 
     // Parts of the text; positions and counts outside it are moved to its ends.
     CString Left(int count) const;
@@ -76,10 +74,6 @@ public:
     // Case folding follows code page 1252, whatever the locale of the process is.
     CString& MakeLower();
     CString& MakeUpper();
-    // Cuts `isspace` characters of the C locale.
-    CString& TrimLeft();
-    CString& TrimRight();
-    CString& Trim();
 
     void Format(const char* format, ...) __attribute__((format(printf, 2, 3)));
     void AppendFormat(const char* format, ...) __attribute__((format(printf, 2, 3)));
@@ -143,8 +137,8 @@ public:
         diskFull
     };
 
-    explicit CFileException(int cause = none, int osError = 0, const char* fileName = nullptr)
-        : m_cause(cause), m_osError(osError), m_strFileName(fileName)
+    explicit CFileException(int cause = none, int /*osError*/ = 0, const char* fileName = nullptr)
+        : m_cause(cause), m_strFileName(fileName)
     {
     }
     BOOL GetErrorMessage(char* buffer, UINT size, UINT* helpContext = nullptr) const override;
@@ -152,7 +146,6 @@ public:
     static int ErrnoToException(int error);
 
     int m_cause;
-    int m_osError;
     CString m_strFileName;
 };
 
@@ -163,6 +156,7 @@ public:
 // has no window (tests, tools) links a definition of its own.
 int AfxMessageBox(const char* text, UINT type = 0, UINT help = 0);
 
+// What a file is opened for, and its name.
 class CFile : public CObject
 {
 public:
@@ -176,14 +170,7 @@ public:
         typeText = 0x4000
     };
 
-    // False when the file cannot be opened; `error`, when given, then tells why.
-    virtual BOOL Open(const char* fileName, UINT flags, CFileException* error = nullptr) = 0;
-    // Raises CFileException when what was written cannot be brought to the file.
-    virtual void Close() = 0;
-    // Closes without looking at errors.
-    virtual void Abort() = 0;
-    virtual void SetFilePath(const char* fileName);
-    const CString& GetFilePath() const { return m_strFileName; }
+    void SetFilePath(const char* fileName);
 
 protected:
     CString m_strFileName;
@@ -193,12 +180,15 @@ protected:
 class CStdioFile : public CFile
 {
 public:
-    BOOL Open(const char* fileName, UINT flags, CFileException* error = nullptr) override;
-    void Close() override;
-    void Abort() override { m_pStream.reset(); }
+    // False when the file cannot be opened; `error`, when given, then tells why.
+    [[nodiscard]] BOOL Open(const char* fileName, UINT flags, CFileException* error = nullptr);
+    // Raises CFileException when what was written cannot be brought to the file.
+    virtual void Close();
+    // Closes without looking at errors.
+    void Abort() { m_pStream.reset(); }
     // Reads one line with its line end, at most `count` characters and a NUL; null at the end of the file.
-    virtual char* ReadString(char* buffer, UINT count);
-    virtual void WriteString(const char* text);
+    [[nodiscard]] virtual char* ReadString(char* buffer, UINT count);
+    void WriteString(const char* text);
     void SeekToEnd();
 
 private:

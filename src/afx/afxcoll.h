@@ -69,6 +69,7 @@ private:
         typename std::list<Node>::const_iterator self;
     };
 
+    // A POSITION names an element of a constant list as well, and leads back into the list that it came from.
     static POSITION Place(const Node& node)
     {
         return static_cast<POSITION>(static_cast<void*>(const_cast<Node*>(&node)));
@@ -174,7 +175,6 @@ public:
         return true;
     }
     void SetAt(const char* key, void* value) { m_entries.insert_or_assign(key, value); }
-    bool RemoveKey(const char* key) { return m_entries.erase(key) != 0; }
     void RemoveAll() { m_entries.clear(); }
 
 private:

@@ -35,6 +35,7 @@ protected:                                                                      
     static const AFX_MSGMAP* GetThisMessageMap();                                                                      \
     const AFX_MSGMAP* GetMessageMap() const override;
 
+// The formatter takes the brace that stays open for a mistake.
 // clang-format off
 #define BEGIN_MESSAGE_MAP(theClass, baseClass)                                                                         \
     const AFX_MSGMAP* theClass::GetMessageMap() const { return GetThisMessageMap(); }                                  \
@@ -51,7 +52,8 @@ protected:                                                                      
     }
 // clang-format on
 
-// An entry whose handler gives no result; `call` is what it runs, with `self` and `m` the message.
+// An entry whose handler gives no result; `call` is what it runs, with `self` and `m` the message, which not every call
+// looks at.
 #define AFX_ENTRY(message, code, id, call)                                                                             \
     {(message), static_cast<UINT>(code), (id),                                                                         \
      [](CWnd& w, [[maybe_unused]] const MSG& m) -> LRESULT                                                             \

@@ -27,8 +27,6 @@ protected:
     virtual const AFX_MSGMAP* GetMessageMap() const;
 };
 
-class CDataExchange;
-
 class CWnd : public CCmdTarget
 {
 public:
@@ -39,11 +37,10 @@ public:
     HWND m_hWnd = nullptr;
 
     // Creates a child window and joins it; false when it cannot be created. PreCreateWindow sees the parameters first.
-    virtual BOOL Create(const char* className, const char* windowName, DWORD style, const RECT& rect, CWnd* parent,
-                        UINT id);
+    BOOL Create(const char* className, const char* windowName, DWORD style, const RECT& rect, CWnd* parent, UINT id);
     BOOL CreateEx(DWORD exStyle, const char* className, const char* windowName, DWORD style, const RECT& rect,
                   CWnd* parent, UINT id);
-    virtual BOOL DestroyWindow();
+    BOOL DestroyWindow();
     // Joins a window that stands already and has no object yet; leaves it again with the procedure that it had, unless
     // somebody has put another one on top meanwhile.
     BOOL SubclassWindow(HWND window);
@@ -84,21 +81,18 @@ public:
     void GetWindowRect(RECT* rect) const { ::GetWindowRect(m_hWnd, rect); }
     // Centers a top-level window over its visible owner, else on the screen, and keeps it on the work area.
     void CenterWindow() const;
-    // Exchanges values between controls and members, as far as DoDataExchange does.
-    BOOL UpdateData(BOOL saveAndValidate = TRUE);
 
 protected:
     virtual BOOL PreCreateWindow(CREATESTRUCTA& create);
     virtual LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam);
-    virtual LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam);
+    LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam);
     // Hands the message that is being handled to the procedure that the window had before.
     LRESULT Default();
     // True when the message is done with.
     virtual BOOL OnCommand(WPARAM wParam, LPARAM lParam);
-    virtual BOOL OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* result);
+    BOOL OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* result);
     // A message about this control that its parent received.
     virtual BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result);
-    virtual void DoDataExchange(CDataExchange* exchange);
     // The last call to the object; the window is gone.
     virtual void PostNcDestroy() {}
 
@@ -120,16 +114,6 @@ private:
     WNDPROC m_pfnSuper = nullptr;
 };
 
-// What UpdateData hands to DoDataExchange.
-class CDataExchange
-{
-public:
-    CDataExchange(CWnd* dialog, BOOL saveAndValidate) : m_bSaveAndValidate(saveAndValidate), m_pDlgWnd(dialog) {}
-
-    BOOL m_bSaveAndValidate;
-    CWnd* m_pDlgWnd; // outlives the exchange
-};
-
 // The one place where a message is handled, and the handler of last resort round it: what is raised is reported, and
 // nothing crosses a window procedure.
 LRESULT AfxCallWndProc(CWnd& window, UINT message, WPARAM wParam, LPARAM lParam) noexcept;
@@ -143,7 +127,7 @@ public:
     // Runs the dialog; its owner is the parent, or the thread's active window without one. Gives what EndDialog was
     // told, -1 when there is no such template or the object stands over a window already. Raises what joining the window
     // raised, once the window is gone again.
-    virtual INT_PTR DoModal();
+    INT_PTR DoModal();
     void EndDialog(int result) const { ::EndDialog(m_hWnd, result); }
     // Gives a child the focus as the Tab key does.
     void GotoDlgCtrl(const CWnd* child) const
@@ -237,7 +221,7 @@ public:
     void SetCheck(int index, int check);
     int GetCheck(int index) const;
     // Draws one item; without a record or a device nothing.
-    virtual void DrawItem(DRAWITEMSTRUCT* draw);
+    void DrawItem(DRAWITEMSTRUCT* draw);
 
 protected:
     BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result) override;

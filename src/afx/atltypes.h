@@ -6,14 +6,16 @@
 class CPoint : public POINT
 {
 public:
-    CPoint(int left = 0, int top = 0) : POINT{left, top} {} // NOLINT(google-explicit-constructor)
+    // NOLINTNEXTLINE(google-explicit-constructor): without arguments it is the point 0, 0; the name is the published one.
+    CPoint(int left = 0, int top = 0) : POINT{left, top} {}
     explicit CPoint(LPARAM packed) : POINT{static_cast<short>(LOWORD(packed)), static_cast<short>(HIWORD(packed))} {}
 };
 
 class CSize : public SIZE
 {
 public:
-    CSize(int width = 0, int height = 0) : SIZE{width, height} {} // NOLINT(google-explicit-constructor)
+    // NOLINTNEXTLINE(google-explicit-constructor): as for CPoint.
+    CSize(int width = 0, int height = 0) : SIZE{width, height} {}
 };
 
 class CRect : public RECT

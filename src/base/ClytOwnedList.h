@@ -22,7 +22,6 @@ public:
         return added;
     }
     std::unique_ptr<T> RemoveHead() { return std::unique_ptr<T>(List::RemoveHead()); }
-    std::unique_ptr<T> RemoveTail() { return std::unique_ptr<T>(List::RemoveTail()); }
     void RemoveAt(POSITION position)
     {
         const std::unique_ptr<T> record(List::GetAt(position));
@@ -36,12 +35,6 @@ public:
 
     // Each list takes over the records of the other.
     void Exchange(ClytOwnedList& other) noexcept { List::Swap(other); }
-    // Moves every record of the other list behind the records of this one.
-    void TakeAll(ClytOwnedList& other)
-    {
-        while (!other.IsEmpty())
-            AddTail(other.RemoveHead());
-    }
 
 private:
     using List::AddHead;

@@ -36,7 +36,7 @@ inline ClytOwnLibraries* lytOwnLibraries = nullptr;
 
 // Null when the library cannot be loaded, and for a name that is empty or longer than the platform takes. The system
 // shows no message of its own, whatever lies under the name.
-HMODULE lytLoadLibrary(const char* name);
+[[nodiscard]] HMODULE lytLoadLibrary(const char* name);
 
 FARPROC lytFunctionAddress(HMODULE library, const char* name);
 // The function under the type that the partner's header gives it; null when the library has none of that name.

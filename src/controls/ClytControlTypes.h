@@ -16,4 +16,4 @@ struct ClytControlRequest
 };
 
 // Null for a word that stands for no control.
-std::unique_ptr<ClytControl> lytMakeControl(const ClytControlRequest& request);
+[[nodiscard]] std::unique_ptr<ClytControl> lytMakeControl(const ClytControlRequest& request);

@@ -35,7 +35,7 @@ public:
     explicit ClytDataListing(lytDataNext& nextFunction) : next(nextFunction) {}
 
     // False at the end of the listing, and of a run that does not end.
-    bool Next();
+    [[nodiscard]] bool Next();
     CString GetDisplay() const { return display.Text(); }
     CString GetValue() const { return value.Text(); }
 
@@ -65,10 +65,10 @@ class ClytDataLibrary
 {
 public:
     // False when there is no library yet and this one cannot be loaded. The place is that of the statement that names it.
-    bool Load(const CString& name, const ClytSpan& place = {});
+    [[nodiscard]] bool Load(const CString& name, const ClytSpan& place = {});
     // Null for a function that the library does not have.
     template <class FUNCTION>
-    FUNCTION* Find(const CString& name, const ClytSpan& place = {}) const
+    [[nodiscard]] FUNCTION* Find(const CString& name, const ClytSpan& place = {}) const
     {
         auto* found = lytFindFunction<FUNCTION>(module, name);
         if (found == nullptr)

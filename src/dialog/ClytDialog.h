@@ -50,17 +50,17 @@ public:
     // False when a command that arrives now must not run the rules: while windows are created or the first input is
     // scanned, when a value that the innermost run reads moved the focus, and when too many runs stand one inside the
     // other. In the last case the innermost run makes up for the one that it refuses.
-    bool MayRunRules();
+    [[nodiscard]] bool MayRunRules();
 
     // Scans lytInputKey into the controls, empties it and takes the baseline of every control.
     void ApplyInput(const CString& partName);
     int RunInput(const CString& partName, const CString& text) override;
 
     // The first rule of the group whose conditions all hold, or null. A condition on an unknown control raises 245.
-    const ClytDialogOutput* SelectRule(const ClytOutput& group);
+    [[nodiscard]] const ClytDialogOutput* SelectRule(const ClytOutput& group);
     // Composes the text of a group; with `check` the evaluations of the controls that it takes are run. 0, with the
     // target as it was, when no rule holds or an evaluation fails (its message is shown).
-    int ComposeOutput(const ClytOutput& group, CString& target, int check);
+    [[nodiscard]] int ComposeOutput(const ClytOutput& group, CString& target, int check);
     int ComposeNamedOutput(const CString& groupName, CString& target) override;
     // Puts the items into the format. A format without `%` is the result as it stands.
     static CString FormatOutput(const CString& format, const CStringArray& items);
@@ -90,7 +90,7 @@ protected:
     const ClytControlDep* FindDefaultButtonRule(const CString& focusName) const;
     // What OK does before the window ends: composes the result, with evaluations. 0 when the dialog is to stay open. A
     // failure of the program's own is raised again as 246.
-    int ComposeResult();
+    [[nodiscard]] int ComposeResult();
 
     DECLARE_MESSAGE_MAP()
 

@@ -57,18 +57,18 @@ public:
 
     int ReadVersionHeader(CString& version);
     // 0 when the line is not a dialog's.
-    int ReadDialogHeader(int& width, int& height, CString& title, CString& lastText);
-    int ReadControlStatement(ClytControlStatement& statement);
-    int ReadValueStatement(CString& name, CString& keyword, CStringList& values);
+    [[nodiscard]] int ReadDialogHeader(int& width, int& height, CString& title, CString& lastText);
+    [[nodiscard]] int ReadControlStatement(ClytControlStatement& statement);
+    [[nodiscard]] int ReadValueStatement(CString& name, CString& keyword, CStringList& values);
     // Sets control name and state word, and appends the conditions to those that the rule has.
-    int ReadDependencyStatement(ClytControlDep& rule);
+    [[nodiscard]] int ReadDependencyStatement(ClytControlDep& rule);
     // Fills lists and key that come in empty; a line without a statement leaves them so.
-    int ReadEvaluationStatement(ClytCtrlValList& own, ClytCtrlValList& other, CString& messageKey);
-    int ReadInputHeader(CString& name);
+    [[nodiscard]] int ReadEvaluationStatement(ClytCtrlValList& own, ClytCtrlValList& other, CString& messageKey);
+    [[nodiscard]] int ReadInputHeader(CString& name);
     // Reads the statements after a header into the part.
     void ReadInputPart(ClytInputPart& part);
     // A group header sets the group name, any other statement adds to the rule's parts and sets its format.
-    int ReadOutputStatement(CString& groupName, ClytDialogOutput& rule);
+    [[nodiscard]] int ReadOutputStatement(CString& groupName, ClytDialogOutput& rule);
 
 private:
     // What is thrown once a failure has been told and the sink wants to hear of more; it ends the statement.
@@ -79,7 +79,7 @@ private:
     template <class READ>
     int ReadStatement(READ read);
 
-    bool ReadTokens(const DelimiterSet& delimiters);
+    [[nodiscard]] bool ReadTokens(const DelimiterSet& delimiters);
     // The position stands on the first token, after the terminator on the second, or is null. The end of the file is
     // told.
     int ReadSectionLine(POSITION& token, const char* terminator, const DelimiterSet& delimiters);
@@ -94,10 +94,10 @@ private:
     [[noreturn]] void FailQuote(const char* line, const char* openQuote);
     // Where the present line ends.
     ClytSpan EndOfLine() const;
-    bool ReadValueList(POSITION& token, CStringList& values);
+    [[nodiscard]] bool ReadValueList(POSITION& token, CStringList& values);
 
     int ReadHeaderStatement(CString& version, bool& isVersionSeen);
-    bool ReadHeaderLine();
+    [[nodiscard]] bool ReadHeaderLine();
     void ReadControl(const CString& type, POSITION token, ClytControlStatement& statement);
     void ReadControlOperands(POSITION token, ClytControlStatement& statement);
     CString TakeName(const CString& operand);
@@ -121,7 +121,7 @@ private:
     void ReadFillAction(POSITION& token, ClytControlFill& fill);
 
     void ReadOutput(POSITION token, CString& groupName, ClytDialogOutput& rule);
-    bool ReadOutputCondition(const ClytToken& control, POSITION& token, ClytConditions& conditions);
+    [[nodiscard]] bool ReadOutputCondition(const ClytToken& control, POSITION& token, ClytConditions& conditions);
     void ReadOutputItem(POSITION& token, ClytDialogOutput& rule);
     CString ReadItemAction(POSITION& token);
 

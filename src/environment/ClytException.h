@@ -18,9 +18,6 @@ public:
     ClytPrefix(const char* text) : m_text(text) {}
     static ClytPrefix OfKey(const char* key);
 
-    bool IsKey() const { return m_isKey; }
-    // The text or the key.
-    const CString& Get() const { return m_text; }
     CString Worded() const;
 
 private:
@@ -35,7 +32,6 @@ public:
     ClytException(CString textSection, CString textKey, ClytPrefix messagePrefix, CString textArgument);
 
     const CString& GetNumber() const { return number; }
-    const ClytPrefix& GetPrefix() const { return prefix; }
     const CString& GetArgument() const { return argument; }
 
     // The text of the key with the argument behind its first apostrophe, below the prefix and a line feed when there is

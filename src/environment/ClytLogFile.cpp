@@ -32,7 +32,7 @@ CString Formatted(const char* format, const std::tm& time)
 
 // Runs a step on the file. What it raises is raised again under the number, and the file is closed by then.
 template <class Step>
-void Guarded(CFile& file, const char* number, const CString& logName, Step step)
+void Guarded(CStdioFile& file, const char* number, const CString& logName, Step step)
 {
     try
     {

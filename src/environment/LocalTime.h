@@ -4,4 +4,4 @@
 #include <ctime>
 
 // False when the time cannot be told as a date; `local` is then of no use.
-bool LocalTimeOf(std::time_t time, std::tm& local);
+[[nodiscard]] bool LocalTimeOf(std::time_t time, std::tm& local);

@@ -8,7 +8,7 @@ namespace __gnu_cxx // NOLINT(bugprone-reserved-identifier): the runtime's name
 {
 
 // Frees the memory that the runtime keeps for exceptions when there is no other.
-void __freeres(); // NOLINT(bugprone-reserved-identifier)
+void __freeres(); // NOLINT(bugprone-reserved-identifier): as above
 
 } // namespace __gnu_cxx
 

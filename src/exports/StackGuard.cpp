@@ -11,12 +11,12 @@
 extern "C"
 {
     extern uintptr_t __stack_chk_guard;   // NOLINT(bugprone-reserved-identifier): the compiler's names
-    [[noreturn]] void __stack_chk_fail(); // NOLINT(bugprone-reserved-identifier)
+    [[noreturn]] void __stack_chk_fail(); // NOLINT(bugprone-reserved-identifier): as above
 
-    uintptr_t __stack_chk_guard = 0; // NOLINT(bugprone-reserved-identifier)
+    uintptr_t __stack_chk_guard = 0; // NOLINT(bugprone-reserved-identifier): as above
 
     // The stack cannot be trusted any more, so nothing else is run: neither handlers nor a message.
-    void __stack_chk_fail() // NOLINT(bugprone-reserved-identifier)
+    void __stack_chk_fail() // NOLINT(bugprone-reserved-identifier): as above
     {
         constexpr unsigned stackGuardFailed = 2; // FAST_FAIL_STACK_COOKIE_CHECK_FAILURE
         asm volatile("int $0x29" : : "c"(stackGuardFailed));

@@ -5,9 +5,9 @@
 namespace __gnu_cxx // NOLINT(bugprone-reserved-identifier): the runtime's name
 {
 
-void __verbose_terminate_handler(); // NOLINT(bugprone-reserved-identifier)
+void __verbose_terminate_handler(); // NOLINT(bugprone-reserved-identifier): as above
 
-void __verbose_terminate_handler() // NOLINT(bugprone-reserved-identifier)
+void __verbose_terminate_handler() // NOLINT(bugprone-reserved-identifier): as above
 {
     std::abort();
 }

@@ -70,6 +70,7 @@ extern "C"
 
     int pthread_setspecific(pthread_key_t key, const void* value)
     {
+        // The platform only hands the value back.
         return FlsSetValue(key, const_cast<void*>(value)) != FALSE ? 0 : ENOMEM;
     }
 

@@ -13,7 +13,7 @@ public:
     explicit ClytScanner(const CString& input) : rest(input) {}
 
     // Cuts the piece of the scan off and gives the name of the statement that goes on.
-    CString Cut(const ClytScan& scan, CString& piece);
+    [[nodiscard]] CString Cut(const ClytScan& scan, CString& piece);
     // What is left of the text.
     const char* GetRest() const { return rest; }
 

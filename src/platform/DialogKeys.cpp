@@ -122,8 +122,8 @@ bool TakeKeyDown(const DialogWindow& dialog, const MSG& message)
 bool TakeDialogKey(HWND window, const MSG& message)
 {
     const auto* dialog = Desktop::Get().FindAs<DialogWindow>(window);
-    const Window* receiver = Desktop::Get().Find(message.hwnd);
-    if (dialog == nullptr || receiver == nullptr || const_cast<Window*>(receiver)->Root().handle != window)
+    Window* receiver = Desktop::Get().Find(message.hwnd);
+    if (dialog == nullptr || receiver == nullptr || receiver->Root().handle != window)
         return false;
     switch (message.message)
     {

@@ -162,8 +162,6 @@ enum : UINT
 {
     IDOK = 1,
     IDCANCEL = 2,
-    IDYES = 6,
-    MB_OK = 0,
     MB_ICONERROR = 0x10,
     SEM_FAILCRITICALERRORS = 1,
     ERROR_MOD_NOT_FOUND = 126,
@@ -253,7 +251,6 @@ enum : UINT
     DLGC_STATIC = 0x100,
     DLGC_BUTTON = 0x2000,
 
-    WS_OVERLAPPED = 0,
     WS_TABSTOP = 0x10000,
     WS_GROUP = 0x20000,
     WS_THICKFRAME = 0x40000,

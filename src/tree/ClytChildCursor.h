@@ -8,10 +8,10 @@ class ClytChildCursor
 public:
     // Goes to the node behind the first one with this key. False when there is no such node or none behind it. A node
     // that is no symbol leaves the cursor where it was, and a later read goes on from there.
-    bool Start(const ClytNodeList& nodes, const char* key);
+    [[nodiscard]] bool Start(const ClytNodeList& nodes, const char* key);
     // Gives the label as shown, and the path: the key, `\` and the label with its marks. False without a place, and at a
     // node of another level, where the cursor then stays.
-    bool Read(const ClytNodeList& nodes, CString& text, CString& path);
+    [[nodiscard]] bool Read(const ClytNodeList& nodes, CString& text, CString& path);
     // The nodes are going: nothing is left to read.
     void Forget() { m_position = nullptr; }
 

@@ -244,7 +244,6 @@ void ClytTreeDialog::OnItemExpanding(NMHDR* /*header*/, LRESULT* result)
 
 void ClytTreeDialog::OnDoubleClick(NMHDR* /*header*/, LRESULT* result)
 {
-    UpdateData(TRUE);
     if (!m_treeCtrl.ItemHasChildren(m_treeCtrl.GetSelectedItem()))
         OnOK();
     *result = 0;

@@ -1,5 +1,6 @@
 #include "sysinfo/printers/PaperNames.h"
 
+// A line for each name.
 // clang-format off
 const char* const lytPaperNames[lytPaperCount] = {
     "Not available",

@@ -82,13 +82,3 @@ TEST(CString, LendsItsBuffer)
     text.ReleaseBuffer();
     EXPECT_EQ(text, "a");
 }
-
-TEST(CString, TrimsBlanksOfTheCLocale)
-{
-    EXPECT_EQ(CString(" \t a b\r\n").Trim(), "a b");
-    EXPECT_EQ(CString("\xA0"
-                      "a")
-                  .Trim(),
-              "\xA0"
-              "a");
-}

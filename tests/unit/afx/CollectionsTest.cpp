@@ -99,7 +99,8 @@ TEST(ClytOwnedList, DeletesEachRecordOnce)
         ClytOwnedList<ListedRecord> other;
         list.AddTail(std::make_unique<ListedRecord>(&deaths));
         other.AddTail(std::make_unique<ListedRecord>(&deaths));
-        list.TakeAll(other);
+        list.Exchange(other);
+        list.AddTail(other.RemoveHead());
         EXPECT_EQ(list.GetCount(), 2);
         list.RemoveHead();
         EXPECT_EQ(deaths, 1);

@@ -14,7 +14,7 @@ class Description : public ClytDialogFile
 public:
     explicit Description(const std::string& content, const char* defineList = nullptr) : ClytDialogFile(defineList)
     {
-        Open(m_folder.Write("test.dlg", content).c_str(), modeRead);
+        EXPECT_TRUE(Open(m_folder.Write("test.dlg", content).c_str(), modeRead));
     }
     Description(const Description&) = delete;
     Description& operator=(const Description&) = delete;

@@ -146,8 +146,8 @@ TEST_F(InputPart, KeepsTwoStatementsOfOneNameAndFindsTheLater)
     Description file("$INPUT\nA: x = One\nA: x = Two\n$OUTPUT\n");
     ClytCtrlValList unused;
     CString name;
-    file.ReadEvaluationStatement(unused, unused, name);
-    file.ReadInputHeader(name);
+    EXPECT_EQ(file.ReadEvaluationStatement(unused, unused, name), 0);
+    EXPECT_EQ(file.ReadInputHeader(name), 1);
     ClytInputPart part;
     file.ReadInputPart(part);
     EXPECT_EQ(part.GetStatements().GetCount(), 2);
@@ -180,8 +180,8 @@ TEST_F(InputPart, TellsAFailureOfTheClassLibraryAs206)
     FailingDescription file("$INPUT\nA: x = End\nB: x = End\n$OUTPUT\n", 2);
     ClytCtrlValList unused;
     CString name;
-    file.ReadEvaluationStatement(unused, unused, name);
-    file.ReadInputHeader(name);
+    EXPECT_EQ(file.ReadEvaluationStatement(unused, unused, name), 0);
+    EXPECT_EQ(file.ReadInputHeader(name), 1);
     ClytInputPart part;
     EXPECT_EQ(RaisedMessage([&] { file.ReadInputPart(part); }), "The file could not be read or written: disk\n206 ''");
 }

@@ -69,7 +69,7 @@ private:
         m_file.ReadVersionHeader(version);
         m_file.TakeTokens(sections);
         m_section = sections.GetTail().GetString();
-        m_file.ReadDialogHeader(width, height, title, lastText);
+        EXPECT_EQ(m_file.ReadDialogHeader(width, height, title, lastText), 1);
         m_labels.insert(title.GetString());
         ClytControlStatement statement;
         for (; m_file.ReadControlStatement(statement) == 1; statement = {})

@@ -17,6 +17,7 @@ class StarvedRuns : public testing::EmptyTestEventListener
     }
 };
 
+// Only its making counts.
 [[maybe_unused]] const bool isListening = []
 {
     testing::UnitTest::GetInstance()->listeners().Append(std::make_unique<StarvedRuns>().release());
