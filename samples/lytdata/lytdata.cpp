@@ -91,7 +91,7 @@ std::string DataFileName()
     return library.substr(0, library.find_last_of("\\/") + 1) + "lytdata.txt";
 }
 
-// `[name]` opens a list, the lines below it are its items; blank lines and lines behind a `;` are comments.
+// `[name]` opens a list, the lines below it are its items; blank lines and lines that begin with `;` are comments.
 std::vector<List> ReadLists()
 {
     std::vector<List> lists;

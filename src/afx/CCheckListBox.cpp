@@ -7,7 +7,7 @@
 namespace
 {
 
-// The mark at 96 dots per inch, and the blanks round it and before the text.
+// The mark at 96 dots per inch, and the blanks around it and before the text.
 constexpr int markSize96 = 13;
 constexpr int margin96 = 2;
 

@@ -30,7 +30,7 @@ LRESULT CALLBACK WindowProcedure(HWND window, UINT message, WPARAM wParam, LPARA
     return AfxCallWndProc(*object, message, wParam, lParam);
 }
 
-// A window that was created and that no object stands over yet.
+// A window that was created and that no object has joined yet.
 struct WindowDestroyer
 {
     void operator()(HWND window) const { ::DestroyWindow(window); }

@@ -31,11 +31,11 @@ CWnd* WindowMap::FindOrMakeTemporary(HWND window)
         return nullptr;
     if (CWnd* permanent = FindPermanent(window))
         return permanent;
-    std::unique_ptr<CWnd>& standIn = m_temporary[window];
-    if (standIn == nullptr)
+    std::unique_ptr<CWnd>& temporary = m_temporary[window];
+    if (temporary == nullptr)
     {
-        standIn = std::make_unique<CWnd>();
-        standIn->m_hWnd = window;
+        temporary = std::make_unique<CWnd>();
+        temporary->m_hWnd = window;
     }
-    return standIn.get();
+    return temporary.get();
 }

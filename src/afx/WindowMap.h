@@ -1,4 +1,4 @@
-// Which object stands over which window.
+// Which object belongs to which window.
 #pragma once
 
 #include <afxwin.h>
@@ -19,7 +19,7 @@ public:
     void Leave(HWND window, WNDPROC below) noexcept;
     WNDPROC FindBelow(HWND window) const;
 
-    // Stand-ins for windows that no object joined: a handle in the clothes of a CWnd. Null for null.
+    // An object that only holds the handle, for a window that none joined. Null for null.
     CWnd* FindOrMakeTemporary(HWND window);
     void RemoveTemporaries() { m_temporary.clear(); }
 

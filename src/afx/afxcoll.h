@@ -35,7 +35,7 @@ public:
     const TYPE& GetAt(POSITION position) const { return Checked(position)->element; }
     void SetAt(POSITION position, TYPE element) { Checked(position)->element = std::move(element); }
 
-    // Gives the element and moves the position to the next (previous) one, null behind the last.
+    // Gives the element and moves the position to the next (previous) one, null after the last.
     const TYPE& GetNext(POSITION& position) const
     {
         const Node* node = Checked(position);
@@ -126,7 +126,7 @@ public:
         m_elements.push_back(std::move(element));
         return GetCount() - 1;
     }
-    // Behind the end the array grows by empty elements up to the index.
+    // Beyond the end the array grows by empty elements up to the index.
     void InsertAt(int index, TYPE element)
     {
         if (index < 0)

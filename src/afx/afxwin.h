@@ -1,6 +1,6 @@
 // The window half of the class library: windows, dialogs, controls and device contexts.
 //
-// A CWnd stands over one window. It joins that window by replacing its window procedure, so that every message passes
+// A CWnd belongs to one window. It joins that window by replacing its window procedure, so that every message passes
 // the message map of its class first and then, unless a handler ended it, the procedure that stood there before. No
 // exception leaves that way: what a handler raises is reported to the user, and the window goes on.
 #pragma once
@@ -42,11 +42,11 @@ public:
                   CWnd* parent, UINT id);
     BOOL DestroyWindow();
     // Joins a window that stands already and has no object yet; leaves it again with the procedure that it had, unless
-    // somebody has put another one on top meanwhile.
+    // somebody has put another one on top since.
     BOOL SubclassWindow(HWND window);
     HWND UnsubclassWindow();
 
-    // The object that joined the window, else null; FromHandle makes do with an object that lives until the outermost
+    // The object that joined the window, else null; FromHandle then gives an object that lives until the outermost
     // modal dialog ends.
     static CWnd* FromHandlePermanent(HWND window);
     static CWnd* FromHandle(HWND window);
@@ -114,7 +114,7 @@ private:
     WNDPROC m_pfnSuper = nullptr;
 };
 
-// The one place where a message is handled, and the handler of last resort round it: what is raised is reported, and
+// The one place where a message is handled, and the handler of last resort around it: what is raised is reported, and
 // nothing crosses a window procedure.
 LRESULT AfxCallWndProc(CWnd& window, UINT message, WPARAM wParam, LPARAM lParam) noexcept;
 
@@ -125,7 +125,7 @@ public:
     explicit CDialog(UINT templateId, CWnd* parent = nullptr) : m_nIDTemplate(templateId), m_pParentWnd(parent) {}
 
     // Runs the dialog; its owner is the parent, or the thread's active window without one. Gives what EndDialog was
-    // told, -1 when there is no such template or the object stands over a window already. Raises what joining the window
+    // told, -1 when there is no such template or the object has a window already. Raises what joining the window
     // raised, once the window is gone again.
     INT_PTR DoModal();
     void EndDialog(int result) const { ::EndDialog(m_hWnd, result); }
@@ -213,7 +213,7 @@ public:
 // Sent to the parent when the user has changed a check mark.
 inline constexpr UINT CLBN_CHKCHANGE = 40;
 
-// An owner-drawn list box with a check mark in front of each item's text. A click on the mark changes it, and so does
+// An owner-drawn list box with a check mark before each item's text. A click on the mark changes it, and so does
 // the space key for the item that has the caret.
 class CCheckListBox : public CListBox
 {

@@ -5,7 +5,7 @@
 
 #include <utility>
 
-// Keeps the thread's last error over a clean-up: the code round it may be about to ask for it.
+// Keeps the thread's last error over a clean-up: the code around it may be about to ask for it.
 class ClytKeptError
 {
 public:

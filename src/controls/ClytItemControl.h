@@ -17,7 +17,7 @@ public:
     void SetOption(const CStringList& values, const CString& keyword) override;
     void SaveState() override { this->savedState = this->GetCurSel(); }
     void SetControlFocus() override { this->SetFocus(); }
-    // The separators go by position: between items, before the first, behind the last.
+    // The separators go by position: between items, before the first, after the last.
     void GetAllValues(CString& result, const CString& separators) override;
     int IsChanged() override { return this->GetCurSel() != this->savedState ? 1 : 0; }
     // "CLEAR" empties the list unless nothing is selected; any other word fills it.
@@ -40,15 +40,15 @@ protected:
     virtual void AppendItem(CString& result, int index) const = 0;
     // Composes the parameter of a library fill; false when the fill ends here.
     virtual bool ComposeParameter(CString& parameter);
-    // Adds what stands in front of the items of a library.
+    // Adds what comes before the items of a library.
     virtual void AddHeadItem() {}
-    // Adds the items of a library. Each one added selects the first item; that is done once, behind the last.
+    // Adds the items of a library. Each one added selects the first item; that is done once, after the last.
     virtual void AddItems(ClytDataListing& listing);
 
     // The text of a key in the dialog's text section.
     CString TextOf(const CString& key) const;
 
-    // Puts an item behind the last one of the arrays and at the place of the window, where 0 is the end as well.
+    // Puts an item at the end of the arrays and at a place in the window, where 0 means the end, too.
     void PutItem(CString value, CString display, int place);
     // Inserts a text in the window.
     void ShowItem(const CString& text, int place);

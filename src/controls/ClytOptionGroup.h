@@ -16,7 +16,7 @@ public:
     explicit ClytOptionGroup(CString controlName);
     ~ClytOptionGroup() override;
 
-    // 1 for the first button behind an "OptionGroup" statement, 0 for those that follow it.
+    // 1 for the first button after an "OptionGroup" statement, 0 for those that follow it.
     static int TakeFirstOfGroup();
     // A button joins the group of the last "OptionGroup" statement; without one it stands alone.
     static void AddToCurrentGroup(ClytRadioButtonControl& button);
@@ -25,7 +25,7 @@ public:
     void PlaceTabStop();
 
     void CreateControl(ClytForm* owner) override;
-    // The value preselects the button whose own value it is, so the statement stands behind those of the buttons.
+    // The value preselects the button whose own value it is, so the statement comes after those of the buttons.
     void SetOption(const CStringList& values, const CString& keyword) override;
     void SaveState() override { savedValue = GetValue(); }
     // Without a window of its own no control gets the focus.

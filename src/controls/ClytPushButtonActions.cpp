@@ -201,7 +201,7 @@ void ClytPushButtonControl::ToggleCaption()
     SetWindowText(shown == alternateCaption ? caption : alternateCaption);
 }
 
-// Behind the last control there is none to go to: that raises the invalid-argument exception.
+// After the last control there is none to go to: that raises the invalid-argument exception.
 void ClytPushButtonControl::FocusNextControl() const
 {
     ClytControl* self = dialog->FindControl(name);

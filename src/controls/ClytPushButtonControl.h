@@ -24,7 +24,7 @@ protected:
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
 
 private:
-    // Whether the rules run behind the action.
+    // Whether the rules run after the action.
     enum class After
     {
         RunRules,

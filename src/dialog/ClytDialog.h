@@ -121,7 +121,7 @@ private:
     void SaveBaseline();
     int AllConditionsHold(const ClytControlDep& rule);
     bool HoldsForOutput(const ClytDialogOutput& rule);
-    // What a control gives for an item.
+    // The text that an item's control gives.
     CString TakeItem(const ClytOutputItem& item);
 
     ClytDialogFile file;

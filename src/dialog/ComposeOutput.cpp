@@ -16,7 +16,7 @@ constexpr int itemPlaces = 25;
 // What stands between the values of a list when the rule says nothing else.
 constexpr const char* listSeparator = "   ";
 
-// Reads a conversion of a format, from behind its `%`: "s" or a limit in front of it (".5s", "0.5s"). Anything else is
+// Reads a conversion of a format, what follows its `%`: "s", or a limit before it (".5s", "0.5s"). Anything else is
 // plain text.
 struct Conversion
 {

@@ -15,7 +15,7 @@ public:
 
     constexpr void Add(char ch) { m_contains[Index(ch)] = true; }
     constexpr bool Contains(char ch) const { return m_contains[Index(ch)]; }
-    // The first delimiter at or behind `text`, or the end of the text.
+    // The first delimiter at or after `text`, or the end of the text.
     constexpr const char* FindIn(const char* text) const
     {
         while (*text != '\0' && !Contains(*text))

@@ -31,7 +31,7 @@ public:
     CString GetLanguageFileName() const;
     // The log level as text; "0" when there is none.
     CString GetLogLevel() const;
-    // A display text of the language file, at most 74 bytes before the argument is put behind its first apostrophe.
+    // A display text of the language file, at most 74 bytes before the argument is put after its first apostrophe.
     CString GetText(const char* section, const char* key, const CString& argument) const;
     CString GetText(const char* section, const char* key) const { return GetText(section, key, CString()); }
     // A value of `lyt.ini`, at most 1023 bytes.

@@ -34,7 +34,7 @@ public:
     const CString& GetNumber() const { return number; }
     const CString& GetArgument() const { return argument; }
 
-    // The text of the key with the argument behind its first apostrophe, below the prefix and a line feed when there is
+    // The text of the key with the argument after its first apostrophe, below the prefix and a line feed when there is
     // a prefix; cut to size - 1 characters.
     BOOL GetErrorMessage(char* buffer, UINT size, UINT* helpContext = nullptr) const override;
     // Shows the first 74 characters of the message in a plain message box.

@@ -22,8 +22,8 @@ constexpr int phraseText = 3;
 
 constexpr int choiceSize = 255;
 
-// What stands behind the first (the second, and so on) `/`; the whole text without one.
-CString Behind(const CString& text, int separators)
+// What follows the first (the second, and so on) `/`; the whole text without one.
+CString After(const CString& text, int separators)
 {
     int start = 0;
     for (; separators > 0; --separators)
@@ -44,7 +44,7 @@ bool Ask(const char* file, const CString& input, CString& result)
 
 int AskGroup(const CString& choice, CString& text)
 {
-    const CString input = Behind(choice, 1);
+    const CString input = After(choice, 1);
     lytWizardGroup = input.Left(input.Find('/'));
     CString result;
     if (!Ask("lytWzGrp.dlg", input, result))
@@ -55,12 +55,12 @@ int AskGroup(const CString& choice, CString& text)
 
 int AskPhrase(const CString& choice, CString& text)
 {
-    return Ask("lytWzPhr.dlg", Behind(choice, 2), text) ? phraseText : nothingOrLast;
+    return Ask("lytWzPhr.dlg", After(choice, 2), text) ? phraseText : nothingOrLast;
 }
 
 int AskSymbol(const CString& choice, CString& text)
 {
-    return Ask("lytWzSym.dlg", Behind(choice, 1), text) ? symbolText : nothingOrLast;
+    return Ask("lytWzSym.dlg", After(choice, 1), text) ? symbolText : nothingOrLast;
 }
 
 struct Step

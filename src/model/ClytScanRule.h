@@ -9,7 +9,7 @@ class ClytScanRule : public CObject
 public:
     // Looks up the controls of the fill rules.
     void Bind(const ClytControlMap& controls);
-    // Applies the fill rules in order. A rule that does not hold takes the one behind it along: a conditional rule and
+    // Applies the fill rules in order. After a rule that does not hold the next one is left out: a conditional rule and
     // its successor are a pair.
     void ApplyFills(const CString& piece) const;
 

@@ -42,7 +42,7 @@ std::string AnsiOfWide(std::wstring_view wide)
     return text;
 }
 
-// The bytes that follow the first one of a character; what is no first byte stands for itself.
+// The bytes that follow the first one of a character; a byte that begins none is a character by itself.
 size_t Followers(unsigned char first)
 {
     if (first >= 0xE0)

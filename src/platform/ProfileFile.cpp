@@ -24,7 +24,7 @@ struct Line
     bool isComment;
     bool hasValue;          // an '=' stands in it
     std::string_view name;  // before the first '=', or the whole line
-    std::string_view value; // behind it
+    std::string_view value; // after it
 };
 
 bool IsBlank(char ch)

@@ -12,7 +12,7 @@ class ClytAncestors
 {
 public:
     // What was put on for the nearest node before with a smaller level; null when there is none. Nodes of that level or
-    // a greater one are left behind: they are no parents any more.
+    // a greater one are dropped: they are parents no longer.
     ClytNode* FindAbove(int level)
     {
         while (!m_path.empty() && m_path.back().level >= level)

@@ -42,7 +42,8 @@ private:
     void StoreSize() const;
     void StoreItemStates() const;
 
-    CTreeCtrl m_treeCtrl; // stands over control 1000 without joining it: a fill sends it a message for each record
+    CTreeCtrl
+        m_treeCtrl; // holds the handle of control 1000 without joining it: a fill sends it a message for each record
     CImageList m_ImageList;
     CString m_strResult;
     CString m_strSelectKey;

@@ -11,7 +11,7 @@ public:
     ClytTreeItems& operator=(const ClytTreeItems&) = delete;
     virtual ~ClytTreeItems() = default;
 
-    // Adds an item behind the parent's other children; a null parent is the root.
+    // Adds an item after the parent's other children; a null parent is the root.
     virtual HTREEITEM InsertItem(HTREEITEM parent, const char* text, int image) = 0;
     virtual void ExpandItem(HTREEITEM item) = 0;
     virtual HTREEITEM GetRootItem() const = 0;

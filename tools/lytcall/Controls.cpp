@@ -44,7 +44,7 @@ bool IsOneOf(const std::string& type, std::initializer_list<const char*> types)
     return std::ranges::find(types, type) != types.end();
 }
 
-// The button, mark or option with that caption; else the field behind the label with it. What is shown goes before what
+// The button, mark or option with that caption; else the field after the label with it. What is shown goes before what
 // is hidden.
 HWND FindByCaption(HWND dialog, const std::string& caption)
 {

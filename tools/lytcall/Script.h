@@ -27,7 +27,7 @@ public:
 
 enum class TargetKind
 {
-    Caption, // the control with that caption, or the one behind the label with it
+    Caption, // the control with that caption, or the one after the label with it
     Number,  // #3: the third control of the window
     Type,    // edit2: the second edit field
     Focus    // the control with the focus
@@ -47,7 +47,7 @@ struct Step
     int column = 0;
     std::string word;
     Target target;
-    std::vector<std::string> arguments; // behind the target
+    std::vector<std::string> arguments; // after the target
     bool isState = false;               // `expect` compares a state, not a text
 };
 
@@ -55,7 +55,7 @@ struct Step
 struct StepForm
 {
     const char* word;
-    // One letter an argument: c control, t text, n number, s state, k key, b button of a message; those behind a '?' may
+    // One letter an argument: c control, t text, n number, s state, k key, b button of a message; those after a '?' may
     // be left out.
     const char* shape;
     const char* arguments;

@@ -22,7 +22,7 @@ public:
 
     const Request& Asked() const { return m_request; }
     const LytLibrary& Library() const { return m_library; }
-    // A buffer as the options ask for it, with room behind its stated size.
+    // A buffer as the options ask for it, with room beyond its stated size.
     std::vector<char> Buffer(const char* sizeOption) const;
     int SizeOf(const char* sizeOption) const;
     // Makes a call that opens windows, with the script and the picture that the options ask for.

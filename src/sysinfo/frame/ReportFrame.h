@@ -6,7 +6,7 @@
 #include <vector>
 
 // The directories in which the resource library is looked for: those of `path`, and the installation directory when the
-// path does not name it. All in lower case. An empty piece ends the walk: it and all behind it are one directory.
+// path does not name it. All in lower case. An empty piece ends the walk: it and all that follows are one directory.
 std::vector<CString> SearchDirectories(const CString& path, const CString& installDirectory);
 
 // What keeps the configuration file from being read; `error` is an `errno` value.

@@ -16,7 +16,7 @@ namespace
 static_assert(printerFieldPaperSize == DM_PAPERSIZE);
 static_assert(printerFieldDuplex == DM_DUPLEX);
 
-// A list of printers as the platform gives it: records in front, their texts behind, in one block.
+// A list of printers as the platform gives it: the records first and then their texts, in one block.
 class PrinterRecords
 {
 public:

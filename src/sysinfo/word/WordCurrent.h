@@ -13,7 +13,7 @@ struct WordCurrentFacts
 
 WordCurrentFacts ReadWordCurrentFacts();
 
-// The version: the last piece between dots of the registered name, with ".0" behind it.
+// The version: the last piece between dots of the registered name, with ".0" after it.
 CString WordVersionOf(const CString& program);
 // True for a version that exists with 32 and with 64 bits.
 bool HasBits(const CString& version);
