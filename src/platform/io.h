@@ -12,3 +12,10 @@ inline int _isatty(int stream)
 {
     return isatty(stream);
 }
+
+// Streams have one mode here.
+inline constexpr int _O_BINARY = 0;
+inline int _setmode(int /*stream*/, int mode)
+{
+    return mode;
+}

@@ -1,5 +1,6 @@
 #include "lytdlg/Commands.h"
 
+#include "lytdlg/text/FmtCommand.h"
 #include "lytdlg/try/RunCommand.h"
 #include "lytdlg/try/ScanCommands.h"
 #include "lytdlg/try/TestCommand.h"
@@ -41,14 +42,8 @@ int Tell(const char* text, ExitCode code)
 const std::vector<Command>& Commands()
 {
     static const std::vector<Command> commands = {
-        CheckCommand(),
-        RunCommand(),
-        ScanCommand(),
-        ComposeCommand(),
-        RoundtripCommand(),
-        WhyCommand(),
-        TestCommand(),
-        HelpCommand(),
+        CheckCommand(), RunCommand(),  ScanCommand(), ComposeCommand(), RoundtripCommand(),
+        WhyCommand(),   TestCommand(), FmtCommand(),  HelpCommand(),
     };
     return commands;
 }

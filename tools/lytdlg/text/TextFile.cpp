@@ -5,11 +5,43 @@
 #include <algorithm>
 #include <fstream>
 #include <iterator>
+#include <stdexcept>
 
 namespace lytdlg
 {
 
 namespace fs = std::filesystem;
+
+namespace
+{
+
+// A name that no file in the folder has.
+fs::path FreeName(const fs::path& folder, const std::string& stem)
+{
+    for (int number = 1;; ++number)
+    {
+        fs::path name = folder / (stem + "." + std::to_string(number) + ".tmp");
+        std::error_code ignored;
+        if (!fs::exists(fs::symlink_status(name, ignored)))
+            return name;
+    }
+}
+
+bool Write(const fs::path& name, const std::string& content)
+{
+    std::ofstream file(name, std::ios::binary);
+    file << content;
+    file.close();
+    return !file.fail();
+}
+
+bool IsWriteProtected(const fs::path& name)
+{
+    std::error_code ignored;
+    return (fs::status(name, ignored).permissions() & fs::perms::owner_write) == fs::perms::none;
+}
+
+} // namespace
 
 std::optional<std::string> ReadWholeFile(const fs::path& name)
 {
@@ -19,6 +51,24 @@ std::optional<std::string> ReadWholeFile(const fs::path& name)
         return std::nullopt;
     std::string content{std::istreambuf_iterator<char>(file), {}};
     return file.bad() ? std::nullopt : std::optional(std::move(content));
+}
+
+void ReplaceWholeFile(const fs::path& name, const std::string& content)
+{
+    std::error_code failure;
+    const fs::path target = fs::canonical(name, failure);
+    if (failure || IsWriteProtected(target))
+        throw std::runtime_error(name.string() + " is write-protected; it stays as it was");
+    const fs::path draft = FreeName(target.parent_path(), target.filename().string());
+    if (Write(draft, content))
+    {
+        fs::permissions(draft, fs::status(target).permissions(), failure);
+        fs::rename(draft, target, failure);
+        if (!failure)
+            return;
+    }
+    fs::remove(draft, failure);
+    throw std::runtime_error("cannot write " + name.string() + "; it stays as it was. Check the rights of its folder");
 }
 
 std::vector<fs::path> FilesIn(const fs::path& folder, const std::string& extension)
@@ -34,6 +84,18 @@ std::vector<fs::path> FilesIn(const fs::path& folder, const std::string& extensi
     }
     std::ranges::sort(files);
     return files;
+}
+
+TemporaryFile::TemporaryFile(const std::string& content) : m_name(FreeName(fs::temp_directory_path(), "lytdlg"))
+{
+    if (!Write(m_name, content))
+        throw std::runtime_error("cannot write " + m_name.string() + "; check the folder for temporary files");
+}
+
+TemporaryFile::~TemporaryFile()
+{
+    std::error_code ignored;
+    fs::remove(m_name, ignored);
 }
 
 } // namespace lytdlg

@@ -1,0 +1,71 @@
+// Formatting changes nothing that is read, whatever the description.
+#include "FmtMutations.h"
+#include "lytdlg/text/TextFile.h"
+#include "support/FormattingProof.h"
+
+#include <gtest/gtest.h>
+
+namespace
+{
+
+namespace fs = std::filesystem;
+
+std::vector<fs::path> FilesOf(const char* folder)
+{
+    std::vector<fs::path> files;
+    for (const auto& entry : fs::directory_iterator(fs::path(LYT_SOURCE_FOLDER) / folder))
+    {
+        if (entry.is_regular_file())
+            files.push_back(entry.path());
+    }
+    std::ranges::sort(files);
+    return files;
+}
+
+std::vector<std::string> Seeds()
+{
+    std::vector<std::string> seeds;
+    for (const char* folder : {"samples/dialogs", "fuzz/corpus/description"})
+    {
+        for (const fs::path& file : FilesOf(folder))
+            seeds.push_back(lytdlg::ReadWholeFile(file).value());
+    }
+    return seeds;
+}
+
+} // namespace
+
+TEST(Formatting, ChangesNothingThatIsReadOfTheSamples)
+{
+    const std::vector<std::string> seeds = Seeds();
+    EXPECT_GE(seeds.size(), 17U);
+    for (const std::string& seed : seeds)
+        EXPECT_EQ(BreachOfFormatting(seed), "") << seed;
+}
+
+TEST(Formatting, ChangesNothingThatIsReadOfChangedSamples)
+{
+    FmtMutations mutations(Seeds());
+    for (unsigned number = 0; number < 3000; number += LYT_FMT_STEP)
+    {
+        const std::string text = mutations.Changed(number);
+        ASSERT_EQ(BreachOfFormatting(text), "") << number << ":\n" << text;
+    }
+}
+
+TEST(Formatting, ChangesNothingThatIsReadOfRandomStatements)
+{
+    for (unsigned number = 0; number < 1500; number += LYT_FMT_STEP)
+    {
+        const std::string text = FmtMutations::Generated(number);
+        ASSERT_EQ(BreachOfFormatting(text), "") << number << ":\n" << text;
+    }
+}
+
+TEST(Formatting, ChangesNothingThatIsReadOfWhatTheFuzzerGathered)
+{
+    const std::vector<fs::path> files = FilesOf("fuzz/corpus/fmt");
+    EXPECT_FALSE(files.empty());
+    for (const fs::path& file : files)
+        EXPECT_EQ(BreachOfFormatting(lytdlg::ReadWholeFile(file).value()), "") << file;
+}

@@ -1,0 +1,256 @@
+#include "lytdlg/text/DescriptionLines.h"
+
+#include "base/Words.h"
+#include "dlgfile/ClytDialogFile.h"
+#include "environment/ClytException.h"
+#include "model/ClytControlDep.h"
+#include "model/ClytDialogOutput.h"
+#include "model/ClytInputPart.h"
+
+#include <algorithm>
+
+namespace lytdlg
+{
+
+namespace
+{
+
+constexpr char endOfText = 0x1A;
+constexpr size_t pieceSize = ClytDialogFile::lineSize;
+// Each one more doubles the readings.
+constexpr size_t mostDefines = 8;
+
+// The lines as their reader numbers them. The part of a line before an end of text has a number beyond them.
+class NumberedLines
+{
+public:
+    explicit NumberedLines(std::vector<DescriptionLine>& lines);
+
+    template <class ACT>
+    void At(int number, ACT act)
+    {
+        if (static_cast<size_t>(number) < m_lines.size())
+            std::ranges::for_each(m_lines[static_cast<size_t>(number)], [&](DescriptionLine* line) { act(*line); });
+    }
+
+private:
+    std::vector<std::vector<DescriptionLine*>> m_lines;
+};
+
+bool IsControlCharacter(char ch)
+{
+    return (ch >= 0 && ch < ' ' && ch != '\t') || ch == 0x7F;
+}
+
+// A line that ends in a NUL, for its reader, lacks its line end: what follows has its number still.
+bool LooksOpen(const std::string& text)
+{
+    return text.find('\0', text.size() / pieceSize * pieceSize) != std::string::npos;
+}
+
+DescriptionLines Split(const std::string& content)
+{
+    DescriptionLines split;
+    size_t start = 0;
+    while (start < content.size())
+    {
+        const size_t feed = content.find('\n', start);
+        size_t end = std::min(feed, content.size());
+        const size_t next = feed != std::string::npos ? feed + 1 : end;
+        if (feed != std::string::npos && end > start && content[end - 1] == '\r')
+            --end;
+        if (content.find(endOfText, start) < next)
+            break;
+        split.lines.push_back({content.substr(start, end - start), content.substr(end, next - end), {}});
+        start = next;
+    }
+    split.unread = content.substr(start);
+    return split;
+}
+
+NumberedLines::NumberedLines(std::vector<DescriptionLine>& lines) : m_lines(1)
+{
+    bool isOpen = false;
+    for (DescriptionLine& line : lines)
+    {
+        line.isPlain = !isOpen && line.text.size() < pieceSize && std::ranges::none_of(line.text, IsControlCharacter);
+        if (!isOpen)
+            m_lines.emplace_back();
+        m_lines.back().push_back(&line);
+        isOpen = LooksOpen(line.text);
+    }
+}
+
+class RefusalSink final : public ErrorSink
+{
+public:
+    explicit RefusalSink(NumberedLines& numberedLines) : m_lines(numberedLines) {}
+
+    // That the file ends where more was due is no fault of its last line.
+    void Tell(std::unique_ptr<ClytException> failure, const ClytSpan& place) override
+    {
+        const int number = lytNumberOf(failure->GetNumber());
+        const bool isEndOfFile = number >= 214 && number <= 217 && place.length == 0;
+        if (!isEndOfFile)
+            TellShortLine(place);
+    }
+    void TellShortLine(const ClytSpan& place) override
+    {
+        m_lines.At(place.line, [](DescriptionLine& line) { line.isRefused = true; });
+    }
+
+private:
+    NumberedLines& m_lines;
+};
+
+// Reads every section in turn, as a dialog does, and notes what each line is read as.
+class NotingFile final : public ClytDialogFile
+{
+public:
+    NotingFile(NumberedLines& numberedLines, const std::string& choice, ErrorSink& sink)
+        : ClytDialogFile(choice.c_str(), sink), m_lines(numberedLines)
+    {
+    }
+
+    char* ReadString(char* buffer, UINT count) override
+    {
+        char* line = ClytDialogFile::ReadString(buffer, count);
+        if (line != nullptr)
+            m_lines.At(GetLinePlace().line,
+                       [&](DescriptionLine& read) { read.sections.set(static_cast<size_t>(m_section)); });
+        return line;
+    }
+
+    void ReadAll()
+    {
+        ReadHead();
+        ReadRules();
+        ReadInputs();
+        m_section = Section::Output;
+        CString name;
+        for (int more = 1; more != 0;)
+        {
+            ClytDialogOutput rule;
+            more = ReadOutputStatement(name, rule);
+        }
+    }
+
+private:
+    void ReadHead()
+    {
+        CString text;
+        int number = 0;
+        m_section = Section::Header;
+        ReadVersionHeader(text);
+        m_section = Section::Dialog;
+        ReadDialogHeader(number, number, text, text);
+        m_section = Section::Controls;
+        ClytControlStatement control;
+        while (ReadControlStatement(control) != 0)
+            continue;
+    }
+
+    void ReadRules()
+    {
+        CString text;
+        CStringList words;
+        m_section = Section::Values;
+        while (ReadValueStatement(text, text, words) != 0)
+            continue;
+        m_section = Section::Dependencies;
+        for (int more = 1; more != 0;)
+        {
+            ClytControlDep rule;
+            more = ReadDependencyStatement(rule);
+        }
+        m_section = Section::Evaluation;
+        for (int more = 1; more != 0;)
+        {
+            ClytCtrlValList own;
+            ClytCtrlValList other;
+            more = ReadEvaluationStatement(own, other, text);
+        }
+    }
+
+    void ReadInputs()
+    {
+        CString name;
+        m_section = Section::FirstInput;
+        while (ReadInputHeader(name) != 0)
+        {
+            m_section = Section::Input;
+            ClytInputPart part;
+            ReadInputPart(part);
+            m_section = Section::FirstInput;
+        }
+    }
+
+    NumberedLines& m_lines;
+    Section m_section = Section::Header;
+};
+
+void ReadUnder(const std::string& choice, const std::filesystem::path& fileName, NumberedLines& lines)
+{
+    RefusalSink sink(lines);
+    NotingFile file(lines, choice, sink);
+    const std::string name = fileName.string();
+    if (file.Open(name.c_str(), CFile::modeRead) == 0)
+        lytRaise("207", CString(), name.c_str());
+    file.ReadAll();
+    file.Close();
+}
+
+} // namespace
+
+std::vector<std::string> DefinesOf(const std::vector<DescriptionLine>& lines)
+{
+    std::vector<std::string> names;
+    for (const DescriptionLine& line : lines)
+    {
+        // Each piece of a long line is one of its own.
+        for (size_t start = 0; start < line.text.size(); start += pieceSize)
+        {
+            if (line.text[start] != '<')
+                continue;
+            const size_t begin = start + (line.text.compare(start + 1, 1, "!") == 0 ? 2 : 1);
+            const size_t end = std::min(line.text.find_first_of(std::string(" \t;\r\0", 5), begin), line.text.size());
+            const std::string name = line.text.substr(begin, end - begin);
+            // The list of the defines has a name for each part of this one.
+            if (name.find(',') == std::string::npos && std::ranges::find(names, name) == names.end())
+                names.push_back(name);
+        }
+    }
+    return names;
+}
+
+std::vector<std::string> ChoicesOf(const std::vector<std::string>& defines)
+{
+    std::vector<std::string> choices;
+    for (unsigned long choice = 0; choice < 1UL << defines.size(); ++choice)
+    {
+        std::string list;
+        for (size_t i = 0; i < defines.size(); ++i)
+        {
+            if ((choice >> i & 1) != 0)
+                list += "," + defines[i];
+        }
+        // A comma alone is the list of the empty name.
+        choices.push_back(list.size() > 1 ? list.substr(1) : list);
+    }
+    return choices;
+}
+
+DescriptionLines ReadDescriptionLines(const std::filesystem::path& fileName, const std::string& content)
+{
+    DescriptionLines split = Split(content);
+    const std::vector<std::string> defines = DefinesOf(split.lines);
+    if (defines.size() > mostDefines)
+        throw TooManyDefines("asks for " + std::to_string(defines.size()) + " defines, and no more than " +
+                             std::to_string(mostDefines) + " can be tried in every choice");
+    NumberedLines numbered(split.lines);
+    for (const std::string& choice : ChoicesOf(defines))
+        ReadUnder(choice, fileName, numbered);
+    return split;
+}
+
+} // namespace lytdlg

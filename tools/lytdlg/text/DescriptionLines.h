@@ -1,0 +1,61 @@
+// The lines of a description as a text, each with the sections whose readers read it: asked of the library's own readers,
+// once for each choice of the defines that the file names.
+#pragma once
+
+#include <bitset>
+#include <filesystem>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+namespace lytdlg
+{
+
+// What a line is read as; the words of each are cut by delimiters of their own.
+enum class Section
+{
+    Header, // up to the layout line
+    Dialog, // up to the line of the dialog itself
+    Controls,
+    Values,
+    Dependencies,
+    Evaluation,
+    FirstInput, // the line after a header of an input part
+    Input,
+    Output
+};
+using Sections = std::bitset<9>;
+
+struct DescriptionLine
+{
+    std::string text;
+    std::string end; // as the file has it; empty for a last line without one
+    // Empty for a line that no reader reads: after the end of the description, or a mark of a define.
+    Sections sections;
+    bool isRefused = false; // by a reader, under some choice of the defines
+    bool isPlain = false;   // arrives in one piece, and its only control characters are tabs
+};
+
+struct DescriptionLines
+{
+    std::vector<DescriptionLine> lines;
+    std::string unread; // what follows an end of text (Ctrl-Z) and the line that it stands in
+};
+
+// A description that names more defines than can be tried in every choice.
+class TooManyDefines : public std::runtime_error
+{
+public:
+    using std::runtime_error::runtime_error;
+};
+
+// The lines of a file with its content, which has been read byte for byte. A file that the library cannot read raises its
+// failure.
+DescriptionLines ReadDescriptionLines(const std::filesystem::path& fileName, const std::string& content);
+
+// The names of the defines that the lines ask for, in their order, each once.
+std::vector<std::string> DefinesOf(const std::vector<DescriptionLine>& lines);
+// Every choice of these defines, as the lists that a reader takes.
+std::vector<std::string> ChoicesOf(const std::vector<std::string>& defines);
+
+} // namespace lytdlg

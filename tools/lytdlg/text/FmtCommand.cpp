@@ -1,0 +1,132 @@
+#include "lytdlg/text/FmtCommand.h"
+
+#include "lytdlg/text/BinaryStream.h"
+#include "lytdlg/text/Format.h"
+#include "lytdlg/text/LineDiff.h"
+#include "lytdlg/text/TextFile.h"
+
+#include <optional>
+
+namespace lytdlg
+{
+
+namespace fs = std::filesystem;
+
+namespace
+{
+
+constexpr const char* standardInput = "-";
+
+enum class Task
+{
+    Write,
+    Check,
+    Diff
+};
+
+Task TaskOf(const Request& request)
+{
+    if (request.Has("--check") && request.Has("--diff"))
+        throw commandline::UsageError("--check and --diff exclude each other; give one of them");
+    return request.Has("--check") ? Task::Check : request.Has("--diff") ? Task::Diff : Task::Write;
+}
+
+void AddFiles(const std::string& path, std::vector<std::string>& files)
+{
+    std::error_code ignored;
+    if (!fs::is_directory(path, ignored))
+    {
+        if (path != standardInput && !fs::exists(path, ignored))
+            throw commandline::UsageError("there is no file or folder " + path +
+                                          "; name descriptions, their folder, or - for the standard input");
+        files.push_back(path);
+        return;
+    }
+    const std::vector<fs::path> found = FilesIn(path, ".dlg");
+    if (found.empty())
+        throw commandline::UsageError("the folder " + path + " holds no description (*.dlg); name the one that does");
+    for (const fs::path& file : found)
+        files.push_back(file.string());
+}
+
+// A description with its form; nothing, and a word about it, when it has none.
+std::optional<std::string> FormOf(const std::string& name, const fs::path& file, const std::string& content)
+{
+    try
+    {
+        return FormattedDescription(file, content);
+    }
+    catch (const TooManyDefines& failure)
+    {
+        std::fflush(stdout);
+        std::fprintf(stderr, "lytdlg: %s %s; it is left as it is\n", name.c_str(), failure.what());
+        return std::nullopt;
+    }
+}
+
+ExitCode FormatInput(Task task)
+{
+    const std::string content = ReadStandardInput();
+    const TemporaryFile file(content);
+    const std::optional<std::string> form = FormOf("the standard input", file.Name(), content);
+    const std::string& text = form ? *form : content;
+    if (task == Task::Write)
+        WriteBytes(text);
+    else if (task == Task::Diff)
+        WriteBytes(LineDiff(standardInput, content, text));
+    else if (text != content)
+        std::printf("%s\n", standardInput);
+    return form && (task == Task::Write || text == content) ? good : found;
+}
+
+ExitCode FormatFile(const std::string& name, Task task)
+{
+    const std::optional<std::string> content = ReadWholeFile(name);
+    if (!content)
+        throw std::runtime_error("cannot read " + name + "; check its rights");
+    const std::optional<std::string> form = FormOf(name, name, *content);
+    if (!form)
+        return found;
+    if (*form == *content)
+        return good;
+    if (task == Task::Diff)
+        WriteBytes(LineDiff(name, *content, *form));
+    if (task == Task::Check)
+        std::printf("%s\n", name.c_str());
+    if (task != Task::Write)
+        return found;
+    ReplaceWholeFile(name, *form);
+    std::printf("%s: formatted\n", name.c_str());
+    return good;
+}
+
+ExitCode Format(const Request& request)
+{
+    const Task task = TaskOf(request);
+    std::vector<std::string> files;
+    for (const std::string& path : request.operands)
+        AddFiles(path, files);
+    ExitCode code = good;
+    for (const std::string& file : files)
+    {
+        const ExitCode ofFile = file == standardInput ? FormatInput(task) : FormatFile(file, task);
+        code = std::max(code, ofFile);
+    }
+    return code;
+}
+
+} // namespace
+
+Command FmtCommand()
+{
+    return {{"fmt",
+             "PATH...",
+             1,
+             1000,
+             "bring descriptions into their one form; - reads the standard input",
+             {{"--check", nullptr, false, "only list the files that would change, and end with 1 if there are any"},
+              {"--diff", nullptr, false, "only show what would change, and end with 1 if anything would"}}},
+            Format};
+}
+
+} // namespace lytdlg

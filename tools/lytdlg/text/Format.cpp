@@ -1,0 +1,174 @@
+#include "lytdlg/text/Format.h"
+
+#include "dlgfile/ClytDialogFile.h"
+#include "lytdlg/text/Statement.h"
+
+#include <algorithm>
+
+namespace lytdlg
+{
+
+namespace
+{
+
+constexpr size_t indentation = 4;
+// Where comments after statements stand. Those of lines one below the other share a column further right when a statement
+// needs it, except that of a very long one, which stands just after its statement.
+constexpr size_t leastCommentColumn = 48;
+constexpr size_t widestAligned = 76;
+constexpr size_t commentGap = 2;
+
+// A line and what is to become of it.
+struct Line
+{
+    const DescriptionLine* source = nullptr;
+    bool isKept = true;
+    bool isBlank = false;
+    bool isHeading = false;
+    std::string code; // indented; empty for a comment alone
+    std::string comment;
+    size_t oldColumn = 0; // of the comment
+    size_t newColumn = 0;
+
+    bool IsComment() const { return !isKept && code.empty() && !comment.empty(); }
+    bool HasTrailingComment() const { return !isKept && !code.empty() && !comment.empty(); }
+    std::string Text() const
+    {
+        return comment.empty() ? code : code + std::string(newColumn - code.size(), ' ') + comment;
+    }
+};
+
+Section FirstOf(const Sections& sections)
+{
+    size_t section = 0;
+    while (!sections[section])
+        ++section;
+    return static_cast<Section>(section);
+}
+
+// A line with words.
+void JudgeStatement(Line& line, const Statement& statement, Section section)
+{
+    const std::optional<std::string> code = LaidOut(statement, section);
+    line.isHeading = IsHeading(statement, section);
+    line.isKept = line.source->isRefused || !code;
+    line.code = code.value_or("");
+}
+
+// What is above the layout line is free text, headings apart.
+Line Judged(const DescriptionLine& source)
+{
+    Line line;
+    line.source = &source;
+    if (source.sections.none() || !source.isPlain)
+        return line;
+    const Section section = FirstOf(source.sections);
+    const std::optional<Statement> statement = CutStatement(source.text, section);
+    if (!statement)
+        return line;
+    line.comment = statement->comment;
+    line.oldColumn = statement->commentColumn;
+    line.isBlank = statement->words.empty() && line.comment.empty();
+    if (statement->words.empty())
+        line.isKept = section == Section::Header;
+    else
+        JudgeStatement(line, *statement, section);
+    return line;
+}
+
+// Lines whose comments belong together: statements with comments, and comments alone that go on below them.
+class Run
+{
+public:
+    Run(std::vector<Line>& lines, size_t first) : m_first(lines.begin() + static_cast<std::ptrdiff_t>(first))
+    {
+        m_end = m_first + 1;
+        while (m_end != lines.end() && (m_end->HasTrailingComment() || GoesOn(m_end[-1], *m_end)))
+            ++m_end;
+    }
+
+    size_t Size() const { return static_cast<size_t>(m_end - m_first); }
+
+    void Align() const
+    {
+        size_t column = leastCommentColumn;
+        for (auto line = m_first; line != m_end; ++line)
+        {
+            if (line->code.size() <= widestAligned)
+                column = std::max(column, line->code.size() + commentGap);
+        }
+        for (auto line = m_first; line != m_end; ++line)
+            line->newColumn = line->IsComment() ? line[-1].newColumn : std::max(column, line->code.size() + commentGap);
+    }
+
+private:
+    static bool GoesOn(const Line& line, const Line& next)
+    {
+        return next.IsComment() && next.oldColumn == line.oldColumn;
+    }
+
+    std::vector<Line>::iterator m_first;
+    std::vector<Line>::iterator m_end;
+};
+
+bool IsBeforeHeading(const std::vector<Line>& lines, size_t index)
+{
+    const auto next = std::find_if(lines.begin() + static_cast<std::ptrdiff_t>(index), lines.end(),
+                                   [](const Line& line) { return !line.IsComment() && !line.isBlank; });
+    return next != lines.end() && next->isHeading;
+}
+
+void PlaceComments(std::vector<Line>& lines)
+{
+    for (size_t i = 0; i < lines.size();)
+    {
+        if (lines[i].HasTrailingComment())
+        {
+            const Run run(lines, i);
+            run.Align();
+            i += run.Size();
+            continue;
+        }
+        // A comment at the margin stays there when it is about the section to come.
+        const bool isAtMargin = lines[i].oldColumn == 0 && IsBeforeHeading(lines, i);
+        lines[i].newColumn = isAtMargin ? 0 : indentation;
+        ++i;
+    }
+}
+
+bool IsReadAlike(const DescriptionLine& source, const std::string& text)
+{
+    for (size_t section = 0; section < source.sections.size(); ++section)
+    {
+        if (source.sections[section] && !ReadsAlike(source.text, text, static_cast<Section>(section)))
+            return false;
+    }
+    // These would be marks of a define, and no line at all.
+    const bool isMark = text.starts_with('<') || text.starts_with('>');
+    const bool isNone = text.empty() && source.end.empty();
+    return !isMark && !isNone && text.size() < ClytDialogFile::lineSize;
+}
+
+std::string Chosen(const Line& line)
+{
+    if (line.isKept)
+        return line.source->text;
+    std::string text = line.Text();
+    return IsReadAlike(*line.source, text) ? text : line.source->text;
+}
+
+} // namespace
+
+std::string FormattedDescription(const std::filesystem::path& fileName, const std::string& content)
+{
+    const DescriptionLines split = ReadDescriptionLines(fileName, content);
+    std::vector<Line> lines;
+    std::ranges::transform(split.lines, std::back_inserter(lines), Judged);
+    PlaceComments(lines);
+    std::string formatted;
+    for (const Line& line : lines)
+        formatted += Chosen(line) + line.source->end;
+    return formatted + split.unread;
+}
+
+} // namespace lytdlg
