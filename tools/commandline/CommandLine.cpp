@@ -99,7 +99,7 @@ public:
             const std::string& word = words[next++];
             if (!optionsEnded && word == "--")
                 optionsEnded = true;
-            else if (!optionsEnded && word.starts_with("--"))
+            else if (!optionsEnded && IsOption(word))
                 TakeOption(word);
             else if (request.command.empty())
                 request.command = word;
@@ -114,6 +114,14 @@ public:
     }
 
 private:
+    // An option of one letter is one only where the table has it: an operand may begin with a hyphen.
+    bool IsOption(const std::string& word) const
+    {
+        return word.starts_with("--") || Find(program.options, word) != nullptr ||
+               std::ranges::any_of(program.commands,
+                                   [&](const CommandForm& form) { return Find(form.options, word) != nullptr; });
+    }
+
     void TakeOption(const std::string& word)
     {
         const OptionForm& form = OptionOf(program, request.command, word);

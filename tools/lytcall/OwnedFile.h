@@ -4,7 +4,7 @@
 #include <cstdio>
 #include <memory>
 
-namespace lytcall
+namespace commandline
 {
 
 struct FileCloser
@@ -14,4 +14,4 @@ struct FileCloser
 
 using OwnedFile = std::unique_ptr<FILE, FileCloser>;
 
-} // namespace lytcall
+} // namespace commandline

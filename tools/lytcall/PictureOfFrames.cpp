@@ -1,5 +1,5 @@
 // Windows in memory have no pixels: their picture shows where the window and its visible children stand, a frame for each.
-#include "lytcall/OwnedFile.h"
+#include "commandline/OwnedFile.h"
 #include "lytcall/Picture.h"
 
 #include "robot/WindowRobot.h"
@@ -106,7 +106,7 @@ bool SavePicture(HWND window, const std::string& fileName)
         if (IsWindowVisible(child))
             canvas.DrawFrame(PlaceOf(child));
     }
-    const OwnedFile file(std::fopen(fileName.c_str(), "wb"));
+    const commandline::OwnedFile file(std::fopen(fileName.c_str(), "wb"));
     return file != nullptr && Write(file.get(), HeadersOf(canvas)) && Write(file.get(), canvas.Pixels());
 }
 

@@ -1,7 +1,7 @@
 #include "lytcall/Commands.h"
 
 #include "commandline/Text.h"
-#include "lytcall/OwnedFile.h"
+#include "commandline/OwnedFile.h"
 
 #include <cstdio>
 #include <io.h>
@@ -45,7 +45,7 @@ int RunReport(const Session& session)
 {
     const std::string folder = session.Asked().Operand(0, ProgramFolder());
     const std::string fileName = session.Asked().Text("--out", "");
-    const OwnedFile file(fileName.empty() ? nullptr : std::fopen(fileName.c_str(), "wb"));
+    const commandline::OwnedFile file(fileName.empty() ? nullptr : std::fopen(fileName.c_str(), "wb"));
     if (!fileName.empty() && file == nullptr)
         throw CallError(fileName + " cannot be written; check the name behind --out");
 

@@ -1,7 +1,7 @@
 #include "lytcall/ScriptRunner.h"
 
 #include "commandline/Text.h"
-#include "lytcall/OwnedFile.h"
+#include "commandline/OwnedFile.h"
 #include "lytcall/Picture.h"
 
 #include "robot/WindowRobot.h"
@@ -26,7 +26,7 @@ std::vector<Step> StepsOfFile(const std::string& fileName)
 {
     if (fileName.empty())
         return {};
-    const OwnedFile file(std::fopen(fileName.c_str(), "rb"));
+    const commandline::OwnedFile file(std::fopen(fileName.c_str(), "rb"));
     if (file == nullptr)
         throw ScriptError(fileName, 1, 1, "the script cannot be opened; check its name");
     std::string text;
