@@ -1,6 +1,7 @@
 #include "lytdlg/Commands.h"
 
 #include "lytdlg/text/FmtCommand.h"
+#include "lytdlg/text/TextsCommand.h"
 #include "lytdlg/try/RunCommand.h"
 #include "lytdlg/try/ScanCommands.h"
 #include "lytdlg/try/TestCommand.h"
@@ -43,7 +44,7 @@ const std::vector<Command>& Commands()
 {
     static const std::vector<Command> commands = {
         CheckCommand(), RunCommand(),  ScanCommand(), ComposeCommand(), RoundtripCommand(),
-        WhyCommand(),   TestCommand(), FmtCommand(),  HelpCommand(),
+        WhyCommand(),   TestCommand(), FmtCommand(),  TextsCommand(),   HelpCommand(),
     };
     return commands;
 }

@@ -1,0 +1,218 @@
+// `lytdlg texts`: language files against dialogs and against each other.
+#include "CommandRun.h"
+#include "lytdlg/text/TextFile.h"
+#include "lytdlg/text/TextTable.h"
+#include "support/DescriptionText.h"
+#include "support/TestFolder.h"
+
+#include <gtest/gtest.h>
+
+#include <regex>
+#include <set>
+
+namespace
+{
+
+namespace fs = std::filesystem;
+
+// The texts that the library asks for by itself, all there.
+std::string LibraryTexts()
+{
+    std::string texts;
+    std::string section;
+    for (const lytdlg::TextUse& use : lytdlg::TextsOfLibrary())
+    {
+        if (use.section != section)
+            texts += "[" + use.section + "]\n";
+        section = use.section;
+        texts += use.key + "=x\n";
+    }
+    return texts;
+}
+
+// A folder with a dialog and texts for it.
+class DialogFolder : public TestFolder
+{
+public:
+    DialogFolder(const DescriptionText& dialog, const std::string& english, const std::string& german)
+    {
+        Write("a.dlg", dialog());
+        Write("lang/English.nls", LibraryTexts() + english);
+        Write("lang/German.nls", LibraryTexts() + german);
+    }
+
+    // The lines of the output that are not about the library.
+    std::string Lines(int expectedCode) const
+    {
+        const CommandRun run({"texts", Path()});
+        EXPECT_EQ(run.code, expectedCode);
+        EXPECT_EQ(run.errors, "");
+        std::string lines;
+        for (size_t start = 0; start < run.output.size();)
+        {
+            const size_t end = run.output.find('\n', start) + 1;
+            const std::string line = run.output.substr(start, end - start);
+            if (line.find("the library") == std::string::npos)
+                lines += line;
+            start = end;
+        }
+        return lines;
+    }
+};
+
+DescriptionText Dialog()
+{
+    DescriptionText dialog;
+    dialog.section = "S";
+    return dialog;
+}
+
+} // namespace
+
+TEST(Texts, ComeFromEveryStatementThatNamesAKey)
+{
+    DescriptionText dialog = Dialog();
+    dialog.layout =
+        "Text 1,2,3,4,\"Label\",.A\nListBox 1,2,3,4,.L\nComboBox 1,2,3,4,.C\nPushButton 1,2,3,4,\"Off\",.B\n"
+        "TextBox 1,2,3,4,.T\n";
+    dialog.values = "L: Item = value\nL: DBLCLICK = B\nL = FILLEDBY, lib, f, g, p, NotAKey/x\n"
+                    "C = FILLEDBY, lib, f, g, p, First/x\nB: VISIBLE = A, On\nT: NotAKey = x, y\n";
+    dialog.evaluation = "T = NULL: Message\n";
+    const TestFolder folder;
+    std::string uses;
+    for (const lytdlg::TextUse& use : lytdlg::TextsOfDialog(folder.Write("a.dlg", dialog())))
+        uses += use.section + "/" + use.key + (use.isCaption ? " " : "! ") + std::to_string(use.line) + "\n";
+    EXPECT_EQ(uses, "S/TITLE 3\nS/Label 4\nS/Off 7\nS/Item 11\nS/First 14\nS/On 15\nMsgBox/Message! 19\n");
+}
+
+TEST(Texts, ComeFromEveryChoiceOfTheDefinesAndFromWhatFollowsAMistake)
+{
+    DescriptionText dialog = Dialog();
+    dialog.layout =
+        "<X\nText 1,2,3,4,\"WithX\"\n>\n<!X\nText 1,2,3,4,\"WithoutX\"\n>\nText 1,2\nText 1,2,3,4,\"Both\"\n";
+    const TestFolder folder;
+    std::string keys;
+    for (const lytdlg::TextUse& use : lytdlg::TextsOfDialog(folder.Write("a.dlg", dialog())))
+        keys += use.key + " ";
+    EXPECT_EQ(keys, "TITLE WithX WithoutX Both ");
+}
+
+TEST(Texts, ShowEachKeyWithItsPlacesAndWhatIsMissing)
+{
+    DescriptionText dialog = Dialog();
+    dialog.layout = "Text 1,2,3,4,\"Label\",.A\nText 1,2,3,4,\"label\",.B\n";
+    const DialogFolder folder(dialog, "[S]\nTitle=T\nLabel=L\n", "[S]\nTitle=T\n");
+    EXPECT_EQ(folder.Lines(1), "SECTION       KEY           English  German   USED BY\n"
+                               "S             TITLE         line 41  line 41  a.dlg:3\n"
+                               "S             Label         line 42  missing  a.dlg:4, a.dlg:5\n"
+                               "\n"
+                               "38 texts, 1 missing\n");
+}
+
+TEST(Texts, TellWhatIsWrongWithAText)
+{
+    const std::string tooLong(75, 'x');
+    const DialogFolder folder(
+        Dialog(), "[S]\nTITLE=It's\nUnused=a & b %\nSame=x\nLong=" + tooLong + "\nSame=y\nNothing\n[s]\nA=\n",
+        "[S]\nTITLE=Es\nUnused=a\\n\nSame=x\nLong=x\nNothing=\n");
+    EXPECT_EQ(folder.Lines(1), "SECTION       KEY           English  German   USED BY\n"
+                               "S             TITLE         line 41  line 41  a.dlg:3\n"
+                               "S             Unused        line 42  line 42  -\n"
+                               "S             Same          line 43  line 43  -\n"
+                               "S             Long          line 44  line 44  -\n"
+                               "S             Nothing       missing  line 45  -\n"
+                               "s             A             -        -        -\n"
+                               "\n"
+                               "[S] TITLE: an apostrophe in English, where the caption ends\n"
+                               "[S] TITLE: other apostrophes: English 1, German 0\n"
+                               "[S] Unused: unused\n"
+                               "[S] Unused: other per cent signs: English 1, German 0\n"
+                               "[S] Unused: other line ends (\\n): English 0, German 1\n"
+                               "[S] Unused: other ampersands: English 1, German 0\n"
+                               "[S] Same: unused\n"
+                               "[S] Same: never read in English, line 45: its key or section stands there twice\n"
+                               "[S] Long: unused\n"
+                               "[S] Long: cut in English: 75 bytes, 74 are shown\n"
+                               "[S] Nothing: unused\n"
+                               "[S] Nothing: no = in English, line 46\n"
+                               "[s] A: unused\n"
+                               "[s] A: never read in English, line 48: its key or section stands there twice\n"
+                               "\n"
+                               "42 texts, 1 missing\n");
+}
+
+TEST(Texts, AreShownInUtf8)
+{
+    const DialogFolder folder(Dialog(), "[S]\nTITLE=T\n\xDC=x\n", "[S]\nTITLE=T\n\xDC=x\n");
+    EXPECT_NE(folder.Lines(0).find("S             \xC3\x9C"), std::string::npos);
+}
+
+TEST(Texts, AreGivenAsJsonToo)
+{
+    const DialogFolder folder(Dialog(), "[S]\nTITLE=\"a\" \\n\n", "[S]\nTITLE2=x\n");
+    const CommandRun run({"texts", folder.Path(), "--format", "json"});
+    EXPECT_EQ(run.code, 1);
+    EXPECT_TRUE(run.output.starts_with(
+        "{\"missing\": 2, \"texts\": [\n{\"section\": \"Buttons\", \"key\": \"001\", \"uses\": [{\"library\": true}], "
+        "\"texts\": [{\"language\": \"English\", \"line\": 2, \"text\": \"x\"}, {\"language\": \"German\", \"line\": "
+        "2, "
+        "\"text\": \"x\"}], \"remarks\": []},\n"))
+        << run.output;
+    EXPECT_TRUE(run.output.ends_with(
+        "{\"section\": \"S\", \"key\": \"TITLE\", \"uses\": [{\"file\": \"a.dlg\", \"line\": 3}], \"texts\": "
+        "[{\"language\": \"English\", \"line\": 41, \"text\": \"\\\"a\\\" \\\\n\"}, {\"language\": \"German\", "
+        "\"missing\": true}], \"remarks\": []},\n"
+        "{\"section\": \"S\", \"key\": \"TITLE2\", \"uses\": [], \"texts\": [{\"language\": \"English\", \"missing\": "
+        "true}, {\"language\": \"German\", \"line\": 41, \"text\": \"x\"}], \"remarks\": [\"unused\"]}\n]}\n"))
+        << run.output;
+}
+
+TEST(Texts, OfTheSamplesAreAllThereAndAllUsed)
+{
+    const lytdlg::TextTable samples(LYT_SOURCE_FOLDER "/samples/dialogs");
+    EXPECT_EQ(samples.CountMissing(), 0U);
+    EXPECT_GT(samples.Rows().size(), 100U);
+    for (const lytdlg::TextRow& row : samples.Rows())
+        EXPECT_TRUE(row.remarks.empty()) << row.section << "/" << row.key << ": " << row.remarks.front();
+}
+
+// Each number that stands in a call of the sources, and each text that they ask for by its name.
+TEST(Texts, OfTheLibraryAreThoseThatItsSourcesAskFor)
+{
+    std::set<std::string> asked;
+    const std::regex number("\"(2[0-9][0-9])\"");
+    const std::regex named("GetText\\(\"(\\w+)\", \"(\\w+)\"\\)");
+    for (const auto& entry : fs::recursive_directory_iterator(LYT_SOURCE_FOLDER "/src"))
+    {
+        if (entry.path().extension() != ".cpp" && entry.path().extension() != ".h")
+            continue;
+        const std::string source = lytdlg::ReadWholeFile(entry.path()).value_or("");
+        for (std::sregex_iterator found(source.begin(), source.end(), number), end; found != end; ++found)
+        {
+            // Comments name numbers as well, as examples.
+            const size_t line = source.rfind('\n', static_cast<size_t>(found->position())) + 1;
+            if (source.compare(source.find_first_not_of(' ', line), 2, "//") != 0)
+                asked.insert("Dialog_Error/" + (*found)[1].str());
+        }
+        for (std::sregex_iterator found(source.begin(), source.end(), named), end; found != end; ++found)
+            asked.insert((*found)[1].str() + "/" + (*found)[2].str());
+    }
+    std::set<std::string> known;
+    for (const lytdlg::TextUse& use : lytdlg::TextsOfLibrary())
+        known.insert(use.section + "/" + use.key);
+    EXPECT_EQ(asked, known);
+}
+
+TEST(TextsCommand, SaysWhatToWriteWhenItIsNotUnderstood)
+{
+    const TestFolder folder;
+    const std::string hint = "`lytdlg --help` lists commands and options.\n";
+    EXPECT_EQ(CommandRun({"texts", "none"}),
+              CommandRun(2, "", "lytdlg: there is no folder none; name the folder of the dialogs\n" + hint));
+    EXPECT_EQ(CommandRun({"texts", folder.Path(), "--format", "jso"}),
+              CommandRun(2, "", "lytdlg: there is no format \"jso\"; did you mean \"json\"?\n" + hint));
+    EXPECT_EQ(CommandRun({"texts", folder.Path()}),
+              CommandRun(1, "",
+                         "lytdlg: there is no language file (*.nls) in " + (fs::path(folder.Path()) / "lang").string() +
+                             "; name the folder of the dialogs, which holds the folder lang\n"));
+}

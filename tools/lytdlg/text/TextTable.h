@@ -1,0 +1,43 @@
+// The language files of a folder against each other and against the dialogs that ask for their texts.
+#pragma once
+
+#include "lytdlg/text/LanguageFiles.h"
+#include "lytdlg/text/UsedTexts.h"
+
+namespace lytdlg
+{
+
+struct TextRow
+{
+    std::string section;
+    std::string key;
+    std::vector<TextUse> uses;
+    std::vector<std::string>
+        remarks; // what is wrong with it, a sentence each, without the languages where it is missing
+};
+
+class TextTable
+{
+public:
+    // A folder without a language file, or a dialog that cannot be read, throws std::runtime_error.
+    explicit TextTable(const std::filesystem::path& folder);
+
+    const LanguageFiles& Languages() const { return m_languages; }
+    // In the order of their first use; what nothing uses comes last.
+    const std::vector<TextRow>& Rows() const { return m_rows; }
+    // True when the language lacks what is used, or what another language has.
+    bool IsMissing(const TextRow& row, const LanguageFile& file) const;
+    // In all languages together.
+    size_t CountMissing() const;
+
+private:
+    TextRow& RowOf(const std::string& section, const std::string& key);
+    void AddUses(const std::vector<TextUse>& uses);
+    void AddKeys(const LanguageFile& file);
+    void Judge(TextRow& row) const;
+
+    LanguageFiles m_languages;
+    std::vector<TextRow> m_rows;
+};
+
+} // namespace lytdlg

@@ -1,0 +1,165 @@
+#include "lytdlg/text/TextsCommand.h"
+
+#include "commandline/Suggestion.h"
+#include "commandline/Text.h"
+#include "lytdlg/text/TextTable.h"
+
+#include <algorithm>
+#include <cstdio>
+
+namespace lytdlg
+{
+
+namespace
+{
+
+using Cells = std::vector<std::string>;
+
+std::string UsesOf(const TextRow& row)
+{
+    std::string uses;
+    for (const TextUse& use : row.uses)
+    {
+        const std::string shown = use.file.empty() ? "the library" : use.file + ":" + std::to_string(use.line);
+        uses += (uses.empty() ? "" : ", ") + shown;
+    }
+    return uses.empty() ? "-" : uses;
+}
+
+Cells CellsOf(const TextRow& row, const TextTable& texts)
+{
+    Cells cells = {row.section.empty() ? "-" : row.section, row.key.empty() ? "-" : row.key};
+    for (const LanguageFile& file : texts.Languages().Files())
+    {
+        const LanguageKey* key = file.Find(row.section, row.key);
+        cells.push_back(key != nullptr               ? "line " + std::to_string(key->place.line)
+                        : texts.IsMissing(row, file) ? "missing"
+                                                     : "-");
+    }
+    cells.push_back(UsesOf(row));
+    return cells;
+}
+
+void PrintTable(const std::vector<Cells>& table)
+{
+    std::vector<size_t> widths(table.front().size(), 0);
+    for (const Cells& cells : table)
+    {
+        for (size_t i = 0; i + 1 < cells.size(); ++i)
+            widths[i] = std::max(widths[i], cells[i].size() + 2);
+    }
+    for (const Cells& cells : table)
+    {
+        std::string line;
+        for (size_t i = 0; i < cells.size(); ++i)
+            line += cells[i] + std::string(std::max(widths[i], cells[i].size()) - cells[i].size(), ' ');
+        std::printf("%s\n", commandline::ToUtf8(line).c_str());
+    }
+}
+
+// What is to be looked at comes once more at the end, where it is seen.
+void PrintText(const TextTable& texts)
+{
+    std::vector<Cells> table = {{"SECTION", "KEY"}};
+    for (const LanguageFile& file : texts.Languages().Files())
+        table.front().push_back(file.Language());
+    table.front().push_back("USED BY");
+    std::string remarks;
+    for (const TextRow& row : texts.Rows())
+    {
+        table.push_back(CellsOf(row, texts));
+        for (const std::string& remark : row.remarks)
+            remarks += "[" + row.section + "] " + row.key + ": " + remark + "\n";
+    }
+    PrintTable(table);
+    std::printf("%s%s\n%zu texts, %zu missing\n", remarks.empty() ? "" : "\n", commandline::ToUtf8(remarks).c_str(),
+                texts.Rows().size(), texts.CountMissing());
+}
+
+std::string JsonText(const std::string& ansi)
+{
+    std::string text = "\"";
+    for (const char ch : commandline::ToUtf8(ansi))
+    {
+        char code[8] = "";
+        if (ch >= 0 && ch < ' ')
+            std::snprintf(code, sizeof code, "\\u%04x", static_cast<unsigned>(ch));
+        else if (ch == '"' || ch == '\\')
+            text += '\\';
+        text += *code != '\0' ? std::string(code) : std::string(1, ch);
+    }
+    return text + '"';
+}
+
+template <class LIST, class SHOW>
+std::string JsonList(const LIST& list, SHOW show)
+{
+    std::string text = "[";
+    for (const auto& each : list)
+        text += (text.size() > 1 ? ", " : "") + show(each);
+    return text + "]";
+}
+
+std::string JsonRow(const TextRow& row, const TextTable& texts)
+{
+    const auto use = [](const TextUse& each)
+    {
+        return each.file.empty()
+                   ? std::string("{\"library\": true}")
+                   : "{\"file\": " + JsonText(each.file) + ", \"line\": " + std::to_string(each.line) + "}";
+    };
+    const auto text = [&](const LanguageFile& file)
+    {
+        const std::string language = "{\"language\": " + JsonText(file.Language());
+        const LanguageKey* key = file.Find(row.section, row.key);
+        if (key == nullptr)
+            return language + (texts.IsMissing(row, file) ? ", \"missing\": true}" : "}");
+        return language + ", \"line\": " + std::to_string(key->place.line) + ", \"text\": " + JsonText(key->text) + "}";
+    };
+    return "{\"section\": " + JsonText(row.section) + ", \"key\": " + JsonText(row.key) +
+           ", \"uses\": " + JsonList(row.uses, use) + ", \"texts\": " + JsonList(texts.Languages().Files(), text) +
+           ", \"remarks\": " + JsonList(row.remarks, JsonText) + "}";
+}
+
+void PrintJson(const TextTable& texts)
+{
+    std::printf("{\"missing\": %zu, \"texts\": [", texts.CountMissing());
+    const char* between = "\n";
+    for (const TextRow& row : texts.Rows())
+    {
+        std::printf("%s%s", between, JsonRow(row, texts).c_str());
+        between = ",\n";
+    }
+    std::printf("\n]}\n");
+}
+
+ExitCode Texts(const Request& request)
+{
+    const std::string format = request.Text("--format", "text");
+    const std::vector<std::string> formats = {"text", "json"};
+    if (std::ranges::find(formats, format) == formats.end())
+        throw commandline::UsageError("there is no format \"" + format + "\"; " +
+                                      commandline::Suggestion(format, formats));
+    const std::string folder = request.Operand(0, "");
+    std::error_code ignored;
+    if (!std::filesystem::is_directory(folder, ignored))
+        throw commandline::UsageError("there is no folder " + folder + "; name the folder of the dialogs");
+    const TextTable texts(folder);
+    format == "json" ? PrintJson(texts) : PrintText(texts);
+    return texts.CountMissing() != 0 ? found : good;
+}
+
+} // namespace
+
+Command TextsCommand()
+{
+    return {{"texts",
+             "FOLDER",
+             1,
+             1,
+             "compare the language files with each other and with the dialogs; 1 when a text is missing",
+             {{"--format", "FORMAT", false, "text (as without it) or json"}}},
+            Texts};
+}
+
+} // namespace lytdlg
