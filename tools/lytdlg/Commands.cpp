@@ -1,6 +1,7 @@
 #include "lytdlg/Commands.h"
 
 #include "lytdlg/text/FmtCommand.h"
+#include "lytdlg/text/NewCommand.h"
 #include "lytdlg/text/TextsCommand.h"
 #include "lytdlg/try/RunCommand.h"
 #include "lytdlg/try/ScanCommands.h"
@@ -43,8 +44,8 @@ int Tell(const char* text, ExitCode code)
 const std::vector<Command>& Commands()
 {
     static const std::vector<Command> commands = {
-        CheckCommand(), RunCommand(),  ScanCommand(), ComposeCommand(), RoundtripCommand(),
-        WhyCommand(),   TestCommand(), FmtCommand(),  TextsCommand(),   HelpCommand(),
+        CheckCommand(), RunCommand(), ScanCommand(),  ComposeCommand(), RoundtripCommand(), WhyCommand(),
+        TestCommand(),  FmtCommand(), TextsCommand(), NewCommand(),     HelpCommand(),
     };
     return commands;
 }

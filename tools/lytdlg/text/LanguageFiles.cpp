@@ -45,12 +45,14 @@ class KeyReader
 public:
     explicit KeyReader(std::string_view content) : m_rest(content) {}
 
-    std::vector<LanguageKey> Read()
+    void Read()
     {
         while (!m_rest.empty())
             TakeLine();
-        return std::move(m_keys);
     }
+    std::vector<LanguageKey> TakeKeys() { return std::move(m_keys); }
+    // In the order of the file, each as often as it begins.
+    std::vector<std::string> TakeSections() { return std::move(m_sections); }
 
 private:
     // A line ends at a carriage return, a line feed or both.
@@ -111,11 +113,26 @@ bool IsSameName(std::string_view left, std::string_view right)
     return CString(std::string(Trimmed(left)).c_str()).CompareNoCase(text.c_str()) == 0;
 }
 
+std::vector<LanguageKey> ReadLanguageKeys(std::string_view content)
+{
+    KeyReader reader(content);
+    reader.Read();
+    return reader.TakeKeys();
+}
+
 LanguageFile::LanguageFile(std::string language, std::string fileName)
     : m_language(std::move(language)), m_fileName(std::move(fileName))
 {
     const std::string content = ReadWholeFile(m_fileName).value_or("");
-    m_keys = KeyReader(content).Read();
+    KeyReader reader(content);
+    reader.Read();
+    m_sections = reader.TakeSections();
+    m_keys = reader.TakeKeys();
+}
+
+bool LanguageFile::HasSection(const std::string& section) const
+{
+    return std::ranges::any_of(m_sections, [&](const std::string& each) { return IsSameName(each, section); });
 }
 
 const LanguageKey* LanguageFile::Find(const std::string& section, const std::string& key) const

@@ -23,6 +23,9 @@ struct LanguageKey
     bool isReached = false; // false in the second of two sections, or keys, of one name: the library never looks there
 };
 
+// Every line with a key of a file's content, in its order.
+std::vector<LanguageKey> ReadLanguageKeys(std::string_view content);
+
 // How long a text may be, in bytes; the library cuts what is longer.
 inline constexpr size_t longestLanguageText = 74;
 
@@ -36,12 +39,15 @@ public:
     const std::string& FileName() const { return m_fileName; }
     // Every line with a key, in the order of the file.
     const std::vector<LanguageKey>& Keys() const { return m_keys; }
+    // Also for a section without keys.
+    bool HasSection(const std::string& section) const;
     // The key that the library finds, or null. Case and the blanks round a name do not count.
     const LanguageKey* Find(const std::string& section, const std::string& key) const;
 
 private:
     std::string m_language;
     std::string m_fileName;
+    std::vector<std::string> m_sections;
     std::vector<LanguageKey> m_keys;
 };
 

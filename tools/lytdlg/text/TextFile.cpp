@@ -71,6 +71,18 @@ void ReplaceWholeFile(const fs::path& name, const std::string& content)
     throw std::runtime_error("cannot write " + name.string() + "; it stays as it was. Check the rights of its folder");
 }
 
+void WriteNewFile(const fs::path& name, const std::string& content)
+{
+    std::error_code failure;
+    fs::create_directories(name.parent_path(), failure);
+    const bool isThere = fs::exists(fs::symlink_status(name, failure));
+    if (!isThere && Write(name, content))
+        return;
+    if (!isThere)
+        fs::remove(name, failure);
+    throw std::runtime_error("cannot write " + name.string() + "; check the rights of its folder");
+}
+
 std::vector<fs::path> FilesIn(const fs::path& folder, const std::string& extension)
 {
     std::vector<fs::path> files;

@@ -16,6 +16,10 @@ std::optional<std::string> ReadWholeFile(const std::filesystem::path& name);
 // and a link leads where it led. Throws std::runtime_error, with the file as it was, when it cannot be written.
 void ReplaceWholeFile(const std::filesystem::path& name, const std::string& content);
 
+// Writes a file that was not there, and its folder when that was not there either. Throws std::runtime_error, and leaves no
+// file, when it cannot be written.
+void WriteNewFile(const std::filesystem::path& name, const std::string& content);
+
 // The files of a folder with an extension, in the order of their names. Case does not count, and a folder that is not there
 // has none.
 std::vector<std::filesystem::path> FilesIn(const std::filesystem::path& folder, const std::string& extension);

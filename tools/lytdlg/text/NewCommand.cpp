@@ -1,0 +1,41 @@
+#include "lytdlg/text/NewCommand.h"
+
+#include "lytdlg/text/NewDialog.h"
+
+#include <cstdio>
+
+namespace lytdlg
+{
+
+namespace
+{
+
+ExitCode New(const Request& request)
+{
+    const std::string name = request.Operand(0, "");
+    const std::string fault = FaultOfName(name);
+    if (!fault.empty())
+        throw commandline::UsageError("\"" + name + "\" is no name for a dialog; " + fault);
+    const std::string folder = request.Text("-o", ".");
+    std::error_code ignored;
+    if (!std::filesystem::is_directory(folder, ignored))
+        throw commandline::UsageError("there is no folder " + folder + "; name the folder of the dialogs");
+    for (const MadeFile& file : MakeDialog(folder, name))
+        std::printf("%s: %s\n", file.name.string().c_str(), file.isNew ? "made" : "texts added");
+    return good;
+}
+
+} // namespace
+
+Command NewCommand()
+{
+    return {{"new",
+             "NAME",
+             1,
+             1,
+             "begin a dialog: a description, its texts in every language and a golden case",
+             {{"-o", "FOLDER", false, "the folder of the dialogs (the current one)"}}},
+            New};
+}
+
+} // namespace lytdlg

@@ -1,0 +1,11 @@
+// `lytdlg new`: begins a dialog.
+#pragma once
+
+#include "lytdlg/Commands.h"
+
+namespace lytdlg
+{
+
+Command NewCommand();
+
+}

@@ -1,0 +1,23 @@
+// What a new dialog consists of, before it has a name.
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace lytdlg
+{
+
+// Each `@` stands for the name of the dialog.
+std::string NewDescription();
+// `prefix` leads from the case to the dialog.
+std::string NewCase(const std::string& prefix, const std::string& language);
+
+// The languages that a new folder gets.
+const std::vector<std::string>& KnownLanguages();
+// The head of a language file with what the library itself asks for.
+std::string LibraryTextsOf(const std::string& language);
+// The lines for the section MsgBox, and those of the dialog's own section. A language that is not known speaks English.
+std::string NewMessages(const std::string& language);
+std::string NewTexts(const std::string& language);
+
+} // namespace lytdlg
