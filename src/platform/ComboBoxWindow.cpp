@@ -57,10 +57,18 @@ void ComboBoxWindow::OnCreated()
     edit->className = "Edit";
     edit->style = WS_CHILD | WS_VISIBLE | ES_AUTOHSCROLL | (style & WS_DISABLED);
     edit->id = editId;
-    const SIZE size = ClientSize();
-    edit->place = {editMargin / 2, editMargin / 2, size.cx - CurrentMetrics().scrollBarWidth - editMargin / 2,
-                   size.cy - editMargin / 2};
     m_edit = Desktop::Get().Adopt(std::move(edit), this).handle;
+    PlaceField();
+}
+
+void ComboBoxWindow::PlaceField() const
+{
+    Window* field = Desktop::Get().Find(m_edit);
+    if (field == nullptr)
+        return;
+    const SIZE size = ClientSize();
+    field->place = {editMargin / 2, editMargin / 2, size.cx - CurrentMetrics().scrollBarWidth - editMargin / 2,
+                    size.cy - editMargin / 2};
 }
 
 SIZE ComboBoxWindow::Adjusted(SIZE wanted) const
@@ -76,8 +84,10 @@ LRESULT ComboBoxWindow::Handle(UINT message, WPARAM wParam, LPARAM lParam)
     case WM_SETFONT:
         Window::Handle(message, wParam, lParam);
         place.bottom = place.top + LineHeight(font) + fieldMargin;
+        PlaceField();
         ::SendMessageA(m_edit, message, wParam, lParam);
         return 0;
+    case WM_SIZE: PlaceField(); return 0;
     // Like a list, one that does not draw is visible all the same.
     case WM_SETREDRAW: return 0;
     case WM_ENABLE: ::EnableWindow(m_edit, wParam != 0 ? TRUE : FALSE); return 0;

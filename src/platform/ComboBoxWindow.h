@@ -40,6 +40,8 @@ private:
     void TakeFocus();
     void TakeClick(LPARAM point);
     bool HasEdit() const { return m_edit != nullptr; }
+    // Puts the field where the frame and the arrow leave room.
+    void PlaceField() const;
     void MoveCaretToText();
     void Open();
     void Close(UINT why);

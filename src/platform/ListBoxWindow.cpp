@@ -3,6 +3,7 @@
 #include "Metrics.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace platform
 {
@@ -17,6 +18,14 @@ SIZE ListBoxWindow::Adjusted(SIZE wanted) const
     const LONG frame = Frame().cy;
     const LONG room = std::max<LONG>(0, wanted.cy - frame);
     return {wanted.cx, room < m_itemHeight ? wanted.cy : room / m_itemHeight * m_itemHeight + frame};
+}
+
+SIZE ListBoxWindow::ClientSize() const
+{
+    SIZE size = Window::ClientSize();
+    if (HasBar())
+        size.cx = std::max<LONG>(0, size.cx - CurrentMetrics().scrollBarWidth);
+    return size;
 }
 
 LRESULT ListBoxWindow::Handle(UINT message, WPARAM wParam, LPARAM lParam)
@@ -57,13 +66,10 @@ LRESULT ListBoxWindow::HandleItems(UINT message, WPARAM wParam, LPARAM lParam)
     const char* itemText = reinterpret_cast<const char*>(lParam);
     switch (message)
     {
-    case LB_ADDSTRING: return m_items.Insert(HasStyle(LBS_SORT) ? m_items.SortedPlace(itemText) : -1, itemText);
-    case LB_INSERTSTRING: return m_items.Insert(index, itemText);
-    case LB_DELETESTRING: return Delete(index);
-    case LB_RESETCONTENT:
-        m_items.Clear();
-        m_caret = m_top = 0;
-        return 0;
+    case LB_ADDSTRING:
+    case LB_INSERTSTRING:
+    case LB_DELETESTRING:
+    case LB_RESETCONTENT: return ChangeItems(message, index, itemText);
     case LB_GETCOUNT: return m_items.Count();
     case LB_GETCURSEL: return m_items.Current();
     case LB_SETCURSEL: return Select(index);
@@ -82,6 +88,24 @@ LRESULT ListBoxWindow::HandleItems(UINT message, WPARAM wParam, LPARAM lParam)
     case LB_SETITEMHEIGHT: m_itemHeight = std::max(1, static_cast<int>(lParam)); return 0;
     default: return ItemRect(index, *reinterpret_cast<RECT*>(lParam));
     }
+}
+
+// A bar that comes or goes changes the client area, and with each such change the list looks at its whole items.
+LRESULT ListBoxWindow::ChangeItems(UINT message, int index, const char* itemText)
+{
+    LRESULT result = 0;
+    switch (message)
+    {
+    case LB_ADDSTRING:
+        result = m_items.Insert(HasStyle(LBS_SORT) ? m_items.SortedPlace(itemText) : -1, itemText);
+        break;
+    case LB_INSERTSTRING: result = m_items.Insert(index, itemText); break;
+    case LB_DELETESTRING: result = Delete(index); break;
+    default: m_items.Clear(); m_caret = m_top = 0;
+    }
+    if (std::exchange(m_hadBar, HasBar()) != m_hadBar)
+        place.bottom = place.top + Adjusted({0, place.bottom - place.top}).cy;
+    return result;
 }
 
 LRESULT ListBoxWindow::HandleInput(UINT message, WPARAM wParam, LPARAM lParam)
@@ -125,7 +149,7 @@ int ListBoxWindow::ItemAt(LPARAM point) const
 
 int ListBoxWindow::VisibleItems() const
 {
-    return std::max(1, static_cast<int>(ClientSize().cy) / m_itemHeight);
+    return std::max(1, static_cast<int>(Window::ClientSize().cy) / m_itemHeight);
 }
 
 LRESULT ListBoxWindow::ItemRect(int index, RECT& rect) const
@@ -135,10 +159,9 @@ LRESULT ListBoxWindow::ItemRect(int index, RECT& rect) const
     if (index != -1 && !m_items.Has(index))
         return LB_ERR;
     const int top = (index - m_top) * m_itemHeight;
-    const bool isScrolled = HasStyle(WS_VSCROLL) && m_items.Count() > VisibleItems();
-    const LONG width = ClientSize().cx - (isScrolled ? CurrentMetrics().scrollBarWidth : 0);
-    rect = {0, top, width, top + m_itemHeight};
-    return rect.bottom > 0 && rect.top < ClientSize().cy ? TRUE : FALSE;
+    const SIZE client = ClientSize();
+    rect = {0, top, client.cx, top + m_itemHeight};
+    return rect.bottom > 0 && rect.top < client.cy ? TRUE : FALSE;
 }
 
 LRESULT ListBoxWindow::Select(int index)

@@ -13,13 +13,17 @@ public:
     LRESULT Handle(UINT message, WPARAM wParam, LPARAM lParam) override;
     // Whole items only.
     SIZE Adjusted(SIZE wanted) const override;
+    // The scroll bar stands beside it.
+    SIZE ClientSize() const override;
 
 private:
     LRESULT HandleItems(UINT message, WPARAM wParam, LPARAM lParam);
+    LRESULT ChangeItems(UINT message, int index, const char* itemText);
     LRESULT HandleInput(UINT message, WPARAM wParam, LPARAM lParam);
     bool IsOwnerDrawn() const { return HasStyle(LBS_OWNERDRAWFIXED); }
     int ItemAt(LPARAM point) const;
     int VisibleItems() const;
+    bool HasBar() const { return HasStyle(WS_VSCROLL) && m_items.Count() > VisibleItems(); }
     LRESULT ItemRect(int index, RECT& rect) const;
     LRESULT Select(int index);
     LRESULT Delete(int index);
@@ -36,6 +40,7 @@ private:
     int m_caret = 0;
     int m_top = 0;
     bool m_isPressed = false;
+    bool m_hadBar = false; // before the items changed
 
     static int LineHeightOfSystem();
 };

@@ -43,7 +43,7 @@ public:
     bool IsFocused() const;
     // What the frame takes of the window's size.
     SIZE Frame() const;
-    SIZE ClientSize() const;
+    virtual SIZE ClientSize() const;
     // The window's place on the screen.
     RECT ScreenPlace() const;
     // Where the client area begins on the screen.

@@ -31,6 +31,21 @@ void PrintSize(const char* what, const CWnd& window)
     Print("%s %d by %d, client %d by %d", what, outer.Width(), outer.Height(), inner.Width(), inner.Height());
 }
 
+const CWnd& FieldOf(const CComboBox& combo)
+{
+    return *CWnd::FromHandle(::GetWindow(combo.m_hWnd, GW_CHILD));
+}
+
+// A list of as many items as the bar needs to appear, and then of none.
+void PrintSizesWithBar(const char* what, const CListBox& list)
+{
+    for (int count = 1; count <= 6; ++count)
+        list.AddString("item");
+    PrintSize(what, list);
+    list.ResetContent();
+    PrintSize(what, list);
+}
+
 } // namespace
 
 void Measuring()
@@ -58,6 +73,7 @@ void Measuring()
                   PrintSize("drop-down list", drop);
                   PrintSize("combo box", combo);
                   PrintSize("tree", tree);
+                  PrintSize("field of the combo box", FieldOf(combo));
                   Print("items %d %d", list.GetItemHeight(0), checks.GetItemHeight(0));
               });
     stage.Act("texts",
@@ -82,8 +98,15 @@ void Measuring()
                   PrintSize("list", list);
                   combo.SetWindowPos(nullptr, 0, 0, 100, 83, SWP_NOZORDER | SWP_NOMOVE);
                   PrintSize("combo box", combo);
+                  PrintSize("field of the combo box", FieldOf(combo));
                   edit.SetWindowPos(nullptr, 0, 0, 50, 30, SWP_NOZORDER | SWP_NOMOVE);
                   PrintSize("edit", edit);
+              });
+    stage.Act("sizes with a bar",
+              [&]
+              {
+                  PrintSizesWithBar("list", list);
+                  PrintSizesWithBar("check list", checks);
               });
     stage.Act("rounding",
               []
