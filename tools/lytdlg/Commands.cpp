@@ -1,5 +1,6 @@
 #include "lytdlg/Commands.h"
 
+#include "lytdlg/draw/PreviewCommand.h"
 #include "lytdlg/text/FmtCommand.h"
 #include "lytdlg/text/NewCommand.h"
 #include "lytdlg/text/TextsCommand.h"
@@ -44,11 +45,23 @@ int Tell(const char* text, ExitCode code)
 const std::vector<Command>& Commands()
 {
     static const std::vector<Command> commands = {
-        CheckCommand(), RunCommand(), ScanCommand(),  ComposeCommand(), RoundtripCommand(), WhyCommand(),
-        TestCommand(),  FmtCommand(), TextsCommand(), NewCommand(),     HelpCommand(),
-    };
-    return commands;
-}
+        static const std::vector<Command> commands = {
+            CheckCommand(),
+            RunCommand(),
+            ScanCommand(),
+            ComposeCommand(),
+            RoundtripCommand(),
+            WhyCommand(),
+            TestCommand(),
+            FmtCommand(),
+            TextsCommand(),
+            NewCommand(),
+            PreviewCommand(),
+            HelpCommand(),
+        };
+};
+return commands;
+} // namespace lytdlg
 
 const commandline::ProgramForm& TheProgram()
 {

@@ -1,0 +1,29 @@
+// The resolution of the screen that dialogs are opened on.
+#pragma once
+
+#include <vector>
+
+namespace lytdlg
+{
+
+// Those that dialogs can be opened at here, smallest first.
+std::vector<int> Resolutions();
+
+// Holds for as long as it lives.
+class Resolution
+{
+public:
+    // Throws std::runtime_error when the screen cannot have it.
+    explicit Resolution(int pixelsPerInch);
+    Resolution(const Resolution&) = delete;
+    Resolution& operator=(const Resolution&) = delete;
+    ~Resolution();
+
+private:
+    int m_before;
+};
+
+// That of the screen as it stands.
+int PixelsPerInch();
+
+} // namespace lytdlg

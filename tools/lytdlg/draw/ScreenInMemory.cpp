@@ -1,0 +1,31 @@
+// Windows in memory stand on a screen of either resolution.
+#include "lytdlg/draw/Screen.h"
+
+#include "platform/MemoryWindows.h"
+
+#include <afxwin.h>
+
+namespace lytdlg
+{
+
+std::vector<int> Resolutions()
+{
+    return {96, 120};
+}
+
+Resolution::Resolution(int pixelsPerInch) : m_before(PixelsPerInch())
+{
+    platform::SetPixelsPerInch(pixelsPerInch);
+}
+
+Resolution::~Resolution()
+{
+    platform::SetPixelsPerInch(m_before);
+}
+
+int PixelsPerInch()
+{
+    return CClientDC(nullptr).GetDeviceCaps(LOGPIXELSX);
+}
+
+} // namespace lytdlg

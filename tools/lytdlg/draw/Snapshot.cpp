@@ -1,0 +1,165 @@
+#include "lytdlg/draw/Snapshot.h"
+
+#include "lytdlg/try/TrialDialog.h"
+#include "robot/WindowRobot.h"
+
+#include <numeric>
+
+namespace lytdlg
+{
+
+namespace
+{
+
+Area AreaOf(const RECT& rect)
+{
+    return {rect.left, rect.top, rect.right - rect.left, rect.bottom - rect.top};
+}
+
+Area WindowArea(HWND window, POINT origin)
+{
+    RECT rect{};
+    GetWindowRect(window, &rect);
+    Area area = AreaOf(rect);
+    area.left -= origin.x;
+    area.top -= origin.y;
+    return area;
+}
+
+POINT CornerOf(HWND window)
+{
+    RECT rect{};
+    GetWindowRect(window, &rect);
+    return {rect.left, rect.top};
+}
+
+// What the frame of a window leaves, within that window.
+Area ClientArea(HWND window)
+{
+    RECT rect{};
+    GetClientRect(window, &rect);
+    POINT corner{0, 0};
+    MapWindowPoints(window, nullptr, &corner, 1);
+    const POINT origin = CornerOf(window);
+    return {corner.x - origin.x, corner.y - origin.y, rect.right, rect.bottom};
+}
+
+bool HasStyle(HWND window, DWORD style)
+{
+    return (static_cast<DWORD>(GetWindowLongA(window, GWL_STYLE)) & style) == style;
+}
+
+LRESULT Ask(HWND window, UINT message, WPARAM wParam = 0, LPARAM lParam = 0)
+{
+    return SendMessageA(window, message, wParam, lParam);
+}
+
+void ReadSelection(HWND edit, SeenControl& control)
+{
+    const auto selection = static_cast<DWORD>(Ask(edit, EM_GETSEL));
+    control.selectedFrom = LOWORD(selection);
+    control.selectedTo = HIWORD(selection);
+}
+
+void ReadItems(HWND list, SeenControl& control)
+{
+    for (std::string& text : robot::ItemsOf(list))
+        control.items.push_back({std::move(text), false});
+    control.chosen = robot::SelectedItemOf(list);
+}
+
+void ReadList(HWND list, SeenControl& control)
+{
+    ReadItems(list, control);
+    control.topItem = static_cast<int>(Ask(list, LB_GETTOPINDEX));
+    RECT rect{};
+    Ask(list, LB_GETITEMRECT, static_cast<WPARAM>(control.topItem), reinterpret_cast<LPARAM>(&rect));
+    control.firstItem = AreaOf(rect);
+    if (control.type != "CheckListBox")
+        return;
+    for (size_t index = 0; index < control.items.size(); ++index)
+        control.items[index].isMarked = Ask(list, LB_GETITEMDATA, index) == BST_CHECKED;
+}
+
+void ReadCombo(HWND combo, SeenControl& control)
+{
+    ReadItems(combo, control);
+    const HWND edit = FindWindowExA(combo, nullptr, "Edit", nullptr);
+    if (edit == nullptr)
+        return;
+    control.field = WindowArea(edit, CornerOf(combo));
+    ReadSelection(edit, control);
+}
+
+void ReadWindow(HWND window, HWND dialog, SeenControl& control)
+{
+    control.hasWindow = true;
+    control.text = robot::TextOf(window);
+    control.place = WindowArea(window, CornerOf(dialog));
+    control.inside = ClientArea(window);
+    control.isShown = IsWindowVisible(window) != FALSE;
+    control.isEnabled = IsWindowEnabled(window) != FALSE;
+    control.hasFocus = GetFocus() == window || IsChild(window, GetFocus()) != FALSE;
+    if (control.type == "CheckBox" || control.type == "OptionButton")
+        control.isChecked = Ask(window, BM_GETCHECK) == BST_CHECKED;
+    else if (control.type.ends_with("Button"))
+        control.isDefault = (GetWindowLongA(window, GWL_STYLE) & BS_TYPEMASK) == BS_DEFPUSHBUTTON;
+    else if (control.type == "TextBox")
+        ReadSelection(window, control);
+    else if (control.type == "ListBox" || control.type == "CheckListBox")
+        ReadList(window, control);
+    else if (control.type == "ComboBox" || control.type == "DropListBox")
+        ReadCombo(window, control);
+}
+
+// The system's fonts of this kind have no kerning: a text is as wide as its characters together.
+void MeasureFont(const TrialDialog& dialog, SeenDialog& seen)
+{
+    const CClientDC device(&dialog);
+    device.SelectObject(reinterpret_cast<HGDIOBJ>(dialog.SendMessage(WM_GETFONT)));
+    for (size_t code = 0; code < seen.advances.size(); ++code)
+    {
+        const char character = static_cast<char>(code);
+        const CSize extent = device.GetTextExtent(&character, 1);
+        seen.advances.at(code) = extent.cx;
+        seen.textHeight = extent.cy;
+    }
+    seen.pixelsPerInch = device.GetDeviceCaps(LOGPIXELSX);
+}
+
+} // namespace
+
+int SeenDialog::WidthOf(const std::string& shown) const
+{
+    return std::accumulate(shown.begin(), shown.end(), 0,
+                           [&](int sum, char ch) { return sum + advances.at(static_cast<unsigned char>(ch)); });
+}
+
+SeenDialog See(const TrialDialog& dialog)
+{
+    SeenDialog seen;
+    seen.title = robot::TextOf(dialog.m_hWnd);
+    const Area window = WindowArea(dialog.m_hWnd, {0, 0});
+    seen.width = window.width;
+    seen.height = window.height;
+    seen.client = ClientArea(dialog.m_hWnd);
+    MeasureFont(dialog, seen);
+
+    int tabNumber = 0;
+    for (POSITION place = dialog.GetControlList().GetHeadPosition(); place != nullptr;)
+    {
+        const ClytControl& control = *dialog.GetControlList().GetNext(place);
+        SeenControl& one = seen.controls.emplace_back();
+        one.type = dialog.TypeOf(control);
+        one.name = dialog.NameOf(control);
+        const auto* child = dynamic_cast<const CWnd*>(&control);
+        if (child == nullptr || child->m_hWnd == nullptr)
+            continue;
+        ReadWindow(child->m_hWnd, dialog.m_hWnd, one);
+        if (HasStyle(child->m_hWnd, WS_TABSTOP))
+            one.tabNumber = ++tabNumber;
+    }
+    return seen;
+}
+
+} // namespace lytdlg

@@ -1,0 +1,68 @@
+// Rectangles and texts of a drawing, in pixels.
+#pragma once
+
+#include "lytdlg/draw/Markup.h"
+#include "lytdlg/draw/Snapshot.h"
+
+namespace lytdlg
+{
+
+namespace color
+{
+inline constexpr const char* face = "#f4f4f4";
+inline constexpr const char* window = "#ffffff";
+inline constexpr const char* edge = "#aeaeae";
+inline constexpr const char* shadow = "#696969";
+inline constexpr const char* light = "#e3e3e3";
+inline constexpr const char* text = "#000000";
+inline constexpr const char* greyed = "#8a8a8a";
+inline constexpr const char* chosen = "#3399ff";
+inline constexpr const char* chosenText = "#ffffff";
+inline constexpr const char* name = "#0050c8";
+inline constexpr const char* tab = "#c84800";
+} // namespace color
+
+// A caption as it is shown: "&&" is an ampersand, and another "&" underlines the character after it.
+struct Caption
+{
+    explicit Caption(const std::string& text);
+
+    std::string shown;
+    int underlined = -1; // the place of that character
+};
+
+class SvgPen
+{
+public:
+    explicit SvgPen(const SeenDialog& dialog) : m_dialog(dialog) {}
+
+    Markup markup;
+
+    void Fill(const Area& area, const char* fill);
+    // A line of one pixel just inside the area.
+    void Frame(const Area& area, const char* fill, const char* stroke, const Attributes& more = {});
+    void Line(int fromX, int fromY, int toX, int toY, const char* stroke);
+    // The frame of a field or a list.
+    void SunkenFrame(int width, int height, const char* fill);
+    // What follows is seen inside the area only, and counts from its corner.
+    void BeginClip(const Area& area);
+    void EndClip() { markup.Close(); }
+    // A text in the code page, from its top left corner; what begins right of `limit` is left out.
+    void Text(int left, int top, const std::string& shown, const char* fill, int limit);
+    void TextOf(const Caption& caption, int left, int top, const char* fill, int limit);
+    // A text that says something about a drawing, and not the dialog itself.
+    void Note(int left, int top, const std::string& text, const char* fill);
+    int NoteWidth(const std::string& text) const { return m_dialog.WidthOf(text) * 3 / 4; }
+
+    // Lengths that grow with the resolution, given at 96 dots per inch.
+    int Scaled(int pixels96) const { return pixels96 * m_dialog.pixelsPerInch / 96; }
+    int TextHeight() const { return m_dialog.textHeight; }
+    int WidthOf(const std::string& shown) const { return m_dialog.WidthOf(shown); }
+
+private:
+    int BaselineOf(int top) const { return top + m_dialog.textHeight - m_dialog.textHeight / 5; }
+
+    const SeenDialog& m_dialog;
+};
+
+} // namespace lytdlg
