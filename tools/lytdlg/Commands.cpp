@@ -1,5 +1,6 @@
 #include "lytdlg/Commands.h"
 
+#include "lytdlg/draw/GraphCommand.h"
 #include "lytdlg/draw/PreviewCommand.h"
 #include "lytdlg/text/FmtCommand.h"
 #include "lytdlg/text/NewCommand.h"
@@ -57,57 +58,55 @@ const std::vector<Command>& Commands()
             TextsCommand(),
             NewCommand(),
             PreviewCommand(),
+            GraphCommand(),
             HelpCommand(),
         };
-};
-return commands;
-} // namespace lytdlg
 
-const commandline::ProgramForm& TheProgram()
-{
-    static const commandline::ProgramForm form = []
+    const commandline::ProgramForm& TheProgram()
     {
-        commandline::ProgramForm made = {
-            "lytdlg",
-            "lytdlg judges, tries, tests and draws dialog descriptions without the word processor.",
-            {},
-            {{"--help", nullptr, false, "print this text, or after a command its options"}},
-            "The program ends with 0 when all is well, with 1 when there is something to look at (findings,\n"
-            "differences, a dialog that was refused), and with 2 when the command line cannot be understood.\n"};
-        for (const Command& command : Commands())
-            made.commands.push_back(command.form);
-        return made;
-    }();
-    return form;
-}
+        static const commandline::ProgramForm form = []
+        {
+            commandline::ProgramForm made = {
+                "lytdlg",
+                "lytdlg judges, tries, tests and draws dialog descriptions without the word processor.",
+                {},
+                {{"--help", nullptr, false, "print this text, or after a command its options"}},
+                "The program ends with 0 when all is well, with 1 when there is something to look at (findings,\n"
+                "differences, a dialog that was refused), and with 2 when the command line cannot be understood.\n"};
+            for (const Command& command : Commands())
+                made.commands.push_back(command.form);
+            return made;
+        }();
+        return form;
+    }
 
-int Run(const std::vector<std::string>& words)
-{
-    try
+    int Run(const std::vector<std::string>& words)
     {
-        const Request request = ReadCommandLine(TheProgram(), words);
-        const auto command = std::ranges::find_if(Commands(), [&](const Command& candidate)
-                                                  { return request.command == candidate.form.word; });
-        return command->run(request);
+        try
+        {
+            const Request request = ReadCommandLine(TheProgram(), words);
+            const auto command = std::ranges::find_if(Commands(), [&](const Command& candidate)
+                                                      { return request.command == candidate.form.word; });
+            return command->run(request);
+        }
+        catch (const commandline::UsageError& error)
+        {
+            Tell(error.what(), notUnderstood);
+            std::fprintf(stderr, "`lytdlg --help` lists commands and options.\n");
+            return notUnderstood;
+        }
+        catch (const std::exception& error)
+        {
+            return Tell(error.what(), found);
+        }
+        catch (CException* e)
+        {
+            CString message;
+            e->GetErrorMessage(message.GetBuffer(1024), 1024);
+            message.ReleaseBuffer();
+            e->Delete();
+            return Tell(message.GetString(), found);
+        }
     }
-    catch (const commandline::UsageError& error)
-    {
-        Tell(error.what(), notUnderstood);
-        std::fprintf(stderr, "`lytdlg --help` lists commands and options.\n");
-        return notUnderstood;
-    }
-    catch (const std::exception& error)
-    {
-        return Tell(error.what(), found);
-    }
-    catch (CException* e)
-    {
-        CString message;
-        e->GetErrorMessage(message.GetBuffer(1024), 1024);
-        message.ReleaseBuffer();
-        e->Delete();
-        return Tell(message.GetString(), found);
-    }
-}
 
 } // namespace lytdlg

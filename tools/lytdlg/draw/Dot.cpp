@@ -1,0 +1,91 @@
+#include "lytdlg/draw/Dot.h"
+
+namespace lytdlg
+{
+
+namespace
+{
+
+// Backslashes would begin escapes of that language, and other control characters are no text in what it is turned into.
+std::string Quoted(const std::string& utf8)
+{
+    std::string quoted = "\"";
+    for (const char ch : utf8)
+    {
+        const auto code = static_cast<unsigned char>(ch);
+        if (ch == '"' || ch == '\\')
+            (quoted += '\\') += ch;
+        else if (ch == '\n')
+            quoted += "\\n";
+        else if (code < 0x20U || code == 0x7FU)
+            quoted += "\xEF\xBF\xBD";
+        else
+            quoted += ch;
+    }
+    return quoted + '"';
+}
+
+} // namespace
+
+Dot::Dot(const std::string& title)
+{
+    m_text = "digraph " + Quoted(title) + " {\n";
+    Line("rankdir=LR; charset=\"utf-8\"; fontname=\"sans-serif\"; labelloc=t; label=" + Quoted(title) + ";");
+    Line("node [shape=box, fontname=\"sans-serif\"]; edge [fontname=\"sans-serif\", fontsize=10];");
+}
+
+void Dot::Node(const std::string& id, const std::string& label, const Attributes& more)
+{
+    if (m_nodes.insert(id).second)
+        Write(Quoted(id), label, more);
+}
+
+void Dot::Edge(const std::string& from, const std::string& to, const std::string& label, const Attributes& more)
+{
+    Write(Quoted(from) + " -> " + Quoted(to), label, more);
+}
+
+void Dot::BeginCluster(const std::string& id, const std::string& label)
+{
+    Line("subgraph " + Quoted("cluster " + id) + " {");
+    ++m_depth;
+    Line("label=" + Quoted(label) + ";");
+}
+
+void Dot::EndCluster()
+{
+    --m_depth;
+    Line("}");
+}
+
+std::string Dot::Finish()
+{
+    return m_text + "}\n";
+}
+
+void Dot::Line(const std::string& text)
+{
+    m_text.append(m_depth * 2, ' ').append(text).append("\n");
+}
+
+void Dot::Write(const std::string& what, const std::string& label, const Attributes& more)
+{
+    std::string line = what + " [label=" + Quoted(label);
+    for (const Attribute& attribute : more)
+        line += std::string(", ") + attribute.name + "=" + Quoted(attribute.value);
+    Line(line + "];");
+}
+
+const Attributes& UnknownLook()
+{
+    static const Attributes look = {{"color", "red"}, {"fontcolor", "red"}, {"style", "dashed"}};
+    return look;
+}
+
+const Attributes& UnusedLook()
+{
+    static const Attributes look = {{"style", "dashed"}};
+    return look;
+}
+
+} // namespace lytdlg

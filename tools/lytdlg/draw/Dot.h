@@ -1,0 +1,36 @@
+// Writes graphs in the language of Graphviz.
+#pragma once
+
+#include "lytdlg/draw/Markup.h"
+
+#include <set>
+
+namespace lytdlg
+{
+
+class Dot
+{
+public:
+    explicit Dot(const std::string& title);
+
+    // A node is written once, as it is first told. Texts are in UTF-8; the lines of a label are separated by line feeds.
+    void Node(const std::string& id, const std::string& label, const Attributes& more = {});
+    void Edge(const std::string& from, const std::string& to, const std::string& label, const Attributes& more = {});
+    void BeginCluster(const std::string& id, const std::string& label);
+    void EndCluster();
+    std::string Finish();
+
+private:
+    void Line(const std::string& text);
+    void Write(const std::string& what, const std::string& label, const Attributes& more);
+
+    std::string m_text;
+    std::set<std::string> m_nodes;
+    size_t m_depth = 1;
+};
+
+// How what is wrong or never happens is drawn.
+const Attributes& UnknownLook();
+const Attributes& UnusedLook();
+
+} // namespace lytdlg
