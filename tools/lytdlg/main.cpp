@@ -1,10 +1,12 @@
 // lytdlg: judges, tries, tests and draws dialog descriptions from a command line.
 #include "lytdlg/Commands.h"
 
-#include <windows.h>
+#include <afxwin.h>
 
 int main(int count, char** words)
 {
     SetConsoleOutputCP(CP_UTF8);
+    // The templates, icons and manifest of the library are those of this program.
+    AfxGetStaticModuleState()->m_hCurrentResourceHandle = GetModuleHandleA(nullptr);
     return lytdlg::Run({words + 1, words + count});
 }

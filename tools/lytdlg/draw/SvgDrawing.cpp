@@ -46,24 +46,24 @@ void DrawWindow(SvgPen& pen, const SeenDialog& dialog)
     pen.EndClip();
 }
 
-bool IsIn(const std::string& type, std::initializer_list<const char*> types)
-{
-    return std::ranges::find(types, type) != types.end();
-}
-
-// Labels and boxes are as large as their text, and have their name after it; the caption of a button stays free; others
+// Nothing that is read is covered: a label has its name below, a box after its text, a button at its lower edge. Others
 // have room inside.
 void DrawName(SvgPen& pen, const SeenControl& control)
 {
     if (control.name.empty())
         return;
     const Area& place = control.place;
-    const bool isAfter = IsIn(control.type, {"Text", "CheckBox", "OptionButton"});
     const int right = place.left + place.width;
-    const int left = isAfter ? right + 3 : std::max(place.left + 2, right - pen.NoteWidth(control.name) - 2);
-    const bool isBelow = IsIn(control.type, {"PushButton", "OKButton", "CancelButton"});
-    const int top = isBelow ? place.top + place.height - pen.Scaled(4) : place.top + 1;
-    pen.Note(left, top, control.name, color::name);
+    const int bottom = place.top + place.height;
+    const int inside = std::max(place.left + 2, right - pen.NoteWidth(control.name) - 2);
+    if (control.type == "Text")
+        pen.Note(place.left, bottom, control.name, color::name);
+    else if (control.type == "CheckBox" || control.type == "OptionButton")
+        pen.Note(right + 3, place.top + 1, control.name, color::name);
+    else if (control.type.ends_with("Button"))
+        pen.Note(inside, bottom - pen.Scaled(4), control.name, color::name);
+    else
+        pen.Note(inside, place.top + 1, control.name, color::name);
 }
 
 // A number in brackets is that of a control that the Tab key passes over as the dialog stands.
