@@ -113,7 +113,7 @@ private:
         const auto isOfSide = [&](const RuleRecord& rule)
         {
             const bool isActive = rule.word == "ACTIVE";
-            return !rule.isEvent && isActive == (&side == &enabledSide) && IsAboutThis(rule);
+            return !rule.isEvent && !rule.setsNothing && isActive == (&side == &enabledSide) && IsAboutThis(rule);
         };
         const auto found = std::find_if(m_recorder.Rules().rbegin(), m_recorder.Rules().rend(), isOfSide);
         return found != m_recorder.Rules().rend() ? &*found : nullptr;

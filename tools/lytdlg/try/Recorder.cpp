@@ -1,6 +1,7 @@
 #include "lytdlg/try/Recorder.h"
 
 #include "commandline/Text.h"
+#include "controls/ClytPushButtonControl.h"
 #include "lytdlg/try/ControlState.h"
 
 #include <array>
@@ -47,12 +48,18 @@ std::string PresentValue(const ClytCtrlValList& condition)
 // What a state rule comes to, as a sentence.
 std::string Consequence(const RuleRecord& rule)
 {
-    const bool isActive = rule.word == "ACTIVE";
-    const bool isShown = !isActive && rule.word != "DEFBUTTON";
-    const std::string name = ToUtf8(rule.control);
-    if (isActive)
-        return name + (rule.isOn ? " is enabled" : " is disabled");
-    return isShown || !rule.isOn ? name + (rule.isOn ? " is shown" : " is hidden") : name + " is shown";
+    if (rule.setsNothing)
+        return "it sets nothing";
+    const char* state =
+        rule.word == "ACTIVE" ? (rule.isOn ? " is enabled" : " is disabled") : (rule.isOn ? " is shown" : " is hidden");
+    return ToUtf8(rule.control) + state;
+}
+
+bool SetsNothing(const ClytControlDep& rule)
+{
+    const ClytState state = rule.stateWord.GetMeaning();
+    return state != ClytState::Active && state != ClytState::Visible &&
+           dynamic_cast<const ClytPushButtonControl*>(rule.GetControl()) != nullptr;
 }
 
 std::string Joined(const std::vector<TestedCondition>& conditions)
@@ -111,7 +118,7 @@ void Recorder::LibraryAsked(const ClytControl& control)
     Listener::LibraryAsked(control);
     m_asking = control.GetName().GetString();
     m_asked[m_asking].clear();
-    Trace(Name(control.GetName()) + " asks its library");
+    Trace("    " + Name(control.GetName()) + " asks its library");
 }
 
 void Recorder::PassedOver(ClytPassedOver what, const CString& name, const ClytSpan& place)
@@ -131,6 +138,9 @@ void Recorder::Missed(ClytMissing what, const CString& name, const ClytControl* 
                                   "input statement",
                                   "library",
                                   "library function"};
+    // The end of the text where no statement was to go on.
+    if (what == ClytMissing::InputStatement && name.IsEmpty())
+        return;
     const std::string text = std::string("there is no ") + whats.at(static_cast<size_t>(what)) + " " + Shown(name) +
                              (control != nullptr ? " for " + Name(control->GetName()) : "");
     if (what == ClytMissing::Library || what == ClytMissing::LibraryFunction)
@@ -241,7 +251,7 @@ void Recorder::ConditionTested(const ClytControlDep& /*rule*/, const ClytCtrlVal
 void Recorder::StateSet(const ClytControlDep& rule, int on)
 {
     m_rules.push_back({rule.controlName.GetString(), rule.stateWord.GetText().GetString(), rule.span.line,
-                       std::exchange(m_tested, {}), on != 0, false, rule.GetControl()});
+                       std::exchange(m_tested, {}), on != 0, false, rule.GetControl(), SetsNothing(rule)});
     const RuleRecord& record = m_rules.back();
     Trace("  " + Line(rule.span) + " " + Name(rule.controlName) + "/" + record.word + ": " + Joined(record.conditions) +
           "; " + Consequence(record));

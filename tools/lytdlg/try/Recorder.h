@@ -27,6 +27,7 @@ struct RuleRecord
     bool isOn = false;                            // what a state rule set; whether an event rule acted
     bool isEvent = false;
     const ClytControl* target = nullptr; // gone with its dialog
+    bool setsNothing = false;            // a push button knows no state but ACTIVE and VISIBLE
 };
 
 struct FillRecord
