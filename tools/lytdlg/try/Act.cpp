@@ -147,7 +147,7 @@ std::optional<Act> ReadAct(const std::string& word, LineReader& line)
     if (form == nullptr)
         return {};
     Act act{form->kind};
-    const size_t column = line.Column();
+    act.place = line.PlaceOfWord();
     if (form->shape != Shape::Alone)
         act.name = AnsiOf(line.Word("the name of a control"));
     if (form->shape == Shape::NameAndValue)
@@ -156,8 +156,6 @@ std::optional<Act> ReadAct(const std::string& word, LineReader& line)
         act.value = AnsiOf(line.Text());
     }
     line.ExpectEnd();
-    act.place =
-        line.Place().file + ":" + std::to_string(line.Place().line) + ":" + std::to_string(column) + ": error: ";
     return act;
 }
 

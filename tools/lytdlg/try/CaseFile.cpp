@@ -130,7 +130,11 @@ private:
             line.Expect('=', "write: expect " + word + " = \"text\"");
             return {word == "result" ? ExpectationKind::Result : ExpectationKind::Title, "", line.Text()};
         }
-        return line.IsAtEnd() || word == "not" ? ReadEnding(word, line) : ReadOfControl(AnsiOf(word), line);
+        if (line.IsAtEnd() || word == "not")
+            return ReadEnding(word, line);
+        Expectation expectation{ExpectationKind::Value, AnsiOf(word), "", line.PlaceOfWord()};
+        ReadOfControl(line, expectation);
+        return expectation;
     }
 
     static Expectation ReadEnding(const std::string& word, LineReader& line)
@@ -149,24 +153,28 @@ private:
         return {ExpectationKind::Ending, "", word};
     }
 
-    static Expectation ReadOfControl(const std::string& name, LineReader& line)
+    static void ReadOfControl(LineReader& line, Expectation& expectation)
     {
         if (line.Takes('='))
-            return {ExpectationKind::Value, name, line.Text()};
+        {
+            expectation.expected = line.Text();
+            return;
+        }
         const std::string state = line.Word("a state");
         if (state == "items")
         {
-            Expectation items{ExpectationKind::Items, name};
+            expectation.kind = ExpectationKind::Items;
             for (const std::string& item : line.Texts())
-                items.expected += (items.expected.empty() ? "" : ", ") + Quoted(item);
-            return items;
+                expectation.expected += (expectation.expected.empty() ? "" : ", ") + Quoted(item);
+            return;
         }
         std::vector<std::string> known = stateWords;
         known.emplace_back("items");
         if (!Has(stateWords, state))
             line.Fail("there is no state \"" + state + "\"; " + commandline::Suggestion(state, known));
         line.ExpectEnd();
-        return {ExpectationKind::State, name, state};
+        expectation.kind = ExpectationKind::State;
+        expectation.expected = state;
     }
 
     std::string m_file;

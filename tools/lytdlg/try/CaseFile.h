@@ -37,6 +37,7 @@ struct Expectation
     ExpectationKind kind = ExpectationKind::Ending;
     std::string name = {};     // of a control, in the code page of the dialogs
     std::string expected = {}; // as the file would have it, in UTF-8
+    std::string place = {};    // "file:line:column: error: ", of the name
 };
 
 // A line of a case that is an act or an expectation.

@@ -46,12 +46,12 @@ public:
             trial.Do(step.act);
             return;
         }
+        m_lastLine = step.line;
         Expectation actual = step.expectation;
         if (!Look(trial, actual))
             m_result.update.replaced[step.line] = "";
         else if (actual.expected != step.expectation.expected)
             m_result.update.replaced[step.line] = Describe(actual);
-        m_lastLine = step.line;
         if (m_result.update.replaced.contains(step.line))
             m_result.differences.push_back({step.line, Describe(step.expectation), GotOf(actual)});
     }
@@ -115,7 +115,7 @@ private:
 
     static void LookAtControl(Trial& trial, Expectation& expectation)
     {
-        const ControlState& state = StateNamed(trial.State(), expectation.name);
+        const ControlState& state = StateNamed(trial.State(), expectation.name, expectation.place);
         std::string& text = expectation.expected;
         if (expectation.kind == ExpectationKind::Items)
             text = ItemsOf(state);

@@ -14,8 +14,9 @@ namespace
 class FactReader
 {
 public:
-    FactReader(const std::string& name, const std::string& defines, DialogFacts& target)
-        : m_file(defines.c_str()), m_facts(target)
+    FactReader(const std::string& name, const std::string& defines, DialogFacts& target,
+               ErrorSink& errors = lytRaisingSink())
+        : m_file(defines.c_str(), errors), m_facts(target)
     {
         if (m_file.Open(name.c_str(), CFile::modeRead) == 0)
             lytRaise("207", CString(), name.c_str());
@@ -109,7 +110,42 @@ private:
     DialogFacts& m_facts;
 };
 
+// Remembers where the first failure is, and raises it.
+class PlaceSink final : public ErrorSink
+{
+public:
+    void Tell(std::unique_ptr<ClytException> failure, const ClytSpan& place) override
+    {
+        m_line = place.line;
+        lytRaisingSink().Tell(std::move(failure), place);
+    }
+    void TellShortLine(const ClytSpan& place) override
+    {
+        m_line = place.line;
+        lytRaisingSink().TellShortLine(place);
+    }
+    int Line() const { return m_line; }
+
+private:
+    int m_line = 0;
+};
+
 } // namespace
+
+int RefusedLine(const std::string& file, const std::string& defines)
+{
+    PlaceSink sink;
+    try
+    {
+        DialogFacts ignored;
+        FactReader(file, defines, ignored, sink).Read();
+    }
+    catch (CException* e)
+    {
+        e->Delete();
+    }
+    return sink.Line();
+}
 
 DialogFacts::DialogFacts(const std::string& file, const std::string& defines)
 {

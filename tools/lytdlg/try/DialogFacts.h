@@ -31,6 +31,7 @@ struct DialogFacts
     std::vector<std::string> parts;  // of the input
     std::vector<std::string> groups; // of the output
 
+    DialogFacts() = default;
     // Reads a description that the library takes; raises what the library raises for any other.
     DialogFacts(const std::string& file, const std::string& defines);
 
@@ -39,5 +40,8 @@ struct DialogFacts
     // The statement of that keyword, such as FILLEDBY.
     const ValueFact* StatementOf(const std::string& control, const std::string& keyword) const;
 };
+
+// The line of the file that the library refuses while it reads the description; 0 when it reads it to the end.
+int RefusedLine(const std::string& file, const std::string& defines);
 
 } // namespace lytdlg

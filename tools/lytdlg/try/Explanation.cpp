@@ -140,15 +140,20 @@ private:
         if (rule != nullptr)
             TellRule(*rule, isKept ? side.kept : side.lost);
         else if (!isKept && option != nullptr)
-            Tell(std::string("It is ") + side.lost + " by " + option->values.front() + InLine(option->line) +
-                 " of $VALUES, and no rule changes that.");
+            Tell(std::string("It is ") + side.lost + " by " + Shown(*option) + ", and no rule changes that.");
         else if (!isKept && button != nullptr)
             Tell(std::string("It is ") + side.lost + " by the button " + ToUtf8(button->name) + InLine(button->line) +
                  ".");
         else if (!isKept)
             Tell(std::string("It is ") + side.lost + ", and no rule or statement about it says so.");
         if (option != nullptr && (rule != nullptr || isKept))
-            Tell(std::string("It begins ") + side.lost + " by " + option->values.front() + InLine(option->line) + ".");
+            Tell(std::string("It begins ") + side.lost + " by " + Shown(*option) + ".");
+    }
+
+    std::string Shown(const ValueFact& option) const
+    {
+        const std::string ofGroup = option.name != m_state.name ? " of its group " + ToUtf8(option.name) : "";
+        return option.values.front() + ofGroup + InLine(option.line);
     }
 
     void TellRule(const RuleRecord& rule, const char* state)
@@ -225,7 +230,7 @@ private:
         const std::string place =
             "The statement " + ToUtf8(fill.statement) + InLine(fill.line) + " would fill it, but ";
         if (std::ranges::find(m_recorder.Reached(), fill.statement) != m_recorder.Reached().end())
-            Tell(place + "the condition before the fill did not hold for its piece.");
+            Tell(place + "a condition before the fill did not hold for its piece.");
         else
             Tell(place + "the scan did not come there. It went through " + JoinedNames(m_recorder.Reached()) +
                  (m_recorder.LastStatement().empty() ? " and ended with the text."

@@ -1,6 +1,5 @@
 #include "lytdlg/try/LineReader.h"
 
-#include "commandline/CommandLine.h"
 #include "commandline/Text.h"
 
 #include <cstdio>
@@ -50,8 +49,7 @@ bool IsUtf8(const std::string& text)
 } // namespace
 
 FileError::FileError(const LinePlace& place, size_t column, const std::string& message)
-    : std::runtime_error(place.file + ":" + std::to_string(place.line) + ":" + std::to_string(column) +
-                         ": error: " + message)
+    : UsageError(place.file + ":" + std::to_string(place.line) + ":" + std::to_string(column) + ": error: " + message)
 {
 }
 

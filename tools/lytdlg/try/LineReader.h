@@ -1,7 +1,8 @@
 // One line of a script or of a case file, read word by word. What is wrong in it is told with its place.
 #pragma once
 
-#include <stdexcept>
+#include "commandline/CommandLine.h"
+
 #include <string>
 #include <vector>
 
@@ -16,7 +17,7 @@ struct LinePlace
 };
 
 // A mistake in a file, told as "file:line:column: error: what; the way out".
-class FileError : public std::runtime_error
+class FileError : public commandline::UsageError
 {
 public:
     FileError(const LinePlace& place, size_t column, const std::string& message);
@@ -51,6 +52,8 @@ public:
     // Where the last word or text began.
     size_t Column() const { return m_start + 1; }
     const LinePlace& Place() const { return m_place; }
+    // The same as the beginning of an error message.
+    std::string PlaceOfWord() const { return FileError(m_place, Column(), "").what(); }
     [[noreturn]] void Fail(const std::string& message) const;
     [[noreturn]] void FailAt(size_t column, const std::string& message) const;
 

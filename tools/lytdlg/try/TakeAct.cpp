@@ -156,11 +156,11 @@ ClytControl& ControlNamed(const TrialDialog& dialog, const std::string& name, co
     return *control;
 }
 
-const ControlState& StateNamed(const DialogState& dialog, const std::string& name)
+const ControlState& StateNamed(const DialogState& dialog, const std::string& name, const std::string& place)
 {
     const ControlState* state = dialog.Find(name);
     if (state == nullptr)
-        FailUnknown(dialog, name, "");
+        FailUnknown(dialog, name, place);
     return *state;
 }
 

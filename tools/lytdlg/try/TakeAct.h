@@ -14,6 +14,6 @@ void TakeAct(TrialDialog* dialog, const Act& act);
 // The control of that name; raises UsageError when there is none.
 ClytControl& ControlNamed(const TrialDialog& dialog, const std::string& name, const std::string& place = "");
 // What is seen of the control of that name; raises UsageError when there is none.
-const ControlState& StateNamed(const DialogState& dialog, const std::string& name);
+const ControlState& StateNamed(const DialogState& dialog, const std::string& name, const std::string& place);
 
 } // namespace lytdlg

@@ -3,6 +3,7 @@
 #include "commandline/Text.h"
 #include "environment/ClytEnvironment.h"
 #include "environment/ProcessState.h"
+#include "lytdlg/try/DialogFacts.h"
 #include "lytdlg/try/TakeAct.h"
 
 #include <algorithm>
@@ -90,11 +91,12 @@ void Trial::Closed(TrialDialog& dialog, INT_PTR result)
     m_hasPressedOk = m_hasPressedOk && m_isLeaving;
 }
 
-void Trial::Failed(const TrialDialog& /*dialog*/, const CException& failure)
+void Trial::Failed(const TrialDialog& dialog, const CException& failure)
 {
     const auto* own = dynamic_cast<const ClytException*>(&failure);
     m_outcome.failureNumber = own != nullptr ? own->GetNumber().GetString() : "";
     m_outcome.failureMessage = MessageOf(failure);
+    m_outcome.failureLine = RefusedLine(dialog.DescriptionFile(), lytEnvironment.GetDialogDefine().GetString());
 }
 
 Ending Trial::PresentEnding() const

@@ -38,6 +38,7 @@ struct Outcome
     std::string text = {};                // what was composed, when it was confirmed
     std::string failureNumber = {};       // when it was not opened
     std::string failureMessage = {};      // in full
+    int failureLine = 0;                  // of the file; 0 when it was not a line that was refused
     std::vector<DialogState> states = {}; // of the dialogs as they were seen last, the outermost first
 };
 

@@ -1,11 +1,13 @@
 #include "lytdlg/try/TrialEnvironment.h"
 
+#include "commandline/Suggestion.h"
 #include "environment/ClytEnvironment.h"
 #include "environment/ProcessState.h"
 #include "lytdlg/try/LineReader.h"
 
 #include <windows.h>
 
+#include <algorithm>
 #include <filesystem>
 
 namespace lytdlg
@@ -30,8 +32,7 @@ std::string InitFolderNear(const fs::path& dialogs)
     return "";
 }
 
-// English, unless there is one other language alone.
-std::string LanguageOf(const fs::path& dialogs)
+std::vector<std::string> LanguagesOf(const fs::path& dialogs)
 {
     std::vector<std::string> languages;
     std::error_code noFolder;
@@ -40,6 +41,14 @@ std::string LanguageOf(const fs::path& dialogs)
         if (entry.path().extension() == ".nls")
             languages.push_back(entry.path().stem().string());
     }
+    std::ranges::sort(languages);
+    return languages;
+}
+
+// English, unless there is one other language alone.
+std::string LanguageOf(const fs::path& dialogs)
+{
+    const std::vector<std::string> languages = LanguagesOf(dialogs);
     return languages.size() == 1 ? languages.front() : "English";
 }
 
@@ -90,7 +99,8 @@ TrialEnvironment::TrialEnvironment(const Setup& setup)
     if (!setup.initFolder.empty() && !fs::exists(fs::path(init) / iniFile))
         throw UsageError("there is no lyt.ini in \"" + setup.initFolder + "\"; check the folder after --init");
     if (!setup.language.empty() && !fs::exists(dialogs / "lang" / (setup.language + ".nls")))
-        throw UsageError("there is no lang/" + setup.language + ".nls beside the dialog; check the language");
+        throw UsageError("there is no lang/" + setup.language + ".nls beside the dialog; " +
+                         commandline::Suggestion(setup.language, LanguagesOf(dialogs)));
     if (init.empty() || !setup.language.empty())
     {
         MakeIniFile(init, setup.language.empty() ? LanguageOf(dialogs) : setup.language);

@@ -48,7 +48,8 @@ int TrialRun::PrintFailure() const
     const Outcome& outcome = trial.Result();
     const std::string number = outcome.failureNumber.empty() ? "" : " " + outcome.failureNumber;
     std::printf("%s\n", WordOf(Ending::NotOpened));
-    PrintText("error" + number, outcome.failureMessage);
+    const std::string line = outcome.failureLine == 0 ? "" : " in line " + std::to_string(outcome.failureLine);
+    PrintText("error" + number + line, outcome.failureMessage);
     return found;
 }
 
