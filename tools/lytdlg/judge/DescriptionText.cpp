@@ -89,6 +89,24 @@ std::string CorrectHeader(const HeaderWord& word, Section section)
     return WordOf(section) + (name.empty() ? "" : separator + name);
 }
 
+// What a line begins with, whatever its section is.
+std::string RoughHeaderWord(const std::string& line)
+{
+    const size_t start = line.find_first_not_of(" \t\"");
+    if (start == std::string::npos || line[start] != '$')
+        return "";
+    std::string word = line.substr(start, line.find_first_of("=,\t();:/<>\"", start) - start);
+    word.erase(word.find_last_not_of(' ') + 1);
+    const std::string first = word.substr(0, word.find(' '));
+    const bool isEndedByBlank = first == "$VERSION" || first == "$LAYOUT" || first == "$VALUES";
+    return isEndedByBlank ? first : word;
+}
+
+Section Next(Section section)
+{
+    return section == Section::End ? section : static_cast<Section>(static_cast<int>(section) + 1);
+}
+
 int PiecesOf(const std::string& text)
 {
     return static_cast<int>((text.size() + 1 + pieceLength - 1) / pieceLength);
@@ -154,7 +172,7 @@ std::vector<const SourceLine*> DescriptionText::LinesOf(Section section) const
     std::vector<const SourceLine*> found;
     for (const SourceLine& line : m_lines)
     {
-        if (line.isRead && line.section == section)
+        if (line.isRead && !line.isStray && line.section == section)
             found.push_back(&line);
     }
     return found;
@@ -204,13 +222,36 @@ void DescriptionText::ApplyDefines()
 
 void DescriptionText::FindSections()
 {
+    for (const SourceLine& line : m_lines)
+    {
+        const auto found = line.isRead ? std::ranges::find(words, RoughHeaderWord(line.text)) : std::end(words);
+        if (found != std::end(words))
+            m_headerLines.emplace_back(allSections[found - std::begin(words)], line.number);
+    }
     Section present = Section::Head;
     for (SourceLine& line : m_lines)
     {
-        if (line.isRead)
+        if (line.isRead && present != Section::End)
             present = Opened(line, present);
         line.section = present;
     }
+}
+
+bool DescriptionText::HasBelow(Section section, int line) const
+{
+    return std::ranges::any_of(m_headerLines,
+                               [&](const auto& header) { return header.first == section && header.second > line; });
+}
+
+// A header stands in a wrong place by itself when its section is open already, or when this section and the one that is
+// due still come. Otherwise a section was moved, or left out.
+bool DescriptionText::IsStray(Section section, Section present, int line) const
+{
+    const Section due = Next(present);
+    const bool isFurtherPart = section == present && (section == Section::Input || section == Section::Output);
+    if (section == due || isFurtherPart)
+        return false;
+    return section > present ? HasBelow(due, line) && HasBelow(section, line) : HeaderOf(section) != nullptr;
 }
 
 // A line that was meant as a header counts as one here, so that what follows it is judged as what it was meant to be.
@@ -224,13 +265,18 @@ Section DescriptionText::Opened(SourceLine& line, Section present)
         return Section::Layout;
     for (const Section section : allSections)
     {
-        if (word.text != WordOf(section) || (section == Section::Head && present != Section::Head))
+        const bool isFreeText = present == Section::Head && section > Section::Layout && HasBelow(Section::Layout, 0);
+        if (word.text != WordOf(section) || isFreeText || (section == Section::Head && present != Section::Head))
             continue;
-        line.isHeader = true;
-        return section;
+        line.isStray = section != Section::Head && IsStray(section, present, line.number);
+        line.isHeader = !line.isStray;
+        return line.isStray ? present : section;
     }
     const std::optional<Section> meant = MeantBy(word, present);
     if (!meant || (*meant == Section::Head && present != Section::Head))
+        return present;
+    const bool isFurtherPart = *meant == present && (present == Section::Input || present == Section::Output);
+    if (!isFurtherPart && (HasBelow(*meant, 0) || IsStray(*meant, present, line.number)))
         return present;
     line.isHeader = *meant != Section::Head;
     line.meant = CorrectHeader(word, *meant);

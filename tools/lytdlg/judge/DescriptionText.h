@@ -6,6 +6,7 @@
 #include "dlgfile/SectionDelimiters.h"
 
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace lytdlg
@@ -41,6 +42,7 @@ struct SourceLine
     bool isRead = true;              // the defines leave it in, and it is no mark itself
     Section section = Section::Head; // in which it stands; a header stands in its own
     bool isHeader = false;           // it opens its section, or a further part of it
+    bool isStray = false;            // a header that does not belong there, and opens nothing
     std::string meant;               // what a header was meant to be; empty when it is right, or no header
 };
 
@@ -87,12 +89,15 @@ private:
     void FindSections();
     // The section that the line opens; the present one when it opens none.
     Section Opened(SourceLine& line, Section present);
+    bool IsStray(Section section, Section present, int line) const;
+    bool HasBelow(Section section, int line) const;
 
     std::string m_bytes;
     std::vector<SourceLine> m_lines;
     std::vector<FalseHeader> m_falseHeaders;
     std::vector<std::string> m_defines;
     std::vector<std::string> m_defineNames;
+    std::vector<std::pair<Section, int>> m_headerLines; // that hold the right word, wherever they stand
     bool m_endsWithLineEnd = true;
     bool m_hasEndMark = false;
     bool m_hasTextAfterEndMark = false;

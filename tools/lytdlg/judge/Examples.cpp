@@ -215,8 +215,9 @@ std::string ExampleDescription(const std::string& lines)
     for (const std::string& line : LinesOf(lines))
         writer.Take(line);
     std::string text = writer.Text();
+    Replace(text, "{ABOVE}\n", "");
     Replace(text, "{NUL}", std::string(1, '\0'));
-    Replace(text, "{LONG}", std::string(400, 'x'));
+    Replace(text, "{LONG}", std::string(400, ' '));
     text.erase(std::min(text.find("{CUT}"), text.size()));
     return text;
 }

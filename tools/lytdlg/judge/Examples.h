@@ -11,7 +11,7 @@
 //
 // New controls stand above OKButton (the part of the dialog from 500 to the right is free), new output rules above those
 // that are there, other lines below. Lines above the first header begin the file. {NUL} stands for that byte, {LONG} for
-// 400 letters, and {CUT} is where the file ends.
+// 400 blanks, {ABOVE} joins the line with the next one, and {CUT} is where the file ends.
 #pragma once
 
 #include <string>

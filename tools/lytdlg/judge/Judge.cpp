@@ -3,11 +3,14 @@
 #include "lytdlg/judge/EvaluationRules.h"
 #include "lytdlg/judge/FillRules.h"
 #include "lytdlg/judge/Ignores.h"
+#include "lytdlg/judge/LayoutRules.h"
 #include "lytdlg/judge/LibraryVerdict.h"
+#include "lytdlg/judge/LineRules.h"
 #include "lytdlg/judge/ScanRules.h"
 #include "lytdlg/judge/SectionRules.h"
 #include "lytdlg/judge/SeparatorRules.h"
 #include "lytdlg/judge/StatementRules.h"
+#include "lytdlg/judge/ValueRules.h"
 
 namespace lytdlg
 {
@@ -20,6 +23,7 @@ Surroundings SurroundingsOf(const std::string& folder, const std::vector<std::st
 const std::vector<Family>& Families()
 {
     // The library comes last: it looks whether a finding stands for its failure.
+    // The library comes last: it looks whether a finding stands for its failure.
     static const std::vector<Family> families = {
         SectionRules(),
         StatementRules(),
@@ -27,6 +31,8 @@ const std::vector<Family>& Families()
         ScanRules(),
         SeparatorRules(),
         FillRules(),
+        LineRules(),
+        LayoutRules(),
         IgnoreRules(),
         LibraryRules(),
     };

@@ -38,7 +38,16 @@ constexpr Rule order = {
     "The sections stand in one fixed order: $VERSION, $LAYOUT, $VALUES, $DEPENDANCES, $EVALUATION,\n"
     "$INPUT, $OUTPUT, $END. A header in another place is read as a statement of the section above it.",
     "$DEPENDANCES\n    $VALUES",
-    "$DEPENDANCES"};
+    "$VALUES"};
+
+constexpr Rule headerAsValue = {
+    "header-in-values",
+    Level::Warning,
+    "A header stands inside $VALUES, where it passes for a statement about a control.",
+    "The sections stand in one fixed order. In $VALUES the library takes the header of another section for\n"
+    "a statement about a control that is not there, and passes it over.",
+    "$VALUES\n    $INPUT, parent",
+    "$VALUES"};
 
 constexpr Rule dialogLine = {
     "dialog-header",
@@ -158,21 +167,49 @@ void JudgeMissing(const Case& judged)
     }
 }
 
+void AddStray(const Case& judged, const SourceLine& line)
+{
+    const size_t words = TokensOf(line.text, line.section).size();
+    const bool isValue = line.section == Section::Values && words > 1;
+    const ClytSpan place = judged.description.PlaceOf(line.number);
+    const std::string message =
+        "a header stands inside the section " + std::string(WordOf(line.section)) + " and opens nothing";
+    if (isValue)
+        judged.findings.Add(headerAsValue, place, message, "take the line away");
+    else
+        judged.findings.Add(order, place, message, "take the line away, or move the section to its place").number =
+            "212";
+}
+
+// The first section between two that comes only below a line; null when none does.
+const SourceLine* SkippedBy(const DescriptionText& text, Section above, const SourceLine& line)
+{
+    const auto skipped = std::ranges::find_if(text.Lines(),
+                                              [&](const SourceLine& other) {
+                                                  return other.number > line.number && other.isHeader &&
+                                                         other.section > above && other.section < line.section;
+                                              });
+    return skipped != text.Lines().end() ? &*skipped : nullptr;
+}
+
 void JudgeOrder(const Case& judged)
 {
+    const DescriptionText& text = judged.description.text;
     Section above = Section::Head;
-    for (const SourceLine& line : judged.description.text.Lines())
+    for (const SourceLine& line : text.Lines())
     {
+        if (line.isStray)
+            AddStray(judged, line);
         if (!line.isHeader)
             continue;
-        const bool mayRepeat = line.section == Section::Input || line.section == Section::Output;
-        if (line.section < above || (line.section == above && !mayRepeat && line.section != Section::Head))
+        if (const SourceLine* skipped = SkippedBy(text, above, line))
             judged.findings
                 .Add(order, judged.description.PlaceOf(line.number),
-                     std::string("\"") + WordOf(line.section) + "\" stands after \"" + WordOf(above) + "\"",
-                     "move the section to its place, or take the second header away")
+                     std::string("\"") + WordOf(line.section) + "\" stands before \"" + WordOf(skipped->section) + "\"",
+                     "move the section to its place")
                 .number = NumberWithin(above);
-        above = std::max(above, line.section);
+        else
+            above = std::max(above, line.section);
     }
 }
 
@@ -248,7 +285,7 @@ void JudgeParent(const Case& judged)
 
 Family SectionRules()
 {
-    return {{&misspelt, &missing, &order, &dialogLine, &textSection, &evaluationWord, &parentPart},
+    return {{&misspelt, &missing, &order, &headerAsValue, &dialogLine, &textSection, &evaluationWord, &parentPart},
             [](const Case& judged)
             {
                 JudgeFalseHeaders(judged);

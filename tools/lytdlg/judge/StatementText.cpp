@@ -1,5 +1,7 @@
 #include "lytdlg/judge/StatementText.h"
 
+#include "lytdlg/judge/Names.h"
+
 #include <algorithm>
 
 namespace lytdlg
@@ -8,12 +10,7 @@ namespace lytdlg
 namespace
 {
 
-std::string InQuotes(const std::string& text)
-{
-    return "\"" + text + "\"";
-}
-
-std::string InQuotes(char ch)
+std::string SignInQuotes(char ch)
 {
     return ch == '\t' ? "a tab" : "\"" + std::string(1, ch) + "\"";
 }
@@ -59,7 +56,7 @@ public:
         const std::string after = open->text.empty() ? "" : " after " + InQuotes(open->text);
         if (EndsTooEarly() || Refused().delimiter == '\n')
             return "the brackets" + after + " are not closed by \")\"";
-        return InQuotes(Refused().delimiter) + " stands in the brackets" + after + ", where commas separate";
+        return SignInQuotes(Refused().delimiter) + " stands in the brackets" + after + ", where commas separate";
     }
 
 private:
@@ -116,7 +113,7 @@ std::string WrongInDependencies(const Statement& statement)
         return MissingAfter("\"=\"", BeforeBlank(statement.Text(1)));
     const std::string list = statement.WrongInList();
     return !list.empty() ? list
-                         : InQuotes(statement.Refused().delimiter) + " stands where a comma separates conditions";
+                         : SignInQuotes(statement.Refused().delimiter) + " stands where a comma separates conditions";
 }
 
 std::string WrongInEvaluation(const Statement& statement)
@@ -152,8 +149,8 @@ std::string WrongInScan(const Statement& statement)
     if (statement.EndsTooEarly())
         return statement.OpenList() != nullptr ? statement.WrongInList() : "a control is missing after \"=\"";
     if (statement.Refused().text.empty())
-        return "the name of a control is missing before " + InQuotes(statement.Refused().delimiter);
-    return InQuotes(statement.Refused().delimiter) + " after " + InQuotes(statement.Refused().text) +
+        return "the name of a control is missing before " + SignInQuotes(statement.Refused().delimiter);
+    return SignInQuotes(statement.Refused().delimiter) + " after " + InQuotes(statement.Refused().text) +
            " stands where a comma separates fills";
 }
 

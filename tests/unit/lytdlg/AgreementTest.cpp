@@ -1,0 +1,154 @@
+// What the judge says and what the library does: samples, the inputs of the fuzzers, and mutations of both.
+#include "lytdlg/judge/FindingText.h"
+#include "lytdlg/judge/LibraryVerdict.h"
+#include "lytdlg/text/TextFile.h"
+#include "support/RecordedMessages.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cstdint>
+#include <set>
+
+namespace
+{
+
+using namespace lytdlg;
+
+const char* const folders[] = {"samples/dialogs", "fuzz/corpus/description"};
+
+std::vector<std::string> Texts()
+{
+    std::vector<std::string> texts;
+    for (const char* folder : folders)
+    {
+        for (const auto& file : FilesIn(std::string(LYT_SOURCE_FOLDER "/") + folder, ".dlg"))
+            texts.push_back(ReadWholeFile(file).value());
+    }
+    return texts;
+}
+
+// The same numbers on every machine.
+class Chance
+{
+public:
+    size_t Below(size_t limit)
+    {
+        m_state = m_state * 6364136223846793005U + 1442695040888963407U;
+        return static_cast<size_t>(m_state >> 33U) % limit;
+    }
+
+private:
+    uint64_t m_state = 20;
+};
+
+std::vector<std::string> Lines(const std::string& text)
+{
+    std::vector<std::string> lines;
+    for (size_t start = 0; start < text.size();)
+    {
+        const size_t end = std::min(text.find('\n', start), text.size() - 1) + 1;
+        lines.push_back(text.substr(start, end - start));
+        start = end;
+    }
+    return lines;
+}
+
+std::string MutatedInLines(const std::string& text, Chance& chance)
+{
+    std::vector<std::string> lines = Lines(text);
+    const size_t line = chance.Below(lines.size());
+    const size_t other = chance.Below(lines.size());
+    switch (chance.Below(3))
+    {
+    case 0: lines.erase(lines.begin() + static_cast<std::ptrdiff_t>(line)); break;
+    case 1: lines.insert(lines.begin() + static_cast<std::ptrdiff_t>(line), lines[other]); break;
+    default: std::swap(lines[line], lines[other]);
+    }
+    std::string mutated;
+    for (const std::string& each : lines)
+        mutated += each;
+    return mutated;
+}
+
+std::string MutatedInBytes(std::string text, Chance& chance)
+{
+    static const std::string bytes = "=,:;()/\"\t\n $.<>[|%\\xA0" + std::string("\x1A\0\xFC", 3);
+    const size_t place = chance.Below(text.size());
+    switch (chance.Below(3))
+    {
+    case 0: text.erase(place, 1); break;
+    case 1: text.insert(place, 1, bytes[chance.Below(bytes.size())]); break;
+    default: text[place] = bytes[chance.Below(bytes.size())];
+    }
+    return text;
+}
+
+struct Verdict
+{
+    std::optional<Refusal> refusal;
+    Findings findings;
+    std::string text; // of the errors
+    bool isForeseen = true;
+    bool hasError = false;
+};
+
+Verdict VerdictOn(const std::string& bytes)
+{
+    static const Surroundings surroundings = SurroundingsOf("", {});
+    const Description description("mutation.dlg", bytes, {});
+    Verdict verdict;
+    verdict.refusal = RefusalOf(description);
+    verdict.findings = Judge(description, surroundings);
+    for (const Finding& finding : verdict.findings.All())
+    {
+        if (finding.rule->level != Level::Error)
+            continue;
+        verdict.hasError = true;
+        verdict.text += TextOf(finding, description, false);
+        verdict.isForeseen = verdict.isForeseen && finding.rule->id != std::string("refused");
+    }
+    TakeMessages();
+    return verdict;
+}
+
+bool HasNumberAtItsLine(const Verdict& verdict)
+{
+    return std::ranges::any_of(verdict.findings.All(),
+                               [&](const Finding& finding)
+                               {
+                                   const bool isOfLine = verdict.refusal->number == "212";
+                                   return finding.rule->level == Level::Error &&
+                                          finding.number == verdict.refusal->number &&
+                                          (!isOfLine || finding.place.line == verdict.refusal->line);
+                               });
+}
+
+} // namespace
+
+TEST(Agreement, OnMutationsIsThatErrorsAreWhatTheLibraryRefuses)
+{
+    const std::vector<std::string> texts = Texts();
+    Chance chance;
+    int refused = 0;
+    int foreseen = 0;
+    for (int count = 0; count < 2000; ++count)
+    {
+        std::string bytes = texts[chance.Below(texts.size())];
+        bytes = chance.Below(2) == 0 ? MutatedInLines(bytes, chance) : MutatedInBytes(bytes, chance);
+        const Verdict verdict = VerdictOn(bytes);
+        if (verdict.refusal)
+        {
+            ++refused;
+            foreseen += verdict.isForeseen ? 1 : 0;
+            EXPECT_TRUE(HasNumberAtItsLine(verdict)) << count << verdict.refusal->number << verdict.text << bytes;
+            if (!verdict.isForeseen && getenv("SHOW"))
+                printf("UNFORESEEN %d\n%s", count, verdict.text.c_str());
+        }
+        else
+        {
+            EXPECT_FALSE(verdict.hasError) << count << "\n" << verdict.text << bytes.substr(0, 900);
+        }
+    }
+    printf("refused %d foreseen %d\n", refused, foreseen);
+}

@@ -1,0 +1,302 @@
+#include "lytdlg/judge/LayoutRules.h"
+
+#include "base/Words.h"
+#include "commandline/Suggestion.h"
+#include "lytdlg/judge/LineTokens.h"
+#include "lytdlg/judge/Names.h"
+
+#include <algorithm>
+#include <cctype>
+#include <map>
+
+namespace lytdlg
+{
+
+namespace
+{
+
+constexpr Rule unknownType = {
+    "type-unknown",
+    Level::Warning,
+    "A type word is unknown, and its statement makes no control.",
+    "The library knows thirteen type words, letter by letter. A statement with any other word is\n"
+    "passed over, and the control is missing.",
+    "$LAYOUT\nTextbox 500, 12, 100, 19, .Extra",
+    "$LAYOUT\nTextBox 500, 12, 100, 19, .Extra"};
+
+constexpr Rule nameTwice = {"name-twice",
+                            Level::Warning,
+                            "Two controls have one name.",
+                            "Rules and statements reach only the last control of a name.",
+                            "$LAYOUT\nTextBox 500, 12, 100, 19, .Name",
+                            "$LAYOUT\nTextBox 500, 12, 100, 19, .Extra"};
+
+constexpr Rule noPoint = {
+    "name-without-point",
+    Level::Warning,
+    "A name has no point before it.",
+    "A name comes after a point. In the last place the first letter goes as if it were the point, and\n"
+    "in the place of the text the name is taken for a key of the texts.",
+    "$LAYOUT\nTextBox 500, 12, 100, 19, \"\", Extra",
+    "$LAYOUT\nTextBox 500, 12, 100, 19, \"\", .Extra"};
+
+constexpr Rule surplus = {"control-surplus",
+                          Level::Warning,
+                          "Words follow the name of a control.",
+                          "After the name nothing more is read.",
+                          "$LAYOUT\nTextBox 500, 12, 100, 19, \"\", .Extra, .More",
+                          "$LAYOUT\nTextBox 500, 12, 100, 19, \"\", .Extra"};
+
+constexpr Rule noNumber = {
+    "number-wrong",
+    Level::Warning,
+    "A word stands where a number must stand.",
+    "Left, top, width and height are whole numbers. A word counts as 0, and of \"12x\" the 12 counts.",
+    "$LAYOUT\nTextBox 500, 12, wide, 19, .Extra",
+    "$LAYOUT\nTextBox 500, 12, 100, 19, .Extra"};
+
+constexpr Rule range = {"number-range",
+                        Level::Warning,
+                        "A position or a size is out of range.",
+                        "A control stands inside its dialog: no position is negative, and no number is above 32767.",
+                        "$LAYOUT\nTextBox 500, -12, 100, 19, .Extra",
+                        "$LAYOUT\nTextBox 500, 12, 100, 19, .Extra"};
+
+constexpr Rule noSize = {
+    "size-zero",
+    Level::Warning,
+    "A control has no width or no height.",
+    "Texts, check boxes and options are as large as their text. Any other control takes the size that\n"
+    "its statement gives; without one it cannot be seen. One that nobody shall see is HIDDEN.",
+    "$LAYOUT\nTextBox 500, 12, 100, 0, .Extra",
+    "$LAYOUT\nTextBox 500, 12, 100, 19, .Extra"};
+
+constexpr Rule noGroup = {
+    "option-without-group",
+    Level::Warning,
+    "An option stands before any option group.",
+    "An OptionGroup stands for the options that follow it. Without one an option answers for itself\n"
+    "alone: its value is its own, checked or not.",
+    "$LAYOUT\n-OptionGroup .Order\nOptionGroup .Order\n"
+    "OptionButton 500, 12, 80, 12, \"Short\", .Extra\n$VALUES\n-Order = s\nExtra = e",
+    "$LAYOUT"};
+
+constexpr Rule emptyGroup = {
+    "group-without-options",
+    Level::Warning,
+    "An option group has no options.",
+    "The options of a group follow it, up to the next group. A group without options has no value.",
+    "$LAYOUT\nOptionGroup .Kind",
+    "$LAYOUT\nOptionGroup .Kind\nOptionButton 500, 12, 80, 12, \"Short\", .KindShort"};
+
+constexpr Rule noButton = {
+    "button-missing",
+    Level::Note,
+    "The dialog has no OK button or no Cancel button.",
+    "Without an OK button only Return confirms, and without a Cancel button only Escape and the frame\n"
+    "cancel.",
+    "-CancelButton 352, 384, 112, 22, .Cancel",
+    "$LAYOUT"};
+
+constexpr Rule buttonTwice = {
+    "button-twice",
+    Level::Warning,
+    "The dialog has two OK buttons or two Cancel buttons.",
+    "Each of the two stands once in a dialog.",
+    "$LAYOUT\nOKButton 500, 12, 112, 22, .Extra",
+    "$LAYOUT\nPushButton 500, 12, 112, 22, \"Remove\", .Extra\n$VALUES\nExtra: DELETE = Rooms"};
+
+ClytSpan PlaceOf(const ClytControlStatement& control, const LineToken& word)
+{
+    return {control.span.line, word.column, static_cast<int>(word.text.size())};
+}
+
+// One control with the words of its statement.
+struct Statement
+{
+    const Case& judged;
+    const ClytControlStatement& control;
+    const std::vector<LineToken> words;
+    const Kind kind;
+};
+
+void JudgeType(const Statement& statement)
+{
+    if (statement.kind == Kind::Unknown)
+        statement.judged.findings.Add(unknownType, PlaceOf(statement.control, statement.words[0]),
+                                      InQuotes(statement.words[0].text) + " is no type of control, and makes none",
+                                      commandline::Suggestion(statement.words[0].text, TypeWords()));
+}
+
+bool IsInQuotes(const Statement& statement, const LineToken& word)
+{
+    const std::string& line = statement.judged.description.text.Line(statement.control.span.line).text;
+    return word.column > 0 && line[static_cast<size_t>(word.column - 1)] == '"';
+}
+
+void JudgeNamePoint(const Statement& statement)
+{
+    const std::vector<LineToken>& words = statement.words;
+    const bool isShort = words.size() > 1 && words[1].text.starts_with('.');
+    const size_t last = isShort ? 1 : words.size() > 5 && words[5].text.starts_with('.') ? 5 : 6;
+    if (words.size() > last + 1)
+        statement.judged.findings.Add(surplus, PlaceOf(statement.control, words[last + 1]),
+                                      "nothing is read after the name", "take the words away");
+    const bool isNameAsText = words.size() == 6 && !statement.control.text.IsEmpty() && !ShowsText(statement.kind) &&
+                              statement.kind != Kind::Unknown && !IsInQuotes(statement, words[5]);
+    const LineToken* name = isNameAsText                                                       ? &words[5]
+                            : words.size() > 6 && last == 6 && !words[6].text.starts_with('.') ? &words[6]
+                                                                                               : nullptr;
+    if (name == nullptr || name->text.empty())
+        return;
+    const std::string taken = statement.control.name.GetString();
+    statement.judged.findings.Add(
+        noPoint, PlaceOf(statement.control, *name),
+        isNameAsText ? InQuotes(name->text) + " is taken for a text, which " + NameOf(statement.kind) + " does not show"
+                     : "the control is called " + InQuotes(taken) + ", without its first letter",
+        "write \"." + name->text + "\"");
+}
+
+void JudgeNumber(const Statement& statement, const LineToken& word, const char* what)
+{
+    const char* rest = nullptr;
+    const int number = lytNumberOf(word.text.c_str(), &rest);
+    constexpr int largest = 32767;
+    const bool isPosition = word.column == statement.words[1].column || word.column == statement.words[2].column;
+    if (word.text.empty() || *rest != '\0')
+        statement.judged.findings.Add(noNumber, PlaceOf(statement.control, word),
+                                      InQuotes(word.text) + " counts as " + std::to_string(number) + " for the " + what,
+                                      "write a whole number");
+    else if (number > largest || number < -largest || (isPosition && number < 0))
+        statement.judged.findings.Add(range, PlaceOf(statement.control, word),
+                                      "the " + std::string(what) + " " + word.text + " is out of range",
+                                      "write a number from 0 to 32767");
+}
+
+bool IsHidden(const Description& description, const std::string& name)
+{
+    return std::ranges::any_of(description.values, [&](const ValueStatement& value)
+                               { return value.name == name && value.values.front() == "HIDDEN"; });
+}
+
+void JudgeNumbers(const Statement& statement)
+{
+    constexpr const char* names[] = {"left", "top", "width", "height"};
+    const bool hasNumbers = statement.words.size() > 4 && !statement.words[1].text.starts_with('.');
+    for (size_t index = 0; hasNumbers && index < std::size(names); ++index)
+        JudgeNumber(statement, statement.words[index + 1], names[index]);
+    const ClytControlStatement& control = statement.control;
+    const bool hasSize = control.width > 0 && control.height > 0;
+    if (hasSize || !HasSize(statement.kind) || IsHidden(statement.judged.description, control.name.GetString()))
+        return;
+    const bool isWord =
+        hasNumbers &&
+        std::any_of(statement.words.begin() + 1, statement.words.begin() + 5,
+                    [](const LineToken& word) { return std::isalpha(static_cast<unsigned char>(word.text[0])) != 0; });
+    if (!isWord)
+        statement.judged.findings.Add(
+            noSize, hasNumbers ? PlaceOf(control, statement.words[control.width > 0 ? 4 : 3]) : control.span,
+            NameOf(statement.kind) + std::string(" without ") + (control.width > 0 ? "a height" : "a width") +
+                " cannot be seen",
+            "give it a size, or make it HIDDEN in $VALUES");
+}
+
+void JudgeStatements(const Case& judged)
+{
+    for (const ClytControlStatement& control : judged.description.controls)
+    {
+        const Statement statement = {judged, control,
+                                     TokensOf(judged.description.text.Line(control.span.line).text, Section::Layout),
+                                     KindOf(control.type.GetString())};
+        // What goes over the limit of a line stands there as a control of its own.
+        if (statement.words.empty() || statement.words[0].text != control.type.GetString())
+            continue;
+        JudgeType(statement);
+        JudgeNamePoint(statement);
+        JudgeNumbers(statement);
+    }
+}
+
+void JudgeNames(const Case& judged)
+{
+    std::map<std::string, int> lines;
+    for (const ClytControlStatement& control : judged.description.controls)
+    {
+        const std::string name = control.name.GetString();
+        if (name.empty() || KindOf(control.type.GetString()) == Kind::Unknown)
+            continue;
+        const auto [first, isNew] = lines.emplace(name, control.span.line);
+        if (!isNew)
+            judged.findings.Add(
+                nameTwice, judged.description.PlaceOf(control.span.line, "." + name, control.span.column),
+                "a control of line " + std::to_string(first->second) + " has the name " + InQuotes(name),
+                "give each control a name of its own");
+    }
+}
+
+void JudgeGroups(const Case& judged)
+{
+    const ClytControlStatement* group = nullptr;
+    bool hasOptions = true;
+    const auto judgeGroup = [&]
+    {
+        if (group != nullptr && !hasOptions)
+            judged.findings.Add(emptyGroup, judged.description.PlaceOf(group->span.line),
+                                "no option follows the group " + InQuotes(group->name.GetString()),
+                                "write its options below it");
+    };
+    for (const ClytControlStatement& control : judged.description.controls)
+    {
+        const Kind kind = KindOf(control.type.GetString());
+        if (kind == Kind::OptionGroup)
+        {
+            judgeGroup();
+            group = &control;
+            hasOptions = false;
+        }
+        hasOptions = hasOptions || kind == Kind::Option;
+        if (kind == Kind::Option && group == nullptr)
+            judged.findings.Add(noGroup, judged.description.PlaceOf(control.span.line),
+                                "this option belongs to no group", "write an OptionGroup above it");
+    }
+    judgeGroup();
+}
+
+void JudgeButton(const Case& judged, Kind kind, const char* typeWord)
+{
+    const ClytControlStatement* first = nullptr;
+    for (const ClytControlStatement& control : judged.description.controls)
+    {
+        if (KindOf(control.type.GetString()) != kind)
+            continue;
+        if (first != nullptr)
+            judged.findings.Add(buttonTwice, judged.description.PlaceOf(control.span.line),
+                                std::string("the dialog has ") + NameOf(kind) + " already, in line " +
+                                    std::to_string(first->span.line),
+                                "take one of them away");
+        else
+            first = &control;
+    }
+    if (first == nullptr && judged.description.hasDialogHeader)
+        judged.findings.Add(noButton, judged.description.PlaceOf(judged.description.dialogHeader.line),
+                            std::string("the dialog has no ") + typeWord,
+                            std::string("add one: ") + typeWord + " LEFT, TOP, 112, 22");
+}
+
+} // namespace
+
+Family LayoutRules()
+{
+    return {{&unknownType, &nameTwice, &noPoint, &surplus, &noNumber, &range, &noSize, &noGroup, &emptyGroup, &noButton,
+             &buttonTwice},
+            [](const Case& judged)
+            {
+                JudgeStatements(judged);
+                JudgeNames(judged);
+                JudgeGroups(judged);
+                JudgeButton(judged, Kind::Ok, "OKButton");
+                JudgeButton(judged, Kind::Cancel, "CancelButton");
+            }};
+}
+
+} // namespace lytdlg

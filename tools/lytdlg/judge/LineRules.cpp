@@ -1,0 +1,373 @@
+#include "lytdlg/judge/LineRules.h"
+
+#include "dlgfile/ClytDialogFile.h"
+
+#include <algorithm>
+#include <set>
+
+namespace lytdlg
+{
+
+namespace
+{
+
+constexpr Rule tab = {
+    "tab",
+    Level::Warning,
+    "A tab ends a word.",
+    "Write blanks, never tabs. In most sections a tab separates like a comma, and one before a sign or\n"
+    "a comma makes an empty word of its own. In $OUTPUT it does not separate.",
+    "$VALUES\nUnit\t= m",
+    "$VALUES\nUnit = m"};
+
+constexpr Rule length = {
+    "line-length",
+    Level::Warning,
+    "A line has more than 398 characters.",
+    "A line is read in pieces of 399 characters, its end among them. What is left over is read as a\n"
+    "statement of its own, and counts as a line.",
+    "$VALUES\nUnit = m{LONG}; metres",
+    "$VALUES\nUnit = m ; metres"};
+
+constexpr Rule markBeforeVersion = {
+    "byte-order-mark",
+    Level::Error,
+    "A byte order mark stands before $VERSION.",
+    "The file was saved as UTF-8 with a mark at its begin, which the library takes for letters of the\n"
+    "first word. Save it in code page 1252, which editors call ANSI or Windows-1252.",
+    "\xEF\xBB\xBF{ABOVE}",
+    "; an example"};
+
+constexpr Rule utf8 = {
+    "utf-8",
+    Level::Warning,
+    "A text was saved as UTF-8.",
+    "The library reads the ANSI code page, 1252 in Western Europe. Each letter with an accent shows as\n"
+    "two odd characters. Save the file in that code page.",
+    "$VALUES\nUnit = Stra\xC3\x9F"
+    "e",
+    "$VALUES\nUnit = Stra\xDF"
+    "e"};
+
+constexpr Rule bytes = {
+    "control-byte",
+    Level::Warning,
+    "A byte stands for no character.",
+    "A NUL byte ends the line for the library. Other control bytes, and the five that code page 1252\n"
+    "does not use, show as boxes or not at all.",
+    "$VALUES\nUnit = m{NUL}",
+    "$VALUES\nUnit = m"};
+
+constexpr Rule endMark = {"end-mark",
+                          Level::Warning,
+                          "Text stands after a Ctrl-Z, which ends the file for the library.",
+                          "In a text file a byte 1A (Ctrl-Z) is its end. What stands after it is not read.",
+                          "$END\n\x1A\nmore",
+                          "$END"};
+
+constexpr Rule indented = {
+    "mark-indented",
+    Level::Error,
+    "A mark that switches lines does not stand in the first column.",
+    "Lines between <NAME and > count only when the define NAME is set. The marks stand in the first\n"
+    "column; anywhere else the library takes them for statements.",
+    "$VALUES\nUnit = m\n >",
+    "$VALUES\n<!WIDE\nUnit = m\n>"};
+
+constexpr Rule unopened = {"mark-unopened",
+                           Level::Note,
+                           "A mark > ends nothing.",
+                           "A line that begins with > switches lines on again. Without a mark < above it they are on.",
+                           "$VALUES\nUnit = m\n>",
+                           "$VALUES\n<!WIDE\nUnit = m\n>"};
+
+constexpr Rule unended = {"mark-unended",
+                          Level::Warning,
+                          "A mark < is not ended by >.",
+                          "Everything down to the next mark, or to the end of the file, belongs to the define.",
+                          "$OUTPUT\n<!WIDE",
+                          "$OUTPUT\n<!WIDE\n>"};
+
+constexpr Rule nested = {"mark-nested",
+                         Level::Warning,
+                         "A mark < stands inside another one.",
+                         "Marks do not nest: the inner one ends the outer, and the first > ends both.",
+                         "$VALUES\n<!WIDE\n<!LONG\nUnit = m\n>",
+                         "$VALUES\n<!WIDE\n>\n<!LONG\nUnit = m\n>"};
+
+constexpr Rule nameless = {"mark-nameless",
+                           Level::Warning,
+                           "No name follows a mark <.",
+                           "The name of the define follows the mark at once, without a blank.",
+                           "$VALUES\n<! WIDE\nUnit = m\n>",
+                           "$VALUES\n<!WIDE\nUnit = m\n>"};
+
+constexpr Rule switchedOff = {
+    "define-off",
+    Level::Note,
+    "Lines are switched off, since no --define names their define.",
+    "They were not judged. Judge the description once more with the define that switches them on.",
+    "$VALUES\n<WIDE\nUnit = m\n>",
+    "$VALUES\nUnit = m"};
+
+constexpr Rule afterEnd = {"after-end",
+                           Level::Warning,
+                           "Text stands after $END.",
+                           "The library reads no further than $END. What stands after it is lost.",
+                           "$END\n(\"%s\", Name)",
+                           "$END\n; a comment"};
+
+bool IsInStatements(const SourceLine& line)
+{
+    return line.isRead && line.section != Section::Head && line.section != Section::End;
+}
+
+// Where a comment begins, which is where a word could begin; the end of the line without one. Quotes hold no comment.
+size_t EndOfStatement(const SourceLine& line)
+{
+    const std::string& text = line.text;
+    bool isWordBegin = true;
+    for (size_t place = 0; place < text.size(); ++place)
+    {
+        const char ch = text[place];
+        if (isWordBegin && ch == ';')
+            return place;
+        if (isWordBegin && ch == '"')
+        {
+            place = text.find('"', place + 1);
+            while (place != std::string::npos && text[place - 1] == '\\')
+                place = text.find('"', place + 1);
+            if (place == std::string::npos)
+                return text.size();
+        }
+        isWordBegin = DelimitersOf(line.section).Contains(ch) || (isWordBegin && (ch == ' ' || ch == '\t'));
+        if (ch == ';' && isWordBegin)
+            return place;
+    }
+    return text.size();
+}
+
+void AddAt(const Case& judged, const Rule& rule, int line, size_t column, size_t size, std::string message,
+           std::string hint)
+{
+    judged.findings.Add(rule, {line, static_cast<int>(column), static_cast<int>(size)}, std::move(message),
+                        std::move(hint));
+}
+
+// A tab harms that ends a word, unless nothing follows it. Blanks and tabs are alike in the layout.
+void JudgeTabs(const Case& judged, const SourceLine& line)
+{
+    if (!IsInStatements(line) || line.section == Section::Layout || line.text.find('\t') == std::string::npos)
+        return;
+    const std::string text = line.text.substr(0, EndOfStatement(line));
+    const DelimiterSet& delimiters = DelimitersOf(line.section);
+    bool isInQuotes = false;
+    for (size_t place = 0; place < text.size(); ++place)
+    {
+        isInQuotes = isInQuotes != (text[place] == '"' && (place == 0 || text[place - 1] != '\\'));
+        if (text[place] != '\t' || isInQuotes)
+            continue;
+        const size_t before = text.find_last_not_of(" \t", place);
+        const size_t after = text.find_first_not_of(" \t", place);
+        const bool endsWord = before != std::string::npos && !delimiters.Contains(text[before]);
+        const bool isHarmless = after == std::string::npos        ? line.section != Section::Dependencies
+                                : line.section == Section::Output ? delimiters.Contains(text[after])
+                                                                  : false;
+        if (!endsWord || isHarmless)
+            continue;
+        const bool separates = line.section != Section::Output;
+        AddAt(judged, tab, line.number, place, 1,
+              separates ? "this tab ends the word before it, as a comma does" : "this tab does not separate words",
+              "write blanks in place of tabs");
+        return;
+    }
+}
+
+void JudgeLength(const Case& judged, const SourceLine& line)
+{
+    constexpr size_t limit = ClytDialogFile::lineSize - 1;
+    if (IsInStatements(line) && line.text.size() > limit)
+        AddAt(judged, length, line.number, limit, line.text.size() - limit,
+              "what stands after character " + std::to_string(limit) + " is read as a line of its own",
+              "a line may have " + std::to_string(limit) + " characters; shorten it");
+}
+
+// How many bytes of a UTF-8 sequence begin here; 0 when none does.
+size_t SequenceLength(const std::string& text, size_t place)
+{
+    const auto at = [&](size_t index) { return index < text.size() ? static_cast<unsigned char>(text[index]) : 0U; };
+    const unsigned first = at(place);
+    const size_t size = first >= 0xC2 && first < 0xE0 ? 2U : first >= 0xE0 && first < 0xF0 ? 3U : 0U;
+    for (size_t index = 1; index < size; ++index)
+    {
+        if ((at(place + index) & 0xC0U) != 0x80U)
+            return 0;
+    }
+    return size;
+}
+
+bool StandsForNothing(char ch)
+{
+    const auto byte = static_cast<unsigned char>(ch);
+    return (byte < 0x20 && ch != '\t') || byte == 0x81 || byte == 0x8D || byte == 0x8F || byte == 0x90 || byte == 0x9D;
+}
+
+std::string HexOf(char ch)
+{
+    constexpr const char* digits = "0123456789ABCDEF";
+    const auto byte = static_cast<unsigned char>(ch);
+    return {digits[byte / 16], digits[byte % 16]};
+}
+
+// A comment may hold what it likes, but for the byte that ends the line.
+void JudgeBytes(const Case& judged, const SourceLine& line)
+{
+    if (!IsInStatements(line))
+        return;
+    const size_t end = EndOfStatement(line);
+    bool isUtf8Told = false;
+    for (size_t place = 0; place < end; ++place)
+    {
+        const size_t size = SequenceLength(line.text, place);
+        if (size != 0 && !isUtf8Told)
+            AddAt(judged, utf8, line.number, place, size,
+                  "the library reads this letter as " + std::to_string(size) + " characters",
+                  "save the file in code page 1252, which editors call ANSI or Windows-1252");
+        isUtf8Told = isUtf8Told || size != 0;
+        if (size == 0 && StandsForNothing(line.text[place]))
+        {
+            AddAt(judged, bytes, line.number, place, 1,
+                  "the byte " + HexOf(line.text[place]) + " stands for no character",
+                  line.text[place] == '\0' ? "take it away: it ends the line" : "take it away");
+            return;
+        }
+        place += size != 0 ? size - 1 : 0;
+    }
+}
+
+// Follows the marks from the first line to the last.
+class Marks
+{
+public:
+    explicit Marks(const Case& judged) : m_judged(judged) {}
+
+    void Take(const SourceLine& line)
+    {
+        const size_t start = line.text.find_first_not_of(" \t");
+        if (start == std::string::npos || (line.text[start] != '<' && line.text[start] != '>'))
+            return;
+        if (start > 0)
+        {
+            JudgeIndented(line, start);
+            return;
+        }
+        if (line.text.front() == '<')
+            Open(line);
+        else
+            Close(line);
+    }
+
+    void End()
+    {
+        if (m_open != nullptr)
+            m_judged.findings.Add(unended, m_judged.description.PlaceOf(m_open->number),
+                                  "no > ends this mark down to the end of the file",
+                                  "add a line with > after the last line that belongs to the define");
+    }
+
+private:
+    void JudgeIndented(const SourceLine& line, size_t start)
+    {
+        const auto isHere = [&](const Mistake& mistake) { return mistake.place.line == line.number; };
+        if (std::ranges::any_of(m_judged.description.mistakes, isHere))
+        {
+            AddAt(m_judged, indented, line.number, start, 1, "this mark is read as a statement",
+                  "begin the line with it, without blanks");
+            m_judged.findings.All().back().number = "212";
+        }
+    }
+
+    void Open(const SourceLine& line)
+    {
+        const size_t start = line.text.starts_with("<!") ? 2 : 1;
+        const std::string name = line.text.substr(start, line.text.find_first_of(" \t;", start) - start);
+        const ClytSpan place = m_judged.description.PlaceOf(line.number);
+        if (name.empty())
+            m_judged.findings.Add(nameless, place, "the name of the define is missing",
+                                  "write it right after the mark, without a blank");
+        else if (start == 1 && line.section != Section::End && !m_judged.description.text.IsDefined(name) &&
+                 m_switchedOff.insert(name).second)
+            m_judged.findings.Add(switchedOff, place,
+                                  "lines that the define \"" + name + "\" switches on were not judged",
+                                  "judge them with --define " + name);
+        if (m_open != nullptr)
+            m_judged.findings.Add(nested, place,
+                                  "marks do not nest: this one ends the mark of line " + std::to_string(m_open->number),
+                                  "end the other one with > first");
+        m_open = &line;
+    }
+
+    void Close(const SourceLine& line)
+    {
+        if (m_open == nullptr && line.section != Section::Head)
+            m_judged.findings.Add(unopened, m_judged.description.PlaceOf(line.number), "this mark ends nothing",
+                                  "take it away");
+        m_open = nullptr;
+    }
+
+    const Case& m_judged;
+    const SourceLine* m_open = nullptr;
+    std::set<std::string> m_switchedOff; // told once each
+};
+
+void JudgeFile(const Case& judged)
+{
+    const DescriptionText& text = judged.description.text;
+    const bool isAtVersion = !text.Lines().empty() && text.Lines().front().isHeader;
+    if (text.HasByteOrderMark() && isAtVersion)
+    {
+        AddAt(judged, markBeforeVersion, 1, 0, 1, "a byte order mark stands before the first word",
+              "save the file in code page 1252, or begin it with a comment");
+        judged.findings.All().back().number = "213";
+    }
+    if (text.HasTextAfterEndMark())
+        judged.findings.Add(endMark, judged.description.PlaceOf(static_cast<int>(text.Lines().size())),
+                            "a Ctrl-Z ends the file here, and text follows it", "take the byte 1A away");
+}
+
+void JudgeAfterEnd(const Case& judged)
+{
+    for (const SourceLine* line : judged.description.text.LinesOf(Section::End))
+    {
+        const size_t start = line->text.find_first_not_of(" \t");
+        if (line->isHeader || start == std::string::npos || line->text[start] == ';')
+            continue;
+        judged.findings.Add(afterEnd, judged.description.PlaceOf(line->number), "nothing after $END is read",
+                            "move it above $END, or make a comment of it");
+        return;
+    }
+}
+
+} // namespace
+
+Family LineRules()
+{
+    return {{&tab, &length, &markBeforeVersion, &utf8, &bytes, &endMark, &indented, &unopened, &unended, &nested,
+             &nameless, &switchedOff, &afterEnd},
+            [](const Case& judged)
+            {
+                Marks marks(judged);
+                for (const SourceLine& line : judged.description.text.Lines())
+                {
+                    JudgeTabs(judged, line);
+                    JudgeLength(judged, line);
+                    JudgeBytes(judged, line);
+                    marks.Take(line);
+                }
+                marks.End();
+                JudgeFile(judged);
+                JudgeAfterEnd(judged);
+            }};
+}
+
+} // namespace lytdlg

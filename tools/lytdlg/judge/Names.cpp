@@ -1,0 +1,72 @@
+#include "lytdlg/judge/Names.h"
+
+#include "commandline/Suggestion.h"
+#include "lytdlg/text/LanguageFiles.h"
+
+#include <algorithm>
+
+namespace lytdlg
+{
+
+std::vector<std::string> ControlNames(const Description& description)
+{
+    std::vector<std::string> names;
+    for (const ClytControlStatement& control : description.controls)
+    {
+        if (!control.name.IsEmpty())
+            names.emplace_back(control.name.GetString());
+    }
+    return names;
+}
+
+std::vector<std::string> GroupNames(const Description& description)
+{
+    std::vector<std::string> names;
+    for (const OutputGroup& group : description.outputs)
+        names.push_back(group.name);
+    return names;
+}
+
+std::vector<std::string> PartNames(const Description& description)
+{
+    std::vector<std::string> names;
+    for (const InputPart& part : description.inputs)
+        names.push_back(part.name);
+    return names;
+}
+
+bool HasGroup(const Description& description, const std::string& name)
+{
+    return std::ranges::find(description.outputs, name, &OutputGroup::name) != description.outputs.end();
+}
+
+bool HasPart(const Description& description, const std::string& name)
+{
+    return std::ranges::find(description.inputs, name, &InputPart::name) != description.inputs.end();
+}
+
+Kind KindOfControl(const Description& description, const std::string& name)
+{
+    const ClytControlStatement* control = description.FindControl(name);
+    return control != nullptr ? KindOf(control->type.GetString()) : Kind::Unknown;
+}
+
+std::string MeantWord(const std::string& word, const std::vector<std::string>& known)
+{
+    const auto same =
+        std::ranges::find_if(known, [&](const std::string& candidate) { return IsSameName(candidate, word); });
+    return same != known.end() ? *same : commandline::Nearest(word, known);
+}
+
+std::string MeantOr(const std::string& word, const std::vector<std::string>& known, const std::string& otherwise)
+{
+    const std::string meant = MeantWord(word, known);
+    return meant.empty() ? otherwise : "did you mean " + InQuotes(meant) + "?";
+}
+
+std::string InQuotes(const std::string& text)
+{
+    return "\"" + text + "\"";
+}
+
+} // namespace lytdlg

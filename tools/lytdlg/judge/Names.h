@@ -1,0 +1,28 @@
+// The names that a description knows, and help with those that it does not.
+#pragma once
+
+#include "lytdlg/judge/ControlKinds.h"
+#include "lytdlg/judge/Description.h"
+
+namespace lytdlg
+{
+
+// In the order of the file; empty names are left out.
+std::vector<std::string> ControlNames(const Description& description);
+std::vector<std::string> GroupNames(const Description& description);
+std::vector<std::string> PartNames(const Description& description);
+
+bool HasGroup(const Description& description, const std::string& name);
+bool HasPart(const Description& description, const std::string& name);
+// Of the last control of that name; Unknown when there is none.
+Kind KindOfControl(const Description& description, const std::string& name);
+
+// The known word that was meant: one that differs in upper and lower case only, or in a few letters. Empty when there is
+// none.
+std::string MeantWord(const std::string& word, const std::vector<std::string>& known);
+// "did you mean ...?", or else the other text.
+std::string MeantOr(const std::string& word, const std::vector<std::string>& known, const std::string& otherwise);
+
+std::string InQuotes(const std::string& text);
+
+} // namespace lytdlg
