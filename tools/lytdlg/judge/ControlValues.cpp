@@ -16,32 +16,10 @@ bool Means(ClytKeyword meaning, const std::string& word)
 }
 
 // A fill of the input that puts an item into the list.
-bool IsItemFill(const ClytControlFill& fill)
+bool IsItemFill(const ClytControlFill* fill)
 {
-    const ClytFillAction action = fill.action.GetMeaning();
+    const ClytFillAction action = fill->action.GetMeaning();
     return action == ClytFillAction::Add || action == ClytFillAction::Modify || action == ClytFillAction::Concat;
-}
-
-bool TakesItemsFromInput(const Description& description, const std::string& name)
-{
-    for (const InputPart& input : description.inputs)
-    {
-        for (POSITION at = input.part.GetStatements().GetHeadPosition(); at != nullptr;)
-        {
-            const ClytDialogInput& statement = *input.part.GetStatements().GetNext(at);
-            for (POSITION rule = statement.scanRule.rules.GetHeadPosition(); rule != nullptr;)
-            {
-                const ClytConditionFill& fills = *statement.scanRule.rules.GetNext(rule);
-                for (POSITION place = fills.fills.GetHeadPosition(); place != nullptr;)
-                {
-                    const ClytControlFill& fill = *fills.fills.GetNext(place);
-                    if (fill.controlName == name.c_str() && IsItemFill(fill))
-                        return true;
-                }
-            }
-        }
-    }
-    return false;
 }
 
 } // namespace
@@ -134,6 +112,29 @@ std::vector<std::string> OptionsOf(const Description& description, const std::st
     return options;
 }
 
+std::vector<const ClytControlFill*> FillsOf(const Description& description, const std::string& name)
+{
+    std::vector<const ClytControlFill*> found;
+    for (const InputPart& input : description.inputs)
+    {
+        for (POSITION at = input.part.GetStatements().GetHeadPosition(); at != nullptr;)
+        {
+            const ClytDialogInput& statement = *input.part.GetStatements().GetNext(at);
+            for (POSITION rule = statement.scanRule.rules.GetHeadPosition(); rule != nullptr;)
+            {
+                const ClytConditionFill& fills = *statement.scanRule.rules.GetNext(rule);
+                for (POSITION place = fills.fills.GetHeadPosition(); place != nullptr;)
+                {
+                    const ClytControlFill* fill = fills.fills.GetNext(place);
+                    if (fill->controlName == name.c_str())
+                        found.push_back(fill);
+                }
+            }
+        }
+    }
+    return found;
+}
+
 bool TakesItems(const Description& description, const std::string& name)
 {
     const bool fromButton = std::ranges::any_of(description.values,
@@ -144,7 +145,7 @@ bool TakesItems(const Description& description, const std::string& name)
                                                            RoleOf(description, statement) == Role::Action;
                                                 });
     return fromButton || !StatementsOf(description, name, Role::Source).empty() ||
-           TakesItemsFromInput(description, name);
+           std::ranges::any_of(FillsOf(description, name), IsItemFill);
 }
 
 std::optional<std::vector<std::string>> PossibleValues(const Description& description, const std::string& name)

@@ -36,6 +36,8 @@ bool HasOption(const Description& description, const std::string& name, const st
 std::vector<const ValueStatement*> StatementsOf(const Description& description, const std::string& name, Role role);
 // The options of a group, in their order.
 std::vector<std::string> OptionsOf(const Description& description, const std::string& group);
+// The fills of all input parts that reach a control. They live as long as the description.
+std::vector<const ClytControlFill*> FillsOf(const Description& description, const std::string& name);
 // True when a library, a button or the input puts items into a list.
 bool TakesItems(const Description& description, const std::string& name);
 // All values that a control can hold; nothing when it may hold any, or none at all.

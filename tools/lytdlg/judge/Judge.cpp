@@ -1,5 +1,8 @@
 #include "lytdlg/judge/Judge.h"
 
+#include "lytdlg/judge/ActionRules.h"
+#include "lytdlg/judge/ConditionRules.h"
+#include "lytdlg/judge/DependencyRules.h"
 #include "lytdlg/judge/EvaluationRules.h"
 #include "lytdlg/judge/FillRules.h"
 #include "lytdlg/judge/Ignores.h"
@@ -33,6 +36,10 @@ const std::vector<Family>& Families()
         FillRules(),
         LineRules(),
         LayoutRules(),
+        ValueRules(),
+        ActionRules(),
+        DependencyRules(),
+        ConditionRules(),
         IgnoreRules(),
         LibraryRules(),
     };

@@ -44,8 +44,8 @@ constexpr Rule keyword = {
     "A word means nothing to its control.",
     "A field knows FILLEDBY, a check box ON and OFF, a list FILLEDBY and DBLCLICK. An option and an\n"
     "option group know none. Of a list, any other word is the key of an item's text.",
-    "$VALUES\nPictures: On = Q",
-    "$VALUES\nUnit = FILLEDBY, lytdata, LookUp"};
+    "$VALUES\n-Order = s\nOrder: x = s",
+    "$VALUES\nOrder = s\n-Order = s"};
 
 constexpr Rule noText = {
     "item-without-text",
@@ -182,6 +182,7 @@ void JudgeWords(const Statement& statement)
     static const std::vector<std::string> listWords = {"FILLEDBY", "DBLCLICK"};
     static const std::vector<std::string> checkWords = {"ON", "OFF"};
     static const std::vector<std::string> fieldWords = {"FILLEDBY"};
+    static const std::vector<std::string> noWords;
     const bool isWordless = statement.role == Role::Default || statement.role == Role::OptionValue;
     const bool isItemWord =
         statement.role == Role::Item && (!MeantWord(value.keyword, listWords).empty() || value.values.size() > 1);
@@ -190,7 +191,8 @@ void JudgeWords(const Statement& statement)
     const bool isKnownElsewhere = value.keyword == listWords[0] || value.keyword == listWords[1];
     const std::vector<std::string>& known = statement.kind == Kind::CheckBox ? checkWords
                                             : HasItems(statement.kind)       ? listWords
-                                                                             : fieldWords;
+                                            : statement.kind == Kind::Field  ? fieldWords
+                                                                             : noWords;
     const std::string hint =
         isKnownElsewhere ? "take the word away" : MeantOr(value.keyword, known, "take the word away");
     statement.judged.findings.Add(keyword, statement.PlaceOfKeyword(),

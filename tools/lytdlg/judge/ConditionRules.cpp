@@ -1,0 +1,197 @@
+#include "lytdlg/judge/ConditionRules.h"
+
+#include "lytdlg/judge/ConditionText.h"
+#include "lytdlg/judge/ControlValues.h"
+
+#include <algorithm>
+
+namespace lytdlg
+{
+
+namespace
+{
+
+constexpr Rule unknown = {"condition-unknown",
+                          Level::Warning,
+                          "A condition asks a control that is not there.",
+                          "A rule VISIBLE or ACTIVE passes the condition over; CLEAR and FILL look no further.",
+                          "$DEPENDANCES\nUnit/ACTIVE = Nmae(NOTNULL)",
+                          "$DEPENDANCES\nUnit/ACTIVE = Name(NOTNULL)"};
+
+constexpr Rule neverHeld = {
+    "condition-value",
+    Level::Warning,
+    "A condition asks for a value that its control never holds.",
+    "Values are compared letter by letter with the ON and OFF text of a check box, the values of\n"
+    "options, or those of a list's items. NULL and NOTNULL are written in capitals.",
+    "$DEPENDANCES\nUnit/ACTIVE = Pictures(Q)",
+    "$DEPENDANCES\nUnit/ACTIVE = Pictures(P)"};
+
+constexpr Rule noValue = {
+    "condition-without-value",
+    Level::Warning,
+    "A condition asks a control that has no value of its own.",
+    "Texts, frames and buttons have no value: asking shows message 201. An option answers with its own\n"
+    "value, checked or not: ask its group. None of them ever changes for CLEAR and FILL, but an option.",
+    "$DEPENDANCES\nUnit/ACTIVE = Short(s)",
+    "$DEPENDANCES\nUnit/ACTIVE = Order(s)"};
+
+constexpr Rule notLast = {
+    "notnull-not-last",
+    Level::Warning,
+    "NOTNULL is not the last value in its brackets.",
+    "Only as the last value NOTNULL asks whether a control holds anything. Further to the front it is a\n"
+    "value like any other.",
+    "$DEPENDANCES\nUnit/ACTIVE = Name(NOTNULL, a)",
+    "$DEPENDANCES\nUnit/ACTIVE = Name(NOTNULL)"};
+
+constexpr Rule notReached = {"condition-not-reached",
+                             Level::Warning,
+                             "A condition stands after one with NOTNULL, and is not looked at.",
+                             "NOTNULL decides at once. Put it last on the line.",
+                             "$DEPENDANCES\nUnit/ACTIVE = Name(NOTNULL), Pictures(P)",
+                             "$DEPENDANCES\nUnit/ACTIVE = Pictures(P), Name(NOTNULL)"};
+
+constexpr Rule movesFocus = {
+    "list-asked",
+    Level::Warning,
+    "A condition asks for the value of a list that may have no choice.",
+    "Reading the value of a list without a choice moves the focus there. NOTNULL does not read it.",
+    "$DEPENDANCES\nUnit/ACTIVE = Rooms(a)",
+    "$DEPENDANCES\nUnit/ACTIVE = Rooms(NOTNULL)"};
+
+struct Condition
+{
+    const Case& judged;
+    const ClytControlDep& rule;
+    const ClytCtrlValList& list;
+    const Kind kind;
+
+    std::string Name() const { return list.GetName().GetString(); }
+    bool HasValues() const { return !list.GetValues().IsEmpty(); }
+    ClytSpan PlaceOf(const std::string& value) const
+    {
+        return judged.description.PlaceOf(list.GetSpan().line, value,
+                                          list.GetSpan().column + list.GetName().GetLength());
+    }
+};
+
+// An item that the first statement of the kind adds stands chosen; a check list never begins with a choice.
+bool MayHaveNoChoice(const Description& description, const std::string& name, Kind kind)
+{
+    if (kind != Kind::List)
+        return kind == Kind::CheckList;
+    return TakesItems(description, name) || StatementsOf(description, name, Role::Item).empty() ||
+           !FillsOf(description, name).empty();
+}
+
+void JudgeUnknown(const Condition& condition)
+{
+    const Description& description = condition.judged.description;
+    condition.judged.findings.Add(
+        unknown, condition.list.GetSpan(),
+        "no control is called " + InQuotes(condition.Name()) +
+            (condition.rule.IsEventRule() ? "; the rule looks no further" : "; the condition is passed over"),
+        MeantOr(condition.Name(), ControlNames(description), "use the name of a control"));
+}
+
+// True when the control cannot be asked for a value.
+bool JudgeKind(const Condition& condition)
+{
+    const bool isEvent = condition.rule.IsEventRule();
+    const bool isAsked = isEvent || (condition.HasValues() && !AsksForContent(condition.list));
+    const bool isDefButton = condition.rule.stateWord.GetMeaning() == ClytState::DefButton;
+    if (!isAsked || isDefButton || (HasValue(condition.kind) && (condition.kind != Kind::Option || isEvent)))
+        return false;
+    const bool isOption = condition.kind == Kind::Option;
+    condition.judged.findings.Add(noValue, condition.list.GetSpan(),
+                                  InQuotes(condition.Name()) + " is " + NameOf(condition.kind) +
+                                      (isOption  ? ", which has its value checked or not"
+                                       : isEvent ? ", which never changes"
+                                                 : ", which has no value"),
+                                  isOption ? "ask the group of the option" : "name a field, a list, a box or a group");
+    return true;
+}
+
+void JudgeValues(const Condition& condition)
+{
+    static const std::vector<std::string> words = {"NULL", "NOTNULL"};
+    const std::optional<std::vector<std::string>> possible =
+        PossibleValues(condition.judged.description, condition.Name());
+    for (const std::string& value : ValuesAskedBy(condition.list))
+    {
+        const std::string meant = MeantWord(value, words);
+        const bool isWord = meant.size() == value.size() && meant != value;
+        const bool isForeign = possible && !possible->empty() && std::ranges::find(*possible, value) == possible->end();
+        if (value.empty() || value == words[1] || (!isWord && !isForeign))
+            continue;
+        condition.judged.findings.Add(neverHeld, condition.PlaceOf(value),
+                                      isForeign ? InQuotes(condition.Name()) + " never has the value " + InQuotes(value)
+                                                : InQuotes(value) + " is taken for a value",
+                                      isWord ? "did you mean " + InQuotes(meant) + "?"
+                                             : MeantOr(value, *possible, "use one of its values"));
+    }
+}
+
+void JudgeNotNull(const Condition& condition)
+{
+    const std::vector<std::string> values = ValuesAskedBy(condition.list);
+    if (std::ranges::find(values, "NOTNULL") != values.end())
+        condition.judged.findings.Add(notLast, condition.PlaceOf("NOTNULL"), "NOTNULL counts as the last value only",
+                                      "write it last, or alone");
+}
+
+void JudgeFocus(const Condition& condition)
+{
+    if (condition.HasValues() && !AsksForContent(condition.list) &&
+        MayHaveNoChoice(condition.judged.description, condition.Name(), condition.kind))
+        condition.judged.findings.Add(movesFocus, condition.list.GetSpan(),
+                                      InQuotes(condition.Name()) + " may have no choice, and then moves the focus",
+                                      "ask NOTNULL only, or use a drop-down list");
+}
+
+void JudgeCondition(const Condition& condition)
+{
+    if (condition.judged.description.FindControl(condition.Name()) == nullptr)
+        JudgeUnknown(condition);
+    if (condition.kind == Kind::Unknown || JudgeKind(condition))
+        return;
+    if (condition.rule.IsEventRule() || condition.rule.stateWord.GetMeaning() == ClytState::DefButton)
+        return;
+    JudgeValues(condition);
+    JudgeNotNull(condition);
+    JudgeFocus(condition);
+}
+
+void JudgeReached(const Case& judged, const ClytControlDep& rule)
+{
+    bool isDecided = false;
+    for (const ClytCtrlValList* condition : RecordsOf(rule.conditions))
+    {
+        if (isDecided)
+            judged.findings.Add(notReached, condition->GetSpan(),
+                                "NOTNULL has decided before; this condition is not looked at",
+                                "put the condition with NOTNULL last");
+        isDecided = isDecided || AsksForContent(*condition);
+    }
+}
+
+} // namespace
+
+Family ConditionRules()
+{
+    return {{&unknown, &neverHeld, &noValue, &notLast, &notReached, &movesFocus},
+            [](const Case& judged)
+            {
+                for (const ClytControlDep* rule : RecordsOf(judged.description.rules))
+                {
+                    for (const ClytCtrlValList* condition : RecordsOf(rule->conditions))
+                        JudgeCondition({judged, *rule, *condition,
+                                        KindOfControl(judged.description, condition->GetName().GetString())});
+                    if (!rule->IsEventRule() && rule->stateWord.GetMeaning() != ClytState::DefButton)
+                        JudgeReached(judged, *rule);
+                }
+            }};
+}
+
+} // namespace lytdlg
