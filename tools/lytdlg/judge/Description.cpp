@@ -212,9 +212,15 @@ void Description::ReadOutputs()
     SectionReader file(lines, WordOf(Section::End), mistakes);
     CString nextName;
     auto rule = std::make_unique<ClytDialogOutput>();
+    size_t mistakesBefore = mistakes.size();
     while (file.ReadOutputStatement(nextName, *rule) != 0)
     {
-        if (!nextName.IsEmpty())
+        if (mistakes.size() != mistakesBefore)
+        {
+            mistakesBefore = mistakes.size();
+            rule = std::make_unique<ClytDialogOutput>();
+        }
+        else if (!nextName.IsEmpty())
         {
             group = &outputs.emplace_back();
             group->name = std::exchange(nextName, CString()).GetString();

@@ -5,10 +5,12 @@
 #include "lytdlg/judge/DependencyRules.h"
 #include "lytdlg/judge/EvaluationRules.h"
 #include "lytdlg/judge/FillRules.h"
+#include "lytdlg/judge/FormatRules.h"
 #include "lytdlg/judge/Ignores.h"
 #include "lytdlg/judge/LayoutRules.h"
 #include "lytdlg/judge/LibraryVerdict.h"
 #include "lytdlg/judge/LineRules.h"
+#include "lytdlg/judge/OutputRules.h"
 #include "lytdlg/judge/ScanRules.h"
 #include "lytdlg/judge/SectionRules.h"
 #include "lytdlg/judge/SeparatorRules.h"
@@ -40,6 +42,8 @@ const std::vector<Family>& Families()
         ActionRules(),
         DependencyRules(),
         ConditionRules(),
+        OutputRules(),
+        FormatRules(),
         IgnoreRules(),
         LibraryRules(),
     };

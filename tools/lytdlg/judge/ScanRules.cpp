@@ -254,6 +254,21 @@ void JudgeFirstLine(const Case& judged, const InputPart& part)
                         "put a comment line between the header and this line");
 }
 
+// A line that is refused leads nowhere, and says nothing about the others.
+bool IsWhole(const Description& description, const InputPart& part)
+{
+    return std::ranges::none_of(Records(part.part.GetStatements()), [&](const ClytDialogInput* statement)
+                                { return description.IsRefused(statement->span.line); });
+}
+
+void JudgePaths(const Case& judged, const InputPart& part)
+{
+    JudgeReached(judged, part);
+    JudgeCircles(judged, part);
+    for (const ClytDialogInput* statement : Records(part.part.GetStatements()))
+        JudgeTargets(judged, part, *statement);
+}
+
 } // namespace
 
 Family ScanRules()
@@ -266,11 +281,9 @@ Family ScanRules()
             for (const InputPart& part : judged.description.inputs)
             {
                 JudgeStart(judged, part);
-                JudgeReached(judged, part);
-                JudgeCircles(judged, part);
                 JudgeFirstLine(judged, part);
-                for (const ClytDialogInput* statement : Records(part.part.GetStatements()))
-                    JudgeTargets(judged, part, *statement);
+                if (IsWhole(judged.description, part))
+                    JudgePaths(judged, part);
             }
         }};
 }

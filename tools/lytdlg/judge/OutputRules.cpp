@@ -1,0 +1,315 @@
+#include "lytdlg/judge/OutputRules.h"
+
+#include "dialog/ClytDialogRules.h"
+#include "lytdlg/judge/Conditions.h"
+#include "lytdlg/judge/Controls.h"
+#include "lytdlg/judge/LineTokens.h"
+#include "lytdlg/judge/Lists.h"
+
+#include <algorithm>
+
+namespace lytdlg
+{
+
+namespace
+{
+
+constexpr Rule noResult = {"output-parent",
+                           Level::Warning,
+                           "The dialog's result has no rule.",
+                           "The first group composes the result of the dialog. Without a rule OK does nothing.",
+                           "$OUTPUT, parent\n-    (\"%s;%s;%s;%s;%s;%s\", Name, Unit, Place, Form, Order, Pictures)\n"
+                           "$EVALUATION, x\n-    Name = NULL: NameMissing",
+                           "$OUTPUT, parent\n    Form(\"\") = (\"%s\", Name)"};
+
+constexpr Rule firstGroup = {"output-first",
+                             Level::Warning,
+                             "The first group has a name that does not count.",
+                             "The first group after $INPUT is always the result of the dialog, under the name parent.",
+                             "$OUTPUT,result",
+                             "$OUTPUT, parent"};
+
+constexpr Rule groupTwice = {
+    "output-twice",
+    Level::Warning,
+    "Two groups have one name, and the first is never used.",
+    "Of groups with one name the last counts.",
+    "$VALUES\n    Parts = FILLEDBY, lytdata, Open, Next, Out\n$OUTPUT, Out\n    (\"%s\", Name)\n$OUTPUT,  Out\n    "
+    "(\"%s\", Unit)",
+    "$VALUES\n    Parts = FILLEDBY, lytdata, Open, Next, Out\n$OUTPUT, Out\n    (\"%s\", Name)"};
+
+constexpr Rule groupUnused = {
+    "output-unused",
+    Level::Note,
+    "Nothing uses the group.",
+    "A group other than parent composes what a library of FILLEDBY or a button with DIALOG or ACTION receives.",
+    "$OUTPUT, Out\n    (\"%s\", Name)",
+    "$VALUES\n    Parts = FILLEDBY, lytdata, Open, Next, Out\n$OUTPUT, Out\n    (\"%s\", Name)"};
+
+constexpr Rule groupEmpty = {
+    "output-empty",
+    Level::Warning,
+    "A group has no rule.",
+    "It composes nothing, and what it is meant for does not happen.",
+    "$VALUES\n    Parts = FILLEDBY, lytdata, Open, Next, Out\n$OUTPUT, Out",
+    "$VALUES\n    Parts = FILLEDBY, lytdata, Open, Next, Out\n$OUTPUT, Out\n    (\"%s\", Name)"};
+
+constexpr Rule noDefault = {
+    "output-last",
+    Level::Warning,
+    "The result has no rule that always holds.",
+    "When no rule holds, OK does nothing. Give parent a last rule without conditions.",
+    "$OUTPUT, parent\n    Name(\"\") = (\"%s;%s;%s;%s;%s\", Unit, Place, Form, Order, Pictures)\n"
+    "    Name = (\"%s\", Name)\n-    (\"%s;%s;%s;%s;%s;%s\", Name, Unit, Place, Form, Order, Pictures)",
+    "$OUTPUT, parent\n    Name(\"\") = (\"%s\", Unit)"};
+
+constexpr Rule unreached = {"output-unreached",
+                            Level::Warning,
+                            "A rule stands after one without conditions, and is never used.",
+                            "The first rule whose conditions hold gives the text. Put the one without conditions last.",
+                            "$OUTPUT, parent\n    (\"%s\", Name)",
+                            "$OUTPUT, parent\n    Unit(\"\") = (\"%s\", Name)"};
+
+constexpr Rule condition = {"output-condition",
+                            Level::Error,
+                            "A condition asks a control that is not there.",
+                            "The message comes with OK, or when the group is used, and not when the dialog opens.",
+                            "$OUTPUT, parent\n    Unti(\"\") = (\"%s\", Name)",
+                            "$OUTPUT, parent\n    Unit(\"\") = (\"%s\", Name)"};
+
+constexpr Rule conditionValue = {"output-condition-value",
+                                 Level::Warning,
+                                 "A condition asks for a value that the control never has.",
+                                 "Values are compared letter by letter, the hidden value of an item and not its text. "
+                                 "NOTNULL is known in\n$DEPENDANCES only.",
+                                 "$OUTPUT, parent\n    Unit(NOTNULL) = (\"%s\", Name)",
+                                 "$OUTPUT, parent\n    Unit(NULL) = (\"%s\", Name)"};
+
+constexpr Rule valueless = {"output-valueless",
+                            Level::Warning,
+                            "A condition or an item reads a control that has no value of its own.",
+                            "Fixed texts, frames and buttons have no value: the library says so and goes on with an "
+                            "empty text. An option\nalways has its value: name the group.",
+                            "$OUTPUT, parent\n    Short(s) = (\"%s\", Name)",
+                            "$OUTPUT, parent\n    Order(s) = (\"%s\", Name)"};
+
+constexpr Rule item = {"output-item",
+                       Level::Warning,
+                       "An item is almost the name of a control.",
+                       "A word that is no control goes into the text as it is. Put it in quotes where that is meant.",
+                       "$OUTPUT, parent\n    Form(\"\") = (\"%s%s\", Nmae, Unit)",
+                       "$OUTPUT, parent\n    Form(\"\") = (\"%s%s\", \"Nmae\", Unit)"};
+
+constexpr Rule noList = {"output-list",
+                         Level::Warning,
+                         "All items are asked of a control that has none.",
+                         "Brackets after an item ask for all items of a list; of any other control that is nothing.",
+                         "$OUTPUT, parent\n    Form(\"\") = (\"%s%s\", Name, Unit(\"|\"))",
+                         "$OUTPUT, parent\n    Form(\"\") = (\"%s%s\", Name, Rooms(\"|\"))"};
+
+constexpr Rule comboItems = {
+    "output-combo",
+    Level::Warning,
+    "All items are asked of a combo box that a library or a button fills.",
+    "Each item is looked up in the language file once more, and one that is no key goes out as \"no value\n"
+    "present\". Take a ListBox or CheckListBox.",
+    "$VALUES\n    Form = FILLEDBY, lytdata, Open, Next\n$OUTPUT, parent\n    Name(\"\") = (\"%s%s\", Name, "
+    "Form(\"|\"))",
+    "$OUTPUT, parent\n    Name(\"\") = (\"%s%s\", Name, Form(\"|\"))"};
+
+constexpr Rule longSeparator = {"output-separator",
+                                Level::Warning,
+                                "The brackets after a list hold more than three characters.",
+                                "The first stands between the items, the second before them and the third after them. "
+                                "What follows is passed over.",
+                                "$OUTPUT, parent\n    Form(\"\") = (\"%s%s\", Name, Rooms(\" plus \"))",
+                                "$OUTPUT, parent\n    Form(\"\") = (\"%s%s\", Name, Rooms(\"|[]\"))"};
+
+constexpr Rule blanks = {"output-blanks",
+                         Level::Note,
+                         "A list without separators has a blank before, between and after its items.",
+                         "Empty brackets, and CONCAT in them, stand for three blanks. Name a separator.",
+                         "$OUTPUT, parent\n    Form(\"\") = (\"%s%s\", Name, Rooms())",
+                         "$OUTPUT, parent\n    Form(\"\") = (\"%s%s\", Name, Rooms(\"|\"))"};
+
+// Groups.
+
+std::set<std::string> UsedGroups(const Description& description)
+{
+    std::set<std::string> used = {lytParentName};
+    for (const ValueStatement& statement : description.values)
+    {
+        const std::vector<std::string>& values = statement.values;
+        const ClytAction meaning = lytMeaningOf<ClytAction>(statement.keyword.c_str());
+        if (lytMeaningOf<ClytKeyword>(statement.keyword.c_str()) == ClytKeyword::FilledBy && values.size() > 3)
+            used.insert(values[3]);
+        else if (meaning == ClytAction::Action && values.size() > 2)
+            used.insert(values[2]);
+        else if (meaning == ClytAction::Dialog)
+            used.insert(values.back());
+    }
+    return used;
+}
+
+void JudgeFirst(const Case& judged)
+{
+    const SourceLine* header = judged.description.text.HeaderOf(Section::Output);
+    if (header == nullptr || judged.description.outputs.empty())
+        return;
+    const std::vector<LineToken> words = TokensOf(header->text, Section::Input);
+    if (words.size() > 1 && !words[1].text.empty() && words[1].text != lytParentName)
+        judged.findings.Add(firstGroup, judged.description.PlaceOf(header->number, words[1].text),
+                            "the first group is the result of the dialog, whatever its name",
+                            "write \"$OUTPUT, parent\", and put other groups after it");
+}
+
+void JudgeGroups(const Case& judged)
+{
+    const std::set<std::string> used = UsedGroups(judged.description);
+    const auto& groups = judged.description.outputs;
+    for (auto group = groups.begin(); group != groups.end(); ++group)
+    {
+        const ClytSpan place = judged.description.PlaceOf(group->header.line);
+        const auto later = std::find_if(std::next(group), groups.end(),
+                                        [&](const OutputGroup& other) { return other.name == group->name; });
+        if (later != groups.end())
+            judged.findings.Add(groupTwice, place,
+                                "the group " + InQuotes(group->name) + " in line " +
+                                    std::to_string(later->header.line) + " takes the place of this one",
+                                "give each group a name of its own");
+        else if (!used.contains(group->name))
+            judged.findings.Add(groupUnused, place, "nothing uses the group " + InQuotes(group->name),
+                                "name it in a FILLEDBY, DIALOG or ACTION, or take it away");
+        else if (group->rules.IsEmpty() && group->name == lytParentName)
+            judged.findings.Add(noResult, place, "there is no rule for the dialog's result, and OK does nothing",
+                                "add a rule, as (\"%s\", Name)");
+        else if (group->rules.IsEmpty())
+            judged.findings.Add(groupEmpty, place, "the group " + InQuotes(group->name) + " has no rule",
+                                "add one, as (\"%s\", Name)");
+    }
+}
+
+void JudgeOrder(const Case& judged, const OutputGroup& group)
+{
+    const ClytDialogOutput* always = nullptr;
+    for (const ClytDialogOutput* rule : Records(group.rules))
+    {
+        if (always != nullptr)
+            judged.findings.Add(unreached, judged.description.PlaceOf(rule->span.line),
+                                "the rule in line " + std::to_string(always->span.line) +
+                                    " always holds, so this one is never used",
+                                "put it before that rule");
+        else if (rule->conditions.IsEmpty())
+            always = rule;
+    }
+    if (always == nullptr && !group.rules.IsEmpty() && group.name == lytParentName)
+        judged.findings.Add(noDefault, judged.description.PlaceOf(group.rules.GetTail()->span.line),
+                            "OK does nothing when this rule does not hold either",
+                            "add a last rule without conditions");
+}
+
+// Rules.
+
+void JudgeConditions(const Case& judged, const ClytDialogOutput& rule)
+{
+    for (const ClytCtrlValList* asked : Records(rule.conditions))
+    {
+        const std::string name = asked->GetName().GetString();
+        if (judged.description.FindControl(name) == nullptr)
+            judged.findings
+                .Add(condition, asked->GetSpan(), "there is no control " + InQuotes(name),
+                     HintFor(name, ControlNames(judged.description), "name a control of $LAYOUT"))
+                .number = "245";
+        JudgeValues(judged, conditionValue, *asked, NullMeans::Empty);
+        if (!asked->GetValues().IsEmpty())
+            JudgeReadControl(judged, valueless, name, asked->GetSpan());
+    }
+}
+
+// A word in quotes is meant as it is.
+bool IsQuoted(const Description& description, const ClytSpan& place)
+{
+    const std::string& line = description.text.Line(place.line).text;
+    const auto before = static_cast<size_t>(place.column) - 1;
+    return place.column > 0 && before < line.size() && line[before] == '"';
+}
+
+void JudgeUnknownItem(const Case& judged, const ClytOutputItem& given)
+{
+    const std::string name = given.text.GetString();
+    const std::string hint = HintFor(name, ControlNames(judged.description), "");
+    if (!given.action.IsEmpty())
+        judged.findings.Add(item, given.span,
+                            "there is no list " + InQuotes(name) + ": the word itself goes into the text",
+                            hint.empty() ? "name a list of $LAYOUT" : hint);
+    else if (!hint.empty() && !IsQuoted(judged.description, given.span))
+        judged.findings.Add(item, given.span,
+                            "there is no control " + InQuotes(name) + ": the word itself goes into the text",
+                            hint + " Put a text in quotes");
+}
+
+void JudgeAllItems(const Case& judged, const ClytOutputItem& given, const ClytControlStatement& control)
+{
+    const ControlKind kind = KindOf(control);
+    const std::string name = given.text.GetString();
+    const bool isCombo = kind == ControlKind::ComboBox || kind == ControlKind::DropListBox;
+    if (!HasItems(kind))
+    {
+        judged.findings.Add(noList, given.span,
+                            "a " + std::string(control.type.GetString()) + " has no items: this is empty",
+                            "leave the brackets out, or name a list");
+        return;
+    }
+    if (isCombo && GetsItems(judged.description, name))
+        judged.findings.Add(comboItems, given.span,
+                            "items of " + InQuotes(name) + " that are no text keys go out as \"no value present\"",
+                            "take a ListBox or CheckListBox");
+    if (lytMeans<ClytFillAction::Concat>(given.action))
+        judged.findings.Add(blanks, given.span, "a blank comes before, between and after the items",
+                            "name a separator, as " + name + "(\"|\")");
+    else if (given.action.GetLength() > 3)
+        judged.findings.Add(longSeparator, given.span, "only the first three characters in the brackets count",
+                            "one between the items, one before them and one after them");
+}
+
+void JudgeItems(const Case& judged, const ClytDialogOutput& rule)
+{
+    for (const ClytOutputItem& given : rule.items)
+    {
+        const ClytControlStatement* control = judged.description.FindControl(given.text.GetString());
+        if (control == nullptr)
+            JudgeUnknownItem(judged, given);
+        else if (given.text.IsEmpty() || KindOf(*control) == ControlKind::Unknown)
+            continue;
+        else if (!given.action.IsEmpty())
+            JudgeAllItems(judged, given, *control);
+        else
+            JudgeReadControl(judged, valueless, given.text.GetString(), given.span);
+    }
+}
+
+} // namespace
+
+Family OutputRules()
+{
+    return {{&noResult, &firstGroup, &groupTwice, &groupUnused, &groupEmpty, &noDefault, &unreached, &condition,
+             &conditionValue, &valueless, &item, &noList, &comboItems, &longSeparator, &blanks},
+            [](const Case& judged)
+            {
+                JudgeFirst(judged);
+                JudgeGroups(judged);
+                for (const OutputGroup& group : judged.description.outputs)
+                {
+                    JudgeOrder(judged, group);
+                    for (const ClytDialogOutput* rule : Records(group.rules))
+                    {
+                        if (judged.description.IsRefused(rule->span.line))
+                            continue;
+                        JudgeConditions(judged, *rule);
+                        JudgeItems(judged, *rule);
+                    }
+                }
+            }};
+}
+
+} // namespace lytdlg
