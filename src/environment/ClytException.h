@@ -19,6 +19,9 @@ public:
     static ClytPrefix OfKey(const char* key);
 
     CString Worded() const;
+    bool IsKey() const { return m_isKey; }
+    // The text or the key.
+    const CString& Get() const { return m_text; }
 
 private:
     CString m_text;
@@ -32,6 +35,7 @@ public:
     ClytException(CString textSection, CString textKey, ClytPrefix messagePrefix, CString textArgument);
 
     const CString& GetNumber() const { return number; }
+    const ClytPrefix& GetPrefix() const { return prefix; }
     const CString& GetArgument() const { return argument; }
 
     // The text of the key with the argument after its first apostrophe, below the prefix and a line feed when there is

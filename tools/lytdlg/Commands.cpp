@@ -46,67 +46,58 @@ int Tell(const char* text, ExitCode code)
 const std::vector<Command>& Commands()
 {
     static const std::vector<Command> commands = {
-        static const std::vector<Command> commands = {
-            CheckCommand(),
-            RunCommand(),
-            ScanCommand(),
-            ComposeCommand(),
-            RoundtripCommand(),
-            WhyCommand(),
-            TestCommand(),
-            FmtCommand(),
-            TextsCommand(),
-            NewCommand(),
-            PreviewCommand(),
-            GraphCommand(),
-            HelpCommand(),
-        };
+        CheckCommand(),   RunCommand(),   ScanCommand(), ComposeCommand(), RoundtripCommand(),
+        WhyCommand(),     TestCommand(),  FmtCommand(),  TextsCommand(),   NewCommand(),
+        PreviewCommand(), GraphCommand(), HelpCommand(),
+    };
+    return commands;
+}
 
-    const commandline::ProgramForm& TheProgram()
+const commandline::ProgramForm& TheProgram()
+{
+    static const commandline::ProgramForm form = []
     {
-        static const commandline::ProgramForm form = []
-        {
-            commandline::ProgramForm made = {
-                "lytdlg",
-                "lytdlg judges, tries, tests and draws dialog descriptions without the word processor.",
-                {},
-                {{"--help", nullptr, false, "print this text, or after a command its options"}},
-                "The program ends with 0 when all is well, with 1 when there is something to look at (findings,\n"
-                "differences, a dialog that was refused), and with 2 when the command line cannot be understood.\n"};
-            for (const Command& command : Commands())
-                made.commands.push_back(command.form);
-            return made;
-        }();
-        return form;
-    }
+        commandline::ProgramForm made = {
+            "lytdlg",
+            "lytdlg judges, tries, tests and draws dialog descriptions without the word processor.",
+            {},
+            {{"--help", nullptr, false, "print this text, or after a command its options"}},
+            "The program ends with 0 when all is well, with 1 when there is something to look at (findings,\n"
+            "differences, a dialog that was refused), and with 2 when the command line cannot be understood.\n"};
+        for (const Command& command : Commands())
+            made.commands.push_back(command.form);
+        return made;
+    }();
+    return form;
+}
 
-    int Run(const std::vector<std::string>& words)
+int Run(const std::vector<std::string>& words)
+{
+    try
     {
-        try
-        {
-            const Request request = ReadCommandLine(TheProgram(), words);
-            const auto command = std::ranges::find_if(Commands(), [&](const Command& candidate)
-                                                      { return request.command == candidate.form.word; });
-            return command->run(request);
-        }
-        catch (const commandline::UsageError& error)
-        {
-            Tell(error.what(), notUnderstood);
-            std::fprintf(stderr, "`lytdlg --help` lists commands and options.\n");
-            return notUnderstood;
-        }
-        catch (const std::exception& error)
-        {
-            return Tell(error.what(), found);
-        }
-        catch (CException* e)
-        {
-            CString message;
-            e->GetErrorMessage(message.GetBuffer(1024), 1024);
-            message.ReleaseBuffer();
-            e->Delete();
-            return Tell(message.GetString(), found);
-        }
+        const Request request = ReadCommandLine(TheProgram(), words);
+        const auto command = std::ranges::find_if(Commands(), [&](const Command& candidate)
+                                                  { return request.command == candidate.form.word; });
+        return command->run(request);
     }
+    catch (const commandline::UsageError& error)
+    {
+        Tell(error.what(), notUnderstood);
+        std::fprintf(stderr, "`lytdlg --help` lists commands and options.\n");
+        return notUnderstood;
+    }
+    catch (const std::exception& error)
+    {
+        return Tell(error.what(), found);
+    }
+    catch (CException* e)
+    {
+        CString message;
+        e->GetErrorMessage(message.GetBuffer(1024), 1024);
+        message.ReleaseBuffer();
+        e->Delete();
+        return Tell(message.GetString(), found);
+    }
+}
 
 } // namespace lytdlg

@@ -1,5 +1,5 @@
 // What the judge says and what the library does: samples, the inputs of the fuzzers, and mutations of both.
-#include "lytdlg/judge/FindingText.h"
+#include "lytdlg/judge/Report.h"
 #include "lytdlg/judge/LibraryVerdict.h"
 #include "lytdlg/text/TextFile.h"
 #include "support/RecordedMessages.h"

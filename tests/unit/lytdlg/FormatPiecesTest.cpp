@@ -1,6 +1,6 @@
 // A format is counted as the composition takes it apart.
 #include "lytdlg/judge/FormatPieces.h"
-#include "dialog/ClytDialogRules.h"
+#include "dialog/ClytDialog.h"
 
 #include <gtest/gtest.h>
 
@@ -18,7 +18,7 @@ std::string TakenByComposition(const char* format)
         items.Add(CString(mark));
     try
     {
-        const std::string text = ClytDialogRules::FormatOutput(format, items).GetString();
+        const std::string text = ClytDialog::FormatOutput(format, items).GetString();
         return std::to_string(std::ranges::count(text, mark));
     }
     catch (CException* e)

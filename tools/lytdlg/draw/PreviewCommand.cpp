@@ -7,8 +7,7 @@
 #include "lytdlg/draw/Screen.h"
 #include "lytdlg/text/LanguageFiles.h"
 #include "lytdlg/text/TextFile.h"
-#include "lytdlg/try/Listener.h"
-#include "lytdlg/try/Trial.h"
+#include "lytdlg/try/TrialRun.h"
 
 #include <algorithm>
 #include <cstdio>
@@ -53,19 +52,17 @@ std::string OnOneLine(const std::string& text)
 // Opens the dialog as a call does, lets somebody look at it, and closes it again.
 Opening Open(const Setup& setup, const Look& look)
 {
-    ItemsLibrary items(setup.items);
-    const Listener listener(items);
-    Trial trial(setup, items);
+    TrialRun run(setup, false);
     const auto step = [&look](const Trial& open)
     {
         if (const TrialDialog* top = open.Top())
             look(*top);
     };
-    const Outcome& outcome = trial.Run({step});
+    const Outcome& outcome = run.Run({}, step);
     if (outcome.ending == Ending::NotOpened)
         return {OnOneLine(outcome.failureNumber + ": " + outcome.failureMessage), {}};
     Opening opening;
-    for (const Event& event : trial.Events())
+    for (const Event& event : run.events)
         opening.messages.push_back(OnOneLine(event.text));
     return opening;
 }

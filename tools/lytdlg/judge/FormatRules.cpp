@@ -1,6 +1,6 @@
 #include "lytdlg/judge/FormatRules.h"
 
-#include "dialog/ClytDialogRules.h"
+#include "dialog/ClytDialog.h"
 #include "lytdlg/judge/Conditions.h"
 #include "lytdlg/judge/Controls.h"
 #include "lytdlg/judge/FormatPieces.h"

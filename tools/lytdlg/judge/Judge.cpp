@@ -27,21 +27,20 @@ Surroundings SurroundingsOf(const std::string& folder, const std::vector<std::st
 
 const std::vector<Family>& Families()
 {
-    // The library comes last: it looks whether a finding stands for its failure.
-    // The library comes last: it looks whether a finding stands for its failure.
+    // In the order of the sections. The library comes last: it looks whether a finding stands for its failure.
     static const std::vector<Family> families = {
         SectionRules(),
         StatementRules(),
-        EvaluationRules(),
-        ScanRules(),
-        SeparatorRules(),
-        FillRules(),
         LineRules(),
         LayoutRules(),
         ValueRules(),
         ActionRules(),
         DependencyRules(),
         ConditionRules(),
+        EvaluationRules(),
+        ScanRules(),
+        SeparatorRules(),
+        FillRules(),
         OutputRules(),
         FormatRules(),
         IgnoreRules(),

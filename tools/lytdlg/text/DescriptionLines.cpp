@@ -143,7 +143,7 @@ private:
         m_section = Section::Header;
         ReadVersionHeader(text);
         m_section = Section::Dialog;
-        ReadDialogHeader(number, number, text, text);
+        static_cast<void>(ReadDialogHeader(number, number, text, text)); // what follows is read in any case
         m_section = Section::Controls;
         ClytControlStatement control;
         while (ReadControlStatement(control) != 0)

@@ -86,7 +86,7 @@ private:
             m_section = words.GetAt(words.FindIndex(1)).GetString();
         CString title;
         int number = 0;
-        m_file.ReadDialogHeader(number, number, title, text);
+        static_cast<void>(m_file.ReadDialogHeader(number, number, title, text)); // what follows is read in any case
         Use(m_section, title);
     }
 

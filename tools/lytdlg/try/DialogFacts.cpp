@@ -28,7 +28,7 @@ public:
         m_file.ReadVersionHeader(text);
         PassHeader();
         int length = 0;
-        m_file.ReadDialogHeader(length, length, text, text);
+        static_cast<void>(m_file.ReadDialogHeader(length, length, text, text)); // what follows is read in any case
         ReadControls();
         ReadValues();
         for (ClytControlDep rule; m_file.ReadDependencyStatement(rule) == 1;)
