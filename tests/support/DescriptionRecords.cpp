@@ -31,11 +31,11 @@ public:
             Add(texts.GetNext(place));
         return *this;
     }
-    Record& Add(const CStringArray& texts)
+    Record& Add(const std::vector<ClytOutputItem>& items)
     {
-        Add(static_cast<int>(texts.GetCount()));
-        for (int i = 0; i < texts.GetCount(); ++i)
-            Add(texts[i]);
+        Add(static_cast<int>(items.size()));
+        for (const ClytOutputItem& item : items)
+            Add(item.text).Add(item.action);
         return *this;
     }
     Record& Add(const ClytCtrlValList& condition) { return Add(condition.GetName()).Add(condition.GetValues()); }
@@ -101,7 +101,8 @@ class Reading
 public:
     Reading(const std::string& fileName, const std::string& defines) : m_sink(m_heard), m_file(defines.c_str(), m_sink)
     {
-        m_file.Open(fileName.c_str(), CFile::modeRead);
+        if (m_file.Open(fileName.c_str(), CFile::modeRead) == 0)
+            throw std::runtime_error("cannot open " + fileName);
     }
 
     std::string All()
@@ -203,7 +204,7 @@ private:
         {
             ClytDialogOutput rule;
             more = m_file.ReadOutputStatement(name, rule);
-            Keep("output", name, rule.conditions, rule.format, rule.items, rule.actions);
+            Keep("output", name, rule.conditions, rule.format, rule.items);
         }
     }
 

@@ -75,7 +75,9 @@ TEST(FmtCommand, TakesTheStandardInputToTheStandardOutput)
 {
     const TestFolder folder;
     const StandardInput input(folder.Write("in.dlg", "$VERSION  1\r\n$LAYOUT  S\r\n"));
-    EXPECT_EQ(CommandRun({"fmt", "-"}), CommandRun(0, "$VERSION 1\r\n$LAYOUT S\r\n"));
+    // The capture is read as a text, which on Windows takes one CR from each line end: more would show.
+    const std::string end = fs::path::preferred_separator == '\\' ? "\n" : "\r\n";
+    EXPECT_EQ(CommandRun({"fmt", "-"}), CommandRun(0, "$VERSION 1" + end + "$LAYOUT S" + end));
     const StandardInput again(folder.Write("in.dlg", written));
     EXPECT_EQ(CommandRun({"fmt", "-", "--check"}), CommandRun(1, "-\n"));
 }

@@ -3,6 +3,7 @@
 #include "lytdlg/text/TextFile.h"
 #include "support/FormattingProof.h"
 
+#include <algorithm>
 #include <gtest/gtest.h>
 
 namespace
@@ -46,7 +47,7 @@ TEST(Formatting, ChangesNothingThatIsReadOfTheSamples)
 TEST(Formatting, ChangesNothingThatIsReadOfChangedSamples)
 {
     FmtMutations mutations(Seeds());
-    for (unsigned number = 0; number < 3000; number += LYT_FMT_STEP)
+    for (unsigned number = 0; number < 2400; number += LYT_FMT_STEP)
     {
         const std::string text = mutations.Changed(number);
         ASSERT_EQ(BreachOfFormatting(text), "") << number << ":\n" << text;
@@ -55,7 +56,7 @@ TEST(Formatting, ChangesNothingThatIsReadOfChangedSamples)
 
 TEST(Formatting, ChangesNothingThatIsReadOfRandomStatements)
 {
-    for (unsigned number = 0; number < 1500; number += LYT_FMT_STEP)
+    for (unsigned number = 0; number < 800; number += LYT_FMT_STEP)
     {
         const std::string text = FmtMutations::Generated(number);
         ASSERT_EQ(BreachOfFormatting(text), "") << number << ":\n" << text;

@@ -314,3 +314,17 @@ TEST(Fmt, LeavesTheSamplesAsTheyAre)
         EXPECT_EQ(lytdlg::FormattedDescription(file, content), content) << file;
     }
 }
+
+TEST(Fmt, SaysSoWhenTheLibraryCannotOpenAFile)
+{
+    const std::string name(300, 'x');
+    try
+    {
+        lytdlg::FormattedDescription(name, "");
+        FAIL();
+    }
+    catch (const std::runtime_error& failure)
+    {
+        EXPECT_EQ(failure.what(), "the library cannot open " + name + "; check its name and its rights");
+    }
+}

@@ -91,7 +91,7 @@ std::set<std::string> CheckBoxValues(const Description& description, const std::
 std::set<std::string> OptionValues(const Description& description, const std::string& group)
 {
     std::set<std::string> values;
-    for (const ClytControlStatement* option : OptionsOf(description, group))
+    for (const ClytControlStatement* option : OptionButtonsOf(description, group))
         values.insert(OwnValue(description, option->name.GetString()));
     return values;
 }
@@ -152,17 +152,6 @@ bool HasValue(ControlKind kind)
     }
 }
 
-std::vector<std::string> ControlNames(const Description& description)
-{
-    std::vector<std::string> names;
-    for (const ClytControlStatement& control : description.controls)
-    {
-        if (!control.name.IsEmpty())
-            names.emplace_back(control.name.GetString());
-    }
-    return names;
-}
-
 std::string HintFor(const std::string& word, const std::vector<std::string>& known, const std::string& otherwise)
 {
     constexpr size_t fewestLetters = 3; // any two shorter words are close
@@ -172,11 +161,6 @@ std::string HintFor(const std::string& word, const std::vector<std::string>& kno
         return "did you mean " + InQuotes(*sameLetters) + "?";
     const std::string nearest = word.size() < fewestLetters ? "" : commandline::Nearest(word, known);
     return nearest.empty() ? otherwise : "did you mean " + InQuotes(nearest) + "?";
-}
-
-std::string InQuotes(const std::string& word)
-{
-    return "\"" + word + "\"";
 }
 
 std::vector<const ValueStatement*> StatementsOf(const Description& description, const std::string& name)
@@ -232,7 +216,7 @@ bool GetsItems(const Description& description, const std::string& name)
            std::ranges::any_of(description.inputs, [&](const InputPart& part) { return IsFilledByInput(part, name); });
 }
 
-std::vector<const ClytControlStatement*> OptionsOf(const Description& description, const std::string& group)
+std::vector<const ClytControlStatement*> OptionButtonsOf(const Description& description, const std::string& group)
 {
     std::vector<const ClytControlStatement*> options;
     bool isInGroup = false;

@@ -1,7 +1,7 @@
 // What the controls of a description are and what they can hold, as far as the description tells.
 #pragma once
 
-#include "lytdlg/judge/Description.h"
+#include "lytdlg/judge/Names.h"
 
 #include <optional>
 #include <set>
@@ -38,10 +38,8 @@ bool AddsItems(const ClytControlFill& fill);
 // Whether the piece of the input goes into the control.
 bool TakesPiece(const ClytControlFill& fill);
 
-std::vector<std::string> ControlNames(const Description& description);
 // "did you mean ...?" when one of the known words is close, else the other text.
 std::string HintFor(const std::string& word, const std::vector<std::string>& known, const std::string& otherwise);
-std::string InQuotes(const std::string& word);
 
 std::vector<const ValueStatement*> StatementsOf(const Description& description, const std::string& name);
 // Whether the control has a statement whose value is that option, as HIDDEN.
@@ -53,7 +51,7 @@ std::vector<const ValueStatement*> ItemsOf(const Description& description, const
 // Whether a list gets items from elsewhere than $VALUES.
 bool GetsItems(const Description& description, const std::string& name);
 // The option buttons of a group.
-std::vector<const ClytControlStatement*> OptionsOf(const Description& description, const std::string& group);
+std::vector<const ClytControlStatement*> OptionButtonsOf(const Description& description, const std::string& group);
 // The values that the control can have beside the empty one; nothing when it can have any.
 std::optional<std::set<std::string>> PossibleValues(const Description& description,
                                                     const ClytControlStatement& control);

@@ -126,7 +126,7 @@ public:
         ReadHead();
         ReadRules();
         ReadInputs();
-        m_section = Section::Output;
+        m_section = LineSection::Output;
         CString name;
         for (int more = 1; more != 0;)
         {
@@ -140,11 +140,11 @@ private:
     {
         CString text;
         int number = 0;
-        m_section = Section::Header;
+        m_section = LineSection::Header;
         ReadVersionHeader(text);
-        m_section = Section::Dialog;
+        m_section = LineSection::Dialog;
         static_cast<void>(ReadDialogHeader(number, number, text, text)); // what follows is read in any case
-        m_section = Section::Controls;
+        m_section = LineSection::Controls;
         ClytControlStatement control;
         while (ReadControlStatement(control) != 0)
             continue;
@@ -154,16 +154,16 @@ private:
     {
         CString text;
         CStringList words;
-        m_section = Section::Values;
+        m_section = LineSection::Values;
         while (ReadValueStatement(text, text, words) != 0)
             continue;
-        m_section = Section::Dependencies;
+        m_section = LineSection::Dependencies;
         for (int more = 1; more != 0;)
         {
             ClytControlDep rule;
             more = ReadDependencyStatement(rule);
         }
-        m_section = Section::Evaluation;
+        m_section = LineSection::Evaluation;
         for (int more = 1; more != 0;)
         {
             ClytCtrlValList own;
@@ -175,32 +175,37 @@ private:
     void ReadInputs()
     {
         CString name;
-        m_section = Section::FirstInput;
+        m_section = LineSection::FirstInput;
         while (ReadInputHeader(name) != 0)
         {
-            m_section = Section::Input;
+            m_section = LineSection::Input;
             ClytInputPart part;
             ReadInputPart(part);
-            m_section = Section::FirstInput;
+            m_section = LineSection::FirstInput;
         }
     }
 
     NumberedLines& m_lines;
-    Section m_section = Section::Header;
+    LineSection m_section = LineSection::Header;
 };
 
 void ReadUnder(const std::string& choice, const std::filesystem::path& fileName, NumberedLines& lines)
 {
     RefusalSink sink(lines);
     NotingFile file(lines, choice, sink);
-    const std::string name = fileName.string();
-    if (file.Open(name.c_str(), CFile::modeRead) == 0)
-        lytRaise("207", CString(), name.c_str());
+    OpenDescription(file, fileName);
     file.ReadAll();
     file.Close();
 }
 
 } // namespace
+
+void OpenDescription(CStdioFile& file, const std::filesystem::path& fileName)
+{
+    const std::string name = fileName.string();
+    if (file.Open(name.c_str(), CFile::modeRead) == 0)
+        throw std::runtime_error("the library cannot open " + name + "; check its name and its rights");
+}
 
 std::vector<std::string> DefinesOf(const std::vector<DescriptionLine>& lines)
 {

@@ -2,6 +2,8 @@
 // once for each choice of the defines that the file names.
 #pragma once
 
+#include <afx.h>
+
 #include <bitset>
 #include <filesystem>
 #include <stdexcept>
@@ -12,7 +14,7 @@ namespace lytdlg
 {
 
 // What a line is read as; the words of each are cut by delimiters of their own.
-enum class Section
+enum class LineSection
 {
     Header, // up to the layout line
     Dialog, // up to the line of the dialog itself
@@ -49,8 +51,10 @@ public:
     using std::runtime_error::runtime_error;
 };
 
-// The lines of a file with its content, which has been read byte for byte. A file that the library cannot read raises its
-// failure.
+// Opens a description as the library does; throws std::runtime_error when it cannot.
+void OpenDescription(CStdioFile& file, const std::filesystem::path& fileName);
+
+// The lines of a file with its content, which has been read byte for byte.
 DescriptionLines ReadDescriptionLines(const std::filesystem::path& fileName, const std::string& content);
 
 // The names of the defines that the lines ask for, in their order, each once.

@@ -38,16 +38,16 @@ struct Line
     }
 };
 
-Section FirstOf(const Sections& sections)
+LineSection FirstOf(const Sections& sections)
 {
     size_t section = 0;
     while (!sections[section])
         ++section;
-    return static_cast<Section>(section);
+    return static_cast<LineSection>(section);
 }
 
 // A line with words.
-void JudgeStatement(Line& line, const Statement& statement, Section section)
+void JudgeStatement(Line& line, const Statement& statement, LineSection section)
 {
     const std::optional<std::string> code = LaidOut(statement, section);
     line.isHeading = IsHeading(statement, section);
@@ -62,7 +62,7 @@ Line Judged(const DescriptionLine& source)
     line.source = &source;
     if (source.sections.none() || !source.isPlain)
         return line;
-    const Section section = FirstOf(source.sections);
+    const LineSection section = FirstOf(source.sections);
     const std::optional<Statement> statement = CutStatement(source.text, section);
     if (!statement)
         return line;
@@ -70,7 +70,7 @@ Line Judged(const DescriptionLine& source)
     line.oldColumn = statement->commentColumn;
     line.isBlank = statement->words.empty() && line.comment.empty();
     if (statement->words.empty())
-        line.isKept = section == Section::Header;
+        line.isKept = section == LineSection::Header;
     else
         JudgeStatement(line, *statement, section);
     return line;
@@ -140,7 +140,7 @@ bool IsReadAlike(const DescriptionLine& source, const std::string& text)
 {
     for (size_t section = 0; section < source.sections.size(); ++section)
     {
-        if (source.sections[section] && !ReadsAlike(source.text, text, static_cast<Section>(section)))
+        if (source.sections[section] && !ReadsAlike(source.text, text, static_cast<LineSection>(section)))
             return false;
     }
     // These would be marks of a define, and no line at all.

@@ -63,12 +63,12 @@ private:
 };
 
 // In these sections the readers look at the words alone.
-bool IgnoresDelimiters(Section section)
+bool IgnoresDelimiters(LineSection section)
 {
-    return section <= Section::Controls;
+    return section <= LineSection::Controls;
 }
 
-bool IsSameToken(const ClytToken& left, const ClytToken& right, Section section)
+bool IsSameToken(const ClytToken& left, const ClytToken& right, LineSection section)
 {
     return left.GetText() == right.GetText() &&
            (IgnoresDelimiters(section) || left.GetDelimiter() == right.GetDelimiter());
@@ -76,7 +76,7 @@ bool IsSameToken(const ClytToken& left, const ClytToken& right, Section section)
 
 } // namespace
 
-const DelimiterSet& DelimitersOf(Section section)
+const DelimiterSet& DelimitersOf(LineSection section)
 {
     static constexpr std::array sets = {&lytHeaderDelimiters,     &lytDialogDelimiters,     &lytControlDelimiters,
                                         &lytValueDelimiters,      &lytDependencyDelimiters, &lytEvaluationDelimiters,
@@ -84,7 +84,7 @@ const DelimiterSet& DelimitersOf(Section section)
     return *sets.at(static_cast<size_t>(section));
 }
 
-std::optional<Statement> CutStatement(const std::string& line, Section section)
+std::optional<Statement> CutStatement(const std::string& line, LineSection section)
 {
     ClytTokenList tokens;
     if (lytTokenize(line.c_str(), DelimitersOf(section), tokens) != nullptr)
@@ -98,7 +98,7 @@ std::optional<Statement> CutStatement(const std::string& line, Section section)
     return cutter.Finish();
 }
 
-bool ReadsAlike(const std::string& left, const std::string& right, Section section)
+bool ReadsAlike(const std::string& left, const std::string& right, LineSection section)
 {
     ClytTokenList ofLeft;
     ClytTokenList ofRight;

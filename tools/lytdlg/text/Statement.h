@@ -29,18 +29,18 @@ struct Statement
     size_t commentColumn = 0;
 };
 
-const DelimiterSet& DelimitersOf(Section section);
+const DelimiterSet& DelimitersOf(LineSection section);
 
 // Cuts a line into its words. Nothing where a quote stays open, and where something stands that no reader sees.
-std::optional<Statement> CutStatement(const std::string& line, Section section);
+std::optional<Statement> CutStatement(const std::string& line, LineSection section);
 
 // The statement without its comment, indented. Nothing where the section has no form for it.
-std::optional<std::string> LaidOut(const Statement& statement, Section section);
+std::optional<std::string> LaidOut(const Statement& statement, LineSection section);
 
 // True when the readers of the section find the same in both lines.
-bool ReadsAlike(const std::string& left, const std::string& right, Section section);
+bool ReadsAlike(const std::string& left, const std::string& right, LineSection section);
 
 // True for the line of a section, or of the dialog itself and its end: it stands at the margin.
-bool IsHeading(const Statement& statement, Section section);
+bool IsHeading(const Statement& statement, LineSection section);
 
 } // namespace lytdlg

@@ -82,17 +82,14 @@ std::optional<std::string> ControlForm(const std::vector<Word>& words)
         return Unquoted(words[0]) + " " + Unquoted(words[1]);
     if (words.size() < 5 || words.size() > 7)
         return std::nullopt;
-    std::string code = WithNumbers(words);
+    const std::string numbers = WithNumbers(words);
     if (words.size() == 5)
-        return code;
-    const bool isTextNext = !IsName(words[5]);
-    if (isTextNext)
-        code += " " + InQuotes(words[5]);
-    if (words.size() == 7)
-        code += ",";
-    if (words.size() == 7 ? !isTextNext || !IsName(words[6]) : false)
+        return numbers;
+    if (words.size() == 6)
+        return numbers + " " + (IsName(words[5]) ? Unquoted(words[5]) : InQuotes(words[5]));
+    if (IsName(words[5]) || !IsName(words[6]))
         return std::nullopt;
-    return isTextNext && words.size() == 6 ? code : code + " " + Unquoted(words.back());
+    return numbers + " " + InQuotes(words[5]) + ", " + Unquoted(words[6]);
 }
 
 std::optional<std::string> HeadForm(const std::vector<Word>& words)
@@ -113,14 +110,14 @@ std::optional<std::string> DialogForm(const std::vector<Word>& words)
     return code;
 }
 
-std::optional<std::string> LayoutForm(const Statement& statement, Section section)
+std::optional<std::string> LayoutForm(const Statement& statement, LineSection section)
 {
     const std::vector<Word>& words = statement.words;
     if (std::ranges::any_of(words, IsMissing))
         return std::nullopt;
-    if (section == Section::Header)
+    if (section == LineSection::Header)
         return HeadForm(words);
-    if (section == Section::Dialog)
+    if (section == LineSection::Dialog)
         return DialogForm(words);
     if (!IsHeading(statement, section))
         return ControlForm(words);
@@ -167,13 +164,13 @@ std::vector<size_t> OutputTexts(const std::vector<Word>& words)
     return texts;
 }
 
-std::vector<size_t> QuotedTexts(const std::vector<Word>& words, Section section)
+std::vector<size_t> QuotedTexts(const std::vector<Word>& words, LineSection section)
 {
     switch (section)
     {
-    case Section::FirstInput:
-    case Section::Input: return ScanSeparators(words);
-    case Section::Output: return OutputTexts(words);
+    case LineSection::FirstInput:
+    case LineSection::Input: return ScanSeparators(words);
+    case LineSection::Output: return OutputTexts(words);
     default: return {};
     }
 }
@@ -195,7 +192,7 @@ const char* SpacedDelimiter(char delimiter)
     }
 }
 
-std::optional<std::string> RuleForm(const std::vector<Word>& words, Section section)
+std::optional<std::string> RuleForm(const std::vector<Word>& words, LineSection section)
 {
     const std::vector<size_t> quoted = QuotedTexts(words, section);
     std::string code;
@@ -215,17 +212,17 @@ std::optional<std::string> RuleForm(const std::vector<Word>& words, Section sect
 
 } // namespace
 
-bool IsHeading(const Statement& statement, Section section)
+bool IsHeading(const Statement& statement, LineSection section)
 {
     const std::string& word = statement.words.front().text;
-    return section <= Section::Dialog || (section == Section::Controls && word == "End") ||
+    return section <= LineSection::Dialog || (section == LineSection::Controls && word == "End") ||
            std::ranges::find(headings, word) != headings.end();
 }
 
-std::optional<std::string> LaidOut(const Statement& statement, Section section)
+std::optional<std::string> LaidOut(const Statement& statement, LineSection section)
 {
     const std::optional<std::string> code =
-        section <= Section::Controls ? LayoutForm(statement, section) : RuleForm(statement.words, section);
+        section <= LineSection::Controls ? LayoutForm(statement, section) : RuleForm(statement.words, section);
     if (!code || IsHeading(statement, section))
         return code;
     return indentation + *code;

@@ -128,7 +128,7 @@ void TextTable::Judge(TextRow& row) const
         const auto numberOf = [](const std::string& count) { return count.substr(count.rfind(' ')); };
         const auto& ofMark = counts.at(i);
         if (std::ranges::adjacent_find(ofMark, std::ranges::not_equal_to(), numberOf) != ofMark.end())
-            row.remarks.push_back(std::string("other ") + marks.at(i).name + ": " + Joined(ofMark));
+            row.remarks.push_back(std::string("different ") + marks.at(i).name + ": " + Joined(ofMark));
     }
 }
 

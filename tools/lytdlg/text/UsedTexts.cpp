@@ -50,9 +50,7 @@ public:
     DialogReader(const std::filesystem::path& fileName, const std::string& defines, std::vector<TextUse>& uses)
         : m_name(fileName.filename().string()), m_file(defines.c_str(), m_sink), m_uses(uses)
     {
-        const std::string path = fileName.string();
-        if (m_file.Open(path.c_str(), CFile::modeRead) == 0)
-            lytRaise("207", CString(), path.c_str());
+        OpenDescription(m_file, fileName);
     }
 
     void Read()
@@ -119,7 +117,7 @@ private:
 
     void ReadItem(const std::string& type, const CString& keyword, const CStringList& values)
     {
-        const ClytKeyword meaning = lytMeaningOf<ClytKeyword>(keyword);
+        const auto meaning = lytMeaningOf<ClytKeyword>(keyword);
         if (meaning == ClytKeyword::FilledBy)
         {
             if (IsCombo(type) && values.GetCount() > firstItemPlace)
@@ -133,7 +131,7 @@ private:
 
     void ReadButton(const CString& keyword, const CStringList& values)
     {
-        const ClytAction action = lytMeaningOf<ClytAction>(keyword);
+        const auto action = lytMeaningOf<ClytAction>(keyword);
         if ((action == ClytAction::Visible || action == ClytAction::Active) && values.GetCount() > 1)
             Use(m_section, values.GetAt(values.FindIndex(1)));
     }
@@ -177,7 +175,7 @@ std::vector<TextUse> TextsOfDialog(const std::filesystem::path& fileName)
     for (const std::string& choice : ChoicesOf(DefinesOf(split.lines)))
         DialogReader(fileName, choice, uses).Read();
     std::ranges::stable_sort(uses, IsEarlier);
-    uses.erase(std::ranges::unique(uses, IsSameUse).begin(), uses.end());
+    uses.erase(std::unique(uses.begin(), uses.end(), IsSameUse), uses.end());
     return uses;
 }
 

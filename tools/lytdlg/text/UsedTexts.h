@@ -18,7 +18,7 @@ struct TextUse
 };
 
 // What the dialog asks for under any choice of its defines, in the order of its lines. Lines that the library refuses ask
-// for nothing. A file that the library cannot read raises its failure.
+// for nothing. Throws as OpenDescription does.
 std::vector<TextUse> TextsOfDialog(const std::filesystem::path& fileName);
 
 // Buttons, the window of the catalogue and the numbered messages.
