@@ -3,7 +3,7 @@
 #include "WellFormed.h"
 #include "dialog/ClytDialog.h"
 #include "environment/ClytEnvironment.h"
-#include "lytdlg/try/Surroundings.h"
+#include "lytdlg/try/TrialEnvironment.h"
 #include "robot/WindowRobot.h"
 
 #include <fstream>
@@ -43,7 +43,7 @@ Places PlacesOfWindow(HWND dialog)
 
 Places PlacesOfLiveDialog(const std::string& name, const std::string& language)
 {
-    const lytdlg::Surroundings surroundings({.dialog = samplesFolder + name + ".dlg", .language = language});
+    const lytdlg::TrialEnvironment surroundings({.dialog = samplesFolder + name + ".dlg", .language = language});
     Places places;
     robot::Robot robot;
     robot.On("",
