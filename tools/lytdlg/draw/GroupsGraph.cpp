@@ -26,8 +26,8 @@ std::string ValueOf(const ValueStatement& statement, size_t index)
 class UseGraph
 {
 public:
-    UseGraph(const std::string& title, const Description& description, const std::string& dialogFolder)
-        : m_dot(title + ": output groups"), m_description(description), m_folder(dialogFolder)
+    UseGraph(const std::string& title, const Description& description, std::string dialogFolder)
+        : m_dot(title + ": output groups"), m_description(description), m_folder(std::move(dialogFolder))
     {
     }
 
