@@ -1,4 +1,4 @@
-// The data source of the samples, as the browser shows it.
+// The data source of the samples, as the browser shows it. Natively the test source has functions of the same names.
 #include "TreeFixture.h"
 
 #include <algorithm>

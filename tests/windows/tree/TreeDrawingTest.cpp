@@ -1,4 +1,4 @@
-// What the browser draws.
+// What the browser draws. Nothing is drawn on windows in memory.
 #include "TreeFixture.h"
 
 using TreeDrawing = TreeTest;
