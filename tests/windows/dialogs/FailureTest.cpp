@@ -73,7 +73,7 @@ TEST_F(Failure, WindowThatCannotBeCreatedIs202WithItsName)
             [&](const CREATESTRUCTA& create)
             {
                 return create.hwndParent == nullptr || GetParent(create.hwndParent) != nullptr ||
-                       (create.style & WS_CHILD) == 0 || ++made != 4;
+                       (static_cast<DWORD>(create.style) & WS_CHILD) == 0 || ++made != 4;
             });
         robot.When(
             "message", [] { return robot::IsMessageBox(robot::ActiveDialog()); },

@@ -26,7 +26,8 @@ RECT PlaceOf(HWND control)
 // Keeps the size with which an option button is created, and allows every window.
 bool NoteOptionButton(const CREATESTRUCTA& create, SIZE& created)
 {
-    if ((create.style & BS_TYPEMASK) == BS_AUTORADIOBUTTON && (create.style & WS_CHILD) != 0)
+    const auto style = static_cast<DWORD>(create.style);
+    if ((style & BS_TYPEMASK) == BS_AUTORADIOBUTTON && (style & WS_CHILD) != 0)
         created = {create.cx, create.cy};
     return true;
 }

@@ -38,7 +38,7 @@ std::string TypeOf(HWND window)
     const std::string name = robot::ClassOf(window);
     if (name != "Button")
         return name;
-    switch (GetWindowLongA(window, GWL_STYLE) & BS_TYPEMASK)
+    switch (static_cast<DWORD>(GetWindowLongA(window, GWL_STYLE)) & BS_TYPEMASK)
     {
     case BS_GROUPBOX: return "GroupBox";
     case BS_PUSHBUTTON:
