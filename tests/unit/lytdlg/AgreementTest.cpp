@@ -1,8 +1,7 @@
 // What the judge says and what the library does: samples, the inputs of the fuzzers, and mutations of both.
-#include "lytdlg/judge/Report.h"
 #include "lytdlg/judge/LibraryVerdict.h"
+#include "lytdlg/judge/Report.h"
 #include "lytdlg/text/TextFile.h"
-#include "support/RecordedMessages.h"
 
 #include <gtest/gtest.h>
 
@@ -108,7 +107,6 @@ Verdict VerdictOn(const std::string& bytes)
         verdict.text += TextOf(finding, description, false);
         verdict.isForeseen = verdict.isForeseen && finding.rule->id != std::string("refused");
     }
-    TakeMessages();
     return verdict;
 }
 

@@ -7,7 +7,7 @@
 #include "lytdlg/text/NewDialog.h"
 #include "lytdlg/text/TextFile.h"
 #include "lytdlg/text/TextTable.h"
-#include "support/RecordedMessages.h"
+#include "robot/WindowRobot.h"
 #include "support/TestFolder.h"
 
 #include <gtest/gtest.h>
@@ -83,8 +83,10 @@ TEST(New, MakesADialogThatOpensAndGivesAResult)
     EXPECT_STREQ(form.GetResult(), "area=20");
     form.Enter("Name", "");
     EXPECT_FALSE(form.IsEnabled("Value"));
+    robot::Robot robot;
+    robot.AnswerMessage();
     EXPECT_FALSE(form.Confirm());
-    EXPECT_EQ(TakeMessages(), std::vector<std::string>{"Please enter a name."});
+    EXPECT_EQ(robot.Messages(), std::vector<std::string>{"Please enter a name."});
 }
 
 TEST(New, SpeaksEachLanguage)
@@ -95,8 +97,10 @@ TEST(New, SpeaksEachLanguage)
     LiveForm form(folder.File("mine.dlg").c_str());
     ASSERT_TRUE(form.Open());
     EXPECT_EQ(WindowText(form), "Eigenschaften von mine");
+    robot::Robot robot;
+    robot.AnswerMessage();
     EXPECT_FALSE(form.Confirm());
-    EXPECT_EQ(TakeMessages(), std::vector<std::string>{"Bitte einen Namen eingeben."});
+    EXPECT_EQ(robot.Messages(), std::vector<std::string>{"Bitte einen Namen eingeben."});
 }
 
 TEST(New, LeavesNothingToFormatAndNoTextMissing)
