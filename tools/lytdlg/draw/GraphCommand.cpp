@@ -3,7 +3,6 @@
 #include "lytdlg/draw/Graphs.h"
 #include "lytdlg/draw/Output.h"
 #include "lytdlg/draw/RunProgram.h"
-#include "lytdlg/draw/ScratchFile.h"
 #include "lytdlg/text/TextFile.h"
 
 #include <cstdio>
@@ -39,9 +38,8 @@ ExitCode TellMistakes(const Description& description)
 
 void WriteSvg(const std::string& target, const std::string& graph)
 {
-    const ScratchFile source(".dot");
-    WriteOut(source.Name(), graph);
-    const int code = RunProgram({"dot", "-Tsvg", "-o", target, source.Name()});
+    const TemporaryFile source(graph);
+    const int code = RunProgram({"dot", "-Tsvg", "-o", target, source.Name().string()});
     if (code < 0)
         throw std::runtime_error(
             "an .svg needs Graphviz, which is not installed: apt-get install graphviz, or on Windows "

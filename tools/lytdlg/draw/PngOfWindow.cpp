@@ -1,7 +1,7 @@
 #include "lytcall/Picture.h"
 #include "lytdlg/draw/Output.h"
 #include "lytdlg/draw/Png.h"
-#include "lytdlg/draw/ScratchFile.h"
+#include "lytdlg/text/TextFile.h"
 
 #include <stdexcept>
 
@@ -10,10 +10,10 @@ namespace lytdlg
 
 void WritePng(const std::string& file, HWND window, const std::string& /*svg*/)
 {
-    const ScratchFile bitmap(".bmp");
-    if (!lytcall::SavePicture(window, bitmap.Name()))
+    const TemporaryFile bitmap("");
+    if (!lytcall::SavePicture(window, bitmap.Name().string()))
         throw std::runtime_error("the window gives no picture");
-    WriteOut(file, PngOfBitmap(bitmap.Read()));
+    WriteOut(file, PngOfBitmap(ReadWholeFile(bitmap.Name()).value_or("")));
 }
 
 } // namespace lytdlg

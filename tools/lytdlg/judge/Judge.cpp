@@ -29,22 +29,9 @@ const std::vector<Family>& Families()
 {
     // In the order of the sections. The library comes last: it looks whether a finding stands for its failure.
     static const std::vector<Family> families = {
-        SectionRules(),
-        StatementRules(),
-        LineRules(),
-        LayoutRules(),
-        ValueRules(),
-        ActionRules(),
-        DependencyRules(),
-        ConditionRules(),
-        EvaluationRules(),
-        ScanRules(),
-        SeparatorRules(),
-        FillRules(),
-        OutputRules(),
-        FormatRules(),
-        IgnoreRules(),
-        LibraryRules(),
+        SectionRules(),    StatementRules(), LineRules(),       LayoutRules(),  ValueRules(),     ActionRules(),
+        DependencyRules(), ConditionRules(), EvaluationRules(), ScanRules(),    SeparatorRules(), FillRules(),
+        OutputRules(),     FormatRules(),    IgnoreRules(),     LibraryRules(),
     };
     return families;
 }

@@ -4,7 +4,7 @@
 #include "environment/ClytEnvironment.h"
 #include "environment/ProcessState.h"
 #include "liveform/LiveForm.h"
-#include "lytdlg/judge/ScratchFile.h"
+#include "lytdlg/text/TextFile.h"
 #include "robot/WindowRobot.h"
 
 #include <algorithm>
@@ -111,11 +111,11 @@ bool StandsFor(const Finding& finding, const Refusal& refusal)
 
 std::optional<Refusal> RefusalOf(const Description& description)
 {
-    const ScratchFile file(description.text.Bytes());
-    const WithoutTexts noTexts(file.Folder() + "/none");
+    const TemporaryFile file(description.text.Bytes());
+    const WithoutTexts noTexts((file.Name().parent_path() / "none").string());
     const BoxAnswerer answerer;
     lytInputKey.Empty();
-    LiveForm form(file.Path().c_str(), Joined(description.text.Defines()).c_str());
+    LiveForm form(file.Name().string().c_str(), Joined(description.text.Defines()).c_str());
     try
     {
         form.Construct();

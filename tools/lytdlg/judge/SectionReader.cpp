@@ -19,7 +19,7 @@ int SectionReader::TakeLine(char* buffer, UINT count)
     if (m_line > m_lines.size())
         return 0;
     const bool isEnd = m_line == m_lines.size();
-    const std::string& line = isEnd                             ? m_endLine
+    const std::string& line = isEnd                            ? m_endLine
                               : m_lines[m_line]->meant.empty() ? m_lines[m_line]->text
                                                                : m_lines[m_line]->meant;
     const size_t length = std::min<size_t>(line.size() + 1 - m_column, count);

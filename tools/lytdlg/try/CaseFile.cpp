@@ -50,11 +50,11 @@ public:
             ReadHeader(word, line);
     }
 
-    std::vector<Case> TakeCases()
+    std::vector<GoldenCase> TakeCases()
     {
         if (m_cases.empty())
             m_cases.push_back(m_common);
-        for (const Case& one : m_cases)
+        for (const GoldenCase& one : m_cases)
         {
             if (one.setup.dialog.empty())
                 throw FileError({m_file, one.line}, 1, "the case names no dialog; write dialog: FILE.dlg");
@@ -66,13 +66,13 @@ private:
     void BeginCase(LineReader& line)
     {
         line.Expect(':', "write: case: what it shows");
-        Case begun = m_common;
+        GoldenCase begun = m_common;
         begun.name = line.Text();
         begun.line = line.Place().line;
         m_cases.push_back(std::move(begun));
     }
 
-    Case& Current() { return m_cases.empty() ? m_common : m_cases.back(); }
+    GoldenCase& Current() { return m_cases.empty() ? m_common : m_cases.back(); }
     std::vector<CaseStep>& Steps() { return Current().steps; }
 
     // A path as the case file sees it.
@@ -178,13 +178,13 @@ private:
     }
 
     std::string m_file;
-    Case m_common;
-    std::vector<Case> m_cases;
+    GoldenCase m_common;
+    std::vector<GoldenCase> m_cases;
 };
 
 } // namespace
 
-std::vector<Case> ReadCases(const std::string& file, const std::vector<std::string>& lines)
+std::vector<GoldenCase> ReadCases(const std::string& file, const std::vector<std::string>& lines)
 {
     CaseReader reader(file);
     int number = 0;

@@ -49,7 +49,7 @@ struct CaseStep
     Expectation expectation = {};
 };
 
-struct Case
+struct GoldenCase
 {
     std::string name; // as `case:` has it, or that of the file
     std::string file;
@@ -59,7 +59,7 @@ struct Case
 };
 
 // Raises FileError, with place and way out, at the first mistake.
-std::vector<Case> ReadCases(const std::string& file, const std::vector<std::string>& lines);
+std::vector<GoldenCase> ReadCases(const std::string& file, const std::vector<std::string>& lines);
 
 // An expectation as a line of a file has it.
 std::string Describe(const Expectation& expectation);

@@ -153,7 +153,7 @@ std::string IndentOf(const std::string& line)
     return line.substr(0, std::min(line.find_first_not_of(" \t"), line.size()));
 }
 
-void RunSteps(const Case& one, CaseSteps& steps)
+void RunSteps(const GoldenCase& one, CaseSteps& steps)
 {
     TrialRun run(one.setup, false);
     std::deque<Trial::Step> queue;
@@ -165,7 +165,7 @@ void RunSteps(const Case& one, CaseSteps& steps)
 
 } // namespace
 
-CaseResult RunCase(const Case& one)
+CaseResult RunCase(const GoldenCase& one)
 {
     CaseResult result;
     CaseSteps steps(result);

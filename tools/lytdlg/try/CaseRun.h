@@ -31,7 +31,7 @@ struct CaseResult
     CaseUpdate update;
 };
 
-CaseResult RunCase(const Case& one);
+CaseResult RunCase(const GoldenCase& one);
 
 // The lines of a file with updates; a comment at the end of a line stays.
 std::vector<std::string> Updated(const std::vector<std::string>& lines, const CaseUpdate& update);

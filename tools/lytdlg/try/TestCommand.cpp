@@ -41,7 +41,7 @@ struct Count
     int notUnderstood = 0; // files
 };
 
-void Print(const Case& one, const Difference& difference)
+void Print(const GoldenCase& one, const Difference& difference)
 {
     std::printf("%s:%d: %s\n", one.file.c_str(), difference.line, one.name.c_str());
     if (difference.isStop)
@@ -69,7 +69,7 @@ void TestFile(const std::string& file, bool isUpdate, Count& count)
 {
     const std::vector<std::string> lines = LinesOf(ReadWholeFile(file));
     CaseUpdate all;
-    for (const Case& one : ReadCases(file, lines))
+    for (const GoldenCase& one : ReadCases(file, lines))
     {
         CaseResult result = RunCase(one);
         ++(result.differences.empty() ? count.passed : count.failed);
