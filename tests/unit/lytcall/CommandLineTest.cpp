@@ -38,6 +38,15 @@ TEST(CommandLine, TellsCommandOperandsAndOptionsApart)
     EXPECT_EQ(request.Number("--size", 7), 7);
 }
 
+TEST(CommandLine, KeepsTheOrderOfOptions)
+{
+    std::string order;
+    const Request request = ReadCommandLine({"--define", "X", "group", "--kind", "0", "--define", "Y"});
+    for (const auto& [option, value] : request.InOrder())
+        order += option + " " + value + ";";
+    EXPECT_EQ(order, "--define X;--kind 0;--define Y;");
+}
+
 TEST(CommandLine, TheLastOfTwoValuesCounts)
 {
     EXPECT_EQ(ReadCommandLine({"doc", "--size", "1", "--size", "-2"}).Number("--size", 0), -2);
