@@ -76,6 +76,8 @@ public:
 
     // True when every step was taken in time.
     bool Done() const { return m_steps.empty() && !m_timedOut; }
+    // True when it closed the dialogs itself.
+    bool HasGivenUp() const { return m_timedOut; }
     const std::vector<std::string>& Messages() const { return m_messages; }
     // The steps taken, and where it gave up.
     const std::string& Log() const { return m_log; }

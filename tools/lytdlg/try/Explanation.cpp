@@ -14,21 +14,13 @@ namespace lytdlg
 using commandline::Quoted;
 using commandline::ToUtf8;
 
-namespace
-{
-
 std::string InLine(int line)
 {
     return " in line " + std::to_string(line);
 }
 
-std::string JoinedNames(const std::vector<std::string>& names)
+namespace
 {
-    std::string text;
-    for (const std::string& name : names)
-        text += (text.empty() ? "" : ", ") + ToUtf8(name);
-    return text;
-}
 
 // One of the two things that a rule, a statement or a button can take from a control.
 struct Side
@@ -41,13 +33,6 @@ struct Side
 
 const Side shownSide = {"hidden", "shown", "VISIBLE", {"HIDDEN", "INVISIBLE"}};
 const Side enabledSide = {"disabled", "enabled", "ACTIVE", {"DISPLAYONLY", "INACTIVE"}};
-
-// A fill of the input part that runs when the dialog opens.
-struct WrittenFill
-{
-    std::string statement;
-    int line = 0;
-};
 
 class Explainer
 {
@@ -69,7 +54,7 @@ public:
         TellSide(enabledSide, m_state.isEnabled);
         // An option takes what its group is given.
         if ((HasValue(m_state.type) || HasItems(m_state.type)) && m_group == nullptr)
-            TellValue();
+            std::ranges::move(ExplainValue(m_dialog, m_control, m_recorder), std::back_inserter(m_lines));
         return std::move(m_lines);
     }
 
@@ -171,120 +156,6 @@ private:
             std::ranges::find_if(m_facts.values, [&](const ValueFact& fact)
                                  { return fact.keyword == side.button && fact.values.front() == m_state.name; });
         return found != m_facts.values.end() ? &*found : nullptr;
-    }
-
-    // ---- Empty
-
-    void TellValue()
-    {
-        TellFills();
-        TellEvents();
-        TellLibrary();
-        if (!HasItems(m_state.type) || m_state.value || m_state.items.empty())
-            return;
-        const FillRecord* last = LastFill();
-        if (last != nullptr && IsAmongLastTwo(last->value))
-            Tell("An input cannot choose one of the last two items of a list, and " + Quoted(ToUtf8(last->value)) +
-                 " is one of them.");
-    }
-
-    const FillRecord* LastFill() const
-    {
-        const auto& fills = m_recorder.Fills();
-        const auto found = std::find_if(fills.rbegin(), fills.rend(),
-                                        [&](const FillRecord& fill) { return fill.control == m_state.name; });
-        return found != fills.rend() ? &*found : nullptr;
-    }
-
-    bool IsAmongLastTwo(const std::string& value) const
-    {
-        const std::vector<ItemState>& items = m_state.items;
-        const size_t first = items.size() > 2 ? items.size() - 2 : 0;
-        return std::any_of(items.begin() + static_cast<std::ptrdiff_t>(first), items.end(),
-                           [&](const ItemState& item) { return item.value == value; });
-    }
-
-    void TellFills()
-    {
-        bool isFilled = false;
-        for (const FillRecord& fill : m_recorder.Fills())
-        {
-            if (fill.control != m_state.name)
-                continue;
-            const bool isEmptyText = m_state.type == "TextBox" && fill.action.empty() && fill.value.empty();
-            Tell("The scan came to it" + InLine(fill.line) + " (statement " + ToUtf8(fill.statement) + "): it " +
-                 fill.text + (isEmptyText ? ", which changes nothing." : "."));
-            isFilled = true;
-        }
-        if (isFilled)
-            return;
-        const std::vector<WrittenFill> written = WrittenFills();
-        if (written.empty())
-            Tell("No statement of the input part parent fills it.");
-        for (const WrittenFill& fill : written)
-            TellUnused(fill);
-    }
-
-    void TellUnused(const WrittenFill& fill)
-    {
-        const std::string place =
-            "The statement " + ToUtf8(fill.statement) + InLine(fill.line) + " would fill it, but ";
-        if (std::ranges::find(m_recorder.Reached(), fill.statement) != m_recorder.Reached().end())
-            Tell(place + "a condition before the fill did not hold for its piece.");
-        else
-            Tell(place + "the scan did not come there. It went through " + JoinedNames(m_recorder.Reached()) +
-                 (m_recorder.LastStatement().empty() ? " and ended with the text."
-                                                     : " and on to " + ToUtf8(m_recorder.LastStatement()) + "."));
-    }
-
-    std::vector<WrittenFill> WrittenFills() const
-    {
-        ClytInputPart* part = nullptr;
-        m_dialog.GetInputMap().Lookup(lytParentName, part);
-        std::vector<WrittenFill> fills;
-        for (POSITION place = part->GetStatements().GetHeadPosition(); place != nullptr;)
-        {
-            const ClytDialogInput& statement = *part->GetStatements().GetNext(place);
-            const auto& rules = statement.scanRule.rules;
-            for (POSITION at = rules.GetHeadPosition(); at != nullptr;)
-                AddFills(statement, *rules.GetNext(at), fills);
-        }
-        return fills;
-    }
-
-    void AddFills(const ClytDialogInput& statement, const ClytConditionFill& rule,
-                  std::vector<WrittenFill>& fills) const
-    {
-        for (POSITION place = rule.fills.GetHeadPosition(); place != nullptr;)
-        {
-            const ClytControlFill& fill = *rule.fills.GetNext(place);
-            if (m_state.name == fill.controlName.GetString())
-                fills.push_back({statement.name.GetString(), fill.span.line});
-        }
-    }
-
-    void TellEvents()
-    {
-        for (const RuleRecord& rule : m_recorder.Rules())
-        {
-            if (rule.isEvent && rule.isOn && IsAboutThis(rule))
-                Tell(std::string("It was ") + (rule.word == "CLEAR" ? "emptied" : "filled") + " by the rule" +
-                     InLine(rule.line) + ": " + rule.conditions.back().text + ".");
-        }
-    }
-
-    void TellLibrary()
-    {
-        const ValueFact* source = m_facts.StatementOf(m_state.name, "FILLEDBY");
-        if (source == nullptr)
-            return;
-        const std::string library =
-            "the library " + ToUtf8(source->values.front()) + " of line " + std::to_string(source->line);
-        const auto asked = m_recorder.Asked().find(m_state.name);
-        if (asked == m_recorder.Asked().end())
-            Tell("Nothing has asked " + library + ": fill it by an input statement, a rule or a button.");
-        else
-            Tell("It has asked " + library + (asked->second.empty() ? "." : ": " + asked->second + "."));
     }
 
     const TrialDialog& m_dialog;

@@ -13,5 +13,9 @@ namespace lytdlg
 
 // A line each, in UTF-8.
 std::vector<std::string> Explain(const TrialDialog& dialog, ClytControl& control, const Recorder& recorder);
+// The part of it that is about the value: what filled and emptied the control, or why nothing did.
+std::vector<std::string> ExplainValue(const TrialDialog& dialog, ClytControl& control, const Recorder& recorder);
+
+std::string InLine(int line);
 
 } // namespace lytdlg

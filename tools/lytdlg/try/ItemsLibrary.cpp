@@ -143,9 +143,21 @@ ItemsLibrary::~ItemsLibrary()
 void ItemsLibrary::Asked(const ClytControl& control)
 {
     const auto found = m_files.find(control.GetName().GetString());
+    m_used.insert(control.GetName().GetString());
     m_asking = found != m_files.end() ? &found->second : nullptr;
     const bool isField = dynamic_cast<const ClytEditControl*>(&control) != nullptr;
     m_wanted = m_asking == nullptr ? Role::None : isField ? Role::Text : Role::Start;
+}
+
+std::vector<std::string> ItemsLibrary::Unused() const
+{
+    std::vector<std::string> names;
+    for (const auto& [control, file] : m_files)
+    {
+        if (!m_used.contains(control))
+            names.push_back(control);
+    }
+    return names;
 }
 
 HMODULE ItemsLibrary::Load(const char* name)

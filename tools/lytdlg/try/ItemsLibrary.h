@@ -7,7 +7,7 @@
 #include "model/ClytObserver.h"
 
 #include <map>
-#include <memory>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -44,6 +44,8 @@ public:
     ~ItemsLibrary();
 
     void Asked(const ClytControl& control);
+    // The controls that were given items and have not asked for them.
+    std::vector<std::string> Unused() const;
 
     HMODULE Load(const char* name) override;
     bool Owns(HMODULE library) const override;
@@ -64,8 +66,9 @@ private:
     };
 
     std::map<std::string, ItemsFile> m_files; // by control
-    const ItemsFile* m_asking = nullptr;      // of the control that is being filled
-    Role m_wanted = Role::None;               // what is looked for next
+    std::set<std::string> m_used;
+    const ItemsFile* m_asking = nullptr; // of the control that is being filled
+    Role m_wanted = Role::None;          // what is looked for next
     const std::vector<LibraryItem>* m_listing = nullptr;
     size_t m_delivered = 0;
 };

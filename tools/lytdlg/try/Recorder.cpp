@@ -152,7 +152,6 @@ void Recorder::ScanBegan(const char* text)
 {
     m_rest = text;
     m_restText = ToUtf8(text);
-    m_next.clear();
     Trace("scan of " + Quoted(m_restText));
 }
 
@@ -180,17 +179,14 @@ void Recorder::Cut(const ClytDialogInput& statement, const CString& piece, const
     const std::string separator = SeparatorOf(statement, piece, rest, nextStatement);
     m_rest = rest;
     m_restText = ToUtf8(rest);
-    m_statement = &statement;
-    m_next = nextStatement.GetString();
-    m_reached.emplace_back(statement.name.GetString());
+    m_steps.push_back({&statement, statement.name.GetString(), nextStatement.GetString()});
     Trace("  " + Line(statement.span) + " " + Name(statement.name) + ": cut " + Shown(piece) + " " + separator +
           ", rest " + Quoted(m_restText) + (nextStatement.IsEmpty() ? ", the end" : ", on to " + Name(nextStatement)));
 }
 
 void Recorder::Jumped(const ClytDialogInput& statement, const CString& nextStatement)
 {
-    m_next = nextStatement.GetString();
-    m_reached.emplace_back(statement.name.GetString());
+    m_steps.push_back({&statement, statement.name.GetString(), nextStatement.GetString()});
     std::string clauses;
     for (POSITION place = statement.conditions.GetHeadPosition(); place != nullptr;)
     {
@@ -208,15 +204,14 @@ void Recorder::Filled(const ClytControlFill& fill, const CString& piece)
     const bool ownValue = fill.action.GetMeaning() == ClytFillAction::Other && !fill.value.IsEmpty();
     m_fills.push_back({fill.controlName.GetString(), fill.span.line, TextOf(fill, piece),
                        (ownValue ? fill.value : piece).GetString(), fill.action.GetText().GetString(),
-                       m_statement != nullptr ? m_statement->name.GetString() : "",
-                       m_statement != nullptr ? m_statement->span.line : 0});
+                       m_steps.back().name, m_steps.back().statement});
     Trace("    " + Line(fill.span) + " " + Name(fill.controlName) + " " + m_fills.back().text);
 }
 
 void Recorder::ForgetScan()
 {
     m_fills.clear();
-    m_reached.clear();
+    m_steps.clear();
 }
 
 void Recorder::RunBegan(int depth)

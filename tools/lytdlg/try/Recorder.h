@@ -30,6 +30,14 @@ struct RuleRecord
     bool setsNothing = false;            // a push button knows no state but ACTIVE and VISIBLE
 };
 
+// A statement that a scan came to. The pointer is for comparing: the statement goes with its dialog.
+struct ScanStep
+{
+    const ClytDialogInput* statement = nullptr;
+    std::string name;
+    std::string next; // the statement that went on
+};
+
 struct FillRecord
 {
     std::string control;
@@ -38,7 +46,7 @@ struct FillRecord
     std::string value;  // what it puts there
     std::string action; // its word; empty when it sets the value
     std::string statement;
-    int statementLine = 0;
+    const ClytDialogInput* source = nullptr; // for comparing
 };
 
 struct OutputRecord
@@ -76,9 +84,9 @@ public:
     void ForgetScan();
     const std::vector<RuleRecord>& Rules() const { return m_rules; }
     const std::vector<FillRecord>& Fills() const { return m_fills; }
-    // The names of the statements that scans came to, and how the last scan ended.
-    const std::vector<std::string>& Reached() const { return m_reached; }
-    const std::string& LastStatement() const { return m_next; }
+    // Of all scans, in their order.
+    const std::vector<ScanStep>& Steps() const { return m_steps; }
+    // What the last scan left.
     const std::string& Rest() const { return m_restText; }
     const OutputRecord& LastOutput() const { return m_output; }
     // The controls that have asked their library, with what was missing at that.
@@ -92,7 +100,7 @@ private:
     EventLog* m_log;
     std::vector<RuleRecord> m_rules;
     std::vector<FillRecord> m_fills;
-    std::vector<std::string> m_reached;
+    std::vector<ScanStep> m_steps;
     std::map<std::string, std::string> m_asked;
     std::string m_asking;
     std::vector<TestedCondition> m_tested; // of the rule whose test is in progress
@@ -103,8 +111,6 @@ private:
     std::vector<Event> m_lastRun; // what it came to
     const char* m_rest = nullptr; // of the scan in progress
     std::string m_restText;
-    std::string m_next;
-    const ClytDialogInput* m_statement = nullptr;
     int m_depth = 0;
 };
 

@@ -18,6 +18,8 @@ ExitCode RunDialog(const Request& request)
     for (const DialogState& state : outcome.states)
         std::fputs(Describe(state).c_str(), stdout);
     run.PrintEvents();
+    for (const std::string& control : run.items.Unused())
+        std::printf("nothing asked for the items of %s\n", commandline::ToUtf8(control).c_str());
     if (outcome.ending == Ending::NotOpened)
         return static_cast<ExitCode>(run.PrintFailure());
     std::printf("%s\n", WordOf(outcome.ending));

@@ -23,10 +23,11 @@ void PrintFills(const Recorder& recorder)
     for (const FillRecord& fill : recorder.Fills())
         std::printf("line %d %s: %s %s\n", fill.line, ToUtf8(fill.statement).c_str(), ToUtf8(fill.control).c_str(),
                     fill.text.c_str());
-    if (recorder.LastStatement() == "End" || recorder.LastStatement().empty())
-        std::printf("the scan ended at %s\n", recorder.LastStatement().empty() ? "the end of the text" : "End");
+    const std::string end = recorder.Steps().empty() ? "Start" : recorder.Steps().back().next;
+    if (end == "End" || end.empty())
+        std::printf("the scan ended at %s\n", end.empty() ? "the end of the text" : "End");
     else
-        std::printf("the scan ended at %s, which is no statement\n", Quoted(ToUtf8(recorder.LastStatement())).c_str());
+        std::printf("the scan ended at %s, which is no statement\n", Quoted(ToUtf8(end)).c_str());
     if (!recorder.Rest().empty())
         std::printf("left over: %s\n", Quoted(recorder.Rest()).c_str());
 }

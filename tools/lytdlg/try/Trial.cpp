@@ -26,11 +26,20 @@ std::string MessageOf(const CException& failure)
     return text.data();
 }
 
-// The file's name without its folder.
+// The file's name without its folder, in UTF-8.
 std::string NameOf(const TrialDialog& dialog)
 {
     const std::string& file = dialog.DescriptionFile();
-    return file.substr(file.find_last_of("\\/") + 1);
+    return commandline::ToUtf8(file.substr(file.find_last_of("\\/") + 1));
+}
+
+// Also by its name in the layout.
+bool IsOk(const TrialDialog& dialog, const Act& act)
+{
+    if (act.kind != ActKind::Press)
+        return act.kind == ActKind::Ok;
+    const ClytControl* pressed = dialog.FindControl(act.name.c_str());
+    return pressed != nullptr && dialog.TypeOf(*pressed) == "OKButton";
 }
 
 } // namespace
@@ -57,6 +66,8 @@ const Outcome& Trial::Run(std::deque<Step> steps)
         m_outcome.text = dialog.GetResult().GetString();
     if (m_failure != nullptr)
         std::rethrow_exception(m_failure);
+    if (m_robot.HasGivenUp())
+        throw ActError("the dialog does not come to an end; is there a message that comes again and again?");
     // A dialog that is closed leaves steps behind that nothing can be done for, but that may want to look at the result.
     while (!m_steps.empty())
         TakeStep();
@@ -214,7 +225,7 @@ void Trial::Do(const Act& act)
     if (act.kind != ActKind::Set)
         LookAtAll();
     TrialDialog* top = Top();
-    m_hasPressedOk = act.kind == ActKind::Ok && top == m_open.front();
+    m_hasPressedOk = top == m_open.front() && IsOk(*top, act);
     TakeAct(top, act);
 }
 

@@ -4,6 +4,7 @@
 #include "environment/ClytEnvironment.h"
 #include "environment/ProcessState.h"
 #include "lytdlg/try/LineReader.h"
+#include "tree/ClytNode.h"
 
 #include <windows.h>
 
@@ -118,6 +119,8 @@ TrialEnvironment::~TrialEnvironment()
     lytEnvironment.Reset();
     lytEnvironment.ClearDialogDefine();
     lytInputKey.Empty();
+    lytWizardGroup.Empty();
+    lytDeleteNodes();
     std::error_code ignored;
     if (!m_ownFolder.empty())
         fs::remove_all(m_ownFolder, ignored);

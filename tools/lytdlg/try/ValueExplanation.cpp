@@ -1,0 +1,209 @@
+#include "lytdlg/try/Explanation.h"
+
+#include "commandline/Text.h"
+#include "lytdlg/try/ControlState.h"
+#include "lytdlg/try/TrialRun.h"
+
+#include <algorithm>
+
+namespace lytdlg
+{
+
+using commandline::Quoted;
+using commandline::ToUtf8;
+
+namespace
+{
+
+// A fill as the description has it.
+struct WrittenFill
+{
+    std::string statement;
+    int line = 0;
+};
+
+class ValueExplainer
+{
+public:
+    ValueExplainer(const TrialDialog& form, ClytControl& subject, const Recorder& heard)
+        : m_control(subject),
+          m_recorder(heard),
+          m_facts(FactsOf(form)),
+          m_state(LookAt(form, subject)),
+          m_statements(StatementsOf(form, {lytParentName})),
+          m_allStatements(StatementsOf(form, m_facts.parts))
+    {
+    }
+
+    std::vector<std::string> Explain()
+    {
+        TellFills();
+        TellEvents();
+        TellLibrary();
+        TellChoice();
+        return std::move(m_lines);
+    }
+
+private:
+    void Tell(const std::string& sentence) { m_lines.push_back(sentence); }
+
+    using Statements = std::vector<const ClytDialogInput*>;
+
+    static Statements StatementsOf(const TrialDialog& form, const std::vector<std::string>& parts)
+    {
+        Statements statements;
+        for (const std::string& name : parts)
+        {
+            ClytInputPart* part = nullptr;
+            if (!form.GetInputMap().Lookup(name.c_str(), part))
+                continue;
+            for (POSITION place = part->GetStatements().GetHeadPosition(); place != nullptr;)
+                statements.push_back(part->GetStatements().GetNext(place));
+        }
+        return statements;
+    }
+
+    static bool Has(const Statements& statements, const ClytDialogInput* statement)
+    {
+        return std::ranges::find(statements, statement) != statements.end();
+    }
+
+    void TellChoice()
+    {
+        if (!HasItems(m_state.type) || m_state.value || m_state.items.empty())
+            return;
+        const FillRecord* last = LastFill();
+        if (last != nullptr && IsAmongLastTwo(last->value))
+            Tell("An input cannot choose one of the last two items of a list, and " + Quoted(ToUtf8(last->value)) +
+                 " is one of them.");
+    }
+
+    // A dialog below or above this one may have a control of the same name.
+    bool IsAboutThis(const FillRecord& fill) const
+    {
+        return fill.control == m_state.name && Has(m_allStatements, fill.source);
+    }
+
+    const FillRecord* LastFill() const
+    {
+        const auto& fills = m_recorder.Fills();
+        const auto found =
+            std::find_if(fills.rbegin(), fills.rend(), [&](const FillRecord& fill) { return IsAboutThis(fill); });
+        return found != fills.rend() ? &*found : nullptr;
+    }
+
+    bool IsAmongLastTwo(const std::string& value) const
+    {
+        const std::vector<ItemState>& items = m_state.items;
+        const size_t first = items.size() > 2 ? items.size() - 2 : 0;
+        return std::any_of(items.begin() + static_cast<std::ptrdiff_t>(first), items.end(),
+                           [&](const ItemState& item) { return item.value == value; });
+    }
+
+    void TellFills()
+    {
+        bool isFilled = false;
+        for (const FillRecord& fill : m_recorder.Fills())
+        {
+            if (!IsAboutThis(fill))
+                continue;
+            const bool isEmptyText = m_state.type == "TextBox" && fill.action.empty() && fill.value.empty();
+            Tell("The scan came to it" + InLine(fill.line) + " (statement " + ToUtf8(fill.statement) + "): it " +
+                 fill.text + (isEmptyText ? ", which changes nothing." : "."));
+            isFilled = true;
+        }
+        if (isFilled)
+            return;
+        const std::vector<WrittenFill> written = WrittenFills();
+        if (written.empty())
+            Tell("No statement of the input part parent fills it.");
+        for (const WrittenFill& fill : written)
+            TellUnused(fill);
+    }
+
+    void TellUnused(const WrittenFill& fill)
+    {
+        const std::string place =
+            "The statement " + ToUtf8(fill.statement) + InLine(fill.line) + " would fill it, but ";
+        std::string way;
+        std::string next;
+        for (const ScanStep& step : m_recorder.Steps())
+        {
+            if (!Has(m_statements, step.statement))
+                continue;
+            if (step.name == fill.statement)
+            {
+                Tell(place + "a condition before the fill did not hold for its piece.");
+                return;
+            }
+            way += (way.empty() ? "" : ", ") + ToUtf8(step.name);
+            next = step.next;
+        }
+        const std::string end = next.empty() ? "ended with the text." : "on to " + ToUtf8(next) + ".";
+        Tell(place + "the scan did not come there. It went through " + way + " and " + end);
+    }
+
+    std::vector<WrittenFill> WrittenFills() const
+    {
+        std::vector<WrittenFill> fills;
+        for (const ClytDialogInput* statement : m_statements)
+        {
+            const auto& rules = statement->scanRule.rules;
+            for (POSITION place = rules.GetHeadPosition(); place != nullptr;)
+                AddFills(*statement, *rules.GetNext(place), fills);
+        }
+        return fills;
+    }
+
+    void AddFills(const ClytDialogInput& statement, const ClytConditionFill& rule,
+                  std::vector<WrittenFill>& fills) const
+    {
+        for (POSITION place = rule.fills.GetHeadPosition(); place != nullptr;)
+        {
+            const ClytControlFill& fill = *rule.fills.GetNext(place);
+            if (m_state.name == fill.controlName.GetString())
+                fills.push_back({statement.name.GetString(), fill.span.line});
+        }
+    }
+
+    void TellEvents()
+    {
+        for (const RuleRecord& rule : m_recorder.Rules())
+        {
+            if (rule.isEvent && rule.isOn && rule.target == &m_control)
+                Tell(std::string("It was ") + (rule.word == "CLEAR" ? "emptied" : "filled") + " by the rule" +
+                     InLine(rule.line) + ": " + rule.conditions.back().text + ".");
+        }
+    }
+
+    void TellLibrary()
+    {
+        const ValueFact* source = m_facts.StatementOf(m_state.name, "FILLEDBY");
+        if (source == nullptr)
+            return;
+        const std::string library =
+            "the library " + ToUtf8(source->values.front()) + " of line " + std::to_string(source->line);
+        const auto asked = m_recorder.Asked().find(m_state.name);
+        if (asked == m_recorder.Asked().end())
+            Tell("Nothing has asked " + library + ": fill it by an input statement, a rule or a button.");
+        else
+            Tell("It has asked " + library + (asked->second.empty() ? "." : ": " + asked->second + "."));
+    }
+
+    const ClytControl& m_control;
+    const Recorder& m_recorder;
+    DialogFacts m_facts;
+    ControlState m_state;
+    Statements m_statements;    // of the part that runs when the dialog opens
+    Statements m_allStatements; // of every part
+    std::vector<std::string> m_lines;
+};
+
+} // namespace
+
+std::vector<std::string> ExplainValue(const TrialDialog& dialog, ClytControl& control, const Recorder& recorder)
+{
+    return ValueExplainer(dialog, control, recorder).Explain();
+}
+
+} // namespace lytdlg
