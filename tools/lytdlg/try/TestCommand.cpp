@@ -38,6 +38,7 @@ struct Count
 {
     int passed = 0;
     int failed = 0;
+    int updated = 0;
     int notUnderstood = 0; // files
 };
 
@@ -56,30 +57,41 @@ void Print(const GoldenCase& one, const Difference& difference)
     std::printf("    got:      %s\n", difference.got.empty() ? "nothing" : difference.got.c_str());
 }
 
-void Update(const std::string& file, const std::vector<std::string>& lines, const CaseUpdate& update)
+// The line ends stay what they were.
+void Update(const std::string& file, const std::string& content, const CaseUpdate& update)
 {
+    const char* lineEnd = content.find("\r\n") != std::string::npos ? "\r\n" : "\n";
     std::string text;
-    for (const std::string& line : Updated(lines, update))
-        text += line + "\n";
+    for (const std::string& line : Updated(LinesOf(content), update))
+        text += line + lineEnd;
     WriteWholeFile(file, text);
     std::printf("%s: brought up to date\n", file.c_str());
 }
 
+// A case that could not go on is not brought up to date.
+int& PlaceFor(const CaseResult& result, bool isUpdate, Count& count)
+{
+    if (result.differences.empty())
+        return count.passed;
+    const bool isStopped = std::ranges::any_of(result.differences, &Difference::isStop);
+    return isUpdate && !isStopped ? count.updated : count.failed;
+}
+
 void TestFile(const std::string& file, bool isUpdate, Count& count)
 {
-    const std::vector<std::string> lines = LinesOf(ReadWholeFile(file));
+    const std::string content = ReadWholeFile(file);
     CaseUpdate all;
-    for (const GoldenCase& one : ReadCases(file, lines))
+    for (const GoldenCase& one : ReadCases(file, LinesOf(content)))
     {
         CaseResult result = RunCase(one);
-        ++(result.differences.empty() ? count.passed : count.failed);
+        ++PlaceFor(result, isUpdate, count);
         all.replaced.merge(result.update.replaced);
         all.insertions.merge(result.update.insertions);
         for (const Difference& difference : result.differences)
             Print(one, difference);
     }
     if (isUpdate && (!all.replaced.empty() || !all.insertions.empty()))
-        Update(file, lines, all);
+        Update(file, content, all);
 }
 
 ExitCode Test(const Request& request)
@@ -101,7 +113,11 @@ ExitCode Test(const Request& request)
         }
     }
     std::printf("%d passed, %d failed", count.passed, count.failed);
-    std::printf(count.notUnderstood == 0 ? "\n" : ", %d not understood\n", count.notUnderstood);
+    if (request.Has("--update"))
+        std::printf(", %d brought up to date", count.updated);
+    if (count.notUnderstood != 0)
+        std::printf(", %d files not understood", count.notUnderstood);
+    std::printf("\n");
     if (count.notUnderstood != 0)
         return notUnderstood;
     return count.failed == 0 ? good : found;
