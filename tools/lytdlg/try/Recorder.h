@@ -80,6 +80,8 @@ public:
                                ClytTested result) override;
     void OutputChosen(const ClytDialogOutput* rule) override;
 
+    // What is heard from now on is not traced.
+    void EndTrace() { m_log = nullptr; }
     // What was heard of scans so far counts no more.
     void ForgetScan();
     const std::vector<RuleRecord>& Rules() const { return m_rules; }

@@ -29,6 +29,8 @@ const Outcome& TrialRun::Run(const std::vector<Act>& acts, Trial::Step last)
     }
     if (last)
         steps.push_back(std::move(last));
+    // What a dialog does while it is closed for want of further acts is nobody's concern.
+    steps.emplace_back([this](Trial& /*trial*/) { recorder.EndTrace(); });
     return trial.Run(std::move(steps));
 }
 
