@@ -63,6 +63,13 @@ FARPROC AddressOf(FUNCTION* function)
     return reinterpret_cast<FARPROC>(reinterpret_cast<void*>(function));
 }
 
+FARPROC OwnFunctionNamed(const char* name)
+{
+    const auto* own =
+        std::ranges::find_if(ownFunctions, [&](const OwnFunction& one) { return std::strcmp(one.name, name) == 0; });
+    return own != std::end(ownFunctions) ? AddressOf(own->function) : nullptr;
+}
+
 void CopyText(const std::string& text, char* buffer, int size)
 {
     buffer[text.copy(buffer, static_cast<size_t>(size))] = '\0';
@@ -187,17 +194,13 @@ FARPROC ItemsLibrary::Find(HMODULE library, const char* function)
     case Role::Text: return AddressOf(TextItem);
     case Role::None: break;
     }
-    for (auto& [name, known] : KnownLibraries())
-    {
-        if (HandleOf(known) != library)
-            continue;
-        const auto* own = std::ranges::find_if(ownFunctions, [&](const OwnFunction& one)
-                                               { return name == ownName && std::strcmp(one.name, function) == 0; });
-        if (own != std::end(ownFunctions))
-            return AddressOf(own->function);
-        return known.real != nullptr ? ::GetProcAddress(known.real, function) : nullptr;
-    }
-    return nullptr;
+    const auto known =
+        std::ranges::find_if(KnownLibraries(), [&](auto& one) { return HandleOf(one.second) == library; });
+    if (known == KnownLibraries().end())
+        return nullptr;
+    if (known->first == ownName)
+        return OwnFunctionNamed(function);
+    return known->second.real != nullptr ? ::GetProcAddress(known->second.real, function) : nullptr;
 }
 
 void ItemsLibrary::Start(const std::string& parameter)
