@@ -1,53 +1,10 @@
 // Every rule shows what is wrong and what would be right: the wrong lines have this finding and no other, the right ones
 // have none.
-#include "lytdlg/judge/Examples.h"
-#include "lytdlg/judge/Report.h"
-#include "support/TestFolder.h"
+#include "ExampleFindings.h"
 
 #include <gtest/gtest.h>
 
-#include <set>
-
-namespace
-{
-
 using namespace lytdlg;
-
-const TestFolder& ExampleFolder()
-{
-    static const TestFolder folder;
-    static const bool isFilled = []
-    {
-        for (const ExampleFile& file : ExampleFiles())
-            folder.Write(file.name, file.content);
-        return true;
-    }();
-    static_cast<void>(isFilled);
-    return folder;
-}
-
-// The rules that find something in an example, and the findings as a user sees them.
-struct Found
-{
-    std::set<std::string> rules;
-    std::string text;
-};
-
-Found FindIn(const char* example)
-{
-    const std::string text = ExampleDescription(example);
-    const Description description("example.dlg", text, {});
-    Found found;
-    const Findings findings = Judge(description, SurroundingsOf(ExampleFolder().Path(), {}));
-    for (const Finding& finding : findings.All())
-    {
-        found.rules.insert(finding.rule->id);
-        found.text += TextOf(finding, description, false);
-    }
-    return found;
-}
-
-} // namespace
 
 TEST(Rules, HaveNothingToSayAboutTheDescriptionOfTheExamples)
 {

@@ -1,7 +1,6 @@
 #include "lytdlg/judge/ActionRules.h"
 
-#include "lytdlg/judge/ControlValues.h"
-#include "lytdlg/judge/LineTokens.h"
+#include "lytdlg/judge/PlacedValue.h"
 #include "lytdlg/text/TextFile.h"
 #include "model/ClytWords.h"
 
@@ -93,27 +92,16 @@ constexpr Rule source = {
     "$VALUES\nRooms = FILLEDBY, lytdata, OpenList",
     "$VALUES\nRooms = FILLEDBY, lytdata, OpenList, NextItem"};
 
-// A statement with the places of its words.
-struct Statement
+// A statement with short cuts to what its actions are judged by.
+struct Statement : PlacedValue
 {
-    const Case& judged;
-    const ValueStatement& value;
-    const Kind kind;
+    using PlacedValue::PlacedValue;
 
     const Description& Of() const { return judged.description; }
-    // The place of a value, from 0.
-    ClytSpan PlaceOf(size_t index) const
-    {
-        const std::vector<LineToken> tokens = TokensOf(Of().text.Line(value.span.line).text, Section::Values);
-        const size_t token = index + 2;
-        if (token >= tokens.size())
-            return Of().PlaceOf(value.span.line);
-        return {value.span.line, tokens[token].column, std::max(1, static_cast<int>(tokens[token].text.size()))};
-    }
     std::string Value(size_t index) const { return index < value.values.size() ? value.values[index] : ""; }
     void Add(const Rule& rule, size_t index, std::string message, std::string hint) const
     {
-        judged.findings.Add(rule, PlaceOf(index), std::move(message), std::move(hint));
+        judged.findings.Add(rule, PlaceOfValue(index), std::move(message), std::move(hint));
     }
 };
 
@@ -283,8 +271,8 @@ Family ActionRules()
             {
                 for (const ValueStatement& value : judged.description.values)
                 {
-                    const Statement statement = {judged, value, KindOfControl(judged.description, value.name)};
-                    switch (RoleOf(statement.kind, value))
+                    const Statement statement(judged, value);
+                    switch (statement.role)
                     {
                     case Role::Action: JudgeAction(statement); break;
                     case Role::Source: JudgeSource(statement); break;

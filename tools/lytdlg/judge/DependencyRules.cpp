@@ -146,7 +146,7 @@ void JudgeControl(const Judged& each)
                                     ? "its conditions go to the rule of line " + std::to_string(each.next->span.line)
                                     : "it does nothing";
     each.Add(unknownControl, each.PlaceOfName(),
-             "no control is called " + InQuotes(each.Name()) + "; the rule is dropped, and " + carried,
+             "no control is called " + InQuotes(each.Name()) + "; the rule is dropped" + carried,
              MeantOr(each.Name(), ControlNames(each.Of()), "use the name of a control"));
 }
 

@@ -34,6 +34,18 @@ std::vector<const SourceLine*> Body(const DescriptionText& text, Section section
     return lines;
 }
 
+ClytControlStatement RefusedControl(const DescriptionText& text, int line)
+{
+    ClytControlStatement statement;
+    statement.span.line = line;
+    for (const LineToken& word : TokensOf(text.Line(line).text, Section::Layout))
+    {
+        if (word.text.starts_with('.') && word.text.size() > 1)
+            statement.name = word.text.substr(1).c_str();
+    }
+    return statement;
+}
+
 // A line that was meant to begin the dialog.
 bool IsDialogLine(const DescriptionText& text, int line)
 {
@@ -118,9 +130,14 @@ void Description::ReadLayout()
 void Description::ReadControls(ClytDialogFile& file)
 {
     ClytControlStatement statement;
+    size_t mistakesBefore = mistakes.size();
     while (file.ReadControlStatement(statement) != 0)
     {
-        if (!statement.type.IsEmpty())
+        const bool isRefused = mistakes.size() != mistakesBefore;
+        mistakesBefore = mistakes.size();
+        if (isRefused)
+            statement = RefusedControl(text, mistakes.back().place.line);
+        if (isRefused || !statement.type.IsEmpty())
             controls.push_back(statement);
     }
 }
@@ -183,20 +200,25 @@ void Description::ReadInputs()
     std::vector<const SourceLine*> lines = text.LinesOf(Section::Input);
     if (lines.empty())
         return;
+    SourceLine header;
+    header.text = std::string(WordOf(Section::Input)) + ", parent";
+    header.number = lines.front()->number - 1;
+    if (!lines.front()->isHeader)
+        lines.insert(lines.begin(), &header);
     SectionReader file(lines, WordOf(Section::Output), mistakes);
     ClytCtrlValList own;
     ClytCtrlValList other;
     CString word;
     while (file.ReadEvaluationStatement(own, other, word) != 0)
         continue;
-    ClytSpan header = file.GetLinePlace();
+    ClytSpan place = file.GetLinePlace();
     while (file.ReadInputHeader(word) != 0)
     {
         InputPart& part = inputs.emplace_back();
         part.name = word.IsEmpty() ? "parent" : word.GetString();
-        part.header = header;
+        part.header = place;
         file.ReadInputPart(part.part);
-        header = file.GetLinePlace();
+        place = file.GetLinePlace();
     }
 }
 
@@ -208,7 +230,8 @@ void Description::ReadOutputs()
     OutputGroup* group = &outputs.emplace_back();
     group->name = "parent";
     group->header = PlaceOf(lines.front()->number);
-    lines.erase(lines.begin());
+    if (lines.front()->isHeader)
+        lines.erase(lines.begin());
     SectionReader file(lines, WordOf(Section::End), mistakes);
     CString nextName;
     auto rule = std::make_unique<ClytDialogOutput>();

@@ -107,6 +107,25 @@ Section Next(Section section)
     return section == Section::End ? section : static_cast<Section>(static_cast<int>(section) + 1);
 }
 
+// Whether a statement has the form of a section, and not that of the section above it.
+bool SeemsToBegin(Section section, const std::string& line, bool hasLayoutEnded)
+{
+    const size_t start = line.find_first_not_of(" \t");
+    if (start == std::string::npos || line[start] == ';')
+        return false;
+    const size_t sign = line.find_first_of("=:(/", start);
+    const char first = sign != std::string::npos ? line[sign] : '\0';
+    switch (section)
+    {
+    case Section::Values: return hasLayoutEnded;
+    case Section::Dependencies: return first == '/' && line.find('=', sign) != std::string::npos;
+    case Section::Evaluation: return first != '/' && line.find(':', start) != std::string::npos;
+    case Section::Input: return first == ':';
+    case Section::Output: return line[start] == '(' || (first != ':' && line.find("= (") != std::string::npos);
+    default: return false;
+    }
+}
+
 int PiecesOf(const std::string& text)
 {
     return static_cast<int>((text.size() + 1 + pieceLength - 1) / pieceLength);
@@ -228,13 +247,43 @@ void DescriptionText::FindSections()
         if (found != std::end(words))
             m_headerLines.emplace_back(allSections[found - std::begin(words)], line.number);
     }
+    GoThroughSections({});
+    const std::vector<Section> missing = SectionsWithoutHeader();
+    if (!missing.empty())
+        GoThroughSections(missing);
+}
+
+void DescriptionText::GoThroughSections(const std::vector<Section>& withoutHeader)
+{
+    m_falseHeaders.clear();
     Section present = Section::Head;
+    bool hasEnded = false;
     for (SourceLine& line : m_lines)
     {
+        line.isHeader = false;
+        line.isStray = false;
+        line.meant.clear();
+        const Section before = present;
         if (line.isRead && present != Section::End)
             present = Opened(line, present);
+        const bool isDue = std::ranges::find(withoutHeader, Next(present)) != withoutHeader.end();
+        if (line.isRead && isDue && present == before && !line.isStray &&
+            SeemsToBegin(Next(present), line.text, hasEnded))
+            present = Next(present);
+        hasEnded = hasEnded || (present == Section::Layout && line.text.find("End Dialog") != std::string::npos);
         line.section = present;
     }
+}
+
+std::vector<Section> DescriptionText::SectionsWithoutHeader() const
+{
+    std::vector<Section> missing;
+    for (const Section section : allSections)
+    {
+        if (section > Section::Layout && section < Section::End && HeaderOf(section) == nullptr)
+            missing.push_back(section);
+    }
+    return missing;
 }
 
 bool DescriptionText::HasBelow(Section section, int line) const

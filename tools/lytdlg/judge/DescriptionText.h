@@ -87,6 +87,9 @@ private:
     void SplitLines(const std::string& bytes);
     void ApplyDefines();
     void FindSections();
+    // Goes through the lines; a section of the list begins where its statements seem to, since it has no header.
+    void GoThroughSections(const std::vector<Section>& withoutHeader);
+    std::vector<Section> SectionsWithoutHeader() const;
     // The section that the line opens; the present one when it opens none.
     Section Opened(SourceLine& line, Section present);
     bool IsStray(Section section, Section present, int line) const;

@@ -1,7 +1,7 @@
 #include "lytdlg/judge/Examples.h"
 
 #include "commandline/Suggestion.h"
-#include "lytdlg/judge/DescriptionText.h"
+#include "lytdlg/judge/Names.h"
 
 #include <algorithm>
 #include <list>
@@ -95,7 +95,7 @@ std::string SectionOf(const std::string& line)
     std::vector<std::string> known;
     for (const Section section : allSections)
         known.emplace_back(WordOf(section));
-    return commandline::Nearest(word, known);
+    return MeantWord(word, known);
 }
 
 // What stands before the delimiter, for a statement that has a name.
@@ -117,7 +117,7 @@ public:
             OpenSection(section, line);
         else if (line.starts_with('-') && Find(line.substr(1)) != m_lines.end())
             Remove(Find(line.substr(1)));
-        else if (line.starts_with("Begin Dialog"))
+        else if (commandline::IsClose(line.substr(0, line.find(' ')), "Begin"))
             *std::ranges::find_if(m_lines, [](const std::string& known) { return known.starts_with("Begin Dialog"); }) =
                 line;
         else

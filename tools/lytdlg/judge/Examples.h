@@ -7,7 +7,7 @@
 //     $INPUT, other       a header with more than its word, be it a blank, takes the place of the one that is there; a
 //                         part or group of another name is opened at the end of its section
 //     -Mark = HIDDEN      takes that line away
-//     Begin Dialog ...    takes the place of the line that begins so; a statement of $INPUT that of the same name
+//     Begin ...           takes the place of the line that begins so; a statement of $INPUT that of the same name
 //
 // New controls stand above OKButton (the part of the dialog from 500 to the right is free), new output rules above those
 // that are there, other lines below. Lines above the first header begin the file. {NUL} stands for that byte, {LONG} for

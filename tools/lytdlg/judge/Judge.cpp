@@ -2,6 +2,7 @@
 
 #include "lytdlg/judge/ActionRules.h"
 #include "lytdlg/judge/ConditionRules.h"
+#include "lytdlg/judge/ContentRules.h"
 #include "lytdlg/judge/DependencyRules.h"
 #include "lytdlg/judge/EvaluationRules.h"
 #include "lytdlg/judge/FillRules.h"
@@ -10,6 +11,7 @@
 #include "lytdlg/judge/LayoutRules.h"
 #include "lytdlg/judge/LibraryVerdict.h"
 #include "lytdlg/judge/LineRules.h"
+#include "lytdlg/judge/MarkRules.h"
 #include "lytdlg/judge/OutputRules.h"
 #include "lytdlg/judge/ScanRules.h"
 #include "lytdlg/judge/SectionRules.h"
@@ -27,11 +29,26 @@ Surroundings SurroundingsOf(const std::string& folder, const std::vector<std::st
 
 const std::vector<Family>& Families()
 {
-    // In the order of the sections. The library comes last: it looks whether a finding stands for its failure.
+    // The library comes last: it looks whether a finding stands for its failure.
     static const std::vector<Family> families = {
-        SectionRules(),    StatementRules(), LineRules(),       LayoutRules(),  ValueRules(),     ActionRules(),
-        DependencyRules(), ConditionRules(), EvaluationRules(), ScanRules(),    SeparatorRules(), FillRules(),
-        OutputRules(),     FormatRules(),    IgnoreRules(),     LibraryRules(),
+        SectionRules(),
+        StatementRules(),
+        LineRules(),
+        LayoutRules(),
+        ValueRules(),
+        ActionRules(),
+        DependencyRules(),
+        ConditionRules(),
+        EvaluationRules(),
+        ScanRules(),
+        SeparatorRules(),
+        FillRules(),
+        OutputRules(),
+        FormatRules(),
+        MarkRules(),
+        ContentRules(),
+        IgnoreRules(),
+        LibraryRules(),
     };
     return families;
 }

@@ -94,7 +94,7 @@ std::string WordingOf(const Refusal& refusal, const LanguageFiles& texts)
         std::string text = texts.Text(language, "Dialog_Error", refusal.number);
         if (const size_t mark = text.find('\''); mark != std::string::npos)
             text.insert(mark + 1, refusal.argument);
-        return text;
+        return refusal.words.empty() ? text : refusal.words + " " + text;
     }
     return refusal.words;
 }

@@ -55,7 +55,11 @@ std::string MeantWord(const std::string& word, const std::vector<std::string>& k
 {
     const auto same =
         std::ranges::find_if(known, [&](const std::string& candidate) { return IsSameName(candidate, word); });
-    return same != known.end() ? *same : commandline::Nearest(word, known);
+    if (same != known.end())
+        return *same;
+    // One letter makes any short word of another.
+    constexpr size_t shortest = 3;
+    return word.size() >= shortest ? commandline::Nearest(word, known) : "";
 }
 
 std::string MeantOr(const std::string& word, const std::vector<std::string>& known, const std::string& otherwise)

@@ -113,14 +113,18 @@ bool HasHeader(const DescriptionText& text, Section section)
                                                                     { return header.section == section; });
 }
 
-// Where the first section after a missing one begins; the last line when none does.
+// Where the first section after a missing one begins; the last line that holds anything when none does.
 int LineAfter(const DescriptionText& text, Section section)
 {
-    const auto next = std::ranges::find_if(text.Lines(), [&](const SourceLine& line)
-                                           { return line.isRead && line.section >= section; });
-    if (next != text.Lines().end())
-        return next->number;
-    return text.Lines().empty() ? 1 : text.Lines().back().number;
+    int last = 1;
+    for (const SourceLine& line : text.Lines())
+    {
+        if (line.isRead && line.section >= section)
+            return line.number;
+        if (line.text.find_first_not_of(" \t") != std::string::npos)
+            last = line.number;
+    }
+    return last;
 }
 
 std::string NumberOfMissing(const DescriptionText& text, Section section)
@@ -129,14 +133,11 @@ std::string NumberOfMissing(const DescriptionText& text, Section section)
         return "213";
     if (section <= Section::Layout)
         return "214";
-    const auto above = static_cast<Section>(static_cast<int>(section) - 1);
-    for (auto next = section; next != Section::End;)
-    {
-        next = static_cast<Section>(static_cast<int>(next) + 1);
-        if (HasHeader(text, next))
-            return NumberWithin(above);
-    }
-    return above == Section::Layout ? "216" : "217";
+    // What follows is read as statements of the section above, and it depends on them what that comes to.
+    const auto isBelow = [&](const SourceLine& line) { return line.isRead && line.section >= section; };
+    if (std::ranges::any_of(text.Lines(), isBelow))
+        return "";
+    return section == Section::Values ? "216" : "217";
 }
 
 // Sections that are missing side by side have one finding.

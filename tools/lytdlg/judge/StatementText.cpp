@@ -85,7 +85,8 @@ std::string WrongInLayout(const Statement& statement)
 {
     const std::vector<LineToken>& words = statement.Words();
     if (words.size() == 1)
-        return MissingAfter(statement.Text(0) == "End" ? "the word Dialog" : "everything", statement.Text(0));
+        return statement.Text(0) == "End" ? MissingAfter("the word Dialog", "End")
+                                          : "nothing follows the word " + InQuotes(statement.Text(0));
     if (statement.Refused().text == "." && !statement.EndsTooEarly())
         return "no name follows the point";
     const auto name =
@@ -146,8 +147,11 @@ std::string WrongInScan(const Statement& statement)
                    ? "no length or separator follows \"(\""
                    : "each length or separator needs the statement that goes on, and \"=\" or "
                      "\")\" after the last";
+    const LineToken* open = statement.OpenList();
+    if (open != nullptr && !open->text.empty())
+        return statement.WrongInList();
     if (statement.EndsTooEarly())
-        return statement.OpenList() != nullptr ? statement.WrongInList() : "a control is missing after \"=\"";
+        return "a control is missing after \"=\"";
     if (statement.Refused().text.empty())
         return "the name of a control is missing before " + SignInQuotes(statement.Refused().delimiter);
     return SignInQuotes(statement.Refused().delimiter) + " after " + InQuotes(statement.Refused().text) +

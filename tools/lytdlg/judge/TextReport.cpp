@@ -19,6 +19,14 @@ std::string BlanksTo(const std::string& line, size_t column)
     return blanks;
 }
 
+// The line as a terminal can show it, byte for byte.
+std::string Shown(std::string line)
+{
+    for (char& ch : line)
+        ch = static_cast<unsigned char>(ch) < ' ' && ch != '\t' ? '?' : ch;
+    return line;
+}
+
 const char* ColourOf(Level level)
 {
     switch (level)
@@ -73,7 +81,7 @@ std::string TextOf(const Finding& finding, const Description& description, bool 
     if (finding.place.line > 0)
     {
         const std::string& line = description.text.Line(finding.place.line).text;
-        text += "    " + commandline::ToUtf8(line) + "\n    " +
+        text += "    " + commandline::ToUtf8(Shown(line)) + "\n    " +
                 BlanksTo(line, static_cast<size_t>(finding.place.column)) + colour + "^" +
                 std::string(static_cast<size_t>(std::max(0, finding.place.length - 1)), '~') + plain + "\n";
     }

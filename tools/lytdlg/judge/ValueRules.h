@@ -1,5 +1,4 @@
-// Rules on the statements of $VALUES: whom they name, what they say, and the values that lists, options and check boxes
-// get.
+// Rules on the statements of $VALUES: whom they name, and what they say.
 #pragma once
 
 #include "lytdlg/judge/Judge.h"

@@ -1,0 +1,54 @@
+// What the judge finds in an example, which stands in a folder with its texts and another dialog.
+#pragma once
+
+#include "lytdlg/judge/Examples.h"
+#include "lytdlg/judge/FindingText.h"
+#include "support/RecordedMessages.h"
+#include "support/TestFolder.h"
+
+#include <algorithm>
+#include <set>
+
+namespace lytdlg
+{
+
+inline const TestFolder& ExampleFolder()
+{
+    static const TestFolder folder;
+    static const bool isFilled = []
+    {
+        for (const ExampleFile& file : ExampleFiles())
+            folder.Write(file.name, file.content);
+        return true;
+    }();
+    static_cast<void>(isFilled);
+    return folder;
+}
+
+// The rules that find something in an example, and the findings as a user sees them.
+struct Found
+{
+    std::set<std::string> rules;
+    std::string text;
+};
+
+// With families, their rules alone.
+inline Found FindIn(const std::string& example, const std::vector<Family>& families = {})
+{
+    const Description description("example.dlg", ExampleDescription(example), {});
+    const Findings findings = Judge(description, SurroundingsOf(ExampleFolder().Path(), {}));
+    Found found;
+    for (const Finding& finding : findings.All())
+    {
+        const auto has = [&](const Family& family)
+        { return std::ranges::find(family.rules, finding.rule) != family.rules.end(); };
+        if (!families.empty() && std::ranges::none_of(families, has))
+            continue;
+        found.rules.insert(finding.rule->id);
+        found.text += TextOf(finding, description, false);
+    }
+    TakeMessages();
+    return found;
+}
+
+} // namespace lytdlg

@@ -1,0 +1,92 @@
+// What the rules on sections, lines, statements, controls, values and dependencies say, word by word.
+#include "ExampleFindings.h"
+#include "lytdlg/judge/ActionRules.h"
+#include "lytdlg/judge/ConditionRules.h"
+#include "lytdlg/judge/ContentRules.h"
+#include "lytdlg/judge/DependencyRules.h"
+#include "lytdlg/judge/LayoutRules.h"
+#include "lytdlg/judge/LibraryVerdict.h"
+#include "lytdlg/judge/LineRules.h"
+#include "lytdlg/judge/MarkRules.h"
+#include "lytdlg/judge/SectionRules.h"
+#include "lytdlg/judge/StatementRules.h"
+#include "lytdlg/judge/ValueRules.h"
+
+#include <gtest/gtest.h>
+
+#include <fstream>
+
+namespace
+{
+
+using namespace lytdlg;
+
+// One case of findings.cases: example lines, a line of hyphens, the findings, a line of equals signs. A tab and other bytes
+// are written as \t and \xHH.
+struct TextCase
+{
+    std::string example;
+    std::string findings;
+    int line = 0;
+};
+
+std::string Unescaped(std::string text)
+{
+    for (size_t place = text.find("\\x"); place != std::string::npos; place = text.find("\\x", place + 1))
+        text.replace(place, 4, 1, static_cast<char>(std::stoi(text.substr(place + 2, 2), nullptr, 16)));
+    return text;
+}
+
+std::vector<TextCase> TextCases()
+{
+    std::ifstream file(LYT_SOURCE_FOLDER "/tests/unit/lytdlg/findings.cases");
+    std::vector<TextCase> cases(1);
+    bool isExample = true;
+    int number = 0;
+    for (std::string line; std::getline(file, line);)
+    {
+        ++number;
+        if (line == "----")
+            isExample = false;
+        else if (line != "====")
+            (isExample ? cases.back().example : cases.back().findings) += line + "\n";
+        else
+        {
+            cases.emplace_back().line = number + 1;
+            isExample = true;
+        }
+    }
+    cases.pop_back();
+    return cases;
+}
+
+const std::vector<Family>& TestedFamilies()
+{
+    static const std::vector<Family> families = {SectionRules(),    LineRules(),      MarkRules(),    StatementRules(),
+                                                 LayoutRules(),     ValueRules(),     ContentRules(), ActionRules(),
+                                                 DependencyRules(), ConditionRules(), LibraryRules()};
+    return families;
+}
+
+} // namespace
+
+TEST(FindingText, SaysWhatIsWrongInTheseWords)
+{
+    for (const TextCase& each : TextCases())
+    {
+        SCOPED_TRACE(each.line);
+        EXPECT_EQ(FindIn(Unescaped(each.example), TestedFamilies()).text, each.findings);
+    }
+}
+
+TEST(FindingText, IsToldHereForEachRule)
+{
+    std::string all;
+    for (const TextCase& each : TextCases())
+        all += each.findings;
+    for (const Family& family : TestedFamilies())
+    {
+        for (const Rule* rule : family.rules)
+            EXPECT_NE(all.find(std::string(" ") + rule->id + ": "), std::string::npos) << rule->id;
+    }
+}

@@ -1,0 +1,181 @@
+#include "lytdlg/judge/ContentRules.h"
+
+#include "lytdlg/judge/PlacedValue.h"
+
+#include <algorithm>
+#include <map>
+#include <set>
+
+namespace lytdlg
+{
+
+namespace
+{
+
+constexpr Rule itemTwice = {"item-twice",
+                            Level::Warning,
+                            "Two items of a list have one value.",
+                            "A value leads to the first item that has it. The other can be chosen by the user only.",
+                            "$VALUES\nPlace: Attic = hall place",
+                            "$VALUES\nPlace: Attic = attic place"};
+
+constexpr Rule itemIsKey = {
+    "item-is-key",
+    Level::Warning,
+    "The value of an item of a check list is also the key of a text.",
+    "When all items of a check list go into a result, each value is looked up once more in the\n"
+    "dialog's texts, in upper or lower case. One that is a key goes out as its text, without its mark.",
+    "$VALUES\nParts: Hall = hall",
+    "$VALUES\nParts: Hall = the hall"};
+
+constexpr Rule defaultUnknown = {
+    "default-unknown",
+    Level::Warning,
+    "No option has the value that its group begins with.",
+    "A group begins with the option whose value its statement names. When none has it, nothing is\n"
+    "chosen.",
+    "$VALUES\n-Order = s\nOrder = x",
+    "$VALUES\n-Order = s\nOrder = l"};
+
+constexpr Rule defaultEarly = {
+    "default-early",
+    Level::Warning,
+    "A group's statement stands above the value of its option.",
+    "A group looks for its option when the statement is read. Write it after the values of the\n"
+    "options.",
+    "$VALUES\n-Long = l\n-Order = s\nOrder = l\nLong = l",
+    "$VALUES\n-Long = l\n-Order = s\nLong = l\nOrder = l"};
+
+constexpr Rule checkDefault = {"check-default",
+                               Level::Error,
+                               "A check box begins with neither of its two texts.",
+                               "What a check box begins with is its ON or its OFF text. Anything else ends the dialog.",
+                               "$VALUES\n-Pictures = -\nPictures = x",
+                               "$VALUES\n-Pictures = -\nPictures = P"};
+
+constexpr Rule checkTexts = {
+    "check-texts",
+    Level::Warning,
+    "A check box lacks its ON or its OFF text, or both are one.",
+    "The value of a check box is its ON or its OFF text. One that is missing is an empty text.",
+    "$VALUES\n-Pictures: ON = P",
+    "$VALUES"};
+
+void JudgeItems(const Case& judged)
+{
+    std::map<std::pair<std::string, std::string>, int> lines;
+    for (const ValueStatement& value : judged.description.values)
+    {
+        const PlacedValue statement(judged, value);
+        if (statement.role != Role::Item || value.keyword.empty())
+            continue;
+        const auto [first, isNew] = lines.emplace(std::pair(value.name, value.values.front()), value.span.line);
+        if (!isNew)
+            judged.findings.Add(itemTwice, statement.PlaceOfValue(),
+                                "the item of line " + std::to_string(first->second) + " has the same value",
+                                "give each item a value of its own");
+        const std::string section = judged.description.TextSection();
+        const std::vector<std::string> languages = judged.surroundings.texts.Languages();
+        const auto isKey = [&](const std::string& language)
+        { return judged.surroundings.texts.Has(language, section, value.values.front()); };
+        if (statement.kind == Kind::CheckList && std::ranges::any_of(languages, isKey))
+            judged.findings.Add(itemIsKey, statement.PlaceOfValue(),
+                                InQuotes(value.values.front()) + " is also a key of the section [" + section + "]",
+                                "give the item a value that is no key");
+    }
+}
+
+void JudgeGroupDefault(const PlacedValue& statement)
+{
+    const Description& description = statement.judged.description;
+    const std::string& begin = statement.value.values.front();
+    std::vector<std::string> values;
+    const ValueStatement* own = nullptr;
+    for (const std::string& option : OptionsOf(description, statement.value.name))
+    {
+        for (const ValueStatement* value : StatementsOf(description, option, Role::OptionValue))
+        {
+            values.push_back(value->values.front());
+            own = value->values.front() == begin ? value : own;
+        }
+    }
+    if (own == nullptr)
+        statement.judged.findings.Add(defaultUnknown, statement.PlaceOfValue(),
+                                      "no option of " + statement.Name() + " has the value " + InQuotes(begin),
+                                      MeantOr(begin, values, "use the value of one of its options"));
+    else if (own->span.line > statement.value.span.line)
+        statement.judged.findings.Add(defaultEarly, statement.PlaceOfValue(),
+                                      "the option gets this value in line " + std::to_string(own->span.line) +
+                                          ", too late",
+                                      "write the statement after the values of the options");
+}
+
+void JudgeCheckBox(const Case& judged, const std::string& name)
+{
+    const Description& description = judged.description;
+    const auto last = [&](Role role)
+    {
+        const std::vector<const ValueStatement*> statements = StatementsOf(description, name, role);
+        return statements.empty() ? nullptr : statements.back();
+    };
+    const auto textOf = [](const ValueStatement* value)
+    { return value != nullptr ? value->values.front() : std::string(); };
+    const ValueStatement* begin = last(Role::Default);
+    const ValueStatement* on = last(Role::On);
+    const ValueStatement* off = last(Role::Off);
+    const std::string text = textOf(begin);
+    if (begin != nullptr && !text.empty() && text != textOf(on) && text != textOf(off))
+    {
+        const PlacedValue statement(judged, *begin);
+        judged.findings
+            .Add(checkDefault, statement.PlaceOfValue(),
+                 InQuotes(text) + " is neither the ON nor the OFF text of " + InQuotes(name),
+                 MeantOr(text, {textOf(on), textOf(off)}, "use one of the two texts"))
+            .number = "236";
+    }
+    const ClytControlStatement& control = *description.FindControl(name);
+    const ClytSpan place = description.PlaceOf(control.span.line, "." + name, control.span.column);
+    if (on == nullptr || off == nullptr)
+        judged.findings.Add(checkTexts, place,
+                            InQuotes(name) + " has no " +
+                                (on != nullptr    ? "OFF text"
+                                 : off != nullptr ? "ON text"
+                                                  : "ON and no OFF text"),
+                            "add " + InQuotes(name + (on != nullptr ? ": OFF = TEXT" : ": ON = TEXT")) + " to $VALUES");
+    else if (textOf(on) == textOf(off))
+        judged.findings.Add(checkTexts, place, "ON and OFF text of " + InQuotes(name) + " are the same",
+                            "make them differ");
+}
+
+void JudgeCheckBoxes(const Case& judged)
+{
+    const Description& description = judged.description;
+    std::set<std::string> boxes;
+    for (const ClytControlStatement& control : description.controls)
+    {
+        const std::string name = control.name.GetString();
+        const bool isBox = !name.empty() && KindOfControl(description, name) == Kind::CheckBox;
+        if (isBox && boxes.insert(name).second)
+            JudgeCheckBox(judged, name);
+    }
+}
+
+} // namespace
+
+Family ContentRules()
+{
+    return {{&itemTwice, &itemIsKey, &defaultUnknown, &defaultEarly, &checkDefault, &checkTexts},
+            [](const Case& judged)
+            {
+                JudgeItems(judged);
+                JudgeCheckBoxes(judged);
+                for (const ValueStatement& value : judged.description.values)
+                {
+                    const PlacedValue statement(judged, value);
+                    if (statement.kind == Kind::OptionGroup && statement.role == Role::Default)
+                        JudgeGroupDefault(statement);
+                }
+            }};
+}
+
+} // namespace lytdlg
