@@ -8,9 +8,6 @@
 namespace
 {
 
-// What a check mark and the gap after it take, in layout units.
-constexpr double checkMarkUnits = -28.0;
-
 HGDIOBJ DialogFont(const CWnd& dialog)
 {
     return reinterpret_cast<HGDIOBJ>(dialog.SendMessage(WM_GETFONT));
@@ -43,7 +40,7 @@ void lytFitToCaption(const CWnd& window, const CWnd& dialog, ClytPosition positi
     context.SelectObject(previous);
 
     if (fit == ClytFit::ToCaptionWithMargin)
-        extent.cx -= static_cast<int>(static_cast<double>(lytScaleX) * checkMarkUnits);
+        extent.cx -= static_cast<int>(static_cast<double>(lytScaleX) * lytCheckMarkUnits);
     window.SetWindowPos(nullptr, position.x, position.y, extent.cx, extent.cy, SWP_NOZORDER);
 }
 

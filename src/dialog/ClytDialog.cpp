@@ -18,19 +18,6 @@ namespace
 // What DoModal gives when the construction failed.
 constexpr int constructionFailed = 3;
 
-// Layout units are those of the platform's dialogs at two resolutions; there are no others.
-struct Scale
-{
-    int pixelsPerInch;
-    float x;
-    float y;
-};
-
-constexpr Scale scales[] = {
-    {96, 0.7557F, 1.0818F},
-    {120, 1.0033F, 1.3159F},
-};
-
 // The length that gives a client area of the wanted length, when a window of the wanted length has this client area;
 // scaled and cut to an integer. No window is longer than the limit, whatever a description says.
 int OuterLength(int wanted, int client, float factor)
@@ -124,7 +111,7 @@ void ClytDialog::TakeScale()
 {
     const CClientDC screen(nullptr);
     const int pixelsPerInch = screen.GetDeviceCaps(LOGPIXELSX);
-    for (const Scale& scale : scales)
+    for (const ClytResolution& scale : lytResolutions)
     {
         if (scale.pixelsPerInch != pixelsPerInch)
             continue;

@@ -1,6 +1,22 @@
-// What layout units are multiplied by; set by the dialog from the screen's resolution, 1 without a window.
 #pragma once
 
+// Layout units are those of the platform's dialogs at two resolutions; there are no others.
+struct ClytResolution
+{
+    int pixelsPerInch;
+    float x;
+    float y;
+};
+
+inline constexpr ClytResolution lytResolutions[] = {
+    {96, 0.7557F, 1.0818F},
+    {120, 1.0033F, 1.3159F},
+};
+
+// What a check mark and the gap after it take, in layout units.
+inline constexpr double lytCheckMarkUnits = -28.0;
+
+// What layout units are multiplied by; set by the dialog from the screen's resolution, 1 without a window.
 extern float lytScaleX;
 extern float lytScaleY;
 

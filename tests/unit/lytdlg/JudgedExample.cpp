@@ -12,9 +12,13 @@ std::string TextsOfFindings(const std::string& lines)
     for (const ExampleFile& file : ExampleFiles())
         folder.Write(file.name, file.content);
     const Description description("example.dlg", ExampleDescription(lines), {});
-    const Findings findings = Judge(description, SurroundingsOf(folder.Path(), {}));
+    Findings findings = Judge(description, SurroundingsOf(folder.Path(), {}));
     std::string texts;
-    for (const Finding& finding : findings.All())
+    for (Finding& finding : findings.All())
+    {
+        if (!finding.path.empty())
+            finding.path = std::filesystem::path(finding.path).lexically_relative(folder.Path()).generic_string();
         texts += TextOf(finding, description, false);
+    }
     return texts;
 }

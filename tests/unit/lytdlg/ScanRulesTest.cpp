@@ -172,7 +172,7 @@ $INPUT, parent
     Start: (";", Unit = Name, Unit = "a;b" )",
         R"(
 $LAYOUT Example
-    PushButton 520, 12, 96, 21, "Add", .More
+    PushButton 520, 12, 96, 21, "Remove", .More
 $VALUES
     More: DIALOG = other, Back, Out
 $INPUT, Back

@@ -15,12 +15,12 @@ constexpr const char* title = "lytdlg baseline 1";
 
 std::string KeyOf(const Finding& finding, const Description& description)
 {
-    std::string path = description.path;
+    std::string path = PathOf(finding, description);
     std::ranges::replace(path, '\\', '/');
-    const ClytSpan content = description.PlaceOf(finding.place.line);
+    const std::string& line = LineOf(finding, description);
+    const size_t start = std::min(line.find_first_not_of(" \t"), line.size());
     return std::string(finding.rule->id) + '\t' + path + '\t' +
-           description.text.Line(content.line)
-               .text.substr(static_cast<size_t>(content.column), static_cast<size_t>(content.length));
+           line.substr(start, line.find_last_not_of(" \t") + 1 - start);
 }
 
 } // namespace

@@ -106,6 +106,20 @@ std::optional<std::set<std::string>> ItemValues(const Description& description, 
     return values;
 }
 
+// The group that an option stands in; empty without one.
+CString GroupOf(const Description& description, const ClytControlStatement& option)
+{
+    CString group;
+    for (const ClytControlStatement& control : description.controls)
+    {
+        if (&control == &option)
+            break;
+        if (KindOf(control) == ControlKind::OptionGroup)
+            group = control.name;
+    }
+    return group;
+}
+
 } // namespace
 
 ControlKind KindOf(const ClytControlStatement& control)
@@ -178,6 +192,26 @@ bool HasOption(const Description& description, const std::string& name, ClytOpti
 {
     return std::ranges::any_of(StatementsOf(description, name),
                                [&](const ValueStatement* statement) { return OptionOf(*statement) == option; });
+}
+
+bool MayBeHidden(const Description& description, const ClytControlStatement& control)
+{
+    const CString name = KindOf(control) == ControlKind::OptionButton ? GroupOf(description, control) : control.name;
+    if (name.IsEmpty())
+        return false;
+    const auto hides = [&](const ClytControlDep* rule)
+    {
+        const ClytState meaning = rule->stateWord.GetMeaning();
+        return rule->controlName == name && (meaning == ClytState::Visible || meaning == ClytState::Other);
+    };
+    const auto toggles = [&](const ValueStatement& statement)
+    {
+        return lytMeaningOf<ClytAction>(statement.keyword.c_str()) == ClytAction::Visible &&
+               statement.values.front() == name.GetString();
+    };
+    return HasOption(description, name.GetString(), ClytOption::Invisible) ||
+           HasOption(description, name.GetString(), ClytOption::Hidden) ||
+           std::ranges::any_of(Records(description.rules), hides) || std::ranges::any_of(description.values, toggles);
 }
 
 const ValueStatement* SourceOf(const Description& description, const std::string& name)

@@ -44,6 +44,8 @@ std::string HintFor(const std::string& word, const std::vector<std::string>& kno
 std::vector<const ValueStatement*> StatementsOf(const Description& description, const std::string& name);
 // Whether the control has a statement whose value is that option, as HIDDEN.
 bool HasOption(const Description& description, const std::string& name, ClytOption option);
+// Whether a rule, a button or an option may hide the control, or the group of an option.
+bool MayBeHidden(const Description& description, const ClytControlStatement& control);
 // The FILLEDBY statement of a control, the last one; null without one.
 const ValueStatement* SourceOf(const Description& description, const std::string& name);
 // The items that $VALUES gives to a list, in their order.

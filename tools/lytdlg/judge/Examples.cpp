@@ -71,6 +71,27 @@ $OUTPUT, parent
 $END
 )";
 
+// Of a language file, to be gone on with.
+constexpr const char* exampleTexts =
+    "[Buttons]\r\n001=OK\r\n002=&Cancel\r\n\r\n"
+    "[MsgBox]\r\nNameMissing=Please enter a name.\r\n\r\n"
+    "[Example]\r\nTitle=Example\r\nName=&Name:\r\nUnit=&Unit:\r\nPlace=&Place:\r\nForm=&Form:\r\nOrder=&Order:\r\n"
+    "Short=&Short\r\nLong=&Long\r\nPictures=P&ictures\r\nAllRooms=&All rooms:\r\nAdd=A&dd\r\nRooms=&Rooms:\r\n"
+    "Parts=Par&ts:\r\nHall=Hall\r\nStairs=Stairs\r\nCellar=Cellar\r\nNoForm=(none)\r\nRound=Round\r\n"
+    "Square=Square\r\nKitchen=Kitchen\r\nBath=Bath\r\nOffice=Office\r\nAttic=Attic\r\n"
+    "Remove=Remo&ve\r\nNote=&Note\r\nExtra=E&xtra\r\nPlain=Plain\r\nAuthor=T&he author's name\r\n"
+    "LongText=A text that goes on for longer than the seventy-four characters that there are\r\n";
+
+// It shows what the example does not.
+constexpr const char* otherDescription =
+    "$VERSION 1\r\n$LAYOUT Example\r\nBegin Dialog Box 300, 220, \"Title\", .Main\r\n"
+    "TextBox 16, 12, 100, 19, .Name\r\nText 16, 38, 100, 12, \"Remove\"\r\nText 16, 54, 100, 12, \"Note\"\r\n"
+    "Text 16, 70, 100, 12, \"Plain\"\r\nText 16, 86, 100, 12, \"Author\"\r\nText 16, 102, 100, 12, \"LongText\"\r\n"
+    "Text 16, 118, 100, 12, \"Marked\"\r\nText 16, 134, 100, 12, \"Extra\"\r\nOKButton 16, 188, 80, 22\r\nCancelButton "
+    "108, 188, 80, 22\r\n"
+    "End Dialog\r\n$VALUES\r\n$DEPENDANCES\r\n$EVALUATION, x\r\n$INPUT, parent\r\n"
+    "Start: (999, End = Name\r\n$OUTPUT, parent\r\n(\"%s\", Name)\r\n$END\r\n";
+
 std::string Trimmed(const std::string& line)
 {
     const size_t start = line.find_first_not_of(" \t");
@@ -224,19 +245,12 @@ std::string ExampleDescription(const std::string& lines)
 
 const std::vector<ExampleFile>& ExampleFiles()
 {
-    static const std::vector<ExampleFile> files = {
-        {"lyt.ini", "[global]\r\nCurrent Language=English\r\n"},
-        {"lang/English.nls", "[Buttons]\r\n001=OK\r\n002=Cancel\r\n\r\n"
-                             "[MsgBox]\r\nNameMissing=Please enter a name.\r\n\r\n"
-                             "[Example]\r\nTitle=Example\r\nName=Name:\r\nUnit=Unit:\r\nPlace=Place:\r\n"
-                             "Form=Form:\r\nOrder=Order:\r\nShort=Short\r\nLong=Long\r\nPictures=Pictures\r\n"
-                             "AllRooms=All rooms:\r\nAdd=Add\r\nRemove=Remove\r\nRooms=Rooms:\r\nParts=Parts:\r\n"
-                             "Hall=Hall\r\nStairs=Stairs\r\nCellar=Cellar\r\nNoForm=(none)\r\nRound=Round\r\n"
-                             "Square=Square\r\nKitchen=Kitchen\r\nBath=Bath\r\nOffice=Office\r\nAttic=Attic\r\n"},
-        {"other.dlg", "$VERSION 1\r\n$LAYOUT Example\r\nBegin Dialog Box 200, 80, \"Title\", .Main\r\n"
-                      "TextBox 16, 12, 100, 19, .Name\r\nOKButton 16, 48, 80, 22\r\nCancelButton 108, 48, 80, 22\r\n"
-                      "End Dialog\r\n$VALUES\r\n$DEPENDANCES\r\n$EVALUATION, x\r\n$INPUT, parent\r\n"
-                      "Start: (999, End = Name\r\n$OUTPUT, parent\r\n(\"%s\", Name)\r\n$END\r\n"}};
+    static const std::string english = std::string(exampleTexts) + "Marked=Marked\r\n";
+    static const std::string german = std::string(exampleTexts) + "Marked=Mar&ked\r\n";
+    static const std::vector<ExampleFile> files = {{"lyt.ini", "[global]\r\nCurrent Language=English\r\n"},
+                                                   {"lang/English.nls", english.c_str()},
+                                                   {"lang/German.nls", german.c_str()},
+                                                   {"other.dlg", otherDescription}};
     return files;
 }
 

@@ -11,7 +11,7 @@ namespace
 
 auto KeyOf(const Finding& finding)
 {
-    return std::tuple(finding.place.line, finding.place.column, finding.rule->level, std::string(finding.rule->id),
+    return std::tuple(finding.path, finding.place.line, finding.place.column, finding.rule->level, std::string(finding.rule->id),
                       finding.message);
 }
 
@@ -29,7 +29,7 @@ const char* WordOf(Level level)
 
 Finding& Findings::Add(const Rule& rule, const ClytSpan& place, std::string message, std::string hint)
 {
-    return m_findings.emplace_back(Finding{&rule, place, std::move(message), std::move(hint), ""});
+    return m_findings.emplace_back(Finding{&rule, place, std::move(message), std::move(hint), "", "", ""});
 }
 
 void Findings::Sort()

@@ -38,6 +38,8 @@ struct Finding
     std::string message;
     std::string hint;
     std::string number; // of the library's message; empty when it shows none
+    std::string path;   // of the file that the place is in; empty for the description itself
+    std::string line;   // of that other file
 };
 
 // Collects the findings on one description.

@@ -64,7 +64,7 @@ std::vector<Remark> RemarksOf(const DescriptionText& text)
 
 bool Silences(const Remark& remark, const Finding& finding)
 {
-    return finding.place.line == remark.place.line && remark.rule == finding.rule->id &&
+    return finding.path.empty() && finding.place.line == remark.place.line && remark.rule == finding.rule->id &&
            finding.rule->level != Level::Error;
 }
 

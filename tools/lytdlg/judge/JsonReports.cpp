@@ -25,7 +25,7 @@ public:
     {
         for (const Finding& finding : findings.All())
         {
-            Json told = {{"path", description.path},
+            Json told = {{"path", PathOf(finding, description)},
                          {"line", finding.place.line},
                          {"column", finding.place.column + 1},
                          {"length", finding.place.length},
@@ -91,7 +91,7 @@ private:
         const Json region = {{"startLine", std::max(1, finding.place.line)},
                              {"startColumn", finding.place.column + 1},
                              {"endColumn", finding.place.column + 1 + std::max(1, finding.place.length)}};
-        const Json place = {{"artifactLocation", {{"uri", UriOf(description.path)}}}, {"region", region}};
+        const Json place = {{"artifactLocation", {{"uri", UriOf(PathOf(finding, description))}}}, {"region", region}};
         const std::string hint = finding.hint.empty() ? "" : "; " + finding.hint;
         return {{"ruleId", finding.rule->id},
                 {"level", WordOf(finding.rule->level)},

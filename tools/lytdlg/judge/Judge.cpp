@@ -7,16 +7,19 @@
 #include "lytdlg/judge/EvaluationRules.h"
 #include "lytdlg/judge/FillRules.h"
 #include "lytdlg/judge/FormatRules.h"
+#include "lytdlg/judge/GeometryRules.h"
 #include "lytdlg/judge/Ignores.h"
 #include "lytdlg/judge/LayoutRules.h"
 #include "lytdlg/judge/LibraryVerdict.h"
 #include "lytdlg/judge/LineRules.h"
 #include "lytdlg/judge/MarkRules.h"
+#include "lytdlg/judge/MnemonicRules.h"
 #include "lytdlg/judge/OutputRules.h"
 #include "lytdlg/judge/ScanRules.h"
 #include "lytdlg/judge/SectionRules.h"
 #include "lytdlg/judge/SeparatorRules.h"
 #include "lytdlg/judge/StatementRules.h"
+#include "lytdlg/judge/TextRules.h"
 #include "lytdlg/judge/ValueRules.h"
 
 namespace lytdlg
@@ -25,6 +28,16 @@ namespace lytdlg
 Surroundings SurroundingsOf(const std::string& folder, const std::vector<std::string>& partners)
 {
     return {folder, partners, LanguageFiles(folder)};
+}
+
+const std::string& PathOf(const Finding& finding, const Description& description)
+{
+    return finding.path.empty() ? description.path : finding.path;
+}
+
+const std::string& LineOf(const Finding& finding, const Description& description)
+{
+    return finding.path.empty() ? description.text.Line(finding.place.line).text : finding.line;
 }
 
 const std::vector<Family>& Families()
@@ -45,8 +58,16 @@ const std::vector<Family>& Families()
         FillRules(),
         OutputRules(),
         FormatRules(),
+    // The library comes last: it looks whether a finding stands for its failure.
+    static const std::vector<Family> families = {
         MarkRules(),
         ContentRules(),
+        TextRules(),
+        MnemonicRules(),
+        GeometryRules(),
+        IgnoreRules(),
+        LibraryRules(),
+    };
         IgnoreRules(),
         LibraryRules(),
     };

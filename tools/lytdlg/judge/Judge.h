@@ -32,6 +32,10 @@ struct Family
     void (*judge)(const Case& judged);
 };
 
+// The file that a finding is in, and its line there.
+const std::string& PathOf(const Finding& finding, const Description& description);
+const std::string& LineOf(const Finding& finding, const Description& description);
+
 const std::vector<Family>& Families();
 // Null when there is no rule of that id.
 const Rule* FindRule(const std::string& id);

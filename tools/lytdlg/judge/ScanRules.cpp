@@ -33,7 +33,7 @@ constexpr Rule partUnused = {
     "No button runs the part.",
     "A part other than parent is run by a button with DIALOG or ACTION that names it.",
     "$INPUT, Back\n    Start: (999, End = Name",
-    "$LAYOUT Example\n    PushButton 520, 12, 96, 21, \"Add\", .More\n$VALUES\n    More: DIALOG = other, Back, Out\n"
+    "$LAYOUT Example\n    PushButton 520, 12, 96, 21, \"Remove\", .More\n$VALUES\n    More: DIALOG = other, Back, Out\n"
     "$INPUT, Back\n    Start: (999, End = Name\n$OUTPUT, Out\n    (\"%s\", Name)"};
 
 constexpr Rule nameTwice = {"scan-twice",

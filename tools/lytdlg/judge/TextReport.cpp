@@ -75,13 +75,18 @@ std::string TextOf(const Finding& finding, const Description& description, bool 
     const char* const colour = isColoured ? ColourOf(finding.rule->level) : "";
     const char* const plain = isColoured ? "\033[0m" : "";
     const std::string number = finding.number.empty() ? "" : " (message " + finding.number + ")";
-    std::string text = description.path + ":" + std::to_string(finding.place.line) + ":" +
+    std::string text = PathOf(finding, description) + ":" + std::to_string(finding.place.line) + ":" +
                        std::to_string(finding.place.column + 1) + ": " + colour + WordOf(finding.rule->level) + plain +
                        " " + finding.rule->id + ": " + commandline::ToUtf8(finding.message) + number + "\n";
     if (finding.place.line > 0)
     {
+<<<<<<< HEAD
         const std::string& line = description.text.Line(finding.place.line).text;
         text += "    " + commandline::ToUtf8(Shown(line)) + "\n    " +
+=======
+        const std::string& line = LineOf(finding, description);
+        text += "    " + commandline::ToUtf8(line) + "\n    " +
+>>>>>>> bc14f60 (lytdlg: judge the texts and the places of the controls)
                 BlanksTo(line, static_cast<size_t>(finding.place.column)) + colour + "^" +
                 std::string(static_cast<size_t>(std::max(0, finding.place.length - 1)), '~') + plain + "\n";
     }

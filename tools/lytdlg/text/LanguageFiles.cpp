@@ -67,7 +67,7 @@ private:
         if (IsSectionLine(text))
             BeginSection(Trimmed(text.substr(1, text.rfind(']') - 1)));
         else if (!text.empty() && text.front() != ';')
-            AddKey(text, static_cast<int>(text.data() - line.data()));
+            AddKey(text, line);
     }
 
     void BeginSection(std::string_view name)
@@ -78,11 +78,13 @@ private:
         m_sections.push_back(m_section);
     }
 
-    void AddKey(std::string_view text, int column)
+    void AddKey(std::string_view text, std::string_view line)
     {
+        const auto column = static_cast<int>(text.data() - line.data());
         const size_t sign = text.find('=');
         const std::string_view name = UpToNul(Trimmed(text.substr(0, sign)));
-        LanguageKey key = {m_section, std::string(name), {}, {m_line, column, static_cast<int>(name.size())}};
+        LanguageKey key = {m_section, std::string(name), {}, {m_line, column, static_cast<int>(name.size())}, false,
+                           false,     std::string(line)};
         key.hasText = sign != std::string_view::npos;
         if (key.hasText)
             key.text = Unquoted(UpToNul(Trimmed(text.substr(sign + 1))));

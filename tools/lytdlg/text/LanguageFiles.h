@@ -21,6 +21,7 @@ struct LanguageKey
     ClytSpan place;         // of the name
     bool hasText = false;   // without an `=` the key is one that is missing
     bool isReached = false; // false in the second of two sections, or keys, of one name: the library never looks there
+    std::string line;       // the whole line that holds it
 };
 
 // Every line with a key of a file's content, in its order.

@@ -1,0 +1,326 @@
+#include "lytdlg/judge/GeometryRules.h"
+
+#include "lytdlg/judge/Places.h"
+
+#include <algorithm>
+
+namespace lytdlg
+{
+
+namespace
+{
+
+// What docs/descriptions.md tells authors: layout units.
+constexpr int fieldHeight = 19;
+constexpr int rowHeight = 15;
+constexpr int listFrame = 4;
+
+constexpr Rule overlap = {
+    "geometry-overlap",
+    Level::Warning,
+    "Two controls cover one another.",
+    "A Text, a CheckBox and an OptionButton are as large as their text, in each language and at "
+    "96 and at 120 dots per\ninch. A frame holds other controls, and they should not stand on its "
+    "border.",
+    "$LAYOUT Example\n    TextBox 520, 12, 100, 19, .More\n    TextBox 600, 12, 100, 19, .Most",
+    "$LAYOUT Example\n    TextBox 520, 12, 100, 19, .More\n    TextBox 632, 12, 100, 19, .Most"};
+
+constexpr Rule outside = {"geometry-outside",
+                          Level::Warning,
+                          "A control goes beyond the dialog.",
+                          "What goes beyond the edge of the dialog is not seen.",
+                          "$LAYOUT Example\n    TextBox 700, 12, 100, 19, .More",
+                          "$LAYOUT Example\n    TextBox 640, 12, 100, 19, .More"};
+
+constexpr Rule clipped = {"geometry-clipped",
+                          Level::Warning,
+                          "A caption is wider than its control.",
+                          "A button and a frame do not grow with their text: it is cut at both ends.",
+                          "$LAYOUT Example\n    PushButton 520, 12, 30, 21, \"Remove\", .More",
+                          "$LAYOUT Example\n    PushButton 520, 12, 90, 21, \"Remove\", .More"};
+
+constexpr Rule tabOrder = {"geometry-tab",
+                           Level::Warning,
+                           "The Tab key goes back.",
+                           "The Tab key follows the order of the statements: let them stand as one reads the dialog, "
+                           "from the top down and from\nleft to right.",
+                           "$LAYOUT Example\n    TextBox 520, 64, 100, 19, .More\n    TextBox 520, 38, 100, 19, .Most",
+                           "$LAYOUT Example\n    TextBox 520, 38, 100, 19, .More\n    TextBox 520, 64, 100, 19, .Most"};
+
+constexpr Rule noDrop = {"geometry-drop",
+                         Level::Warning,
+                         "A list that drops down has no room to open.",
+                         "The height of a ComboBox or DropListBox is that of the field and the open list together: 19 "
+                         "units for the field and\n15 for each row.",
+                         "$LAYOUT Example\n    ComboBox 520, 12, 100, 19, .More",
+                         "$LAYOUT Example\n    ComboBox 520, 12, 100, 79, .More"};
+
+constexpr Rule noRow = {"geometry-row",
+                        Level::Warning,
+                        "A list is too low for a row.",
+                        "A list shows whole rows only: allow 15 units for each row and 4 for the frame.",
+                        "$LAYOUT Example\n    ListBox 520, 12, 100, 16, .More",
+                        "$LAYOUT Example\n    ListBox 520, 12, 100, 34, .More"};
+
+constexpr Rule splitFrame = {
+    "geometry-frame",
+    Level::Warning,
+    "A frame holds some options of a group and not the others.",
+    "What stands in one frame belongs together: a frame should hold all options of a group.",
+    "$LAYOUT Example\n    GroupBox 508, 6, 130, 60, \"\"\n    OptionGroup .More\n"
+    "    OptionButton 520, 24, 80, 12, \"Remove\", .One\n    OptionButton 650, 24, 80, 12, \"Extra\", .Two",
+    "$LAYOUT Example\n    GroupBox 508, 6, 240, 60, \"\"\n    OptionGroup .More\n"
+    "    OptionButton 520, 24, 80, 12, \"Remove\", .One\n    OptionButton 650, 24, 80, 12, \"Extra\", .Two"};
+
+std::string NameOf(const ClytControlStatement& control)
+{
+    const CString& name = control.name.IsEmpty() ? control.text : control.name;
+    return name.IsEmpty() ? "the " + std::string(control.type.GetString()) : InQuotes(name.GetString());
+}
+
+using Pair = std::pair<const ClytControlStatement*, const ClytControlStatement*>;
+
+// Where a rule found something about a control, or about two.
+struct Sighting
+{
+    Pair controls;
+    const Screen* first = nullptr;
+    size_t count = 0;
+    int pixels = 0; // on the first screen
+};
+
+class Sightings
+{
+public:
+    void Add(const Screen& screen, const Pair& controls, int pixels = 0)
+    {
+        const auto known = std::ranges::find(m_sightings, controls, &Sighting::controls);
+        if (known != m_sightings.end())
+            ++known->count;
+        else
+            m_sightings.push_back({controls, &screen, 1, pixels});
+    }
+    const std::vector<Sighting>& All() const { return m_sightings; }
+
+private:
+    std::vector<Sighting> m_sightings;
+};
+
+// What is so at each resolution and in each language needs no more words.
+std::string Where(const Sighting& sighting, const std::vector<Screen>& screens)
+{
+    if (sighting.count == screens.size())
+        return "";
+    const std::string language =
+        sighting.first->language.empty() ? "" : " with the texts of " + sighting.first->language + ".nls";
+    return " at " + std::to_string(sighting.first->pixelsPerInch) + " dots per inch" + language;
+}
+
+bool IsEmpty(const CRect& place)
+{
+    return place.right <= place.left || place.bottom <= place.top;
+}
+
+bool Touch(const CRect& left, const CRect& right)
+{
+    return left.left < right.right && right.left < left.right && left.top < right.bottom && right.top < left.bottom;
+}
+
+bool Holds(const CRect& frame, const CRect& place)
+{
+    return frame.left <= place.left && frame.top <= place.top && place.right <= frame.right &&
+           place.bottom <= frame.bottom;
+}
+
+bool Cover(const PlacedControl& left, const PlacedControl& right)
+{
+    const bool areFrames = left.kind == ControlKind::GroupBox || right.kind == ControlKind::GroupBox;
+    const bool areSeen = !IsEmpty(left.place) && !IsEmpty(right.place) && !(left.mayBeHidden && right.mayBeHidden);
+    if (!areSeen || !Touch(left.place, right.place))
+        return false;
+    return !areFrames || !(Holds(left.place, right.place) || Holds(right.place, left.place));
+}
+
+void JudgeOverlap(const Case& judged, const std::vector<Screen>& screens)
+{
+    Sightings seen;
+    for (const Screen& screen : screens)
+    {
+        for (auto control = screen.controls.begin(); control != screen.controls.end(); ++control)
+        {
+            for (auto before = screen.controls.begin(); before != control; ++before)
+            {
+                if (Cover(*before, *control))
+                    seen.Add(screen, {before->control, control->control});
+            }
+        }
+    }
+    for (const Sighting& sighting : seen.All())
+    {
+        const auto& [before, control] = sighting.controls;
+        judged.findings.Add(overlap, control->span,
+                            NameOf(*control) + " and " + NameOf(*before) + " in line " +
+                                std::to_string(before->span.line) + " cover one another" + Where(sighting, screens),
+                            "move one of them, or make it smaller");
+    }
+}
+
+void JudgeOutside(const Case& judged, const std::vector<Screen>& screens)
+{
+    Sightings seen;
+    for (const Screen& screen : screens)
+    {
+        const CRect client = {0, 0, static_cast<int>(screen.client.cx), static_cast<int>(screen.client.cy)};
+        for (const PlacedControl& control : screen.controls)
+        {
+            if (!Holds(client, control.place))
+                seen.Add(screen, {control.control, nullptr});
+        }
+    }
+    for (const Sighting& sighting : seen.All())
+        judged.findings.Add(outside, sighting.controls.first->span,
+                            NameOf(*sighting.controls.first) + " goes beyond the dialog" + Where(sighting, screens),
+                            "move it, or make the dialog larger");
+}
+
+// What the frame of a button, or of a group with the start of its line, leaves for the text.
+int RoomOf(const PlacedControl& control)
+{
+    constexpr int buttonEdges = 6;
+    constexpr int frameEdges = 16;
+    switch (control.kind)
+    {
+    case ControlKind::PushButton:
+    case ControlKind::OkButton:
+    case ControlKind::CancelButton: return control.place.Width() - buttonEdges;
+    case ControlKind::GroupBox: return control.place.Width() - frameEdges;
+    default: return control.captionWidth;
+    }
+}
+
+void JudgeClipped(const Case& judged, const std::vector<Screen>& screens)
+{
+    Sightings seen;
+    for (const Screen& screen : screens)
+    {
+        for (const PlacedControl& control : screen.controls)
+        {
+            const int lacking = control.captionWidth - RoomOf(control);
+            if (lacking > 0)
+                seen.Add(screen, {control.control, nullptr}, lacking);
+        }
+    }
+    for (const Sighting& sighting : seen.All())
+        judged.findings.Add(clipped, sighting.controls.first->span,
+                            "the caption of " + NameOf(*sighting.controls.first) + " is " +
+                                std::to_string(sighting.pixels) + " pixels too wide" + Where(sighting, screens),
+                            "make the control wider, or the text shorter");
+}
+
+bool TakesFocus(const PlacedControl& control)
+{
+    return control.kind != ControlKind::Text && control.kind != ControlKind::GroupBox;
+}
+
+// The smallest frame round a control; null without one.
+const PlacedControl* FrameOf(const Screen& screen, const PlacedControl& control)
+{
+    const PlacedControl* smallest = nullptr;
+    for (const PlacedControl& candidate : screen.controls)
+    {
+        const bool isRound =
+            candidate.kind == ControlKind::GroupBox && &candidate != &control && Holds(candidate.place, control.place);
+        if (isRound && (smallest == nullptr || Holds(smallest->place, candidate.place)))
+            smallest = &candidate;
+    }
+    return smallest;
+}
+
+// Up in the same column, or to the left in the same row.
+bool GoesBack(const CRect& from, const CRect& to)
+{
+    const bool isAbove = to.bottom <= from.top;
+    const bool isSameRow = to.top < from.bottom && from.top < to.bottom;
+    return (isAbove && to.left < from.right) || (isSameRow && to.right <= from.left);
+}
+
+void JudgeTabOrder(const Case& judged, const Screen& screen)
+{
+    const PlacedControl* before = nullptr;
+    for (const PlacedControl& control : screen.controls)
+    {
+        if (!TakesFocus(control))
+            continue;
+        const bool isTold = before != nullptr && FrameOf(screen, *before) == FrameOf(screen, control) &&
+                            GoesBack(before->place, control.place);
+        if (isTold)
+            judged.findings.Add(tabOrder, control.control->span,
+                                "the Tab key goes back from " + NameOf(*before->control) + " in line " +
+                                    std::to_string(before->control->span.line) + " to " + NameOf(*control.control),
+                                "let the statements stand in the order of reading");
+        before = &control;
+    }
+}
+
+void JudgeHeights(const Case& judged)
+{
+    for (const ClytControlStatement& control : judged.description.controls)
+    {
+        const ControlKind kind = KindOf(control);
+        const bool isOpen = IsOpenList(kind);
+        if (HasItems(kind) && !isOpen && control.height < fieldHeight + rowHeight)
+            judged.findings.Add(noDrop, control.span,
+                                "with a height of " + std::to_string(control.height) + " the list has no room to open",
+                                "allow 19 for the field and 15 for each row");
+        else if (isOpen && control.height < rowHeight + listFrame)
+            judged.findings.Add(noRow, control.span,
+                                "with a height of " + std::to_string(control.height) + " the list shows no row",
+                                "allow 15 for each row and 4 for the frame");
+    }
+}
+
+void JudgeFrames(const Case& judged, const Screen& screen)
+{
+    const auto isIn = [&](const ClytControlStatement* option, const CRect& place)
+    {
+        return std::ranges::any_of(screen.controls, [&](const PlacedControl& control)
+                                   { return control.control == option && Holds(place, control.place); });
+    };
+    for (const ClytControlStatement& group : judged.description.controls)
+    {
+        if (KindOf(group) != ControlKind::OptionGroup)
+            continue;
+        const std::vector<const ClytControlStatement*> options = OptionButtonsOf(judged.description, group.name.GetString());
+        for (const PlacedControl& box : screen.controls)
+        {
+            const auto held = std::ranges::count_if(options, [&](const ClytControlStatement* option)
+                                                    { return isIn(option, box.place); });
+            if (box.kind == ControlKind::GroupBox && held != 0 && held != std::ssize(options))
+                judged.findings.Add(splitFrame, box.control->span,
+                                    "the frame holds " + std::to_string(held) + " of the " +
+                                        std::to_string(options.size()) + " options of " + NameOf(group),
+                                    "let it hold all of them");
+        }
+    }
+}
+
+} // namespace
+
+Family GeometryRules()
+{
+    return {{&overlap, &outside, &clipped, &tabOrder, &noDrop, &noRow, &splitFrame},
+            [](const Case& judged)
+            {
+                if (judged.description.width <= 0 || judged.description.height <= 0)
+                    return;
+                const std::vector<Screen> screens = ScreensOf(judged.description, judged.surroundings.texts);
+                JudgeOverlap(judged, screens);
+                JudgeOutside(judged, screens);
+                JudgeClipped(judged, screens);
+                JudgeTabOrder(judged, screens.front());
+                JudgeFrames(judged, screens.front());
+                JudgeHeights(judged);
+            }};
+}
+
+} // namespace lytdlg

@@ -1,0 +1,141 @@
+#include "lytdlg/judge/MnemonicRules.h"
+
+#include "lytdlg/judge/Controls.h"
+#include "lytdlg/judge/TextUses.h"
+
+#include <algorithm>
+
+namespace lytdlg
+{
+
+namespace
+{
+
+constexpr Rule twice = {
+    "mnemonic-twice",
+    Level::Warning,
+    "Two captions of a dialog underline the same letter.",
+    "Alt with the letter then goes from one to the other, and a button needs a second press. Choose "
+    "another letter in\nthe language file.",
+    "$LAYOUT Example\n    CheckBox 520, 12, 100, 12, \"Note\", .More",
+    "$LAYOUT Example\n    CheckBox 520, 12, 100, 12, \"Remove\", .More"};
+
+constexpr Rule none = {
+    "mnemonic-none",
+    Level::Note,
+    "A caption underlines no letter, while most of the others do.",
+    "An & before a letter of the caption underlines it, and Alt with that letter goes to the button, "
+    "or to the control\nafter a Text.",
+    "$LAYOUT Example\n    CheckBox 520, 12, 100, 12, \"Plain\", .More",
+    "$LAYOUT Example\n    CheckBox 520, 12, 100, 12, \"Remove\", .More"};
+
+struct Caption
+{
+    const TextUse* use = nullptr;
+    char letter = '\0';
+};
+
+std::string NameOf(const ClytControlStatement& control)
+{
+    return control.name.GetString();
+}
+
+bool IsHidden(const Description& description, const ClytControlStatement& control)
+{
+    return !control.name.IsEmpty() && HasOption(description, NameOf(control), ClytOption::Hidden);
+}
+
+// The captions that lead to a control, with their letters.
+std::vector<Caption> CaptionsOf(const Description& description, const LanguageFile& file,
+                                const std::vector<TextUse>& uses)
+{
+    std::vector<Caption> captions;
+    for (const TextUse& use : uses)
+    {
+        const bool isCaption =
+            use.role == TextRole::Caption || use.role == TextRole::Alternate || use.role == TextRole::Button;
+        const LanguageKey* key = file.Find(use.section, use.key);
+        if (isCaption && key != nullptr && !IsHidden(description, *use.control))
+            captions.push_back({&use, MnemonicOf(key->text)});
+    }
+    return captions;
+}
+
+bool AreSeenTogether(const Description& description, const Caption& left, const Caption& right)
+{
+    const ClytControlStatement& one = *left.use->control;
+    const ClytControlStatement& other = *right.use->control;
+    return &one != &other && !(MayBeHidden(description, one) && MayBeHidden(description, other));
+}
+
+void JudgeTwice(const Case& judged, const LanguageFile& file, const std::vector<Caption>& captions)
+{
+    for (auto caption = captions.begin(); caption != captions.end(); ++caption)
+    {
+        const auto before = std::find_if(captions.begin(), caption,
+                                         [&](const Caption& other) {
+                                             return other.letter == caption->letter &&
+                                                    AreSeenTogether(judged.description, other, *caption);
+                                         });
+        if (caption->letter == '\0' || before == caption)
+            continue;
+        judged.findings.Add(twice, caption->use->place,
+                            "in " + file.Language() + ".nls " + InQuotes(caption->use->key) +
+                                " underlines the letter " + std::string(1, caption->letter) + " as " +
+                                InQuotes(before->use->key) + " in line " + std::to_string(before->use->place.line) +
+                                " does",
+                            "choose another letter in the language file");
+    }
+}
+
+// Buttons, and texts whose next control can be reached. The two buttons that every dialog has are reached by Return and
+// Escape.
+bool LeadsSomewhere(const Description& description, const Caption& caption)
+{
+    const ClytControlStatement* control = caption.use->control;
+    const ControlKind kind = KindOf(*control);
+    if (kind != ControlKind::Text)
+        return caption.use->role == TextRole::Caption && kind != ControlKind::GroupBox;
+    const ClytControlStatement* next = control + 1; // the statements stand in one vector
+    if (control == &description.controls.back())
+        return false;
+    const bool isReached = KindOf(*next) == ControlKind::TextBox || HasItems(KindOf(*next));
+    const std::string name = NameOf(*next);
+    return isReached && !HasOption(description, name, ClytOption::Hidden) &&
+           !HasOption(description, name, ClytOption::DisplayOnly);
+}
+
+void JudgeNone(const Case& judged, const LanguageFile& file, std::vector<Caption> captions)
+{
+    std::erase_if(captions, [&](const Caption& caption) { return !LeadsSomewhere(judged.description, caption); });
+    const auto lacking = static_cast<size_t>(std::ranges::count(captions, '\0', &Caption::letter));
+    if (lacking * 2 >= captions.size())
+        return;
+    for (const Caption& caption : captions)
+    {
+        if (caption.letter == '\0')
+            judged.findings.Add(none, caption.use->place,
+                                "in " + file.Language() + ".nls " + InQuotes(caption.use->key) +
+                                    " underlines no letter",
+                                "write an & before a letter that the dialog does not have yet");
+    }
+}
+
+} // namespace
+
+Family MnemonicRules()
+{
+    return {{&twice, &none},
+            [](const Case& judged)
+            {
+                const std::vector<TextUse> uses = TextUsesOf(judged.description);
+                for (const LanguageFile& file : judged.surroundings.texts.Files())
+                {
+                    const std::vector<Caption> captions = CaptionsOf(judged.description, file, uses);
+                    JudgeTwice(judged, file, captions);
+                    JudgeNone(judged, file, captions);
+                }
+            }};
+}
+
+} // namespace lytdlg

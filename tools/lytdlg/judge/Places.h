@@ -1,0 +1,35 @@
+// Where the controls of a description stand on a screen, as the library places them: scaled from layout units, and some as
+// large as their text.
+#pragma once
+
+#include "lytdlg/judge/Controls.h"
+#include "lytdlg/text/LanguageFiles.h"
+#include "model/ClytScale.h"
+
+#include <afxwin.h>
+
+namespace lytdlg
+{
+
+// A control with a window of its own that is seen.
+struct PlacedControl
+{
+    const ClytControlStatement* control = nullptr; // of the description
+    ControlKind kind = ControlKind::Unknown;
+    CRect place;
+    int captionWidth = 0; // without the marks of its letters
+    bool mayBeHidden = false;
+};
+
+struct Screen
+{
+    int pixelsPerInch = 0;
+    std::string language;                // empty when there is none
+    CSize client;                        // of the dialog
+    std::vector<PlacedControl> controls; // in the order of the file
+};
+
+// The dialog at each resolution, in each language.
+std::vector<Screen> ScreensOf(const Description& description, const LanguageFiles& texts);
+
+} // namespace lytdlg

@@ -1,0 +1,286 @@
+#include "lytdlg/judge/TextRules.h"
+
+#include "lytdlg/judge/Controls.h"
+#include "lytdlg/judge/TextUses.h"
+#include "lytdlg/text/TextFile.h"
+
+#include <algorithm>
+#include <filesystem>
+
+namespace lytdlg
+{
+
+namespace
+{
+
+constexpr Rule missing = {"text-missing",
+                          Level::Warning,
+                          "A text is not in the language file.",
+                          "The dialog shows \"no value present\" in its place. A text in the layout is a key of the "
+                          "section that $LAYOUT names;\nthe message of a check is a key of the section MsgBox.",
+                          "$LAYOUT Example\n    CheckBox 520, 12, 100, 12, \"Piktures\", .More",
+                          "$LAYOUT Example\n    CheckBox 520, 12, 100, 12, \"Remove\", .More"};
+
+constexpr Rule section = {"text-section",
+                          Level::Warning,
+                          "The text section is not in the language file.",
+                          "$LAYOUT names the section of the language files in which the texts of the dialog are keys.",
+                          "$LAYOUT Exmaple",
+                          "$LAYOUT Example"};
+
+constexpr Rule tooLong = {"text-long",
+                          Level::Warning,
+                          "A text has more than 74 characters.",
+                          "The library cuts it there. A message may say the rest in the manual.",
+                          "$VALUES\n    Form: LongText = long form",
+                          "$VALUES\n    Form: Hall = long form"};
+
+constexpr Rule apostrophe = {"text-apostrophe",
+                             Level::Warning,
+                             "A caption has an apostrophe.",
+                             "A caption ends at its first apostrophe. Write it without one.",
+                             "$LAYOUT Example\n    CheckBox 520, 12, 100, 12, \"Author\", .More",
+                             "$LAYOUT Example\n    CheckBox 520, 12, 100, 12, \"Remove\", .More"};
+
+constexpr Rule ampersand = {"text-ampersand",
+                            Level::Warning,
+                            "A title or an item has an ampersand.",
+                            "Titles and list items show an & as it is; only in captions it underlines a letter.",
+                            "$VALUES\n    Form: Remove = other form",
+                            "$VALUES\n    Form: Hall = other form"};
+
+constexpr Rule marks = {"text-marks",
+                        Level::Warning,
+                        "A text has other marks in one language than in the other.",
+                        "A text should have its letter for the keyboard (&), its line ends (\\n) and its place for the "
+                        "argument ('') in every\nlanguage or in none.",
+                        "$LAYOUT Example\n    Text 520, 12, 100, 12, \"Marked\", .More",
+                        "$LAYOUT Example\n    CheckBox 520, 12, 100, 12, \"Remove\", .More"};
+
+constexpr Rule unused = {"text-unused",
+                         Level::Note,
+                         "No dialog of the folder uses the text.",
+                         "The key is in the section of this dialog, and neither this dialog nor another one with that "
+                         "section shows it.",
+                         "$VALUES\n-    Form: Square = square form",
+                         "$VALUES\n    Form: Hall = other form"};
+
+std::string Joined(const std::vector<std::string>& words)
+{
+    std::string list;
+    for (const std::string& word : words)
+        list += (list.empty() ? "" : ", ") + word;
+    return list;
+}
+
+std::vector<std::string> KeyNames(const Case& judged, const std::string& language, const std::string& name)
+{
+    std::vector<std::string> names;
+    for (const LanguageKey& key : judged.surroundings.texts.Keys(language, name))
+        names.push_back(key.name);
+    return names;
+}
+
+bool HasSection(const LanguageFile& file, const std::string& name)
+{
+    return std::ranges::any_of(file.Keys(), [&](const LanguageKey& key) { return IsSameName(key.section, name); });
+}
+
+// Sections.
+
+void JudgeSection(const Case& judged)
+{
+    const Description& description = judged.description;
+    const SourceLine* header = description.text.HeaderOf(Section::Layout);
+    const std::string name = description.TextSection();
+    if (header == nullptr || name.empty())
+        return;
+    for (const LanguageFile& file : judged.surroundings.texts.Files())
+    {
+        if (HasSection(file, name))
+            continue;
+        std::vector<std::string> known;
+        for (const LanguageKey& key : file.Keys())
+            known.push_back(key.section);
+        judged.findings.Add(section, description.PlaceOf(header->number, name),
+                            file.Language() + ".nls has no section [" + name + "]",
+                            HintFor(name, known, "add it, with all texts"));
+    }
+}
+
+// Each text in each language.
+
+void JudgeMissing(const Case& judged, const TextUse& use)
+{
+    std::vector<std::string> lacking;
+    std::string hint;
+    for (const LanguageFile& file : judged.surroundings.texts.Files())
+    {
+        const bool isSectionTold = use.section == judged.description.TextSection() && !HasSection(file, use.section);
+        if (isSectionTold || file.Find(use.section, use.key) != nullptr)
+            continue;
+        lacking.push_back(file.Language() + ".nls");
+        if (hint.empty())
+            hint = HintFor(use.key, KeyNames(judged, file.Language(), use.section), "");
+    }
+    if (!lacking.empty())
+        judged.findings.Add(missing, use.place,
+                            Joined(lacking) + ": no text " + InQuotes(use.key) + " in [" + use.section + "]",
+                            hint.empty() ? "add it there" : hint);
+}
+
+Finding& AddAt(const Case& judged, const Rule& rule, const LanguageFile& file, const LanguageKey& key,
+               const std::string& message, const std::string& hint)
+{
+    Finding& finding = judged.findings.Add(rule, key.place, message, hint);
+    finding.path = file.FileName();
+    finding.line = key.line;
+    return finding;
+}
+
+void JudgeText(const Case& judged, const TextUse& use, const LanguageFile& file, const LanguageKey& key)
+{
+    const bool isCaption = use.role == TextRole::Caption;
+    const bool isShownAsItIs = use.role == TextRole::Title || use.role == TextRole::Item;
+    if (key.text.size() > longestLanguageText)
+        AddAt(judged, tooLong, file, key,
+              "the text has " + std::to_string(key.text.size()) + " characters and is cut after 74: \"..." +
+                  key.text.substr(longestLanguageText - 20, 20) + "\"",
+              "shorten it");
+    if (isCaption && key.text.find('\'') != std::string::npos)
+        AddAt(judged, apostrophe, file, key,
+              "the caption ends at the apostrophe: " + InQuotes(key.text.substr(0, key.text.find('\'') + 1)),
+              "write it without an apostrophe");
+    if (isShownAsItIs && key.text.find('&') != std::string::npos)
+        AddAt(judged, ampersand, file, key,
+              std::string("a ") + (use.role == TextRole::Title ? "title" : "list item") + " shows the & as it is",
+              "leave it out");
+}
+
+size_t CountOf(const std::string& text, const std::string& mark)
+{
+    size_t count = 0;
+    for (size_t place = text.find(mark); place != std::string::npos; place = text.find(mark, place + mark.size()))
+        ++count;
+    return count;
+}
+
+// What a text has fewer or more of than its translation; empty when they agree.
+std::string DifferentMark(TextRole role, const std::string& left, const std::string& right)
+{
+    const bool isCaption = role == TextRole::Caption || role == TextRole::Alternate || role == TextRole::Button;
+    if (isCaption && (MnemonicOf(left) != '\0') != (MnemonicOf(right) != '\0'))
+        return "&";
+    if (role == TextRole::Message && CountOf(left, "''") != CountOf(right, "''"))
+        return "''";
+    return CountOf(left, "\\n") != CountOf(right, "\\n") ? "\\n" : "";
+}
+
+void JudgeMarks(const Case& judged, const TextUse& use)
+{
+    const LanguageFile* first = nullptr;
+    const LanguageKey* model = nullptr;
+    for (const LanguageFile& file : judged.surroundings.texts.Files())
+    {
+        const LanguageKey* key = file.Find(use.section, use.key);
+        if (key != nullptr && model == nullptr)
+        {
+            first = &file;
+            model = key;
+        }
+        if (key == nullptr || key == model)
+            continue;
+        const std::string mark = DifferentMark(use.role, model->text, key->text);
+        if (!mark.empty())
+            AddAt(judged, marks, file, *key,
+                  "the marks " + mark + " differ from those in " + first->Language() + ".nls, line " +
+                      std::to_string(model->place.line),
+                  "give both languages the same marks");
+    }
+}
+
+// Texts that nothing uses.
+
+// What a description shows with any of its defines, and without.
+void AddUses(const std::string& bytes, std::set<std::string>& sections, std::vector<TextUse>& uses)
+{
+    const Description plain("", bytes, {});
+    std::vector<std::vector<std::string>> variants = {{}, plain.text.DefineNames()};
+    for (const std::string& define : plain.text.DefineNames())
+        variants.push_back({define});
+    for (const std::vector<std::string>& defines : variants)
+    {
+        const Description description("", bytes, defines);
+        sections.insert(description.TextSection());
+        for (TextUse& use : TextUsesOf(description))
+        {
+            use.control = nullptr;
+            uses.push_back(std::move(use));
+        }
+    }
+}
+
+std::string BytesOf(const Description& description)
+{
+    std::string bytes;
+    for (const SourceLine& line : description.text.Lines())
+        bytes += line.text + "\n";
+    return bytes;
+}
+
+// Told for the first dialog of the folder that has the section.
+void JudgeUnused(const Case& judged)
+{
+    const std::string name = judged.description.TextSection();
+    const std::filesystem::path own = std::filesystem::path(judged.description.path).filename();
+    std::set<std::string> sections;
+    std::vector<TextUse> uses;
+    AddUses(BytesOf(judged.description), sections, uses);
+    for (const std::filesystem::path& file : FilesIn(judged.surroundings.folder, ".dlg"))
+    {
+        if (file.filename() == own)
+            continue;
+        std::set<std::string> others;
+        AddUses(ReadWholeFile(file).value_or(""), others, uses);
+        if (others.contains(name) && file.filename() < own)
+            return;
+    }
+    for (const LanguageFile& file : judged.surroundings.texts.Files())
+    {
+        for (const LanguageKey& key : file.Keys())
+        {
+            const bool isOfSection = key.isReached && !name.empty() && IsSameName(key.section, name);
+            const auto isUse = [&](const TextUse& use)
+            { return IsSameName(use.section, name) && IsSameName(use.key, key.name); };
+            if (isOfSection && std::ranges::none_of(uses, isUse))
+                AddAt(judged, unused, file, key, "no dialog of the folder uses the text " + InQuotes(key.name),
+                      "take it away");
+        }
+    }
+}
+
+} // namespace
+
+Family TextRules()
+{
+    return {{&missing, &section, &tooLong, &apostrophe, &ampersand, &marks, &unused},
+            [](const Case& judged)
+            {
+                if (judged.surroundings.texts.Files().empty())
+                    return;
+                JudgeSection(judged);
+                for (const TextUse& use : TextUsesOf(judged.description))
+                {
+                    JudgeMissing(judged, use);
+                    JudgeMarks(judged, use);
+                    for (const LanguageFile& file : judged.surroundings.texts.Files())
+                    {
+                        if (const LanguageKey* key = file.Find(use.section, use.key))
+                            JudgeText(judged, use, file, *key);
+                    }
+                }
+                JudgeUnused(judged);
+            }};
+}
+
+} // namespace lytdlg

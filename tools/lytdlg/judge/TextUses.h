@@ -1,0 +1,34 @@
+// The texts of language files that a description shows.
+#pragma once
+
+#include "lytdlg/judge/Description.h"
+
+namespace lytdlg
+{
+
+enum class TextRole
+{
+    Title,
+    Caption,   // of a control
+    Alternate, // the other caption of a button
+    Item,      // of a list
+    Message,   // of a check
+    Button     // OK and Cancel, whose keys are fixed
+};
+
+struct TextUse
+{
+    TextRole role = TextRole::Title;
+    std::string section;
+    std::string key;
+    ClytSpan place;
+    const ClytControlStatement* control = nullptr; // of the description; null for the title and for messages
+};
+
+// In the order of the file. Without a text section a dialog has only its messages and the texts of OK and Cancel.
+std::vector<TextUse> TextUsesOf(const Description& description);
+
+// The letter that `&` marks in a caption, small; 0 without one.
+char MnemonicOf(const std::string& text);
+
+} // namespace lytdlg
