@@ -32,11 +32,18 @@ TEST(GeometryRules, TellOfControlsThatAreNotSeenWhole)
 )"},
         {R"($LAYOUT Example
     CheckBox 520, 12, 60, 12, "Remove", .More
-    TextBox 607, 8, 100, 19, .Most)",
+    TextBox 606, 8, 100, 19, .Most)",
          R"(example.dlg:25:5: warning geometry-overlap: "Most" and "More" in line 24 cover one another
-        TextBox 607, 8, 100, 19, .Most
+        TextBox 606, 8, 100, 19, .Most
         ^~~~~~~~~~~~~~~~~~~~~~~~~~~~~~
     hint: move one of them, or make it smaller
+)"},
+        {R"($LAYOUT Example
+    PushButton 520, 12, 60, 21, "Remove", .More)",
+         R"(example.dlg:24:5: warning geometry-clipped: the caption of "More" is 1 pixel too wide at 96 dots per inch with the texts of English.nls
+        PushButton 520, 12, 60, 21, "Remove", .More
+        ^~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~
+    hint: make the control wider, or the text shorter
 )"},
         {R"($LAYOUT Example
     TextBox 700, 12, 100, 19, .More)",

@@ -6,13 +6,13 @@
 
 using namespace lytdlg;
 
-std::string TextsOfFindings(const std::string& lines)
+std::string TextsOfFindings(const std::string& lines, const std::vector<std::string>& partners)
 {
     const TestFolder folder;
     for (const ExampleFile& file : ExampleFiles())
         folder.Write(file.name, file.content);
     const Description description("example.dlg", ExampleDescription(lines), {});
-    Findings findings = Judge(description, SurroundingsOf(folder.Path(), {}));
+    Findings findings = Judge(description, SurroundingsOf(folder.Path(), partners));
     std::string texts;
     for (Finding& finding : findings.All())
     {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 // Lines of an example and the texts of all findings in it.
 struct JudgedLines
@@ -10,5 +11,6 @@ struct JudgedLines
     const char* findings;
 };
 
-// Judges the description of the examples with these lines put into it; the texts of all findings.
-std::string TextsOfFindings(const std::string& lines);
+// Judges the description of the examples with these lines put into it; the texts of all findings. Partner libraries are
+// in those folders.
+std::string TextsOfFindings(const std::string& lines, const std::vector<std::string>& partners = {});

@@ -213,7 +213,8 @@ void JudgeClipped(const Case& judged, const std::vector<Screen>& screens)
     for (const Sighting& sighting : seen.All())
         judged.findings.Add(clipped, sighting.controls.first->span,
                             "the caption of " + NameOf(*sighting.controls.first) + " is " +
-                                std::to_string(sighting.pixels) + " pixels too wide" + Where(sighting, screens),
+                                std::to_string(sighting.pixels) + (sighting.pixels == 1 ? " pixel" : " pixels") +
+                                " too wide" + Where(sighting, screens),
                             "make the control wider, or the text shorter");
 }
 

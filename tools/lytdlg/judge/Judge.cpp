@@ -15,6 +15,7 @@
 #include "lytdlg/judge/MarkRules.h"
 #include "lytdlg/judge/MnemonicRules.h"
 #include "lytdlg/judge/OutputRules.h"
+#include "lytdlg/judge/PartnerRules.h"
 #include "lytdlg/judge/ScanRules.h"
 #include "lytdlg/judge/SectionRules.h"
 #include "lytdlg/judge/SeparatorRules.h"
@@ -65,6 +66,7 @@ const std::vector<Family>& Families()
         TextRules(),
         MnemonicRules(),
         GeometryRules(),
+        PartnerRules(),
         IgnoreRules(),
         LibraryRules(),
     };

@@ -1,0 +1,27 @@
+// The functions that a library file offers, read from its export table without loading it. Nothing of the file is trusted.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace lytdlg
+{
+
+enum class LibraryForm
+{
+    NoLibrary, // not a library, or damaged
+    OtherBits, // a library that a 64-bit program cannot load
+    Library
+};
+
+struct ExportTable
+{
+    LibraryForm form = LibraryForm::NoLibrary;
+    std::vector<std::string> names; // as far as the table can be read
+};
+
+// The bytes of a whole file.
+ExportTable ReadExports(std::string_view bytes);
+
+} // namespace lytdlg

@@ -1,0 +1,227 @@
+#include "lytdlg/judge/PartnerRules.h"
+
+#include "lytdlg/judge/Controls.h"
+#include "lytdlg/judge/ExportTable.h"
+#include "lytdlg/text/TextFile.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <map>
+#include <sstream>
+
+namespace lytdlg
+{
+
+namespace
+{
+
+constexpr Rule library = {
+    "partner-library",
+    Level::Warning,
+    "A library is in none of the folders.",
+    "A list or a field that is FILLEDBY it stays empty without a message; an ACTION shows one. Give "
+    "each folder that may\nhold it with --partners.",
+    "",
+    ""};
+
+constexpr Rule form = {"partner-form",
+                       Level::Warning,
+                       "A library is none that a 64-bit program can load.",
+                       "A 64-bit word processor loads 64-bit libraries only.",
+                       "",
+                       ""};
+
+constexpr Rule function = {
+    "partner-function",
+    Level::Warning,
+    "A library has no function of that name.",
+    "A list or a field stays empty without a message; an ACTION shows one. Names are compared letter by\n"
+    "letter. Of other libraries than lyt64.dll the functions are known with --partners.",
+    "$LAYOUT Example\n    PushButton 520, 12, 90, 21, \"Remove\", .More\n"
+    "$VALUES\n    More: ACTION = lyt64.dll, lytOpenTreeVeiw, Out, Back\n$INPUT, Back\n    Start: (999, End = Name\n"
+    "$OUTPUT, Out\n    (\"%s\", Name)",
+    "$LAYOUT Example\n    PushButton 520, 12, 90, 21, \"Remove\", .More\n"
+    "$VALUES\n    More: ACTION = lyt64.dll, lytOpenTreeView, Out, Back\n$INPUT, Back\n    Start: (999, End = Name\n"
+    "$OUTPUT, Out\n    (\"%s\", Name)"};
+
+constexpr Rule shared = {
+    "partner-shared",
+    Level::Warning,
+    "Two controls of one type name different libraries.",
+    "All lists of one type share the first library that any of them loaded, for the life of the process, and so do "
+    "all\n"
+    "fields, and all lists that drop down. Put the functions into one library.",
+    "$LAYOUT Example\n    ListBox 520, 12, 100, 34, .More\n    ListBox 520, 64, 100, 34, .Most\n"
+    "$VALUES\n    More = FILLEDBY, lytdata, Open, Next\n    Most = FILLEDBY, other, Open, Next",
+    "$LAYOUT Example\n    ListBox 520, 12, 100, 34, .More\n    CheckListBox 520, 64, 100, 34, .Most\n"
+    "$VALUES\n    More = FILLEDBY, lytdata, Open, Next\n    Most = FILLEDBY, other, Open, Next"};
+
+constexpr const char* ownLibrary = "lyt64.dll";
+
+// A library that a statement names, with the functions that it calls.
+struct PartnerCall
+{
+    const ValueStatement* statement = nullptr;
+    ControlKind kind = ControlKind::Unknown;
+    std::string library;
+    std::vector<std::string> functions;
+    bool isAction = false;
+};
+
+std::vector<PartnerCall> CallsOf(const Description& description)
+{
+    std::vector<PartnerCall> calls;
+    for (const ValueStatement& statement : description.values)
+    {
+        const ClytControlStatement* control = description.FindControl(statement.name);
+        if (control == nullptr || statement.values.size() < 2)
+            continue;
+        const ControlKind kind = KindOf(*control);
+        const bool isFilled = lytMeaningOf<ClytKeyword>(statement.keyword.c_str()) == ClytKeyword::FilledBy;
+        const bool isAction = kind == ControlKind::PushButton &&
+                              lytMeaningOf<ClytAction>(statement.keyword.c_str()) == ClytAction::Action;
+        if (!isAction && !(isFilled && (HasItems(kind) || kind == ControlKind::TextBox)))
+            continue;
+        PartnerCall call = {&statement, kind, statement.values[0], {statement.values[1]}, isAction};
+        // The second function gives the next item; for a field it means nothing.
+        if (HasItems(kind) && statement.values.size() > 2)
+            call.functions.push_back(statement.values[2]);
+        calls.push_back(std::move(call));
+    }
+    return calls;
+}
+
+// As the platform completes a name before it looks for the file.
+std::string FileNameOf(const std::string& name)
+{
+    const std::string file = name.substr(name.find_last_of("\\/") + 1);
+    return file.find('.') == std::string::npos ? file + ".dll" : file;
+}
+
+const ExportTable& OwnExports()
+{
+    static const ExportTable table = []
+    {
+        ExportTable own = {LibraryForm::Library, {}};
+        std::istringstream names(LYT_EXPORTED_NAMES);
+        for (std::string name; std::getline(names, name, ',');)
+            own.names.push_back(name);
+        return own;
+    }();
+    return table;
+}
+
+// The libraries of the folders, each read once.
+class Partners
+{
+public:
+    explicit Partners(const std::vector<std::string>& folders) : m_folders(folders) {}
+
+    bool AreKnown() const { return !m_folders.empty(); }
+    // Null when no folder holds the file.
+    const ExportTable* Find(const std::string& fileName)
+    {
+        if (IsSameName(fileName, ownLibrary))
+            return &OwnExports();
+        const auto known = m_tables.find(fileName);
+        if (known != m_tables.end())
+            return &known->second;
+        for (const std::string& folder : m_folders)
+        {
+            for (const std::filesystem::path& file :
+                 FilesIn(folder, std::filesystem::path(fileName).extension().string()))
+            {
+                if (IsSameName(file.filename().string(), fileName))
+                    return &(m_tables[fileName] = ReadExports(ReadWholeFile(file).value_or("")));
+            }
+        }
+        return nullptr;
+    }
+
+private:
+    const std::vector<std::string>& m_folders; // of the surroundings, which outlive the judging
+    std::map<std::string, ExportTable> m_tables;
+};
+
+ClytSpan PlaceOf(const Case& judged, const PartnerCall& call, const std::string& word)
+{
+    const ClytSpan& span = call.statement->span;
+    const auto after = span.column + static_cast<int>(call.statement->name.size());
+    return judged.description.PlaceOf(span.line, word, after);
+}
+
+void JudgeFunctions(const Case& judged, const PartnerCall& call, const ExportTable& table)
+{
+    for (const std::string& name : call.functions)
+    {
+        if (std::ranges::find(table.names, name) != table.names.end())
+            continue;
+        judged.findings
+            .Add(function, PlaceOf(judged, call, name), FileNameOf(call.library) + " has no function " + InQuotes(name),
+                 HintFor(name, table.names, "name one of its functions"))
+            .number = call.isAction ? "232" : "";
+    }
+}
+
+void JudgeCall(const Case& judged, const PartnerCall& call, Partners& partners)
+{
+    const std::string file = FileNameOf(call.library);
+    const ExportTable* table = partners.Find(file);
+    if (table == nullptr)
+    {
+        if (partners.AreKnown())
+            judged.findings
+                .Add(library, PlaceOf(judged, call, call.library), file + " is in none of the folders for libraries",
+                     "check its name, or give its folder with --partners")
+                .number = call.isAction ? "233" : "";
+    }
+    else if (table->form != LibraryForm::Library)
+        judged.findings
+            .Add(form, PlaceOf(judged, call, call.library),
+                 table->form == LibraryForm::OtherBits ? file + " is no 64-bit library"
+                                                       : file + " is no library, or is damaged",
+                 "build it for 64 bits")
+            .number = call.isAction ? "233" : "";
+    else
+        JudgeFunctions(judged, call, *table);
+}
+
+// A drop-down list and a combo box are of one type.
+ControlKind SharedKind(ControlKind kind)
+{
+    return kind == ControlKind::DropListBox ? ControlKind::ComboBox : kind;
+}
+
+void JudgeShared(const Case& judged, const std::vector<PartnerCall>& calls)
+{
+    std::map<ControlKind, const PartnerCall*> first;
+    for (const PartnerCall& call : calls)
+    {
+        if (call.isAction)
+            continue;
+        const PartnerCall* before = first.emplace(SharedKind(call.kind), &call).first->second;
+        if (!IsSameName(FileNameOf(before->library), FileNameOf(call.library)))
+            judged.findings.Add(shared, PlaceOf(judged, call, call.library),
+                                InQuotes(before->statement->name) + " in line " +
+                                    std::to_string(before->statement->span.line) + " names " +
+                                    FileNameOf(before->library) + ", and controls of one type share a library",
+                                "put the functions into one library");
+    }
+}
+
+} // namespace
+
+Family PartnerRules()
+{
+    return {{&library, &form, &function, &shared},
+            [](const Case& judged)
+            {
+                const std::vector<PartnerCall> calls = CallsOf(judged.description);
+                Partners partners(judged.surroundings.partners);
+                for (const PartnerCall& call : calls)
+                    JudgeCall(judged, call, partners);
+                JudgeShared(judged, calls);
+            }};
+}
+
+} // namespace lytdlg
