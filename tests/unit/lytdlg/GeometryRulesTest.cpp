@@ -23,18 +23,10 @@ TEST(GeometryRules, TellOfControlsThatAreNotSeenWhole)
     hint: move one of them, or make it smaller
 )"},
         {R"($LAYOUT Example
-    CheckBox 520, 12, 60, 12, "Remove", .More
-    TextBox 590, 8, 100, 19, .Most)",
+    Text 520, 12, 60, 12, "Remove", .More
+    TextBox 560, 8, 100, 19, .Most)",
          R"(example.dlg:25:5: warning geometry-overlap: "Most" and "More" in line 24 cover one another
-        TextBox 590, 8, 100, 19, .Most
-        ^~~~~~~~~~~~~~~~~~~~~~~~~~~~~~
-    hint: move one of them, or make it smaller
-)"},
-        {R"($LAYOUT Example
-    CheckBox 520, 12, 60, 12, "Remove", .More
-    TextBox 606, 8, 100, 19, .Most)",
-         R"(example.dlg:25:5: warning geometry-overlap: "Most" and "More" in line 24 cover one another
-        TextBox 606, 8, 100, 19, .Most
+        TextBox 560, 8, 100, 19, .Most
         ^~~~~~~~~~~~~~~~~~~~~~~~~~~~~~
     hint: move one of them, or make it smaller
 )"},
@@ -83,6 +75,18 @@ example.dlg:25:5: warning geometry-tab: the Tab key goes back from the TextBox i
         TextBox 520, 2147483647, 2147483647, 2147483647, .More
         ^~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~
     hint: move it, or make the dialog larger
+example.dlg:24:18: warning number-range: the top 2147483647 is out of range
+        TextBox 520, 2147483647, 2147483647, 2147483647, .More
+                     ^~~~~~~~~~
+    hint: write a number from 0 to 32767
+example.dlg:24:30: warning number-range: the width 2147483647 is out of range
+        TextBox 520, 2147483647, 2147483647, 2147483647, .More
+                                 ^~~~~~~~~~
+    hint: write a number from 0 to 32767
+example.dlg:24:42: warning number-range: the height 2147483647 is out of range
+        TextBox 520, 2147483647, 2147483647, 2147483647, .More
+                                             ^~~~~~~~~~
+    hint: write a number from 0 to 32767
 example.dlg:25:5: warning geometry-tab: the Tab key goes back from "More" in line 24 to "Ok"
         OKButton  228, 384, 112,  22, .Ok
         ^~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~

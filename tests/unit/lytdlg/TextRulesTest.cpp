@@ -7,10 +7,10 @@ TEST(TextRules, TellOfTextsThatAreMissing)
 {
     static const JudgedLines cases[] = {
         {R"($LAYOUT Example
-    CheckBox 520, 12, 100, 12, "Piktures", .More)",
-         R"(example.dlg:24:33: warning text-missing: English.nls, German.nls: no text "Piktures" in [Example]
-        CheckBox 520, 12, 100, 12, "Piktures", .More
-                                    ^~~~~~~~
+    PushButton 520, 12, 112, 21, "Piktures", .More)",
+         R"(example.dlg:24:35: warning text-missing: English.nls, German.nls: no text "Piktures" in [Example]
+        PushButton 520, 12, 112, 21, "Piktures", .More
+                                      ^~~~~~~~
     hint: did you mean "Pictures"?
 )"},
         {R"($VALUES
@@ -57,7 +57,7 @@ lang/German.nls:37:1: warning text-long: the text has 78 characters and is cut a
     hint: shorten it
 )"},
         {R"($LAYOUT Example
-    CheckBox 520, 12, 100, 12, "Author", .More)",
+    PushButton 520, 12, 112, 21, "Author", .More)",
          R"(lang/English.nls:36:1: warning text-apostrophe: the caption ends at the apostrophe: "T&he author'"
     Author=T&he author's name
     ^~~~~~
@@ -118,25 +118,25 @@ TEST(MnemonicRules, TellOfLettersThatAreUsedTwiceOrMissing)
 {
     static const JudgedLines cases[] = {
         {R"($LAYOUT Example
-    CheckBox 520, 12, 100, 12, "Note", .More)",
-         R"(example.dlg:24:33: warning mnemonic-twice: in English.nls "Note" underlines the letter n as "Name" in line 4 does
-        CheckBox 520, 12, 100, 12, "Note", .More
-                                    ^~~~
+    PushButton 520, 12, 112, 21, "Note", .More)",
+         R"(example.dlg:24:35: warning mnemonic-twice: in English.nls "Note" underlines the letter n as "Name" in line 4 does
+        PushButton 520, 12, 112, 21, "Note", .More
+                                      ^~~~
     hint: choose another letter in the language file
-example.dlg:24:33: warning mnemonic-twice: in German.nls "Note" underlines the letter n as "Name" in line 4 does
-        CheckBox 520, 12, 100, 12, "Note", .More
-                                    ^~~~
+example.dlg:24:35: warning mnemonic-twice: in German.nls "Note" underlines the letter n as "Name" in line 4 does
+        PushButton 520, 12, 112, 21, "Note", .More
+                                      ^~~~
     hint: choose another letter in the language file
 )"},
         {R"($LAYOUT Example
-    CheckBox 520, 12, 100, 12, "Plain", .More)",
-         R"(example.dlg:24:33: note mnemonic-none: in English.nls "Plain" underlines no letter
-        CheckBox 520, 12, 100, 12, "Plain", .More
-                                    ^~~~~
+    PushButton 520, 12, 112, 21, "Plain", .More)",
+         R"(example.dlg:24:35: note mnemonic-none: in English.nls "Plain" underlines no letter
+        PushButton 520, 12, 112, 21, "Plain", .More
+                                      ^~~~~
     hint: write an & before a letter that the dialog does not have yet
-example.dlg:24:33: note mnemonic-none: in German.nls "Plain" underlines no letter
-        CheckBox 520, 12, 100, 12, "Plain", .More
-                                    ^~~~~
+example.dlg:24:35: note mnemonic-none: in German.nls "Plain" underlines no letter
+        PushButton 520, 12, 112, 21, "Plain", .More
+                                      ^~~~~
     hint: write an & before a letter that the dialog does not have yet
 )"},
     };
@@ -149,8 +149,8 @@ TEST(MnemonicRules, FindNothingWrongInControlsThatTakeTurns)
     static const char* const cases[] = {
         R"(
 $LAYOUT Example
-    CheckBox 520, 12, 100, 12, "Remove", .More
-    CheckBox 520, 12, 100, 12, "Remove", .Most
+    PushButton 520, 12, 112, 21, "Remove", .More
+    PushButton 520, 12, 112, 21, "Remove", .Most
 $DEPENDANCES
     More/VISIBLE = Name(NULL)
     Most/VISIBLE = Name(x))",

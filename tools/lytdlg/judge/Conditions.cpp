@@ -22,7 +22,7 @@ std::string Listed(const std::set<std::string>& values)
 
 std::string HintForValue(const std::string& value, const std::set<std::string>& possible)
 {
-    return HintFor(value, {possible.begin(), possible.end()}, Listed(possible));
+    return MeantOr(value, {possible.begin(), possible.end()}, Listed(possible));
 }
 
 } // namespace
@@ -56,14 +56,14 @@ void JudgeReadControl(const Case& judged, const Rule& rule, const std::string& n
     const ClytControlStatement* control = judged.description.FindControl(name);
     if (control == nullptr)
         return;
-    const ControlKind kind = KindOf(*control);
-    const bool isBox = kind == ControlKind::Text || kind == ControlKind::GroupBox || kind == ControlKind::PushButton;
+    const Kind kind = KindOf(*control);
+    const bool isBox = kind == Kind::Text || kind == Kind::Frame || kind == Kind::Button;
     if (isBox)
         judged.findings
             .Add(rule, place, "a " + std::string(control->type.GetString()) + " has no value",
                  "name a control that holds one")
             .number = "201";
-    else if (kind == ControlKind::OptionButton)
+    else if (kind == Kind::Option)
         judged.findings.Add(rule, place, "an option has its value whether it is chosen or not", "name its OptionGroup");
 }
 

@@ -1,8 +1,6 @@
 #include "lytdlg/judge/Controls.h"
 
-#include "commandline/Suggestion.h"
 #include "lytdlg/judge/Lists.h"
-#include "lytdlg/text/LanguageFiles.h"
 
 #include <algorithm>
 
@@ -11,28 +9,6 @@ namespace lytdlg
 
 namespace
 {
-
-struct KindWord
-{
-    const char* word;
-    ControlKind kind;
-};
-
-constexpr KindWord kindWords[] = {
-    {"Text", ControlKind::Text},
-    {"TextBox", ControlKind::TextBox},
-    {"GroupBox", ControlKind::GroupBox},
-    {"ListBox", ControlKind::ListBox},
-    {"CheckListBox", ControlKind::CheckListBox},
-    {"DropListBox", ControlKind::DropListBox},
-    {"ComboBox", ControlKind::ComboBox},
-    {"CheckBox", ControlKind::CheckBox},
-    {"OptionGroup", ControlKind::OptionGroup},
-    {"OptionButton", ControlKind::OptionButton},
-    {"PushButton", ControlKind::PushButton},
-    {"OKButton", ControlKind::OkButton},
-    {"CancelButton", ControlKind::CancelButton},
-};
 
 ClytOption OptionOf(const ValueStatement& statement)
 {
@@ -114,7 +90,7 @@ CString GroupOf(const Description& description, const ClytControlStatement& opti
     {
         if (&control == &option)
             break;
-        if (KindOf(control) == ControlKind::OptionGroup)
+        if (KindOf(control) == Kind::OptionGroup)
             group = control.name;
     }
     return group;
@@ -122,24 +98,14 @@ CString GroupOf(const Description& description, const ClytControlStatement& opti
 
 } // namespace
 
-ControlKind KindOf(const ClytControlStatement& control)
+Kind KindOf(const ClytControlStatement& control)
 {
-    for (const KindWord& known : kindWords)
-    {
-        if (control.type == known.word)
-            return known.kind;
-    }
-    return ControlKind::Unknown;
+    return KindOf(std::string(control.type.GetString()));
 }
 
-bool HasItems(ControlKind kind)
+bool IsOpenList(Kind kind)
 {
-    return IsOpenList(kind) || kind == ControlKind::DropListBox || kind == ControlKind::ComboBox;
-}
-
-bool IsOpenList(ControlKind kind)
-{
-    return kind == ControlKind::ListBox || kind == ControlKind::CheckListBox;
+    return kind == Kind::List || kind == Kind::CheckList;
 }
 
 bool AddsItems(const ClytControlFill& fill)
@@ -151,30 +117,6 @@ bool AddsItems(const ClytControlFill& fill)
 bool TakesPiece(const ClytControlFill& fill)
 {
     return AddsItems(fill) || (fill.action.GetMeaning() == ClytFillAction::Other && fill.value.IsEmpty());
-}
-
-bool HasValue(ControlKind kind)
-{
-    switch (kind)
-    {
-    case ControlKind::Text:
-    case ControlKind::GroupBox:
-    case ControlKind::PushButton:
-    case ControlKind::OkButton:
-    case ControlKind::CancelButton: return false;
-    default: return true;
-    }
-}
-
-std::string HintFor(const std::string& word, const std::vector<std::string>& known, const std::string& otherwise)
-{
-    constexpr size_t fewestLetters = 3; // any two shorter words are close
-    const auto sameLetters =
-        std::ranges::find_if(known, [&](const std::string& candidate) { return IsSameName(candidate, word); });
-    if (sameLetters != known.end())
-        return "did you mean " + InQuotes(*sameLetters) + "?";
-    const std::string nearest = word.size() < fewestLetters ? "" : commandline::Nearest(word, known);
-    return nearest.empty() ? otherwise : "did you mean " + InQuotes(nearest) + "?";
 }
 
 std::vector<const ValueStatement*> StatementsOf(const Description& description, const std::string& name)
@@ -196,7 +138,7 @@ bool HasOption(const Description& description, const std::string& name, ClytOpti
 
 bool MayBeHidden(const Description& description, const ClytControlStatement& control)
 {
-    const CString name = KindOf(control) == ControlKind::OptionButton ? GroupOf(description, control) : control.name;
+    const CString name = KindOf(control) == Kind::Option ? GroupOf(description, control) : control.name;
     if (name.IsEmpty())
         return false;
     const auto hides = [&](const ClytControlDep* rule)
@@ -256,10 +198,10 @@ std::vector<const ClytControlStatement*> OptionButtonsOf(const Description& desc
     bool isInGroup = false;
     for (const ClytControlStatement& control : description.controls)
     {
-        const ControlKind kind = KindOf(control);
-        if (kind == ControlKind::OptionGroup)
+        const Kind kind = KindOf(control);
+        if (kind == Kind::OptionGroup)
             isInGroup = control.name == group.c_str();
-        else if (kind == ControlKind::OptionButton && isInGroup)
+        else if (kind == Kind::Option && isInGroup)
             options.push_back(&control);
     }
     return options;
@@ -270,12 +212,12 @@ std::optional<std::set<std::string>> PossibleValues(const Description& descripti
     const std::string name = control.name.GetString();
     switch (KindOf(control))
     {
-    case ControlKind::CheckBox: return CheckBoxValues(description, name);
-    case ControlKind::OptionGroup: return OptionValues(description, name);
-    case ControlKind::OptionButton: return std::set<std::string>{OwnValue(description, name)};
-    case ControlKind::DropListBox:
-    case ControlKind::ListBox:
-    case ControlKind::CheckListBox: return ItemValues(description, name);
+    case Kind::CheckBox: return CheckBoxValues(description, name);
+    case Kind::OptionGroup: return OptionValues(description, name);
+    case Kind::Option: return std::set<std::string>{OwnValue(description, name)};
+    case Kind::DropList:
+    case Kind::List:
+    case Kind::CheckList: return ItemValues(description, name);
     default: return {};
     }
 }

@@ -9,37 +9,12 @@
 namespace lytdlg
 {
 
-enum class ControlKind
-{
-    Unknown,
-    Text,
-    TextBox,
-    GroupBox,
-    ListBox,
-    CheckListBox,
-    DropListBox,
-    ComboBox,
-    CheckBox,
-    OptionGroup,
-    OptionButton,
-    PushButton,
-    OkButton,
-    CancelButton
-};
-
-ControlKind KindOf(const ClytControlStatement& control);
-// Lists of every kind, those that drop down among them.
-bool HasItems(ControlKind kind);
+Kind KindOf(const ClytControlStatement& control);
 // A list that stands open.
-bool IsOpenList(ControlKind kind);
-// Reading or setting the value of any other control is told to the user as a mistake.
-bool HasValue(ControlKind kind);
+bool IsOpenList(Kind kind);
 bool AddsItems(const ClytControlFill& fill);
 // Whether the piece of the input goes into the control.
 bool TakesPiece(const ClytControlFill& fill);
-
-// "did you mean ...?" when one of the known words is close, else the other text.
-std::string HintFor(const std::string& word, const std::vector<std::string>& known, const std::string& otherwise);
 
 std::vector<const ValueStatement*> StatementsOf(const Description& description, const std::string& name);
 // Whether the control has a statement whose value is that option, as HIDDEN.

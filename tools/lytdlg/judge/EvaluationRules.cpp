@@ -102,12 +102,12 @@ void JudgeNames(const Case& judged, const EvaluationStatement& statement)
     if (description.FindControl(own) == nullptr)
         judged.findings.Add(unknown, statement.own.GetSpan(),
                             "there is no control " + InQuotes(own) + ", and so no check",
-                            HintFor(own, names, "name a control of $LAYOUT"));
+                            MeantOr(own, names, "name a control of $LAYOUT"));
     const std::string other = statement.other.GetName().GetString();
     if (!other.empty() && description.FindControl(other) == nullptr && !BeginsWithNull(statement))
         judged.findings.Add(second, statement.other.GetSpan(),
                             "there is no control " + InQuotes(other) + ": the check refuses whatever the user does",
-                            HintFor(other, names, "name a control of $LAYOUT"));
+                            MeantOr(other, names, "name a control of $LAYOUT"));
 }
 
 void JudgeForm(const Case& judged, const EvaluationStatement& statement)

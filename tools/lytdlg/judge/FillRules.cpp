@@ -112,11 +112,11 @@ constexpr Rule pair = {"scan-pair",
                        "$INPUT, parent\n    Unit: (999, End = (m)Form = round form, (mm)Form = square form",
                        "$INPUT, parent\n    Unit: (999, End = Unit, (m)Form = round form"};
 
-bool TakesAction(ControlKind kind, ClytFillAction word)
+bool TakesAction(Kind kind, ClytFillAction word)
 {
     switch (word)
     {
-    case ClytFillAction::Fill: return HasItems(kind) || kind == ControlKind::TextBox;
+    case ClytFillAction::Fill: return HasItems(kind) || kind == Kind::Field;
     case ClytFillAction::Add:
     case ClytFillAction::Modify: return HasItems(kind);
     case ClytFillAction::Concat: return IsOpenList(kind);
@@ -132,7 +132,7 @@ std::vector<std::string> ActionWords()
     return words;
 }
 
-void JudgeAction(const Case& judged, const ClytControlFill& fill, ControlKind kind)
+void JudgeAction(const Case& judged, const ClytControlFill& fill, Kind kind)
 {
     const Description& description = judged.description;
     const std::string word = fill.action.GetText().GetString();
@@ -141,7 +141,7 @@ void JudgeAction(const Case& judged, const ClytControlFill& fill, ControlKind ki
     if (fill.action.GetMeaning() == ClytFillAction::Other && !word.empty())
         judged.findings.Add(action, place,
                             InQuotes(word) + " is no action: the piece becomes the value of " + InQuotes(name),
-                            HintFor(word, ActionWords(), "the actions are FILL, ADD, MODIFY and CONCAT"));
+                            MeantOr(word, ActionWords(), "the actions are FILL, ADD, MODIFY and CONCAT"));
     else if (!TakesAction(kind, fill.action.GetMeaning()))
     {
         const std::string type = description.FindControl(name)->type.GetString();
@@ -150,9 +150,8 @@ void JudgeAction(const Case& judged, const ClytControlFill& fill, ControlKind ki
                 .number = "200";
         else
             judged.findings.Add(actionIdle, place, word + " does nothing on a " + type,
-                                kind == ControlKind::ComboBox || kind == ControlKind::DropListBox
-                                    ? "use ADD, or a ListBox or CheckListBox"
-                                    : "name a list");
+                                kind == Kind::Combo || kind == Kind::DropList ? "use ADD, or a ListBox or CheckListBox"
+                                                                              : "name a list");
     }
     const std::string operands = (fill.operands[0] + fill.operands[1] + fill.operands[2]).GetString();
     if (fill.action.GetMeaning() == ClytFillAction::Concat && operands.size() > 2)
@@ -190,7 +189,7 @@ void JudgeFixedValue(const Case& judged, const ClytControlFill& fill, const Clyt
     const bool isTaken = fill.value.IsEmpty() || lytMeans<ClytValueWord::Fill>(fill.value);
     if (!possible || isTaken || fill.action.GetMeaning() != ClytFillAction::Other)
         return;
-    if (KindOf(control) == ControlKind::CheckBox)
+    if (KindOf(control) == Kind::CheckBox)
         possible->insert({"ON", "OFF"});
     const std::string value = fill.value.GetString();
     if (possible->contains(value))
@@ -200,7 +199,7 @@ void JudgeFixedValue(const Case& judged, const ClytControlFill& fill, const Clyt
     judged.findings.Add(fixedValue,
                         judged.description.PlaceOf(fill.span.line, value, fill.span.column + fill.span.length),
                         InQuotes(fill.controlName.GetString()) + " has no value " + InQuotes(value),
-                        HintFor(value, known, "give it one of the values that $VALUES names"));
+                        MeantOr(value, known, "give it one of the values that $VALUES names"));
 }
 
 void JudgeFill(const Case& judged, const ClytControlFill& fill)
@@ -211,10 +210,10 @@ void JudgeFill(const Case& judged, const ClytControlFill& fill)
     if (control == nullptr && name.find_first_of("\t;") == std::string::npos)
         judged.findings.Add(fillUnknown, fill.span,
                             "there is no control " + InQuotes(name) + ", and so the piece is lost",
-                            HintFor(name, ControlNames(judged.description), "name a control of $LAYOUT"));
-    if (control == nullptr || KindOf(*control) == ControlKind::Unknown)
+                            MeantOr(name, ControlNames(judged.description), "name a control of $LAYOUT"));
+    if (control == nullptr || KindOf(*control) == Kind::Unknown)
         return;
-    const ControlKind kind = KindOf(*control);
+    const Kind kind = KindOf(*control);
     JudgeAction(judged, fill, kind);
     JudgeFixedValue(judged, fill, *control);
     if (IsOpenList(kind) && fill.action.GetMeaning() == ClytFillAction::Other)
@@ -245,7 +244,7 @@ void JudgeConditions(const Case& judged, const ClytDialogInput& statement)
         if (judged.description.FindControl(name) == nullptr)
             judged.findings.Add(condition, asked->GetSpan(),
                                 "there is no control " + InQuotes(name) + ", and so it never holds",
-                                HintFor(name, ControlNames(judged.description), "name a control of $LAYOUT"));
+                                MeantOr(name, ControlNames(judged.description), "name a control of $LAYOUT"));
         JudgeValues(judged, conditionValue, *asked, NullMeans::ItsLetters);
         JudgeReadControl(judged, conditionValueless, name, asked->GetSpan());
     }

@@ -134,7 +134,7 @@ bool Holds(const CRect& frame, const CRect& place)
 
 bool Cover(const PlacedControl& left, const PlacedControl& right)
 {
-    const bool areFrames = left.kind == ControlKind::GroupBox || right.kind == ControlKind::GroupBox;
+    const bool areFrames = left.kind == Kind::Frame || right.kind == Kind::Frame;
     const bool areSeen = !IsEmpty(left.place) && !IsEmpty(right.place) && !(left.mayBeHidden && right.mayBeHidden);
     if (!areSeen || !Touch(left.place, right.place))
         return false;
@@ -173,7 +173,9 @@ void JudgeOutside(const Case& judged, const std::vector<Screen>& screens)
         const CRect client = {0, 0, static_cast<int>(screen.client.cx), static_cast<int>(screen.client.cy)};
         for (const PlacedControl& control : screen.controls)
         {
-            if (!Holds(client, control.place))
+            // Numbers that no dialog has are told where they stand.
+            const bool isFair = control.control->x >= 0 && control.control->y >= 0;
+            if (isFair && !Holds(client, control.place))
                 seen.Add(screen, {control.control, nullptr});
         }
     }
@@ -190,10 +192,10 @@ int RoomOf(const PlacedControl& control)
     constexpr int frameEdges = 16;
     switch (control.kind)
     {
-    case ControlKind::PushButton:
-    case ControlKind::OkButton:
-    case ControlKind::CancelButton: return control.place.Width() - buttonEdges;
-    case ControlKind::GroupBox: return control.place.Width() - frameEdges;
+    case Kind::Button:
+    case Kind::Ok:
+    case Kind::Cancel: return control.place.Width() - buttonEdges;
+    case Kind::Frame: return control.place.Width() - frameEdges;
     default: return control.captionWidth;
     }
 }
@@ -220,7 +222,7 @@ void JudgeClipped(const Case& judged, const std::vector<Screen>& screens)
 
 bool TakesFocus(const PlacedControl& control)
 {
-    return control.kind != ControlKind::Text && control.kind != ControlKind::GroupBox;
+    return control.kind != Kind::Text && control.kind != Kind::Frame;
 }
 
 // The smallest frame round a control; null without one.
@@ -230,7 +232,7 @@ const PlacedControl* FrameOf(const Screen& screen, const PlacedControl& control)
     for (const PlacedControl& candidate : screen.controls)
     {
         const bool isRound =
-            candidate.kind == ControlKind::GroupBox && &candidate != &control && Holds(candidate.place, control.place);
+            candidate.kind == Kind::Frame && &candidate != &control && Holds(candidate.place, control.place);
         if (isRound && (smallest == nullptr || Holds(smallest->place, candidate.place)))
             smallest = &candidate;
     }
@@ -267,7 +269,7 @@ void JudgeHeights(const Case& judged)
 {
     for (const ClytControlStatement& control : judged.description.controls)
     {
-        const ControlKind kind = KindOf(control);
+        const Kind kind = KindOf(control);
         const bool isOpen = IsOpenList(kind);
         if (HasItems(kind) && !isOpen && control.height < fieldHeight + rowHeight)
             judged.findings.Add(noDrop, control.span,
@@ -289,14 +291,15 @@ void JudgeFrames(const Case& judged, const Screen& screen)
     };
     for (const ClytControlStatement& group : judged.description.controls)
     {
-        if (KindOf(group) != ControlKind::OptionGroup)
+        if (KindOf(group) != Kind::OptionGroup)
             continue;
-        const std::vector<const ClytControlStatement*> options = OptionButtonsOf(judged.description, group.name.GetString());
+        const std::vector<const ClytControlStatement*> options =
+            OptionButtonsOf(judged.description, group.name.GetString());
         for (const PlacedControl& box : screen.controls)
         {
             const auto held = std::ranges::count_if(options, [&](const ClytControlStatement* option)
                                                     { return isIn(option, box.place); });
-            if (box.kind == ControlKind::GroupBox && held != 0 && held != std::ssize(options))
+            if (box.kind == Kind::Frame && held != 0 && held != std::ssize(options))
                 judged.findings.Add(splitFrame, box.control->span,
                                     "the frame holds " + std::to_string(held) + " of the " +
                                         std::to_string(options.size()) + " options of " + NameOf(group),

@@ -78,7 +78,7 @@ constexpr Rule noGroup = {
     "An OptionGroup stands for the options that follow it. Without one an option answers for itself\n"
     "alone: its value is its own, checked or not.",
     "$LAYOUT\n-OptionGroup .Order\nOptionGroup .Order\n"
-    "OptionButton 500, 12, 80, 12, \"Short\", .Extra\n$VALUES\n-Order = s\nExtra = e",
+    "OptionButton 500, 12, 80, 12, \"Remove\", .Extra\n$VALUES\n-Order = s\nExtra = e",
     "$LAYOUT"};
 
 constexpr Rule emptyGroup = {
@@ -87,7 +87,7 @@ constexpr Rule emptyGroup = {
     "An option group has no options.",
     "The options of a group follow it, up to the next group. A group without options has no value.",
     "$LAYOUT\nOptionGroup .Kind",
-    "$LAYOUT\nOptionGroup .Kind\nOptionButton 500, 12, 80, 12, \"Short\", .KindShort"};
+    "$LAYOUT\nOptionGroup .Kind\nOptionButton 500, 12, 80, 12, \"Remove\", .KindShort"};
 
 constexpr Rule noButton = {
     "button-missing",

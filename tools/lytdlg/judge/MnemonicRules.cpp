@@ -17,8 +17,8 @@ constexpr Rule twice = {
     "Two captions of a dialog underline the same letter.",
     "Alt with the letter then goes from one to the other, and a button needs a second press. Choose "
     "another letter in\nthe language file.",
-    "$LAYOUT Example\n    CheckBox 520, 12, 100, 12, \"Note\", .More",
-    "$LAYOUT Example\n    CheckBox 520, 12, 100, 12, \"Remove\", .More"};
+    "$LAYOUT Example\n    PushButton 520, 12, 112, 21, \"Note\", .More",
+    "$LAYOUT Example\n    PushButton 520, 12, 112, 21, \"Remove\", .More"};
 
 constexpr Rule none = {
     "mnemonic-none",
@@ -26,8 +26,8 @@ constexpr Rule none = {
     "A caption underlines no letter, while most of the others do.",
     "An & before a letter of the caption underlines it, and Alt with that letter goes to the button, "
     "or to the control\nafter a Text.",
-    "$LAYOUT Example\n    CheckBox 520, 12, 100, 12, \"Plain\", .More",
-    "$LAYOUT Example\n    CheckBox 520, 12, 100, 12, \"Remove\", .More"};
+    "$LAYOUT Example\n    PushButton 520, 12, 112, 21, \"Plain\", .More",
+    "$LAYOUT Example\n    PushButton 520, 12, 112, 21, \"Remove\", .More"};
 
 struct Caption
 {
@@ -93,13 +93,13 @@ void JudgeTwice(const Case& judged, const LanguageFile& file, const std::vector<
 bool LeadsSomewhere(const Description& description, const Caption& caption)
 {
     const ClytControlStatement* control = caption.use->control;
-    const ControlKind kind = KindOf(*control);
-    if (kind != ControlKind::Text)
-        return caption.use->role == TextRole::Caption && kind != ControlKind::GroupBox;
+    const Kind kind = KindOf(*control);
+    if (kind != Kind::Text)
+        return caption.use->role == TextRole::Caption && kind != Kind::Frame;
     const ClytControlStatement* next = control + 1; // the statements stand in one vector
     if (control == &description.controls.back())
         return false;
-    const bool isReached = KindOf(*next) == ControlKind::TextBox || HasItems(KindOf(*next));
+    const bool isReached = KindOf(*next) == Kind::Field || HasItems(KindOf(*next));
     const std::string name = NameOf(*next);
     return isReached && !HasOption(description, name, ClytOption::Hidden) &&
            !HasOption(description, name, ClytOption::DisplayOnly);

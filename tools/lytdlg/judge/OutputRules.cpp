@@ -218,7 +218,7 @@ void JudgeConditions(const Case& judged, const ClytDialogOutput& rule)
         if (judged.description.FindControl(name) == nullptr)
             judged.findings
                 .Add(condition, asked->GetSpan(), "there is no control " + InQuotes(name),
-                     HintFor(name, ControlNames(judged.description), "name a control of $LAYOUT"))
+                     MeantOr(name, ControlNames(judged.description), "name a control of $LAYOUT"))
                 .number = "245";
         JudgeValues(judged, conditionValue, *asked, NullMeans::Empty);
         if (!asked->GetValues().IsEmpty())
@@ -237,7 +237,7 @@ bool IsQuoted(const Description& description, const ClytSpan& place)
 void JudgeUnknownItem(const Case& judged, const ClytOutputItem& given)
 {
     const std::string name = given.text.GetString();
-    const std::string hint = HintFor(name, ControlNames(judged.description), "");
+    const std::string hint = MeantOr(name, ControlNames(judged.description), "");
     if (!given.action.IsEmpty())
         judged.findings.Add(item, given.span,
                             "there is no list " + InQuotes(name) + ": the word itself goes into the text",
@@ -250,9 +250,9 @@ void JudgeUnknownItem(const Case& judged, const ClytOutputItem& given)
 
 void JudgeAllItems(const Case& judged, const ClytOutputItem& given, const ClytControlStatement& control)
 {
-    const ControlKind kind = KindOf(control);
+    const Kind kind = KindOf(control);
     const std::string name = given.text.GetString();
-    const bool isCombo = kind == ControlKind::ComboBox || kind == ControlKind::DropListBox;
+    const bool isCombo = kind == Kind::Combo || kind == Kind::DropList;
     if (!HasItems(kind))
     {
         judged.findings.Add(noList, given.span,
@@ -279,7 +279,7 @@ void JudgeItems(const Case& judged, const ClytDialogOutput& rule)
         const ClytControlStatement* control = judged.description.FindControl(given.text.GetString());
         if (control == nullptr)
             JudgeUnknownItem(judged, given);
-        else if (given.text.IsEmpty() || KindOf(*control) == ControlKind::Unknown)
+        else if (given.text.IsEmpty() || KindOf(*control) == Kind::Unknown)
             continue;
         else if (!given.action.IsEmpty())
             JudgeAllItems(judged, given, *control);

@@ -62,7 +62,7 @@ constexpr const char* ownLibrary = "lyt64.dll";
 struct PartnerCall
 {
     const ValueStatement* statement = nullptr;
-    ControlKind kind = ControlKind::Unknown;
+    Kind kind = Kind::Unknown;
     std::string library;
     std::vector<std::string> functions;
     bool isAction = false;
@@ -76,11 +76,11 @@ std::vector<PartnerCall> CallsOf(const Description& description)
         const ClytControlStatement* control = description.FindControl(statement.name);
         if (control == nullptr || statement.values.size() < 2)
             continue;
-        const ControlKind kind = KindOf(*control);
+        const Kind kind = KindOf(*control);
         const bool isFilled = lytMeaningOf<ClytKeyword>(statement.keyword.c_str()) == ClytKeyword::FilledBy;
-        const bool isAction = kind == ControlKind::PushButton &&
-                              lytMeaningOf<ClytAction>(statement.keyword.c_str()) == ClytAction::Action;
-        if (!isAction && !(isFilled && (HasItems(kind) || kind == ControlKind::TextBox)))
+        const bool isAction =
+            kind == Kind::Button && lytMeaningOf<ClytAction>(statement.keyword.c_str()) == ClytAction::Action;
+        if (!isAction && !(isFilled && (HasItems(kind) || kind == Kind::Field)))
             continue;
         PartnerCall call = {&statement, kind, statement.values[0], {statement.values[1]}, isAction};
         // The second function gives the next item; for a field it means nothing.
@@ -158,7 +158,7 @@ void JudgeFunctions(const Case& judged, const PartnerCall& call, const ExportTab
             continue;
         judged.findings
             .Add(function, PlaceOf(judged, call, name), FileNameOf(call.library) + " has no function " + InQuotes(name),
-                 HintFor(name, table.names, "name one of its functions"))
+                 MeantOr(name, table.names, "name one of its functions"))
             .number = call.isAction ? "232" : "";
     }
 }
@@ -187,14 +187,14 @@ void JudgeCall(const Case& judged, const PartnerCall& call, Partners& partners)
 }
 
 // A drop-down list and a combo box are of one type.
-ControlKind SharedKind(ControlKind kind)
+Kind SharedKind(Kind kind)
 {
-    return kind == ControlKind::DropListBox ? ControlKind::ComboBox : kind;
+    return kind == Kind::DropList ? Kind::Combo : kind;
 }
 
 void JudgeShared(const Case& judged, const std::vector<PartnerCall>& calls)
 {
-    std::map<ControlKind, const PartnerCall*> first;
+    std::map<Kind, const PartnerCall*> first;
     for (const PartnerCall& call : calls)
     {
         if (call.isAction)

@@ -34,10 +34,10 @@ public:
         Screen screen = {m_resolution.pixelsPerInch, m_texts != nullptr ? m_texts->Language() : "", ClientSize(), {}};
         for (const ClytControlStatement& control : m_description.controls)
         {
-            const ControlKind kind = KindOf(control);
+            const Kind kind = KindOf(control);
             const bool isHidden =
                 !control.name.IsEmpty() && HasOption(m_description, control.name.GetString(), ClytOption::Hidden);
-            if (kind == ControlKind::Unknown || kind == ControlKind::OptionGroup || isHidden)
+            if (kind == Kind::Unknown || kind == Kind::OptionGroup || isHidden)
                 continue;
             screen.controls.push_back({&control, kind, PlaceOf(control, kind), CaptionWidth(CaptionOf(control, kind)),
                                        MayBeHidden(m_description, control)});
@@ -72,10 +72,10 @@ private:
     }
 
     // The texts that the library cannot find are none here: they have a finding of their own.
-    std::string CaptionOf(const ClytControlStatement& control, ControlKind kind) const
+    std::string CaptionOf(const ClytControlStatement& control, Kind kind) const
     {
-        const bool isOk = kind == ControlKind::OkButton;
-        const bool isFixed = isOk || kind == ControlKind::CancelButton;
+        const bool isOk = kind == Kind::Ok;
+        const bool isFixed = isOk || kind == Kind::Cancel;
         const std::string section = isFixed ? "Buttons" : m_description.TextSection();
         const std::string name = isFixed ? (isOk ? "001" : "002") : control.text.GetString();
         const LanguageKey* key = m_texts != nullptr && !name.empty() ? m_texts->Find(section, name) : nullptr;
@@ -85,14 +85,14 @@ private:
         return isFixed ? text : text.substr(0, std::min(text.find('\''), text.size() - 1) + 1);
     }
 
-    CRect PlaceOf(const ClytControlStatement& control, ControlKind kind) const
+    CRect PlaceOf(const ClytControlStatement& control, Kind kind) const
     {
         const CSize size = SizeOf(control, kind);
         return lytLayoutRect({lytScaled(control.x, m_resolution.x), lytScaled(control.y, m_resolution.y)},
                              {static_cast<int>(size.cx), static_cast<int>(size.cy)});
     }
 
-    CSize SizeOf(const ClytControlStatement& control, ControlKind kind) const
+    CSize SizeOf(const ClytControlStatement& control, Kind kind) const
     {
         constexpr int fieldHeight = 19; // of a list that drops down, as long as it is shut
         const int width = lytScaled(control.width, m_resolution.x);
@@ -100,13 +100,13 @@ private:
         const std::string caption = CaptionOf(control, kind);
         switch (kind)
         {
-        case ControlKind::Text: return {WidthOf(caption), caption.empty() ? 0 : m_metrics.textHeight};
-        case ControlKind::CheckBox:
-        case ControlKind::OptionButton:
+        case Kind::Text: return {WidthOf(caption), caption.empty() ? 0 : m_metrics.textHeight};
+        case Kind::CheckBox:
+        case Kind::Option:
             return {WidthOf(caption) - static_cast<int>(static_cast<double>(m_resolution.x) * lytCheckMarkUnits),
                     caption.empty() ? 0 : m_metrics.textHeight};
-        case ControlKind::ComboBox:
-        case ControlKind::DropListBox: return {width, std::min(height, lytScaled(fieldHeight, m_resolution.y))};
+        case Kind::Combo:
+        case Kind::DropList: return {width, std::min(height, lytScaled(fieldHeight, m_resolution.y))};
         default: return {width, height};
         }
     }

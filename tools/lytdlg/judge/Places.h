@@ -15,7 +15,7 @@ namespace lytdlg
 struct PlacedControl
 {
     const ClytControlStatement* control = nullptr; // of the description
-    ControlKind kind = ControlKind::Unknown;
+    Kind kind = Kind::Unknown;
     CRect place;
     int captionWidth = 0; // without the marks of its letters
     bool mayBeHidden = false;

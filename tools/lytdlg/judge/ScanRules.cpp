@@ -141,7 +141,7 @@ void JudgeStart(const Case& judged, const InputPart& part)
     if (names.empty() || part.part.Find(lytStartName) != nullptr)
         return;
     const auto meant =
-        std::ranges::find_if(names, [](const std::string& name) { return !HintFor(name, {lytStartName}, "").empty(); });
+        std::ranges::find_if(names, [](const std::string& name) { return !MeantOr(name, {lytStartName}, "").empty(); });
     const ClytSpan place = meant != names.end() ? part.part.Find(meant->c_str())->span : part.header;
     judged.findings.Add(startMissing, judged.description.PlaceOf(place.line, meant != names.end() ? *meant : ""),
                         "the part " + InQuotes(part.name) + " has no statement \"Start\", so its run ends at once",
@@ -185,7 +185,7 @@ void JudgeTargets(const Case& judged, const InputPart& part, const ClytDialogInp
         else
             judged.findings.Add(target, next.place,
                                 "no statement is called " + InQuotes(next.name) + ", and so the run ends",
-                                HintFor(next.name, known, "write End where the run is to end"));
+                                MeantOr(next.name, known, "write End where the run is to end"));
     }
 }
 

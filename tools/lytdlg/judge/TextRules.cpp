@@ -18,8 +18,8 @@ constexpr Rule missing = {"text-missing",
                           "A text is not in the language file.",
                           "The dialog shows \"no value present\" in its place. A text in the layout is a key of the "
                           "section that $LAYOUT names;\nthe message of a check is a key of the section MsgBox.",
-                          "$LAYOUT Example\n    CheckBox 520, 12, 100, 12, \"Piktures\", .More",
-                          "$LAYOUT Example\n    CheckBox 520, 12, 100, 12, \"Remove\", .More"};
+                          "$LAYOUT Example\n    PushButton 520, 12, 112, 21, \"Piktures\", .More",
+                          "$LAYOUT Example\n    PushButton 520, 12, 112, 21, \"Remove\", .More"};
 
 constexpr Rule section = {"text-section",
                           Level::Warning,
@@ -39,8 +39,8 @@ constexpr Rule apostrophe = {"text-apostrophe",
                              Level::Warning,
                              "A caption has an apostrophe.",
                              "A caption ends at its first apostrophe. Write it without one.",
-                             "$LAYOUT Example\n    CheckBox 520, 12, 100, 12, \"Author\", .More",
-                             "$LAYOUT Example\n    CheckBox 520, 12, 100, 12, \"Remove\", .More"};
+                             "$LAYOUT Example\n    PushButton 520, 12, 112, 21, \"Author\", .More",
+                             "$LAYOUT Example\n    PushButton 520, 12, 112, 21, \"Remove\", .More"};
 
 constexpr Rule ampersand = {"text-ampersand",
                             Level::Warning,
@@ -55,7 +55,7 @@ constexpr Rule marks = {"text-marks",
                         "A text should have its letter for the keyboard (&), its line ends (\\n) and its place for the "
                         "argument ('') in every\nlanguage or in none.",
                         "$LAYOUT Example\n    Text 520, 12, 100, 12, \"Marked\", .More",
-                        "$LAYOUT Example\n    CheckBox 520, 12, 100, 12, \"Remove\", .More"};
+                        "$LAYOUT Example\n    PushButton 520, 12, 112, 21, \"Remove\", .More"};
 
 constexpr Rule unused = {"text-unused",
                          Level::Note,
@@ -104,7 +104,7 @@ void JudgeSection(const Case& judged)
             known.push_back(key.section);
         judged.findings.Add(section, description.PlaceOf(header->number, name),
                             file.Language() + ".nls has no section [" + name + "]",
-                            HintFor(name, known, "add it, with all texts"));
+                            MeantOr(name, known, "add it, with all texts"));
     }
 }
 
@@ -121,7 +121,7 @@ void JudgeMissing(const Case& judged, const TextUse& use)
             continue;
         lacking.push_back(file.Language() + ".nls");
         if (hint.empty())
-            hint = HintFor(use.key, KeyNames(judged, file.Language(), use.section), "");
+            hint = MeantOr(use.key, KeyNames(judged, file.Language(), use.section), "");
     }
     if (!lacking.empty())
         judged.findings.Add(missing, use.place,

@@ -10,19 +10,6 @@ namespace lytdlg
 namespace
 {
 
-bool ShowsCaption(ControlKind kind)
-{
-    switch (kind)
-    {
-    case ControlKind::Text:
-    case ControlKind::GroupBox:
-    case ControlKind::CheckBox:
-    case ControlKind::OptionButton:
-    case ControlKind::PushButton: return true;
-    default: return false;
-    }
-}
-
 class Collector
 {
 public:
@@ -55,12 +42,12 @@ private:
 
     void AddControl(const ClytControlStatement& control)
     {
-        const ControlKind kind = KindOf(control);
-        if (ShowsCaption(kind))
+        const Kind kind = KindOf(control);
+        if (ShowsText(kind))
             Add(TextRole::Caption, control.text.GetString(), control.span.line,
                 control.span.column + control.type.GetLength(), &control);
-        else if (kind == ControlKind::OkButton || kind == ControlKind::CancelButton)
-            m_uses.push_back({TextRole::Button, "Buttons", kind == ControlKind::OkButton ? "001" : "002",
+        else if (kind == Kind::Ok || kind == Kind::Cancel)
+            m_uses.push_back({TextRole::Button, "Buttons", kind == Kind::Ok ? "001" : "002",
                               m_description.PlaceOf(control.span.line, control.type.GetString()), &control});
     }
 
@@ -69,9 +56,9 @@ private:
         const ClytControlStatement* control = m_description.FindControl(statement.name);
         if (control == nullptr || lytMeaningOf<ClytOption>(statement.values.front().c_str()) != ClytOption::Other)
             return;
-        const ControlKind kind = KindOf(*control);
+        const Kind kind = KindOf(*control);
         const int after = statement.span.column + static_cast<int>(statement.name.size());
-        if (kind == ControlKind::PushButton)
+        if (kind == Kind::Button)
             AddAlternate(statement, *control, after);
         else if (HasItems(kind))
             AddItem(statement, *control, after);
