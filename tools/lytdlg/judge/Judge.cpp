@@ -43,13 +43,15 @@ const std::string& LineOf(const Finding& finding, const Description& description
 
 const std::vector<Family>& Families()
 {
-    // The library comes last: it looks whether a finding stands for its failure.
+    // In the order of the sections. The library comes last: it looks whether a finding stands for its failure.
     static const std::vector<Family> families = {
         SectionRules(),
         StatementRules(),
         LineRules(),
         LayoutRules(),
         ValueRules(),
+        ContentRules(),
+        MarkRules(),
         ActionRules(),
         DependencyRules(),
         ConditionRules(),
@@ -59,17 +61,10 @@ const std::vector<Family>& Families()
         FillRules(),
         OutputRules(),
         FormatRules(),
-    // The library comes last: it looks whether a finding stands for its failure.
-    static const std::vector<Family> families = {
-        MarkRules(),
-        ContentRules(),
         TextRules(),
         MnemonicRules(),
         GeometryRules(),
         PartnerRules(),
-        IgnoreRules(),
-        LibraryRules(),
-    };
         IgnoreRules(),
         LibraryRules(),
     };

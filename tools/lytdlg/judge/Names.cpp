@@ -57,14 +57,9 @@ std::string MeantWord(const std::string& word, const std::vector<std::string>& k
         std::ranges::find_if(known, [&](const std::string& candidate) { return IsSameName(candidate, word); });
     if (same != known.end())
         return *same;
-<<<<<<< HEAD
     // One letter makes any short word of another.
     constexpr size_t shortest = 3;
     return word.size() >= shortest ? commandline::Nearest(word, known) : "";
-=======
-    constexpr size_t fewestLetters = 3; // any two shorter words are close
-    return word.size() < fewestLetters ? "" : commandline::Nearest(word, known);
->>>>>>> 1beb9f2 (lytdlg: tell kinds and names of controls in one place)
 }
 
 std::string MeantOr(const std::string& word, const std::vector<std::string>& known, const std::string& otherwise)

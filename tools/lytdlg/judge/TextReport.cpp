@@ -80,13 +80,8 @@ std::string TextOf(const Finding& finding, const Description& description, bool 
                        " " + finding.rule->id + ": " + commandline::ToUtf8(finding.message) + number + "\n";
     if (finding.place.line > 0)
     {
-<<<<<<< HEAD
-        const std::string& line = description.text.Line(finding.place.line).text;
-        text += "    " + commandline::ToUtf8(Shown(line)) + "\n    " +
-=======
         const std::string& line = LineOf(finding, description);
-        text += "    " + commandline::ToUtf8(line) + "\n    " +
->>>>>>> bc14f60 (lytdlg: judge the texts and the places of the controls)
+        text += "    " + commandline::ToUtf8(Shown(line)) + "\n    " +
                 BlanksTo(line, static_cast<size_t>(finding.place.column)) + colour + "^" +
                 std::string(static_cast<size_t>(std::max(0, finding.place.length - 1)), '~') + plain + "\n";
     }

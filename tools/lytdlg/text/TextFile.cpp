@@ -1,6 +1,7 @@
 #include "lytdlg/text/TextFile.h"
 
 #include <afx.h>
+#include <windows.h>
 
 #include <algorithm>
 #include <fstream>
@@ -15,12 +16,13 @@ namespace fs = std::filesystem;
 namespace
 {
 
-// A name that no file in the folder has.
+// A name that no file in the folder has, and that no other process tries.
 fs::path FreeName(const fs::path& folder, const std::string& stem)
 {
     for (int number = 1;; ++number)
     {
-        fs::path name = folder / (stem + "." + std::to_string(number) + ".tmp");
+        fs::path name =
+            folder / (stem + "." + std::to_string(GetCurrentProcessId()) + "." + std::to_string(number) + ".tmp");
         std::error_code ignored;
         if (!fs::exists(fs::symlink_status(name, ignored)))
             return name;
