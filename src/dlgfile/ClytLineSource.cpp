@@ -58,9 +58,7 @@ bool ClytLineSource::ReadAnyLine(char* buffer, UINT count)
     linePlace.column = isLineOpen ? linePlace.column + linePlace.length : 0;
     linePlace.line += isLineOpen ? 0 : distance;
     const size_t length = std::strlen(buffer);
-    const bool hasEnd = length > 0 && buffer[length - 1] == '\n';
-    // A line with a NUL byte is short and without its end, and yet whole.
-    isLineOpen = length == count && !hasEnd;
-    linePlace.length = static_cast<int>(length) - (hasEnd ? 1 : 0);
+    isLineOpen = length == 0 || buffer[length - 1] != '\n';
+    linePlace.length = static_cast<int>(length) - (isLineOpen ? 0 : 1);
     return true;
 }

@@ -75,18 +75,6 @@ example.dlg:25:5: warning geometry-tab: the Tab key goes back from the TextBox i
         TextBox 520, 2147483647, 2147483647, 2147483647, .More
         ^~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~
     hint: move it, or make the dialog larger
-example.dlg:24:18: warning number-range: the top 2147483647 is out of range
-        TextBox 520, 2147483647, 2147483647, 2147483647, .More
-                     ^~~~~~~~~~
-    hint: write a number from 0 to 32767
-example.dlg:24:30: warning number-range: the width 2147483647 is out of range
-        TextBox 520, 2147483647, 2147483647, 2147483647, .More
-                                 ^~~~~~~~~~
-    hint: write a number from 0 to 32767
-example.dlg:24:42: warning number-range: the height 2147483647 is out of range
-        TextBox 520, 2147483647, 2147483647, 2147483647, .More
-                                             ^~~~~~~~~~
-    hint: write a number from 0 to 32767
 example.dlg:25:5: warning geometry-tab: the Tab key goes back from "More" in line 24 to "Ok"
         OKButton  228, 384, 112,  22, .Ok
         ^~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~

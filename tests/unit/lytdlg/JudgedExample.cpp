@@ -1,16 +1,12 @@
 #include "JudgedExample.h"
 
-#include "lytdlg/judge/Examples.h"
-#include "lytdlg/judge/Report.h"
-#include "support/TestFolder.h"
+#include "ExampleFindings.h"
 
 using namespace lytdlg;
 
 std::string TextsOfFindings(const std::string& lines, const std::vector<std::string>& partners)
 {
-    const TestFolder folder;
-    for (const ExampleFile& file : ExampleFiles())
-        folder.Write(file.name, file.content);
+    const TestFolder& folder = ExampleFolder();
     const Description description("example.dlg", ExampleDescription(lines), {});
     Findings findings = Judge(description, SurroundingsOf(folder.Path(), partners));
     std::string texts;

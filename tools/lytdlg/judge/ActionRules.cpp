@@ -1,7 +1,6 @@
 #include "lytdlg/judge/ActionRules.h"
 
 #include "lytdlg/judge/PlacedValue.h"
-#include "lytdlg/text/TextFile.h"
 #include "model/ClytWords.h"
 
 #include <algorithm>
@@ -143,22 +142,13 @@ void JudgePart(const Statement& statement, size_t index)
                       MeantOr(name, PartNames(statement.Of()), "add \"$INPUT, " + name + "\" with its statements"));
 }
 
-// The names of the descriptions that stand in the folder.
-std::vector<std::string> DialogNames(const std::string& folder)
-{
-    std::vector<std::string> names;
-    for (const std::filesystem::path& file : FilesIn(folder, ".dlg"))
-        names.push_back(file.stem().string());
-    return names;
-}
-
 void JudgeDialogFile(const Statement& statement)
 {
     const std::string& folder = statement.judged.surroundings.folder;
     const std::string name = statement.Value(0);
     if (folder.empty())
         return;
-    const std::vector<std::string> names = DialogNames(folder);
+    const std::vector<std::string>& names = statement.judged.surroundings.descriptions.Names();
     const auto isSame = [&](const std::string& known) { return IsSameName(known, name); };
     if (std::ranges::none_of(names, isSame))
         statement.Add(dialog, 0, "the folder of the description has no file " + InQuotes(name + ".dlg"),

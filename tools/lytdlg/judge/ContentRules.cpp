@@ -135,6 +135,9 @@ void JudgeCheckBox(const Case& judged, const std::string& name)
     }
     const ClytControlStatement& control = *description.FindControl(name);
     const ClytSpan place = description.PlaceOf(control.span.line, "." + name, control.span.column);
+    // A box without any statement begins checked, and has no value that anybody could ask for.
+    if (begin == nullptr && on == nullptr && off == nullptr)
+        return;
     if (on == nullptr || off == nullptr)
         judged.findings.Add(checkTexts, place,
                             InQuotes(name) + " has no " +

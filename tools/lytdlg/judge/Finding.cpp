@@ -11,8 +11,8 @@ namespace
 
 auto KeyOf(const Finding& finding)
 {
-    return std::tuple(finding.path, finding.place.line, finding.place.column, finding.rule->level, std::string(finding.rule->id),
-                      finding.message);
+    return std::tuple(finding.path, finding.place.line, finding.place.column, finding.rule->level,
+                      std::string(finding.rule->id), finding.message);
 }
 
 } // namespace

@@ -17,8 +17,8 @@ constexpr Rule unknown = {
     Level::Warning,
     "A remark silences a rule that does not exist.",
     "A remark reads `; lytdlg: ignore RULE reason`, with the name of a rule as the findings tell it.",
-    "$VALUES\n    Name = 60   ; lytdlg: ignore value-twcie kept for older documents",
-    "$VALUES\n    Name = 60"};
+    "$VALUES\n    Unit = 60   ; lytdlg: ignore value-twcie kept for older documents",
+    "$VALUES\n    Unit = 60"};
 
 constexpr Rule unreasoned = {
     "ignore-without-reason",
@@ -26,15 +26,15 @@ constexpr Rule unreasoned = {
     "A remark silences a rule and does not say why.",
     "Whoever reads the description later wants to know why the finding is no mistake: write the\n"
     "reason after the name of the rule.",
-    "$VALUES\n    Name = 60   ; lytdlg: ignore ignore-unused",
-    "$VALUES\n    Name = 60"};
+    "$VALUES\n    Unit = 60   ; lytdlg: ignore ignore-unused",
+    "$VALUES\n    Unit = 60"};
 
 constexpr Rule unused = {"ignore-unused",
                          Level::Note,
                          "A remark silences a rule that finds nothing there.",
                          "The remark does no harm, but hides a mistake that is made in this line later: take it away.",
-                         "$VALUES\n    Name = 60   ; lytdlg: ignore ignore-unknown nothing is here to silence",
-                         "$VALUES\n    Name = 60"};
+                         "$VALUES\n    Unit = 60   ; lytdlg: ignore ignore-unknown nothing is here to silence",
+                         "$VALUES\n    Unit = 60"};
 
 struct Remark
 {

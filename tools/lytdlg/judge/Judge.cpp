@@ -28,7 +28,7 @@ namespace lytdlg
 
 Surroundings SurroundingsOf(const std::string& folder, const std::vector<std::string>& partners)
 {
-    return {folder, partners, LanguageFiles(folder)};
+    return {folder, partners, LanguageFiles(folder), FolderTexts(folder)};
 }
 
 const std::string& PathOf(const Finding& finding, const Description& description)
@@ -45,28 +45,10 @@ const std::vector<Family>& Families()
 {
     // In the order of the sections. The library comes last: it looks whether a finding stands for its failure.
     static const std::vector<Family> families = {
-        SectionRules(),
-        StatementRules(),
-        LineRules(),
-        LayoutRules(),
-        ValueRules(),
-        ContentRules(),
-        MarkRules(),
-        ActionRules(),
-        DependencyRules(),
-        ConditionRules(),
-        EvaluationRules(),
-        ScanRules(),
-        SeparatorRules(),
-        FillRules(),
-        OutputRules(),
-        FormatRules(),
-        TextRules(),
-        MnemonicRules(),
-        GeometryRules(),
-        PartnerRules(),
-        IgnoreRules(),
-        LibraryRules(),
+        SectionRules(),   LineRules(),    MarkRules(),       StatementRules(), LayoutRules(),     ValueRules(),
+        ContentRules(),   ActionRules(),  DependencyRules(), ConditionRules(), EvaluationRules(), ScanRules(),
+        SeparatorRules(), FillRules(),    OutputRules(),     FormatRules(),    TextRules(),       MnemonicRules(),
+        GeometryRules(),  PartnerRules(), IgnoreRules(),     LibraryRules(),
     };
     return families;
 }

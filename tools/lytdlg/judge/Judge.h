@@ -4,6 +4,7 @@
 
 #include "lytdlg/judge/Description.h"
 #include "lytdlg/judge/Finding.h"
+#include "lytdlg/judge/FolderTexts.h"
 #include "lytdlg/text/LanguageFiles.h"
 
 namespace lytdlg
@@ -15,6 +16,7 @@ struct Surroundings
     std::string folder;                // of the description, without a `\` or `/` at its end; empty for a text alone
     std::vector<std::string> partners; // folders that may hold libraries
     LanguageFiles texts;
+    FolderTexts descriptions;
 };
 
 Surroundings SurroundingsOf(const std::string& folder, const std::vector<std::string>& partners);

@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <cctype>
+#include <limits>
 #include <map>
 
 namespace lytdlg
@@ -58,9 +59,9 @@ constexpr Rule noNumber = {
 constexpr Rule range = {"number-range",
                         Level::Warning,
                         "A position or a size is out of range.",
-                        "A control stands inside its dialog: no position is negative, and no number is above 32767.",
-                        "$LAYOUT\nTextBox 500, -12, 100, 19, .Extra",
-                        "$LAYOUT\nTextBox 500, 12, 100, 19, .Extra"};
+                        "Numbers reach from -2147483648 to 2147483647; the nearest of them counts.",
+                        "$LAYOUT\nText 500, 12, 99999999999, 12, \"Hall\", .Extra",
+                        "$LAYOUT\nText 500, 12, 100, 12, \"Hall\", .Extra"};
 
 constexpr Rule noSize = {
     "size-zero",
@@ -161,16 +162,17 @@ void JudgeNumber(const Statement& statement, const LineToken& word, const char* 
 {
     const char* rest = nullptr;
     const int number = lytNumberOf(word.text.c_str(), &rest);
-    constexpr int largest = 32767;
-    const bool isPosition = word.column == statement.words[1].column || word.column == statement.words[2].column;
+    const bool isCut = word.text != std::to_string(number) &&
+                       (number == std::numeric_limits<int>::max() || number == std::numeric_limits<int>::min());
     if (word.text.empty() || *rest != '\0')
         statement.judged.findings.Add(noNumber, PlaceOf(statement.control, word),
                                       InQuotes(word.text) + " counts as " + std::to_string(number) + " for the " + what,
                                       "write a whole number");
-    else if (number > largest || number < -largest || (isPosition && number < 0))
+    else if (isCut)
         statement.judged.findings.Add(range, PlaceOf(statement.control, word),
-                                      "the " + std::string(what) + " " + word.text + " is out of range",
-                                      "write a number from 0 to 32767");
+                                      "the " + std::string(what) + " " + word.text + " counts as " +
+                                          std::to_string(number),
+                                      "write a smaller number");
 }
 
 bool IsHidden(const Description& description, const std::string& name)

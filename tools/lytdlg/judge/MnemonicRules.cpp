@@ -31,7 +31,7 @@ constexpr Rule none = {
 
 struct Caption
 {
-    const TextUse* use = nullptr;
+    const ShownText* use = nullptr;
     char letter = '\0';
 };
 
@@ -47,10 +47,10 @@ bool IsHidden(const Description& description, const ClytControlStatement& contro
 
 // The captions that lead to a control, with their letters.
 std::vector<Caption> CaptionsOf(const Description& description, const LanguageFile& file,
-                                const std::vector<TextUse>& uses)
+                                const std::vector<ShownText>& uses)
 {
     std::vector<Caption> captions;
-    for (const TextUse& use : uses)
+    for (const ShownText& use : uses)
     {
         const bool isCaption =
             use.role == TextRole::Caption || use.role == TextRole::Alternate || use.role == TextRole::Button;
@@ -128,7 +128,7 @@ Family MnemonicRules()
     return {{&twice, &none},
             [](const Case& judged)
             {
-                const std::vector<TextUse> uses = TextUsesOf(judged.description);
+                const std::vector<ShownText> uses = TextUsesOf(judged.description);
                 for (const LanguageFile& file : judged.surroundings.texts.Files())
                 {
                     const std::vector<Caption> captions = CaptionsOf(judged.description, file, uses);

@@ -57,9 +57,8 @@ std::string MeantWord(const std::string& word, const std::vector<std::string>& k
         std::ranges::find_if(known, [&](const std::string& candidate) { return IsSameName(candidate, word); });
     if (same != known.end())
         return *same;
-    // One letter makes any short word of another.
-    constexpr size_t shortest = 3;
-    return word.size() >= shortest ? commandline::Nearest(word, known) : "";
+    constexpr size_t fewestLetters = 3; // any two shorter words are close
+    return word.size() < fewestLetters ? "" : commandline::Nearest(word, known);
 }
 
 std::string MeantOr(const std::string& word, const std::vector<std::string>& known, const std::string& otherwise)

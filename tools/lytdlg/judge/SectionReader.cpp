@@ -1,6 +1,7 @@
 #include "lytdlg/judge/SectionReader.h"
 
 #include <algorithm>
+#include <string_view>
 
 namespace lytdlg
 {
@@ -19,9 +20,11 @@ int SectionReader::TakeLine(char* buffer, UINT count)
     if (m_line > m_lines.size())
         return 0;
     const bool isEnd = m_line == m_lines.size();
-    const std::string& line = isEnd                            ? m_endLine
-                              : m_lines[m_line]->meant.empty() ? m_lines[m_line]->text
-                                                               : m_lines[m_line]->meant;
+    const std::string& whole = isEnd                            ? m_endLine
+                               : m_lines[m_line]->meant.empty() ? m_lines[m_line]->text
+                                                                : m_lines[m_line]->meant;
+    // A NUL byte ends what is read of the line.
+    const std::string_view line = std::string_view(whole).substr(0, whole.find('\0'));
     const size_t length = std::min<size_t>(line.size() + 1 - m_column, count);
     for (size_t index = 0; index < length; ++index)
         buffer[index] = m_column + index < line.size() ? line[m_column + index] : '\n';

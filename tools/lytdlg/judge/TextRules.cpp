@@ -2,7 +2,6 @@
 
 #include "lytdlg/judge/Controls.h"
 #include "lytdlg/judge/TextUses.h"
-#include "lytdlg/text/TextFile.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -110,7 +109,7 @@ void JudgeSection(const Case& judged)
 
 // Each text in each language.
 
-void JudgeMissing(const Case& judged, const TextUse& use)
+void JudgeMissing(const Case& judged, const ShownText& use)
 {
     std::vector<std::string> lacking;
     std::string hint;
@@ -138,7 +137,7 @@ Finding& AddAt(const Case& judged, const Rule& rule, const LanguageFile& file, c
     return finding;
 }
 
-void JudgeText(const Case& judged, const TextUse& use, const LanguageFile& file, const LanguageKey& key)
+void JudgeText(const Case& judged, const ShownText& use, const LanguageFile& file, const LanguageKey& key)
 {
     const bool isCaption = use.role == TextRole::Caption;
     const bool isShownAsItIs = use.role == TextRole::Title || use.role == TextRole::Item;
@@ -176,7 +175,7 @@ std::string DifferentMark(TextRole role, const std::string& left, const std::str
     return CountOf(left, "\\n") != CountOf(right, "\\n") ? "\\n" : "";
 }
 
-void JudgeMarks(const Case& judged, const TextUse& use)
+void JudgeMarks(const Case& judged, const ShownText& use)
 {
     const LanguageFile* first = nullptr;
     const LanguageKey* model = nullptr;
@@ -201,56 +200,27 @@ void JudgeMarks(const Case& judged, const TextUse& use)
 
 // Texts that nothing uses.
 
-// What a description shows with any of its defines, and without.
-void AddUses(const std::string& bytes, std::set<std::string>& sections, std::vector<TextUse>& uses)
-{
-    const Description plain("", bytes, {});
-    std::vector<std::vector<std::string>> variants = {{}, plain.text.DefineNames()};
-    for (const std::string& define : plain.text.DefineNames())
-        variants.push_back({define});
-    for (const std::vector<std::string>& defines : variants)
-    {
-        const Description description("", bytes, defines);
-        sections.insert(description.TextSection());
-        for (TextUse& use : TextUsesOf(description))
-        {
-            use.control = nullptr;
-            uses.push_back(std::move(use));
-        }
-    }
-}
-
-std::string BytesOf(const Description& description)
-{
-    std::string bytes;
-    for (const SourceLine& line : description.text.Lines())
-        bytes += line.text + "\n";
-    return bytes;
-}
-
 // Told for the first dialog of the folder that has the section.
 void JudgeUnused(const Case& judged)
 {
+    const FolderTexts& folder = judged.surroundings.descriptions;
     const std::string name = judged.description.TextSection();
-    const std::filesystem::path own = std::filesystem::path(judged.description.path).filename();
-    std::set<std::string> sections;
-    std::vector<TextUse> uses;
-    AddUses(BytesOf(judged.description), sections, uses);
-    for (const std::filesystem::path& file : FilesIn(judged.surroundings.folder, ".dlg"))
+    const std::string own = std::filesystem::path(judged.description.path).filename().string();
+    const std::string first = folder.FirstOf(name);
+    if (!first.empty() && first < own)
+        return;
+    std::vector<ShownText> uses = TextsOf(own, judged.description.text.Bytes()).uses;
+    for (const DescriptionTexts& texts : folder.All())
     {
-        if (file.filename() == own)
-            continue;
-        std::set<std::string> others;
-        AddUses(ReadWholeFile(file).value_or(""), others, uses);
-        if (others.contains(name) && file.filename() < own)
-            return;
+        if (texts.fileName != own)
+            uses.insert(uses.end(), texts.uses.begin(), texts.uses.end());
     }
     for (const LanguageFile& file : judged.surroundings.texts.Files())
     {
         for (const LanguageKey& key : file.Keys())
         {
             const bool isOfSection = key.isReached && !name.empty() && IsSameName(key.section, name);
-            const auto isUse = [&](const TextUse& use)
+            const auto isUse = [&](const ShownText& use)
             { return IsSameName(use.section, name) && IsSameName(use.key, key.name); };
             if (isOfSection && std::ranges::none_of(uses, isUse))
                 AddAt(judged, unused, file, key, "no dialog of the folder uses the text " + InQuotes(key.name),
@@ -269,7 +239,7 @@ Family TextRules()
                 if (judged.surroundings.texts.Files().empty())
                     return;
                 JudgeSection(judged);
-                for (const TextUse& use : TextUsesOf(judged.description))
+                for (const ShownText& use : TextUsesOf(judged.description))
                 {
                     JudgeMissing(judged, use);
                     JudgeMarks(judged, use);

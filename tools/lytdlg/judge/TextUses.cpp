@@ -18,7 +18,7 @@ public:
     {
     }
 
-    std::vector<TextUse> Collect()
+    std::vector<ShownText> Collect()
     {
         Add(TextRole::Title, m_description.title, m_description.dialogHeader.line, 0, nullptr);
         for (const ClytControlStatement& control : m_description.controls)
@@ -97,12 +97,12 @@ private:
 
     const Description& m_description;
     const std::string m_section;
-    std::vector<TextUse> m_uses;
+    std::vector<ShownText> m_uses;
 };
 
 } // namespace
 
-std::vector<TextUse> TextUsesOf(const Description& description)
+std::vector<ShownText> TextUsesOf(const Description& description)
 {
     return Collector(description).Collect();
 }

@@ -16,7 +16,7 @@ enum class TextRole
     Button     // OK and Cancel, whose keys are fixed
 };
 
-struct TextUse
+struct ShownText
 {
     TextRole role = TextRole::Title;
     std::string section;
@@ -26,7 +26,7 @@ struct TextUse
 };
 
 // In the order of the file. Without a text section a dialog has only its messages and the texts of OK and Cancel.
-std::vector<TextUse> TextUsesOf(const Description& description);
+std::vector<ShownText> TextUsesOf(const Description& description);
 
 // The letter that `&` marks in a caption, small; 0 without one.
 char MnemonicOf(const std::string& text);

@@ -111,8 +111,12 @@ private:
 
 bool IsSameName(std::string_view left, std::string_view right)
 {
-    const std::string text(Trimmed(right));
-    return CString(std::string(Trimmed(left)).c_str()).CompareNoCase(text.c_str()) == 0;
+    left = Trimmed(left);
+    right = Trimmed(right);
+    if (left.size() != right.size())
+        return false;
+    const std::string text(right);
+    return CString(std::string(left).c_str()).CompareNoCase(text.c_str()) == 0;
 }
 
 std::vector<LanguageKey> ReadLanguageKeys(std::string_view content)

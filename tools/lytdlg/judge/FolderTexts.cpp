@@ -1,0 +1,69 @@
+#include "lytdlg/judge/FolderTexts.h"
+
+#include "lytdlg/text/TextFile.h"
+
+#include <algorithm>
+
+namespace lytdlg
+{
+
+DescriptionTexts TextsOf(std::string fileName, const std::string& bytes)
+{
+    DescriptionTexts texts;
+    texts.fileName = std::move(fileName);
+    const std::vector<std::string> names = DescriptionText(bytes, {}).DefineNames();
+    std::vector<std::vector<std::string>> variants = {{}};
+    if (!names.empty())
+        variants.push_back(names);
+    for (const std::string& define : names)
+        variants.push_back({define});
+    for (const std::vector<std::string>& defines : variants)
+    {
+        const Description description("", bytes, defines);
+        texts.sections.insert(description.TextSection());
+        for (ShownText& use : TextUsesOf(description))
+        {
+            use.control = nullptr;
+            texts.uses.push_back(std::move(use));
+        }
+    }
+    return texts;
+}
+
+const std::vector<std::filesystem::path>& FolderTexts::Files() const
+{
+    if (!m_files)
+        m_files = m_folder.empty() ? std::vector<std::filesystem::path>() : FilesIn(m_folder, ".dlg");
+    return *m_files;
+}
+
+const std::vector<std::string>& FolderTexts::Names() const
+{
+    if (!m_names)
+    {
+        m_names.emplace();
+        for (const std::filesystem::path& file : Files())
+            m_names->push_back(file.stem().string());
+    }
+    return *m_names;
+}
+
+const std::vector<DescriptionTexts>& FolderTexts::All() const
+{
+    if (!m_all)
+    {
+        m_all.emplace();
+        for (const std::filesystem::path& file : Files())
+            m_all->push_back(TextsOf(file.filename().string(), ReadWholeFile(file).value_or("")));
+    }
+    return *m_all;
+}
+
+std::string FolderTexts::FirstOf(const std::string& section) const
+{
+    const auto first =
+        std::ranges::find_if(All(), [&](const DescriptionTexts& texts) { return texts.sections.contains(section); });
+    return first != All().end() ? first->fileName : "";
+}
+
+} // namespace lytdlg

@@ -1,0 +1,45 @@
+// The descriptions of a folder and the texts that they show. Read when it is first asked for, and then kept: whoever judges
+// a whole folder asks for each of its descriptions.
+#pragma once
+
+#include "lytdlg/judge/TextUses.h"
+
+#include <filesystem>
+#include <optional>
+#include <set>
+
+namespace lytdlg
+{
+
+// One description, with any of its defines and without.
+struct DescriptionTexts
+{
+    std::string fileName;
+    std::set<std::string> sections;
+    std::vector<ShownText> uses; // without their controls
+};
+
+DescriptionTexts TextsOf(std::string fileName, const std::string& bytes);
+
+class FolderTexts
+{
+public:
+    explicit FolderTexts(std::string folder) : m_folder(std::move(folder)) {}
+
+    // The names of the descriptions, without their extension, in their order. None when there is no folder.
+    const std::vector<std::string>& Names() const;
+    // In the order of the names.
+    const std::vector<DescriptionTexts>& All() const;
+    // The name of the first file that has the section; empty when none has.
+    std::string FirstOf(const std::string& section) const;
+
+private:
+    const std::vector<std::filesystem::path>& Files() const;
+
+    std::string m_folder;
+    mutable std::optional<std::vector<std::filesystem::path>> m_files;
+    mutable std::optional<std::vector<std::string>> m_names;
+    mutable std::optional<std::vector<DescriptionTexts>> m_all;
+};
+
+} // namespace lytdlg
