@@ -1,7 +1,7 @@
 #include "lytcall/Commands.h"
 
-#include "commandline/Text.h"
 #include "commandline/OwnedFile.h"
+#include "commandline/Text.h"
 
 #include <cstdio>
 #include <io.h>

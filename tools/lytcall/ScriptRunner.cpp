@@ -1,7 +1,7 @@
 #include "lytcall/ScriptRunner.h"
 
-#include "commandline/Text.h"
 #include "commandline/OwnedFile.h"
+#include "commandline/Text.h"
 #include "lytcall/Picture.h"
 
 #include "robot/WindowRobot.h"
