@@ -1,14 +1,18 @@
 #!/bin/sh
-# run-page.sh PAGE BUILD_FOLDER: does what a page of the documents tells its reader to do, in a folder of its own.
+# run-page.sh PAGE BUILD_FOLDER: does what a page of the documents tells its reader to do, in a folder of its own with a
+# copy of the samples. The tools of a native build are called by their names. With LYT_UPDATE set it writes what was printed
+# into the page.
 #
 # A block of text or ini is saved under the file name in backquotes in the line above it; one that begins with a section's
 # header takes the place of that section. A block of sh is entered at a shell, and a block of output is what it must print.
 set -u
 page=$1
+here=$(cd "$(dirname "$0")" && pwd)
+PATH=$2/bin:$PATH
 folder=$(mktemp -d) || exit 2
 trap 'rm -rf "$folder"' EXIT
 cd "$folder" || exit 2
-mkdir build && ln -s "$2" build/windows || exit 2
+mkdir build seen && ln -s "$2" build/windows && cp -r "$here/../../../samples" . || exit 2
 
 # The page as a shell script: commands as they are, files and output as here-documents.
 awk -v q="'" '
@@ -24,9 +28,8 @@ awk -v q="'" '
             printf "{\n%s} >actual 2>&1\n", body
             commands++
         } else if (kind == "output") {
-            printf "cat >expected <<%send of block%s\n%send of block\n", q, q, body
-            printf "diff -u expected actual || { echo %s^^^ line %d of the page%s; exit 1; }\n", q, NR, q
             outputs++
+            printf "cat >expected <<%send of block%s\n%send of block\ncompare %d %d\n", q, q, body, outputs, NR
         } else if (file != "") {
             printf "mkdir -p \"$(dirname %s)\"\ncat >block <<%send of block%s\n%send of block\nput_block %s\n", file, q, q, body, file
         } else {
@@ -64,4 +67,23 @@ put_block() {
     esac
 }
 
+# compare NUMBER LINE: what was printed is what the block of output ending in this line says.
+compare() {
+    cp actual "seen/$1"
+    [ -n "${LYT_UPDATE:-}" ] || diff -u expected actual || { echo "^^^ line $2 of the page"; exit 1; }
+}
+
 . ./steps
+[ -n "${LYT_UPDATE:-}" ] || exit 0
+
+awk '
+    !inside && /^```output$/ {
+        print
+        file = "seen/" ++outputs
+        while ((getline line < file) > 0) print line
+        close(file)
+        inside = 1
+    }
+    inside && /^```$/ { inside = 0 }
+    !inside { print }
+' "$page" >updated && cp updated "$page"
