@@ -16,15 +16,15 @@ constexpr Rule unknown = {
     "ignore-unknown",
     Level::Warning,
     "A remark silences a rule that does not exist.",
-    "A remark reads `; lytdlg: ignore RULE reason`, with the name of a rule as the findings tell it.",
+    "A remark reads `; lytdlg: ignore RULE reason`, with the name of the rule as a finding gives it.",
     "$VALUES\n    Unit = 60   ; lytdlg: ignore value-twcie kept for older documents",
     "$VALUES\n    Unit = 60"};
 
 constexpr Rule unreasoned = {
     "ignore-without-reason",
     Level::Warning,
-    "A remark silences a rule and does not say why.",
-    "Whoever reads the description later wants to know why the finding is no mistake: write the\n"
+    "A remark silences a rule but does not say why.",
+    "Whoever reads the description later wants to know why the finding is no mistake. Write the\n"
     "reason after the name of the rule.",
     "$VALUES\n    Unit = 60   ; lytdlg: ignore ignore-unused",
     "$VALUES\n    Unit = 60"};
@@ -32,7 +32,7 @@ constexpr Rule unreasoned = {
 constexpr Rule unused = {"ignore-unused",
                          Level::Note,
                          "A remark silences a rule that finds nothing there.",
-                         "The remark does no harm, but hides a mistake that is made in this line later: take it away.",
+                         "It does no harm, but would hide a mistake that is made in this line later: delete it.",
                          "$VALUES\n    Unit = 60   ; lytdlg: ignore ignore-unknown nothing is here to silence",
                          "$VALUES\n    Unit = 60"};
 
