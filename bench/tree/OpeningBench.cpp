@@ -160,7 +160,7 @@ int main()
         return 1;
 
     records = MakeRecords();
-    const TestSourceScript script = {records.data(), recordCount, 1, false};
+    const TestSourceScript script = {records.data(), recordCount, 1};
     Find<decltype(TestSourceServe)>(source, "TestSourceServe")('S', &script);
     const TestFolder folder;
     folder.Write("lyt.ini", "[global]\nTreeWidth=400\nTreeHeight=500\nTreeLevels=1\n");
