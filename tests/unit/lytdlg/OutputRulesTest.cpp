@@ -70,6 +70,32 @@ TEST(OutputRules, TellOfRulesThatAreNeverUsedOrMissing)
         ^~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~
     hint: put it before that rule
 )"},
+        {R"($OUTPUT, parent
+    Name(a, b) = ("%s", Unit)
+    Name(a), Unit(m) = ("%s", Name))",
+         R"(example.dlg:54:5: warning output-shadowed: the rule in line 53 holds whenever this one does, so this one is never used
+        Name(a), Unit(m) = ("%s", Name)
+        ^~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~
+    hint: put it before that rule
+)"},
+        {R"($OUTPUT, parent
+    Name(a) = ("%s", Unit)
+    Name(a, b) = ("%s", Name))",
+         ""},
+        {R"($OUTPUT, parent
+    Name(a), Unit(m), Name(b) = ("%s", Unit))",
+         R"(example.dlg:53:23: warning output-never: "Name" cannot hold both at once; the rule never holds
+        Name(a), Unit(m), Name(b) = ("%s", Unit)
+                          ^~~~
+    hint: of the values in one pair of brackets one is enough
+)"},
+        {R"($OUTPUT, parent
+    Name(Null) = ("%s", Unit))",
+         R"(example.dlg:53:10: warning output-condition-value: "Null" is taken for a value
+        Name(Null) = ("%s", Unit)
+             ^~~~
+    hint: did you mean "NULL"?
+)"},
     };
     for (const JudgedLines& c : cases)
         EXPECT_EQ(TextsOfFindings(c.lines), c.findings) << c.lines;

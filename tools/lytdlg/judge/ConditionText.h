@@ -20,5 +20,8 @@ std::vector<const RECORD*> RecordsOf(const ClytOwnedList<RECORD>& list)
 bool AsksForContent(const ClytCtrlValList& condition);
 // The values in brackets, with an empty text for NULL, and without a NOTNULL at the end.
 std::vector<std::string> ValuesAskedBy(const ClytCtrlValList& condition);
+// Whether no value of a control satisfies both. What two conditions of one control have in common can be empty only when
+// both name their values.
+bool ExcludeEachOther(const ClytCtrlValList& left, const ClytCtrlValList& right);
 
 } // namespace lytdlg

@@ -3,6 +3,8 @@
 #include "lytdlg/judge/Controls.h"
 #include "lytdlg/judge/Lists.h"
 
+#include <cctype>
+
 namespace lytdlg
 {
 
@@ -25,6 +27,19 @@ std::string HintForValue(const std::string& value, const std::set<std::string>& 
     return MeantOr(value, {possible.begin(), possible.end()}, Listed(possible));
 }
 
+// NULL or NOTNULL, when a value is one of them in other letters or with blanks in it; empty otherwise.
+std::string MeantValueWord(const std::string& value)
+{
+    std::string letters;
+    for (const unsigned char ch : value)
+    {
+        if (ch != ' ')
+            letters += static_cast<char>(std::toupper(ch));
+    }
+    const bool isWord = letters == lytTextOf(ClytValueWord::Null) || letters == lytTextOf(ClytValueWord::NotNull);
+    return isWord && letters != value ? letters : "";
+}
+
 } // namespace
 
 void JudgeValues(const Case& judged, const Rule& rule, const ClytCtrlValList& condition, NullMeans null)
@@ -44,6 +59,9 @@ void JudgeValues(const Case& judged, const Rule& rule, const ClytCtrlValList& co
                                 InQuotes(value) + " has no meaning here: the value would have to be this word",
                                 isNull ? "write \"\" for an empty value"
                                        : "NOTNULL works in $DEPENDANCES only; name the values, or turn the rule round");
+        else if (const std::string meant = MeantValueWord(value); !meant.empty())
+            judged.findings.Add(rule, place, InQuotes(value) + " is taken for a value",
+                                "did you mean " + InQuotes(meant) + "?");
         else if (possible && !value.empty() && !isNull && !possible->contains(value))
             judged.findings.Add(rule, place,
                                 InQuotes(condition.GetName().GetString()) + " never has the value " + InQuotes(value),

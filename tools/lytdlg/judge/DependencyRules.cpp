@@ -142,9 +142,9 @@ std::vector<std::string> StateWords()
 
 void JudgeControl(const Judged& each)
 {
-    const std::string carried = each.next != nullptr
-                                    ? "its conditions go to the rule of line " + std::to_string(each.next->span.line)
-                                    : "it does nothing";
+    const std::string carried =
+        each.next != nullptr ? ", and its conditions go to the rule of line " + std::to_string(each.next->span.line)
+                             : ", and does nothing";
     each.Add(unknownControl, each.PlaceOfName(),
              "no control is called " + InQuotes(each.Name()) + "; the rule is dropped" + carried,
              MeantOr(each.Name(), ControlNames(each.Of()), "use the name of a control"));
@@ -188,24 +188,6 @@ void JudgeEvent(const Judged& each)
             each.Add(eventValues, condition->GetSpan(), word + " does not look at the values in brackets",
                      "name the control alone");
     }
-}
-
-// What two conditions of one control have in common can be empty only when both name their values.
-bool ExcludeEachOther(const ClytCtrlValList& left, const ClytCtrlValList& right)
-{
-    if (left.GetName() != right.GetName() || left.GetValues().IsEmpty() || right.GetValues().IsEmpty())
-        return false;
-    const std::vector<std::string> leftValues = ValuesAskedBy(left);
-    const std::vector<std::string> rightValues = ValuesAskedBy(right);
-    const bool isLeftOpen = AsksForContent(left);
-    const bool isRightOpen = AsksForContent(right);
-    if (isLeftOpen || isRightOpen)
-    {
-        const std::vector<std::string>& closed = isLeftOpen ? rightValues : leftValues;
-        return isLeftOpen != isRightOpen && std::ranges::all_of(closed, &std::string::empty);
-    }
-    return std::ranges::none_of(leftValues, [&](const std::string& value)
-                                { return std::ranges::find(rightValues, value) != rightValues.end(); });
 }
 
 void JudgeNever(const Judged& each)

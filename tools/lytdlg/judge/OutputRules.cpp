@@ -1,6 +1,7 @@
 #include "lytdlg/judge/OutputRules.h"
 
 #include "dialog/ClytDialog.h"
+#include "lytdlg/judge/ConditionText.h"
 #include "lytdlg/judge/Conditions.h"
 #include "lytdlg/judge/Controls.h"
 #include "lytdlg/judge/LineTokens.h"
@@ -69,6 +70,23 @@ constexpr Rule unreached = {"output-unreached",
                             "The first rule whose conditions hold gives the text. Put the one without conditions last.",
                             "$OUTPUT, parent\n    (\"%s\", Name)",
                             "$OUTPUT, parent\n    Unit(\"\") = (\"%s\", Name)"};
+
+constexpr Rule shadowed = {
+    "output-shadowed",
+    Level::Warning,
+    "A rule stands after one that holds whenever it does, and is never used.",
+    "The first rule whose conditions hold gives the text. Put the one with more conditions first.",
+    "$OUTPUT, parent\n    Name(a, b) = (\"%s\", Unit)\n    Name(a), Unit(m) = (\"%s\", Name)",
+    "$OUTPUT, parent\n    Name(a), Unit(m) = (\"%s\", Name)\n    Name(a, b) = (\"%s\", Unit)"};
+
+constexpr Rule never = {
+    "output-never",
+    Level::Warning,
+    "A rule of the output never holds.",
+    "All conditions of a rule must hold at once. Two of one control without a value in common never\n"
+    "do; of the values in one pair of brackets one is enough.",
+    "$OUTPUT, parent\n    Name(a), Name(b) = (\"%s\", Unit)",
+    "$OUTPUT, parent\n    Name(a, b) = (\"%s\", Unit)"};
 
 constexpr Rule condition = {"output-condition",
                             Level::Error,
@@ -189,6 +207,54 @@ void JudgeGroups(const Case& judged)
     }
 }
 
+// Whether a condition holds whenever the other one does.
+bool FollowsFrom(const ClytCtrlValList& asked, const ClytCtrlValList& other)
+{
+    if (asked.GetName() != other.GetName())
+        return false;
+    const std::vector<std::string> values = ValuesAskedBy(asked);
+    const auto isAmongThem = [&](const std::string& value) { return std::ranges::find(values, value) != values.end(); };
+    return asked.GetValues().IsEmpty() ||
+           (!other.GetValues().IsEmpty() && std::ranges::all_of(ValuesAskedBy(other), isAmongThem));
+}
+
+bool HoldsWhenever(const ClytDialogOutput& rule, const ClytDialogOutput& other)
+{
+    const std::vector<const ClytCtrlValList*> given = Records(other.conditions);
+    const auto isGiven = [&](const ClytCtrlValList* asked)
+    { return std::ranges::any_of(given, [&](const ClytCtrlValList* each) { return FollowsFrom(*asked, *each); }); };
+    return !rule.conditions.IsEmpty() && std::ranges::all_of(Records(rule.conditions), isGiven);
+}
+
+void JudgeNever(const Case& judged, const ClytDialogOutput& rule)
+{
+    const std::vector<const ClytCtrlValList*> conditions = Records(rule.conditions);
+    for (size_t right = 1; right < conditions.size(); ++right)
+    {
+        const auto excludes = [&](const ClytCtrlValList* left) { return ExcludeEachOther(*left, *conditions[right]); };
+        if (std::any_of(conditions.begin(), conditions.begin() + static_cast<std::ptrdiff_t>(right), excludes))
+            judged.findings.Add(never, conditions[right]->GetSpan(),
+                                InQuotes(conditions[right]->GetName().GetString()) +
+                                    " cannot hold both at once; the rule never holds",
+                                "of the values in one pair of brackets one is enough");
+    }
+}
+
+void JudgeShadowed(const Case& judged, const OutputGroup& group)
+{
+    const std::vector<const ClytDialogOutput*> rules = Records(group.rules);
+    for (auto rule = rules.begin(); rule != rules.end(); ++rule)
+    {
+        const auto earlier = std::find_if(rules.begin(), rule,
+                                          [&](const ClytDialogOutput* other) { return HoldsWhenever(*other, **rule); });
+        if (earlier != rule)
+            judged.findings.Add(shadowed, judged.description.PlaceOf((*rule)->span.line),
+                                "the rule in line " + std::to_string((*earlier)->span.line) +
+                                    " holds whenever this one does, so this one is never used",
+                                "put it before that rule");
+    }
+}
+
 void JudgeOrder(const Case& judged, const OutputGroup& group)
 {
     const ClytDialogOutput* always = nullptr;
@@ -292,8 +358,8 @@ void JudgeItems(const Case& judged, const ClytDialogOutput& rule)
 
 Family OutputRules()
 {
-    return {{&noResult, &firstGroup, &groupTwice, &groupUnused, &groupEmpty, &noDefault, &unreached, &condition,
-             &conditionValue, &valueless, &item, &noList, &comboItems, &longSeparator, &blanks},
+    return {{&noResult, &firstGroup, &groupTwice, &groupUnused, &groupEmpty, &noDefault, &unreached, &shadowed, &never,
+             &condition, &conditionValue, &valueless, &item, &noList, &comboItems, &longSeparator, &blanks},
             [](const Case& judged)
             {
                 JudgeFirst(judged);
@@ -301,11 +367,13 @@ Family OutputRules()
                 for (const OutputGroup& group : judged.description.outputs)
                 {
                     JudgeOrder(judged, group);
+                    JudgeShadowed(judged, group);
                     for (const ClytDialogOutput* rule : Records(group.rules))
                     {
                         if (judged.description.IsRefused(rule->span.line))
                             continue;
                         JudgeConditions(judged, *rule);
+                        JudgeNever(judged, *rule);
                         JudgeItems(judged, *rule);
                     }
                 }
