@@ -80,10 +80,31 @@ lang/German.nls:32:1: warning text-ampersand: a list item shows the & as it is
 )"},
         {R"($LAYOUT Example
     Text 520, 12, 100, 12, "Marked", .More)",
-         R"(lang/German.nls:38:1: warning text-marks: the marks & differ from those in English.nls, line 38
+         R"(lang/German.nls:41:1: warning text-marks: the marks & differ from those in English.nls, line 41
     Marked=Mar&ked
     ^~~~~~
     hint: give both languages the same marks
+)"},
+        {R"(
+$LAYOUT Example
+    Text 520, 12, 100, 12, "Accent", .More
+    Text 520, 38, 100, 12, "Copied", .Copied)",
+         R"(lang/English.nls:38:1: warning text-bytes: the text was saved as UTF-8, and shows odd characters
+    Accent=Accent&2 Ã„
+    ^~~~~~
+    hint: save the file in code page 1252, which editors call ANSI or Windows-1252
+lang/English.nls:40:1: warning text-twice: the text stands in line 39 already, and that one counts
+    Copied=Cop&y
+    ^~~~~~
+    hint: take one of them away
+lang/German.nls:38:1: warning text-bytes: the text was saved as UTF-8, and shows odd characters
+    Accent=Accent&2 Ã„
+    ^~~~~~
+    hint: save the file in code page 1252, which editors call ANSI or Windows-1252
+lang/German.nls:40:1: warning text-twice: the text stands in line 39 already, and that one counts
+    Copied=Cop&y
+    ^~~~~~
+    hint: take one of them away
 )"},
         {R"($VALUES
 -    Form: Square = square form)",

@@ -36,6 +36,21 @@ constexpr Rule targetKind = {
     "$VALUES\n-Add: ADD = AllRooms, Rooms\nAdd: DELETE = Name",
     "$VALUES\n-Add: ADD = AllRooms, Rooms\nAdd: DELETE = AllRooms"};
 
+constexpr Rule order = {"action-order",
+                        Level::Warning,
+                        "A button moves the items of a plain list.",
+                        "After UP or DOWN a plain list shows one order and answers another. Take a check list.",
+                        "$VALUES\n-Add: ADD = AllRooms, Rooms\nAdd: UP = AllRooms",
+                        "$VALUES\n-Add: ADD = AllRooms, Rooms\nAdd: UP = Parts"};
+
+constexpr Rule noSource = {
+    "action-fill",
+    Level::Warning,
+    "A button fills a control without FILLEDBY.",
+    "FILL asks the library that a statement FILLEDBY of $VALUES names. A list without one is only emptied.",
+    "$VALUES\n-Add: ADD = AllRooms, Rooms\nAdd: FILL = Rooms",
+    "$VALUES\n-Add: ADD = AllRooms, Rooms\nRooms = FILLEDBY, lytdata, OpenList, NextItem\nAdd: FILL = Rooms"};
+
 constexpr Rule words = {
     "action-words",
     Level::Warning,
@@ -198,6 +213,25 @@ std::vector<std::string> ActionWords()
     return all;
 }
 
+void JudgeMove(const Statement& statement)
+{
+    JudgeTarget(statement, 0, HasItems, "a list");
+    if (KindOfControl(statement.Of(), statement.Value(0)) == Kind::List)
+        statement.Add(order, 0,
+                      InQuotes(statement.Value(0)) + " is a plain list, which then shows one order and answers another",
+                      "make it a CheckListBox");
+}
+
+void JudgeFill(const Statement& statement)
+{
+    const std::string name = statement.Value(0);
+    JudgeTarget(statement, 0, IsFilledByLibrary, "a list or a field");
+    if (IsFilledByLibrary(KindOfControl(statement.Of(), name)) &&
+        StatementsOf(statement.Of(), name, Role::Source).empty())
+        statement.Add(noSource, 0, "no statement FILLEDBY says what fills " + InQuotes(name),
+                      "add \"" + name + " = FILLEDBY, LIBRARY, FUNCTION, NEXT\" to $VALUES");
+}
+
 void JudgeAction(const Statement& statement)
 {
     const std::string& word = statement.value.keyword;
@@ -206,10 +240,10 @@ void JudgeAction(const Statement& statement)
     case ClytAction::Visible:
     case ClytAction::Active: JudgeTarget(statement, 0, IsAny, "another control"); break;
     case ClytAction::Add: JudgeAdd(statement); break;
-    case ClytAction::Delete:
+    case ClytAction::Delete: JudgeTarget(statement, 0, HasItems, "a list"); break;
     case ClytAction::Up:
-    case ClytAction::Down: JudgeTarget(statement, 0, HasItems, "a list"); break;
-    case ClytAction::Fill: JudgeTarget(statement, 0, IsFilledByLibrary, "a list or a field"); break;
+    case ClytAction::Down: JudgeMove(statement); break;
+    case ClytAction::Fill: JudgeFill(statement); break;
     case ClytAction::Dialog: JudgeDialog(statement); break;
     case ClytAction::Action: JudgeCall(statement); break;
     case ClytAction::Reject: break;
@@ -256,7 +290,8 @@ void JudgeDoubleClick(const Statement& statement)
 
 Family ActionRules()
 {
-    return {{&unknownAction, &target, &targetKind, &words, &group, &part, &dialog, &doubleClick, &source},
+    return {{&unknownAction, &target, &targetKind, &order, &noSource, &words, &group, &part, &dialog, &doubleClick,
+             &source},
             [](const Case& judged)
             {
                 for (const ValueStatement& value : judged.description.values)

@@ -120,8 +120,10 @@ void JudgeValues(const Condition& condition)
         PossibleValues(condition.judged.description, condition.Name());
     for (const std::string& value : ValuesAskedBy(condition.list))
     {
-        const std::string meant = MeantWord(value, words);
-        const bool isWord = meant.size() == value.size() && meant != value;
+        std::string letters = value;
+        std::erase(letters, ' ');
+        const std::string meant = MeantWord(letters, words);
+        const bool isWord = meant.size() == letters.size() && meant != value;
         const bool isForeign = possible && !possible->empty() && std::ranges::find(*possible, value) == possible->end();
         if (value.empty() || value == words[1] || (!isWord && !isForeign))
             continue;

@@ -19,12 +19,19 @@ constexpr Rule itemTwice = {"item-twice",
                             "$VALUES\nPlace: Attic = hall place",
                             "$VALUES\nPlace: Attic = attic place"};
 
+constexpr Rule optionTwice = {"option-twice",
+                              Level::Warning,
+                              "Two options of a group have one value.",
+                              "A value leads to one of them only, and the result does not tell which was chosen.",
+                              "$VALUES\n-Long = l\n-Order = s\nLong = s\nOrder = s",
+                              "$VALUES\n-Long = l\nLong = l"};
+
 constexpr Rule itemIsKey = {
     "item-is-key",
     Level::Warning,
-    "The value of an item of a check list is also the key of a text.",
-    "When all items of a check list go into a result, each value is looked up once more in the\n"
-    "dialog's texts, in upper or lower case. One that is a key goes out as its text, without its mark.",
+    "The value of an item of a list or check list is also the key of a text.",
+    "When all items of such a list go into a result, each is looked up once more in the dialog's texts, in\n"
+    "upper or lower case. One that is a key goes out as its text, in a check list without its mark.",
     "$VALUES\nParts: Hall = hall",
     "$VALUES\nParts: Hall = the hall"};
 
@@ -78,10 +85,26 @@ void JudgeItems(const Case& judged)
         const std::vector<std::string> languages = judged.surroundings.texts.Languages();
         const auto isKey = [&](const std::string& language)
         { return judged.surroundings.texts.Has(language, section, value.values.front()); };
-        if (statement.kind == Kind::CheckList && std::ranges::any_of(languages, isKey))
+        if (MovesFocusWhenRead(statement.kind) && std::ranges::any_of(languages, isKey))
             judged.findings.Add(itemIsKey, statement.PlaceOfValue(),
                                 InQuotes(value.values.front()) + " is also a key of the section [" + section + "]",
                                 "give the item a value that is no key");
+    }
+}
+
+void JudgeOptions(const Case& judged, const std::string& group)
+{
+    std::map<std::string, int> lines;
+    for (const std::string& option : OptionsOf(judged.description, group))
+    {
+        const std::vector<const ValueStatement*> values = StatementsOf(judged.description, option, Role::OptionValue);
+        if (values.empty())
+            continue;
+        const auto [first, isNew] = lines.emplace(values.back()->values.front(), values.back()->span.line);
+        if (!isNew)
+            judged.findings.Add(optionTwice, PlacedValue(judged, *values.back()).PlaceOfValue(),
+                                "the option of line " + std::to_string(first->second) + " has the same value",
+                                "give each option a value of its own");
     }
 }
 
@@ -146,8 +169,9 @@ void JudgeCheckBox(const Case& judged, const std::string& name)
                                                   : "ON and no OFF text"),
                             "add " + InQuotes(name + (on != nullptr ? ": OFF = TEXT" : ": ON = TEXT")) + " to $VALUES");
     else if (textOf(on) == textOf(off))
-        judged.findings.Add(checkTexts, place, "ON and OFF text of " + InQuotes(name) + " are the same",
-                            "make them differ");
+        judged.findings.Add(checkTexts,
+                            PlacedValue(judged, *(on->span.line > off->span.line ? on : off)).PlaceOfValue(),
+                            "ON and OFF text of " + InQuotes(name) + " are the same", "make them differ");
 }
 
 void JudgeCheckBoxes(const Case& judged)
@@ -167,11 +191,16 @@ void JudgeCheckBoxes(const Case& judged)
 
 Family ContentRules()
 {
-    return {{&itemTwice, &itemIsKey, &defaultUnknown, &defaultEarly, &checkDefault, &checkTexts},
+    return {{&itemTwice, &optionTwice, &itemIsKey, &defaultUnknown, &defaultEarly, &checkDefault, &checkTexts},
             [](const Case& judged)
             {
                 JudgeItems(judged);
                 JudgeCheckBoxes(judged);
+                for (const ClytControlStatement& control : judged.description.controls)
+                {
+                    if (KindOf(control.type.GetString()) == Kind::OptionGroup)
+                        JudgeOptions(judged, control.name.GetString());
+                }
                 for (const ValueStatement& value : judged.description.values)
                 {
                     const PlacedValue statement(judged, value);

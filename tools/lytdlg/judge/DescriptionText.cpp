@@ -66,7 +66,7 @@ HeaderWord HeaderWordOf(const std::string& line, Section section)
 // stands alone. A blank ends the word of a header only where blanks separate.
 std::optional<Section> MeantBy(const HeaderWord& word, Section present)
 {
-    std::string first = word.text.substr(0, word.text.find(' '));
+    std::string first = word.text.substr(0, word.text.find_first_of(" \t"));
     const bool hasSign = first.starts_with('$');
     if (first.empty() || (!hasSign && (!word.isAlone || first != word.text || first != Upper(first))))
         return std::nullopt;
@@ -83,7 +83,7 @@ std::optional<Section> MeantBy(const HeaderWord& word, Section present)
 // The header as it should be: a comma ends its word where a blank does not.
 std::string CorrectHeader(const HeaderWord& word, Section section)
 {
-    const size_t blank = word.text.find(' ');
+    const size_t blank = word.text.find_first_of(" \t");
     const std::string name = blank != std::string::npos ? word.text.substr(blank + 1) : word.next;
     const char* const separator = section <= Section::Layout ? " " : ", ";
     return WordOf(section) + (name.empty() ? "" : separator + name);
@@ -325,7 +325,9 @@ Section DescriptionText::Opened(SourceLine& line, Section present)
     if (!meant || (*meant == Section::Head && present != Section::Head))
         return present;
     const bool isFurtherPart = *meant == present && (present == Section::Input || present == Section::Output);
-    if (!isFurtherPart && (HasBelow(*meant, 0) || IsStray(*meant, present, line.number)))
+    // Of a section with parts the first header may be the wrong one, and those of further parts right.
+    const bool isFirstPart = *meant == Next(present) && (*meant == Section::Input || *meant == Section::Output);
+    if (!isFurtherPart && !isFirstPart && (HasBelow(*meant, 0) || IsStray(*meant, present, line.number)))
         return present;
     line.isHeader = *meant != Section::Head;
     line.meant = CorrectHeader(word, *meant);

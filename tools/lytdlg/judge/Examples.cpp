@@ -80,14 +80,17 @@ constexpr const char* exampleTexts =
     "Parts=Par&ts:\r\nHall=Hall\r\nStairs=Stairs\r\nCellar=Cellar\r\nNoForm=(none)\r\nRound=Round\r\n"
     "Square=Square\r\nKitchen=Kitchen\r\nBath=Bath\r\nOffice=Office\r\nAttic=Attic\r\n"
     "Remove=Remo&ve\r\nNote=&Note\r\nExtra=E&xtra\r\nPlain=Plain\r\nAuthor=T&he author's name\r\n"
-    "LongText=A text that goes on for longer than the seventy-four characters that there are\r\n";
+    "LongText=A text that goes on for longer than the seventy-four characters that there are\r\n"
+    "Accent=Accent&2 \xC3\x84\r\nCopied=Copied&3\r\nCopied=Cop&y\r\n";
 
 // It shows what the example does not.
 constexpr const char* otherDescription =
     "$VERSION 1\r\n$LAYOUT Example\r\nBegin Dialog Box 300, 220, \"Title\", .Main\r\n"
     "TextBox 16, 12, 100, 19, .Name\r\nText 16, 38, 100, 12, \"Remove\"\r\nText 16, 54, 100, 12, \"Note\"\r\n"
     "Text 16, 70, 100, 12, \"Plain\"\r\nText 16, 86, 100, 12, \"Author\"\r\nText 16, 102, 100, 12, \"LongText\"\r\n"
-    "Text 16, 118, 100, 12, \"Marked\"\r\nText 16, 134, 100, 12, \"Extra\"\r\nOKButton 16, 188, 80, 22\r\nCancelButton "
+    "Text 16, 118, 100, 12, \"Marked\"\r\nText 16, 134, 100, 12, \"Extra\"\r\n"
+    "Text 16, 150, 100, 12, \"Accent\"\r\nText 16, 166, 100, 12, \"Copied\"\r\nOKButton 16, 188, 80, "
+    "22\r\nCancelButton "
     "108, 188, 80, 22\r\n"
     "End Dialog\r\n$VALUES\r\n$DEPENDANCES\r\n$EVALUATION, x\r\n$INPUT, parent\r\n"
     "Start: (999, End = Name\r\n$OUTPUT, parent\r\n(\"%s\", Name)\r\n$END\r\n";

@@ -1,6 +1,7 @@
 #include "lytdlg/judge/LineRules.h"
 
 #include "dlgfile/ClytDialogFile.h"
+#include "lytdlg/judge/CodePage.h"
 
 #include <algorithm>
 
@@ -35,6 +36,15 @@ constexpr Rule markBeforeVersion = {
     "The file was saved as UTF-8 with a mark at its begin, which the library takes for letters of the\n"
     "first word. Save it in code page 1252, which editors call ANSI or Windows-1252.",
     "\xEF\xBB\xBF{ABOVE}",
+    "; an example"};
+
+constexpr Rule markAbove = {
+    "byte-order-mark-above",
+    Level::Warning,
+    "A byte order mark stands before the free text above $VERSION.",
+    "The library passes it over there, but the file was saved as UTF-8: letters with an accent show as two\n"
+    "odd characters. Save it in code page 1252, which editors call ANSI or Windows-1252.",
+    "\xEF\xBB\xBF; an example",
     "; an example"};
 
 constexpr Rule utf8 = {
@@ -146,33 +156,6 @@ void JudgeLength(const Case& judged, const SourceLine& line)
               "a line may have " + std::to_string(limit) + " characters; shorten it");
 }
 
-// How many bytes of a UTF-8 sequence begin here; 0 when none does.
-size_t SequenceLength(const std::string& text, size_t place)
-{
-    const auto at = [&](size_t index) { return index < text.size() ? static_cast<unsigned char>(text[index]) : 0U; };
-    const unsigned first = at(place);
-    const size_t size = first >= 0xC2 && first < 0xE0 ? 2U : first >= 0xE0 && first < 0xF0 ? 3U : 0U;
-    for (size_t index = 1; index < size; ++index)
-    {
-        if ((at(place + index) & 0xC0U) != 0x80U)
-            return 0;
-    }
-    return size;
-}
-
-bool StandsForNothing(char ch)
-{
-    const auto byte = static_cast<unsigned char>(ch);
-    return (byte < 0x20 && ch != '\t') || byte == 0x81 || byte == 0x8D || byte == 0x8F || byte == 0x90 || byte == 0x9D;
-}
-
-std::string HexOf(char ch)
-{
-    constexpr const char* digits = "0123456789ABCDEF";
-    const auto byte = static_cast<unsigned char>(ch);
-    return {digits[byte / 16], digits[byte % 16]};
-}
-
 // A comment may hold what it likes, but for the byte that ends the line.
 void JudgeBytes(const Case& judged, const SourceLine& line)
 {
@@ -209,6 +192,9 @@ void JudgeFile(const Case& judged)
               "save the file in code page 1252, or begin it with a comment");
         judged.findings.All().back().number = "213";
     }
+    else if (text.HasByteOrderMark())
+        AddAt(judged, markAbove, 1, 0, 1, "the file begins with a byte order mark, and so was saved as UTF-8",
+              "save it in code page 1252, which editors call ANSI or Windows-1252");
     if (text.HasTextAfterEndMark())
         judged.findings.Add(endMark, judged.description.PlaceOf(static_cast<int>(text.Lines().size())),
                             "a Ctrl-Z ends the file here, and text follows it", "take the byte 1A away");
@@ -231,7 +217,7 @@ void JudgeAfterEnd(const Case& judged)
 
 Family LineRules()
 {
-    return {{&tab, &length, &markBeforeVersion, &utf8, &bytes, &endMark, &afterEnd},
+    return {{&tab, &length, &markBeforeVersion, &markAbove, &utf8, &bytes, &endMark, &afterEnd},
             [](const Case& judged)
             {
                 for (const SourceLine& line : judged.description.text.Lines())

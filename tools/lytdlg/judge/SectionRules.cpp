@@ -96,11 +96,14 @@ void JudgeFalseHeaders(const Case& judged)
         // Free text may stand above the version.
         if (header.section == Section::Head && judged.description.text.HeaderOf(Section::Head) != nullptr)
             continue;
-        const bool isBlank = header.word.starts_with(std::string(WordOf(header.section)) + " ");
+        const std::string word = WordOf(header.section);
+        const bool isBlank = header.word.starts_with(word + " ");
+        const bool isTab = header.word.starts_with(word + "\t");
         Finding& finding =
             judged.findings.Add(misspelt, header.place, "\"" + header.word + "\" opens no section",
-                                (isBlank ? "a blank does not end the word; write \"" + header.meant + "\""
-                                         : "did you mean \"" + header.meant + "\"?"));
+                                (isBlank || isTab ? std::string(isBlank ? "a blank" : "a tab") +
+                                                        " does not end the word; write \"" + header.meant + "\""
+                                                  : "did you mean \"" + header.meant + "\"?"));
         finding.number = header.present != Section::Head     ? NumberWithin(header.present)
                          : header.section == Section::Layout ? "214"
                                                              : "213";
@@ -170,11 +173,11 @@ void JudgeMissing(const Case& judged)
 
 void AddStray(const Case& judged, const SourceLine& line)
 {
-    const size_t words = TokensOf(line.text, line.section).size();
-    const bool isValue = line.section == Section::Values && words > 1;
+    const std::vector<LineToken> words = TokensOf(line.text, line.section);
+    const bool isValue = line.section == Section::Values && words.size() > 1;
     const ClytSpan place = judged.description.PlaceOf(line.number);
-    const std::string message =
-        "a header stands inside the section " + std::string(WordOf(line.section)) + " and opens nothing";
+    const std::string message = "the header \"" + words.front().text + "\" stands inside the section " +
+                                std::string(WordOf(line.section)) + " and opens nothing";
     if (isValue)
         judged.findings.Add(headerAsValue, place, message, "take the line away");
     else

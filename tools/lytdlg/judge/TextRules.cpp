@@ -1,5 +1,6 @@
 #include "lytdlg/judge/TextRules.h"
 
+#include "lytdlg/judge/CodePage.h"
 #include "lytdlg/judge/Controls.h"
 #include "lytdlg/judge/TextUses.h"
 
@@ -55,6 +56,22 @@ constexpr Rule marks = {"text-marks",
                         "argument ('') in every\nlanguage or in none.",
                         "$LAYOUT Example\n    Text 520, 12, 100, 12, \"Marked\", .More",
                         "$LAYOUT Example\n    PushButton 520, 12, 112, 21, \"Remove\", .More"};
+
+constexpr Rule bytes = {
+    "text-bytes",
+    Level::Warning,
+    "A text of the language file has bytes that are no letters of its code page.",
+    "Language files are in the ANSI code page, 1252 in Western Europe. A letter with an accent that was "
+    "saved as UTF-8\nshows as two odd characters, and a byte that the code page does not use as a box.",
+    "$LAYOUT Example\n    PushButton 520, 12, 112, 21, \"Accent\", .More",
+    "$LAYOUT Example\n    PushButton 520, 12, 112, 21, \"Remove\", .More"};
+
+constexpr Rule hiddenKey = {"text-twice",
+                            Level::Warning,
+                            "A text stands in the language file twice.",
+                            "The library reads the first of two keys, and of two sections, that have one name.",
+                            "$LAYOUT Example\n    PushButton 520, 12, 112, 21, \"Copied\", .More",
+                            "$LAYOUT Example\n    PushButton 520, 12, 112, 21, \"Remove\", .More"};
 
 constexpr Rule unused = {"text-unused",
                          Level::Note,
@@ -156,6 +173,32 @@ void JudgeText(const Case& judged, const ShownText& use, const LanguageFile& fil
               "leave it out");
 }
 
+void JudgeBytes(const Case& judged, const LanguageFile& file, const LanguageKey& key)
+{
+    for (size_t place = 0; place < key.text.size(); ++place)
+    {
+        const bool isUtf8 = SequenceLength(key.text, place) != 0;
+        if (!isUtf8 && !StandsForNothing(key.text[place]))
+            continue;
+        AddAt(judged, bytes, file, key,
+              isUtf8 ? "the text was saved as UTF-8, and shows odd characters"
+                     : "the byte " + HexOf(key.text[place]) + " of the text stands for no character",
+              "save the file in code page 1252, which editors call ANSI or Windows-1252");
+        return;
+    }
+}
+
+void JudgeTwice(const Case& judged, const ShownText& use, const LanguageFile& file, const LanguageKey& found)
+{
+    for (const LanguageKey& key : file.Keys())
+    {
+        if (!key.isReached && IsSameName(key.section, use.section) && IsSameName(key.name, use.key))
+            AddAt(judged, hiddenKey, file, key,
+                  "the text stands in line " + std::to_string(found.place.line) + " already, and that one counts",
+                  "take one of them away");
+    }
+}
+
 size_t CountOf(const std::string& text, const std::string& mark)
 {
     size_t count = 0;
@@ -233,7 +276,7 @@ void JudgeUnused(const Case& judged)
 
 Family TextRules()
 {
-    return {{&missing, &section, &tooLong, &apostrophe, &ampersand, &marks, &unused},
+    return {{&missing, &section, &tooLong, &apostrophe, &ampersand, &marks, &bytes, &hiddenKey, &unused},
             [](const Case& judged)
             {
                 if (judged.surroundings.texts.Files().empty())
@@ -246,7 +289,11 @@ Family TextRules()
                     for (const LanguageFile& file : judged.surroundings.texts.Files())
                     {
                         if (const LanguageKey* key = file.Find(use.section, use.key))
+                        {
                             JudgeText(judged, use, file, *key);
+                            JudgeBytes(judged, file, *key);
+                            JudgeTwice(judged, use, file, *key);
+                        }
                     }
                 }
                 JudgeUnused(judged);
