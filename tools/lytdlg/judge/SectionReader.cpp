@@ -23,8 +23,10 @@ int SectionReader::TakeLine(char* buffer, UINT count)
     const std::string& whole = isEnd                            ? m_endLine
                                : m_lines[m_line]->meant.empty() ? m_lines[m_line]->text
                                                                 : m_lines[m_line]->meant;
-    // A NUL byte ends what is read of the line.
-    const std::string_view line = std::string_view(whole).substr(0, whole.find('\0'));
+    // A NUL byte ends what is read of the line. One further on is met when its piece is read.
+    const size_t end = std::string_view(whole).substr(m_column, count).find('\0');
+    const std::string_view line =
+        std::string_view(whole).substr(0, end != std::string::npos ? m_column + end : whole.size());
     const size_t length = std::min<size_t>(line.size() + 1 - m_column, count);
     for (size_t index = 0; index < length; ++index)
         buffer[index] = m_column + index < line.size() ? line[m_column + index] : '\n';
