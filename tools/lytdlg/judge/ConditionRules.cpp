@@ -36,6 +36,15 @@ constexpr Rule noValue = {
     "$DEPENDANCES\nUnit/ACTIVE = Short(s)",
     "$DEPENDANCES\nUnit/ACTIVE = Order(s)"};
 
+constexpr Rule alwaysHeld = {
+    "condition-always",
+    Level::Warning,
+    "A condition with NOTNULL asks a control that always holds something.",
+    "NOTNULL asks whether a field or a list is empty. A check box, an option group, a text, a frame and a\n"
+    "button never are, whatever the user does: ask for the value.",
+    "$DEPENDANCES\nUnit/ACTIVE = Pictures(NOTNULL)",
+    "$DEPENDANCES\nUnit/ACTIVE = Pictures(P)"};
+
 constexpr Rule notLast = {
     "notnull-not-last",
     Level::Warning,
@@ -143,6 +152,16 @@ void JudgeNotNull(const Condition& condition)
                                       "write it last, or alone");
 }
 
+void JudgeAlways(const Condition& condition)
+{
+    if (AsksForContent(condition.list) && !HasItems(condition.kind) && condition.kind != Kind::Field &&
+        !IsDefault(condition.kind))
+        condition.judged.findings.Add(
+            alwaysHeld, condition.list.GetSpan(),
+            InQuotes(condition.Name()) + " is " + NameOf(condition.kind) + ", for which NOTNULL always holds",
+            HasValue(condition.kind) ? "name the values that it should have" : "name a field or a list");
+}
+
 void JudgeFocus(const Condition& condition)
 {
     if (condition.HasValues() && !AsksForContent(condition.list) &&
@@ -162,6 +181,7 @@ void JudgeCondition(const Condition& condition)
         return;
     JudgeValues(condition);
     JudgeNotNull(condition);
+    JudgeAlways(condition);
     JudgeFocus(condition);
 }
 
@@ -182,7 +202,7 @@ void JudgeReached(const Case& judged, const ClytControlDep& rule)
 
 Family ConditionRules()
 {
-    return {{&unknown, &neverHeld, &noValue, &notLast, &notReached, &movesFocus},
+    return {{&unknown, &neverHeld, &noValue, &alwaysHeld, &notLast, &notReached, &movesFocus},
             [](const Case& judged)
             {
                 for (const ClytControlDep* rule : RecordsOf(judged.description.rules))

@@ -1,5 +1,6 @@
 #include "lytdlg/judge/ValueRules.h"
 
+#include "lytdlg/judge/LineTokens.h"
 #include "lytdlg/judge/PlacedValue.h"
 
 #include <algorithm>
@@ -28,6 +29,15 @@ constexpr Rule unused = {
     "INACTIVE only.",
     "$VALUES\nOk = INACTIVE",
     "$VALUES\nAdd = INACTIVE"};
+
+constexpr Rule colon = {
+    "value-colon",
+    Level::Note,
+    "Another sign stands where a colon should stand.",
+    "A colon after the name begins an item, a text of a check box or an action. The library takes any\n"
+    "other sign that separates for it; who reads the file does not.",
+    "$VALUES\n-Add: ADD = AllRooms, Rooms\nAdd = ADD = AllRooms, Rooms",
+    "$VALUES"};
 
 constexpr Rule optionWord = {"option-word",
                              Level::Warning,
@@ -152,19 +162,35 @@ void JudgeTwice(const Case& judged)
     }
 }
 
+void JudgeColon(const PlacedValue& statement)
+{
+    const bool takesColon = statement.role == Role::On || statement.role == Role::Off || statement.role == Role::Item ||
+                            statement.role == Role::DoubleClick || statement.role == Role::Action;
+    if (!takesColon || statement.value.keyword.empty())
+        return;
+    const SourceLine& line = statement.judged.description.text.Line(statement.value.span.line);
+    const std::vector<LineToken> words = TokensOf(line.text, Section::Values);
+    if (!words.empty() && words.front().delimiter != ':')
+        statement.judged.findings.Add(colon, statement.PlaceOfName(), "no colon stands after " + statement.Name(),
+                                      "write \"" + statement.value.name + ": " + statement.value.keyword + " = ...\"");
+}
+
 void JudgeStatement(const PlacedValue& statement)
 {
     if (statement.judged.description.FindControl(statement.value.name) == nullptr)
         JudgeUnknown(statement);
     else if (statement.kind != Kind::Unknown)
+    {
         JudgeWords(statement);
+        JudgeColon(statement);
+    }
 }
 
 } // namespace
 
 Family ValueRules()
 {
-    return {{&unknownControl, &unused, &optionWord, &keyword, &noText, &twice},
+    return {{&unknownControl, &unused, &colon, &optionWord, &keyword, &noText, &twice},
             [](const Case& judged)
             {
                 for (const ValueStatement& value : judged.description.values)
