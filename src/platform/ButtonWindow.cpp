@@ -122,7 +122,7 @@ void ButtonWindow::SetCheck(UINT check)
 void ButtonWindow::UncheckOthers() const
 {
     const WindowRow& row = parent->children;
-    const WindowRow::const_iterator self = inRow;
+    const auto self = WindowRow::const_iterator(inRow);
     const auto begins = [](const Window* child) { return child->HasStyle(WS_GROUP); };
     auto first = self;
     while (first != row.begin() && !begins(*first))

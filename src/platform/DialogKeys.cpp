@@ -79,7 +79,7 @@ bool TakeAccessKey(const DialogWindow& dialog, WPARAM character)
     const auto wanted = static_cast<char>(std::tolower(static_cast<unsigned char>(character)));
     const WindowRow& row = dialog.children;
     const Window* focused = dialog.FocusedChild();
-    WindowRow::const_iterator place = focused != nullptr ? std::next(focused->inRow) : row.begin();
+    auto place = focused != nullptr ? std::next(WindowRow::const_iterator(focused->inRow)) : row.begin();
     for (size_t step = 0; step < row.size(); ++step)
     {
         if (place == row.end())

@@ -71,7 +71,7 @@ Window* DialogWindow::NextTabStop(const Window* from, bool backwards) const
 
 Window& DialogWindow::Neighbour(const Window& child, bool backwards) const
 {
-    WindowRow::const_iterator at = child.inRow;
+    auto at = WindowRow::const_iterator(child.inRow);
     if (backwards)
         return **std::prev(at == children.begin() ? children.end() : at);
     ++at;
@@ -84,7 +84,7 @@ Window* DialogWindow::NextInGroup(const Window& from, bool backwards) const
 {
     if (from.parent != this)
         return nullptr;
-    const WindowRow::const_iterator here = from.inRow;
+    const auto here = WindowRow::const_iterator(from.inRow);
     const auto begins = [](const Window* child) { return child->HasStyle(WS_GROUP); };
     auto first = here;
     while (first != children.begin() && !begins(*first))

@@ -78,7 +78,7 @@ TEST_F(CheckReport, GivesJsonThatAProgramReads)
     EXPECT_EQ(told["errors"], 1);
     ASSERT_EQ(told["findings"].size(), 1U);
     const json& finding = told["findings"][0];
-    EXPECT_EQ(finding["path"], "box.dlg");
+    EXPECT_TRUE(finding["path"].get<std::string>().ends_with("box.dlg"));
     EXPECT_EQ(finding["line"], 10);
     EXPECT_EQ(finding["column"], 1);
     EXPECT_EQ(finding["length"], 13);
@@ -181,12 +181,26 @@ TEST_F(CheckReport, MistakesOfTheCommandLineTellTheWayOut)
     }
 }
 
-TEST_F(CheckReport, ExplainsARuleWithExamples)
+// What `lytdlg check --explain` prints of the rule.
+std::string Explained(const char* rule)
 {
     testing::internal::CaptureStdout();
-    EXPECT_EQ(lytdlg::Run({"check", "--explain", "section-misspelt"}), 0);
-    const std::string told = testing::internal::GetCapturedStdout();
+    EXPECT_EQ(lytdlg::Run({"check", "--explain", rule}), 0);
+    return testing::internal::GetCapturedStdout();
+}
+
+TEST_F(CheckReport, ExplainsARuleWithExamples)
+{
+    const std::string told = Explained("section-misspelt");
     EXPECT_TRUE(
-        told.starts_with("section-misspelt (error)\nA line was meant as the header of a section and is none.\n"));
+        told.starts_with("section-misspelt (error)\nA line looks like the header of a section but is not one.\n"));
     EXPECT_NE(told.find("\nWrong:\n\n    $EVALUATION x\n\nRight:\n\n    $EVALUATION, x\n"), std::string::npos) << told;
+}
+
+TEST_F(CheckReport, PrintsExamplesInUtf8)
+{
+    const std::string told = Explained("utf-8");
+    EXPECT_TRUE(told.ends_with("Wrong:\n\n    $VALUES\n    Unit = Stra\u00C3\u0178e\n\n"
+                               "Right:\n\n    $VALUES\n    Unit = Stra\u00DFe\n"))
+        << told;
 }

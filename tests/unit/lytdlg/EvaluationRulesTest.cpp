@@ -56,7 +56,7 @@ $EVALUATION, x
          R"(example.dlg:49:5: warning evaluation-twice: the check in line 50 takes the place of this one
         Unit = NULL: NameMissing
         ^~~~
-    hint: put both into one check, or take one away
+    hint: put both into one check, or delete one
 )"},
         {R"($LAYOUT Example
     TextBox 520, 12, 100, 19, .More

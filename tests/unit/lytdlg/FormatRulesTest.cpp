@@ -61,21 +61,21 @@ TEST(FormatRules, TellOfItemsThatAreTooManyOrTooFew)
          R"(example.dlg:53:18: warning format-items: the format takes 2 items, the rule has 1
         Form("") = ("%s;%s", Name)
                      ^~~~~
-    hint: add the missing items, or take conversions away
+    hint: add the missing items, or delete conversions
 )"},
         {R"($OUTPUT, parent
     Form("") = ("%s", Name, Unit))",
          R"(example.dlg:53:29: note format-surplus: the format does not take "Unit", and no check asks for it
         Form("") = ("%s", Name, Unit)
                                 ^~~~
-    hint: take it away, or add a %s for it
+    hint: delete it, or add a %s for it
 )"},
         {R"($OUTPUT, parent
     Form("") = ("NONE", Unit))",
          R"(example.dlg:53:25: note format-surplus: the format does not take "Unit", and no check asks for it
         Form("") = ("NONE", Unit)
                             ^~~~
-    hint: take it away, or add a %s for it
+    hint: delete it, or add a %s for it
 )"},
         {R"($OUTPUT, parent
     Form("") = ("%s", Name, a, a, a, a, a, a, a, a, a, a, a, a, a, a, a, a, a, a, a, a, a, a, a, a, a))",

@@ -9,7 +9,7 @@ TEST(GeometryRules, TellOfControlsThatAreNotSeenWhole)
         {R"($LAYOUT Example
     TextBox 520, 12, 100, 19, .More
     TextBox 600, 12, 100, 19, .Most)",
-         R"(example.dlg:25:5: warning geometry-overlap: "Most" and "More" in line 24 cover one another
+         R"(example.dlg:25:5: warning geometry-overlap: "Most" and "More" in line 24 overlap
         TextBox 600, 12, 100, 19, .Most
         ^~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~
     hint: move one of them, or make it smaller
@@ -17,7 +17,7 @@ TEST(GeometryRules, TellOfControlsThatAreNotSeenWhole)
         {R"($LAYOUT Example
     GroupBox 520, 6, 100, 60, ""
     TextBox 600, 24, 100, 19, .More)",
-         R"(example.dlg:25:5: warning geometry-overlap: "More" and the GroupBox in line 24 cover one another
+         R"(example.dlg:25:5: warning geometry-overlap: "More" and the GroupBox in line 24 overlap
         TextBox 600, 24, 100, 19, .More
         ^~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~
     hint: move one of them, or make it smaller
@@ -25,7 +25,7 @@ TEST(GeometryRules, TellOfControlsThatAreNotSeenWhole)
         {R"($LAYOUT Example
     Text 520, 12, 60, 12, "Remove", .More
     TextBox 560, 8, 100, 19, .Most)",
-         R"(example.dlg:25:5: warning geometry-overlap: "Most" and "More" in line 24 cover one another
+         R"(example.dlg:25:5: warning geometry-overlap: "Most" and "More" in line 24 overlap
         TextBox 560, 8, 100, 19, .Most
         ^~~~~~~~~~~~~~~~~~~~~~~~~~~~~~
     hint: move one of them, or make it smaller

@@ -37,7 +37,7 @@ $OUTPUT,  Out
          R"(example.dlg:54:1: note output-unused: nothing uses the group "Out"
     $OUTPUT, Out
     ^~~~~~~~~~~~
-    hint: name it in a FILLEDBY, DIALOG or ACTION, or take it away
+    hint: name it in a FILLEDBY, DIALOG or ACTION, or delete it
 )"},
         {R"($VALUES
     Parts = FILLEDBY, lytdata, Open, Next, Out

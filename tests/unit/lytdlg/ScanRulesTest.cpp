@@ -10,7 +10,7 @@ TEST(ScanRules, TellOfPartsThatAreNotRun)
          R"(example.dlg:52:1: note scan-part-unused: no button runs the part "Entrance"
     $INPUT, Entrance
     ^~~~~~~~~~~~~~~~
-    hint: name it in a button's DIALOG or ACTION, or take it away
+    hint: name it in a button's DIALOG or ACTION, or delete it
 )"},
         {R"($INPUT, parent
 -Start: (";", Unit = Name
@@ -39,7 +39,7 @@ TEST(ScanRules, TellOfPartsThatAreNotRun)
          R"(example.dlg:52:1: note scan-part-unused: no button runs the part "Back"
     $INPUT, Back
     ^~~~~~~~~~~~
-    hint: name it in a button's DIALOG or ACTION, or take it away
+    hint: name it in a button's DIALOG or ACTION, or delete it
 )"},
     };
     for (const JudgedLines& c : cases)
@@ -75,7 +75,7 @@ TEST(ScanRules, TellOfStatementsThatLeadNowhereOrAreNotReached)
          R"--(example.dlg:52:5: warning scan-unreached: no statement leads to "Extra"
         Extra: (")", Unit = Name
         ^~~~~
-    hint: name it as a target, or take it away
+    hint: name it as a target, or delete it
 )--"},
         {R"($INPUT, parent
     Unit : (999, End = Unit)",

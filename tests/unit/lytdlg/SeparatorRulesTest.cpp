@@ -25,7 +25,7 @@ TEST(SeparatorRules, TellOfSeparatorsThatNeverComeIntoPlay)
          R"(example.dlg:50:25: warning scan-separator: the separator ";" stands here twice
         Start: (";", Unit, ";", Unit = Name
                             ^
-    hint: take one of them away
+    hint: delete one of them
 )"},
         {R"($INPUT, parent
     Start: (3, Unit, ";", Unit = Name)",

@@ -111,11 +111,11 @@ lang/German.nls:40:1: warning text-twice: the text stands in line 39 already, an
          R"(lang/English.nls:27:1: note text-unused: no dialog of the folder uses the text "Square"
     Square=Square
     ^~~~~~
-    hint: take it away
+    hint: delete it
 lang/German.nls:27:1: note text-unused: no dialog of the folder uses the text "Square"
     Square=Square
     ^~~~~~
-    hint: take it away
+    hint: delete it
 )"},
     };
     for (const JudgedLines& c : cases)

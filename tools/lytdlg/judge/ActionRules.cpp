@@ -18,14 +18,14 @@ constexpr Rule unknownAction = {
     "A button knows ten words, letter by letter: VISIBLE, ACTIVE, ADD, DELETE, UP, DOWN, ACTION,\n"
     "REJECT, FILL and DIALOG. With any other word only the rules run.",
     "$VALUES\n-Add: ADD = AllRooms, Rooms\nAdd: Append = AllRooms, Rooms",
-    "$VALUES"};
+    "$VALUES\n-Add: ADD = AllRooms, Rooms\nAdd: ADD = AllRooms, Rooms"};
 
 constexpr Rule target = {"action-target",
                          Level::Warning,
                          "A button acts on a control that is not there.",
-                         "A target that no control has the name of is passed over without a message.",
+                         "A target that is not the name of a control is passed over without a message.",
                          "$VALUES\n-Add: ADD = AllRooms, Rooms\nAdd: ADD = AllRooms, Rooom",
-                         "$VALUES"};
+                         "$VALUES\n-Add: ADD = AllRooms, Rooms\nAdd: ADD = AllRooms, Rooms"};
 
 constexpr Rule targetKind = {
     "action-kind",
@@ -58,7 +58,7 @@ constexpr Rule words = {
     "DIALOG needs the file, the input part and the output group; ACTION the library, the function, the\n"
     "output group and the input part; ADD the list to take from and the one to give to.",
     "$VALUES\n-Add: ADD = AllRooms, Rooms\nAdd: ADD = AllRooms",
-    "$VALUES"};
+    "$VALUES\n-Add: ADD = AllRooms, Rooms\nAdd: ADD = AllRooms, Rooms"};
 
 constexpr Rule group = {
     "action-group",

@@ -13,7 +13,7 @@ namespace
 
 constexpr Rule unknown = {"condition-unknown",
                           Level::Warning,
-                          "A condition asks a control that is not there.",
+                          "A condition names a control that is not there.",
                           "A rule VISIBLE or ACTIVE passes the condition over; CLEAR and FILL look no further.",
                           "$DEPENDANCES\nUnit/ACTIVE = Nmae(NOTNULL)",
                           "$DEPENDANCES\nUnit/ACTIVE = Name(NOTNULL)"};
@@ -32,7 +32,7 @@ constexpr Rule noValue = {
     Level::Warning,
     "A condition asks a control that has no value of its own.",
     "Texts, frames and buttons have no value: asking shows message 201. An option answers with its own\n"
-    "value, checked or not: ask its group. None of them ever changes for CLEAR and FILL, but an option.",
+    "value, checked or not: ask its group. For CLEAR and FILL none of them ever changes, except an option.",
     "$DEPENDANCES\nUnit/ACTIVE = Short(s)",
     "$DEPENDANCES\nUnit/ACTIVE = Order(s)"};
 

@@ -14,7 +14,7 @@ namespace
 
 constexpr Rule itemTwice = {"item-twice",
                             Level::Warning,
-                            "Two items of a list have one value.",
+                            "Two items of a list have the same value.",
                             "A value leads to the first item that has it. The other can be chosen by the user only.",
                             "$VALUES\nPlace: Attic = hall place",
                             "$VALUES\nPlace: Attic = attic place"};
@@ -63,10 +63,10 @@ constexpr Rule checkDefault = {"check-default",
 constexpr Rule checkTexts = {
     "check-texts",
     Level::Warning,
-    "A check box lacks its ON or its OFF text, or both are one.",
+    "A check box lacks its ON or its OFF text, or the two are the same.",
     "The value of a check box is its ON or its OFF text. One that is missing is an empty text.",
     "$VALUES\n-Pictures: ON = P",
-    "$VALUES"};
+    "$VALUES\n-Pictures: ON = P\nPictures: ON = P"};
 
 void JudgeItems(const Case& judged)
 {

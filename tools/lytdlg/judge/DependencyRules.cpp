@@ -17,7 +17,7 @@ constexpr Rule unknownControl = {
     Level::Warning,
     "A rule acts on a control that is not there.",
     "The rule is dropped, but its conditions go to the next rule that is kept, which then asks for too\n"
-    "much. Mind the spelling.",
+    "much. Check the spelling.",
     "$DEPENDANCES\nUnti/ACTIVE = Name(NOTNULL)\nUnit/ACTIVE = Name(NOTNULL)",
     "$DEPENDANCES\nUnit/ACTIVE = Name(NOTNULL)"};
 
@@ -46,7 +46,7 @@ constexpr Rule eventValues = {"event-values",
 
 constexpr Rule eventKind = {"event-kind",
                             Level::Warning,
-                            "A rule CLEAR or FILL acts on a control that knows neither.",
+                            "A rule CLEAR or FILL acts on a control that supports neither.",
                             "Fields and lists can be emptied and filled. Any other control shows message 247 instead.",
                             "$DEPENDANCES\nPictures/CLEAR = Name",
                             "$DEPENDANCES\nUnit/CLEAR = Name"};
@@ -71,7 +71,7 @@ constexpr Rule defaultButton = {
 
 constexpr Rule twice = {"rule-twice",
                         Level::Warning,
-                        "Two rules set one state of one control.",
+                        "Two rules set the same state of the same control.",
                         "Rules run in the order of the file, so the later of the two decides. Write one rule with all\n"
                         "conditions.",
                         "$DEPENDANCES\nUnit/ACTIVE = Name(NOTNULL)\nUnit/ACTIVE = Pictures(P)",
@@ -88,8 +88,8 @@ constexpr Rule onItself = {
     "rule-on-itself",
     Level::Warning,
     "A rule depends on the control that it acts on.",
-    "A disabled control fails its condition, so a control that disables itself stays so; one that\n"
-    "empties itself empties each input.",
+    "A disabled control fails its condition, so a control that disables itself stays disabled; one\n"
+    "that empties itself erases whatever is typed.",
     "$DEPENDANCES\nUnit/ACTIVE = Unit(m)",
     "$DEPENDANCES\nUnit/ACTIVE = Name(m)"};
 
@@ -166,7 +166,7 @@ void JudgeWord(const Judged& each)
                  InQuotes(each.Name()) + " is " + NameOf(each.kind) + " and cannot be pressed", "name a push button");
     if (each.rule.stateWord.GetMeaning() == ClytState::Visible && HasOption(each.Of(), each.Name(), "HIDDEN"))
         each.Add(hidden, each.PlaceOfName(), InQuotes(each.Name()) + " is HIDDEN, and this rule shows it",
-                 "make it INVISIBLE in $VALUES, or take the rule away");
+                 "make it INVISIBLE in $VALUES, or delete the rule");
 }
 
 void JudgeEvent(const Judged& each)
@@ -196,7 +196,7 @@ void JudgeNever(const Judged& each)
     if (conditions.empty() && !IsStateRule(each.rule))
     {
         each.Add(never, each.PlaceOfWord(), "no control is named; the rule never acts",
-                 "name the controls after the sign");
+                 "name the controls after the equals sign");
         return;
     }
     if (!IsStateRule(each.rule))
@@ -222,7 +222,7 @@ void JudgeSelf(const Judged& each)
         const bool isHarmful = meaning == ClytState::Active || each.rule.IsEventRule();
         if (isHarmful && condition->GetName() == each.rule.controlName)
             each.Add(onItself, condition->GetSpan(), "the rule depends on the control that it acts on",
-                     "take the condition away, or name another control");
+                     "delete the condition, or name another control");
     }
 }
 

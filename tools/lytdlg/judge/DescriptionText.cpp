@@ -154,8 +154,8 @@ const DelimiterSet& DelimitersOf(Section section)
     }
 }
 
-DescriptionText::DescriptionText(std::string bytes, const std::vector<std::string>& defines)
-    : m_bytes(std::move(bytes)), m_defines(defines)
+DescriptionText::DescriptionText(std::string bytes, std::vector<std::string> defines)
+    : m_bytes(std::move(bytes)), m_defines(std::move(defines))
 {
     m_hasByteOrderMark = m_bytes.starts_with(byteOrderMark);
     const size_t start = m_hasByteOrderMark ? std::strlen(byteOrderMark) : 0;

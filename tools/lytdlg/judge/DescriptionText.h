@@ -60,7 +60,7 @@ class DescriptionText
 {
 public:
     // The bytes of a file, and the defines that switch its lines.
-    DescriptionText(std::string bytes, const std::vector<std::string>& defines);
+    DescriptionText(std::string bytes, std::vector<std::string> defines);
 
     const std::string& Bytes() const { return m_bytes; }
     const std::vector<std::string>& Defines() const { return m_defines; }

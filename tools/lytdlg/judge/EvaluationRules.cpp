@@ -23,7 +23,7 @@ constexpr Rule second = {
     "evaluation-second",
     Level::Warning,
     "The second control of a check is not there.",
-    "The check then refuses whenever the first control has one of its values, and does not say where.",
+    "The check then refuses whenever the first control has one of its values, whatever else the dialog holds.",
     "$EVALUATION, x\n    Unit(\"\") = Nmae(area): NameMissing",
     "$EVALUATION, x\n    Unit(\"\") = Name(area): NameMissing"};
 
@@ -40,7 +40,7 @@ constexpr Rule nameless = {
     Level::Warning,
     "A check of one value is made together with a control that has no name.",
     "A check that forbids one value names no second control, and the library takes the last control\n"
-    "without a name for it. Give each control of the layout a name, or forbid NULL, which asks no one else.",
+    "without a name for it. Give each control of the layout a name, or forbid NULL, which looks at no other control.",
     "$LAYOUT Example\n    TextBox 520, 12, 100, 19\n$EVALUATION, x\n    Unit = x: NameMissing",
     "$LAYOUT Example\n    TextBox 520, 12, 100, 19, .More\n$EVALUATION, x\n    Unit = x: NameMissing"};
 
@@ -55,7 +55,7 @@ constexpr Rule nullFirst = {"evaluation-null",
 constexpr Rule twice = {"evaluation-twice",
                         Level::Warning,
                         "A control has two checks, and the first does not count.",
-                        "A control has one check, the last that is written.",
+                        "Only the last check of a control counts.",
                         "$EVALUATION, x\n    Unit = NULL: NameMissing\n    Unit = x: NameMissing",
                         "$EVALUATION, x\n    Unit = x: NameMissing"};
 
@@ -63,8 +63,8 @@ constexpr Rule neverMade = {
     "evaluation-never",
     Level::Warning,
     "A check is never made, since no output rule takes the control.",
-    "OK checks the items of the output rule that applies, and no others. An item more than the format\n"
-    "takes does no harm: add the control as one.",
+    "OK checks the items of the output rule that applies, and no others. An item beyond those that the\n"
+    "format takes does no harm: add the control as such an item.",
     "$LAYOUT Example\n    TextBox 520, 12, 100, 19, .More\n$EVALUATION, x\n    More = NULL: NameMissing",
     "$EVALUATION, x\n    Unit = NULL: NameMissing"};
 
@@ -142,7 +142,7 @@ void JudgeTwice(const Case& judged)
             judged.findings.Add(twice, statement->own.GetSpan(),
                                 "the check in line " + std::to_string(later->own.GetSpan().line) +
                                     " takes the place of this one",
-                                "put both into one check, or take one away");
+                                "put both into one check, or delete one");
     }
 }
 

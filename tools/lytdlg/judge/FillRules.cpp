@@ -21,7 +21,7 @@ constexpr Rule fillUnknown = {"scan-fill",
 
 constexpr Rule condition = {"scan-condition",
                             Level::Warning,
-                            "A condition asks a control that is not there.",
+                            "A condition names a control that is not there.",
                             "Such a condition never holds, and the run goes on at the second of the two statements.",
                             "$INPUT, parent\n    Unit: Nmae(x) = Tail, Tail\n    Tail: (999, End = Unit",
                             "$INPUT, parent\n    Unit: Name(x) = Tail, Tail\n    Tail: (999, End = Unit"};
@@ -64,7 +64,7 @@ constexpr Rule actionIdle = {
 constexpr Rule noSource = {
     "scan-fill-source",
     Level::Warning,
-    "A control is filled by its library, and names none.",
+    "A control is filled by its library, but names none.",
     "FILL calls the library of the control's FILLEDBY statement.",
     "$INPUT, parent\n    Unit: (999, End = Parts(FILL)",
     "$VALUES\n    Parts = FILLEDBY, lytdata, OpenMarked, NextItem\n$INPUT, parent\n    Unit: (999, End = Parts(FILL)"};
@@ -79,7 +79,7 @@ constexpr Rule concatSeparators = {
 
 constexpr Rule fixedValue = {"scan-value",
                              Level::Warning,
-                             "A fixed text is no value of its control.",
+                             "A fixed text is not a value of its control.",
                              "A list, a check box or an option group takes only the values that it has.",
                              "$INPUT, parent\n    Unit: (999, End = Unit, Order = x",
                              "$INPUT, parent\n    Unit: (999, End = Unit, Order = l"};
@@ -88,7 +88,7 @@ constexpr Rule listChoice = {
     "scan-list",
     Level::Warning,
     "An input cannot choose one of the last two items of a list.",
-    "The search for the item of a ListBox or CheckListBox ends two items before the last. Take a DropListBox,\n"
+    "The search for the item of a ListBox or CheckListBox ends two items before the last. Use a DropListBox,\n"
     "which has no such limit, or add the piece with ADD or CONCAT.",
     "$LAYOUT Example\n    ListBox 520, 12, 100, 79, .Sides\n$VALUES\n    Sides: Hall = h\n    Sides: Bath = b\n    "
     "Sides: Attic = a\n"

@@ -35,8 +35,8 @@ Finding& Findings::Add(const Rule& rule, const ClytSpan& place, std::string mess
 void Findings::Sort()
 {
     std::ranges::sort(m_findings, {}, KeyOf);
-    const auto twice = std::ranges::unique(m_findings, {}, KeyOf);
-    m_findings.erase(twice.begin(), twice.end());
+    const auto isTwice = [](const Finding& left, const Finding& right) { return KeyOf(left) == KeyOf(right); };
+    m_findings.erase(std::unique(m_findings.begin(), m_findings.end(), isTwice), m_findings.end());
 }
 
 } // namespace lytdlg

@@ -88,7 +88,7 @@ constexpr Rule empty = {"format-empty",
                         Level::Warning,
                         "A rule has an empty format.",
                         "Such a rule is not kept; its conditions and items join those of the next rule. For an empty "
-                        "result take \"%s\" and\nan empty item.",
+                        "result use \"%s\" and\nan empty item.",
                         "$OUTPUT, parent\n    (\"\")",
                         "$OUTPUT, parent\n    Form(\"\") = (\"%s\", \"\")"};
 
@@ -171,7 +171,7 @@ void JudgeCount(const Case& judged, const OutputGroup& group, const ClytDialogOu
     if (taken > given)
         judged.findings.Add(tooFew, place,
                             "the format takes " + Counted(taken, "item") + ", the rule has " + std::to_string(given),
-                            "add the missing items, or take conversions away");
+                            "add the missing items, or delete conversions");
     for (size_t index = taken; index < given; ++index)
     {
         const ClytOutputItem& item = rule.items[index];
@@ -179,7 +179,7 @@ void JudgeCount(const Case& judged, const OutputGroup& group, const ClytDialogOu
             judged.findings.Add(surplus, item.span,
                                 "the format does not take " + InQuotes(item.text.GetString()) +
                                     ", and no check asks for it",
-                                "take it away, or add a %s for it");
+                                "delete it, or add a %s for it");
     }
 }
 

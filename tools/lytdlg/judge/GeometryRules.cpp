@@ -18,7 +18,7 @@ constexpr int listFrame = 4;
 constexpr Rule overlap = {
     "geometry-overlap",
     Level::Warning,
-    "Two controls cover one another.",
+    "Two controls overlap.",
     "A Text, a CheckBox and an OptionButton are as large as their text, in each language and at "
     "96 and at 120 dots per\ninch. A frame holds other controls, and they should not stand on its "
     "border.",
@@ -160,7 +160,7 @@ void JudgeOverlap(const Case& judged, const std::vector<Screen>& screens)
         const auto& [before, control] = sighting.controls;
         judged.findings.Add(overlap, control->span,
                             NameOf(*control) + " and " + NameOf(*before) + " in line " +
-                                std::to_string(before->span.line) + " cover one another" + Where(sighting, screens),
+                                std::to_string(before->span.line) + " overlap" + Where(sighting, screens),
                             "move one of them, or make it smaller");
     }
 }

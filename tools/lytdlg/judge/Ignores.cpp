@@ -89,7 +89,7 @@ void ApplyIgnores(const Description& description, Findings& findings)
             findings.Add(unreasoned, remark.place, "the remark gives no reason",
                          "write why after \"" + remark.rule + "\"");
         else if (findings.Remove([&](const Finding& finding) { return Silences(remark, finding); }) == 0)
-            findings.Add(unused, remark.place, "\"" + remark.rule + "\" finds nothing here", "take the remark away");
+            findings.Add(unused, remark.place, "\"" + remark.rule + "\" finds nothing here", "delete the remark");
     }
 }
 

@@ -27,7 +27,7 @@ constexpr Rule unknownType = {
 
 constexpr Rule nameTwice = {"name-twice",
                             Level::Warning,
-                            "Two controls have one name.",
+                            "Two controls have the same name.",
                             "Rules and statements reach only the last control of a name.",
                             "$LAYOUT\nTextBox 500, 12, 100, 19, .Name",
                             "$LAYOUT\nTextBox 500, 12, 100, 19, .Extra"};
@@ -36,8 +36,8 @@ constexpr Rule noPoint = {
     "name-without-point",
     Level::Warning,
     "A name has no point before it.",
-    "A name comes after a point. In the last place the first letter goes as if it were the point, and\n"
-    "in the place of the text the name is taken for a key of the texts.",
+    "A name comes after a point. In the last place the first letter is dropped as if it were the\n"
+    "point, and in the place of the text the name is taken for a key of the texts.",
     "$LAYOUT\nTextBox 500, 12, 100, 19, \"\", Extra",
     "$LAYOUT\nTextBox 500, 12, 100, 19, \"\", .Extra"};
 
@@ -68,7 +68,8 @@ constexpr Rule noSize = {
     Level::Warning,
     "A control has no width or no height.",
     "Texts, check boxes and options are as large as their text. Any other control takes the size that\n"
-    "its statement gives; without one it cannot be seen. One that nobody shall see is HIDDEN.",
+    "its statement gives; without one it cannot be seen. A control that nobody is to see\n"
+    "should be HIDDEN.",
     "$LAYOUT\nTextBox 500, 12, 100, 0, .Extra",
     "$LAYOUT\nTextBox 500, 12, 100, 19, .Extra"};
 
@@ -76,11 +77,11 @@ constexpr Rule noGroup = {
     "option-without-group",
     Level::Warning,
     "An option stands before any option group.",
-    "An OptionGroup stands for the options that follow it. Without one an option answers for itself\n"
+    "An OptionGroup stands for the options that follow it. Without one an option stands for itself\n"
     "alone: its value is its own, checked or not.",
     "$LAYOUT\n-OptionGroup .Order\nOptionGroup .Order\n"
     "OptionButton 500, 12, 80, 12, \"Remove\", .Extra\n$VALUES\n-Order = s\nExtra = e",
-    "$LAYOUT"};
+    "$LAYOUT\nOptionGroup .Kind\nOptionButton 500, 12, 80, 12, \"Remove\", .Extra"};
 
 constexpr Rule emptyGroup = {
     "group-without-options",
@@ -97,13 +98,14 @@ constexpr Rule noButton = {
     "Without an OK button only Return confirms, and without a Cancel button only Escape and the frame\n"
     "cancel.",
     "-CancelButton 352, 384, 112, 22, .Cancel",
-    "$LAYOUT"};
+    "$LAYOUT\n-OKButton  228, 384, 112,  22, .Ok\n-CancelButton 352, 384, 112, 22, .Cancel\n"
+    "OKButton 228, 384, 112, 22, .Ok\nCancelButton 352, 384, 112, 22, .Cancel"};
 
 constexpr Rule buttonTwice = {
     "button-twice",
     Level::Warning,
     "The dialog has two OK buttons or two Cancel buttons.",
-    "Each of the two stands once in a dialog.",
+    "A dialog has at most one of each.",
     "$LAYOUT\nOKButton 500, 12, 112, 22, .Extra",
     "$LAYOUT\nPushButton 500, 12, 112, 22, \"Remove\", .Extra\n$VALUES\nExtra: DELETE = Rooms"};
 
@@ -142,7 +144,7 @@ void JudgeNamePoint(const Statement& statement)
     const size_t last = isShort ? 1 : words.size() > 5 && words[5].text.starts_with('.') ? 5 : 6;
     if (words.size() > last + 1)
         statement.judged.findings.Add(surplus, PlaceOf(statement.control, words[last + 1]),
-                                      "nothing is read after the name", "take the words away");
+                                      "nothing is read after the name", "delete the words");
     const bool isNameAsText = words.size() == 6 && !statement.control.text.IsEmpty() && !ShowsText(statement.kind) &&
                               statement.kind != Kind::Unknown && !IsInQuotes(statement, words[5]);
     const LineToken* name = isNameAsText                                                       ? &words[5]
@@ -275,7 +277,7 @@ void JudgeButton(const Case& judged, Kind kind, const char* typeWord)
             judged.findings.Add(buttonTwice, judged.description.PlaceOf(control.span.line),
                                 std::string("the dialog has ") + NameOf(kind) + " already, in line " +
                                     std::to_string(first->span.line),
-                                "take one of them away");
+                                "delete one of them");
         else
             first = &control;
     }

@@ -15,13 +15,14 @@ namespace lytdlg
 namespace
 {
 
-constexpr Rule refused = {"refused",
-                          Level::Error,
-                          "The library refuses the description for a reason that no other rule names.",
-                          "The dialog was constructed as the library does it, and it failed. The message is what the\n"
-                          "library shows. Mend the findings above it first: it may be what they lead to.",
-                          "",
-                          ""};
+constexpr Rule refused = {
+    "refused",
+    Level::Error,
+    "The library refuses the description for a reason that no other rule names.",
+    "The dialog was constructed as the library does it, and that failed. The message is what the\n"
+    "library shows. Mend the findings above first: they may be its cause.",
+    "",
+    ""};
 
 // Presses OK in every message box that comes up, for as long as it lives.
 class BoxAnswerer

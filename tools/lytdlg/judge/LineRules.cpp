@@ -33,7 +33,7 @@ constexpr Rule markBeforeVersion = {
     "byte-order-mark",
     Level::Error,
     "A byte order mark stands before $VERSION.",
-    "The file was saved as UTF-8 with a mark at its begin, which the library takes for letters of the\n"
+    "The file was saved as UTF-8 with a mark at its beginning, which the library takes for letters of the\n"
     "first word. Save it in code page 1252, which editors call ANSI or Windows-1252.",
     "\xEF\xBB\xBF{ABOVE}",
     "; an example"};
@@ -175,7 +175,7 @@ void JudgeBytes(const Case& judged, const SourceLine& line)
         {
             AddAt(judged, bytes, line.number, place, 1,
                   "the byte " + HexOf(line.text[place]) + " stands for no character",
-                  line.text[place] == '\0' ? "take it away: it ends the line" : "take it away");
+                  line.text[place] == '\0' ? "delete it: it ends the line" : "delete it");
             return;
         }
         place += size != 0 ? size - 1 : 0;
@@ -197,7 +197,7 @@ void JudgeFile(const Case& judged)
               "save it in code page 1252, which editors call ANSI or Windows-1252");
     if (text.HasTextAfterEndMark())
         judged.findings.Add(endMark, judged.description.PlaceOf(static_cast<int>(text.Lines().size())),
-                            "a Ctrl-Z ends the file here, and text follows it", "take the byte 1A away");
+                            "a Ctrl-Z ends the file here, and text follows it", "delete the byte 1A");
 }
 
 void JudgeAfterEnd(const Case& judged)

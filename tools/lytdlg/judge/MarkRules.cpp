@@ -121,7 +121,7 @@ private:
     {
         if (m_open == nullptr && line.section != Section::Head)
             m_judged.findings.Add(unopened, m_judged.description.PlaceOf(line.number), "this mark ends nothing",
-                                  "take it away");
+                                  "delete it");
         m_open = nullptr;
     }
 

@@ -33,8 +33,8 @@ constexpr Rule firstGroup = {"output-first",
 constexpr Rule groupTwice = {
     "output-twice",
     Level::Warning,
-    "Two groups have one name, and the first is never used.",
-    "Of groups with one name the last counts.",
+    "Two groups have the same name, and the first is never used.",
+    "Of groups with the same name the last counts.",
     "$VALUES\n    Parts = FILLEDBY, lytdata, Open, Next, Out\n$OUTPUT, Out\n    (\"%s\", Name)\n$OUTPUT,  Out\n    "
     "(\"%s\", Unit)",
     "$VALUES\n    Parts = FILLEDBY, lytdata, Open, Next, Out\n$OUTPUT, Out\n    (\"%s\", Name)"};
@@ -90,7 +90,7 @@ constexpr Rule never = {
 
 constexpr Rule condition = {"output-condition",
                             Level::Error,
-                            "A condition asks a control that is not there.",
+                            "A condition names a control that is not there.",
                             "The message comes with OK, or when the group is used, and not when the dialog opens.",
                             "$OUTPUT, parent\n    Unti(\"\") = (\"%s\", Name)",
                             "$OUTPUT, parent\n    Unit(\"\") = (\"%s\", Name)"};
@@ -116,11 +116,11 @@ constexpr Rule item = {"output-item",
                        "An item is almost the name of a control.",
                        "A word that is no control goes into the text as it is. Put it in quotes where that is meant.",
                        "$OUTPUT, parent\n    Form(\"\") = (\"%s%s\", Nmae, Unit)",
-                       "$OUTPUT, parent\n    Form(\"\") = (\"%s%s\", \"Nmae\", Unit)"};
+                       "$OUTPUT, parent\n    Form(\"\") = (\"%s%s\", Name, Unit)"};
 
 constexpr Rule noList = {"output-list",
                          Level::Warning,
-                         "All items are asked of a control that has none.",
+                         "All items are asked for, of a control that has none.",
                          "Brackets after an item ask for all items of a list; of any other control that is nothing.",
                          "$OUTPUT, parent\n    Form(\"\") = (\"%s%s\", Name, Unit(\"|\"))",
                          "$OUTPUT, parent\n    Form(\"\") = (\"%s%s\", Name, Rooms(\"|\"))"};
@@ -130,7 +130,7 @@ constexpr Rule comboItems = {
     Level::Warning,
     "All items are asked of a combo box that a library or a button fills.",
     "Each item is looked up in the language file once more, and one that is no key goes out as \"no value\n"
-    "present\". Take a ListBox or CheckListBox.",
+    "present\". Use a ListBox or CheckListBox.",
     "$VALUES\n    Form = FILLEDBY, lytdata, Open, Next\n$OUTPUT, parent\n    Name(\"\") = (\"%s%s\", Name, "
     "Form(\"|\"))",
     "$OUTPUT, parent\n    Name(\"\") = (\"%s%s\", Name, Form(\"|\"))"};
@@ -158,7 +158,7 @@ std::set<std::string> UsedGroups(const Description& description)
     for (const ValueStatement& statement : description.values)
     {
         const std::vector<std::string>& values = statement.values;
-        const ClytAction meaning = lytMeaningOf<ClytAction>(statement.keyword.c_str());
+        const auto meaning = lytMeaningOf<ClytAction>(statement.keyword.c_str());
         if (lytMeaningOf<ClytKeyword>(statement.keyword.c_str()) == ClytKeyword::FilledBy && values.size() > 3)
             used.insert(values[3]);
         else if (meaning == ClytAction::Action && values.size() > 2)
@@ -197,7 +197,7 @@ void JudgeGroups(const Case& judged)
                                 "give each group a name of its own");
         else if (!used.contains(group->name))
             judged.findings.Add(groupUnused, place, "nothing uses the group " + InQuotes(group->name),
-                                "name it in a FILLEDBY, DIALOG or ACTION, or take it away");
+                                "name it in a FILLEDBY, DIALOG or ACTION, or delete it");
         else if (group->rules.IsEmpty() && group->name == lytParentName)
             judged.findings.Add(noResult, place, "there is no rule for the dialog's result, and OK does nothing",
                                 "add a rule, as (\"%s\", Name)");

@@ -26,7 +26,7 @@ constexpr Rule library = {
 
 constexpr Rule form = {"partner-form",
                        Level::Warning,
-                       "A library is none that a 64-bit program can load.",
+                       "A 64-bit program cannot load a library.",
                        "A 64-bit word processor loads 64-bit libraries only.",
                        "",
                        ""};
@@ -36,7 +36,7 @@ constexpr Rule function = {
     Level::Warning,
     "A library has no function of that name.",
     "A list or a field stays empty without a message; an ACTION shows one. Names are compared letter by\n"
-    "letter. Of other libraries than lyt64.dll the functions are known with --partners.",
+    "letter. The functions of libraries other than lyt64.dll are known only with --partners.",
     "$LAYOUT Example\n    PushButton 520, 12, 90, 21, \"Remove\", .More\n"
     "$VALUES\n    More: ACTION = lyt64.dll, lytOpenTreeVeiw, Out, Back\n$INPUT, Back\n    Start: (999, End = Name\n"
     "$OUTPUT, Out\n    (\"%s\", Name)",

@@ -16,7 +16,7 @@ struct PlacedControl
 {
     const ClytControlStatement* control = nullptr; // of the description
     Kind kind = Kind::Unknown;
-    CRect place;
+    CRect place{0, 0, 0, 0};
     int captionWidth = 0; // without the marks of its letters
     bool mayBeHidden = false;
 };

@@ -1,5 +1,7 @@
 #include "lytdlg/judge/RuleTexts.h"
 
+#include "commandline/Text.h"
+
 namespace lytdlg
 {
 
@@ -28,9 +30,10 @@ std::string Indented(const std::string& lines)
     return text + "\n";
 }
 
+// The lines are in the library's code page.
 std::string Example(const char* title, const std::string& lines)
 {
-    return lines.empty() ? "" : std::string("\n") + title + ":\n\n" + Indented(lines);
+    return lines.empty() ? "" : std::string("\n") + title + ":\n\n" + Indented(commandline::ToUtf8(lines));
 }
 
 } // namespace
@@ -65,7 +68,10 @@ std::string RulePage()
         "Every rule that `lytdlg check` judges a description by, with a wrong and a right example. The page is\n"
         "what `lytdlg check --rules --format markdown` prints; a test judges each example.\n\n"
         "An error is what the library refuses, a warning what it passes over or what loses data or looks\n"
-        "wrong, and a note what does neither harm nor good.\n";
+        "wrong, and a note what does neither harm nor good.\n\n"
+        "The lines of an example are put into a small description without findings: a leading `-` takes that\n"
+        "line away from it, `{NUL}` is a NUL byte, `{LONG}` is 400 blanks, and `{ABOVE}` joins its line with the\n"
+        "next one.\n";
     ForEachRule(
         [&](const Rule& rule)
         {

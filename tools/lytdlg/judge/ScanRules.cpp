@@ -22,8 +22,8 @@ constexpr Rule startMissing = {"scan-start",
 
 constexpr Rule partTwice = {"scan-part-twice",
                             Level::Warning,
-                            "Two parts have one name, and the first is never run.",
-                            "Of parts with one name the last counts.",
+                            "Two parts have the same name, and the first is never run.",
+                            "Of parts with the same name the last counts.",
                             "$INPUT,  parent\n    Start: (999, End = Name",
                             "$INPUT, parent\n    Start: (999, End = Name\n-Unit: (999, End = Unit"};
 
@@ -38,8 +38,8 @@ constexpr Rule partUnused = {
 
 constexpr Rule nameTwice = {"scan-twice",
                             Level::Warning,
-                            "Two statements of a part have one name, and the first is never run.",
-                            "Of statements with one name the last counts.",
+                            "Two statements of a part have the same name, and the first is never run.",
+                            "Of statements with the same name the last counts.",
                             "$INPUT, parent\n    Unit : (999, End = Unit",
                             "$INPUT, parent\n    Unit: (999, End = Unit"};
 
@@ -54,7 +54,8 @@ constexpr Rule target = {
     "scan-target",
     Level::Warning,
     "A statement leads to one that is not there.",
-    "The run ends there without a message, and the rest of the text is lost. Only End is meant so.",
+    "The run ends there without a message, and the rest of the text is lost. Only End is meant to do\n"
+    "that.",
     "$INPUT, parent\n    Unit: (\")\", Edn = Unit",
     "$INPUT, parent\n    Unit: (\")\", End = Unit"};
 
@@ -129,7 +130,7 @@ void JudgeParts(const Case& judged)
                                 "give each part a name of its own");
         else if (!used.contains(part->name) && hasParent)
             judged.findings.Add(partUnused, place, "no button runs the part " + InQuotes(part->name),
-                                "name it in a button's DIALOG or ACTION, or take it away");
+                                "name it in a button's DIALOG or ACTION, or delete it");
     }
 }
 
@@ -166,7 +167,7 @@ void JudgeReached(const Case& judged, const InputPart& part)
                                 "give each statement of a part a name of its own");
         else if (!reached.empty() && !reached.contains(statement))
             judged.findings.Add(unreached, NamePlace(*statement), "no statement leads to " + name,
-                                "name it as a target, or take it away");
+                                "name it as a target, or delete it");
     }
 }
 

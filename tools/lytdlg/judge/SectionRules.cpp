@@ -13,7 +13,7 @@ namespace
 
 constexpr Rule misspelt = {"section-misspelt",
                            Level::Error,
-                           "A line was meant as the header of a section and is none.",
+                           "A line looks like the header of a section but is not one.",
                            "Each section opens with its own word, in capitals and with a $ before it. A line that only "
                            "looks like it is read as a\n"
                            "statement of the section above, and so is all that follows. A blank does not end the word, "
@@ -70,7 +70,7 @@ constexpr Rule textSection = {
 constexpr Rule evaluationWord = {"evaluation-without-word",
                                  Level::Error,
                                  "No word follows $EVALUATION.",
-                                 "The word after $EVALUATION must be there, and says nothing: any word will do.",
+                                 "The word after $EVALUATION must be there, but means nothing: any word will do.",
                                  "$EVALUATION ",
                                  "$EVALUATION, x"};
 
@@ -179,10 +179,9 @@ void AddStray(const Case& judged, const SourceLine& line)
     const std::string message = "the header \"" + words.front().text + "\" stands inside the section " +
                                 std::string(WordOf(line.section)) + " and opens nothing";
     if (isValue)
-        judged.findings.Add(headerAsValue, place, message, "take the line away");
+        judged.findings.Add(headerAsValue, place, message, "delete the line");
     else
-        judged.findings.Add(order, place, message, "take the line away, or move the section to its place").number =
-            "212";
+        judged.findings.Add(order, place, message, "delete the line, or move the section to its place").number = "212";
 }
 
 // The first section between two that comes only below a line; null when none does.

@@ -63,7 +63,7 @@ void JudgeSeparators(const Case& judged, const ClytScan& scan)
         const std::string earlier = (*before)->text.GetString();
         if (earlier == text)
             judged.findings.Add(hidden, separators[index]->span,
-                                "the separator " + InQuotes(text) + " stands here twice", "take one of them away");
+                                "the separator " + InQuotes(text) + " stands here twice", "delete one of them");
         else if (earlier.empty())
             judged.findings.Add(hidden, separators[index]->span,
                                 "the empty separator before " + InQuotes(text) + " fits everywhere",

@@ -19,8 +19,8 @@ constexpr Rule quote = {"quote-open",
 
 constexpr Rule head = {"version-form",
                        Level::Error,
-                       "The line $VERSION has not exactly one word after it.",
-                       "The version must be there, and says nothing: write $VERSION 1.",
+                       "$VERSION must be followed by exactly one word.",
+                       "The version must be there, but means nothing: write $VERSION 1.",
                        "$VERSION ",
                        "$VERSION 1"};
 
@@ -29,14 +29,14 @@ constexpr Rule layout = {
     Level::Error,
     "A control's statement has the wrong form.",
     "A control needs its type word and four numbers; text and name may be missing. Only OptionGroup\n"
-    "goes without numbers. The library refuses the description at the first such line.",
+    "has none. The library refuses the description at the first such line.",
     "$LAYOUT\nTextBox 500, 12, 100, .Extra",
     "$LAYOUT\nTextBox 500, 12, 100, 19, .Extra"};
 
 constexpr Rule values = {"value-form",
                          Level::Error,
                          "A statement of $VALUES has the wrong form.",
-                         "A statement names a control and says something of it. A blank does not separate the two.",
+                         "A statement names a control and says something about it. A blank does not separate the two.",
                          "$VALUES\nUnitLabel INVISIBLE",
                          "$VALUES\nUnitLabel = INVISIBLE"};
 
@@ -44,7 +44,7 @@ constexpr Rule dependencies = {
     "rule-form",
     Level::Error,
     "A rule of $DEPENDANCES has the wrong form.",
-    "A rule names a control, a slash, a state word, and after the sign the conditions, with commas\n"
+    "A rule names a control, a slash, a state word, and after the equals sign the conditions, with commas\n"
     "between them. The values of a condition stand in brackets.",
     "$DEPENDANCES\nUnit/ACTIVE Name(NOTNULL)",
     "$DEPENDANCES\nUnit/ACTIVE = Name(NOTNULL)"};
@@ -72,7 +72,7 @@ constexpr Rule output = {
     Level::Error,
     "A rule of $OUTPUT has the wrong form.",
     "A rule is a format with its items in brackets, and before it, if there are any, the conditions\n"
-    "and the sign.",
+    "and the equals sign.",
     "$OUTPUT, parent\nForm(NULL) (\"%s\", Name)",
     "$OUTPUT, parent\nForm(NULL) = (\"%s\", Name)"};
 

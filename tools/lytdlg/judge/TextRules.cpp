@@ -31,7 +31,7 @@ constexpr Rule section = {"text-section",
 constexpr Rule tooLong = {"text-long",
                           Level::Warning,
                           "A text has more than 74 characters.",
-                          "The library cuts it there. A message may say the rest in the manual.",
+                          "The library cuts it there. Shorten it; the manual can say the rest.",
                           "$VALUES\n    Form: LongText = long form",
                           "$VALUES\n    Form: Hall = long form"};
 
@@ -45,13 +45,13 @@ constexpr Rule apostrophe = {"text-apostrophe",
 constexpr Rule ampersand = {"text-ampersand",
                             Level::Warning,
                             "A title or an item has an ampersand.",
-                            "Titles and list items show an & as it is; only in captions it underlines a letter.",
+                            "Titles and list items show an & as it is; only in captions does it underline a letter.",
                             "$VALUES\n    Form: Remove = other form",
                             "$VALUES\n    Form: Hall = other form"};
 
 constexpr Rule marks = {"text-marks",
                         Level::Warning,
-                        "A text has other marks in one language than in the other.",
+                        "A text has other marks in one language than in another.",
                         "A text should have its letter for the keyboard (&), its line ends (\\n) and its place for the "
                         "argument ('') in every\nlanguage or in none.",
                         "$LAYOUT Example\n    Text 520, 12, 100, 12, \"Marked\", .More",
@@ -267,7 +267,7 @@ void JudgeUnused(const Case& judged)
             { return IsSameName(use.section, name) && IsSameName(use.key, key.name); };
             if (isOfSection && std::ranges::none_of(uses, isUse))
                 AddAt(judged, unused, file, key, "no dialog of the folder uses the text " + InQuotes(key.name),
-                      "take it away");
+                      "delete it");
         }
     }
 }

@@ -17,14 +17,14 @@ constexpr Rule unknownControl = {
     Level::Warning,
     "A statement of $VALUES names no control, and is passed over.",
     "The name is that of a control of the layout, letter by letter and without its point. A blank\n"
-    "does not separate: after the name comes a sign or a colon.",
+    "does not separate: after the name comes an equals sign or a colon.",
     "$VALUES\nUnti = m",
     "$VALUES\nUnit = m"};
 
 constexpr Rule unused = {
     "value-unused",
     Level::Warning,
-    "A control makes nothing of a statement.",
+    "A control ignores a statement.",
     "OK and Cancel take no statement at all. Texts and frames take HIDDEN, INVISIBLE, DISPLAYONLY and\n"
     "INACTIVE only.",
     "$VALUES\nOk = INACTIVE",
@@ -39,19 +39,20 @@ constexpr Rule colon = {
     "$VALUES\n-Add: ADD = AllRooms, Rooms\nAdd = ADD = AllRooms, Rooms",
     "$VALUES"};
 
-constexpr Rule optionWord = {"option-word",
-                             Level::Warning,
-                             "A value was meant as HIDDEN, INVISIBLE, DISPLAYONLY or INACTIVE, and is spelt otherwise.",
-                             "Words are compared letter by letter. Any other text is what the control begins with.",
-                             "$VALUES\nUnit = Hidden",
-                             "$VALUES\nUnit = HIDDEN"};
+constexpr Rule optionWord = {
+    "option-word",
+    Level::Warning,
+    "A value was meant as HIDDEN, INVISIBLE, DISPLAYONLY or INACTIVE, but is spelt differently.",
+    "Words are compared letter by letter. Any other text is what the control begins with.",
+    "$VALUES\nUnit = Hidden",
+    "$VALUES\nUnit = HIDDEN"};
 
 constexpr Rule keyword = {
     "keyword-unknown",
     Level::Warning,
     "A word means nothing to its control.",
     "A field knows FILLEDBY, a check box ON and OFF, a list FILLEDBY and DBLCLICK. An option and an\n"
-    "option group know none. Of a list, any other word is the key of an item's text.",
+    "option group know none. For a list, any other word is the key of an item's text.",
     "$VALUES\n-Order = s\nOrder: x = s",
     "$VALUES\nOrder = s\n-Order = s"};
 
@@ -67,7 +68,7 @@ constexpr Rule noText = {
 constexpr Rule twice = {"value-twice",
                         Level::Warning,
                         "A statement is undone by a later one.",
-                        "Of statements that say the same of a control, the last one counts.",
+                        "When several statements say the same thing about a control, the last one counts.",
                         "$VALUES\nUnit = m\nUnit = km",
                         "$VALUES\nUnit = km"};
 
@@ -106,7 +107,7 @@ void JudgeWords(const PlacedValue& statement)
     {
         statement.judged.findings.Add(
             unused, statement.PlaceOfName(), std::string(NameOf(statement.kind)) + " makes nothing of this statement",
-            IsDefault(statement.kind) ? "it takes no statements; take it away"
+            IsDefault(statement.kind) ? "it takes no statements; delete it"
                                       : "it takes HIDDEN, INVISIBLE, DISPLAYONLY and INACTIVE");
         return;
     }
@@ -131,8 +132,7 @@ void JudgeWords(const PlacedValue& statement)
                                             : HasItems(statement.kind)       ? listWords
                                             : statement.kind == Kind::Field  ? fieldWords
                                                                              : noWords;
-    const std::string hint =
-        isKnownElsewhere ? "take the word away" : MeantOr(value.keyword, known, "take the word away");
+    const std::string hint = isKnownElsewhere ? "delete the word" : MeantOr(value.keyword, known, "delete the word");
     statement.judged.findings.Add(keyword, statement.PlaceOfKeyword(),
                                   InQuotes(value.keyword) + " means nothing to " + NameOf(statement.kind), hint);
 }
@@ -157,7 +157,7 @@ void JudgeTwice(const Case& judged)
         if (before != nullptr)
             judged.findings.Add(twice, judged.description.PlaceOf(before->span.line),
                                 "line " + std::to_string(value.span.line) + " undoes this statement",
-                                "take one of the two away");
+                                "delete one of the two");
         before = &value;
     }
 }
