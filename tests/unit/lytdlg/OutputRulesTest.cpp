@@ -90,6 +90,13 @@ TEST(OutputRules, TellOfRulesThatAreNeverUsedOrMissing)
     hint: of the values in one pair of brackets one is enough
 )"},
         {R"($OUTPUT, parent
+    Form("") = ("%.s", Name))",
+         R"(example.dlg:53:18: warning format-conversion: "%.s" takes an item and leaves nothing of it
+        Form("") = ("%.s", Name)
+                     ^~~
+    hint: write %s, or %.5s for the first five characters
+)"},
+        {R"($OUTPUT, parent
     Name(Null) = ("%s", Unit))",
          R"(example.dlg:53:10: warning output-condition-value: "Null" is taken for a value
         Name(Null) = ("%s", Unit)

@@ -10,7 +10,8 @@ namespace
 
 bool TakesItem(FormatPieceKind kind)
 {
-    return kind == FormatPieceKind::Item || kind == FormatPieceKind::LoneS || kind == FormatPieceKind::LimitAndText;
+    return kind == FormatPieceKind::Item || kind == FormatPieceKind::LoneS || kind == FormatPieceKind::NoLimit ||
+           kind == FormatPieceKind::LimitAndText;
 }
 
 // What stands between a `%` and the `s`: nothing, or a limit.
@@ -22,7 +23,10 @@ FormatPieceKind KindOf(const std::string& conversion)
     if (conversion[point] != '.')
         return FormatPieceKind::NoConversion;
     const bool isLimit = conversion.find_first_not_of("0123456789", point + 1) == std::string::npos;
-    return isLimit ? FormatPieceKind::Item : FormatPieceKind::LimitAndText;
+    if (!isLimit)
+        return FormatPieceKind::LimitAndText;
+    const bool isNothing = conversion.find_first_not_of('0', point + 1) == std::string::npos;
+    return isNothing ? FormatPieceKind::NoLimit : FormatPieceKind::Item;
 }
 
 } // namespace

@@ -14,6 +14,7 @@ enum class FormatPieceKind
     LonePoint,    // a limit without its `s`: the composition fails
     OpenPercent,  // no `s` follows: the composition fails
     NoConversion, // from a `%` to the next `s`: it goes into the text without the `%`
+    NoLimit,      // a limit without a number, or of none: an item is taken, and nothing of it is left
     LimitAndText  // a limit and more up to the next `s`: an item is taken, and the rest is lost
 };
 

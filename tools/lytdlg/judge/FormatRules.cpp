@@ -123,6 +123,10 @@ void AddPiece(const Case& judged, const FormatPiece& piece, const ClytSpan& plac
         findings.Add(noConversion, place, InQuotes(text) + " is no conversion: it goes into the text without the %",
                      "write %s, or %.5s for the first five characters");
         break;
+    case FormatPieceKind::NoLimit:
+        findings.Add(noConversion, place, InQuotes(text) + " takes an item and leaves nothing of it",
+                     "write %s, or %.5s for the first five characters");
+        break;
     case FormatPieceKind::LimitAndText:
         findings.Add(noConversion, place,
                      "after its limit " + InQuotes(text) + " goes on to the next s, and that part is lost",
