@@ -103,7 +103,7 @@ void ReadWindow(HWND window, HWND dialog, SeenControl& control)
     if (control.type == "CheckBox" || control.type == "OptionButton")
         control.isChecked = Ask(window, BM_GETCHECK) == BST_CHECKED;
     else if (control.type.ends_with("Button"))
-        control.isDefault = (GetWindowLongA(window, GWL_STYLE) & BS_TYPEMASK) == BS_DEFPUSHBUTTON;
+        control.isDefault = (GetWindowLongA(window, GWL_STYLE) & LONG{BS_TYPEMASK}) == BS_DEFPUSHBUTTON;
     else if (control.type == "TextBox")
         ReadSelection(window, control);
     else if (control.type == "ListBox" || control.type == "CheckListBox")

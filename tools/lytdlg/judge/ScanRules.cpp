@@ -104,7 +104,7 @@ std::set<std::string> UsedParts(const Description& description)
     std::set<std::string> used = {lytParentName};
     for (const ValueStatement& statement : description.values)
     {
-        const ClytAction meaning = lytMeaningOf<ClytAction>(statement.keyword.c_str());
+        const auto meaning = lytMeaningOf<ClytAction>(statement.keyword.c_str());
         if (meaning == ClytAction::Dialog && statement.values.size() > 1)
             used.insert(statement.values[1]);
         else if (meaning == ClytAction::Action && statement.values.size() > 3)

@@ -66,7 +66,7 @@ private:
 
     void AddAlternate(const ValueStatement& statement, const ClytControlStatement& control, int after)
     {
-        const ClytAction meaning = lytMeaningOf<ClytAction>(statement.keyword.c_str());
+        const auto meaning = lytMeaningOf<ClytAction>(statement.keyword.c_str());
         if ((meaning == ClytAction::Visible || meaning == ClytAction::Active) && statement.values.size() > 1)
             Add(TextRole::Alternate, statement.values[1], statement.span.line,
                 after + static_cast<int>(statement.keyword.size() + statement.values[0].size()), &control);
@@ -75,7 +75,7 @@ private:
     void AddItem(const ValueStatement& statement, const ClytControlStatement& control, int after)
     {
         constexpr size_t firstItem = 4; // its place in a FILLEDBY statement of a combo box
-        const ClytKeyword meaning = lytMeaningOf<ClytKeyword>(statement.keyword.c_str());
+        const auto meaning = lytMeaningOf<ClytKeyword>(statement.keyword.c_str());
         const bool isOpen = IsOpenList(KindOf(control));
         if (meaning == ClytKeyword::FilledBy)
         {
