@@ -170,12 +170,11 @@ void JudgeOutside(const Case& judged, const std::vector<Screen>& screens)
     Sightings seen;
     for (const Screen& screen : screens)
     {
-        const CRect client = {0, 0, static_cast<int>(screen.client.cx), static_cast<int>(screen.client.cy)};
         for (const PlacedControl& control : screen.controls)
         {
             // Numbers that no dialog has are told where they stand.
             const bool isFair = control.control->x >= 0 && control.control->y >= 0;
-            if (isFair && !Holds(client, control.place))
+            if (isFair && (control.place.right > screen.client.cx || control.place.bottom > screen.client.cy))
                 seen.Add(screen, {control.control, nullptr});
         }
     }
