@@ -65,6 +65,16 @@ TEST_F(CheckReport, TellsPlaceLevelRuleMessageAndTheWayOut)
     EXPECT_EQ(m_exit, 1);
 }
 
+// The header of a further group opens no section by itself.
+TEST_F(CheckReport, NamesTheHeaderThatIsMissingAboveAFurtherOne)
+{
+    const std::string told = Check(
+        With("$OUTPUT, parent\n    (\"%s\", Field)\n", "    (\"%s\", Field)\n$OUTPUT, other\n    (\"%s\", Field)\n"));
+    EXPECT_NE(told.find("box.dlg:13:5: error section-missing: the line \"$OUTPUT\" is missing (message 212)\n"),
+              std::string::npos)
+        << told;
+}
+
 TEST_F(CheckReport, OfASoundDescriptionIsOneLine)
 {
     EXPECT_EQ(Check(sound), "1 description judged: 0 errors, 0 warnings, 0 notes\n");

@@ -60,26 +60,26 @@ TEST_F(Group, SplitsTheKeyAndJoinsItAgain)
     static const struct
     {
         int kind;
+        int outcome;
         const char* key;
         const char* value; // what the field gives back
-        int outcome;
         const char* first;
         const char* second;
         const char* scanned; // what the field was given
     } cases[] = {
         // Three bytes of the key go over those of the second text.
-        {1, "KEY01abc(x)", "(y)/123456789", 1, "KEY01abc(y)", "12345abc9", "(x)"},
+        {1, 1, "KEY01abc(x)", "(y)/123456789", "KEY01abc(y)", "12345abc9", "(x)"},
         // An empty tail occurs in any input of kind 0.
-        {0, "xBNGy(a)", "no separator", 2, "", "", "(a)"},
-        {1, "xBNGy(a)", "no separator", 1, "xBNGy", "", "(a)"},
+        {0, 2, "xBNGy(a)", "no separator", "", "", "(a)"},
+        {1, 1, "xBNGy(a)", "no separator", "xBNGy", "", "(a)"},
         // A tail inside the input is no change for kind 0 only.
-        {0, "BNG(a)(b)", "(b)/1", 2, "(b)", "1", "(a)(b)"},
-        {1, "BNG(a)(b)", "(b)/1", 1, "BNG(b)", "1", "(a)(b)"},
+        {0, 2, "BNG(a)(b)", "(b)/1", "(b)", "1", "(a)(b)"},
+        {1, 1, "BNG(a)(b)", "(b)/1", "BNG(b)", "1", "(a)(b)"},
         // Kind 1 splits any key; one without a bracket has no head, and an empty one is not split.
-        {1, "head(a)", "(a)/1", 2, "(a)", "1", "(a)"},
-        {1, "BNG", "(a)/1", 1, "(a)", "1", "BNG"},
-        {1, "", "(a)/1", 1, "(a)", "1", ""},
-        {1, nullptr, "(a)/1", 1, "(a)", "1", ""},
+        {1, 2, "head(a)", "(a)/1", "(a)", "1", "(a)"},
+        {1, 1, "BNG", "(a)/1", "(a)", "1", "BNG"},
+        {1, 1, "", "(a)/1", "(a)", "1", ""},
+        {1, 1, nullptr, "(a)/1", "(a)", "1", ""},
     };
     for (const auto& c : cases)
     {

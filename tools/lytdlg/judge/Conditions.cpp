@@ -31,10 +31,10 @@ std::string HintForValue(const std::string& value, const std::set<std::string>& 
 std::string MeantValueWord(const std::string& value)
 {
     std::string letters;
-    for (const unsigned char ch : value)
+    for (const char ch : value)
     {
         if (ch != ' ')
-            letters += static_cast<char>(std::toupper(ch));
+            letters += static_cast<char>(std::toupper(static_cast<unsigned char>(ch)));
     }
     const bool isWord = letters == lytTextOf(ClytValueWord::Null) || letters == lytTextOf(ClytValueWord::NotNull);
     return isWord && letters != value ? letters : "";

@@ -280,10 +280,26 @@ std::vector<Section> DescriptionText::SectionsWithoutHeader() const
     std::vector<Section> missing;
     for (const Section section : allSections)
     {
-        if (section > Section::Layout && section < Section::End && HeaderOf(section) == nullptr)
+        const bool isDue = section > Section::Layout && section < Section::End;
+        if (isDue && (HeaderOf(section) == nullptr || HasFurtherPartsOnly(section)))
             missing.push_back(section);
     }
     return missing;
+}
+
+// Of the sections with parts, the first part is the one that every dialog has.
+bool DescriptionText::HasFurtherPartsOnly(Section section) const
+{
+    const auto isFirst = [&](const SourceLine& line)
+    { return line.isHeader && line.section == section && line.text.find("parent") != std::string::npos; };
+    return (section == Section::Input || section == Section::Output) && std::ranges::none_of(m_lines, isFirst);
+}
+
+bool DescriptionText::BeginsWithoutHeader(Section section) const
+{
+    const auto first =
+        std::ranges::find_if(m_lines, [&](const SourceLine& line) { return line.isRead && line.section == section; });
+    return first != m_lines.end() && !first->isHeader;
 }
 
 bool DescriptionText::HasBelow(Section section, int line) const

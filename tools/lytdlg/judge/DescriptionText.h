@@ -73,6 +73,8 @@ public:
     bool IsDefined(const std::string& name) const;
     // The line that opens a section first; null when none does.
     const SourceLine* HeaderOf(Section section) const;
+    // Lines of the section stand above its first header.
+    bool BeginsWithoutHeader(Section section) const;
     // The lines of a section that are read, its header and those of its parts among them.
     std::vector<const SourceLine*> LinesOf(Section section) const;
     bool EndsWithLineEnd() const { return m_endsWithLineEnd; }
@@ -90,6 +92,7 @@ private:
     // Goes through the lines; a section of the list begins where its statements seem to, since it has no header.
     void GoThroughSections(const std::vector<Section>& withoutHeader);
     std::vector<Section> SectionsWithoutHeader() const;
+    bool HasFurtherPartsOnly(Section section) const;
     // The section that the line opens; the present one when it opens none.
     Section Opened(SourceLine& line, Section present);
     bool IsStray(Section section, Section present, int line) const;

@@ -112,8 +112,9 @@ void JudgeFalseHeaders(const Case& judged)
 
 bool HasHeader(const DescriptionText& text, Section section)
 {
-    return text.HeaderOf(section) != nullptr || std::ranges::any_of(text.FalseHeaders(), [&](const FalseHeader& header)
-                                                                    { return header.section == section; });
+    const bool isThere = text.HeaderOf(section) != nullptr && (section <= Section::Layout || !text.BeginsWithoutHeader(section));
+    return isThere || std::ranges::any_of(text.FalseHeaders(),
+                                          [&](const FalseHeader& header) { return header.section == section; });
 }
 
 // Where the first section after a missing one begins; the last line that holds anything when none does.
