@@ -112,7 +112,8 @@ void JudgeFalseHeaders(const Case& judged)
 
 bool HasHeader(const DescriptionText& text, Section section)
 {
-    const bool isThere = text.HeaderOf(section) != nullptr && (section <= Section::Layout || !text.BeginsWithoutHeader(section));
+    const bool isThere =
+        text.HeaderOf(section) != nullptr && (section <= Section::Layout || !text.BeginsWithoutHeader(section));
     return isThere || std::ranges::any_of(text.FalseHeaders(),
                                           [&](const FalseHeader& header) { return header.section == section; });
 }
