@@ -1,5 +1,7 @@
 #include "lytdlg/judge/ControlValues.h"
 
+#include "lytdlg/judge/Controls.h"
+#include "lytdlg/judge/Lists.h"
 #include "model/ClytWords.h"
 
 #include <algorithm>
@@ -13,13 +15,6 @@ namespace
 bool Means(ClytKeyword meaning, const std::string& word)
 {
     return word == lytTextOf(meaning);
-}
-
-// A fill of the input that puts an item into the list.
-bool IsItemFill(const ClytControlFill* fill)
-{
-    const ClytFillAction action = fill->action.GetMeaning();
-    return action == ClytFillAction::Add || action == ClytFillAction::Modify || action == ClytFillAction::Concat;
 }
 
 } // namespace
@@ -100,15 +95,8 @@ std::vector<const ValueStatement*> StatementsOf(const Description& description, 
 std::vector<std::string> OptionsOf(const Description& description, const std::string& group)
 {
     std::vector<std::string> options;
-    bool isInGroup = false;
-    for (const ClytControlStatement& control : description.controls)
-    {
-        const Kind kind = KindOf(control.type.GetString());
-        if (kind == Kind::OptionGroup)
-            isInGroup = control.name == group.c_str();
-        else if (isInGroup && kind == Kind::Option)
-            options.emplace_back(control.name.GetString());
-    }
+    for (const ClytControlStatement* option : OptionButtonsOf(description, group))
+        options.emplace_back(option->name.GetString());
     return options;
 }
 
@@ -117,15 +105,12 @@ std::vector<const ClytControlFill*> FillsOf(const Description& description, cons
     std::vector<const ClytControlFill*> found;
     for (const InputPart& input : description.inputs)
     {
-        for (POSITION at = input.part.GetStatements().GetHeadPosition(); at != nullptr;)
+        for (const ClytDialogInput* statement : Records(input.part.GetStatements()))
         {
-            const ClytDialogInput& statement = *input.part.GetStatements().GetNext(at);
-            for (POSITION rule = statement.scanRule.rules.GetHeadPosition(); rule != nullptr;)
+            for (const ClytConditionFill* rule : Records(statement->scanRule.rules))
             {
-                const ClytConditionFill& fills = *statement.scanRule.rules.GetNext(rule);
-                for (POSITION place = fills.fills.GetHeadPosition(); place != nullptr;)
+                for (const ClytControlFill* fill : Records(rule->fills))
                 {
-                    const ClytControlFill* fill = fills.fills.GetNext(place);
                     if (fill->controlName == name.c_str())
                         found.push_back(fill);
                 }
@@ -145,7 +130,8 @@ bool TakesItems(const Description& description, const std::string& name)
                                                            RoleOf(description, statement) == Role::Action;
                                                 });
     return fromButton || !StatementsOf(description, name, Role::Source).empty() ||
-           std::ranges::any_of(FillsOf(description, name), IsItemFill);
+           std::ranges::any_of(FillsOf(description, name),
+                               [](const ClytControlFill* fill) { return AddsItems(*fill); });
 }
 
 std::optional<std::vector<std::string>> PossibleValues(const Description& description, const std::string& name)

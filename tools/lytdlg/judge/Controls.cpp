@@ -1,5 +1,6 @@
 #include "lytdlg/judge/Controls.h"
 
+#include "lytdlg/judge/ControlValues.h"
 #include "lytdlg/judge/Lists.h"
 
 #include <algorithm>
@@ -18,22 +19,6 @@ ClytOption OptionOf(const ValueStatement& statement)
 ClytKeyword KeywordOf(const ValueStatement& statement)
 {
     return lytMeaningOf<ClytKeyword>(statement.keyword.c_str());
-}
-
-bool IsFilledByInput(const InputPart& part, const std::string& name)
-{
-    for (const ClytDialogInput* statement : Records(part.part.GetStatements()))
-    {
-        for (const ClytConditionFill* rule : Records(statement->scanRule.rules))
-        {
-            for (const ClytControlFill* fill : Records(rule->fills))
-            {
-                if (fill->controlName == name.c_str() && AddsItems(*fill))
-                    return true;
-            }
-        }
-    }
-    return false;
 }
 
 // The last value that is no option word.
@@ -189,7 +174,8 @@ bool GetsItems(const Description& description, const std::string& name)
                statement.values.back() == name;
     };
     return SourceOf(description, name) != nullptr || std::ranges::any_of(description.values, isAdded) ||
-           std::ranges::any_of(description.inputs, [&](const InputPart& part) { return IsFilledByInput(part, name); });
+           std::ranges::any_of(FillsOf(description, name),
+                               [](const ClytControlFill* fill) { return AddsItems(*fill); });
 }
 
 std::vector<const ClytControlStatement*> OptionButtonsOf(const Description& description, const std::string& group)
