@@ -4,14 +4,13 @@
 #include "lytdlg/judge/Baseline.h"
 #include "lytdlg/judge/Report.h"
 #include "lytdlg/judge/RuleTexts.h"
+#include "lytdlg/text/BinaryStream.h"
+#include "lytdlg/text/TextFile.h"
 
 #include <algorithm>
 #include <cstdint>
 #include <cstdio>
 #include <filesystem>
-#include <fstream>
-#include <iostream>
-#include <iterator>
 
 namespace lytdlg
 {
@@ -19,17 +18,14 @@ namespace lytdlg
 namespace
 {
 
-std::string ReadAll(std::istream& stream)
+std::string BytesOf(const std::string& path)
 {
-    return {std::istreambuf_iterator<char>(stream), std::istreambuf_iterator<char>()};
-}
-
-std::string ReadFile(const std::string& path)
-{
-    std::ifstream file(path, std::ios::binary);
-    if (!file)
+    if (path == "-")
+        return ReadStandardInput();
+    std::optional<std::string> bytes = ReadWholeFile(path);
+    if (!bytes)
         throw commandline::UsageError("\"" + path + "\" cannot be read; check its name and rights");
-    return ReadAll(file);
+    return std::move(*bytes);
 }
 
 // The descriptions that a path stands for: those of a folder in the order of their names, a file, or standard input.
@@ -83,7 +79,7 @@ public:
 
     void JudgeAt(const std::string& path, const Surroundings& surroundings)
     {
-        const std::string bytes = path == "-" ? ReadAll(std::cin) : ReadFile(path);
+        const std::string bytes = BytesOf(path);
         const Description description(path, bytes, m_request.Texts("--define"));
         Findings findings = Judge(description, surroundings);
         m_found.Add(description, findings);

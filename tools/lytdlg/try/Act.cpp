@@ -68,7 +68,7 @@ std::vector<Act> ActsOfScript(const std::string& file)
 {
     std::vector<Act> acts;
     int number = 0;
-    for (const std::string& text : LinesOf(ReadWholeFile(file)))
+    for (const std::string& text : LinesOf(ReadUtf8File(file)))
     {
         LineReader line({file, ++number}, text);
         if (!line.IsAtEnd())

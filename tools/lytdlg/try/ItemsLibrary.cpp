@@ -115,7 +115,7 @@ LibraryItem ItemOf(const std::string& line)
 ItemsFile::ItemsFile(const std::string& name)
 {
     std::vector<LibraryItem>* section = &m_others;
-    for (const std::string& text : LinesOf(ReadWholeFile(name)))
+    for (const std::string& text : LinesOf(ReadUtf8File(name)))
     {
         const std::string line = AnsiOf(Trimmed(text));
         if (line.empty() || line.front() == '#')

@@ -1,6 +1,7 @@
 #include "lytdlg/try/LineReader.h"
 
 #include "commandline/Text.h"
+#include "lytdlg/text/TextFile.h"
 
 #include <cstdio>
 #include <memory>
@@ -53,15 +54,12 @@ FileError::FileError(const LinePlace& place, size_t column, const std::string& m
 {
 }
 
-std::string ReadWholeFile(const std::string& name)
+std::string ReadUtf8File(const std::string& name)
 {
-    const OpenFile file(std::fopen(name.c_str(), "rb"));
-    if (file == nullptr)
+    const std::optional<std::string> content = ReadWholeFile(name);
+    if (!content)
         throw commandline::UsageError("there is no file \"" + name + "\"; check folder and name");
-    std::string text;
-    char buffer[4096];
-    while (const size_t count = std::fread(buffer, 1, sizeof buffer, file.get()))
-        text.append(buffer, count);
+    std::string text = *content;
     constexpr const char* byteOrderMark = "\xEF\xBB\xBF";
     if (text.starts_with(byteOrderMark))
         text.erase(0, 3);

@@ -123,7 +123,7 @@ ExitCode Roundtrip(const Request& request)
     int number = 0;
     int count = 0;
     int differences = 0;
-    for (const std::string& line : LinesOf(ReadWholeFile(request.Text("--inputs", ""))))
+    for (const std::string& line : LinesOf(ReadUtf8File(request.Text("--inputs", ""))))
     {
         ++number;
         if (line.empty() || line.front() == '#')

@@ -79,7 +79,7 @@ int& PlaceFor(const CaseResult& result, bool isUpdate, Count& count)
 
 void TestFile(const std::string& file, bool isUpdate, Count& count)
 {
-    const std::string content = ReadWholeFile(file);
+    const std::string content = ReadUtf8File(file);
     CaseUpdate all;
     for (const GoldenCase& one : ReadCases(file, LinesOf(content)))
     {

@@ -68,7 +68,7 @@ const Outcome& Trial::Run(std::deque<Step> steps)
         std::rethrow_exception(m_failure);
     if (m_robot.HasGivenUp())
         throw ActError("the dialog does not come to an end; is there a message that comes again and again?");
-    // A dialog that is closed leaves steps behind that nothing can be done for, but that may want to look at the result.
+    // The steps that are left once the dialog is closed cannot act on it, but they may look at the result.
     while (!m_steps.empty())
         TakeStep();
     return m_outcome;
