@@ -22,7 +22,7 @@ std::tm CalendarTime(const SYSTEMTIME& time)
     return calendar;
 }
 
-// The time is made local twice, so that it shows the zone's distance twice. Reports in use are compared with each other
+// The time is converted to local time twice, so it shows the zone's offset twice. Reports in use are compared with each other
 // and have always shown that.
 CString DateOf(const FILETIME& written)
 {

@@ -20,7 +20,7 @@ struct ProgramKindFacts
     std::optional<unsigned> binaryKind; // of the server's program, or else of the host's
 };
 
-// True for the file name, in lower case, of a program that tells its kind.
+// Whether the report states the kind of the host program, going by its file name in lower case.
 bool TellsItsKind(const CString& hostFile);
 
 CString ProgramKindText(const ProgramKindFacts& facts);

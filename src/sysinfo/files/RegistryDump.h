@@ -3,7 +3,7 @@
 
 #include "sysinfo/system/RegistryValue.h"
 
-// The types that a dump words. 0, 5, 6, 7 and 8 it calls unsupported; of those above it knows nothing.
+// The types that a dump words. It calls 0, 5, 6, 7 and 8 unsupported, and shows no data for those above.
 enum RegistryType : unsigned
 {
     registryText = 1,

@@ -12,7 +12,7 @@ namespace
 
 constexpr DWORD bufferSize = 400;
 
-// A value that cannot be had, also one above the buffer, ends the key's values.
+// A value that cannot be read, or does not fit the buffer, ends the key's values.
 void AddValues(const CString& name, const RegistryKey& key)
 {
     RegistryValue value;

@@ -22,7 +22,7 @@ CString Rule(const CString& heading)
     return CString("  ") + CString('-', heading.GetLength());
 }
 
-// The fonts of one name. Like lines in a row are shown once: fonts that differ in nothing that the table shows.
+// The fonts of one name. Equal lines in a row are shown once: fonts that differ in nothing that the table shows.
 void AddEntryLines(const std::vector<lytFontEntry>& entries, CStringList& lines)
 {
     CString last;

@@ -6,7 +6,7 @@ namespace
 constexpr unsigned systemLocale = 2048;
 constexpr unsigned userLocale = 1024;
 
-// Labels stand twice, with different values: readers know them by their place.
+// Some labels appear twice, with different values: readers know them by their place.
 constexpr struct
 {
     unsigned locale;

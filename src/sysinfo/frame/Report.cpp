@@ -15,7 +15,7 @@ namespace
 
 constexpr int readAccess = 4;
 
-// An empty variable reads as one that is not set: the platform answers alike.
+// An empty variable reads as one that is not set: the platform gives the same answer.
 CString EnvironmentValue(const char* name)
 {
     char probe = '\0';
@@ -158,7 +158,7 @@ void AddVersionBlocks()
 int lytGatherReport(const char* directory)
 {
     const CSingleLock lock(&lytReportLock, true);
-    // A drive without a disk, or a printer's driver that is broken, is told in the report and not in a box.
+    // A drive without a disk, or a broken printer driver, is noted in the report and not in a message box.
     const ClytErrorBoxesOff noBoxes;
     lytEnvironment.lytReportLines.RemoveAll();
 

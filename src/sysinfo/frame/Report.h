@@ -1,13 +1,13 @@
-// The system report: one text that tells how a workstation is set up, gathered as a whole and pulled line by line.
+// The system report: one text that says how a workstation is set up, gathered as a whole and pulled line by line.
 //
 // A probe is split in two. *Facts* are plain records that platform calls fill; *lines* are functions without a platform
-// that word them. For a probe X stand
+// that word them. A probe X consists of
 //
 //     X.h           the records, the functions that word them, and the function that fills the records
 //     XLines.cpp    the wording; portable, in lyt_engine
 //     XFacts.cpp    the platform calls, and the probe's own operation; Windows, in lyt_windows
 //
-// and its operation is declared in Probes.h and called at its place in Report.cpp.
+// Its operation is declared in Probes.h and called at its place in Report.cpp.
 #pragma once
 
 #include <afxmt.h>

@@ -1,4 +1,4 @@
-// The report's end at which every probe appends.
+// The end of the report, where every probe appends its lines.
 #pragma once
 
 #include <afxcoll.h>

@@ -20,7 +20,7 @@ static_assert(printerFieldDuplex == DM_DUPLEX);
 class PrinterRecords
 {
 public:
-    // False with the reason in GetLastError. The first call tells the size, the second fills.
+    // False with the reason in GetLastError. The first call gives the size, the second the records.
     bool Read(DWORD flags, DWORD level)
     {
         BYTE probe = 0;

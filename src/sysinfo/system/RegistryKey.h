@@ -30,9 +30,9 @@ public:
     // The subkey or value at an index; the platform's result. What does not fit into buffers of `size` bytes fails.
     LSTATUS EnumKey(DWORD index, DWORD size, CString& name) const;
     LSTATUS EnumValue(DWORD index, DWORD size, RegistryValue& value) const;
-    // The names of the subkeys up to the first that cannot be had.
+    // The names of the subkeys up to the first that cannot be read.
     std::vector<CString> SubkeyNames(DWORD size) const;
-    // 0 when it cannot be told.
+    // 0 when it cannot be read.
     DWORD CountValues() const;
 
 private:

@@ -10,7 +10,7 @@
 
 struct WindowsFacts
 {
-    // What stands when Windows does not tell its version.
+    // The values for a Windows that does not report its version.
     unsigned platform = 2;
     unsigned major = 10;
     unsigned minor = 0;

@@ -21,7 +21,7 @@ enum Suite : unsigned
 
 struct SuiteName
 {
-    unsigned suite; // 0 is met by any
+    unsigned suite; // 0 matches any
     const char* name;
 };
 

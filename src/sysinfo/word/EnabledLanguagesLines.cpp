@@ -8,7 +8,7 @@
 namespace
 {
 
-// From this version on the values bear tags.
+// From this version on the values are named by tags.
 constexpr int firstWithTags = 16;
 
 CString DataText(const RegistryValue& value)

@@ -40,7 +40,7 @@ void Ask(GetVersionText& getVersion, VersionText& text)
 
 } // namespace
 
-// Blanks stand for the version of a library that is missing or does not tell it.
+// Blanks stand for the version of a library that is missing or does not report it.
 CString lytProbeResolveVersion()
 {
     VersionText text;
@@ -49,7 +49,7 @@ CString lytProbeResolveVersion()
     if (library.IsOpen())
         if (GetVersionText* const getVersion = FindVersionFunction(library.Get()))
             Ask(*getVersion, text);
-    // The library need not have left an end.
+    // The library may not have ended the text.
     text[textSize - 1] = '\0';
     return text;
 }

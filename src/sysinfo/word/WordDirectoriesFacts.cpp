@@ -28,7 +28,7 @@ CString ReadDirectoryOrWords(const std::optional<RegistryPlace>& place)
 
 } // namespace
 
-// The one directory that says nothing about a version it does not know.
+// The one probe of the three that has no words for a version without the directory.
 CString lytProbeUserTemplates(int n)
 {
     const std::optional<RegistryPlace> place = UserTemplatesPlace(n);

@@ -14,6 +14,6 @@ struct WordVersionsFacts
 
 WordVersionsFacts ReadWordVersionsFacts();
 
-// All of the former and, up to the first that does not begin with a digit, the latter, joined by "; ". A version that
-// both keys know stands twice.
+// All of the former, and the latter up to the first that does not begin with a digit, joined by "; ". A version under
+// both keys is listed twice.
 CString WordVersionsText(const WordVersionsFacts& facts);
