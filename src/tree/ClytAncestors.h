@@ -1,7 +1,7 @@
 // The nodes above the present place of a walk from head to tail, so that finding a parent costs no walk back.
 //
-// It holds every node that can still be a parent: root first, levels rising. What a walk puts on it for a node is the
-// walk's own business: the node itself, or what it found there.
+// It holds every node that can still be a parent: root first, levels rising. What is added for a node is the walk's own
+// choice: the node itself, or what it found there.
 #pragma once
 
 #include "tree/ClytNode.h"
@@ -11,7 +11,7 @@
 class ClytAncestors
 {
 public:
-    // What was put on for the nearest node before with a smaller level; null when there is none. Nodes of that level or
+    // What was added for the nearest earlier node with a smaller level; null when there is none. Nodes of that level or
     // a greater one are dropped: they are parents no longer.
     ClytNode* FindAbove(int level)
     {
@@ -26,7 +26,7 @@ public:
         const ClytNode* parent = FindAbove(level);
         return parent != nullptr ? parent->m_hItem : nullptr;
     }
-    // Every node of the walk goes on, shown or not, after its parent was looked for.
+    // Every node of the walk is added, shown or not, once its parent has been looked up.
     void Add(int level, ClytNode* node) { m_path.push_back({level, node}); }
 
 private:

@@ -12,7 +12,7 @@ public:
     // Gives the label as shown, and the path: the key, `\` and the label with its marks. False without a place, and at a
     // node of another level, where the cursor then stays.
     [[nodiscard]] bool Read(const ClytNodeList& nodes, CString& text, CString& path);
-    // The nodes are going: nothing is left to read.
+    // The nodes are about to be deleted: nothing is left to read.
     void Forget() { m_position = nullptr; }
 
 private:

@@ -161,7 +161,7 @@ void ClytTreeDialog::SelectItem(HTREEITEM item)
 {
     if (item == nullptr)
         return;
-    // Each selection scrolls its item into view, so the way round brings two siblings above into view as well.
+    // Each selection scrolls its item into view, so this detour brings two siblings above into view as well.
     m_treeCtrl.SelectItem(item);
     m_treeCtrl.SelectItem(m_treeCtrl.GetPrevSiblingItem(m_treeCtrl.GetPrevSiblingItem(item)));
     m_treeCtrl.SelectItem(item);
@@ -226,7 +226,7 @@ void ClytTreeDialog::StoreItemStates() const
 
 void ClytTreeDialog::OnSize(UINT kind, int width, int height)
 {
-    // The row of buttons is not centred: that is how it is to sit.
+    // The row of buttons is off centre on purpose.
     if (CWnd* tree = GetDlgItem(IDC_TREE))
         tree->SetWindowPos(nullptr, 0, 0, width - 52, height - 80, SWP_NOZORDER | SWP_NOMOVE);
     if (CWnd* ok = GetDlgItem(IDOK))

@@ -14,7 +14,7 @@ public:
     // The first character of a request says what may be picked:
     //   S  symbols                         G  groups; symbols are not shown
     //   P  groups of the para tree         W  any entry, for the wizard
-    // Any other letter wants entries of that type, which there may be none of. The rest is the key (for other kinds than
+    // Any other letter asks for entries of that type, of which there may be none. The rest is the key (for other kinds than
     // groups, its beginning) of the entry to select at opening.
     explicit ClytTreeDialog(const CString& request);
 
