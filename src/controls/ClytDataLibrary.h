@@ -1,4 +1,4 @@
-// How controls reach the partner libraries that description files name; lytdata.h tells what those offer.
+// How controls reach the partner libraries that description files name; lytdata.h says what those offer.
 #pragma once
 
 #include "base/PartnerLibrary.h"
@@ -27,8 +27,8 @@ private:
 // Calls a partner's function for one text.
 CString lytCallForText(lytDataText& function, const CString& parameter);
 
-// One listing that a partner's start function has opened. The texts of an item stay until its next function changes
-// them: one that leaves a buffer alone repeats the item before it.
+// One listing that a partner's start function has opened. The texts of an item stay until the next function changes
+// them: a function that leaves a buffer alone repeats the item before it.
 class ClytDataListing
 {
 public:
@@ -46,7 +46,7 @@ private:
     ClytDataText value;
 };
 
-// The values of a "FILLEDBY" statement. Where one field only is filled there is no next function, and that value is not
+// The values of a "FILLEDBY" statement. Where only one field is filled there is no next function, and that value is not
 // looked at.
 struct ClytListSource
 {

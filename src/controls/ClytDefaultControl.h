@@ -1,5 +1,5 @@
 // The OK or the Cancel button of a dialog. Its label comes from the language file, and its identifier is the one by
-// which the platform ends a dialog; rules have no power over it.
+// which the platform ends a dialog; rules cannot change it.
 #pragma once
 
 #include "model/ClytControl.h"

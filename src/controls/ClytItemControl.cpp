@@ -65,8 +65,8 @@ void ClytItemControl<WINDOW>::ReplaceCurrentItem(const CString& text)
     this->SetCurSel(index);
 }
 
-// Every failure on the way ends the fill without a message, and with the list emptied; only an empty library name is
-// told, and does not end it: the library may have been loaded by another list.
+// Every failure on the way ends the fill without a message, once a list with a selection has been emptied. Only an
+// empty library name is reported, and does not end it: the library may have been loaded by another list.
 template <class WINDOW>
 void ClytItemControl<WINDOW>::FillByLibrary()
 {

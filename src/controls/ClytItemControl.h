@@ -64,6 +64,6 @@ protected:
     ClytListSource source;
 
 private:
-    // One library a class, for the whole process.
+    // One library for each class, for the whole process.
     static ClytDataLibrary library;
 };

@@ -1,4 +1,4 @@
-// The actions of the push button, one function a word of the description language.
+// The actions of the push button, one function for each word of the description language.
 #include "controls/ClytPushButtonControl.h"
 
 #include "base/ClytHandle.h"
