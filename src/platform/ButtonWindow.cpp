@@ -73,7 +73,7 @@ void ButtonWindow::Press()
     Send(BM_SETSTATE, TRUE);
 }
 
-// The command is the last thing: a handler may destroy the window.
+// The command comes last: a handler may destroy the window.
 void ButtonWindow::Release(bool isOutside)
 {
     if (!m_isHeld)
@@ -107,7 +107,7 @@ void ButtonWindow::LoseCapture()
         Send(BM_SETSTATE, FALSE);
 }
 
-// An option button is a tab stop as long as it is the chosen one, and unchooses the others of its group.
+// An option button is a tab stop as long as it is the chosen one, and clears the others of its group.
 void ButtonWindow::SetCheck(UINT check)
 {
     const bool isOption = Kind() == BS_AUTORADIOBUTTON;

@@ -1,4 +1,4 @@
-// Push button, check box, option button, group box: what a button is stands in its style.
+// Push button, check box, option button, group box: the style says which of them a button is.
 #pragma once
 
 #include "Window.h"

@@ -38,7 +38,7 @@ LRESULT ComboEditWindow::Handle(UINT message, WPARAM wParam, LPARAM lParam)
             return 0;
         break;
     case WM_CHAR:
-        // What closed the list is no text.
+        // The key that closed the list is not text.
         if (wParam == VK_RETURN || wParam == VK_ESCAPE)
             return 0;
         break;
@@ -88,7 +88,7 @@ LRESULT ComboBoxWindow::Handle(UINT message, WPARAM wParam, LPARAM lParam)
         ::SendMessageA(m_edit, message, wParam, lParam);
         return 0;
     case WM_SIZE: PlaceField(); return 0;
-    // Like a list, one that does not draw is visible all the same.
+    // As with a list, switching the drawing off does not hide the box.
     case WM_SETREDRAW: return 0;
     case WM_ENABLE: ::EnableWindow(m_edit, wParam != 0 ? TRUE : FALSE); return 0;
     case WM_SETTEXT:
@@ -197,7 +197,7 @@ void ComboBoxWindow::TakeFocus()
     ::SendMessageA(m_edit, EM_SETSEL, 0, -1);
 }
 
-// The whole box of the kind without an edit field opens the list, else the arrow.
+// Without an edit field the whole box opens the list, with one the arrow does.
 void ComboBoxWindow::TakeClick(LPARAM point)
 {
     if (::GetFocus() != (HasEdit() ? m_edit : handle))
@@ -285,7 +285,7 @@ void ComboBoxWindow::Choose(int index)
     m_keepsCurrent = HasEdit();
 }
 
-// The keys go on from the item that the text begins.
+// The keys go on from the first item that begins with the text.
 void ComboBoxWindow::MoveCaretToText()
 {
     const std::string& typed = Desktop::Get().Find(m_edit)->text;
@@ -334,7 +334,7 @@ void ComboBoxWindow::ShowText(const std::string& shown)
         text = shown;
 }
 
-// The edit field keeps the text of an item that goes.
+// The edit field keeps the text of an item that is deleted.
 LRESULT ComboBoxWindow::Delete(int index)
 {
     const bool wasCurrent = index == m_items.Current();

@@ -9,7 +9,7 @@ namespace platform
 
 class ComboBoxWindow;
 
-// The field inside: keys that mean the list go to the combo box.
+// The field inside: keys that are meant for the list go to the combo box.
 class ComboEditWindow : public EditWindow
 {
 public:
@@ -27,7 +27,7 @@ public:
     // The height is that of the closed box.
     SIZE Adjusted(SIZE wanted) const override;
 
-    // What the dialog is not to take of the keys: an open list is closed by Return and Esc.
+    // The keys that the dialog is to leave alone: Return and Esc close an open list.
     LRESULT DialogCodes(WPARAM key) const;
     // False when the key means nothing to the list.
     bool TakeKey(UINT message, WPARAM key);
@@ -57,7 +57,7 @@ private:
     int m_caret = 0;
     bool m_isOpen = false;
     bool m_isQuiet = false; // while the program, and not the user, changes the text
-    // The first character that the user types after choosing with a key leaves the choice: so does the real one.
+    // The first character that the user types after choosing with a key leaves the choice, as on Windows.
     bool m_keepsCurrent = false;
 };
 

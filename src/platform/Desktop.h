@@ -1,4 +1,4 @@
-// All windows of the process, and what there is one of: focus, active window, mouse capture.
+// All windows of the process, and what exists only once: focus, active window, mouse capture.
 #pragma once
 
 #include "Window.h"
@@ -13,7 +13,7 @@ class Desktop
 public:
     static Desktop& Get();
 
-    // Null for a handle that is stale, or none.
+    // Null for a stale or a null handle.
     Window* Find(HWND window) const;
     // The same for one class of windows.
     template <class WINDOW>
@@ -21,10 +21,10 @@ public:
     {
         return dynamic_cast<WINDOW*>(Find(window));
     }
-    // Keeps a window's object alive, also one that is destroyed meanwhile.
+    // Keeps a window's object alive even if the window is destroyed meanwhile.
     std::shared_ptr<Window> Hold(HWND window) const;
     size_t Count() const { return m_windows.size(); }
-    // Top-level windows, the one activated last first.
+    // Top-level windows, the most recently activated one first.
     const std::vector<HWND>& TopLevels() const { return m_topLevels; }
 
     // Gives the window its handle and a place in the tree.

@@ -21,9 +21,9 @@ public:
     Window* NextInGroup(const Window& from, bool backwards) const;
     // Gives the focus to a child as the tab key does: an edit field is selected, and a push button becomes the default.
     void FocusChild(HWND child);
-    // The child that holds the focus, itself or in a window of its own; null when it is none.
+    // The child that holds the focus, itself or in a window of its own; null when no child does.
     Window* FocusedChild() const;
-    // A button has become a default button, or is none any more.
+    // A button has become a default button, or has ceased to be one.
     void NoteButton(HWND button, bool isDefault);
     // A dialog that has no saved focus gives it to its first tab stop.
     void RestoreFocus();

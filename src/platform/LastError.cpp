@@ -1,4 +1,4 @@
-// Few functions here leave an error; whoever does says so.
+// Few functions here set the last error; those that do say so.
 #include <windows.h>
 
 namespace

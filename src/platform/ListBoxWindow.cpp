@@ -37,7 +37,7 @@ LRESULT ListBoxWindow::Handle(UINT message, WPARAM wParam, LPARAM lParam)
         if (!IsOwnerDrawn())
             m_itemHeight = LineHeight(reinterpret_cast<HGDIOBJ>(wParam));
         return Window::Handle(message, wParam, lParam);
-    // A list that does not draw is visible all the same.
+    // Switching the drawing off does not hide a list.
     case WM_SETREDRAW: return 0;
     case LB_ADDSTRING:
     case LB_INSERTSTRING:
@@ -90,7 +90,7 @@ LRESULT ListBoxWindow::HandleItems(UINT message, WPARAM wParam, LPARAM lParam)
     }
 }
 
-// A bar that comes or goes changes the client area, and with each such change the list looks at its whole items.
+// A bar that comes or goes changes the client area, and with each such change the list fits its height to whole items.
 LRESULT ListBoxWindow::ChangeItems(UINT message, int index, const char* itemText)
 {
     LRESULT result = 0;

@@ -13,7 +13,7 @@ public:
     LRESULT Handle(UINT message, WPARAM wParam, LPARAM lParam) override;
     // Whole items only.
     SIZE Adjusted(SIZE wanted) const override;
-    // The scroll bar stands beside it.
+    // Without the scroll bar, which lies beside it.
     SIZE ClientSize() const override;
 
 private:
@@ -31,7 +31,7 @@ private:
     void ShowItem(int index);
     void TakeKey(WPARAM key);
     void TakeCharacter(WPARAM character);
-    // What the user selects is told, also when it was selected before.
+    // Tells the parent what the user selects, even when it was selected before.
     void Choose(int index);
     void Tell(UINT code) const;
 

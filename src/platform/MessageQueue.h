@@ -16,7 +16,7 @@ bool TakePosted(HWND window, UINT message);
 // Posts the characters that a message of the keyboard stands for.
 void TranslateKey(const MSG& message);
 void Dispatch(const MSG& message);
-// Handles a message as a key of the dialog; false when it is none, and is to be dispatched.
+// Handles a message as a key of the dialog; false when it is not one, and is to be dispatched.
 bool TakeDialogKey(HWND window, const MSG& message);
 
 } // namespace platform

@@ -22,7 +22,7 @@ LRESULT TreeWindow::HandleInput(UINT message, WPARAM wParam, LPARAM lParam)
     }
 }
 
-// The press tells of the click; a label that is not selected yet is so when the button comes up, before the focus moves.
+// The press reports the click; a label not yet selected becomes so once the button is up, before the focus moves.
 void TreeWindow::TakeClick(LPARAM point, bool isDouble)
 {
     const int row = static_cast<int>(m_top) + static_cast<short>(HIWORD(point)) / RowHeight();

@@ -30,7 +30,7 @@ LRESULT TreeWindow::Handle(UINT message, WPARAM wParam, LPARAM lParam)
             return FALSE;
         ShowItem(m_items.Find(lParam));
         return TRUE;
-    // A tree that does not draw is visible and scrolls all the same.
+    // A tree with its drawing switched off stays visible, and scrolls.
     case WM_SETREDRAW: return 0;
     case TVM_SETIMAGELIST: m_images = reinterpret_cast<HIMAGELIST>(lParam); return 0;
     case TVM_GETIMAGELIST: return reinterpret_cast<LRESULT>(m_images);
@@ -46,7 +46,7 @@ LRESULT TreeWindow::Insert(const TVINSERTSTRUCTA& insert)
     return TreeItems::HandleOf(m_items.Insert(under, insert.item.pszText, insert.item.iImage));
 }
 
-// Items go one by one only where someone needs it: no one does.
+// Nobody asks to be told of each item that is deleted, so all go at once.
 LRESULT TreeWindow::DeleteAll()
 {
     m_items.Clear();
@@ -141,7 +141,7 @@ bool TreeWindow::Expand(size_t item, UINT action, bool isByUser)
     return true;
 }
 
-// A selection inside moves up to what is still seen, and no one is told.
+// A selection inside moves up to what is still seen, without a notification.
 void TreeWindow::Collapse(size_t item)
 {
     ChangeState(item, TVIS_EXPANDED, 0);

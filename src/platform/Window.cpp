@@ -77,7 +77,7 @@ RECT Window::ScreenPlace() const
     return {place.left + origin.x, place.top + origin.y, place.right + origin.x, place.bottom + origin.y};
 }
 
-// The frame is equally wide on three sides; what more it takes of the height is the caption.
+// The frame is equally wide on three sides; what it takes of the height beyond that is the caption.
 POINT Window::ClientOrigin() const
 {
     const RECT screen = ScreenPlace();

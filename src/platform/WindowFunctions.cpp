@@ -1,4 +1,4 @@
-// The platform's functions that make, end, change and look at windows.
+// The platform's functions that create, destroy, change and examine windows.
 #include "CreationHook.h"
 #include "Desktop.h"
 #include "Metrics.h"
@@ -98,7 +98,7 @@ HWND CreateWindowExA(DWORD exStyle, LPCSTR className, LPCSTR text, DWORD style, 
     return window.handle;
 }
 
-// Like a window that is hidden first, one that dies gives focus and activation away before it is told.
+// A window that dies gives focus and activation away before it is told, as if it were hidden first.
 BOOL DestroyWindow(HWND window)
 {
     Desktop& desktop = Desktop::Get();
