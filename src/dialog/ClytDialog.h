@@ -45,7 +45,7 @@ public:
     // How far the description has been read: its last line, once all of it has.
     const ClytSpan& GetReadPlace() const { return file.GetLinePlace(); }
 
-    // Leaves no dialog deaf to the keyboard: the focus of a control that a rule disables goes to the next tab stop.
+    // Keeps the keyboard working: the focus of a control that a rule disables goes to the next tab stop.
     void RunDependencies() override;
     // False when a command that arrives now must not run the rules: while windows are created or the first input is
     // scanned, when a value that the innermost run reads moved the focus, and when too many runs stand one inside the

@@ -81,7 +81,7 @@ bool ClytDialog::MayRunRules()
 }
 
 // A run that was refused is made up for as soon as its rule has acted, by a pass of its own with a baseline of its own,
-// and the rule keeps its mark as long. So the rules come to what they would come to if runs nested without a limit; only
+// and the rule keeps its mark until then. So the rules come to what they would come to if runs nested without a limit; only
 // the stack stays as it is.
 void ClytDialog::RunRules()
 {

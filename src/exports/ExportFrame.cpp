@@ -31,7 +31,7 @@ HostState::~HostState()
     if (GetFocus() == m_focus)
         return;
     // A host without a focus gets none. If it had no active window either and has one at the end, the user has come to
-    // it meanwhile, and taking the focus away would leave that window deaf.
+    // it meanwhile, and without the focus that window would not hear the keyboard.
     const bool isToBeRestored = m_focus != nullptr ? IsWindow(m_focus) != FALSE : GetActiveWindow() == m_active;
     if (isToBeRestored)
         SetFocus(m_focus);

@@ -37,7 +37,7 @@ uint64_t Mixed(uint64_t value)
 
 } // namespace
 
-// Changes the guard under its own feet, so it must not look at it on its way out.
+// Changes the guard while it runs, so it must not be checked against it on its way out.
 __attribute__((no_stack_protector)) void SeedStackGuard()
 {
     FILETIME clock = {};

@@ -3,7 +3,7 @@
 // for the life of the process, so a host that loads and unloads this library ran out of slots. Here a slot comes with
 // its clean-up, and nothing else is taken.
 //
-// These are all the calls that the runtime makes. One that were missing would bring the thread library back with its
+// These are all the calls that the runtime makes. One that was missing would bring the thread library back with its
 // own definitions, and the link would fail.
 #include "exports/ThreadCalls.h"
 
@@ -59,7 +59,7 @@ extern "C"
         return 0;
     }
 
-    // Is asked whenever an exception passes, which must leave the host's last error alone.
+    // Called whenever an exception passes, which must leave the host's last error alone.
     void* pthread_getspecific(pthread_key_t key)
     {
         const DWORD lastError = GetLastError();
