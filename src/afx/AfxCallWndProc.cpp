@@ -25,7 +25,7 @@ void Report(REPORT report) noexcept
     }
 }
 
-// What the sender of a message whose handler failed is told.
+// The result that the sender of a message gets when its handler failed.
 LRESULT FailedResult(UINT message)
 {
     return message == WM_COMMAND ? TRUE : 0;

@@ -94,7 +94,7 @@ BOOL CWnd::SubclassWindow(HWND window)
     const WNDPROC below = map.FindBelow(window);
     map.SetPermanent(window, this);
     m_hWnd = window;
-    // Where an object left under another's procedure, ours still stands in the chain and must not come in twice.
+    // If an object left while another's procedure was on top, ours is still in the chain and must not enter it twice.
     m_pfnSuper = below != nullptr ? below
                                   : reinterpret_cast<WNDPROC>(::SetWindowLongPtrA(
                                         window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(WindowProcedure)));

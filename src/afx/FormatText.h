@@ -4,7 +4,7 @@
 #include <cstdarg>
 #include <cstddef>
 
-// The length of the formatted text, negative for a format that is none.
+// The length of the formatted text, negative for an invalid format.
 [[nodiscard]] int FormattedLength(const char* format, va_list arguments);
 
 // Writes the formatted text and a NUL; `size` counts both.

@@ -182,7 +182,7 @@ class CStdioFile : public CFile
 public:
     // False when the file cannot be opened; `error`, when given, then tells why.
     [[nodiscard]] BOOL Open(const char* fileName, UINT flags, CFileException* error = nullptr);
-    // Raises CFileException when what was written cannot be brought to the file.
+    // Raises CFileException when what is still buffered cannot be written to the file.
     virtual void Close();
     // Closes without looking at errors.
     void Abort() { m_pStream.reset(); }

@@ -35,7 +35,7 @@ protected:                                                                      
     static const AFX_MSGMAP* GetThisMessageMap();                                                                      \
     const AFX_MSGMAP* GetMessageMap() const override;
 
-// The formatter takes the brace that stays open for a mistake.
+// The formatter would treat the brace that stays open as a mistake.
 // clang-format off
 #define BEGIN_MESSAGE_MAP(theClass, baseClass)                                                                         \
     const AFX_MSGMAP* theClass::GetMessageMap() const { return GetThisMessageMap(); }                                  \

@@ -1,4 +1,4 @@
-// Counts something up for as long as it lasts, on every way out.
+// Keeps a counter raised by one for as long as it lives.
 #pragma once
 
 class Counted

@@ -17,7 +17,7 @@ private:
     DWORD m_hostMode = 0;
 };
 
-// Libraries that a program has inside and offers in place of files.
+// Libraries that a program contains and offers in place of files.
 class ClytOwnLibraries
 {
 public:

@@ -9,7 +9,7 @@ namespace
 constexpr int textSize = 75;
 constexpr int valueSize = 1024;
 
-// A read that fails inside the class library is told as an error of this program.
+// A read that fails inside the class library is reported as an error of this program.
 template <class Read>
 CString Guarded(Read read)
 {

@@ -17,7 +17,7 @@ constexpr int sectionSize = 2048;
 bool ClytINISection::Read()
 {
     clear();
-    // A small buffer tells that a section is absent without the larger one.
+    // A small buffer is enough to see that a section is absent.
     char buffer[sectionSize];
     if (ReadProfileSection(sectionName, buffer, probeSize, fileName) == 0)
         return false;

@@ -1,4 +1,4 @@
-// The lines of the report, in order, until its last line was read. Readers name a line by its index; the place found last
+// The lines of the report, in order, until a reader has come to its end. Readers name a line by its index; the place found last
 // is kept, so that a walk from line to line costs one step a line. Lines go all at once, so the kept place never outlives
 // its line.
 #pragma once

@@ -11,7 +11,7 @@ class ErrorSink
 {
 public:
     virtual void Tell(std::unique_ptr<ClytException> failure, const ClytSpan& place) = 0;
-    // The line ends where a further token was due, in a place that has no number of its own.
+    // The line ends where a further token was due, at a place that has no error number of its own.
     virtual void TellShortLine(const ClytSpan& place) = 0;
 
 protected:

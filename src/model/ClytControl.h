@@ -50,7 +50,7 @@ public:
     virtual int IsChanged();
     // Carries out the word of an event rule.
     virtual void DoAction(const ClytStateWord& word);
-    // Removes the selected item; the result tells what is left.
+    // Removes the selected item; the result says what is left.
     virtual int DeleteCurrentItem();
     virtual void AddItem(const CString& value, const CString& display, int hasValue, int position);
     virtual void ReplaceCurrentItem(const CString& text);

@@ -15,7 +15,7 @@ ClytTested TestState(const ClytCtrlValList& condition)
         return ClytTested::Inactive;
     if (condition.GetValues().IsEmpty())
         return ClytTested::Holds;
-    // The last value decides, so a "NOTNULL" further to the front is a value like any other.
+    // The last value decides, so an earlier "NOTNULL" is a value like any other.
     if (condition.AsksForContent())
         return control->HasContent() != 0 ? ClytTested::HasContent : ClytTested::IsEmpty;
     return condition.Contains(control->GetValue()) != 0 ? ClytTested::Holds : ClytTested::NotListed;

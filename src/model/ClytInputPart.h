@@ -8,7 +8,7 @@ class ClytScanner;
 class ClytInputPart : public CObject
 {
 public:
-    // Of statements with one name the later is found; the part owns them all.
+    // Of statements with the same name the later is found; the part owns them all.
     void Add(std::unique_ptr<ClytDialogInput> statement);
     const ClytOwnedList<ClytDialogInput>& GetStatements() const { return statements; }
     // Null when no statement has that name.

@@ -70,7 +70,7 @@ public:
     {
     }
 
-    // A run of an input part over a text. The rests that are told then point into it.
+    // A run of an input part over a text. The rests that are reported until it ends point into it.
     virtual void ScanBegan(const char* /*text*/) {}
     // A statement cut a piece off the input; `rest` is what follows it.
     virtual void Cut(const ClytDialogInput& /*statement*/, const CString& /*piece*/, const char* /*rest*/,
@@ -88,8 +88,8 @@ public:
     // A run of the rules, counted from 1 as they stand one inside the other. It ends on every way out.
     virtual void RunBegan(int /*depth*/) {}
     virtual void RunEnded(int /*depth*/) {}
-    // Of the conditions of a rule, those that were looked at are told in their order, and then what comes of the rule,
-    // before it is done: doing it may begin a run inside this one.
+    // The conditions of a rule that were looked at are reported in their order, and then what comes of the rule, before
+    // it is carried out: that may begin a run inside this one.
     virtual void ConditionTested(const ClytControlDep& /*rule*/, const ClytCtrlValList& /*condition*/,
                                  ClytTested /*result*/)
     {

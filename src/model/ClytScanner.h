@@ -5,7 +5,7 @@
 
 #include <array>
 
-// Brackets are counted over the whole run, by kind; of a separator only its first character is.
+// Brackets are counted over the whole run, by kind; of a separator, only the first character counts.
 class ClytScanner
 {
 public:
