@@ -21,8 +21,8 @@
  *      library carry all functions that the lists of a process need. A library is never unloaded.
  *   6. An edit with the preset value FILL is filled while its window is created, before the output rules are known: a
  *      rule for its parameter would end that fill. Later fills, by a rule or by the input, may have one.
- *   7. When a library or function is missing, or a start finds nothing, the control stays empty (an edit: as it was), and
- *      no message is shown. Show your own if the user should know.
+ *   7. When a library or function is missing, or a start finds nothing, the control stays empty (an edit, and a list
+ *      without a selection: as it was), and no message is shown. Show your own if the user should know.
  *   8. A library is looked for where Windows looks for any library: in the host program's folder, in the folders of
  *      Windows, in the current folder and in PATH, and not beside lyt64.dll. A description may name it with its whole
  *      path, in quotes.
