@@ -17,7 +17,7 @@ struct MessageName
     bool withParameter;
 };
 
-// In no message of the list do the grounds differ in the parameter printed.
+// For each message of the list the parameter printed is the same over all kinds of windows.
 constexpr MessageName names[] = {
     {"INITDIALOG", WM_INITDIALOG, false},
     {"ACTIVATE", WM_ACTIVATE, true},

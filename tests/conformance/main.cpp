@@ -1,6 +1,6 @@
 // Acts on the class library over whatever windows there are, and prints what every window is told. The output over the
 // windows of the platform and over those in memory is the same, line by line: conformance.txt holds it. The name of a
-// chapter plays that one alone.
+// chapter runs that one alone.
 #include "Stage.h"
 
 #include <afxstat_.h>

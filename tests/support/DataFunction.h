@@ -19,6 +19,6 @@ public:
     DataFunction& operator=(const DataFunction&) = delete;
     ~DataFunction();
 
-    // The function of the library, as lytdata.h tells it.
+    // The function of the library, as lytdata.h declares it.
     static int Call(const char* parameter, char* text, int size);
 };

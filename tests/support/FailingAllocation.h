@@ -3,7 +3,7 @@
 
 #include <new>
 
-// While it lives, one allocation fails: that after so many others.
+// While it lives, one allocation fails: the one after so many others.
 class FailingAllocation
 {
 public:
