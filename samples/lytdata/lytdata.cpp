@@ -7,7 +7,7 @@
 //     LookUp                the value of one item: the parameter is `list/item`
 //     Remember              an action: keeps the parameter, so that the list `remembered` offers it
 //
-// The file is read anew by each call but the Next functions, so that it can be edited while a dialog stands.
+// The file is read anew by each call but the Next functions, so that it can be edited while a dialog is open.
 #include "lytdata.h"
 
 #include <windows.h>
@@ -43,7 +43,7 @@ struct List
     std::vector<Item> items;
 };
 
-// One listing at a time: a control reads a listing to its end before anybody else opens one.
+// One listing at a time: a control reads a listing to its end before another control opens one.
 class Listing
 {
 public:

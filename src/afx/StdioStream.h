@@ -3,7 +3,7 @@
 
 #include <afx.h>
 
-// Opens a stream under the flags of CFile; null with `errno` set when that fails, also for a folder.
+// Opens a stream under the flags of CFile; null with `errno` set when that fails, as it does for a folder.
 [[nodiscard]] std::FILE* OpenTextStream(const char* fileName, UINT flags);
 
 // Reads up to and including a line end, at most `count` characters and a NUL; false at the end of the text.

@@ -50,7 +50,7 @@ public:
         return node->element;
     }
 
-    // Null when no element stands at the index, also for a negative one.
+    // Null when there is no element at the index, such as a negative one.
     POSITION FindIndex(int index) const
     {
         if (index < 0 || index >= GetCount())

@@ -41,7 +41,7 @@ public:
     BOOL CreateEx(DWORD exStyle, const char* className, const char* windowName, DWORD style, const RECT& rect,
                   CWnd* parent, UINT id);
     BOOL DestroyWindow();
-    // Joins a window that stands already and has no object yet; leaves it again with the procedure that it had, unless
+    // Joins a window that exists already and has no object yet; leaves it again with the procedure that it had, unless
     // somebody has put another one on top since.
     BOOL SubclassWindow(HWND window);
     HWND UnsubclassWindow();

@@ -26,7 +26,7 @@ public:
     void FillByLibrary() override;
     int HasContent() override { return this->GetCount() != 0 ? 1 : 0; }
 
-    // The values of all items, also where the window shows them in another order.
+    // The values of all items, even where the window shows them in another order.
     const CStringArray& GetItemValues() const { return valueStrings; }
     // Adds an item before the window is there.
     void AddDefinedItem(const CString& value, const CString& displayKey);

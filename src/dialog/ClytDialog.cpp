@@ -229,7 +229,7 @@ void ClytDialog::OnDestroy()
     CDialog::OnDestroy();
 }
 
-// The name of the control that has the focus; empty for any other window, also for the edit field inside a combo box.
+// The name of the control that has the focus; empty for any other window, such as the edit field inside a combo box.
 CString ClytDialog::FocusName()
 {
     const CWnd* focus = FromHandlePermanent(::GetFocus());

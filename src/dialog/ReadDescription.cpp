@@ -199,7 +199,7 @@ void ClytDialog::ReadInputs()
 }
 
 // A group is stored under its name when the next header or the end comes. A header that is the last line thus gives the
-// group before it a second name, and what a rule without a format holds goes to the next one, also across a header.
+// group before it a second name, and what a rule without a format holds goes to the next one, even across a header.
 void ClytDialog::ReadOutputGroups()
 {
     CString name = lytParentName;

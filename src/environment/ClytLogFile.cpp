@@ -17,7 +17,7 @@ CString Rule()
     return CString('-', 77) + "\n";
 }
 
-// The first dot of the whole path counts, also one in a folder's name; without a dot nothing of the name stays.
+// The first dot of the whole path counts, even one in a folder's name; without a dot nothing of the name stays.
 CString LogNameOf(const CString& docName)
 {
     return docName.Left(docName.Find('.')) + ".log";

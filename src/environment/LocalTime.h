@@ -3,5 +3,5 @@
 
 #include <ctime>
 
-// False when the time cannot be told as a date; `local` is then of no use.
+// False when the time cannot be given as a date; `local` is then of no use.
 [[nodiscard]] bool LocalTimeOf(std::time_t time, std::tm& local);

@@ -16,7 +16,7 @@
 namespace
 {
 
-// The size of the window at the last confirmation, also a refused one; 0 before the first.
+// The size of the window at the last confirmation, even a refused one; 0 before the first.
 int lytTreeLastWidth = 0;
 int lytTreeLastHeight = 0;
 // The number of confirmed dialogs over the symbol tree. The first one ends the opening by levels for good.
