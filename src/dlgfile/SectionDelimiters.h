@@ -2,7 +2,7 @@
 // header's words are cut by the set of the section before it.
 #pragma once
 
-#include "dlgfile/DelimiterSet.h"
+#include "base/DelimiterSet.h"
 
 inline constexpr DelimiterSet lytHeaderDelimiters(" ,\t\n();:"); // up to the layout line
 inline constexpr DelimiterSet lytDialogDelimiters(" ,\t\n();");  // the line of the dialog itself

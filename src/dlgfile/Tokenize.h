@@ -1,8 +1,8 @@
 // Cuts lines and the texts of values into tokens, each in one pass.
 #pragma once
 
+#include "base/DelimiterSet.h"
 #include "dlgfile/ClytToken.h"
-#include "dlgfile/DelimiterSet.h"
 
 // Replaces the tokens by those of the line. Null, or the quote that is not closed; the tokens before it stand in the list
 // then.

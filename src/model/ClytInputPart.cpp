@@ -39,6 +39,7 @@ void ClytInputPart::Run(CString text, const CString& name) const
     CString next = name;
     ClytSpan asker = span;
     int idle = 0;
+    CString piece; // kept from statement to statement with the room that it has
     while (!lytSameWord(next, "End"))
     {
         const ClytDialogInput* statement = Find(next);
@@ -49,14 +50,14 @@ void ClytInputPart::Run(CString text, const CString& name) const
         }
         asker = statement->span;
         const char* before = scanner.GetRest();
-        next = RunStatement(*statement, scanner);
+        next = RunStatement(*statement, scanner, piece);
         idle = scanner.GetRest() == before ? idle + 1 : 0;
         if (idle == circleLimit)
             lytRaise("206", "The input statements go round in a circle.");
     }
 }
 
-CString ClytInputPart::RunStatement(const ClytDialogInput& statement, ClytScanner& scanner)
+CString ClytInputPart::RunStatement(const ClytDialogInput& statement, ClytScanner& scanner, CString& piece)
 {
     const ClytScanRule& rule = statement.scanRule;
     if (rule.scan.HasScan() == 0)
@@ -66,7 +67,7 @@ CString ClytInputPart::RunStatement(const ClytDialogInput& statement, ClytScanne
             lytObserver->Jumped(statement, next);
         return next;
     }
-    CString piece;
+    piece.Empty();
     CString next = scanner.Cut(rule.scan, piece);
     if (lytObserver != nullptr)
         lytObserver->Cut(statement, piece, scanner.GetRest(), next);

@@ -2,16 +2,15 @@
 
 #include <cstring>
 
-int ClytScan::FindSeparator(const char* rest, int& found) const
+const ClytSeparator* ClytScan::FindSeparator(const char* rest) const
 {
     for (POSITION place = separators.GetHeadPosition(); place != nullptr;)
     {
-        const CString& text = separators.GetNext(place)->text;
-        found = *rest == '\0' ? 0 : text.GetLength();
-        if (std::strncmp(rest, text, static_cast<size_t>(found)) == 0)
-            return 1;
+        const ClytSeparator* separator = separators.GetNext(place);
+        if (std::strncmp(rest, separator->text, static_cast<size_t>(separator->text.GetLength())) == 0)
+            return separator;
     }
-    return 0;
+    return nullptr;
 }
 
 CString ClytScan::TargetOf(const CString& separatorText) const
@@ -35,6 +34,10 @@ void ClytScan::SetFixedLength(int pieceLength, const CString& statementName, con
 void ClytScan::AddSeparator(const CString& separatorText, const CString& statementName, const ClytSpan& place)
 {
     separators.AddTail(std::make_unique<ClytSeparator>(separatorText, statementName, place));
+    if (separatorText.IsEmpty())
+        stops.AddAll();
+    else
+        stops.Add(separatorText[0]);
     length = 0;
     target.Empty();
 }

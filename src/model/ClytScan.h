@@ -2,6 +2,7 @@
 #pragma once
 
 #include "base/ClytOwnedList.h"
+#include "base/DelimiterSet.h"
 #include "model/ClytSeparator.h"
 
 class ClytScan : public CObject
@@ -9,9 +10,10 @@ class ClytScan : public CObject
 public:
     // 1 when there is anything to scan by.
     int HasScan() const { return !target.IsEmpty() || !separators.IsEmpty() ? 1 : 0; }
-    // 1 when a separator stands at the start of the rest, with its length; the first in file order wins. An empty rest
-    // counts as a separator of length 0 as long as the list has an entry.
-    int FindSeparator(const char* rest, int& found) const;
+    // The first character that may end a piece or that counts otherwise; what stands before it goes into the piece.
+    const char* FindStop(const char* rest) const { return stops.FindIn(rest); }
+    // The separator at the start of the rest, the first in file order that fits, or null.
+    const ClytSeparator* FindSeparator(const char* rest) const;
     // The statement after the first separator of that text; empty when there is none.
     CString TargetOf(const CString& separatorText) const;
 
@@ -30,4 +32,5 @@ private:
     ClytSpan lengthSpan;
     CString target; // the next statement after a piece of fixed length
     ClytOwnedList<ClytSeparator> separators;
+    DelimiterSet stops{"({[)}]\""}; // and the first characters of the separators; every one when a separator is empty
 };

@@ -26,26 +26,36 @@ void ClytScanner::CutLength(int length, CString& piece)
     piece.Append(start, static_cast<int>(rest - start));
 }
 
+// Plain text goes into the piece at once, and only what may be more than that is looked at closely.
 CString ClytScanner::CutToSeparator(const ClytScan& scan, CString& piece)
 {
-    int length = 0;
+    const char* start = rest;
+    const auto takePlain = [&] { piece.Append(start, static_cast<int>(rest - start)); };
     while (true)
     {
+        rest = scan.FindStop(rest);
+        if (*rest == '\0')
+        {
+            takePlain();
+            return scan.TargetOf("Rest");
+        }
         const bool isContent = CountBracket(*rest);
-        if (scan.FindSeparator(rest, length) != 0 && !isContent)
-            break;
+        const ClytSeparator* separator = isContent ? nullptr : scan.FindSeparator(rest);
+        if (separator != nullptr)
+        {
+            takePlain();
+            rest += separator->text.GetLength();
+            return separator->target;
+        }
         if (*rest == '"')
+        {
+            takePlain();
             TakeQuoted(piece);
-        else if (*rest != '\0')
-            piece += *rest++;
+            start = rest;
+        }
         else
-            return {};
+            ++rest;
     }
-    if (*rest == '\0')
-        return scan.TargetOf("Rest");
-    const CString separator(rest, length);
-    rest += length;
-    return scan.TargetOf(separator);
 }
 
 void ClytScanner::TakeQuoted(CString& piece)

@@ -1,7 +1,7 @@
 // One statement of a description as a text: its words, and the one form that it is laid out in.
 #pragma once
 
-#include "dlgfile/DelimiterSet.h"
+#include "base/DelimiterSet.h"
 #include "lytdlg/text/DescriptionLines.h"
 
 #include <optional>

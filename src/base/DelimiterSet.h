@@ -1,4 +1,5 @@
-// The characters that end a token; each section of a description has a set of its own.
+// The characters that end a run of plain text, such as a token: each section of a description has a set of its own, and
+// so has each statement that scans.
 #pragma once
 
 #include <array>
@@ -13,12 +14,13 @@ public:
             Add(*characters);
     }
 
-    constexpr void Add(char ch) { m_contains[Index(ch)] = true; }
-    constexpr bool Contains(char ch) const { return m_contains[Index(ch)]; }
+    constexpr void Add(char ch) { m_ends[Index(ch)] = true; }
+    constexpr void AddAll() { m_ends.fill(true); }
+    constexpr bool Contains(char ch) const { return ch != '\0' && m_ends[Index(ch)]; }
     // The first delimiter at or after `text`, or the end of the text.
     constexpr const char* FindIn(const char* text) const
     {
-        while (*text != '\0' && !Contains(*text))
+        while (!m_ends[Index(*text)])
             ++text;
         return text;
     }
@@ -26,5 +28,5 @@ public:
 private:
     static constexpr size_t Index(char ch) { return static_cast<unsigned char>(ch); }
 
-    std::array<bool, 256> m_contains{};
+    std::array<bool, 256> m_ends{true}; // the NUL ends every run, and so one look a character is enough
 };

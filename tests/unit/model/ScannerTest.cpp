@@ -1,0 +1,213 @@
+// A scanner passes over plain text without a close look at it. What it cuts is compared with a walk that looks at every
+// character.
+#include "model/ClytScanner.h"
+
+#include <gtest/gtest.h>
+
+#include <map>
+#include <random>
+#include <string>
+#include <vector>
+
+namespace
+{
+
+struct Entry
+{
+    std::string separator;
+    std::string target;
+};
+
+// The rules of a cut by separators, character by character.
+class PlainScanner
+{
+public:
+    explicit PlainScanner(std::string input) : m_rest(std::move(input)) {}
+
+    std::string Cut(const std::vector<Entry>& entries, std::string& piece)
+    {
+        m_pieceDepth.clear();
+        while (!m_rest.empty())
+        {
+            const bool isContent = CountBracket(m_rest[0]);
+            for (const Entry& entry : entries)
+            {
+                if (isContent || !m_rest.starts_with(entry.separator))
+                    continue;
+                m_rest.erase(0, entry.separator.size());
+                return entry.target;
+            }
+            if (m_rest[0] == '"')
+                TakeQuoted(piece);
+            else
+            {
+                piece += m_rest[0];
+                m_rest.erase(0, 1);
+            }
+        }
+        return TargetOfRest(entries);
+    }
+    const std::string& Rest() const { return m_rest; }
+
+private:
+    static std::string TargetOfRest(const std::vector<Entry>& entries)
+    {
+        for (const Entry& entry : entries)
+        {
+            if (entry.separator == "Rest")
+                return entry.target;
+        }
+        return {};
+    }
+
+    bool CountBracket(char ch)
+    {
+        static const std::map<char, char> opening = {{')', '('}, {'}', '{'}, {']', '['}};
+        if (ch == '(' || ch == '{' || ch == '[')
+        {
+            ++m_depth[ch];
+            ++m_pieceDepth[ch];
+        }
+        const auto closed = opening.find(ch);
+        if (closed == opening.end())
+            return false;
+        const int depth = --m_depth[closed->second];
+        int& pieceDepth = m_pieceDepth[closed->second];
+        if (pieceDepth == 0)
+            return depth >= 1;
+        --pieceDepth;
+        return true;
+    }
+
+    void TakeQuoted(std::string& piece)
+    {
+        const bool keepsQuotes = !piece.empty();
+        const size_t end = m_rest.find('"', 1);
+        const size_t length = end == std::string::npos ? m_rest.size() : end + 1;
+        const size_t contentEnd = std::min(end, m_rest.size());
+        piece += keepsQuotes ? m_rest.substr(0, length) : m_rest.substr(1, contentEnd - 1);
+        m_rest.erase(0, length);
+    }
+
+    std::string m_rest;
+    std::map<char, int> m_depth;
+    std::map<char, int> m_pieceDepth;
+};
+
+class Generator
+{
+public:
+    explicit Generator(unsigned seed) : m_random(seed) {}
+
+    size_t Below(size_t limit) { return m_random() % limit; }
+    std::string Text(size_t longest)
+    {
+        static const std::string characters = "abR(({[)]})\"\"-;>\x01\x80\xFF ";
+        std::string text;
+        for (size_t length = Below(longest + 1); length > 0; --length)
+            text += characters[Below(characters.size())];
+        return text;
+    }
+    std::vector<Entry> Entries()
+    {
+        static const std::vector<std::string> usual = {"-", "->", "--", ";", "(", ")", "((", "\"", "\"a", "Rest", "Re"};
+        std::vector<Entry> entries;
+        for (size_t count = 1 + Below(4); count > 0; --count)
+        {
+            const std::string target = "to" + std::to_string(count);
+            entries.push_back({Below(4) == 0 ? Text(3) : usual[Below(usual.size())], target});
+        }
+        return entries;
+    }
+
+private:
+    std::mt19937 m_random;
+};
+
+// What several cuts in a row give.
+std::string Cuts(const std::string& text, const std::vector<std::vector<Entry>>& statements)
+{
+    const CString input(text.c_str());
+    ClytScanner scanner(input);
+    std::string log;
+    for (const std::vector<Entry>& entries : statements)
+    {
+        ClytScan scan;
+        for (const Entry& entry : entries)
+            scan.AddSeparator(entry.separator.c_str(), entry.target.c_str());
+        CString piece;
+        const CString target = scanner.Cut(scan, piece);
+        log += std::string(piece) + "|" + target.GetString() + "|" + scanner.GetRest() + "\n";
+    }
+    return log;
+}
+
+std::string PlainCuts(const std::string& text, const std::vector<std::vector<Entry>>& statements)
+{
+    PlainScanner scanner(text);
+    std::string log;
+    for (const std::vector<Entry>& entries : statements)
+    {
+        std::string piece;
+        const std::string target = scanner.Cut(entries, piece);
+        log.append(piece).append("|").append(target).append("|").append(scanner.Rest()).append("\n");
+    }
+    return log;
+}
+
+std::string Cut(const std::string& text, const std::vector<Entry>& entries)
+{
+    return Cuts(text, {entries});
+}
+
+} // namespace
+
+TEST(Scanner, LooksForEverySeparatorThatBeginsWithTheSameCharacter)
+{
+    EXPECT_EQ(Cut("a-b->c", {{"->", "arrow"}, {"--", "dash"}}), "a-b|arrow|c\n");
+    EXPECT_EQ(Cut("a->--c", {{"--", "dash"}, {"->-", "longer"}}), "a|longer|-c\n");
+}
+
+TEST(Scanner, CutsAtSeparatorsThatBeginWithABracket)
+{
+    EXPECT_EQ(Cut("a((b", {{"((", "two"}}), "a|two|b\n");
+    EXPECT_EQ(Cut("(a),b", {{"),", "end"}}), "(a),b||\n");
+    EXPECT_EQ(Cut("a),b", {{"),", "end"}}), "a|end|b\n");
+}
+
+TEST(Scanner, CutsAtSeparatorsThatBeginWithAQuote)
+{
+    EXPECT_EQ(Cut("a\"b\";c\";d", {{"\";", "end"}}), "a\"b\";c|end|d\n");
+    EXPECT_EQ(Cut("a\";\"c", {{"\";", "end"}}), "a|end|\"c\n");
+}
+
+TEST(Scanner, CutsAtAnEmptySeparatorWhereverItStands)
+{
+    EXPECT_EQ(Cut("ab", {{"", "here"}}), "|here|ab\n");
+    EXPECT_EQ(Cut("ab", {{";", "end"}, {"", "here"}}), "|here|ab\n");
+    EXPECT_EQ(Cut("", {{"", "here"}}), "||\n");
+}
+
+TEST(Scanner, CutsAtBytesBeyondAscii)
+{
+    EXPECT_EQ(Cut("a\xE4z\x80\x80z", {{"\x80z", "end"}}), "a\xE4z\x80|end|\n");
+    EXPECT_EQ(Cut("a\xFF", {{"\xFF", "end"}}), "a|end|\n");
+}
+
+TEST(Scanner, EndsWithTheTextAtItsNul)
+{
+    EXPECT_EQ(Cut(std::string("a\0;b", 4), {{";", "end"}, {"Rest", "rest"}}), "a|rest|\n");
+}
+
+TEST(Scanner, CutsAsAWalkOverEveryCharacterDoes)
+{
+    Generator generator(1);
+    for (int round = 0; round < 20000; ++round)
+    {
+        const std::string text = generator.Text(24);
+        std::vector<std::vector<Entry>> statements(1 + generator.Below(4));
+        for (std::vector<Entry>& entries : statements)
+            entries = generator.Entries();
+        ASSERT_EQ(Cuts(text, statements), PlainCuts(text, statements)) << "of " << text;
+    }
+}
