@@ -15,13 +15,13 @@ const char* SkipSpace(const char* text)
     return text;
 }
 
-ClytToken Trimmed(const char* line, const char* start, const char* end, char delimiter)
+void AddTrimmed(ClytTokenList& tokens, const char* line, const char* start, const char* end, char delimiter)
 {
     while (start < end && lytIsSpace(*start))
         ++start;
     while (start < end && lytIsSpace(end[-1]))
         --end;
-    return {line, start, end, delimiter};
+    tokens.AddTail().Set(line, start, end, delimiter);
 }
 
 // The quote that closes the one before `text`, or null. A quote after a backslash is content, and the backslash stays.
@@ -70,7 +70,7 @@ const char* lytTokenize(const char* line, const DelimiterSet& delimiters, ClytTo
         }
         // What stands between a closing quote and the delimiter is dropped.
         const char* end = delimiters.FindIn(textEnd != nullptr ? textEnd + 1 : start);
-        tokens.AddTail(Trimmed(line, start, textEnd != nullptr ? textEnd : end, DelimiterAt(end)));
+        AddTrimmed(tokens, line, start, textEnd != nullptr ? textEnd : end, DelimiterAt(end));
         // A `;` is left standing, and so ends the line.
         start = SkipSpace(*end != '\0' && *end != ';' ? end + 1 : end);
     }
@@ -89,13 +89,13 @@ void lytTokenizeGrouped(const char* text, const char* delimiters, ClytTokenList&
     {
         const char* end = ends.FindIn(start);
         if (*end != '(')
-            tokens.AddTail({text, start, end, DelimiterAt(end)});
+            tokens.AddTail().Set(text, start, end, DelimiterAt(end));
         else
         {
             end = FindGroupEnd(end + 1);
             if (*end != ',')
                 end = ends.FindIn(end);
-            tokens.AddTail(Trimmed(text, start, end, ')'));
+            AddTrimmed(tokens, text, start, end, ')');
         }
         start = *end != '\0' ? end + 1 : end;
     }
