@@ -222,14 +222,16 @@ void CWnd::OnNcDestroy()
 void CWnd::GetWindowText(CString& text) const
 {
     // Most texts are short: only one that may have been cut is worth a second message that asks for its length.
-    constexpr int usualLength = 255;
-    int copied = ::GetWindowTextA(m_hWnd, text.GetBuffer(usualLength), usualLength + 1);
-    if (copied >= usualLength)
+    char usual[256];
+    const int copied = ::GetWindowTextA(m_hWnd, usual, sizeof usual);
+    text.Empty();
+    if (copied < static_cast<int>(sizeof usual) - 1)
     {
-        const int length = ::GetWindowTextLengthA(m_hWnd);
-        copied = ::GetWindowTextA(m_hWnd, text.GetBuffer(length), length + 1);
+        text.Append(usual, copied);
+        return;
     }
-    text.ReleaseBuffer(copied);
+    const int length = ::GetWindowTextLengthA(m_hWnd);
+    text.ReleaseBuffer(::GetWindowTextA(m_hWnd, text.GetBuffer(length), length + 1));
 }
 
 BOOL CWnd::ModifyStyle(DWORD remove, DWORD add) const

@@ -46,7 +46,14 @@ void lytFitToCaption(const CWnd& window, const CWnd& dialog, ClytPosition positi
 
 void lytSetWindowState(const CWnd& window, ClytState state, int on)
 {
-    if (state == ClytState::Active)
+    // At most runs of a rule the window is in its state already. To ask costs little beside what the platform does before
+    // it finds that nothing changes.
+    const bool isActive = state == ClytState::Active;
+    const bool hasStyle = (window.GetStyle() & (isActive ? WS_DISABLED : WS_VISIBLE)) != 0;
+    const bool isOn = isActive ? !hasStyle : hasStyle;
+    if (isOn == (on != 0))
+        return;
+    if (isActive)
         window.EnableWindow(on != 0);
     else
         window.ShowWindow(on != 0 ? SW_SHOW : SW_HIDE);

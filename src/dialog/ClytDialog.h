@@ -14,6 +14,8 @@
 
 #include <afxwin.h>
 
+#include <vector>
+
 // 0 while a dialog creates its controls, then 1. A construction that fails in between leaves it at 0.
 extern int lytControlsReady;
 // 0 while a dialog scans its first input, then 1. A construction that fails in between leaves it at 0.
@@ -104,6 +106,7 @@ private:
     void CreateLayoutControl(const ClytControlStatement& statement);
     void ReadValues();
     void ReadDependencies();
+    void CollectBaselineControls();
     void CreateControlWindows();
     void ReadEvaluations();
     void ReadInputs();
@@ -118,6 +121,7 @@ private:
     void RunRules();
     void RunRule(ClytControlDep& rule);
     static void RunEventRule(ClytControlDep& rule);
+    // Takes the present values of the controls that an event rule compares as the ones to compare with.
     void SaveBaseline();
     int AllConditionsHold(const ClytControlDep& rule);
     bool HoldsForOutput(const ClytDialogOutput& rule);
@@ -128,6 +132,7 @@ private:
     ClytControlMap controlMap;
     ClytControlList controlList; // in layout order
     ClytOwnedList<ClytControlDep> dependencyList;
+    std::vector<ClytControl*> baselineControls; // those of the event rules' conditions, each once
     ClytOutputMap outputMap;
     ClytOwnedList<ClytOutput> outputList;
     ClytInputMap inputMap;

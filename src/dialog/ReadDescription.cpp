@@ -7,6 +7,8 @@
 #include "model/ClytObserver.h"
 #include "model/ClytScale.h"
 
+#include <set>
+
 namespace
 {
 
@@ -149,6 +151,23 @@ void ClytDialog::ReadDependencies()
         }
         dependencyList.AddTail(std::move(rule)).Bind(controlMap);
         rule = std::make_unique<ClytControlDep>();
+    }
+    CollectBaselineControls();
+}
+
+// Other rules never ask whether a control changed, and many rules ask the same control.
+void ClytDialog::CollectBaselineControls()
+{
+    std::set<const ClytControl*> collected;
+    for (POSITION place = dependencyList.GetHeadPosition(); place != nullptr;)
+    {
+        const ClytControlDep& rule = *dependencyList.GetNext(place);
+        for (POSITION at = rule.IsEventRule() ? rule.conditions.GetHeadPosition() : nullptr; at != nullptr;)
+        {
+            ClytControl* control = rule.conditions.GetNext(at)->GetControl();
+            if (control != nullptr && collected.insert(control).second)
+                baselineControls.push_back(control);
+        }
     }
 }
 

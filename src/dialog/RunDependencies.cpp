@@ -107,8 +107,8 @@ void ClytDialog::RunRules()
 
 void ClytDialog::SaveBaseline()
 {
-    for (POSITION place = dependencyList.GetHeadPosition(); place != nullptr;)
-        dependencyList.GetNext(place)->SaveStates();
+    for (ClytControl* control : baselineControls)
+        control->SaveState();
 }
 
 void ClytDialog::RunRule(ClytControlDep& rule)

@@ -72,12 +72,3 @@ int ClytControlDep::AnyChanged() const
     }
     return 0;
 }
-
-void ClytControlDep::SaveStates() const
-{
-    for (POSITION place = conditions.GetHeadPosition(); place != nullptr;)
-    {
-        if (ClytControl* asked = conditions.GetNext(place)->GetControl())
-            asked->SaveState();
-    }
-}

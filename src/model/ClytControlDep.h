@@ -18,8 +18,6 @@ public:
     int AllHold() const;
     // 1 when the control of a condition changed; an unknown control ends the test with 0.
     int AnyChanged() const;
-    // Takes the present values of the conditions' controls as the ones to compare with.
-    void SaveStates() const;
 
     CString controlName; // the control that the rule acts on
     ClytStateWord stateWord;

@@ -196,17 +196,6 @@ TEST_F(DependencyRule, SeesNoChangeAfterAnUnknownControl)
     EXPECT_EQ(Bound().AnyChanged(), 0);
 }
 
-TEST_F(DependencyRule, SavesTheStatesOfItsConditionsControls)
-{
-    controls.Add("A");
-    controls.Add("B");
-    AddCondition(rule.conditions, "A");
-    AddCondition(rule.conditions, "Unknown");
-    AddCondition(rule.conditions, "B");
-    Bound().SaveStates();
-    EXPECT_EQ(controls.TakeLog(), "A.save() B.save() ");
-}
-
 TEST_F(DependencyRule, IsAnEventRuleByItsWord)
 {
     for (const char* word : {"CLEAR", "FILL"})
