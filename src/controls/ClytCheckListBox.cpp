@@ -36,7 +36,9 @@ void ClytCheckListBox::CreateControl(ClytForm* owner)
     for (int index = 0; index < count; ++index)
     {
         AddString(TextOf(displayStrings.GetAt(index)));
-        SetCheck(index, valueStrings.GetAt(index).Left(1) == "X" ? BST_CHECKED : BST_UNCHECKED);
+        // A new item has no mark.
+        if (valueStrings.GetAt(index)[0] == 'X')
+            SetCheck(index, BST_CHECKED);
     }
     if (count > 0)
         DrawItem(&drawRecord);

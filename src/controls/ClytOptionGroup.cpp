@@ -46,8 +46,10 @@ void ClytOptionGroup::Remove(const ClytRadioButtonControl& button)
     for (POSITION place = buttons.GetHeadPosition(); place != nullptr;)
     {
         const POSITION here = place;
-        if (buttons.GetNext(place) == &button)
-            buttons.RemoveAt(here);
+        if (buttons.GetNext(place) != &button)
+            continue;
+        buttons.RemoveAt(here);
+        return;
     }
 }
 
@@ -83,8 +85,11 @@ void ClytOptionGroup::SetOption(const CStringList& values, const CString& /*keyw
 
 void ClytOptionGroup::SetValue(const CString& value)
 {
+    if (value.IsEmpty() || buttons.IsEmpty())
+        return;
     for (POSITION place = buttons.GetHeadPosition(); place != nullptr;)
-        buttons.GetNext(place)->SetValue(value);
+        buttons.GetNext(place)->Mark(value);
+    PlaceTabStop();
 }
 
 CString ClytOptionGroup::GetValue()

@@ -21,7 +21,10 @@ public:
     // A button joins the group of the last "OptionGroup" statement; without one it stands alone.
     static void AddToCurrentGroup(ClytRadioButtonControl& button);
     void Remove(const ClytRadioButtonControl& button);
-    // The Tab key reaches the chosen option, or the first while none is chosen.
+    // Whether the button is the group's last, whose window comes last, too.
+    bool EndsWith(const ClytRadioButtonControl& button) const { return buttons.GetTail() == &button; }
+    // The Tab key reaches the chosen option, or the first while none is chosen. It asks one option after the other, so
+    // what sets many of them calls it once.
     void PlaceTabStop();
 
     void CreateControl(ClytForm* owner) override;

@@ -22,6 +22,8 @@ void ClytRadioButtonControl::CreateControl(ClytForm* owner)
     ApplyOptionFlags();
     // Without a preselected button the whole group starts without a mark, its first button included.
     Check(preselected == 1);
+    if (group != nullptr && group->EndsWith(*this))
+        group->PlaceTabStop();
 }
 
 void ClytRadioButtonControl::SetOption(const CStringList& values, const CString& /*keyword*/)
@@ -32,13 +34,9 @@ void ClytRadioButtonControl::SetOption(const CStringList& values, const CString&
 
 void ClytRadioButtonControl::SetValue(const CString& value)
 {
-    if (!value.IsEmpty())
-        Check(value == optionValue);
-}
-
-void ClytRadioButtonControl::Check(bool isChecked)
-{
-    SetCheck(isChecked ? BST_CHECKED : BST_UNCHECKED);
+    if (value.IsEmpty())
+        return;
+    Mark(value);
     if (group != nullptr)
         group->PlaceTabStop();
 }

@@ -19,6 +19,8 @@ public:
     void SetControlFocus() override { SetFocus(); }
     // Its own value checks it and another one unchecks it; an empty one does nothing.
     void SetValue(const CString& value) override;
+    // The same for a value that is not empty, with the tab stop left to the group, which sets many in a row.
+    void Mark(const CString& value) { Check(value == optionValue); }
     CString GetValue() override { return optionValue; }
     int IsChanged() override { return GetCheck() != savedState ? 1 : 0; }
 
@@ -28,7 +30,7 @@ public:
     void TakeGroupOption(ClytOption option) { TakeCommonOption(lytTextOf(option)); }
 
 private:
-    void Check(bool isChecked);
+    void Check(bool isChecked) const { SetCheck(isChecked ? BST_CHECKED : BST_UNCHECKED); }
 
     CString optionValue;
     int preselected = 0;
