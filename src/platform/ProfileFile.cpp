@@ -6,10 +6,10 @@
 #include <afx.h>
 #include <algorithm>
 #include <cstring>
-#include <ctime>
+#include <fcntl.h>
 #include <memory>
 #include <string_view>
-#include <vector>
+#include <unistd.h>
 
 namespace
 {
@@ -17,6 +17,17 @@ namespace
 struct CloseFile
 {
     void operator()(std::FILE* file) const { std::fclose(file); }
+};
+
+// A file that cannot be opened has no descriptor, and nothing can be read from it.
+struct FileToRead
+{
+    explicit FileToRead(const std::string& path) : descriptor(::open(path.c_str(), O_RDONLY | O_CLOEXEC)) {}
+    FileToRead(const FileToRead&) = delete;
+    FileToRead& operator=(const FileToRead&) = delete;
+    ~FileToRead() { ::close(descriptor); }
+
+    int descriptor;
 };
 
 struct Line
@@ -54,19 +65,26 @@ CString Text(std::string_view text)
 // The blanks round either name do not count, nor does case.
 bool SameName(std::string_view left, std::string_view right)
 {
-    return Text(Trimmed(left)).CompareNoCase(Text(Trimmed(right))) == 0;
+    const std::string_view leftName = UpToNul(Trimmed(left));
+    const std::string_view rightName = UpToNul(Trimmed(right));
+    return leftName.size() == rightName.size() && Text(leftName).CompareNoCase(Text(rightName)) == 0;
 }
 
-// Empty for a file that cannot be read, a folder among them.
+// Empty for a file that cannot be read, a folder among them. A language file is read for each text that a dialog shows,
+// so it is read at once and without a stream.
 std::string ReadWholeFile(const char* fileName)
 {
     std::string content;
-    const std::unique_ptr<std::FILE, CloseFile> file(std::fopen(NativePath(fileName).c_str(), "rb"));
-    if (file == nullptr)
-        return content;
-    char block[8192];
-    for (size_t count = 0; (count = std::fread(block, 1, sizeof block, file.get())) != 0;)
-        content.append(block, count);
+    const FileToRead file(NativePath(fileName));
+    constexpr size_t blockSize = 16384;
+    size_t length = 0;
+    for (ssize_t count = blockSize; count == blockSize;)
+    {
+        content.resize(length + blockSize);
+        count = ::read(file.descriptor, content.data() + length, blockSize);
+        length += static_cast<size_t>(std::max<ssize_t>(count, 0));
+    }
+    content.resize(length);
     return content;
 }
 
@@ -88,31 +106,58 @@ Line SplitLine(std::string_view text)
             hasValue ? UpToNul(Trimmed(text.substr(equals + 1))) : std::string_view()};
 }
 
-// The lines of the first section of that name. What stands ahead of the first section line is a section with an empty
-// name. Blank lines are left out; comments stay for the caller to judge.
-std::vector<Line> SectionLines(std::string_view file, std::string_view section)
+// Takes the first line off a text, and gives it without the blanks round it. A carriage return alone ends a line, too.
+std::string_view TakeLine(std::string_view& rest)
 {
-    std::vector<Line> lines;
-    bool inside = SameName(section, "");
-    bool found = inside;
-    while (!file.empty())
-    {
-        const size_t end = std::min(file.find_first_of("\r\n"), file.size());
-        const std::string_view text = Trimmed(file.substr(0, end));
-        file.remove_prefix(std::min(end + 1, file.size()));
+    const std::string_view line = rest.substr(0, rest.find('\n'));
+    const size_t end = std::min(line.find('\r'), line.size());
+    rest.remove_prefix(std::min(end + 1, rest.size()));
+    return Trimmed(line.substr(0, end));
+}
 
+// Whether only blanks stand before a place in its line.
+bool IsFirstOfLine(std::string_view file, size_t place)
+{
+    for (; place > 0 && file[place - 1] != '\n' && file[place - 1] != '\r'; --place)
+    {
+        if (!IsBlank(file[place - 1]))
+            return false;
+    }
+    return true;
+}
+
+// What follows the line of the first section of that name. What stands ahead of the first section line is a section with
+// an empty name.
+std::string_view TextOfSection(std::string_view file, std::string_view section)
+{
+    if (SameName(section, ""))
+        return file;
+    for (size_t bracket = file.find('['); bracket != std::string_view::npos; bracket = file.find('[', bracket + 1))
+    {
+        std::string_view rest = file.substr(bracket);
+        std::string_view name;
+        if (IsFirstOfLine(file, bracket) && IsSectionLine(TakeLine(rest), name) && SameName(name, section))
+            return rest;
+    }
+    return {};
+}
+
+// Takes the next line off the text of a section; false at the end of the section. Blank lines are left out; comments
+// stay for the caller to judge.
+bool TakeSectionLine(std::string_view& rest, Line& line)
+{
+    while (!rest.empty())
+    {
+        const std::string_view text = TakeLine(rest);
         std::string_view name;
         if (IsSectionLine(text, name))
-        {
-            if (inside)
-                break;
-            inside = !found && SameName(name, section);
-            found = found || inside;
-        }
-        else if (inside && !text.empty())
-            lines.push_back(SplitLine(text));
+            return false;
+        if (text.empty())
+            continue;
+        line = SplitLine(text);
+        return true;
     }
-    return lines;
+    return false;
 }
 
 std::string_view Unquoted(std::string_view value)
@@ -187,11 +232,12 @@ DWORD GetPrivateProfileStringA(const char* section, const char* key, const char*
                                const char* fileName)
 {
     const std::string file = ReadWholeFile(fileName);
-    std::string_view value = Default(defaultText);
-    const std::vector<Line> lines = SectionLines(file, section);
-    const auto line = std::ranges::find_if(lines, [&](const Line& each) { return SameName(each.name, key); });
-    if (line != lines.end() && line->hasValue)
-        value = line->value;
+    std::string_view rest = TextOfSection(file, section);
+    Line line{};
+    bool isFound = false;
+    while (!isFound && TakeSectionLine(rest, line))
+        isFound = SameName(line.name, key);
+    const std::string_view value = isFound && line.hasValue ? line.value : Default(defaultText);
     const size_t written = Unquoted(value).copy(buffer, size - 1);
     buffer[written] = '\0';
     return static_cast<DWORD>(written);
@@ -201,7 +247,8 @@ DWORD GetPrivateProfileSectionA(const char* section, char* buffer, DWORD size, c
 {
     const std::string file = ReadWholeFile(fileName);
     std::string lines;
-    for (const Line& line : SectionLines(file, section))
+    std::string_view rest = TextOfSection(file, section);
+    for (Line line{}; TakeSectionLine(rest, line);)
     {
         if (line.isComment)
             continue;
