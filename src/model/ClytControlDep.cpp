@@ -33,7 +33,6 @@ ClytTested TestChange(const ClytCtrlValList& condition)
 
 void ClytControlDep::Bind(const ClytControlMap& controls)
 {
-    control = nullptr;
     controls.Lookup(controlName, control);
     lytBindConditions(conditions, controls);
 }

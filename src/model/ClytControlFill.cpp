@@ -5,7 +5,6 @@
 
 void ClytControlFill::Bind(const ClytControlMap& controls)
 {
-    control = nullptr;
     controls.Lookup(controlName, control);
 }
 
