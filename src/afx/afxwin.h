@@ -31,7 +31,7 @@ class CWnd : public CCmdTarget
 {
 public:
     CWnd() = default;
-    // A window that still stands goes too; no message reaches the dying object.
+    // A window that still exists is destroyed; no message reaches the dying object.
     ~CWnd() override;
 
     HWND m_hWnd = nullptr;

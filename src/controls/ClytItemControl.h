@@ -1,5 +1,5 @@
 // What list box, check list and combo box share: items of two texts each, the statements and the library that they come
-// from, and the operations that are the same in all three. What differs stands in the classes themselves.
+// from, and the operations that are the same in all three. What differs is in the classes themselves.
 //
 // An item has the text that is shown and the value that is delivered; an index names both and the window's item. Where
 // an index leaves the arrays, the invalid-argument exception is raised.

@@ -50,8 +50,8 @@ public:
     // Keeps the keyboard working: the focus of a control that a rule disables goes to the next tab stop.
     void RunDependencies() override;
     // False when a command that arrives now must not run the rules: while windows are created or the first input is
-    // scanned, when a value that the innermost run reads moved the focus, and when too many runs stand one inside the
-    // other. In the last case the innermost run makes up for the one that it refuses.
+    // scanned, when a value that the innermost run reads moved the focus, and when runs are nested too deep. In the
+    // last case the innermost run makes up for the one that it refuses.
     [[nodiscard]] bool MayRunRules();
 
     // Scans lytInputKey into the controls, empties it and takes the baseline of every control.

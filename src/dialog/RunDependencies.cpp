@@ -13,8 +13,8 @@ int lytInputApplied = 0;
 namespace
 {
 
-// How many runs may stand one inside the other. The platform delivers some sixty messages one inside the other and drops
-// what goes beyond without a word. A run takes two of them or more, and the dialogs below this one have had theirs.
+// How deep runs may be nested. The platform delivers some sixty messages one inside the other and drops any beyond
+// that without a word. A run takes two of them or more, and the dialogs below this one have had theirs.
 constexpr int deepestRun = 10;
 
 // How many runs the innermost one makes up for, so that rules that set each other off come to an end.
@@ -81,8 +81,8 @@ bool ClytDialog::MayRunRules()
 }
 
 // A run that was refused is made up for as soon as its rule has acted, by a pass of its own with a baseline of its own,
-// and the rule keeps its mark until then. So the rules come to what they would come to if runs nested without a limit; only
-// the stack stays as it is.
+// and the rule keeps its mark until then. So the rules come to what they would come to if runs nested without a limit;
+// only the stack stays as it is.
 void ClytDialog::RunRules()
 {
     Run run(*this);

@@ -8,7 +8,7 @@
 
 #include <memory>
 
-// What stands above a message, with a line feed between them: a text, or the text of a key of the numbered errors, which
+// What comes above a message, with a line feed between them: a text, or the text of a key of the numbered errors, which
 // is looked up when the message is worded.
 class ClytPrefix
 {

@@ -1,5 +1,5 @@
 // Writes what the macros want logged into a text file named after the document. The file is opened, written and closed
-// for each message, so that a block of its own stands in it:
+// for each message, which thus has a block of its own in it:
 //
 //     -----------------------------------------------------------------------------
 //     START...  Date 11/20/26           Time 09:15:00

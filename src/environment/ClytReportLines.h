@@ -1,6 +1,6 @@
-// The lines of the report, in order, until a reader has come to its end. Readers name a line by its index; the place found last
-// is kept, so that a walk from line to line costs one step a line. Lines go all at once, so the kept place never outlives
-// its line.
+// The lines of the report, in order, until a reader has come past its end. Readers name a line by its index; the place
+// found last is kept, so that a walk from line to line costs one step for each. Lines are removed all at once, so the
+// kept place never outlives its line.
 #pragma once
 
 #include <afxcoll.h>
@@ -9,7 +9,7 @@ class ClytReportLines
 {
 public:
     void AddTail(CString line) { lines.AddTail(std::move(line)); }
-    // Null when no line stands at the index.
+    // Null when there is no line at the index.
     const CString* Find(int index);
     void RemoveAll();
     const CStringList& GetLines() const { return lines; }

@@ -81,7 +81,7 @@ public:
 protected:
     // Takes an option word and answers 1, or answers 0 for any other word.
     int TakeCommonOption(const CString& word);
-    // Where the statement stands that SetOption is given.
+    // The place of the statement that SetOption is given.
     const ClytSpan& StatementSpan() const { return statementSpan; }
 
     ClytPosition position;

@@ -85,7 +85,7 @@ public:
     // A control is about to be filled by its library; its list is still as it was.
     virtual void LibraryAsked(const ClytControl& /*control*/) {}
 
-    // A run of the rules, counted from 1 as they stand one inside the other. It ends on every way out.
+    // A run of the rules; the depth counts nested runs from 1. It ends on every way out.
     virtual void RunBegan(int /*depth*/) {}
     virtual void RunEnded(int /*depth*/) {}
     // The conditions of a rule that were looked at are reported in their order, and then what comes of the rule, before

@@ -1,5 +1,5 @@
-// The words of the description language that have a meaning, one table for each kind, for the reader, the rules, the controls
-// and the tools. A word that a table does not have means Other.
+// The words of the description language that have a meaning, one table for each kind, for the reader, the rules, the
+// controls and the tools. A word that a table does not have means Other.
 #pragma once
 
 #include "base/Words.h"

@@ -33,7 +33,7 @@ struct FileToRead
 struct Line
 {
     bool isComment;
-    bool hasValue;          // an '=' stands in it
+    bool hasValue;          // there is an '=' in it
     std::string_view name;  // before the first '=', or the whole line
     std::string_view value; // after it
 };
@@ -126,7 +126,7 @@ bool IsFirstOfLine(std::string_view file, size_t place)
     return true;
 }
 
-// What follows the line of the first section of that name. What stands ahead of the first section line is a section with
+// What follows the line of the first section of that name. What comes before the first section line is a section with
 // an empty name.
 std::string_view TextOfSection(std::string_view file, std::string_view section)
 {

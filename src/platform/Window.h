@@ -30,7 +30,7 @@ public:
 
     // The procedure that a window of the class has until someone replaces it.
     virtual LRESULT Handle(UINT message, WPARAM wParam, LPARAM lParam);
-    // Called once, when the window stands in the tree.
+    // Called once, when the window is in the tree.
     virtual void OnCreated() {}
     // Called when a program has replaced the style.
     virtual void OnStyleChanged() {}
@@ -50,7 +50,7 @@ public:
     POINT ClientOrigin() const;
     // The children in order of creation, as handles: what is sent to one may destroy another.
     std::vector<HWND> ChildHandles() const;
-    // The top-level window that this one stands in.
+    // The top-level window that this one is in.
     Window& Root();
 
     HWND handle = nullptr;

@@ -1,5 +1,5 @@
 // The platform's types, constants and functions for the native build: only those that our sources, their tests and tools
-// name. What the functions do to windows held in memory stands in the sources beside this header; functions that only
+// name. What the functions do to windows held in memory is in the sources beside this header; functions that only
 // draw do nothing.
 #pragma once
 

@@ -1,6 +1,6 @@
 // The browser in which an author picks an entry of a catalogue.
 //
-// The whole catalogue stands in the control before the dialog shows. It is read from its data source once and kept; a
+// The whole catalogue is in the control before the dialog shows. It is read from its data source once and kept; a
 // later opening shows it again, with the branches that were open and the entry that was chosen at the last confirmation.
 #pragma once
 
@@ -14,8 +14,8 @@ public:
     // The first character of a request says what may be picked:
     //   S  symbols                         G  groups; symbols are not shown
     //   P  groups of the para tree         W  any entry, for the wizard
-    // Any other letter asks for entries of that type, of which there may be none. The rest is the key (for other kinds than
-    // groups, its beginning) of the entry to select at opening.
+    // Any other letter asks for entries of that type, of which there may be none. The rest is the key (for kinds other
+    // than groups, its beginning) of the entry to select at opening.
     explicit ClytTreeDialog(const CString& request);
 
     // The key of the entry picked; in kind W, its type, key and label.

@@ -100,7 +100,7 @@ void Print(const char* format, ...)
     std::printf("%*s", depth * 2, "");
     va_list arguments;
     va_start(arguments, format);
-    std::vprintf(format, arguments); // NOLINT(clang-analyzer-valist.Uninitialized): va_start stands above
+    std::vprintf(format, arguments); // NOLINT(clang-analyzer-valist.Uninitialized): va_start is above
     va_end(arguments);
     std::printf("\n");
 }

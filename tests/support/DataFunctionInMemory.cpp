@@ -1,4 +1,4 @@
-// Natively libraries stand in a table, which knows the function from the start of the program.
+// Natively libraries are entries of a table, which knows the function from the start of the program.
 #include "platform/PartnerLibraries.h"
 #include "support/DataFunction.h"
 

@@ -8,7 +8,7 @@
 namespace
 {
 
-// One line of what was read; texts stand there with their length, so that no two lines look alike by chance.
+// One line of what was read; texts are given with their length, so that no two lines look alike by chance.
 class Record
 {
 public:

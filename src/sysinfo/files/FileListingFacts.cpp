@@ -22,8 +22,8 @@ std::tm CalendarTime(const SYSTEMTIME& time)
     return calendar;
 }
 
-// The time is converted to local time twice, so it shows the zone's offset twice. Reports in use are compared with each other
-// and have always shown that.
+// The time is converted to local time twice, so it shows the zone's offset twice. Reports in use are compared with each
+// other and have always shown that.
 CString DateOf(const FILETIME& written)
 {
     FILETIME local = {};
