@@ -78,8 +78,8 @@ extern "C"
      * counts as changed whenever the user confirms.
      *
      * A first part that is longer than its buffer is refused with a message: the buffer is then empty, and the result
-     * is 0. A second part that does not fit leaves its buffer empty; one that is longer than secondSize also writes a NUL
-     * at second[secondSize]. A second buffer that is null, or whose size is below 1, is not written to. */
+     * is 0. A second part that does not fit leaves its buffer empty; one longer than secondSize also writes a NUL at
+     * second[secondSize]. A second buffer that is null, or whose size is below 1, is not written to. */
     int __stdcall lytGroupPropertyDialog(int kind, const char* key, char* first, int firstSize, char* second,
                                          int secondSize);
 
@@ -168,8 +168,8 @@ extern "C"
     /* Copies the line of an index, counted from 0, to the target and returns 1; a longer line is cut to size - 1
      * characters, and the last byte, target[size - 1], becomes a NUL however short the line is. An index without a line
      * frees the report, leaves the target as it was and returns 0: so read upward from 0 until 0 comes back, which
-     * takes time in proportion to their number. An empty line is a line. Once the report is freed, every index gives 0 until the
-     * next lytSystemInfoInit. */
+     * takes time in proportion to their number. An empty line is a line. Once the report is freed, every index gives 0
+     * until the next lytSystemInfoInit. */
     int __stdcall lytSystemInfoRead(int index, char* target, int size);
 
 #ifdef __cplusplus

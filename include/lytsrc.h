@@ -21,7 +21,7 @@
  * a call: FreeGlobalObject then drops what is kept, and not the run that is being read.
  *
  * The functions must not raise. If one does all the same, what was read of the run is dropped and the catalogue stays as
- * it was before, so that the next use starts a new run. The browser shows the failure and stands empty;
+ * it was before, so that the next use starts a new run. The browser shows the failure and stays empty;
  * lytGetSymbolfromTree lets the exception through to its caller.
  *
  * The order of the records is the order on the screen, depth first: an entry follows the entry it belongs to, and

@@ -1,4 +1,4 @@
-// The catalogue as a list: the symbols that stand directly below one of its groups.
+// The catalogue as a list: the symbols directly below one of its groups.
 //
 //     OpenSymbols, NextSymbol    the parameter is the key of the group
 //
