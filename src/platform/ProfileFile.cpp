@@ -197,9 +197,9 @@ Place PlaceOf(std::string_view file, std::string_view section, std::string_view 
                 return place;
             inside = SameName(name, section);
         }
-        else if (inside && !text.empty() && SameName(SplitLine(text).name, key))
+        else if (inside && SameName(SplitLine(text).name, key))
             return {begin, end};
-        if (inside && !text.empty())
+        if (inside)
             place = {end, end};
         begin = end;
     }

@@ -5,6 +5,7 @@
 #include "support/TestFolder.h"
 
 #include <gtest/gtest.h>
+#include <windows.h>
 
 #include <algorithm>
 #include <ostream>
@@ -397,5 +398,28 @@ TEST(ProfileSection, ReportsTheCutOfALargeSectionAsTwoLessThanTheBuffer)
         const Section section = ReadSection("[s]\r\na=" + std::string(length, 'x') + "\r\n", "s", 2048);
         EXPECT_EQ(section.count, length == 2042 ? 2045 : 2046);
         EXPECT_EQ(section.lines, "a=" + std::string(std::min<size_t>(length, 2044), 'x'));
+    }
+}
+
+TEST(ProfileText, IsWrittenOverItsOldValueOrAtTheEndOfItsSection)
+{
+    static const struct
+    {
+        const char* section;
+        const char* before;
+        const char* after;
+    } cases[] = {
+        {"s", "", "[s]\r\nk=v\r\n"},
+        {"s", "[s]\r\nk=old\r\na=1\r\n", "[s]\r\nk=v\r\na=1\r\n"},
+        {"s", "[s]\r\na=1\r\n[t]\r\nk=2\r\n", "[s]\r\na=1\r\nk=v\r\n[t]\r\nk=2\r\n"},
+        {"t", "[s]\r\nk=1\r\n[t]\r\nb=2\r\n", "[s]\r\nk=1\r\n[t]\r\nb=2\r\nk=v\r\n"},
+        {"u", "[s]\r\na=1", "[s]\r\na=1\r\n[u]\r\nk=v\r\n"},
+    };
+    for (const auto& c : cases)
+    {
+        SCOPED_TRACE(c.after);
+        const TestFolder folder;
+        ASSERT_TRUE(::WritePrivateProfileStringA(c.section, "k", "v", folder.Write("test.ini", c.before).c_str()));
+        EXPECT_EQ(folder.Read("test.ini"), c.after);
     }
 }
