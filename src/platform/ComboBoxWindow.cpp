@@ -162,6 +162,8 @@ void ComboBoxWindow::HandleEdit(UINT code)
 void ComboBoxWindow::ShowCurrent()
 {
     ShowText(m_items.Current() >= 0 ? m_items.At(m_items.Current()).text : std::string());
+    if (HasEdit() && ::GetFocus() == m_edit)
+        ::SendMessageA(m_edit, EM_SETSEL, 0, -1);
 }
 
 void ComboBoxWindow::ShowText(const std::string& shown)

@@ -134,13 +134,11 @@ void ComboBoxWindow::Choose(int index)
     m_keepsCurrent = HasEdit();
 }
 
-// The keys go on from the first item that begins with the text.
+// The keys go on from the first item that begins with the text, or else from the top.
 void ComboBoxWindow::MoveCaretToText()
 {
     const std::string& typed = Desktop::Get().Find(m_edit)->text;
-    const int found = typed.empty() ? -1 : m_items.FindPrefix(typed, 0);
-    if (found >= 0)
-        m_caret = found;
+    m_caret = typed.empty() ? 0 : std::max(0, m_items.FindPrefix(typed, 0));
 }
 
 // A list that opens under free text selects the first item that begins with it, and completes the text.

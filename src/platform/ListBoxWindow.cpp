@@ -104,7 +104,10 @@ LRESULT ListBoxWindow::ChangeItems(UINT message, int index, const char* itemText
     default: m_items.Clear(); m_caret = m_top = 0;
     }
     if (std::exchange(m_hadBar, HasBar()) != m_hadBar)
+    {
         place.bottom = place.top + Adjusted({0, place.bottom - place.top}).cy;
+        m_top = std::min(m_top, LastTop());
+    }
     return result;
 }
 
@@ -118,8 +121,7 @@ LRESULT ListBoxWindow::HandleInput(UINT message, WPARAM wParam, LPARAM lParam)
         const int index = ItemAt(lParam);
         if (!m_items.Has(index))
             return 0;
-        m_items.Select(index);
-        m_caret = index;
+        Select(index);
         m_isPressed = true;
         ::SetCapture(handle);
         return 0;
@@ -179,10 +181,7 @@ LRESULT ListBoxWindow::Delete(int index)
 {
     const int left = m_items.Delete(index);
     if (left >= 0)
-    {
         m_caret = std::max(0, std::min(m_caret, left - 1));
-        m_top = std::min(m_top, LastTop());
-    }
     return left;
 }
 
@@ -192,10 +191,11 @@ int ListBoxWindow::LastTop() const
     return std::max(0, m_items.Count() - VisibleItems());
 }
 
+// Items that were deleted may have left room below the last one: the list closes it when the top item is chosen.
 void ListBoxWindow::ShowItem(int index)
 {
-    if (index < m_top)
-        m_top = index;
+    if (index <= m_top)
+        m_top = std::min(index, LastTop());
     else if (index >= m_top + VisibleItems())
         m_top = index - VisibleItems() + 1;
 }

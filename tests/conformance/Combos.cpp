@@ -72,6 +72,14 @@ void AddUse(Stage& stage, const CComboBox& combo, const CEdit& before)
     // The emulator leaves the item that a key has chosen to the first character typed after it.
     act("a letter", [] { robot::TypeText("b"); });
     act("another letter", [] { robot::TypeText("e"); });
+    act("a letter that two items begin with, twice",
+        [&]
+        {
+            combo.SetCurSel(0);
+            robot::TypeText("b");
+            PrintState(combo);
+            robot::TypeText("b");
+        });
     act("drawing off and on",
         [&]
         {

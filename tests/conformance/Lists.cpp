@@ -152,6 +152,18 @@ void AddUse(Stage& stage, const CListBox& list)
                 robot::PressKey(key);
             });
     }
+    act("delete with the last item in view",
+        [&]
+        {
+            list.SendMessage(LB_SETTOPINDEX, 99);
+            Print("top %d", list.GetTopIndex());
+            while (list.GetCount() > 1)
+            {
+                list.DeleteString(0);
+                Print("%d left, top %d", list.GetCount(), list.GetTopIndex());
+            }
+            AddMany(list);
+        });
     act("drawing off and on",
         [&]
         {

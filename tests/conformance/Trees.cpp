@@ -176,6 +176,7 @@ void Run(const char* title, bool withImages)
     act("a letter", [] { robot::TypeText("d"); });
     act("return", [] { robot::PressKey(VK_RETURN); });
     act("tab", [] { robot::PressKey(VK_TAB); });
+    act("click a label with the focus elsewhere", [&] { items.Click("c5"); });
     stage.Act("delete all",
               [&]
               {
