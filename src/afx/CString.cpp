@@ -104,6 +104,11 @@ void CString::Append(const char* text, int length)
     m_text.append(text, static_cast<size_t>(length));
 }
 
+void CString::Preallocate(int length)
+{
+    m_text.reserve(static_cast<size_t>(length));
+}
+
 CString CString::Left(int count) const
 {
     return Mid(0, count);

@@ -53,6 +53,8 @@ public:
     CString& operator+=(const char* text);
     CString& operator+=(char ch);
     void Append(const char* text, int length);
+    // Room for that many characters; the text stays as it is.
+    void Preallocate(int length);
 
     // Parts of the text; positions and counts outside it are moved to its ends.
     CString Left(int count) const;

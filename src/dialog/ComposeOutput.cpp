@@ -7,6 +7,8 @@
 #include "environment/ProcessState.h"
 #include "model/ClytObserver.h"
 
+#include <algorithm>
+
 namespace
 {
 
@@ -63,6 +65,15 @@ private:
     const CString& format;
     int place = 0;
 };
+
+// The room that a result needs, or more where the format limits an item or leaves it out.
+int LengthAtMost(const CString& format, const CStringArray& items)
+{
+    int length = format.GetLength();
+    for (int index = 0; index < items.GetCount(); ++index)
+        length += items[index].GetLength();
+    return length;
+}
 
 ClytTested Test(const ClytCtrlValList& condition)
 {
@@ -188,23 +199,21 @@ CString ClytDialog::FormatOutput(const CString& format, const CStringArray& item
     if (format.Find('%') < 0)
         return format;
     CString text;
+    text.Preallocate(LengthAtMost(format, items));
     int nextItem = 0;
     FormatReader reader(format);
     while (!reader.IsAtEnd())
     {
-        CString piece = reader.TakePiece();
+        const CString piece = reader.TakePiece();
         const Conversion conversion(piece);
         if (conversion.isLimited && piece.Find('s') < 0)
             AfxThrowInvalidArgException();
-        if (conversion.takesItem)
-        {
-            const CString& item = items[nextItem++];
-            piece = conversion.isLimited ? item.Left(conversion.limit) : item;
-        }
+        const CString& put = conversion.takesItem ? items[nextItem++] : piece;
+        const int length = conversion.isLimited ? std::clamp(conversion.limit, 0, put.GetLength()) : put.GetLength();
         // An item that is a lone backslash goes the same way.
-        const bool isEscape = piece == "\\" && reader.IsBeforeQuote();
+        const bool isEscape = length == 1 && put[0] == '\\' && reader.IsBeforeQuote();
         if (!isEscape)
-            text += piece;
+            text.Append(put, length);
     }
     ExpandEscapes(text);
     return text;
@@ -212,10 +221,8 @@ CString ClytDialog::FormatOutput(const CString& format, const CStringArray& item
 
 void ClytDialog::ExpandEscapes(CString& text)
 {
-    for (int place = 0; place + 2 < text.GetLength(); ++place)
+    for (int place = text.Find('\\'); place >= 0 && place + 2 < text.GetLength(); place = text.Find('\\', place + 1))
     {
-        if (text[place] != '\\')
-            continue;
         const char next = text[place + 1];
         if (next != 'n' && next != 't')
             continue;
