@@ -6,8 +6,10 @@
 
 #include <afx.h>
 
+#include <functional>
 #include <list>
 #include <string>
+#include <string_view>
 #include <unordered_map>
 #include <utility>
 #include <vector>
@@ -168,7 +170,7 @@ public:
     // True and the value when the key is there; the value is left alone otherwise.
     bool Lookup(const char* key, void*& value) const
     {
-        const auto entry = m_entries.find(key);
+        const auto entry = m_entries.find(std::string_view(key));
         if (entry == m_entries.end())
             return false;
         value = entry->second;
@@ -178,5 +180,11 @@ public:
     void RemoveAll() { m_entries.clear(); }
 
 private:
-    std::unordered_map<std::string, void*> m_entries;
+    // Finds a key without making a string of it.
+    struct Hash : std::hash<std::string_view>
+    {
+        using is_transparent = void;
+    };
+
+    std::unordered_map<std::string, void*, Hash, std::equal_to<>> m_entries;
 };

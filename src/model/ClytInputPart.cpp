@@ -36,39 +36,39 @@ void ClytInputPart::Run(CString text, const CString& name) const
     ClytScanner scanner(text);
     if (lytObserver != nullptr)
         lytObserver->ScanBegan(scanner.GetRest());
-    CString next = name;
+    const CString* next = &name; // then a statement's own
     ClytSpan asker = span;
     int idle = 0;
     CString piece; // kept from statement to statement with the room that it has
-    while (!lytSameWord(next, "End"))
+    while (!lytSameWord(*next, "End"))
     {
-        const ClytDialogInput* statement = Find(next);
+        const ClytDialogInput* statement = Find(*next);
         if (statement == nullptr)
         {
-            lytTellMissing(ClytMissing::InputStatement, next, nullptr, asker);
+            lytTellMissing(ClytMissing::InputStatement, *next, nullptr, asker);
             return;
         }
         asker = statement->span;
         const char* before = scanner.GetRest();
-        next = RunStatement(*statement, scanner, piece);
+        next = &RunStatement(*statement, scanner, piece);
         idle = scanner.GetRest() == before ? idle + 1 : 0;
         if (idle == circleLimit)
             lytRaise("206", "The input statements go round in a circle.");
     }
 }
 
-CString ClytInputPart::RunStatement(const ClytDialogInput& statement, ClytScanner& scanner, CString& piece)
+const CString& ClytInputPart::RunStatement(const ClytDialogInput& statement, ClytScanner& scanner, CString& piece)
 {
     const ClytScanRule& rule = statement.scanRule;
     if (rule.scan.HasScan() == 0)
     {
-        CString next = statement.ConditionsHold() != 0 ? statement.trueTarget : statement.falseTarget;
+        const CString& next = statement.ConditionsHold() != 0 ? statement.trueTarget : statement.falseTarget;
         if (lytObserver != nullptr)
             lytObserver->Jumped(statement, next);
         return next;
     }
     piece.Empty();
-    CString next = scanner.Cut(rule.scan, piece);
+    const CString& next = scanner.Cut(rule.scan, piece);
     if (lytObserver != nullptr)
         lytObserver->Cut(statement, piece, scanner.GetRest(), next);
     rule.ApplyFills(piece);

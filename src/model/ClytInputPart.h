@@ -23,8 +23,8 @@ public:
     ClytSpan span; // of the header
 
 private:
-    // Gives the name of the statement that goes on; `piece` is where a piece is cut to.
-    static CString RunStatement(const ClytDialogInput& statement, ClytScanner& scanner, CString& piece);
+    // Gives the statement's name of the one that goes on; `piece` is where a piece is cut to.
+    static const CString& RunStatement(const ClytDialogInput& statement, ClytScanner& scanner, CString& piece);
 
     ClytOwnedList<ClytDialogInput> statements;
     CTypedPtrMap<CMapStringToPtr, CString, ClytDialogInput*> statementsByName;

@@ -13,15 +13,16 @@ const ClytSeparator* ClytScan::FindSeparator(const char* rest) const
     return nullptr;
 }
 
-CString ClytScan::TargetOf(const CString& separatorText) const
+const CString& ClytScan::TargetOf(const char* separatorText) const
 {
+    static const CString none;
     for (POSITION place = separators.GetHeadPosition(); place != nullptr;)
     {
         const ClytSeparator& separator = *separators.GetNext(place);
         if (separator.text == separatorText)
             return separator.target;
     }
-    return {};
+    return none;
 }
 
 void ClytScan::SetFixedLength(int pieceLength, const CString& statementName, const ClytSpan& place)

@@ -15,7 +15,7 @@ public:
     // The separator at the start of the rest, the first in file order that fits, or null.
     const ClytSeparator* FindSeparator(const char* rest) const;
     // The statement after the first separator of that text; empty when there is none.
-    CString TargetOf(const CString& separatorText) const;
+    const CString& TargetOf(const char* separatorText) const;
 
     // The later of the two kinds of entry decides: a separator wipes an earlier fixed length.
     void SetFixedLength(int pieceLength, const CString& statementName, const ClytSpan& place = {});
