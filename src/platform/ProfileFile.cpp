@@ -76,15 +76,12 @@ std::string ReadWholeFile(const char* fileName)
 {
     std::string content;
     const FileToRead file(NativePath(fileName));
-    constexpr size_t blockSize = 16384;
-    size_t length = 0;
-    for (ssize_t count = blockSize; count == blockSize;)
+    char block[16384];
+    for (ssize_t count = sizeof block; count == sizeof block;)
     {
-        content.resize(length + blockSize);
-        count = ::read(file.descriptor, content.data() + length, blockSize);
-        length += static_cast<size_t>(std::max<ssize_t>(count, 0));
+        count = ::read(file.descriptor, block, sizeof block);
+        content.append(block, static_cast<size_t>(std::max<ssize_t>(count, 0)));
     }
-    content.resize(length);
     return content;
 }
 

@@ -127,6 +127,18 @@ TEST_F(Tokenize, ForgetsTheTokensOfTheLineBefore)
     EXPECT_EQ(Joined(taken), "c");
 }
 
+TEST_F(Tokenize, KeepsNothingOfALongerLineBefore)
+{
+    ClytDialogFile file(nullptr);
+    file.Tokenize("a first token of some length,a second one,a third one,a fourth one\n", allDelimiters);
+    file.Tokenize("(,b\n", allDelimiters);
+    EXPECT_EQ(Shown(file.GetTokens()), "[]([],[b]/");
+    EXPECT_EQ(file.GetTokens().GetCount(), 3);
+    EXPECT_EQ(file.GetTokens().GetTail().GetColumn(), 2);
+    file.Tokenize("\n", allDelimiters);
+    EXPECT_EQ(file.GetTokens().GetHeadPosition(), nullptr);
+}
+
 namespace
 {
 

@@ -174,6 +174,23 @@ TEST(Window, JoinedControlKeepsItsBehaviourAndItsClass)
     EXPECT_EQ(text, "");
 }
 
+TEST(Window, GivesItsTextWhateverItsLength)
+{
+    RecordingWindow parent;
+    CEdit edit;
+    ASSERT_TRUE(edit.Create(ES_AUTOHSCROLL, CRect(1, 2, 51, 22), &parent, 5));
+    for (const int length : {0, 1, 254, 255, 256, 257, 3000})
+    {
+        SCOPED_TRACE(length);
+        const CString set('x', length);
+        edit.SetWindowText(set);
+        CString text = "what was there before";
+        edit.GetWindowText(text);
+        EXPECT_EQ(text.GetLength(), length);
+        EXPECT_EQ(text, set);
+    }
+}
+
 TEST(Window, LeavesAWindowAsItFoundIt)
 {
     RecordingWindow parent;
