@@ -55,10 +55,11 @@ HeaderWord HeaderWordOf(const std::string& line, Section section)
     static_cast<void>(lytTokenize(line.c_str(), DelimitersOf(section), tokens));
     if (tokens.IsEmpty())
         return {};
-    HeaderWord word = {tokens.GetHead().GetText().GetString(), tokens.GetHead().GetColumn(), tokens.GetCount() == 1,
-                       ""};
+    POSITION place = tokens.GetHeadPosition();
+    const ClytToken& first = tokens.GetNext(place);
+    HeaderWord word = {first.GetText().GetString(), first.GetColumn(), place == nullptr, ""};
     if (!word.isAlone)
-        word.next = tokens.GetAt(tokens.FindIndex(1)).GetText().GetString();
+        word.next = tokens.GetAt(place).GetText().GetString();
     return word;
 }
 
