@@ -1,4 +1,4 @@
-#include "PlainCalls.h"
+#include "windows/PlainCalls.h"
 
 #include <windows.h>
 #include <winspool.h>

@@ -1,0 +1,4 @@
+// The clock of the benches, in nanoseconds.
+#pragma once
+
+double BenchNanoseconds();

@@ -1,0 +1,155 @@
+#include "native/Works.h"
+
+#include "environment/ClytEnvironment.h"
+#include "frame/Discard.h"
+#include "liveform/LiveForm.h"
+#include "support/DescriptionText.h"
+#include "support/TestFolder.h"
+#include "sysinfo/frame/Report.h"
+#include "sysinfo/frame/ReportLines.h"
+
+#include <windows.h>
+
+#include <algorithm>
+#include <cstring>
+#include <utility>
+
+namespace
+{
+
+constexpr int fields = 25;
+
+std::string Field(int index)
+{
+    return "F" + std::to_string(index);
+}
+
+// Scans pieces of a text into two fields in turn, and composes all of them.
+std::string TextDescription()
+{
+    DescriptionText text;
+    std::string items;
+    std::string format;
+    for (int index = 0; index < fields; ++index)
+    {
+        text.layout += "TextBox 0, 0, 1, 1, ." + Field(index) + "\n";
+        items += ", " + Field(index);
+        format += "%s;";
+    }
+    text.input = "Start: (\";\", Second, Rest, End = F0\nSecond: (\";\", Start, Rest, End = F1\n";
+    text.output = "(\"" + format + "\"" + items + ")\n";
+    return text();
+}
+
+class TextForm
+{
+public:
+    TextForm() : m_form(m_folder.Write("text.dlg", TextDescription()).c_str()) { m_form.Construct(); }
+
+    LiveForm* operator->() { return &m_form; }
+
+private:
+    TestFolder m_folder;
+    LiveForm m_form;
+};
+
+void LookForSeparators(const char* text)
+{
+    for (const char* mark = std::strpbrk(text, ";"); mark != nullptr; mark = std::strpbrk(mark + 1, ";"))
+        Discard(mark);
+}
+
+// A dialog with one field, worked by hand.
+class FieldByHand
+{
+public:
+    FieldByHand()
+        : m_dialog(CreateWindowExA(0, "#32770", "", WS_POPUP, 0, 0, 0, 0, nullptr, nullptr, nullptr, nullptr)),
+          m_field(
+              CreateWindowExA(0, "Edit", "", WS_CHILD | WS_VISIBLE, 0, 0, 1, 1, m_dialog, nullptr, nullptr, nullptr))
+    {
+    }
+    FieldByHand(const FieldByHand&) = delete;
+    FieldByHand& operator=(const FieldByHand&) = delete;
+    ~FieldByHand() { DestroyWindow(m_dialog); }
+
+    // Each piece of the text between two separators in turn; the text is the same again afterwards.
+    void SetEachPiece(std::string& text) const
+    {
+        for (size_t begin = 0; begin < text.size();)
+        {
+            const size_t end = std::min(text.find(';', begin), text.size() - 1);
+            const char mark = std::exchange(text[end], '\0');
+            SetWindowTextA(m_field, &text[begin]);
+            text[end] = mark;
+            begin = end + 1;
+        }
+    }
+
+private:
+    HWND m_dialog;
+    HWND m_field;
+};
+
+void CopyText(const CString& text)
+{
+    const std::string copy(text.GetString(), static_cast<size_t>(text.GetLength()));
+    Discard(copy.data());
+}
+
+} // namespace
+
+void MeasureScan(const BenchMeter& meter)
+{
+    TextForm form;
+    std::string text;
+    while (text.size() < static_cast<size_t>(meter.Size()))
+        text += "a piece (of some; kind) \"with; quotes\";";
+    text.resize(static_cast<size_t>(meter.Size()));
+    const CString input(text.c_str());
+    const FieldByHand field;
+    meter.Compare({
+        {"ours", [&] { Discard(form->RunInput("parent", input)); }},
+        {"strpbrk", [&] { LookForSeparators(text.c_str()); }},
+        {"fields", [&] { field.SetEachPiece(text); }},
+    });
+}
+
+void MeasureComposition(const BenchMeter& meter)
+{
+    TextForm form;
+    const std::string part(static_cast<size_t>(meter.Size() / fields), 'x');
+    for (int index = 0; index < fields; ++index)
+        form->FindControl(Field(index).c_str())->SetValue(part.c_str());
+    CString composed;
+    form->ComposeNamedOutput("parent", composed);
+    const CString whole(composed);
+    meter.Compare({
+        {"ours", [&] { Discard(form->ComposeNamedOutput("parent", composed)); }},
+        {"copy", [&] { CopyText(whole); }},
+    });
+}
+
+void MeasureReportLines(const BenchMeter& meter)
+{
+    static constexpr const char* text = "  a line of the report, as long as most of them are";
+    const std::vector<std::string> lines(static_cast<size_t>(meter.Size()), text);
+    lytEnvironment.lytReportLines.RemoveAll();
+    for (const std::string& line : lines)
+        AddReportLine(line.c_str());
+    char target[256];
+    meter.Compare({
+        {"ours",
+         [&]
+         {
+             for (int index = 0; index < meter.Size(); ++index)
+                 Discard(lytReadReportLine(index, target, sizeof target));
+         }},
+        {"copy",
+         [&]
+         {
+             for (const std::string& line : lines)
+                 Discard(std::memcpy(target, line.c_str(), line.size() + 1));
+         }},
+    });
+}
