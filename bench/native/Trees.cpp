@@ -7,6 +7,8 @@
 #include "tree/NodeSearch.h"
 
 #include <cstdio>
+#include <cstring>
+#include <list>
 
 namespace
 {
@@ -81,7 +83,7 @@ public:
     HTREEITEM InsertItem(HTREEITEM parent, const char* text, int /*image*/) override
     {
         Discard(parent);
-        Discard(text);
+        Discard(std::strlen(text));
         return reinterpret_cast<HTREEITEM>(&m_item);
     }
     void ExpandItem(HTREEITEM /*item*/) override {}
@@ -98,10 +100,26 @@ void Read(ClytNodeList& nodes, Level level, int count, ClytTreeItems* items)
     lytFillFromSource(nodes, {Start, Next}, items, 'S');
 }
 
-// `act` is done with the catalogue of each shape in turn.
-template <class Act>
-void MeasureShapes(const BenchMeter& meter, Act act)
+// The same records kept one by one with nothing else, which shows what the memory itself costs as they become many.
+using PlainRecords = std::list<lytTreeRecord>;
+
+PlainRecords ReadPlainly(int count)
 {
+    servedLevel = Ordinary;
+    servedCount = count;
+    PlainRecords records;
+    lytTreeRecord record = {};
+    Start("");
+    while (Next(&record) != 0)
+        records.push_back(record);
+    return records;
+}
+
+// `act` is done with the catalogue of each shape in turn, and `plainAct` with the plain records.
+template <class Act, class PlainAct>
+void MeasureShapes(const BenchMeter& meter, Act act, PlainAct plainAct)
+{
+    const PlainRecords records = ReadPlainly(meter.Size());
     std::vector<ClytNodeList> catalogues(std::size(shapes));
     std::vector<BenchSeries> series;
     for (size_t shape = 0; shape < std::size(shapes); ++shape)
@@ -111,6 +129,7 @@ void MeasureShapes(const BenchMeter& meter, Act act)
         Read(nodes, level, meter.Size(), nullptr);
         series.push_back({shapes[shape].name, [&nodes, level, act] { act(nodes, level); }});
     }
+    series.push_back({"plain list", [&] { plainAct(records); }});
     meter.Compare(series);
 }
 
@@ -119,17 +138,31 @@ void MeasureShapes(const BenchMeter& meter, Act act)
 void MeasureTreeFill(const BenchMeter& meter)
 {
     NoControl control;
-    MeasureShapes(meter, [&](ClytNodeList& nodes, Level level) { Read(nodes, level, meter.Size(), &control); });
+    MeasureShapes(
+        meter, [&](ClytNodeList& nodes, Level level) { Read(nodes, level, meter.Size(), &control); },
+        [&](const PlainRecords&) { Discard(ReadPlainly(meter.Size()).size()); });
 }
 
 void MeasureTreeRefill(const BenchMeter& meter)
 {
     NoControl control;
-    MeasureShapes(meter, [&](const ClytNodeList& nodes, Level) { lytFillFromList(nodes, control, 'S'); });
+    MeasureShapes(
+        meter, [&](const ClytNodeList& nodes, Level) { lytFillFromList(nodes, control, 'S'); },
+        [&](const PlainRecords& records)
+        {
+            for (const lytTreeRecord& record : records)
+                control.InsertItem(nullptr, record.szLabel, record.nType);
+        });
 }
 
 // Every entry matches, and no climb finds a symbol.
 void MeasureTreeSearch(const BenchMeter& meter)
 {
-    MeasureShapes(meter, [](const ClytNodeList& nodes, Level) { Discard(lytFindNode(nodes, 'S', "key.")); });
+    MeasureShapes(
+        meter, [](const ClytNodeList& nodes, Level) { Discard(lytFindNode(nodes, 'S', "key.")); },
+        [](const PlainRecords& records)
+        {
+            for (const lytTreeRecord& record : records)
+                Discard(std::strncmp(record.szKey, "key.", 4));
+        });
 }

@@ -1,5 +1,7 @@
 #include "windows/ByHand.h"
 
+#include <gtest/gtest.h>
+
 namespace
 {
 
@@ -17,10 +19,12 @@ HANDLE ModernContext()
     {
         ACTCTXA request{};
         request.cbSize = sizeof request;
-        request.dwFlags = ACTCTX_FLAG_RESOURCE_NAME_VALID;
-        request.lpSource = "lyt64.dll";
+        request.dwFlags = ACTCTX_FLAG_RESOURCE_NAME_VALID | ACTCTX_FLAG_HMODULE_VALID;
+        request.hModule = GetModuleHandleA("lyt64.dll");
         request.lpResourceName = ISOLATIONAWARE_MANIFEST_RESOURCE_ID;
-        return CreateActCtxA(&request);
+        const HANDLE made = CreateActCtxA(&request);
+        EXPECT_NE(made, INVALID_HANDLE_VALUE) << "no controls of version 6";
+        return made;
     }();
     return context;
 }

@@ -1,0 +1,118 @@
+"""Measures everything and writes docs/benchmarks.md; usage.txt tells how it is called."""
+import argparse
+import datetime
+import json
+import re
+import shutil
+import sys
+
+import figures
+import journeys
+import machine
+import page
+import works
+from trees import ROOT, SCRATCH, Revision, Tree, WineServer
+
+DOCS = ROOT / "docs"
+# Runs of each work, and for how many seconds a run goes on.
+WHOLE = (4, 3.0)
+QUICK = (1, 0.2)
+
+
+def run_all(trees, chosen, runs, seconds):
+    """{tree: lines}; the trees take turns, and which comes first changes with each run."""
+    lines = {tree.name: [] for tree in trees}
+    for run in range(1, runs + 1):
+        for number, (ground, work) in enumerate(chosen, 1):
+            print(f"run {run} of {runs}, work {number} of {len(chosen)}: {work}", flush=True)
+            for tree in trees if run % 2 else reversed(trees):
+                lines[tree.name] += tree.measure(ground, work, seconds)
+    return lines
+
+
+def chosen_works(tree, pattern):
+    chosen = [(ground, work) for ground, work in tree.works() if re.search(pattern, work)]
+    if not chosen:
+        sys.exit(f'measure: no work is named like "{pattern}"; `build/native/bin/bench --list` names them')
+    unknown = [work for _, work in chosen if work not in works.load()]
+    if unknown:
+        sys.exit(f"measure: bench/works.toml has no {', '.join(unknown)}")
+    return chosen
+
+
+def measured(tree, lines, runs, load, isProfiled):
+    summary = figures.summarise(lines)
+    size = figures.spread([tree.library_size() / 1024])
+    summary["library-size"] = {"1": {"series": {"ours": size}, "ratios": {}}}
+    return {"date": datetime.date.today().isoformat(), "machine": machine.in_words(), "load": load, "runs": runs,
+            "works": summary, "profile": journeys.of_journeys(tree) if isProfiled else {}}
+
+
+def write_page(result, folder):
+    """The page, and beside it the drawings and the figures that it can be written from again."""
+    words, drawings = page.make(works.load(), result)
+    beside = folder / "benchmarks"
+    shutil.rmtree(beside, ignore_errors=True)
+    beside.mkdir(parents=True)
+    (folder / "benchmarks.md").write_text(words, encoding="utf-8")
+    (beside / "figures.json").write_text(json.dumps(result, indent=1) + "\n", encoding="utf-8")
+    for name, drawing in drawings.items():
+        (beside / name).write_text(drawing, encoding="utf-8")
+
+
+def write_again():
+    file = DOCS / "benchmarks" / "figures.json"
+    if not file.is_file():
+        sys.exit(f"measure: {file.relative_to(ROOT)} is not there; run ./measure first")
+    write_page(json.loads(file.read_text(encoding="utf-8")), DOCS)
+
+
+def compare(options, runs, seconds):
+    tree = Tree("working tree", ROOT)
+    tree.build()
+    with Revision(options.compare) as other, WineServer():
+        chosen = chosen_works(tree, options.only)
+        other.build({ground for ground, _ in chosen})
+        lines = run_all([tree, other], chosen, runs, seconds)
+    here, there = (figures.summarise(lines[each.name]) for each in (tree, other))
+    print("\n" + page.side_by_side(here, there, options.compare))
+
+
+def measure(options, runs, seconds):
+    tree = Tree("working tree", ROOT)
+    tree.build()
+    isWhole = not options.quick and options.only == "."
+    load = machine.load_of_others()
+    if load > 0.05:
+        print(f"measure: other programs take {100 * load:.0f} % of the processors; the figures will be rough ones")
+    with WineServer():
+        lines = run_all([tree], chosen_works(tree, options.only), runs, seconds)[tree.name]
+    result = measured(tree, lines, runs, load, isWhole)
+    folder = DOCS if isWhole else SCRATCH
+    write_page(result, folder)
+    print("\n" + page.in_short(works.load(), result))
+    print(f"\n{(folder / 'benchmarks.md').relative_to(ROOT)} has it all.")
+
+
+def main():
+    parser = argparse.ArgumentParser(prog="./measure", add_help=False,
+                                     usage="./measure [--quick] [--only REGEX] [--compare REV] [--page]")
+    parser.add_argument("--quick", action="store_true")
+    parser.add_argument("--only", default=".", metavar="REGEX")
+    parser.add_argument("--compare", metavar="REV")
+    parser.add_argument("--page", action="store_true")
+    options = parser.parse_args()
+    runs, seconds = QUICK if options.quick else WHOLE
+    SCRATCH.mkdir(parents=True, exist_ok=True)
+    if options.page:
+        write_again()
+    elif options.compare:
+        compare(options, runs, seconds)
+    else:
+        measure(options, runs, seconds)
+
+
+try:
+    main()
+except KeyboardInterrupt:
+    sys.exit("measure: stopped")

@@ -1,0 +1,194 @@
+"""docs/benchmarks.md and its drawings."""
+import pathlib
+
+from drawing import draw
+from figures import digits, growth, time_text
+from works import outcomes
+
+# A work that grows by more than this with its size is steeper than linear; so much is noise.
+STEEP = 1.1
+ALARM = "**steeper than linear**"
+
+USAGE = pathlib.Path(__file__).with_name("usage.txt")
+
+HEAD = """# How fast it is
+
+`./measure` has written this page. Do not edit it: titles, aims and reasons stand in `bench/works.toml`, and
+`./measure --page` writes it anew from the figures of the last whole measurement, which lie in
+`docs/benchmarks/figures.json`.
+
+## How to read it
+
+Each piece of work is done in turn with its rival, the same work done otherwise, in the same program and the same run. So
+what else the machine does falls on both, and their ratio is worth more than the times. A time is the median of all rounds,
+a ratio the median of the rounds' ratios; in brackets stands between which two the middle half of them lies. Where the
+brackets are far apart the machine was not quiet, and a ratio close to its aim says little.
+
+A rival *by hand* calls the platform as the library does, reads what the library is told to read (each text and the language
+it is in, the level of the log), looks for the companion library as often, and throws away what it need not keep. Works
+that are measured *natively* are done by our code over windows in memory, and their time is the processor's. All others are
+done by the DLL under Wine, and their time is the clock's. There a call of the platform costs other than on Windows; the
+ratios hold better than the times.
+"""
+
+
+def table(heads, rows):
+    """A table of Markdown; numbers are set to the right by a colon in front of their head."""
+    lines = ["| " + " | ".join(head.lstrip(":") for head in heads) + " |",
+             "|" + "|".join("---:" if head.startswith(":") else "---" for head in heads) + "|"]
+    lines += ["| " + " | ".join(row) + " |" for row in rows]
+    return "\n".join(lines) + "\n"
+
+
+def counted(number, word):
+    return f"{number:,} {word}" + ("s" if number != 1 else "")
+
+
+def brackets(spread):
+    return f'{spread["median"]:.2f} ({spread["low"]:.2f}–{spread["high"]:.2f})'
+
+
+def title(work):
+    return work["title"] + (" *(natively)*" if work.get("native") else "")
+
+
+def machine_section(figures):
+    rows = [[name, value] for name, value in figures["machine"].items()]
+    words = [f'Measured on {figures["date"]} in {counted(figures["runs"], "run")} of each work, all works in turn.']
+    if figures["load"] > 0.05:
+        words.append(f'**Other programs took {100 * figures["load"]:.0f} % of the processors when the measurement began: take '
+                     "the figures as rough ones.**")
+    return "## The machine\n\n" + table(["", ""], rows) + "\n" + " ".join(words) + "\n"
+
+
+def aims_section(found):
+    rows = []
+    for one in found:
+        rows.append([title(one.work), one.size_text(), one.ours, one.other, one.rival,
+                     brackets(one.ratio) if one.ratio else "", one.aim_text, "yes" if one.is_met() else "**no**"])
+    met = sum(one.is_met() for one in found)
+    return (f"## The aims\n\n{met} of {len(found)} are met.\n\n" +
+            table(["work", ":size", ":time", ":rival's time", "rival", ":ratio", ":aim", "met"], rows))
+
+
+def reasons_section(found):
+    missed = {one.name: one.work for one in found if not one.is_met()}
+    if not missed:
+        return ""
+    words = []
+    for work in missed.values():
+        words.append(f'**{work["title"]}.** {work.get("reason") or "The reason has not been measured yet."}\n')
+    return "## What is missed, and why\n\n" + "\n".join(words)
+
+
+def rivals_section(works, summary):
+    rows = []
+    for name, work in works.items():
+        for kind in ("rivals", "parts"):
+            for series, words in work.get(kind, {}).items():
+                sizes = [size for size, one in summary.get(name, {}).items() if series in one["series"]]
+                if not sizes:
+                    continue
+                one = summary[name][max(sizes, key=int)]
+                ours, other = one["series"]["ours"]["median"], one["series"][series]["median"]
+                place = f'{int(max(sizes, key=int)):,} {work["unit"]}' if "unit" in work else ""
+                how = brackets(one["ratios"][series]) + " ×" if kind == "rivals" else f"{100 * other / ours:.0f} % of it"
+                rows.append([title(work), place, time_text(ours), f"*{series}*: {words}", time_text(other), how])
+    return ("## The rivals, and what the library is told to do\n\n"
+            "Each rival at the largest size that it is measured in, with the ratio to it; and the parts that the library is told\n"
+            "to do and that the rivals do as well, with their share of its time.\n\n" +
+            table(["work", ":size", ":time", "beside it", ":its time", ":the library"], rows))
+
+
+def verdict(name, one, grown, rivals):
+    """`last` decides, for what is constant hides the growth from the fit over all sizes."""
+    if one["last"] <= STEEP:
+        return "linear" if one["last"] > 0.9 else "below linear"
+    steep = [rival for rival in rivals if rival in grown and grown[rival]["last"] >= one["last"] - STEEP + 1]
+    if name not in rivals and steep:
+        return f"as steep as *{steep[0]}*"
+    return "steeper than linear" if name in rivals else ALARM
+
+
+def growth_rows(work, named, grown):
+    rows = []
+    for series, one in named.items():
+        isOurs = series == "ours"
+        rows.append([title(work) if isOurs else "", "the library" if isOurs else f"*{series}*",
+                     " / ".join(f"{size:,}" for size in one["sizes"]) + f' {work["unit"]}',
+                     " / ".join(time_text(time) for time in one["medians"]),
+                     f'{one["exponent"]:.2f}', f'{one["last"]:.2f}', verdict(series, one, grown, list(work.get("rivals", {})))])
+    return rows
+
+
+def growth_section(works, summary):
+    rows, drawn, steep = [], [], []
+    for name, work in works.items():
+        grown = growth(summary.get(name, {}))
+        if "ours" not in grown:
+            continue
+        named = {series: one for series, one in grown.items() if series not in work.get("parts", {})}
+        added = growth_rows(work, named, grown)
+        if any(ALARM in row[-1] for row in added):
+            steep.append(work["title"])
+        rows += added
+        drawn.append((name, work, named))
+    words = ("## Growth\n\n"
+             "Each work in three sizes, each ten times the one before, and the exponent of the power of the size that fits its\n"
+             "times best: 1 is linear, 0 constant. The exponent of the last step alone shows growth that a constant beginning\n"
+             "hides from the fit. What is steeper than linear and just as steep in the rival is the platform's, or the\n"
+             "emulator's, and not the library's. In the drawings the dashed line is linear growth.\n\n")
+    words += f'Steeper than linear without a rival that is so as well: {", ".join(steep) or "nothing"}.\n\n'
+    words += table(["work", "", ":sizes", ":times", ":exponent", ":last step", "growth"], rows) + "\n"
+    words += "\n\n".join(f'![{work["title"]}](benchmarks/{name}.svg)' for name, work, _ in drawn) + "\n"
+    return words, {f"{name}.svg": draw(work["title"], work["unit"], named) for name, work, named in drawn}
+
+
+def profile_section(works, profile):
+    if not profile:
+        return ""
+    words = ["## Where a journey's time goes\n\n"
+             "Counted in instructions by a profiler, each function with all that it calls, those of the platform in memory among\n"
+             "them: `GetPrivateProfileStringA`, which reads its file anew each time, and what stands below it, is not in the DLL.\n"
+             "Functions that the compiler has put into their callers do not appear.\n"]
+    for name, rows in profile.items():
+        listing = [[f"{share:.0f} %", f"`{function}`"] for share, function in rows]
+        words.append(f'**{works[name]["title"]}**\n\n' + table([":share", "function"], listing))
+    return "\n".join(words)
+
+
+def make(works, figures):
+    """The text of the page, and {name: text} of its drawings."""
+    summary = figures["works"]
+    found = outcomes(works, summary)
+    growth_words, drawings = growth_section(works, summary)
+    usage = "".join(f"    {line}\n" if line.strip() else "\n" for line in USAGE.read_text(encoding="utf-8").splitlines())
+    sections = [HEAD, "## How to measure\n\n" + usage, machine_section(figures), aims_section(found), reasons_section(found),
+                rivals_section(works, summary), growth_words, profile_section(works, figures["profile"])]
+    return "\n".join(section for section in sections if section), drawings
+
+
+def in_short(works, figures):
+    """The aims for somebody at a terminal."""
+    lines = []
+    for one in outcomes(works, figures["works"]):
+        ratio = f"{brackets(one.ratio)} × {one.rival}" if one.ratio else ""
+        lines.append(f'{"met   " if one.is_met() else "MISSED"}  {one.name:20}{one.size:>9,}  {one.ours:>22}  {ratio:38}'
+                     f"aim {one.aim_text}")
+    return "\n".join(lines)
+
+
+def side_by_side(here, there, revision):
+    """What a change did: every work and size of two trees, and the ratio of their times."""
+    lines = [f'{"work":22}{"size":>10}{"here":>14}{revision[:12]:>14}{"ratio":>8}  to the rivals, here / {revision[:12]}']
+    for work, by_size in here.items():
+        for size, one in by_size.items():
+            other = there.get(work, {}).get(size)
+            if other is None:
+                continue
+            ours, theirs = one["series"]["ours"]["median"], other["series"]["ours"]["median"]
+            rivals = ", ".join(f'{name} {spread["median"]:.2f} / {other["ratios"][name]["median"]:.2f}'
+                               for name, spread in one["ratios"].items() if name in other["ratios"])
+            lines.append(f"{work:22}{int(size):>10,}{time_text(ours):>14}{time_text(theirs):>14}"
+                         f"{digits(ours / theirs) if theirs else '':>8}  {rivals}")
+    return "\n".join(lines)
