@@ -34,6 +34,16 @@ def summarise(lines):
     return summary
 
 
+def run_ratios(here, there):
+    """{(work, size): spread of our times here to those there}, each ratio that of one run."""
+    ratios = {}
+    for place in {(line["work"], line["size"]) for line in here}:
+        medians = [[statistics.median(line["series"]["ours"]) for line in lines if (line["work"], line["size"]) == place]
+                   for lines in (here, there)]
+        ratios[place] = spread([ours / other for ours, other in zip(*medians)])
+    return ratios
+
+
 def slope(sizes, values):
     """The exponent e of the power size**e that lies nearest to the values."""
     xs = [math.log(size) for size in sizes]

@@ -40,12 +40,12 @@ def chosen_works(tree, pattern):
     return chosen
 
 
-def measured(tree, lines, runs, load, isProfiled):
+def measured(tree, lines, runs, load, is_profiled):
     summary = figures.summarise(lines)
     size = figures.spread([tree.library_size() / 1024])
     summary["library-size"] = {"1": {"series": {"ours": size}, "ratios": {}}}
     return {"date": datetime.date.today().isoformat(), "machine": machine.in_words(), "load": load, "runs": runs,
-            "works": summary, "profile": journeys.of_journeys(tree) if isProfiled else {}}
+            "works": summary, "profile": journeys.of_journeys(tree) if is_profiled else {}}
 
 
 def write_page(result, folder):
@@ -74,21 +74,20 @@ def compare(options, runs, seconds):
         chosen = chosen_works(tree, options.only)
         other.build({ground for ground, _ in chosen})
         lines = run_all([tree, other], chosen, runs, seconds)
-    here, there = (figures.summarise(lines[each.name]) for each in (tree, other))
-    print("\n" + page.side_by_side(here, there, options.compare))
+    print("\n" + page.side_by_side(works.load(), lines[tree.name], lines[other.name], options.compare))
 
 
 def measure(options, runs, seconds):
     tree = Tree("working tree", ROOT)
     tree.build()
-    isWhole = not options.quick and options.only == "."
+    is_whole = not options.quick and options.only == "."
     load = machine.load_of_others()
     if load > 0.05:
         print(f"measure: other programs take {100 * load:.0f} % of the processors; the figures will be rough ones")
     with WineServer():
         lines = run_all([tree], chosen_works(tree, options.only), runs, seconds)[tree.name]
-    result = measured(tree, lines, runs, load, isWhole)
-    folder = DOCS if isWhole else SCRATCH
+    result = measured(tree, lines, runs, load, is_whole)
+    folder = DOCS if is_whole else SCRATCH
     write_page(result, folder)
     print("\n" + page.in_short(works.load(), result))
     print(f"\n{(folder / 'benchmarks.md').relative_to(ROOT)} has it all.")

@@ -2,7 +2,7 @@
 import pathlib
 
 from drawing import draw
-from figures import digits, growth, time_text
+from figures import growth, run_ratios, summarise, time_text
 from works import outcomes
 
 # A work that grows by more than this with its size is steeper than linear; so much is noise.
@@ -113,8 +113,8 @@ def verdict(name, one, grown, rivals):
 def growth_rows(work, named, grown):
     rows = []
     for series, one in named.items():
-        isOurs = series == "ours"
-        rows.append([title(work) if isOurs else "", "the library" if isOurs else f"*{series}*",
+        is_ours = series == "ours"
+        rows.append([title(work) if is_ours else "", "the library" if is_ours else f"*{series}*",
                      " / ".join(f"{size:,}" for size in one["sizes"]) + f' {work["unit"]}',
                      " / ".join(time_text(time) for time in one["medians"]),
                      f'{one["exponent"]:.2f}', f'{one["last"]:.2f}', verdict(series, one, grown, list(work.get("rivals", {})))])
@@ -178,17 +178,17 @@ def in_short(works, figures):
     return "\n".join(lines)
 
 
-def side_by_side(here, there, revision):
-    """What a change did: every work and size of two trees, and the ratio of their times."""
-    lines = [f'{"work":22}{"size":>10}{"here":>14}{revision[:12]:>14}{"ratio":>8}  to the rivals, here / {revision[:12]}']
+def side_by_side(works, here, there, revision):
+    """What a change did, of the lines of two trees: the times of every work and size, their ratio, and both beside rivals."""
+    ratios = run_ratios(here, there)
+    here, there = summarise(here), summarise(there)
+    lines = [f'{"work":22}{"size":>10}{"here":>12}{revision[:10]:>12}  {"ratio":20}to rivals, here / {revision[:10]}']
     for work, by_size in here.items():
         for size, one in by_size.items():
-            other = there.get(work, {}).get(size)
-            if other is None:
-                continue
-            ours, theirs = one["series"]["ours"]["median"], other["series"]["ours"]["median"]
-            rivals = ", ".join(f'{name} {spread["median"]:.2f} / {other["ratios"][name]["median"]:.2f}'
-                               for name, spread in one["ratios"].items() if name in other["ratios"])
-            lines.append(f"{work:22}{int(size):>10,}{time_text(ours):>14}{time_text(theirs):>14}"
-                         f"{digits(ours / theirs) if theirs else '':>8}  {rivals}")
+            other = there[work][size]
+            rivals = [f'{name} {one["ratios"][name]["median"]:.2f} / {other["ratios"][name]["median"]:.2f}'
+                      for name in works[work].get("rivals", {}) if name in one["ratios"]]
+            times = [time_text(each["series"]["ours"]["median"]) for each in (one, other)]
+            lines.append(f"{work:22}{int(size):>10,}{times[0]:>12}{times[1]:>12}  {brackets(ratios[work, int(size)]):20}"
+                         + ", ".join(rivals))
     return "\n".join(lines)

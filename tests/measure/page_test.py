@@ -21,8 +21,7 @@ def read(file):
 
 
 def recorded():
-    lines = [json.loads(line) for line in read(HERE / "lines.json").splitlines()]
-    summary = figures.summarise(lines)
+    summary = figures.summarise([json.loads(line) for line in read(HERE / "lines.json").splitlines()])
     summary["library-size"] = {"1": {"series": {"ours": figures.spread([386.0])}, "ratios": {}}}
     return {"date": "2020-02-29", "machine": {"processor": "a quick one"}, "load": 0.25, "runs": 2, "works": summary,
             "profile": {"even": [[60.0, "ClytDialog::ReadDescription"]]}}
@@ -99,10 +98,12 @@ class Page(unittest.TestCase):
 
 
 class SideBySide(unittest.TestCase):
-    def test_compares_each_work_with_that_of_another_revision(self):
-        here = recorded()["works"]
-        words = page.side_by_side({"slow": here["slow"]}, {"slow": here["even"]}, "HEAD~1")
-        self.assertEqual(words.splitlines()[1].split()[:7], ["slow", "10", "2.95", "µs", "99.0", "ns", "29.8"])
+    def test_compares_runs_of_two_revisions_one_by_one(self):
+        # The machine was twice as slow in the second run; only the ratios hold.
+        here = [{"work": "slow", "size": 10, "series": {"ours": [3e6 * run] * 3, "by hand": [1e6 * run] * 3}} for run in (1, 2)]
+        there = [{"work": "slow", "size": 10, "series": {"ours": [2e6 * run] * 3, "by hand": [1e6 * run] * 3}} for run in (1, 2)]
+        words = page.side_by_side(works.load(HERE / "works.toml"), here, there, "HEAD~1")
+        self.assertEqual(words.splitlines()[1].split(), "slow 10 4.50 ms 3.00 ms 1.50 (1.50–1.50) by hand 3.00 / 2.00".split())
 
 
 unittest.main()
