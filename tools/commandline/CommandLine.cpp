@@ -106,6 +106,8 @@ public:
             else
                 request.operands.push_back(word);
         }
+        if (request.Has(versionOption.word))
+            return VersionRequest();
         if (request.command.empty() || request.Has("--help"))
             return HelpRequest();
         CheckOptions();
@@ -141,6 +143,13 @@ private:
         if (!request.command.empty() && request.command != help.command)
             help.operands.push_back(request.command);
         return help;
+    }
+
+    static Request VersionRequest()
+    {
+        Request version;
+        version.command = "version";
+        return version;
     }
 
     void CheckOptions() const
@@ -200,6 +209,13 @@ std::string Request::Operand(size_t index, const std::string& otherwise) const
 Request ReadCommandLine(const ProgramForm& program, const std::vector<std::string>& words)
 {
     return Reader(program, words).Read();
+}
+
+const OptionForm versionOption = {"--version", nullptr, false, "print the version"};
+
+std::string VersionText(const ProgramForm& program)
+{
+    return std::string(program.name) + " " + LYT_VERSION + "\n";
 }
 
 std::string HelpText(const ProgramForm& program)

@@ -72,10 +72,13 @@ private:
 };
 
 // Reads a command line without the program's name. An empty one, `help` and `--help` give the command "help"; after a
-// command, `--help` gives it with that command as its operand.
+// command, `--help` gives it with that command as its operand. `--version` gives the command "version".
 Request ReadCommandLine(const ProgramForm& program, const std::vector<std::string>& words);
 // What help prints: for the program, or for the command of that name.
 std::string HelpText(const ProgramForm& program);
 std::string HelpText(const ProgramForm& program, const std::string& command);
+// What `--version` prints, for every program that has this option: its name and the version of the project.
+extern const OptionForm versionOption;
+std::string VersionText(const ProgramForm& program);
 
 } // namespace commandline

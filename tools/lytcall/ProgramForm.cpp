@@ -42,6 +42,7 @@ const commandline::ProgramForm& TheProgram()
             {"--out", "FILE", false, "write the report there instead of printing it"},
             {"--library", "FILE", false, "the library to call (default: lyt64.dll beside this program)"},
             {"--help", nullptr, false, "print this text"},
+            commandline::versionOption,
         },
         "Results are printed one a line, as \"name = value\", so that they can be compared. The program ends with 0\n"
         "when the call was made and its result is not 0, with 1 when it failed or answered 0 or when a step of the\n"

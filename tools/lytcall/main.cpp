@@ -47,6 +47,11 @@ int Run(const lytcall::Request& request)
                                                              : commandline::HelpText(lytcall::TheProgram()).c_str());
         return done;
     }
+    if (request.command == "version")
+    {
+        std::printf("%s", commandline::VersionText(lytcall::TheProgram()).c_str());
+        return done;
+    }
     const lytcall::Session session(request);
     return lytcall::RunCommand(session) != 0 ? done : callFailed;
 }

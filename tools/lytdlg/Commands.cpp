@@ -61,7 +61,7 @@ const commandline::ProgramForm& TheProgram()
             "lytdlg",
             "lytdlg judges, tries, tests and draws dialog descriptions without the word processor.",
             {},
-            {{"--help", nullptr, false, "print this text, or after a command its options"}},
+            {{"--help", nullptr, false, "print this text, or after a command its options"}, commandline::versionOption},
             "The program ends with 0 when all is well, with 1 when there is something to look at (findings,\n"
             "differences, a dialog that was refused), and with 2 when the command line cannot be understood.\n"};
         for (const Command& command : Commands())
@@ -76,6 +76,11 @@ int Run(const std::vector<std::string>& words)
     try
     {
         const Request request = ReadCommandLine(TheProgram(), words);
+        if (request.command == "version")
+        {
+            std::fputs(VersionText(TheProgram()).c_str(), stdout);
+            return good;
+        }
         const auto command = std::ranges::find_if(Commands(), [&](const Command& candidate)
                                                   { return request.command == candidate.form.word; });
         return command->run(request);

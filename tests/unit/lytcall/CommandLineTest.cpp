@@ -65,6 +65,13 @@ TEST(CommandLine, NothingAndHelpAskForHelp)
     EXPECT_EQ(ReadCommandLine({"group", "a", "b", "--help"}).command, "help");
 }
 
+TEST(CommandLine, VersionIsAskedForAlone)
+{
+    EXPECT_EQ(ReadCommandLine({"--version"}).command, "version");
+    EXPECT_EQ(ReadCommandLine({"--version", "--help"}).command, "version");
+    EXPECT_EQ(commandline::VersionText(lytcall::TheProgram()), std::string("lytcall ") + LYT_VERSION + "\n");
+}
+
 TEST(CommandLine, MistakesTellTheWayOut)
 {
     EXPECT_EQ(Mistake({"symbl"}), "there is no command \"symbl\"; did you mean \"symbol\"?");

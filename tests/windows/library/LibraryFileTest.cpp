@@ -68,10 +68,25 @@ TEST_F(LibraryFile, HasAVersionRecord)
     GetModuleFileNameA(m_module, path, sizeof path);
     std::vector<char> block(GetFileVersionInfoSizeA(path, nullptr));
     ASSERT_TRUE(GetFileVersionInfoA(path, 0, static_cast<DWORD>(block.size()), block.data()));
-    void* value = nullptr;
-    UINT length = 0;
-    ASSERT_TRUE(VerQueryValueA(block.data(), "\\StringFileInfo\\040904B0\\OriginalFilename", &value, &length));
-    EXPECT_STREQ(static_cast<const char*>(value), "lyt64.dll");
+    for (const auto& [name, text] : {std::pair("OriginalFilename", "lyt64.dll"), std::pair("InternalName", "lyt64"),
+                                     std::pair("ProductName", "lyt64"), std::pair("ProductVersion", LYT_VERSION),
+                                     std::pair("FileVersion", LYT_VERSION ".0")})
+    {
+        void* value = nullptr;
+        UINT length = 0;
+        ASSERT_TRUE(VerQueryValueA(block.data(), ("\\StringFileInfo\\040904B0\\" + std::string(name)).c_str(), &value,
+                                   &length));
+        EXPECT_STREQ(static_cast<const char*>(value), text) << name;
+    }
+}
+
+TEST_F(LibraryFile, TellsTheSameVersionInItsManifest)
+{
+    HRSRC found = FindResourceA(m_module, MAKEINTRESOURCEA(2), MAKEINTRESOURCEA(24));
+    ASSERT_NE(found, nullptr);
+    const auto* text = static_cast<const char*>(LockResource(LoadResource(m_module, found)));
+    const std::string manifest(text, SizeofResource(m_module, found));
+    EXPECT_NE(manifest.find("name=\"lyt64\" version=\"" LYT_VERSION ".0\""), std::string::npos);
 }
 
 TEST_F(LibraryFile, ServesACallerInPlainC)

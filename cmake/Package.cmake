@@ -1,0 +1,48 @@
+# What is handed out: a folder by `cmake --install`, a zip by `cpack --config CPackConfig.cmake`. Build the target
+# package-files first. The same sources give the same bytes.
+add_custom_target(package-files DEPENDS lyt64 lytcall lytdlg lytdata lytsrc)
+set(CMAKE_SKIP_INSTALL_ALL_DEPENDENCY ON)
+
+# The tools look for the library and the samples beside themselves.
+install(PROGRAMS
+  $<TARGET_FILE:lyt64> $<TARGET_FILE:lytcall> $<TARGET_FILE:lytdlg> $<TARGET_FILE:lytdata> $<TARGET_FILE:lytsrc>
+  DESTINATION .)
+install(FILES samples/lytdata/lytdata.txt samples/lytsrc/lytsrc.txt DESTINATION .)
+install(FILES host/lyt64.bas DESTINATION host)
+install(FILES include/lyt64.h include/lytdata.h include/lytsrc.h DESTINATION include)
+install(DIRECTORY samples/dialogs samples/init samples/cases samples/scripts samples/lytdata samples/lytsrc
+  DESTINATION samples
+  PATTERN CMakeLists.txt EXCLUDE)
+
+install(FILES $<TARGET_LINKER_FILE:lyt64> DESTINATION lib)
+if(LYT_IMPORT_LIBRARY)
+  add_dependencies(package-files lyt64-import-library)
+  install(FILES ${LYT_IMPORT_LIBRARY} DESTINATION lib)
+else()
+  install(CODE [[message(FATAL_ERROR "lyt64.lib is missing: install the package llvm, configure and build again")]])
+endif()
+
+# Pages for those who use the library. What is not handed out cannot be linked to.
+foreach(page descriptions exports first-dialog lytcall lytdlg lytdlg-rules macros report symptoms)
+  set(source ${CMAKE_SOURCE_DIR}/docs/${page}.md)
+  file(READ ${source} text)
+  string(REGEX REPLACE "\\[([^]\n]*)\\]\\(\\.\\./tests/[^)\n]*\\)" "\\1" text "${text}")
+  file(WRITE ${CMAKE_BINARY_DIR}/package/${page}.md "${text}")
+  install(FILES ${CMAKE_BINARY_DIR}/package/${page}.md DESTINATION docs)
+  set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${source})
+endforeach()
+install(FILES docs/preview-form.svg docs/preview-symbol.svg docs/window-symbol.png DESTINATION docs)
+configure_file(docs/package.md.in ${CMAKE_BINARY_DIR}/package/README.md @ONLY)
+install(FILES ${CMAKE_BINARY_DIR}/package/README.md DESTINATION .)
+
+install(SCRIPT cmake/Checksums.cmake)
+
+# The generator for zips takes the files in the order in which the file system tells them, and notes who owns them, so that
+# a script of ours makes the zip.
+set(CPACK_GENERATOR External)
+set(CPACK_EXTERNAL_ENABLE_STAGING ON)
+set(CPACK_EXTERNAL_PACKAGE_SCRIPT ${CMAKE_SOURCE_DIR}/cmake/Zip.cmake)
+set(CPACK_PACKAGE_FILE_NAME ${PROJECT_NAME}-${PROJECT_VERSION})
+set(CPACK_PACKAGE_DIRECTORY ${CMAKE_BINARY_DIR})
+set(CPACK_VERBATIM_VARIABLES ON)
+include(CPack)

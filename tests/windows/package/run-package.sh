@@ -1,0 +1,55 @@
+#!/bin/sh
+# run-package.sh BUILD CMAKE CPACK VERSION: makes the package twice, which must give the same bytes, and looks at it: it
+# holds the files of package.contents and no others, its checksums hold, its pages link to what is there, its tools tell
+# the version, and a dialog opens from it. With LYT_UPDATE set it writes package.contents instead.
+set -u
+build=$1
+cmake=$2
+cpack=$3
+version=$4
+here=$(cd "$(dirname "$0")" && pwd)
+folder=$(mktemp -d) || exit 2
+trap 'rm -rf "$folder"' EXIT
+bad=0
+complain() { echo "$1"; bad=1; }
+
+# make NAME ZONE MASK: makes the package in a folder of that name, at a place with that time, under that mask for rights.
+make() {
+    (umask "$3" && TZ=$2 "$cpack" --config "$build/CPackConfig.cmake" -B "$folder/$1" >"$folder/$1.log" 2>&1) ||
+        { cat "$folder/$1.log"; exit 1; }
+}
+make first UTC 022
+make second Asia/Tokyo 077
+zip=lyt64-$version.zip
+cmp "$folder/first/$zip" "$folder/second/$zip" || bad=1
+
+cd "$folder" && "$cmake" -E tar xf "first/$zip" && cd "lyt64-$version" || exit 1
+find . -type f | sed 's,^\./,,' | LC_ALL=C sort >../contents
+if [ -n "${LYT_UPDATE:-}" ]; then
+    cp ../contents "$here/package.contents"
+else
+    diff -u "$here/package.contents" ../contents || bad=1
+fi
+"$cmake" -E tar tf "../first/$zip" | grep -v '/$' | sed 's,^[^/]*/,,' | LC_ALL=C sort -c || complain "the entries are not sorted"
+
+sha256sum --check --quiet --strict SHA256SUMS || bad=1
+sed 's/^[^ ]*  //' SHA256SUMS >../summed
+grep -vx SHA256SUMS ../contents | diff -u - ../summed || complain "SHA256SUMS tells of other files"
+
+"$cmake" --install "$build" --prefix "$folder/installed" >/dev/null || bad=1
+diff -r "$folder/installed" . || bad=1
+
+for page in README.md docs/*.md; do
+    for link in $(grep -o ']([^)#]*[)#]' "$page" | sed 's/^](//; s/[)#]$//' | grep -v '^[a-z]*:'); do
+        [ -e "$(dirname "$page")/$link" ] || complain "$page links to $link, which is not there"
+    done
+done
+grep -q "^# lyt64 $version\$" README.md || complain "README.md tells another version"
+
+for tool in lytcall lytdlg; do
+    told=$("$build/wine-run.sh" ./$tool.exe --version)
+    [ "$told" = "$tool $version" ] || complain "$tool tells the version as \"$told\""
+done
+"$build/wine-run.sh" ./lytcall.exe symbol --script "$here/../samples/ok.steps" >../call
+grep -q '^result = 2 (unchanged)' ../call || { cat ../call; complain "no dialog opens"; }
+exit $bad
