@@ -12,5 +12,8 @@ int RunCommand(const Session& session);
 
 // The report, in a file of its own.
 int RunReport(const Session& session);
+// Prints what differs between two saved reports; false when a line does that does not differ from run to run. It needs no
+// library.
+bool CompareSavedReports(const Request& request);
 
 } // namespace lytcall

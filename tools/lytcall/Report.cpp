@@ -1,8 +1,11 @@
 #include "lytcall/Commands.h"
+#include "lytcall/Redaction.h"
+#include "lytcall/ReportDifference.h"
 
 #include "commandline/OwnedFile.h"
 #include "commandline/Text.h"
 
+#include <algorithm>
 #include <cstdio>
 #include <io.h>
 
@@ -39,31 +42,85 @@ private:
     bool m_terminal = _isatty(_fileno(stderr)) != 0;
 };
 
+ReportLines Gather(const Session& session, const std::string& folder)
+{
+    const Progress progress;
+    progress.Show("examining this machine ...");
+    session.Library().Find<InitFunction>("lytSystemInfoInit")(folder.c_str());
+    ReportLines lines;
+    std::vector<char> line(lineSize);
+    for (int index = 0; session.Library().Find<ReadFunction>("lytSystemInfoRead")(index, line.data(), lineSize) == 1;
+         ++index)
+    {
+        if (index % 100 == 0)
+            progress.Show("reading line " + std::to_string(index));
+        lines.emplace_back(line.data());
+    }
+    progress.End();
+    return lines;
+}
+
+std::string TextOf(const ReportLines& lines)
+{
+    std::string text;
+    for (const std::string& line : lines)
+        text += line + "\n";
+    return text;
+}
+
+ReportLines ReadReport(const std::string& fileName)
+{
+    const commandline::OwnedFile file(std::fopen(fileName.c_str(), "rb"));
+    if (file == nullptr)
+        throw CallError(fileName + " cannot be read; save a report by `lytcall report --out " + fileName + "` first");
+    std::string text;
+    for (int c = std::fgetc(file.get()); c != EOF; c = std::fgetc(file.get()))
+        text += static_cast<char>(c);
+    ReportLines lines;
+    for (size_t start = 0; start < text.size();)
+    {
+        const size_t end = std::min(text.find('\n', start), text.size());
+        lines.push_back(text.substr(start, end - start));
+        if (lines.back().ends_with('\r'))
+            lines.back().pop_back();
+        start = end + 1;
+    }
+    return lines;
+}
+
 } // namespace
 
 int RunReport(const Session& session)
 {
-    const std::string folder = session.Asked().Operand(0, ProgramFolder());
-    const std::string fileName = session.Asked().Text("--out", "");
+    const Request& request = session.Asked();
+    if (request.operands.size() > 1)
+        throw commandline::UsageError("one folder is examined; to compare two saved reports, add --diff");
+    const std::string fileName = request.Text("--out", "");
     const commandline::OwnedFile file(fileName.empty() ? nullptr : std::fopen(fileName.c_str(), "wb"));
     if (!fileName.empty() && file == nullptr)
         throw CallError(fileName + " cannot be written; check the name behind --out");
 
-    const Progress progress;
-    progress.Show("examining this machine ...");
-    const int result = session.Library().Find<InitFunction>("lytSystemInfoInit")(folder.c_str());
-    std::vector<char> line(lineSize);
-    int count = 0;
-    for (; session.Library().Find<ReadFunction>("lytSystemInfoRead")(count, line.data(), lineSize) == 1; ++count)
-    {
-        if (count % 100 == 0)
-            progress.Show("reading line " + std::to_string(count));
-        std::fprintf(file != nullptr ? file.get() : stdout, "%s\n", ToUtf8(line.data()).c_str());
-    }
-    progress.End();
+    ReportLines lines = Gather(session, request.Operand(0, ProgramFolder()));
+    if (request.Has("--redact"))
+        lines = Redacted(lines);
+    std::ranges::transform(lines, lines.begin(), ToUtf8);
+    const std::string text = request.Has("--json") ? JsonOf(CutReport(lines)) : TextOf(lines);
+    std::fwrite(text.data(), 1, text.size(), file != nullptr ? file.get() : stdout);
     if (file != nullptr)
-        PrintNumber("lines", count);
-    return result;
+        PrintNumber("lines", static_cast<int>(lines.size()));
+    return 1;
+}
+
+bool CompareSavedReports(const Request& request)
+{
+    if (request.operands.size() != 2)
+        throw commandline::UsageError("--diff compares two saved reports; write: lytcall report --diff FILE FILE");
+    const ReportDifference difference =
+        CompareReports(ReadReport(request.operands[0]), ReadReport(request.operands[1]));
+    std::fputs(difference.text.c_str(), stdout);
+    PrintNumber("different lines", static_cast<int>(difference.lines));
+    PrintNumber("different from run to run", static_cast<int>(difference.fromRunToRun));
+    return difference.lines == 0;
 }
 
 } // namespace lytcall

@@ -52,6 +52,8 @@ int Run(const lytcall::Request& request)
         std::printf("%s", commandline::VersionText(lytcall::TheProgram()).c_str());
         return done;
     }
+    if (request.command == "report" && request.Has("--diff"))
+        return lytcall::CompareSavedReports(request) ? done : callFailed;
     const lytcall::Session session(request);
     return lytcall::RunCommand(session) != 0 ? done : callFailed;
 }

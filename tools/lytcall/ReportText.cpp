@@ -1,0 +1,103 @@
+#include "lytcall/ReportText.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <string_view>
+
+namespace lytcall
+{
+
+namespace
+{
+
+struct BlockStart
+{
+    const char* beginning;
+    const char* title;
+};
+
+constexpr BlockStart blockStarts[] = {
+    {"PATH    :", "The workstation"},
+    {"File Information:", "LYT's files and versions"},
+    {"LYT Registry Settings :", "Registry"},
+    {"LYT Directory Tree (", "The directory to examine"},
+    {"Shell command <", "Commands and sections of lyt.ini"},
+    {"Fonts Information from ", "Fonts"},
+    {"LOCALE.", "Locale and languages"},
+};
+
+// The title of the block that begins with this line; empty when none does.
+std::string TitleOf(const std::string& line)
+{
+    if (line == "Printers")
+        return line;
+    const size_t directory = line.find(" User Template Dir ");
+    if (line.starts_with("Word ") && directory != std::string::npos)
+        return line.substr(0, directory);
+    for (const BlockStart& start : blockStarts)
+    {
+        if (line.starts_with(start.beginning))
+            return start.title;
+    }
+    return "";
+}
+
+std::string JsonText(const std::string& text)
+{
+    std::string quoted = "\"";
+    for (const char c : text)
+    {
+        char escaped[8] = "";
+        if (c == '"' || c == '\\')
+            quoted += {'\\', c};
+        else if (static_cast<unsigned char>(c) < 0x20)
+            quoted.append(escaped, static_cast<size_t>(std::snprintf(escaped, sizeof escaped, "\\u%04x", c)));
+        else
+            quoted += c;
+    }
+    return quoted + "\"";
+}
+
+} // namespace
+
+std::vector<ReportBlock> CutReport(const ReportLines& lines)
+{
+    std::vector<ReportBlock> blocks = {{"The program and Windows", {}}};
+    for (const std::string& line : lines)
+    {
+        const std::string title = TitleOf(line);
+        // A version that is listed twice has two blocks; of other blocks several lines begin like the first.
+        if (!title.empty() && (title != blocks.back().title || title.starts_with("Word ")))
+            blocks.push_back({title, {}});
+        blocks.back().lines.push_back(line);
+    }
+    return blocks;
+}
+
+bool ChangesFromRunToRun(const std::string& line)
+{
+    static constexpr const char* beginnings[] = {"Memory in use:", "Free physical memory", "Free paging file",
+                                                 "Free virtual memory", "Free Hard Disk Space"};
+    return std::ranges::any_of(beginnings, [&](const char* beginning) { return line.starts_with(beginning); });
+}
+
+std::string JsonOf(const std::vector<ReportBlock>& blocks)
+{
+    std::string text = "{\"blocks\": [";
+    const char* betweenBlocks = "\n";
+    for (const ReportBlock& block : blocks)
+    {
+        text += betweenBlocks + ("  {\"title\": " + JsonText(block.title)) + ", \"lines\": [";
+        const char* betweenLines = "\n";
+        for (const std::string& line : block.lines)
+        {
+            text += betweenLines + ("    " + JsonText(line));
+            betweenLines = ",\n";
+        }
+        text += "]}";
+        betweenBlocks = ",\n";
+    }
+    return text + "]}\n";
+}
+
+} // namespace lytcall

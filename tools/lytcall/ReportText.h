@@ -1,0 +1,26 @@
+// A report as text: its blocks, and the lines that tell of the moment.
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace lytcall
+{
+
+using ReportLines = std::vector<std::string>;
+
+struct ReportBlock
+{
+    std::string title;
+    ReportLines lines;
+};
+
+// Cuts a report at the lines that begin its blocks. The titles are those of docs/report.md; a word processor's version has
+// a block of its own.
+std::vector<ReportBlock> CutReport(const ReportLines& lines);
+// True for a line that differs between any two runs on one machine.
+bool ChangesFromRunToRun(const std::string& line);
+// The report as JSON in UTF-8: an object with the blocks, each with its title and lines. The lines are UTF-8, too.
+std::string JsonOf(const std::vector<ReportBlock>& blocks);
+
+} // namespace lytcall
