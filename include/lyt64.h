@@ -23,12 +23,12 @@
  *     message.
  *
  * Traps
- *   - Take the result of a property dialog over only at 1. At 2 nothing changed, and the buffer holds what the dialog
+ *   - Use the text of a property dialog only after a 1. After a 2 nothing changed, and the buffer holds what the dialog
  *     composed, which need not be the key: of a group whose key was split, it lacks the part before the bracket.
  *   - 1 with an empty text means that the buffer was too small; a text as long as the stated size does not fit. Only a
  *     group's first text that is longer than its buffer is refused with a message and 0.
- *   - A 0 of lytWizard can come with the last text of a group, and the texts before it keep the "|" at their end: see
- *     there.
+ *   - lytWizard can return 0 along with the last text of a group, and the texts before it keep the "|" at their end:
+ *     see its description.
  */
 #ifndef LYT64_H
 #define LYT64_H
@@ -52,32 +52,38 @@ extern "C"
     int __stdcall lytGetInitializationPath(char* buffer, int size);
     int __stdcall lytGetCurrentDocName(char* buffer, int size);
 
-    /* Ends a run of calls: forgets folders, document, catalogue and report. The list of defines and a list that is
-     * being read stay. The library stays usable; start again with lytInitialiseEnvironment. */
+    /* Ends a run of calls: forgets folders, document, catalogue and report. The list of defines, a list that is being
+     * read and the texts that lytWizard still has to deliver stay. The library stays usable; start again with
+     * lytInitialiseEnvironment. */
     void __stdcall FreeGlobalObject(void);
 
     /* ---- Property dialogs ---------------------------------------------------------------------------------------- */
 
     /* Show the dialog of a placeholder's kind, with the key scanned into its controls, until the user ends it.
      *
-     * Return 1 when the placeholder changed, 2 when it did not, and 0 when there is nothing to take over: the user
-     * cancelled, or the dialog could not be shown and a message said why. After 0 the buffers are as they were. */
+     * Return 1 when the placeholder changed, 2 when it did not, and 0 when there is nothing to use: the user cancelled,
+     * or the dialog could not be shown and a message said why. In both cases the buffers are as they were. */
 
-    /* The descriptions lytInSym.dlg and lytInPhr.dlg. A result that is empty leaves the buffer as it was. One that is
-     * longer than the size leaves it empty and writes a NUL at result[size], one byte beyond it. */
+    /* The descriptions lytInSym.dlg and lytInPhr.dlg. The placeholder counts as changed when the buffer then holds
+     * anything but the key. A result that is empty leaves the buffer as it was. One that is longer than the size leaves
+     * it empty and writes a NUL at result[size], one byte beyond it. */
     int __stdcall lytSymbolPropertyDialog(const char* key, char* result, int size);
     int __stdcall lytPhrasePropertyDialog(const char* key, char* result, int size);
 
     /* The description lytCdGrp.dlg for kind 0, lytRpGrp.dlg for any other.
      *
      * The dialog's result is cut at its first ")/1": what stands before the "/" goes to `first`, what follows it to
-     * `second`; without ")/1" both get an empty text. Of a key that holds "BNG", and of any key with kind 1, the dialog
-     * sees only what begins with the first "("; after a change the part before it is put in front again, and bytes 5, 6
-     * and 7 of the key are written over those of `second`, if key and second buffer have 8 bytes or more.
+     * `second`; without ")/1" both get an empty text. A result that is empty stands for the text that `first` holds
+     * already, and leaves `second` alone.
      *
-     * A first part that is longer than its buffer is refused with a message: the buffer is then empty, and 0 is
-     * returned. A second part that is too long leaves its buffer empty and writes a NUL at second[secondSize]. A second
-     * buffer that is null, or whose size is below 1, is not written to. */
+     * A key that holds "BNG", and with kind 1 any key but an empty one, is split: the dialog sees only what begins with
+     * the first "(". After a change the part before it is put in front again, and bytes 5, 6 and 7 of the key, counted
+     * from 0, are written over those of `second`, if key and second buffer have 8 bytes or more. Any other key counts
+     * as changed whenever the user confirms.
+     *
+     * A first part that is longer than its buffer is refused with a message: the buffer is then empty, and the result
+     * is 0. A second part that does not fit leaves its buffer empty; one longer than secondSize also writes a NUL at
+     * second[secondSize]. A second buffer that is null, or whose size is below 1, is not written to. */
     int __stdcall lytGroupPropertyDialog(int kind, const char* key, char* first, int firstSize, char* second,
                                          int secondSize);
 
@@ -88,9 +94,10 @@ extern "C"
      *   G  a group; its key is copied
      *   P  a group of the para tree; its key is copied
      *   W  any entry: "G/key/label", "S/key/label" or "H//label" (a heading) is copied
-     * What follows it is the entry to select: its key, or the beginning of one for other kinds than groups. Returns 1
-     * when the user confirmed, else 0 with the target as it was. A result longer than the size leaves the target empty
-     * and writes a NUL at target[size] as well. Both names are one function; the letter alone chooses the para tree. */
+     * What follows it is the entry to select: its key, or for kinds other than groups the beginning of its key. Returns
+     * 1 when the user confirmed, else 0 with the target as it was. A result longer than the size leaves the target
+     * empty and writes a NUL at target[size] as well. Both names are one function; the letter alone chooses the para
+     * tree. */
     int __stdcall lytOpenTreeView(const char* request, char* target, int size);
     int __stdcall lytOpenTreeViewPara(const char* request, char* target, int size);
 
@@ -109,12 +116,14 @@ extern "C"
 
     /* ---- Texts, lists and the log -------------------------------------------------------------------------------- */
 
-    /* Copies the language text of a key to the buffer, with the argument after the first apostrophe of the text.
-     * Returns 1 when the text is there; without it the buffer holds "no value present" and the result is 0. */
+    /* Copies the language text of a key to the buffer, at most 74 bytes of it, with the argument put in after the first
+     * apostrophe. Returns 1 when the text is there; without it the buffer holds "no value present", and the result is
+     * 0. */
     int __stdcall lytGetTextForKey(const char* section, const char* key, const char* argument, char* buffer, int size);
 
-    /* Copies the value of lyt.ini that a text of the form "section/key" names to the buffer, and returns 1. A key that
-     * is not there gives "Entry not found" and 1 all the same. A path without "/" shows message 250 and gives 0. */
+    /* Copies the value of lyt.ini that a text of the form "section/key" names to the buffer, at most 1023 bytes of it,
+     * and returns 1. A key that is not there gives "Entry not found", and still 1. A path without "/" shows message 250
+     * and gives 0, with the buffer as it was. */
     int __stdcall lytGetTextFromIniFile(const char* path, char* buffer, int size);
 
     /* Starts a list: the value of lyt.ini named by "section/key", cut at its commas. Returns 1 when there is one. A key
@@ -127,8 +136,8 @@ extern "C"
     int __stdcall lytListFromIniNext(char* value, int valueSize, char* display, int displaySize);
 
     /* Writes a text to the log, a block of its own between two banners, when the level is not above the key "level" of
-     * the section "LogLevel" in lyt.ini. The log is named as the document up to its first dot, and ".log"; level 0 in
-     * lyt.ini means no log.
+     * the section "LogLevel" in lyt.ini. The log has the document's name up to the first dot of its path, and then
+     * ".log". Level 0 in lyt.ini means no log.
      *
      * A log that cannot be opened (207), written (208) or closed (209) raises a C++ exception, thrown as a pointer to
      * the library's ClytException: a failure that leaves the function. A C++ caller of the same tool chain can catch
@@ -148,7 +157,7 @@ extern "C"
      *   2  text of a symbol in the buffer
      *   3  text of a phrase in the buffer
      * A group's texts are what its dialog's result holds after "/LIST" and "{", separated by "|"; the first text is
-     * what stands before, brace included. Each but the last keeps its "|" at the end: "a|b|c" comes as "a|", "b|" and
+     * what precedes them, brace included. Each but the last keeps its "|" at the end: "a|b|c" comes as "a|", "b|" and
      * "c". A list that ends in "|" loses its last text: that call returns 0 and leaves the buffer as it was. A caller
      * that stops early gets the rest with its next call, before the catalogue is shown again. */
     int __stdcall lytWizard(char* buffer, int size);
@@ -158,13 +167,14 @@ extern "C"
     /* Gathers the report on how this workstation is set up, with a listing of the directory given, in place of an
      * earlier one, and returns 1. What cannot be read is noted in the report's lines; nothing on the machine changes.
      * The report may move the folder of lyt.ini to where the registry or a template says it is, for all later calls. It
-     * takes its time, all of it in this call. */
+     * may take some time, all of it in this call. */
     int __stdcall lytSystemInfoInit(const char* directory);
 
     /* Copies the line of an index, counted from 0, to the target and returns 1; a longer line is cut to size - 1
-     * characters. The byte target[size - 1] becomes a NUL in any case. An index without a line frees the report, leaves
-     * the target as it was and returns 0: so read upward from 0 until 0 comes back, which is linear. An empty line is a
-     * line. After the report was freed every index gives 0 until the next lytSystemInfoInit. */
+     * characters, and the last byte, target[size - 1], becomes a NUL however short the line is. An index without a line
+     * frees the report, leaves the target as it was and returns 0: so read upward from 0 until 0 comes back, which
+     * takes time in proportion to their number. An empty line is a line. Once the report is freed, every index gives 0
+     * until the next lytSystemInfoInit. */
     int __stdcall lytSystemInfoRead(int index, char* target, int size);
 
 #ifdef __cplusplus
