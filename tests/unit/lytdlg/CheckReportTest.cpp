@@ -180,7 +180,8 @@ TEST_F(CheckReport, MistakesOfTheCommandLineTellTheWayOut)
         {{"check"}, "something is missing after \"check\"; write: lytdlg check PATH..."},
         {{"check", "x", "--format", "jsn"}, "there is no format \"jsn\"; did you mean \"json\"?"},
         {{"check", "--explain", "section-ordr"}, "there is no rule \"section-ordr\"; did you mean \"section-order\"?"},
-        {{"check", "missing.dlg"}, "\"missing.dlg\" cannot be read; check its name and rights"},
+        {{"check", "missing.dlg"},
+         "there is no file or folder missing.dlg; name descriptions, their folder, or - for the standard input"},
     };
     for (const auto& c : cases)
     {

@@ -5,7 +5,7 @@
 
 TEST(EvaluationRules, TellOfChecksThatAreNotMadeAsWritten)
 {
-    static const JudgedLines cases[] = {
+    ExpectFindings({
         {R"($EVALUATION, x
     Nmae = NULL: NameMissing)",
          R"(example.dlg:49:5: warning evaluation-control: there is no control "Nmae", and so no check
@@ -67,14 +67,12 @@ $EVALUATION, x
         ^~~~
     hint: add it to the items of the rules in $OUTPUT, parent; one too many does no harm
 )"},
-    };
-    for (const JudgedLines& c : cases)
-        EXPECT_EQ(TextsOfFindings(c.lines), c.findings) << c.lines;
+    });
 }
 
 TEST(EvaluationRules, TellOfValuesThatAControlNeverHas)
 {
-    static const JudgedLines cases[] = {
+    ExpectFindings({
         {R"($EVALUATION, x
     Order(x) = Name(""): NameMissing)",
          R"(example.dlg:49:11: warning evaluation-value: "Order" never has the value "x"
@@ -114,14 +112,12 @@ example.dlg:49:28: warning evaluation-value: "Pictures" never has the value "on"
                   ^~~~~~~~~
     hint: name a control that holds one
 )"},
-    };
-    for (const JudgedLines& c : cases)
-        EXPECT_EQ(TextsOfFindings(c.lines), c.findings) << c.lines;
+    });
 }
 
 TEST(EvaluationRules, FindNothingWrongInAFairCheck)
 {
-    static const char* const cases[] = {
+    ExpectNoFindings({
         R"(
 $EVALUATION, x
     Order(l) = Place("", hall place): NameMissing)",
@@ -132,7 +128,5 @@ $EVALUATION, x
 $EVALUATION, x
     Pictures(P, -) = Name(NULL): NameMissing)",
         R"(-    Name = NULL: NameMissing)",
-    };
-    for (const char* lines : cases)
-        EXPECT_EQ(TextsOfFindings(lines), "") << lines;
+    });
 }

@@ -31,19 +31,23 @@ struct Found
     std::string text;
 };
 
-// With families, their rules alone.
-inline Found FindIn(const std::string& example, const std::vector<Family>& families = {})
+// With families, their rules alone. Partner libraries are in those folders.
+inline Found FindIn(const std::string& example, const std::vector<Family>& families = {},
+                    const std::vector<std::string>& partners = {})
 {
+    const std::string folder = ExampleFolder().Path();
     const Description description("example.dlg", ExampleDescription(example), {});
-    const Findings findings = Judge(description, SurroundingsOf(ExampleFolder().Path(), {}));
+    Findings findings = Judge(description, SurroundingsOf(folder, partners));
     Found found;
-    for (const Finding& finding : findings.All())
+    for (Finding& finding : findings.All())
     {
         const auto has = [&](const Family& family)
         { return std::ranges::find(family.rules, finding.rule) != family.rules.end(); };
         if (!families.empty() && std::ranges::none_of(families, has))
             continue;
         found.rules.insert(finding.rule->id);
+        if (!finding.path.empty())
+            finding.path = std::filesystem::path(finding.path).lexically_relative(folder).generic_string();
         found.text += TextOf(finding, description, false);
     }
     return found;

@@ -5,7 +5,7 @@
 
 TEST(FillRules, TellOfUnknownControls)
 {
-    static const JudgedLines cases[] = {
+    ExpectFindings({
         {R"($INPUT, parent
     Unit: (999, End = Uniit)",
          R"(example.dlg:51:23: warning scan-fill: there is no control "Uniit", and so the piece is lost
@@ -28,14 +28,12 @@ TEST(FillRules, TellOfUnknownControls)
               ^~~~
     hint: did you mean "Name"?
 )"},
-    };
-    for (const JudgedLines& c : cases)
-        EXPECT_EQ(TextsOfFindings(c.lines), c.findings) << c.lines;
+    });
 }
 
 TEST(FillRules, TellOfConditionsThatNeverHold)
 {
-    static const JudgedLines cases[] = {
+    ExpectFindings({
         {R"($INPUT, parent
     Unit: Name(NULL) = End, Tail
     Tail: (999, End = Unit)",
@@ -60,14 +58,12 @@ TEST(FillRules, TellOfConditionsThatNeverHold)
               ^~~~~
     hint: name its OptionGroup
 )"},
-    };
-    for (const JudgedLines& c : cases)
-        EXPECT_EQ(TextsOfFindings(c.lines), c.findings) << c.lines;
+    });
 }
 
 TEST(FillRules, TellOfActionsThatDoNothing)
 {
-    static const JudgedLines cases[] = {
+    ExpectFindings({
         {R"($INPUT, parent
     Unit: (999, End = Rooms(Concat, "|"))",
          R"(example.dlg:51:29: warning scan-action: "Concat" is no action: the piece becomes the value of "Rooms"
@@ -124,14 +120,12 @@ TEST(FillRules, TellOfActionsThatDoNothing)
                                 ^~~~~~
     hint: name one or two separators
 )"},
-    };
-    for (const JudgedLines& c : cases)
-        EXPECT_EQ(TextsOfFindings(c.lines), c.findings) << c.lines;
+    });
 }
 
 TEST(FillRules, TellOfValuesThatAreNotTaken)
 {
-    static const JudgedLines cases[] = {
+    ExpectFindings({
         {R"($INPUT, parent
     Unit: (999, End = Unit, Order = x)",
          R"(example.dlg:51:37: warning scan-value: "Order" has no value "x"
@@ -178,14 +172,12 @@ $INPUT, parent
                                 ^~~~~
     hint: add the piece with ADD or CONCAT, or give the list items
 )"},
-    };
-    for (const JudgedLines& c : cases)
-        EXPECT_EQ(TextsOfFindings(c.lines), c.findings) << c.lines;
+    });
 }
 
 TEST(FillRules, TellOfFillsThatAreSkipped)
 {
-    static const JudgedLines cases[] = {
+    ExpectFindings({
         {R"($INPUT, parent
     Unit: (999, End = (m)Form = round form, (mm)Form = square form)",
          R"(example.dlg:51:45: warning scan-pair: this fill is skipped when the condition before it does not hold
@@ -200,14 +192,12 @@ TEST(FillRules, TellOfFillsThatAreSkipped)
                                                 ^~~~
     hint: put it before the condition
 )"},
-    };
-    for (const JudgedLines& c : cases)
-        EXPECT_EQ(TextsOfFindings(c.lines), c.findings) << c.lines;
+    });
 }
 
 TEST(FillRules, FindNothingWrongInAFairFill)
 {
-    static const char* const cases[] = {
+    ExpectNoFindings({
         R"(
 $INPUT, parent
     Unit: (999, End = Unit, (m)Form = round form, Place = hall place, Pictures = ON)",
@@ -228,7 +218,5 @@ $VALUES
     Parts = FILLEDBY, lytdata, OpenMarked, NextItem
 $INPUT, parent
     Unit: (999, End = Unit, Parts(FILL), Parts)",
-    };
-    for (const char* lines : cases)
-        EXPECT_EQ(TextsOfFindings(lines), "") << lines;
+    });
 }

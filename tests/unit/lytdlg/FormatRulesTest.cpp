@@ -5,7 +5,7 @@
 
 TEST(FormatRules, TellOfConversionsThatDoNotExist)
 {
-    static const JudgedLines cases[] = {
+    ExpectFindings({
         {R"($OUTPUT, parent
     Form("") = ("places:%s", Name, Unit))",
          R"(example.dlg:53:23: warning format-letter-s: in a format with %, this s takes an item
@@ -48,14 +48,12 @@ TEST(FormatRules, TellOfConversionsThatDoNotExist)
                      ^~~~~~~
     hint: write %.5s for the first five characters
 )"},
-    };
-    for (const JudgedLines& c : cases)
-        EXPECT_EQ(TextsOfFindings(c.lines), c.findings) << c.lines;
+    });
 }
 
 TEST(FormatRules, TellOfItemsThatAreTooManyOrTooFew)
 {
-    static const JudgedLines cases[] = {
+    ExpectFindings({
         {R"($OUTPUT, parent
     Form("") = ("%s;%s", Name))",
          R"(example.dlg:53:18: warning format-items: the format takes 2 items, the rule has 1
@@ -91,14 +89,12 @@ TEST(FormatRules, TellOfItemsThatAreTooManyOrTooFew)
                      ^~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~
     hint: 25 at most; write the rest into the format
 )"},
-    };
-    for (const JudgedLines& c : cases)
-        EXPECT_EQ(TextsOfFindings(c.lines), c.findings) << c.lines;
+    });
 }
 
 TEST(FormatRules, TellOfEscapesThatStayAndOfEmptyFormats)
 {
-    static const JudgedLines cases[] = {
+    ExpectFindings({
         {R"($OUTPUT, parent
     Form("") = ("%s\n", Name))",
          R"(example.dlg:53:20: warning format-escape: \n stays as it is at the end of the text
@@ -120,14 +116,12 @@ TEST(FormatRules, TellOfEscapesThatStayAndOfEmptyFormats)
         ^~~~
     hint: write ("%s", "") for an empty text
 )"},
-    };
-    for (const JudgedLines& c : cases)
-        EXPECT_EQ(TextsOfFindings(c.lines), c.findings) << c.lines;
+    });
 }
 
 TEST(FormatRules, FindNothingWrongInAFairFormat)
 {
-    static const char* const cases[] = {
+    ExpectNoFindings({
         R"(
 $OUTPUT, parent
     Form("") = ("%s %.5s %0.3s\n%s", Name, Unit, Place, %))",
@@ -139,7 +133,5 @@ $OUTPUT, parent
         R"(
 $OUTPUT, parent
     Form("") = ("so. it is"))",
-    };
-    for (const char* lines : cases)
-        EXPECT_EQ(TextsOfFindings(lines), "") << lines;
+    });
 }

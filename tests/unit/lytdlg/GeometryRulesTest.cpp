@@ -5,7 +5,7 @@
 
 TEST(GeometryRules, TellOfControlsThatAreNotSeenWhole)
 {
-    static const JudgedLines cases[] = {
+    ExpectFindings({
         {R"($LAYOUT Example
     TextBox 520, 12, 100, 19, .More
     TextBox 600, 12, 100, 19, .Most)",
@@ -80,14 +80,12 @@ example.dlg:25:5: warning geometry-tab: the Tab key goes back from "More" in lin
         ^~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~
     hint: let the statements stand in the order of reading
 )"},
-    };
-    for (const JudgedLines& c : cases)
-        EXPECT_EQ(TextsOfFindings(c.lines), c.findings) << c.lines;
+    });
 }
 
 TEST(GeometryRules, TellOfTheWayOfTheTabKey)
 {
-    static const JudgedLines cases[] = {
+    ExpectFindings({
         {R"($LAYOUT Example
     TextBox 520, 64, 100, 19, .More
     TextBox 520, 38, 100, 19, .Most)",
@@ -104,14 +102,12 @@ TEST(GeometryRules, TellOfTheWayOfTheTabKey)
         ^~~~~~~~~~~~~~~~~~~~~~~~
     hint: let the statements stand in the order of reading
 )"},
-    };
-    for (const JudgedLines& c : cases)
-        EXPECT_EQ(TextsOfFindings(c.lines), c.findings) << c.lines;
+    });
 }
 
 TEST(GeometryRules, TellOfListsWithoutRoomAndOfFramesThatPartAGroup)
 {
-    static const JudgedLines cases[] = {
+    ExpectFindings({
         {R"($LAYOUT Example
     ComboBox 520, 12, 100, 19, .More)",
          R"(example.dlg:24:5: warning geometry-drop: with a height of 19 the list has no room to open
@@ -143,14 +139,12 @@ TEST(GeometryRules, TellOfListsWithoutRoomAndOfFramesThatPartAGroup)
         ^~~~~~~~~~~~~~~~~~~~~~~~~~~~
     hint: let it hold all of them
 )"},
-    };
-    for (const JudgedLines& c : cases)
-        EXPECT_EQ(TextsOfFindings(c.lines), c.findings) << c.lines;
+    });
 }
 
 TEST(GeometryRules, FindNothingWrongInAFairLayout)
 {
-    static const char* const cases[] = {
+    ExpectNoFindings({
         R"(
 $LAYOUT Example
     GroupBox 508, 6, 200, 80, ""
@@ -176,7 +170,5 @@ $LAYOUT Example
     TextBox 520, 12, 100, 19, .More
     TextBox 520, 38, 100, 19
     TextBox 640, 12, 100, 19)",
-    };
-    for (const char* lines : cases)
-        EXPECT_EQ(TextsOfFindings(lines), "") << lines;
+    });
 }

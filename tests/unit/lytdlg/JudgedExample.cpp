@@ -2,19 +2,21 @@
 
 #include "ExampleFindings.h"
 
-using namespace lytdlg;
+#include <gtest/gtest.h>
 
 std::string TextsOfFindings(const std::string& lines, const std::vector<std::string>& partners)
 {
-    const TestFolder& folder = ExampleFolder();
-    const Description description("example.dlg", ExampleDescription(lines), {});
-    Findings findings = Judge(description, SurroundingsOf(folder.Path(), partners));
-    std::string texts;
-    for (Finding& finding : findings.All())
-    {
-        if (!finding.path.empty())
-            finding.path = std::filesystem::path(finding.path).lexically_relative(folder.Path()).generic_string();
-        texts += TextOf(finding, description, false);
-    }
-    return texts;
+    return lytdlg::FindIn(lines, {}, partners).text;
+}
+
+void ExpectFindings(std::initializer_list<JudgedLines> examples)
+{
+    for (const JudgedLines& example : examples)
+        EXPECT_EQ(TextsOfFindings(example.lines), example.findings) << example.lines;
+}
+
+void ExpectNoFindings(std::initializer_list<const char*> examples)
+{
+    for (const char* lines : examples)
+        EXPECT_EQ(TextsOfFindings(lines), "") << lines;
 }

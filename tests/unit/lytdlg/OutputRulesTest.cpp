@@ -5,7 +5,7 @@
 
 TEST(OutputRules, TellOfGroupsThatComposeNothing)
 {
-    static const JudgedLines cases[] = {
+    ExpectFindings({
         {R"($EVALUATION, x
 -    Name = NULL: NameMissing
 $OUTPUT, parent
@@ -47,14 +47,12 @@ $OUTPUT, Out)",
     ^~~~~~~~~~~~
     hint: add one, as ("%s", Name)
 )"},
-    };
-    for (const JudgedLines& c : cases)
-        EXPECT_EQ(TextsOfFindings(c.lines), c.findings) << c.lines;
+    });
 }
 
 TEST(OutputRules, TellOfRulesThatAreNeverUsedOrMissing)
 {
-    static const JudgedLines cases[] = {
+    ExpectFindings({
         {R"($OUTPUT, parent
     Name = ("%s", Name)
 -    ("%s;%s;%s;%s;%s;%s", Name, Unit, Place, Form, Order, Pictures))",
@@ -103,14 +101,12 @@ TEST(OutputRules, TellOfRulesThatAreNeverUsedOrMissing)
              ^~~~
     hint: did you mean "NULL"?
 )"},
-    };
-    for (const JudgedLines& c : cases)
-        EXPECT_EQ(TextsOfFindings(c.lines), c.findings) << c.lines;
+    });
 }
 
 TEST(OutputRules, TellOfConditionsThatFail)
 {
-    static const JudgedLines cases[] = {
+    ExpectFindings({
         {R"($OUTPUT, parent
     Unti("") = ("%s", Name))",
          R"(example.dlg:53:5: error output-condition: there is no control "Unti" (message 245)
@@ -147,14 +143,12 @@ example.dlg:53:15: warning output-valueless: a Text has no value (message 201)
                   ^~~~~~~~~
     hint: name a control that holds one
 )"},
-    };
-    for (const JudgedLines& c : cases)
-        EXPECT_EQ(TextsOfFindings(c.lines), c.findings) << c.lines;
+    });
 }
 
 TEST(OutputRules, TellOfItemsThatAreNotWhatTheySeem)
 {
-    static const JudgedLines cases[] = {
+    ExpectFindings({
         {R"($OUTPUT, parent
     Form("") = ("%s%s", Nmae, unit))",
          R"(example.dlg:53:25: warning output-item: there is no control "Nmae": the word itself goes into the text
@@ -210,14 +204,12 @@ $OUTPUT, parent
                                   ^~~~~
     hint: name a separator, as Rooms("|")
 )"},
-    };
-    for (const JudgedLines& c : cases)
-        EXPECT_EQ(TextsOfFindings(c.lines), c.findings) << c.lines;
+    });
 }
 
 TEST(OutputRules, FindNothingWrongInAFairOutput)
 {
-    static const char* const cases[] = {
+    ExpectNoFindings({
         R"(
 $OUTPUT, parent
     Form("") = ("%s%s%s%s", Name, "Unti", %, m))",
@@ -233,7 +225,5 @@ $VALUES
 $OUTPUT, Out
     Order(s) = ("short")
     ("%s", Name))",
-    };
-    for (const char* lines : cases)
-        EXPECT_EQ(TextsOfFindings(lines), "") << lines;
+    });
 }

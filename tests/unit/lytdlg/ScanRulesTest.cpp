@@ -5,7 +5,7 @@
 
 TEST(ScanRules, TellOfPartsThatAreNotRun)
 {
-    static const JudgedLines cases[] = {
+    ExpectFindings({
         {R"($INPUT, Entrance)",
          R"(example.dlg:52:1: note scan-part-unused: no button runs the part "Entrance"
     $INPUT, Entrance
@@ -41,14 +41,12 @@ TEST(ScanRules, TellOfPartsThatAreNotRun)
     ^~~~~~~~~~~~
     hint: name it in a button's DIALOG or ACTION, or delete it
 )"},
-    };
-    for (const JudgedLines& c : cases)
-        EXPECT_EQ(TextsOfFindings(c.lines), c.findings) << c.lines;
+    });
 }
 
 TEST(ScanRules, TellOfStatementsThatLeadNowhereOrAreNotReached)
 {
-    static const JudgedLines cases[] = {
+    ExpectFindings({
         {R"--($INPUT, parent
     Unit: (")", Edn = Unit)--",
          R"--(example.dlg:51:17: warning scan-target: no statement is called "Edn", and so the run ends
@@ -84,14 +82,12 @@ TEST(ScanRules, TellOfStatementsThatLeadNowhereOrAreNotReached)
         ^~~~
     hint: give each statement of a part a name of its own
 )"},
-    };
-    for (const JudgedLines& c : cases)
-        EXPECT_EQ(TextsOfFindings(c.lines), c.findings) << c.lines;
+    });
 }
 
 TEST(ScanRules, TellOfCircles)
 {
-    static const JudgedLines cases[] = {
+    ExpectFindings({
         {R"($INPUT, parent
     Unit: (1, Unit = Unit)",
          R"(example.dlg:51:5: error scan-circle: the run goes round in a circle at the end of the text: "Unit" -> "Unit" (message 206)
@@ -129,14 +125,12 @@ TEST(ScanRules, TellOfCircles)
         ^~~~
     hint: let one of these statements cut something, or lead to End
 )"},
-    };
-    for (const JudgedLines& c : cases)
-        EXPECT_EQ(TextsOfFindings(c.lines), c.findings) << c.lines;
+    });
 }
 
 TEST(ScanRules, TellWhereTheFirstLineHoldsAComment)
 {
-    static const JudgedLines cases[] = {
+    ExpectFindings({
         {R"($INPUT, parent
     Start: (";", Unit = Name ; up to the semicolon)",
          R"(example.dlg:50:30: warning scan-first-line: in the line after a header a `;` does not separate: it belongs to the word before it
@@ -144,14 +138,12 @@ TEST(ScanRules, TellWhereTheFirstLineHoldsAComment)
                                  ^
     hint: put a comment line between the header and this line
 )"},
-    };
-    for (const JudgedLines& c : cases)
-        EXPECT_EQ(TextsOfFindings(c.lines), c.findings) << c.lines;
+    });
 }
 
 TEST(ScanRules, FindNothingWrongInAFairPart)
 {
-    static const char* const cases[] = {
+    ExpectNoFindings({
         R"(
 $INPUT, parent
     Unit: (";", Unit = Rooms(ADD))",
@@ -179,7 +171,5 @@ $INPUT, Back
     Start: (999, End = Name
 $OUTPUT, Out
     ("%s", Name))",
-    };
-    for (const char* lines : cases)
-        EXPECT_EQ(TextsOfFindings(lines), "") << lines;
+    });
 }

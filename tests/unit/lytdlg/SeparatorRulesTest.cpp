@@ -5,7 +5,7 @@
 
 TEST(SeparatorRules, TellOfSeparatorsThatNeverComeIntoPlay)
 {
-    static const JudgedLines cases[] = {
+    ExpectFindings({
         {R"($INPUT, parent
     Start: (">", Unit, ">=", Unit = Name)",
          R"(example.dlg:50:25: warning scan-separator: the separator ">" before ">=" wins
@@ -41,14 +41,12 @@ TEST(SeparatorRules, TellOfSeparatorsThatNeverComeIntoPlay)
                            ^
     hint: cut by a length or at separators, in two statements
 )"},
-    };
-    for (const JudgedLines& c : cases)
-        EXPECT_EQ(TextsOfFindings(c.lines), c.findings) << c.lines;
+    });
 }
 
 TEST(SeparatorRules, TellOfTextThatIsCutOrDropped)
 {
-    static const JudgedLines cases[] = {
+    ExpectFindings({
         {R"--($INPUT, parent
     Unit: (")", End, Rest, End = Unit)--",
          R"--(example.dlg:51:22: warning scan-rest: "Rest" cuts a text that holds these letters, and is not needed here
@@ -63,14 +61,12 @@ TEST(SeparatorRules, TellOfTextThatIsCutOrDropped)
                 ^
     hint: go on with another statement; a piece that takes all is (999, End
 )"},
-    };
-    for (const JudgedLines& c : cases)
-        EXPECT_EQ(TextsOfFindings(c.lines), c.findings) << c.lines;
+    });
 }
 
 TEST(SeparatorRules, FindNothingWrongInFairSeparators)
 {
-    static const char* const cases[] = {
+    ExpectNoFindings({
         R"(
 $INPUT, parent
     Start: (">=", Unit, ">", Unit, "", Unit, Rest, Unit = Name)",
@@ -83,7 +79,5 @@ $INPUT, parent
         R"(
 $INPUT, parent
     Unit: (",", End))",
-    };
-    for (const char* lines : cases)
-        EXPECT_EQ(TextsOfFindings(lines), "") << lines;
+    });
 }

@@ -5,7 +5,7 @@
 
 TEST(TextRules, TellOfTextsThatAreMissing)
 {
-    static const JudgedLines cases[] = {
+    ExpectFindings({
         {R"($LAYOUT Example
     PushButton 520, 12, 112, 21, "Piktures", .More)",
          R"(example.dlg:24:35: warning text-missing: English.nls, German.nls: no text "Piktures" in [Example]
@@ -37,14 +37,12 @@ example.dlg:2:9: warning text-section: German.nls has no section [Exmaple]
             ^~~~~~~
     hint: did you mean "Example"?
 )"},
-    };
-    for (const JudgedLines& c : cases)
-        EXPECT_EQ(TextsOfFindings(c.lines), c.findings) << c.lines;
+    });
 }
 
 TEST(TextRules, TellOfTextsThatAreShownOtherwise)
 {
-    static const JudgedLines cases[] = {
+    ExpectFindings({
         {R"($VALUES
     Form: LongText = long form)",
          R"(lang/English.nls:37:1: warning text-long: the text has 78 characters and is cut after 74: "...haracters that there"
@@ -117,27 +115,23 @@ lang/German.nls:27:1: note text-unused: no dialog of the folder uses the text "S
     ^~~~~~
     hint: delete it
 )"},
-    };
-    for (const JudgedLines& c : cases)
-        EXPECT_EQ(TextsOfFindings(c.lines), c.findings) << c.lines;
+    });
 }
 
 TEST(TextRules, FindNothingWrongInTextsThatAreThere)
 {
-    static const char* const cases[] = {
+    ExpectNoFindings({
         R"(
 $LAYOUT Example
     PushButton 520, 12, 100, 21, "Remove", .More
 $VALUES
     Form: Hall = other form)",
-    };
-    for (const char* lines : cases)
-        EXPECT_EQ(TextsOfFindings(lines), "") << lines;
+    });
 }
 
 TEST(MnemonicRules, TellOfLettersThatAreUsedTwiceOrMissing)
 {
-    static const JudgedLines cases[] = {
+    ExpectFindings({
         {R"($LAYOUT Example
     PushButton 520, 12, 112, 21, "Note", .More)",
          R"(example.dlg:24:35: warning mnemonic-twice: in English.nls "Note" underlines the letter n as "Name" in line 4 does
@@ -160,14 +154,12 @@ example.dlg:24:35: note mnemonic-none: in German.nls "Plain" underlines no lette
                                       ^~~~~
     hint: write an & before a letter that the dialog does not have yet
 )"},
-    };
-    for (const JudgedLines& c : cases)
-        EXPECT_EQ(TextsOfFindings(c.lines), c.findings) << c.lines;
+    });
 }
 
 TEST(MnemonicRules, FindNothingWrongInControlsThatTakeTurns)
 {
-    static const char* const cases[] = {
+    ExpectNoFindings({
         R"(
 $LAYOUT Example
     PushButton 520, 12, 112, 21, "Remove", .More
@@ -175,7 +167,5 @@ $LAYOUT Example
 $DEPENDANCES
     More/VISIBLE = Name(NULL)
     Most/VISIBLE = Name(x))",
-    };
-    for (const char* lines : cases)
-        EXPECT_EQ(TextsOfFindings(lines), "") << lines;
+    });
 }

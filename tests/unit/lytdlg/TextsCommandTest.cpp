@@ -1,11 +1,14 @@
 // `lytdlg texts`: language files against dialogs and against each other.
 #include "CommandRun.h"
+#include "lytdlg/judge/FolderTexts.h"
+#include "lytdlg/text/LibraryTexts.h"
 #include "lytdlg/text/TextFile.h"
 #include "lytdlg/text/TextTable.h"
 #include "support/DescriptionText.h"
 #include "support/TestFolder.h"
 
 #include <gtest/gtest.h>
+#include <nlohmann/json.hpp>
 
 #include <regex>
 #include <set>
@@ -14,18 +17,19 @@ namespace
 {
 
 namespace fs = std::filesystem;
+using nlohmann::json;
 
 // The texts that the library asks for by itself, all there.
 std::string LibraryTexts()
 {
     std::string texts;
     std::string section;
-    for (const lytdlg::TextUse& use : lytdlg::TextsOfLibrary())
+    for (const lytdlg::LibraryText& text : lytdlg::LibraryTexts())
     {
-        if (use.section != section)
-            texts += "[" + use.section + "]\n";
-        section = use.section;
-        texts += use.key + "=x\n";
+        if (text.section != section)
+            texts += "[" + text.section + "]\n";
+        section = text.section;
+        texts += text.key + "=x\n";
     }
     return texts;
 }
@@ -78,11 +82,11 @@ TEST(Texts, ComeFromEveryStatementThatNamesAKey)
     dialog.values = "L: Item = value\nL: DBLCLICK = B\nL = FILLEDBY, lib, f, g, p, NotAKey/x\n"
                     "C = FILLEDBY, lib, f, g, p, First/x\nB: VISIBLE = A, On\nT: NotAKey = x, y\n";
     dialog.evaluation = "T = NULL: Message\n";
-    const TestFolder folder;
     std::string uses;
-    for (const lytdlg::TextUse& use : lytdlg::TextsOfDialog(folder.Write("a.dlg", dialog())))
-        uses += use.section + "/" + use.key + (use.isCaption ? " " : "! ") + std::to_string(use.line) + "\n";
-    EXPECT_EQ(uses, "S/TITLE 3\nS/Label 4\nS/Off 7\nS/Item 11\nS/First 14\nS/On 15\nMsgBox/Message! 19\n");
+    for (const lytdlg::ShownText& use : lytdlg::TextsOf("a.dlg", dialog()).uses)
+        uses += use.section + "/" + use.key + (use.role == lytdlg::TextRole::Caption ? "! " : " ") +
+                std::to_string(use.place.line) + "\n";
+    EXPECT_EQ(uses, "S/TITLE 3\nS/Label! 4\nS/Off! 7\nS/Item 11\nS/First 14\nS/On 15\nMsgBox/Message 19\n");
 }
 
 TEST(Texts, ComeFromEveryChoiceOfTheDefinesAndFromWhatFollowsAMistake)
@@ -90,9 +94,8 @@ TEST(Texts, ComeFromEveryChoiceOfTheDefinesAndFromWhatFollowsAMistake)
     DescriptionText dialog = Dialog();
     dialog.layout =
         "<X\nText 1,2,3,4,\"WithX\"\n>\n<!X\nText 1,2,3,4,\"WithoutX\"\n>\nText 1,2\nText 1,2,3,4,\"Both\"\n";
-    const TestFolder folder;
     std::string keys;
-    for (const lytdlg::TextUse& use : lytdlg::TextsOfDialog(folder.Write("a.dlg", dialog())))
+    for (const lytdlg::ShownText& use : lytdlg::TextsOf("a.dlg", dialog()).uses)
         keys += use.key + " ";
     EXPECT_EQ(keys, "TITLE WithX WithoutX Both ");
 }
@@ -112,33 +115,37 @@ TEST(Texts, ShowEachKeyWithItsPlacesAndWhatIsMissing)
 TEST(Texts, TellWhatIsWrongWithAText)
 {
     const std::string tooLong(75, 'x');
+    DescriptionText dialog = Dialog();
+    dialog.layout = "Text 1,2,3,4,\"Label\",.A\n";
     const DialogFolder folder(
-        Dialog(), "[S]\nTITLE=It's\nUnused=a & b %\nSame=x\nLong=" + tooLong + "\nSame=y\nNothing\n[s]\nA=\n",
-        "[S]\nTITLE=Es\nUnused=a\\n\nSame=x\nLong=x\nNothing=\n");
+        dialog, "[S]\nTITLE=It's\nLabel=It's\nUnused=a & b %\nSame=x\nLong=" + tooLong + "\nSame=y\nNothing\n[s]\nA=\n",
+        "[S]\nTITLE=Es\nLabel=Es\nUnused=a\\n\nSame=x\nLong=x\nNothing=\n");
     EXPECT_EQ(folder.Lines(1), "SECTION       KEY           English  German   USED BY\n"
                                "S             TITLE         line 41  line 41  a.dlg:3\n"
-                               "S             Unused        line 42  line 42  -\n"
-                               "S             Same          line 43  line 43  -\n"
-                               "S             Long          line 44  line 44  -\n"
-                               "S             Nothing       missing  line 45  -\n"
+                               "S             Label         line 42  line 42  a.dlg:4\n"
+                               "S             Unused        line 43  line 43  -\n"
+                               "S             Same          line 44  line 44  -\n"
+                               "S             Long          line 45  line 45  -\n"
+                               "S             Nothing       missing  line 46  -\n"
                                "s             A             -        -        -\n"
                                "\n"
-                               "[S] TITLE: an apostrophe in English, where the caption ends\n"
                                "[S] TITLE: different apostrophes: English 1, German 0\n"
+                               "[S] Label: an apostrophe in English, where the caption ends\n"
+                               "[S] Label: different apostrophes: English 1, German 0\n"
                                "[S] Unused: unused\n"
                                "[S] Unused: different per cent signs: English 1, German 0\n"
                                "[S] Unused: different line ends (\\n): English 0, German 1\n"
                                "[S] Unused: different ampersands: English 1, German 0\n"
                                "[S] Same: unused\n"
-                               "[S] Same: never read in English, line 45: its key or section stands there twice\n"
+                               "[S] Same: never read in English, line 46: its key or section stands there twice\n"
                                "[S] Long: unused\n"
                                "[S] Long: cut in English: 75 bytes, 74 are shown\n"
                                "[S] Nothing: unused\n"
-                               "[S] Nothing: no = in English, line 46\n"
+                               "[S] Nothing: no = in English, line 47\n"
                                "[s] A: unused\n"
-                               "[s] A: never read in English, line 48: its key or section stands there twice\n"
+                               "[s] A: never read in English, line 49: its key or section stands there twice\n"
                                "\n"
-                               "42 texts, 1 missing\n");
+                               "43 texts, 1 missing\n");
 }
 
 TEST(Texts, AreShownInUtf8)
@@ -152,19 +159,18 @@ TEST(Texts, AreGivenAsJsonToo)
     const DialogFolder folder(Dialog(), "[S]\nTITLE=\"a\" \\n\n", "[S]\nTITLE2=x\n");
     const CommandRun run({"texts", folder.Path(), "--format", "json"});
     EXPECT_EQ(run.code, 1);
-    EXPECT_TRUE(run.output.starts_with(
-        "{\"missing\": 2, \"texts\": [\n{\"section\": \"Buttons\", \"key\": \"001\", \"uses\": [{\"library\": true}], "
-        "\"texts\": [{\"language\": \"English\", \"line\": 2, \"text\": \"x\"}, {\"language\": \"German\", \"line\": "
-        "2, "
-        "\"text\": \"x\"}], \"remarks\": []},\n"))
-        << run.output;
-    EXPECT_TRUE(run.output.ends_with(
-        "{\"section\": \"S\", \"key\": \"TITLE\", \"uses\": [{\"file\": \"a.dlg\", \"line\": 3}], \"texts\": "
-        "[{\"language\": \"English\", \"line\": 41, \"text\": \"\\\"a\\\" \\\\n\"}, {\"language\": \"German\", "
-        "\"missing\": true}], \"remarks\": []},\n"
-        "{\"section\": \"S\", \"key\": \"TITLE2\", \"uses\": [], \"texts\": [{\"language\": \"English\", \"missing\": "
-        "true}, {\"language\": \"German\", \"line\": 41, \"text\": \"x\"}], \"remarks\": [\"unused\"]}\n]}\n"))
-        << run.output;
+    const json told = json::parse(run.output);
+    EXPECT_EQ(told.at("missing"), 2);
+    EXPECT_EQ(told.at("texts").front(), json::parse(R"({"section": "Buttons", "key": "001", "uses": [{"library": true}],
+        "texts": [{"language": "English", "line": 2, "text": "x"}, {"language": "German", "line": 2, "text": "x"}],
+        "remarks": []})"));
+    EXPECT_EQ(told.at("texts").at(36), json::parse(R"({"section": "S", "key": "TITLE",
+        "uses": [{"file": "a.dlg", "line": 3}],
+        "texts": [{"language": "English", "line": 41, "text": "\"a\" \\n"}, {"language": "German", "missing": true}],
+        "remarks": []})"));
+    EXPECT_EQ(told.at("texts").back(), json::parse(R"({"section": "S", "key": "TITLE2", "uses": [],
+        "texts": [{"language": "English", "missing": true}, {"language": "German", "line": 41, "text": "x"}],
+        "remarks": ["unused"]})"));
 }
 
 TEST(Texts, OfTheSamplesAreAllThereAndAllUsed)
@@ -198,8 +204,8 @@ TEST(Texts, OfTheLibraryAreThoseThatItsSourcesAskFor)
             asked.insert((*found)[1].str() + "/" + (*found)[2].str());
     }
     std::set<std::string> known;
-    for (const lytdlg::TextUse& use : lytdlg::TextsOfLibrary())
-        known.insert(use.section + "/" + use.key);
+    for (const lytdlg::LibraryText& text : lytdlg::LibraryTexts())
+        known.insert(text.section + "/" + text.key);
     EXPECT_EQ(asked, known);
 }
 

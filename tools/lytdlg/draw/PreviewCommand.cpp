@@ -105,7 +105,7 @@ class Sheet
 {
 public:
     explicit Sheet(const Request& request)
-        : m_request(request), m_folder(request.Text("--sheet", "")), m_languages(LanguageFiles(m_folder).Languages())
+        : m_request(request), m_folder(request.Text("--sheet", "")), m_languages(LanguagesIn(m_folder))
     {
         if (!fs::is_directory(m_folder))
             throw std::runtime_error("there is no folder \"" + m_folder + "\"");

@@ -201,16 +201,8 @@ void JudgeAdd(const Statement& statement)
 {
     if (!HasWords(statement, 2, "ADD = FROM, TO"))
         return;
-    JudgeTarget(statement, 0, MovesFocusWhenRead, "a list or a check list");
+    JudgeTarget(statement, 0, IsOpenList, "a list or a check list");
     JudgeTarget(statement, statement.value.values.size() - 1, HasItems, "a list");
-}
-
-std::vector<std::string> ActionWords()
-{
-    std::vector<std::string> all;
-    for (const auto& word : ClytWordTable<ClytAction>::words)
-        all.emplace_back(word.text);
-    return all;
 }
 
 void JudgeMove(const Statement& statement)
@@ -227,7 +219,7 @@ void JudgeFill(const Statement& statement)
     const std::string name = statement.Value(0);
     JudgeTarget(statement, 0, IsFilledByLibrary, "a list or a field");
     if (IsFilledByLibrary(KindOfControl(statement.Of(), name)) &&
-        StatementsOf(statement.Of(), name, Role::Source).empty())
+        LastStatementOf(statement.Of(), name, Role::Source) == nullptr)
         statement.Add(noSource, 0, "no statement FILLEDBY says what fills " + InQuotes(name),
                       "add \"" + name + " = FILLEDBY, LIBRARY, FUNCTION, NEXT\" to $VALUES");
 }
@@ -251,7 +243,8 @@ void JudgeAction(const Statement& statement)
         statement.judged.findings.Add(
             unknownAction, statement.Of().PlaceOf(statement.value.span.line, word.empty() ? statement.Value(0) : word),
             word.empty() ? "this statement names no action" : InQuotes(word) + " is no action of a button",
-            MeantOr(word, ActionWords(), "use VISIBLE, ACTIVE, ADD, DELETE, UP, DOWN, ACTION, REJECT, FILL or DIALOG"));
+            MeantOr(word, WordsOf<ClytAction>(),
+                    "use VISIBLE, ACTIVE, ADD, DELETE, UP, DOWN, ACTION, REJECT, FILL or DIALOG"));
     }
 }
 
@@ -276,7 +269,7 @@ void JudgeDoubleClick(const Statement& statement)
     std::vector<std::string> buttons = {"OK"};
     for (const ClytControlStatement& each : statement.Of().controls)
     {
-        if (KindOf(each.type.GetString()) == Kind::Button && !each.name.IsEmpty())
+        if (KindOf(each) == Kind::Button && !each.name.IsEmpty())
             buttons.emplace_back(each.name.GetString());
     }
     statement.Add(doubleClick, 0,

@@ -5,9 +5,9 @@
 #include "lytdlg/judge/Report.h"
 #include "lytdlg/judge/RuleTexts.h"
 #include "lytdlg/text/BinaryStream.h"
+#include "lytdlg/text/DescriptionPaths.h"
 #include "lytdlg/text/TextFile.h"
 
-#include <algorithm>
 #include <cstdint>
 #include <cstdio>
 #include <filesystem>
@@ -20,7 +20,7 @@ namespace
 
 std::string BytesOf(const std::string& path)
 {
-    if (path == "-")
+    if (path == standardInput)
         return ReadStandardInput();
     std::optional<std::string> bytes = ReadWholeFile(path);
     if (!bytes)
@@ -28,27 +28,10 @@ std::string BytesOf(const std::string& path)
     return std::move(*bytes);
 }
 
-// The descriptions that a path stands for: those of a folder in the order of their names, a file, or standard input.
-std::vector<std::string> DescriptionsOf(const std::string& path)
-{
-    if (path == "-" || !std::filesystem::is_directory(path))
-        return {path};
-    std::vector<std::string> found;
-    for (const auto& entry : std::filesystem::directory_iterator(path))
-    {
-        if (entry.is_regular_file() && entry.path().extension() == ".dlg")
-            found.push_back(entry.path().string());
-    }
-    std::ranges::sort(found);
-    if (found.empty())
-        throw commandline::UsageError("the folder \"" + path + "\" holds no description (*.dlg)");
-    return found;
-}
-
 std::string FolderOf(const std::string& operand)
 {
-    if (operand == "-" || std::filesystem::is_directory(operand))
-        return operand == "-" ? "" : operand;
+    if (operand == standardInput || std::filesystem::is_directory(operand))
+        return operand == standardInput ? "" : operand;
     const std::string folder = std::filesystem::path(operand).parent_path().string();
     return folder.empty() ? "." : folder;
 }
@@ -151,7 +134,7 @@ ExitCode Check(const Request& request)
     for (const std::string& operand : request.operands)
     {
         const Surroundings surroundings = SurroundingsOf(FolderOf(operand), request.Texts("--partners"));
-        for (const std::string& path : DescriptionsOf(operand))
+        for (const std::string& path : DescriptionsAt(operand))
             checker.JudgeAt(path, surroundings);
     }
     return checker.End();

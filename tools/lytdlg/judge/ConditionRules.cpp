@@ -1,7 +1,9 @@
 #include "lytdlg/judge/ConditionRules.h"
 
-#include "lytdlg/judge/ConditionText.h"
+#include "lytdlg/judge/Conditions.h"
 #include "lytdlg/judge/ControlValues.h"
+#include "lytdlg/judge/Fills.h"
+#include "lytdlg/judge/Lists.h"
 
 #include <algorithm>
 
@@ -90,7 +92,7 @@ bool MayHaveNoChoice(const Description& description, const std::string& name, Ki
 {
     if (kind != Kind::List)
         return kind == Kind::CheckList;
-    return TakesItems(description, name) || StatementsOf(description, name, Role::Item).empty() ||
+    return GetsItems(description, name) || StatementsOf(description, name, Role::Item).empty() ||
            !FillsOf(description, name).empty();
 }
 
@@ -120,28 +122,6 @@ bool JudgeKind(const Condition& condition)
                                                  : ", which has no value"),
                                   isOption ? "ask the group of the option" : "name a field, a list, a box or a group");
     return true;
-}
-
-void JudgeValues(const Condition& condition)
-{
-    static const std::vector<std::string> words = {"NULL", "NOTNULL"};
-    const std::optional<std::vector<std::string>> possible =
-        PossibleValues(condition.judged.description, condition.Name());
-    for (const std::string& value : ValuesAskedBy(condition.list))
-    {
-        std::string letters = value;
-        std::erase(letters, ' ');
-        const std::string meant = MeantWord(letters, words);
-        const bool isWord = meant.size() == letters.size() && meant != value;
-        const bool isForeign = possible && !possible->empty() && std::ranges::find(*possible, value) == possible->end();
-        if (value.empty() || value == words[1] || (!isWord && !isForeign))
-            continue;
-        condition.judged.findings.Add(neverHeld, condition.PlaceOf(value),
-                                      isForeign ? InQuotes(condition.Name()) + " never has the value " + InQuotes(value)
-                                                : InQuotes(value) + " is taken for a value",
-                                      isWord ? "did you mean " + InQuotes(meant) + "?"
-                                             : MeantOr(value, *possible, "use one of its values"));
-    }
 }
 
 void JudgeNotNull(const Condition& condition)
@@ -179,7 +159,7 @@ void JudgeCondition(const Condition& condition)
         return;
     if (condition.rule.IsEventRule() || condition.rule.stateWord.GetMeaning() == ClytState::DefButton)
         return;
-    JudgeValues(condition);
+    JudgeValues(condition.judged, neverHeld, condition.list, ValueWords::NullAndNotNull);
     JudgeNotNull(condition);
     JudgeAlways(condition);
     JudgeFocus(condition);
@@ -188,7 +168,7 @@ void JudgeCondition(const Condition& condition)
 void JudgeReached(const Case& judged, const ClytControlDep& rule)
 {
     bool isDecided = false;
-    for (const ClytCtrlValList* condition : RecordsOf(rule.conditions))
+    for (const ClytCtrlValList* condition : Records(rule.conditions))
     {
         if (isDecided)
             judged.findings.Add(notReached, condition->GetSpan(),
@@ -205,9 +185,9 @@ Family ConditionRules()
     return {{&unknown, &neverHeld, &noValue, &alwaysHeld, &notLast, &notReached, &movesFocus},
             [](const Case& judged)
             {
-                for (const ClytControlDep* rule : RecordsOf(judged.description.rules))
+                for (const ClytControlDep* rule : Records(judged.description.rules))
                 {
-                    for (const ClytCtrlValList* condition : RecordsOf(rule->conditions))
+                    for (const ClytCtrlValList* condition : Records(rule->conditions))
                         JudgeCondition({judged, *rule, *condition,
                                         KindOfControl(judged.description, condition->GetName().GetString())});
                     if (!rule->IsEventRule() && rule->stateWord.GetMeaning() != ClytState::DefButton)

@@ -1,8 +1,9 @@
 #include "lytdlg/judge/Conditions.h"
 
-#include "lytdlg/judge/Controls.h"
+#include "lytdlg/judge/ControlValues.h"
 #include "lytdlg/judge/Lists.h"
 
+#include <algorithm>
 #include <cctype>
 
 namespace lytdlg
@@ -11,7 +12,9 @@ namespace lytdlg
 namespace
 {
 
-std::string Listed(const std::set<std::string>& values)
+using Values = std::set<std::string>;
+
+std::string Listed(const Values& values)
 {
     std::string list;
     for (const std::string& value : values)
@@ -22,49 +25,93 @@ std::string Listed(const std::set<std::string>& values)
     return list.empty() ? "its only value is empty" : "its values are " + list;
 }
 
-std::string HintForValue(const std::string& value, const std::set<std::string>& possible)
+std::string HintForValue(const std::string& value, const Values& possible)
 {
     return MeantOr(value, {possible.begin(), possible.end()}, Listed(possible));
 }
 
-// NULL or NOTNULL, when a value is one of them in other letters or with blanks in it; empty otherwise.
+// NULL or NOTNULL, when a value is one of them, also in other letters, with blanks in it, or misspelt in capitals.
 std::string MeantValueWord(const std::string& value)
 {
-    std::string letters;
-    for (const char ch : value)
-    {
-        if (ch != ' ')
-            letters += static_cast<char>(std::toupper(static_cast<unsigned char>(ch)));
-    }
-    const bool isWord = letters == lytTextOf(ClytValueWord::Null) || letters == lytTextOf(ClytValueWord::NotNull);
-    return isWord && letters != value ? letters : "";
+    static const std::vector<std::string> words = {lytTextOf(ClytValueWord::Null), lytTextOf(ClytValueWord::NotNull)};
+    std::string letters = value;
+    std::erase(letters, ' ');
+    const std::string meant = MeantWord(letters, words);
+    const bool isInCapitals = std::ranges::none_of(letters, [](unsigned char ch) { return std::islower(ch) != 0; });
+    const bool isMisspelt = isInCapitals && letters.starts_with(words[0][0]);
+    return isMisspelt || IsSameName(letters, meant) ? meant : "";
+}
+
+bool IsKnown(const std::string& word, ValueWords known)
+{
+    return known == ValueWords::NullAndNotNull ||
+           (known == ValueWords::Null && lytMeans<ClytValueWord::Null>(word.c_str()));
+}
+
+void JudgeValueWord(const Case& judged, const Rule& rule, const std::string& value, const std::string& meant,
+                    const ClytSpan& place, ValueWords known)
+{
+    if (!IsKnown(meant, known))
+        judged.findings.Add(rule, place, InQuotes(value) + " has no meaning here: the value would have to be this word",
+                            lytMeans<ClytValueWord::Null>(meant.c_str())
+                                ? "write \"\" for an empty value"
+                                : "NOTNULL works in $DEPENDANCES only; name the values, or turn the rule round");
+    else if (value != meant)
+        judged.findings.Add(rule, place, InQuotes(value) + " is taken for a value",
+                            "did you mean " + InQuotes(meant) + "?");
 }
 
 } // namespace
 
-void JudgeValues(const Case& judged, const Rule& rule, const ClytCtrlValList& condition, NullMeans null)
+bool AsksForContent(const ClytCtrlValList& condition)
+{
+    return !condition.GetValues().IsEmpty() && lytMeans<ClytValueWord::NotNull>(condition.GetValues().GetTail());
+}
+
+std::vector<std::string> ValuesAskedBy(const ClytCtrlValList& condition)
+{
+    std::vector<std::string> values = Strings(condition.GetValues());
+    std::ranges::replace(values, std::string(lytTextOf(ClytValueWord::Null)), std::string());
+    if (AsksForContent(condition))
+        values.pop_back();
+    return values;
+}
+
+bool ExcludeEachOther(const ClytCtrlValList& left, const ClytCtrlValList& right)
+{
+    if (left.GetName() != right.GetName() || left.GetValues().IsEmpty() || right.GetValues().IsEmpty())
+        return false;
+    const std::vector<std::string> leftValues = ValuesAskedBy(left);
+    const std::vector<std::string> rightValues = ValuesAskedBy(right);
+    const bool isLeftOpen = AsksForContent(left);
+    const bool isRightOpen = AsksForContent(right);
+    if (isLeftOpen || isRightOpen)
+    {
+        const std::vector<std::string>& closed = isLeftOpen ? rightValues : leftValues;
+        return isLeftOpen != isRightOpen && std::ranges::all_of(closed, &std::string::empty);
+    }
+    return std::ranges::none_of(leftValues, [&](const std::string& value)
+                                { return std::ranges::find(rightValues, value) != rightValues.end(); });
+}
+
+void JudgeValues(const Case& judged, const Rule& rule, const ClytCtrlValList& condition, ValueWords known)
 {
     const Description& description = judged.description;
-    const ClytControlStatement* control = description.FindControl(condition.GetName().GetString());
+    const std::string name = condition.GetName().GetString();
+    const ClytControlStatement* control = description.FindControl(name);
     if (control == nullptr)
         return;
-    const auto possible = PossibleValues(description, *control);
-    const ClytSpan& name = condition.GetSpan();
+    const std::optional<Values> possible = PossibleValues(description, *control);
+    const ClytSpan& span = condition.GetSpan();
     for (const std::string& value : Strings(condition.GetValues()))
     {
-        const bool isNull = lytMeans<ClytValueWord::Null>(value.c_str());
-        const ClytSpan place = description.PlaceOf(name.line, value, name.column + name.length);
-        if (lytMeans<ClytValueWord::NotNull>(value.c_str()) || (isNull && null == NullMeans::ItsLetters))
-            judged.findings.Add(rule, place,
-                                InQuotes(value) + " has no meaning here: the value would have to be this word",
-                                isNull ? "write \"\" for an empty value"
-                                       : "NOTNULL works in $DEPENDANCES only; name the values, or turn the rule round");
-        else if (const std::string meant = MeantValueWord(value); !meant.empty())
-            judged.findings.Add(rule, place, InQuotes(value) + " is taken for a value",
-                                "did you mean " + InQuotes(meant) + "?");
-        else if (possible && !value.empty() && !isNull && !possible->contains(value))
-            judged.findings.Add(rule, place,
-                                InQuotes(condition.GetName().GetString()) + " never has the value " + InQuotes(value),
+        const ClytSpan place = description.PlaceOf(span.line, value, span.column + span.length);
+        const std::string meant = MeantValueWord(value);
+        const bool isValue = possible && possible->contains(value);
+        if (!meant.empty() && (!isValue || meant == value))
+            JudgeValueWord(judged, rule, value, meant, place, known);
+        else if (possible && !isValue && !value.empty())
+            judged.findings.Add(rule, place, InQuotes(name) + " never has the value " + InQuotes(value),
                                 HintForValue(value, *possible));
     }
 }

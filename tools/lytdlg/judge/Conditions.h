@@ -1,4 +1,4 @@
-// What is wrong with a condition, whatever rule it belongs to.
+// Conditions, whatever rule they belong to: what they ask, and what is wrong with them.
 #pragma once
 
 #include "lytdlg/judge/Judge.h"
@@ -6,15 +6,24 @@
 namespace lytdlg
 {
 
-// Whether NULL stands for an empty value in a condition.
-enum class NullMeans
+// Whether the last value is NOTNULL, which decides alone.
+bool AsksForContent(const ClytCtrlValList& condition);
+// The values in brackets, with an empty text for NULL, and without a NOTNULL at the end.
+std::vector<std::string> ValuesAskedBy(const ClytCtrlValList& condition);
+// Whether no value of a control satisfies both. What two conditions of one control have in common can be empty only when
+// both name their values.
+bool ExcludeEachOther(const ClytCtrlValList& left, const ClytCtrlValList& right);
+
+// Which words for a value mean something in the conditions of a section.
+enum class ValueWords
 {
-    Empty,
-    ItsLetters
+    NullAndNotNull,
+    Null,
+    None
 };
 
 // Tells of the values that the control of a condition can never have.
-void JudgeValues(const Case& judged, const Rule& rule, const ClytCtrlValList& condition, NullMeans null);
+void JudgeValues(const Case& judged, const Rule& rule, const ClytCtrlValList& condition, ValueWords known);
 // Tells of a control whose value does not change with what the user does. The place is that of its name.
 void JudgeReadControl(const Case& judged, const Rule& rule, const std::string& name, const ClytSpan& place);
 

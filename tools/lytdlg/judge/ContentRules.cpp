@@ -85,7 +85,7 @@ void JudgeItems(const Case& judged)
         const std::vector<std::string> languages = judged.surroundings.texts.Languages();
         const auto isKey = [&](const std::string& language)
         { return judged.surroundings.texts.Has(language, section, value.values.front()); };
-        if (MovesFocusWhenRead(statement.kind) && std::ranges::any_of(languages, isKey))
+        if (IsOpenList(statement.kind) && std::ranges::any_of(languages, isKey))
             judged.findings.Add(itemIsKey, statement.PlaceOfValue(),
                                 InQuotes(value.values.front()) + " is also a key of the section [" + section + "]",
                                 "give the item a value that is no key");
@@ -95,14 +95,14 @@ void JudgeItems(const Case& judged)
 void JudgeOptions(const Case& judged, const std::string& group)
 {
     std::map<std::string, int> lines;
-    for (const std::string& option : OptionsOf(judged.description, group))
+    for (const ClytControlStatement* option : OptionButtonsOf(judged.description, group))
     {
-        const std::vector<const ValueStatement*> values = StatementsOf(judged.description, option, Role::OptionValue);
-        if (values.empty())
+        const ValueStatement* own = LastStatementOf(judged.description, option->name.GetString(), Role::OptionValue);
+        if (own == nullptr)
             continue;
-        const auto [first, isNew] = lines.emplace(values.back()->values.front(), values.back()->span.line);
+        const auto [first, isNew] = lines.emplace(own->values.front(), own->span.line);
         if (!isNew)
-            judged.findings.Add(optionTwice, PlacedValue(judged, *values.back()).PlaceOfValue(),
+            judged.findings.Add(optionTwice, PlacedValue(judged, *own).PlaceOfValue(),
                                 "the option of line " + std::to_string(first->second) + " has the same value",
                                 "give each option a value of its own");
     }
@@ -114,9 +114,9 @@ void JudgeGroupDefault(const PlacedValue& statement)
     const std::string& begin = statement.value.values.front();
     std::vector<std::string> values;
     const ValueStatement* own = nullptr;
-    for (const std::string& option : OptionsOf(description, statement.value.name))
+    for (const ClytControlStatement* option : OptionButtonsOf(description, statement.value.name))
     {
-        for (const ValueStatement* value : StatementsOf(description, option, Role::OptionValue))
+        for (const ValueStatement* value : StatementsOf(description, option->name.GetString(), Role::OptionValue))
         {
             values.push_back(value->values.front());
             own = value->values.front() == begin ? value : own;
@@ -136,16 +136,11 @@ void JudgeGroupDefault(const PlacedValue& statement)
 void JudgeCheckBox(const Case& judged, const std::string& name)
 {
     const Description& description = judged.description;
-    const auto last = [&](Role role)
-    {
-        const std::vector<const ValueStatement*> statements = StatementsOf(description, name, role);
-        return statements.empty() ? nullptr : statements.back();
-    };
     const auto textOf = [](const ValueStatement* value)
     { return value != nullptr ? value->values.front() : std::string(); };
-    const ValueStatement* begin = last(Role::Default);
-    const ValueStatement* on = last(Role::On);
-    const ValueStatement* off = last(Role::Off);
+    const ValueStatement* begin = LastStatementOf(description, name, Role::Default);
+    const ValueStatement* on = LastStatementOf(description, name, Role::On);
+    const ValueStatement* off = LastStatementOf(description, name, Role::Off);
     const std::string text = textOf(begin);
     if (begin != nullptr && !text.empty() && text != textOf(on) && text != textOf(off))
     {
@@ -198,7 +193,7 @@ Family ContentRules()
                 JudgeCheckBoxes(judged);
                 for (const ClytControlStatement& control : judged.description.controls)
                 {
-                    if (KindOf(control.type.GetString()) == Kind::OptionGroup)
+                    if (KindOf(control) == Kind::OptionGroup)
                         JudgeOptions(judged, control.name.GetString());
                 }
                 for (const ValueStatement& value : judged.description.values)

@@ -71,7 +71,7 @@ bool HasItems(Kind kind)
     return IsOneOf(kind, {Kind::List, Kind::CheckList, Kind::DropList, Kind::Combo});
 }
 
-bool MovesFocusWhenRead(Kind kind)
+bool IsOpenList(Kind kind)
 {
     return IsOneOf(kind, {Kind::List, Kind::CheckList});
 }

@@ -34,8 +34,8 @@ const char* NameOf(Kind kind);
 bool IsDefault(Kind kind);
 // A list of any sort.
 bool HasItems(Kind kind);
-// A list that can be without a choice, and moves the focus when it is asked for its value then.
-bool MovesFocusWhenRead(Kind kind);
+// A list that stands open. It can be without a choice, and moves the focus when it is asked for its value then.
+bool IsOpenList(Kind kind);
 bool HasValue(Kind kind);
 // A statement FILLEDBY gives it contents.
 bool IsFilledByLibrary(Kind kind);

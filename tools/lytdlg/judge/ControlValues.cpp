@@ -1,8 +1,7 @@
 #include "lytdlg/judge/ControlValues.h"
 
-#include "lytdlg/judge/Controls.h"
+#include "lytdlg/judge/Fills.h"
 #include "lytdlg/judge/Lists.h"
-#include "model/ClytWords.h"
 
 #include <algorithm>
 
@@ -12,38 +11,75 @@ namespace lytdlg
 namespace
 {
 
-bool Means(ClytKeyword meaning, const std::string& word)
+ClytOption OptionOf(const ValueStatement& statement)
 {
-    return word == lytTextOf(meaning);
+    return lytMeaningOf<ClytOption>(statement.values.front().c_str());
+}
+
+ClytAction ActionOf(const ValueStatement& statement)
+{
+    return lytMeaningOf<ClytAction>(statement.keyword.c_str());
+}
+
+Role RoleOfCheckBox(ClytKeyword keyword)
+{
+    return keyword == ClytKeyword::On ? Role::On : keyword == ClytKeyword::Off ? Role::Off : Role::Default;
+}
+
+Role RoleOfList(ClytKeyword keyword, bool isOpen)
+{
+    if (keyword == ClytKeyword::FilledBy)
+        return Role::Source;
+    return keyword == ClytKeyword::DoubleClick && isOpen ? Role::DoubleClick : Role::Item;
+}
+
+// The first value of the last statement of a role.
+std::string LastText(const Description& description, const std::string& name, Role role)
+{
+    const ValueStatement* statement = LastStatementOf(description, name, role);
+    return statement != nullptr ? statement->values.front() : "";
+}
+
+std::set<std::string> OptionValues(const Description& description, const std::string& group)
+{
+    std::set<std::string> values;
+    for (const ClytControlStatement* option : OptionButtonsOf(description, group))
+        values.insert(LastText(description, option->name.GetString(), Role::OptionValue));
+    return values;
+}
+
+std::optional<std::set<std::string>> ItemValues(const Description& description, const std::string& name)
+{
+    if (GetsItems(description, name))
+        return {};
+    std::set<std::string> values;
+    for (const ValueStatement* item : StatementsOf(description, name, Role::Item))
+        values.insert(item->values.front());
+    return values;
 }
 
 } // namespace
 
 Role RoleOf(Kind kind, const ValueStatement& statement)
 {
-    const bool isOption = IsOptionWord(statement.values.front());
-    const bool isSource = Means(ClytKeyword::FilledBy, statement.keyword);
+    const auto keyword = lytMeaningOf<ClytKeyword>(statement.keyword.c_str());
+    // A field asks for FILLEDBY first, any other control for the option words.
+    if (kind == Kind::Field && keyword == ClytKeyword::FilledBy)
+        return Role::Source;
+    const bool takesNothing = kind == Kind::Unknown || IsDefault(kind);
+    if (!takesNothing && OptionOf(statement) != ClytOption::Other)
+        return Role::Option;
     switch (kind)
     {
-    case Kind::Field: return isSource ? Role::Source : isOption ? Role::Option : Role::Default;
+    case Kind::Field:
+    case Kind::OptionGroup: return Role::Default;
     case Kind::List:
     case Kind::CheckList:
-        if (!isOption && Means(ClytKeyword::DoubleClick, statement.keyword))
-            return Role::DoubleClick;
-        [[fallthrough]];
     case Kind::DropList:
-    case Kind::Combo: return isOption ? Role::Option : isSource ? Role::Source : Role::Item;
-    case Kind::CheckBox:
-        if (isOption)
-            return Role::Option;
-        return Means(ClytKeyword::On, statement.keyword)    ? Role::On
-               : Means(ClytKeyword::Off, statement.keyword) ? Role::Off
-                                                            : Role::Default;
-    case Kind::OptionGroup: return isOption ? Role::Option : Role::Default;
-    case Kind::Option: return isOption ? Role::Option : Role::OptionValue;
-    case Kind::Button: return isOption ? Role::Option : Role::Action;
-    case Kind::Text:
-    case Kind::Frame: return isOption ? Role::Option : Role::Nothing;
+    case Kind::Combo: return RoleOfList(keyword, IsOpenList(kind));
+    case Kind::CheckBox: return RoleOfCheckBox(keyword);
+    case Kind::Option: return Role::OptionValue;
+    case Kind::Button: return Role::Action;
     default: return Role::Nothing;
     }
 }
@@ -53,31 +89,31 @@ Role RoleOf(const Description& description, const ValueStatement& statement)
     return RoleOf(KindOfControl(description, statement.name), statement);
 }
 
-const std::vector<std::string>& OptionWords()
+bool HasOption(const Description& description, const std::string& name, ClytOption option)
 {
-    static const std::vector<std::string> words = []
+    return std::ranges::any_of(StatementsOf(description, name, Role::Option),
+                               [&](const ValueStatement* statement) { return OptionOf(*statement) == option; });
+}
+
+bool MayBeHidden(const Description& description, const ClytControlStatement& control)
+{
+    const ClytControlStatement* group = KindOf(control) == Kind::Option ? GroupOf(description, control) : nullptr;
+    const CString& name = group != nullptr ? group->name : control.name;
+    if (name.IsEmpty())
+        return false;
+    const auto hides = [&](const ClytControlDep* rule)
     {
-        std::vector<std::string> all;
-        for (const auto& word : ClytWordTable<ClytOption>::words)
-            all.emplace_back(word.text);
-        return all;
-    }();
-    return words;
-}
-
-bool IsOptionWord(const std::string& word)
-{
-    return std::ranges::find(OptionWords(), word) != OptionWords().end();
-}
-
-bool HasOption(const Description& description, const std::string& name, const std::string& word)
-{
-    return std::ranges::any_of(description.values,
-                               [&](const ValueStatement& statement)
-                               {
-                                   return statement.name == name && statement.values.front() == word &&
-                                          RoleOf(description, statement) == Role::Option;
-                               });
+        const ClytState meaning = rule->stateWord.GetMeaning();
+        return rule->controlName == name && (meaning == ClytState::Visible || meaning == ClytState::Other);
+    };
+    const auto toggles = [&](const ValueStatement& statement)
+    {
+        return ActionOf(statement) == ClytAction::Visible && statement.values.front() == name.GetString() &&
+               RoleOf(description, statement) == Role::Action;
+    };
+    return HasOption(description, name.GetString(), ClytOption::Invisible) ||
+           HasOption(description, name.GetString(), ClytOption::Hidden) ||
+           std::ranges::any_of(Records(description.rules), hides) || std::ranges::any_of(description.values, toggles);
 }
 
 std::vector<const ValueStatement*> StatementsOf(const Description& description, const std::string& name, Role role)
@@ -92,75 +128,37 @@ std::vector<const ValueStatement*> StatementsOf(const Description& description, 
     return found;
 }
 
-std::vector<std::string> OptionsOf(const Description& description, const std::string& group)
+const ValueStatement* LastStatementOf(const Description& description, const std::string& name, Role role)
 {
-    std::vector<std::string> options;
-    for (const ClytControlStatement* option : OptionButtonsOf(description, group))
-        options.emplace_back(option->name.GetString());
-    return options;
+    const std::vector<const ValueStatement*> statements = StatementsOf(description, name, role);
+    return statements.empty() ? nullptr : statements.back();
 }
 
-std::vector<const ClytControlFill*> FillsOf(const Description& description, const std::string& name)
+bool GetsItems(const Description& description, const std::string& name)
 {
-    std::vector<const ClytControlFill*> found;
-    for (const InputPart& input : description.inputs)
+    const auto isAdded = [&](const ValueStatement& statement)
     {
-        for (const ClytDialogInput* statement : Records(input.part.GetStatements()))
-        {
-            for (const ClytConditionFill* rule : Records(statement->scanRule.rules))
-            {
-                for (const ClytControlFill* fill : Records(rule->fills))
-                {
-                    if (fill->controlName == name.c_str())
-                        found.push_back(fill);
-                }
-            }
-        }
-    }
-    return found;
-}
-
-bool TakesItems(const Description& description, const std::string& name)
-{
-    const bool fromButton = std::ranges::any_of(description.values,
-                                                [&](const ValueStatement& statement)
-                                                {
-                                                    return statement.keyword == lytTextOf(ClytAction::Add) &&
-                                                           statement.values.back() == name &&
-                                                           RoleOf(description, statement) == Role::Action;
-                                                });
-    return fromButton || !StatementsOf(description, name, Role::Source).empty() ||
+        return ActionOf(statement) == ClytAction::Add && statement.values.back() == name &&
+               RoleOf(description, statement) == Role::Action;
+    };
+    return LastStatementOf(description, name, Role::Source) != nullptr ||
+           std::ranges::any_of(description.values, isAdded) ||
            std::ranges::any_of(FillsOf(description, name),
                                [](const ClytControlFill* fill) { return AddsItems(*fill); });
 }
 
-std::optional<std::vector<std::string>> PossibleValues(const Description& description, const std::string& name)
+std::optional<std::set<std::string>> PossibleValues(const Description& description, const ClytControlStatement& control)
 {
-    const Kind kind = KindOfControl(description, name);
-    std::vector<std::string> values;
-    const auto add = [&](const std::string& control, Role role)
+    const std::string name = control.name.GetString();
+    switch (KindOf(control))
     {
-        for (const ValueStatement* statement : StatementsOf(description, control, role))
-            values.push_back(statement->values.front());
-    };
-    switch (kind)
-    {
-    case Kind::CheckBox:
-        add(name, Role::On);
-        add(name, Role::Off);
-        return values;
-    case Kind::OptionGroup:
-        for (const std::string& option : OptionsOf(description, name))
-            add(option, Role::OptionValue);
-        return values;
-    case Kind::List:
-    case Kind::CheckList:
+    case Kind::CheckBox: return std::set{LastText(description, name, Role::On), LastText(description, name, Role::Off)};
+    case Kind::OptionGroup: return OptionValues(description, name);
+    case Kind::Option: return std::set{LastText(description, name, Role::OptionValue)};
     case Kind::DropList:
-        if (TakesItems(description, name))
-            return std::nullopt;
-        add(name, Role::Item);
-        return values;
-    default: return std::nullopt;
+    case Kind::List:
+    case Kind::CheckList: return ItemValues(description, name);
+    default: return {};
     }
 }
 

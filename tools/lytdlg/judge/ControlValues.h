@@ -1,9 +1,11 @@
 // What the statements of $VALUES make of a control, and the values that it may come to hold.
 #pragma once
 
-#include "lytdlg/judge/Names.h"
+#include "lytdlg/judge/Controls.h"
+#include "model/ClytWords.h"
 
 #include <optional>
+#include <set>
 
 namespace lytdlg
 {
@@ -27,20 +29,19 @@ Role RoleOf(Kind kind, const ValueStatement& statement);
 // For the last control of the statement's name.
 Role RoleOf(const Description& description, const ValueStatement& statement);
 
-// HIDDEN and its like.
-const std::vector<std::string>& OptionWords();
-bool IsOptionWord(const std::string& word);
-bool HasOption(const Description& description, const std::string& name, const std::string& word);
+bool HasOption(const Description& description, const std::string& name, ClytOption option);
+// Whether a rule, a button or an option may hide the control, or the group of an option.
+bool MayBeHidden(const Description& description, const ClytControlStatement& control);
 
 // The statements of a control that have a role, in their order.
 std::vector<const ValueStatement*> StatementsOf(const Description& description, const std::string& name, Role role);
-// The options of a group, in their order.
-std::vector<std::string> OptionsOf(const Description& description, const std::string& group);
-// The fills of all input parts that reach a control. They live as long as the description.
-std::vector<const ClytControlFill*> FillsOf(const Description& description, const std::string& name);
-// True when a library, a button or the input puts items into a list.
-bool TakesItems(const Description& description, const std::string& name);
-// All values that a control can hold; nothing when it may hold any, or none at all.
-std::optional<std::vector<std::string>> PossibleValues(const Description& description, const std::string& name);
+// The last of them, which is the one that counts where a control has but one; null without any.
+const ValueStatement* LastStatementOf(const Description& description, const std::string& name, Role role);
+
+// Whether a list gets items from elsewhere than $VALUES: a library, a button or the input.
+bool GetsItems(const Description& description, const std::string& name);
+// The values that the control can have; nothing when it can have any. A text that was never given is empty.
+std::optional<std::set<std::string>> PossibleValues(const Description& description,
+                                                    const ClytControlStatement& control);
 
 } // namespace lytdlg

@@ -1,7 +1,8 @@
 #include "lytdlg/judge/DependencyRules.h"
 
-#include "lytdlg/judge/ConditionText.h"
+#include "lytdlg/judge/Conditions.h"
 #include "lytdlg/judge/ControlValues.h"
+#include "lytdlg/judge/Lists.h"
 
 #include <algorithm>
 #include <map>
@@ -132,14 +133,6 @@ struct Judged
     }
 };
 
-std::vector<std::string> StateWords()
-{
-    std::vector<std::string> all;
-    for (const auto& word : ClytWordTable<ClytState>::words)
-        all.emplace_back(word.text);
-    return all;
-}
-
 void JudgeControl(const Judged& each)
 {
     const std::string carried =
@@ -156,7 +149,7 @@ void JudgeWord(const Judged& each)
     if (each.rule.stateWord.GetMeaning() == ClytState::Other)
         each.Add(unknownState, each.PlaceOfWord(),
                  InQuotes(word) + " is no state; the rule shows and hides the control",
-                 MeantOr(word, StateWords(), "use VISIBLE, ACTIVE, CLEAR, FILL or DEFBUTTON"));
+                 MeantOr(word, WordsOf<ClytState>(), "use VISIBLE, ACTIVE, CLEAR, FILL or DEFBUTTON"));
     if (IsDefault(each.kind) && IsStateRule(each.rule))
         each.Add(onDefault, each.PlaceOfName(),
                  std::string(NameOf(each.kind)) + " has no states; the rule does nothing",
@@ -164,7 +157,7 @@ void JudgeWord(const Judged& each)
     if (each.rule.stateWord.GetMeaning() == ClytState::DefButton && each.kind != Kind::Button)
         each.Add(defaultButton, each.PlaceOfName(),
                  InQuotes(each.Name()) + " is " + NameOf(each.kind) + " and cannot be pressed", "name a push button");
-    if (each.rule.stateWord.GetMeaning() == ClytState::Visible && HasOption(each.Of(), each.Name(), "HIDDEN"))
+    if (each.rule.stateWord.GetMeaning() == ClytState::Visible && HasOption(each.Of(), each.Name(), ClytOption::Hidden))
         each.Add(hidden, each.PlaceOfName(), InQuotes(each.Name()) + " is HIDDEN, and this rule shows it",
                  "make it INVISIBLE in $VALUES, or delete the rule");
 }
@@ -179,10 +172,10 @@ void JudgeEvent(const Judged& each)
                  InQuotes(each.Name()) + " is " + NameOf(each.kind) + " and does not know " + word,
                  "use it for fields and lists");
     else if (each.rule.stateWord.GetMeaning() == ClytState::Fill &&
-             StatementsOf(each.Of(), each.Name(), Role::Source).empty())
+             LastStatementOf(each.Of(), each.Name(), Role::Source) == nullptr)
         each.Add(noSource, each.PlaceOfWord(), "no statement FILLEDBY says what fills " + InQuotes(each.Name()),
                  "add " + InQuotes(each.Name() + " = FILLEDBY, LIBRARY, FUNCTION, NEXT") + " to $VALUES");
-    for (const ClytCtrlValList* condition : RecordsOf(each.rule.conditions))
+    for (const ClytCtrlValList* condition : Records(each.rule.conditions))
     {
         if (!condition->GetValues().IsEmpty())
             each.Add(eventValues, condition->GetSpan(), word + " does not look at the values in brackets",
@@ -192,7 +185,7 @@ void JudgeEvent(const Judged& each)
 
 void JudgeNever(const Judged& each)
 {
-    const std::vector<const ClytCtrlValList*> conditions = RecordsOf(each.rule.conditions);
+    const std::vector<const ClytCtrlValList*> conditions = Records(each.rule.conditions);
     if (conditions.empty() && !IsStateRule(each.rule))
     {
         each.Add(never, each.PlaceOfWord(), "no control is named; the rule never acts",
@@ -216,7 +209,7 @@ void JudgeNever(const Judged& each)
 
 void JudgeSelf(const Judged& each)
 {
-    for (const ClytCtrlValList* condition : RecordsOf(each.rule.conditions))
+    for (const ClytCtrlValList* condition : Records(each.rule.conditions))
     {
         const ClytState meaning = each.rule.stateWord.GetMeaning();
         const bool isHarmful = meaning == ClytState::Active || each.rule.IsEventRule();
@@ -229,7 +222,7 @@ void JudgeSelf(const Judged& each)
 void JudgeTwice(const Case& judged)
 {
     std::map<std::pair<std::string, ClytState>, const ClytControlDep*> last;
-    for (const ClytControlDep* rule : RecordsOf(judged.description.rules))
+    for (const ClytControlDep* rule : Records(judged.description.rules))
     {
         const ClytState meaning = rule->stateWord.GetMeaning();
         if (meaning != ClytState::Visible && meaning != ClytState::Active)
@@ -252,7 +245,7 @@ Family DependencyRules()
              &hidden, &onItself, &never},
             [](const Case& judged)
             {
-                const std::vector<const ClytControlDep*> rules = RecordsOf(judged.description.rules);
+                const std::vector<const ClytControlDep*> rules = Records(judged.description.rules);
                 for (size_t index = 0; index < rules.size(); ++index)
                 {
                     const ClytControlDep& rule = *rules[index];

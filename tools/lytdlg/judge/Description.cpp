@@ -6,6 +6,7 @@
 #include "lytdlg/judge/SectionReader.h"
 
 #include <algorithm>
+#include <cctype>
 
 namespace lytdlg
 {
@@ -46,6 +47,26 @@ ClytControlStatement RefusedControl(const DescriptionText& text, int line)
     return statement;
 }
 
+bool IsWholeWord(const std::string& line, size_t place, size_t size)
+{
+    const auto isLetter = [&](size_t index)
+    { return index < line.size() && std::isalnum(static_cast<unsigned char>(line[index])) != 0; };
+    return !(place > 0 && isLetter(place - 1) && isLetter(place)) &&
+           !(isLetter(place + size) && isLetter(place + size - 1));
+}
+
+// Where a word stands, if need be as a part of another one; npos when it does not stand there.
+size_t PlaceInLine(const std::string& line, const std::string& word, size_t from)
+{
+    const size_t first = word.empty() ? std::string::npos : line.find(word, from);
+    for (size_t place = first; place != std::string::npos; place = line.find(word, place + 1))
+    {
+        if (IsWholeWord(line, place, word.size()))
+            return place;
+    }
+    return first;
+}
+
 // A line that was meant to begin the dialog.
 bool IsDialogLine(const DescriptionText& text, int line)
 {
@@ -81,8 +102,8 @@ bool Description::IsRefused(int line) const
 
 ClytSpan Description::PlaceOf(int line, const std::string& word, int fromColumn) const
 {
-    const size_t column = text.Line(line).text.find(word, static_cast<size_t>(fromColumn));
-    if (word.empty() || column == std::string::npos)
+    const size_t column = PlaceInLine(text.Line(line).text, word, static_cast<size_t>(fromColumn));
+    if (column == std::string::npos)
         return PlaceOf(line);
     return {line, static_cast<int>(column), static_cast<int>(word.size())};
 }

@@ -177,7 +177,7 @@ void JudgeConditions(const Case& judged, const EvaluationStatement& statement)
     {
         if (list->GetName().IsEmpty())
             continue;
-        JudgeValues(judged, impossible, *list, NullMeans::Empty);
+        JudgeValues(judged, impossible, *list, ValueWords::Null);
         JudgeReadControl(judged, valueless, list->GetName().GetString(), list->GetSpan());
     }
 }

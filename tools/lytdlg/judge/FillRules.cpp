@@ -1,7 +1,8 @@
 #include "lytdlg/judge/FillRules.h"
 
 #include "lytdlg/judge/Conditions.h"
-#include "lytdlg/judge/Controls.h"
+#include "lytdlg/judge/ControlValues.h"
+#include "lytdlg/judge/Fills.h"
 #include "lytdlg/judge/Lists.h"
 
 #include <algorithm>
@@ -124,14 +125,6 @@ bool TakesAction(Kind kind, ClytFillAction word)
     }
 }
 
-std::vector<std::string> ActionWords()
-{
-    std::vector<std::string> words;
-    for (const auto& word : ClytWordTable<ClytFillAction>::words)
-        words.emplace_back(word.text);
-    return words;
-}
-
 void JudgeAction(const Case& judged, const ClytControlFill& fill, Kind kind)
 {
     const Description& description = judged.description;
@@ -141,7 +134,7 @@ void JudgeAction(const Case& judged, const ClytControlFill& fill, Kind kind)
     if (fill.action.GetMeaning() == ClytFillAction::Other && !word.empty())
         judged.findings.Add(action, place,
                             InQuotes(word) + " is no action: the piece becomes the value of " + InQuotes(name),
-                            MeantOr(word, ActionWords(), "the actions are FILL, ADD, MODIFY and CONCAT"));
+                            MeantOr(word, WordsOf<ClytFillAction>(), "the actions are FILL, ADD, MODIFY and CONCAT"));
     else if (!TakesAction(kind, fill.action.GetMeaning()))
     {
         const std::string type = description.FindControl(name)->type.GetString();
@@ -158,7 +151,7 @@ void JudgeAction(const Case& judged, const ClytControlFill& fill, Kind kind)
         judged.findings.Add(concatSeparators, place, "with more than two characters after it, CONCAT adds nothing",
                             "name one or two separators");
     if (fill.action.GetMeaning() == ClytFillAction::Fill && TakesAction(kind, ClytFillAction::Fill) &&
-        SourceOf(description, name) == nullptr)
+        LastStatementOf(description, name, Role::Source) == nullptr)
         judged.findings
             .Add(noSource, fill.span, InQuotes(name) + " has no FILLEDBY statement to fill it by", "add one to $VALUES")
             .number = HasItems(kind) ? "251" : "";
@@ -170,7 +163,7 @@ void JudgeChoice(const Case& judged, const ClytControlFill& fill)
     const std::string name = fill.controlName.GetString();
     if (GetsItems(judged.description, name))
         return;
-    const std::vector<const ValueStatement*> items = ItemsOf(judged.description, name);
+    const std::vector<const ValueStatement*> items = StatementsOf(judged.description, name, Role::Item);
     const auto chosen = std::ranges::find_if(items, [&](const ValueStatement* item)
                                              { return fill.value == item->values.front().c_str(); });
     if (items.empty())
@@ -245,7 +238,7 @@ void JudgeConditions(const Case& judged, const ClytDialogInput& statement)
             judged.findings.Add(condition, asked->GetSpan(),
                                 "there is no control " + InQuotes(name) + ", and so it never holds",
                                 MeantOr(name, ControlNames(judged.description), "name a control of $LAYOUT"));
-        JudgeValues(judged, conditionValue, *asked, NullMeans::ItsLetters);
+        JudgeValues(judged, conditionValue, *asked, ValueWords::None);
         JudgeReadControl(judged, conditionValueless, name, asked->GetSpan());
     }
 }

@@ -3,9 +3,30 @@
 #include "lytdlg/text/TextFile.h"
 
 #include <algorithm>
+#include <tuple>
 
 namespace lytdlg
 {
+
+namespace
+{
+
+auto KeyOf(const ShownText& text)
+{
+    return std::tie(text.place.line, text.place.column, text.section, text.key, text.role);
+}
+
+bool IsBefore(const ShownText& left, const ShownText& right)
+{
+    return KeyOf(left) < KeyOf(right);
+}
+
+bool IsSame(const ShownText& left, const ShownText& right)
+{
+    return KeyOf(left) == KeyOf(right);
+}
+
+} // namespace
 
 DescriptionTexts TextsOf(std::string fileName, const std::string& bytes)
 {
@@ -27,6 +48,8 @@ DescriptionTexts TextsOf(std::string fileName, const std::string& bytes)
             texts.uses.push_back(std::move(use));
         }
     }
+    std::ranges::sort(texts.uses, IsBefore);
+    texts.uses.erase(std::unique(texts.uses.begin(), texts.uses.end(), IsSame), texts.uses.end());
     return texts;
 }
 
@@ -54,7 +77,11 @@ const std::vector<DescriptionTexts>& FolderTexts::All() const
     {
         m_all.emplace();
         for (const std::filesystem::path& file : Files())
-            m_all->push_back(TextsOf(file.filename().string(), ReadWholeFile(file).value_or("")));
+        {
+            const std::optional<std::string> bytes = ReadWholeFile(file);
+            m_all->push_back(TextsOf(file.filename().string(), bytes.value_or("")));
+            m_all->back().isRead = bytes.has_value();
+        }
     }
     return *m_all;
 }

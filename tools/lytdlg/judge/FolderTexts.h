@@ -11,12 +11,14 @@
 namespace lytdlg
 {
 
-// One description, with any of its defines and without.
+// One description, with any of its defines and without. A line depends on one define, and a statement on the line of its
+// control: together, alone and none are all the choices there are.
 struct DescriptionTexts
 {
     std::string fileName;
+    bool isRead = true; // false for a file that cannot be read
     std::set<std::string> sections;
-    std::vector<ShownText> uses; // without their controls
+    std::vector<ShownText> uses; // in the order of the file, without their controls
 };
 
 DescriptionTexts TextsOf(std::string fileName, const std::string& bytes);

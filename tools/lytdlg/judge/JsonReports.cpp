@@ -1,22 +1,14 @@
 #include "commandline/Text.h"
 #include "lytdlg/judge/Report.h"
+#include "lytdlg/text/Json.h"
 
-#include <cstdio>
-#include <nlohmann/json.hpp>
+#include <cctype>
 
 namespace lytdlg
 {
 
 namespace
 {
-
-using Json = nlohmann::ordered_json;
-
-// Bytes that are no text in UTF-8 do not end the report: a path may hold them.
-void Print(const Json& json)
-{
-    std::puts(json.dump(2, ' ', false, Json::error_handler_t::replace).c_str());
-}
 
 class JsonReport : public Report
 {
@@ -41,11 +33,11 @@ public:
 
     void End(const Counts& counts) override
     {
-        Print({{"descriptions", counts.files},
-               {"errors", counts.errors},
-               {"warnings", counts.warnings},
-               {"notes", counts.notes},
-               {"findings", m_findings}});
+        PrintJson({{"descriptions", counts.files},
+                   {"errors", counts.errors},
+                   {"warnings", counts.warnings},
+                   {"notes", counts.notes},
+                   {"findings", m_findings}});
     }
 
 private:
@@ -66,9 +58,9 @@ public:
     {
         const Json driver = {{"name", "lytdlg"}, {"rules", RulesOf()}};
         const Json run = {{"tool", {{"driver", driver}}}, {"columnKind", "unicodeCodePoints"}, {"results", m_results}};
-        Print({{"$schema", "https://json.schemastore.org/sarif-2.1.0.json"},
-               {"version", "2.1.0"},
-               {"runs", Json::array({run})}});
+        PrintJson({{"$schema", "https://json.schemastore.org/sarif-2.1.0.json"},
+                   {"version", "2.1.0"},
+                   {"runs", Json::array({run})}});
     }
 
 private:

@@ -2,8 +2,8 @@
 
 #include "base/Words.h"
 #include "commandline/Suggestion.h"
+#include "lytdlg/judge/ControlValues.h"
 #include "lytdlg/judge/LineTokens.h"
-#include "lytdlg/judge/Names.h"
 
 #include <algorithm>
 #include <cctype>
@@ -177,12 +177,6 @@ void JudgeNumber(const Statement& statement, const LineToken& word, const char* 
                                       "write a smaller number");
 }
 
-bool IsHidden(const Description& description, const std::string& name)
-{
-    return std::ranges::any_of(description.values, [&](const ValueStatement& value)
-                               { return value.name == name && value.values.front() == "HIDDEN"; });
-}
-
 void JudgeNumbers(const Statement& statement)
 {
     constexpr const char* names[] = {"left", "top", "width", "height"};
@@ -191,7 +185,8 @@ void JudgeNumbers(const Statement& statement)
         JudgeNumber(statement, statement.words[index + 1], names[index]);
     const ClytControlStatement& control = statement.control;
     const bool hasSize = control.width > 0 && control.height > 0;
-    if (hasSize || !HasSize(statement.kind) || IsHidden(statement.judged.description, control.name.GetString()))
+    if (hasSize || !HasSize(statement.kind) ||
+        HasOption(statement.judged.description, control.name.GetString(), ClytOption::Hidden))
         return;
     const bool isWord =
         hasNumbers &&
@@ -211,7 +206,7 @@ void JudgeStatements(const Case& judged)
     {
         const Statement statement = {judged, control,
                                      TokensOf(judged.description.text.Line(control.span.line).text, Section::Layout),
-                                     KindOf(control.type.GetString())};
+                                     KindOf(control)};
         // What goes over the limit of a line stands there as a control of its own.
         if (statement.words.empty() || statement.words[0].text != control.type.GetString())
             continue;
@@ -227,7 +222,7 @@ void JudgeNames(const Case& judged)
     for (const ClytControlStatement& control : judged.description.controls)
     {
         const std::string name = control.name.GetString();
-        if (name.empty() || KindOf(control.type.GetString()) == Kind::Unknown)
+        if (name.empty() || KindOf(control) == Kind::Unknown)
             continue;
         const auto [first, isNew] = lines.emplace(name, control.span.line);
         if (!isNew)
@@ -251,7 +246,7 @@ void JudgeGroups(const Case& judged)
     };
     for (const ClytControlStatement& control : judged.description.controls)
     {
-        const Kind kind = KindOf(control.type.GetString());
+        const Kind kind = KindOf(control);
         if (kind == Kind::OptionGroup)
         {
             judgeGroup();
@@ -271,7 +266,7 @@ void JudgeButton(const Case& judged, Kind kind, const char* typeWord)
     const ClytControlStatement* first = nullptr;
     for (const ClytControlStatement& control : judged.description.controls)
     {
-        if (KindOf(control.type.GetString()) != kind)
+        if (KindOf(control) != kind)
             continue;
         if (first != nullptr)
             judged.findings.Add(buttonTwice, judged.description.PlaceOf(control.span.line),

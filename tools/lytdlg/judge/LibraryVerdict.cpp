@@ -5,6 +5,7 @@
 #include "environment/ProcessState.h"
 #include "liveform/LiveForm.h"
 #include "lytdlg/text/TextFile.h"
+#include "lytdlg/text/Words.h"
 #include "robot/WindowRobot.h"
 
 #include <algorithm>
@@ -68,14 +69,6 @@ private:
     const CString m_initPath;
 };
 
-std::string Joined(const std::vector<std::string>& words)
-{
-    std::string text;
-    for (const std::string& word : words)
-        text += (text.empty() ? "" : ",") + word;
-    return text;
-}
-
 // The library takes what follows a line with a NUL byte for the rest of it.
 int LineInFile(const DescriptionText& text, int line)
 {
@@ -124,7 +117,7 @@ std::optional<Refusal> RefusalOf(const Description& description)
     const WithoutTexts noTexts((file.Name().parent_path() / "none").string());
     const BoxAnswerer answerer;
     lytInputKey.Empty();
-    LiveForm form(file.Name().string().c_str(), Joined(description.text.Defines()).c_str());
+    LiveForm form(file.Name().string().c_str(), Joined(description.text.Defines(), ",").c_str());
     try
     {
         form.Construct();

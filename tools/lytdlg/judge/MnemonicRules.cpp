@@ -1,6 +1,6 @@
 #include "lytdlg/judge/MnemonicRules.h"
 
-#include "lytdlg/judge/Controls.h"
+#include "lytdlg/judge/ControlValues.h"
 #include "lytdlg/judge/TextUses.h"
 
 #include <algorithm>

@@ -3,6 +3,7 @@
 
 #include "lytdlg/judge/ControlKinds.h"
 #include "lytdlg/judge/Description.h"
+#include "model/ClytWords.h"
 
 namespace lytdlg
 {
@@ -16,6 +17,16 @@ bool HasGroup(const Description& description, const std::string& name);
 bool HasPart(const Description& description, const std::string& name);
 // Of the last control of that name; Unknown when there is none.
 Kind KindOfControl(const Description& description, const std::string& name);
+
+// The words of a kind, as the library knows them.
+template <class MEANING>
+std::vector<std::string> WordsOf()
+{
+    std::vector<std::string> words;
+    for (const ClytKnownWord<MEANING>& word : ClytWordTable<MEANING>::words)
+        words.emplace_back(word.text);
+    return words;
+}
 
 // The known word that was meant: one that differs in upper and lower case only, or in a few letters. Empty when there is
 // none.

@@ -1,9 +1,8 @@
 #include "lytdlg/judge/OutputRules.h"
 
 #include "dialog/ClytDialog.h"
-#include "lytdlg/judge/ConditionText.h"
 #include "lytdlg/judge/Conditions.h"
-#include "lytdlg/judge/Controls.h"
+#include "lytdlg/judge/ControlValues.h"
 #include "lytdlg/judge/LineTokens.h"
 #include "lytdlg/judge/Lists.h"
 
@@ -286,7 +285,7 @@ void JudgeConditions(const Case& judged, const ClytDialogOutput& rule)
                 .Add(condition, asked->GetSpan(), "there is no control " + InQuotes(name),
                      MeantOr(name, ControlNames(judged.description), "name a control of $LAYOUT"))
                 .number = "245";
-        JudgeValues(judged, conditionValue, *asked, NullMeans::Empty);
+        JudgeValues(judged, conditionValue, *asked, ValueWords::Null);
         if (!asked->GetValues().IsEmpty())
             JudgeReadControl(judged, valueless, name, asked->GetSpan());
     }

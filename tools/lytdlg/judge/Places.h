@@ -2,7 +2,7 @@
 // large as their text.
 #pragma once
 
-#include "lytdlg/judge/Controls.h"
+#include "lytdlg/judge/ControlValues.h"
 #include "lytdlg/text/LanguageFiles.h"
 #include "model/ClytScale.h"
 

@@ -1,7 +1,8 @@
 #include "lytdlg/judge/SeparatorRules.h"
 
-#include "lytdlg/judge/Controls.h"
+#include "lytdlg/judge/Fills.h"
 #include "lytdlg/judge/Lists.h"
+#include "lytdlg/judge/Names.h"
 
 #include <algorithm>
 

@@ -3,6 +3,7 @@
 #include "lytdlg/judge/CodePage.h"
 #include "lytdlg/judge/Controls.h"
 #include "lytdlg/judge/TextUses.h"
+#include "lytdlg/text/Words.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -80,14 +81,6 @@ constexpr Rule unused = {"text-unused",
                          "section shows it.",
                          "$VALUES\n-    Form: Square = square form",
                          "$VALUES\n    Form: Hall = other form"};
-
-std::string Joined(const std::vector<std::string>& words)
-{
-    std::string list;
-    for (const std::string& word : words)
-        list += (list.empty() ? "" : ", ") + word;
-    return list;
-}
 
 std::vector<std::string> KeyNames(const Case& judged, const std::string& language, const std::string& name)
 {
@@ -197,14 +190,6 @@ void JudgeTwice(const Case& judged, const ShownText& use, const LanguageFile& fi
                   "the text stands in line " + std::to_string(found.place.line) + " already, and that one counts",
                   "take one of them away");
     }
-}
-
-size_t CountOf(const std::string& text, const std::string& mark)
-{
-    size_t count = 0;
-    for (size_t place = text.find(mark); place != std::string::npos; place = text.find(mark, place + mark.size()))
-        ++count;
-    return count;
 }
 
 // What a text has fewer or more of than its translation; empty when they agree.

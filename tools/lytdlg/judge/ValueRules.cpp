@@ -87,7 +87,7 @@ void JudgeUnknown(const PlacedValue& statement)
 
 bool IsMeantAsOption(const std::string& word)
 {
-    const std::string meant = MeantWord(word, OptionWords());
+    const std::string meant = MeantWord(word, WordsOf<ClytOption>());
     const bool isInCapitals = std::ranges::none_of(word, [](char ch) { return ch >= 'a' && ch <= 'z'; });
     return !meant.empty() && meant != word && (meant.size() == word.size() || isInCapitals);
 }
@@ -100,7 +100,7 @@ void JudgeWords(const PlacedValue& statement)
     {
         statement.judged.findings.Add(optionWord, statement.PlaceOfValue(),
                                       InQuotes(value.values.front()) + " is taken for a value",
-                                      MeantOr(value.values.front(), OptionWords(), ""));
+                                      MeantOr(value.values.front(), WordsOf<ClytOption>(), ""));
         return;
     }
     if (statement.role == Role::Nothing)

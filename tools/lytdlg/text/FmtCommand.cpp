@@ -1,10 +1,13 @@
 #include "lytdlg/text/FmtCommand.h"
 
 #include "lytdlg/text/BinaryStream.h"
+#include "lytdlg/text/DescriptionPaths.h"
 #include "lytdlg/text/Format.h"
 #include "lytdlg/text/LineDiff.h"
 #include "lytdlg/text/TextFile.h"
 
+#include <algorithm>
+#include <iterator>
 #include <optional>
 
 namespace lytdlg
@@ -14,8 +17,6 @@ namespace fs = std::filesystem;
 
 namespace
 {
-
-constexpr const char* standardInput = "-";
 
 enum class Task
 {
@@ -29,24 +30,6 @@ Task TaskOf(const Request& request)
     if (request.Has("--check") && request.Has("--diff"))
         throw commandline::UsageError("--check and --diff exclude each other; give one of them");
     return request.Has("--check") ? Task::Check : request.Has("--diff") ? Task::Diff : Task::Write;
-}
-
-void AddFiles(const std::string& path, std::vector<std::string>& files)
-{
-    std::error_code ignored;
-    if (!fs::is_directory(path, ignored))
-    {
-        if (path != standardInput && !fs::exists(path, ignored))
-            throw commandline::UsageError("there is no file or folder " + path +
-                                          "; name descriptions, their folder, or - for the standard input");
-        files.push_back(path);
-        return;
-    }
-    const std::vector<fs::path> found = FilesIn(path, ".dlg");
-    if (found.empty())
-        throw commandline::UsageError("the folder " + path + " holds no description (*.dlg); name the one that does");
-    for (const fs::path& file : found)
-        files.push_back(file.string());
 }
 
 // A description with its form; nothing, and a word about it, when it has none.
@@ -104,8 +87,8 @@ ExitCode Format(const Request& request)
 {
     const Task task = TaskOf(request);
     std::vector<std::string> files;
-    for (const std::string& path : request.operands)
-        AddFiles(path, files);
+    for (const std::string& operand : request.operands)
+        std::ranges::copy(DescriptionsAt(operand), std::back_inserter(files));
     ExitCode code = good;
     for (const std::string& file : files)
     {

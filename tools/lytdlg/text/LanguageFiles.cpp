@@ -107,6 +107,11 @@ private:
     std::vector<LanguageKey> m_keys;
 };
 
+std::vector<std::filesystem::path> LanguageFilesIn(const std::filesystem::path& folder)
+{
+    return FilesIn(folder / "lang", ".nls");
+}
+
 } // namespace
 
 bool IsSameName(std::string_view left, std::string_view right)
@@ -149,9 +154,17 @@ const LanguageKey* LanguageFile::Find(const std::string& section, const std::str
     return found != m_keys.end() && found->hasText ? &*found : nullptr;
 }
 
+std::vector<std::string> LanguagesIn(const std::filesystem::path& folder)
+{
+    std::vector<std::string> languages;
+    for (const std::filesystem::path& file : LanguageFilesIn(folder))
+        languages.push_back(file.stem().string());
+    return languages;
+}
+
 LanguageFiles::LanguageFiles(const std::filesystem::path& folder)
 {
-    for (const std::filesystem::path& file : FilesIn(folder / "lang", ".nls"))
+    for (const std::filesystem::path& file : LanguageFilesIn(folder))
         m_files.emplace_back(file.stem().string(), file.string());
 }
 

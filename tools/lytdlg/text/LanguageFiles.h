@@ -30,6 +30,9 @@ std::vector<LanguageKey> ReadLanguageKeys(std::string_view content);
 // How long a text may be, in bytes; the library cuts what is longer.
 inline constexpr size_t longestLanguageText = 74;
 
+// The languages of a folder of dialogs, in the order of their names.
+std::vector<std::string> LanguagesIn(const std::filesystem::path& folder);
+
 // One language file, read once.
 class LanguageFile
 {

@@ -1,7 +1,8 @@
 #include "lytdlg/text/TextTable.h"
 
-#include "lytdlg/text/DescriptionLines.h"
-#include "lytdlg/text/TextFile.h"
+#include "lytdlg/judge/FolderTexts.h"
+#include "lytdlg/text/LibraryTexts.h"
+#include "lytdlg/text/Words.h"
 
 #include <algorithm>
 #include <array>
@@ -22,22 +23,6 @@ struct Mark
 constexpr std::array marks = {Mark{"'", "apostrophes"}, Mark{"%", "per cent signs"}, Mark{"\\n", "line ends (\\n)"},
                               Mark{"&", "ampersands"}};
 
-size_t Count(const std::string& text, const std::string& mark)
-{
-    size_t count = 0;
-    for (size_t place = text.find(mark); place != std::string::npos; place = text.find(mark, place + mark.size()))
-        ++count;
-    return count;
-}
-
-std::string Joined(const std::vector<std::string>& parts)
-{
-    std::string joined;
-    for (const std::string& part : parts)
-        joined += (joined.empty() ? "" : ", ") + part;
-    return joined;
-}
-
 } // namespace
 
 TextTable::TextTable(const std::filesystem::path& folder) : m_languages(folder)
@@ -45,17 +30,15 @@ TextTable::TextTable(const std::filesystem::path& folder) : m_languages(folder)
     if (m_languages.Files().empty())
         throw std::runtime_error("there is no language file (*.nls) in " + (folder / "lang").string() +
                                  "; name the folder of the dialogs, which holds the folder lang");
-    AddUses(TextsOfLibrary());
-    for (const std::filesystem::path& dialog : FilesIn(folder, ".dlg"))
+    for (const LibraryText& text : LibraryTexts())
+        RowOf(text.section, text.key).uses.emplace_back();
+    const FolderTexts dialogs(folder.string());
+    for (const DescriptionTexts& dialog : dialogs.All())
     {
-        try
-        {
-            AddUses(TextsOfDialog(dialog));
-        }
-        catch (const TooManyDefines& failure)
-        {
-            throw std::runtime_error(dialog.string() + " " + failure.what());
-        }
+        if (!dialog.isRead)
+            throw std::runtime_error("cannot read " + (folder / dialog.fileName).string() + "; check its rights");
+        for (const ShownText& use : dialog.uses)
+            AddUse(use, dialog.fileName);
     }
     for (const LanguageFile& file : m_languages.Files())
         AddKeys(file);
@@ -85,10 +68,11 @@ TextRow& TextTable::RowOf(const std::string& section, const std::string& key)
     return found != m_rows.end() ? *found : m_rows.emplace_back(TextRow{section, key, {}, {}});
 }
 
-void TextTable::AddUses(const std::vector<TextUse>& uses)
+void TextTable::AddUse(const ShownText& text, const std::string& fileName)
 {
-    for (const TextUse& use : uses)
-        RowOf(use.section, use.key).uses.push_back(use);
+    // Those of the two buttons are the library's own.
+    if (text.role != TextRole::Button)
+        RowOf(text.section, text.key).uses.push_back({fileName, text.place.line, text.role == TextRole::Caption});
 }
 
 void TextTable::AddKeys(const LanguageFile& file)
@@ -121,7 +105,7 @@ void TextTable::Judge(TextRow& row) const
         if (isCaption && key->text.find('\'') != std::string::npos)
             row.remarks.push_back("an apostrophe in " + file.Language() + ", where the caption ends");
         for (size_t i = 0; i < marks.size(); ++i)
-            counts.at(i).push_back(file.Language() + " " + std::to_string(Count(key->text, marks.at(i).text)));
+            counts.at(i).push_back(file.Language() + " " + std::to_string(CountOf(key->text, marks.at(i).text)));
     }
     for (size_t i = 0; i < marks.size(); ++i)
     {

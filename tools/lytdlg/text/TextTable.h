@@ -2,10 +2,23 @@
 #pragma once
 
 #include "lytdlg/text/LanguageFiles.h"
-#include "lytdlg/text/UsedTexts.h"
+
+#include <filesystem>
+#include <string>
+#include <vector>
 
 namespace lytdlg
 {
+
+struct ShownText;
+
+// A place that shows a text.
+struct TextUse
+{
+    std::string file;       // of the dialog, without its folder; empty for the library itself
+    int line = 0;           // in the dialog
+    bool isCaption = false; // shown up to its first apostrophe
+};
 
 struct TextRow
 {
@@ -32,7 +45,7 @@ public:
 
 private:
     TextRow& RowOf(const std::string& section, const std::string& key);
-    void AddUses(const std::vector<TextUse>& uses);
+    void AddUse(const ShownText& text, const std::string& fileName);
     void AddKeys(const LanguageFile& file);
     void Judge(TextRow& row) const;
 

@@ -2,6 +2,7 @@
 
 #include "commandline/Suggestion.h"
 #include "commandline/Text.h"
+#include "lytdlg/text/Json.h"
 #include "lytdlg/text/TextTable.h"
 
 #include <algorithm>
@@ -76,61 +77,48 @@ void PrintText(const TextTable& texts)
                 texts.Rows().size(), texts.CountMissing());
 }
 
-std::string JsonText(const std::string& ansi)
+Json JsonOf(const TextUse& use)
 {
-    std::string text = "\"";
-    for (const char ch : commandline::ToUtf8(ansi))
+    if (use.file.empty())
+        return {{"library", true}};
+    return {{"file", use.file}, {"line", use.line}};
+}
+
+Json JsonOf(const TextRow& row, const LanguageFile& file, const TextTable& texts)
+{
+    Json told = {{"language", file.Language()}};
+    if (const LanguageKey* key = file.Find(row.section, row.key))
     {
-        char code[8] = "";
-        if (ch >= 0 && ch < ' ')
-            std::snprintf(code, sizeof code, "\\u%04x", static_cast<unsigned>(ch));
-        else if (ch == '"' || ch == '\\')
-            text += '\\';
-        text += *code != '\0' ? std::string(code) : std::string(1, ch);
+        told["line"] = key->place.line;
+        told["text"] = commandline::ToUtf8(key->text);
     }
-    return text + '"';
+    else if (texts.IsMissing(row, file))
+        told["missing"] = true;
+    return told;
 }
 
-template <class LIST, class SHOW>
-std::string JsonList(const LIST& list, SHOW show)
+Json JsonOf(const TextRow& row, const TextTable& texts)
 {
-    std::string text = "[";
-    for (const auto& each : list)
-        text += (text.size() > 1 ? ", " : "") + show(each);
-    return text + "]";
+    Json told = {{"section", commandline::ToUtf8(row.section)},
+                 {"key", commandline::ToUtf8(row.key)},
+                 {"uses", Json::array()},
+                 {"texts", Json::array()},
+                 {"remarks", Json::array()}};
+    for (const TextUse& use : row.uses)
+        told["uses"].push_back(JsonOf(use));
+    for (const LanguageFile& file : texts.Languages().Files())
+        told["texts"].push_back(JsonOf(row, file, texts));
+    for (const std::string& remark : row.remarks)
+        told["remarks"].push_back(commandline::ToUtf8(remark));
+    return told;
 }
 
-std::string JsonRow(const TextRow& row, const TextTable& texts)
+void PrintTexts(const TextTable& texts)
 {
-    const auto use = [](const TextUse& each)
-    {
-        return each.file.empty()
-                   ? std::string("{\"library\": true}")
-                   : "{\"file\": " + JsonText(each.file) + ", \"line\": " + std::to_string(each.line) + "}";
-    };
-    const auto text = [&](const LanguageFile& file)
-    {
-        const std::string language = "{\"language\": " + JsonText(file.Language());
-        const LanguageKey* key = file.Find(row.section, row.key);
-        if (key == nullptr)
-            return language + (texts.IsMissing(row, file) ? ", \"missing\": true}" : "}");
-        return language + ", \"line\": " + std::to_string(key->place.line) + ", \"text\": " + JsonText(key->text) + "}";
-    };
-    return "{\"section\": " + JsonText(row.section) + ", \"key\": " + JsonText(row.key) +
-           ", \"uses\": " + JsonList(row.uses, use) + ", \"texts\": " + JsonList(texts.Languages().Files(), text) +
-           ", \"remarks\": " + JsonList(row.remarks, JsonText) + "}";
-}
-
-void PrintJson(const TextTable& texts)
-{
-    std::printf("{\"missing\": %zu, \"texts\": [", texts.CountMissing());
-    const char* between = "\n";
+    Json rows = Json::array();
     for (const TextRow& row : texts.Rows())
-    {
-        std::printf("%s%s", between, JsonRow(row, texts).c_str());
-        between = ",\n";
-    }
-    std::printf("\n]}\n");
+        rows.push_back(JsonOf(row, texts));
+    PrintJson({{"missing", texts.CountMissing()}, {"texts", rows}});
 }
 
 ExitCode Texts(const Request& request)
@@ -145,7 +133,7 @@ ExitCode Texts(const Request& request)
     if (!std::filesystem::is_directory(folder, ignored))
         throw commandline::UsageError("there is no folder " + folder + "; name the folder of the dialogs");
     const TextTable texts(folder);
-    format == "json" ? PrintJson(texts) : PrintText(texts);
+    format == "json" ? PrintTexts(texts) : PrintText(texts);
     return texts.CountMissing() != 0 ? found : good;
 }
 

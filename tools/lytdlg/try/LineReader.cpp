@@ -3,8 +3,7 @@
 #include "commandline/Text.h"
 #include "lytdlg/text/TextFile.h"
 
-#include <cstdio>
-#include <memory>
+#include <algorithm>
 
 namespace lytdlg
 {
@@ -13,12 +12,6 @@ namespace
 {
 
 constexpr const char* blanks = " \t\r";
-
-struct CloseFile
-{
-    void operator()(FILE* file) const { std::fclose(file); }
-};
-using OpenFile = std::unique_ptr<FILE, CloseFile>;
 
 // The number of bytes of the UTF-8 character that begins there; 0 when none does.
 size_t LengthOfCharacter(const std::string& text, size_t place)
@@ -64,13 +57,6 @@ std::string ReadUtf8File(const std::string& name)
     if (text.starts_with(byteOrderMark))
         text.erase(0, 3);
     return IsUtf8(text) ? text : commandline::ToUtf8(text);
-}
-
-void WriteWholeFile(const std::string& name, const std::string& text)
-{
-    const OpenFile file(std::fopen(name.c_str(), "wb"));
-    if (file == nullptr || std::fwrite(text.data(), 1, text.size(), file.get()) != text.size())
-        throw std::runtime_error("\"" + name + "\" cannot be written; check its folder and rights");
 }
 
 std::vector<std::string> LinesOf(const std::string& text)

@@ -25,7 +25,6 @@ public:
 
 // Reads a whole file; a text that is no UTF-8 counts as one in the code page of the dialogs, and comes as UTF-8 too.
 std::string ReadUtf8File(const std::string& name);
-void WriteWholeFile(const std::string& name, const std::string& text);
 // The lines of a text, without their ends.
 std::vector<std::string> LinesOf(const std::string& text);
 // A word of the command line or of a file, UTF-8 or in the code page of the dialogs, as the dialogs have it.

@@ -1,5 +1,6 @@
 #include "lytdlg/try/TestCommand.h"
 
+#include "lytdlg/text/TextFile.h"
 #include "lytdlg/try/CaseRun.h"
 
 #include <algorithm>
@@ -64,7 +65,7 @@ void Update(const std::string& file, const std::string& content, const CaseUpdat
     std::string text;
     for (const std::string& line : Updated(LinesOf(content), update))
         text += line + lineEnd;
-    WriteWholeFile(file, text);
+    ReplaceWholeFile(file, text);
     std::printf("%s: brought up to date\n", file.c_str());
 }
 

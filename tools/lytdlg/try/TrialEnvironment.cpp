@@ -3,12 +3,12 @@
 #include "commandline/Suggestion.h"
 #include "environment/ClytEnvironment.h"
 #include "environment/ProcessState.h"
+#include "lytdlg/text/LanguageFiles.h"
 #include "lytdlg/try/LineReader.h"
 #include "tree/ClytNode.h"
 
 #include <windows.h>
 
-#include <algorithm>
 #include <filesystem>
 
 namespace lytdlg
@@ -33,23 +33,10 @@ std::string InitFolderNear(const fs::path& dialogs)
     return "";
 }
 
-std::vector<std::string> LanguagesOf(const fs::path& dialogs)
-{
-    std::vector<std::string> languages;
-    std::error_code noFolder;
-    for (const auto& entry : fs::directory_iterator(dialogs / "lang", noFolder))
-    {
-        if (entry.path().extension() == ".nls")
-            languages.push_back(entry.path().stem().string());
-    }
-    std::ranges::sort(languages);
-    return languages;
-}
-
 // English, unless there is one other language alone.
 std::string LanguageOf(const fs::path& dialogs)
 {
-    const std::vector<std::string> languages = LanguagesOf(dialogs);
+    const std::vector<std::string> languages = LanguagesIn(dialogs);
     return languages.size() == 1 ? languages.front() : "English";
 }
 
@@ -101,7 +88,7 @@ TrialEnvironment::TrialEnvironment(const Setup& setup)
         throw UsageError("there is no lyt.ini in \"" + setup.initFolder + "\"; check the folder after --init");
     if (!setup.language.empty() && !fs::exists(dialogs / "lang" / (setup.language + ".nls")))
         throw UsageError("there is no lang/" + setup.language + ".nls beside the dialog; " +
-                         commandline::Suggestion(setup.language, LanguagesOf(dialogs)));
+                         commandline::Suggestion(setup.language, LanguagesIn(dialogs)));
     if (init.empty() || !setup.language.empty())
     {
         MakeIniFile(init, setup.language.empty() ? LanguageOf(dialogs) : setup.language);

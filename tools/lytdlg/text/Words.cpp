@@ -1,0 +1,22 @@
+#include "lytdlg/text/Words.h"
+
+namespace lytdlg
+{
+
+std::string Joined(const std::vector<std::string>& words, const char* between)
+{
+    std::string joined;
+    for (const std::string& word : words)
+        joined += (joined.empty() ? "" : between) + word;
+    return joined;
+}
+
+size_t CountOf(const std::string& text, const std::string& mark)
+{
+    size_t count = 0;
+    for (size_t place = text.find(mark); place != std::string::npos; place = text.find(mark, place + mark.size()))
+        ++count;
+    return count;
+}
+
+} // namespace lytdlg
