@@ -73,6 +73,47 @@ TEST_F(CheckReport, NamesTheHeaderThatIsMissingAboveAFurtherOne)
     EXPECT_NE(told.find("box.dlg:13:5: error section-missing: the line \"$OUTPUT\" is missing (message 212)\n"),
               std::string::npos)
         << told;
+    EXPECT_EQ(told.find("output-first"), std::string::npos) << told;
+}
+
+// It hides the first section from the library.
+TEST_F(CheckReport, TellsOfAByteOrderMarkInALanguageFile)
+{
+    m_folder.Write("lang/English.nls", "\xEF\xBB\xBF[Box]\nTitle=Box\n[Buttons]\n001=&OK\n002=&Cancel\n");
+    const std::string told = Check(sound);
+    const std::string wayOut = "save the file in code page 1252, which editors call ANSI or Windows-1252\n";
+    for (const std::string& part : {"box.dlg:2:9: warning text-section: English.nls has no section [Box]\n"
+                                    "    $LAYOUT Box\n"
+                                    "            ^~~\n"
+                                    "    hint: a byte order mark hides it; " +
+                                        wayOut,
+                                    "English.nls:1:1: warning text-byte-order-mark: a byte order mark stands before "
+                                    "the first line, and hides it\n"
+                                    "    \u00EF\u00BB\u00BF[Box]\n"
+                                    "    ^\n"
+                                    "    hint: " +
+                                        wayOut,
+                                    std::string("1 description judged: 0 errors, 2 warnings, 0 notes\n")})
+        EXPECT_NE(told.find(part), std::string::npos) << told;
+}
+
+// Those of [MsgBox] belong to all dialogs of the folder, and are told with the first of them.
+TEST_F(CheckReport, TellsOfAMessageThatNoCheckOfTheFolderNames)
+{
+    m_folder.Write("lang/English.nls", "[Buttons]\n001=&OK\n002=&Cancel\n[Box]\nTitle=Box\n[MsgBox]\nLost=x\nFar=x\n");
+    const std::string otherChecks = With("$EVALUATION, x\n", "$EVALUATION, x\n    Field = NULL: Far\n");
+    m_folder.Write("other.dlg", otherChecks);
+    const std::string lost = "English.nls:7:1: note text-unused: no dialog of the folder uses the text \"Lost\"\n";
+    const std::string told = Check(sound);
+    EXPECT_NE(told.find(lost), std::string::npos) << told;
+    EXPECT_NE(told.find("0 errors, 0 warnings, 1 note\n"), std::string::npos) << told;
+    // What a line names that cannot be read is not known.
+    const std::string refused = With("$EVALUATION, x\n", "$EVALUATION, x\n    Field = NULL Lost\n");
+    m_folder.Write("other.dlg", refused);
+    EXPECT_EQ(Check(sound), "1 description judged: 0 errors, 0 warnings, 0 notes\n");
+    m_folder.Write("other.dlg", otherChecks);
+    m_folder.Write("a.dlg", otherChecks);
+    EXPECT_EQ(Check(sound), "1 description judged: 0 errors, 0 warnings, 0 notes\n");
 }
 
 TEST_F(CheckReport, OfASoundDescriptionIsOneLine)

@@ -43,6 +43,14 @@ TEST(FillRules, TellOfConditionsThatNeverHold)
     hint: write "" for an empty value
 )"},
         {R"($INPUT, parent
+    Unit: Name(null) = End, Tail
+    Tail: (999, End = Unit)",
+         R"(example.dlg:51:16: warning scan-condition-value: "null" has no meaning here: the value would have to be this word
+        Unit: Name(null) = End, Tail
+                   ^~~~
+    hint: write "" for an empty value
+)"},
+        {R"($INPUT, parent
     Unit: Place(hall palce) = End, Tail
     Tail: (999, End = Unit)",
          R"(example.dlg:51:17: warning scan-condition-value: "Place" never has the value "hall palce"
@@ -164,6 +172,13 @@ $INPUT, parent
         Unit: (999, End = Unit, Sides = a
                                 ^~~~~
     hint: make it a DropListBox, which has no such limit
+)"},
+        {R"($INPUT, parent
+    Unit: (999, End = Unit, Rooms)",
+         R"(example.dlg:51:29: error scan-list-empty: the list "Rooms" has no items to choose from
+        Unit: (999, End = Unit, Rooms
+                                ^~~~~
+    hint: add the piece with ADD or CONCAT, or give the list items
 )"},
         {R"($INPUT, parent
     Unit: (999, End = Unit, Parts)",

@@ -31,7 +31,9 @@ TEST(GeometryRules, TellOfControlsThatAreNotSeenWhole)
     hint: move one of them, or make it smaller
 )"},
         {R"($LAYOUT Example
-    PushButton 520, 12, 60, 21, "Remove", .More)",
+    PushButton 520, 12, 60, 21, "Remove", .More
+$VALUES
+    More: REJECT, x)",
          R"(example.dlg:24:5: warning geometry-clipped: the caption of "More" is 1 pixel too wide at 96 dots per inch with the texts of English.nls
         PushButton 520, 12, 60, 21, "Remove", .More
         ^~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~
@@ -56,7 +58,9 @@ example.dlg:25:5: warning geometry-tab: the Tab key goes back from the TextBox i
     hint: let the statements stand in the order of reading
 )"},
         {R"($LAYOUT Example
-    PushButton 520, 12, 30, 21, "Remove", .More)",
+    PushButton 520, 12, 30, 21, "Remove", .More
+$VALUES
+    More: REJECT, x)",
          R"(example.dlg:24:5: warning geometry-clipped: the caption of "More" is 24 pixels too wide
         PushButton 520, 12, 30, 21, "Remove", .More
         ^~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~

@@ -95,6 +95,13 @@ TEST(OutputRules, TellOfRulesThatAreNeverUsedOrMissing)
     hint: write %s, or %.5s for the first five characters
 )"},
         {R"($OUTPUT, parent
+    Name(NUL) = ("%s", Unit))",
+         R"(example.dlg:53:10: warning output-condition-value: "NUL" is taken for a value
+        Name(NUL) = ("%s", Unit)
+             ^~~
+    hint: did you mean "NULL"?
+)"},
+        {R"($OUTPUT, parent
     Name(Null) = ("%s", Unit))",
          R"(example.dlg:53:10: warning output-condition-value: "Null" is taken for a value
         Name(Null) = ("%s", Unit)

@@ -7,10 +7,10 @@ TEST(TextRules, TellOfTextsThatAreMissing)
 {
     ExpectFindings({
         {R"($LAYOUT Example
-    PushButton 520, 12, 112, 21, "Piktures", .More)",
-         R"(example.dlg:24:35: warning text-missing: English.nls, German.nls: no text "Piktures" in [Example]
-        PushButton 520, 12, 112, 21, "Piktures", .More
-                                      ^~~~~~~~
+    CheckBox 520, 12, 112, 12, "Piktures", .More)",
+         R"(example.dlg:24:33: warning text-missing: English.nls, German.nls: no text "Piktures" in [Example]
+        CheckBox 520, 12, 112, 12, "Piktures", .More
+                                    ^~~~~~~~
     hint: did you mean "Pictures"?
 )"},
         {R"($VALUES
@@ -55,7 +55,7 @@ lang/German.nls:37:1: warning text-long: the text has 78 characters and is cut a
     hint: shorten it
 )"},
         {R"($LAYOUT Example
-    PushButton 520, 12, 112, 21, "Author", .More)",
+    CheckBox 520, 12, 112, 12, "Author", .More)",
          R"(lang/English.nls:36:1: warning text-apostrophe: the caption ends at the apostrophe: "T&he author'"
     Author=T&he author's name
     ^~~~~~
@@ -104,6 +104,20 @@ lang/German.nls:40:1: warning text-twice: the text stands in line 39 already, an
     ^~~~~~
     hint: take one of them away
 )"},
+        {R"($LAYOUT Example
+    CheckBox 520, 12, 112, 12, "Nothing", .More)",
+         R"(lang/English.nls:42:1: warning text-empty: the text is empty, and the dialog shows nothing
+    Nothing=
+    ^~~~~~~
+    hint: write the text after the equals sign
+lang/German.nls:42:1: warning text-empty: the text is empty, and the dialog shows nothing
+    Nothing=
+    ^~~~~~~
+    hint: write the text after the equals sign
+)"},
+        {R"($VALUES
+    Form: Nothing = other form)",
+         ""},
         {R"($VALUES
 -    Form: Square = square form)",
          R"(lang/English.nls:27:1: note text-unused: no dialog of the folder uses the text "Square"
@@ -123,7 +137,7 @@ TEST(TextRules, FindNothingWrongInTextsThatAreThere)
     ExpectNoFindings({
         R"(
 $LAYOUT Example
-    PushButton 520, 12, 100, 21, "Remove", .More
+    CheckBox 520, 12, 100, 12, "Remove", .More
 $VALUES
     Form: Hall = other form)",
     });
@@ -133,25 +147,25 @@ TEST(MnemonicRules, TellOfLettersThatAreUsedTwiceOrMissing)
 {
     ExpectFindings({
         {R"($LAYOUT Example
-    PushButton 520, 12, 112, 21, "Note", .More)",
-         R"(example.dlg:24:35: warning mnemonic-twice: in English.nls "Note" underlines the letter n as "Name" in line 4 does
-        PushButton 520, 12, 112, 21, "Note", .More
-                                      ^~~~
+    CheckBox 520, 12, 112, 12, "Note", .More)",
+         R"(example.dlg:24:33: warning mnemonic-twice: in English.nls "Note" underlines the letter n as "Name" in line 4 does
+        CheckBox 520, 12, 112, 12, "Note", .More
+                                    ^~~~
     hint: choose another letter in the language file
-example.dlg:24:35: warning mnemonic-twice: in German.nls "Note" underlines the letter n as "Name" in line 4 does
-        PushButton 520, 12, 112, 21, "Note", .More
-                                      ^~~~
+example.dlg:24:33: warning mnemonic-twice: in German.nls "Note" underlines the letter n as "Name" in line 4 does
+        CheckBox 520, 12, 112, 12, "Note", .More
+                                    ^~~~
     hint: choose another letter in the language file
 )"},
         {R"($LAYOUT Example
-    PushButton 520, 12, 112, 21, "Plain", .More)",
-         R"(example.dlg:24:35: note mnemonic-none: in English.nls "Plain" underlines no letter
-        PushButton 520, 12, 112, 21, "Plain", .More
-                                      ^~~~~
+    CheckBox 520, 12, 112, 12, "Plain", .More)",
+         R"(example.dlg:24:33: note mnemonic-none: in English.nls "Plain" underlines no letter
+        CheckBox 520, 12, 112, 12, "Plain", .More
+                                    ^~~~~
     hint: write an & before a letter that the dialog does not have yet
-example.dlg:24:35: note mnemonic-none: in German.nls "Plain" underlines no letter
-        PushButton 520, 12, 112, 21, "Plain", .More
-                                      ^~~~~
+example.dlg:24:33: note mnemonic-none: in German.nls "Plain" underlines no letter
+        CheckBox 520, 12, 112, 12, "Plain", .More
+                                    ^~~~~
     hint: write an & before a letter that the dialog does not have yet
 )"},
     });
@@ -162,8 +176,8 @@ TEST(MnemonicRules, FindNothingWrongInControlsThatTakeTurns)
     ExpectNoFindings({
         R"(
 $LAYOUT Example
-    PushButton 520, 12, 112, 21, "Remove", .More
-    PushButton 520, 12, 112, 21, "Remove", .Most
+    CheckBox 520, 12, 112, 12, "Remove", .More
+    CheckBox 520, 12, 112, 12, "Remove", .Most
 $DEPENDANCES
     More/VISIBLE = Name(NULL)
     Most/VISIBLE = Name(x))",

@@ -20,6 +20,15 @@ constexpr Rule unknownAction = {
     "$VALUES\n-Add: ADD = AllRooms, Rooms\nAdd: Append = AllRooms, Rooms",
     "$VALUES\n-Add: ADD = AllRooms, Rooms\nAdd: ADD = AllRooms, Rooms"};
 
+constexpr Rule noAction = {
+    "action-missing",
+    Level::Warning,
+    "A button has no action, and a press does nothing.",
+    "A statement of $VALUES says what a button does, as \"Add: ADD = AllRooms, Rooms\". Without one only the\n"
+    "rules run: where that is meant, write \"NAME: REJECT, x\".",
+    "$VALUES\n-Add: ADD = AllRooms, Rooms",
+    "$VALUES\n-Add: ADD = AllRooms, Rooms\nAdd: REJECT, x"};
+
 constexpr Rule target = {"action-target",
                          Level::Warning,
                          "A button acts on a control that is not there.",
@@ -240,12 +249,27 @@ void JudgeAction(const Statement& statement)
     case ClytAction::Action: JudgeCall(statement); break;
     case ClytAction::Reject: break;
     default:
+        if (IsMeantAsOption(statement.value))
+            break;
         statement.judged.findings.Add(
             unknownAction, statement.Of().PlaceOf(statement.value.span.line, word.empty() ? statement.Value(0) : word),
             word.empty() ? "this statement names no action" : InQuotes(word) + " is no action of a button",
             MeantOr(word, WordsOf<ClytAction>(),
                     "use VISIBLE, ACTIVE, ADD, DELETE, UP, DOWN, ACTION, REJECT, FILL or DIALOG"));
     }
+}
+
+void JudgeButton(const Case& judged, const ClytControlStatement& control)
+{
+    const Description& description = judged.description;
+    const std::string name = control.name.GetString();
+    if (KindOf(control) != Kind::Button || HasOption(description, name, ClytOption::Hidden) ||
+        !StatementsOf(description, name, Role::Action).empty() || IsMeantElsewhere(description, name))
+        return;
+    judged.findings.Add(noAction, description.PlaceOf(control.span.line),
+                        (name.empty() ? "this button" : InQuotes(name)) + std::string(" has no action"),
+                        "say in $VALUES what it does, as " + InQuotes((name.empty() ? "NAME" : name) + ": REJECT, x") +
+                            " if only rules are to run");
 }
 
 void JudgeSource(const Statement& statement)
@@ -283,8 +307,8 @@ void JudgeDoubleClick(const Statement& statement)
 
 Family ActionRules()
 {
-    return {{&unknownAction, &target, &targetKind, &order, &noSource, &words, &group, &part, &dialog, &doubleClick,
-             &source},
+    return {{&unknownAction, &noAction, &target, &targetKind, &order, &noSource, &words, &group, &part, &dialog,
+             &doubleClick, &source},
             [](const Case& judged)
             {
                 for (const ValueStatement& value : judged.description.values)
@@ -298,6 +322,8 @@ Family ActionRules()
                     default: break;
                     }
                 }
+                for (const ClytControlStatement& control : judged.description.controls)
+                    JudgeButton(judged, control);
             }};
 }
 

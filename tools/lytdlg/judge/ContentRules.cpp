@@ -26,6 +26,15 @@ constexpr Rule optionTwice = {"option-twice",
                               "$VALUES\n-Long = l\n-Order = s\nLong = s\nOrder = s",
                               "$VALUES\n-Long = l\nLong = l"};
 
+constexpr Rule optionValueless = {
+    "option-without-value",
+    Level::Warning,
+    "An option has no value, while others of its group have one.",
+    "The value of the group is that of the option that is chosen: of this one it is an empty text. Where that is\n"
+    "meant, give it the value \"\".",
+    "$VALUES\n-Long = l",
+    "$VALUES\n-Long = l\nLong = \"\""};
+
 constexpr Rule itemIsKey = {
     "item-is-key",
     Level::Warning,
@@ -92,19 +101,37 @@ void JudgeItems(const Case& judged)
     }
 }
 
+// An option of a group in which others have values.
+void JudgeOptionValue(const Case& judged, const ClytControlStatement& option)
+{
+    const std::string name = option.name.GetString();
+    judged.findings.Add(optionValueless, judged.description.PlaceOf(option.span.line),
+                        (name.empty() ? "this option" : InQuotes(name)) + std::string(" has no value"),
+                        "add " + InQuotes((name.empty() ? "NAME" : name) + " = VALUE") + " to $VALUES");
+}
+
 void JudgeOptions(const Case& judged, const std::string& group)
 {
     std::map<std::string, int> lines;
+    std::vector<const ClytControlStatement*> valueless;
     for (const ClytControlStatement* option : OptionButtonsOf(judged.description, group))
     {
         const ValueStatement* own = LastStatementOf(judged.description, option->name.GetString(), Role::OptionValue);
         if (own == nullptr)
+        {
+            valueless.push_back(option);
             continue;
+        }
         const auto [first, isNew] = lines.emplace(own->values.front(), own->span.line);
         if (!isNew)
             judged.findings.Add(optionTwice, PlacedValue(judged, *own).PlaceOfValue(),
                                 "the option of line " + std::to_string(first->second) + " has the same value",
                                 "give each option a value of its own");
+    }
+    for (const ClytControlStatement* option : valueless)
+    {
+        if (!lines.empty() && !IsMeantElsewhere(judged.description, option->name.GetString()))
+            JudgeOptionValue(judged, *option);
     }
 }
 
@@ -186,7 +213,8 @@ void JudgeCheckBoxes(const Case& judged)
 
 Family ContentRules()
 {
-    return {{&itemTwice, &optionTwice, &itemIsKey, &defaultUnknown, &defaultEarly, &checkDefault, &checkTexts},
+    return {{&itemTwice, &optionTwice, &optionValueless, &itemIsKey, &defaultUnknown, &defaultEarly, &checkDefault,
+             &checkTexts},
             [](const Case& judged)
             {
                 JudgeItems(judged);

@@ -2,6 +2,7 @@
 
 #include "lytdlg/judge/Fills.h"
 #include "lytdlg/judge/Lists.h"
+#include "lytdlg/text/LanguageFiles.h"
 
 #include <algorithm>
 
@@ -89,6 +90,14 @@ Role RoleOf(const Description& description, const ValueStatement& statement)
     return RoleOf(KindOfControl(description, statement.name), statement);
 }
 
+bool IsMeantAsOption(const ValueStatement& statement)
+{
+    const std::string& word = statement.values.front();
+    const std::string meant = statement.keyword.empty() ? MeantWord(word, WordsOf<ClytOption>()) : "";
+    const bool isInCapitals = std::ranges::none_of(word, [](char ch) { return ch >= 'a' && ch <= 'z'; });
+    return !meant.empty() && meant != word && (IsSameName(meant, word) || isInCapitals);
+}
+
 bool HasOption(const Description& description, const std::string& name, ClytOption option)
 {
     return std::ranges::any_of(StatementsOf(description, name, Role::Option),
@@ -128,10 +137,28 @@ std::vector<const ValueStatement*> StatementsOf(const Description& description, 
     return found;
 }
 
+bool IsMeantElsewhere(const Description& description, const std::string& name)
+{
+    const std::vector<std::string> names = ControlNames(description);
+    const auto isMisspelt = [&](const ValueStatement& value)
+    { return description.FindControl(value.name) == nullptr && MeantWord(value.name, names) == name; };
+    const auto isRefused = [&](const SourceLine* line)
+    { return description.IsRefused(line->number) && line->text.find(name) != std::string::npos; };
+    return std::ranges::any_of(description.values, isMisspelt) ||
+           std::ranges::any_of(description.text.LinesOf(Section::Values), isRefused);
+}
+
 const ValueStatement* LastStatementOf(const Description& description, const std::string& name, Role role)
 {
     const std::vector<const ValueStatement*> statements = StatementsOf(description, name, role);
     return statements.empty() ? nullptr : statements.back();
+}
+
+bool GetsItemsOnOpening(const Description& description, const std::string& name)
+{
+    return LastStatementOf(description, name, Role::Source) != nullptr ||
+           std::ranges::any_of(FillsOf(description, name),
+                               [](const ClytControlFill* fill) { return AddsItems(*fill); });
 }
 
 bool GetsItems(const Description& description, const std::string& name)
@@ -141,10 +168,7 @@ bool GetsItems(const Description& description, const std::string& name)
         return ActionOf(statement) == ClytAction::Add && statement.values.back() == name &&
                RoleOf(description, statement) == Role::Action;
     };
-    return LastStatementOf(description, name, Role::Source) != nullptr ||
-           std::ranges::any_of(description.values, isAdded) ||
-           std::ranges::any_of(FillsOf(description, name),
-                               [](const ClytControlFill* fill) { return AddsItems(*fill); });
+    return GetsItemsOnOpening(description, name) || std::ranges::any_of(description.values, isAdded);
 }
 
 std::optional<std::set<std::string>> PossibleValues(const Description& description, const ClytControlStatement& control)

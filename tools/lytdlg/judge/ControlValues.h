@@ -29,6 +29,8 @@ Role RoleOf(Kind kind, const ValueStatement& statement);
 // For the last control of the statement's name.
 Role RoleOf(const Description& description, const ValueStatement& statement);
 
+// Whether a value was meant as HIDDEN or its like, but is spelt differently.
+bool IsMeantAsOption(const ValueStatement& statement);
 bool HasOption(const Description& description, const std::string& name, ClytOption option);
 // Whether a rule, a button or an option may hide the control, or the group of an option.
 bool MayBeHidden(const Description& description, const ClytControlStatement& control);
@@ -38,7 +40,12 @@ std::vector<const ValueStatement*> StatementsOf(const Description& description, 
 // The last of them, which is the one that counts where a control has but one; null without any.
 const ValueStatement* LastStatementOf(const Description& description, const std::string& name, Role role);
 
-// Whether a list gets items from elsewhere than $VALUES: a library, a button or the input.
+// Whether a line of $VALUES that cannot be read, or one for an unknown control, was meant for a control.
+bool IsMeantElsewhere(const Description& description, const std::string& name);
+
+// Whether a list gets items from a library or the input, and so may have some when the dialog opens.
+bool GetsItemsOnOpening(const Description& description, const std::string& name);
+// Whether a list gets items from elsewhere than $VALUES: in this way, or from a button.
 bool GetsItems(const Description& description, const std::string& name);
 // The values that the control can have; nothing when it can have any. A text that was never given is empty.
 std::optional<std::set<std::string>> PossibleValues(const Description& description,

@@ -2,6 +2,7 @@
 
 #include "commandline/Suggestion.h"
 #include "dlgfile/Tokenize.h"
+#include "lytdlg/text/LanguageFiles.h"
 
 #include <algorithm>
 #include <cctype>
@@ -19,7 +20,6 @@ constexpr const char* words[] = {"$VERSION",    "$LAYOUT", "$VALUES", "$DEPENDAN
 // A line is read in pieces of this length, and each counts.
 constexpr size_t pieceLength = 399;
 constexpr char endOfText = 0x1A;
-constexpr const char* byteOrderMark = "\xEF\xBB\xBF";
 
 std::string Upper(std::string text)
 {

@@ -89,10 +89,11 @@ constexpr const char* otherDescription =
     "TextBox 16, 12, 100, 19, .Name\r\nText 16, 38, 100, 12, \"Remove\"\r\nText 16, 54, 100, 12, \"Note\"\r\n"
     "Text 16, 70, 100, 12, \"Plain\"\r\nText 16, 86, 100, 12, \"Author\"\r\nText 16, 102, 100, 12, \"LongText\"\r\n"
     "Text 16, 118, 100, 12, \"Marked\"\r\nText 16, 134, 100, 12, \"Extra\"\r\n"
-    "Text 16, 150, 100, 12, \"Accent\"\r\nText 16, 166, 100, 12, \"Copied\"\r\nOKButton 16, 188, 80, "
+    "Text 140, 38, 100, 12, \"Nothing\"\r\nText 16, 150, 100, 12, \"Accent\"\r\nText 16, 166, 100, 12, "
+    "\"Copied\"\r\nOKButton 16, 188, 80, "
     "22\r\nCancelButton "
     "108, 188, 80, 22\r\n"
-    "End Dialog\r\n$VALUES\r\n$DEPENDANCES\r\n$EVALUATION, x\r\n$INPUT, parent\r\n"
+    "End Dialog\r\n$VALUES\r\n$DEPENDANCES\r\n$EVALUATION, x\r\nName = NULL: NameMissing\r\n$INPUT, parent\r\n"
     "Start: (999, End = Name\r\n$OUTPUT, parent\r\n(\"%s\", Name)\r\n$END\r\n";
 
 std::string Trimmed(const std::string& line)
@@ -241,6 +242,7 @@ std::string ExampleDescription(const std::string& lines)
     std::string text = writer.Text();
     Replace(text, "{ABOVE}\n", "");
     Replace(text, "{NUL}", std::string(1, '\0'));
+    Replace(text, "{1A}", "\x1A");
     Replace(text, "{LONG}", std::string(400, ' '));
     text.erase(std::min(text.find("{CUT}"), text.size()));
     return text;
@@ -248,8 +250,8 @@ std::string ExampleDescription(const std::string& lines)
 
 const std::vector<ExampleFile>& ExampleFiles()
 {
-    static const std::string english = std::string(exampleTexts) + "Marked=Marked\r\n";
-    static const std::string german = std::string(exampleTexts) + "Marked=Mar&ked\r\n";
+    static const std::string english = std::string(exampleTexts) + "Marked=Marked\r\nNothing=\r\n";
+    static const std::string german = std::string(exampleTexts) + "Marked=Mar&ked\r\nNothing=\r\n";
     static const std::vector<ExampleFile> files = {{"lyt.ini", "[global]\r\nCurrent Language=English\r\n"},
                                                    {"lang/English.nls", english.c_str()},
                                                    {"lang/German.nls", german.c_str()},

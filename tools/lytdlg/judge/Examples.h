@@ -10,8 +10,8 @@
 //     Begin ...           takes the place of the line that begins so; a statement of $INPUT that of the same name
 //
 // New controls stand above OKButton (the part of the dialog from 500 to the right is free), new output rules above those
-// that are there, other lines below. Lines above the first header begin the file. {NUL} stands for that byte, {LONG} for
-// 400 blanks, {ABOVE} joins the line with the next one, and {CUT} is where the file ends.
+// that are there, other lines below. Lines above the first header begin the file. {NUL} and {1A} stand for those bytes,
+// {LONG} for 400 blanks, {ABOVE} joins the line with the next one, and {CUT} is where the file ends.
 #pragma once
 
 #include <string>

@@ -1,5 +1,6 @@
 #include "lytdlg/judge/FillRules.h"
 
+#include "dialog/ClytDialog.h"
 #include "lytdlg/judge/Conditions.h"
 #include "lytdlg/judge/ControlValues.h"
 #include "lytdlg/judge/Fills.h"
@@ -157,11 +158,12 @@ void JudgeAction(const Case& judged, const ClytControlFill& fill, Kind kind)
             .number = HasItems(kind) ? "251" : "";
 }
 
-// An open list that gets items from $VALUES alone.
-void JudgeChoice(const Case& judged, const ClytControlFill& fill)
+// An open list that has at that time the items of $VALUES alone: no button was pressed when the dialog opens.
+void JudgeChoice(const Case& judged, const InputPart& part, const ClytControlFill& fill)
 {
     const std::string name = fill.controlName.GetString();
-    if (GetsItems(judged.description, name))
+    const bool isOpening = part.name == lytParentName;
+    if (isOpening ? GetsItemsOnOpening(judged.description, name) : GetsItems(judged.description, name))
         return;
     const std::vector<const ValueStatement*> items = StatementsOf(judged.description, name, Role::Item);
     const auto chosen = std::ranges::find_if(items, [&](const ValueStatement* item)
@@ -195,7 +197,7 @@ void JudgeFixedValue(const Case& judged, const ClytControlFill& fill, const Clyt
                         MeantOr(value, known, "give it one of the values that $VALUES names"));
 }
 
-void JudgeFill(const Case& judged, const ClytControlFill& fill)
+void JudgeFill(const Case& judged, const InputPart& part, const ClytControlFill& fill)
 {
     const std::string name = fill.controlName.GetString();
     const ClytControlStatement* control = judged.description.FindControl(name);
@@ -209,17 +211,17 @@ void JudgeFill(const Case& judged, const ClytControlFill& fill)
     const Kind kind = KindOf(*control);
     JudgeAction(judged, fill, kind);
     JudgeFixedValue(judged, fill, *control);
-    if (IsOpenList(kind) && fill.action.GetMeaning() == ClytFillAction::Other)
-        JudgeChoice(judged, fill);
+    if (IsOpenList(kind) && fill.action.GetText().IsEmpty())
+        JudgeChoice(judged, part, fill);
 }
 
-void JudgeFills(const Case& judged, const ClytScanRule& rule)
+void JudgeFills(const Case& judged, const InputPart& part, const ClytScanRule& rule)
 {
     const ClytConditionFill* before = nullptr; // a condition that takes the next fill along
     for (const ClytConditionFill* present : Records(rule.rules))
     {
         for (const ClytControlFill* fill : Records(present->fills))
-            JudgeFill(judged, *fill);
+            JudgeFill(judged, part, *fill);
         const bool isConditional = !present->values.IsEmpty();
         if (before != nullptr && (isConditional || TakesPiece(*present->fills.GetHead())))
             judged.findings.Add(pair, present->span, "this fill is skipped when the condition before it does not hold",
@@ -258,7 +260,7 @@ Family FillRules()
                         if (judged.description.IsRefused(statement->span.line))
                             continue;
                         JudgeConditions(judged, *statement);
-                        JudgeFills(judged, statement->scanRule);
+                        JudgeFills(judged, part, statement->scanRule);
                     }
                 }
             }};

@@ -1,5 +1,6 @@
 #include "lytdlg/judge/FolderTexts.h"
 
+#include "commandline/Text.h"
 #include "lytdlg/text/TextFile.h"
 
 #include <algorithm>
@@ -41,6 +42,7 @@ DescriptionTexts TextsOf(std::string fileName, const std::string& bytes)
     for (const std::vector<std::string>& defines : variants)
     {
         const Description description("", bytes, defines);
+        texts.isWhole = texts.isWhole && description.mistakes.empty();
         texts.sections.insert(description.TextSection());
         for (ShownText& use : TextUsesOf(description))
         {
@@ -66,7 +68,7 @@ const std::vector<std::string>& FolderTexts::Names() const
     {
         m_names.emplace();
         for (const std::filesystem::path& file : Files())
-            m_names->push_back(file.stem().string());
+            m_names->push_back(commandline::ToAnsi(file.stem().string()));
     }
     return *m_names;
 }

@@ -16,7 +16,8 @@ namespace lytdlg
 struct DescriptionTexts
 {
     std::string fileName;
-    bool isRead = true; // false for a file that cannot be read
+    bool isRead = true;  // false for a file that cannot be read
+    bool isWhole = true; // false when a line is refused: what it would show is not known
     std::set<std::string> sections;
     std::vector<ShownText> uses; // in the order of the file, without their controls
 };
@@ -28,7 +29,8 @@ class FolderTexts
 public:
     explicit FolderTexts(std::string folder) : m_folder(std::move(folder)) {}
 
-    // The names of the descriptions, without their extension, in their order. None when there is no folder.
+    // The names of the descriptions as a description has them, without their extension, in their order. None when there is
+    // no folder.
     const std::vector<std::string>& Names() const;
     // In the order of the names.
     const std::vector<DescriptionTexts>& All() const;

@@ -36,8 +36,8 @@ constexpr Rule clipped = {"geometry-clipped",
                           Level::Warning,
                           "A caption is wider than its control.",
                           "A button and a frame do not grow with their text: it is cut at both ends.",
-                          "$LAYOUT Example\n    PushButton 520, 12, 30, 21, \"Remove\", .More",
-                          "$LAYOUT Example\n    PushButton 520, 12, 90, 21, \"Remove\", .More"};
+                          "$LAYOUT Example\n    GroupBox 520, 12, 30, 60, \"Remove\", .More",
+                          "$LAYOUT Example\n    GroupBox 520, 12, 90, 60, \"Remove\", .More"};
 
 constexpr Rule tabOrder = {"geometry-tab",
                            Level::Warning,

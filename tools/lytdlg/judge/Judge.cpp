@@ -14,6 +14,7 @@
 #include "lytdlg/judge/LineRules.h"
 #include "lytdlg/judge/MarkRules.h"
 #include "lytdlg/judge/MnemonicRules.h"
+#include "lytdlg/judge/OutputGroupRules.h"
 #include "lytdlg/judge/OutputRules.h"
 #include "lytdlg/judge/PartnerRules.h"
 #include "lytdlg/judge/ScanRules.h"
@@ -45,10 +46,10 @@ const std::vector<Family>& Families()
 {
     // In the order of the sections. The library comes last: it looks whether a finding stands for its failure.
     static const std::vector<Family> families = {
-        SectionRules(),   LineRules(),    MarkRules(),       StatementRules(), LayoutRules(),     ValueRules(),
-        ContentRules(),   ActionRules(),  DependencyRules(), ConditionRules(), EvaluationRules(), ScanRules(),
-        SeparatorRules(), FillRules(),    OutputRules(),     FormatRules(),    TextRules(),       MnemonicRules(),
-        GeometryRules(),  PartnerRules(), IgnoreRules(),     LibraryRules(),
+        SectionRules(),   LineRules(),     MarkRules(),        StatementRules(), LayoutRules(),     ValueRules(),
+        ContentRules(),   ActionRules(),   DependencyRules(),  ConditionRules(), EvaluationRules(), ScanRules(),
+        SeparatorRules(), FillRules(),     OutputGroupRules(), OutputRules(),    FormatRules(),     TextRules(),
+        MnemonicRules(),  GeometryRules(), PartnerRules(),     IgnoreRules(),    LibraryRules(),
     };
     return families;
 }

@@ -1,9 +1,9 @@
 #include "lytdlg/judge/LayoutRules.h"
 
 #include "base/Words.h"
-#include "commandline/Suggestion.h"
 #include "lytdlg/judge/ControlValues.h"
 #include "lytdlg/judge/LineTokens.h"
+#include "lytdlg/text/Words.h"
 
 #include <algorithm>
 #include <cctype>
@@ -41,12 +41,14 @@ constexpr Rule noPoint = {
     "$LAYOUT\nTextBox 500, 12, 100, 19, \"\", Extra",
     "$LAYOUT\nTextBox 500, 12, 100, 19, \"\", .Extra"};
 
-constexpr Rule surplus = {"control-surplus",
-                          Level::Warning,
-                          "Words follow the name of a control.",
-                          "After the name nothing more is read.",
-                          "$LAYOUT\nTextBox 500, 12, 100, 19, \"\", .Extra, .More",
-                          "$LAYOUT\nTextBox 500, 12, 100, 19, \"\", .Extra"};
+constexpr Rule surplus = {
+    "control-surplus",
+    Level::Warning,
+    "A statement has more words than a control takes.",
+    "Four numbers are followed by the text and the name, and after the name nothing more is read. "
+    "A fifth number\nis taken for the key of the text.",
+    "$LAYOUT\nTextBox 500, 12, 100, 19, \"\", .Extra, .More",
+    "$LAYOUT\nTextBox 500, 12, 100, 19, \"\", .Extra"};
 
 constexpr Rule noNumber = {
     "number-wrong",
@@ -126,9 +128,10 @@ struct Statement
 void JudgeType(const Statement& statement)
 {
     if (statement.kind == Kind::Unknown)
-        statement.judged.findings.Add(unknownType, PlaceOf(statement.control, statement.words[0]),
-                                      InQuotes(statement.words[0].text) + " is no type of control, and makes none",
-                                      commandline::Suggestion(statement.words[0].text, TypeWords()));
+        statement.judged.findings.Add(
+            unknownType, PlaceOf(statement.control, statement.words[0]),
+            InQuotes(statement.words[0].text) + " is no type of control, and makes none",
+            MeantOr(statement.words[0].text, TypeWords(), "use one of: " + Joined(TypeWords())));
 }
 
 bool IsInQuotes(const Statement& statement, const LineToken& word)
@@ -137,9 +140,31 @@ bool IsInQuotes(const Statement& statement, const LineToken& word)
     return word.column > 0 && line[static_cast<size_t>(word.column - 1)] == '"';
 }
 
+bool IsNumber(const std::string& word)
+{
+    const char* rest = nullptr;
+    static_cast<void>(lytNumberOf(word.c_str(), &rest));
+    return !word.empty() && *rest == '\0';
+}
+
+// The first number after the four that a control has; null without one.
+const LineToken* FifthNumber(const Statement& statement)
+{
+    const std::vector<LineToken>& words = statement.words;
+    const bool isFifth = words.size() > 5 && IsNumber(words[5].text) && !IsInQuotes(statement, words[5]);
+    return isFifth && IsNumber(words[4].text) ? &words[5] : nullptr;
+}
+
 void JudgeNamePoint(const Statement& statement)
 {
     const std::vector<LineToken>& words = statement.words;
+    if (const LineToken* fifth = FifthNumber(statement))
+    {
+        statement.judged.findings.Add(surplus, PlaceOf(statement.control, *fifth),
+                                      "a fifth number is taken for the key of a text",
+                                      "left, top, width and height are all; delete one of the numbers");
+        return;
+    }
     const bool isShort = words.size() > 1 && words[1].text.starts_with('.');
     const size_t last = isShort ? 1 : words.size() > 5 && words[5].text.starts_with('.') ? 5 : 6;
     if (words.size() > last + 1)

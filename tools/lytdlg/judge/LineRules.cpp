@@ -71,7 +71,7 @@ constexpr Rule endMark = {"end-mark",
                           Level::Warning,
                           "Text stands after a Ctrl-Z, which ends the file for the library.",
                           "In a text file a byte 1A (Ctrl-Z) is its end. What stands after it is not read.",
-                          "$END\n\x1A\nmore",
+                          "$END\n{1A}\nmore",
                           "$END"};
 
 constexpr Rule afterEnd = {"after-end",
@@ -168,8 +168,7 @@ void JudgeBytes(const Case& judged, const SourceLine& line)
         const size_t size = SequenceLength(line.text, place);
         if (size != 0 && !isUtf8Told)
             AddAt(judged, utf8, line.number, place, size,
-                  "the library reads this letter as " + std::to_string(size) + " characters",
-                  "save the file in code page 1252, which editors call ANSI or Windows-1252");
+                  "the library reads this letter as " + std::to_string(size) + " characters", saveAsAnsi);
         isUtf8Told = isUtf8Told || size != 0;
         if (size == 0 && StandsForNothing(line.text[place]))
         {
@@ -194,7 +193,7 @@ void JudgeFile(const Case& judged)
     }
     else if (text.HasByteOrderMark())
         AddAt(judged, markAbove, 1, 0, 1, "the file begins with a byte order mark, and so was saved as UTF-8",
-              "save it in code page 1252, which editors call ANSI or Windows-1252");
+              saveAsAnsi);
     if (text.HasTextAfterEndMark())
         judged.findings.Add(endMark, judged.description.PlaceOf(static_cast<int>(text.Lines().size())),
                             "a Ctrl-Z ends the file here, and text follows it", "delete the byte 1A");

@@ -17,8 +17,8 @@ constexpr Rule twice = {
     "Two captions of a dialog underline the same letter.",
     "Alt with the letter then goes from one to the other, and a button needs a second press. Choose "
     "another letter in\nthe language file.",
-    "$LAYOUT Example\n    PushButton 520, 12, 112, 21, \"Note\", .More",
-    "$LAYOUT Example\n    PushButton 520, 12, 112, 21, \"Remove\", .More"};
+    "$LAYOUT Example\n    CheckBox 520, 12, 112, 12, \"Note\", .More",
+    "$LAYOUT Example\n    CheckBox 520, 12, 112, 12, \"Remove\", .More"};
 
 constexpr Rule none = {
     "mnemonic-none",
@@ -26,8 +26,8 @@ constexpr Rule none = {
     "A caption underlines no letter, while most of the others do.",
     "An & before a letter of the caption underlines it, and Alt with that letter goes to the button, "
     "or to the control\nafter a Text.",
-    "$LAYOUT Example\n    PushButton 520, 12, 112, 21, \"Plain\", .More",
-    "$LAYOUT Example\n    PushButton 520, 12, 112, 21, \"Remove\", .More"};
+    "$LAYOUT Example\n    CheckBox 520, 12, 112, 12, \"Plain\", .More",
+    "$LAYOUT Example\n    CheckBox 520, 12, 112, 12, \"Remove\", .More"};
 
 struct Caption
 {
@@ -55,7 +55,7 @@ std::vector<Caption> CaptionsOf(const Description& description, const LanguageFi
         const bool isCaption =
             use.role == TextRole::Caption || use.role == TextRole::Alternate || use.role == TextRole::Button;
         const LanguageKey* key = file.Find(use.section, use.key);
-        if (isCaption && key != nullptr && !IsHidden(description, *use.control))
+        if (isCaption && key != nullptr && !key->text.empty() && !IsHidden(description, *use.control))
             captions.push_back({&use, MnemonicOf(key->text)});
     }
     return captions;

@@ -8,6 +8,55 @@
 namespace lytdlg
 {
 
+namespace
+{
+
+// Words that other descriptions of dialogs have for those of this one.
+struct Synonym
+{
+    const char* word;
+    const char* meant;
+};
+constexpr Synonym synonyms[] = {
+    {"READONLY", "DISPLAYONLY"},
+    {"READ-ONLY", "DISPLAYONLY"},
+    {"HIDE", "HIDDEN"},
+    {"DISABLED", "ACTIVE"},
+    {"DISABLED", "INACTIVE"},
+    {"GREYED", "INACTIVE"},
+    {"GRAYED", "INACTIVE"},
+    {"ENABLED", "ACTIVE"},
+    {"ENABLE", "ACTIVE"},
+    {"SHOW", "VISIBLE"},
+    {"SHOWN", "VISIBLE"},
+    {"HIDDEN", "VISIBLE"},
+    {"HIDE", "VISIBLE"},
+    {"EMPTY", "CLEAR"},
+    {"DEFAULT", "DEFBUTTON"},
+    {"REMOVE", "DELETE"},
+    {"INSERT", "ADD"},
+    {"APPEND", "ADD"},
+    {"OPEN", "DIALOG"},
+    {"CALL", "ACTION"},
+    {"REPLACE", "MODIFY"},
+    {"SPLIT", "CONCAT"},
+    {"DOUBLECLICK", "DBLCLICK"},
+    {"DBLCLK", "DBLCLICK"},
+    {"Edit", "TextBox"},
+    {"EditBox", "TextBox"},
+    {"Label", "Text"},
+    {"Static", "Text"},
+    {"Button", "PushButton"},
+    {"RadioButton", "OptionButton"},
+    {"Frame", "GroupBox"},
+    {"DropDown", "DropListBox"},
+    {"DropDownList", "DropListBox"},
+    {"DropDownListBox", "DropListBox"},
+    {"CheckedListBox", "CheckListBox"},
+};
+
+} // namespace
+
 std::vector<std::string> ControlNames(const Description& description)
 {
     std::vector<std::string> names;
@@ -57,6 +106,11 @@ std::string MeantWord(const std::string& word, const std::vector<std::string>& k
         std::ranges::find_if(known, [&](const std::string& candidate) { return IsSameName(candidate, word); });
     if (same != known.end())
         return *same;
+    for (const Synonym& synonym : synonyms)
+    {
+        if (IsSameName(synonym.word, word) && std::ranges::find(known, synonym.meant) != known.end())
+            return synonym.meant;
+    }
     constexpr size_t fewestLetters = 3; // any two shorter words are close
     return word.size() < fewestLetters ? "" : commandline::Nearest(word, known);
 }

@@ -1,4 +1,4 @@
-// Rules on the output: its groups, the conditions of its rules, and what their items stand for.
+// Rules on the rules of the output: their order and conditions, and what their items stand for.
 #pragma once
 
 #include "lytdlg/judge/Judge.h"

@@ -70,8 +70,8 @@ std::string RulePage()
         "An error is what the library refuses, a warning what it passes over or what loses data or looks\n"
         "wrong, and a note what does neither harm nor good.\n\n"
         "The lines of an example are put into a small description without findings: a leading `-` takes that\n"
-        "line away from it, `{NUL}` is a NUL byte, `{LONG}` is 400 blanks, and `{ABOVE}` joins its line with the\n"
-        "next one.\n";
+        "line away from it, `{NUL}` is a NUL byte, `{1A}` a Ctrl-Z, `{LONG}` is 400 blanks, and `{ABOVE}` joins its\n"
+        "line with the next one.\n";
     ForEachRule(
         [&](const Rule& rule)
         {

@@ -154,9 +154,26 @@ ClytSpan NamePlace(const ClytDialogInput& statement)
     return {statement.span.line, statement.span.column, statement.name.GetLength()};
 }
 
+// Whether a target is misspelt: it may be the one that leads to what nothing else does.
+bool HasMisspeltTarget(const Case& judged, const InputPart& part)
+{
+    const std::vector<std::string> known = StatementNames(part.part);
+    for (const ClytDialogInput* statement : Records(part.part.GetStatements()))
+    {
+        for (const ScanTarget& next : TargetsOf(judged.description, *statement))
+        {
+            const std::string meant = MeantWord(next.name, known);
+            if (next.name != "End" && !meant.empty() && meant != next.name)
+                return true;
+        }
+    }
+    return false;
+}
+
 void JudgeReached(const Case& judged, const InputPart& part)
 {
     const std::set<const ClytDialogInput*> reached = Reached(judged.description, part.part);
+    const bool isMisspelt = HasMisspeltTarget(judged, part);
     for (const ClytDialogInput* statement : Records(part.part.GetStatements()))
     {
         const ClytDialogInput* found = part.part.Find(statement->name);
@@ -165,7 +182,7 @@ void JudgeReached(const Case& judged, const InputPart& part)
             judged.findings.Add(nameTwice, NamePlace(*statement),
                                 "the statement " + name + " in line " + LineOf(*found) + " takes the place of this one",
                                 "give each statement of a part a name of its own");
-        else if (!reached.empty() && !reached.contains(statement))
+        else if (!reached.empty() && !reached.contains(statement) && !isMisspelt)
             judged.findings.Add(unreached, NamePlace(*statement), "no statement leads to " + name,
                                 "name it as a target, or delete it");
     }
@@ -258,8 +275,14 @@ void JudgeFirstLine(const Case& judged, const InputPart& part)
 // A line that is refused leads nowhere, and says nothing about the others.
 bool IsWhole(const Description& description, const InputPart& part)
 {
-    return std::ranges::none_of(Records(part.part.GetStatements()), [&](const ClytDialogInput* statement)
-                                { return description.IsRefused(statement->span.line); });
+    for (const SourceLine* line : description.text.LinesOf(Section::Input))
+    {
+        if (line->isHeader && line->number > part.header.line)
+            return true;
+        if (line->number > part.header.line && description.IsRefused(line->number))
+            return false;
+    }
+    return true;
 }
 
 void JudgePaths(const Case& judged, const InputPart& part)

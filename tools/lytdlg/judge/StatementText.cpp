@@ -12,7 +12,7 @@ namespace
 
 std::string SignInQuotes(char ch)
 {
-    return ch == '\t' ? "a tab" : "\"" + std::string(1, ch) + "\"";
+    return ch == '\t' ? "a tab" : ch == '\n' ? "the end of the line" : "\"" + std::string(1, ch) + "\"";
 }
 
 // A statement up to the word that its reader refused.

@@ -19,8 +19,8 @@ constexpr Rule missing = {"text-missing",
                           "A text is not in the language file.",
                           "The dialog shows \"no value present\" in its place. A text in the layout is a key of the "
                           "section that $LAYOUT names;\nthe message of a check is a key of the section MsgBox.",
-                          "$LAYOUT Example\n    PushButton 520, 12, 112, 21, \"Piktures\", .More",
-                          "$LAYOUT Example\n    PushButton 520, 12, 112, 21, \"Remove\", .More"};
+                          "$LAYOUT Example\n    CheckBox 520, 12, 112, 12, \"Piktures\", .More",
+                          "$LAYOUT Example\n    CheckBox 520, 12, 112, 12, \"Remove\", .More"};
 
 constexpr Rule section = {"text-section",
                           Level::Warning,
@@ -40,8 +40,8 @@ constexpr Rule apostrophe = {"text-apostrophe",
                              Level::Warning,
                              "A caption has an apostrophe.",
                              "A caption ends at its first apostrophe. Write it without one.",
-                             "$LAYOUT Example\n    PushButton 520, 12, 112, 21, \"Author\", .More",
-                             "$LAYOUT Example\n    PushButton 520, 12, 112, 21, \"Remove\", .More"};
+                             "$LAYOUT Example\n    CheckBox 520, 12, 112, 12, \"Author\", .More",
+                             "$LAYOUT Example\n    CheckBox 520, 12, 112, 12, \"Remove\", .More"};
 
 constexpr Rule ampersand = {"text-ampersand",
                             Level::Warning,
@@ -56,7 +56,7 @@ constexpr Rule marks = {"text-marks",
                         "A text should have its letter for the keyboard (&), its line ends (\\n) and its place for the "
                         "argument ('') in every\nlanguage or in none.",
                         "$LAYOUT Example\n    Text 520, 12, 100, 12, \"Marked\", .More",
-                        "$LAYOUT Example\n    PushButton 520, 12, 112, 21, \"Remove\", .More"};
+                        "$LAYOUT Example\n    CheckBox 520, 12, 112, 12, \"Remove\", .More"};
 
 constexpr Rule bytes = {
     "text-bytes",
@@ -64,23 +64,43 @@ constexpr Rule bytes = {
     "A text of the language file has bytes that are no letters of its code page.",
     "Language files are in the ANSI code page, 1252 in Western Europe. A letter with an accent that was "
     "saved as UTF-8\nshows as two odd characters, and a byte that the code page does not use as a box.",
-    "$LAYOUT Example\n    PushButton 520, 12, 112, 21, \"Accent\", .More",
-    "$LAYOUT Example\n    PushButton 520, 12, 112, 21, \"Remove\", .More"};
+    "$LAYOUT Example\n    CheckBox 520, 12, 112, 12, \"Accent\", .More",
+    "$LAYOUT Example\n    CheckBox 520, 12, 112, 12, \"Remove\", .More"};
+
+constexpr Rule markAtBegin = {
+    "text-byte-order-mark",
+    Level::Warning,
+    "A language file begins with a byte order mark.",
+    "The file was saved as UTF-8 with a mark at its beginning, which hides its first line: when that is a "
+    "section, all texts of\nthe section are missing. Save it in code page 1252, which editors call ANSI or "
+    "Windows-1252.",
+    "",
+    ""};
+
+constexpr Rule emptyText = {
+    "text-empty",
+    Level::Warning,
+    "A text is empty.",
+    "Nothing follows the key in the language file, and the dialog shows nothing. Only an item of "
+    "a list may be empty, and then in\nevery language.",
+    "$LAYOUT Example\n    CheckBox 520, 12, 112, 12, \"Nothing\", .More",
+    "$LAYOUT Example\n    CheckBox 520, 12, 112, 12, \"Remove\", .More"};
 
 constexpr Rule hiddenKey = {"text-twice",
                             Level::Warning,
                             "A text stands in the language file twice.",
                             "The library reads the first of two keys, and of two sections, that have one name.",
-                            "$LAYOUT Example\n    PushButton 520, 12, 112, 21, \"Copied\", .More",
-                            "$LAYOUT Example\n    PushButton 520, 12, 112, 21, \"Remove\", .More"};
+                            "$LAYOUT Example\n    CheckBox 520, 12, 112, 12, \"Copied\", .More",
+                            "$LAYOUT Example\n    CheckBox 520, 12, 112, 12, \"Remove\", .More"};
 
-constexpr Rule unused = {"text-unused",
-                         Level::Note,
-                         "No dialog of the folder uses the text.",
-                         "The key is in the section of this dialog, and neither this dialog nor another one with that "
-                         "section shows it.",
-                         "$VALUES\n-    Form: Square = square form",
-                         "$VALUES\n    Form: Hall = other form"};
+constexpr Rule unused = {
+    "text-unused",
+    Level::Note,
+    "No dialog of the folder uses the text.",
+    "The key is in the section of this dialog, and neither this dialog nor another one with that "
+    "section shows it;\nor it is a message of the section MsgBox that no check of $EVALUATION names.",
+    "$VALUES\n-    Form: Square = square form",
+    "$VALUES\n    Form: Hall = other form"};
 
 std::vector<std::string> KeyNames(const Case& judged, const std::string& language, const std::string& name)
 {
@@ -111,10 +131,25 @@ void JudgeSection(const Case& judged)
         std::vector<std::string> known;
         for (const LanguageKey& key : file.Keys())
             known.push_back(key.section);
+        const bool isHiddenByMark =
+            file.HasByteOrderMark() && file.FirstLine().find("[" + name + "]") != std::string::npos;
         judged.findings.Add(section, description.PlaceOf(header->number, name),
                             file.Language() + ".nls has no section [" + name + "]",
-                            MeantOr(name, known, "add it, with all texts"));
+                            isHiddenByMark ? "a byte order mark hides it; " + std::string(saveAsAnsi)
+                                           : MeantOr(name, known, "add it, with all texts"));
     }
+}
+
+std::string FileNameOf(const Description& description)
+{
+    return std::filesystem::path(description.path).filename().string();
+}
+
+// What concerns the whole folder is told for its first dialog.
+bool IsFirstOfFolder(const Case& judged)
+{
+    const std::vector<DescriptionTexts>& all = judged.surroundings.descriptions.All();
+    return all.empty() || all.front().fileName >= FileNameOf(judged.description);
 }
 
 // Each text in each language.
@@ -166,6 +201,33 @@ void JudgeText(const Case& judged, const ShownText& use, const LanguageFile& fil
               "leave it out");
 }
 
+// An item may be empty where it is so in every language.
+void JudgeEmpty(const Case& judged, const ShownText& use, const LanguageFile& file, const LanguageKey& key)
+{
+    const auto isEmpty = [&](const LanguageFile& other)
+    {
+        const LanguageKey* text = other.Find(use.section, use.key);
+        return text == nullptr || text->text.empty();
+    };
+    const bool isMeant = use.role == TextRole::Item && std::ranges::all_of(judged.surroundings.texts.Files(), isEmpty);
+    if (key.text.empty() && !isMeant)
+        AddAt(judged, emptyText, file, key, "the text is empty, and the dialog shows nothing",
+              "write the text after the equals sign");
+}
+
+void JudgeByteOrderMark(const Case& judged)
+{
+    for (const LanguageFile& file : judged.surroundings.texts.Files())
+    {
+        if (!file.HasByteOrderMark() || !IsFirstOfFolder(judged))
+            continue;
+        Finding& finding = judged.findings.Add(
+            markAtBegin, {1, 0, 1}, "a byte order mark stands before the first line, and hides it", saveAsAnsi);
+        finding.path = file.FileName();
+        finding.line = file.FirstLine();
+    }
+}
+
 void JudgeBytes(const Case& judged, const LanguageFile& file, const LanguageKey& key)
 {
     for (size_t place = 0; place < key.text.size(); ++place)
@@ -176,7 +238,7 @@ void JudgeBytes(const Case& judged, const LanguageFile& file, const LanguageKey&
         AddAt(judged, bytes, file, key,
               isUtf8 ? "the text was saved as UTF-8, and shows odd characters"
                      : "the byte " + HexOf(key.text[place]) + " of the text stands for no character",
-              "save the file in code page 1252, which editors call ANSI or Windows-1252");
+              saveAsAnsi);
         return;
     }
 }
@@ -215,7 +277,8 @@ void JudgeMarks(const Case& judged, const ShownText& use)
             first = &file;
             model = key;
         }
-        if (key == nullptr || key == model)
+        const bool isNothing = key == nullptr || key->text.empty() || model->text.empty();
+        if (isNothing || key == model)
             continue;
         const std::string mark = DifferentMark(use.role, model->text, key->text);
         if (!mark.empty())
@@ -228,29 +291,41 @@ void JudgeMarks(const Case& judged, const ShownText& use)
 
 // Texts that nothing uses.
 
-// Told for the first dialog of the folder that has the section.
-void JudgeUnused(const Case& judged)
+// All texts that the dialogs of the folder show, this one as it is now.
+std::vector<ShownText> UsesInFolder(const Case& judged)
 {
-    const FolderTexts& folder = judged.surroundings.descriptions;
-    const std::string name = judged.description.TextSection();
-    const std::string own = std::filesystem::path(judged.description.path).filename().string();
-    const std::string first = folder.FirstOf(name);
-    if (!first.empty() && first < own)
-        return;
+    const std::string own = FileNameOf(judged.description);
     std::vector<ShownText> uses = TextsOf(own, judged.description.text.Bytes()).uses;
-    for (const DescriptionTexts& texts : folder.All())
+    for (const DescriptionTexts& texts : judged.surroundings.descriptions.All())
     {
         if (texts.fileName != own)
             uses.insert(uses.end(), texts.uses.begin(), texts.uses.end());
     }
+    return uses;
+}
+
+// Told for the first dialog of the folder that has the section.
+void JudgeUnused(const Case& judged)
+{
+    const std::string name = judged.description.TextSection();
+    const std::string own = FileNameOf(judged.description);
+    const std::string first = judged.surroundings.descriptions.FirstOf(name);
+    const bool isFirstOfSection = !name.empty() && (first.empty() || first >= own);
+    const bool isFirst = IsFirstOfFolder(judged);
+    const bool areWhole = std::ranges::all_of(judged.surroundings.descriptions.All(), &DescriptionTexts::isWhole) &&
+                          judged.description.mistakes.empty();
+    if ((!isFirstOfSection && !isFirst) || !areWhole)
+        return;
+    const std::vector<ShownText> uses = UsesInFolder(judged);
     for (const LanguageFile& file : judged.surroundings.texts.Files())
     {
         for (const LanguageKey& key : file.Keys())
         {
-            const bool isOfSection = key.isReached && !name.empty() && IsSameName(key.section, name);
+            const bool isOfSection = (isFirstOfSection && IsSameName(key.section, name)) ||
+                                     (isFirst && IsSameName(key.section, messageSection));
             const auto isUse = [&](const ShownText& use)
-            { return IsSameName(use.section, name) && IsSameName(use.key, key.name); };
-            if (isOfSection && std::ranges::none_of(uses, isUse))
+            { return IsSameName(use.section, key.section) && IsSameName(use.key, key.name); };
+            if (key.isReached && isOfSection && std::ranges::none_of(uses, isUse))
                 AddAt(judged, unused, file, key, "no dialog of the folder uses the text " + InQuotes(key.name),
                       "delete it");
         }
@@ -261,11 +336,13 @@ void JudgeUnused(const Case& judged)
 
 Family TextRules()
 {
-    return {{&missing, &section, &tooLong, &apostrophe, &ampersand, &marks, &bytes, &hiddenKey, &unused},
+    return {{&missing, &section, &tooLong, &apostrophe, &ampersand, &marks, &bytes, &markAtBegin, &emptyText,
+             &hiddenKey, &unused},
             [](const Case& judged)
             {
                 if (judged.surroundings.texts.Files().empty())
                     return;
+                JudgeByteOrderMark(judged);
                 JudgeSection(judged);
                 for (const ShownText& use : TextUsesOf(judged.description))
                 {
@@ -276,6 +353,7 @@ Family TextRules()
                         if (const LanguageKey* key = file.Find(use.section, use.key))
                         {
                             JudgeText(judged, use, file, *key);
+                            JudgeEmpty(judged, use, file, *key);
                             JudgeBytes(judged, file, *key);
                             JudgeTwice(judged, use, file, *key);
                         }

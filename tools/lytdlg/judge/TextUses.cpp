@@ -1,6 +1,7 @@
 #include "lytdlg/judge/TextUses.h"
 
 #include "lytdlg/judge/Controls.h"
+#include "lytdlg/text/LanguageFiles.h"
 
 #include <cctype>
 
@@ -28,7 +29,8 @@ public:
         for (const EvaluationStatement& statement : m_description.evaluations)
         {
             if (!statement.messageKey.empty())
-                m_uses.push_back({TextRole::Message, "MsgBox", statement.messageKey, MessagePlace(statement), nullptr});
+                m_uses.push_back(
+                    {TextRole::Message, messageSection, statement.messageKey, MessagePlace(statement), nullptr});
         }
         return std::move(m_uses);
     }

@@ -85,18 +85,11 @@ void JudgeUnknown(const PlacedValue& statement)
                                       : MeantOr(name, ControlNames(description), "use the name of a control"));
 }
 
-bool IsMeantAsOption(const std::string& word)
-{
-    const std::string meant = MeantWord(word, WordsOf<ClytOption>());
-    const bool isInCapitals = std::ranges::none_of(word, [](char ch) { return ch >= 'a' && ch <= 'z'; });
-    return !meant.empty() && meant != word && (meant.size() == word.size() || isInCapitals);
-}
-
 // A list takes any word before its value for the key of a text.
 void JudgeWords(const PlacedValue& statement)
 {
     const ValueStatement& value = statement.value;
-    if (value.keyword.empty() && statement.role != Role::Option && IsMeantAsOption(value.values.front()))
+    if (IsMeantAsOption(value))
     {
         statement.judged.findings.Add(optionWord, statement.PlaceOfValue(),
                                       InQuotes(value.values.front()) + " is taken for a value",
@@ -151,7 +144,10 @@ void JudgeTwice(const Case& judged)
     for (const ValueStatement& value : judged.description.values)
     {
         const PlacedValue statement(judged, value);
-        if (!IsSingle(statement.role))
+        // What was meant otherwise is told by itself.
+        const bool isMeantOtherwise =
+            IsMeantAsOption(value) || (statement.role == Role::Default && !value.keyword.empty());
+        if (!IsSingle(statement.role) || isMeantOtherwise)
             continue;
         const ValueStatement*& before = last[{value.name, statement.role}];
         if (before != nullptr)

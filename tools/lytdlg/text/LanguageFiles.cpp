@@ -135,10 +135,16 @@ LanguageFile::LanguageFile(std::string language, std::string fileName)
     : m_language(std::move(language)), m_fileName(std::move(fileName))
 {
     const std::string content = ReadWholeFile(m_fileName).value_or("");
+    m_firstLine = content.substr(0, content.find_first_of("\r\n"));
     KeyReader reader(content);
     reader.Read();
     m_sections = reader.TakeSections();
     m_keys = reader.TakeKeys();
+}
+
+bool LanguageFile::HasByteOrderMark() const
+{
+    return m_firstLine.starts_with(byteOrderMark);
 }
 
 bool LanguageFile::HasSection(const std::string& section) const

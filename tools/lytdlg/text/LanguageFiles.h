@@ -27,6 +27,12 @@ struct LanguageKey
 // Every line with a key of a file's content, in its order.
 std::vector<LanguageKey> ReadLanguageKeys(std::string_view content);
 
+// The mark that some editors put before a text in UTF-8.
+inline constexpr const char* byteOrderMark = "\xEF\xBB\xBF";
+
+// The section that the messages of checks are keys of.
+inline constexpr const char* messageSection = "MsgBox";
+
 // How long a text may be, in bytes; the library cuts what is longer.
 inline constexpr size_t longestLanguageText = 74;
 
@@ -41,6 +47,9 @@ public:
 
     const std::string& Language() const { return m_language; }
     const std::string& FileName() const { return m_fileName; }
+    // The library takes it for letters of the first line.
+    bool HasByteOrderMark() const;
+    const std::string& FirstLine() const { return m_firstLine; }
     // Every line with a key, in the order of the file.
     const std::vector<LanguageKey>& Keys() const { return m_keys; }
     // Also for a section without keys.
@@ -51,6 +60,7 @@ public:
 private:
     std::string m_language;
     std::string m_fileName;
+    std::string m_firstLine;
     std::vector<std::string> m_sections;
     std::vector<LanguageKey> m_keys;
 };

@@ -18,7 +18,6 @@ namespace
 {
 
 constexpr size_t longestName = 40;
-constexpr const char* messageSection = "MsgBox";
 
 // Names of files that Windows has for its devices, whatever comes after a point.
 constexpr std::array devices = {"CON",  "PRN",  "AUX",  "NUL",  "COM1", "COM2", "COM3", "COM4", "COM5", "COM6", "COM7",

@@ -1,6 +1,7 @@
 #include "lytdlg/try/LineReader.h"
 
 #include "commandline/Text.h"
+#include "lytdlg/text/LanguageFiles.h"
 #include "lytdlg/text/TextFile.h"
 
 #include <algorithm>
@@ -53,7 +54,6 @@ std::string ReadUtf8File(const std::string& name)
     if (!content)
         throw commandline::UsageError("there is no file \"" + name + "\"; check folder and name");
     std::string text = *content;
-    constexpr const char* byteOrderMark = "\xEF\xBB\xBF";
     if (text.starts_with(byteOrderMark))
         text.erase(0, 3);
     return IsUtf8(text) ? text : commandline::ToUtf8(text);

@@ -1,0 +1,124 @@
+#include "lytdlg/judge/OutputGroupRules.h"
+
+#include "dialog/ClytDialog.h"
+#include "lytdlg/judge/LineTokens.h"
+#include "lytdlg/judge/Names.h"
+
+#include <algorithm>
+#include <set>
+
+namespace lytdlg
+{
+
+namespace
+{
+
+constexpr Rule noResult = {"output-parent",
+                           Level::Warning,
+                           "The dialog's result has no rule.",
+                           "The first group composes the result of the dialog. Without a rule OK does nothing.",
+                           "$OUTPUT, parent\n-    (\"%s;%s;%s;%s;%s;%s\", Name, Unit, Place, Form, Order, Pictures)\n"
+                           "$EVALUATION, x\n-    Name = NULL: NameMissing",
+                           "$OUTPUT, parent\n    Form(\"\") = (\"%s\", Name)"};
+
+constexpr Rule firstGroup = {"output-first",
+                             Level::Warning,
+                             "The first group has a name that does not count.",
+                             "The first group after $INPUT is always the result of the dialog, under the name parent.",
+                             "$OUTPUT,result",
+                             "$OUTPUT, parent"};
+
+constexpr Rule groupTwice = {
+    "output-twice",
+    Level::Warning,
+    "Two groups have the same name, and the first is never used.",
+    "Of groups with the same name the last counts.",
+    "$VALUES\n    Parts = FILLEDBY, lytdata, Open, Next, Out\n$OUTPUT, Out\n    (\"%s\", Name)\n$OUTPUT,  Out\n    "
+    "(\"%s\", Unit)",
+    "$VALUES\n    Parts = FILLEDBY, lytdata, Open, Next, Out\n$OUTPUT, Out\n    (\"%s\", Name)"};
+
+constexpr Rule groupUnused = {
+    "output-unused",
+    Level::Note,
+    "Nothing uses the group.",
+    "A group other than parent composes what a library of FILLEDBY or a button with DIALOG or ACTION receives.",
+    "$OUTPUT, Out\n    (\"%s\", Name)",
+    "$VALUES\n    Parts = FILLEDBY, lytdata, Open, Next, Out\n$OUTPUT, Out\n    (\"%s\", Name)"};
+
+constexpr Rule groupEmpty = {
+    "output-empty",
+    Level::Warning,
+    "A group has no rule.",
+    "It composes nothing, and what it is meant for does not happen.",
+    "$VALUES\n    Parts = FILLEDBY, lytdata, Open, Next, Out\n$OUTPUT, Out",
+    "$VALUES\n    Parts = FILLEDBY, lytdata, Open, Next, Out\n$OUTPUT, Out\n    (\"%s\", Name)"};
+
+std::set<std::string> UsedGroups(const Description& description)
+{
+    std::set<std::string> used = {lytParentName};
+    for (const ValueStatement& statement : description.values)
+    {
+        const std::vector<std::string>& values = statement.values;
+        const auto meaning = lytMeaningOf<ClytAction>(statement.keyword.c_str());
+        if (lytMeaningOf<ClytKeyword>(statement.keyword.c_str()) == ClytKeyword::FilledBy && values.size() > 3)
+            used.insert(values[3]);
+        else if (meaning == ClytAction::Action && values.size() > 2)
+            used.insert(values[2]);
+        else if (meaning == ClytAction::Dialog)
+            used.insert(values.back());
+    }
+    return used;
+}
+
+void JudgeFirst(const Case& judged)
+{
+    const SourceLine* header = judged.description.text.HeaderOf(Section::Output);
+    // The header of a further group is no first one: that the first is missing is told by itself.
+    if (header == nullptr || judged.description.text.BeginsWithoutHeader(Section::Output))
+        return;
+    const std::vector<LineToken> words = TokensOf(header->text, Section::Input);
+    if (words.size() > 1 && !words[1].text.empty() && words[1].text != lytParentName)
+        judged.findings.Add(firstGroup, judged.description.PlaceOf(header->number, words[1].text),
+                            "the first group is the result of the dialog, whatever its name",
+                            "write \"$OUTPUT, parent\", and put other groups after it");
+}
+
+void JudgeGroups(const Case& judged)
+{
+    const std::set<std::string> used = UsedGroups(judged.description);
+    const auto& groups = judged.description.outputs;
+    for (auto group = groups.begin(); group != groups.end(); ++group)
+    {
+        const ClytSpan place = judged.description.PlaceOf(group->header.line);
+        const auto later = std::find_if(std::next(group), groups.end(),
+                                        [&](const OutputGroup& other) { return other.name == group->name; });
+        if (later != groups.end())
+            judged.findings.Add(groupTwice, place,
+                                "the group " + InQuotes(group->name) + " in line " +
+                                    std::to_string(later->header.line) + " takes the place of this one",
+                                "give each group a name of its own");
+        else if (!used.contains(group->name))
+            judged.findings.Add(groupUnused, place, "nothing uses the group " + InQuotes(group->name),
+                                "name it in a FILLEDBY, DIALOG or ACTION, or delete it");
+        else if (group->rules.IsEmpty() && group->name == lytParentName)
+            judged.findings.Add(noResult, place, "there is no rule for the dialog's result, and OK does nothing",
+                                "add a rule, as (\"%s\", Name)");
+        else if (group->rules.IsEmpty())
+            judged.findings.Add(groupEmpty, place, "the group " + InQuotes(group->name) + " has no rule",
+                                "add one, as (\"%s\", Name)");
+    }
+}
+
+} // namespace
+
+Family OutputGroupRules()
+{
+    return {{&noResult, &firstGroup, &groupTwice, &groupUnused, &groupEmpty},
+            [](const Case& judged)
+            {
+                JudgeFirst(judged);
+                JudgeGroups(judged);
+            }};
+}
+
+} // namespace lytdlg
