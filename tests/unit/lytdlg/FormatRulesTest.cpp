@@ -7,6 +7,13 @@ TEST(FormatRules, TellOfConversionsThatDoNotExist)
 {
     ExpectFindings({
         {R"($OUTPUT, parent
+    Name = NULL ("%s", Unit))",
+         R"(example.dlg:53:12: warning format-word: "NULL" before the format is passed over
+        Name = NULL ("%s", Unit)
+               ^~~~
+    hint: put values in brackets after their control, before the equals sign
+)"},
+        {R"($OUTPUT, parent
     Form("") = ("places:%s", Name, Unit))",
          R"(example.dlg:53:23: warning format-letter-s: in a format with %, this s takes an item
         Form("") = ("places:%s", Name, Unit)

@@ -7,6 +7,13 @@ TEST(GeometryRules, TellOfControlsThatAreNotSeenWhole)
 {
     ExpectFindings({
         {R"($LAYOUT Example
+    TextBox 520, -12, 100, 19, .More)",
+         R"(example.dlg:24:5: warning geometry-outside: "More" goes beyond the dialog
+        TextBox 520, -12, 100, 19, .More
+        ^~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~
+    hint: move it, or make the dialog larger
+)"},
+        {R"($LAYOUT Example
     TextBox 520, 12, 100, 19, .More
     TextBox 600, 12, 100, 19, .Most)",
          R"(example.dlg:25:5: warning geometry-overlap: "Most" and "More" in line 24 overlap

@@ -38,7 +38,8 @@ std::string MeantValueWord(const std::string& value)
     std::erase(letters, ' ');
     const std::string meant = MeantWord(letters, words);
     const bool isInCapitals = std::ranges::none_of(letters, [](unsigned char ch) { return std::islower(ch) != 0; });
-    const bool isMisspelt = isInCapitals && letters.starts_with(words[0][0]);
+    // Words that begin otherwise are likely to be values.
+    const bool isMisspelt = isInCapitals && letters.find_first_of("NE!") == 0;
     return isMisspelt || IsSameName(letters, meant) ? meant : "";
 }
 

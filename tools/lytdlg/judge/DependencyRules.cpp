@@ -103,6 +103,14 @@ constexpr Rule never = {
     "$DEPENDANCES\nUnit/ACTIVE = Name(a), Name(b)",
     "$DEPENDANCES\nUnit/ACTIVE = Name(a, b)"};
 
+constexpr Rule always = {
+    "rule-always",
+    Level::Warning,
+    "A rule has no condition, and always holds.",
+    "The control is shown or enabled whatever the user does. Name the conditions after the equals sign.",
+    "$DEPENDANCES\nUnit/ACTIVE =",
+    "$DEPENDANCES\nUnit/ACTIVE = Name(NOTNULL)"};
+
 bool IsStateRule(const ClytControlDep& rule)
 {
     return !rule.IsEventRule() && rule.stateWord.GetMeaning() != ClytState::DefButton;
@@ -194,6 +202,9 @@ void JudgeNever(const Judged& each)
     }
     if (!IsStateRule(each.rule))
         return;
+    if (conditions.empty())
+        each.Add(always, each.PlaceOfWord(), "no condition is named; the rule always holds",
+                 "name the conditions after the equals sign");
     for (size_t left = 0; left < conditions.size(); ++left)
     {
         for (size_t right = left + 1; right < conditions.size(); ++right)
@@ -242,7 +253,7 @@ void JudgeTwice(const Case& judged)
 Family DependencyRules()
 {
     return {{&unknownControl, &unknownState, &onDefault, &eventValues, &eventKind, &noSource, &defaultButton, &twice,
-             &hidden, &onItself, &never},
+             &hidden, &onItself, &never, &always},
             [](const Case& judged)
             {
                 const std::vector<const ClytControlDep*> rules = Records(judged.description.rules);

@@ -92,6 +92,14 @@ constexpr Rule empty = {"format-empty",
                         "$OUTPUT, parent\n    (\"\")",
                         "$OUTPUT, parent\n    Form(\"\") = (\"%s\", \"\")"};
 
+constexpr Rule word = {"format-word",
+                       Level::Warning,
+                       "A word stands before the brackets of a format, and is passed over.",
+                       "A rule is the conditions, an equals sign and the brackets. The values of a condition stand in "
+                       "brackets of their own.",
+                       "$OUTPUT, parent\n    Name = NULL (\"%s\", Unit)",
+                       "$OUTPUT, parent\n    Name(NULL) = (\"%s\", Unit)"};
+
 // Where a format stands in the line of its rule.
 ClytSpan PlaceOf(const Description& description, const ClytDialogOutput& rule)
 {
@@ -205,8 +213,8 @@ void JudgeEscapes(const Case& judged, const ClytDialogOutput& rule)
     }
 }
 
-// The tokens of a line show it: the reader keeps no such rule.
-void JudgeEmpty(const Case& judged)
+// The tokens of a line show it: the reader keeps no rule with an empty format, and no word before one.
+void JudgeTokens(const Case& judged)
 {
     for (const SourceLine* line : judged.description.text.LinesOf(Section::Output))
     {
@@ -215,6 +223,13 @@ void JudgeEmpty(const Case& judged)
         {
             const bool isOpen = tokens[index].text.empty() && tokens[index].delimiter == '(';
             const bool isRightSide = index == 0 || tokens[index - 1].delimiter == '=';
+            const bool isWord =
+                !tokens[index].text.empty() && tokens[index].delimiter == '(' && index > 0 && isRightSide;
+            if (isWord && !judged.description.IsRefused(line->number))
+                judged.findings.Add(word,
+                                    {line->number, tokens[index].column, static_cast<int>(tokens[index].text.size())},
+                                    InQuotes(tokens[index].text) + " before the format is passed over",
+                                    "put values in brackets after their control, before the equals sign");
             if (isOpen && isRightSide && tokens[index + 1].text.empty() && !judged.description.IsRefused(line->number))
                 judged.findings.Add(empty, judged.description.PlaceOf(line->number),
                                     "the format is empty, and the rule is not kept",
@@ -227,7 +242,7 @@ void JudgeEmpty(const Case& judged)
 
 Family FormatRules()
 {
-    return {{&loneS, &lonePoint, &openPercent, &noConversion, &tooFew, &tooMany, &surplus, &escape, &empty},
+    return {{&loneS, &lonePoint, &openPercent, &noConversion, &tooFew, &tooMany, &surplus, &escape, &empty, &word},
             [](const Case& judged)
             {
                 for (const OutputGroup& group : judged.description.outputs)
@@ -241,7 +256,7 @@ Family FormatRules()
                         JudgeEscapes(judged, *rule);
                     }
                 }
-                JudgeEmpty(judged);
+                JudgeTokens(judged);
             }};
 }
 

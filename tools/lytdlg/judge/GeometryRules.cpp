@@ -3,6 +3,7 @@
 #include "lytdlg/judge/Places.h"
 
 #include <algorithm>
+#include <limits>
 
 namespace lytdlg
 {
@@ -173,8 +174,11 @@ void JudgeOutside(const Case& judged, const std::vector<Screen>& screens)
         for (const PlacedControl& control : screen.controls)
         {
             // Numbers that no dialog has are told where they stand.
-            const bool isFair = control.control->x >= 0 && control.control->y >= 0;
-            if (isFair && (control.place.right > screen.client.cx || control.place.bottom > screen.client.cy))
+            constexpr int least = std::numeric_limits<int>::min();
+            const bool isFair = control.control->x > least && control.control->y > least;
+            const bool isWithin = control.place.left >= 0 && control.place.top >= 0 &&
+                                  control.place.right <= screen.client.cx && control.place.bottom <= screen.client.cy;
+            if (isFair && !isWithin)
                 seen.Add(screen, {control.control, nullptr});
         }
     }

@@ -115,7 +115,8 @@ void JudgeWords(const PlacedValue& statement)
     static const std::vector<std::string> checkWords = {"ON", "OFF"};
     static const std::vector<std::string> fieldWords = {"FILLEDBY"};
     static const std::vector<std::string> noWords;
-    const bool isWordless = statement.role == Role::Default || statement.role == Role::OptionValue;
+    const bool isOption = statement.role == Role::Option;
+    const bool isWordless = statement.role == Role::Default || statement.role == Role::OptionValue || isOption;
     const bool isItemWord =
         statement.role == Role::Item && (!MeantWord(value.keyword, listWords).empty() || value.values.size() > 1);
     if (value.keyword.empty() || (!isWordless && !isItemWord))
@@ -125,7 +126,9 @@ void JudgeWords(const PlacedValue& statement)
                                             : HasItems(statement.kind)       ? listWords
                                             : statement.kind == Kind::Field  ? fieldWords
                                                                              : noWords;
-    const std::string hint = isKnownElsewhere ? "delete the word" : MeantOr(value.keyword, known, "delete the word");
+    const std::string hint = isOption           ? "write an option in a statement of its own, and no other word in it"
+                             : isKnownElsewhere ? "delete the word"
+                                                : MeantOr(value.keyword, known, "delete the word");
     statement.judged.findings.Add(keyword, statement.PlaceOfKeyword(),
                                   InQuotes(value.keyword) + " means nothing to " + NameOf(statement.kind), hint);
 }
