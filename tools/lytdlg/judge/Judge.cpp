@@ -9,6 +9,7 @@
 #include "lytdlg/judge/FormatRules.h"
 #include "lytdlg/judge/GeometryRules.h"
 #include "lytdlg/judge/Ignores.h"
+#include "lytdlg/judge/LanguageFileRules.h"
 #include "lytdlg/judge/LayoutRules.h"
 #include "lytdlg/judge/LibraryVerdict.h"
 #include "lytdlg/judge/LineRules.h"
@@ -48,8 +49,8 @@ const std::vector<Family>& Families()
     static const std::vector<Family> families = {
         SectionRules(),   LineRules(),     MarkRules(),        StatementRules(), LayoutRules(),     ValueRules(),
         ContentRules(),   ActionRules(),   DependencyRules(),  ConditionRules(), EvaluationRules(), ScanRules(),
-        SeparatorRules(), FillRules(),     OutputGroupRules(), OutputRules(),    FormatRules(),     TextRules(),
-        MnemonicRules(),  GeometryRules(), PartnerRules(),     IgnoreRules(),    LibraryRules(),
+        SeparatorRules(), FillRules(),     OutputGroupRules(), OutputRules(),    FormatRules(),     LanguageFileRules(),
+        TextRules(),      MnemonicRules(), GeometryRules(),    PartnerRules(),   IgnoreRules(),     LibraryRules(),
     };
     return families;
 }

@@ -2,11 +2,11 @@
 
 #include "lytdlg/judge/CodePage.h"
 #include "lytdlg/judge/Controls.h"
+#include "lytdlg/judge/LanguageFindings.h"
 #include "lytdlg/judge/TextUses.h"
 #include "lytdlg/text/Words.h"
 
 #include <algorithm>
-#include <filesystem>
 
 namespace lytdlg
 {
@@ -21,13 +21,6 @@ constexpr Rule missing = {"text-missing",
                           "section that $LAYOUT names;\nthe message of a check is a key of the section MsgBox.",
                           "$LAYOUT Example\n    CheckBox 520, 12, 112, 12, \"Piktures\", .More",
                           "$LAYOUT Example\n    CheckBox 520, 12, 112, 12, \"Remove\", .More"};
-
-constexpr Rule section = {"text-section",
-                          Level::Warning,
-                          "The text section is not in the language file.",
-                          "$LAYOUT names the section of the language files in which the texts of the dialog are keys.",
-                          "$LAYOUT Exmaple",
-                          "$LAYOUT Example"};
 
 constexpr Rule tooLong = {"text-long",
                           Level::Warning,
@@ -67,16 +60,6 @@ constexpr Rule bytes = {
     "$LAYOUT Example\n    CheckBox 520, 12, 112, 12, \"Accent\", .More",
     "$LAYOUT Example\n    CheckBox 520, 12, 112, 12, \"Remove\", .More"};
 
-constexpr Rule markAtBegin = {
-    "text-byte-order-mark",
-    Level::Warning,
-    "A language file begins with a byte order mark.",
-    "The file was saved as UTF-8 with a mark at its beginning, which hides its first line: when that is a "
-    "section, all texts of\nthe section are missing. Save it in code page 1252, which editors call ANSI or "
-    "Windows-1252.",
-    "",
-    ""};
-
 constexpr Rule emptyText = {
     "text-empty",
     Level::Warning,
@@ -93,15 +76,6 @@ constexpr Rule hiddenKey = {"text-twice",
                             "$LAYOUT Example\n    CheckBox 520, 12, 112, 12, \"Copied\", .More",
                             "$LAYOUT Example\n    CheckBox 520, 12, 112, 12, \"Remove\", .More"};
 
-constexpr Rule unused = {
-    "text-unused",
-    Level::Note,
-    "No dialog of the folder uses the text.",
-    "The key is in the section of this dialog, and neither this dialog nor another one with that "
-    "section shows it;\nor it is a message of the section MsgBox that no check of $EVALUATION names.",
-    "$VALUES\n-    Form: Square = square form",
-    "$VALUES\n    Form: Hall = other form"};
-
 std::vector<std::string> KeyNames(const Case& judged, const std::string& language, const std::string& name)
 {
     std::vector<std::string> names;
@@ -110,57 +84,13 @@ std::vector<std::string> KeyNames(const Case& judged, const std::string& languag
     return names;
 }
 
-bool HasSection(const LanguageFile& file, const std::string& name)
-{
-    return std::ranges::any_of(file.Keys(), [&](const LanguageKey& key) { return IsSameName(key.section, name); });
-}
-
-// Sections.
-
-void JudgeSection(const Case& judged)
-{
-    const Description& description = judged.description;
-    const SourceLine* header = description.text.HeaderOf(Section::Layout);
-    const std::string name = description.TextSection();
-    if (header == nullptr || name.empty())
-        return;
-    for (const LanguageFile& file : judged.surroundings.texts.Files())
-    {
-        if (HasSection(file, name))
-            continue;
-        std::vector<std::string> known;
-        for (const LanguageKey& key : file.Keys())
-            known.push_back(key.section);
-        const bool isHiddenByMark =
-            file.HasByteOrderMark() && file.FirstLine().find("[" + name + "]") != std::string::npos;
-        judged.findings.Add(section, description.PlaceOf(header->number, name),
-                            file.Language() + ".nls has no section [" + name + "]",
-                            isHiddenByMark ? "a byte order mark hides it; " + std::string(saveAsAnsi)
-                                           : MeantOr(name, known, "add it, with all texts"));
-    }
-}
-
-std::string FileNameOf(const Description& description)
-{
-    return std::filesystem::path(description.path).filename().string();
-}
-
-// What concerns the whole folder is told for its first dialog.
-bool IsFirstOfFolder(const Case& judged)
-{
-    const std::vector<DescriptionTexts>& all = judged.surroundings.descriptions.All();
-    return all.empty() || all.front().fileName >= FileNameOf(judged.description);
-}
-
-// Each text in each language.
-
 void JudgeMissing(const Case& judged, const ShownText& use)
 {
     std::vector<std::string> lacking;
     std::string hint;
     for (const LanguageFile& file : judged.surroundings.texts.Files())
     {
-        const bool isSectionTold = use.section == judged.description.TextSection() && !HasSection(file, use.section);
+        const bool isSectionTold = use.section == judged.description.TextSection() && !file.HasSection(use.section);
         if (isSectionTold || file.Find(use.section, use.key) != nullptr)
             continue;
         lacking.push_back(file.Language() + ".nls");
@@ -173,30 +103,21 @@ void JudgeMissing(const Case& judged, const ShownText& use)
                             hint.empty() ? "add it there" : hint);
 }
 
-Finding& AddAt(const Case& judged, const Rule& rule, const LanguageFile& file, const LanguageKey& key,
-               const std::string& message, const std::string& hint)
-{
-    Finding& finding = judged.findings.Add(rule, key.place, message, hint);
-    finding.path = file.FileName();
-    finding.line = key.line;
-    return finding;
-}
-
 void JudgeText(const Case& judged, const ShownText& use, const LanguageFile& file, const LanguageKey& key)
 {
     const bool isCaption = use.role == TextRole::Caption;
     const bool isShownAsItIs = use.role == TextRole::Title || use.role == TextRole::Item;
     if (key.text.size() > longestLanguageText)
-        AddAt(judged, tooLong, file, key,
+        AddIn(judged, tooLong, file, key.place, key.line,
               "the text has " + std::to_string(key.text.size()) + " characters and is cut after 74: \"..." +
                   key.text.substr(longestLanguageText - 20, 20) + "\"",
               "shorten it");
     if (isCaption && key.text.find('\'') != std::string::npos)
-        AddAt(judged, apostrophe, file, key,
+        AddIn(judged, apostrophe, file, key.place, key.line,
               "the caption ends at the apostrophe: " + InQuotes(key.text.substr(0, key.text.find('\'') + 1)),
               "write it without an apostrophe");
     if (isShownAsItIs && key.text.find('&') != std::string::npos)
-        AddAt(judged, ampersand, file, key,
+        AddIn(judged, ampersand, file, key.place, key.line,
               std::string("a ") + (use.role == TextRole::Title ? "title" : "list item") + " shows the & as it is",
               "leave it out");
 }
@@ -211,21 +132,8 @@ void JudgeEmpty(const Case& judged, const ShownText& use, const LanguageFile& fi
     };
     const bool isMeant = use.role == TextRole::Item && std::ranges::all_of(judged.surroundings.texts.Files(), isEmpty);
     if (key.text.empty() && !isMeant)
-        AddAt(judged, emptyText, file, key, "the text is empty, and the dialog shows nothing",
+        AddIn(judged, emptyText, file, key.place, key.line, "the text is empty, and the dialog shows nothing",
               "write the text after the equals sign");
-}
-
-void JudgeByteOrderMark(const Case& judged)
-{
-    for (const LanguageFile& file : judged.surroundings.texts.Files())
-    {
-        if (!file.HasByteOrderMark() || !IsFirstOfFolder(judged))
-            continue;
-        Finding& finding = judged.findings.Add(
-            markAtBegin, {1, 0, 1}, "a byte order mark stands before the first line, and hides it", saveAsAnsi);
-        finding.path = file.FileName();
-        finding.line = file.FirstLine();
-    }
 }
 
 void JudgeBytes(const Case& judged, const LanguageFile& file, const LanguageKey& key)
@@ -235,7 +143,7 @@ void JudgeBytes(const Case& judged, const LanguageFile& file, const LanguageKey&
         const bool isUtf8 = SequenceLength(key.text, place) != 0;
         if (!isUtf8 && !StandsForNothing(key.text[place]))
             continue;
-        AddAt(judged, bytes, file, key,
+        AddIn(judged, bytes, file, key.place, key.line,
               isUtf8 ? "the text was saved as UTF-8, and shows odd characters"
                      : "the byte " + HexOf(key.text[place]) + " of the text stands for no character",
               saveAsAnsi);
@@ -248,7 +156,7 @@ void JudgeTwice(const Case& judged, const ShownText& use, const LanguageFile& fi
     for (const LanguageKey& key : file.Keys())
     {
         if (!key.isReached && IsSameName(key.section, use.section) && IsSameName(key.name, use.key))
-            AddAt(judged, hiddenKey, file, key,
+            AddIn(judged, hiddenKey, file, key.place, key.line,
                   "the text stands in line " + std::to_string(found.place.line) + " already, and that one counts",
                   "take one of them away");
     }
@@ -282,53 +190,10 @@ void JudgeMarks(const Case& judged, const ShownText& use)
             continue;
         const std::string mark = DifferentMark(use.role, model->text, key->text);
         if (!mark.empty())
-            AddAt(judged, marks, file, *key,
+            AddIn(judged, marks, file, key->place, key->line,
                   "the marks " + mark + " differ from those in " + first->Language() + ".nls, line " +
                       std::to_string(model->place.line),
                   "give both languages the same marks");
-    }
-}
-
-// Texts that nothing uses.
-
-// All texts that the dialogs of the folder show, this one as it is now.
-std::vector<ShownText> UsesInFolder(const Case& judged)
-{
-    const std::string own = FileNameOf(judged.description);
-    std::vector<ShownText> uses = TextsOf(own, judged.description.text.Bytes()).uses;
-    for (const DescriptionTexts& texts : judged.surroundings.descriptions.All())
-    {
-        if (texts.fileName != own)
-            uses.insert(uses.end(), texts.uses.begin(), texts.uses.end());
-    }
-    return uses;
-}
-
-// Told for the first dialog of the folder that has the section.
-void JudgeUnused(const Case& judged)
-{
-    const std::string name = judged.description.TextSection();
-    const std::string own = FileNameOf(judged.description);
-    const std::string first = judged.surroundings.descriptions.FirstOf(name);
-    const bool isFirstOfSection = !name.empty() && (first.empty() || first >= own);
-    const bool isFirst = IsFirstOfFolder(judged);
-    const bool areWhole = std::ranges::all_of(judged.surroundings.descriptions.All(), &DescriptionTexts::isWhole) &&
-                          judged.description.mistakes.empty();
-    if ((!isFirstOfSection && !isFirst) || !areWhole)
-        return;
-    const std::vector<ShownText> uses = UsesInFolder(judged);
-    for (const LanguageFile& file : judged.surroundings.texts.Files())
-    {
-        for (const LanguageKey& key : file.Keys())
-        {
-            const bool isOfSection = (isFirstOfSection && IsSameName(key.section, name)) ||
-                                     (isFirst && IsSameName(key.section, messageSection));
-            const auto isUse = [&](const ShownText& use)
-            { return IsSameName(use.section, key.section) && IsSameName(use.key, key.name); };
-            if (key.isReached && isOfSection && std::ranges::none_of(uses, isUse))
-                AddAt(judged, unused, file, key, "no dialog of the folder uses the text " + InQuotes(key.name),
-                      "delete it");
-        }
     }
 }
 
@@ -336,14 +201,9 @@ void JudgeUnused(const Case& judged)
 
 Family TextRules()
 {
-    return {{&missing, &section, &tooLong, &apostrophe, &ampersand, &marks, &bytes, &markAtBegin, &emptyText,
-             &hiddenKey, &unused},
+    return {{&missing, &tooLong, &apostrophe, &ampersand, &marks, &bytes, &emptyText, &hiddenKey},
             [](const Case& judged)
             {
-                if (judged.surroundings.texts.Files().empty())
-                    return;
-                JudgeByteOrderMark(judged);
-                JudgeSection(judged);
                 for (const ShownText& use : TextUsesOf(judged.description))
                 {
                     JudgeMissing(judged, use);
@@ -359,7 +219,6 @@ Family TextRules()
                         }
                     }
                 }
-                JudgeUnused(judged);
             }};
 }
 

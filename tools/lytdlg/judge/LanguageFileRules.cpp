@@ -1,0 +1,145 @@
+#include "lytdlg/judge/LanguageFileRules.h"
+
+#include "lytdlg/judge/CodePage.h"
+#include "lytdlg/judge/LanguageFindings.h"
+#include "lytdlg/judge/Names.h"
+#include "lytdlg/judge/TextUses.h"
+
+#include <algorithm>
+#include <filesystem>
+
+namespace lytdlg
+{
+
+namespace
+{
+
+constexpr Rule section = {"text-section",
+                          Level::Warning,
+                          "The text section is not in the language file.",
+                          "$LAYOUT names the section of the language files in which the texts of the dialog are keys.",
+                          "$LAYOUT Exmaple",
+                          "$LAYOUT Example"};
+
+constexpr Rule markAtBegin = {
+    "text-byte-order-mark",
+    Level::Warning,
+    "A language file begins with a byte order mark.",
+    "The file was saved as UTF-8 with a mark at its beginning, which hides its first line: when that is a "
+    "section, all texts of\nthe section are missing. Save it in code page 1252, which editors call ANSI or "
+    "Windows-1252.",
+    "",
+    ""};
+
+constexpr Rule unused = {
+    "text-unused",
+    Level::Note,
+    "No dialog of the folder uses the text.",
+    "The key is in the section of this dialog, and neither this dialog nor another one with that "
+    "section shows it;\nor it is a message of the section MsgBox that no check of $EVALUATION names.",
+    "$VALUES\n-    Form: Square = square form",
+    "$VALUES\n    Form: Hall = other form"};
+
+void JudgeSection(const Case& judged)
+{
+    const Description& description = judged.description;
+    const SourceLine* header = description.text.HeaderOf(Section::Layout);
+    const std::string name = description.TextSection();
+    if (header == nullptr || name.empty())
+        return;
+    for (const LanguageFile& file : judged.surroundings.texts.Files())
+    {
+        if (file.HasSection(name))
+            continue;
+        std::vector<std::string> known;
+        for (const LanguageKey& key : file.Keys())
+            known.push_back(key.section);
+        const bool isHiddenByMark =
+            file.HasByteOrderMark() && file.FirstLine().find("[" + name + "]") != std::string::npos;
+        judged.findings.Add(section, description.PlaceOf(header->number, name),
+                            file.Language() + ".nls has no section [" + name + "]",
+                            isHiddenByMark ? "a byte order mark hides it; " + std::string(saveAsAnsi)
+                                           : MeantOr(name, known, "add it, with all texts"));
+    }
+}
+
+std::string FileNameOf(const Description& description)
+{
+    return std::filesystem::path(description.path).filename().string();
+}
+
+// What concerns the whole folder is told for its first dialog.
+bool IsFirstOfFolder(const Case& judged)
+{
+    const std::vector<DescriptionTexts>& all = judged.surroundings.descriptions.All();
+    return all.empty() || all.front().fileName >= FileNameOf(judged.description);
+}
+
+void JudgeByteOrderMark(const Case& judged)
+{
+    for (const LanguageFile& file : judged.surroundings.texts.Files())
+    {
+        if (!file.HasByteOrderMark() || !IsFirstOfFolder(judged))
+            continue;
+        AddIn(judged, markAtBegin, file, {1, 0, 1}, file.FirstLine(),
+              "a byte order mark stands before the first line, and hides it", saveAsAnsi);
+    }
+}
+
+// All texts that the dialogs of the folder show, this one as it is now.
+std::vector<ShownText> UsesInFolder(const Case& judged)
+{
+    const std::string own = FileNameOf(judged.description);
+    std::vector<ShownText> uses = TextsOf(own, judged.description.text.Bytes()).uses;
+    for (const DescriptionTexts& texts : judged.surroundings.descriptions.All())
+    {
+        if (texts.fileName != own)
+            uses.insert(uses.end(), texts.uses.begin(), texts.uses.end());
+    }
+    return uses;
+}
+
+// Told for the first dialog of the folder that has the section.
+void JudgeUnused(const Case& judged)
+{
+    const std::string name = judged.description.TextSection();
+    const std::string own = FileNameOf(judged.description);
+    const std::string first = judged.surroundings.descriptions.FirstOf(name);
+    const bool isFirstOfSection = !name.empty() && (first.empty() || first >= own);
+    const bool isFirst = IsFirstOfFolder(judged);
+    const bool areWhole = std::ranges::all_of(judged.surroundings.descriptions.All(), &DescriptionTexts::isWhole) &&
+                          judged.description.mistakes.empty();
+    if ((!isFirstOfSection && !isFirst) || !areWhole)
+        return;
+    const std::vector<ShownText> uses = UsesInFolder(judged);
+    for (const LanguageFile& file : judged.surroundings.texts.Files())
+    {
+        for (const LanguageKey& key : file.Keys())
+        {
+            const bool isOfSection = (isFirstOfSection && IsSameName(key.section, name)) ||
+                                     (isFirst && IsSameName(key.section, messageSection));
+            const auto isUse = [&](const ShownText& use)
+            { return IsSameName(use.section, key.section) && IsSameName(use.key, key.name); };
+            if (key.isReached && isOfSection && std::ranges::none_of(uses, isUse))
+                AddIn(judged, unused, file, key.place, key.line,
+                      "no dialog of the folder uses the text " + InQuotes(key.name), "delete it");
+        }
+    }
+}
+
+} // namespace
+
+Family LanguageFileRules()
+{
+    return {{&section, &markAtBegin, &unused},
+            [](const Case& judged)
+            {
+                if (judged.surroundings.texts.Files().empty())
+                    return;
+                JudgeByteOrderMark(judged);
+                JudgeSection(judged);
+                JudgeUnused(judged);
+            }};
+}
+
+} // namespace lytdlg
