@@ -1,5 +1,6 @@
 // lytdlg: judges, tries, tests and draws dialog descriptions from a command line.
 #include "lytdlg/Commands.h"
+#include "lytdlg/text/Paths.h"
 
 #include <afxwin.h>
 
@@ -8,5 +9,5 @@ int main(int count, char** words)
     SetConsoleOutputCP(CP_UTF8);
     // The templates, icons and manifest of the library are those of this program.
     AfxGetStaticModuleState()->m_hCurrentResourceHandle = GetModuleHandleA(nullptr);
-    return lytdlg::Run({words + 1, words + count});
+    return lytdlg::Run(lytdlg::CommandLineWords(count, words));
 }

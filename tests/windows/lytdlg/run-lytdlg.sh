@@ -15,6 +15,10 @@ cd "$folder" || exit 2
 cp -r "$here/data/." .
 cp -r "$here/../../../samples" samples
 cp -r samples/dialogs/lang dialogs/lang
+# Letters of the library's code page, and one that it lacks.
+mkdir Größe
+cp samples/dialogs/lytInSym.dlg Größe/é.dlg
+cp samples/dialogs/lytInSym.dlg Größe/Д.dlg
 
 {
     "$runner" "$lytdlg" "$@" 2>&1

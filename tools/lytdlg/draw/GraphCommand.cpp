@@ -3,6 +3,7 @@
 #include "lytdlg/draw/Graphs.h"
 #include "lytdlg/draw/Output.h"
 #include "lytdlg/draw/RunProgram.h"
+#include "lytdlg/text/Paths.h"
 #include "lytdlg/text/TextFile.h"
 
 #include <cstdio>
@@ -58,7 +59,7 @@ ExitCode Graph(const Request& request)
         throw UsageError("there is no graph of \"" + kind + "\"; use one of: rules, scan, groups");
     if (!target.empty() && extension != ".dot" && extension != ".svg")
         throw UsageError("\"" + target + "\" is no kind of graph; the name ends in .dot or .svg");
-    const std::optional<std::string> bytes = ReadWholeFile(std::filesystem::path(file));
+    const std::optional<std::string> bytes = ReadWholeFile(PathOf(file));
     if (!bytes)
         throw UsageError("there is no dialog \"" + file + "\"; name a .dlg file with its folder");
     const Description description(file, *bytes, request.Texts("--define"));

@@ -4,6 +4,7 @@
 #include "commandline/Text.h"
 #include "dialog/ClytDialog.h"
 #include "lytdlg/draw/GraphTexts.h"
+#include "lytdlg/text/Paths.h"
 #include "model/ClytWords.h"
 
 #include <algorithm>
@@ -76,7 +77,7 @@ private:
         const std::string button = NodeOf(statement.name);
         const std::string file = ValueOf(statement, 0) + ".dlg";
         const std::string dialog = "file " + ToUtf8(file);
-        const bool isThere = std::filesystem::exists(std::filesystem::path(m_folder) / file);
+        const bool isThere = std::filesystem::exists(PathOf(m_folder) / PathOf(ToUtf8(file)));
         m_dot.Node(dialog, ToUtf8(file) + (isThere ? "" : "\nno such file"), Looks({{"shape", "folder"}}, isThere));
         m_dot.Edge(button, dialog, "DIALOG\n" + LineText(statement.span), Looks({}, isThere));
         AddGroup(statement, statement.values.empty() ? "" : statement.values.back());

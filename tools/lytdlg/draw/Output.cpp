@@ -1,9 +1,11 @@
 #include "lytdlg/draw/Output.h"
 
-#include "commandline/OwnedFile.h"
+#include "lytdlg/text/Paths.h"
+#include "lytdlg/text/TextFile.h"
 
 #include <algorithm>
 #include <cctype>
+#include <cstdio>
 #include <filesystem>
 #include <stdexcept>
 
@@ -12,7 +14,7 @@ namespace lytdlg
 
 std::string ExtensionOf(const std::string& file)
 {
-    std::string extension = std::filesystem::path(file).extension().string();
+    std::string extension = PathOf(file).extension().string();
     std::ranges::transform(extension, extension.begin(),
                            [](unsigned char ch) { return static_cast<char>(std::tolower(ch)); });
     return extension;
@@ -25,9 +27,7 @@ void WriteOut(const std::string& file, const std::string& bytes)
         std::fwrite(bytes.data(), 1, bytes.size(), stdout);
         return;
     }
-    const commandline::OwnedFile target(std::fopen(file.c_str(), "wb"));
-    if (target == nullptr || std::fwrite(bytes.data(), 1, bytes.size(), target.get()) != bytes.size() ||
-        std::fflush(target.get()) != 0)
+    if (!WriteBytesTo(PathOf(file), bytes))
         throw std::runtime_error("\"" + file + "\" cannot be written; make its folder first, or choose another");
 }
 

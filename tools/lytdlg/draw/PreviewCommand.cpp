@@ -6,6 +6,7 @@
 #include "lytdlg/draw/Png.h"
 #include "lytdlg/draw/Screen.h"
 #include "lytdlg/text/LanguageFiles.h"
+#include "lytdlg/text/Paths.h"
 #include "lytdlg/text/TextFile.h"
 #include "lytdlg/try/TrialRun.h"
 
@@ -96,7 +97,7 @@ ExitCode PreviewDialog(const Request& request)
     if (!target.empty() && extension != ".svg" && extension != ".png" && extension != ".html")
         throw UsageError("\"" + target + "\" is no kind of picture; the name ends in .svg, .png or .html");
     const Resolution resolution(request.Number("--dpi", PixelsPerInch()));
-    const std::string title = fs::path(dialog).filename().string();
+    const std::string title = PathOf(dialog).filename().string();
     return Tell(dialog, Open(SetupOf(request), [&](const TrialDialog& open)
                              { WriteDrawing(target, title, See(open), open.m_hWnd, StyleOf(request)); }));
 }
@@ -105,9 +106,9 @@ class Sheet
 {
 public:
     explicit Sheet(const Request& request)
-        : m_request(request), m_folder(request.Text("--sheet", "")), m_languages(LanguagesIn(m_folder))
+        : m_request(request), m_folder(request.Text("--sheet", "")), m_languages(LanguagesIn(PathOf(m_folder)))
     {
-        if (!fs::is_directory(m_folder))
+        if (!fs::is_directory(PathOf(m_folder)))
             throw std::runtime_error("there is no folder \"" + m_folder + "\"");
         if (request.Has("--language"))
             m_languages = {request.Text("--language", "")};
@@ -119,7 +120,7 @@ public:
     {
         const std::vector<int> resolutions =
             m_request.Has("--dpi") ? std::vector<int>{m_request.Number("--dpi", 0)} : Resolutions();
-        for (const fs::path& file : FilesIn(m_folder, ".dlg"))
+        for (const fs::path& file : FilesIn(PathOf(m_folder), ".dlg"))
         {
             for (const std::string& language : m_languages)
             {
@@ -128,7 +129,7 @@ public:
             }
         }
         WriteOut(m_request.Text("-o", ""),
-                 SheetPage("Dialogs of " + fs::path(m_folder).filename().string(), m_entries, StyleOf(m_request)));
+                 SheetPage("Dialogs of " + PathOf(m_folder).filename().string(), m_entries, StyleOf(m_request)));
         return m_code;
     }
 
@@ -140,7 +141,7 @@ private:
         setup.dialog = file;
         setup.language = language;
         SheetEntry& entry =
-            m_entries.emplace_back(SheetEntry{fs::path(file).filename().string(), language, pixelsPerInch, {}, ""});
+            m_entries.emplace_back(SheetEntry{PathOf(file).filename().string(), language, pixelsPerInch, {}, ""});
         const Opening opening = Open(setup, [&](const TrialDialog& open) { entry.seen = See(open); });
         entry.message = opening.refusal;
         m_code = std::max(m_code, Tell(file + " in " + language, opening));

@@ -1,6 +1,7 @@
 #include "lytdlg/judge/Baseline.h"
 
 #include "commandline/CommandLine.h"
+#include "lytdlg/text/Paths.h"
 
 #include <algorithm>
 #include <fstream>
@@ -27,7 +28,7 @@ std::string KeyOf(const Finding& finding, const Description& description)
 
 Baseline::Baseline(const std::string& path)
 {
-    std::ifstream file(path, std::ios::binary);
+    std::ifstream file(PathOf(path), std::ios::binary);
     std::string line;
     if (!std::getline(file, line) || line != title)
         throw commandline::UsageError("\"" + path +
@@ -54,7 +55,7 @@ void Baseline::Add(const Description& description, const Findings& findings)
 
 void Baseline::Write(const std::string& path) const
 {
-    std::ofstream file(path, std::ios::binary);
+    std::ofstream file(PathOf(path), std::ios::binary);
     file << title << '\n';
     for (const auto& [line, count] : m_known)
     {

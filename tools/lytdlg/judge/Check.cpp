@@ -6,6 +6,7 @@
 #include "lytdlg/judge/RuleTexts.h"
 #include "lytdlg/text/BinaryStream.h"
 #include "lytdlg/text/DescriptionPaths.h"
+#include "lytdlg/text/Paths.h"
 #include "lytdlg/text/TextFile.h"
 
 #include <cstdint>
@@ -22,7 +23,7 @@ std::string BytesOf(const std::string& path)
 {
     if (path == standardInput)
         return ReadStandardInput();
-    std::optional<std::string> bytes = ReadWholeFile(path);
+    std::optional<std::string> bytes = ReadWholeFile(PathOf(path));
     if (!bytes)
         throw commandline::UsageError("\"" + path + "\" cannot be read; check its name and rights");
     return std::move(*bytes);
@@ -30,9 +31,9 @@ std::string BytesOf(const std::string& path)
 
 std::string FolderOf(const std::string& operand)
 {
-    if (operand == standardInput || std::filesystem::is_directory(operand))
+    if (operand == standardInput || std::filesystem::is_directory(PathOf(operand)))
         return operand == standardInput ? "" : operand;
-    const std::string folder = std::filesystem::path(operand).parent_path().string();
+    const std::string folder = PathOf(operand).parent_path().string();
     return folder.empty() ? "." : folder;
 }
 

@@ -1,6 +1,7 @@
 #include "lytdlg/judge/FolderTexts.h"
 
 #include "commandline/Text.h"
+#include "lytdlg/text/Paths.h"
 #include "lytdlg/text/TextFile.h"
 
 #include <algorithm>
@@ -58,7 +59,7 @@ DescriptionTexts TextsOf(std::string fileName, const std::string& bytes)
 const std::vector<std::filesystem::path>& FolderTexts::Files() const
 {
     if (!m_files)
-        m_files = m_folder.empty() ? std::vector<std::filesystem::path>() : FilesIn(m_folder, ".dlg");
+        m_files = m_folder.empty() ? std::vector<std::filesystem::path>() : FilesIn(PathOf(m_folder), ".dlg");
     return *m_files;
 }
 

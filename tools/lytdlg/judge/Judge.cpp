@@ -24,13 +24,14 @@
 #include "lytdlg/judge/StatementRules.h"
 #include "lytdlg/judge/TextRules.h"
 #include "lytdlg/judge/ValueRules.h"
+#include "lytdlg/text/Paths.h"
 
 namespace lytdlg
 {
 
 Surroundings SurroundingsOf(const std::string& folder, const std::vector<std::string>& partners)
 {
-    return {folder, partners, LanguageFiles(folder), FolderTexts(folder)};
+    return {folder, partners, LanguageFiles(PathOf(folder)), FolderTexts(folder)};
 }
 
 const std::string& PathOf(const Finding& finding, const Description& description)

@@ -4,9 +4,9 @@
 #include "lytdlg/judge/LanguageFindings.h"
 #include "lytdlg/judge/Names.h"
 #include "lytdlg/judge/TextUses.h"
+#include "lytdlg/text/Paths.h"
 
 #include <algorithm>
-#include <filesystem>
 
 namespace lytdlg
 {
@@ -65,7 +65,7 @@ void JudgeSection(const Case& judged)
 
 std::string FileNameOf(const Description& description)
 {
-    return std::filesystem::path(description.path).filename().string();
+    return PathOf(description.path).filename().string();
 }
 
 // What concerns the whole folder is told for its first dialog.

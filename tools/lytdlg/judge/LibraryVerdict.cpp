@@ -4,6 +4,7 @@
 #include "environment/ClytEnvironment.h"
 #include "environment/ProcessState.h"
 #include "liveform/LiveForm.h"
+#include "lytdlg/text/Paths.h"
 #include "lytdlg/text/TextFile.h"
 #include "lytdlg/text/Words.h"
 #include "robot/WindowRobot.h"
@@ -114,10 +115,10 @@ bool StandsFor(const Finding& finding, const Refusal& refusal)
 std::optional<Refusal> RefusalOf(const Description& description)
 {
     const TemporaryFile file(description.text.Bytes());
-    const WithoutTexts noTexts((file.Name().parent_path() / "none").string());
+    const WithoutTexts noTexts(NameForLibrary(file.Name().parent_path() / "none"));
     const BoxAnswerer answerer;
     lytInputKey.Empty();
-    LiveForm form(file.Name().string().c_str(), Joined(description.text.Defines(), ",").c_str());
+    LiveForm form(NameForLibrary(file.Name()).c_str(), Joined(description.text.Defines(), ",").c_str());
     try
     {
         form.Construct();

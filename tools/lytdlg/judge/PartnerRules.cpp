@@ -2,10 +2,10 @@
 
 #include "lytdlg/judge/Controls.h"
 #include "lytdlg/judge/ExportTable.h"
+#include "lytdlg/text/Paths.h"
 #include "lytdlg/text/TextFile.h"
 
 #include <algorithm>
-#include <filesystem>
 #include <map>
 #include <sstream>
 
@@ -128,8 +128,7 @@ public:
             return &known->second;
         for (const std::string& folder : m_folders)
         {
-            for (const std::filesystem::path& file :
-                 FilesIn(folder, std::filesystem::path(fileName).extension().string()))
+            for (const std::filesystem::path& file : FilesIn(PathOf(folder), fileName.substr(fileName.rfind('.'))))
             {
                 if (IsSameName(file.filename().string(), fileName))
                     return &(m_tables[fileName] = ReadExports(ReadWholeFile(file).value_or("")));

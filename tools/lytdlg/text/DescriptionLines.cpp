@@ -3,6 +3,7 @@
 #include "base/Words.h"
 #include "dlgfile/ClytDialogFile.h"
 #include "environment/ClytException.h"
+#include "lytdlg/text/Paths.h"
 #include "model/ClytControlDep.h"
 #include "model/ClytDialogOutput.h"
 #include "model/ClytInputPart.h"
@@ -202,9 +203,8 @@ void ReadUnder(const std::string& choice, const std::filesystem::path& fileName,
 
 void OpenDescription(CStdioFile& file, const std::filesystem::path& fileName)
 {
-    const std::string name = fileName.string();
-    if (file.Open(name.c_str(), CFile::modeRead) == 0)
-        throw std::runtime_error("the library cannot open " + name + "; check its name and its rights");
+    if (file.Open(NameForLibrary(fileName).c_str(), CFile::modeRead) == 0)
+        throw std::runtime_error("the library cannot open " + fileName.string() + "; check its name and its rights");
 }
 
 std::vector<std::string> DefinesOf(const std::vector<DescriptionLine>& lines)

@@ -4,6 +4,7 @@
 #include "lytdlg/text/DescriptionPaths.h"
 #include "lytdlg/text/Format.h"
 #include "lytdlg/text/LineDiff.h"
+#include "lytdlg/text/Paths.h"
 #include "lytdlg/text/TextFile.h"
 
 #include <algorithm>
@@ -64,10 +65,10 @@ ExitCode FormatInput(Task task)
 
 ExitCode FormatFile(const std::string& name, Task task)
 {
-    const std::optional<std::string> content = ReadWholeFile(name);
+    const std::optional<std::string> content = ReadWholeFile(PathOf(name));
     if (!content)
         throw std::runtime_error("cannot read " + name + "; check its rights");
-    const std::optional<std::string> form = FormOf(name, name, *content);
+    const std::optional<std::string> form = FormOf(name, PathOf(name), *content);
     if (!form)
         return found;
     if (*form == *content)
@@ -78,7 +79,7 @@ ExitCode FormatFile(const std::string& name, Task task)
         std::printf("%s\n", name.c_str());
     if (task != Task::Write)
         return found;
-    ReplaceWholeFile(name, *form);
+    ReplaceWholeFile(PathOf(name), *form);
     std::printf("%s: formatted\n", name.c_str());
     return good;
 }

@@ -1,6 +1,7 @@
 #include "lytdlg/text/LanguageFiles.h"
 
 #include "environment/ClytEnvironment.h"
+#include "lytdlg/text/Paths.h"
 #include "lytdlg/text/TextFile.h"
 
 #include <algorithm>
@@ -134,7 +135,7 @@ std::vector<LanguageKey> ReadLanguageKeys(std::string_view content)
 LanguageFile::LanguageFile(std::string language, std::string fileName)
     : m_language(std::move(language)), m_fileName(std::move(fileName))
 {
-    const std::string content = ReadWholeFile(m_fileName).value_or("");
+    const std::string content = ReadWholeFile(PathOf(m_fileName)).value_or("");
     m_firstLine = content.substr(0, content.find_first_of("\r\n"));
     KeyReader reader(content);
     reader.Read();

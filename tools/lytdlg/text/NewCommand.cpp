@@ -1,6 +1,7 @@
 #include "lytdlg/text/NewCommand.h"
 
 #include "lytdlg/text/NewDialog.h"
+#include "lytdlg/text/Paths.h"
 
 #include <cstdio>
 
@@ -18,9 +19,9 @@ ExitCode New(const Request& request)
         throw commandline::UsageError("\"" + name + "\" is no name for a dialog; " + fault);
     const std::string folder = request.Text("-o", ".");
     std::error_code ignored;
-    if (!std::filesystem::is_directory(folder, ignored))
+    if (!std::filesystem::is_directory(PathOf(folder), ignored))
         throw commandline::UsageError("there is no folder " + folder + "; name the folder of the dialogs");
-    for (const MadeFile& file : MakeDialog(folder, name))
+    for (const MadeFile& file : MakeDialog(PathOf(folder), name))
         std::printf("%s: %s\n", file.name.string().c_str(), file.isNew ? "made" : "texts added");
     return good;
 }

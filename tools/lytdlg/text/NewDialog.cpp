@@ -3,6 +3,7 @@
 #include "commandline/CommandLine.h"
 #include "lytdlg/text/LanguageFiles.h"
 #include "lytdlg/text/NewDialogTexts.h"
+#include "lytdlg/text/Paths.h"
 #include "lytdlg/text/TextFile.h"
 
 #include <algorithm>
@@ -131,8 +132,8 @@ std::vector<Change> TextChanges(const fs::path& folder, const std::string& name)
         if (file.HasSection(name))
             throw commandline::UsageError(file.FileName() + " holds a section [" + name +
                                           "] already, which stays as it is; choose another name");
-        const std::string before = ReadWholeFile(file.FileName()).value_or("");
-        changes.push_back({file.FileName(), WithTexts(before, file.Language(), name), before});
+        const std::string before = ReadWholeFile(PathOf(file.FileName())).value_or("");
+        changes.push_back({PathOf(file.FileName()), WithTexts(before, file.Language(), name), before});
     }
     if (!changes.empty())
         return changes;

@@ -1,5 +1,7 @@
 #include "lytdlg/text/TextFile.h"
 
+#include "lytdlg/text/Paths.h"
+
 #include <afx.h>
 #include <windows.h>
 
@@ -22,19 +24,11 @@ fs::path FreeName(const fs::path& folder, const std::string& stem)
     for (int number = 1;; ++number)
     {
         fs::path name =
-            folder / (stem + "." + std::to_string(GetCurrentProcessId()) + "." + std::to_string(number) + ".tmp");
+            folder / PathOf(stem + "." + std::to_string(GetCurrentProcessId()) + "." + std::to_string(number) + ".tmp");
         std::error_code ignored;
         if (!fs::exists(fs::symlink_status(name, ignored)))
             return name;
     }
-}
-
-bool Write(const fs::path& name, const std::string& content)
-{
-    std::ofstream file(name, std::ios::binary);
-    file << content;
-    file.close();
-    return !file.fail();
 }
 
 bool IsWriteProtected(const fs::path& name)
@@ -55,6 +49,14 @@ std::optional<std::string> ReadWholeFile(const fs::path& name)
     return file.bad() ? std::nullopt : std::optional(std::move(content));
 }
 
+bool WriteBytesTo(const fs::path& name, const std::string& content)
+{
+    std::ofstream file(name, std::ios::binary);
+    file << content;
+    file.close();
+    return !file.fail();
+}
+
 void ReplaceWholeFile(const fs::path& name, const std::string& content)
 {
     std::error_code failure;
@@ -62,7 +64,7 @@ void ReplaceWholeFile(const fs::path& name, const std::string& content)
     if (failure || IsWriteProtected(target))
         throw std::runtime_error(name.string() + " is write-protected; it stays as it was");
     const fs::path draft = FreeName(target.parent_path(), target.filename().string());
-    if (Write(draft, content))
+    if (WriteBytesTo(draft, content))
     {
         fs::permissions(draft, fs::status(target).permissions(), failure);
         fs::rename(draft, target, failure);
@@ -78,7 +80,7 @@ void WriteNewFile(const fs::path& name, const std::string& content)
     std::error_code failure;
     fs::create_directories(name.parent_path(), failure);
     const bool isThere = fs::exists(fs::symlink_status(name, failure));
-    if (!isThere && Write(name, content))
+    if (!isThere && WriteBytesTo(name, content))
         return;
     if (!isThere)
         fs::remove(name, failure);
@@ -102,7 +104,7 @@ std::vector<fs::path> FilesIn(const fs::path& folder, const std::string& extensi
 
 TemporaryFile::TemporaryFile(const std::string& content) : m_name(FreeName(fs::temp_directory_path(), "lytdlg"))
 {
-    if (!Write(m_name, content))
+    if (!WriteBytesTo(m_name, content))
         throw std::runtime_error("cannot write " + m_name.string() + "; check the folder for temporary files");
 }
 

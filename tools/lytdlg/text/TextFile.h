@@ -12,6 +12,9 @@ namespace lytdlg
 // Nothing for a file that cannot be read.
 std::optional<std::string> ReadWholeFile(const std::filesystem::path& name);
 
+// Writes a file, over the one that is there, which may be a device. False when that fails.
+bool WriteBytesTo(const std::filesystem::path& name, const std::string& content);
+
 // Puts the content in a file's place in one step, so that at no time the file is half written. The file keeps its rights,
 // and a link leads where it led. Throws std::runtime_error, with the file as it was, when it cannot be written.
 void ReplaceWholeFile(const std::filesystem::path& name, const std::string& content);

@@ -3,6 +3,7 @@
 #include "commandline/Suggestion.h"
 #include "commandline/Text.h"
 #include "lytdlg/text/Json.h"
+#include "lytdlg/text/Paths.h"
 #include "lytdlg/text/TextTable.h"
 
 #include <algorithm>
@@ -130,9 +131,9 @@ ExitCode Texts(const Request& request)
                                       commandline::Suggestion(format, formats));
     const std::string folder = request.Operand(0, "");
     std::error_code ignored;
-    if (!std::filesystem::is_directory(folder, ignored))
+    if (!std::filesystem::is_directory(PathOf(folder), ignored))
         throw commandline::UsageError("there is no folder " + folder + "; name the folder of the dialogs");
-    const TextTable texts(folder);
+    const TextTable texts(PathOf(folder));
     format == "json" ? PrintTexts(texts) : PrintText(texts);
     return texts.CountMissing() != 0 ? found : good;
 }

@@ -2,6 +2,7 @@
 
 #include "commandline/Suggestion.h"
 #include "commandline/Text.h"
+#include "lytdlg/text/Paths.h"
 
 #include <algorithm>
 #include <array>
@@ -31,7 +32,7 @@ class CaseReader
 {
 public:
     explicit CaseReader(const std::string& fileName)
-        : m_file(fileName), m_common{fs::path(fileName).filename().string(), fileName, 1, {}, {}}
+        : m_file(fileName), m_common{PathOf(fileName).filename().string(), fileName, 1, {}, {}}
     {
     }
 
@@ -76,9 +77,9 @@ private:
     std::vector<CaseStep>& Steps() { return Current().steps; }
 
     // A path as the case file sees it.
-    std::string PathOf(const std::string& text) const
+    std::string Resolved(const std::string& text) const
     {
-        return (fs::path(m_file).parent_path() / fs::path(text)).lexically_normal().string();
+        return (PathOf(m_file).parent_path() / PathOf(text)).lexically_normal().string();
     }
 
     void ReadHeader(const std::string& word, LineReader& line)
@@ -89,7 +90,7 @@ private:
         {
             const std::string control = AnsiOf(line.Word("the name of a list"));
             line.Expect('=', "write: items LIST = FILE");
-            setup.items.push_back({control, PathOf(line.Text())});
+            setup.items.push_back({control, Resolved(line.Text())});
             return;
         }
         if (!Has(headerWords, word))
@@ -97,7 +98,7 @@ private:
         line.Expect(':', "write: " + word + ": text");
         const std::string text = line.Text();
         if (word == "dialog")
-            setup.dialog = PathOf(text);
+            setup.dialog = Resolved(text);
         else if (word == "input")
             setup.input = AnsiOf(text);
         else if (word == "define")
@@ -105,7 +106,7 @@ private:
         else if (word == "language")
             setup.language = AnsiOf(text);
         else
-            setup.initFolder = PathOf(text);
+            setup.initFolder = Resolved(text);
     }
 
     [[noreturn]] static void FailUnknown(const std::string& word, size_t column, const LineReader& line)

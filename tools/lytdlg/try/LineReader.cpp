@@ -2,6 +2,7 @@
 
 #include "commandline/Text.h"
 #include "lytdlg/text/LanguageFiles.h"
+#include "lytdlg/text/Paths.h"
 #include "lytdlg/text/TextFile.h"
 
 #include <algorithm>
@@ -50,7 +51,7 @@ FileError::FileError(const LinePlace& place, size_t column, const std::string& m
 
 std::string ReadUtf8File(const std::string& name)
 {
-    const std::optional<std::string> content = ReadWholeFile(name);
+    const std::optional<std::string> content = ReadWholeFile(PathOf(name));
     if (!content)
         throw commandline::UsageError("there is no file \"" + name + "\"; check folder and name");
     std::string text = *content;

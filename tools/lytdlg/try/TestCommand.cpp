@@ -1,5 +1,6 @@
 #include "lytdlg/try/TestCommand.h"
 
+#include "lytdlg/text/Paths.h"
 #include "lytdlg/text/TextFile.h"
 #include "lytdlg/try/CaseRun.h"
 
@@ -18,13 +19,13 @@ namespace
 // The case files that an operand stands for, in the order of their names.
 std::vector<std::string> FilesOf(const std::string& operand)
 {
-    if (!fs::exists(operand))
+    if (!fs::exists(PathOf(operand)))
         throw commandline::UsageError("there is no file or folder \"" + operand +
                                       "\"; name case files or their folder");
-    if (!fs::is_directory(operand))
-        return {fs::path(operand).generic_string()};
+    if (!fs::is_directory(PathOf(operand)))
+        return {PathOf(operand).generic_string()};
     std::vector<std::string> files;
-    for (const auto& entry : fs::recursive_directory_iterator(operand))
+    for (const auto& entry : fs::recursive_directory_iterator(PathOf(operand)))
     {
         if (entry.path().extension() == ".case")
             files.push_back(entry.path().generic_string());
@@ -65,7 +66,7 @@ void Update(const std::string& file, const std::string& content, const CaseUpdat
     std::string text;
     for (const std::string& line : Updated(LinesOf(content), update))
         text += line + lineEnd;
-    ReplaceWholeFile(file, text);
+    ReplaceWholeFile(PathOf(file), text);
     std::printf("%s: brought up to date\n", file.c_str());
 }
 

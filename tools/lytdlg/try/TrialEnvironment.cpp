@@ -1,9 +1,11 @@
 #include "lytdlg/try/TrialEnvironment.h"
 
 #include "commandline/Suggestion.h"
+#include "commandline/Text.h"
 #include "environment/ClytEnvironment.h"
 #include "environment/ProcessState.h"
 #include "lytdlg/text/LanguageFiles.h"
+#include "lytdlg/text/Paths.h"
 #include "lytdlg/try/LineReader.h"
 #include "tree/ClytNode.h"
 
@@ -77,25 +79,25 @@ Setup SetupOf(const commandline::Request& request)
 TrialEnvironment::TrialEnvironment(const Setup& setup)
 {
     // In full: a configuration file without a folder is looked for in that of the system.
-    const fs::path file = fs::absolute(setup.dialog).lexically_normal();
+    const fs::path file = fs::absolute(PathOf(setup.dialog)).lexically_normal();
     if (!fs::is_regular_file(file))
         throw UsageError("there is no dialog \"" + setup.dialog + "\"; name a .dlg file with its folder");
     const fs::path dialogs = file.parent_path();
-    m_descriptionFile = dialogs.string() + "\\" + file.filename().string();
-    std::string init =
-        setup.initFolder.empty() ? InitFolderNear(dialogs) : fs::absolute(setup.initFolder).lexically_normal().string();
-    if (!setup.initFolder.empty() && !fs::exists(fs::path(init) / iniFile))
+    m_descriptionFile = NameForLibrary(dialogs) + "\\" + NameForLibrary(file.filename());
+    std::string init = setup.initFolder.empty() ? InitFolderNear(dialogs)
+                                                : fs::absolute(PathOf(setup.initFolder)).lexically_normal().string();
+    if (!setup.initFolder.empty() && !fs::exists(PathOf(init) / iniFile))
         throw UsageError("there is no lyt.ini in \"" + setup.initFolder + "\"; check the folder after --init");
-    if (!setup.language.empty() && !fs::exists(dialogs / "lang" / (setup.language + ".nls")))
-        throw UsageError("there is no lang/" + setup.language + ".nls beside the dialog; " +
-                         commandline::Suggestion(setup.language, LanguagesIn(dialogs)));
+    if (!setup.language.empty() && !fs::exists(dialogs / "lang" / PathOf(commandline::ToUtf8(setup.language) + ".nls")))
+        throw UsageError("there is no lang/" + commandline::ToUtf8(setup.language) + ".nls beside the dialog; " +
+                         commandline::Suggestion(commandline::ToUtf8(setup.language), LanguagesIn(dialogs)));
     if (init.empty() || !setup.language.empty())
     {
         MakeIniFile(init, setup.language.empty() ? LanguageOf(dialogs) : setup.language);
         init = m_ownFolder;
     }
-    lytEnvironment.SetDialogPath(dialogs.string().c_str());
-    lytEnvironment.SetInitPath(init.c_str());
+    lytEnvironment.SetDialogPath(NameForLibrary(dialogs).c_str());
+    lytEnvironment.SetInitPath(NameForLibrary(PathOf(init)).c_str());
     lytEnvironment.ClearDialogDefine();
     for (const std::string& define : setup.defines)
         lytEnvironment.AddDialogDefine(define.c_str());
@@ -110,19 +112,19 @@ TrialEnvironment::~TrialEnvironment()
     lytDeleteNodes();
     std::error_code ignored;
     if (!m_ownFolder.empty())
-        fs::remove_all(m_ownFolder, ignored);
+        fs::remove_all(PathOf(m_ownFolder), ignored);
 }
 
 void TrialEnvironment::MakeIniFile(const std::string& source, const std::string& language)
 {
     m_ownFolder = (fs::temp_directory_path() / ("lytdlg-" + std::to_string(GetCurrentProcessId()))).string();
-    fs::create_directories(m_ownFolder);
-    const std::string copy = m_ownFolder + "\\" + iniFile;
+    fs::create_directories(PathOf(m_ownFolder));
+    const std::string copy = NameForLibrary(PathOf(m_ownFolder)) + "\\" + iniFile;
     std::error_code ignored;
     if (!source.empty())
-        fs::copy_file(fs::path(source) / iniFile, fs::path(m_ownFolder) / iniFile, ignored);
+        fs::copy_file(PathOf(source) / iniFile, PathOf(m_ownFolder) / iniFile, ignored);
     if (!WritePrivateProfileStringA("global", "Current Language", language.c_str(), copy.c_str()))
-        throw std::runtime_error(copy + " cannot be written; make the temporary folder writable");
+        throw std::runtime_error(m_ownFolder + " cannot be written; make the temporary folder writable");
 }
 
 } // namespace lytdlg

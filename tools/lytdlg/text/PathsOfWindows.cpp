@@ -1,0 +1,60 @@
+#include "commandline/CommandLine.h"
+#include "lytdlg/text/Paths.h"
+
+#include <windows.h>
+
+#include <shellapi.h>
+
+#include <memory>
+
+namespace lytdlg
+{
+
+namespace
+{
+
+struct FreeLocal
+{
+    void operator()(HLOCAL memory) const { LocalFree(memory); }
+};
+
+// The text in a code page; empty when the page lacks one of its letters.
+std::string TextIn(UINT codePage, const std::wstring& wide)
+{
+    const int length = static_cast<int>(wide.size());
+    // In UTF-8 nothing can be lacking, and must not be asked for.
+    const bool isUtf8 = codePage == CP_UTF8;
+    const DWORD flags = isUtf8 ? 0 : WC_NO_BEST_FIT_CHARS;
+    BOOL isLacking = FALSE;
+    BOOL* lacking = isUtf8 ? nullptr : &isLacking;
+    const int size = WideCharToMultiByte(codePage, flags, wide.data(), length, nullptr, 0, nullptr, lacking);
+    std::string text(static_cast<size_t>(size), '\0');
+    WideCharToMultiByte(codePage, flags, wide.data(), length, text.data(), size, nullptr, lacking);
+    return isLacking != FALSE ? "" : text;
+}
+
+} // namespace
+
+// What `main` is given has lost the letters that are not in the code page.
+std::vector<std::string> CommandLineWords(int /*count*/, char** /*words*/)
+{
+    int count = 0;
+    const std::unique_ptr<LPWSTR, FreeLocal> words(CommandLineToArgvW(GetCommandLineW(), &count));
+    std::vector<std::string> texts;
+    for (int index = 1; index < count; ++index)
+        texts.push_back(TextIn(CP_UTF8, words.get()[index]));
+    return texts;
+}
+
+std::string NameForLibrary(const std::filesystem::path& path)
+{
+    std::string name = TextIn(GetACP(), path.wstring());
+    if (name.empty() && !path.empty())
+        throw commandline::UsageError(
+            "the library cannot open \"" + path.string() +
+            "\": its code page lacks a letter of the name; rename the file or folder, or copy "
+            "the dialogs to a folder with plain letters");
+    return name;
+}
+
+} // namespace lytdlg
