@@ -7,9 +7,9 @@ import shutil
 import sys
 
 import figures
-import journeys
 import machine
 import page
+import profiles
 import works
 from trees import ROOT, SCRATCH, Revision, Tree, WineServer
 
@@ -45,7 +45,7 @@ def measured(tree, lines, runs, load, is_profiled):
     size = figures.spread([tree.library_size() / 1024])
     summary["library-size"] = {"1": {"series": {"ours": size}, "ratios": {}}}
     return {"date": datetime.date.today().isoformat(), "machine": machine.in_words(), "load": load, "runs": runs,
-            "works": summary, "profile": journeys.of_journeys(tree) if is_profiled else {}}
+            "works": summary, "profile": profiles.of_works(tree, works.load()) if is_profiled else {}}
 
 
 def write_page(result, folder):

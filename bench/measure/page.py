@@ -147,7 +147,7 @@ def growth_section(works, summary):
 def profile_section(works, profile):
     if not profile:
         return ""
-    words = ["## Where a journey's time goes\n\n"
+    words = ["## Where the time goes\n\n"
              "Counted in instructions by a profiler, each function with all that it calls, those of the platform in memory among\n"
              "them: `GetPrivateProfileStringA`, which reads its file anew each time, and what stands below it, is not in the DLL.\n"
              "Functions that the compiler has put into their callers do not appear.\n"]

@@ -11,8 +11,8 @@ ROOT = HERE.parents[1]
 sys.path.insert(0, str(ROOT / "bench" / "measure"))
 
 import figures
-import journeys
 import page
+import profiles
 import works
 
 
@@ -73,7 +73,7 @@ class Profile(unittest.TestCase):
                    "60 (60.00%)  ./malloc/malloc.c:malloc [/lib/libc.so.6]\n"
                    "42 (42.00%)  ???:std::vector<int>::push_back(int) [/x/bench]\n"
                    " 1 ( 1.00%)  ???:ClytDialog::CloseFile() [/x/bench]\n")
-        self.assertEqual(journeys.rows_of(listing), [(90.0, "ClytDialog::ReadDescription"), (60.0, "malloc")])
+        self.assertEqual(profiles.rows_of(listing), [(90.0, "ClytDialog::ReadDescription"), (60.0, "malloc")])
 
 
 class Page(unittest.TestCase):
