@@ -48,6 +48,13 @@ def measured(tree, lines, runs, load, is_profiled):
             "works": summary, "profile": profiles.of_works(tree, works.load()) if is_profiled else {}}
 
 
+def as_lines(result):
+    """The figures as JSON with a line for each work, so that a difference between two measurements can be read."""
+    rest = json.dumps({name: value for name, value in result.items() if name != "works"}, ensure_ascii=False)
+    works_lines = ",\n".join(f"{json.dumps(name)}: {json.dumps(one)}" for name, one in result["works"].items())
+    return f'{rest[:-1]}, "works": {{\n{works_lines}\n}}}}\n'
+
+
 def write_page(result, folder):
     """The page, and beside it the drawings and the figures that it can be written from again."""
     words, drawings = page.make(works.load(), result)
@@ -55,7 +62,7 @@ def write_page(result, folder):
     shutil.rmtree(beside, ignore_errors=True)
     beside.mkdir(parents=True)
     (folder / "benchmarks.md").write_text(words, encoding="utf-8")
-    (beside / "figures.json").write_text(json.dumps(result, indent=1) + "\n", encoding="utf-8")
+    (beside / "figures.json").write_text(as_lines(result), encoding="utf-8")
     for name, drawing in drawings.items():
         (beside / name).write_text(drawing, encoding="utf-8")
 
