@@ -86,6 +86,8 @@ bool ClytDialog::MayRunRules()
 void ClytDialog::RunRules()
 {
     Run run(*this);
+    if (dependencyList.IsEmpty())
+        return;
     int ownMark = 0;
     std::list<Pass> passes; // each set off by a rule of the one before
     passes.emplace_back(ownMark, dependencyList.GetHeadPosition());

@@ -15,7 +15,7 @@ public:
     CString name;
     ClytScanRule scanRule;
     ClytConditions conditions;
-    CString trueTarget;
-    CString falseTarget;
+    ClytTarget trueTarget;
+    ClytTarget falseTarget;
     ClytSpan span; // of the statement
 };

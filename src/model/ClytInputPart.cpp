@@ -27,8 +27,21 @@ const ClytDialogInput* ClytInputPart::Find(const CString& name) const
 
 void ClytInputPart::Bind(const ClytControlMap& controls)
 {
+    const auto bind = [this](ClytTarget& target) { BindTarget(target); };
     for (POSITION place = statements.GetHeadPosition(); place != nullptr;)
-        statements.GetNext(place)->Bind(controls);
+    {
+        ClytDialogInput& statement = *statements.GetNext(place);
+        statement.Bind(controls);
+        statement.scanRule.scan.BindTargets(bind);
+        bind(statement.trueTarget);
+        bind(statement.falseTarget);
+    }
+}
+
+// A statement named "End" is never run.
+void ClytInputPart::BindTarget(ClytTarget& target) const
+{
+    target.statement = lytSameWord(target, "End") ? nullptr : Find(target);
 }
 
 void ClytInputPart::Run(CString text, const CString& name) const
@@ -36,39 +49,37 @@ void ClytInputPart::Run(CString text, const CString& name) const
     ClytScanner scanner(text);
     if (lytObserver != nullptr)
         lytObserver->ScanBegan(scanner.GetRest());
-    const CString* next = &name; // then a statement's own
+    ClytTarget start(name);
+    BindTarget(start);
+    const ClytTarget* next = &start;
     ClytSpan asker = span;
     int idle = 0;
     CString piece; // kept from statement to statement with the room that it has
-    while (!lytSameWord(*next, "End"))
+    while (next->statement != nullptr)
     {
-        const ClytDialogInput* statement = Find(*next);
-        if (statement == nullptr)
-        {
-            lytTellMissing(ClytMissing::InputStatement, *next, nullptr, asker);
-            return;
-        }
-        asker = statement->span;
+        asker = next->statement->span;
         const char* before = scanner.GetRest();
-        next = &RunStatement(*statement, scanner, piece);
+        next = &RunStatement(*next->statement, scanner, piece);
         idle = scanner.GetRest() == before ? idle + 1 : 0;
         if (idle == circleLimit)
             lytRaise("206", "The input statements go round in a circle.");
     }
+    if (!lytSameWord(*next, "End"))
+        lytTellMissing(ClytMissing::InputStatement, *next, nullptr, asker);
 }
 
-const CString& ClytInputPart::RunStatement(const ClytDialogInput& statement, ClytScanner& scanner, CString& piece)
+const ClytTarget& ClytInputPart::RunStatement(const ClytDialogInput& statement, ClytScanner& scanner, CString& piece)
 {
     const ClytScanRule& rule = statement.scanRule;
     if (rule.scan.HasScan() == 0)
     {
-        const CString& next = statement.ConditionsHold() != 0 ? statement.trueTarget : statement.falseTarget;
+        const ClytTarget& next = statement.ConditionsHold() != 0 ? statement.trueTarget : statement.falseTarget;
         if (lytObserver != nullptr)
             lytObserver->Jumped(statement, next);
         return next;
     }
     piece.Empty();
-    const CString& next = scanner.Cut(rule.scan, piece);
+    const ClytTarget& next = scanner.Cut(rule.scan, piece);
     if (lytObserver != nullptr)
         lytObserver->Cut(statement, piece, scanner.GetRest(), next);
     rule.ApplyFills(piece);

@@ -14,7 +14,7 @@ public:
     // Null when no statement has that name.
     const ClytDialogInput* Find(const CString& name) const;
 
-    // Looks up the controls of all statements.
+    // Looks up the controls and the targets of all statements, before they run.
     void Bind(const ClytControlMap& controls);
     // Runs over the text from the statement of that name until a statement is named "End" or is not there. A run that
     // goes from statement to statement without consuming text raises 206.
@@ -23,8 +23,9 @@ public:
     ClytSpan span; // of the header
 
 private:
-    // Gives the statement's name of the one that goes on; `piece` is where a piece is cut to.
-    static const CString& RunStatement(const ClytDialogInput& statement, ClytScanner& scanner, CString& piece);
+    void BindTarget(ClytTarget& target) const;
+    // Gives the statement's target; `piece` is where a piece is cut to.
+    static const ClytTarget& RunStatement(const ClytDialogInput& statement, ClytScanner& scanner, CString& piece);
 
     ClytOwnedList<ClytDialogInput> statements;
     CTypedPtrMap<CMapStringToPtr, CString, ClytDialogInput*> statementsByName;

@@ -13,9 +13,9 @@ const ClytSeparator* ClytScan::FindSeparator(const char* rest) const
     return nullptr;
 }
 
-const CString& ClytScan::TargetOf(const char* separatorText) const
+const ClytTarget& ClytScan::TargetOf(const char* separatorText) const
 {
-    static const CString none;
+    static const ClytTarget none;
     for (POSITION place = separators.GetHeadPosition(); place != nullptr;)
     {
         const ClytSeparator& separator = *separators.GetNext(place);

@@ -15,14 +15,23 @@ public:
     // The separator at the start of the rest, the first in file order that fits, or null.
     const ClytSeparator* FindSeparator(const char* rest) const;
     // The statement after the first separator of that text; empty when there is none.
-    const CString& TargetOf(const char* separatorText) const;
+    const ClytTarget& TargetOf(const char* separatorText) const;
+
+    // Lets `bind` find the statements of all targets.
+    template <class BIND>
+    void BindTargets(BIND bind)
+    {
+        bind(target);
+        for (POSITION place = separators.GetHeadPosition(); place != nullptr;)
+            bind(separators.GetNext(place)->target);
+    }
 
     // The later of the two kinds of entry decides: a separator wipes an earlier fixed length.
     void SetFixedLength(int pieceLength, const CString& statementName, const ClytSpan& place = {});
     void AddSeparator(const CString& separatorText, const CString& statementName, const ClytSpan& place = {});
 
     int GetLength() const { return length; }
-    const CString& GetTarget() const { return target; }
+    const ClytTarget& GetTarget() const { return target; }
     // Of the fixed length; a separator has its own.
     const ClytSpan& GetLengthSpan() const { return lengthSpan; }
     const ClytOwnedList<ClytSeparator>& GetSeparators() const { return separators; }
@@ -30,7 +39,7 @@ public:
 private:
     int length = 0; // 0 when the scan works by separators
     ClytSpan lengthSpan;
-    CString target; // the next statement after a piece of fixed length
+    ClytTarget target; // the next statement after a piece of fixed length
     ClytOwnedList<ClytSeparator> separators;
     DelimiterSet stops{"({[)}]\""}; // and the first characters of the separators; every one when a separator is empty
 };

@@ -9,7 +9,7 @@ constexpr const char* brackets = "({[)}]";
 
 } // namespace
 
-const CString& ClytScanner::Cut(const ClytScan& scan, CString& piece)
+const ClytTarget& ClytScanner::Cut(const ClytScan& scan, CString& piece)
 {
     pieceDepth.fill(0);
     if (scan.GetLength() == 0)
@@ -27,7 +27,7 @@ void ClytScanner::CutLength(int length, CString& piece)
 }
 
 // Plain text goes into the piece at once, and only what may be more than that is looked at closely.
-const CString& ClytScanner::CutToSeparator(const ClytScan& scan, CString& piece)
+const ClytTarget& ClytScanner::CutToSeparator(const ClytScan& scan, CString& piece)
 {
     const char* start = rest;
     const auto takePlain = [&] { piece.Append(start, static_cast<int>(rest - start)); };

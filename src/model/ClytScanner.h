@@ -12,14 +12,14 @@ public:
     // The text outlives the scanner.
     explicit ClytScanner(const CString& input) : rest(input) {}
 
-    // Cuts the piece of the scan off and gives the scan's name of the statement that goes on.
-    [[nodiscard]] const CString& Cut(const ClytScan& scan, CString& piece);
+    // Cuts the piece of the scan off and gives the scan's target.
+    [[nodiscard]] const ClytTarget& Cut(const ClytScan& scan, CString& piece);
     // What is left of the text.
     const char* GetRest() const { return rest; }
 
 private:
     void CutLength(int length, CString& piece);
-    const CString& CutToSeparator(const ClytScan& scan, CString& piece);
+    const ClytTarget& CutToSeparator(const ClytScan& scan, CString& piece);
     void TakeQuoted(CString& piece);
     // Counts a bracket; true for a closing one that belongs to the content of the piece.
     bool CountBracket(char ch);

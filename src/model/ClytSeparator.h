@@ -2,18 +2,17 @@
 #pragma once
 
 #include "base/ClytSpan.h"
-
-#include <afx.h>
+#include "model/ClytTarget.h"
 
 class ClytSeparator : public CObject
 {
 public:
-    ClytSeparator(CString separatorText, CString statementName, const ClytSpan& place)
-        : text(std::move(separatorText)), target(std::move(statementName)), span(place)
+    ClytSeparator(CString separatorText, const CString& statementName, const ClytSpan& place)
+        : text(std::move(separatorText)), target(statementName), span(place)
     {
     }
 
     const CString text;
-    const CString target;
+    ClytTarget target;
     const ClytSpan span; // of the text
 };
