@@ -46,8 +46,8 @@ void lytFitToCaption(const CWnd& window, const CWnd& dialog, ClytPosition positi
 
 void lytSetWindowState(const CWnd& window, ClytState state, int on)
 {
-    // At most runs of a rule the window is in its state already. To ask costs little beside what the platform does before
-    // it finds that nothing changes.
+    // In most runs of a rule its window is in that state already. Asking the window costs little beside what the
+    // platform does before it finds that nothing changes.
     const bool isActive = state == ClytState::Active;
     const bool hasStyle = (window.GetStyle() & (isActive ? WS_DISABLED : WS_VISIBLE)) != 0;
     const bool isOn = isActive ? !hasStyle : hasStyle;
