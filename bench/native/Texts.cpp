@@ -24,8 +24,8 @@ std::string Field(int index)
     return "F" + std::to_string(index);
 }
 
-// Scans pieces of a text into two fields in turn, and composes all of them.
-std::string TextDescription()
+// Scans pieces of a text into two controls in turn, which need not be there, and composes all fields.
+std::string TextDescription(const std::string& first, const std::string& second)
 {
     DescriptionText text;
     std::string items;
@@ -36,7 +36,8 @@ std::string TextDescription()
         items += ", " + Field(index);
         format += "%s;";
     }
-    text.input = "Start: (\";\", Second, Rest, End = F0\nSecond: (\";\", Start, Rest, End = F1\n";
+    text.input =
+        "Start: (\";\", Second, Rest, End = " + first + "\nSecond: (\";\", Start, Rest, End = " + second + "\n";
     text.output = "(\"" + format + "\"" + items + ")\n";
     return text();
 }
@@ -44,7 +45,11 @@ std::string TextDescription()
 class TextForm
 {
 public:
-    TextForm() : m_form(m_folder.Write("text.dlg", TextDescription()).c_str()) { m_form.Construct(); }
+    explicit TextForm(const std::string& first = Field(0), const std::string& second = Field(1))
+        : m_form(m_folder.Write("text.dlg", TextDescription(first, second)).c_str())
+    {
+        m_form.Construct();
+    }
 
     LiveForm* operator->() { return &m_form; }
 
@@ -52,6 +57,15 @@ private:
     TestFolder m_folder;
     LiveForm m_form;
 };
+
+std::string TextOfPieces(int size)
+{
+    std::string text;
+    while (text.size() < static_cast<size_t>(size))
+        text += "a piece (of some; kind) \"with; quotes\";";
+    text.resize(static_cast<size_t>(size));
+    return text;
+}
 
 void LookForSeparators(const char* text)
 {
@@ -101,16 +115,23 @@ void CopyText(const CString& text)
 
 void MeasureScan(const BenchMeter& meter)
 {
+    TextForm form("Nobody", "Nobody");
+    const std::string text = TextOfPieces(meter.Size());
+    const CString input(text.c_str());
+    meter.Compare({
+        {"ours", [&] { Discard(form->RunInput("parent", input)); }},
+        {"strpbrk", [&] { LookForSeparators(text.c_str()); }},
+    });
+}
+
+void MeasureScanIntoFields(const BenchMeter& meter)
+{
     TextForm form;
-    std::string text;
-    while (text.size() < static_cast<size_t>(meter.Size()))
-        text += "a piece (of some; kind) \"with; quotes\";";
-    text.resize(static_cast<size_t>(meter.Size()));
+    std::string text = TextOfPieces(meter.Size());
     const CString input(text.c_str());
     const FieldByHand field;
     meter.Compare({
         {"ours", [&] { Discard(form->RunInput("parent", input)); }},
-        {"strpbrk", [&] { LookForSeparators(text.c_str()); }},
         {"fields", [&] { field.SetEachPiece(text); }},
     });
 }

@@ -11,6 +11,8 @@ void MeasureConstruction(const BenchMeter& meter);
 void MeasureRules(const BenchMeter& meter);
 // Scanning a text of so many bytes; one pass over the same text that looks for its separators.
 void MeasureScan(const BenchMeter& meter);
+// The same with the pieces set to two fields in turn; the fields alone.
+void MeasureScanIntoFields(const BenchMeter& meter);
 // Composing a text of so many bytes; one copy of it.
 void MeasureComposition(const BenchMeter& meter);
 // Reading a report of so many lines to its end; copying the same lines.

@@ -9,6 +9,7 @@ int main(int argc, char** argv)
                           {"construction", {100, 1000, 10000}, MeasureConstruction},
                           {"rules-in-memory", {10, 100, 1000}, MeasureRules},
                           {"scan", {10'000, 100'000, 1'000'000}, MeasureScan},
+                          {"scan-into-fields", {10'000, 100'000, 1'000'000}, MeasureScanIntoFields},
                           {"composition", {10'000, 100'000, 1'000'000}, MeasureComposition},
                           {"report-lines", {100, 1000, 10000}, MeasureReportLines},
                           {"tree-fill", {1000, 10'000, 100'000}, MeasureTreeFill},

@@ -25,8 +25,9 @@ constexpr ListKind listBox = {"ListBox",       "ListBox", listStyle | LBS_NOTIFY
 constexpr ListKind checkList = {"CheckListBox",  "ListBox",    listStyle | LBS_OWNERDRAWFIXED | LBS_HASSTRINGS,
                                 LB_INSERTSTRING, LB_SETCURSEL, LB_RESETCONTENT,
                                 LB_SETITEMDATA};
-constexpr ListKind dropList = {"DropListBox",   "ComboBox", listStyle | CBS_DROPDOWNLIST, CB_INSERTSTRING, CB_SETCURSEL,
-                               CB_RESETCONTENT, 0};
+constexpr ListKind dropList = {
+    "DropListBox",   "ComboBox", listStyle | CBS_DROPDOWNLIST | CBS_NOINTEGRALHEIGHT, CB_INSERTSTRING, CB_SETCURSEL,
+    CB_RESETCONTENT, 0};
 
 void Click(HWND button)
 {
@@ -64,21 +65,42 @@ private:
     lytDataNext* m_next = Find<lytDataNext>("NextMany");
 };
 
-// A window of the kind in the active dialog, worked by hand.
+// A window of the kind in the active dialog, and a button that fills it, worked by hand.
 class ListByHand
 {
 public:
     explicit ListByHand(const ListKind& kind)
         : m_kind(kind),
-          m_window(CreateWindowA(kind.windowClass, "", kind.style, 300, 10, 150, 60, robot::ActiveDialog(), nullptr,
-                                 nullptr, nullptr))
+          m_window(Create(kind.windowClass, kind.style)),
+          m_button(Create("Button", WS_CHILD | WS_VISIBLE | BS_NOTIFY))
     {
     }
     ListByHand(const ListByHand&) = delete;
     ListByHand& operator=(const ListByHand&) = delete;
-    ~ListByHand() { DestroyWindow(m_window); }
+    ~ListByHand()
+    {
+        DestroyWindow(m_button);
+        DestroyWindow(m_window);
+    }
 
     void Fill(const Source& source) const
+    {
+        Click(m_button);
+        SetCursor(LoadCursorA(nullptr, IDC_WAIT));
+        Insert(source);
+        SetCursor(LoadCursorA(nullptr, IDC_ARROW));
+    }
+    void Empty() const { SendMessageA(m_window, m_kind.reset, 0, 0); }
+
+private:
+    static HWND Create(const char* windowClass, DWORD style)
+    {
+        const ModernControlsByHand modern;
+        return CreateWindowExA(WS_EX_CLIENTEDGE, windowClass, "", style, 300, 10, 150, 60, robot::ActiveDialog(),
+                               nullptr, nullptr, nullptr);
+    }
+
+    void Insert(const Source& source) const
     {
         SendMessageA(m_window, WM_SETREDRAW, FALSE, 0);
         source.Each(
@@ -92,11 +114,10 @@ public:
         SendMessageA(m_window, WM_SETREDRAW, TRUE, 0);
         InvalidateRect(m_window, nullptr, TRUE);
     }
-    void Empty() const { SendMessageA(m_window, m_kind.reset, 0, 0); }
 
-private:
     const ListKind& m_kind;
     HWND m_window;
+    HWND m_button;
 };
 
 // A form with a list, which one control fills and another empties.
