@@ -11,6 +11,7 @@
 #include "lytdlg/judge/SectionRules.h"
 #include "lytdlg/judge/StatementRules.h"
 #include "lytdlg/judge/ValueRules.h"
+#include "lytdlg/judge/WordRules.h"
 
 #include <gtest/gtest.h>
 
@@ -62,9 +63,9 @@ std::vector<TextCase> TextCases()
 
 const std::vector<Family>& TestedFamilies()
 {
-    static const std::vector<Family> families = {SectionRules(),    LineRules(),      MarkRules(),    StatementRules(),
-                                                 LayoutRules(),     ValueRules(),     ContentRules(), ActionRules(),
-                                                 DependencyRules(), ConditionRules(), LibraryRules()};
+    static const std::vector<Family> families = {SectionRules(), LineRules(),       MarkRules(),      StatementRules(),
+                                                 WordRules(),    LayoutRules(),     ValueRules(),     ContentRules(),
+                                                 ActionRules(),  DependencyRules(), ConditionRules(), LibraryRules()};
     return families;
 }
 

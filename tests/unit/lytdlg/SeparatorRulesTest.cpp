@@ -44,6 +44,35 @@ TEST(SeparatorRules, TellOfSeparatorsThatNeverComeIntoPlay)
     });
 }
 
+TEST(SeparatorRules, TellOfNumbersThatAreTakenForSeparatorsAndTheOtherWayRound)
+{
+    ExpectFindings({
+        {R"($INPUT, parent
+    Start: (0, Unit = Name)",
+         R"(example.dlg:50:13: warning scan-number: 0 is no length, and is taken for a separator
+        Start: (0, Unit = Name
+                ^
+    hint: write how many characters the piece has, or "" to cut nothing
+)"},
+        {R"($INPUT, parent
+    Start: ("1", Unit = Name)",
+         R"(example.dlg:50:14: warning scan-number: this is a length, also in quotes
+        Start: ("1", Unit = Name
+                 ^
+    hint: no piece can be cut at a number; choose another separator
+)"},
+        {R"($INPUT, parent
+    Start: (-1, Unit = Name)",
+         R"(example.dlg:50:13: warning scan-number: a length is 1 or more
+        Start: (-1, Unit = Name
+                ^~
+    hint: write how many characters the piece has
+)"},
+    });
+    ExpectNoFindings({R"($INPUT, parent
+    Start: ("0", Unit = Name)"});
+}
+
 TEST(SeparatorRules, TellOfTextThatIsCutOrDropped)
 {
     ExpectFindings({

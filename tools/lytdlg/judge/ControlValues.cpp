@@ -125,6 +125,20 @@ bool MayBeHidden(const Description& description, const ClytControlStatement& con
            std::ranges::any_of(Records(description.rules), hides) || std::ranges::any_of(description.values, toggles);
 }
 
+bool MayBeDisabled(const Description& description, const std::string& name)
+{
+    const auto disables = [&](const ClytControlDep* rule)
+    { return rule->controlName == name.c_str() && rule->stateWord.GetMeaning() == ClytState::Active; };
+    const auto toggles = [&](const ValueStatement& statement)
+    {
+        return ActionOf(statement) == ClytAction::Active && statement.values.front() == name &&
+               RoleOf(description, statement) == Role::Action;
+    };
+    return HasOption(description, name, ClytOption::Inactive) ||
+           std::ranges::any_of(Records(description.rules), disables) ||
+           std::ranges::any_of(description.values, toggles);
+}
+
 std::vector<const ValueStatement*> StatementsOf(const Description& description, const std::string& name, Role role)
 {
     const Kind kind = KindOfControl(description, name);

@@ -34,6 +34,8 @@ bool IsMeantAsOption(const ValueStatement& statement);
 bool HasOption(const Description& description, const std::string& name, ClytOption option);
 // Whether a rule, a button or an option may hide the control, or the group of an option.
 bool MayBeHidden(const Description& description, const ClytControlStatement& control);
+// Whether a rule, a button or an option may disable the control.
+bool MayBeDisabled(const Description& description, const std::string& name);
 
 // The statements of a control that have a role, in their order.
 std::vector<const ValueStatement*> StatementsOf(const Description& description, const std::string& name, Role role);

@@ -24,6 +24,7 @@
 #include "lytdlg/judge/StatementRules.h"
 #include "lytdlg/judge/TextRules.h"
 #include "lytdlg/judge/ValueRules.h"
+#include "lytdlg/judge/WordRules.h"
 #include "lytdlg/text/Paths.h"
 
 namespace lytdlg
@@ -48,10 +49,11 @@ const std::vector<Family>& Families()
 {
     // In the order of the sections. The library comes last: it looks whether a finding stands for its failure.
     static const std::vector<Family> families = {
-        SectionRules(),   LineRules(),     MarkRules(),        StatementRules(), LayoutRules(),     ValueRules(),
-        ContentRules(),   ActionRules(),   DependencyRules(),  ConditionRules(), EvaluationRules(), ScanRules(),
-        SeparatorRules(), FillRules(),     OutputGroupRules(), OutputRules(),    FormatRules(),     LanguageFileRules(),
-        TextRules(),      MnemonicRules(), GeometryRules(),    PartnerRules(),   IgnoreRules(),     LibraryRules(),
+        SectionRules(),     LineRules(),       MarkRules(),    StatementRules(),    WordRules(),
+        LayoutRules(),      ValueRules(),      ContentRules(), ActionRules(),       DependencyRules(),
+        ConditionRules(),   EvaluationRules(), ScanRules(),    SeparatorRules(),    FillRules(),
+        OutputGroupRules(), OutputRules(),     FormatRules(),  LanguageFileRules(), TextRules(),
+        MnemonicRules(),    GeometryRules(),   PartnerRules(), IgnoreRules(),       LibraryRules(),
     };
     return families;
 }

@@ -28,6 +28,15 @@ constexpr Rule mixed = {"scan-length",
                         "$INPUT, parent\n    Start: (3, Unit, \";\", Unit = Name",
                         "$INPUT, parent\n    Start: (3, Unit = Name"};
 
+constexpr Rule number = {
+    "scan-number",
+    Level::Warning,
+    "A number is taken for a separator, or a separator for a number.",
+    "A word that begins with a number is a length, also in quotes, and a length is 1 or more. 0 is "
+    "a separator like\na letter.",
+    "$INPUT, parent\n    Start: (0, Unit = Name",
+    "$INPUT, parent\n    Start: (1, Unit = Name"};
+
 constexpr Rule restNotNeeded = {
     "scan-rest",
     Level::Warning,
@@ -87,6 +96,29 @@ void JudgeLength(const Case& judged, const ClytScan& scan)
                             "cut by a length or at separators, in two statements");
 }
 
+bool IsQuoted(const Description& description, const ClytSpan& place)
+{
+    const std::string& text = description.text.Line(place.line).text;
+    const auto before = static_cast<size_t>(place.column) - 1;
+    return place.column > 0 && before < text.size() && text[before] == '"';
+}
+
+void JudgeNumbers(const Case& judged, const ClytScan& scan)
+{
+    const ClytSpan& length = scan.GetLengthSpan();
+    if (length.line != 0 && IsQuoted(judged.description, length))
+        judged.findings.Add(number, length, "this is a length, also in quotes",
+                            "no piece can be cut at a number; choose another separator");
+    else if (scan.GetLength() < 0)
+        judged.findings.Add(number, length, "a length is 1 or more", "write how many characters the piece has");
+    for (const ClytSeparator* separator : Records(scan.GetSeparators()))
+    {
+        if (separator->text == "0" && !IsQuoted(judged.description, separator->span))
+            judged.findings.Add(number, separator->span, "0 is no length, and is taken for a separator",
+                                "write how many characters the piece has, or \"\" to cut nothing");
+    }
+}
+
 bool EndsInClosingBracket(const std::string& text)
 {
     return !text.empty() && std::string(")]}>").find(text.back()) != std::string::npos;
@@ -124,7 +156,7 @@ void JudgeEnds(const Case& judged, const ClytScanRule& rule)
 
 Family SeparatorRules()
 {
-    return {{&hidden, &mixed, &restNotNeeded, &dropped},
+    return {{&hidden, &mixed, &number, &restNotNeeded, &dropped},
             [](const Case& judged)
             {
                 for (const InputPart& part : judged.description.inputs)
@@ -135,6 +167,7 @@ Family SeparatorRules()
                             continue;
                         JudgeSeparators(judged, statement->scanRule.scan);
                         JudgeLength(judged, statement->scanRule.scan);
+                        JudgeNumbers(judged, statement->scanRule.scan);
                         JudgeEnds(judged, statement->scanRule);
                     }
                 }
