@@ -4,7 +4,9 @@
 #include "lytdlg/judge/LanguageFindings.h"
 #include "lytdlg/judge/Names.h"
 #include "lytdlg/judge/TextUses.h"
+#include "lytdlg/text/LibraryTexts.h"
 #include "lytdlg/text/Paths.h"
+#include "lytdlg/text/Words.h"
 
 #include <algorithm>
 
@@ -39,6 +41,23 @@ constexpr Rule unused = {
     "section shows it;\nor it is a message of the section MsgBox that no check of $EVALUATION names.",
     "$VALUES\n-    Form: Square = square form",
     "$VALUES\n    Form: Hall = other form"};
+
+constexpr Rule form = {"text-form",
+                       Level::Warning,
+                       "A line of a language file is no section, no text and no comment.",
+                       "A section is its name in square brackets, a text is a key, an equals sign and the text, and a "
+                       "comment begins with\na semicolon. The library passes any other line over.",
+                       "",
+                       ""};
+
+constexpr Rule message = {
+    "message-differs",
+    Level::Warning,
+    "A message of the library is missing in one language, or takes no argument there.",
+    "Messages that one language file has in [Dialog_Error] and [Label] should be in all, each with "
+    "the same places for\nthe argument ('').",
+    "",
+    ""};
 
 void JudgeSection(const Case& judged)
 {
@@ -86,6 +105,46 @@ void JudgeByteOrderMark(const Case& judged)
     }
 }
 
+void JudgeForm(const Case& judged)
+{
+    for (const LanguageFile& file : judged.surroundings.texts.Files())
+    {
+        for (const LanguageKey& key : file.Keys())
+        {
+            const bool isOpenSection = key.name.starts_with('[');
+            const bool isTold = key.place.line == 1 && file.HasByteOrderMark();
+            if (!key.hasText && !isTold)
+                AddIn(judged, form, file, key.place, key.line,
+                      isOpenSection ? "the bracket of this section is not closed" : "this line has no equals sign",
+                      isOpenSection ? "write [NAME]" : "write KEY=TEXT, or a semicolon before a comment");
+        }
+    }
+}
+
+// The buttons' texts are judged with the dialogs that show them.
+void JudgeMessage(const Case& judged, const LibraryText& text)
+{
+    const std::vector<LanguageFile>& files = judged.surroundings.texts.Files();
+    const auto first = std::ranges::find_if(files, [&](const LanguageFile& file)
+                                            { return file.Find(text.section, text.key) != nullptr; });
+    if (first == files.end() || text.section == "Buttons")
+        return;
+    const LanguageKey& model = *first->Find(text.section, text.key);
+    for (const LanguageFile& file : files)
+    {
+        const LanguageKey* key = file.Find(text.section, text.key);
+        if (key == nullptr)
+            AddIn(judged, message, *first, model.place, model.line,
+                  file.Language() + ".nls has no text " + InQuotes(text.key) + " in [" + text.section + "]",
+                  "add it there");
+        else if (CountOf(key->text, "''") != CountOf(model.text, "''"))
+            AddIn(judged, message, file, key->place, key->line,
+                  "the marks '' differ from those in " + first->Language() + ".nls, line " +
+                      std::to_string(model.place.line),
+                  "give both languages the same marks");
+    }
+}
+
 // All texts that the dialogs of the folder show, this one as it is now.
 std::vector<ShownText> UsesInFolder(const Case& judged)
 {
@@ -120,7 +179,7 @@ void JudgeUnused(const Case& judged)
                                      (isFirst && IsSameName(key.section, messageSection));
             const auto isUse = [&](const ShownText& use)
             { return IsSameName(use.section, key.section) && IsSameName(use.key, key.name); };
-            if (key.isReached && isOfSection && std::ranges::none_of(uses, isUse))
+            if (key.isReached && key.hasText && isOfSection && std::ranges::none_of(uses, isUse))
                 AddIn(judged, unused, file, key.place, key.line,
                       "no dialog of the folder uses the text " + InQuotes(key.name), "delete it");
         }
@@ -131,13 +190,19 @@ void JudgeUnused(const Case& judged)
 
 Family LanguageFileRules()
 {
-    return {{&section, &markAtBegin, &unused},
+    return {{&section, &markAtBegin, &form, &message, &unused},
             [](const Case& judged)
             {
                 if (judged.surroundings.texts.Files().empty())
                     return;
                 JudgeByteOrderMark(judged);
                 JudgeSection(judged);
+                if (IsFirstOfFolder(judged))
+                {
+                    JudgeForm(judged);
+                    for (const LibraryText& text : LibraryTexts())
+                        JudgeMessage(judged, text);
+                }
                 JudgeUnused(judged);
             }};
 }
