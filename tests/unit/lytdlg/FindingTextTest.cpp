@@ -80,6 +80,13 @@ TEST(FindingText, SaysWhatIsWrongInTheseWords)
     }
 }
 
+// What they would say about the actions of buttons, and which controls the result takes.
+TEST(FindingText, IsNotToldOfSectionsThatAreCutOff)
+{
+    const Found found = FindIn("$VALUES\n<LONG\n");
+    EXPECT_EQ(found.rules, (std::set<std::string>{"define-off", "mark-unended", "section-missing"})) << found.text;
+}
+
 TEST(FindingText, IsToldHereForEachRule)
 {
     std::string all;

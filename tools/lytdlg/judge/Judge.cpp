@@ -27,8 +27,47 @@
 #include "lytdlg/judge/WordRules.h"
 #include "lytdlg/text/Paths.h"
 
+#include <algorithm>
+
 namespace lytdlg
 {
+
+namespace
+{
+
+// A rule that tells of what a section does not say.
+struct Lack
+{
+    Section section;
+    const char* rule;
+};
+
+constexpr Lack lacks[] = {
+    {Section::Values, "action-missing"},       {Section::Values, "check-texts"},
+    {Section::Values, "option-without-value"}, {Section::Values, "action-fill"},
+    {Section::Values, "fill-without-source"},  {Section::Values, "condition-value"},
+    {Section::Values, "evaluation-value"},     {Section::Input, "action-part"},
+    {Section::Output, "action-group"},         {Section::Output, "evaluation-never"},
+};
+
+// A file that ends too soon has a finding for that. What its last section and those after it would have said is not
+// known.
+bool IsCutOff(const DescriptionText& text, Section section)
+{
+    return std::ranges::none_of(allSections,
+                                [&](Section later) { return later > section && !text.LinesOf(later).empty(); });
+}
+
+void RemoveWhatIsNotKnown(const DescriptionText& text, Findings& findings)
+{
+    for (const Lack& lack : lacks)
+    {
+        if (IsCutOff(text, lack.section))
+            findings.Remove([&](const Finding& finding) { return std::string(finding.rule->id) == lack.rule; });
+    }
+}
+
+} // namespace
 
 Surroundings SurroundingsOf(const std::string& folder, const std::vector<std::string>& partners)
 {
@@ -87,6 +126,7 @@ Findings Judge(const Description& description, const Surroundings& surroundings)
     Findings findings;
     for (const Family& family : Families())
         family.judge({description, surroundings, findings});
+    RemoveWhatIsNotKnown(description.text, findings);
     ApplyIgnores(description, findings);
     findings.Sort();
     return findings;
