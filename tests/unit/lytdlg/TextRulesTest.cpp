@@ -77,6 +77,17 @@ lang/German.nls:32:1: warning text-ampersand: a list item shows the & as it is
     hint: leave it out
 )"},
         {R"($LAYOUT Example
+    Text 520, 12, 100, 12, "Stray", .More)",
+         R"(lang/English.nls:43:1: warning caption-ampersand: an & before a blank, or at the end, underlines nothing
+    Stray=Salt & sugar
+    ^~~~~
+    hint: write && for an ampersand itself
+lang/German.nls:43:1: warning caption-ampersand: an & before a blank, or at the end, underlines nothing
+    Stray=Salz & Zucker
+    ^~~~~
+    hint: write && for an ampersand itself
+)"},
+        {R"($LAYOUT Example
     Text 520, 12, 100, 12, "Marked", .More)",
          R"(lang/German.nls:41:1: warning text-marks: the marks & differ from those in English.nls, line 41
     Marked=Mar&ked

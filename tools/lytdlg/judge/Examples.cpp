@@ -89,7 +89,8 @@ constexpr const char* otherDescription =
     "TextBox 16, 12, 100, 19, .Name\r\nText 16, 38, 100, 12, \"Remove\"\r\nText 16, 54, 100, 12, \"Note\"\r\n"
     "Text 16, 70, 100, 12, \"Plain\"\r\nText 16, 86, 100, 12, \"Author\"\r\nText 16, 102, 100, 12, \"LongText\"\r\n"
     "Text 16, 118, 100, 12, \"Marked\"\r\nText 16, 134, 100, 12, \"Extra\"\r\n"
-    "Text 140, 38, 100, 12, \"Nothing\"\r\nText 16, 150, 100, 12, \"Accent\"\r\nText 16, 166, 100, 12, "
+    "Text 140, 38, 100, 12, \"Nothing\"\r\nText 140, 54, 100, 12, \"Stray\"\r\nText 16, 150, 100, 12, "
+    "\"Accent\"\r\nText 16, 166, 100, 12, "
     "\"Copied\"\r\nOKButton 16, 188, 80, "
     "22\r\nCancelButton "
     "108, 188, 80, 22\r\n"
@@ -250,8 +251,10 @@ std::string ExampleDescription(const std::string& lines)
 
 const std::vector<ExampleFile>& ExampleFiles()
 {
-    static const std::string english = std::string(exampleTexts) + "Marked=Marked\r\nNothing=\r\n";
-    static const std::string german = std::string(exampleTexts) + "Marked=Mar&ked\r\nNothing=\r\n";
+    static const std::string english =
+        std::string(exampleTexts) + "Marked=Marked\r\nNothing=\r\nStray=Salt & sugar\r\n";
+    static const std::string german =
+        std::string(exampleTexts) + "Marked=Mar&ked\r\nNothing=\r\nStray=Salz & Zucker\r\n";
     static const std::vector<ExampleFile> files = {{"lyt.ini", "[global]\r\nCurrent Language=English\r\n"},
                                                    {"lang/English.nls", english.c_str()},
                                                    {"lang/German.nls", german.c_str()},

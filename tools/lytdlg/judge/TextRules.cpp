@@ -43,6 +43,15 @@ constexpr Rule ampersand = {"text-ampersand",
                             "$VALUES\n    Form: Remove = other form",
                             "$VALUES\n    Form: Hall = other form"};
 
+constexpr Rule stray = {
+    "caption-ampersand",
+    Level::Warning,
+    "An ampersand of a caption underlines nothing, or a second letter.",
+    "An & underlines the letter after it, and a caption has one such letter. For an ampersand itself "
+    "write &&.",
+    "$LAYOUT Example\n    CheckBox 520, 12, 112, 12, \"Stray\", .More",
+    "$LAYOUT Example\n    CheckBox 520, 12, 112, 12, \"Remove\", .More"};
+
 constexpr Rule marks = {"text-marks",
                         Level::Warning,
                         "A text has other marks in one language than in another.",
@@ -103,6 +112,25 @@ void JudgeMissing(const Case& judged, const ShownText& use)
                             hint.empty() ? "add it there" : hint);
 }
 
+bool IsCaptionOrButton(TextRole role)
+{
+    return role == TextRole::Caption || role == TextRole::Alternate || role == TextRole::Button;
+}
+
+// What is wrong with the marks of a caption; empty when each is right.
+std::string StrayMark(const std::string& text)
+{
+    int letters = 0;
+    for (size_t place = text.find('&'); place != std::string::npos; place = text.find('&', place + 2))
+    {
+        const char next = place + 1 < text.size() ? text[place + 1] : ' ';
+        if (next == ' ')
+            return "an & before a blank, or at the end, underlines nothing";
+        letters += next != '&' ? 1 : 0;
+    }
+    return letters > 1 ? "the caption underlines more than one letter" : "";
+}
+
 void JudgeText(const Case& judged, const ShownText& use, const LanguageFile& file, const LanguageKey& key)
 {
     const bool isCaption = use.role == TextRole::Caption;
@@ -116,6 +144,9 @@ void JudgeText(const Case& judged, const ShownText& use, const LanguageFile& fil
         AddIn(judged, apostrophe, file, key.place, key.line,
               "the caption ends at the apostrophe: " + InQuotes(key.text.substr(0, key.text.find('\'') + 1)),
               "write it without an apostrophe");
+    const std::string strayMark = IsCaptionOrButton(use.role) ? StrayMark(key.text) : "";
+    if (!strayMark.empty())
+        AddIn(judged, stray, file, key.place, key.line, strayMark, "write && for an ampersand itself");
     if (isShownAsItIs && key.text.find('&') != std::string::npos)
         AddIn(judged, ampersand, file, key.place, key.line,
               std::string("a ") + (use.role == TextRole::Title ? "title" : "list item") + " shows the & as it is",
@@ -165,8 +196,7 @@ void JudgeTwice(const Case& judged, const ShownText& use, const LanguageFile& fi
 // What a text has fewer or more of than its translation; empty when they agree.
 std::string DifferentMark(TextRole role, const std::string& left, const std::string& right)
 {
-    const bool isCaption = role == TextRole::Caption || role == TextRole::Alternate || role == TextRole::Button;
-    if (isCaption && (MnemonicOf(left) != '\0') != (MnemonicOf(right) != '\0'))
+    if (IsCaptionOrButton(role) && (MnemonicOf(left) != '\0') != (MnemonicOf(right) != '\0'))
         return "&";
     if (role == TextRole::Message && CountOf(left, "''") != CountOf(right, "''"))
         return "''";
@@ -201,7 +231,7 @@ void JudgeMarks(const Case& judged, const ShownText& use)
 
 Family TextRules()
 {
-    return {{&missing, &tooLong, &apostrophe, &ampersand, &marks, &bytes, &emptyText, &hiddenKey},
+    return {{&missing, &tooLong, &apostrophe, &ampersand, &stray, &marks, &bytes, &emptyText, &hiddenKey},
             [](const Case& judged)
             {
                 for (const ShownText& use : TextUsesOf(judged.description))
