@@ -6,6 +6,13 @@
 TEST(OutputRules, TellOfGroupsThatComposeNothing)
 {
     ExpectFindings({
+        {R"($OUTPUT, parent
+    Pictures(P, -) = ("%s%s", Name, Unit))",
+         R"(example.dlg:54:5: warning output-unreached: the rule in line 53 always holds, so this one is never used
+        ("%s;%s;%s;%s;%s;%s", Name, Unit, Place, Form, Order, Pictures)
+        ^~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~~
+    hint: put it before that rule
+)"},
         {R"($EVALUATION, x
 -    Name = NULL: NameMissing
 $OUTPUT, parent

@@ -43,7 +43,8 @@ constexpr Rule alwaysHeld = {
     Level::Warning,
     "A condition always holds, whatever the user does.",
     "NOTNULL asks whether a field or a list is empty. A check box, an option group, a text, a frame and a\n"
-    "button never are: ask for the value. In brackets name only some of the values, and not all.",
+    "button never are: ask for the value. In brackets name only some of the values, and not all. Without\n"
+    "brackets a condition only asks whether the control is enabled.",
     "$DEPENDANCES\nUnit/ACTIVE = Pictures(NOTNULL)",
     "$DEPENDANCES\nUnit/ACTIVE = Pictures(P)"};
 
@@ -132,29 +133,16 @@ void JudgeNotNull(const Condition& condition)
                                       "write it last, or alone");
 }
 
-// A disabled control fails its condition, so one that may be disabled is asked for that, whatever its values.
-bool NamesAllValues(const Condition& condition)
-{
-    const Description& description = condition.judged.description;
-    const bool isChosen =
-        condition.kind == Kind::CheckBox || (condition.kind == Kind::OptionGroup &&
-                                             LastStatementOf(description, condition.Name(), Role::Default) != nullptr);
-    if (!isChosen || !condition.HasValues() || AsksForContent(condition.list) ||
-        MayBeDisabled(description, condition.Name()))
-        return false;
-    const std::vector<std::string> asked = ValuesAskedBy(condition.list);
-    const auto possible = PossibleValues(description, *description.FindControl(condition.Name()));
-    return possible && std::ranges::all_of(*possible, [&](const std::string& value)
-                                           { return std::ranges::find(asked, value) != asked.end(); });
-}
-
 void JudgeAlways(const Condition& condition)
 {
-    if (NamesAllValues(condition))
-        condition.judged.findings.Add(alwaysHeld, condition.list.GetSpan(),
-                                      "these are all values of " + InQuotes(condition.Name()) +
-                                          ", and the condition always holds",
-                                      "name some of them, or delete the condition");
+    if (AlwaysHolds(condition.judged.description, condition.list))
+        condition.judged.findings.Add(
+            alwaysHeld, condition.list.GetSpan(),
+            condition.HasValues()
+                ? "these are all values of " + InQuotes(condition.Name()) + ", and the condition always holds"
+                : InQuotes(condition.Name()) + " is never disabled, and so the condition always holds",
+            condition.HasValues() ? "name some of them, or delete the condition"
+                                  : "write the values that it should have in brackets, or NOTNULL");
     if (AsksForContent(condition.list) && !HasItems(condition.kind) && condition.kind != Kind::Field &&
         !IsDefault(condition.kind))
         condition.judged.findings.Add(

@@ -95,6 +95,23 @@ bool ExcludeEachOther(const ClytCtrlValList& left, const ClytCtrlValList& right)
                                 { return std::ranges::find(rightValues, value) != rightValues.end(); });
 }
 
+bool AlwaysHolds(const Description& description, const ClytCtrlValList& condition)
+{
+    const std::string name = condition.GetName().GetString();
+    const ClytControlStatement* control = description.FindControl(name);
+    if (control == nullptr || AsksForContent(condition) || MayBeDisabled(description, name))
+        return false;
+    if (condition.GetValues().IsEmpty())
+        return true;
+    // A group without a default has no value until the user chooses one.
+    const Kind kind = KindOf(*control);
+    const bool isChosen = kind == Kind::CheckBox ||
+                          (kind == Kind::OptionGroup && LastStatementOf(description, name, Role::Default) != nullptr);
+    const std::vector<std::string> asked = ValuesAskedBy(condition);
+    const auto isAsked = [&](const std::string& value) { return std::ranges::find(asked, value) != asked.end(); };
+    return isChosen && std::ranges::all_of(*PossibleValues(description, *control), isAsked);
+}
+
 void JudgeValues(const Case& judged, const Rule& rule, const ClytCtrlValList& condition, ValueWords known)
 {
     const Description& description = judged.description;

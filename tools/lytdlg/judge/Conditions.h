@@ -14,6 +14,9 @@ std::vector<std::string> ValuesAskedBy(const ClytCtrlValList& condition);
 // both name their values.
 bool ExcludeEachOther(const ClytCtrlValList& left, const ClytCtrlValList& right);
 
+// Whether the condition holds whatever the user does: it names all values of a control that never is disabled, or none.
+bool AlwaysHolds(const Description& description, const ClytCtrlValList& condition);
+
 // Which words for a value mean something in the conditions of a section.
 enum class ValueWords
 {

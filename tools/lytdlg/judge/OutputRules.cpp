@@ -166,7 +166,9 @@ void JudgeOrder(const Case& judged, const OutputGroup& group)
                                 "the rule in line " + std::to_string(always->span.line) +
                                     " always holds, so this one is never used",
                                 "put it before that rule");
-        else if (rule->conditions.IsEmpty())
+        else if (std::ranges::all_of(
+                     Records(rule->conditions), [&](const ClytCtrlValList* asked)
+                     { return !asked->GetValues().IsEmpty() && AlwaysHolds(judged.description, *asked); }))
             always = rule;
     }
     if (always == nullptr && !group.rules.IsEmpty() && group.name == lytParentName)

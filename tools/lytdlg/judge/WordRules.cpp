@@ -13,7 +13,7 @@ namespace
 constexpr Rule dropped = {
     "word-dropped",
     Level::Warning,
-    "A word after a closing quote or bracket is passed over.",
+    "A word stands where none is read, and is passed over.",
     "What stands between a closing quote and the next comma or sign is lost, and so is a word between a\n"
     "closing bracket and the next comma or sign. Mostly a comma is missing before it.",
     "$LAYOUT\n    CheckBox 520, 12, 112, 12, \"Remove\".More",
@@ -70,6 +70,20 @@ void JudgeBrackets(const Case& judged, const SourceLine& line)
     }
 }
 
+// The way on without a condition, which has one target.
+void JudgeJump(const Case& judged, const SourceLine& line)
+{
+    if (line.section != Section::Input)
+        return;
+    const std::vector<LineToken> words = TokensOf(line.text, line.section);
+    const bool isJump = words.size() > 3 && words[0].delimiter == ':' && words[1].delimiter == '=';
+    if (isJump)
+        judged.findings.Add(dropped, {line.number, words[3].column, static_cast<int>(words[3].text.size())},
+                            "without values in brackets this is no condition: the run always goes on at \"" +
+                                words[2].text + "\", and what follows is passed over",
+                            "write CONTROL(VALUE) = NAME, OTHER, or delete it");
+}
+
 } // namespace
 
 Family WordRules()
@@ -85,6 +99,7 @@ Family WordRules()
                         continue;
                     JudgeQuotes(judged, line);
                     JudgeBrackets(judged, line);
+                    JudgeJump(judged, line);
                 }
             }};
 }
