@@ -118,6 +118,13 @@ ClytSpan Description::PlaceOf(int line) const
     return {line, static_cast<int>(start), static_cast<int>(end + 1 - start)};
 }
 
+bool Description::IsQuoted(const ClytSpan& place) const
+{
+    const std::string& line = text.Line(place.line).text;
+    const auto before = static_cast<size_t>(place.column) - 1;
+    return place.column > 0 && before < line.size() && line[before] == '"';
+}
+
 void Description::ReadLayout()
 {
     const std::vector<const SourceLine*> layout = text.LinesOf(Section::Layout);

@@ -87,6 +87,8 @@ public:
     ClytSpan PlaceOf(int line, const std::string& word, int fromColumn = 0) const;
     // The place of a line's content, without the blanks round it.
     ClytSpan PlaceOf(int line) const;
+    // Whether quotes stand round the word at the place.
+    bool IsQuoted(const ClytSpan& place) const;
 
 private:
     void ReadLayout();

@@ -136,8 +136,7 @@ void JudgeType(const Statement& statement)
 
 bool IsInQuotes(const Statement& statement, const LineToken& word)
 {
-    const std::string& line = statement.judged.description.text.Line(statement.control.span.line).text;
-    return word.column > 0 && line[static_cast<size_t>(word.column - 1)] == '"';
+    return statement.judged.description.IsQuoted(PlaceOf(statement.control, word));
 }
 
 bool IsNumber(const std::string& word)
@@ -185,21 +184,32 @@ void JudgeNamePoint(const Statement& statement)
         "write \"." + name->text + "\"");
 }
 
-void JudgeNumber(const Statement& statement, const LineToken& word, const char* what)
+void JudgeNumber(const Case& judged, int line, const LineToken& word, const char* what)
 {
+    const ClytSpan place = {line, word.column, std::max(1, static_cast<int>(word.text.size()))};
     const char* rest = nullptr;
     const int number = lytNumberOf(word.text.c_str(), &rest);
     const bool isCut = word.text != std::to_string(number) &&
                        (number == std::numeric_limits<int>::max() || number == std::numeric_limits<int>::min());
     if (word.text.empty() || *rest != '\0')
-        statement.judged.findings.Add(noNumber, PlaceOf(statement.control, word),
-                                      InQuotes(word.text) + " counts as " + std::to_string(number) + " for the " + what,
-                                      "write a whole number");
+        judged.findings.Add(noNumber, place,
+                            InQuotes(word.text) + " counts as " + std::to_string(number) + " for the " + what,
+                            "write a whole number");
     else if (isCut)
-        statement.judged.findings.Add(range, PlaceOf(statement.control, word),
-                                      "the " + std::string(what) + " " + word.text + " counts as " +
-                                          std::to_string(number),
-                                      "write a smaller number");
+        judged.findings.Add(range, place,
+                            "the " + std::string(what) + " " + word.text + " counts as " + std::to_string(number),
+                            "write a smaller number");
+}
+
+// The words before the size are Begin Dialog Box.
+void JudgeHeader(const Case& judged)
+{
+    const int line = judged.description.dialogHeader.line;
+    const std::vector<LineToken> words = TokensOf(judged.description.text.Line(line).text, Section::Layout);
+    if (!judged.description.hasDialogHeader || words.size() != 7)
+        return;
+    JudgeNumber(judged, line, words[3], "width of the dialog");
+    JudgeNumber(judged, line, words[4], "height of the dialog");
 }
 
 void JudgeNumbers(const Statement& statement)
@@ -207,7 +217,7 @@ void JudgeNumbers(const Statement& statement)
     constexpr const char* names[] = {"left", "top", "width", "height"};
     const bool hasNumbers = statement.words.size() > 4 && !statement.words[1].text.starts_with('.');
     for (size_t index = 0; hasNumbers && index < std::size(names); ++index)
-        JudgeNumber(statement, statement.words[index + 1], names[index]);
+        JudgeNumber(statement.judged, statement.control.span.line, statement.words[index + 1], names[index]);
     const ClytControlStatement& control = statement.control;
     const bool hasSize = control.width > 0 && control.height > 0;
     if (hasSize || !HasSize(statement.kind) ||
@@ -315,6 +325,7 @@ Family LayoutRules()
              &buttonTwice},
             [](const Case& judged)
             {
+                JudgeHeader(judged);
                 JudgeStatements(judged);
                 JudgeNames(judged);
                 JudgeGroups(judged);

@@ -195,14 +195,6 @@ void JudgeConditions(const Case& judged, const ClytDialogOutput& rule)
     }
 }
 
-// A word in quotes is meant as it is.
-bool IsQuoted(const Description& description, const ClytSpan& place)
-{
-    const std::string& line = description.text.Line(place.line).text;
-    const auto before = static_cast<size_t>(place.column) - 1;
-    return place.column > 0 && before < line.size() && line[before] == '"';
-}
-
 void JudgeUnknownItem(const Case& judged, const ClytOutputItem& given)
 {
     const std::string name = given.text.GetString();
@@ -211,7 +203,7 @@ void JudgeUnknownItem(const Case& judged, const ClytOutputItem& given)
         judged.findings.Add(item, given.span,
                             "there is no list " + InQuotes(name) + ": the word itself goes into the text",
                             hint.empty() ? "name a list of $LAYOUT" : hint);
-    else if (!hint.empty() && !IsQuoted(judged.description, given.span))
+    else if (!hint.empty() && !judged.description.IsQuoted(given.span))
         judged.findings.Add(item, given.span,
                             "there is no control " + InQuotes(name) + ": the word itself goes into the text",
                             hint + " Put a text in quotes");

@@ -96,24 +96,17 @@ void JudgeLength(const Case& judged, const ClytScan& scan)
                             "cut by a length or at separators, in two statements");
 }
 
-bool IsQuoted(const Description& description, const ClytSpan& place)
-{
-    const std::string& text = description.text.Line(place.line).text;
-    const auto before = static_cast<size_t>(place.column) - 1;
-    return place.column > 0 && before < text.size() && text[before] == '"';
-}
-
 void JudgeNumbers(const Case& judged, const ClytScan& scan)
 {
     const ClytSpan& length = scan.GetLengthSpan();
-    if (length.line != 0 && IsQuoted(judged.description, length))
+    if (length.line != 0 && judged.description.IsQuoted(length))
         judged.findings.Add(number, length, "this is a length, also in quotes",
                             "no piece can be cut at a number; choose another separator");
     else if (scan.GetLength() < 0)
         judged.findings.Add(number, length, "a length is 1 or more", "write how many characters the piece has");
     for (const ClytSeparator* separator : Records(scan.GetSeparators()))
     {
-        if (separator->text == "0" && !IsQuoted(judged.description, separator->span))
+        if (separator->text == "0" && !judged.description.IsQuoted(separator->span))
             judged.findings.Add(number, separator->span, "0 is no length, and is taken for a separator",
                                 "write how many characters the piece has, or \"\" to cut nothing");
     }
