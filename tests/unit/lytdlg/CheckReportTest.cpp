@@ -6,6 +6,8 @@
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
 
+#include <filesystem>
+
 using nlohmann::json;
 
 namespace
@@ -46,6 +48,8 @@ protected:
         return text;
     }
 
+    // With the separator of this machine, as paths are told.
+    const std::string m_lang = (std::filesystem::path("lang") / "").string();
     TestFolder m_folder;
     int m_exit = -1;
 };
@@ -100,15 +104,17 @@ TEST_F(CheckReport, TellsOfAByteOrderMarkInALanguageFile)
 TEST_F(CheckReport, TellsOfLinesOfALanguageFileThatAreNothing)
 {
     m_folder.Write("lang/English.nls", "[Buttons]\n001=&OK\n002=&Cancel\n// texts\n[Box]\nTitle=Box\n[Open\n");
-    EXPECT_EQ(Check(sound), "lang/English.nls:4:1: warning text-form: this line has no equals sign\n"
-                            "    // texts\n"
-                            "    ^~~~~~~~\n"
-                            "    hint: write KEY=TEXT, or a semicolon before a comment\n"
-                            "lang/English.nls:7:1: warning text-form: the bracket of this section is not closed\n"
-                            "    [Open\n"
-                            "    ^~~~~\n"
-                            "    hint: write [NAME]\n"
-                            "1 description judged: 0 errors, 2 warnings, 0 notes\n");
+    EXPECT_EQ(Check(sound), m_lang +
+                                "English.nls:4:1: warning text-form: this line has no equals sign\n"
+                                "    // texts\n"
+                                "    ^~~~~~~~\n"
+                                "    hint: write KEY=TEXT, or a semicolon before a comment\n" +
+                                m_lang +
+                                "English.nls:7:1: warning text-form: the bracket of this section is not closed\n"
+                                "    [Open\n"
+                                "    ^~~~~\n"
+                                "    hint: write [NAME]\n"
+                                "1 description judged: 0 errors, 2 warnings, 0 notes\n");
 }
 
 TEST_F(CheckReport, TellsOfMessagesThatDifferBetweenLanguages)
@@ -116,17 +122,19 @@ TEST_F(CheckReport, TellsOfMessagesThatDifferBetweenLanguages)
     const std::string texts = "[Buttons]\n001=&OK\n002=&Cancel\n[Box]\nTitle=Box\n[Dialog_Error]\n";
     m_folder.Write("lang/English.nls", texts + "207=No ''.\n208=No room.\n");
     m_folder.Write("lang/German.nls", texts + "207=Nein.\n");
-    EXPECT_EQ(Check(sound), "lang/English.nls:8:1: warning message-differs: German.nls has no text \"208\" in "
-                            "[Dialog_Error]\n"
-                            "    208=No room.\n"
-                            "    ^~~\n"
-                            "    hint: add it there\n"
-                            "lang/German.nls:7:1: warning message-differs: the marks '' differ from those in "
-                            "English.nls, line 7\n"
-                            "    207=Nein.\n"
-                            "    ^~~\n"
-                            "    hint: give both languages the same marks\n"
-                            "1 description judged: 0 errors, 2 warnings, 0 notes\n");
+    EXPECT_EQ(Check(sound), m_lang +
+                                "English.nls:8:1: warning message-differs: German.nls has no text \"208\" in "
+                                "[Dialog_Error]\n"
+                                "    208=No room.\n"
+                                "    ^~~\n"
+                                "    hint: add it there\n" +
+                                m_lang +
+                                "German.nls:7:1: warning message-differs: the marks '' differ from those in "
+                                "English.nls, line 7\n"
+                                "    207=Nein.\n"
+                                "    ^~~\n"
+                                "    hint: give both languages the same marks\n"
+                                "1 description judged: 0 errors, 2 warnings, 0 notes\n");
 }
 
 // Those of [MsgBox] belong to all dialogs of the folder, and are told with the first of them.
