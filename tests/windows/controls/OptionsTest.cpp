@@ -119,6 +119,21 @@ TEST_F(Options, AButtonCountsAsChangedByItsStateAndAGroupByItsText)
     form.Ok().Open();
 }
 
+TEST_F(Options, AButtonThatKeepsItsStateHasNotChanged)
+{
+    form.main.layout.insert(form.main.layout.end(), {"TextBox First", "TextBox Second"});
+    form.main.values.emplace_back("First=kept");
+    form.main.rules = {"First/CLEAR=A"};
+    form.Then([&] { robot::ReplaceText(form["Second"], "x"); });
+    form.Then(
+        [&]
+        {
+            EXPECT_EQ(robot::TextOf(form["Second"]), "x");
+            EXPECT_EQ(robot::TextOf(form["First"]), "kept");
+        });
+    form.Ok().Open();
+}
+
 TEST_F(Options, ADisabledGroupKeepsItsValueAndItsMarks)
 {
     form.main.layout.emplace_back("CheckBox Box");
