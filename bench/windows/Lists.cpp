@@ -88,6 +88,8 @@ public:
         Click(m_button);
         SetCursor(LoadCursorA(nullptr, IDC_WAIT));
         Insert(source);
+        // The arrow comes back twice: after the fill, and after the press.
+        SetCursor(LoadCursorA(nullptr, IDC_ARROW));
         SetCursor(LoadCursorA(nullptr, IDC_ARROW));
     }
     void Empty() const { SendMessageA(m_window, m_kind.reset, 0, 0); }
@@ -132,13 +134,26 @@ public:
         m_form.main.output = {"(\"x\")", "$OUTPUT, Count", "(\"" + std::to_string(count) + "\")"};
     }
 
-    void Run(const std::function<void()>& act) { m_form.Then(act).Ok().Open(); }
-    void Fill() const { Click(m_form["Fill"]); }
+    void Run(const std::function<void()>& act)
+    {
+        // The windows are looked for once: to find one costs as many calls of the platform as a fill.
+        m_form.Then(
+            [&]
+            {
+                m_fill = m_form["Fill"];
+                m_edit = m_form["Edit"];
+                act();
+            });
+        m_form.Ok().Open();
+    }
+    void Fill() const { Click(m_fill); }
     // A change of the field empties the list.
-    void Empty() { SetWindowTextA(m_form["Edit"], std::to_string(++m_changes).c_str()); }
+    void Empty() { SetWindowTextA(m_edit, std::to_string(++m_changes).c_str()); }
 
 private:
     Form m_form;
+    HWND m_fill = nullptr;
+    HWND m_edit = nullptr;
     int m_changes = 0;
 };
 
