@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <memory>
 #include <type_traits>
+#include <utility>
 
 namespace
 {
@@ -103,21 +104,20 @@ BOOL CWnd::SubclassWindow(HWND window)
 
 HWND CWnd::UnsubclassWindow()
 {
-    const HWND window = m_hWnd;
+    const HWND window = std::exchange(m_hWnd, nullptr);
+    const WNDPROC super = std::exchange(m_pfnSuper, nullptr);
     if (window == nullptr)
         return nullptr;
     if (::GetWindowLongPtrA(window, GWLP_WNDPROC) == reinterpret_cast<LONG_PTR>(WindowProcedure))
     {
         WindowMap::Get().RemovePermanent(window);
-        ::SetWindowLongPtrA(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(m_pfnSuper));
+        ::SetWindowLongPtrA(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(super));
     }
     else
     {
         // Somebody joined the window after us. To put back what we found would take them out of the chain.
-        WindowMap::Get().Leave(window, m_pfnSuper);
+        WindowMap::Get().Leave(window, super);
     }
-    m_hWnd = nullptr;
-    m_pfnSuper = nullptr;
     return window;
 }
 
@@ -211,8 +211,10 @@ BOOL CWnd::OnChildNotify(UINT /*message*/, WPARAM /*wParam*/, LPARAM /*lParam*/,
 
 void CWnd::OnNcDestroy()
 {
-    const WNDPROC super = m_pfnSuper;
-    const HWND window = UnsubclassWindow();
+    const HWND window = std::exchange(m_hWnd, nullptr);
+    const WNDPROC super = std::exchange(m_pfnSuper, nullptr);
+    // The window is about to go: to put the procedure below back in would be a call of the platform for nothing.
+    WindowMap::Get().Leave(window, super);
     const MSG& message = CurrentMessage::Get();
     ::CallWindowProcA(super, window, WM_NCDESTROY, message.wParam, message.lParam);
     WindowMap::Get().RemovePermanent(window);
