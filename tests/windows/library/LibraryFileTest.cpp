@@ -1,12 +1,15 @@
 // The built DLL as a file: what it exports and imports, how it may be loaded, what it says of itself.
+#include "BuiltFile.h"
 #include "CallerInC.h"
 #include "support/Image.h"
 #include "support/Modules.h"
 
 #include <gtest/gtest.h>
 
+#include <cstring>
 #include <set>
 #include <string>
+#include <string_view>
 #include <vector>
 #include <windows.h>
 
@@ -19,6 +22,17 @@ protected:
     HMODULE m_module = GetModuleHandleA("lyt64.dll");
     const Image image{m_module};
 };
+
+// Where the call goes whose first byte stands at a place of the code.
+size_t CallTarget(std::string_view code, size_t place)
+{
+    int distance = 0;
+    constexpr size_t length = 1 + sizeof distance;
+    if (place + length > code.size())
+        return std::string_view::npos;
+    std::memcpy(&distance, code.data() + place + 1, sizeof distance);
+    return place + length + static_cast<size_t>(distance);
+}
 
 } // namespace
 
@@ -55,6 +69,35 @@ TEST_F(LibraryFile, MayBeLoadedAnywhereAndRunsNoData)
     EXPECT_TRUE(flags & IMAGE_DLLCHARACTERISTICS_DYNAMIC_BASE);
     EXPECT_TRUE(flags & IMAGE_DLLCHARACTERISTICS_NX_COMPAT);
     EXPECT_TRUE(flags & 0x0020) << "high-entropy addresses";
+}
+
+TEST_F(LibraryFile, HasNoSectionThatIsBothWrittenAndRun)
+{
+    constexpr DWORD both = IMAGE_SCN_MEM_WRITE | IMAGE_SCN_MEM_EXECUTE;
+    ASSERT_FALSE(image.Sections().empty());
+    for (const IMAGE_SECTION_HEADER& section : image.Sections())
+        EXPECT_NE(section.Characteristics & both, both) << section.VirtualAddress;
+}
+
+// The compiler guards each function that holds an array. That it does so is an error of the build otherwise; here is
+// seen that the guards have come into the file.
+TEST_F(LibraryFile, ChecksItsStackInHundredsOfFunctions)
+{
+    const std::string_view code = image.Code();
+    const size_t failure = code.find(std::string_view("\xB9\x02\x00\x00\x00\xCD\x29", 7)); // mov ecx, 2; int 0x29
+    ASSERT_NE(failure, std::string_view::npos);
+    size_t calls = 0;
+    for (size_t place = code.find('\xE8'); place < failure; place = code.find('\xE8', place + 1))
+        calls += CallTarget(code, place) == failure ? 1 : 0;
+    EXPECT_GT(calls, 200U);
+}
+
+TEST_F(LibraryFile, NamesNoFolderOfItsBuild)
+{
+    const std::string bytes = ReadBuiltFile("lyt64.dll");
+    ASSERT_FALSE(bytes.empty());
+    for (const char* folder : {LYT_SOURCE_FOLDER, "/home/", "/root/", "/tmp/", "/usr/", "src/", ".cpp"})
+        EXPECT_EQ(bytes.find(folder), std::string::npos) << folder;
 }
 
 TEST_F(LibraryFile, CarriesNoTimeOfItsBuild)

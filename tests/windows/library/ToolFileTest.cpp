@@ -1,28 +1,11 @@
 // lytcall as a file: it is handed out with the library.
+#include "BuiltFile.h"
+
 #include <gtest/gtest.h>
-
-#include <fstream>
-#include <iterator>
-#include <string>
-#include <windows.h>
-
-namespace
-{
-
-std::string ReadToolFile()
-{
-    char path[MAX_PATH] = "";
-    GetModuleFileNameA(GetModuleHandleA("lyt64.dll"), path, sizeof path);
-    const std::string library = path;
-    std::ifstream file(library.substr(0, library.find_last_of('\\')) + "\\lytcall.exe", std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
-}
-
-} // namespace
 
 TEST(ToolFile, IsSmallAndCarriesNoSymbols)
 {
-    const std::string file = ReadToolFile();
+    const std::string file = ReadBuiltFile("lytcall.exe");
     ASSERT_GT(file.size(), sizeof(IMAGE_DOS_HEADER));
     EXPECT_LT(file.size(), 1000000U);
     const auto* dos = reinterpret_cast<const IMAGE_DOS_HEADER*>(file.data());

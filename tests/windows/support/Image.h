@@ -2,7 +2,9 @@
 #pragma once
 
 #include <set>
+#include <span>
 #include <string>
+#include <string_view>
 
 #include <windows.h>
 
@@ -20,6 +22,15 @@ public:
     const IMAGE_NT_HEADERS64& Headers() const
     {
         return *At<IMAGE_NT_HEADERS64>(static_cast<ULONGLONG>(At<IMAGE_DOS_HEADER>(0)->e_lfanew));
+    }
+    std::span<const IMAGE_SECTION_HEADER> Sections() const
+    {
+        return {IMAGE_FIRST_SECTION(&Headers()), Headers().FileHeader.NumberOfSections};
+    }
+    std::string_view Code() const
+    {
+        const IMAGE_OPTIONAL_HEADER64& header = Headers().OptionalHeader;
+        return {At<char>(header.BaseOfCode), header.SizeOfCode};
     }
     // The offset of a table, such as that of the exports; 0 when there is none.
     DWORD Directory(int which) const { return Headers().OptionalHeader.DataDirectory[which].VirtualAddress; }
