@@ -151,11 +151,6 @@ int CString::ReverseFind(char ch) const
     return Index(m_text.rfind(ch));
 }
 
-int CString::Compare(const char* text) const
-{
-    return std::strcmp(m_text.c_str(), OrEmpty(text));
-}
-
 int CString::CompareNoCase(const char* text) const
 {
     const char* left = m_text.c_str();

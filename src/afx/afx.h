@@ -68,9 +68,7 @@ public:
     int FindOneOf(const char* characters) const;
     int ReverseFind(char ch) const;
 
-    // Byte for byte; negative, 0 or positive.
-    int Compare(const char* text) const;
-    // The same with the letters of code page 1252 folded to lower case.
+    // Byte for byte, with the letters of code page 1252 folded to lower case; negative, 0 or positive.
     int CompareNoCase(const char* text) const;
 
     // Case folding follows code page 1252, whatever the locale of the process is.

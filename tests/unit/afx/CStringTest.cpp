@@ -1,3 +1,5 @@
+#include "RaisesInvalidArgument.h"
+
 #include <afx.h>
 
 #include <gtest/gtest.h>
@@ -41,9 +43,9 @@ TEST(CString, FindsFromBothEnds)
 
 TEST(CString, FoldsTheLettersOfCodePage1252)
 {
-    CString text("A\xC4\xD7\x8A\x9F[");
-    EXPECT_EQ(text.MakeLower(), "a\xE4\xD7\x9A\xFF[");
-    EXPECT_EQ(text.MakeUpper(), "A\xC4\xD7\x8A\x9F[");
+    CString text("A\xC4\xD7\x8A\x8C\x8E\x9F[");
+    EXPECT_EQ(text.MakeLower(), "a\xE4\xD7\x9A\x9C\x9E\xFF[");
+    EXPECT_EQ(text.MakeUpper(), "A\xC4\xD7\x8A\x8C\x8E\x9F[");
     EXPECT_EQ(CString("\xDC"
                       "ber")
                   .CompareNoCase("\xFC"
@@ -63,14 +65,12 @@ TEST(CString, FormatsItself)
 
 TEST(CString, RaisesInvalidArgumentOutsideTheText)
 {
-    const CString text("ab");
+    CString text("ab");
     EXPECT_EQ(text[2], '\0');
-    EXPECT_THROW(
-        try { text.GetAt(3); } catch (CInvalidArgException* e) {
-            e->Delete();
-            throw 1;
-        },
-        int);
+    EXPECT_TRUE(RaisesInvalidArgument([&] { text.GetAt(3); }));
+    EXPECT_TRUE(RaisesInvalidArgument([&] { text.SetAt(2, 'c'); }));
+    EXPECT_TRUE(RaisesInvalidArgument([&] { text.SetAt(-1, 'c'); }));
+    EXPECT_EQ(text, "ab");
 }
 
 TEST(CString, LendsItsBuffer)

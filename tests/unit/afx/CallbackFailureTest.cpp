@@ -1,6 +1,6 @@
-#include <CallbackFailure.h>
+#include "RaisesInvalidArgument.h"
 
-#include <afx.h>
+#include <CallbackFailure.h>
 
 #include <gtest/gtest.h>
 
@@ -44,13 +44,5 @@ TEST(CallbackFailure, KeepsAnExceptionThatTravelsAsAPointer)
 {
     CallbackFailure failure;
     EXPECT_FALSE(failure.Run([] { AfxThrowInvalidArgException(); }));
-    try
-    {
-        failure.Rethrow();
-        FAIL() << "nothing was raised";
-    }
-    catch (CInvalidArgException* e)
-    {
-        e->Delete();
-    }
+    EXPECT_TRUE(RaisesInvalidArgument([&] { failure.Rethrow(); }));
 }

@@ -1,5 +1,7 @@
 #include "base/ClytOwnedList.h"
 
+#include "RaisesInvalidArgument.h"
+
 #include <gtest/gtest.h>
 
 namespace
@@ -14,21 +16,6 @@ public:
 private:
     int* m_deaths;
 };
-
-template <class Function>
-bool RaisesInvalidArgument(Function function)
-{
-    try
-    {
-        function();
-        return false;
-    }
-    catch (CInvalidArgException* e)
-    {
-        e->Delete();
-        return true;
-    }
-}
 
 } // namespace
 
@@ -75,8 +62,19 @@ TEST(CStringArray, ChecksItsBounds)
     EXPECT_TRUE(RaisesInvalidArgument([&] { array.GetAt(2); }));
     EXPECT_TRUE(RaisesInvalidArgument([&] { array.GetAt(-1); }));
     EXPECT_TRUE(RaisesInvalidArgument([&] { array.RemoveAt(2); }));
+    EXPECT_TRUE(RaisesInvalidArgument([&] { array.InsertAt(-1, "c"); }));
+    EXPECT_TRUE(RaisesInvalidArgument([&] { array.SetSize(-1); }));
     array.RemoveAt(0);
     EXPECT_EQ(array.GetCount(), 1);
+}
+
+TEST(CStringArray, GrowsByEmptyTextsUpToAnElementBeyondItsEnd)
+{
+    CStringArray array;
+    array.InsertAt(2, "c");
+    ASSERT_EQ(array.GetCount(), 3);
+    EXPECT_EQ(array[1], "");
+    EXPECT_EQ(array[2], "c");
 }
 
 TEST(CMapStringToPtr, LeavesTheValueAloneWhenTheKeyIsMissing)

@@ -119,6 +119,16 @@ TEST_F(ReportRead, FreshStoreIsReadFromItsOwnBeginning)
     EXPECT_EQ(Line(0), "1:fresh");
 }
 
+TEST_F(ReportRead, TakesSeveralLinesInTheirOrder)
+{
+    CStringList lines;
+    lines.AddTail("four");
+    lines.AddTail("five");
+    AddReportLines(lines);
+    EXPECT_EQ(Line(4), "1:four");
+    EXPECT_EQ(Line(5), "1:five");
+}
+
 TEST_F(ReportRead, LinesAddedAfterTheLastReadAreReached)
 {
     EXPECT_EQ(Line(3), "1:three");
