@@ -1,8 +1,8 @@
 #include "lytdlg/draw/GraphCommand.h"
 
+#include "commandline/RunProgram.h"
 #include "lytdlg/draw/Graphs.h"
 #include "lytdlg/draw/Output.h"
-#include "lytdlg/draw/RunProgram.h"
 #include "lytdlg/text/Paths.h"
 #include "lytdlg/text/TextFile.h"
 
@@ -40,7 +40,7 @@ ExitCode TellMistakes(const Description& description)
 void WriteSvg(const std::string& target, const std::string& graph)
 {
     const TemporaryFile source(graph);
-    const int code = RunProgram({"dot", "-Tsvg", "-o", target, source.Name().string()});
+    const int code = commandline::RunProgram({"dot", "-Tsvg", "-o", target, source.Name().string()});
     if (code < 0)
         throw std::runtime_error(
             "an .svg needs Graphviz, which is not installed: apt-get install graphviz, or on Windows "

@@ -1,6 +1,6 @@
+#include "commandline/RunProgram.h"
 #include "lytdlg/draw/Output.h"
 #include "lytdlg/draw/Png.h"
-#include "lytdlg/draw/RunProgram.h"
 #include "lytdlg/text/TextFile.h"
 
 #include <stdexcept>
@@ -11,7 +11,7 @@ namespace lytdlg
 void WritePng(const std::string& file, HWND /*window*/, const std::string& svg)
 {
     const TemporaryFile drawing(svg);
-    const int code = RunProgram({"rsvg-convert", "-o", file, drawing.Name().string()});
+    const int code = commandline::RunProgram({"rsvg-convert", "-o", file, drawing.Name().string()});
     if (code < 0)
         throw std::runtime_error("a PNG needs rsvg-convert, which is not installed: apt-get install librsvg2-bin, or "
                                  "write an .svg");

@@ -1,10 +1,10 @@
-#include "lytdlg/draw/RunProgram.h"
+#include "commandline/RunProgram.h"
 
 #include <spawn.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
-namespace lytdlg
+namespace commandline
 {
 
 int RunProgram(const std::vector<std::string>& words)
@@ -24,4 +24,9 @@ int RunProgram(const std::vector<std::string>& words)
     return code != notStarted ? code : -1;
 }
 
-} // namespace lytdlg
+std::string WordOfMain(const std::string& word)
+{
+    return word;
+}
+
+} // namespace commandline

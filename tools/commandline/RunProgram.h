@@ -1,0 +1,17 @@
+// Runs another program and waits for it.
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace commandline
+{
+
+// The words are in UTF-8. The first is the program, which is looked for as a shell does. Gives its exit code; -1 when there
+// is none.
+int RunProgram(const std::vector<std::string>& words);
+
+// A word that `main` was given, in UTF-8.
+std::string WordOfMain(const std::string& word);
+
+} // namespace commandline
