@@ -17,12 +17,6 @@ CString Rule()
     return CString('-', 77) + "\n";
 }
 
-// The first dot of the whole path counts, even one in a folder's name; without a dot nothing of the name stays.
-CString LogNameOf(const CString& docName)
-{
-    return docName.Left(docName.Find('.')) + ".log";
-}
-
 CString Formatted(const char* format, const std::tm& time)
 {
     char text[128] = "";
@@ -48,6 +42,11 @@ void Guarded(CStdioFile& file, const char* number, const CString& logName, Step 
 
 } // namespace
 
+CString lytLogNameOf(const CString& docName)
+{
+    return docName.Left(docName.Find('.')) + ".log";
+}
+
 CString lytLogBannerLine(const char* word, std::time_t time)
 {
     std::tm local = {};
@@ -68,7 +67,7 @@ void ClytLogFile::Open(int currentLevel)
     if (level == 0)
         return;
 
-    logName = LogNameOf(logName);
+    logName = lytLogNameOf(logName);
     CFileException error;
     if (!CStdioFile::Open(logName, logFlags, &error))
         lytRaise("207", lytMessageOf(error), logName);

@@ -44,6 +44,10 @@ private:
     int level = 0;
 };
 
+// The log of a document. The first dot of the whole path counts, even one in a folder's name; without a dot nothing of the
+// name stays.
+CString lytLogNameOf(const CString& docName);
+
 // A banner's line for a time, "START...  " or "END...    " in front. A time that is no date raises the
 // invalid-argument exception; a date or time that cannot be formatted is left out.
 CString lytLogBannerLine(const char* word, std::time_t time);
