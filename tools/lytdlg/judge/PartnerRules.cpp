@@ -1,13 +1,13 @@
 #include "lytdlg/judge/PartnerRules.h"
 
-#include "lytdlg/judge/Controls.h"
 #include "lytdlg/judge/ExportTable.h"
+#include "lytdlg/judge/Names.h"
+#include "lytdlg/judge/PartnerCalls.h"
 #include "lytdlg/text/Paths.h"
 #include "lytdlg/text/TextFile.h"
 
 #include <algorithm>
 #include <map>
-#include <sstream>
 
 namespace lytdlg
 {
@@ -56,61 +56,6 @@ constexpr Rule shared = {
     "$LAYOUT Example\n    ListBox 520, 12, 100, 34, .More\n    CheckListBox 520, 64, 100, 34, .Most\n"
     "$VALUES\n    More = FILLEDBY, lytdata, Open, Next\n    Most = FILLEDBY, other, Open, Next"};
 
-constexpr const char* ownLibrary = "lyt64.dll";
-
-// A library that a statement names, with the functions that it calls.
-struct PartnerCall
-{
-    const ValueStatement* statement = nullptr;
-    Kind kind = Kind::Unknown;
-    std::string library;
-    std::vector<std::string> functions;
-    bool isAction = false;
-};
-
-std::vector<PartnerCall> CallsOf(const Description& description)
-{
-    std::vector<PartnerCall> calls;
-    for (const ValueStatement& statement : description.values)
-    {
-        const ClytControlStatement* control = description.FindControl(statement.name);
-        if (control == nullptr || statement.values.size() < 2)
-            continue;
-        const Kind kind = KindOf(*control);
-        const bool isFilled = lytMeaningOf<ClytKeyword>(statement.keyword.c_str()) == ClytKeyword::FilledBy;
-        const bool isAction =
-            kind == Kind::Button && lytMeaningOf<ClytAction>(statement.keyword.c_str()) == ClytAction::Action;
-        if (!isAction && !(isFilled && (HasItems(kind) || kind == Kind::Field)))
-            continue;
-        PartnerCall call = {&statement, kind, statement.values[0], {statement.values[1]}, isAction};
-        // The second function gives the next item; for a field it means nothing.
-        if (HasItems(kind) && statement.values.size() > 2)
-            call.functions.push_back(statement.values[2]);
-        calls.push_back(std::move(call));
-    }
-    return calls;
-}
-
-// As the platform completes a name before it looks for the file.
-std::string FileNameOf(const std::string& name)
-{
-    const std::string file = name.substr(name.find_last_of("\\/") + 1);
-    return file.find('.') == std::string::npos ? file + ".dll" : file;
-}
-
-const ExportTable& OwnExports()
-{
-    static const ExportTable table = []
-    {
-        ExportTable own = {LibraryForm::Library, {}};
-        std::istringstream names(LYT_EXPORTED_NAMES);
-        for (std::string name; std::getline(names, name, ',');)
-            own.names.push_back(name);
-        return own;
-    }();
-    return table;
-}
-
 // The libraries of the folders, each read once.
 class Partners
 {
@@ -121,8 +66,8 @@ public:
     // Null when no folder holds the file.
     const ExportTable* Find(const std::string& fileName)
     {
-        if (IsSameName(fileName, ownLibrary))
-            return &OwnExports();
+        if (IsOwnLibrary(fileName))
+            return &m_own;
         const auto known = m_tables.find(fileName);
         if (known != m_tables.end())
             return &known->second;
@@ -140,14 +85,8 @@ public:
 private:
     const std::vector<std::string>& m_folders; // of the surroundings, which outlive the judging
     std::map<std::string, ExportTable> m_tables;
+    const ExportTable m_own = {LibraryForm::Library, OwnFunctions()};
 };
-
-ClytSpan PlaceOf(const Case& judged, const PartnerCall& call, const std::string& word)
-{
-    const ClytSpan& span = call.statement->span;
-    const auto after = span.column + static_cast<int>(call.statement->name.size());
-    return judged.description.PlaceOf(span.line, word, after);
-}
 
 void JudgeFunctions(const Case& judged, const PartnerCall& call, const ExportTable& table)
 {
@@ -156,7 +95,8 @@ void JudgeFunctions(const Case& judged, const PartnerCall& call, const ExportTab
         if (std::ranges::find(table.names, name) != table.names.end())
             continue;
         judged.findings
-            .Add(function, PlaceOf(judged, call, name), FileNameOf(call.library) + " has no function " + InQuotes(name),
+            .Add(function, PlaceOf(judged.description, call, name),
+                 LibraryFileName(call.library) + " has no function " + InQuotes(name),
                  MeantOr(name, table.names, "name one of its functions"))
             .number = call.isAction ? "232" : "";
     }
@@ -164,19 +104,20 @@ void JudgeFunctions(const Case& judged, const PartnerCall& call, const ExportTab
 
 void JudgeCall(const Case& judged, const PartnerCall& call, Partners& partners)
 {
-    const std::string file = FileNameOf(call.library);
+    const std::string file = LibraryFileName(call.library);
     const ExportTable* table = partners.Find(file);
     if (table == nullptr)
     {
         if (partners.AreKnown())
             judged.findings
-                .Add(library, PlaceOf(judged, call, call.library), file + " is in none of the folders for libraries",
+                .Add(library, PlaceOf(judged.description, call, call.library),
+                     file + " is in none of the folders for libraries",
                      "check its name, or give its folder with --partners")
                 .number = call.isAction ? "233" : "";
     }
     else if (table->form != LibraryForm::Library)
         judged.findings
-            .Add(form, PlaceOf(judged, call, call.library),
+            .Add(form, PlaceOf(judged.description, call, call.library),
                  table->form == LibraryForm::OtherBits ? file + " is no 64-bit library"
                                                        : file + " is no library, or is damaged",
                  "build it for 64 bits")
@@ -199,11 +140,11 @@ void JudgeShared(const Case& judged, const std::vector<PartnerCall>& calls)
         if (call.isAction)
             continue;
         const PartnerCall* before = first.emplace(SharedKind(call.kind), &call).first->second;
-        if (!IsSameName(FileNameOf(before->library), FileNameOf(call.library)))
-            judged.findings.Add(shared, PlaceOf(judged, call, call.library),
+        if (!IsSameName(LibraryFileName(before->library), LibraryFileName(call.library)))
+            judged.findings.Add(shared, PlaceOf(judged.description, call, call.library),
                                 InQuotes(before->statement->name) + " in line " +
                                     std::to_string(before->statement->span.line) + " names " +
-                                    FileNameOf(before->library) + ", and controls of one type share a library",
+                                    LibraryFileName(before->library) + ", and controls of one type share a library",
                                 "put the functions into one library");
     }
 }
@@ -215,7 +156,7 @@ Family PartnerRules()
     return {{&library, &form, &function, &shared},
             [](const Case& judged)
             {
-                const std::vector<PartnerCall> calls = CallsOf(judged.description);
+                const std::vector<PartnerCall> calls = PartnerCallsOf(judged.description);
                 Partners partners(judged.surroundings.partners);
                 for (const PartnerCall& call : calls)
                     JudgeCall(judged, call, partners);
