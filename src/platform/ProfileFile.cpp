@@ -1,4 +1,5 @@
 // The platform's profile functions. One table of cases in the tests runs against both.
+#include "platform/MemoryFiles.h"
 #include "platform/NativePath.h"
 
 #include <windows.h>
@@ -74,8 +75,14 @@ bool SameName(std::string_view left, std::string_view right)
 // so it is read at once and without a stream.
 std::string ReadWholeFile(const char* fileName)
 {
+    const std::string path = NativePath(fileName);
+    if (platform::IsInMemory(path))
+    {
+        const std::string* held = platform::FindMemoryFile(path);
+        return held != nullptr ? *held : std::string();
+    }
     std::string content;
-    const FileToRead file(NativePath(fileName));
+    const FileToRead file(path);
     char block[16384];
     for (ssize_t count = sizeof block; count == sizeof block;)
     {

@@ -2,6 +2,7 @@
 // folders and a folder is no file.
 #include <StdioStream.h>
 
+#include "platform/MemoryFiles.h"
 #include "platform/NativePath.h"
 
 #include <cerrno>
@@ -29,6 +30,16 @@ int GetTextCharacter(std::FILE* stream)
     return ch;
 }
 
+// The flags mean the same for a file in memory.
+std::FILE* OpenInMemory(const std::string& path, UINT flags)
+{
+    if ((flags & CFile::modeWrite) == 0)
+        return platform::OpenMemoryFileToRead(path);
+    if ((flags & CFile::modeNoTruncate) == 0)
+        platform::RemoveMemoryFile(path.c_str());
+    return platform::OpenMemoryFileToAppend(path);
+}
+
 bool IsFolder(const char* path)
 {
     struct stat status = {};
@@ -40,6 +51,8 @@ bool IsFolder(const char* path)
 std::FILE* OpenTextStream(const char* fileName, UINT flags)
 {
     const std::string path = NativePath(fileName);
+    if (platform::IsInMemory(path))
+        return OpenInMemory(path, flags);
     if (IsFolder(path.c_str()))
     {
         errno = EACCES;

@@ -1,7 +1,7 @@
 #include "support/FormattingProof.h"
 
+#include "lytdlg/text/FileForLibrary.h"
 #include "lytdlg/text/Format.h"
-#include "lytdlg/text/TextFile.h"
 #include "support/DescriptionRecords.h"
 
 #include <algorithm>
@@ -31,7 +31,7 @@ std::string FirstDifference(const std::string& before, const std::string& after)
 
 std::string BreachOfFormatting(const std::string& content)
 {
-    const lytdlg::TemporaryFile beforeFile(content);
+    const lytdlg::FileForLibrary beforeFile(content);
     const std::string before = beforeFile.Name().string();
     std::string formatted;
     try
@@ -42,7 +42,7 @@ std::string BreachOfFormatting(const std::string& content)
     {
         return {};
     }
-    const lytdlg::TemporaryFile afterFile(formatted);
+    const lytdlg::FileForLibrary afterFile(formatted);
     const std::string after = afterFile.Name().string();
     const std::string again = lytdlg::FormattedDescription(after, formatted);
     if (again != formatted)

@@ -1,4 +1,5 @@
 // The one form of a description, section by section, and what is left as it is.
+#include "lytdlg/text/FileForLibrary.h"
 #include "lytdlg/text/Format.h"
 #include "lytdlg/text/TextFile.h"
 #include "support/DescriptionText.h"
@@ -14,7 +15,7 @@ using SectionText = std::string DescriptionText::*;
 
 std::string Formatted(const std::string& content)
 {
-    const lytdlg::TemporaryFile file(content);
+    const lytdlg::FileForLibrary file(content);
     return lytdlg::FormattedDescription(file.Name(), content);
 }
 

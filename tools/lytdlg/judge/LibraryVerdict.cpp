@@ -4,8 +4,8 @@
 #include "environment/ClytEnvironment.h"
 #include "environment/ProcessState.h"
 #include "liveform/LiveForm.h"
+#include "lytdlg/text/FileForLibrary.h"
 #include "lytdlg/text/Paths.h"
-#include "lytdlg/text/TextFile.h"
 #include "lytdlg/text/Words.h"
 #include "robot/WindowRobot.h"
 
@@ -114,7 +114,7 @@ bool StandsFor(const Finding& finding, const Refusal& refusal)
 
 std::optional<Refusal> RefusalOf(const Description& description)
 {
-    const TemporaryFile file(description.text.Bytes());
+    const FileForLibrary file(description.text.Bytes());
     const WithoutTexts noTexts(NameForLibrary(file.Name().parent_path() / "none"));
     const BoxAnswerer answerer;
     lytInputKey.Empty();

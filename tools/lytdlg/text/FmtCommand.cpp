@@ -2,6 +2,7 @@
 
 #include "lytdlg/text/BinaryStream.h"
 #include "lytdlg/text/DescriptionPaths.h"
+#include "lytdlg/text/FileForLibrary.h"
 #include "lytdlg/text/Format.h"
 #include "lytdlg/text/LineDiff.h"
 #include "lytdlg/text/Paths.h"
@@ -51,7 +52,7 @@ std::optional<std::string> FormOf(const std::string& name, const fs::path& file,
 ExitCode FormatInput(Task task)
 {
     const std::string content = ReadStandardInput();
-    const TemporaryFile file(content);
+    const FileForLibrary file(content);
     const std::optional<std::string> form = FormOf("the standard input", file.Name(), content);
     const std::string& text = form ? *form : content;
     if (task == Task::Write)
