@@ -20,6 +20,8 @@ namespace platform
 namespace
 {
 
+constexpr LONG farthest = 1 << 29;
+
 template <class WINDOW>
 std::unique_ptr<Window> Make()
 {
@@ -50,6 +52,20 @@ LRESULT Window::Handle(UINT message, WPARAM wParam, LPARAM lParam)
 bool Window::IsFocused() const
 {
     return ::GetFocus() == handle;
+}
+
+void Window::MoveTo(POINT corner)
+{
+    const LONG x = std::clamp(corner.x, -farthest, farthest);
+    const LONG y = std::clamp(corner.y, -farthest, farthest);
+    place = {x, y, x + place.right - place.left, y + place.bottom - place.top};
+}
+
+void Window::Resize(SIZE wanted)
+{
+    const SIZE size = Adjusted({std::clamp<LONG>(wanted.cx, 0, farthest), std::clamp<LONG>(wanted.cy, 0, farthest)});
+    place.right = place.left + size.cx;
+    place.bottom = place.top + size.cy;
 }
 
 SIZE Window::Frame() const

@@ -37,6 +37,10 @@ public:
     // The size that a window of the class takes when it is given one.
     virtual SIZE Adjusted(SIZE wanted) const { return wanted; }
 
+    // Programs may ask for any numbers. The window takes only such that sums of a few of them do not overflow.
+    void MoveTo(POINT corner);
+    void Resize(SIZE wanted);
+
     bool HasStyle(DWORD flag) const { return (style & flag) != 0; }
     // Visible and enabled itself, whatever its parents are.
     bool IsReady() const { return HasStyle(WS_VISIBLE) && !HasStyle(WS_DISABLED); }

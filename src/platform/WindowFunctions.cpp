@@ -37,13 +37,6 @@ void Remove(HWND window)
         desktop.Forget(window);
 }
 
-void Resize(Window& window, SIZE wanted)
-{
-    const SIZE size = window.Adjusted({std::max<LONG>(0, wanted.cx), std::max<LONG>(0, wanted.cy)});
-    window.place.right = window.place.left + size.cx;
-    window.place.bottom = window.place.top + size.cy;
-}
-
 HWND HandleOf(const Window* window)
 {
     return window != nullptr ? window->handle : nullptr;
@@ -83,9 +76,9 @@ HWND CreateWindowExA(DWORD exStyle, LPCSTR className, LPCSTR text, DWORD style, 
     made->exStyle = exStyle;
     made->id = static_cast<int>(reinterpret_cast<INT_PTR>(id));
     made->text = text != nullptr ? text : "";
-    made->place = {x, y, x, y};
+    made->MoveTo({x, y});
     Window& window = desktop.Adopt(std::move(made), above);
-    Resize(window, {width, height});
+    window.Resize({width, height});
     window.OnCreated();
     return window.handle;
 }

@@ -75,16 +75,10 @@ BOOL SetWindowPos(HWND window, HWND /*insertAfter*/, int x, int y, int width, in
     if (found == nullptr)
         return FALSE;
     const SIZE before = found->ClientSize();
-    SIZE size{found->place.right - found->place.left, found->place.bottom - found->place.top};
-    if ((flags & SWP_NOSIZE) == 0)
-        size = found->Adjusted({std::max(width, 0), std::max(height, 0)});
     if ((flags & SWP_NOMOVE) == 0)
-    {
-        found->place.left = x;
-        found->place.top = y;
-    }
-    found->place.right = found->place.left + size.cx;
-    found->place.bottom = found->place.top + size.cy;
+        found->MoveTo({x, y});
+    if ((flags & SWP_NOSIZE) == 0)
+        found->Resize({width, height});
     if ((flags & SWP_HIDEWINDOW) != 0)
         found->style &= ~DWORD{WS_VISIBLE};
     if ((flags & SWP_SHOWWINDOW) != 0)
