@@ -158,6 +158,12 @@ TEST(Agreement, OnSamplesIsThatAllOfThemOpen)
     }
 }
 
+TEST(Agreement, OnADialogLineAboveTheHeadersIsThatItIsFreeText)
+{
+    for (const std::string& bytes : Texts())
+        ExpectAgreement("Begin Dialog Box 512, 148, \"Title\", .Main\n" + bytes);
+}
+
 TEST(Agreement, OnMutationsIsThatErrorsAreWhatTheLibraryRefuses)
 {
     ForEachMutation([](const std::string& bytes) { ExpectAgreement(bytes); });

@@ -327,7 +327,9 @@ Section DescriptionText::Opened(SourceLine& line, Section present)
     const HeaderWord word = HeaderWordOf(line.text, present);
     if (word.text.empty())
         return present;
-    if (present == Section::Head && word.text == "Begin" && word.next == "Dialog")
+    // Above the header of the layout it is free text.
+    const bool isDialogLine = word.text == "Begin" && word.next == "Dialog";
+    if (present == Section::Head && isDialogLine && !HasBelow(Section::Layout, line.number))
         return Section::Layout;
     for (const Section section : allSections)
     {
