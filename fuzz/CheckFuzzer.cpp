@@ -1,14 +1,20 @@
-// The input is a whole description: it is judged by every rule, and each finding is put into words.
+// Judges a description by every rule, and puts each finding into words.
+#include "fuzz/frame/Fuzzer.h"
+#include "fuzz/frame/Samples.h"
 #include "lytdlg/judge/Report.h"
 
-#include <cstdint>
+namespace
+{
 
-extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
+void Run(const std::string& input)
 {
     static const lytdlg::Surroundings surroundings = lytdlg::SurroundingsOf("", {});
-    const lytdlg::Description description("fuzz.dlg", {reinterpret_cast<const char*>(data), size}, {});
+    const lytdlg::Description description("fuzz.dlg", input, {});
     const lytdlg::Findings findings = lytdlg::Judge(description, surroundings);
     for (const lytdlg::Finding& finding : findings.All())
         static_cast<void>(lytdlg::TextOf(finding, description, true));
-    return 0;
 }
+
+} // namespace
+
+const Fuzzer checkFuzzer = {"check", "a description, judged by lytdlg", Run, SampleDescriptions};

@@ -1,7 +1,16 @@
-#include "fuzz/Targets.h"
+// Opens a description, and uses it.
+#include "fuzz/frame/Fuzzer.h"
+#include "fuzz/frame/Samples.h"
+#include "fuzz/frame/UsedForm.h"
 
-extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
+namespace
 {
-    FuzzDescription(data, size);
-    return 0;
+
+void Run(const std::string& input)
+{
+    UseForm(input, "1,a(b;c)[d]=\"e;f\",g");
 }
+
+} // namespace
+
+const Fuzzer descriptionFuzzer = {"description", "a description, opened and used", Run, SampleDescriptions};

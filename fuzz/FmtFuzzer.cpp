@@ -1,17 +1,23 @@
-// The input is a whole description: formatted twice it changes no more, and formatting changes nothing that is read of it.
+// Formatted twice a description changes no more, and formatting changes nothing that is read of it.
+#include "fuzz/frame/Fuzzer.h"
+#include "fuzz/frame/Samples.h"
 #include "support/FormattingProof.h"
 
-#include <cstdint>
 #include <cstdio>
 #include <cstdlib>
 
-extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
+namespace
 {
-    const std::string breach = BreachOfFormatting({reinterpret_cast<const char*>(data), size});
-    if (!breach.empty())
-    {
-        std::fprintf(stderr, "%s\n", breach.c_str());
-        std::abort();
-    }
-    return 0;
+
+void Run(const std::string& input)
+{
+    const std::string breach = BreachOfFormatting(input);
+    if (breach.empty())
+        return;
+    std::fprintf(stderr, "%s\n", breach.c_str());
+    std::abort();
 }
+
+} // namespace
+
+const Fuzzer fmtFuzzer = {"fmt", "a description, formatted by lytdlg", Run, SampleDescriptions};

@@ -1,7 +1,39 @@
-#include "fuzz/Targets.h"
+// Composes items by a format, and expands the escapes of each.
+#include "dialog/ClytDialog.h"
+#include "fuzz/frame/Attempt.h"
+#include "fuzz/frame/Fuzzer.h"
+#include "fuzz/frame/InputText.h"
 
-extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
+namespace
 {
-    FuzzFormat(data, size);
-    return 0;
+
+constexpr int mostItems = 25;
+
+void Run(const std::string& input)
+{
+    InputText lines(input);
+    const std::string format = lines.Line();
+    CStringArray items;
+    items.SetSize(mostItems);
+    for (int count = 0; count < mostItems && !lines.IsAtEnd(); ++count)
+        items.SetAt(count, lines.Line().c_str());
+    CString text;
+    Attempt([&] { text = ClytDialog::FormatOutput(format.c_str(), items); });
+    ClytDialog::ExpandEscapes(text);
+    text = input.c_str();
+    ClytDialog::ExpandEscapes(text);
 }
+
+std::vector<std::string> Seeds()
+{
+    return {
+        "%s is \\\"%.2s\\\" and %0.5s%5s\\n%s\none\ntwo\nthree\n\\\nfive",
+        "plain text\nitem",
+        "(%s;%s;%s)/1REPT   \nHeading\nR\n%s",
+        "%%%.s%.99999999999s%-5s%\n\\n\n\\t\\",
+    };
+}
+
+} // namespace
+
+const Fuzzer formatFuzzer = {"format", "a format; items, a line each", Run, Seeds};

@@ -1,4 +1,5 @@
-// What the judge says and what the library does: samples, the inputs of the fuzzers, and mutations of both.
+// What the judge says and what the library does: samples, the dialogs of tests, and mutations of both.
+#include "fuzz/frame/Samples.h"
 #include "lytdlg/judge/LibraryVerdict.h"
 #include "lytdlg/judge/Report.h"
 #include "lytdlg/text/TextFile.h"
@@ -13,19 +14,6 @@ namespace
 {
 
 using namespace lytdlg;
-
-const char* const folders[] = {"samples/dialogs", "fuzz/corpus/description"};
-
-std::vector<std::string> Texts()
-{
-    std::vector<std::string> texts;
-    for (const char* folder : folders)
-    {
-        for (const auto& file : FilesIn(std::string(LYT_SOURCE_FOLDER "/") + folder, ".dlg"))
-            texts.push_back(ReadWholeFile(file).value());
-    }
-    return texts;
-}
 
 // The same numbers on every machine.
 class Chance
@@ -127,7 +115,7 @@ bool HasNumberAtItsLine(const Verdict& verdict)
 template <class Act>
 void ForEachMutation(Act act)
 {
-    const std::vector<std::string> texts = Texts();
+    const std::vector<std::string> texts = SampleDescriptions();
     Chance chance;
     for (int count = 0; count < LYT_MUTATIONS; ++count)
     {
@@ -150,7 +138,7 @@ void ExpectAgreement(const std::string& bytes)
 
 TEST(Agreement, OnSamplesIsThatAllOfThemOpen)
 {
-    for (const std::string& bytes : Texts())
+    for (const std::string& bytes : SampleDescriptions())
     {
         const Verdict verdict = VerdictOn(bytes);
         EXPECT_FALSE(verdict.refusal.has_value()) << bytes;
@@ -160,7 +148,7 @@ TEST(Agreement, OnSamplesIsThatAllOfThemOpen)
 
 TEST(Agreement, OnADialogLineAboveTheHeadersIsThatItIsFreeText)
 {
-    for (const std::string& bytes : Texts())
+    for (const std::string& bytes : SampleDescriptions())
         ExpectAgreement("Begin Dialog Box 512, 148, \"Title\", .Main\n" + bytes);
 }
 

@@ -2,18 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include <fstream>
-#include <iterator>
-#include <string>
-
 namespace
 {
-
-std::string DictionaryOfTheFuzzers()
-{
-    std::ifstream file(LYT_SOURCE_FOLDER "/fuzz/words.dict", std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
-}
 
 template <class MEANING>
 class WordTable : public testing::Test
@@ -42,13 +32,6 @@ TYPED_TEST(WordTable, ComparesByteForByte)
         EXPECT_EQ(lytMeaningOf<TypeParam>(CString(word.text) + " "), TypeParam::Other) << word.text;
     }
     EXPECT_EQ(lytMeaningOf<TypeParam>(CString()), TypeParam::Other);
-}
-
-TYPED_TEST(WordTable, StandsInTheDictionaryOfTheFuzzers)
-{
-    const std::string dictionary = DictionaryOfTheFuzzers();
-    for (const auto& word : ClytWordTable<TypeParam>::words)
-        EXPECT_NE(dictionary.find("\"" + std::string(word.text) + "\"\n"), std::string::npos) << word.text;
 }
 
 TEST(Word, KeepsTheTextOfTheDescription)

@@ -1,0 +1,15 @@
+// The partner libraries that the descriptions of the samples name, with what an input gives them to deliver. They stand in
+// the places of the samples' own, which read files.
+#pragma once
+
+#include "lytsrc.h"
+
+#include <string>
+#include <vector>
+
+// Puts them in place. Each class of controls keeps the library that it loads first; they see to it that it is theirs.
+void InstallPartners();
+
+// From now on the catalogue delivers what the lines say: a character for the level (`<` and `>` are the lowest and the
+// highest number), one for the type, the label, a tab and the key.
+void SetCatalogue(const std::string& lines);

@@ -1,0 +1,60 @@
+#include "fuzz/frame/Stage.h"
+
+#include "environment/ProcessState.h"
+#include "fuzz/frame/ActingUser.h"
+#include "fuzz/frame/Attempt.h"
+#include "fuzz/frame/Partners.h"
+#include "platform/MemoryFiles.h"
+
+#include "lyt64.h"
+
+#include <algorithm>
+
+namespace
+{
+
+constexpr const char* configuration = "[global]\nCurrent Language=Test\nTreeLevels=2\n[LogLevel]\nlevel=1\n"
+                                      "[Lists]\nItems=one,two,,three\n";
+constexpr const char* texts = "[Dialog_Error]\n212=Line '' is wrong\n222=Choose another\n207='' cannot be opened\n"
+                              "[x]\nTitle=A title\nLabel=&Label ''\nMessage=No ''\n";
+
+} // namespace
+
+Stage::Stage()
+{
+    // Once for all inputs.
+    [[maybe_unused]] static const bool areInstalled = (InstallPartners(), true);
+    PutFile("lyt.ini", configuration);
+    PutFile("lang/Test.nls", texts);
+    SetCatalogue("");
+    lytInitialiseEnvironment("memory:\\document.txt", stageFolder, stageFolder);
+    lytTreeConfirmCount = 0;
+}
+
+Stage::~Stage()
+{
+    FreeGlobalObject();
+    platform::RemoveMemoryFiles();
+}
+
+void Stage::PutFile(const std::string& name, const std::string& content) const
+{
+    platform::PutMemoryFile((std::string(stageFolder) + "/" + name).c_str(), content);
+}
+
+void Stage::PutDescription(const std::string& name, const std::string& content) const
+{
+    PutFile(name, content);
+    PutFile("nested.dlg", content);
+}
+
+Room::Room(int size, int beyond)
+    : m_size(size), m_bytes(std::make_unique<char[]>(static_cast<size_t>(std::max(size + beyond, 0))))
+{
+}
+
+void CallAsUserActs(const std::string& acts, const std::function<void()>& call)
+{
+    const ActingUser user(acts);
+    Attempt(call);
+}

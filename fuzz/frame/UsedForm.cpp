@@ -1,0 +1,37 @@
+#include "fuzz/frame/UsedForm.h"
+
+#include "controls/ClytPushButtonControl.h"
+#include "environment/ProcessState.h"
+#include "fuzz/frame/Attempt.h"
+#include "liveform/LiveForm.h"
+#include "lytdlg/text/FileForLibrary.h"
+
+namespace
+{
+
+void Use(LiveForm& form)
+{
+    for (POSITION place = form.GetControlList().GetHeadPosition(); place != nullptr;)
+    {
+        ClytControl& control = *form.GetControlList().GetNext(place);
+        // A button may call a library that shows a dialog of its own, which no one would close.
+        if (dynamic_cast<ClytPushButtonControl*>(&control) == nullptr)
+            Attempt([&] { form.Enter(control, "1"); });
+    }
+    Attempt([&] { form.RunInput("other", "a,b;(c)\"d"); });
+    Attempt([&] { form.Confirm(); });
+    CString composed;
+    Attempt([&] { form.ComposeNamedOutput("other", composed); });
+}
+
+} // namespace
+
+void UseForm(const std::string& description, const std::string& input)
+{
+    const lytdlg::FileForLibrary file(description);
+    lytInputKey = input.c_str();
+    LiveForm form(file.Name().string().c_str(), "X,Y");
+    if (form.Open())
+        Use(form);
+    lytInputKey.Empty();
+}

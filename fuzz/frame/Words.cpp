@@ -1,0 +1,77 @@
+#include "fuzz/frame/Words.h"
+
+#include "dialog/ClytDialog.h"
+#include "lytdlg/judge/ControlKinds.h"
+#include "lytdlg/judge/DescriptionText.h"
+#include "model/ClytWords.h"
+
+#include <cstdio>
+
+namespace
+{
+
+// What no table holds: words that stand at one place of the reader, formats, keys of `lyt.ini`, texts with a meaning.
+constexpr const char* furtherWords[] = {
+    "Begin Dialog",
+    "End Dialog",
+    "Rest",
+    "End",
+    "parent",
+    "other",
+    "nested",
+    "lytdata",
+    "OpenList",
+    "NextItem",
+    "LookUp",
+    "lyt64",
+    "%s",
+    "%.3s",
+    "\\n",
+    "\\t",
+    "\\\"",
+    "/LIST",
+    ")/1",
+    "BNG",
+    "##",
+    "global",
+    "LogLevel",
+    "TreeLevels",
+    "TreeWidth",
+    "FONTS",
+    "Dialog_Error",
+    "lytOpenTreeView",
+    "Current Language",
+    "no value present",
+};
+
+std::string Quoted(const std::string& word)
+{
+    std::string quoted;
+    for (const char ch : word)
+        (quoted += ch == '"' || ch == '\\' ? "\\" : "") += ch;
+    return "\"" + quoted + "\"\n";
+}
+
+template <class MEANING>
+std::string WordsOf()
+{
+    std::string words;
+    for (const auto& word : ClytWordTable<MEANING>::words)
+        words += Quoted(word.text);
+    return words;
+}
+
+} // namespace
+
+std::string Dictionary()
+{
+    std::string words = WordsOf<ClytState>() + WordsOf<ClytOption>() + WordsOf<ClytAction>() + WordsOf<ClytKeyword>() +
+                        WordsOf<ClytFillAction>() + WordsOf<ClytValueWord>() + Quoted(lytStartName);
+    for (const lytdlg::Section section : lytdlg::allSections)
+        words += Quoted(lytdlg::WordOf(section));
+    for (const std::string& type : lytdlg::TypeWords())
+        words += Quoted(type);
+    for (const char* word : furtherWords)
+        words += Quoted(word);
+    return words;
+}

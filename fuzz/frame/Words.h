@@ -1,0 +1,6 @@
+// The dictionary of the fuzzers, in libFuzzer's form.
+#pragma once
+
+#include <string>
+
+std::string Dictionary();

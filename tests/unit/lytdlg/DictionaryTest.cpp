@@ -1,0 +1,48 @@
+// The dictionary of the fuzzers has each word that the library's tables have.
+#include "fuzz/frame/Words.h"
+#include "lytdlg/judge/ControlKinds.h"
+#include "model/ClytWords.h"
+
+#include <gtest/gtest.h>
+
+namespace
+{
+
+// Says which word is missing.
+testing::AssertionResult StandsInDictionary(const std::string& word)
+{
+    static const std::string dictionary = Dictionary();
+    if (dictionary.find("\"" + word + "\"\n") != std::string::npos)
+        return testing::AssertionSuccess();
+    return testing::AssertionFailure() << word;
+}
+
+template <class MEANING>
+class DictionaryOfTheFuzzers : public testing::Test
+{
+};
+using Kinds = testing::Types<ClytState, ClytOption, ClytAction, ClytKeyword, ClytFillAction, ClytValueWord>;
+TYPED_TEST_SUITE(DictionaryOfTheFuzzers, Kinds);
+
+} // namespace
+
+TYPED_TEST(DictionaryOfTheFuzzers, HasTheWordsOfTheKind)
+{
+    for (const auto& word : ClytWordTable<TypeParam>::words)
+        EXPECT_TRUE(StandsInDictionary(word.text));
+}
+
+TEST(Dictionary, HasTypesAndSections)
+{
+    for (const std::string& type : lytdlg::TypeWords())
+        EXPECT_TRUE(StandsInDictionary(type));
+    for (const char* section :
+         {"$VERSION", "$LAYOUT", "$VALUES", "$DEPENDANCES", "$EVALUATION", "$INPUT", "$OUTPUT", "$END"})
+        EXPECT_TRUE(StandsInDictionary(section));
+}
+
+TEST(Dictionary, HasAFormThatTheFuzzersRead)
+{
+    EXPECT_TRUE(StandsInDictionary("\\\\n"));
+    EXPECT_TRUE(StandsInDictionary("\\\\\\\""));
+}
