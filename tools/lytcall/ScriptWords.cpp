@@ -13,6 +13,7 @@ const std::vector<StepForm>& StepForms()
         {"focus", "c", "CONTROL", "move the focus there"},
         {"type", "ct", "CONTROL \"TEXT\"", "type in place of what the field holds"},
         {"append", "ct", "CONTROL \"TEXT\"", "type behind what the field holds"},
+        {"enter", "t", "\"TEXT\"", "type where the focus is; what is selected there is replaced"},
         {"key", "k?n", "KEY [TIMES]", "press a key, where the focus is; alt+X is an access key"},
         {"press", "c", "CONTROL", "click on it with the mouse"},
         {"select", "c?t", "CONTROL \"ITEM\"", "click on an item of a list, combo box or tree (tree: \"A/B/C\")"},

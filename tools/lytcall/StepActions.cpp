@@ -147,6 +147,11 @@ void Append(Stage& /*stage*/, const Step& step)
     robot::TypeText(ToAnsi(ArgumentOf(step)));
 }
 
+void Enter(Stage& /*stage*/, const Step& step)
+{
+    robot::TypeText(ToAnsi(ArgumentOf(step)));
+}
+
 void PressKey(Stage& /*stage*/, const Step& step)
 {
     static const UINT keys[] = {VK_TAB,  VK_RETURN, VK_ESCAPE, VK_SPACE, VK_UP,     VK_DOWN, VK_LEFT, VK_RIGHT,
@@ -283,6 +288,7 @@ const StepAction actions[] = {
     {"focus", IsUsable, MoveFocus},
     {"type", IsUsable, Type},
     {"append", IsUsable, Append},
+    {"enter", Always, Enter},
     {"key", Always, PressKey},
     {"press", IsUsable, Press},
     {"select", HasItem, Select},
