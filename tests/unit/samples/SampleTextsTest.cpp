@@ -30,6 +30,7 @@ struct Captions
     std::string name;
     std::string type;
     std::vector<std::string> keys;
+    bool isHidden = false;
     bool leadsToNext = false; // its access key gives the focus to the control after it
 
     bool IsButton() const { return type == "PushButton" || type == "CheckBox" || type == "OptionButton"; }
@@ -45,8 +46,8 @@ public:
     {
         EXPECT_TRUE(m_file.Open(description.string().c_str(), CFile::modeRead)) << description;
         ReadLayout();
-        FindLabels();
         ReadValues();
+        FindLabels();
         SkipDependencies();
         ReadMessages();
     }
@@ -84,18 +85,6 @@ private:
         }
     }
 
-    // A text is the label of the field or the options after it, and a frame that of a list that it begins with.
-    void FindLabels()
-    {
-        for (size_t i = 0; i + 1 < m_controls.size(); ++i)
-        {
-            const Captions& next = m_controls[i + 1];
-            m_controls[i].leadsToNext =
-                (m_controls[i].type == "Text" && (next.IsField() || next.type == "OptionGroup")) ||
-                (m_controls[i].type == "GroupBox" && next.IsList());
-        }
-    }
-
     // Items of lists and combo boxes, first items of their fills and second captions of buttons are keys too.
     void ReadValues()
     {
@@ -106,7 +95,10 @@ private:
         {
             const auto control = std::ranges::find(m_controls, name.GetString(), &Captions::name);
             const std::string word = keyword.GetString();
-            if (control == m_controls.end() || word.empty())
+            if (control == m_controls.end() || values.IsEmpty())
+                continue;
+            control->isHidden = control->isHidden || values.GetHead() == "HIDDEN";
+            if (word.empty())
                 continue;
             if (control->IsList())
                 ReadItem(word, values);
@@ -115,6 +107,20 @@ private:
                 control->keys.emplace_back(values.GetTail().GetString());
                 m_labels.insert(values.GetTail().GetString());
             }
+        }
+    }
+
+    // A text is the label of the field or the options after it, and a frame that of a list that it begins with.
+    void FindLabels()
+    {
+        // What is never shown is only there for the library, and for screen readers.
+        std::erase_if(m_controls, [](const Captions& control) { return control.isHidden; });
+        for (size_t i = 0; i + 1 < m_controls.size(); ++i)
+        {
+            const Captions& next = m_controls[i + 1];
+            m_controls[i].leadsToNext =
+                (m_controls[i].type == "Text" && (next.IsField() || next.type == "OptionGroup")) ||
+                (m_controls[i].type == "GroupBox" && next.IsList());
         }
     }
 
