@@ -137,6 +137,7 @@ int GetSystemMetrics(int index)
     const Metrics& metrics = CurrentMetrics();
     switch (index)
     {
+    case SM_CXVSCROLL: return metrics.scrollBarWidth;
     case SM_CXMINTRACK: return metrics.minimalWidth;
     case SM_CYMINTRACK: return metrics.captionHeight + metrics.sizingFrame;
     default: return 0;

@@ -381,6 +381,7 @@ inline constexpr int CB_ERR = -1;
 inline constexpr int GWL_STYLE = -16;
 inline constexpr int GWL_EXSTYLE = -20;
 inline constexpr int GWLP_WNDPROC = -4;
+inline constexpr int SM_CXVSCROLL = 2;
 inline constexpr int SM_CXMINTRACK = 34;
 inline constexpr int SM_CYMINTRACK = 35;
 inline constexpr int WH_CBT = 5;

@@ -1,24 +1,21 @@
 // The sample dialogs on the screen, in both languages, at the resolution that the test runs at: nothing is clipped,
 // nothing covers another, lists end where their neighbours end. The same program runs at 96 and 120 dots per inch.
-#include "lyt64.h"
-
-#include "robot/WindowRobot.h"
-#include "support/Library.h"
-#include "support/TestFolder.h"
-
-#include <gtest/gtest.h>
+#include "SampleDialog.h"
 
 #include <algorithm>
-#include <filesystem>
 #include <functional>
 
 namespace
 {
 
-namespace fs = std::filesystem;
-
-// What a button needs on either side of its caption.
+// What a push button needs on either side of its caption, and a frame at the start of its line.
 constexpr int captionMargin = 5;
+constexpr int frameMargin = 8;
+// The square of a mark at 96 dots per inch, and the gap before its text.
+constexpr int markSize = 13;
+constexpr int markGap = 4;
+// What a list needs on either side of an item.
+constexpr int itemMargin = 2;
 // Units are scaled and cut to whole pixels, and a list keeps whole items only.
 constexpr int rounding = 4;
 
@@ -98,14 +95,56 @@ std::string Name(const Control& control)
            std::to_string(control.place.bottom);
 }
 
+int Scaled(HWND dialog, int pixels)
+{
+    HDC context = GetDC(dialog);
+    const int dots = GetDeviceCaps(context, LOGPIXELSX);
+    ReleaseDC(dialog, context);
+    return MulDiv(pixels, dots, 96);
+}
+
+// What a control needs beside its caption.
+int EdgesOf(HWND dialog, const Control& control)
+{
+    if (control.IsPushButton())
+        return 2 * captionMargin;
+    if (control.IsFrame())
+        return 2 * frameMargin;
+    return control.type == "Button" ? Scaled(dialog, markSize) + markGap : 0;
+}
+
 void ExpectCaptionsToFit(HWND dialog)
 {
     for (const Control& control : VisibleControlsOf(dialog))
     {
-        if (!control.IsPushButton())
+        if (control.type == "Edit" || control.type == "ListBox" || control.type == "ComboBox")
             continue;
-        EXPECT_LE(ShownWidth(dialog, control.caption) + 2 * captionMargin, control.place.right - control.place.left)
+        EXPECT_LE(ShownWidth(dialog, control.caption) + EdgesOf(dialog, control),
+                  control.place.right - control.place.left)
             << Name(control);
+    }
+}
+
+// What is left of a list for an item: a check list has a mark before it, a list that drops down its button after it.
+int RoomForItems(HWND dialog, HWND list)
+{
+    RECT client{};
+    GetClientRect(list, &client);
+    const int room = client.right - client.left - 2 * itemMargin;
+    if (TypeOf(list) == "ComboBox")
+        return room - GetSystemMetrics(SM_CXVSCROLL);
+    const bool hasMarks = (GetWindowLongA(list, GWL_STYLE) & LBS_OWNERDRAWFIXED) != 0;
+    return hasMarks ? room - Scaled(dialog, markSize) - markGap : room;
+}
+
+void ExpectItemsToFit(HWND dialog)
+{
+    for (HWND list : robot::ChildrenOf(dialog))
+    {
+        if (TypeOf(list) != "ListBox" && TypeOf(list) != "ComboBox")
+            continue;
+        for (const std::string& item : robot::ItemsOf(list))
+            EXPECT_LE(ShownWidth(dialog, item), RoomForItems(dialog, list)) << TypeOf(list) << ": " << item;
     }
 }
 
@@ -162,34 +201,9 @@ void ExpectListsToEndLevel(HWND dialog)
     }
 }
 
-struct Sample
-{
-    const char* file;
-    const char* language;
-    bool hasToggle; // a button of it has two captions
-};
-
-void PrintTo(const Sample& sample, std::ostream* out)
-{
-    *out << sample.file << " in " << sample.language;
-}
-
-class SampleLayout : public testing::TestWithParam<Sample>
+class SampleLayout : public SampleDialog
 {
 protected:
-    SampleLayout()
-    {
-        folder.Write("lyt.ini", std::string("[global]\r\nCurrent Language=") + GetParam().language + "\r\n");
-        const fs::path samples = fs::path(ProgramFolder()) / "samples" / "dialogs";
-        // Every description opens as that of a symbol: what it is called is not looked at.
-        fs::copy(samples, folder.Path(), fs::copy_options::recursive | fs::copy_options::overwrite_existing);
-        fs::copy_file(samples / (GetParam().file + std::string(".dlg")), fs::path(folder.Path()) / "lytInSym.dlg",
-                      fs::copy_options::overwrite_existing);
-        Call<decltype(lytInitialiseEnvironment)>("lytInitialiseEnvironment")("x.doc", folder.Path().c_str(),
-                                                                             folder.Path().c_str());
-    }
-    ~SampleLayout() override { Call<decltype(FreeGlobalObject)>("FreeGlobalObject")(); }
-
     // Looks at the open dialog, and at it again when a press of this button has changed a caption.
     void ExpectInDialog(const std::function<void(HWND)>& expect)
     {
@@ -209,35 +223,21 @@ protected:
             robot.On("", [&](HWND dialog) { expect(dialog); });
         }
         robot.On("", [](HWND dialog) { robot::Press(GetDlgItem(dialog, IDCANCEL)); });
-        char text[1025] = "";
-        Call<decltype(lytSymbolPropertyDialog)>("lytSymbolPropertyDialog")("", text, 1024);
-        EXPECT_TRUE(robot.Done()) << robot.Log();
-        EXPECT_TRUE(robot.Messages().empty());
+        EXPECT_EQ(Open(), 0);
         EXPECT_EQ(toggled, GetParam().hasToggle ? 1 : 0);
     }
-
-    const TestFolder folder;
-    robot::Robot robot;
 };
-
-std::vector<Sample> Samples()
-{
-    std::vector<Sample> samples;
-    for (const char* language : {"English", "German"})
-    {
-        for (const char* file : {"lytCdGrp", "lytInPhr", "lytInSym", "lytRpGrp", "lytWzPhr", "lytWzSym"})
-            samples.push_back({file, language, false});
-        for (const char* file : {"finding", "lytWzGrp"})
-            samples.push_back({file, language, true});
-    }
-    return samples;
-}
 
 } // namespace
 
-TEST_P(SampleLayout, GivesEveryButtonRoomForItsCaption)
+TEST_P(SampleLayout, GivesEveryControlRoomForItsCaption)
 {
     ExpectInDialog(ExpectCaptionsToFit);
+}
+
+TEST_P(SampleLayout, GivesEveryListRoomForItsItems)
+{
+    ExpectInDialog(ExpectItemsToFit);
 }
 
 TEST_P(SampleLayout, CoversNothing)
@@ -255,6 +255,4 @@ TEST_P(SampleLayout, LetsListsEndLevelWithTheirNeighbours)
     ExpectInDialog(ExpectListsToEndLevel);
 }
 
-INSTANTIATE_TEST_SUITE_P(Dialog, SampleLayout, testing::ValuesIn(Samples()),
-                         [](const auto& sample)
-                         { return std::string(sample.param.file) + "In" + sample.param.language; });
+INSTANTIATE_TEST_SUITE_P(Dialog, SampleLayout, testing::ValuesIn(Samples()), NameOfSample);
