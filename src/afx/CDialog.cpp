@@ -1,6 +1,7 @@
 #include <afxwin.h>
 
 #include "CallbackFailure.h"
+#include "ModalWindows.h"
 #include "ModernControls.h"
 
 #include <commctrl.h>
@@ -47,6 +48,9 @@ END_MESSAGE_MAP()
 
 INT_PTR CDialog::DoModal()
 {
+    const ModalWindows windows;
+    if (!windows.AreAllowed())
+        return -1;
     const ModernControls modernControls;
     INITCOMMONCONTROLSEX classes{sizeof classes, ICC_TREEVIEW_CLASSES | ICC_STANDARD_CLASSES};
     ::InitCommonControlsEx(&classes);

@@ -125,8 +125,8 @@ public:
     explicit CDialog(UINT templateId, CWnd* parent = nullptr) : m_nIDTemplate(templateId), m_pParentWnd(parent) {}
 
     // Runs the dialog; its owner is the parent, or the thread's active window without one. Gives what EndDialog was
-    // told, -1 when there is no such template or the object has a window already. Raises what joining the window
-    // raised, once the window is gone again.
+    // told, -1 when there is no such template, the object has a window already or another thread has windows up. Raises
+    // what joining the window raised, once the window is gone again.
     INT_PTR DoModal();
     void EndDialog(int result) const { ::EndDialog(m_hWnd, result); }
     // Gives a child the focus as the Tab key does.

@@ -1,3 +1,4 @@
+#include <ModuleReference.h>
 #include <afxstat_.h>
 
 extern "C" BOOL __stdcall DllMain(HINSTANCE module, DWORD reason, void* /*reserved*/)
@@ -5,6 +6,7 @@ extern "C" BOOL __stdcall DllMain(HINSTANCE module, DWORD reason, void* /*reserv
     if (reason == DLL_PROCESS_ATTACH)
     {
         *AfxGetStaticModuleState() = {module, module};
+        ModuleReference::Prepare(module);
         DisableThreadLibraryCalls(module);
     }
     return TRUE;

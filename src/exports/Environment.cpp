@@ -24,13 +24,13 @@ void __stdcall lytSetDialogDefine(const char* define)
 
 int __stdcall lytGetInitializationPath(char* buffer, int size)
 {
-    LYT_EXPORT_FRAME();
+    LYT_EXPORT_FRAME(0);
     return CopyOut(buffer, size, lytEnvironment.GetInitPath());
 }
 
 int __stdcall lytGetCurrentDocName(char* buffer, int size)
 {
-    LYT_EXPORT_FRAME();
+    LYT_EXPORT_FRAME(0);
     return CopyOut(buffer, size, lytEnvironment.GetDocName());
 }
 

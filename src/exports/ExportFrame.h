@@ -1,6 +1,8 @@
 // The frame that the exports share, and the copies between the caller's texts and ours.
 #pragma once
 
+#include <ModalWindows.h>
+#include <ModuleReference.h>
 #include <afx.h>
 #include <afxstat_.h>
 
@@ -31,18 +33,28 @@ private:
 };
 
 // The same for an export that shows windows or calls a partner library: cursor and focus of the host are as before on
-// every way out, too.
+// every way out, too, and whoever unloads the library meanwhile finds it loaded until the call has come back.
 class ExportFrame
 {
 private:
+    ModuleReference m_module; // the last to go
     HostState m_host;
     QuietFrame m_frame;
 };
 
-#define LYT_EXPORT_FRAME() const ExportFrame exportFrame
+// While one thread has windows up, a call from another would change what they work on: it gives `refusal`, and does nothing.
+#define LYT_REFUSE_OTHER_THREADS(refusal)                                                                              \
+    if (ModalWindows::AreElsewhere())                                                                                  \
+    return refusal
+
+#define LYT_EXPORT_FRAME(refusal)                                                                                      \
+    LYT_REFUSE_OTHER_THREADS(refusal);                                                                                 \
+    const ExportFrame exportFrame
 // Asking for cursor and focus costs more than a short export does, so one that reaches neither a window nor a partner
 // leaves it out.
-#define LYT_QUIET_FRAME() const QuietFrame exportFrame
+#define LYT_QUIET_FRAME(refusal)                                                                                       \
+    LYT_REFUSE_OTHER_THREADS(refusal);                                                                                 \
+    const QuietFrame exportFrame
 
 // False for a null buffer or a size below 1: the export answers 0 and does nothing.
 bool IsUsable(const char* buffer, int size);

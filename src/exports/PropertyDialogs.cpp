@@ -161,20 +161,20 @@ Outcome EditGroup(const GroupKey& key, const char* description, char* first, int
 
 int __stdcall lytSymbolPropertyDialog(const char* key, char* result, int size)
 {
-    LYT_EXPORT_FRAME();
+    LYT_EXPORT_FRAME(nothing);
     return IsUsable(result, size) ? EditPlaceholder("lytInSym.dlg", key, result, size) : nothing;
 }
 
 int __stdcall lytPhrasePropertyDialog(const char* key, char* result, int size)
 {
-    LYT_EXPORT_FRAME();
+    LYT_EXPORT_FRAME(nothing);
     return IsUsable(result, size) ? EditPlaceholder("lytInPhr.dlg", key, result, size) : nothing;
 }
 
 int __stdcall lytGroupPropertyDialog(int kind, const char* key, char* first, int firstSize, char* second,
                                      int secondSize)
 {
-    LYT_EXPORT_FRAME();
+    LYT_EXPORT_FRAME(nothing);
     if (!IsUsable(first, firstSize))
         return nothing;
     const char* description = kind == 0 ? "lytCdGrp.dlg" : "lytRpGrp.dlg";

@@ -7,12 +7,12 @@
 
 int __stdcall lytSystemInfoInit(const char* directory)
 {
-    LYT_EXPORT_FRAME();
+    LYT_EXPORT_FRAME(0);
     return lytGatherReport(directory);
 }
 
 int __stdcall lytSystemInfoRead(int index, char* target, int size)
 {
-    LYT_QUIET_FRAME();
+    LYT_QUIET_FRAME(0);
     return lytReadReportLine(index, target, size);
 }

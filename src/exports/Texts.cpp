@@ -48,22 +48,24 @@ void CopyListItem(char* buffer, int size, const char* item)
 
 int __stdcall lytGetTextForKey(const char* section, const char* key, const char* argument, char* buffer, int size)
 {
-    LYT_QUIET_FRAME();
+    LYT_QUIET_FRAME(0);
     if (!IsUsable(buffer, size))
         return 0;
     return CopyUnlessSentinel(buffer, size, lytEnvironment.GetText(CString(section), CString(key), argument));
 }
 
 // The one export without the frame: it needs neither the module's resources nor the companion library. Its message box
-// takes cursor and focus like any other, so it keeps the host's itself.
+// takes cursor and focus like any other, so it keeps the host's itself, and the library.
 int __stdcall lytGetTextFromIniFile(const char* path, char* buffer, int size)
 {
+    LYT_REFUSE_OTHER_THREADS(0);
     if (!IsUsable(buffer, size))
         return 0;
     const CString name = path;
     const int slash = name.Find('/');
     if (slash < 0)
     {
+        const ModuleReference module;
         const HostState host;
         lytReport("250");
         return 0;
@@ -74,7 +76,7 @@ int __stdcall lytGetTextFromIniFile(const char* path, char* buffer, int size)
 
 int __stdcall lytListFromIniStart(const char* path)
 {
-    LYT_QUIET_FRAME();
+    LYT_QUIET_FRAME(0);
     const CString name = path;
     const int slash = name.Find('/');
     lytIniList.Empty();
@@ -85,7 +87,7 @@ int __stdcall lytListFromIniStart(const char* path)
 
 int __stdcall lytListFromIniNext(char* value, int valueSize, char* display, int displaySize)
 {
-    LYT_QUIET_FRAME();
+    LYT_QUIET_FRAME(0);
     if (!IsUsable(value, valueSize) || !IsUsable(display, displaySize) || lytIniList.IsEmpty())
         return 0;
     const CString item = TakeListItem();

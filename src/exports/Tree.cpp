@@ -33,7 +33,7 @@ bool FindSymbol(const CString& text, CString& key)
 // Exported under the name lytOpenTreeViewPara as well.
 int __stdcall lytOpenTreeView(const char* request, char* target, int size)
 {
-    LYT_EXPORT_FRAME();
+    LYT_EXPORT_FRAME(0);
     if (!IsUsable(target, size))
         return 0;
     lytTreeResult = 0;
@@ -47,7 +47,7 @@ int __stdcall lytOpenTreeView(const char* request, char* target, int size)
 
 int __stdcall lytGetSymbolfromTree(const char* text, char* target, int size)
 {
-    LYT_EXPORT_FRAME();
+    LYT_EXPORT_FRAME(0);
     const CString wanted(text);
     CString key;
     if (!IsUsable(target, size) || wanted.IsEmpty() || !FindSymbol(wanted, key))
@@ -58,13 +58,13 @@ int __stdcall lytGetSymbolfromTree(const char* text, char* target, int size)
 
 int __stdcall lytTreeStartChildNode(const char* key)
 {
-    LYT_EXPORT_FRAME();
+    LYT_EXPORT_FRAME(0);
     return lytChildCursor.Start(lytSymbolNodes, CString(key)) ? 1 : 0;
 }
 
 int __stdcall lytTreeReadChildNode(char* text, int textSize, char* path, int pathSize)
 {
-    LYT_EXPORT_FRAME();
+    LYT_EXPORT_FRAME(0);
     CString label;
     CString keyAndLabel;
     if (!IsUsable(text, textSize) || !IsUsable(path, pathSize) ||

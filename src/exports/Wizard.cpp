@@ -110,7 +110,7 @@ int DeliverNext(char* buffer, int size)
 
 int __stdcall lytWizard(char* buffer, int size)
 {
-    LYT_EXPORT_FRAME();
+    LYT_EXPORT_FRAME(0);
     if (!IsUsable(buffer, size))
         return 0;
     LoadCommonControls();

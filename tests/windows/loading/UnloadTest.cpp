@@ -1,34 +1,12 @@
 // Loaded, called and unloaded over and over, the library leaves nothing behind in the process.
 #include "dialogs/DialogFixture.h"
+#include "support/FreshLibrary.h"
 #include "support/Leaks.h"
 
 namespace
 {
 
 constexpr int rounds = 300;
-
-// The library, from load to unload.
-class Library
-{
-public:
-    Library() : m_module(LoadLibraryA("lyt64.dll")) { EXPECT_NE(m_module, nullptr); }
-    Library(const Library&) = delete;
-    Library& operator=(const Library&) = delete;
-    ~Library()
-    {
-        FreeLibrary(m_module);
-        EXPECT_EQ(GetModuleHandleA("lyt64.dll"), nullptr) << "still loaded";
-    }
-
-    template <class Function>
-    Function* Get(const char* name) const
-    {
-        return reinterpret_cast<Function*>(reinterpret_cast<void*>(GetProcAddress(m_module, name)));
-    }
-
-private:
-    HMODULE m_module;
-};
 
 class Unloading : public testing::Test
 {
@@ -43,12 +21,12 @@ protected:
     }
 
     // Loads the library, tells it where things are, makes the call and unloads it, again and again.
-    void Cycle(const std::function<void(const Library&)>& call) const
+    void Cycle(const std::function<void(const FreshLibrary&)>& call) const
     {
         ExpectNoGrowth(
             [&]
             {
-                const Library library;
+                const FreshLibrary library;
                 library.Get<decltype(lytInitialiseEnvironment)>("lytInitialiseEnvironment")(
                     (folder.Path() + "\\doc.rtf").c_str(), folder.Path().c_str(), folder.Path().c_str());
                 call(library);
@@ -56,10 +34,10 @@ protected:
             rounds);
     }
     // The same for a call that shows one dialog after another, each of which is confirmed.
-    void CycleWithDialogs(int dialogs, const std::function<void(const Library&)>& call) const
+    void CycleWithDialogs(int dialogs, const std::function<void(const FreshLibrary&)>& call) const
     {
         Cycle(
-            [&](const Library& library)
+            [&](const FreshLibrary& library)
             {
                 // A robot a round: its log would grow.
                 robot::Robot user;
@@ -79,7 +57,7 @@ protected:
 TEST_F(Unloading, AfterATextLeavesNothingBehind)
 {
     Cycle(
-        [&](const Library& library) {
+        [&](const FreshLibrary& library) {
             EXPECT_EQ(library.Get<decltype(lytGetTextForKey)>("lytGetTextForKey")("Buttons", "001", "", buffer, 200),
                       1);
         });
@@ -87,14 +65,15 @@ TEST_F(Unloading, AfterATextLeavesNothingBehind)
 
 TEST_F(Unloading, AfterALogLeavesNothingBehind)
 {
-    Cycle([](const Library& library) { library.Get<decltype(lytWriteToLogFile)>("lytWriteToLogFile")("text", 1); });
+    Cycle([](const FreshLibrary& library)
+          { library.Get<decltype(lytWriteToLogFile)>("lytWriteToLogFile")("text", 1); });
     EXPECT_TRUE(folder.Has("doc.log"));
 }
 
 TEST_F(Unloading, AfterAPropertyDialogLeavesNothingBehind)
 {
     CycleWithDialogs(1,
-                     [&](const Library& library)
+                     [&](const FreshLibrary& library)
                      {
                          auto* show = library.Get<decltype(lytSymbolPropertyDialog)>("lytSymbolPropertyDialog");
                          EXPECT_NE(show("key", buffer, 200), 0);
@@ -105,7 +84,7 @@ TEST_F(Unloading, AfterADialogThatFailsLeavesNothingBehind)
 {
     folder.Write("lytInSym.dlg", "no version\n");
     Cycle(
-        [&](const Library& library)
+        [&](const FreshLibrary& library)
         {
             robot::Robot user;
             user.AnswerMessage();
@@ -117,19 +96,20 @@ TEST_F(Unloading, AfterADialogThatFailsLeavesNothingBehind)
 
 TEST_F(Unloading, AfterACatalogueLeavesNothingBehind)
 {
-    CycleWithDialogs(1, [&](const Library& library)
+    CycleWithDialogs(1, [&](const FreshLibrary& library)
                      { library.Get<decltype(lytOpenTreeView)>("lytOpenTreeView")("W", buffer, 200); });
 }
 
 TEST_F(Unloading, AfterAWizardLeavesNothingBehind)
 {
-    CycleWithDialogs(2, [&](const Library& library) { library.Get<decltype(lytWizard)>("lytWizard")(buffer, 200); });
+    CycleWithDialogs(2,
+                     [&](const FreshLibrary& library) { library.Get<decltype(lytWizard)>("lytWizard")(buffer, 200); });
 }
 
 TEST_F(Unloading, AfterAReportLeavesNothingBehind)
 {
     Cycle(
-        [&](const Library& library)
+        [&](const FreshLibrary& library)
         {
             EXPECT_EQ(library.Get<decltype(lytSystemInfoInit)>("lytSystemInfoInit")(folder.Path().c_str()), 1);
             EXPECT_EQ(library.Get<decltype(lytSystemInfoRead)>("lytSystemInfoRead")(1, buffer, 200), 1);

@@ -1,0 +1,28 @@
+#include "LimitsPage.h"
+
+namespace
+{
+
+const char* const head = R"(# What happens when somebody breaks the rules
+
+Each mistake has one outcome, and the process lives, unless its row says otherwise. Every row is carried out by a test.
+)";
+
+std::string TableOf(const LimitTable& table)
+{
+    std::string text = "\n## " + std::string(table.title) + "\n\n" + table.about + "\n\n";
+    text += "| " + std::string(table.subject) + " | breach | outcome |\n|---|---|---|\n";
+    for (const Limit& limit : table.limits)
+        text += std::string("| ") + limit.subject + " | " + limit.breach + " | " + limit.outcome + " |\n";
+    return text;
+}
+
+} // namespace
+
+std::string PageOf(const std::vector<const LimitTable*>& tables)
+{
+    std::string page = head;
+    for (const LimitTable* table : tables)
+        page += TableOf(*table);
+    return page;
+}

@@ -1,0 +1,50 @@
+#include "Limit.h"
+#include "LimitsPage.h"
+#include "Scene.h"
+
+#include <cstdlib>
+#include <fstream>
+#include <sstream>
+
+// GoogleTest prints it where a test fails.
+void PrintTo(const Limit& limit, std::ostream* stream)
+{
+    *stream << limit.subject << ": " << limit.breach;
+}
+
+namespace
+{
+
+const std::vector<const LimitTable*> tables = {&momentLimits};
+
+std::vector<Limit> AllLimits()
+{
+    std::vector<Limit> all;
+    for (const LimitTable* table : tables)
+        all.insert(all.end(), table->limits.begin(), table->limits.end());
+    return all;
+}
+
+class EachLimit : public testing::TestWithParam<Limit>
+{
+};
+
+INSTANTIATE_TEST_SUITE_P(, EachLimit, testing::ValuesIn(AllLimits()));
+
+} // namespace
+
+TEST_P(EachLimit, ComesOutAsThePageTells)
+{
+    Scene scene;
+    GetParam().prove(scene);
+}
+
+TEST(LimitsPage, ListsEveryLimit)
+{
+    const std::string page = PageOf(tables);
+    if (std::getenv("LYT_UPDATE") != nullptr)
+        std::ofstream(LYT_LIMITS_PAGE, std::ios::binary) << page;
+    std::ostringstream written;
+    written << std::ifstream(LYT_LIMITS_PAGE, std::ios::binary).rdbuf();
+    EXPECT_EQ(written.str(), page) << "LYT_UPDATE=1 ctest --preset windows -R limits-tests writes it anew";
+}

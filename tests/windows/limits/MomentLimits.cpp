@@ -1,0 +1,198 @@
+// Calls that come while another is under way, and a library that is unloaded meanwhile.
+#include "Limit.h"
+#include "Scene.h"
+
+#include <thread>
+
+namespace
+{
+
+// What exports give when they are called in the order of CallEverything and every window is cancelled.
+const char* const everyAnswer = "lytGetTextForKey 1\nlytGetTextFromIniFile 1\nlytListFromIniStart 1\n"
+                                "lytListFromIniNext 1\nlytSystemInfoInit 1\nlytSystemInfoRead 1\n"
+                                "lytGetInitializationPath 1\nlytGetCurrentDocName 1\n";
+
+void OnAnotherThread(const std::function<void()>& act)
+{
+    std::thread(act).join();
+}
+
+void ExpectRefused(Scene& scene)
+{
+    OnAnotherThread([&] { EXPECT_EQ(scene.CallEverything(), ""); });
+}
+
+// The document that the library knows is the scene's own.
+void ExpectNothingDone(Scene& scene)
+{
+    GuardedBuffer name(300);
+    scene.Get<decltype(lytGetCurrentDocName)>("lytGetCurrentDocName")(name.Data(), name.Size());
+    EXPECT_EQ(name.Text(), scene.folder.Path() + "\\doc.rtf");
+    EXPECT_FALSE(scene.folder.Has("doc.log"));
+}
+
+void CallBesideADialog(Scene& scene)
+{
+    scene.OnDialog([&](HWND) { ExpectRefused(scene); }).EndDialog(IDOK);
+    EXPECT_EQ(scene.ShowSymbol(), "2 key");
+    ExpectNothingDone(scene);
+}
+
+void CallBesideABrowser(Scene& scene)
+{
+    scene.OnBrowser([&](HWND) { ExpectRefused(scene); }).EndBrowser(IDCANCEL);
+    EXPECT_EQ(scene.OpenBrowser(), "0 as it was");
+    ExpectNothingDone(scene);
+}
+
+void CallBesideAMessage(Scene& scene)
+{
+    scene.robot.When(
+        "message", [] { return robot::IsMessageBox(robot::ActiveDialog()); }, [&] { ExpectRefused(scene); });
+    scene.robot.AnswerMessage();
+    char buffer[10] = "";
+    EXPECT_EQ(scene.Get<decltype(lytGetTextFromIniFile)>("lytGetTextFromIniFile")("no slash", buffer, 10), 0);
+    ExpectNothingDone(scene);
+}
+
+void CallOnAnotherThreadBetweenDialogs(Scene& scene)
+{
+    scene.EndDialog(IDOK);
+    scene.ShowSymbol();
+    OnAnotherThread(
+        [&]
+        {
+            char buffer[10] = "";
+            EXPECT_EQ(scene.Get<decltype(lytGetTextForKey)>("lytGetTextForKey")("Buttons", "001", "", buffer, 10), 1);
+        });
+}
+
+void CallAboveADialog(Scene& scene)
+{
+    scene.OnDialog([&](HWND) { EXPECT_EQ(scene.CallEverything(), everyAnswer); });
+    scene.CancelEverything().EndDialog(IDOK);
+    EXPECT_EQ(scene.ShowSymbol(), "2 key");
+}
+
+void ReleaseBelowADialog(Scene& scene)
+{
+    scene.OnDialog([&](HWND) { scene.Get<decltype(FreeGlobalObject)>("FreeGlobalObject")(); }).EndDialog(IDOK);
+    EXPECT_EQ(scene.ShowSymbol(), "2 key");
+    GuardedBuffer name(300, "old");
+    EXPECT_EQ(scene.Get<decltype(lytGetCurrentDocName)>("lytGetCurrentDocName")(name.Data(), name.Size()), 0);
+}
+
+void ReleaseBelowABrowser(Scene& scene)
+{
+    scene.OnBrowser([&](HWND) { scene.Get<decltype(FreeGlobalObject)>("FreeGlobalObject")(); }).EndBrowser(IDOK);
+    scene.robot.AnswerMessage();
+    scene.EndBrowser(IDCANCEL);
+    EXPECT_EQ(scene.OpenBrowser(), "0 as it was");
+    EXPECT_EQ(scene.robot.Messages(), Texts{"no value present"});
+}
+
+void UnloadBelowADialog(Scene& scene)
+{
+    scene.OnDialog([&](HWND) { scene.Unload(); }).EndDialog(IDOK);
+    EXPECT_EQ(scene.ShowSymbol(), "2 key");
+}
+
+void UnloadBesideADialog(Scene& scene)
+{
+    scene.OnDialog([&](HWND) { OnAnotherThread([&] { scene.Unload(); }); }).EndDialog(IDOK);
+    EXPECT_EQ(scene.ShowSymbol(), "2 key");
+}
+
+void UnloadBelowABrowser(Scene& scene)
+{
+    scene.OnBrowser([&](HWND) { scene.Unload(); }).EndBrowser(IDCANCEL);
+    EXPECT_EQ(scene.OpenBrowser(), "0 as it was");
+}
+
+void UnloadBelowTheWizard(Scene& scene)
+{
+    scene.Partner("lytsrc").treeNext = [](lytTreeRecord* record)
+    {
+        static bool isDelivered = false;
+        record->nType = LYT_TREE_SYMBOL;
+        isDelivered = !isDelivered;
+        return isDelivered ? 1 : 0;
+    };
+    scene.EndBrowser(IDOK).OnDialog([&](HWND) { scene.Unload(); }).EndDialog(IDOK);
+    char buffer[300] = "";
+    EXPECT_EQ(scene.Get<decltype(lytWizard)>("lytWizard")(buffer, 300), 2);
+    EXPECT_STREQ(buffer, "/");
+}
+
+void UnloadBelowAMessage(Scene& scene)
+{
+    scene.robot.When(
+        "message", [] { return robot::IsMessageBox(robot::ActiveDialog()); }, [&] { scene.Unload(); });
+    scene.robot.AnswerMessage();
+    char buffer[10] = "";
+    EXPECT_EQ(scene.Get<decltype(lytGetTextFromIniFile)>("lytGetTextFromIniFile")("no slash", buffer, 10), 0);
+}
+
+void UnloadBelowANestedDialog(Scene& scene)
+{
+    scene.Describe("", "Go=DIALOG,lytInPhr,Take,Send\n");
+    scene.ClickOn("Go").OnDialog([&](HWND) { scene.Unload(); }).EndDialog(IDOK).EndDialog(IDOK);
+    EXPECT_EQ(scene.ShowSymbol(), "1 <key>");
+}
+
+void UnloadAndLoadBelowADialog(Scene& scene)
+{
+    scene.OnDialog(
+        [&](HWND)
+        {
+            scene.Unload();
+            scene.LoadAgain();
+        });
+    scene.EndDialog(IDOK);
+    EXPECT_EQ(scene.ShowSymbol(), "2 key");
+}
+
+void CallAfterUnloading(Scene& scene)
+{
+    scene.OnDialog([&](HWND) { scene.Unload(); }).EndDialog(IDOK);
+    EXPECT_EQ(scene.ShowSymbol(), "2 key");
+    ExpectNothingDone(scene);
+    scene.EndDialog(IDOK);
+    EXPECT_EQ(scene.ShowSymbol(), "2 key");
+}
+
+constexpr Limit limits[] = {
+    {"any function", "is called on another thread while a dialog is up",
+     "refused: it gives 0, or nothing, and does nothing; the dialog goes on", CallBesideADialog},
+    {"any function", "the same while the catalogue is up", "the same", CallBesideABrowser},
+    {"any function", "the same while a message is up", "the same", CallBesideAMessage},
+    {"any function", "is called on another thread with no window up", "it works as on the first",
+     CallOnAnotherThreadBetweenDialogs},
+    {"any function", "is called on the same thread while a dialog is up, by a timer for instance",
+     "it works as at any time; its windows stand above the dialog", CallAboveADialog},
+    {"`FreeGlobalObject`", "is called while a dialog is up",
+     "the dialog goes on with what it has read, and gives its result; what it looks up from then on is not found",
+     ReleaseBelowADialog},
+    {"`FreeGlobalObject`", "is called while the catalogue is up",
+     "its entries are gone: OK is refused with message 222, Cancel ends it", ReleaseBelowABrowser},
+    {"`FreeLibrary`", "gives up the last reference while a dialog is up",
+     "the library stays, and the call comes back with its result", UnloadBelowADialog},
+    {"`FreeLibrary`", "the same on another thread", "the same", UnloadBesideADialog},
+    {"`FreeLibrary`", "the same while the catalogue is up", "the same", UnloadBelowABrowser},
+    {"`FreeLibrary`", "the same while a dialog of the wizard is up", "the same", UnloadBelowTheWizard},
+    {"`FreeLibrary`", "the same while a message is up", "the same", UnloadBelowAMessage},
+    {"`FreeLibrary`", "the same while a dialog stands above another", "the same", UnloadBelowANestedDialog},
+    {"any function", "is called after that without another `LoadLibrary`",
+     "it works, and what the library knew is still there", CallAfterUnloading},
+    {"`LoadLibrary`", "takes a new reference before the dialog ends", "`FreeLibrary` then unloads the library as usual",
+     UnloadAndLoadBelowADialog},
+};
+
+} // namespace
+
+const LimitTable momentLimits = {
+    "Calls at the wrong time",
+    "Calls come from one thread, one at a time. What happens when they do not:",
+    "what",
+    limits,
+};

@@ -1,0 +1,170 @@
+#include "Scene.h"
+
+#include "support/Image.h"
+
+Scene* Scene::current = nullptr;
+
+namespace
+{
+
+std::string LibraryFile()
+{
+    return ProgramFolder() + "\\..\\lyt64.dll";
+}
+
+// Exports called one after another, and those that gave something other than 0.
+class Answers
+{
+public:
+    explicit Answers(const FreshLibrary& library) : m_library(library) {}
+
+    template <class Function, class... Arguments>
+    void Call(const char* name, Arguments... arguments)
+    {
+        m_called.insert(name);
+        auto* const function = m_library.Get<Function>(name);
+        if constexpr (std::is_void_v<std::invoke_result_t<Function*, Arguments...>>)
+            function(arguments...);
+        else if (const int result = function(arguments...); result != 0)
+            m_given += std::string(name) + " " + std::to_string(result) + "\n";
+    }
+    const std::set<std::string>& Called() const { return m_called; }
+    const std::string& Given() const { return m_given; }
+
+private:
+    const FreshLibrary& m_library;
+    std::set<std::string> m_called;
+    std::string m_given;
+};
+
+} // namespace
+
+Scene::Scene() : m_library(LibraryFile())
+{
+    current = this;
+    folder.Write("lyt.ini", "[global]\r\nCurrent Language=Test\r\nTreeWidth=300\r\nTreeHeight=300\r\n"
+                            "[lists]\r\nlist=a,b\r\n");
+    folder.Write("lang/Test.nls", SharedTexts() + "[Label]\r\nTreeDlgLabel=Catalogue\r\n"
+                                                  "[LIMITS]\r\nTitle=The title\r\nFill=Fill\r\nGo=Go\r\n");
+    for (const char* name : {"lytInSym", "lytInPhr", "lytCdGrp", "lytRpGrp", "lytWzGrp", "lytWzPhr", "lytWzSym"})
+        folder.Write(std::string(name) + ".dlg", Description().Text());
+    Initialise();
+}
+
+Scene::~Scene()
+{
+    EXPECT_TRUE(robot.Done()) << robot.Log();
+    if (m_isUnloaded)
+    {
+        EXPECT_TRUE(FreshLibrary::IsLoaded());
+        LoadAgain();
+    }
+    Get<decltype(FreeGlobalObject)>("FreeGlobalObject")();
+    for (HMODULE partner : m_partners)
+    {
+        *reinterpret_cast<decltype(&Acts)>(reinterpret_cast<void*>(GetProcAddress(partner, "Acts")))() = {};
+        FreeLibrary(partner);
+    }
+    current = nullptr;
+}
+
+HostileActs& Scene::Partner(const std::string& library)
+{
+    const HMODULE partner = LoadLibraryA(library.c_str());
+    m_partners.push_back(partner);
+    return *reinterpret_cast<decltype(&Acts)>(reinterpret_cast<void*>(GetProcAddress(partner, "Acts")))();
+}
+
+void Scene::Initialise() const
+{
+    Get<decltype(lytInitialiseEnvironment)>("lytInitialiseEnvironment")((folder.Path() + "\\doc.rtf").c_str(),
+                                                                        folder.Path().c_str(), folder.Path().c_str());
+}
+
+void Scene::Describe(const std::string& controls, const std::string& values) const
+{
+    Description description;
+    description.head = "$VERSION 1\n$LAYOUT LIMITS\n";
+    description.controls += controls + "PushButton 200, 10, 60, 20, \"Fill\", .Fill\n"
+                                       "PushButton 200, 40, 60, 20, \"Go\", .Go\n";
+    description.values = values;
+    description.input += "$INPUT, Take\nStart: (999, End = Key\n";
+    description.output += "$OUTPUT, Send\n(\"<%s>\", Key)\n";
+    folder.Write("lytInSym.dlg", description.Text());
+}
+
+std::string Scene::ShowSymbol()
+{
+    GuardedBuffer buffer(1000, "as it was");
+    const int result = Get<decltype(lytSymbolPropertyDialog)>("lytSymbolPropertyDialog")("key", buffer.Data(), 1000);
+    EXPECT_TRUE(buffer.IsIntact());
+    return std::to_string(result) + " " + buffer.Text();
+}
+
+std::string Scene::OpenBrowser()
+{
+    GuardedBuffer buffer(300, "as it was");
+    const int result = Get<decltype(lytOpenTreeView)>("lytOpenTreeView")("W", buffer.Data(), 300);
+    EXPECT_TRUE(buffer.IsIntact());
+    return std::to_string(result) + " " + buffer.Text();
+}
+
+std::string Scene::FindSymbol(const std::string& begin) const
+{
+    GuardedBuffer buffer(300, "as it was");
+    const int result = Get<decltype(lytGetSymbolfromTree)>("lytGetSymbolfromTree")(begin.c_str(), buffer.Data(), 300);
+    EXPECT_TRUE(buffer.IsIntact());
+    return std::to_string(result) + " " + buffer.Text();
+}
+
+void Scene::Unload()
+{
+    m_isUnloaded = true;
+    FreeLibrary(m_library.Module());
+}
+
+void Scene::LoadAgain()
+{
+    m_isUnloaded = false;
+    EXPECT_EQ(LoadLibraryA(LibraryFile().c_str()), m_library.Module());
+}
+
+std::string Scene::CallEverything() const
+{
+    char first[300] = "";
+    char second[300] = "";
+    const char* const path = folder.Path().c_str();
+    Answers answers(m_library);
+    answers.Call<decltype(lytSymbolPropertyDialog)>("lytSymbolPropertyDialog", "a", first, 300);
+    answers.Call<decltype(lytPhrasePropertyDialog)>("lytPhrasePropertyDialog", "a", first, 300);
+    answers.Call<decltype(lytGroupPropertyDialog)>("lytGroupPropertyDialog", 0, "a", first, 300, second, 300);
+    answers.Call<decltype(lytWizard)>("lytWizard", first, 300);
+    answers.Call<decltype(lytOpenTreeView)>("lytOpenTreeView", "S", first, 300);
+    answers.Call<decltype(lytOpenTreeViewPara)>("lytOpenTreeViewPara", "P", first, 300);
+    answers.Call<decltype(lytGetSymbolfromTree)>("lytGetSymbolfromTree", "a", first, 300);
+    answers.Call<decltype(lytTreeStartChildNode)>("lytTreeStartChildNode", "a");
+    answers.Call<decltype(lytTreeReadChildNode)>("lytTreeReadChildNode", first, 300, second, 300);
+    answers.Call<decltype(lytGetTextForKey)>("lytGetTextForKey", "Buttons", "001", "", first, 300);
+    answers.Call<decltype(lytGetTextFromIniFile)>("lytGetTextFromIniFile", "lists/list", first, 300);
+    answers.Call<decltype(lytListFromIniStart)>("lytListFromIniStart", "lists/list");
+    answers.Call<decltype(lytListFromIniNext)>("lytListFromIniNext", first, 200, second, 200);
+    answers.Call<decltype(lytWriteToLogFile)>("lytWriteToLogFile", "text", 1);
+    answers.Call<decltype(lytSystemInfoInit)>("lytSystemInfoInit", path);
+    answers.Call<decltype(lytSystemInfoRead)>("lytSystemInfoRead", 0, first, 300);
+    answers.Call<decltype(lytSetDialogDefine)>("lytSetDialogDefine", "A");
+    answers.Call<decltype(lytGetInitializationPath)>("lytGetInitializationPath", first, 300);
+    answers.Call<decltype(lytGetCurrentDocName)>("lytGetCurrentDocName", first, 300);
+    answers.Call<decltype(FreeGlobalObject)>("FreeGlobalObject");
+    answers.Call<decltype(lytInitialiseEnvironment)>("lytInitialiseEnvironment", "other.rtf", path, path);
+    EXPECT_EQ(answers.Called(), Image(m_library.Module()).ExportedNames());
+    return answers.Given();
+}
+
+Scene& Scene::CancelEverything()
+{
+    for (int dialog = 0; dialog < 3; ++dialog)
+        EndDialog(IDCANCEL);
+    for (int browser = 0; browser < 3; ++browser)
+        EndBrowser(IDCANCEL);
+    return *this;
+}

@@ -1,0 +1,79 @@
+// A process with a freshly loaded library, partner libraries that do what they are told, and a user.
+#pragma once
+
+#include "HostileLibrary.h"
+#include "lyt64.h"
+
+#include "dialogs/DialogFixture.h"
+#include "support/FreshLibrary.h"
+
+class Scene
+{
+public:
+    Scene();
+    Scene(const Scene&) = delete;
+    Scene& operator=(const Scene&) = delete;
+    // Every step was taken, and the library can be unloaded.
+    ~Scene();
+
+    // The one that stands.
+    static Scene& Current() { return *current; }
+
+    template <class Function>
+    Function* Get(const char* name) const
+    {
+        return m_library.Get<Function>(name);
+    }
+    // What the functions of a partner library do; all of them nothing at first.
+    HostileActs& Partner(const std::string& library);
+
+    void Initialise() const;
+    // Writes the description of the symbol dialog, in which the buttons "Fill" and "Go" act on the fields of these lines.
+    // Its output rule "Send" gives "<", the key and ">", its input rule "Take" takes a key.
+    void Describe(const std::string& controls, const std::string& values) const;
+    // Shows the symbol dialog for the key "key": result and text, as in `1 text`.
+    std::string ShowSymbol();
+    // Opens the browser for any entry.
+    std::string OpenBrowser();
+    // The key of the symbol that this text begins.
+    std::string FindSymbol(const std::string& begin) const;
+
+    Scene& OnDialog(std::function<void(HWND)> act) { return On("The title", std::move(act)); }
+    Scene& OnBrowser(std::function<void(HWND)> act) { return On("Catalogue", std::move(act)); }
+    Scene& ClickOn(const std::string& button)
+    {
+        return OnDialog([button](HWND dialog) { robot::Click(robot::ChildWithText(dialog, button)); });
+    }
+    Scene& EndDialog(int button)
+    {
+        return OnDialog([button](HWND dialog) { robot::Press(GetDlgItem(dialog, button)); });
+    }
+    Scene& EndBrowser(int button)
+    {
+        return OnBrowser([button](HWND dialog) { robot::Press(GetDlgItem(dialog, button)); });
+    }
+
+    // The host gives up its reference to the library, and takes a new one.
+    void Unload();
+    void LoadAgain();
+    // Calls every export with arguments that are as they should be. The windows are ended by steps of the caller:
+    // CancelEverything. The names and results of those that give something other than 0, line by line.
+    std::string CallEverything() const;
+    Scene& CancelEverything();
+
+    const TestFolder folder;
+    robot::Robot robot;
+
+private:
+    Scene& On(const char* caption, std::function<void(HWND)> act)
+    {
+        robot.On(caption, std::move(act));
+        return *this;
+    }
+
+    static Scene* current;
+
+    FreshLibrary m_library;
+    std::vector<HMODULE> m_partners;
+    bool m_isUnloaded = false;
+};
