@@ -1,5 +1,6 @@
 #include "dialog/ClytDialog.h"
 
+#include "base/Counted.h"
 #include "controls/ClytGroupBoxControl.h"
 #include "controls/ClytPushButtonControl.h"
 #include "environment/ClytEnvironment.h"
@@ -171,10 +172,28 @@ void ClytDialog::RunDependencies()
 
 BOOL ClytDialog::OnCommand(WPARAM wParam, LPARAM lParam)
 {
-    if (!isDying && MayRunRules())
-        RunDependencies();
+    if (!isDying && MayRunRules() && !RunRulesOrTell())
+        return TRUE;
     lytCommandSeen = 1;
     return CDialog::OnCommand(wParam, lParam);
+}
+
+// The message takes the focus and gives it back, which is a command, too. The rules would fail in that one again, and so
+// on inside each other without an end: while a failure is told, no rules run.
+bool ClytDialog::RunRulesOrTell()
+{
+    try
+    {
+        RunDependencies();
+        return true;
+    }
+    catch (CException* e)
+    {
+        const ClytCaught failure(e);
+        const Counted telling(toldFailures);
+        failure->ReportError();
+        return false;
+    }
 }
 
 const ClytControlDep* ClytDialog::FindDefaultButtonRule(const CString& focusName) const

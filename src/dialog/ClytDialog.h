@@ -50,8 +50,8 @@ public:
     // Keeps the keyboard working: the focus of a control that a rule disables goes to the next tab stop.
     void RunDependencies() override;
     // False when a command that arrives now must not run the rules: while windows are created or the first input is
-    // scanned, when a value that the innermost run reads moved the focus, and when runs are nested too deep. In the
-    // last case the innermost run makes up for the one that it refuses.
+    // scanned, while a failure of the rules is told, when a value that the innermost run reads moved the focus, and when
+    // runs are nested too deep. In the last case the innermost run makes up for the one that it refuses.
     [[nodiscard]] bool MayRunRules();
 
     // Scans lytInputKey into the controls, empties it and takes the baseline of every control.
@@ -118,6 +118,8 @@ private:
     // Of the control that has the focus.
     static CString FocusName();
 
+    // False after a failure, which was told.
+    bool RunRulesOrTell();
     void RunRules();
     void RunRule(ClytControlDep& rule);
     static void RunEventRule(ClytControlDep& rule);
@@ -141,6 +143,7 @@ private:
     CString result;
     CString fileName;
     Run* innermostRun = nullptr; // on the stack of RunRules
+    int toldFailures = 0;        // failures of the rules whose messages are up
     int readDepth = 0;           // reads of a control's value in progress
     bool isDying = false;        // the window is being destroyed, and its controls with it
 };

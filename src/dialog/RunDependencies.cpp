@@ -75,7 +75,7 @@ private:
 
 bool ClytDialog::MayRunRules()
 {
-    if (lytControlsReady == 0 || lytInputApplied == 0)
+    if (lytControlsReady == 0 || lytInputApplied == 0 || toldFailures != 0)
         return false;
     return innermostRun == nullptr || (!innermostRun->IsReading() && innermostRun->Admits());
 }

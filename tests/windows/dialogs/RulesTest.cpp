@@ -141,3 +141,21 @@ TEST_F(Rules, CommandsFromTheWindowsEndOnRunNothing)
     EXPECT_EQ(ShowAndPress(IDOK, "x"), 2);
     EXPECT_FALSE(enabledByDyingDialog);
 }
+
+// The end of a message gives the field its focus back, which is a command, too.
+TEST_F(Rules, ThatFailSaySoOnceForEachCommandOfTheUser)
+{
+    description.values = "A = FILLEDBY, lytdata, LookUp, x, wrong\n";
+    description.rules = "A/FILL = Key\n";
+    description.output += "$OUTPUT, wrong\nGhost(1) = (\"%s\", Key)\n";
+    Describe(description);
+    // A field tells of a letter before it shows it, and after.
+    On([](HWND /*dialog*/) { robot::TypeText("x"); });
+    robot.AnswerMessage().AnswerMessage();
+    On([](HWND dialog) { SendCommand(dialog); });
+    robot.AnswerMessage();
+    // What the field held before is no change.
+    On([](HWND dialog) { robot::ReplaceText(Key(dialog), ""); });
+    EXPECT_EQ(ShowAndPress(IDCANCEL), 0);
+    EXPECT_EQ(robot.Messages(), Texts(3, "E245 'Ghost'"));
+}
