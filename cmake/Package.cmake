@@ -23,7 +23,7 @@ else()
 endif()
 
 # Pages for those who use the library. What is not handed out cannot be linked to.
-foreach(page descriptions exports first-dialog lytcall lytdlg lytdlg-rules macros report symptoms)
+foreach(page accessibility descriptions exports first-dialog lytcall lytdlg lytdlg-rules macros report symptoms)
   set(source ${CMAKE_SOURCE_DIR}/docs/${page}.md)
   file(READ ${source} text)
   string(REGEX REPLACE "\\[([^]\n]*)\\]\\(\\.\\./tests/[^)\n]*\\)" "\\1" text "${text}")
