@@ -14,6 +14,7 @@ folder=$(mktemp -d) || exit 2
 trap 'rm -rf "$folder"' EXIT
 cd "$folder" || exit 2
 bad=0
+. "$here/rows.sh"
 
 # spoil RIGHT WRONG: one file of the copy holds the right line, and then the wrong one. Files are in code page 1252; a
 # mistake that lies in the encoding puts the line as the page has it.
@@ -30,8 +31,6 @@ spoil() {
     bad=1
 }
 
-cell() { printf '%s\n' "$row" | awk -F ' [|] ' -v n="$1" '{ print $n }'; }
-code() { printf '%s\n' "$1" | sed -n 's/^`\([^`]*\)`.*/\1/p'; }
 ansi() { printf '%s' "$1" | iconv -f UTF-8 -t CP1252; }
 
 run() {
@@ -41,9 +40,9 @@ run() {
 
 grep -v '^#' "$here/symptoms.cases" >cases
 while IFS='|' read -r number which key steps words; do
-    row=$(sed -n "s/^| $number | /| /p" "$page")
+    row=$(row "$number")
     mistake=$(cell 2)
-    right=$(code "$(cell 3)")
+    right=$(code 3)
     [ -n "$mistake" ] || { echo "the page has no row $number"; bad=1; continue; }
     printf '%s\n' "$steps" | sed 's, / ,\n,g' >steps
     cp -r "$here/symptoms/." .
@@ -52,7 +51,7 @@ while IFS='|' read -r number which key steps words; do
         run
         cat output
     fi >>actual
-    wrong=$(code "$mistake")
+    wrong=$(code 2)
     case $mistake in
     '`'*'UTF-8') spoil "$(ansi "$right")" "$wrong" ;;
     '`'*) spoil "$(ansi "$right")" "$(ansi "$wrong")" ;;
@@ -60,16 +59,8 @@ while IFS='|' read -r number which key steps words; do
     esac
     run
     { echo "== $number, wrong"; cat output; } >>actual
-    cell 1 | sed 's/^| //; s/`[^`]*`//g' | grep -o '"[^"]*"' | tr -d '"' | while read -r quoted; do
-        grep -qF -- "$quoted" output || echo "row $number: \"$quoted\" is not what comes out"
-    done >complaints
-    [ ! -s complaints ] || { cat complaints; bad=1; }
+    expect_quoted "$number" 1 output
 done <cases
-[ "$(grep -c '^| [0-9]' "$page")" = "$(wc -l <cases)" ] || { echo "the page has other rows than symptoms.cases"; bad=1; }
-
-if [ -n "${LYT_UPDATE:-}" ]; then
-    cp actual "$expected"
-else
-    diff -u "$expected" actual || bad=1
-fi
+expect_rows cases
+compare_or_update "$expected"
 exit $bad
