@@ -1,10 +1,11 @@
 #!/bin/sh
-# run-page.sh PAGE BUILD_FOLDER: does what a page of the documents tells its reader to do, in a folder of its own with a
-# copy of the samples. The tools of a native build are called by their names. With LYT_UPDATE set it writes what was printed
-# into the page.
+# run-page.sh PAGE BUILD_FOLDER: does what a page of the documents tells its reader to do, in a folder of its own with
+# copies of the samples and headers. The tools of a native build are called by their names. With LYT_UPDATE set it writes
+# what was printed into the page.
 #
 # A block of text or ini is saved under the file name in backquotes in the line above it; one that begins with a section's
-# header takes the place of that section. A block of sh is entered at a shell, and a block of output is what it must print.
+# header takes the place of that section. Below the words "This is" and the name of a sample, a block must be that file. A
+# block of sh is entered at a shell, and a block of output is what it must print.
 set -u
 page=$1
 here=$(cd "$(dirname "$0")" && pwd)
@@ -12,7 +13,7 @@ PATH=$2/bin:$PATH
 folder=$(mktemp -d) || exit 2
 trap 'rm -rf "$folder"' EXIT
 cd "$folder" || exit 2
-mkdir build seen && ln -s "$2" build/windows && cp -r "$here/../../../samples" . || exit 2
+mkdir build seen && ln -s "$2" build/windows && cp -r "$here/../../../samples" "$here/../../../include" . || exit 2
 
 # The page as a shell script: commands as they are, files and output as here-documents.
 awk -v q="'" '
@@ -30,6 +31,8 @@ awk -v q="'" '
         } else if (kind == "output") {
             outputs++
             printf "cat >expected <<%send of block%s\n%send of block\ncompare %d %d\n", q, q, body, outputs, NR
+        } else if (file ~ /^samples/) {
+            printf "cat >block <<%send of block%s\n%send of block\ndiff -u \"%s\" block || exit 1\n", q, q, body, file
         } else if (file != "") {
             printf "mkdir -p \"$(dirname %s)\"\ncat >block <<%send of block%s\n%send of block\nput_block %s\n", file, q, q, body, file
         } else {
@@ -43,6 +46,11 @@ awk -v q="'" '
     /`mine\/[^`]*`/ {
         file = $0
         sub(/.*`mine\//, "mine/", file)
+        sub(/`.*/, "", file)
+    }
+    /This is `samples\/[^`]*`/ {
+        file = $0
+        sub(/.*This is `/, "", file)
         sub(/`.*/, "", file)
     }
     END { if (commands == 0 || outputs == 0) { print "the page has nothing to run" > "/dev/stderr"; exit 1 } }
