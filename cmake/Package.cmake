@@ -10,7 +10,8 @@ install(PROGRAMS
 install(FILES samples/lytdata/lytdata.txt samples/lytsrc/lytsrc.txt DESTINATION .)
 install(FILES host/lyt64.bas DESTINATION host)
 install(FILES include/lyt64.h include/lytdata.h include/lytsrc.h DESTINATION include)
-install(DIRECTORY samples/dialogs samples/init samples/cases samples/scripts samples/lytdata samples/lytsrc
+install(DIRECTORY
+  samples/dialogs samples/init samples/cases samples/scripts samples/lytdata samples/lytsrc samples/partners
   DESTINATION samples
   PATTERN CMakeLists.txt EXCLUDE)
 
@@ -23,15 +24,20 @@ else()
 endif()
 
 # Pages for those who use the library. What is not handed out cannot be linked to.
-foreach(page accessibility descriptions exports first-dialog lytcall lytdlg lytdlg-rules macros report symptoms)
+set(lyt_not_handed_out "\\.\\./tests/[^)\n]*|(architecture|benchmarks|contributing)\\.md")
+foreach(page
+    README accessibility deployment descriptions exports first-dialog glossary limits lytcall lytdlg lytdlg-rules macros
+    partners report support symptoms)
   set(source ${CMAKE_SOURCE_DIR}/docs/${page}.md)
   file(READ ${source} text)
-  string(REGEX REPLACE "\\[([^]\n]*)\\]\\(\\.\\./tests/[^)\n]*\\)" "\\1" text "${text}")
-  file(WRITE ${CMAKE_BINARY_DIR}/package/${page}.md "${text}")
-  install(FILES ${CMAKE_BINARY_DIR}/package/${page}.md DESTINATION docs)
+  string(REGEX REPLACE "\\[([^]\n]*)\\]\\((${lyt_not_handed_out})\\)" "\\1" text "${text}")
+  file(WRITE ${CMAKE_BINARY_DIR}/package/docs/${page}.md "${text}")
+  install(FILES ${CMAKE_BINARY_DIR}/package/docs/${page}.md DESTINATION docs)
   set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${source})
 endforeach()
-install(FILES docs/preview-form.svg docs/preview-symbol.svg docs/window-symbol.png DESTINATION docs)
+install(FILES
+  docs/catalogue-96.png docs/form-120.png docs/preview-form.svg docs/preview-symbol.svg docs/window-symbol.png
+  DESTINATION docs)
 configure_file(docs/package.md.in ${CMAKE_BINARY_DIR}/package/README.md @ONLY)
 install(FILES ${CMAKE_BINARY_DIR}/package/README.md DESTINATION .)
 
