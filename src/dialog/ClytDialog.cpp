@@ -96,16 +96,32 @@ BOOL ClytDialog::OnInitDialog()
     TakeScale();
     try
     {
+        if (TryReadDescription())
+            return TRUE;
+    }
+    catch (...)
+    {
+        // Whoever handles the message tells the user. Nothing could be done with half a dialog.
+        EndDialog(constructionFailed);
+        throw;
+    }
+    EndDialog(constructionFailed);
+    return FALSE;
+}
+
+bool ClytDialog::TryReadDescription()
+{
+    try
+    {
         ReadDescription();
+        return true;
     }
     catch (CException* e)
     {
-        ShowFailure(*e);
-        e->Delete();
-        EndDialog(constructionFailed);
-        return FALSE;
+        const ClytCaught failure(e);
+        ShowFailure(*failure);
+        return false;
     }
-    return TRUE;
 }
 
 void ClytDialog::TakeScale()

@@ -87,6 +87,8 @@ protected:
 
     // Reads the description, creates the controls, scans the input and runs the rules once. Any failure is raised.
     void ReadDescription();
+    // False after the message of a failure was shown.
+    bool TryReadDescription();
     // The rule that gives Return in the named control to a button, or null. An empty name is that of a window that is
     // no control.
     const ClytControlDep* FindDefaultButtonRule(const CString& focusName) const;
