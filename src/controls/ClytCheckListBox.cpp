@@ -35,7 +35,7 @@ void ClytCheckListBox::CreateControl(ClytForm* owner)
     const int count = displayStrings.GetCount();
     for (int index = 0; index < count; ++index)
     {
-        AddString(TextOf(displayStrings.GetAt(index)));
+        ExpectRoom(AddString(TextOf(displayStrings.GetAt(index))));
         // A new item has no mark.
         if (valueStrings.GetAt(index)[0] == 'X')
             SetCheck(index, BST_CHECKED);

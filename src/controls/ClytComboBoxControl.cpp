@@ -51,7 +51,7 @@ void ClytComboBoxControl::CreateControl(ClytForm* owner)
 
     const ClytRedrawPause pause(*this);
     for (int index = 0; index < displayStrings.GetCount(); ++index)
-        AddString(TextOf(displayStrings.GetAt(index)));
+        ExpectRoom(AddString(TextOf(displayStrings.GetAt(index))));
     SetCurSel(0);
 }
 

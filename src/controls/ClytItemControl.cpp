@@ -5,6 +5,7 @@
 #include "environment/ClytEnvironment.h"
 #include "model/ClytObserver.h"
 
+#include <new>
 #include <type_traits>
 #include <utility>
 
@@ -59,9 +60,11 @@ void ClytItemControl<WINDOW>::ReplaceCurrentItem(const CString& text)
         return;
     }
     this->DeleteString(index);
-    valueStrings.SetAt(index, text);
-    displayStrings.SetAt(index, text);
-    this->InsertString(index, text);
+    valueStrings.RemoveAt(index);
+    displayStrings.RemoveAt(index);
+    ExpectRoom(this->InsertString(index, text));
+    valueStrings.InsertAt(index, text);
+    displayStrings.InsertAt(index, text);
     this->SetCurSel(index);
 }
 
@@ -134,11 +137,20 @@ void ClytItemControl<WINDOW>::PutItem(CString value, CString display, int place)
 }
 
 template <class WINDOW>
+void ClytItemControl<WINDOW>::ExpectRoom(LRESULT answer)
+{
+    static_assert(LB_ERRSPACE == CB_ERRSPACE);
+    if (answer == LB_ERRSPACE)
+        throw std::bad_alloc();
+}
+
+template <class WINDOW>
 void ClytItemControl<WINDOW>::ShowItem(const CString& text, int place)
 {
     constexpr UINT insert = std::is_base_of_v<CListBox, WINDOW> ? LB_INSERTSTRING : CB_INSERTSTRING;
     // Straight to the platform's procedure: ten thousand items need not each pass the message maps.
-    this->DefWindowProc(insert, static_cast<WPARAM>(place), reinterpret_cast<LPARAM>(text.GetString()));
+    const auto string = reinterpret_cast<LPARAM>(text.GetString());
+    ExpectRoom(this->DefWindowProc(insert, static_cast<WPARAM>(place), string));
 }
 
 template <class WINDOW>

@@ -23,7 +23,7 @@ void ClytListBoxControl::CreateControl(ClytForm* owner)
 
     const ClytRedrawPause pause(*this);
     for (int index = 0; index < displayStrings.GetCount(); ++index)
-        InsertString(index, TextOf(displayStrings.GetAt(index)));
+        ExpectRoom(InsertString(index, TextOf(displayStrings.GetAt(index))));
     SetCurSel(0);
 }
 

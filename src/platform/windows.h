@@ -377,7 +377,9 @@ enum : UINT
 };
 
 inline constexpr int LB_ERR = -1;
+inline constexpr int LB_ERRSPACE = -2;
 inline constexpr int CB_ERR = -1;
+inline constexpr int CB_ERRSPACE = -2;
 inline constexpr int GWL_STYLE = -16;
 inline constexpr int GWL_EXSTYLE = -20;
 inline constexpr int GWLP_WNDPROC = -4;
