@@ -23,7 +23,10 @@ size_t nextSymbol = 0;
 template <class Function>
 Function SourceFunction(const char* name)
 {
-    static const HMODULE source = LoadLibraryA("lytsrc");
+    // One that could not be loaded is tried again by the next call.
+    static HMODULE source = nullptr;
+    if (source == nullptr)
+        source = LoadLibraryA("lytsrc");
     FARPROC address = source != nullptr ? GetProcAddress(source, name) : nullptr;
     return reinterpret_cast<Function>(reinterpret_cast<void*>(address));
 }
