@@ -1,5 +1,7 @@
 #include "Desktop.h"
 
+#include "FaultPlan.h"
+
 #include <algorithm>
 #include <utility>
 
@@ -11,6 +13,7 @@ namespace
 
 LRESULT ClassProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
 {
+    const PlatformAtWork working;
     const std::shared_ptr<Window> object = Desktop::Get().Hold(window);
     return object != nullptr ? object->Handle(message, wParam, lParam) : 0;
 }

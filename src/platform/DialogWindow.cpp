@@ -1,6 +1,7 @@
 #include "DialogWindow.h"
 
 #include "Desktop.h"
+#include "FaultPlan.h"
 
 #include <algorithm>
 #include <utility>
@@ -23,9 +24,13 @@ SIZE DialogWindow::Adjusted(SIZE wanted) const
 
 LRESULT DialogWindow::Handle(UINT message, WPARAM wParam, LPARAM lParam)
 {
-    if (dialogProcedure != nullptr && dialogProcedure(handle, message, wParam, lParam) != FALSE)
-        return TRUE;
-    return HandleDefault(message, wParam, lParam);
+    return IsHandledByProgram(message, wParam, lParam) ? TRUE : HandleDefault(message, wParam, lParam);
+}
+
+bool DialogWindow::IsHandledByProgram(UINT message, WPARAM wParam, LPARAM lParam) const
+{
+    const ProgramAtWork working;
+    return dialogProcedure != nullptr && dialogProcedure(handle, message, wParam, lParam) != FALSE;
 }
 
 LRESULT DialogWindow::HandleDefault(UINT message, WPARAM wParam, LPARAM lParam)

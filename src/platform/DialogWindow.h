@@ -34,6 +34,7 @@ public:
     INT_PTR result = 0;
 
 private:
+    bool IsHandledByProgram(UINT message, WPARAM wParam, LPARAM lParam) const;
     LRESULT HandleDefault(UINT message, WPARAM wParam, LPARAM lParam);
     // The child after (before) one of the children, around the end.
     Window& Neighbour(const Window& child, bool backwards) const;

@@ -1,4 +1,6 @@
 // Lists of pictures: how large they are and how many; the pictures themselves are not looked at.
+#include "FaultPlan.h"
+
 #include <commctrl.h>
 
 #include <map>
@@ -22,6 +24,7 @@ std::map<HIMAGELIST, ImageList>& ImageLists()
 
 HIMAGELIST ImageList_Create(int width, int height, UINT /*flags*/, int /*initialSize*/, int /*growth*/)
 {
+    const platform::PlatformAtWork working;
     static uintptr_t lastHandle = 0x1000;
     const auto list = reinterpret_cast<HIMAGELIST>(++lastHandle);
     ImageLists()[list] = {{width, height}, 0};

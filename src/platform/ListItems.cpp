@@ -1,5 +1,7 @@
 #include "ListItems.h"
 
+#include "FaultPlan.h"
+
 #include <cstring>
 #include <strings.h>
 
@@ -19,6 +21,8 @@ int ListItems::Insert(int index, const char* text)
     const int place = index == -1 ? Count() : index;
     if (place < 0 || place > Count())
         return -1;
+    if (IsToFail(FaultKind::Item))
+        return LB_ERRSPACE;
     m_items.insert(m_items.begin() + place, {text != nullptr ? text : "", 0});
     if (m_current >= place)
         ++m_current;

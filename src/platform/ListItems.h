@@ -25,7 +25,7 @@ public:
     int Current() const { return m_current; }
     // An index that no item has leaves the current item and gives -1; -1 means none.
     int Select(int index);
-    // -1 is the end. Gives the index, -1 when there is no such place.
+    // -1 is the end. Gives the index, -1 when there is no such place, -2 when there is no room for the item.
     int Insert(int index, const char* text);
     // Gives the number of items left, -1 when there is no such item.
     int Delete(int index);

@@ -1,6 +1,7 @@
 #include "MessageQueue.h"
 
 #include "Desktop.h"
+#include "FaultPlan.h"
 
 #include <algorithm>
 #include <array>
@@ -132,6 +133,7 @@ BOOL PostMessageA(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
 {
     if (!IsWindow(window))
         return FALSE;
+    const platform::PlatformAtWork working;
     platform::posted.push_back({window, message, wParam, lParam, 0, {}});
     return TRUE;
 }

@@ -2,6 +2,7 @@
 #include "Desktop.h"
 #include "DialogTemplates.h"
 #include "DialogWindow.h"
+#include "FaultPlan.h"
 #include "MemoryWindows.h"
 #include "MessageQueue.h"
 #include "Metrics.h"
@@ -42,9 +43,12 @@ HWND Create(const char* className, const char* text, DWORD style, const RECT& un
     return window;
 }
 
+// Null when the dialog or one of its controls cannot be created.
 HWND CreateFromTemplate(const DialogTemplate& source, HWND owner)
 {
     const HWND dialog = Create("#32770", source.caption, source.style, {0, 0, source.width, source.height}, owner, 0);
+    if (dialog == nullptr)
+        return nullptr;
     // The template gives the size of the client area.
     Window& window = *Desktop::Get().Find(dialog);
     const SIZE frame = window.Frame();
@@ -52,8 +56,12 @@ HWND CreateFromTemplate(const DialogTemplate& source, HWND owner)
     window.place.bottom += frame.cy;
     for (const TemplateItem& item : source.items)
     {
-        Create(item.className, item.text, item.style | WS_CHILD | WS_VISIBLE, {item.x, item.y, item.width, item.height},
-               dialog, item.id);
+        if (Create(item.className, item.text, item.style | WS_CHILD | WS_VISIBLE,
+                   {item.x, item.y, item.width, item.height}, dialog, item.id) == nullptr)
+        {
+            DestroyWindow(dialog);
+            return nullptr;
+        }
         if (item.style == (BS_DEFPUSHBUTTON | WS_TABSTOP))
             static_cast<DialogWindow&>(window).defaultId = item.id;
     }
@@ -104,7 +112,8 @@ INT_PTR MessageProcedure(HWND box, UINT message, WPARAM wParam, LPARAM /*lParam*
     return FALSE;
 }
 
-INT_PTR RunModal(const DialogTemplate& source, HWND owner, DLGPROC procedure, LPARAM parameter)
+// Gives `notCreated` without a dialog.
+INT_PTR RunModal(const DialogTemplate& source, HWND owner, DLGPROC procedure, LPARAM parameter, INT_PTR notCreated)
 {
     Window* above = Desktop::Get().Find(owner);
     const HWND root = above != nullptr ? above->Root().handle : nullptr;
@@ -112,6 +121,11 @@ INT_PTR RunModal(const DialogTemplate& source, HWND owner, DLGPROC procedure, LP
         SendMessageA(GetCapture(), WM_CANCELMODE, 0, 0);
     EnableWindow(root, FALSE);
     const HWND window = CreateFromTemplate(source, root);
+    if (window == nullptr)
+    {
+        EnableWindow(root, TRUE);
+        return notCreated;
+    }
     const std::shared_ptr<Window> held = Desktop::Get().Hold(window);
     auto& dialog = static_cast<DialogWindow&>(*held);
     dialog.dialogProcedure = procedure;
@@ -152,8 +166,9 @@ using namespace platform;
 
 INT_PTR DialogBoxParamA(HINSTANCE /*instance*/, LPCSTR name, HWND owner, DLGPROC procedure, LPARAM parameter)
 {
+    const PlatformAtWork working;
     const DialogTemplate* source = DialogTemplates::Find(static_cast<int>(reinterpret_cast<INT_PTR>(name)));
-    return source != nullptr ? RunModal(*source, owner, procedure, parameter) : -1;
+    return source != nullptr ? RunModal(*source, owner, procedure, parameter, -1) : -1;
 }
 
 // The dialog stays until its run notices, but is gone for the user.
@@ -181,6 +196,7 @@ BOOL EndDialog(HWND dialog, INT_PTR result)
 
 int MessageBoxA(HWND owner, LPCSTR text, LPCSTR caption, UINT /*type*/)
 {
+    const PlatformAtWork working;
     const DialogTemplate box{0,
                              caption,
                              WS_POPUP | WS_CAPTION | WS_SYSMENU | DS_MODALFRAME,
@@ -188,5 +204,5 @@ int MessageBoxA(HWND owner, LPCSTR text, LPCSTR caption, UINT /*type*/)
                              60,
                              {{"Static", text, messageTextId, SS_LEFT, 10, 10, 100, 20},
                               {"Button", "OK", IDOK, BS_DEFPUSHBUTTON | WS_TABSTOP, 35, 40, 50, 14}}};
-    return static_cast<int>(RunModal(box, owner, MessageProcedure, 0));
+    return static_cast<int>(RunModal(box, owner, MessageProcedure, 0, 0));
 }

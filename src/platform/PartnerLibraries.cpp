@@ -1,5 +1,7 @@
 #include "PartnerLibraries.h"
 
+#include "FaultPlan.h"
+
 #include <algorithm>
 #include <cctype>
 #include <cstdint>
@@ -68,8 +70,10 @@ HMODULE GetModuleHandleA(LPCSTR name)
 
 HMODULE LoadLibraryA(LPCSTR name)
 {
+    const bool isToFail = platform::IsToFail(platform::FaultKind::Library);
+    const platform::PlatformAtWork working;
     const auto found = platform::Libraries().find(platform::PlainName(name));
-    if (found != platform::Libraries().end())
+    if (!isToFail && found != platform::Libraries().end())
         return found->second.handle;
     SetLastError(ERROR_MOD_NOT_FOUND);
     return nullptr;
@@ -84,6 +88,7 @@ BOOL GetModuleHandleExA(DWORD /*flags*/, LPCSTR /*address*/, HMODULE* module)
 
 FARPROC GetProcAddress(HMODULE library, LPCSTR name)
 {
+    const platform::PlatformAtWork working;
     for (const auto& [libraryName, known] : platform::Libraries())
     {
         if (known.handle != library)

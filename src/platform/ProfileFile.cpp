@@ -1,4 +1,5 @@
 // The platform's profile functions. One table of cases in the tests runs against both.
+#include "platform/FaultPlan.h"
 #include "platform/MemoryFiles.h"
 #include "platform/NativePath.h"
 
@@ -220,6 +221,7 @@ bool WriteWholeFile(const char* fileName, const std::string& content)
 
 BOOL WritePrivateProfileStringA(const char* section, const char* key, const char* value, const char* fileName)
 {
+    const platform::PlatformAtWork working;
     std::string file = ReadWholeFile(fileName);
     if (!file.empty() && file.back() != '\n')
         file += "\r\n";
@@ -235,7 +237,9 @@ BOOL WritePrivateProfileStringA(const char* section, const char* key, const char
 DWORD GetPrivateProfileStringA(const char* section, const char* key, const char* defaultText, char* buffer, DWORD size,
                                const char* fileName)
 {
-    const std::string file = ReadWholeFile(fileName);
+    const bool isToFail = platform::IsToFail(platform::FaultKind::Profile);
+    const platform::PlatformAtWork working;
+    const std::string file = isToFail ? std::string() : ReadWholeFile(fileName);
     std::string_view rest = TextOfSection(file, section);
     Line line{};
     bool isFound = false;

@@ -2,11 +2,14 @@
 // folders and a folder is no file.
 #include <StdioStream.h>
 
+#include "platform/FaultPlan.h"
 #include "platform/MemoryFiles.h"
 #include "platform/NativePath.h"
 
 #include <cerrno>
+#include <fcntl.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 namespace
 {
@@ -46,10 +49,24 @@ bool IsFolder(const char* path)
     return stat(path, &status) == 0 && S_ISDIR(status.st_mode);
 }
 
+// From here on what the stream still holds goes to a device that is full.
+void LoseWhatIsWritten(std::FILE* stream)
+{
+    const int device = open("/dev/full", O_WRONLY | O_CLOEXEC);
+    dup2(device, fileno(stream));
+    close(device);
+}
+
 } // namespace
 
 std::FILE* OpenTextStream(const char* fileName, UINT flags)
 {
+    if (platform::IsToFail(platform::FaultKind::Open))
+    {
+        errno = EMFILE;
+        return nullptr;
+    }
+    const platform::PlatformAtWork working;
     const std::string path = NativePath(fileName);
     if (platform::IsInMemory(path))
         return OpenInMemory(path, flags);
@@ -65,6 +82,12 @@ std::FILE* OpenTextStream(const char* fileName, UINT flags)
 
 bool ReadTextLine(std::FILE* stream, char* buffer, UINT count)
 {
+    if (platform::IsToFail(platform::FaultKind::Read))
+    {
+        // A stream that is only read has an error after a write.
+        putc_unlocked(endOfText, stream);
+        return false;
+    }
     UINT length = 0;
     while (length < count)
     {
@@ -81,6 +104,13 @@ bool ReadTextLine(std::FILE* stream, char* buffer, UINT count)
 
 bool WriteText(std::FILE* stream, const char* text)
 {
+    if (platform::IsToFail(platform::FaultKind::Write))
+    {
+        errno = ENOSPC;
+        return false;
+    }
+    if (platform::IsToFail(platform::FaultKind::Flush))
+        LoseWhatIsWritten(stream);
     for (; *text != '\0'; ++text)
     {
         if (*text == '\n' && putc_unlocked('\r', stream) == EOF)

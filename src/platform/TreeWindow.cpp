@@ -1,5 +1,6 @@
 #include "TreeWindow.h"
 
+#include "FaultPlan.h"
 #include "Metrics.h"
 
 #include <algorithm>
@@ -41,7 +42,7 @@ LRESULT TreeWindow::Handle(UINT message, WPARAM wParam, LPARAM lParam)
 LRESULT TreeWindow::Insert(const TVINSERTSTRUCTA& insert)
 {
     const size_t under = Find(insert.hParent);
-    if (under == none)
+    if (under == none || IsToFail(FaultKind::Item))
         return 0;
     return TreeItems::HandleOf(m_items.Insert(under, insert.item.pszText, insert.item.iImage));
 }

@@ -1,6 +1,7 @@
 // The platform's functions that create and destroy windows, send them messages, say what they are and find them.
 #include "CreationHook.h"
 #include "Desktop.h"
+#include "FaultPlan.h"
 
 #include <algorithm>
 #include <strings.h>
@@ -46,12 +47,14 @@ HWND HandleOf(const Window* window)
 
 LRESULT SendMessageA(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
 {
+    const platform::ProgramAtWork working;
     const Window* receiver = Desktop::Get().Find(window);
     return receiver != nullptr ? receiver->procedure(window, message, wParam, lParam) : 0;
 }
 
 LRESULT DefWindowProcA(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
 {
+    const platform::PlatformAtWork working;
     const std::shared_ptr<Window> object = Desktop::Get().Hold(window);
     return object != nullptr ? object->Window::Handle(message, wParam, lParam) : 0;
 }
@@ -64,8 +67,10 @@ LRESULT CallWindowProcA(WNDPROC procedure, HWND window, UINT message, WPARAM wPa
 HWND CreateWindowExA(DWORD exStyle, LPCSTR className, LPCSTR text, DWORD style, int x, int y, int width, int height,
                      HWND parent, HMENU id, HINSTANCE instance, void* parameter)
 {
-    if (platform::IsCreationRefused(
-            {parameter, instance, id, parent, height, width, y, x, static_cast<LONG>(style), text, className, exStyle}))
+    const bool isToFail = platform::IsToFail(platform::FaultKind::Window);
+    const platform::PlatformAtWork working;
+    if (isToFail || platform::IsCreationRefused({parameter, instance, id, parent, height, width, y, x,
+                                                 static_cast<LONG>(style), text, className, exStyle}))
         return nullptr;
     Desktop& desktop = Desktop::Get();
     Window* above = desktop.Find(parent);
@@ -86,6 +91,7 @@ HWND CreateWindowExA(DWORD exStyle, LPCSTR className, LPCSTR text, DWORD style, 
 // A window that dies gives focus and activation away before it is told, as if it were hidden first.
 BOOL DestroyWindow(HWND window)
 {
+    const platform::PlatformAtWork working;
     Desktop& desktop = Desktop::Get();
     const Window* dying = desktop.Find(window);
     if (dying == nullptr)
