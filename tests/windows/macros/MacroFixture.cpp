@@ -27,12 +27,6 @@ public:
 
 [[maybe_unused]] const auto* everyStatement = testing::AddGlobalTestEnvironment(new EveryStatement);
 
-std::string ReadFileBeside(const std::string& name)
-{
-    std::ifstream file(ProgramFolder() + "\\" + name, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
-}
-
 std::string FolderOfPrograms()
 {
     return ProgramFolder() + "\\..";
@@ -52,6 +46,12 @@ void WriteDialog(const TestFolder& folder, const std::string& name)
 }
 
 } // namespace
+
+std::string ReadFileBeside(const std::string& name)
+{
+    std::ifstream file(ProgramFolder() + "\\" + name, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+}
 
 Value Given(const std::string& text)
 {

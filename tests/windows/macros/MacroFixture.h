@@ -56,4 +56,7 @@ private:
     macros::Arguments m_arguments;
 };
 
+// A file that the build lays beside this program.
+std::string ReadFileBeside(const std::string& name);
+
 Value Given(const std::string& text);
