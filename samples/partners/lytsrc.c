@@ -2,11 +2,11 @@
 #include "lytsrc.h"
 
 static const lytTreeRecord records[] = {
-    {.nLevel = 1, .nType = LYT_TREE_HEADING, .szLabel = "Ground floor", .szKey = "ground"},
-    {.nLevel = 2, .nType = LYT_TREE_SYMBOL, .szLabel = "Hall", .szKey = "room.hall"},
-    {.nLevel = 2, .nType = LYT_TREE_SYMBOL, .szLabel = "Kitchen", .szKey = "room.kitchen"},
-    {.nLevel = 1, .nType = LYT_TREE_HEADING, .szLabel = "Upper floor", .szKey = "upper"},
-    {.nLevel = 2, .nType = LYT_TREE_SYMBOL, .szLabel = "Bedroom", .szKey = "room.bedroom"},
+    {.nLevel = 0, .nType = LYT_TREE_HEADING, .szLabel = "Ground floor", .szKey = "ground"},
+    {.nLevel = 1, .nType = LYT_TREE_SYMBOL, .szLabel = "Hall", .szKey = "room.hall"},
+    {.nLevel = 1, .nType = LYT_TREE_SYMBOL, .szLabel = "Kitchen", .szKey = "room.kitchen"},
+    {.nLevel = 0, .nType = LYT_TREE_HEADING, .szLabel = "Upper floor", .szKey = "upper"},
+    {.nLevel = 1, .nType = LYT_TREE_SYMBOL, .szLabel = "Bedroom", .szKey = "room.bedroom"},
 };
 static size_t next;
 
