@@ -1,6 +1,10 @@
 // The sample dialogs on the screen, in both languages, at the resolution that the test runs at: nothing is clipped,
 // nothing covers another, lists end where their neighbours end. The same program runs at 96 and 120 dots per inch.
+#include "lyt64.h"
+
 #include "SampleDialog.h"
+
+#include "support/Library.h"
 
 #include <algorithm>
 #include <functional>
@@ -117,7 +121,7 @@ void ExpectCaptionsToFit(HWND dialog)
 {
     for (const Control& control : VisibleControlsOf(dialog))
     {
-        if (control.type == "Edit" || control.type == "ListBox" || control.type == "ComboBox")
+        if (control.type != "Static" && control.type != "Button" && !control.IsPushButton() && !control.IsFrame())
             continue;
         EXPECT_LE(ShownWidth(dialog, control.caption) + EdgesOf(dialog, control),
                   control.place.right - control.place.left)
@@ -254,5 +258,29 @@ TEST_P(SampleLayout, LetsListsEndLevelWithTheirNeighbours)
 {
     ExpectInDialog(ExpectListsToEndLevel);
 }
+
+// The catalogue is a dialog of the library's own, with captions from the language file.
+class CatalogueLayout : public testing::TestWithParam<const char*>
+{
+};
+
+TEST_P(CatalogueLayout, GivesEveryButtonRoomForItsCaptionAndCoversNothing)
+{
+    const SampleSet samples(GetParam());
+    robot::Robot robot;
+    robot.On("",
+             [](HWND dialog)
+             {
+                 ExpectCaptionsToFit(dialog);
+                 ExpectNothingToBeCovered(dialog);
+                 robot::Press(GetDlgItem(dialog, IDCANCEL));
+             });
+    char choice[256] = "";
+    EXPECT_EQ(Call<decltype(lytOpenTreeView)>("lytOpenTreeView")("S", choice, 255), 0);
+    EXPECT_TRUE(robot.Done()) << robot.Log();
+}
+
+INSTANTIATE_TEST_SUITE_P(In, CatalogueLayout, testing::Values("English", "German"),
+                         [](const auto& language) { return std::string(language.param); });
 
 INSTANTIATE_TEST_SUITE_P(Dialog, SampleLayout, testing::ValuesIn(Samples()), NameOfSample);
