@@ -13,6 +13,7 @@ public:
     ModuleReference() noexcept;
     ModuleReference(const ModuleReference&) = delete;
     ModuleReference& operator=(const ModuleReference&) = delete;
+    // NOLINTNEXTLINE(performance-trivially-destructible): only natively.
     ~ModuleReference();
 
     // Called while the module is being loaded, when no other thread changes the loader's records.

@@ -2,6 +2,16 @@
 
 #include <FileNameLength.h>
 
+namespace
+{
+
+bool IsOwn(HMODULE library)
+{
+    return lytOwnLibraries != nullptr && lytOwnLibraries->Owns(library);
+}
+
+} // namespace
+
 HMODULE lytLoadLibrary(const char* name)
 {
     if (*name == '\0' || !FileNameFits(name))
@@ -12,8 +22,17 @@ HMODULE lytLoadLibrary(const char* name)
     return ::LoadLibraryA(name);
 }
 
+bool lytIsLoaded(HMODULE library)
+{
+    if (IsOwn(library))
+        return true;
+    // A library's handle is the address at which it stands.
+    constexpr DWORD flags = GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT;
+    HMODULE found = nullptr;
+    return ::GetModuleHandleExA(flags, reinterpret_cast<LPCSTR>(library), &found) && found == library;
+}
+
 FARPROC lytFunctionAddress(HMODULE library, const char* name)
 {
-    const bool isOwn = lytOwnLibraries != nullptr && lytOwnLibraries->Owns(library);
-    return isOwn ? lytOwnLibraries->Find(library, name) : ::GetProcAddress(library, name);
+    return IsOwn(library) ? lytOwnLibraries->Find(library, name) : ::GetProcAddress(library, name);
 }

@@ -38,6 +38,9 @@ inline ClytOwnLibraries* lytOwnLibraries = nullptr;
 // shows no message of its own, whatever lies under the name.
 [[nodiscard]] HMODULE lytLoadLibrary(const char* name);
 
+// False for a library that somebody has taken out of the process since it was loaded: its functions are gone, too.
+[[nodiscard]] bool lytIsLoaded(HMODULE library);
+
 FARPROC lytFunctionAddress(HMODULE library, const char* name);
 // The function under the type that the partner's header gives it; null when the library has none of that name.
 template <class FUNCTION>

@@ -35,7 +35,7 @@ void ClytListSource::TakeStatement(const CStringList& values, const ClytSpan& pl
 
 bool ClytDataLibrary::Load(const CString& name, const ClytSpan& place)
 {
-    if (module == nullptr)
+    if (module == nullptr || !lytIsLoaded(module))
         module = lytLoadLibrary(name);
     if (module == nullptr)
         lytTellMissing(ClytMissing::Library, name, nullptr, place);

@@ -60,7 +60,8 @@ struct ClytListSource
     ClytSpan span;         // of the statement
 };
 
-// The library that all controls of one class share. The first that loads stays: later names are not looked at.
+// The library that all controls of one class share. The first that loads stays, and later names are not looked at, unless
+// somebody has taken it out of the process.
 class ClytDataLibrary
 {
 public:

@@ -79,10 +79,13 @@ HMODULE LoadLibraryA(LPCSTR name)
     return nullptr;
 }
 
-// Every function is part of the program.
-BOOL GetModuleHandleExA(DWORD /*flags*/, LPCSTR /*address*/, HMODULE* module)
+// Every function is part of the program; only the handle of a library that is there names the library itself.
+BOOL GetModuleHandleExA(DWORD /*flags*/, LPCSTR address, HMODULE* module)
 {
-    *module = nullptr;
+    auto* const asked = reinterpret_cast<HMODULE>(const_cast<char*>(address));
+    const bool isLibrary =
+        std::ranges::any_of(platform::Libraries(), [&](const auto& known) { return known.second.handle == asked; });
+    *module = isLibrary ? asked : nullptr;
     return TRUE;
 }
 

@@ -7,7 +7,8 @@
 namespace
 {
 
-// Stays loaded for the life of the process. A missing library is looked for again at each use.
+// Stays loaded for the life of the process. A library that is missing, or that somebody has taken out of the process, is
+// looked for again at each use.
 HMODULE lytSourceLibrary = nullptr;
 
 struct SourcePair
@@ -26,7 +27,7 @@ SourcePair FindPair(const char* start, const char* next)
 
 bool LoadSource()
 {
-    if (lytSourceLibrary != nullptr)
+    if (lytSourceLibrary != nullptr && lytIsLoaded(lytSourceLibrary))
         return true;
     lytSourceLibrary = lytLoadLibrary("lytsrc");
     if (lytSourceLibrary == nullptr)
