@@ -1,27 +1,11 @@
 // Which library files a class of controls loads: windows in memory load none. A class keeps the first library that loads
 // for the life of the process, so these tests run in their order.
 #include "DataLibraryFixture.h"
-
-#include <fstream>
-#include <iterator>
+#include "support/Library.h"
+#include "support/Modules.h"
 
 namespace
 {
-
-// The bytes of the nasty library, marked as made for another kind of processor.
-std::string LibraryOfAnotherMachine()
-{
-    char path[MAX_PATH] = "";
-    GetModuleFileNameA(nullptr, path, MAX_PATH);
-    std::string name = path;
-    name.replace(name.find_last_of('\\') + 1, std::string::npos, "nasty.dll");
-    std::ifstream file(name, std::ios::binary);
-    std::string bytes{std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
-    const size_t header = bytes.find(std::string("PE\0\0", 4));
-    const WORD machine = IMAGE_FILE_MACHINE_I386;
-    bytes.replace(header + 4, sizeof machine, reinterpret_cast<const char*>(&machine), sizeof machine);
-    return bytes;
-}
 
 bool IsLoaded(const char* library)
 {
@@ -58,7 +42,7 @@ TEST_F(DataLibrary, AMissingLibraryEmptiesTheListInSilence)
 TEST_F(DataLibrary, AFileThatIsNoLibraryOfThisMachineEmptiesTheListInSilence)
 {
     form.Folder().Write("broken.dll", "MZ, and nothing after it");
-    form.Folder().Write("other.dll", LibraryOfAnotherMachine());
+    form.Folder().Write("other.dll", LibraryOfAnotherMachine(ProgramFolder() + "\\nasty.dll"));
     for (const char* file : {"\\broken.dll", "\\other.dll"})
     {
         for (const std::string& kind : classes)

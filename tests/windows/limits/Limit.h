@@ -23,3 +23,6 @@ struct LimitTable
 };
 
 extern const LimitTable momentLimits;
+extern const LimitTable answerLimits;
+extern const LimitTable partnerLimits;
+extern const LimitTable fileLimits;

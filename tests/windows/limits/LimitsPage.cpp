@@ -6,6 +6,13 @@ namespace
 const char* const head = R"(# What happens when somebody breaks the rules
 
 Each mistake has one outcome, and the process lives, unless its row says otherwise. Every row is carried out by a test.
+
+## Bad arguments
+
+*Refused* means: the result is 0, no buffer is written, no window is shown, and nothing else happens. A buffer must have the
+room that its size promises, and one byte more where [exports.md](exports.md) says so: the library cannot see what lies
+there. What is no pointer at all ends the process, as does a text without an end.
+
 )";
 
 std::string TableOf(const LimitTable& table)
@@ -19,9 +26,9 @@ std::string TableOf(const LimitTable& table)
 
 } // namespace
 
-std::string PageOf(const std::vector<const LimitTable*>& tables)
+std::string PageOf(const std::string& arguments, const std::vector<const LimitTable*>& tables)
 {
-    std::string page = head;
+    std::string page = head + arguments;
     for (const LimitTable* table : tables)
         page += TableOf(*table);
     return page;

@@ -6,5 +6,5 @@
 #include <string>
 #include <vector>
 
-// The page as the tables tell it.
-std::string PageOf(const std::vector<const LimitTable*>& tables);
+// The page as the tables tell it, `arguments` being that of the exports.
+std::string PageOf(const std::string& arguments, const std::vector<const LimitTable*>& tables);

@@ -1,3 +1,4 @@
+#include "BadArguments.h"
 #include "Limit.h"
 #include "LimitsPage.h"
 #include "Scene.h"
@@ -12,10 +13,15 @@ void PrintTo(const Limit& limit, std::ostream* stream)
     *stream << limit.subject << ": " << limit.breach;
 }
 
+void PrintTo(const Export& function, std::ostream* stream)
+{
+    *stream << function.name;
+}
+
 namespace
 {
 
-const std::vector<const LimitTable*> tables = {&momentLimits};
+const std::vector<const LimitTable*> tables = {&momentLimits, &answerLimits, &partnerLimits, &fileLimits};
 
 std::vector<Limit> AllLimits()
 {
@@ -29,9 +35,21 @@ class EachLimit : public testing::TestWithParam<Limit>
 {
 };
 
+class EachExport : public testing::TestWithParam<Export>
+{
+};
+
+INSTANTIATE_TEST_SUITE_P(, EachExport, testing::ValuesIn(Exports()),
+                         [](const auto& function) { return std::string(function.param.name); });
 INSTANTIATE_TEST_SUITE_P(, EachLimit, testing::ValuesIn(AllLimits()));
 
 } // namespace
+
+TEST_P(EachExport, TakesBadArgumentsAsThePageTells)
+{
+    Scene scene;
+    ProveBadArguments(scene, GetParam());
+}
 
 TEST_P(EachLimit, ComesOutAsThePageTells)
 {
@@ -41,7 +59,7 @@ TEST_P(EachLimit, ComesOutAsThePageTells)
 
 TEST(LimitsPage, ListsEveryLimit)
 {
-    const std::string page = PageOf(tables);
+    const std::string page = PageOf(BadArgumentsTable(), tables);
     if (std::getenv("LYT_UPDATE") != nullptr)
         std::ofstream(LYT_LIMITS_PAGE, std::ios::binary) << page;
     std::ostringstream written;

@@ -7,11 +7,6 @@
 namespace
 {
 
-// What exports give when they are called in the order of CallEverything and every window is cancelled.
-const char* const everyAnswer = "lytGetTextForKey 1\nlytGetTextFromIniFile 1\nlytListFromIniStart 1\n"
-                                "lytListFromIniNext 1\nlytSystemInfoInit 1\nlytSystemInfoRead 1\n"
-                                "lytGetInitializationPath 1\nlytGetCurrentDocName 1\n";
-
 void OnAnotherThread(const std::function<void()>& act)
 {
     std::thread(act).join();
@@ -69,7 +64,7 @@ void CallOnAnotherThreadBetweenDialogs(Scene& scene)
 
 void CallAboveADialog(Scene& scene)
 {
-    scene.OnDialog([&](HWND) { EXPECT_EQ(scene.CallEverything(), everyAnswer); });
+    scene.OnDialog([&](HWND) { EXPECT_EQ(scene.CallEverything(), Scene::everyAnswer); });
     scene.CancelEverything().EndDialog(IDOK);
     EXPECT_EQ(scene.ShowSymbol(), "2 key");
 }
@@ -161,7 +156,7 @@ void CallAfterUnloading(Scene& scene)
     EXPECT_EQ(scene.ShowSymbol(), "2 key");
 }
 
-constexpr Limit limits[] = {
+constexpr Limit momentRows[] = {
     {"any function", "is called on another thread while a dialog is up",
      "refused: it gives 0, or nothing, and does nothing; the dialog goes on", CallBesideADialog},
     {"any function", "the same while the catalogue is up", "the same", CallBesideABrowser},
@@ -194,5 +189,5 @@ const LimitTable momentLimits = {
     "Calls at the wrong time",
     "Calls come from one thread, one at a time. What happens when they do not:",
     "what",
-    limits,
+    momentRows,
 };

@@ -3,6 +3,9 @@
 #include "support/Image.h"
 
 Scene* Scene::current = nullptr;
+const std::string Scene::everyAnswer =
+    "lytGetTextForKey 1\nlytGetTextFromIniFile 1\nlytListFromIniStart 1\nlytListFromIniNext 1\n"
+    "lytSystemInfoInit 1\nlytSystemInfoRead 1\nlytGetInitializationPath 1\nlytGetCurrentDocName 1\n";
 
 namespace
 {
@@ -43,7 +46,7 @@ Scene::Scene() : m_library(LibraryFile())
 {
     current = this;
     folder.Write("lyt.ini", "[global]\r\nCurrent Language=Test\r\nTreeWidth=300\r\nTreeHeight=300\r\n"
-                            "[lists]\r\nlist=a,b\r\n");
+                            "[lists]\r\nlist=a,b\r\n[LogLevel]\r\nlevel=2\r\n");
     folder.Write("lang/Test.nls", SharedTexts() + "[Label]\r\nTreeDlgLabel=Catalogue\r\n"
                                                   "[LIMITS]\r\nTitle=The title\r\nFill=Fill\r\nGo=Go\r\n");
     for (const char* name : {"lytInSym", "lytInPhr", "lytCdGrp", "lytRpGrp", "lytWzGrp", "lytWzPhr", "lytWzSym"})

@@ -24,6 +24,8 @@ public:
     {
         return m_library.Get<Function>(name);
     }
+    // Any function, for a caller that hands over plain numbers and addresses.
+    void* GetAny(const char* name) const { return reinterpret_cast<void*>(GetProcAddress(m_library.Module(), name)); }
     // What the functions of a partner library do; all of them nothing at first.
     HostileActs& Partner(const std::string& library);
 
@@ -60,6 +62,8 @@ public:
     // CancelEverything. The names and results of those that give something other than 0, line by line.
     std::string CallEverything() const;
     Scene& CancelEverything();
+    // What CallEverything gives then.
+    static const std::string everyAnswer;
 
     const TestFolder folder;
     robot::Robot robot;

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <cctype>
+#include <fstream>
+#include <iterator>
 #include <vector>
 
 #include <windows.h>
@@ -28,6 +30,16 @@ std::set<std::string> LoadedModules()
         paths.insert(InLowerCase(path));
     }
     return paths;
+}
+
+std::string LibraryOfAnotherMachine(const std::string& file)
+{
+    std::ifstream stream(file, std::ios::binary);
+    std::string bytes{std::istreambuf_iterator<char>(stream), std::istreambuf_iterator<char>()};
+    const size_t header = bytes.find(std::string("PE\0\0", 4));
+    const WORD machine = IMAGE_FILE_MACHINE_I386;
+    bytes.replace(header + 4, sizeof machine, reinterpret_cast<const char*>(&machine), sizeof machine);
+    return bytes;
 }
 
 std::string FileNameOf(const std::string& path)

@@ -1,0 +1,193 @@
+// What partner libraries write into their buffers, and what they raise instead.
+#include "Limit.h"
+#include "Ways.h"
+
+#include <cstring>
+#include <limits>
+#include <stdexcept>
+
+namespace
+{
+
+// Delivers once and ends, again and again.
+bool IsDue()
+{
+    static bool isDelivered = false;
+    isDelivered = !isDelivered;
+    return isDelivered;
+}
+
+void WriteEveryByte(char* text, int size)
+{
+    for (int index = 0; index <= size; ++index)
+        text[index] = static_cast<char>(index % 255 + 1);
+}
+
+void FilledText(Scene& scene)
+{
+    scene.Partner("hostile").text = [](const char*, char* text, int size)
+    {
+        WriteEveryByte(text, size);
+        return -1;
+    };
+    const std::string text = FillText(scene);
+    EXPECT_EQ(text.size(), 2U + 255U);
+    EXPECT_EQ(text.substr(0, 5), "1 \x01\x02\x03");
+    EXPECT_EQ(Act(scene), "2 key");
+}
+
+void FilledItems(Scene& scene)
+{
+    scene.Partner("hostile").next = [](char* display, int size, char* value, int valueSize)
+    {
+        std::memset(display, 'D', static_cast<size_t>(size) + 1);
+        std::memset(value, 'V', static_cast<size_t>(valueSize) + 1);
+        return IsDue() ? std::numeric_limits<int>::min() : 0;
+    };
+    EXPECT_EQ(FillList(scene), Texts{std::string(255, 'D')});
+}
+
+void ServeOneRecord(Scene& scene, void (*fill)(lytTreeRecord& record))
+{
+    static void (*fillRecord)(lytTreeRecord&) = nullptr;
+    fillRecord = fill;
+    scene.Partner("lytsrc").treeNext = [](lytTreeRecord* record)
+    {
+        fillRecord(*record);
+        return static_cast<int32_t>(IsDue() ? -1 : 0);
+    };
+}
+
+void FilledRecord(Scene& scene)
+{
+    ServeOneRecord(scene,
+                   [](lytTreeRecord& record)
+                   {
+                       record.nType = LYT_TREE_SYMBOL;
+                       std::memset(record.szLabel, 'L', sizeof record.szLabel);
+                       std::memset(record.szKey, 'k', sizeof record.szKey);
+                   });
+    EXPECT_EQ(scene.FindSymbol("k"), "0 as it was");
+    EXPECT_EQ(scene.EndBrowser(IDOK).OpenBrowser(), "1 S//");
+}
+
+void OddRecord(Scene& scene)
+{
+    ServeOneRecord(scene,
+                   [](lytTreeRecord& record)
+                   {
+                       record.nLevel = std::numeric_limits<int32_t>::min();
+                       record.nType = std::numeric_limits<int32_t>::max();
+                       std::memset(record.szLabel, 0xFF, sizeof record.szLabel - 1);
+                       std::strcpy(record.szKey, "\x01");
+                   });
+    EXPECT_EQ(scene.FindSymbol("\x01"), "0 as it was");
+    EXPECT_EQ(scene.EndBrowser(IDOK).OpenBrowser(), "1 H//" + std::string(99, '\xFF'));
+}
+
+void FilledVersion(Scene& scene)
+{
+    scene.Partner("LytRes64").version = [](char* text) { std::memset(text, 'x', 400); };
+    EXPECT_EQ(VersionLine(scene), std::string(399, 'x'));
+}
+
+// ---- exceptions
+
+[[noreturn]] void BreakOff()
+{
+    throw std::runtime_error("Broken off.");
+}
+
+void ConfirmMessage(Scene& scene)
+{
+    scene.robot.AnswerMessage();
+}
+
+void ExpectTold(const Scene& scene)
+{
+    EXPECT_EQ(scene.robot.Messages(), Texts{"Broken off."});
+}
+
+void RaisingText(Scene& scene)
+{
+    scene.Partner("hostile").text = [](const char*, char*, int) -> int { BreakOff(); };
+    EXPECT_EQ(FillText(scene, ConfirmMessage), "2 key");
+    ExpectTold(scene);
+}
+
+void RaisingAction(Scene& scene)
+{
+    scene.Partner("hostile").text = [](const char*, char*, int) -> int { BreakOff(); };
+    EXPECT_EQ(Act(scene, ConfirmMessage), "2 key");
+    ExpectTold(scene);
+}
+
+void RaisingItem(Scene& scene)
+{
+    scene.Partner("hostile").next = [](char* display, int, char* value, int)
+    {
+        if (!IsDue())
+            BreakOff();
+        std::strcpy(display, "first");
+        std::strcpy(value, "first");
+        return 1;
+    };
+    EXPECT_EQ(FillList(scene, ConfirmMessage), Texts{"first"});
+    ExpectTold(scene);
+}
+
+void RaisingRecord(Scene& scene)
+{
+    scene.Partner("lytsrc").treeNext = [](lytTreeRecord*) -> int32_t { BreakOff(); };
+    scene.robot.AnswerMessage();
+    EXPECT_EQ(scene.EndBrowser(IDCANCEL).OpenBrowser(), "0 as it was");
+    ExpectTold(scene);
+}
+
+void RaisingLookup(Scene& scene)
+{
+    scene.Partner("lytsrc").treeNext = [](lytTreeRecord*) -> int32_t { BreakOff(); };
+    EXPECT_THROW(scene.FindSymbol("k"), std::runtime_error);
+    EXPECT_EQ(scene.EndDialog(IDOK).ShowSymbol(), "2 key");
+}
+
+void RaisingVersion(Scene& scene)
+{
+    scene.Partner("LytRes64").version = [](char*) { BreakOff(); };
+    EXPECT_EQ(VersionLine(scene), NoVersion());
+}
+
+constexpr Limit answerRows[] = {
+    {"text of a field or an action", "fills all 256 bytes, gives any number",
+     "the text is the first 255 bytes; the number is not looked at", FilledText},
+    {"items of a list", "fill all 256 bytes of both buffers, give any number but 0",
+     "the texts are the first 255 bytes; the listing goes on", FilledItems},
+    {"record of the catalogue", "label or key without a NUL in its 100 bytes", "it is empty", FilledRecord},
+    {"record of the catalogue", "a type that is none, a level of any size",
+     "the type of the record before, a heading at first; the level counts as it is", OddRecord},
+    {"version of the resource library", "fills 400 bytes", "it is the first 399", FilledVersion},
+    {"text of a field", "raises a C++ exception of the same tool chain",
+     "a message says what it says; the field is as it was, and the dialog goes on", RaisingText},
+    {"text of an action", "the same", "the same, and nothing is scanned", RaisingAction},
+    {"items of a list", "the same", "the same; the items before it stay in the list", RaisingItem},
+    {"record of the catalogue", "the same while it is shown",
+     "a message says what it says; the catalogue is empty, and is read again by the next call", RaisingRecord},
+    {"record of the catalogue", "the same in `lytGetSymbolfromTree`",
+     "the exception goes on to the caller, whose process may end; the library works on", RaisingLookup},
+    {"version of the resource library", "the same", "the report shows no version", RaisingVersion},
+};
+
+} // namespace
+
+const LimitTable answerLimits = {
+    "What partner libraries give",
+    "A listing or a catalogue that does not end counts as ended after 1,000,000 items or records. A function that does "
+    "not\n"
+    "come back cannot be stopped: the call does not come back either. Nor does the library catch a fault: a partner "
+    "that\n"
+    "writes beyond its buffer, calls itself for ever, or raises what is no C++ exception of the same tool chain, such "
+    "as an\n"
+    "access violation, ends the process, unless the host has a handler.",
+    "what",
+    answerRows,
+};

@@ -1,0 +1,43 @@
+// Every export with its arguments: a good value of each, and what a bad one stands for.
+#pragma once
+
+#include "Scene.h"
+
+#include <optional>
+
+enum class Kind
+{
+    text,
+    number,
+    buffer, // followed by its size
+    spare,  // the same, for a buffer that may be missing
+    size,
+    spareSize,
+};
+
+// A number out of range gives the same as another, which the page words.
+struct OddNumber
+{
+    int same;
+    const char* wording;
+};
+
+struct Argument
+{
+    const char* name;
+    Kind kind;
+    const char* text = ""; // a good one
+    int number = 0;
+    OddNumber negative = {};
+    OddNumber huge = {};
+};
+
+struct Export
+{
+    const char* name;
+    bool hasResult;
+    std::vector<Argument> arguments;
+    void (*prepare)(Scene& scene);
+};
+
+const std::vector<Export>& Exports();

@@ -1,0 +1,242 @@
+// What partner libraries do besides: they call back, unload what is in use, vanish, or are none.
+#include "Limit.h"
+#include "Ways.h"
+
+#include "support/Modules.h"
+
+#include <cstring>
+
+namespace
+{
+
+// ---- calls back into the library
+
+void CancelEverything(Scene& scene)
+{
+    scene.CancelEverything();
+}
+
+// Takes back what was to be done: the act is done once.
+void CallEverythingOnce(HostileActs& acts)
+{
+    acts = {};
+    EXPECT_EQ(Scene::Current().CallEverything(), Scene::everyAnswer);
+}
+
+int CallBack(const char* /*parameter*/, char* text, int /*size*/)
+{
+    CallEverythingOnce(Scene::Current().Partner("hostile"));
+    std::strcpy(text, "after all");
+    return 0;
+}
+
+void CallingText(Scene& scene)
+{
+    scene.Partner("hostile").text = CallBack;
+    EXPECT_EQ(FillText(scene, CancelEverything), "1 after all");
+}
+
+void CallingAction(Scene& scene)
+{
+    scene.Partner("hostile").text = CallBack;
+    EXPECT_EQ(Act(scene, CancelEverything), "2 key");
+}
+
+void CallingItem(Scene& scene)
+{
+    scene.Partner("hostile").next = [](char* display, int, char* value, int)
+    {
+        CallEverythingOnce(Scene::Current().Partner("hostile"));
+        std::strcpy(display, "after all");
+        std::strcpy(value, "after all");
+        return 1;
+    };
+    EXPECT_EQ(FillList(scene, CancelEverything), Texts{"after all"});
+}
+
+void ServeAfterCalling(Scene& scene)
+{
+    scene.Partner("lytsrc").treeNext = [](lytTreeRecord* record)
+    {
+        CallEverythingOnce(Scene::Current().Partner("lytsrc"));
+        record->nType = LYT_TREE_SYMBOL;
+        std::strcpy(record->szKey, "outer");
+        return static_cast<int32_t>(1);
+    };
+}
+
+void CallingRecord(Scene& scene)
+{
+    ServeAfterCalling(scene);
+    EXPECT_EQ(scene.CancelEverything().EndBrowser(IDOK).OpenBrowser(), "1 S/outer/");
+}
+
+void CallingLookup(Scene& scene)
+{
+    ServeAfterCalling(scene);
+    EXPECT_EQ(scene.CancelEverything().FindSymbol("o"), "1 outer");
+}
+
+void CallingVersion(Scene& scene)
+{
+    scene.Partner("LytRes64").version = [](char* text)
+    {
+        Scene& current = Scene::Current();
+        current.EndDialog(IDOK);
+        EXPECT_EQ(current.ShowSymbol(), "2 key");
+        std::strcpy(text, "after all");
+    };
+    EXPECT_EQ(VersionLine(scene), "after all");
+}
+
+// ---- unloading
+
+int UnloadLibrary(const char* /*parameter*/, char* /*text*/, int /*size*/)
+{
+    Scene::Current().Unload();
+    return 0;
+}
+
+void UnloadingText(Scene& scene)
+{
+    scene.Partner("hostile").text = UnloadLibrary;
+    EXPECT_EQ(FillText(scene), "1 as it was");
+}
+
+void UnloadingAction(Scene& scene)
+{
+    scene.Partner("hostile").text = UnloadLibrary;
+    EXPECT_EQ(Act(scene), "2 key");
+}
+
+void UnloadingLookup(Scene& scene)
+{
+    scene.Partner("lytsrc").treeStart = [](const char*) -> int32_t
+    {
+        Scene::Current().Unload();
+        return 1;
+    };
+    EXPECT_EQ(scene.FindSymbol("k"), "0 as it was");
+}
+
+void UnloadingVersion(Scene& scene)
+{
+    scene.Partner("LytRes64").version = [](char*) { Scene::Current().Unload(); };
+    EXPECT_EQ(VersionLine(scene), NoVersion());
+}
+
+// ---- closing the dialog
+
+void ClosingText(Scene& scene)
+{
+    scene.Partner("hostile").text = [](const char*, char*, int)
+    {
+        EndDialog(robot::ActiveDialog(), IDCANCEL);
+        return 0;
+    };
+    scene.Describe("", "Key=FILLEDBY,hostile,Text\nFill=FILL,Key\n");
+    EXPECT_EQ(scene.ClickOn("Fill").ShowSymbol(), "0 as it was");
+}
+
+void DestroyingText(Scene& scene)
+{
+    scene.Partner("hostile").text = [](const char*, char*, int)
+    {
+        DestroyWindow(robot::ActiveDialog());
+        return 0;
+    };
+    scene.Describe("", "Key=FILLEDBY,hostile,Text\nFill=FILL,Key\n");
+    EXPECT_EQ(scene.ClickOn("Fill").ShowSymbol(), "0 as it was");
+}
+
+// ---- vanishing
+
+void TakeAway(const char* library)
+{
+    while (HMODULE module = GetModuleHandleA(library))
+        FreeLibrary(module);
+}
+
+void VanishingText(Scene& scene)
+{
+    EXPECT_EQ(FillText(scene), "1 as it was");
+    TakeAway("hostile");
+    scene.Partner("hostile").text = [](const char*, char* text, int)
+    {
+        std::strcpy(text, "again");
+        return 0;
+    };
+    EXPECT_EQ(FillText(scene), "1 again");
+}
+
+void VanishingItems(Scene& scene)
+{
+    EXPECT_EQ(FillList(scene), Texts{});
+    TakeAway("hostile");
+    EXPECT_EQ(FillList(scene), Texts{});
+    EXPECT_NE(GetModuleHandleA("hostile"), nullptr);
+}
+
+void VanishingCatalogue(Scene& scene)
+{
+    EXPECT_EQ(scene.FindSymbol("k"), "0 as it was");
+    TakeAway("lytsrc");
+    EXPECT_EQ(scene.FindSymbol("k"), "0 as it was");
+    EXPECT_NE(GetModuleHandleA("lytsrc"), nullptr);
+}
+
+// ---- files that are no libraries
+
+void ExpectNoLibrary(Scene& scene, const std::string& file)
+{
+    EXPECT_EQ(FillText(scene, NoSteps, file), "2 key");
+    EXPECT_EQ(FillList(scene, NoSteps, file), Texts{});
+    EXPECT_EQ(Act(
+                  scene, [](Scene& current) { current.robot.AnswerMessage(); }, file),
+              "2 key");
+    EXPECT_EQ(scene.robot.Messages(), Texts{"238\nE233 '" + file + "'"});
+}
+
+void OtherMachine(Scene& scene)
+{
+    ExpectNoLibrary(scene, scene.folder.Write("other.dll", LibraryOfAnotherMachine(ProgramFolder() + "\\hostile.dll")));
+}
+
+void NoLibraryAtAll(Scene& scene)
+{
+    ExpectNoLibrary(scene, scene.folder.Write("broken.dll", "MZ, and nothing after it"));
+}
+
+constexpr Limit partnerRows[] = {
+    {"text of a field", "calls every function of the library",
+     "each works as at any time; its windows stand above the dialog", CallingText},
+    {"text of an action", "the same", "the same", CallingAction},
+    {"items of a list", "the same", "the same", CallingItem},
+    {"catalogue that is being shown", "the same", "the same; what the outer run delivers is the catalogue",
+     CallingRecord},
+    {"catalogue in `lytGetSymbolfromTree`", "the same", "the same", CallingLookup},
+    {"resource library", "shows a dialog of the library", "it works as at any time", CallingVersion},
+    {"text of a field", "unloads lyt64.dll", "the library stays, and the call comes back", UnloadingText},
+    {"text of an action", "the same", "the same", UnloadingAction},
+    {"catalogue in `lytGetSymbolfromTree`", "the same", "the same", UnloadingLookup},
+    {"resource library", "the same", "the same", UnloadingVersion},
+    {"text of a field", "ends the dialog", "the dialog is cancelled when the function has come back", ClosingText},
+    {"text of a field", "destroys the dialog's window", "the same", DestroyingText},
+    {"data library of a field", "is freed between two calls", "it is loaded again", VanishingText},
+    {"data library of a list", "the same", "the same", VanishingItems},
+    {"catalogue", "the same", "the same", VanishingCatalogue},
+    {"data library", "is made for another kind of processor",
+     "as one that is missing: a field stays as it was and a list is emptied, without a message; an action shows "
+     "message 233",
+     OtherMachine},
+    {"data library", "is no library", "the same", NoLibraryAtAll},
+};
+
+} // namespace
+
+const LimitTable partnerLimits = {
+    "What partner libraries do",
+    "A partner may call the library from inside its functions, on the same thread.",
+    "who",
+    partnerRows,
+};
