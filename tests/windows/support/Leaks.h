@@ -1,8 +1,7 @@
-// Demands that something done over and over takes nothing with it: no window, no graphics object, no kernel handle, no
-// thread-local slot, no memory.
+// Demands that something done over and over takes nothing with it.
 #pragma once
 
 #include <functional>
 
-// Does `once` until everything is warm, then `rounds` times more, and compares.
+// Does `once` until everything is warm, then `rounds` times more, and compares what the process holds before and after.
 void ExpectNoGrowth(const std::function<void()>& once, int rounds = 100);
