@@ -1,0 +1,128 @@
+// One process that goes on for long: whatever is done a thousand times in it, it holds no more afterwards than it did
+// when everything was warm.
+//
+// The tests stand in the order in which they have to run: the library can only be loaded and unloaded before anything
+// keeps it, and the catalogue's tests take it away after each.
+#include "controls/WholeForm.h"
+#include "report/ReportTest.h"
+#include "support/FreshLibrary.h"
+#include "support/Holdings.h"
+#include "support/Leaks.h"
+#include "tree/WizardFixture.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <iostream>
+
+namespace
+{
+
+// What is done in the ordinary run is a twentieth.
+int RoundsOf(int all)
+{
+    return std::getenv("LYT_LONG_RUN") != nullptr ? all : std::max(all / 20, 3);
+}
+
+void RunLong(int rounds, const std::function<void()>& once)
+{
+    rounds = RoundsOf(rounds);
+    ExpectNoGrowth(once, rounds);
+    std::cout << "after " << rounds << " rounds: " << Holdings().Text() << std::endl;
+}
+
+// A site with its buildings, in each of which there are groups of symbols.
+Records Catalogue(int size)
+{
+    Records records;
+    const std::tuple<int, int, int> levels[] = {
+        {500, 0, LYT_TREE_HEADING}, {50, 1, LYT_TREE_HEADING}, {10, 2, LYT_TREE_GROUP}, {1, 3, LYT_TREE_SYMBOL}};
+    for (int number = 0; number < size; ++number)
+    {
+        const auto& [every, level, type] =
+            *std::ranges::find_if(levels, [&](const auto& each) { return number % std::get<0>(each) == 0; });
+        records.push_back(Entry(level, type, "Entry " + std::to_string(number), "key" + std::to_string(number)));
+    }
+    return records;
+}
+
+class LongRunOfReports : public ReportTest
+{
+};
+
+class LongRunOfForms : public WholeForm
+{
+};
+
+class LongRunOfCatalogues : public Wizard
+{
+protected:
+    LongRunOfCatalogues() { Serve('S', Catalogue(5000)); }
+};
+
+} // namespace
+
+TEST(LongRunOfLoads, HoldsNothingMore)
+{
+    ASSERT_FALSE(FreshLibrary::IsLoaded());
+    RunLong(200,
+            []
+            {
+                const FreshLibrary library;
+                char text[75] = "";
+                library.Get<decltype(lytGetTextForKey)>("lytGetTextForKey")("Buttons", "001", "", text, sizeof text);
+            });
+}
+
+TEST_F(LongRunOfForms, WithEveryControlHoldsNothingMore)
+{
+    RunLong(1000,
+            [&]
+            {
+                form.Then(
+                    [&]
+                    {
+                        for (const char* button : {"Fill", "Add", "Delete", "Down", "Later", "Signed", "Final"})
+                            robot::Click(form[button]);
+                    });
+                EXPECT_EQ(form.Ok().Open("remark#x").answer, 1);
+            });
+}
+
+TEST_F(LongRunOfForms, OneInsideTheOtherHoldsNothingMore)
+{
+    RunLong(200,
+            [&]
+            {
+                form.Then([&] { robot::Click(form["More"]); });
+                form.In("Inner", [&] { robot::ReplaceText(form["Field"], "from inside"); });
+                form.Ok("Inner");
+                EXPECT_EQ(form.Ok().Open("remark#x").text, "final;A. Writer;XXone,-two;from inside");
+            });
+}
+
+TEST_F(LongRunOfReports, HoldsNothingMore)
+{
+    RunLong(50, [&] { EXPECT_GT(Report().size(), 20U); });
+}
+
+TEST_F(LongRunOfCatalogues, InTheBrowserHoldsNothingMore)
+{
+    Configure("TreeWidth=300\nTreeHeight=400\nTreeLevels=3\n");
+    RunLong(200,
+            [&]
+            {
+                Get<decltype(FreeGlobalObject)>("FreeGlobalObject")();
+                EXPECT_EQ(Pick("S", "Entry 4321").text, "key4321");
+            });
+}
+
+TEST_F(LongRunOfCatalogues, InTheWizardHoldsNothingMore)
+{
+    RunLong(200,
+            [&]
+            {
+                EXPECT_EQ(Ask("Entry 10", "Group", "head/LIST{a|b"), "1 head/LIST{");
+                EXPECT_EQ(Next(), "1 a|");
+                EXPECT_EQ(Next(), "0 b");
+            });
+}
