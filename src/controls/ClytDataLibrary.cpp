@@ -2,10 +2,12 @@
 
 #include "base/LongestRun.h"
 
+#include <GuardedCall.h>
+
 CString lytCallForText(lytDataText& function, const CString& parameter)
 {
     ClytDataText answer;
-    function(parameter, answer.Buffer(), ClytDataText::usableSize);
+    GuardedCall([&] { function(parameter, answer.Buffer(), ClytDataText::usableSize); });
     answer.End();
     return answer.Text();
 }
@@ -15,7 +17,9 @@ bool ClytDataListing::Next()
     if (delivered == lytLongestRun)
         return false;
     ++delivered;
-    const int answer = next(display.Buffer(), ClytDataText::usableSize, value.Buffer(), ClytDataText::usableSize);
+    int answer = 0;
+    GuardedCall(
+        [&] { answer = next(display.Buffer(), ClytDataText::usableSize, value.Buffer(), ClytDataText::usableSize); });
     display.End();
     value.End();
     return answer != 0;

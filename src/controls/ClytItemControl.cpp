@@ -5,6 +5,8 @@
 #include "environment/ClytEnvironment.h"
 #include "model/ClytObserver.h"
 
+#include <GuardedCall.h>
+
 #include <new>
 #include <type_traits>
 #include <utility>
@@ -87,7 +89,7 @@ void ClytItemControl<WINDOW>::FillByLibrary()
     auto* start = library.template Find<lytDataStart>(source.startFunction, source.span);
     if (start == nullptr)
         return;
-    start(parameter);
+    GuardedCall([&] { start(parameter); });
     auto* next = library.template Find<lytDataNext>(source.nextFunction, source.span);
     if (next == nullptr)
         return;

@@ -4,6 +4,7 @@
 #include "tree/ClytAncestors.h"
 #include "tree/ClytChildCursor.h"
 
+#include <GuardedCall.h>
 #include <algorithm>
 #include <cstring>
 
@@ -99,7 +100,9 @@ void lytExpandLabel(char (&target)[lytShownLabelSize], const char* label)
 
 void lytFillFromSource(ClytNodeList& nodes, const ClytTreeSource& source, ClytTreeItems* items, char kind)
 {
-    if (source.start("") == 0)
+    int32_t answer = 0;
+    GuardedCall([&] { answer = source.start(""); });
+    if (answer == 0)
         return;
 
     ClytNodeList run;
@@ -108,7 +111,8 @@ void lytFillFromSource(ClytNodeList& nodes, const ClytTreeSource& source, ClytTr
     for (int count = 0; count < lytLongestRun; ++count)
     {
         lytTreeRecord record = {};
-        if (source.next(&record) == 0)
+        GuardedCall([&] { answer = source.next(&record); });
+        if (answer == 0)
             break;
         type = &TypeOf(record.nType, *type);
         ClytNode& node = run.AddTail(NodeOf(record, *type));

@@ -2,6 +2,7 @@
 #include "base/PartnerLibrary.h"
 #include "sysinfo/frame/Probes.h"
 
+#include <GuardedCall.h>
 #include <algorithm>
 #include <iterator>
 
@@ -30,7 +31,7 @@ void Ask(GetVersionText& getVersion, VersionText& text)
 {
     try
     {
-        getVersion(text);
+        GuardedCall([&] { getVersion(text); });
     }
     catch (...)
     {

@@ -122,6 +122,57 @@ void RaisingAction(Scene& scene)
     ExpectTold(scene);
 }
 
+// An exception that other tool chains and the system raise.
+int RaiseForeign()
+{
+    RaiseException(0xE0001234, 0, 0, nullptr);
+    return 0;
+}
+
+int TouchNothing()
+{
+    static int* volatile nothing = nullptr;
+    return *nothing;
+}
+
+const char* const foreignMessage = "A partner library failed with exception 0xE0001234.";
+const char* const faultMessage = "A partner library failed with exception 0xC0000005.";
+
+void ForeignText(Scene& scene)
+{
+    scene.Partner("hostile").text = [](const char*, char*, int) { return RaiseForeign(); };
+    EXPECT_EQ(FillText(scene, ConfirmMessage), "2 key");
+    scene.Partner("hostile").text = [](const char*, char*, int) { return TouchNothing(); };
+    EXPECT_EQ(Act(scene, ConfirmMessage), "2 key");
+    EXPECT_EQ(scene.robot.Messages(), (Texts{foreignMessage, faultMessage}));
+}
+
+void ForeignItem(Scene& scene)
+{
+    scene.Partner("hostile").start = [](const char*) { RaiseForeign(); };
+    EXPECT_EQ(FillList(scene, ConfirmMessage), Texts{});
+    scene.Partner("hostile") = {};
+    scene.Partner("hostile").next = [](char*, int, char*, int) { return TouchNothing(); };
+    EXPECT_EQ(FillList(scene, ConfirmMessage), Texts{});
+    EXPECT_EQ(scene.robot.Messages(), (Texts{foreignMessage, faultMessage}));
+}
+
+void ForeignRecord(Scene& scene)
+{
+    scene.Partner("lytsrc").treeNext = [](lytTreeRecord*) { return static_cast<int32_t>(TouchNothing()); };
+    scene.robot.AnswerMessage();
+    EXPECT_EQ(scene.EndBrowser(IDCANCEL).OpenBrowser(), "0 as it was");
+    EXPECT_EQ(scene.robot.Messages(), Texts{faultMessage});
+    scene.Partner("lytsrc").treeStart = [](const char*) { return static_cast<int32_t>(RaiseForeign()); };
+    EXPECT_ANY_THROW(scene.FindSymbol("k"));
+}
+
+void ForeignVersion(Scene& scene)
+{
+    scene.Partner("LytRes64").version = [](char*) { TouchNothing(); };
+    EXPECT_EQ(VersionLine(scene), NoVersion());
+}
+
 void RaisingItem(Scene& scene)
 {
     scene.Partner("hostile").next = [](char* display, int, char* value, int)
@@ -175,6 +226,11 @@ constexpr Limit answerRows[] = {
     {"record of the catalogue", "the same in `lytGetSymbolfromTree`",
      "the exception goes on to the caller, whose process may end; the library works on", RaisingLookup},
     {"version of the resource library", "the same", "the report shows no version", RaisingVersion},
+    {"text of a field or an action", "raises any other exception, an access violation for instance",
+     "the same as with a C++ exception; the message gives its number", ForeignText},
+    {"start or item of a list", "the same", "the same", ForeignItem},
+    {"record of the catalogue", "the same", "the same", ForeignRecord},
+    {"version of the resource library", "the same", "the report shows no version", ForeignVersion},
 };
 
 } // namespace
@@ -183,11 +239,9 @@ const LimitTable answerLimits = {
     "What partner libraries give",
     "A listing or a catalogue that does not end counts as ended after 1,000,000 items or records. A function that does "
     "not\n"
-    "come back cannot be stopped: the call does not come back either. Nor does the library catch a fault: a partner "
-    "that\n"
-    "writes beyond its buffer, calls itself for ever, or raises what is no C++ exception of the same tool chain, such "
-    "as an\n"
-    "access violation, ends the process, unless the host has a handler.",
+    "come back cannot be stopped: the call does not come back either. A partner that writes beyond its buffer or calls "
+    "itself\n"
+    "for ever ends the process.",
     "what",
     answerRows,
 };
