@@ -2,13 +2,18 @@
 
 #include <limits>
 #include <share.h>
+#include <string>
 
 std::FILE* OpenTextStream(const char* fileName, UINT flags)
 {
     const int sharing = (flags & CFile::shareDenyWrite) != 0 ? _SH_DENYWR : _SH_DENYNO;
     if ((flags & CFile::modeWrite) == 0)
         return _fsopen(fileName, "rt", sharing);
-    return _fsopen(fileName, (flags & CFile::modeNoTruncate) != 0 ? "at" : "wt", sharing);
+    // The runtime would translate line ends in pieces, with a write of the file for each.
+    std::FILE* stream = _fsopen(fileName, (flags & CFile::modeNoTruncate) != 0 ? "ab" : "wb", sharing);
+    if (stream != nullptr)
+        std::setvbuf(stream, nullptr, _IONBF, 0);
+    return stream;
 }
 
 bool ReadTextLine(std::FILE* stream, char* buffer, UINT count)
@@ -19,5 +24,12 @@ bool ReadTextLine(std::FILE* stream, char* buffer, UINT count)
 
 bool WriteText(std::FILE* stream, const char* text)
 {
-    return std::fputs(text, stream) >= 0;
+    std::string bytes;
+    for (; *text != '\0'; ++text)
+    {
+        if (*text == '\n')
+            bytes += '\r';
+        bytes += *text;
+    }
+    return std::fwrite(bytes.data(), 1, bytes.size(), stream) == bytes.size();
 }

@@ -71,26 +71,35 @@ void ClytLogFile::Open(int currentLevel)
     CFileException error;
     if (!CStdioFile::Open(logName, logFlags, &error))
         lytRaise("207", lytMessageOf(error), logName);
-    WriteAtEnd("\n" + Rule() + BannerLine("START...  ") + Rule() + "\n");
+    block.Empty();
+    Add("\n" + Rule() + BannerLine("START...  ") + Rule() + "\n");
 }
 
 void ClytLogFile::Write(const char* text, int messageLevel)
 {
     if (level != 0 && messageLevel <= level)
-        WriteAtEnd(text);
+        Add(text);
 }
 
 void ClytLogFile::Close()
 {
     if (level == 0)
         return;
-    WriteAtEnd("\n" + Rule() + BannerLine("END...    ") + "\n");
+    Add("\n" + Rule() + BannerLine("END...    ") + "\n");
+    Guarded(*this, "208", logName,
+            [&]
+            {
+                WriteString(block);
+                // A stream that holds text back writes it now.
+                SeekToEnd();
+            });
     Guarded(*this, "209", logName, [&] { CStdioFile::Close(); });
 }
 
 void ClytLogFile::Reset()
 {
     logName.Empty();
+    block.Empty();
 }
 
 CString ClytLogFile::BannerLine(const char* word)
@@ -106,12 +115,9 @@ CString ClytLogFile::BannerLine(const char* word)
     }
 }
 
-void ClytLogFile::WriteAtEnd(const char* text)
+// Looks for the end of the file each time, which tells early that there is none.
+void ClytLogFile::Add(const char* text)
 {
-    Guarded(*this, "208", logName,
-            [&]
-            {
-                SeekToEnd();
-                WriteString(text);
-            });
+    Guarded(*this, "208", logName, [&] { SeekToEnd(); });
+    block += text;
 }

@@ -1,5 +1,6 @@
 // Writes what the macros want logged into a text file named after the document. The file is opened, written and closed
-// for each message, which thus has a block of its own in it:
+// for each message, which thus has a block of its own in it. A block is written at once, so that a process that ends at any
+// moment leaves whole blocks:
 //
 //     -----------------------------------------------------------------------------
 //     START...  Date 11/20/26           Time 09:15:00
@@ -23,24 +24,25 @@ public:
     // The level that `lyt.ini` holds at this moment.
     static int CurrentLevel();
 
-    // Names the log after the document, takes the level and, unless it is 0, opens the file at its end and writes the
+    // Names the log after the document, takes the level and, unless it is 0, opens the file and begins a block with the
     // START banner.
     void Open() { Open(CurrentLevel()); }
     // The same for a caller that has just read the level: a read costs as much as the writing.
     void Open(int currentLevel);
-    // Writes the text as it stands when its level is within the one taken by Open.
+    // Adds the text as it stands to the block when its level is within the one taken by Open.
     void Write(const char* text, int messageLevel);
-    // Writes the END banner and closes the file, if Open opened it.
+    // Ends the block with the END banner, writes it and closes the file, if Open opened it.
     void Close() override;
     void Reset();
 
 private:
     using CStdioFile::Open;
 
-    void WriteAtEnd(const char* text);
     CString BannerLine(const char* word);
+    void Add(const char* text);
 
     CString logName;
+    CString block; // as far as it goes
     int level = 0;
 };
 

@@ -80,9 +80,9 @@ TEST_F(LogFailure, OfWritingRaises208AndClosesTheFile)
     EXPECT_EQ(CountOpenFiles(), openFiles);
 }
 
-TEST_F(LogFailure, OfClosingRaises209AndClosesTheFileAllTheSame)
+TEST_F(LogFailure, InTheMiddleOfABlockRaises208AndClosesTheFile)
 {
     const FileSizeLimit limit(300); // room for the START banner and the text
-    EXPECT_EQ(Write("text"), "The file could not be read or written: doc.log\nclose 'doc.log'");
+    EXPECT_EQ(Write("text"), "The file could not be read or written: doc.log\nwrite 'doc.log'");
     EXPECT_EQ(CountOpenFiles(), openFiles);
 }

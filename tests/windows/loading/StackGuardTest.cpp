@@ -1,55 +1,28 @@
 // The library's own stack guard, at work in a program that runs over its buffer.
-#include "support/TestFolder.h"
+#include "support/ChildProcess.h"
 
 #include <gtest/gtest.h>
-
-#include <windows.h>
 
 namespace
 {
 
-struct Ended
+ChildEnd RunHost(const std::string& act)
 {
-    DWORD code = 0;
-    std::string output;
-};
-
-Ended RunHost(const std::string& act)
-{
-    const TestFolder folder;
-    SECURITY_ATTRIBUTES inherited = {sizeof inherited, nullptr, TRUE};
-    const std::string file = folder.Path() + "\\output";
-    HANDLE output = CreateFileA(file.c_str(), GENERIC_WRITE, FILE_SHARE_READ, &inherited, CREATE_ALWAYS, 0, nullptr);
-    STARTUPINFOA startup = {};
-    startup.cb = sizeof startup;
-    startup.dwFlags = STARTF_USESTDHANDLES;
-    startup.hStdOutput = output;
-    PROCESS_INFORMATION process = {};
-    std::string command = "stack-guard-host.exe " + act;
-    EXPECT_TRUE(
-        CreateProcessA(nullptr, command.data(), nullptr, nullptr, TRUE, 0, nullptr, nullptr, &startup, &process));
-    constexpr DWORD limit = 60000;
-    EXPECT_EQ(WaitForSingleObject(process.hProcess, limit), WAIT_OBJECT_0);
-    Ended ended;
-    GetExitCodeProcess(process.hProcess, &ended.code);
-    for (HANDLE handle : {process.hThread, process.hProcess, output})
-        CloseHandle(handle);
-    ended.output = folder.Read("output");
-    return ended;
+    return ChildProcess("stack-guard-host.exe " + act).Wait();
 }
 
 } // namespace
 
 TEST(StackGuard, LeavesAFunctionAloneThatKeepsToItsBuffer)
 {
-    const Ended ended = RunHost("keep");
+    const ChildEnd ended = RunHost("keep");
     EXPECT_EQ(ended.code, 0U);
     EXPECT_EQ(ended.output, "returned");
 }
 
 TEST(StackGuard, EndsTheProcessWhenABufferWasRunOver)
 {
-    const Ended ended = RunHost("overrun");
+    const ChildEnd ended = RunHost("overrun");
     EXPECT_EQ(ended.code, static_cast<DWORD>(STATUS_STACK_BUFFER_OVERRUN));
     EXPECT_EQ(ended.output, "");
 }
