@@ -1,5 +1,6 @@
 // `lytdlg texts`: language files against dialogs and against each other.
 #include "CommandRun.h"
+#include "SourceNames.h"
 #include "lytdlg/judge/FolderTexts.h"
 #include "lytdlg/text/LibraryTexts.h"
 #include "lytdlg/text/TextFile.h"
@@ -186,7 +187,8 @@ TEST(Texts, OfTheSamplesAreAllThereAndAllUsed)
 TEST(Texts, OfTheLibraryAreThoseThatItsSourcesAskFor)
 {
     std::set<std::string> asked;
-    const std::regex number("\"(2[0-9][0-9])\"");
+    // The keys of messages, and those of the two buttons.
+    const std::regex number("\"([02][0-9][0-9])\"");
     const std::regex named("GetText\\(\"(\\w+)\", \"(\\w+)\"\\)");
     for (const auto& entry : fs::recursive_directory_iterator(LYT_SOURCE_FOLDER "/src"))
     {
@@ -198,7 +200,7 @@ TEST(Texts, OfTheLibraryAreThoseThatItsSourcesAskFor)
             // Comments name numbers as well, as examples.
             const size_t line = source.rfind('\n', static_cast<size_t>(found->position())) + 1;
             if (source.compare(source.find_first_not_of(' ', line), 2, "//") != 0)
-                asked.insert("Dialog_Error/" + (*found)[1].str());
+                asked.insert(((*found)[1].str().front() == '0' ? "Buttons/" : "Dialog_Error/") + (*found)[1].str());
         }
         for (std::sregex_iterator found(source.begin(), source.end(), named), end; found != end; ++found)
             asked.insert((*found)[1].str() + "/" + (*found)[2].str());
@@ -207,6 +209,14 @@ TEST(Texts, OfTheLibraryAreThoseThatItsSourcesAskFor)
     for (const lytdlg::LibraryText& text : lytdlg::LibraryTexts())
         known.insert(text.section + "/" + text.key);
     EXPECT_EQ(asked, known);
+}
+
+// Elsewhere the section comes from a dialog, a failure or a caller, and that of the buttons stands before a key of a table.
+TEST(Texts, OfTheLibraryAreAskedForInNoOtherWay)
+{
+    EXPECT_EQ(NamedInSources("", "lytEnvironment\\.GetText\\((?!\"\\w+\", \"\\w+\"\\))([^,]*),"),
+              (std::set<std::string>{"GetTextSection()", "this->dialog->GetTextSection()", "dialog->GetTextSection()",
+                                     "lytErrorSection", "section", "CString(section)", "\"Buttons\""}));
 }
 
 TEST(TextsCommand, SaysWhatToWriteWhenItIsNotUnderstood)
