@@ -1,5 +1,6 @@
 #include "lytdlg/Commands.h"
 
+#include "lytdlg/doctor/DoctorCommand.h"
 #include "lytdlg/draw/GraphCommand.h"
 #include "lytdlg/draw/PreviewCommand.h"
 #include "lytdlg/text/FmtCommand.h"
@@ -46,9 +47,9 @@ int Tell(const char* text, ExitCode code)
 const std::vector<Command>& Commands()
 {
     static const std::vector<Command> commands = {
-        CheckCommand(),   RunCommand(),   ScanCommand(), ComposeCommand(), RoundtripCommand(),
-        WhyCommand(),     TestCommand(),  FmtCommand(),  TextsCommand(),   NewCommand(),
-        PreviewCommand(), GraphCommand(), HelpCommand(),
+        CheckCommand(),   RunCommand(),   ScanCommand(),   ComposeCommand(), RoundtripCommand(),
+        WhyCommand(),     TestCommand(),  FmtCommand(),    TextsCommand(),   NewCommand(),
+        PreviewCommand(), GraphCommand(), DoctorCommand(), HelpCommand(),
     };
     return commands;
 }

@@ -14,6 +14,7 @@ constexpr size_t peOffsetAt = 0x3C;
 constexpr size_t fileHeaderSize = 24; // with the signature before it
 constexpr size_t sectionHeaderSize = 40;
 constexpr uint32_t machine64 = 0x8664;
+constexpr uint32_t machine32 = 0x14C;
 constexpr uint32_t magic64 = 0x20B;
 constexpr uint32_t libraryFlag = 0x2000;
 // What no library that is meant to be called by name goes beyond; a table may claim anything.
@@ -64,12 +65,19 @@ public:
 
     LibraryForm Form() const
     {
-        if (!m_bytes.Has(0, "MZ") || !m_bytes.Has(m_header, std::string_view("PE\0\0", 4)))
+        if (!IsImage() || (m_bytes.Short(m_header + 22) & libraryFlag) == 0)
             return LibraryForm::NoLibrary;
-        if ((m_bytes.Short(m_header + 22) & libraryFlag) == 0)
-            return LibraryForm::NoLibrary;
-        const bool is64 = m_bytes.Short(m_header + 4) == machine64 && m_bytes.Short(Optional()) == magic64;
-        return is64 ? LibraryForm::Library : LibraryForm::OtherBits;
+        return Bits() == 64 ? LibraryForm::Library : LibraryForm::OtherBits;
+    }
+
+    int Bits() const
+    {
+        if (!IsImage())
+            return 0;
+        const uint32_t machine = m_bytes.Short(m_header + 4);
+        if (machine == machine64 && m_bytes.Short(Optional()) == magic64)
+            return 64;
+        return machine == machine32 ? 32 : 0;
     }
 
     std::vector<std::string> Names() const
@@ -94,6 +102,7 @@ public:
     }
 
 private:
+    bool IsImage() const { return m_bytes.Has(0, "MZ") && m_bytes.Has(m_header, std::string_view("PE\0\0", 4)); }
     size_t Optional() const { return m_header + fileHeaderSize; }
 
     // Where an address of the loaded library stands in the file.
@@ -123,6 +132,11 @@ ExportTable ReadExports(std::string_view bytes)
     const Image image(bytes);
     const LibraryForm form = image.Form();
     return {form, form == LibraryForm::Library ? image.Names() : std::vector<std::string>()};
+}
+
+int BitsOf(std::string_view bytes)
+{
+    return Image(bytes).Bits();
 }
 
 } // namespace lytdlg

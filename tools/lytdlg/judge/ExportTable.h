@@ -24,4 +24,8 @@ struct ExportTable
 // The bytes of a whole file.
 ExportTable ReadExports(std::string_view bytes);
 
+// The bits of the processor's programs, 64 or 32, that a library or program is made for; 0 for another processor, and for a
+// file that is neither.
+int BitsOf(std::string_view bytes);
+
 } // namespace lytdlg

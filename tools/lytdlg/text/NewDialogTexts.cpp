@@ -148,6 +148,14 @@ std::string LibraryTextsOf(const std::string& language)
     return texts;
 }
 
+std::string LibraryTextIn(const std::string& language, const std::string& section, const std::string& key)
+{
+    const std::vector<LanguageKey> keys = ReadLanguageKeys(LanguageOf(language).sampleFile);
+    const auto found = std::ranges::find_if(
+        keys, [&](const LanguageKey& each) { return IsSameName(each.section, section) && IsSameName(each.name, key); });
+    return found != keys.end() ? found->text : "";
+}
+
 std::string NewMessages(const std::string& language)
 {
     return LanguageOf(language).messages;

@@ -16,6 +16,8 @@ std::string NewCase(const std::string& prefix, const std::string& language);
 const std::vector<std::string>& KnownLanguages();
 // The head of a language file with what the library itself asks for.
 std::string LibraryTextsOf(const std::string& language);
+// One of them, without its key; empty when it has none such.
+std::string LibraryTextIn(const std::string& language, const std::string& section, const std::string& key);
 // The lines for the section MsgBox, and those of the dialog's own section. A language that is not known speaks English.
 std::string NewMessages(const std::string& language);
 std::string NewTexts(const std::string& language);

@@ -31,12 +31,6 @@ fs::path FreeName(const fs::path& folder, const std::string& stem)
     }
 }
 
-bool IsWriteProtected(const fs::path& name)
-{
-    std::error_code ignored;
-    return (fs::status(name, ignored).permissions() & fs::perms::owner_write) == fs::perms::none;
-}
-
 } // namespace
 
 std::optional<std::string> ReadWholeFile(const fs::path& name)
@@ -85,6 +79,12 @@ void WriteNewFile(const fs::path& name, const std::string& content)
     if (!isThere)
         fs::remove(name, failure);
     throw std::runtime_error("cannot write " + name.string() + "; check the rights of its folder");
+}
+
+bool IsWriteProtected(const fs::path& name)
+{
+    std::error_code ignored;
+    return (fs::status(name, ignored).permissions() & fs::perms::owner_write) == fs::perms::none;
 }
 
 std::vector<fs::path> FilesIn(const fs::path& folder, const std::string& extension)

@@ -27,6 +27,9 @@ void WriteNewFile(const std::filesystem::path& name, const std::string& content)
 // has none.
 std::vector<std::filesystem::path> FilesIn(const std::filesystem::path& folder, const std::string& extension);
 
+// Whether the file bears the mark that it is not to be changed, whoever asks.
+bool IsWriteProtected(const std::filesystem::path& name);
+
 // A file that is gone with its owner.
 class TemporaryFile
 {

@@ -1,0 +1,148 @@
+// What `lytdlg doctor` says of language files, descriptions, and the marks on files.
+#include "DoctorFolder.h"
+#include "SourceNames.h"
+
+#include "lytdlg/doctor/Checks.h"
+
+namespace
+{
+
+namespace fs = std::filesystem;
+
+template <class Named>
+std::set<std::string> NamesOf(const std::vector<Named>& all)
+{
+    std::set<std::string> names;
+    for (const Named& each : all)
+        names.insert(each.name);
+    return names;
+}
+
+} // namespace
+
+TEST(DoctorOnDialogs, LooksForTheTextsThatTheLibraryAsksForByItself)
+{
+    const DoctorFolder folder;
+    folder.Replace("dialogs/lang/English.nls", "\n222=", "\n;222=");
+    const std::string found = folder.Findings();
+    EXPECT_TRUE(std::regex_match(
+        found, std::regex("wrong    texts          dialogs/lang/English\\.nls:\\d+:1: the text \"222\" of "
+                          "\\[Dialog_Error\\] is missing, and \"no value present\" is shown in its place\n"
+                          " {24}hint: add to the section: 222=.+\n")))
+        << found;
+}
+
+TEST(DoctorOnDialogs, OnlyWarnsOfTextsInALanguageThatIsNotInUse)
+{
+    const DoctorFolder folder;
+    folder.Replace("dialogs/lang/German.nls", "\n222=", "\n;222=");
+    const std::string found = folder.Findings();
+    EXPECT_TRUE(found.starts_with("warning  texts          dialogs/lang/German.nls:")) << found;
+    EXPECT_EQ(std::ranges::count(found, '\n'), 2) << found;
+}
+
+TEST(DoctorOnDialogs, TellsOfASectionOfTheLibraryAsOneThing)
+{
+    const DoctorFolder folder;
+    folder.Replace("dialogs/lang/English.nls", "[Dialog_Error]", "[Dialog_Errors]");
+    EXPECT_EQ(folder.Findings(),
+              "wrong    texts          dialogs/lang/English.nls: the section [Dialog_Error] is missing, with 33 texts "
+              "of the library\n"
+              "                        hint: copy the section from a language file of the samples\n");
+}
+
+TEST(DoctorOnDialogs, TellsOfTextsThatDoNotShowWhatTheyShould)
+{
+    const DoctorFolder folder;
+    const std::string texts = folder.Read("dialogs/lang/English.nls");
+    const auto findingsFor = [&](const std::string& key, const std::string& text)
+    {
+        folder.Write("dialogs/lang/English.nls", texts);
+        const size_t start = texts.find("\n" + key + "=") + 1;
+        folder.Replace("dialogs/lang/English.nls", texts.substr(start, texts.find_first_of("\r\n", start) - start),
+                       key + "=" + text);
+        return std::regex_replace(folder.Findings(), std::regex("nls:\\d+:1:"), "nls:LINE:1:");
+    };
+    EXPECT_TRUE(findingsFor("222", "").starts_with(
+        "warning  texts          dialogs/lang/English.nls:LINE:1: the text \"222\" of [Dialog_Error] is empty\n"));
+    EXPECT_EQ(findingsFor("222", std::string(75, 'x')),
+              "warning  texts          dialogs/lang/English.nls:LINE:1: the text \"222\" of [Dialog_Error] has 75 "
+              "characters, of which 74 are shown\n"
+              "                        hint: make it shorter\n");
+    EXPECT_TRUE(findingsFor("212", "A line has the wrong form.")
+                    .starts_with("warning  texts          dialogs/lang/English.nls:LINE:1: the text \"212\" of "
+                                 "[Dialog_Error] has no place for what it is about\n"
+                                 "                        hint: write '' there, as in 212="));
+}
+
+TEST(DoctorOnDialogs, JudgesDescriptionsAsCheckDoes)
+{
+    const DoctorFolder folder;
+    folder.Replace("dialogs/lytInSym.dlg", "$EVALUATION, x", "$EVALUATION x");
+    const std::string found = folder.Findings();
+    EXPECT_NE(found.find(": \"$EVALUATION x\" opens no section (section-misspelt)\n"
+                         "                        hint: a blank does not end the word; write \"$EVALUATION, x\"\n"),
+              std::string::npos)
+        << found;
+    EXPECT_TRUE(found.starts_with("wrong    dialogs        dialogs/lytInSym.dlg:")) << found;
+}
+
+TEST(DoctorOnDialogs, LooksForTheDescriptionsThatTheLibraryOpens)
+{
+    const DoctorFolder folder;
+    folder.Remove("dialogs/lytWzPhr.dlg");
+    EXPECT_EQ(folder.Findings(),
+              "warning  dialogs        dialogs/lytWzPhr.dlg: is not there, so that the wizard's dialog of a phrase "
+              "does not open\n"
+              "                        hint: copy it from the samples and change it, unless no macro asks for it\n");
+    EXPECT_EQ(NamesOf(lytdlg::OpenedDescriptions()), NamedInSources("/exports", "\"(\\w+\\.dlg)\""));
+}
+
+TEST(DoctorOnDialogs, LooksForTheFolderOfTheDescriptions)
+{
+    const DoctorFolder folder;
+    folder.Remove("dialogs");
+    const std::string found = folder.Findings();
+    EXPECT_EQ(found,
+              "wrong    dialogs        there is no description (*.dlg) that can be read\n"
+              "                        hint: copy the descriptions there, or name their folder with --dialogs\n");
+}
+
+TEST(DoctorOnDialogs, TellsOfFilesThatAreMarkedAsDownloaded)
+{
+    const DoctorFolder folder;
+    // What a copy from a Windows disk leaves beside a file.
+    const std::string mark = "[ZoneTransfer]\r\nZoneId=";
+    folder.Write("dialogs/finding.dlg:Zone.Identifier", mark + "3\r\n");
+    folder.Write("dialogs/lytCdGrp.dlg:Zone.Identifier", mark + "4\r\n");
+    folder.Write("lyt64.dll:Zone.Identifier", mark + "1\r\n");
+    EXPECT_EQ(folder.Findings(),
+              "warning  marks          dialogs: 2 files are marked as downloaded, and Windows may refuse to use such a "
+              "file: finding.dlg, lytCdGrp.dlg\n"
+              "                        hint: unblock each in its properties, or all by the command Unblock-File of "
+              "PowerShell\n");
+}
+
+TEST(DoctorOnDialogs, TellsOfAPartnerThatIsMarkedAsDownloaded)
+{
+    const DoctorFolder folder;
+    const TestFolder elsewhere;
+    elsewhere.Write("other.dll", LibraryFile({"LookUp"}));
+    elsewhere.Write("other.dll:Zone.Identifier", "[ZoneTransfer]\r\nZoneId=3\r\n");
+    folder.Replace("dialogs/finding.dlg", "FILLEDBY, lytdata, LookUp", "FILLEDBY, other, LookUp");
+    EXPECT_EQ(folder.Findings({"--partners", elsewhere.Path()}),
+              "warning  marks          " + elsewhere.Path() +
+                  ": 1 file is marked as downloaded, and Windows may refuse to use such a file: other.dll\n"
+                  "                        hint: unblock each in its properties, or all by the command Unblock-File of "
+                  "PowerShell\n");
+}
+
+TEST(DoctorOnDialogs, NotesFilesThatAreWriteProtected)
+{
+    const DoctorFolder folder;
+    fs::permissions(folder.File("init/lyt.ini"), fs::perms::owner_read);
+    EXPECT_EQ(folder.Findings(), "");
+    EXPECT_NE(folder.Notes().find("note     marks          init: 1 file is write-protected, which hinders an update "
+                                  "and nothing else: lyt.ini\n"),
+              std::string::npos);
+}

@@ -1,0 +1,42 @@
+// What a deployment is judged by, a source for each kind of thing. Each observes what it looked at, good or not.
+#pragma once
+
+#include "lytdlg/doctor/Configuration.h"
+#include "lytdlg/doctor/Deployment.h"
+#include "lytdlg/doctor/Diagnosis.h"
+#include "lytdlg/judge/Description.h"
+
+#include <list>
+
+namespace lytdlg
+{
+
+// The file of the library, its bits and functions, and the program that is to load it.
+void JudgeLibrary(const Deployment& deployment, Diagnosis& diagnosis);
+void JudgeHost(const Host& host, Diagnosis& diagnosis);
+// `lyt.ini`: the language with its file, and the window of the catalogue.
+void JudgeConfiguration(const Deployment& deployment, const Configuration& configuration, Diagnosis& diagnosis);
+// The log, at the level that is set: it must be possible to write it beside the document.
+void JudgeLog(const Deployment& deployment, const Configuration& configuration, Diagnosis& diagnosis);
+// The texts that the library asks for by itself, in each language.
+void JudgeTexts(const Deployment& deployment, const Configuration& configuration, Diagnosis& diagnosis);
+// The descriptions that the library opens by itself, and all that `check` finds in any.
+void JudgeDialogs(const Deployment& deployment, const std::list<Description>& descriptions, Diagnosis& diagnosis);
+// The libraries that the library and the descriptions call. Gives the files that are loaded.
+std::vector<std::filesystem::path> JudgePartners(const Deployment& deployment,
+                                                 const std::list<Description>& descriptions, Diagnosis& diagnosis);
+// Files that are write-protected, or marked as downloaded: those of the deployment and the partners.
+void JudgeMarks(const Deployment& deployment, const std::vector<std::filesystem::path>& partners, Diagnosis& diagnosis);
+
+// The descriptions of the deployment, in the order of their names.
+std::list<Description> ReadDescriptions(const Deployment& deployment);
+
+// The descriptions that functions of the library open by their names.
+struct OpenedDescription
+{
+    const char* name;
+    const char* purpose; // what does not open without it
+};
+const std::vector<OpenedDescription>& OpenedDescriptions();
+
+} // namespace lytdlg

@@ -1,0 +1,120 @@
+#include "lytdlg/doctor/Deployment.h"
+
+#include "lytdlg/judge/PartnerCalls.h"
+#include "lytdlg/text/LanguageFiles.h"
+#include "lytdlg/text/Paths.h"
+
+#include <algorithm>
+#include <set>
+
+namespace lytdlg
+{
+
+namespace fs = std::filesystem;
+
+namespace
+{
+
+constexpr int deepest = 3;
+
+// A folder that was named twice, or that holds another one that was named, is gone through once.
+class Finder
+{
+public:
+    void GoThrough(const fs::path& folder)
+    {
+        std::error_code failure;
+        fs::recursive_directory_iterator entry(folder, fs::directory_options::skip_permission_denied, failure);
+        for (; !failure && entry != fs::recursive_directory_iterator(); entry.increment(failure))
+        {
+            if (entry.depth() >= deepest)
+                entry.disable_recursion_pending();
+            std::error_code ignored;
+            if (entry->is_regular_file(ignored) && m_seen.insert(fs::canonical(entry->path(), ignored)).second)
+                Take(entry->path());
+        }
+    }
+
+    std::vector<fs::path> libraries;
+    std::vector<fs::path> ownLibraries;
+    std::vector<fs::path> configurations;
+    std::vector<fs::path> dialogFolders;
+
+private:
+    void Take(const fs::path& file)
+    {
+        const std::string name = file.filename().string();
+        const std::string extension = file.extension().string();
+        if (IsSameName(name, "lyt.ini"))
+            configurations.push_back(file);
+        else if (IsSameName(extension, ".dll"))
+            (IsOwnLibrary(name) ? ownLibraries : libraries).push_back(file);
+        else if (IsSameName(extension, ".dlg") &&
+                 std::ranges::find(dialogFolders, file.parent_path()) == dialogFolders.end())
+            dialogFolders.push_back(file.parent_path());
+    }
+
+    std::set<fs::path> m_seen;
+};
+
+// The one that lies least deep stands first.
+bool IsBefore(const fs::path& left, const fs::path& right)
+{
+    const auto depthOf = [](const fs::path& path) { return std::distance(path.begin(), path.end()); };
+    return depthOf(left) != depthOf(right) ? depthOf(left) < depthOf(right) : left < right;
+}
+
+Piece PieceOf(std::vector<fs::path> found)
+{
+    std::ranges::sort(found, IsBefore);
+    if (found.empty())
+        return {};
+    return {found.front(), {found.begin() + 1, found.end()}};
+}
+
+std::vector<SearchFolder> SearchFoldersOf(const Request& request, const Host& host)
+{
+    std::vector<SearchFolder> folders;
+    if (!host.program.empty())
+        folders.push_back({host.program.parent_path(), "the host's folder"});
+    if (!request.Has("--partners"))
+    {
+        std::ranges::copy(SystemSearchFolders(), std::back_inserter(folders));
+        return folders;
+    }
+    for (const std::string& folder : request.Texts("--partners"))
+        folders.push_back({PathOf(folder), "a folder of --partners"});
+    return folders;
+}
+
+} // namespace
+
+Deployment FindDeployment(const Request& request)
+{
+    Finder finder;
+    for (const std::string& folder : request.operands)
+    {
+        std::error_code ignored;
+        if (!fs::is_directory(PathOf(folder), ignored))
+            throw commandline::UsageError("there is no folder " + folder + "; name the folders of the deployment");
+        finder.GoThrough(PathOf(folder));
+    }
+    const auto pieceOf = [&](const char* option, const std::vector<fs::path>& found) {
+        return request.Has(option) ? Piece{PathOf(request.Text(option, "")), {}} : PieceOf(found);
+    };
+    Deployment deployment;
+    deployment.library = pieceOf("--library", finder.ownLibraries);
+    deployment.configuration = pieceOf("--init", finder.configurations);
+    if (request.Has("--init"))
+        deployment.configuration.chosen /= "lyt.ini";
+    deployment.dialogs = pieceOf("--dialogs", finder.dialogFolders);
+    deployment.libraries = std::move(finder.libraries);
+    std::ranges::sort(deployment.libraries, IsBefore);
+    deployment.document = request.Text("--document", "");
+    deployment.defines = request.Texts("--define");
+    deployment.host = request.Has("--host") ? Host{PathOf(request.Text("--host", "")), true} : HostOfWorkstation();
+    deployment.search = SearchFoldersOf(request, deployment.host);
+    return deployment;
+}
+
+} // namespace lytdlg

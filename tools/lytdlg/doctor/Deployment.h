@@ -1,0 +1,34 @@
+// A deployment: the library, its configuration, its dialogs, and the program and the folders that it works among.
+#pragma once
+
+#include "lytdlg/Commands.h"
+#include "lytdlg/doctor/Workstation.h"
+
+namespace lytdlg
+{
+
+// What a deployment has one of, and what else was found under its name.
+struct Piece
+{
+    std::filesystem::path chosen; // empty when there is none
+    std::vector<std::filesystem::path> others;
+};
+
+struct Deployment
+{
+    Piece library;       // lyt64.dll
+    Piece configuration; // lyt.ini
+    Piece dialogs;       // the folder of the descriptions
+    // Every library in the folders of the deployment.
+    std::vector<std::filesystem::path> libraries;
+    std::string document; // empty when none was named
+    std::vector<std::string> defines;
+    Host host;
+    std::vector<SearchFolder> search; // in which the platform looks for partner libraries, in its order
+};
+
+// Looks in the folders that are the operands, and three folders deep below them; options name what is elsewhere, or which of
+// several is meant. A UsageError for an operand that is no folder.
+Deployment FindDeployment(const Request& request);
+
+} // namespace lytdlg

@@ -1,0 +1,107 @@
+#include "lytdlg/doctor/Diagnosis.h"
+
+#include "lytdlg/text/Json.h"
+
+#include <algorithm>
+#include <cstdio>
+
+namespace lytdlg
+{
+
+namespace
+{
+
+constexpr int verdictWidth = 8;
+constexpr int aboutWidth = 14;
+
+// The path with the place in it, and what separates both from the message.
+std::string LeadOf(const Observation& observation)
+{
+    if (observation.path.empty())
+        return "";
+    std::string lead = observation.path;
+    if (observation.place.line > 0)
+        lead += ":" + std::to_string(observation.place.line) + ":" + std::to_string(observation.place.column + 1);
+    return lead + ": ";
+}
+
+std::string Summary(const Diagnosis& diagnosis)
+{
+    const size_t wrong = diagnosis.CountOf(Verdict::Wrong);
+    const size_t warnings = diagnosis.CountOf(Verdict::Warning);
+    const std::string warned = Counted(warnings, "warning", "warnings");
+    if (wrong == 0)
+        return warnings == 0 ? "good" : warned;
+    return std::to_string(wrong) + " wrong, " + warned;
+}
+
+Json JsonOf(const Observation& observation)
+{
+    Json told = {{"verdict", WordOf(observation.verdict)}, {"about", observation.about}};
+    if (!observation.path.empty())
+        told["path"] = observation.path;
+    if (observation.place.line > 0)
+    {
+        told["line"] = observation.place.line;
+        told["column"] = observation.place.column + 1;
+    }
+    told["message"] = observation.message;
+    if (!observation.hint.empty())
+        told["hint"] = observation.hint;
+    return told;
+}
+
+} // namespace
+
+const char* WordOf(Verdict verdict)
+{
+    switch (verdict)
+    {
+    case Verdict::Good: return "good";
+    case Verdict::Note: return "note";
+    case Verdict::Warning: return "warning";
+    default: return "wrong";
+    }
+}
+
+size_t Diagnosis::CountOf(Verdict verdict) const
+{
+    return static_cast<size_t>(std::ranges::count(m_observations, verdict, &Observation::verdict));
+}
+
+Verdict Diagnosis::Worst() const
+{
+    const auto worst = std::ranges::max_element(m_observations, {}, &Observation::verdict);
+    return worst != m_observations.end() ? worst->verdict : Verdict::Good;
+}
+
+void PrintAsText(const Diagnosis& diagnosis)
+{
+    for (const Observation& observation : diagnosis.All())
+    {
+        std::printf("%-*s %-*s %s%s\n", verdictWidth, WordOf(observation.verdict), aboutWidth, observation.about,
+                    LeadOf(observation).c_str(), observation.message.c_str());
+        if (!observation.hint.empty())
+            std::printf("%*s hint: %s\n", verdictWidth + 1 + aboutWidth, "", observation.hint.c_str());
+    }
+    std::printf("verdict: %s\n", Summary(diagnosis).c_str());
+}
+
+void PrintAsJson(const Diagnosis& diagnosis)
+{
+    Json observations = Json::array();
+    for (const Observation& observation : diagnosis.All())
+        observations.push_back(JsonOf(observation));
+    // A note does not change the verdict.
+    PrintJson({{"verdict", WordOf(diagnosis.Worst() > Verdict::Note ? diagnosis.Worst() : Verdict::Good)},
+               {"wrong", diagnosis.CountOf(Verdict::Wrong)},
+               {"warnings", diagnosis.CountOf(Verdict::Warning)},
+               {"observations", observations}});
+}
+
+std::string Counted(size_t count, const std::string& one, const std::string& many)
+{
+    return std::to_string(count) + " " + (count == 1 ? one : many);
+}
+
+} // namespace lytdlg

@@ -1,0 +1,44 @@
+// What the workstation itself tells; a source for each kind of system.
+#pragma once
+
+#include "lytdlg/doctor/Diagnosis.h"
+
+#include <filesystem>
+#include <string>
+#include <vector>
+
+namespace lytdlg
+{
+
+// The program that loads the library: its folder is the first in which the platform looks for partner libraries.
+struct Host
+{
+    std::filesystem::path program; // empty when it is not known
+    bool isKnown = false;          // false for a program that stands for it
+};
+
+struct SearchFolder
+{
+    std::filesystem::path folder;
+    const char* name;       // as messages tell it
+    bool isCurrent = false; // the current folder, which is another one at another time
+};
+
+// The word processor that is registered; without one this program stands for it, where that makes sense.
+Host HostOfWorkstation();
+// Where the platform looks for a library after the folder of the program, in its order. None natively: there the folders of
+// the workstation are not known.
+std::vector<SearchFolder> SystemSearchFolders();
+
+// A file of a folder; empty when there is none. Case does not count.
+std::filesystem::path FileIn(const std::filesystem::path& folder, const std::string& name);
+
+struct Deployment;
+class Configuration;
+
+// Loads the library and lets it read its texts.
+void JudgeLoading(const Deployment& deployment, const Configuration& configuration, Diagnosis& diagnosis);
+// The resolution of the screen, and the version of the common controls that the library gets.
+void JudgeScreen(const Deployment& deployment, Diagnosis& diagnosis);
+
+} // namespace lytdlg
