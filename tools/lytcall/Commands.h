@@ -15,5 +15,7 @@ int RunReport(const Session& session);
 // Prints what differs between two saved reports; false when a line does that does not differ from run to run. It needs no
 // library.
 bool CompareSavedReports(const Request& request);
+// Lets lytdlg judge a deployment, by the same words, and gives its exit code. Raises CallError when it cannot be run.
+int RunDoctor(const std::vector<std::string>& words);
 
 } // namespace lytcall

@@ -1,5 +1,7 @@
 #include "lytcall/ProgramForm.h"
 
+#include <cstdint>
+
 namespace lytcall
 {
 
@@ -22,6 +24,8 @@ const commandline::ProgramForm& TheProgram()
             {"log", "TEXT", 1, 1, "write to the log of the document; see --level"},
             {"report", "[FOLDER]", 0, 2,
              "the report on this machine, with FOLDER examined; see --out, --json, --redact"},
+            {"doctor", "FOLDER...", 1, SIZE_MAX,
+             "judge a deployment: the library, lyt.ini, texts, dialogs and partner libraries in these folders"},
             {"path", "", 0, 0, "the folder of lyt.ini, as the library holds it"},
             {"doc", "", 0, 0, "the name of the document, as the library holds it"},
             {"help", "[script]", 0, 1, "this text, or the steps of a script"},
@@ -45,12 +49,16 @@ const commandline::ProgramForm& TheProgram()
             {"--redact", nullptr, false, "replace the names of users, machine and servers in the report"},
             {"--diff", nullptr, false, "compare two saved reports, `report --diff FILE FILE`; 1 when they differ"},
             {"--library", "FILE", false, "the library to call (default: lyt64.dll beside this program)"},
+            {"--host", "FILE", false, "for doctor: the word processor's program (default: the one that is registered)"},
+            {"--partners", "FOLDER", false, "for doctor: a folder to search for libraries, in place of this machine's"},
+            {"--format", "FORMAT", false, "what doctor prints: text (default) or json"},
             {"--help", nullptr, false, "print this text"},
             commandline::versionOption,
         },
         "Results are printed one a line, as \"name = value\", so that they can be compared. The program ends with 0\n"
         "when the call was made and its result is not 0, with 1 when it failed or answered 0 or when a step of the\n"
-        "script failed, and with 2 when the command line or the script cannot be understood.\n\n"
+        "script failed, and with 2 when the command line or the script cannot be understood. `doctor` ends with 1\n"
+        "when it finds something; it judges what is in its folders, and not the samples.\n\n"
         "`lytcall help script` lists the steps of a script.\n"};
     return form;
 }

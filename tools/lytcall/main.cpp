@@ -39,8 +39,29 @@ std::string ScriptHelp()
     return text;
 }
 
-int Run(const lytcall::Request& request)
+int Tell(const std::exception& error, ExitCode code)
 {
+    std::fflush(stdout);
+    std::fprintf(stderr, "lytcall: %s\n", error.what());
+    return code;
+}
+
+// Nothing was judged when that fails.
+int JudgeDeployment(const std::vector<std::string>& words)
+{
+    try
+    {
+        return lytcall::RunDoctor(words);
+    }
+    catch (const lytcall::CallError& error)
+    {
+        return Tell(error, notUnderstood);
+    }
+}
+
+int Run(const std::vector<std::string>& words)
+{
+    const lytcall::Request request = commandline::ReadCommandLine(lytcall::TheProgram(), words);
     if (request.command == "help")
     {
         std::printf("%s", request.Operand(0, "") == "script" ? ScriptHelp().c_str()
@@ -54,15 +75,10 @@ int Run(const lytcall::Request& request)
     }
     if (request.command == "report" && request.Has("--diff"))
         return lytcall::CompareSavedReports(request) ? done : callFailed;
+    if (request.command == "doctor")
+        return JudgeDeployment(words);
     const lytcall::Session session(request);
     return lytcall::RunCommand(session) != 0 ? done : callFailed;
-}
-
-int Tell(const std::exception& error, ExitCode code)
-{
-    std::fflush(stdout);
-    std::fprintf(stderr, "lytcall: %s\n", error.what());
-    return code;
 }
 
 } // namespace
@@ -72,7 +88,7 @@ int main(int count, char** words)
     SetConsoleOutputCP(CP_UTF8);
     try
     {
-        return Run(commandline::ReadCommandLine(lytcall::TheProgram(), {words + 1, words + count}));
+        return Run({words + 1, words + count});
     }
     catch (const commandline::UsageError& error)
     {

@@ -1,7 +1,8 @@
 #!/bin/sh
 # run-package.sh BUILD CMAKE CPACK VERSION: makes the package twice, which must give the same bytes, and looks at it: it
 # holds the files of package.contents and no others, its checksums hold, its pages link to what is there, its tools tell
-# the version, and a dialog opens from it. With LYT_UPDATE set it writes package.contents instead.
+# the version and find nothing wrong with it, and a dialog opens from it. With LYT_UPDATE set it writes package.contents
+# instead.
 set -u
 build=$1
 cmake=$2
@@ -52,4 +53,5 @@ for tool in lytcall lytdlg; do
 done
 "$build/wine-run.sh" ./lytcall.exe symbol --script "$here/../samples/ok.steps" >../call
 grep -q '^result = 2 (unchanged)' ../call || { cat ../call; complain "no dialog opens"; }
+"$build/wine-run.sh" ./lytcall.exe doctor . >../judged || { cat ../judged; complain "the tools find something wrong with it"; }
 exit $bad

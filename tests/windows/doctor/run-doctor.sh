@@ -1,0 +1,57 @@
+#!/bin/sh
+# run-doctor.sh WINE_RUN BIN CASES EXPECTED: makes a deployment of the package's files for each of the CASES, breaks it as
+# the case says, and compares the findings of `lytcall doctor` to the file EXPECTED. Of the case "good" all lines count.
+# With LYT_UPDATE set it writes that file instead.
+set -u
+wine_run=$1
+bin=$2
+cases=$3
+expected=$4
+here=$(cd "$(dirname "$0")" && pwd)
+folder=$(mktemp -d) || exit 2
+key='HKLM\SOFTWARE\Microsoft\Windows\CurrentVersion\App Paths\Winword.exe'
+trap 'rm -rf "$folder"' EXIT
+
+winpath() { echo "Z:$PWD/$1" | tr / '\\'; }
+# Registers a word processor until the case is done.
+register() {
+    trap '"$wine_run" reg.exe delete "$key" /f >"$folder/registry"' EXIT
+    "$wine_run" reg.exe add "$key" /ve /d "$1" /f >"$folder/registry"
+}
+# Says that a file is for the older processors.
+patch_machine() {
+    header=$(od -An -tu4 -j60 -N4 "$1" | tr -d ' ')
+    printf '\114\001' | dd of="$1" bs=1 seek=$((header + 4)) conv=notrunc status=none
+}
+# Only what changes the verdict, each with its way out.
+findings() { awk '/^[a-z]/ { chosen = !/^(good|note) / } chosen'; }
+
+grep -v '^#' "$cases" >"$folder/cases"
+while IFS='|' read -r name breach words; do
+    name=${name% }
+    [ "$name" = good ] && choose=cat || choose=findings
+    mkdir "$folder/deployed" && cd "$folder/deployed" || exit 2
+    cp "$bin"/lytcall.exe "$bin"/lytdlg.exe "$bin"/lyt64.dll "$bin"/lytsrc.dll "$bin"/lytdata.dll .
+    mkdir samples && cp -r "$here/../../../samples/dialogs" "$here/../../../samples/init" samples
+    echo "== $name"
+    (
+        eval "$breach"
+        # shellcheck disable=SC2086 # the words of the case
+        "$wine_run" ./lytcall.exe doctor . $words >"$folder/output" 2>&1
+        echo "exit = $?" >>"$folder/output"
+    )
+    cd "$folder" && rm -rf deployed
+    $choose <"$folder/output"
+done <"$folder/cases" | tr -d '\r' >"$folder/told"
+# The folder is another one each time.
+HERE=Z:$(echo "$folder/deployed" | tr / '\\') awk '{
+    for (here = ENVIRON["HERE"]; (place = index($0, here)) > 0;)
+        $0 = substr($0, 1, place - 1) "HERE" substr($0, place + length(here))
+    print
+}' "$folder/told" >"$folder/actual"
+
+if [ -n "${LYT_UPDATE:-}" ]; then
+    cp "$folder/actual" "$expected"
+else
+    diff -u "$expected" "$folder/actual"
+fi
