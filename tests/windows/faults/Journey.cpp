@@ -79,8 +79,8 @@ std::string WordOf(const std::string& word)
 // Calls that never reach an export, and those of the report, which needs Windows, are no journeys.
 bool IsJourney(const std::string& name)
 {
-    static constexpr std::array others{"report",    "script-",   "usage",     "no-picture",
-                                       "no-script", "no-screen", "no-library"};
+    static constexpr std::array others{"report",     "doctor",    "script-",   "usage",
+                                       "no-picture", "no-script", "no-screen", "no-library"};
     return std::ranges::none_of(others, [&](const char* other) { return name.starts_with(other); });
 }
 
