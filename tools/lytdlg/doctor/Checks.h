@@ -28,7 +28,7 @@ std::vector<std::filesystem::path> JudgePartners(const Deployment& deployment,
 // Files that are write-protected, or marked as downloaded: those of the deployment and the partners.
 void JudgeMarks(const Deployment& deployment, const std::vector<std::filesystem::path>& partners, Diagnosis& diagnosis);
 
-// The descriptions of the deployment, in the order of their names.
+// The descriptions of the deployment that can be read, in the order of their names.
 std::list<Description> ReadDescriptions(const Deployment& deployment);
 
 // The descriptions that functions of the library open by their names.

@@ -76,7 +76,7 @@ std::vector<SearchFolder> SearchFoldersOf(const Request& request, const Host& ho
 {
     std::vector<SearchFolder> folders;
     if (!host.program.empty())
-        folders.push_back({host.program.parent_path(), "the host's folder"});
+        folders.push_back({host.program.has_parent_path() ? host.program.parent_path() : ".", "the host's folder"});
     if (!request.Has("--partners"))
     {
         std::ranges::copy(SystemSearchFolders(), std::back_inserter(folders));

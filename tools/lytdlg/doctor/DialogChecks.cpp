@@ -27,6 +27,15 @@ void JudgeOpened(const std::filesystem::path& folder, Diagnosis& diagnosis)
     }
 }
 
+void JudgeReadable(const std::filesystem::path& folder, Diagnosis& diagnosis)
+{
+    for (const std::filesystem::path& file : FilesIn(folder, ".dlg"))
+    {
+        if (!ReadWholeFile(file))
+            diagnosis.Add(Verdict::Wrong, about, file, "cannot be read", "give the users the right to read it");
+    }
+}
+
 // The texts of the library are judged by themselves.
 bool IsToldElsewhere(const Finding& finding)
 {
@@ -87,6 +96,7 @@ void JudgeDialogs(const Deployment& deployment, const std::list<Description>& de
                       "holds descriptions as well, and the macros may name either folder",
                       "remove it, or name the folder that is meant with --dialogs");
     JudgeOpened(folder, diagnosis);
+    JudgeReadable(folder, diagnosis);
     const Surroundings surroundings = SurroundingsOf(folder.string(), {});
     const size_t before = diagnosis.All().size();
     for (const Description& description : descriptions)

@@ -73,7 +73,8 @@ std::vector<WantedLibrary> WantedLibraries(const std::list<Description>& descrip
     {
         for (const PartnerCall& call : PartnerCallsOf(description))
         {
-            if (!IsOwnLibrary(LibraryFileName(call.library)))
+            // Of a statement without a name `check` tells.
+            if (!call.library.empty() && !IsOwnLibrary(LibraryFileName(call.library)))
                 AddCall(description, call, wanted);
         }
     }

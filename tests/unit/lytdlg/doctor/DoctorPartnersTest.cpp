@@ -7,6 +7,8 @@
 namespace
 {
 
+namespace fs = std::filesystem;
+
 constexpr const char* whereTo =
     "                        hint: copy it to the folder of the word processor's program, or add its folder to PATH\n";
 constexpr const char* firstCall = "dialogs/finding.dlg:38:25: ";
@@ -122,6 +124,24 @@ TEST(DoctorOnPartners, TakesANameWithAndWithoutItsExtensionForOneLibrary)
     folder.Remove("word/lytdata.dll");
     const std::string found = folder.Findings();
     EXPECT_EQ(std::ranges::count(found, '\n'), 2) << found;
+}
+
+TEST(DoctorOnPartners, PassesOverACallWithoutAName)
+{
+    const DoctorFolder folder;
+    folder.Replace("dialogs/finding.dlg", "FILLEDBY, lytdata, LookUp", "FILLEDBY, \"\", LookUp");
+    const std::string found = folder.Findings();
+    EXPECT_EQ(found.find("partners"), std::string::npos) << found;
+}
+
+TEST(DoctorOnPartners, TakesAProgramWithoutAFolderForOneOfTheCurrentFolder)
+{
+    const DoctorFolder folder;
+    const fs::path before = fs::current_path();
+    fs::current_path(folder.File("word"));
+    const CommandRun run({"doctor", folder.Path(), "--host", "word.exe"});
+    fs::current_path(before);
+    EXPECT_EQ(run.code, 0) << run;
 }
 
 TEST(DoctorOnPartners, LooksInOneFolderForALibraryWithAWholePath)
