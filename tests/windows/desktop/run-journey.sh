@@ -26,7 +26,7 @@ trap 'exit 130' INT TERM
 complain() {
     echo "$1"
     picture complaint
-    cat "$folder/actual" 2>/dev/null
+    cat "$folder"/*.log "$folder/actual" 2>/dev/null
     exit 1
 }
 
@@ -62,15 +62,18 @@ enter() { xdotool type "$1"; }
 
 # ---- A screen, a window manager and the form on it
 
+for program in Xvfb openbox xdotool; do
+    command -v $program >/dev/null || complain "$program is missing; scripts/install-packages check installs it"
+done
 : >"$folder/display"
 Xvfb -displayfd 3 -screen 0 1024x768x24 -nolisten tcp 3>"$folder/display" 2>"$folder/screen.log" &
 screen=$!
-until_done "there is no screen; is the package xvfb installed?" test -s "$folder/display"
+until_done "Xvfb makes no screen" test -s "$folder/display"
 DISPLAY=:$(cat "$folder/display")
 export DISPLAY
 openbox --sm-disable >"$folder/manager.log" 2>&1 &
 manager=$!
-until_done "there is no window manager; are the packages openbox and xdotool installed?" xdotool get_num_desktops
+until_done "openbox does not start" xdotool get_num_desktops
 "$maker" "$prefix" screen
 LYT_WINEPREFIX=$prefix "$runner" "$lytcall" group >"$folder/actual" 2>&1 &
 call=$!
