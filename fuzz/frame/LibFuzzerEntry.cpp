@@ -1,5 +1,6 @@
 // What libFuzzer calls: `fuzzers --fuzzer=NAME` and its own options.
 #include "fuzz/frame/Fuzzer.h"
+#include "fuzz/frame/Partners.h"
 
 #include <cstdint>
 #include <cstdio>
@@ -24,7 +25,10 @@ extern "C" int LLVMFuzzerInitialize(int* count, char*** words)
             chosen = FindFuzzer(std::string(word.substr(option.size())));
     }
     if (chosen != nullptr)
+    {
+        InstallPartners();
         return 0;
+    }
     std::fputs("fuzzers: name a fuzzer with --fuzzer=NAME; ./fuzz-run --list lists them\n", stderr);
     std::exit(2);
 }

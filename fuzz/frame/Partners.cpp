@@ -1,9 +1,10 @@
 #include "fuzz/frame/Partners.h"
 
+#include "base/PartnerLibrary.h"
 #include "fuzz/frame/InputText.h"
 #include "fuzz/frame/UsedForm.h"
+#include "lyt64.h"
 #include "lytdata.h"
-#include "platform/PartnerLibraries.h"
 #include "support/DescriptionText.h"
 
 #include <algorithm>
@@ -90,17 +91,88 @@ int LookUpLong(const char* /*parameter*/, char* text, int size)
     return 1;
 }
 
-// A form whose controls of each class load the library.
+// A library has functions of one kind, whatever name they are asked for by: a description that took one for one of another
+// kind would break any program.
+class Partners : public ClytOwnLibraries
+{
+public:
+    HMODULE Load(const char* name) override
+    {
+        const std::string_view asked = name;
+        for (Library& library : m_libraries)
+        {
+            if (asked.starts_with(library.name))
+                return reinterpret_cast<HMODULE>(&library);
+        }
+        return nullptr;
+    }
+    bool Owns(HMODULE library) const override
+    {
+        return std::ranges::any_of(m_libraries,
+                                   [&](const Library& own) {
+                                       return reinterpret_cast<const void*>(&own) == static_cast<const void*>(library);
+                                   });
+    }
+    // An empty name is that of no function, and ends a fill.
+    FARPROC Find(HMODULE library, const char* function) override
+    {
+        if (*function != '\0')
+            return reinterpret_cast<Library*>(library)->find(*this, function);
+        m_isNextDue = false;
+        return nullptr;
+    }
+
+private:
+    struct Library
+    {
+        std::string_view name;
+        FARPROC (*find)(Partners&, std::string_view function);
+    };
+
+    template <class FUNCTION>
+    static FARPROC Address(FUNCTION* function)
+    {
+        return reinterpret_cast<FARPROC>(reinterpret_cast<void*>(function));
+    }
+    // A fill asks for the function that starts the listing, and then for the one that goes on.
+    FARPROC FindOfList()
+    {
+        m_isNextDue = !m_isNextDue;
+        return m_isNextDue ? Address(OpenList) : Address(NextItem);
+    }
+    static FARPROC FindText(std::string_view function)
+    {
+        return function.ends_with("Long") ? Address(LookUpLong) : Address(LookUp);
+    }
+    static FARPROC FindExport(std::string_view function)
+    {
+        return function.starts_with("lytSymbol") ? Address(lytSymbolPropertyDialog) : Address(lytOpenTreeView);
+    }
+    static FARPROC FindOfCatalogue(std::string_view function)
+    {
+        return function.ends_with("Start") ? Address(StartCatalogue) : Address(NextRecord);
+    }
+
+    Library m_libraries[4] = {
+        {"lists", [](Partners& partners, std::string_view) { return partners.FindOfList(); }},
+        {"lyt64", [](Partners&, std::string_view function) { return FindExport(function); }},
+        {"lytsrc", [](Partners&, std::string_view function) { return FindOfCatalogue(function); }},
+        // Texts, and the answers of buttons.
+        {"lytdata", [](Partners&, std::string_view function) { return FindText(function); }},
+    };
+    bool m_isNextDue = false;
+};
+
+// A form whose controls of each class load their library.
 void LoadData()
 {
     DescriptionText description;
     description.layout = "TextBox 0, 0, 1, 1, .A\nListBox 0, 0, 1, 1, .L\nCheckListBox 0, 0, 1, 1, .M\n"
-                         "ComboBox 0, 0, 1, 1, .C\nPushButton 0, 0, 1, 1, \"b\", .B\n";
-    description.values =
-        "A = FILLEDBY, lytdata, LookUp, , name\nL = FILLEDBY, lytdata, OpenList, NextItem, name\n"
-        "M = FILLEDBY, lytdata, OpenList, NextItem, name\n"
-        "C = FILLEDBY, lytdata, OpenList, NextItem, name, a/b\nB: ACTION = lytdata, LookUp, name, parent\n";
-    description.input = "Start: x = End = A(FILL), L(FILL), M(FILL), C(FILL)\n";
+                         "ComboBox 0, 0, 1, 1, .C\n";
+    description.values = "A = FILLEDBY, lytdata, LookUp, x, name\nL = FILLEDBY, lists, OpenList, NextItem, name\n"
+                         "M = FILLEDBY, lists, OpenList, NextItem, name\n"
+                         "C = FILLEDBY, lists, OpenList, NextItem, name, a/b\n";
+    description.input = "Start: (999, End = A(FILL), L(FILL), M(FILL), C(FILL)\n";
     description.output = "(\"%s\", A)\n$OUTPUT, name\n(\"name\")\n";
     UseForm(description(), "x");
 }
@@ -109,15 +181,8 @@ void LoadData()
 
 void InstallPartners()
 {
-    platform::AddFunction("lytdata", "OpenList", OpenList);
-    platform::AddFunction("lytdata", "OpenMarked", OpenList);
-    platform::AddFunction("lytdata", "NextItem", NextItem);
-    platform::AddFunction("lytdata", "LookUp", LookUp);
-    platform::AddFunction("lytdata", "LookUpLong", LookUpLong);
-    for (const char* start : {"lytTreeStart", "lytParaTreeStart"})
-        platform::AddFunction("lytsrc", start, StartCatalogue);
-    for (const char* next : {"lytTreeNext", "lytParaTreeNext"})
-        platform::AddFunction("lytsrc", next, NextRecord);
+    static Partners partners;
+    lytOwnLibraries = &partners;
     LoadData();
 }
 

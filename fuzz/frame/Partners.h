@@ -7,7 +7,8 @@
 #include <string>
 #include <vector>
 
-// Puts them in place. Each class of controls keeps the library that it loads first; they see to it that it is theirs.
+// Puts them in place, once for the life of the program. Each class of controls keeps the library that it loads first, so
+// this comes before any input.
 void InstallPartners();
 
 // From now on the catalogue delivers what the lines say: a character for the level (`<` and `>` are the lowest and the

@@ -1,5 +1,6 @@
 // Replays what the fuzzers have found, without libFuzzer: each input must come to its end.
 #include "fuzz/frame/Fuzzer.h"
+#include "fuzz/frame/Partners.h"
 #include "fuzz/frame/Words.h"
 
 #include <algorithm>
@@ -45,6 +46,7 @@ void ReplayFile(const Fuzzer& fuzzer, const fs::path& file)
 
 int Replay(const Fuzzer& fuzzer, const std::vector<std::string>& names)
 {
+    InstallPartners();
     for (const std::string& name : names)
         ReplayFile(fuzzer, name);
     if (!names.empty())

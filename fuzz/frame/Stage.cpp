@@ -22,8 +22,6 @@ constexpr const char* texts = "[Dialog_Error]\n212=Line '' is wrong\n222=Choose 
 
 Stage::Stage()
 {
-    // Once for all inputs.
-    [[maybe_unused]] static const bool areInstalled = (InstallPartners(), true);
     PutFile("lyt.ini", configuration);
     PutFile("lang/Test.nls", texts);
     SetCatalogue("");

@@ -1,4 +1,4 @@
-// Where a call under test finds its files and libraries, and the buffers that it writes to.
+// Where a call under test finds its files, and the buffers that it writes to.
 #pragma once
 
 #include <functional>
@@ -8,8 +8,7 @@
 // The folder of the dialogs and of `lyt.ini`, in memory.
 inline constexpr const char* stageFolder = "memory:";
 
-// Puts files and libraries in place, as they were at the first time, and starts the environment; when it dies everything
-// is freed, as at the end of a run of calls.
+// Puts the files in place and starts the environment; when it dies everything is freed, as at the end of a run of calls.
 class Stage
 {
 public:
