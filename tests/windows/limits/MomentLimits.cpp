@@ -187,7 +187,10 @@ constexpr Limit momentRows[] = {
 
 const LimitTable momentLimits = {
     "Calls at the wrong time",
-    "Calls come from one thread, one at a time. What happens when they do not:",
+    "Calls come from one thread, one at a time, and the library is unloaded when none is under way. This is what "
+    "happens\n"
+    "otherwise. Only a host that gives up more references than it holds takes the library's own as well, and ends the\n"
+    "process.",
     "what",
     momentRows,
 };
