@@ -7,7 +7,7 @@ namespace
 {
 
 // Backslashes would begin escapes of that language, and other control characters are no text in what it is turned into.
-std::string Quoted(const std::string& utf8)
+std::string DotText(const std::string& utf8)
 {
     std::string quoted = "\"";
     for (const char ch : utf8)
@@ -29,27 +29,27 @@ std::string Quoted(const std::string& utf8)
 
 Dot::Dot(const std::string& title)
 {
-    m_text = "digraph " + Quoted(title) + " {\n";
-    Line("rankdir=LR; charset=\"utf-8\"; fontname=\"sans-serif\"; labelloc=t; label=" + Quoted(title) + ";");
+    m_text = "digraph " + DotText(title) + " {\n";
+    Line("rankdir=LR; charset=\"utf-8\"; fontname=\"sans-serif\"; labelloc=t; label=" + DotText(title) + ";");
     Line("node [shape=box, fontname=\"sans-serif\"]; edge [fontname=\"sans-serif\", fontsize=10];");
 }
 
 void Dot::Node(const std::string& id, const std::string& label, const Attributes& more)
 {
     if (m_nodes.insert(id).second)
-        Write(Quoted(id), label, more);
+        Write(DotText(id), label, more);
 }
 
 void Dot::Edge(const std::string& from, const std::string& to, const std::string& label, const Attributes& more)
 {
-    Write(Quoted(from) + " -> " + Quoted(to), label, more);
+    Write(DotText(from) + " -> " + DotText(to), label, more);
 }
 
 void Dot::BeginCluster(const std::string& id, const std::string& label)
 {
-    Line("subgraph " + Quoted("cluster " + id) + " {");
+    Line("subgraph " + DotText("cluster " + id) + " {");
     ++m_depth;
-    Line("label=" + Quoted(label) + ";");
+    Line("label=" + DotText(label) + ";");
 }
 
 void Dot::EndCluster()
@@ -70,9 +70,9 @@ void Dot::Line(const std::string& text)
 
 void Dot::Write(const std::string& what, const std::string& label, const Attributes& more)
 {
-    std::string line = what + " [label=" + Quoted(label);
+    std::string line = what + " [label=" + DotText(label);
     for (const Attribute& attribute : more)
-        line += std::string(", ") + attribute.name + "=" + Quoted(attribute.value);
+        line += std::string(", ") + attribute.name + "=" + DotText(attribute.value);
     Line(line + "];");
 }
 

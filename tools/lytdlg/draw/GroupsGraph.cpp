@@ -19,7 +19,7 @@ namespace
 {
 
 // The value in that place, from 0; empty when there is none.
-std::string ValueOf(const ValueStatement& statement, size_t index)
+std::string ValueAt(const ValueStatement& statement, size_t index)
 {
     return index < statement.values.size() ? statement.values[index] : "";
 }
@@ -75,25 +75,25 @@ private:
     void DrawDialog(const ValueStatement& statement)
     {
         const std::string button = NodeOf(statement.name);
-        const std::string file = ValueOf(statement, 0) + ".dlg";
+        const std::string file = ValueAt(statement, 0) + ".dlg";
         const std::string dialog = "file " + ToUtf8(file);
         const bool isThere = std::filesystem::exists(PathOf(m_folder) / PathOf(ToUtf8(file)));
         m_dot.Node(dialog, ToUtf8(file) + (isThere ? "" : "\nno such file"), Looks({{"shape", "folder"}}, isThere));
         m_dot.Edge(button, dialog, "DIALOG\n" + LineText(statement.span), Looks({}, isThere));
         AddGroup(statement, statement.values.empty() ? "" : statement.values.back());
-        AddPart(statement, ValueOf(statement, 1));
+        AddPart(statement, ValueAt(statement, 1));
     }
 
     void DrawAction(const ValueStatement& statement)
     {
         const std::string button = NodeOf(statement.name);
-        m_dot.Edge(button, LibraryNode(ValueOf(statement, 0)),
-                   "ACTION " + ToUtf8(ValueOf(statement, 1)) + "\n" + LineText(statement.span));
-        AddGroup(statement, ValueOf(statement, 2));
-        AddPart(statement, ValueOf(statement, 3));
+        m_dot.Edge(button, LibraryNode(ValueAt(statement, 0)),
+                   "ACTION " + ToUtf8(ValueAt(statement, 1)) + "\n" + LineText(statement.span));
+        AddGroup(statement, ValueAt(statement, 2));
+        AddPart(statement, ValueAt(statement, 3));
     }
 
-    void DrawFill(const ValueStatement& statement) { AddControl(statement, ValueOf(statement, 0), "FILL"); }
+    void DrawFill(const ValueStatement& statement) { AddControl(statement, ValueAt(statement, 0), "FILL"); }
 
     void DrawDoubleClick(const ValueStatement& statement)
     {
@@ -108,10 +108,10 @@ private:
     void DrawSource(const ValueStatement& statement)
     {
         const std::string control = NodeOf(statement.name);
-        m_dot.Edge(control, LibraryNode(ValueOf(statement, 0)),
-                   "FILLEDBY " + ToUtf8(ValueOf(statement, 1)) + "\n" + LineText(statement.span));
-        if (!ValueOf(statement, 3).empty())
-            AddGroup(statement, ValueOf(statement, 3));
+        m_dot.Edge(control, LibraryNode(ValueAt(statement, 0)),
+                   "FILLEDBY " + ToUtf8(ValueAt(statement, 1)) + "\n" + LineText(statement.span));
+        if (!ValueAt(statement, 3).empty())
+            AddGroup(statement, ValueAt(statement, 3));
     }
 
     // Fills of a part that ask a control's library.

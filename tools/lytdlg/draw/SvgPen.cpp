@@ -10,7 +10,7 @@ namespace lytdlg
 namespace
 {
 
-constexpr const char* blank = "\xC2\xA0"; // other blanks would be run together
+constexpr const char* noBreakSpace = "\xC2\xA0"; // other blanks would be run together
 
 size_t CharacterCount(const std::string& utf8)
 {
@@ -22,7 +22,7 @@ std::string WithFixedBlanks(const std::string& utf8)
 {
     std::string fixed;
     for (const char ch : utf8)
-        ch == ' ' || ch == '\t' || ch == '\n' || ch == '\r' ? fixed += blank : fixed += ch;
+        ch == ' ' || ch == '\t' || ch == '\n' || ch == '\r' ? fixed += noBreakSpace : fixed += ch;
     return fixed;
 }
 

@@ -12,7 +12,7 @@ namespace lytdlg
 namespace
 {
 
-constexpr const char* title = "lytdlg baseline 1";
+constexpr const char* baselineTitle = "lytdlg baseline 1";
 
 std::string KeyOf(const Finding& finding, const Description& description)
 {
@@ -30,7 +30,7 @@ Baseline::Baseline(const std::string& path)
 {
     std::ifstream file(PathOf(path), std::ios::binary);
     std::string line;
-    if (!std::getline(file, line) || line != title)
+    if (!std::getline(file, line) || line != baselineTitle)
         throw commandline::UsageError("\"" + path +
                                       "\" is no file of known findings; write one with --write-baseline FILE");
     while (std::getline(file, line))
@@ -56,7 +56,7 @@ void Baseline::Add(const Description& description, const Findings& findings)
 void Baseline::Write(const std::string& path) const
 {
     std::ofstream file(PathOf(path), std::ios::binary);
-    file << title << '\n';
+    file << baselineTitle << '\n';
     for (const auto& [line, count] : m_known)
     {
         for (int written = 0; written < count; ++written)

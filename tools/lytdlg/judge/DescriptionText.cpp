@@ -15,11 +15,10 @@ namespace lytdlg
 namespace
 {
 
-constexpr const char* words[] = {"$VERSION",    "$LAYOUT", "$VALUES", "$DEPENDANCES",
-                                 "$EVALUATION", "$INPUT",  "$OUTPUT", "$END"};
+constexpr const char* sectionWords[] = {"$VERSION",    "$LAYOUT", "$VALUES", "$DEPENDANCES",
+                                        "$EVALUATION", "$INPUT",  "$OUTPUT", "$END"};
 // A line is read in pieces of this length, and each counts.
 constexpr size_t pieceLength = 399;
-constexpr char endOfText = 0x1A;
 
 std::string Upper(std::string text)
 {
@@ -74,7 +73,7 @@ std::optional<Section> MeantBy(const HeaderWord& word, Section present)
     if (!hasSign && present == Section::Head)
         return std::nullopt;
     first = (hasSign ? "" : "$") + Upper(first);
-    static const std::vector<std::string> known(std::begin(words), std::end(words));
+    static const std::vector<std::string> known(std::begin(sectionWords), std::end(sectionWords));
     const auto place = std::ranges::find(known, commandline::Nearest(first, known));
     if (place == known.end())
         return std::nullopt;
@@ -127,7 +126,7 @@ bool SeemsToBegin(Section section, const std::string& line, bool hasLayoutEnded)
     }
 }
 
-int PiecesOf(const std::string& text)
+int CountPieces(const std::string& text)
 {
     return static_cast<int>((text.size() + 1 + pieceLength - 1) / pieceLength);
 }
@@ -136,7 +135,7 @@ int PiecesOf(const std::string& text)
 
 const char* WordOf(Section section)
 {
-    return words[static_cast<size_t>(section)];
+    return sectionWords[static_cast<size_t>(section)];
 }
 
 const DelimiterSet& DelimitersOf(Section section)
@@ -236,7 +235,7 @@ void DescriptionText::ApplyDefines()
         if (!line.isRead)
             continue;
         line.counted = counted + 1;
-        counted += PiecesOf(line.text);
+        counted += CountPieces(line.text);
     }
 }
 
@@ -244,9 +243,10 @@ void DescriptionText::FindSections()
 {
     for (const SourceLine& line : m_lines)
     {
-        const auto found = line.isRead ? std::ranges::find(words, RoughHeaderWord(line.text)) : std::end(words);
-        if (found != std::end(words))
-            m_headerLines.emplace_back(allSections[found - std::begin(words)], line.number);
+        const auto found =
+            line.isRead ? std::ranges::find(sectionWords, RoughHeaderWord(line.text)) : std::end(sectionWords);
+        if (found != std::end(sectionWords))
+            m_headerLines.emplace_back(allSections[found - std::begin(sectionWords)], line.number);
     }
     GoThroughSections({});
     const std::vector<Section> missing = SectionsWithoutHeader();

@@ -12,6 +12,9 @@
 namespace lytdlg
 {
 
+// What the library takes for the end of a file, whatever follows.
+inline constexpr char endOfText = 0x1A;
+
 // The sections in the order that a description must have. Each opens with its word, but for the head, which is what
 // stands above $LAYOUT.
 enum class Section

@@ -2,6 +2,7 @@
 
 #include "commandline/Suggestion.h"
 #include "lytdlg/judge/Names.h"
+#include "lytdlg/text/Words.h"
 
 #include <algorithm>
 #include <list>
@@ -13,7 +14,7 @@ namespace lytdlg
 namespace
 {
 
-using Lines = std::list<std::string>;
+using ExampleLines = std::list<std::string>;
 
 constexpr const char* baseDescription = R"($VERSION 1
 $LAYOUT Example
@@ -97,15 +98,9 @@ constexpr const char* otherDescription =
     "End Dialog\r\n$VALUES\r\n$DEPENDANCES\r\n$EVALUATION, x\r\nName = NULL: NameMissing\r\n$INPUT, parent\r\n"
     "Start: (999, End = Name\r\n$OUTPUT, parent\r\n(\"%s\", Name)\r\n$END\r\n";
 
-std::string Trimmed(const std::string& line)
+ExampleLines ExampleLinesOf(const std::string& text)
 {
-    const size_t start = line.find_first_not_of(" \t");
-    return start == std::string::npos ? "" : line.substr(start, line.find_last_not_of(" \t") + 1 - start);
-}
-
-Lines LinesOf(const std::string& text)
-{
-    Lines lines;
+    ExampleLines lines;
     std::istringstream stream(text);
     for (std::string line; std::getline(stream, line);)
         lines.push_back(line);
@@ -134,7 +129,7 @@ std::string NameOf(const std::string& line)
 class ExampleWriter
 {
 public:
-    ExampleWriter() : m_lines(LinesOf(baseDescription)), m_place(m_lines.begin()) {}
+    ExampleWriter() : m_lines(ExampleLinesOf(baseDescription)), m_place(m_lines.begin()) {}
 
     void Take(const std::string& line)
     {
@@ -159,12 +154,12 @@ public:
     }
 
 private:
-    Lines::iterator Find(const std::string& text)
+    ExampleLines::iterator Find(const std::string& text)
     {
         return std::ranges::find_if(m_lines, [&](const std::string& line) { return Trimmed(line) == Trimmed(text); });
     }
 
-    void Remove(const Lines::iterator& line)
+    void Remove(const ExampleLines::iterator& line)
     {
         const bool isPlace = line == m_place;
         const auto next = m_lines.erase(line);
@@ -185,13 +180,13 @@ private:
     }
 
     // The header of a section, the first one.
-    Lines::iterator Known(const std::string& section)
+    ExampleLines::iterator Known(const std::string& section)
     {
         return std::ranges::find_if(m_lines, [&](const std::string& line) { return SectionOf(line) == section; });
     }
 
     // Another header takes the place of the one that is there, or opens a further part below its section.
-    Lines::iterator OpenPart(const std::string& section, const std::string& header)
+    ExampleLines::iterator OpenPart(const std::string& section, const std::string& header)
     {
         const auto line = Known(section);
         const bool isPart = header.starts_with(section + ", ") && (section == "$INPUT" || section == "$OUTPUT");
@@ -201,7 +196,7 @@ private:
         return line;
     }
 
-    Lines::iterator EndOf(Lines::iterator line)
+    ExampleLines::iterator EndOf(ExampleLines::iterator line)
     {
         return std::find_if(std::next(line), m_lines.end(),
                             [](const std::string& known) { return !SectionOf(known).empty(); });
@@ -221,10 +216,10 @@ private:
             m_lines.insert(m_place, line);
     }
 
-    Lines m_lines;
+    ExampleLines m_lines;
     std::string m_section; // empty above the first header
-    Lines::iterator m_part;
-    Lines::iterator m_place; // new lines come before it
+    ExampleLines::iterator m_part;
+    ExampleLines::iterator m_place; // new lines come before it
 };
 
 void Replace(std::string& text, const std::string& mark, const std::string& by)
@@ -238,7 +233,7 @@ void Replace(std::string& text, const std::string& mark, const std::string& by)
 std::string ExampleDescription(const std::string& lines)
 {
     ExampleWriter writer;
-    for (const std::string& line : LinesOf(lines))
+    for (const std::string& line : ExampleLinesOf(lines))
         writer.Take(line);
     std::string text = writer.Text();
     Replace(text, "{ABOVE}\n", "");

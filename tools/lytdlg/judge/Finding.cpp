@@ -9,7 +9,7 @@ namespace lytdlg
 namespace
 {
 
-auto KeyOf(const Finding& finding)
+auto OrderOf(const Finding& finding)
 {
     return std::tuple(finding.path, finding.place.line, finding.place.column, finding.rule->level,
                       std::string(finding.rule->id), finding.message);
@@ -34,8 +34,8 @@ Finding& Findings::Add(const Rule& rule, const ClytSpan& place, std::string mess
 
 void Findings::Sort()
 {
-    std::ranges::sort(m_findings, {}, KeyOf);
-    const auto isTwice = [](const Finding& left, const Finding& right) { return KeyOf(left) == KeyOf(right); };
+    std::ranges::sort(m_findings, {}, OrderOf);
+    const auto isTwice = [](const Finding& left, const Finding& right) { return OrderOf(left) == OrderOf(right); };
     m_findings.erase(std::unique(m_findings.begin(), m_findings.end(), isTwice), m_findings.end());
 }
 

@@ -15,7 +15,7 @@ bool TakesItem(FormatPieceKind kind)
 }
 
 // What stands between a `%` and the `s`: nothing, or a limit.
-FormatPieceKind KindOf(const std::string& conversion)
+FormatPieceKind KindOfConversion(const std::string& conversion)
 {
     if (conversion.empty())
         return FormatPieceKind::Item;
@@ -50,7 +50,7 @@ std::vector<FormatPiece> PiecesOf(const std::string& format)
             pieces.push_back({FormatPieceKind::OpenPercent, place, 1});
             return pieces;
         }
-        pieces.push_back({KindOf(format.substr(place + 1, end - place - 1)), place, end + 1 - place});
+        pieces.push_back({KindOfConversion(format.substr(place + 1, end - place - 1)), place, end + 1 - place});
         place = end;
     }
     return pieces;

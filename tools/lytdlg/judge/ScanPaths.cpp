@@ -11,20 +11,20 @@ namespace lytdlg
 namespace
 {
 
-using Statement = const ClytDialogInput*;
-using Successors = std::vector<Statement> (*)(const ClytInputPart& part, const ClytDialogInput& statement);
+using Step = const ClytDialogInput*;
+using Successors = std::vector<Step> (*)(const ClytInputPart& part, const ClytDialogInput& statement);
 
 bool IsScan(const ClytDialogInput& statement)
 {
     return statement.scanRule.scan.HasScan() != 0;
 }
 
-std::vector<Statement> Found(const ClytInputPart& part, std::initializer_list<CString> names)
+std::vector<Step> Found(const ClytInputPart& part, std::initializer_list<CString> names)
 {
-    std::vector<Statement> found;
+    std::vector<Step> found;
     for (const CString& name : names)
     {
-        const Statement statement = name == "End" ? nullptr : part.Find(name);
+        const Step statement = name == "End" ? nullptr : part.Find(name);
         if (statement != nullptr)
             found.push_back(statement);
     }
@@ -32,7 +32,7 @@ std::vector<Statement> Found(const ClytInputPart& part, std::initializer_list<CS
 }
 
 // Only jumps cut nothing whatever the text is, and nothing changes a control between them.
-std::vector<Statement> Jump(const ClytInputPart& part, const ClytDialogInput& statement)
+std::vector<Step> Jump(const ClytInputPart& part, const ClytDialogInput& statement)
 {
     if (IsScan(statement))
         return {};
@@ -41,17 +41,17 @@ std::vector<Statement> Jump(const ClytInputPart& part, const ClytDialogInput& st
 }
 
 // Inside a text an empty separator in the first place cuts nothing.
-std::vector<Statement> WithinText(const ClytInputPart& part, const ClytDialogInput& statement)
+std::vector<Step> WithinText(const ClytInputPart& part, const ClytDialogInput& statement)
 {
     const ClytScan& scan = statement.scanRule.scan;
     if (!IsScan(statement))
-        return statement.conditions.IsEmpty() ? Found(part, {statement.falseTarget}) : std::vector<Statement>();
+        return statement.conditions.IsEmpty() ? Found(part, {statement.falseTarget}) : std::vector<Step>();
     const bool cutsNothing = scan.GetLength() == 0 && scan.GetSeparators().GetHead()->text.IsEmpty();
-    return cutsNothing ? Found(part, {scan.TargetOf("")}) : std::vector<Statement>();
+    return cutsNothing ? Found(part, {scan.TargetOf("")}) : std::vector<Step>();
 }
 
 // At the end of a text nothing is left to cut.
-std::vector<Statement> AtEnd(const ClytInputPart& part, const ClytDialogInput& statement)
+std::vector<Step> AtEnd(const ClytInputPart& part, const ClytDialogInput& statement)
 {
     const ClytScan& scan = statement.scanRule.scan;
     if (!IsScan(statement))
@@ -60,14 +60,14 @@ std::vector<Statement> AtEnd(const ClytInputPart& part, const ClytDialogInput& s
 }
 
 // The way from a statement back to itself; empty when there is none.
-std::vector<Statement> WayRound(const ClytInputPart& part, Statement start, Successors successors)
+std::vector<Step> WayRound(const ClytInputPart& part, Step start, Successors successors)
 {
-    std::vector<Statement> way = {start};
-    std::set<Statement> seen = {start};
+    std::vector<Step> way = {start};
+    std::set<Step> seen = {start};
     while (!way.empty())
     {
-        Statement next = nullptr;
-        for (const Statement candidate : successors(part, *way.back()))
+        Step next = nullptr;
+        for (const Step candidate : successors(part, *way.back()))
         {
             if (candidate == start)
                 return way;
@@ -109,17 +109,17 @@ std::vector<ScanTarget> TargetsOf(const Description& description, const ClytDial
 
 std::set<const ClytDialogInput*> Reached(const Description& description, const ClytInputPart& part)
 {
-    std::set<Statement> reached;
-    std::vector<Statement> open = Found(part, {CString(lytStartName)});
+    std::set<Step> reached;
+    std::vector<Step> open = Found(part, {CString(lytStartName)});
     while (!open.empty())
     {
-        const Statement statement = open.back();
+        const Step statement = open.back();
         open.pop_back();
         if (!reached.insert(statement).second)
             continue;
         for (const ScanTarget& target : TargetsOf(description, *statement))
         {
-            for (const Statement next : Found(part, {CString(target.name.c_str())}))
+            for (const Step next : Found(part, {CString(target.name.c_str())}))
                 open.push_back(next);
         }
     }
@@ -128,16 +128,16 @@ std::set<const ClytDialogInput*> Reached(const Description& description, const C
 
 std::vector<ScanCircle> CirclesOf(const Description& description, const ClytInputPart& part)
 {
-    const std::set<Statement> reached = Reached(description, part);
+    const std::set<Step> reached = Reached(description, part);
     std::vector<ScanCircle> circles;
-    std::set<Statement> told;
+    std::set<Step> told;
     for (const Successors successors : {WithinText, AtEnd, Jump})
     {
         for (const ClytDialogInput* statement : Records(part.GetStatements()))
         {
             if (!reached.contains(statement) || told.contains(statement))
                 continue;
-            const std::vector<Statement> way = WayRound(part, statement, successors);
+            const std::vector<Step> way = WayRound(part, statement, successors);
             if (way.empty())
                 continue;
             told.insert(way.begin(), way.end());

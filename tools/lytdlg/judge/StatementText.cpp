@@ -16,10 +16,10 @@ std::string SignInQuotes(char ch)
 }
 
 // A statement up to the word that its reader refused.
-class Statement
+class RefusedStatement
 {
 public:
-    Statement(const std::string& line, Section section, int column) : m_words(TokensOf(line, section))
+    RefusedStatement(const std::string& line, Section section, int column) : m_words(TokensOf(line, section))
     {
         const auto refused =
             std::ranges::find_if(m_words, [&](const LineToken& word) { return word.column >= column; });
@@ -75,13 +75,13 @@ std::string BeforeBlank(const std::string& word)
     return word.substr(0, word.find(' '));
 }
 
-std::string WrongInHead(const Statement& statement)
+std::string WrongInHead(const RefusedStatement& statement)
 {
     return statement.Words().size() == 1 ? MissingAfter("a word", statement.Text(0))
                                          : "more than one word follows " + InQuotes(statement.Text(0));
 }
 
-std::string WrongInLayout(const Statement& statement)
+std::string WrongInLayout(const RefusedStatement& statement)
 {
     const std::vector<LineToken>& words = statement.Words();
     if (words.size() == 1)
@@ -96,7 +96,7 @@ std::string WrongInLayout(const Statement& statement)
            (count == 1 ? std::string("is one") : "are " + std::to_string(count));
 }
 
-std::string WrongInValues(const Statement& statement)
+std::string WrongInValues(const RefusedStatement& statement)
 {
     const std::string word = BeforeBlank(statement.Text(0));
     if (word != statement.Text(0))
@@ -104,7 +104,7 @@ std::string WrongInValues(const Statement& statement)
     return "nothing is said of " + InQuotes(word);
 }
 
-std::string WrongInDependencies(const Statement& statement)
+std::string WrongInDependencies(const RefusedStatement& statement)
 {
     if (statement.EndOf(0) != '/')
         return MissingAfter("\"/\"", BeforeBlank(statement.Text(0)));
@@ -117,7 +117,7 @@ std::string WrongInDependencies(const Statement& statement)
                          : SignInQuotes(statement.Refused().delimiter) + " stands where a comma separates conditions";
 }
 
-std::string WrongInEvaluation(const Statement& statement)
+std::string WrongInEvaluation(const RefusedStatement& statement)
 {
     if (statement.EndOf(0) == '=')
         return statement.Words().size() == 1 ? MissingAfter("a value", "=")
@@ -136,7 +136,7 @@ std::string WrongInEvaluation(const Statement& statement)
     return "\":\" with the key of a message must follow the values";
 }
 
-std::string WrongInScan(const Statement& statement)
+std::string WrongInScan(const RefusedStatement& statement)
 {
     const std::vector<LineToken>& words = statement.Words();
     const auto isBeforeFills = [](const LineToken& word) { return word.delimiter == '='; };
@@ -158,7 +158,7 @@ std::string WrongInScan(const Statement& statement)
            " stands where a comma separates fills";
 }
 
-std::string WrongInInput(const Statement& statement)
+std::string WrongInInput(const RefusedStatement& statement)
 {
     if (statement.EndOf(0) != ':')
         return MissingAfter("\":\"", BeforeBlank(statement.Text(0)));
@@ -177,7 +177,7 @@ std::string WrongInInput(const Statement& statement)
     return "two statements must follow \"=\": one when the condition holds, one when not";
 }
 
-std::string WrongInOutput(const Statement& statement)
+std::string WrongInOutput(const RefusedStatement& statement)
 {
     const std::vector<LineToken>& words = statement.Words();
     const bool hasSign = std::ranges::any_of(words, [](const LineToken& word) { return word.delimiter == '='; });
@@ -196,7 +196,7 @@ std::string WrongInOutput(const Statement& statement)
 
 std::string WhatIsWrong(const std::string& line, Section section, int column)
 {
-    const Statement statement(line, section, column);
+    const RefusedStatement statement(line, section, column);
     if (statement.Words().empty())
         return "the statement is incomplete";
     switch (section)

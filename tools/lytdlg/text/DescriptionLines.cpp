@@ -3,6 +3,7 @@
 #include "base/Words.h"
 #include "dlgfile/ClytDialogFile.h"
 #include "environment/ClytException.h"
+#include "lytdlg/judge/DescriptionText.h"
 #include "lytdlg/text/Paths.h"
 #include "model/ClytControlDep.h"
 #include "model/ClytDialogOutput.h"
@@ -16,7 +17,6 @@ namespace lytdlg
 namespace
 {
 
-constexpr char endOfText = 0x1A;
 constexpr size_t pieceSize = ClytDialogFile::lineSize;
 // Each one more doubles the readings.
 constexpr size_t mostDefines = 8;

@@ -11,7 +11,7 @@ namespace lytdlg
 namespace
 {
 
-constexpr size_t indentation = 4;
+constexpr size_t indentationWidth = 4;
 // Where comments after statements stand. Those of lines one below the other share a column further right when a statement
 // needs it, except that of a very long one, which stands just after its statement.
 constexpr size_t leastCommentColumn = 48;
@@ -131,7 +131,7 @@ void PlaceComments(std::vector<Line>& lines)
         }
         // A comment at the margin stays there when it is about the section to come.
         const bool isAtMargin = lines[i].oldColumn == 0 && IsBeforeHeading(lines, i);
-        lines[i].newColumn = isAtMargin ? 0 : indentation;
+        lines[i].newColumn = isAtMargin ? 0 : indentationWidth;
         ++i;
     }
 }

@@ -13,13 +13,13 @@ namespace
 {
 
 // What the platform's profile functions take for a blank.
-constexpr std::string_view blanks = " \t\n\v\f\r\x1A";
+constexpr std::string_view blanksAround = " \t\n\v\f\r\x1A";
 
-std::string_view Trimmed(std::string_view text)
+std::string_view WithoutBlanks(std::string_view text)
 {
-    const size_t start = std::min(text.find_first_not_of(blanks), text.size());
+    const size_t start = std::min(text.find_first_not_of(blanksAround), text.size());
     text.remove_prefix(start);
-    return text.substr(0, text.find_last_not_of(blanks) + 1);
+    return text.substr(0, text.find_last_not_of(blanksAround) + 1);
 }
 
 std::string_view UpToNul(std::string_view text)
@@ -64,9 +64,9 @@ private:
         const size_t endLength = m_rest.substr(end).starts_with("\r\n") ? 2 : 1;
         m_rest.remove_prefix(std::min(end + endLength, m_rest.size()));
         ++m_line;
-        const std::string_view text = Trimmed(line);
+        const std::string_view text = WithoutBlanks(line);
         if (IsSectionLine(text))
-            BeginSection(Trimmed(text.substr(1, text.rfind(']') - 1)));
+            BeginSection(WithoutBlanks(text.substr(1, text.rfind(']') - 1)));
         else if (!text.empty() && text.front() != ';')
             AddKey(text, line);
     }
@@ -83,12 +83,12 @@ private:
     {
         const auto column = static_cast<int>(text.data() - line.data());
         const size_t sign = text.find('=');
-        const std::string_view name = UpToNul(Trimmed(text.substr(0, sign)));
+        const std::string_view name = UpToNul(WithoutBlanks(text.substr(0, sign)));
         LanguageKey key = {m_section, std::string(name), {}, {m_line, column, static_cast<int>(name.size())}, false,
                            false,     std::string(line)};
         key.hasText = sign != std::string_view::npos;
         if (key.hasText)
-            key.text = Unquoted(UpToNul(Trimmed(text.substr(sign + 1))));
+            key.text = Unquoted(UpToNul(WithoutBlanks(text.substr(sign + 1))));
         key.isReached = m_isReached && !HasInSection(key.name);
         m_keys.push_back(std::move(key));
     }
@@ -117,8 +117,8 @@ std::vector<std::filesystem::path> LanguageFilesIn(const std::filesystem::path& 
 
 bool IsSameName(std::string_view left, std::string_view right)
 {
-    left = Trimmed(left);
-    right = Trimmed(right);
+    left = WithoutBlanks(left);
+    right = WithoutBlanks(right);
     if (left.size() != right.size())
         return false;
     const std::string text(right);

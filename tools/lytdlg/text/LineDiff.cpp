@@ -14,7 +14,7 @@ constexpr size_t around = 3;
 using Lines = std::vector<std::string>;
 
 // Each line with its end.
-Lines LinesOf(const std::string& text)
+Lines LinesWithEndsOf(const std::string& text)
 {
     Lines lines;
     for (size_t start = 0; start < text.size();)
@@ -35,7 +35,8 @@ std::string Marked(char mark, const std::string& line)
 class Comparison
 {
 public:
-    Comparison(const std::string& before, const std::string& after) : m_before(LinesOf(before)), m_after(LinesOf(after))
+    Comparison(const std::string& before, const std::string& after)
+        : m_before(LinesWithEndsOf(before)), m_after(LinesWithEndsOf(after))
     {
     }
 

@@ -18,7 +18,7 @@ namespace fs = std::filesystem;
 namespace
 {
 
-constexpr size_t longestName = 40;
+constexpr size_t longestNewName = 40;
 
 // Names of files that Windows has for its devices, whatever comes after a point.
 constexpr std::array devices = {"CON",  "PRN",  "AUX",  "NUL",  "COM1", "COM2", "COM3", "COM4", "COM5", "COM6", "COM7",
@@ -163,8 +163,8 @@ std::string FaultOfName(const std::string& name)
         return "write the name without .dlg";
     if (name.empty() || !IsLetter(name.front()) || !std::ranges::all_of(name, IsInName))
         return "use letters from A to Z, digits, - and _, with a letter first";
-    if (name.size() > longestName)
-        return "use " + std::to_string(longestName) + " letters at most";
+    if (name.size() > longestNewName)
+        return "use " + std::to_string(longestNewName) + " letters at most";
     if (IsAmong(name, devices))
         return "Windows keeps this name for a device; choose another";
     if (IsAmong(name, librarySections))

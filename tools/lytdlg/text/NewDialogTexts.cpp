@@ -25,7 +25,7 @@ struct Language
     const char* nameMissing;
 };
 
-constexpr std::array languages = {
+constexpr std::array newDialogLanguages = {
     Language{"English", sampleEnglish,
              "; Texts of the dialogs, English. Code page 1252; a text has at most 74 characters.\n",
              "@NameMissing=Please enter a name.\n",
@@ -39,8 +39,9 @@ constexpr std::array languages = {
 
 const Language& LanguageOf(const std::string& name)
 {
-    const auto found = std::ranges::find_if(languages, [&](const Language& each) { return name == each.name; });
-    return found != languages.end() ? *found : languages.front();
+    const auto found =
+        std::ranges::find_if(newDialogLanguages, [&](const Language& each) { return name == each.name; });
+    return found != newDialogLanguages.end() ? *found : newDialogLanguages.front();
 }
 
 bool IsOfLibrary(const LanguageKey& key)
@@ -124,7 +125,7 @@ const std::vector<std::string>& KnownLanguages()
     static const std::vector<std::string> names = []
     {
         std::vector<std::string> made;
-        for (const Language& language : languages)
+        for (const Language& language : newDialogLanguages)
             made.emplace_back(language.name);
         return made;
     }();

@@ -60,7 +60,7 @@ void PrintTable(const std::vector<Cells>& table)
 }
 
 // What is to be looked at comes once more at the end, where it is seen.
-void PrintText(const TextTable& texts)
+void PrintForReading(const TextTable& texts)
 {
     std::vector<Cells> table = {{"SECTION", "KEY"}};
     for (const LanguageFile& file : texts.Languages().Files())
@@ -114,7 +114,7 @@ Json JsonOf(const TextRow& row, const TextTable& texts)
     return told;
 }
 
-void PrintTexts(const TextTable& texts)
+void PrintAsJson(const TextTable& texts)
 {
     Json rows = Json::array();
     for (const TextRow& row : texts.Rows())
@@ -134,7 +134,7 @@ ExitCode Texts(const Request& request)
     if (!std::filesystem::is_directory(PathOf(folder), ignored))
         throw commandline::UsageError("there is no folder " + folder + "; name the folder of the dialogs");
     const TextTable texts(PathOf(folder));
-    format == "json" ? PrintTexts(texts) : PrintText(texts);
+    format == "json" ? PrintAsJson(texts) : PrintForReading(texts);
     return texts.CountMissing() != 0 ? found : good;
 }
 

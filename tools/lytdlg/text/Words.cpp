@@ -19,4 +19,10 @@ size_t CountOf(const std::string& text, const std::string& mark)
     return count;
 }
 
+std::string Trimmed(const std::string& text)
+{
+    const size_t first = text.find_first_not_of(" \t");
+    return first != std::string::npos ? text.substr(first, text.find_last_not_of(" \t") + 1 - first) : "";
+}
+
 } // namespace lytdlg

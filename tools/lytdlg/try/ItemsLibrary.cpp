@@ -1,6 +1,7 @@
 #include "lytdlg/try/ItemsLibrary.h"
 
 #include "controls/ClytEditControl.h"
+#include "lytdlg/text/Words.h"
 #include "lytdlg/try/LineReader.h"
 
 #include "lyt64.h"
@@ -94,12 +95,6 @@ int TextItem(const char* parameter, char* text, int size)
 {
     CopyText(current->TextFor(parameter), text, size);
     return 1;
-}
-
-std::string Trimmed(const std::string& text)
-{
-    const size_t first = text.find_first_not_of(" \t");
-    return first != std::string::npos ? text.substr(first, text.find_last_not_of(" \t") + 1 - first) : "";
 }
 
 LibraryItem ItemOf(const std::string& line)

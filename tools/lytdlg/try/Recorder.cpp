@@ -15,7 +15,7 @@ using commandline::ToUtf8;
 namespace
 {
 
-std::string Shown(const CString& text)
+std::string QuotedUtf8(const CString& text)
 {
     return Quoted(ToUtf8(text.GetString()));
 }
@@ -25,7 +25,7 @@ std::string Name(const CString& name)
     return ToUtf8(name.GetString());
 }
 
-std::string Line(const ClytSpan& span)
+std::string LineName(const ClytSpan& span)
 {
     return "line " + std::to_string(span.line);
 }
@@ -76,13 +76,13 @@ std::string TextOf(const ClytControlFill& fill, const CString& piece)
     switch (fill.action.GetMeaning())
     {
     case ClytFillAction::Fill: return "is filled by its library";
-    case ClytFillAction::Add: return "takes the item " + Shown(piece);
-    case ClytFillAction::Modify: return "takes " + Shown(piece) + " in place of the chosen item";
-    case ClytFillAction::Concat: return "takes the items of " + Shown(piece);
+    case ClytFillAction::Add: return "takes the item " + QuotedUtf8(piece);
+    case ClytFillAction::Modify: return "takes " + QuotedUtf8(piece) + " in place of the chosen item";
+    case ClytFillAction::Concat: return "takes the items of " + QuotedUtf8(piece);
     case ClytFillAction::Other: break;
     }
     const CString& value = fill.value.IsEmpty() ? piece : fill.value;
-    return value.IsEmpty() ? "is handed an empty text" : "takes " + Shown(value);
+    return value.IsEmpty() ? "is handed an empty text" : "takes " + QuotedUtf8(value);
 }
 
 } // namespace
@@ -125,7 +125,8 @@ void Recorder::PassedOver(ClytPassedOver what, const CString& name, const ClytSp
 {
     constexpr std::array whats = {"type word", "control of a value", "control of a rule", "control of an evaluation",
                                   "control of a fill"};
-    Trace(Line(place) + ": passed over, since there is no " + whats.at(static_cast<size_t>(what)) + " " + Shown(name));
+    Trace(LineName(place) + ": passed over, since there is no " + whats.at(static_cast<size_t>(what)) + " " +
+          QuotedUtf8(name));
 }
 
 void Recorder::Missed(ClytMissing what, const CString& name, const ClytControl* control, const ClytSpan& place)
@@ -141,11 +142,11 @@ void Recorder::Missed(ClytMissing what, const CString& name, const ClytControl* 
     // The end of the text where no statement was to go on.
     if (what == ClytMissing::InputStatement && name.IsEmpty())
         return;
-    const std::string text = std::string("there is no ") + whats.at(static_cast<size_t>(what)) + " " + Shown(name) +
-                             (control != nullptr ? " for " + Name(control->GetName()) : "");
+    const std::string text = std::string("there is no ") + whats.at(static_cast<size_t>(what)) + " " +
+                             QuotedUtf8(name) + (control != nullptr ? " for " + Name(control->GetName()) : "");
     if (what == ClytMissing::Library || what == ClytMissing::LibraryFunction)
         m_asked[m_asking] = text;
-    Trace(place.line > 0 ? Line(place) + ": " + text : text);
+    Trace(place.line > 0 ? LineName(place) + ": " + text : text);
 }
 
 void Recorder::ScanBegan(const char* text)
@@ -168,7 +169,7 @@ std::string Recorder::SeparatorOf(const ClytDialogInput& statement, const CStrin
         const ClytSeparator& separator = *scan.GetSeparators().GetNext(place);
         const bool isAtEnd = *rest == '\0' && consumed == piece.GetString() && !separator.text.IsEmpty();
         if (!isAtEnd && separator.target == nextStatement && consumed.ends_with(separator.text.GetString()))
-            return separator.text.IsEmpty() ? "by the empty separator" : "at " + Shown(separator.text);
+            return separator.text.IsEmpty() ? "by the empty separator" : "at " + QuotedUtf8(separator.text);
     }
     return "to the end of the text";
 }
@@ -180,8 +181,9 @@ void Recorder::Cut(const ClytDialogInput& statement, const CString& piece, const
     m_rest = rest;
     m_restText = ToUtf8(rest);
     m_steps.push_back({&statement, statement.name.GetString(), nextStatement.GetString()});
-    Trace("  " + Line(statement.span) + " " + Name(statement.name) + ": cut " + Shown(piece) + " " + separator +
-          ", rest " + Quoted(m_restText) + (nextStatement.IsEmpty() ? ", the end" : ", on to " + Name(nextStatement)));
+    Trace("  " + LineName(statement.span) + " " + Name(statement.name) + ": cut " + QuotedUtf8(piece) + " " +
+          separator + ", rest " + Quoted(m_restText) +
+          (nextStatement.IsEmpty() ? ", the end" : ", on to " + Name(nextStatement)));
 }
 
 void Recorder::Jumped(const ClytDialogInput& statement, const CString& nextStatement)
@@ -196,7 +198,8 @@ void Recorder::Jumped(const ClytDialogInput& statement, const CString& nextState
                                                                     : ClytTested::NotListed;
         clauses += ClauseOf(condition, result) + "; ";
     }
-    Trace("  " + Line(statement.span) + " " + Name(statement.name) + ": " + clauses + "on to " + Name(nextStatement));
+    Trace("  " + LineName(statement.span) + " " + Name(statement.name) + ": " + clauses + "on to " +
+          Name(nextStatement));
 }
 
 void Recorder::Filled(const ClytControlFill& fill, const CString& piece)
@@ -205,7 +208,7 @@ void Recorder::Filled(const ClytControlFill& fill, const CString& piece)
     m_fills.push_back({fill.controlName.GetString(), fill.span.line, TextOf(fill, piece),
                        (ownValue ? fill.value : piece).GetString(), fill.action.GetText().GetString(),
                        m_steps.back().name, m_steps.back().statement});
-    Trace("    " + Line(fill.span) + " " + Name(fill.controlName) + " " + m_fills.back().text);
+    Trace("    " + LineName(fill.span) + " " + Name(fill.controlName) + " " + m_fills.back().text);
 }
 
 void Recorder::ForgetScan()
@@ -248,8 +251,8 @@ void Recorder::StateSet(const ClytControlDep& rule, int on)
     m_rules.push_back({rule.controlName.GetString(), rule.stateWord.GetText().GetString(), rule.span.line,
                        std::exchange(m_tested, {}), on != 0, false, rule.GetControl(), SetsNothing(rule)});
     const RuleRecord& record = m_rules.back();
-    Trace("  " + Line(rule.span) + " " + Name(rule.controlName) + "/" + record.word + ": " + Joined(record.conditions) +
-          "; " + Consequence(record));
+    Trace("  " + LineName(rule.span) + " " + Name(rule.controlName) + "/" + record.word + ": " +
+          Joined(record.conditions) + "; " + Consequence(record));
 }
 
 void Recorder::EventDecided(const ClytControlDep& rule, ClytEvent event)
@@ -262,7 +265,7 @@ void Recorder::EventDecided(const ClytControlDep& rule, ClytEvent event)
                                     : record.word == "CLEAR"             ? Name(rule.controlName) + " is emptied"
                                                                          : Name(rule.controlName) + " is filled";
     const std::string clauses = event == ClytEvent::InProgress ? "" : Joined(record.conditions) + "; ";
-    Trace("  " + Line(rule.span) + " " + Name(rule.controlName) + "/" + record.word + ": " + clauses + consequence);
+    Trace("  " + LineName(rule.span) + " " + Name(rule.controlName) + "/" + record.word + ": " + clauses + consequence);
 }
 
 void Recorder::OutputConditionTested(const ClytDialogOutput& rule, const ClytCtrlValList& condition, ClytTested result)
@@ -271,14 +274,14 @@ void Recorder::OutputConditionTested(const ClytDialogOutput& rule, const ClytCtr
         return;
     m_nextOutput.refusals.push_back({ClauseOf(condition, result), result});
     m_nextOutput.refusedLines.push_back(rule.span.line);
-    Trace("output " + Line(rule.span) + ": no, " + m_nextOutput.refusals.back().text);
+    Trace("output " + LineName(rule.span) + ": no, " + m_nextOutput.refusals.back().text);
 }
 
 void Recorder::OutputChosen(const ClytDialogOutput* rule)
 {
     m_output = std::exchange(m_nextOutput, {});
     m_output.line = rule != nullptr ? rule->span.line : 0;
-    Trace(rule != nullptr ? "output " + Line(rule->span) + ": yes" : "output: no rule holds");
+    Trace(rule != nullptr ? "output " + LineName(rule->span) + ": yes" : "output: no rule holds");
 }
 
 } // namespace lytdlg
