@@ -1,8 +1,8 @@
 // Formatting changes nothing that is read, whatever the description.
-#include "FmtMutations.h"
 #include "fuzz/frame/Samples.h"
 #include "lytdlg/text/TextFile.h"
 #include "support/FormattingProof.h"
+#include "support/Mutations.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>
@@ -36,7 +36,7 @@ TEST(Formatting, ChangesNothingThatIsReadOfTheSamples)
 
 TEST(Formatting, ChangesNothingThatIsReadOfChangedSamples)
 {
-    FmtMutations mutations(SampleDescriptions());
+    const Mutations mutations(SampleDescriptions());
     for (unsigned number = 0; number < 2400; number += LYT_FMT_STEP)
     {
         const std::string text = mutations.Changed(number);
@@ -48,7 +48,7 @@ TEST(Formatting, ChangesNothingThatIsReadOfRandomStatements)
 {
     for (unsigned number = 0; number < 800; number += LYT_FMT_STEP)
     {
-        const std::string text = FmtMutations::Generated(number);
+        const std::string text = Mutations::Generated(number);
         ASSERT_EQ(BreachOfFormatting(text), "") << number << ":\n" << text;
     }
 }

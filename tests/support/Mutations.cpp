@@ -1,31 +1,14 @@
-#include "FmtMutations.h"
+#include "support/Mutations.h"
+
+#include "support/Dice.h"
 
 #include <algorithm>
 #include <array>
-#include <functional>
 
 namespace
 {
 
 using namespace std::string_literals;
-
-class Dice
-{
-public:
-    explicit Dice(unsigned number) : m_engine(number) {}
-
-    // The engine's numbers are the same everywhere; those of the distributions are not.
-    size_t Below(size_t end) { return m_engine() % end; }
-    bool Is(size_t oneIn) { return Below(oneIn) == 0; }
-    template <class LIST>
-    const auto& Of(const LIST& list)
-    {
-        return list[Below(std::size(list))];
-    }
-
-private:
-    std::mt19937 m_engine;
-};
 
 // What is put in somewhere.
 const std::vector<std::string> pieces = {
@@ -132,7 +115,7 @@ std::string Words(Dice& dice)
 
 } // namespace
 
-std::string FmtMutations::Changed(unsigned number)
+std::string Mutations::Changed(unsigned number, size_t mostChanges) const
 {
     using Change = void (*)(std::string&, Dice&);
     static constexpr std::array changes =
@@ -140,12 +123,12 @@ std::string FmtMutations::Changed(unsigned number)
                                MoveLine, SwitchLines, Lengthen, ChangeLineEnds, CutEnd});
     Dice dice(number);
     std::string text = dice.Of(m_seeds);
-    for (size_t count = 1 + dice.Below(8); count > 0; --count)
+    for (size_t count = 1 + dice.Below(mostChanges); count > 0; --count)
         dice.Of(changes)(text, dice);
     return text;
 }
 
-std::string FmtMutations::Generated(unsigned number)
+std::string Mutations::Generated(unsigned number)
 {
     Dice dice(number);
     std::string text = "free  text\n$VERSION   1\n$LAYOUT  S ; note\nBegin Dialog  Box 1,2 \"T\" .M\n";

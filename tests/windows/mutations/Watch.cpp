@@ -1,0 +1,56 @@
+#include "Watch.h"
+
+#include <cstdio>
+
+namespace
+{
+
+constexpr ULONGLONG limit = 180000; // milliseconds; a robot gives up earlier, when windows still listen
+constexpr DWORD step = 1000;
+constexpr UINT hungCode = 3;
+
+} // namespace
+
+std::atomic<unsigned> Watch::current = 0;
+
+Watch::Watch()
+    : m_began(GetTickCount64()),
+      m_end(CreateEventA(nullptr, TRUE, FALSE, nullptr)),
+      m_thread(CreateThread(nullptr, 0, Run, this, 0, nullptr))
+{
+    SetUnhandledExceptionFilter(TellCrash);
+}
+
+Watch::~Watch()
+{
+    SetEvent(m_end);
+    WaitForSingleObject(m_thread, INFINITE);
+    CloseHandle(m_thread);
+    CloseHandle(m_end);
+}
+
+void Watch::Begin(unsigned number)
+{
+    current = number;
+    m_began = GetTickCount64();
+}
+
+DWORD WINAPI Watch::Run(void* watch)
+{
+    auto* const self = static_cast<Watch*>(watch);
+    while (WaitForSingleObject(self->m_end, step) == WAIT_TIMEOUT)
+    {
+        if (GetTickCount64() - self->m_began < limit)
+            continue;
+        std::printf("case %u does not come back\n", current.load());
+        TerminateProcess(GetCurrentProcess(), hungCode);
+    }
+    return 0;
+}
+
+LONG WINAPI Watch::TellCrash(EXCEPTION_POINTERS* crash)
+{
+    std::printf("case %u crashes: exception %08lx at %p\n", current.load(), crash->ExceptionRecord->ExceptionCode,
+                crash->ExceptionRecord->ExceptionAddress);
+    return EXCEPTION_EXECUTE_HANDLER;
+}
