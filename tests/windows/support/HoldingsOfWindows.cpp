@@ -29,11 +29,49 @@ const BYTE* ThreadBlock()
     return block;
 }
 
-// The handles of windows, menus, cursors and icons that this process may use are numbers in one small range; the upper
-// half, which tells apart those that had the same place one after the other, may be left out.
+BOOL CALLBACK CountWindow(HWND /*window*/, LPARAM count)
+{
+    ++*reinterpret_cast<size_t*>(count);
+    return TRUE;
+}
+
+BOOL CALLBACK CountWithChildren(HWND window, LPARAM count)
+{
+    EnumChildWindows(window, CountWindow, count);
+    return CountWindow(window, count);
+}
+
+// Those of this thread, and the windows of this process that only take messages.
+size_t Windows()
+{
+    size_t count = 0;
+    EnumThreadWindows(GetCurrentThreadId(), CountWithChildren, reinterpret_cast<LPARAM>(&count));
+    for (HWND window = nullptr; (window = FindWindowExA(HWND_MESSAGE, window, nullptr, nullptr)) != nullptr;)
+    {
+        DWORD process = 0;
+        GetWindowThreadProcessId(window, &process);
+        count += process == GetCurrentProcessId() ? 1 : 0;
+    }
+    return count;
+}
+
+bool IsIcon(HICON icon)
+{
+    ICONINFO info = {};
+    if (GetIconInfo(icon, &info) == FALSE)
+        return false;
+    for (HBITMAP bitmap : {info.hbmColor, info.hbmMask})
+    {
+        if (bitmap != nullptr)
+            DeleteObject(bitmap);
+    }
+    return true;
+}
+
+// The handles of menus, cursors and icons are numbers in one small range; the upper half, which tells apart those that
+// had the same place one after the other, may be left out.
 struct UserObjects
 {
-    size_t windows = 0;
     size_t menus = 0;
     size_t icons = 0; // and cursors
 
@@ -43,33 +81,9 @@ struct UserObjects
         constexpr ULONG_PTR end = 0xFFF0;
         constexpr ULONG_PTR step = 2;
         for (ULONG_PTR place = first; place < end; place += step)
-            Count(place);
-    }
-
-private:
-    void Count(ULONG_PTR place)
-    {
-        if (IsWindow(reinterpret_cast<HWND>(place)) != FALSE)
         {
-            DWORD process = 0;
-            GetWindowThreadProcessId(reinterpret_cast<HWND>(place), &process);
-            windows += process == GetCurrentProcessId() ? 1 : 0;
-        }
-        else if (IsMenu(reinterpret_cast<HMENU>(place)) != FALSE)
-            ++menus;
-        else
-            CountIcon(reinterpret_cast<HICON>(place));
-    }
-    void CountIcon(HICON icon)
-    {
-        ICONINFO info = {};
-        if (GetIconInfo(icon, &info) == FALSE)
-            return;
-        ++icons;
-        for (HBITMAP bitmap : {info.hbmColor, info.hbmMask})
-        {
-            if (bitmap != nullptr)
-                DeleteObject(bitmap);
+            menus += IsMenu(reinterpret_cast<HMENU>(place)) != FALSE ? 1 : 0;
+            icons += IsIcon(reinterpret_cast<HICON>(place)) ? 1 : 0;
         }
     }
 };
@@ -177,7 +191,7 @@ size_t ActivationContextsOn()
 Holdings::Holdings()
 {
     const UserObjects objects;
-    m_counted[windows] = objects.windows;
+    m_counted[windows] = Windows();
     m_counted[menus] = objects.menus;
     m_counted[icons] = objects.icons;
     m_counted[graphicsObjects] = GraphicsObjects();
