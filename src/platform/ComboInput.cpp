@@ -97,10 +97,15 @@ int ComboBoxWindow::Place(WPARAM key) const
 {
     const int last = m_items.Count() - 1;
     const int current = m_items.Current();
+    // In a field these two move the caret.
+    if (HasEdit() && (key == VK_LEFT || key == VK_RIGHT))
+        return -1;
     switch (key)
     {
-    case VK_UP: return std::min(last, current == m_caret ? std::max(0, m_caret - 1) : m_caret);
-    case VK_DOWN: return std::min(last, current == m_caret ? m_caret + 1 : m_caret);
+    case VK_UP:
+    case VK_LEFT: return std::min(last, current == m_caret ? std::max(0, m_caret - 1) : m_caret);
+    case VK_DOWN:
+    case VK_RIGHT: return std::min(last, current == m_caret ? m_caret + 1 : m_caret);
     case VK_HOME: return HasEdit() ? -1 : std::min(last, 0);
     case VK_END: return HasEdit() ? -1 : last;
     default: return -1;

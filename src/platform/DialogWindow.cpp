@@ -83,8 +83,8 @@ Window& DialogWindow::Neighbour(const Window& child, bool backwards) const
     return at != children.end() ? **at : *children.front();
 }
 
-// A group ends before the next child that begins one, and then goes round. One that no other follows goes on with the
-// dialog's first children instead.
+// A group ends before the next child that begins one, and then goes round. The children stand in a circle: those before
+// the first that begins a group belong to the last.
 Window* DialogWindow::NextInGroup(const Window& from, bool backwards) const
 {
     if (from.parent != this)
@@ -99,6 +99,9 @@ Window* DialogWindow::NextInGroup(const Window& from, bool backwards) const
     if (end == children.end() && first != children.begin())
         members.assign(children.begin(), std::find_if(children.begin(), first, begins));
     members.insert(members.end(), first, end);
+    if (end != children.end() && !begins(*first))
+        members.insert(members.end(), std::prev(std::find_if(children.rbegin(), children.rend(), begins).base()),
+                       children.end());
 
     if (backwards)
         std::ranges::reverse(members);

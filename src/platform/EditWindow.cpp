@@ -77,7 +77,9 @@ void EditWindow::TakeKey(WPARAM key)
 {
     switch (key)
     {
+    case VK_UP:
     case VK_LEFT: MoveCaret(m_caret > 0 ? m_caret - 1 : 0); return;
+    case VK_DOWN:
     case VK_RIGHT: MoveCaret(std::min(m_caret + 1, text.size())); return;
     case VK_HOME: MoveCaret(0); return;
     case VK_END: MoveCaret(text.size()); return;
