@@ -116,3 +116,5 @@ void Trees();
 void Dialogs();
 void Keys();
 void Measuring();
+// Of the sequences from one number to before another; a shown one prints every act and state.
+void Generated(unsigned begin, unsigned end, bool isShown);

@@ -1,11 +1,13 @@
 // Acts on the class library over whatever windows there are, and prints what every window is told. The output over the
 // windows of the platform and over those in memory is the same, line by line: conformance.txt holds it. The name of a
-// chapter runs that one alone.
+// chapter runs that one alone. `generated FIRST END` works the sample dialogs by sequences of acts, of which generated.txt
+// holds what the first come to; `generated NUMBER` shows one of them act by act.
 #include "Stage.h"
 
 #include <afxstat_.h>
 
 #include <cstdio>
+#include <cstdlib>
 
 int main(int argc, char** argv)
 {
@@ -20,6 +22,12 @@ int main(int argc, char** argv)
     };
     const HINSTANCE module = ::GetModuleHandleA(nullptr);
     *AfxGetStaticModuleState() = {module, module};
+    if (argc > 2 && std::string(argv[1]) == "generated")
+    {
+        const auto begin = static_cast<unsigned>(std::atoi(argv[2]));
+        Generated(begin, argc > 3 ? static_cast<unsigned>(std::atoi(argv[3])) : begin + 1, argc == 3);
+        return 0;
+    }
     for (const Chapter& chapter : chapters)
     {
         if (argc < 2 || std::string(argv[1]) == chapter.name)
