@@ -15,7 +15,7 @@ using commandline::ToUtf8;
 namespace
 {
 
-constexpr const char* about = "configuration";
+constexpr const char* aboutConfiguration = "configuration";
 constexpr const char* aboutLanguage = "language";
 
 void JudgeLanguage(const Deployment& deployment, const Configuration& configuration, Diagnosis& diagnosis)
@@ -54,7 +54,8 @@ void JudgeCatalogueSize(const std::filesystem::path& file, const Configuration& 
         if (configuration.NumberOf("global", key) > 0)
             continue;
         const LanguageKey* const found = configuration.Find("global", key);
-        diagnosis.Add({Verdict::Warning, about, file.string(), found != nullptr ? PlaceOfValue(*found) : ClytSpan(),
+        diagnosis.Add({Verdict::Warning, aboutConfiguration, file.string(),
+                       found != nullptr ? PlaceOfValue(*found) : ClytSpan(),
                        std::string(key) + " is no size, so that the catalogue opens as small as a window can be",
                        std::string("write ") + key + "=500 in the section [global]"});
     }
@@ -68,22 +69,25 @@ void JudgeConfiguration(const Deployment& deployment, const Configuration& confi
     std::error_code ignored;
     if (file.empty() || !std::filesystem::exists(file, ignored))
     {
-        diagnosis.Add(Verdict::Wrong, about, file, file.empty() ? "there is no lyt.ini in the folders" : "is not there",
+        diagnosis.Add(Verdict::Wrong, aboutConfiguration, file,
+                      file.empty() ? "there is no lyt.ini in the folders" : "is not there",
                       "copy it there, or name its folder with --init");
         return;
     }
     if (!ReadWholeFile(file))
     {
-        diagnosis.Add(Verdict::Wrong, about, file, "cannot be read", "give the users the right to read it");
+        diagnosis.Add(Verdict::Wrong, aboutConfiguration, file, "cannot be read",
+                      "give the users the right to read it");
         return;
     }
-    diagnosis.Add(Verdict::Good, about, file, "is there");
+    diagnosis.Add(Verdict::Good, aboutConfiguration, file, "is there");
     for (const std::filesystem::path& other : deployment.configuration.others)
-        diagnosis.Add(Verdict::Warning, about, other, "is a second one, and the macros may name the folder of either",
+        diagnosis.Add(Verdict::Warning, aboutConfiguration, other,
+                      "is a second one, and the macros may name the folder of either",
                       "remove it, or name the folder that is meant with --init");
     if (configuration.HasByteOrderMark())
         diagnosis.Add({Verdict::Warning,
-                       about,
+                       aboutConfiguration,
                        file.string(),
                        {1, 0, 1},
                        "a byte order mark stands before the first line, and hides it",

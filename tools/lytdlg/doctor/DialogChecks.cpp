@@ -14,14 +14,14 @@ using commandline::ToUtf8;
 namespace
 {
 
-constexpr const char* about = "dialogs";
+constexpr const char* aboutDialogs = "dialogs";
 
 void JudgeOpened(const std::filesystem::path& folder, Diagnosis& diagnosis)
 {
     for (const OpenedDescription& opened : OpenedDescriptions())
     {
         if (FileIn(folder, opened.name).empty())
-            diagnosis.Add(Verdict::Warning, about, folder / opened.name,
+            diagnosis.Add(Verdict::Warning, aboutDialogs, folder / opened.name,
                           std::string("is not there, so that ") + opened.purpose + " does not open",
                           "copy it from the samples and change it, unless no macro asks for it");
     }
@@ -32,7 +32,7 @@ void JudgeReadable(const std::filesystem::path& folder, Diagnosis& diagnosis)
     for (const std::filesystem::path& file : FilesIn(folder, ".dlg"))
     {
         if (!ReadWholeFile(file))
-            diagnosis.Add(Verdict::Wrong, about, file, "cannot be read", "give the users the right to read it");
+            diagnosis.Add(Verdict::Wrong, aboutDialogs, file, "cannot be read", "give the users the right to read it");
     }
 }
 
@@ -49,7 +49,7 @@ void JudgeDescription(const Description& description, const Surroundings& surrou
     {
         if (IsToldElsewhere(finding))
             continue;
-        diagnosis.Add({finding.rule->level == Level::Error ? Verdict::Wrong : Verdict::Warning, about,
+        diagnosis.Add({finding.rule->level == Level::Error ? Verdict::Wrong : Verdict::Warning, aboutDialogs,
                        PathOf(finding, description), finding.place,
                        ToUtf8(finding.message) + " (" + finding.rule->id + ")", ToUtf8(finding.hint)});
     }
@@ -87,12 +87,12 @@ void JudgeDialogs(const Deployment& deployment, const std::list<Description>& de
     const std::filesystem::path& folder = deployment.dialogs.chosen;
     if (descriptions.empty())
     {
-        diagnosis.Add(Verdict::Wrong, about, folder, "there is no description (*.dlg) that can be read",
+        diagnosis.Add(Verdict::Wrong, aboutDialogs, folder, "there is no description (*.dlg) that can be read",
                       "copy the descriptions there, or name their folder with --dialogs");
         return;
     }
     for (const std::filesystem::path& other : deployment.dialogs.others)
-        diagnosis.Add(Verdict::Warning, about, other,
+        diagnosis.Add(Verdict::Warning, aboutDialogs, other,
                       "holds descriptions as well, and the macros may name either folder",
                       "remove it, or name the folder that is meant with --dialogs");
     JudgeOpened(folder, diagnosis);
@@ -102,7 +102,7 @@ void JudgeDialogs(const Deployment& deployment, const std::list<Description>& de
     for (const Description& description : descriptions)
         JudgeDescription(description, surroundings, diagnosis);
     if (diagnosis.All().size() == before)
-        diagnosis.Add(Verdict::Good, about, folder,
+        diagnosis.Add(Verdict::Good, aboutDialogs, folder,
                       Counted(descriptions.size(), "description", "descriptions") + ", in which `check` finds nothing");
 }
 

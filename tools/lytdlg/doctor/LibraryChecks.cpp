@@ -13,7 +13,7 @@ namespace lytdlg
 namespace
 {
 
-constexpr const char* about = "library";
+constexpr const char* aboutLibrary = "library";
 
 void JudgeFunctions(const std::filesystem::path& file, const ExportTable& table, Diagnosis& diagnosis)
 {
@@ -22,10 +22,10 @@ void JudgeFunctions(const std::filesystem::path& file, const ExportTable& table,
                          [&](const std::string& name)
                          { return std::ranges::find(table.names, name) == table.names.end(); });
     if (missing.empty())
-        diagnosis.Add(Verdict::Good, about, file,
+        diagnosis.Add(Verdict::Good, aboutLibrary, file,
                       "64-bit, with all " + std::to_string(OwnFunctions().size()) + " functions");
     else
-        diagnosis.Add(Verdict::Wrong, about, file,
+        diagnosis.Add(Verdict::Wrong, aboutLibrary, file,
                       missing.size() == OwnFunctions().size() ? "has none of the functions"
                                                               : "lacks functions: " + Joined(missing),
                       "it is another library, or of another version; copy the lyt64.dll that belongs to these tools");
@@ -36,7 +36,7 @@ void JudgeFile(const std::filesystem::path& file, Diagnosis& diagnosis)
     const std::optional<std::string> bytes = ReadWholeFile(file);
     if (!bytes)
     {
-        diagnosis.Add(Verdict::Wrong, about, file, "cannot be read",
+        diagnosis.Add(Verdict::Wrong, aboutLibrary, file, "cannot be read",
                       "check the name, and give the users the right to read it");
         return;
     }
@@ -44,10 +44,10 @@ void JudgeFile(const std::filesystem::path& file, Diagnosis& diagnosis)
     switch (table.form)
     {
     case LibraryForm::NoLibrary:
-        diagnosis.Add(Verdict::Wrong, about, file, "is no library, or is damaged", "copy it again");
+        diagnosis.Add(Verdict::Wrong, aboutLibrary, file, "is no library, or is damaged", "copy it again");
         break;
     case LibraryForm::OtherBits:
-        diagnosis.Add(Verdict::Wrong, about, file, "is no 64-bit library", "copy the 64-bit lyt64.dll");
+        diagnosis.Add(Verdict::Wrong, aboutLibrary, file, "is no 64-bit library", "copy the 64-bit lyt64.dll");
         break;
     case LibraryForm::Library: JudgeFunctions(file, table, diagnosis); break;
     }
@@ -59,13 +59,13 @@ void JudgeLibrary(const Deployment& deployment, Diagnosis& diagnosis)
 {
     if (deployment.library.chosen.empty())
     {
-        diagnosis.Add(Verdict::Wrong, about, {}, "there is no lyt64.dll in the folders",
+        diagnosis.Add(Verdict::Wrong, aboutLibrary, {}, "there is no lyt64.dll in the folders",
                       "copy it there, or name it with --library");
         return;
     }
     JudgeFile(deployment.library.chosen, diagnosis);
     for (const std::filesystem::path& other : deployment.library.others)
-        diagnosis.Add(Verdict::Warning, about, other, "is a second copy, and the macros may load either",
+        diagnosis.Add(Verdict::Warning, aboutLibrary, other, "is a second copy, and the macros may load either",
                       "remove it, or name the one that is meant with --library");
 }
 

@@ -20,7 +20,7 @@ namespace lytdlg
 namespace
 {
 
-constexpr const char* about = "loading";
+constexpr const char* aboutLoading = "loading";
 constexpr DWORD virusInfected = 225; // which the headers of the toolchain do not name
 
 // The functions that tell what the library reads; null when it has none of that name.
@@ -87,7 +87,7 @@ void JudgeReading(const Deployment& deployment, const Configuration& configurati
     const LanguageFile* const inUse = dialogs.empty() ? nullptr : languages.FileOf(configuration.Language());
     if (!functions.AreThere() || inUse == nullptr)
     {
-        diagnosis.Add(Verdict::Good, about, file, "can be loaded");
+        diagnosis.Add(Verdict::Good, aboutLoading, file, "can be loaded");
         return;
     }
     const auto nameOf = [](const std::filesystem::path& path)
@@ -96,12 +96,12 @@ void JudgeReading(const Deployment& deployment, const Configuration& configurati
     const size_t count = CountRead(functions);
     functions.end();
     if (count < CountInFile(*inUse))
-        diagnosis.Add(Verdict::Wrong, about, file,
+        diagnosis.Add(Verdict::Wrong, aboutLoading, file,
                       "can be loaded, but reads " + std::to_string(count) + " of the " +
                           std::to_string(CountInFile(*inUse)) + " texts of " + inUse->FileName(),
                       "look whether the users may read that file, and lyt.ini; their names may be too long");
     else
-        diagnosis.Add(Verdict::Good, about, file, "can be loaded, and reads " + inUse->FileName());
+        diagnosis.Add(Verdict::Good, aboutLoading, file, "can be loaded, and reads " + inUse->FileName());
 }
 
 } // namespace
@@ -116,7 +116,7 @@ void JudgeLoading(const Deployment& deployment, const Configuration& configurati
     const ClytModuleHandle library(::LoadLibraryW(std::filesystem::absolute(file).c_str()));
     if (!library.IsOpen())
     {
-        diagnosis.Add(Verdict::Wrong, about, file, "cannot be loaded: " + ReasonOf(::GetLastError()),
+        diagnosis.Add(Verdict::Wrong, aboutLoading, file, "cannot be loaded: " + ReasonOf(::GetLastError()),
                       "copy it again; what guards this machine may have to allow it");
         return;
     }
@@ -126,7 +126,7 @@ void JudgeLoading(const Deployment& deployment, const Configuration& configurati
     }
     catch (const commandline::UsageError& lackingLetter)
     {
-        diagnosis.Add(Verdict::Wrong, about, file, lackingLetter.what());
+        diagnosis.Add(Verdict::Wrong, aboutLoading, file, lackingLetter.what());
     }
 }
 

@@ -17,7 +17,7 @@ namespace fs = std::filesystem;
 namespace
 {
 
-constexpr const char* about = "log";
+constexpr const char* aboutLog = "log";
 
 bool IsNumber(const std::string& text)
 {
@@ -41,17 +41,17 @@ void JudgeLogOf(const std::string& document, Diagnosis& diagnosis)
 {
     const fs::path log = PathOf(lytLogNameOf(document.c_str()).GetString());
     if (log != PathOf(document).replace_extension(".log"))
-        diagnosis.Add(Verdict::Warning, about, log,
+        diagnosis.Add(Verdict::Warning, aboutLog, log,
                       "is the log of " + document + ": the name is cut at the first dot of the whole path",
                       "keep documents in folders without a dot in their names");
     if (CanBeWritten(log))
     {
-        diagnosis.Add(Verdict::Good, about, log, "can be written");
+        diagnosis.Add(Verdict::Good, aboutLog, log, "can be written");
         return;
     }
     std::error_code ignored;
     const bool hasFolder = !log.has_parent_path() || fs::is_directory(log.parent_path(), ignored);
-    diagnosis.Add(Verdict::Wrong, about, log,
+    diagnosis.Add(Verdict::Wrong, aboutLog, log,
                   std::string(hasFolder ? "cannot be written" : "cannot be written, since its folder is not there") +
                       "; such a failure (207) may end the word processor",
                   std::string(hasFolder ? "let the users write it" : "make the folder") +
@@ -67,14 +67,14 @@ void JudgeLog(const Deployment& deployment, const Configuration& configuration, 
     const ClytSpan place = key != nullptr ? PlaceOfValue(*key) : ClytSpan();
     const int level = configuration.LogLevel();
     if (key != nullptr && !IsNumber(key->text))
-        diagnosis.Add({Verdict::Warning, about, file.string(), place,
+        diagnosis.Add({Verdict::Warning, aboutLog, file.string(), place,
                        "the level \"" + commandline::ToUtf8(key->text) + "\" is no number, and counts as " +
                            std::to_string(level),
                        "write level=0, or the highest level that is to be logged"});
     if (level == 0)
-        diagnosis.Add({Verdict::Good, about, file.string(), place, "level 0: no log is written", ""});
+        diagnosis.Add({Verdict::Good, aboutLog, file.string(), place, "level 0: no log is written", ""});
     else if (deployment.document.empty())
-        diagnosis.Add({Verdict::Warning, about, file.string(), place,
+        diagnosis.Add({Verdict::Warning, aboutLog, file.string(), place,
                        "level " + std::to_string(level) +
                            ": a log is written beside each document, and one that cannot be written may end the word "
                            "processor",

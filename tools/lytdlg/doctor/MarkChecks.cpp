@@ -15,7 +15,7 @@ namespace fs = std::filesystem;
 namespace
 {
 
-constexpr const char* about = "marks";
+constexpr const char* aboutMarks = "marks";
 // Zones below are those of the machine, its network and the sites that it trusts.
 constexpr char firstForeignZone = '3';
 
@@ -54,7 +54,7 @@ void Tell(Verdict verdict, const FilesOfFolders& marked, const std::string& mark
           Diagnosis& diagnosis)
 {
     for (const auto& [folder, names] : marked)
-        diagnosis.Add(verdict, about, folder,
+        diagnosis.Add(verdict, aboutMarks, folder,
                       Counted(names.size(), "file is ", "files are ") + mark + ": " + Joined(names), hint);
 }
 
@@ -76,7 +76,8 @@ void JudgeMarks(const Deployment& deployment, const std::vector<fs::path>& partn
          "unblock each in its properties, or all by the command Unblock-File of PowerShell", diagnosis);
     Tell(Verdict::Note, isProtected, "write-protected, which hinders an update and nothing else", "", diagnosis);
     if (fromElsewhere.empty() && !files.empty())
-        diagnosis.Add(Verdict::Good, about, {}, Counted(files.size(), "file", "files") + ", none marked as downloaded");
+        diagnosis.Add(Verdict::Good, aboutMarks, {},
+                      Counted(files.size(), "file", "files") + ", none marked as downloaded");
 }
 
 } // namespace lytdlg

@@ -20,7 +20,7 @@ using commandline::ToUtf8;
 namespace
 {
 
-constexpr const char* about = "partners";
+constexpr const char* aboutPartners = "partners";
 constexpr const char* otherVersion = "its version may be another one; copy the right one";
 
 struct FoundCopy
@@ -97,7 +97,7 @@ private:
         const bool isHere = own != m_deployment.libraries.end();
         const std::string where = HasFolder(m_wanted.name) ? "is not in the folder that the description names"
                                                            : "is in none of the folders that Windows searches";
-        m_diagnosis.Add({m_wanted.whenMissing, about, m_wanted.path, m_wanted.place,
+        m_diagnosis.Add({m_wanted.whenMissing, aboutPartners, m_wanted.path, m_wanted.place,
                          m_fileName + " " + where + (isHere ? ", but lies in " + own->parent_path().string() : "") +
                              "; " + m_wanted.consequence,
                          HasFolder(m_wanted.name) ? "copy it there"
@@ -114,7 +114,7 @@ private:
         if (m_table.form == LibraryForm::Library)
             return true;
         const bool isOther = m_table.form == LibraryForm::OtherBits;
-        m_diagnosis.Add(WhenUseless(), about, loaded.file,
+        m_diagnosis.Add(WhenUseless(), aboutPartners, loaded.file,
                         (isOther ? "is no 64-bit library; " : "is no library, or is damaged or cannot be read; ") +
                             m_wanted.consequence,
                         isOther ? "put a 64-bit one in its place" : "copy it again");
@@ -125,10 +125,10 @@ private:
     {
         const FoundCopy& loaded = copies.front();
         if (JudgeFunctions())
-            m_diagnosis.Add(Verdict::Good, about, loaded.file,
+            m_diagnosis.Add(Verdict::Good, aboutPartners, loaded.file,
                             std::string("in ") + loaded.folder.name + ", with " + NamesOf(&PartnerJudge::Has));
         if (loaded.folder.isCurrent)
-            m_diagnosis.Add(Verdict::Warning, about, loaded.file,
+            m_diagnosis.Add(Verdict::Warning, aboutPartners, loaded.file,
                             "is found in the current folder only, which is another one at another time",
                             "copy it to the folder of the word processor's program, or add its folder to PATH");
         JudgeOthers(copies);
@@ -155,7 +155,7 @@ private:
 
     void Tell(const WantedFunction& function, const std::string& message, const std::string& hint)
     {
-        m_diagnosis.Add({WhenUseless(), about, function.path, function.place,
+        m_diagnosis.Add({WhenUseless(), aboutPartners, function.path, function.place,
                          m_fileName + " " + message + "; " + m_wanted.consequence, hint});
     }
 
@@ -177,7 +177,7 @@ private:
         for (const FoundCopy& copy : copies)
         {
             if (copy.bytes != loaded.bytes)
-                m_diagnosis.Add(Verdict::Warning, about, copy.file,
+                m_diagnosis.Add(Verdict::Warning, aboutPartners, copy.file,
                                 "is another " + m_fileName + " than the one that is loaded, " + loaded.file.string() +
                                     " in " + loaded.folder.name,
                                 "remove the one that is not meant");
@@ -210,7 +210,7 @@ std::vector<fs::path> JudgePartners(const Deployment& deployment, const std::lis
     std::vector<fs::path> loaded;
     if (deployment.search.empty())
     {
-        diagnosis.Add(Verdict::Note, about, {},
+        diagnosis.Add(Verdict::Note, aboutPartners, {},
                       "cannot be judged, since the folders that Windows searches are not known",
                       "name the word processor's program with --host, and the folders of PATH with --partners");
         return loaded;

@@ -16,7 +16,7 @@ namespace lytdlg
 namespace
 {
 
-constexpr const char* about = "texts";
+constexpr const char* aboutTexts = "texts";
 constexpr const char* argumentMark = "''";
 
 std::string NameOf(const LibraryText& text)
@@ -87,7 +87,7 @@ private:
     void Tell(Verdict verdict, const ClytSpan& place, const std::string& message, const std::string& hint)
     {
         m_isGood = m_isGood && verdict == Verdict::Good;
-        m_diagnosis.Add({verdict, about, m_file.FileName(), place, message, hint});
+        m_diagnosis.Add({verdict, aboutTexts, m_file.FileName(), place, message, hint});
     }
 
     // The last line of a section: what is missing belongs below it.
