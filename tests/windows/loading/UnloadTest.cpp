@@ -6,7 +6,10 @@
 namespace
 {
 
-constexpr int rounds = 300;
+// Enough for a block that each round leaves behind to stand out from the state of the heap's caches.
+constexpr int rounds = 100;
+// More than a process has thread-local slots.
+constexpr int loads = 1200;
 
 class Unloading : public testing::Test
 {
@@ -21,7 +24,7 @@ protected:
     }
 
     // Loads the library, tells it where things are, makes the call and unloads it, again and again.
-    void Cycle(const std::function<void(const FreshLibrary&)>& call) const
+    void Cycle(int times, const std::function<void(const FreshLibrary&)>& call) const
     {
         ExpectNoGrowth(
             [&]
@@ -31,21 +34,21 @@ protected:
                     (folder.Path() + "\\doc.rtf").c_str(), folder.Path().c_str(), folder.Path().c_str());
                 call(library);
             },
-            rounds);
+            times);
     }
     // The same for a call that shows one dialog after another, each of which is confirmed.
     void CycleWithDialogs(int dialogs, const std::function<void(const FreshLibrary&)>& call) const
     {
-        Cycle(
-            [&](const FreshLibrary& library)
-            {
-                // A robot a round: its log would grow.
-                robot::Robot user;
-                for (int dialog = 0; dialog < dialogs; ++dialog)
-                    user.On("", [](HWND window) { robot::Press(GetDlgItem(window, IDOK)); });
-                call(library);
-                EXPECT_TRUE(user.Done()) << user.Log();
-            });
+        Cycle(rounds,
+              [&](const FreshLibrary& library)
+              {
+                  // A robot a round: its log would grow.
+                  robot::Robot user;
+                  for (int dialog = 0; dialog < dialogs; ++dialog)
+                      user.On("", [](HWND window) { robot::Press(GetDlgItem(window, IDOK)); });
+                  call(library);
+                  EXPECT_TRUE(user.Done()) << user.Log();
+              });
     }
 
     const TestFolder folder;
@@ -56,16 +59,16 @@ protected:
 
 TEST_F(Unloading, AfterATextLeavesNothingBehind)
 {
-    Cycle(
-        [&](const FreshLibrary& library) {
-            EXPECT_EQ(library.Get<decltype(lytGetTextForKey)>("lytGetTextForKey")("Buttons", "001", "", buffer, 200),
-                      1);
-        });
+    Cycle(loads,
+          [&](const FreshLibrary& library) {
+              EXPECT_EQ(library.Get<decltype(lytGetTextForKey)>("lytGetTextForKey")("Buttons", "001", "", buffer, 200),
+                        1);
+          });
 }
 
 TEST_F(Unloading, AfterALogLeavesNothingBehind)
 {
-    Cycle([](const FreshLibrary& library)
+    Cycle(rounds, [](const FreshLibrary& library)
           { library.Get<decltype(lytWriteToLogFile)>("lytWriteToLogFile")("text", 1); });
     EXPECT_TRUE(folder.Has("doc.log"));
 }
@@ -82,36 +85,36 @@ TEST_F(Unloading, AfterAPropertyDialogLeavesNothingBehind)
 
 TEST_F(Unloading, BelowADialogLeavesNothingBehindOnceTheLibraryWasLoadedAgain)
 {
-    Cycle(
-        [&](const FreshLibrary& library)
-        {
-            robot::Robot user;
-            user.On("",
-                    [&](HWND window)
-                    {
-                        FreeLibrary(library.Module());
-                        robot::Press(GetDlgItem(window, IDOK));
-                    });
-            auto* show = library.Get<decltype(lytSymbolPropertyDialog)>("lytSymbolPropertyDialog");
-            EXPECT_NE(show("key", buffer, 200), 0);
-            EXPECT_TRUE(user.Done()) << user.Log();
-            EXPECT_EQ(LoadLibraryA("lyt64.dll"), library.Module());
-            library.Get<decltype(FreeGlobalObject)>("FreeGlobalObject")();
-        });
+    Cycle(rounds,
+          [&](const FreshLibrary& library)
+          {
+              robot::Robot user;
+              user.On("",
+                      [&](HWND window)
+                      {
+                          FreeLibrary(library.Module());
+                          robot::Press(GetDlgItem(window, IDOK));
+                      });
+              auto* show = library.Get<decltype(lytSymbolPropertyDialog)>("lytSymbolPropertyDialog");
+              EXPECT_NE(show("key", buffer, 200), 0);
+              EXPECT_TRUE(user.Done()) << user.Log();
+              EXPECT_EQ(LoadLibraryA("lyt64.dll"), library.Module());
+              library.Get<decltype(FreeGlobalObject)>("FreeGlobalObject")();
+          });
 }
 
 TEST_F(Unloading, AfterADialogThatFailsLeavesNothingBehind)
 {
     folder.Write("lytInSym.dlg", "no version\n");
-    Cycle(
-        [&](const FreshLibrary& library)
-        {
-            robot::Robot user;
-            user.AnswerMessage();
-            auto* show = library.Get<decltype(lytSymbolPropertyDialog)>("lytSymbolPropertyDialog");
-            EXPECT_EQ(show("key", buffer, 200), 0);
-            EXPECT_TRUE(user.Done()) << user.Log();
-        });
+    Cycle(rounds,
+          [&](const FreshLibrary& library)
+          {
+              robot::Robot user;
+              user.AnswerMessage();
+              auto* show = library.Get<decltype(lytSymbolPropertyDialog)>("lytSymbolPropertyDialog");
+              EXPECT_EQ(show("key", buffer, 200), 0);
+              EXPECT_TRUE(user.Done()) << user.Log();
+          });
 }
 
 TEST_F(Unloading, AfterACatalogueLeavesNothingBehind)
@@ -128,10 +131,10 @@ TEST_F(Unloading, AfterAWizardLeavesNothingBehind)
 
 TEST_F(Unloading, AfterAReportLeavesNothingBehind)
 {
-    Cycle(
-        [&](const FreshLibrary& library)
-        {
-            EXPECT_EQ(library.Get<decltype(lytSystemInfoInit)>("lytSystemInfoInit")(folder.Path().c_str()), 1);
-            EXPECT_EQ(library.Get<decltype(lytSystemInfoRead)>("lytSystemInfoRead")(1, buffer, 200), 1);
-        });
+    Cycle(rounds,
+          [&](const FreshLibrary& library)
+          {
+              EXPECT_EQ(library.Get<decltype(lytSystemInfoInit)>("lytSystemInfoInit")(folder.Path().c_str()), 1);
+              EXPECT_EQ(library.Get<decltype(lytSystemInfoRead)>("lytSystemInfoRead")(1, buffer, 200), 1);
+          });
 }
