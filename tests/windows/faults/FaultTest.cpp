@@ -129,6 +129,20 @@ private:
     TestFolder m_folder;
 };
 
+// The lines of lytcall that say what a call came to, from its result on.
+std::string HandedOut(const Course& course)
+{
+    const size_t result = course.printed.find("\nresult = ");
+    return result != std::string::npos ? course.printed.substr(result) : "";
+}
+
+// A confirmed dialog hands out what the user has chosen, and nothing in its place.
+bool HandsOutTheSame(const Course& course, const Course& undisturbed)
+{
+    const std::string text = HandedOut(course);
+    return text.empty() || text.starts_with("\nresult = 0") || text == HandedOut(undisturbed);
+}
+
 class Faults : public testing::TestWithParam<Kind>
 {
 protected:
@@ -140,6 +154,8 @@ protected:
         if (!plan.HasFailed())
             return false;
         tally.Add(course, undisturbed);
+        const bool isTold = GetParam().kind != FaultKind::Item || course.messages != undisturbed.messages;
+        EXPECT_TRUE(isTold || HandsOutTheSame(course, undisturbed)) << course;
         return true;
     }
 
@@ -194,4 +210,19 @@ TEST(Libraries, ThatCannotBeLoadedAtFirstAreLoadedLater)
         total += failures;
     }
     std::cout << total << " failures\n";
+}
+
+// Whatever fails while the failure of a construction is told: nothing is left of the dialog, which would have the caption of
+// its template.
+TEST(Construction, ThatFailsEndsTheDialog)
+{
+    const InFolder folder;
+    const auto journey = std::ranges::find(Journeys(), "no-dialogs", &Journey::name);
+    bool hasFailed = true;
+    for (int callsBefore = 0; hasFailed; ++callsBefore)
+    {
+        const FaultPlan plan(FaultKind::Allocation, callsBefore);
+        EXPECT_EQ(Travel(*journey).printed.find("\"Dialog\""), std::string::npos) << callsBefore;
+        hasFailed = plan.HasFailed();
+    }
 }
