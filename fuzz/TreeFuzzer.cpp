@@ -40,7 +40,7 @@ std::vector<std::string> Seeds()
                                   "<1Lowest\tl\n>3Highest\th\n";
     std::vector<std::string> seeds;
     for (const char* request : {"W", "S", "Sb.r.a", "G", "Gb.w", "H", "P", "Pb", ""})
-        seeds.push_back(std::string(request) + "\n100\n20\nkh kD kR kD kL d0,20 c0,37 o x\nb.r.a\n" + catalogue);
+        seeds.push_back(std::string(request) + "\n100\n20\nf2 kh kD kR kD kL d2,20 c2,37 o x\nb.r.a\n" + catalogue);
     return seeds;
 }
 

@@ -45,7 +45,8 @@ std::vector<std::string> Seeds()
     for (const char* type : {"1", "2", "3"})
     {
         const std::string catalogue = std::string("01Building\tb\n1") + type + "Roof ## tiles\tb.r\n23Area\tb.r.a\n\n";
-        const std::vector<std::string> inputs = SampleDescriptionsAfter("200\nf0 kh kD o t1,text c2 o\n" + catalogue);
+        const std::vector<std::string> inputs =
+            SampleDescriptionsAfter("200\nf2 kh kD o l0,0 b2 b3 b4 b5 b6 o\n" + catalogue);
         seeds.insert(seeds.end(), inputs.begin(), inputs.end());
     }
     return seeds;

@@ -29,11 +29,19 @@ struct ActWord
     int Number() const { return static_cast<int>(std::strtol(text.c_str(), nullptr, 10)); }
 };
 
-HWND ChildFor(HWND dialog, char target)
+size_t IndexOf(char target)
 {
+    return static_cast<unsigned char>(target - '0');
+}
+
+HWND ChildFor(HWND dialog, const ActWord& word)
+{
+    if (word.act == 'b')
+        return robot::ChildOfClass(dialog, "Button", IndexOf(word.target));
+    if (word.act == 'l')
+        return robot::ChildOfClass(dialog, "ListBox", IndexOf(word.target));
     const std::vector<HWND> children = robot::ChildrenOf(dialog);
-    const auto index = static_cast<size_t>(static_cast<unsigned char>(target - '0'));
-    return children.empty() ? nullptr : children[index % children.size()];
+    return children.empty() ? nullptr : children[IndexOf(word.target) % children.size()];
 }
 
 UINT KeyFor(char name)
@@ -62,7 +70,9 @@ void ActOnChild(HWND child, const ActWord& word)
     case 'c': word.text.empty() ? robot::Click(child) : robot::ClickAt(child, left, word.Number()); break;
     case 'd': robot::DoubleClickAt(child, left, word.Number()); break;
     case 'f': robot::Focus(child); break;
+    case 'b':
     case 'p': robot::Press(child); break;
+    case 'l':
     case 's': robot::SelectItem(child, word.Number()); break;
     case 't': robot::ReplaceText(child, word.text); break;
     default: break;
@@ -79,7 +89,7 @@ void ActOnDialog(HWND dialog, const ActWord& word)
     case 'o': PostMessageA(dialog, WM_COMMAND, IDOK, 0); break;
     case 'x': PostMessageA(dialog, WM_COMMAND, IDCANCEL, 0); break;
     default:
-        if (HWND child = ChildFor(dialog, word.target); CanBeActedOn(child))
+        if (HWND child = ChildFor(dialog, word); CanBeActedOn(child))
             ActOnChild(child, word);
     }
 }

@@ -6,6 +6,7 @@
 //     fN        move the focus to a child
 //     pN        press a child without the mouse
 //     sN,I      choose an item of a list
+//     bN        press the button of that number; lN,I chooses an item of the list of that number
 //     tN,TEXT   replace a field's text
 //     kK        a key for the window with the focus: t r e s b, or an arrow u d l r as U D L R, h and n for home and end
 //     wC        type a character

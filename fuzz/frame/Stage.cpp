@@ -15,14 +15,23 @@ namespace
 
 constexpr const char* configuration = "[global]\nCurrent Language=Test\nTreeLevels=2\n[LogLevel]\nlevel=1\n"
                                       "[Lists]\nItems=one,two,,three\n";
-constexpr const char* texts = "[Dialog_Error]\n212=Line '' is wrong\n222=Choose another\n207='' cannot be opened\n"
-                              "[x]\nTitle=A title\nLabel=&Label ''\nMessage=No ''\n";
+// Every numbered message names its number.
+std::string Texts()
+{
+    constexpr int firstNumber = 200;
+    constexpr int lastNumber = 259;
+    std::string texts = "[x]\nTitle=A title\nLabel=&Label ''\nMessage=No ''\n[Dialog_Error]\n";
+    for (int number = firstNumber; number <= lastNumber; ++number)
+        texts += std::to_string(number) + "=E" + std::to_string(number) + " ''\n";
+    return texts;
+}
 
 } // namespace
 
 Stage::Stage()
 {
     PutFile("lyt.ini", configuration);
+    static const std::string texts = Texts();
     PutFile("lang/Test.nls", texts);
     SetCatalogue("");
     lytInitialiseEnvironment("memory:\\document.txt", stageFolder, stageFolder);
