@@ -88,7 +88,7 @@ TEST_F(GeneratedTexts, AreShownAsLabelsWithinTheirLength)
 {
     for (int round = 0; round < rounds; ++round)
     {
-        const std::string label = Text("##a ", LYT_TREE_TEXT_SIZE * 4);
+        const std::string label = Text("##a ", size_t{LYT_TREE_TEXT_SIZE} * 4);
         char shown[lytShownLabelSize];
         lytExpandLabel(shown, Exact(label).get());
         EXPECT_EQ(shown, Expanded(label)) << label;
