@@ -49,7 +49,8 @@ std::vector<std::string> Seeds()
          {"s\n\nS1:area(2,m2)=\"n. a.\"\nf1 t1,text kt kr\n100\n100\n",
           "p\nX\nP1{roof}see plan[a|b]\nc2 c3 o x\n100\n10\n", "0\n\nxBNGkk01(area>=20)\ns3,1 d3,20 wq aT\n100\n20\n",
           "1\n\nxxxxxABC(Findings;R;roofing;Team;101 Hall|102 Kitchen)\np1 p2 p3 kD o\n200\n9\n",
-          "2\nX,Y\n\nc9 d9 s9,0 ke o\n30\n8\n"})
+          "2\nX,Y\n\nc9 d9 s9,0 ke o\n30\n8\n",
+          "1\n\n(a;R;roofing;;101 Hall)\nl0,0 b6 l2,0 l1,0 b1 b2 b3 b4 b5 b6 b7 b8 b9 b: b; b< b= b>\n200\n9\n"})
     {
         const std::vector<std::string> inputs = SampleDescriptionsAfter(lines);
         seeds.insert(seeds.end(), inputs.begin(), inputs.end());
