@@ -183,15 +183,11 @@ std::vector<std::string> Seeds()
 {
     return {
         "0\n2\n10\n0\n19045\n1\n256\n9\n48\n0\nService Pack 1\nWindows 10 Pro\n22H2\n10.0.19041\n",
-        "0\n2\n6\n1\n7601\n3\n272\n0\n7\n1\n\n\n\n6.1.7601\n10.0.1 "
-        "(x)\n10.0.19041.1\n1\n2\n3\n4\nC:\\k.dll\n1\n12\n2026\n",
-        "1\n8\n2400\n50\n4096\n65536\n17179869184\n1\n-1\n0\n1\n2\nProcessor\nC:\\Windows\nD:"
-        "\\lyt\n1\n0\n9\n8\n1920\n1080\n",
+        "0\n2\n6\n1\n7601\n3\n272\n0\n7\n1\n\n\n\n6.1.7601\n10.0.1 (x)\n10.0.1.1\n1\n2\n3\n4\nC:\\k.dll\n1\n",
+        "1\n8\n2400\n50\n4096\n65536\n17179869184\n1\n-1\n0\n1\n2\nCPU\nC:\\Windows\nD:\\lyt\n1\n0\n9\n8\n",
         "2\nOffice\n\nOne\nTwo\n\n4098\n1\n9\n2100\n2970\n2\n0\n256\n",
         "3\n16.0\nWord.Application.16\n6\n16.0\n15.0\n\n16.0\nCommon\n\n1\n2\nC:\\lyt\\\nC:\\lyt\n\n1031\n1\nOn\n",
-        "4\na.dlg\n0\n100\n1700000000\nC:\\a\\\n*.dlg\n13\n2\nHKEY\nname\n4\nabcd\nwinword."
-        "exe\n1\n6\nopen\n1\ntype\ncmd\n"
-        "C:\\a;C:\\b;;c\nC:\\lyt\\\n9.0; 16.0\n",
+        "4\na.dlg\n0\n100\n1700000000\nC:\\a\\\n*.dlg\n13\n2\nHKEY\nname\n4\nabcd\nwinword.exe\n1\n6\nopen\n1\ntype\n",
         "5\nEnglish\n1\n",
     };
 }

@@ -49,7 +49,8 @@ void Run(const std::string& input)
     const int otherSize = lines.Number(-1, mostBytes);
     const int level = lines.Number();
     // The log of a document without a dot in its name would lie outside the stage.
-    const std::string document = std::string(stageFolder) + "/" + lines.Line().c_str() + ".doc";
+    const std::string name = lines.Line();
+    const std::string document = std::string(stageFolder) + "/" + name.substr(0, name.find('\0')) + ".doc";
     const std::string path = lines.Line();
     const std::string argument = lines.Line();
     stage.PutFile("lyt.ini", "[global]\nCurrent Language=Test\n" + lines.Rest());
