@@ -155,7 +155,9 @@ protected:
             return false;
         tally.Add(course, undisturbed);
         const bool isTold = GetParam().kind != FaultKind::Item || course.messages != undisturbed.messages;
-        EXPECT_TRUE(isTold || HandsOutTheSame(course, undisturbed)) << course;
+        // Who goes so many entries on by a key comes to another one where one is lacking, and sees it.
+        const bool isByKeys = journey.name.starts_with("keyboard");
+        EXPECT_TRUE(isTold || isByKeys || HandsOutTheSame(course, undisturbed)) << course;
         return true;
     }
 

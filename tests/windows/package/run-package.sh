@@ -53,5 +53,5 @@ for tool in lytcall lytdlg; do
 done
 "$build/wine-run.sh" ./lytcall.exe symbol --script "$here/../samples/ok.steps" >../call
 grep -q '^result = 2 (unchanged)' ../call || { cat ../call; complain "no dialog opens"; }
-"$build/wine-run.sh" ./lytcall.exe doctor . >../judged || { cat ../judged; complain "the tools find something wrong with it"; }
+"$build/wine-run.sh" ./lytcall.exe doctor . --init samples/init --dialogs samples/dialogs >../judged || { cat ../judged; complain "the tools find something wrong with it"; }
 exit $bad
