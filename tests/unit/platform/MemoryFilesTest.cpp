@@ -13,10 +13,12 @@ constexpr UINT appending = CFile::modeCreate | CFile::modeNoTruncate | CFile::mo
 
 class MemoryFile : public testing::Test
 {
-protected:
-    MemoryFile() { platform::PutMemoryFile(name, "one\r\ntwo\n[a]\nkey=value\n"); }
+public:
     MemoryFile(const MemoryFile&) = delete;
     MemoryFile& operator=(const MemoryFile&) = delete;
+
+protected:
+    MemoryFile() { platform::PutMemoryFile(name, "one\r\ntwo\n[a]\nkey=value\n"); }
     ~MemoryFile() override { platform::RemoveMemoryFile(name); }
 
     static std::string NextLine(CStdioFile& file)

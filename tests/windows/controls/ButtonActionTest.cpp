@@ -176,6 +176,20 @@ TEST_F(ButtonAction, DeletingTheLastItemMovesTheFocusToTheControlAfterTheButton)
     EXPECT_EQ(Open().messages, Texts{});
 }
 
+TEST_F(ButtonAction, DeletingTheLastItemMovesTheFocusToAButtonOfAnyKind)
+{
+    for (const char* type : {"CheckBox", "OptionButton", "PushButton"})
+    {
+        SCOPED_TRACE(type);
+        form.main.layout = {"ListBox List", "PushButton Go", std::string(type) + " Next"};
+        form.main.values = {"List=ONE,one"};
+        Action("DELETE,List");
+        Click();
+        Look([&] { EXPECT_EQ(GetFocus(), form["Next"]); });
+        Open();
+    }
+}
+
 TEST_F(ButtonAction, DeletingTheLastItemFromTheLastControlRaisesTheInvalidArgument)
 {
     form.main.layout = {"TextBox Edit", "ListBox List", "PushButton Go"};
@@ -194,6 +208,16 @@ TEST_F(ButtonAction, ActionWithAMissingLibraryRaises233)
     Click();
     form.Message();
     EXPECT_EQ(Open().messages, (Texts{"238\n233 'no-such-library'"}));
+}
+
+TEST_F(ButtonAction, ActionWithAMissingLibraryOfALongNameTellsItsBeginning)
+{
+    Action("ACTION," + std::string(270, 'x') + ",Function,Send,Take");
+    Click();
+    form.Message();
+    const Texts messages = Open().messages;
+    ASSERT_EQ(messages.size(), 1U);
+    EXPECT_TRUE(messages[0].starts_with("238\n233 'xxxxx")) << messages[0];
 }
 
 TEST_F(ButtonAction, ActionWithAMissingFunctionRaises232AndKeepsTheWaitCursor)
