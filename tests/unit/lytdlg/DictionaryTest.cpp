@@ -1,7 +1,7 @@
 // The dictionary of the fuzzers has each word that the library's tables have.
 #include "fuzz/frame/Words.h"
 #include "lytdlg/judge/ControlKinds.h"
-#include "model/ClytWords.h"
+#include "support/WordKinds.h"
 
 #include <gtest/gtest.h>
 
@@ -21,8 +21,7 @@ template <class MEANING>
 class DictionaryOfTheFuzzers : public testing::Test
 {
 };
-using Kinds = testing::Types<ClytState, ClytOption, ClytAction, ClytKeyword, ClytFillAction, ClytValueWord>;
-TYPED_TEST_SUITE(DictionaryOfTheFuzzers, Kinds);
+TYPED_TEST_SUITE(DictionaryOfTheFuzzers, WordKinds);
 
 } // namespace
 

@@ -1,4 +1,4 @@
-#include "model/ClytWords.h"
+#include "support/WordKinds.h"
 
 #include <gtest/gtest.h>
 
@@ -9,8 +9,7 @@ template <class MEANING>
 class WordTable : public testing::Test
 {
 };
-using Kinds = testing::Types<ClytState, ClytOption, ClytAction, ClytKeyword, ClytFillAction, ClytValueWord>;
-TYPED_TEST_SUITE(WordTable, Kinds);
+TYPED_TEST_SUITE(WordTable, WordKinds);
 
 } // namespace
 

@@ -1,5 +1,12 @@
-# The deployment of docs/deployment.md, laid out on drive C: of the test prefix; sourced by the scripts beside it, with $here
-# and $build set.
+# The deployment of docs/deployment.md, laid out on drive C: of the test prefix; sourced by the scripts beside it, which are
+# called with a PAGE and a BUILD. The script goes on in $folder, which it removes in the end.
+page=$1
+build=$2
+here=$(cd "$(dirname "$0")" && pwd)
+folder=$(mktemp -d) || exit 2
+cd "$folder" || exit 2
+bad=0
+. "$here/rows.sh"
 drive=$build/wine/drive_c
 samples=$here/../../../samples
 deployment_page=$here/../../../docs/deployment.md

@@ -4,14 +4,7 @@
 # and each row of its last table takes a piece away and compares what lytcall prints to deployment.expected, and what the
 # report says to the row. With LYT_UPDATE set it writes that file.
 set -u
-page=$1
-build=$2
-here=$(cd "$(dirname "$0")" && pwd)
-folder=$(mktemp -d) || exit 2
-cd "$folder" || exit 2
-bad=0
-. "$here/rows.sh"
-. "$here/deployment.sh"
+. "$(dirname "$0")/deployment.sh"
 library=LytRes64.dll
 trap 'rm -rf "$folder" "$drive/Inspection" "$drive/windows/$library" "$drive/windows/system32/$library"' EXIT
 

@@ -3,14 +3,7 @@
 # this workstation: it has the lines that the page promises of a good one; each row of the page's table is a trouble that is
 # made, whose line then is in the report; and the commands of the page do what it says.
 set -u
-page=$1
-build=$2
-here=$(cd "$(dirname "$0")" && pwd)
-folder=$(mktemp -d) || exit 2
-cd "$folder" || exit 2
-bad=0
-. "$here/rows.sh"
-. "$here/deployment.sh"
+. "$(dirname "$0")/deployment.sh"
 set=$drive/Inspection
 
 # registry: enters what comes in; value KEY NAME DATA: one value, @ for that without a name; without KEY: takes a key away.
