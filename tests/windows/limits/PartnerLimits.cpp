@@ -5,6 +5,7 @@
 #include "support/Modules.h"
 
 #include <cstring>
+#include <fstream>
 
 namespace
 {
@@ -202,6 +203,45 @@ void OtherMachine(Scene& scene)
     ExpectNoLibrary(scene, scene.folder.Write("other.dll", LibraryOfAnotherMachine(ProgramFolder() + "\\hostile.dll")));
 }
 
+// Stands in the place of a library beside the program, until the end of its life.
+class LibraryInPlaceOf
+{
+public:
+    LibraryInPlaceOf(const std::string& name, const std::string& content)
+        : m_file(ProgramFolder() + "\\" + name + ".dll"), m_kept(m_file + ".kept")
+    {
+        TakeAway(name.c_str());
+        EXPECT_TRUE(MoveFileA(m_file.c_str(), m_kept.c_str()));
+        std::ofstream(m_file, std::ios::binary) << content;
+    }
+    LibraryInPlaceOf(const LibraryInPlaceOf&) = delete;
+    LibraryInPlaceOf& operator=(const LibraryInPlaceOf&) = delete;
+    ~LibraryInPlaceOf() { EXPECT_TRUE(MoveFileExA(m_kept.c_str(), m_file.c_str(), MOVEFILE_REPLACE_EXISTING)); }
+
+private:
+    const std::string m_file;
+    const std::string m_kept;
+};
+
+LibraryInPlaceOf OtherMachineInPlaceOf(const std::string& name)
+{
+    return {name, LibraryOfAnotherMachine(ProgramFolder() + "\\" + name + ".dll")};
+}
+
+void CatalogueOfOtherMachine(Scene& scene)
+{
+    const LibraryInPlaceOf other = OtherMachineInPlaceOf("lytsrc");
+    EXPECT_EQ(scene.FindSymbol("k"), "0 as it was");
+    EXPECT_EQ(scene.EndBrowser(IDCANCEL).OpenBrowser(), "0 as it was");
+    EXPECT_EQ(GetModuleHandleA("lytsrc"), nullptr);
+}
+
+void ResourcesOfOtherMachine(Scene& scene)
+{
+    const LibraryInPlaceOf other = OtherMachineInPlaceOf("LytRes64");
+    EXPECT_EQ(VersionLine(scene), NoVersion());
+}
+
 void NoLibraryAtAll(Scene& scene)
 {
     ExpectNoLibrary(scene, scene.folder.Write("broken.dll", "MZ, and nothing after it"));
@@ -229,7 +269,11 @@ constexpr Limit partnerRows[] = {
      "as one that is missing: a field stays as it was and a list is emptied, without a message; an action shows "
      "message 233",
      OtherMachine},
-    {"data library", "is no library", "the same", NoLibraryAtAll},
+    {"catalogue", "the same", "as one that is missing: it has no entries, and no message tells so",
+     CatalogueOfOtherMachine},
+    {"resource library", "the same", "as one that is missing: the report leaves its version blank",
+     ResourcesOfOtherMachine},
+    {"data library", "is no library", "as one for another kind of processor", NoLibraryAtAll},
 };
 
 } // namespace
