@@ -10,6 +10,8 @@ namespace lytdlg
 
 namespace
 {
+namespace action_rules
+{
 
 constexpr Rule unknownAction = {
     "action-unknown",
@@ -303,10 +305,12 @@ void JudgeDoubleClick(const Statement& statement)
                   MeantOr(name, buttons, "name a push button, or OK"));
 }
 
+} // namespace action_rules
 } // namespace
 
 Family ActionRules()
 {
+    using namespace action_rules;
     return {{&unknownAction, &noAction, &target, &targetKind, &order, &noSource, &words, &group, &part, &dialog,
              &doubleClick, &source},
             [](const Case& judged)

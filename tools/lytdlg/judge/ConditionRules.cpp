@@ -12,6 +12,8 @@ namespace lytdlg
 
 namespace
 {
+namespace condition_rules
+{
 
 constexpr Rule unknown = {"condition-unknown",
                           Level::Warning,
@@ -187,10 +189,12 @@ void JudgeReached(const Case& judged, const ClytControlDep& rule)
     }
 }
 
+} // namespace condition_rules
 } // namespace
 
 Family ConditionRules()
 {
+    using namespace condition_rules;
     return {{&unknown, &neverHeld, &noValue, &alwaysHeld, &notLast, &notReached, &movesFocus},
             [](const Case& judged)
             {

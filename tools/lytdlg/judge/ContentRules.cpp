@@ -11,6 +11,8 @@ namespace lytdlg
 
 namespace
 {
+namespace content_rules
+{
 
 constexpr Rule itemTwice = {"item-twice",
                             Level::Warning,
@@ -209,10 +211,12 @@ void JudgeCheckBoxes(const Case& judged)
     }
 }
 
+} // namespace content_rules
 } // namespace
 
 Family ContentRules()
 {
+    using namespace content_rules;
     return {{&itemTwice, &optionTwice, &optionValueless, &itemIsKey, &defaultUnknown, &defaultEarly, &checkDefault,
              &checkTexts},
             [](const Case& judged)

@@ -12,6 +12,8 @@ namespace lytdlg
 
 namespace
 {
+namespace dependency_rules
+{
 
 constexpr Rule unknownControl = {
     "rule-control-unknown",
@@ -248,10 +250,12 @@ void JudgeTwice(const Case& judged)
     }
 }
 
+} // namespace dependency_rules
 } // namespace
 
 Family DependencyRules()
 {
+    using namespace dependency_rules;
     return {{&unknownControl, &unknownState, &onDefault, &eventValues, &eventKind, &noSource, &defaultButton, &twice,
              &hidden, &onItself, &never, &always},
             [](const Case& judged)

@@ -11,6 +11,8 @@ namespace lytdlg
 
 namespace
 {
+namespace evaluation_rules
+{
 
 constexpr Rule unknown = {"evaluation-control",
                           Level::Warning,
@@ -182,10 +184,12 @@ void JudgeConditions(const Case& judged, const EvaluationStatement& statement)
     }
 }
 
+} // namespace evaluation_rules
 } // namespace
 
 Family EvaluationRules()
 {
+    using namespace evaluation_rules;
     return {{&unknown, &second, &alone, &nameless, &nullFirst, &twice, &neverMade, &impossible, &valueless},
             [](const Case& judged)
             {

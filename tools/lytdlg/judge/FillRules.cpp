@@ -13,6 +13,8 @@ namespace lytdlg
 
 namespace
 {
+namespace fill_rules
+{
 
 constexpr Rule fillUnknown = {"scan-fill",
                               Level::Warning,
@@ -245,10 +247,12 @@ void JudgeConditions(const Case& judged, const ClytDialogInput& statement)
     }
 }
 
+} // namespace fill_rules
 } // namespace
 
 Family FillRules()
 {
+    using namespace fill_rules;
     return {{&fillUnknown, &condition, &conditionValue, &conditionValueless, &action, &actionIdle, &noSource,
              &concatSeparators, &fixedValue, &listChoice, &listEmpty, &pair},
             [](const Case& judged)

@@ -15,6 +15,8 @@ namespace lytdlg
 
 namespace
 {
+namespace format_rules
+{
 
 constexpr size_t mostItems = 25;
 
@@ -238,10 +240,12 @@ void JudgeTokens(const Case& judged)
     }
 }
 
+} // namespace format_rules
 } // namespace
 
 Family FormatRules()
 {
+    using namespace format_rules;
     return {{&loneS, &lonePoint, &openPercent, &noConversion, &tooFew, &tooMany, &surplus, &escape, &empty, &word},
             [](const Case& judged)
             {

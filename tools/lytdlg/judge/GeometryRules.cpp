@@ -10,6 +10,8 @@ namespace lytdlg
 
 namespace
 {
+namespace geometry_rules
+{
 
 // What docs/descriptions.md tells authors: layout units.
 constexpr int fieldHeight = 19;
@@ -311,10 +313,12 @@ void JudgeFrames(const Case& judged, const Screen& screen)
     }
 }
 
+} // namespace geometry_rules
 } // namespace
 
 Family GeometryRules()
 {
+    using namespace geometry_rules;
     return {{&overlap, &outside, &clipped, &tabOrder, &noDrop, &noRow, &splitFrame},
             [](const Case& judged)
             {

@@ -15,6 +15,8 @@ namespace lytdlg
 
 namespace
 {
+namespace language_file_rules
+{
 
 constexpr Rule section = {"text-section",
                           Level::Warning,
@@ -186,10 +188,12 @@ void JudgeUnused(const Case& judged)
     }
 }
 
+} // namespace language_file_rules
 } // namespace
 
 Family LanguageFileRules()
 {
+    using namespace language_file_rules;
     return {{&section, &markAtBegin, &form, &message, &unused},
             [](const Case& judged)
             {

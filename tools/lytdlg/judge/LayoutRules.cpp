@@ -15,6 +15,8 @@ namespace lytdlg
 
 namespace
 {
+namespace layout_rules
+{
 
 constexpr Rule unknownType = {
     "type-unknown",
@@ -317,10 +319,12 @@ void JudgeButton(const Case& judged, Kind kind, const char* typeWord)
                             std::string("add one: ") + typeWord + " LEFT, TOP, 112, 22");
 }
 
+} // namespace layout_rules
 } // namespace
 
 Family LayoutRules()
 {
+    using namespace layout_rules;
     return {{&unknownType, &nameTwice, &noPoint, &surplus, &noNumber, &range, &noSize, &noGroup, &emptyGroup, &noButton,
              &buttonTwice},
             [](const Case& judged)

@@ -10,6 +10,8 @@ namespace lytdlg
 
 namespace
 {
+namespace line_rules
+{
 
 constexpr Rule tab = {
     "tab",
@@ -212,10 +214,12 @@ void JudgeAfterEnd(const Case& judged)
     }
 }
 
+} // namespace line_rules
 } // namespace
 
 Family LineRules()
 {
+    using namespace line_rules;
     return {{&tab, &length, &markBeforeVersion, &markAbove, &utf8, &bytes, &endMark, &afterEnd},
             [](const Case& judged)
             {

@@ -8,6 +8,8 @@ namespace lytdlg
 
 namespace
 {
+namespace mark_rules
+{
 
 constexpr Rule indented = {
     "mark-indented",
@@ -130,10 +132,12 @@ private:
     std::set<std::string> m_switchedOff; // told once each
 };
 
+} // namespace mark_rules
 } // namespace
 
 Family MarkRules()
 {
+    using namespace mark_rules;
     return {{&indented, &unopened, &unended, &nested, &nameless, &switchedOff},
             [](const Case& judged)
             {

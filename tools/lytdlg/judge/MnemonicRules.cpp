@@ -10,6 +10,8 @@ namespace lytdlg
 
 namespace
 {
+namespace mnemonic_rules
+{
 
 constexpr Rule twice = {
     "mnemonic-twice",
@@ -121,10 +123,12 @@ void JudgeNone(const Case& judged, const LanguageFile& file, std::vector<Caption
     }
 }
 
+} // namespace mnemonic_rules
 } // namespace
 
 Family MnemonicRules()
 {
+    using namespace mnemonic_rules;
     return {{&twice, &none},
             [](const Case& judged)
             {

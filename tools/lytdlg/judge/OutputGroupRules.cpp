@@ -12,6 +12,8 @@ namespace lytdlg
 
 namespace
 {
+namespace output_group_rules
+{
 
 constexpr Rule noResult = {"output-parent",
                            Level::Warning,
@@ -109,10 +111,12 @@ void JudgeGroups(const Case& judged)
     }
 }
 
+} // namespace output_group_rules
 } // namespace
 
 Family OutputGroupRules()
 {
+    using namespace output_group_rules;
     return {{&noResult, &firstGroup, &groupTwice, &groupUnused, &groupEmpty},
             [](const Case& judged)
             {

@@ -12,6 +12,8 @@ namespace lytdlg
 
 namespace
 {
+namespace output_rules
+{
 
 constexpr Rule noDefault = {
     "output-last",
@@ -249,10 +251,12 @@ void JudgeItems(const Case& judged, const ClytDialogOutput& rule)
     }
 }
 
+} // namespace output_rules
 } // namespace
 
 Family OutputRules()
 {
+    using namespace output_rules;
     return {{&noDefault, &unreached, &shadowed, &never, &condition, &conditionValue, &valueless, &item, &noList,
              &comboItems, &longSeparator, &blanks},
             [](const Case& judged)

@@ -14,6 +14,8 @@ namespace lytdlg
 
 namespace
 {
+namespace partner_rules
+{
 
 constexpr Rule library = {
     "partner-library",
@@ -149,10 +151,12 @@ void JudgeShared(const Case& judged, const std::vector<PartnerCall>& calls)
     }
 }
 
+} // namespace partner_rules
 } // namespace
 
 Family PartnerRules()
 {
+    using namespace partner_rules;
     return {{&library, &form, &function, &shared},
             [](const Case& judged)
             {

@@ -12,6 +12,8 @@ namespace lytdlg
 
 namespace
 {
+namespace scan_rules
+{
 
 constexpr Rule startMissing = {"scan-start",
                                Level::Warning,
@@ -293,10 +295,12 @@ void JudgePaths(const Case& judged, const InputPart& part)
         JudgeTargets(judged, part, *statement);
 }
 
+} // namespace scan_rules
 } // namespace
 
 Family ScanRules()
 {
+    using namespace scan_rules;
     return {
         {&startMissing, &partTwice, &partUnused, &nameTwice, &unreached, &target, &circle, &circleMaybe, &firstLine},
         [](const Case& judged)

@@ -10,6 +10,8 @@ namespace lytdlg
 
 namespace
 {
+namespace section_rules
+{
 
 constexpr Rule misspelt = {"section-misspelt",
                            Level::Error,
@@ -286,10 +288,12 @@ void JudgeParent(const Case& judged)
         .number = "217";
 }
 
+} // namespace section_rules
 } // namespace
 
 Family SectionRules()
 {
+    using namespace section_rules;
     return {{&misspelt, &missing, &order, &headerAsValue, &dialogLine, &textSection, &evaluationWord, &parentPart},
             [](const Case& judged)
             {

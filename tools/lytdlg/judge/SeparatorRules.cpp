@@ -11,6 +11,8 @@ namespace lytdlg
 
 namespace
 {
+namespace separator_rules
+{
 
 constexpr Rule hidden = {"scan-separator",
                          Level::Warning,
@@ -145,10 +147,12 @@ void JudgeEnds(const Case& judged, const ClytScanRule& rule)
     }
 }
 
+} // namespace separator_rules
 } // namespace
 
 Family SeparatorRules()
 {
+    using namespace separator_rules;
     return {{&hidden, &mixed, &number, &restNotNeeded, &dropped},
             [](const Case& judged)
             {

@@ -9,6 +9,8 @@ namespace lytdlg
 
 namespace
 {
+namespace statement_rules
+{
 
 constexpr Rule quote = {"quote-open",
                         Level::Error,
@@ -121,10 +123,12 @@ void AddMistake(const Case& judged, const Mistake& mistake)
     finding.number = mistake.number.empty() && line.section == Section::Input ? "206" : mistake.number;
 }
 
+} // namespace statement_rules
 } // namespace
 
 Family StatementRules()
 {
+    using namespace statement_rules;
     return {{&quote, &head, &layout, &values, &dependencies, &evaluation, &input, &output},
             [](const Case& judged)
             {

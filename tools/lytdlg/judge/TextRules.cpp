@@ -13,6 +13,8 @@ namespace lytdlg
 
 namespace
 {
+namespace text_rules
+{
 
 constexpr Rule missing = {"text-missing",
                           Level::Warning,
@@ -227,10 +229,12 @@ void JudgeMarks(const Case& judged, const ShownText& use)
     }
 }
 
+} // namespace text_rules
 } // namespace
 
 Family TextRules()
 {
+    using namespace text_rules;
     return {{&missing, &tooLong, &apostrophe, &ampersand, &stray, &marks, &bytes, &emptyText, &hiddenKey},
             [](const Case& judged)
             {

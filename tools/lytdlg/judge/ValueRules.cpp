@@ -11,6 +11,8 @@ namespace lytdlg
 
 namespace
 {
+namespace value_rules
+{
 
 constexpr Rule unknownControl = {
     "value-control-unknown",
@@ -185,10 +187,12 @@ void JudgeStatement(const PlacedValue& statement)
     }
 }
 
+} // namespace value_rules
 } // namespace
 
 Family ValueRules()
 {
+    using namespace value_rules;
     return {{&unknownControl, &unused, &colon, &optionWord, &keyword, &noText, &twice},
             [](const Case& judged)
             {

@@ -9,6 +9,8 @@ namespace lytdlg
 
 namespace
 {
+namespace word_rules
+{
 
 constexpr Rule dropped = {
     "word-dropped",
@@ -84,10 +86,12 @@ void JudgeJump(const Case& judged, const SourceLine& line)
                             "write CONTROL(VALUE) = NAME, OTHER, or delete it");
 }
 
+} // namespace word_rules
 } // namespace
 
 Family WordRules()
 {
+    using namespace word_rules;
     return {{&dropped},
             [](const Case& judged)
             {
