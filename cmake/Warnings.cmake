@@ -2,18 +2,17 @@
 add_library(lyt_options INTERFACE)
 target_compile_options(lyt_options INTERFACE
   -Werror -Wall -Wextra -Wpedantic -Wshadow
-  $<$<COMPILE_LANGUAGE:CXX>:-Wconversion>
+  # What converts a sign is left out, as GCC does by itself.
+  $<$<COMPILE_LANGUAGE:CXX>:-Wconversion> $<$<COMPILE_LANG_AND_ID:CXX,Clang>:-Wno-sign-conversion>
   # GCC 12 sees overlapping copies inside std::string where there are none.
   $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>
   -ffile-prefix-map=${CMAKE_SOURCE_DIR}=. -fstack-protector-strong -ffunction-sections -fdata-sections)
 target_link_options(lyt_options INTERFACE -fstack-protector-strong)
 
-# GCC does not count the conversion of a floating-point number that no integer holds among the undefined behaviour.
+# The conversion of a floating-point number that no integer holds is not counted among the undefined behaviour.
 set(LYT_SANITIZERS address,undefined,float-cast-overflow)
 
 if(LYT_SANITIZE)
-  # What the sanitizers put in makes GCC 12 see unset members inside the standard library.
-  target_compile_options(lyt_options INTERFACE $<$<CXX_COMPILER_ID:GNU>:-Wno-maybe-uninitialized>)
   target_compile_options(lyt_options INTERFACE -fsanitize=${LYT_SANITIZERS} -fno-sanitize-recover=all -fno-omit-frame-pointer)
   target_link_options(lyt_options INTERFACE -fsanitize=${LYT_SANITIZERS})
 endif()

@@ -68,9 +68,10 @@ const char* ReasonOfLoss(const Sample& sample, const std::string& composed)
 }
 
 // The catalogue that a sample asks for is another dialog: nobody confirms it here.
-void AnswerNothing(const char* /*parameter*/, char* /*text*/, int /*size*/)
+int AnswerNothing(const char* /*parameter*/, char* /*text*/, int /*size*/)
 {
     lytTreeResult = 0;
+    return 0;
 }
 
 class NoCatalogue : public ClytOwnLibraries

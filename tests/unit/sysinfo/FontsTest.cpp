@@ -9,8 +9,6 @@
 namespace
 {
 
-using Texts = std::vector<std::string>;
-
 const std::string rule = "  " + std::string(81, '-');
 const std::string heading = "  Font Family                    | Font Name                      | Character set";
 
@@ -164,7 +162,7 @@ TEST(CharsetName, NamesEachCharacterSet)
                  {177, "HEBREW_CHARSET"},  {178, "ARABIC_CHARSET"},   {186, "BALTIC_CHARSET"},
                  {204, "RUSSIAN_CHARSET"}, {222, "THAI_CHARSET"},     {238, "EASTEUROPE_CHARSET"},
                  {255, "OEM_CHARSET"}};
-    std::vector<std::string> names(256, "<unknown>");
+    Texts names(256, "<unknown>");
     for (const auto& n : named)
         names[static_cast<size_t>(n.charset)] = n.name;
     for (int charset = 0; charset < 256; ++charset)

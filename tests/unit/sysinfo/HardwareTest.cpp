@@ -9,16 +9,16 @@ namespace
 
 constexpr unsigned long long megabyte = 1ULL << 20;
 
-std::vector<std::string> LinesOf(const HardwareFacts& facts)
+Texts LinesOf(const HardwareFacts& facts)
 {
     CStringList lines;
     AddHardwareLines(facts, lines);
     return TextsOf(lines);
 }
 
-std::vector<std::string> RootsOf(const char* windowsDirectory, const char* installDirectory)
+Texts RootsOf(const char* windowsDirectory, const char* installDirectory)
 {
-    std::vector<std::string> roots;
+    Texts roots;
     for (const CString& root : DiskRoots(windowsDirectory, installDirectory))
         roots.emplace_back(root.GetString());
     return roots;
@@ -42,7 +42,7 @@ TEST(Hardware, WordsEachFactInOrder)
     facts.pageSize = 4096;
     facts.granularity = 65536;
     facts.disks = {{"C:\\", 476000 * megabyte, 1234 * megabyte}, {"D:\\", 12345678 * megabyte, 0}};
-    EXPECT_EQ(LinesOf(facts), (std::vector<std::string>{
+    EXPECT_EQ(LinesOf(facts), (Texts{
                                   "Number Of Processors : 8",
                                   "CPU Name  : Some CPU @ 3.00GHz",
                                   "CPU Speed : 2995",
@@ -64,7 +64,7 @@ TEST(Hardware, WordsEachFactInOrder)
 
 TEST(Hardware, LeavesOutWhatItDoesNotKnowAndShowsZeroForTheRest)
 {
-    EXPECT_EQ(LinesOf(HardwareFacts()), (std::vector<std::string>{
+    EXPECT_EQ(LinesOf(HardwareFacts()), (Texts{
                                             "Number Of Processors : 0",
                                             "Memory in use: 0 %",
                                             "Total physical memory : 0 MB",
@@ -80,15 +80,15 @@ TEST(Hardware, LeavesOutWhatItDoesNotKnowAndShowsZeroForTheRest)
 
 TEST(Hardware, AsksEachDriveOnce)
 {
-    EXPECT_EQ(RootsOf("C:\\windows", "C:\\lyt\\"), std::vector<std::string>{"C:\\"});
-    EXPECT_EQ(RootsOf("c:\\windows", "C:\\lyt\\"), std::vector<std::string>{"C:\\"});
-    EXPECT_EQ(RootsOf("C:\\windows", "c:\\lyt\\"), std::vector<std::string>{"C:\\"});
+    EXPECT_EQ(RootsOf("C:\\windows", "C:\\lyt\\"), Texts{"C:\\"});
+    EXPECT_EQ(RootsOf("c:\\windows", "C:\\lyt\\"), Texts{"C:\\"});
+    EXPECT_EQ(RootsOf("C:\\windows", "c:\\lyt\\"), Texts{"C:\\"});
 }
 
 TEST(Hardware, ShowsTheDriveOfAnInstallationElsewhereInUpperCase)
 {
-    EXPECT_EQ(RootsOf("c:\\windows", "d:\\lyt\\"), (std::vector<std::string>{"C:\\", "D:\\"}));
-    EXPECT_EQ(RootsOf("c:\\windows", "\\\\server\\lyt\\"), (std::vector<std::string>{"C:\\", "\\\\S"}));
+    EXPECT_EQ(RootsOf("c:\\windows", "d:\\lyt\\"), (Texts{"C:\\", "D:\\"}));
+    EXPECT_EQ(RootsOf("c:\\windows", "\\\\server\\lyt\\"), (Texts{"C:\\", "\\\\S"}));
 }
 
 TEST(Hardware, WordsTheScreenResolution)

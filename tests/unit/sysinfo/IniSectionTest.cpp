@@ -3,14 +3,14 @@
 #include "environment/ClytINISection.h"
 #include "support/TestFolder.h"
 
+#include "Lines.h"
+
 #include <gtest/gtest.h>
 
 #include <string>
 
 namespace
 {
-
-using Texts = std::vector<std::string>;
 
 Texts Shown(const std::string& content)
 {

@@ -6,9 +6,11 @@
 #include <string>
 #include <vector>
 
-inline std::vector<std::string> TextsOf(const CStringList& lines)
+using Texts = std::vector<std::string>;
+
+inline Texts TextsOf(const CStringList& lines)
 {
-    std::vector<std::string> texts;
+    Texts texts;
     for (POSITION place = lines.GetHeadPosition(); place != nullptr;)
         texts.emplace_back(lines.GetNext(place).GetString());
     return texts;

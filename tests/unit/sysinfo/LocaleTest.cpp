@@ -4,8 +4,6 @@
 
 #include <gtest/gtest.h>
 
-using Texts = std::vector<std::string>;
-
 TEST(Locale, ListsEachValueInOrderUnderItsLabel)
 {
     CStringList lines;

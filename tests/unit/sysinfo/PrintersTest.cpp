@@ -23,7 +23,7 @@ PrinterMode Duplex(int number)
     return mode;
 }
 
-std::vector<std::string> LinesOf(const PrintersFacts& facts)
+Texts LinesOf(const PrintersFacts& facts)
 {
     CStringList lines;
     AddPrinterLines(facts, lines);
@@ -233,7 +233,7 @@ TEST(Printers, ListsNothingWithoutPrinters)
 {
     PrintersFacts facts;
     facts.defaultPrinter = "no default printer found";
-    EXPECT_EQ(LinesOf(facts), (std::vector<std::string>{"Printers", "  Default Printer : no default printer found"}));
+    EXPECT_EQ(LinesOf(facts), (Texts{"Printers", "  Default Printer : no default printer found"}));
 }
 
 TEST(Printers, ListsLocalAndNetworkPrinters)
@@ -248,7 +248,7 @@ TEST(Printers, ListsLocalAndNetworkPrinters)
     facts.printers = {{"Office", "LPT1:", "Some PS", mode}, {"Bare", "FILE:", "Other", PrinterMode()}};
     facts.networkPrinters = {{R"(\\srv\Floor 2)", R"(\\srv)"}, {R"(\\srv\Floor 3)", R"(\\srv)"}};
     EXPECT_EQ(LinesOf(facts),
-              (std::vector<std::string>{
+              (Texts{
                   "Printers",
                   "  Default Printer : Office,winspool,LPT1:",
                   "  Printer: Office on LPT1: (Some PS), Duplex Vertical, A4 210 x 297 mm, 210mm x 297mm",
@@ -270,7 +270,7 @@ TEST(Printers, TellsWhyLocalPrintersCannotBeListedAndGoesOnWithTheNetwork)
     PrintersFacts facts;
     facts.failure = "The RPC server is unavailable.";
     facts.networkPrinters = {{"Net", "Srv"}};
-    EXPECT_EQ(LinesOf(facts), (std::vector<std::string>{
+    EXPECT_EQ(LinesOf(facts), (Texts{
                                   "Printers",
                                   "  Default Printer : ",
                                   "Cannot get printer information: The RPC server is unavailable.",
