@@ -82,6 +82,14 @@ std::string ClassOf(HWND window)
     return name;
 }
 
+RECT PlaceOf(HWND child)
+{
+    RECT place = {};
+    GetWindowRect(child, &place);
+    MapWindowPoints(nullptr, GetParent(child), reinterpret_cast<POINT*>(&place), 2);
+    return place;
+}
+
 bool IsMessageBox(HWND window)
 {
     return ClassOf(window) == "#32770" && GetDlgItem(window, messageTextId) != nullptr;

@@ -22,6 +22,8 @@ namespace robot
 HWND ActiveDialog();
 std::string TextOf(HWND window);
 std::string ClassOf(HWND window);
+// The rectangle of a child in the client area of its parent.
+RECT PlaceOf(HWND child);
 // True when the window is a message box; its text is MessageTextOf.
 bool IsMessageBox(HWND window);
 std::string MessageTextOf(HWND box);

@@ -34,8 +34,7 @@ Places PlacesOfWindow(HWND dialog)
     {
         if (IsWindowVisible(child) == FALSE)
             continue;
-        GetWindowRect(child, &rect);
-        MapWindowPoints(nullptr, dialog, reinterpret_cast<POINT*>(&rect), 2);
+        rect = robot::PlaceOf(child);
         places.push_back(PlaceText(rect.left, rect.top, rect.right - rect.left, rect.bottom - rect.top));
     }
     return places;

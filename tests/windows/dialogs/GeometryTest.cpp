@@ -14,15 +14,6 @@ int DotsPerInch()
     return dots;
 }
 
-// The rectangle of a control inside its dialog.
-RECT PlaceOf(HWND control)
-{
-    RECT rect{};
-    GetWindowRect(control, &rect);
-    MapWindowPoints(nullptr, GetParent(control), reinterpret_cast<POINT*>(&rect), 2);
-    return rect;
-}
-
 // Keeps the size with which an option button is created, and allows every window.
 bool NoteOptionButton(const CREATESTRUCTA& create, SIZE& created)
 {
@@ -95,7 +86,7 @@ TEST_F(Geometry, ControlsAreScaledAndCutToWholeUnits)
             for (const auto& c : cases)
             {
                 SCOPED_TRACE(c.index);
-                const RECT rect = PlaceOf(robot::ChildAt(dialog, c.index));
+                const RECT rect = robot::PlaceOf(robot::ChildAt(dialog, c.index));
                 EXPECT_EQ(rect.left, ScaledX(c.left));
                 EXPECT_EQ(rect.top, ScaledY(c.top));
                 EXPECT_EQ(rect.right - rect.left, ScaledX(c.width));
@@ -113,7 +104,7 @@ TEST_F(Geometry, TextsAreScaledInPlaceOnly)
     On(
         [&](HWND dialog)
         {
-            const RECT rect = PlaceOf(robot::ChildAt(dialog, 3));
+            const RECT rect = robot::PlaceOf(robot::ChildAt(dialog, 3));
             EXPECT_EQ(rect.left, ScaledX(11));
             EXPECT_EQ(rect.top, ScaledY(23));
             HDC context = GetDC(dialog);

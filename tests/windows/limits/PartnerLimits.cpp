@@ -211,6 +211,8 @@ public:
         : m_file(ProgramFolder() + "\\" + name + ".dll"), m_kept(m_file + ".kept")
     {
         TakeAway(name.c_str());
+        // What a run that was ended here has left.
+        MoveFileExA(m_kept.c_str(), m_file.c_str(), MOVEFILE_REPLACE_EXISTING);
         EXPECT_TRUE(MoveFileA(m_file.c_str(), m_kept.c_str()));
         std::ofstream(m_file, std::ios::binary) << content;
     }

@@ -48,14 +48,6 @@ std::string TypeOf(HWND window)
     }
 }
 
-RECT PlaceOf(HWND window)
-{
-    RECT rect{};
-    GetWindowRect(window, &rect);
-    MapWindowPoints(nullptr, GetParent(window), reinterpret_cast<POINT*>(&rect), 2);
-    return rect;
-}
-
 // What is seen of a dialog.
 std::vector<Control> VisibleControlsOf(HWND dialog)
 {
@@ -63,7 +55,7 @@ std::vector<Control> VisibleControlsOf(HWND dialog)
     for (HWND child : robot::ChildrenOf(dialog))
     {
         if (IsWindowVisible(child) != FALSE)
-            controls.push_back({TypeOf(child), robot::TextOf(child), PlaceOf(child)});
+            controls.push_back({TypeOf(child), robot::TextOf(child), robot::PlaceOf(child)});
     }
     return controls;
 }

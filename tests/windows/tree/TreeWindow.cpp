@@ -166,10 +166,7 @@ SIZE TreeWindow::Size() const
 
 RECT TreeWindow::PlaceOf(int control) const
 {
-    RECT place = {};
-    GetWindowRect(GetDlgItem(m_dialog, control), &place);
-    MapWindowPoints(nullptr, m_dialog, reinterpret_cast<POINT*>(&place), 2);
-    return place;
+    return robot::PlaceOf(GetDlgItem(m_dialog, control));
 }
 
 void TreeWindow::Confirm() const

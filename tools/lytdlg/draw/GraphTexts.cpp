@@ -1,6 +1,7 @@
 #include "lytdlg/draw/GraphTexts.h"
 
 #include "commandline/Text.h"
+#include "lytdlg/text/Words.h"
 
 namespace lytdlg
 {
@@ -8,11 +9,6 @@ namespace lytdlg
 std::string Shown(const CString& text)
 {
     return commandline::ToUtf8(text.GetString());
-}
-
-std::string LineText(const ClytSpan& place)
-{
-    return "line " + std::to_string(place.line);
 }
 
 std::string ValuesText(const CStringList& values)

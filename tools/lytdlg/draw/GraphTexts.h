@@ -8,7 +8,6 @@ namespace lytdlg
 {
 
 std::string Shown(const CString& text);
-std::string LineText(const ClytSpan& place);
 // The values of a list, in brackets with commas; nothing for an empty list.
 std::string ValuesText(const CStringList& values);
 // The node of a control, red when there is no such control; gives the identifier of the node.

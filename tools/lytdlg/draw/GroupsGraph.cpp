@@ -5,6 +5,7 @@
 #include "dialog/ClytDialog.h"
 #include "lytdlg/draw/GraphTexts.h"
 #include "lytdlg/text/Paths.h"
+#include "lytdlg/text/Words.h"
 #include "model/ClytWords.h"
 
 #include <algorithm>

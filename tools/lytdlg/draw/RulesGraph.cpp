@@ -2,6 +2,7 @@
 #include "lytdlg/draw/Graphs.h"
 
 #include "lytdlg/draw/GraphTexts.h"
+#include "lytdlg/text/Words.h"
 
 namespace lytdlg
 {

@@ -3,6 +3,7 @@
 
 #include "dialog/ClytDialog.h"
 #include "lytdlg/draw/GraphTexts.h"
+#include "lytdlg/text/Words.h"
 
 namespace lytdlg
 {

@@ -25,4 +25,9 @@ std::string Trimmed(const std::string& text)
     return first != std::string::npos ? text.substr(first, text.find_last_not_of(" \t") + 1 - first) : "";
 }
 
+std::string LineText(const ClytSpan& place)
+{
+    return "line " + std::to_string(place.line);
+}
+
 } // namespace lytdlg

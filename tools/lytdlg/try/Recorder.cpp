@@ -2,6 +2,7 @@
 
 #include "commandline/Text.h"
 #include "controls/ClytPushButtonControl.h"
+#include "lytdlg/text/Words.h"
 #include "lytdlg/try/ControlState.h"
 
 #include <array>
@@ -23,11 +24,6 @@ std::string QuotedUtf8(const CString& text)
 std::string Name(const CString& name)
 {
     return ToUtf8(name.GetString());
-}
-
-std::string LineName(const ClytSpan& span)
-{
-    return "line " + std::to_string(span.line);
 }
 
 std::string Listed(const CStringList& values)
@@ -125,7 +121,7 @@ void Recorder::PassedOver(ClytPassedOver what, const CString& name, const ClytSp
 {
     constexpr std::array whats = {"type word", "control of a value", "control of a rule", "control of an evaluation",
                                   "control of a fill"};
-    Trace(LineName(place) + ": passed over, since there is no " + whats.at(static_cast<size_t>(what)) + " " +
+    Trace(LineText(place) + ": passed over, since there is no " + whats.at(static_cast<size_t>(what)) + " " +
           QuotedUtf8(name));
 }
 
@@ -146,7 +142,7 @@ void Recorder::Missed(ClytMissing what, const CString& name, const ClytControl* 
                              QuotedUtf8(name) + (control != nullptr ? " for " + Name(control->GetName()) : "");
     if (what == ClytMissing::Library || what == ClytMissing::LibraryFunction)
         m_asked[m_asking] = text;
-    Trace(place.line > 0 ? LineName(place) + ": " + text : text);
+    Trace(place.line > 0 ? LineText(place) + ": " + text : text);
 }
 
 void Recorder::ScanBegan(const char* text)
@@ -181,7 +177,7 @@ void Recorder::Cut(const ClytDialogInput& statement, const CString& piece, const
     m_rest = rest;
     m_restText = ToUtf8(rest);
     m_steps.push_back({&statement, statement.name.GetString(), nextStatement.GetString()});
-    Trace("  " + LineName(statement.span) + " " + Name(statement.name) + ": cut " + QuotedUtf8(piece) + " " +
+    Trace("  " + LineText(statement.span) + " " + Name(statement.name) + ": cut " + QuotedUtf8(piece) + " " +
           separator + ", rest " + Quoted(m_restText) +
           (nextStatement.IsEmpty() ? ", the end" : ", on to " + Name(nextStatement)));
 }
@@ -198,7 +194,7 @@ void Recorder::Jumped(const ClytDialogInput& statement, const CString& nextState
                                                                     : ClytTested::NotListed;
         clauses += ClauseOf(condition, result) + "; ";
     }
-    Trace("  " + LineName(statement.span) + " " + Name(statement.name) + ": " + clauses + "on to " +
+    Trace("  " + LineText(statement.span) + " " + Name(statement.name) + ": " + clauses + "on to " +
           Name(nextStatement));
 }
 
@@ -208,7 +204,7 @@ void Recorder::Filled(const ClytControlFill& fill, const CString& piece)
     m_fills.push_back({fill.controlName.GetString(), fill.span.line, TextOf(fill, piece),
                        (ownValue ? fill.value : piece).GetString(), fill.action.GetText().GetString(),
                        m_steps.back().name, m_steps.back().statement});
-    Trace("    " + LineName(fill.span) + " " + Name(fill.controlName) + " " + m_fills.back().text);
+    Trace("    " + LineText(fill.span) + " " + Name(fill.controlName) + " " + m_fills.back().text);
 }
 
 void Recorder::ForgetScan()
@@ -251,7 +247,7 @@ void Recorder::StateSet(const ClytControlDep& rule, int on)
     m_rules.push_back({rule.controlName.GetString(), rule.stateWord.GetText().GetString(), rule.span.line,
                        std::exchange(m_tested, {}), on != 0, false, rule.GetControl(), SetsNothing(rule)});
     const RuleRecord& record = m_rules.back();
-    Trace("  " + LineName(rule.span) + " " + Name(rule.controlName) + "/" + record.word + ": " +
+    Trace("  " + LineText(rule.span) + " " + Name(rule.controlName) + "/" + record.word + ": " +
           Joined(record.conditions) + "; " + Consequence(record));
 }
 
@@ -265,7 +261,7 @@ void Recorder::EventDecided(const ClytControlDep& rule, ClytEvent event)
                                     : record.word == "CLEAR"             ? Name(rule.controlName) + " is emptied"
                                                                          : Name(rule.controlName) + " is filled";
     const std::string clauses = event == ClytEvent::InProgress ? "" : Joined(record.conditions) + "; ";
-    Trace("  " + LineName(rule.span) + " " + Name(rule.controlName) + "/" + record.word + ": " + clauses + consequence);
+    Trace("  " + LineText(rule.span) + " " + Name(rule.controlName) + "/" + record.word + ": " + clauses + consequence);
 }
 
 void Recorder::OutputConditionTested(const ClytDialogOutput& rule, const ClytCtrlValList& condition, ClytTested result)
@@ -274,14 +270,14 @@ void Recorder::OutputConditionTested(const ClytDialogOutput& rule, const ClytCtr
         return;
     m_nextOutput.refusals.push_back({ClauseOf(condition, result), result});
     m_nextOutput.refusedLines.push_back(rule.span.line);
-    Trace("output " + LineName(rule.span) + ": no, " + m_nextOutput.refusals.back().text);
+    Trace("output " + LineText(rule.span) + ": no, " + m_nextOutput.refusals.back().text);
 }
 
 void Recorder::OutputChosen(const ClytDialogOutput* rule)
 {
     m_output = std::exchange(m_nextOutput, {});
     m_output.line = rule != nullptr ? rule->span.line : 0;
-    Trace(rule != nullptr ? "output " + LineName(rule->span) + ": yes" : "output: no rule holds");
+    Trace(rule != nullptr ? "output " + LineText(rule->span) + ": yes" : "output: no rule holds");
 }
 
 } // namespace lytdlg
