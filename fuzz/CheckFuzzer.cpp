@@ -5,6 +5,8 @@
 
 namespace
 {
+namespace check_fuzzer
+{
 
 void Run(const std::string& input)
 {
@@ -15,6 +17,7 @@ void Run(const std::string& input)
         static_cast<void>(lytdlg::TextOf(finding, description, true));
 }
 
+} // namespace check_fuzzer
 } // namespace
 
-const Fuzzer checkFuzzer = {"check", "a description, judged by lytdlg", Run, SampleDescriptions};
+const Fuzzer checkFuzzer = {"check", "a description, judged by lytdlg", check_fuzzer::Run, SampleDescriptions};

@@ -8,6 +8,8 @@
 
 namespace
 {
+namespace fmt_fuzzer
+{
 
 void Run(const std::string& input)
 {
@@ -18,6 +20,7 @@ void Run(const std::string& input)
     std::abort();
 }
 
+} // namespace fmt_fuzzer
 } // namespace
 
-const Fuzzer fmtFuzzer = {"fmt", "a description, formatted by lytdlg", Run, SampleDescriptions};
+const Fuzzer fmtFuzzer = {"fmt", "a description, formatted by lytdlg", fmt_fuzzer::Run, SampleDescriptions};

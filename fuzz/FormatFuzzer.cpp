@@ -6,6 +6,8 @@
 
 namespace
 {
+namespace format_fuzzer
+{
 
 constexpr int mostItems = 25;
 
@@ -34,6 +36,7 @@ std::vector<std::string> Seeds()
     };
 }
 
+} // namespace format_fuzzer
 } // namespace
 
-const Fuzzer formatFuzzer = {"format", "a format; items, a line each", Run, Seeds};
+const Fuzzer formatFuzzer = {"format", "a format; items, a line each", format_fuzzer::Run, format_fuzzer::Seeds};

@@ -6,6 +6,8 @@
 
 namespace
 {
+namespace groups_fuzzer
+{
 
 void Run(const std::string& input)
 {
@@ -23,6 +25,8 @@ std::vector<std::string> Seeds()
     return {",\n\"a(b,c)d,e\\\"\n", ",\nx((y),z", ",;()\n (a;b) , \"c;d\" ; e(f(g),h)i\n"};
 }
 
+} // namespace groups_fuzzer
 } // namespace
 
-const Fuzzer groupsFuzzer = {"groups", "delimiters; a text that is cut into tokens and groups", Run, Seeds};
+const Fuzzer groupsFuzzer = {"groups", "delimiters; a text that is cut into tokens and groups", groups_fuzzer::Run,
+                             groups_fuzzer::Seeds};

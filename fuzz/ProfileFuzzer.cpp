@@ -14,6 +14,8 @@
 
 namespace
 {
+namespace profile_fuzzer
+{
 
 constexpr const char* file = "memory:\\profile.ini";
 constexpr int leastBytes = 3; // the library asks for no less
@@ -75,6 +77,8 @@ std::vector<std::string> Seeds()
     };
 }
 
+} // namespace profile_fuzzer
 } // namespace
 
-const Fuzzer profileFuzzer = {"profile", "section; key; argument; size; the file", Run, Seeds};
+const Fuzzer profileFuzzer = {"profile", "section; key; argument; size; the file", profile_fuzzer::Run,
+                              profile_fuzzer::Seeds};

@@ -8,6 +8,8 @@
 
 namespace
 {
+namespace property_fuzzer
+{
 
 constexpr int mostBytes = 70'000;
 
@@ -58,7 +60,9 @@ std::vector<std::string> Seeds()
     return seeds;
 }
 
+} // namespace property_fuzzer
 } // namespace
 
-const Fuzzer propertyFuzzer = {
-    "property", "s, p or a group's kind; defines; key; acts; two sizes, a line each; the description", Run, Seeds};
+const Fuzzer propertyFuzzer = {"property",
+                               "s, p or a group's kind; defines; key; acts; two sizes, a line each; the description",
+                               property_fuzzer::Run, property_fuzzer::Seeds};

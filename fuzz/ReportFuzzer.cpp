@@ -22,6 +22,8 @@
 
 namespace
 {
+namespace report_fuzzer
+{
 
 // Facts, each taken from the next line.
 class Facts : public InputText
@@ -192,6 +194,8 @@ std::vector<std::string> Seeds()
     };
 }
 
+} // namespace report_fuzzer
 } // namespace
 
-const Fuzzer reportFuzzer = {"report", "the part to begin with, 0 to 5; its facts, a line each", Run, Seeds};
+const Fuzzer reportFuzzer = {"report", "the part to begin with, 0 to 5; its facts, a line each", report_fuzzer::Run,
+                             report_fuzzer::Seeds};

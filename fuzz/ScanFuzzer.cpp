@@ -6,6 +6,8 @@
 
 namespace
 {
+namespace scan_fuzzer
+{
 
 constexpr const char* endOfStatements = "$OUTPUT";
 
@@ -41,6 +43,8 @@ std::vector<std::string> Seeds()
     };
 }
 
+} // namespace scan_fuzzer
 } // namespace
 
-const Fuzzer scanFuzzer = {"scan", "statements of an input part; a line $OUTPUT; the text that they scan", Run, Seeds};
+const Fuzzer scanFuzzer = {"scan", "statements of an input part; a line $OUTPUT; the text that they scan",
+                           scan_fuzzer::Run, scan_fuzzer::Seeds};

@@ -11,6 +11,8 @@
 
 namespace
 {
+namespace sizes_fuzzer
+{
 
 constexpr int mostBytes = 2'000;
 
@@ -76,7 +78,8 @@ std::vector<std::string> Seeds()
     };
 }
 
+} // namespace sizes_fuzzer
 } // namespace
 
 const Fuzzer sizesFuzzer = {"sizes", "two sizes; log level; document; section/key; argument; lyt.ini and catalogue",
-                            Run, Seeds};
+                            sizes_fuzzer::Run, sizes_fuzzer::Seeds};

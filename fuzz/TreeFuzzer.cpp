@@ -8,6 +8,8 @@
 
 namespace
 {
+namespace tree_fuzzer
+{
 
 constexpr int mostBytes = 1'000;
 
@@ -44,6 +46,8 @@ std::vector<std::string> Seeds()
     return seeds;
 }
 
+} // namespace tree_fuzzer
 } // namespace
 
-const Fuzzer treeFuzzer = {"tree", "request; two sizes, a line each; acts; key; the catalogue", Run, Seeds};
+const Fuzzer treeFuzzer = {"tree", "request; two sizes, a line each; acts; key; the catalogue", tree_fuzzer::Run,
+                           tree_fuzzer::Seeds};

@@ -9,6 +9,8 @@
 
 namespace
 {
+namespace wizard_fuzzer
+{
 
 constexpr int mostBytes = 70'000;
 
@@ -52,6 +54,8 @@ std::vector<std::string> Seeds()
     return seeds;
 }
 
+} // namespace wizard_fuzzer
 } // namespace
 
-const Fuzzer wizardFuzzer = {"wizard", "size; acts; the catalogue and an empty line; the description", Run, Seeds};
+const Fuzzer wizardFuzzer = {"wizard", "size; acts; the catalogue and an empty line; the description",
+                             wizard_fuzzer::Run, wizard_fuzzer::Seeds};

@@ -12,9 +12,9 @@
 namespace
 {
 
-std::vector<lytTreeRecord> records;
+std::vector<lytTreeRecord> catalogue;
 size_t nextRecord = 0;
-std::string items;
+std::string itemsLeft;
 
 int32_t LevelOf(char ch)
 {
@@ -43,14 +43,14 @@ lytTreeRecord RecordOf(const std::string& line)
 int32_t StartCatalogue(const char* /*selection*/)
 {
     nextRecord = 0;
-    return records.empty() ? 0 : 1;
+    return catalogue.empty() ? 0 : 1;
 }
 
 int32_t NextRecord(lytTreeRecord* record)
 {
-    if (nextRecord == records.size())
+    if (nextRecord == catalogue.size())
         return 0;
-    *record = records[nextRecord++];
+    *record = catalogue[nextRecord++];
     return 1;
 }
 
@@ -65,17 +65,17 @@ void Fill(char* buffer, int size, const std::string& text)
 // The parameter is the list: its items stand between the marks that a check list writes.
 void OpenList(const char* parameter)
 {
-    items = std::string(parameter) + "|one|Xtwo";
+    itemsLeft = std::string(parameter) + "|one|Xtwo";
 }
 
 int NextItem(char* display, int size, char* value, int valueSize)
 {
-    if (items.empty())
+    if (itemsLeft.empty())
         return 0;
-    const size_t end = std::min(items.find('|'), items.size());
-    Fill(display, size, items.substr(0, end));
-    Fill(value, valueSize, items.substr(0, end));
-    items.erase(0, end + 1);
+    const size_t end = std::min(itemsLeft.find('|'), itemsLeft.size());
+    Fill(display, size, itemsLeft.substr(0, end));
+    Fill(value, valueSize, itemsLeft.substr(0, end));
+    itemsLeft.erase(0, end + 1);
     return 1;
 }
 
@@ -188,7 +188,7 @@ void InstallPartners()
 
 void SetCatalogue(const std::string& lines)
 {
-    records.clear();
+    catalogue.clear();
     for (InputText text(lines); !text.IsAtEnd();)
-        records.push_back(RecordOf(text.Line()));
+        catalogue.push_back(RecordOf(text.Line()));
 }
