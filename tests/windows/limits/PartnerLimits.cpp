@@ -203,36 +203,31 @@ void OtherMachine(Scene& scene)
     ExpectNoLibrary(scene, scene.folder.Write("other.dll", LibraryOfAnotherMachine(ProgramFolder() + "\\hostile.dll")));
 }
 
-// Stands in the place of a library beside the program, until the end of its life.
-class LibraryInPlaceOf
+// Puts a library for another kind of processor in the place of one beside the program, for its own lifetime.
+class OtherMachineInPlaceOf
 {
 public:
-    LibraryInPlaceOf(const std::string& name, const std::string& content)
+    explicit OtherMachineInPlaceOf(const std::string& name)
         : m_file(ProgramFolder() + "\\" + name + ".dll"), m_kept(m_file + ".kept")
     {
         TakeAway(name.c_str());
         // What a run that was ended here has left.
         MoveFileExA(m_kept.c_str(), m_file.c_str(), MOVEFILE_REPLACE_EXISTING);
         EXPECT_TRUE(MoveFileA(m_file.c_str(), m_kept.c_str()));
-        std::ofstream(m_file, std::ios::binary) << content;
+        std::ofstream(m_file, std::ios::binary) << LibraryOfAnotherMachine(m_kept);
     }
-    LibraryInPlaceOf(const LibraryInPlaceOf&) = delete;
-    LibraryInPlaceOf& operator=(const LibraryInPlaceOf&) = delete;
-    ~LibraryInPlaceOf() { EXPECT_TRUE(MoveFileExA(m_kept.c_str(), m_file.c_str(), MOVEFILE_REPLACE_EXISTING)); }
+    OtherMachineInPlaceOf(const OtherMachineInPlaceOf&) = delete;
+    OtherMachineInPlaceOf& operator=(const OtherMachineInPlaceOf&) = delete;
+    ~OtherMachineInPlaceOf() { EXPECT_TRUE(MoveFileExA(m_kept.c_str(), m_file.c_str(), MOVEFILE_REPLACE_EXISTING)); }
 
 private:
     const std::string m_file;
     const std::string m_kept;
 };
 
-LibraryInPlaceOf OtherMachineInPlaceOf(const std::string& name)
-{
-    return {name, LibraryOfAnotherMachine(ProgramFolder() + "\\" + name + ".dll")};
-}
-
 void CatalogueOfOtherMachine(Scene& scene)
 {
-    const LibraryInPlaceOf other = OtherMachineInPlaceOf("lytsrc");
+    const OtherMachineInPlaceOf other("lytsrc");
     EXPECT_EQ(scene.FindSymbol("k"), "0 as it was");
     EXPECT_EQ(scene.EndBrowser(IDCANCEL).OpenBrowser(), "0 as it was");
     EXPECT_EQ(GetModuleHandleA("lytsrc"), nullptr);
@@ -240,7 +235,7 @@ void CatalogueOfOtherMachine(Scene& scene)
 
 void ResourcesOfOtherMachine(Scene& scene)
 {
-    const LibraryInPlaceOf other = OtherMachineInPlaceOf("LytRes64");
+    const OtherMachineInPlaceOf other("LytRes64");
     EXPECT_EQ(VersionLine(scene), NoVersion());
 }
 
