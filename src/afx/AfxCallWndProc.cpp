@@ -1,27 +1,33 @@
 #include <afxwin.h>
 
+#include "CurrentFailure.h"
 #include "CurrentMessage.h"
 
 #include <exception>
+#include <memory>
 
 namespace
 {
 
-// A report that fails in its turn is given up: there is no one left to tell.
-template <class REPORT>
-void Report(REPORT report) noexcept
+void TellCurrentFailure()
 {
     try
     {
-        report();
+        throw;
     }
     catch (CException* e)
     {
-        e->Delete();
+        const std::unique_ptr<CException, void (*)(CException*)> caught(e,
+                                                                        [](CException* failure) { failure->Delete(); });
+        caught->ReportError();
+    }
+    catch (const std::exception& e)
+    {
+        AfxMessageBox(e.what());
     }
     catch (...)
     {
-        ::MessageBeep(MB_ICONERROR);
+        AfxMessageBox("An unknown error occurred.");
     }
 }
 
@@ -33,36 +39,53 @@ LRESULT FailedResult(UINT message)
 
 } // namespace
 
+void ReportCurrentFailure() noexcept
+{
+    try
+    {
+        TellCurrentFailure();
+    }
+    catch (CException* e)
+    {
+        e->Delete();
+    }
+    catch (...)
+    {
+        ::MessageBeep(MB_ICONERROR);
+    }
+}
+
+void DropCurrentFailure() noexcept
+{
+    try
+    {
+        throw;
+    }
+    catch (CException* e)
+    {
+        e->Delete();
+    }
+    catch (...)
+    {
+        return;
+    }
+}
+
 LRESULT AfxCallWndProc(CWnd& window, UINT message, WPARAM wParam, LPARAM lParam) noexcept
 {
     const HWND handle = window.m_hWnd;
-    // A window that is not validated would be painted, and fail, for ever.
-    const auto stopPainting = [&]
-    {
-        if (message == WM_PAINT)
-            ::ValidateRect(handle, nullptr);
-    };
     try
     {
         const MSG received{handle, message, wParam, lParam, 0, {}};
         const CurrentMessage current(received);
         return window.WindowProc(message, wParam, lParam);
     }
-    catch (CException* e)
-    {
-        stopPainting();
-        Report([&] { e->ReportError(); });
-        e->Delete();
-    }
-    catch (const std::exception& e)
-    {
-        stopPainting();
-        Report([&] { AfxMessageBox(e.what()); });
-    }
     catch (...)
     {
-        stopPainting();
-        Report([] { AfxMessageBox("An unknown error occurred."); });
+        // A window that is not validated would be painted, and fail, for ever.
+        if (message == WM_PAINT)
+            ::ValidateRect(handle, nullptr);
+        ReportCurrentFailure();
     }
     return FailedResult(message);
 }

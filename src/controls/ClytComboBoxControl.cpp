@@ -108,7 +108,7 @@ void ClytComboBoxControl::MoveCurrentItem(int up)
     }
     if (up != 0 && current == 0)
     {
-        lytReport("235");
+        Report("235");
         return;
     }
     // Below the last item there is none, and the arrays refuse the index.

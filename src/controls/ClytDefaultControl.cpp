@@ -32,6 +32,7 @@ ClytDefaultControl::ClytDefaultControl(ClytPosition topLeft, ClytSize extent, in
 // A button that cannot be created goes unnoticed: the dialog can still be closed by its frame.
 void ClytDefaultControl::CreateControl(ClytForm* owner)
 {
+    dialog = owner;
     if (kind < 0 || kind >= static_cast<int>(std::size(buttonKinds)))
         return;
     const ButtonKind& button = buttonKinds[kind];

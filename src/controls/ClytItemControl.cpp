@@ -83,7 +83,7 @@ void ClytItemControl<WINDOW>::FillByLibrary()
     if (!ComposeParameter(parameter))
         return;
     if (source.library.IsEmpty())
-        lytReport("251", CString(), this->name);
+        this->Report("251", CString(), this->name);
     if (!library.Load(source.library, source.span))
         return;
     auto* start = library.template Find<lytDataStart>(source.startFunction, source.span);

@@ -1,6 +1,7 @@
 #include "controls/ClytListControl.h"
 
 #include "base/ClytRedrawPause.h"
+#include "controls/ClytFocusKeeper.h"
 #include "controls/ClytPushButtonControl.h"
 #include "dlgfile/Tokenize.h"
 #include "model/ClytObserver.h"
@@ -60,6 +61,7 @@ void ClytListControl<WINDOW>::RunDoubleClick()
 {
     if (!lytMeans<ClytKeyword::DoubleClick>(this->action.GetKeyword()))
         return;
+    const ClytFocusKeeper keeper(*this->dialog);
     const CString& target = this->action.GetValues().GetHead();
     if (lytMeans<ClytValueWord::Ok>(target))
         this->dialog->OnOK();

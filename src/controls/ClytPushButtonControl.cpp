@@ -1,6 +1,7 @@
 #include "controls/ClytPushButtonControl.h"
 
 #include "base/Words.h"
+#include "controls/ClytFocusKeeper.h"
 #include "controls/ClytWaitCursor.h"
 #include "environment/ProcessState.h"
 
@@ -30,15 +31,20 @@ void ClytPushButtonControl::Click()
     if (armed == 1)
     {
         armed = 0;
+        const ClytFocusKeeper keeper(*dialog);
         if (RunAction() == After::Nothing)
             return;
-        dialog->RunDependencies();
+        dialog->RunRules();
     }
     lytSetCursor(IDC_ARROW);
 }
 
+// A click and what the window then tells the dialog of it are one command of the user.
 LRESULT ClytPushButtonControl::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
 {
+    if (dialog == nullptr)
+        return CButton::WindowProc(message, wParam, lParam);
+    const Counted inCommand = dialog->BeginCommand();
     try
     {
         TakeMessage(message, wParam);
@@ -89,7 +95,7 @@ void lytClickControl(ClytControl& target, ClytForm& dialog)
         button->Click();
         return;
     }
-    dialog.RunDependencies();
+    dialog.RunRules();
     lytSetCursor(IDC_ARROW);
 }
 

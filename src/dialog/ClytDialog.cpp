@@ -1,6 +1,5 @@
 #include "dialog/ClytDialog.h"
 
-#include "base/Counted.h"
 #include "controls/ClytGroupBoxControl.h"
 #include "controls/ClytPushButtonControl.h"
 #include "environment/ClytEnvironment.h"
@@ -28,38 +27,6 @@ int OuterLength(int wanted, int client, float factor)
     return static_cast<int>(std::clamp(length, -limit, limit));
 }
 
-// Puts the focus back into a dialog that loses it meanwhile. Keys go to the window with the focus, and disabling that
-// window leaves none.
-class FocusKeeper
-{
-public:
-    explicit FocusKeeper(const CDialog& dialog) : m_dialog(dialog), m_focus(::GetFocus()) {}
-    FocusKeeper(const FocusKeeper&) = delete;
-    FocusKeeper& operator=(const FocusKeeper&) = delete;
-    ~FocusKeeper()
-    {
-        // When another window is active the dialog gets the focus back with its activation.
-        const bool isLost = ::GetFocus() == nullptr && ::GetActiveWindow() == m_dialog.m_hWnd;
-        if (!isLost || !::IsChild(m_dialog.m_hWnd, m_focus))
-            return;
-        if (const CWnd* next = m_dialog.GetNextDlgTabItem(Control()))
-            m_dialog.GotoDlgCtrl(next);
-    }
-
-private:
-    // The child of the dialog that has the focus itself or around the window that has it, as a combo box has.
-    CWnd* Control() const
-    {
-        HWND control = m_focus;
-        while (::GetParent(control) != m_dialog.m_hWnd)
-            control = ::GetParent(control);
-        return CWnd::FromHandle(control);
-    }
-
-    const CDialog& m_dialog;
-    HWND m_focus; // null, or the window that had the focus at first
-};
-
 } // namespace
 
 BEGIN_MESSAGE_MAP(ClytDialog, CDialog)
@@ -76,6 +43,12 @@ ClytDialog::ClytDialog(CString descriptionFile, const CString& defineList)
 ClytDialog::~ClytDialog()
 {
     controlList.RemoveAll();
+    sectionList.RemoveAll();
+    dependencyList.RemoveAll();
+    outputList.RemoveAll();
+    inputList.RemoveAll();
+    controlMap.RemoveAll();
+    outputMap.RemoveAll();
 }
 
 CString ClytDialog::GetTextSection() const
@@ -102,6 +75,7 @@ BOOL ClytDialog::OnInitDialog()
     catch (...)
     {
         // Whoever handles the message tells the user. Nothing could be done with half a dialog.
+        isOver = true;
         EndDialog(constructionFailed);
         throw;
     }
@@ -119,6 +93,7 @@ bool ClytDialog::TryReadDescription()
     catch (CException* e)
     {
         const ClytCaught failure(e);
+        isOver = true;
         ShowFailure(*failure);
         return false;
     }
@@ -175,41 +150,16 @@ int ClytDialog::RunInput(const CString& partName, const CString& text)
     return 1;
 }
 
-void ClytDialog::RunDependencies()
-{
-    if (innermostRun != nullptr)
-    {
-        RunRules();
-        return;
-    }
-    const FocusKeeper keeper(*this);
-    RunRules();
-}
-
+// A command before which the rules fail is not carried out, except for Cancel: no description can keep the user in its
+// dialog.
 BOOL ClytDialog::OnCommand(WPARAM wParam, LPARAM lParam)
 {
-    if (!isDying && MayRunRules() && !RunRulesOrTell())
+    const Counted inCommand = BeginCommand();
+    const bool isCancel = LOWORD(wParam) == IDCANCEL;
+    if (CommandRunsRules() && !RunRules() && !isCancel)
         return TRUE;
     lytCommandSeen = 1;
     return CDialog::OnCommand(wParam, lParam);
-}
-
-// The message takes the focus and gives it back, which is a command, too. The rules would fail in that one again, and so
-// on inside each other without an end: while a failure is told, no rules run.
-bool ClytDialog::RunRulesOrTell()
-{
-    try
-    {
-        RunDependencies();
-        return true;
-    }
-    catch (CException* e)
-    {
-        const ClytCaught failure(e);
-        const Counted telling(toldFailures);
-        failure->ReportError();
-        return false;
-    }
 }
 
 const ClytControlDep* ClytDialog::FindDefaultButtonRule(const CString& focusName) const
@@ -260,7 +210,7 @@ void ClytDialog::OnCancel()
 
 void ClytDialog::OnDestroy()
 {
-    isDying = true;
+    isOver = true;
     CDialog::OnDestroy();
 }
 

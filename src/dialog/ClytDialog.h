@@ -37,7 +37,7 @@ public:
     ClytDialog(CString descriptionFile, const CString& defineList);
     ~ClytDialog() override;
 
-    CWnd& GetWindow() override { return *this; }
+    CDialog& GetWindow() override { return *this; }
     CString GetTextSection() const override;
     const CString& GetResult() const { return result; }
     const ClytControlList& GetControlList() const override { return controlList; }
@@ -47,12 +47,10 @@ public:
     // How far the description has been read: its last line, once all of it has.
     const ClytSpan& GetReadPlace() const { return file.GetLinePlace(); }
 
-    // Keeps the keyboard working: the focus of a control that a rule disables goes to the next tab stop.
-    void RunDependencies() override;
-    // False when a command that arrives now must not run the rules: while windows are created or the first input is
-    // scanned, while a failure of the rules is told, when a value that the innermost run reads moved the focus, and when
-    // runs are nested too deep. In the last case the innermost run makes up for the one that it refuses.
-    [[nodiscard]] bool MayRunRules();
+    // One pass over the rules. A failure is raised.
+    virtual void RunDependencies();
+    bool RunRules() override;
+    void Report(const char* number, const ClytPrefix& prefix, const CString& argument) override;
 
     // Scans lytInputKey into the controls, empties it and takes the baseline of every control.
     void ApplyInput(const CString& partName);
@@ -78,11 +76,12 @@ protected:
     BOOL OnInitDialog() override;
     // Every command runs the rules first, so that a control's own handler sees what they made of its change.
     BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
-    void OnCancel() override;
     // A statement of the layout has made a control.
     virtual void ControlMade(const ClytControl& /*control*/, const ClytControlStatement& /*statement*/) {}
     // Tells the user why the construction failed.
     virtual void ShowFailure(CException& failure) { failure.ReportError(); }
+    void OnCommandBegun() override;
+    void OnCancel() override;
     afx_msg void OnDestroy();
 
     // Reads the description, creates the controls, scans the input and runs the rules once. Any failure is raised.
@@ -120,9 +119,15 @@ private:
     // Of the control that has the focus.
     static CString FocusName();
 
-    // False after a failure, which was told.
-    bool RunRulesOrTell();
-    void RunRules();
+    // False when a command that arrives now must not run the rules: while windows are created or the first input is
+    // scanned, while a failure of the rules is shown, when a value that the innermost run reads moved the focus, and when
+    // runs are nested too deep. In the last case the innermost run repeats the one that it refuses.
+    [[nodiscard]] bool CommandRunsRules();
+    // Called where a failure of the rules was caught: tells the user, once for each of his commands.
+    void TellRuleFailure() noexcept;
+    void RunPasses();
+    // Nothing is done for a rule that has failed since the command of the user began. A failure is raised.
+    void TryRule(ClytControlDep& rule);
     void RunRule(ClytControlDep& rule);
     static void RunEventRule(ClytControlDep& rule);
     // Takes the present values of the controls that an event rule compares as the ones to compare with.
@@ -144,8 +149,16 @@ private:
     CStringList sectionList; // the words of the layout header, the text section first
     CString result;
     CString fileName;
-    Run* innermostRun = nullptr; // on the stack of RunRules
-    int toldFailures = 0;        // failures of the rules whose messages are up
+    // What became of the rules since the user gave his latest command.
+    struct Command
+    {
+        int number = 0;
+        int repeatedRuns = 0;
+        bool hasFailed = false;
+        std::vector<CString> reports; // numbers and arguments of the messages that were shown
+    };
+    Command command;
+    Run* innermostRun = nullptr; // on the stack of RunPasses
     int readDepth = 0;           // reads of a control's value in progress
-    bool isDying = false;        // the window is being destroyed, and its controls with it
+    bool isOver = false;         // no rules run again: the construction failed, or the window is being destroyed
 };

@@ -22,6 +22,7 @@ void TellPassedOver(ClytPassedOver what, const CString& name, const ClytSpan& pl
 
 void ClytDialog::ReadDescription()
 {
+    const Counted inCommand = BeginCommand();
     OpenFile();
     ReadHeader();
     ReadControls();

@@ -2,9 +2,14 @@
 #include "dialog/ClytDialog.h"
 
 #include "base/Counted.h"
+#include "controls/ClytFocusKeeper.h"
 #include "model/ClytObserver.h"
 
+#include <CurrentFailure.h>
+
+#include <algorithm>
 #include <list>
+#include <optional>
 #include <utility>
 
 int lytControlsReady = 0;
@@ -17,8 +22,8 @@ namespace
 // that without a word. A run takes two of them or more, and the dialogs below this one have had theirs.
 constexpr int deepestRun = 10;
 
-// How many runs the innermost one makes up for, so that rules that set each other off come to an end.
-constexpr int mostMadeUpRuns = 1000;
+// How many refused runs are repeated for one command of the user, so that rules that set each other off come to an end.
+constexpr int mostRepeatedRuns = 1000;
 
 // One pass over the rules.
 struct Pass
@@ -61,29 +66,89 @@ public:
         m_hasRefused = m_depth >= deepestRun;
         return !m_hasRefused;
     }
-    // True once after a run was refused, as long as it may still be made up for.
-    bool TakeRefusal() { return std::exchange(m_hasRefused, false) && m_madeUp++ < mostMadeUpRuns; }
+    // True once after a run was refused, as long as it may still be repeated.
+    bool TakeRefusal()
+    {
+        return std::exchange(m_hasRefused, false) && m_owner.command.repeatedRuns++ < mostRepeatedRuns;
+    }
 
 private:
     ClytDialog& m_owner;
     Run* m_outer; // lives longer
     int m_depth;
     int m_readsBefore; // reads in progress when the run began
-    int m_madeUp = 0;
     bool m_hasRefused = false;
 };
 
-bool ClytDialog::MayRunRules()
+void ClytDialog::OnCommandBegun()
 {
-    if (lytControlsReady == 0 || lytInputApplied == 0 || toldFailures != 0)
-        return false;
-    return innermostRun == nullptr || (!innermostRun->IsReading() && innermostRun->Admits());
+    command = {command.number + 1, 0, false, {}};
 }
 
-// A run that was refused is made up for as soon as its rule has acted, by a pass of its own with a baseline of its own,
-// and the rule keeps its mark until then. So the rules come to what they would come to if runs nested without a limit;
-// only the stack stays as it is.
-void ClytDialog::RunRules()
+bool ClytDialog::CommandRunsRules()
+{
+    if (pausedRules != 0 || lytControlsReady == 0 || lytInputApplied == 0)
+        return false;
+    if (innermostRun == nullptr)
+        return true;
+    return !innermostRun->IsReading() && command.repeatedRuns <= mostRepeatedRuns && innermostRun->Admits();
+}
+
+bool ClytDialog::RunRules()
+{
+    const Counted inCommand = BeginCommand();
+    try
+    {
+        RunDependencies();
+    }
+    catch (...)
+    {
+        TellRuleFailure();
+    }
+    return !command.hasFailed;
+}
+
+// The message takes the focus and gives it back, which is a command, too. The rules would fail in that one again, and so
+// on without an end: no rules run until the message is closed.
+void ClytDialog::TellRuleFailure() noexcept
+{
+    if (std::exchange(command.hasFailed, true))
+    {
+        DropCurrentFailure();
+        return;
+    }
+    const Counted pause = PauseRules();
+    ReportCurrentFailure();
+}
+
+void ClytDialog::Report(const char* number, const ClytPrefix& prefix, const CString& argument)
+{
+    if (innermostRun == nullptr)
+    {
+        lytReport(number, prefix, argument);
+        return;
+    }
+    const CString report = number + argument;
+    if (std::ranges::find(command.reports, report) != command.reports.end())
+        return;
+    command.reports.push_back(report);
+    const Counted pause = PauseRules();
+    lytReport(number, prefix, argument);
+}
+
+void ClytDialog::RunDependencies()
+{
+    if (isOver || pausedRules != 0)
+        return;
+    std::optional<ClytFocusKeeper> keeper;
+    if (innermostRun == nullptr)
+        keeper.emplace(*this);
+    RunPasses();
+}
+
+// A refused run is repeated right after its rule, as a separate pass with its own baseline, and the rule keeps its mark
+// until then. So the rules arrive at what runs that nest without a limit would give; only the stack does not grow.
+void ClytDialog::RunPasses()
 {
     Run run(*this);
     if (dependencyList.IsEmpty())
@@ -96,12 +161,14 @@ void ClytDialog::RunRules()
         POSITION& nextRule = passes.back().nextRule;
         if (nextRule == nullptr)
         {
-            SaveBaseline();
+            // What a failed rule was to act on stays a change, so that the next command tries it again.
+            if (!command.hasFailed)
+                SaveBaseline();
             passes.pop_back();
             continue;
         }
         ClytControlDep& rule = *dependencyList.GetNext(nextRule);
-        RunRule(rule);
+        TryRule(rule);
         if (run.TakeRefusal())
             passes.emplace_back(rule.runCount, dependencyList.GetHeadPosition());
     }
@@ -111,6 +178,21 @@ void ClytDialog::SaveBaseline()
 {
     for (ClytControl* control : baselineControls)
         control->SaveState();
+}
+
+void ClytDialog::TryRule(ClytControlDep& rule)
+{
+    if (rule.failedIn == command.number)
+        return;
+    try
+    {
+        RunRule(rule);
+    }
+    catch (...)
+    {
+        rule.failedIn = command.number;
+        throw;
+    }
 }
 
 void ClytDialog::RunRule(ClytControlDep& rule)

@@ -1,7 +1,7 @@
 #include "model/ClytControl.h"
 
 #include "base/Words.h"
-#include "environment/ClytException.h"
+#include "model/ClytForm.h"
 
 ClytControl::ClytControl(CString controlName, ClytPosition topLeft, ClytSize extent, CString text)
     : position(topLeft), size(extent), caption(std::move(text)), name(std::move(controlName))
@@ -31,20 +31,20 @@ void ClytControl::AddValues(const CString& /*text*/, const CString& /*separators
 
 void ClytControl::SetValue(const CString& /*value*/)
 {
-    lytReport("200");
+    Report("200");
 }
 
 void ClytControl::GetAllValues(CString& /*result*/, const CString& /*separators*/) {}
 
 CString ClytControl::GetValue()
 {
-    lytReport("201");
+    Report("201");
     return {};
 }
 
 CString ClytControl::GetDisplayValue()
 {
-    lytReport("201");
+    Report("201");
     return {};
 }
 
@@ -55,7 +55,7 @@ int ClytControl::IsChanged()
 
 void ClytControl::DoAction(const ClytStateWord& /*word*/)
 {
-    lytReport("247", ClytPrefix::OfKey("248"), name);
+    Report("247", ClytPrefix::OfKey("248"), name);
 }
 
 int ClytControl::DeleteCurrentItem()
@@ -125,6 +125,11 @@ int ClytControl::HasValueIn(const CStringList& values)
             return 1;
     }
     return 0;
+}
+
+void ClytControl::Report(const char* number, const ClytPrefix& prefix, const CString& argument) const
+{
+    dialog->Report(number, prefix, argument);
 }
 
 int ClytControl::TakeCommonOption(const CString& word)

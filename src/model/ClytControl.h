@@ -4,6 +4,7 @@
 // window derive from a window class first and from ClytControl second.
 #pragma once
 
+#include "environment/ClytException.h"
 #include "model/ClytControlEval.h"
 #include "model/ClytControlVal.h"
 #include "model/ClytWords.h"
@@ -81,6 +82,8 @@ public:
 protected:
     // Takes an option word and answers 1, or answers 0 for any other word.
     int TakeCommonOption(const CString& word);
+    // Shows a numbered error; the operation continues.
+    void Report(const char* number, const ClytPrefix& prefix = {}, const CString& argument = CString()) const;
     // The place of the statement that SetOption is given.
     const ClytSpan& StatementSpan() const { return statementSpan; }
 

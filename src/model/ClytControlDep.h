@@ -24,6 +24,7 @@ public:
     ClytConditions conditions;
     ClytSpan span;    // of the statement
     int runCount = 0; // above 0 while the rule is being carried out; an event rule is not entered again then
+    int failedIn = 0; // the number of the user's command in which the rule has failed; 0 for none
 
 private:
     ClytControl* control = nullptr; // the form's, which outlives the rule's use

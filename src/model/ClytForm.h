@@ -1,11 +1,13 @@
 // A dialog as its controls see it.
 #pragma once
 
+#include "base/Counted.h"
+#include "environment/ClytException.h"
 #include "model/ClytControl.h"
 
 #include <optional>
 
-class CWnd;
+class CDialog;
 
 using ClytControlList = ClytOwnedList<ClytControl, CPtrList>;
 
@@ -13,7 +15,7 @@ class ClytForm
 {
 public:
     // The window that those of the controls are children of; it has the font that they take.
-    virtual CWnd& GetWindow() = 0;
+    virtual CDialog& GetWindow() = 0;
     // The section of the language texts in which captions are keys; empty when the layout names none.
     virtual CString GetTextSection() const = 0;
     // Null for an unknown name.
@@ -25,8 +27,20 @@ public:
     virtual int ComposeNamedOutput(const CString& groupName, CString& target) = 0;
     // Runs an input part over a text, from its statement "Start"; 0 when there is no such part.
     virtual int RunInput(const CString& partName, const CString& text) = 0;
-    // One pass over the dependency rules in file order, then a new baseline for the controls of their conditions.
-    virtual void RunDependencies() = 0;
+    // One pass over the dependency rules in file order, then a new baseline for the controls of their conditions. False
+    // when a rule has failed since the command of the user began, of which the user has been told once.
+    virtual bool RunRules() = 0;
+    // Commands that arrive while the result lives run no rules.
+    [[nodiscard]] Counted PauseRules() { return Counted(pausedRules); }
+    // What the form is told while the result lives belongs to one command of the user.
+    [[nodiscard]] Counted BeginCommand()
+    {
+        if (openCommands == 0)
+            OnCommandBegun();
+        return Counted(openCommands);
+    }
+    // Shows a numbered error and continues. Inside the rules the same message is shown once for each command of the user.
+    virtual void Report(const char* number, const ClytPrefix& prefix, const CString& argument) = 0;
     // What Return and the OK button do.
     virtual void OnOK() = 0;
     // Shows the dialog of a description over this one; its result, or nothing when it was not confirmed.
@@ -34,4 +48,9 @@ public:
 
 protected:
     ~ClytForm() = default;
+    // The first of what may become many messages of one command.
+    virtual void OnCommandBegun() = 0;
+
+    int pausedRules = 0;  // above 0 while commands run no rules
+    int openCommands = 0; // above 0 while a command of the user is carried out
 };

@@ -276,6 +276,19 @@ TEST_F(Rules, MakeUpForAThousandRunsAtMost)
     EXPECT_EQ(opened.Value("F1011"), "text");
 }
 
+// Fifteen rules that show, read and hide a list would begin runs inside each other for hours.
+TEST_F(Rules, RepeatAThousandRunsAtMostForOneCommandWhereverTheyWereRefused)
+{
+    text.values = "L = a\nL = b\nL = c\n";
+    text.input = "Start: (\"#\", End, Rest, End = L\n";
+    for (int round = 0; round < 3; ++round)
+        text.dependencies += "L/VISIBLE = A(NULL)\nB/ACTIVE = L(x)\nL/HIDE = A\nL/VISIBLE = \nL/VISIBLE = C(q)\n";
+    LiveForm& opened = Open("no item");
+    opened.Enter("A", "x");
+    EXPECT_EQ(opened.deepestRun, deepestNesting);
+    EXPECT_LT(opened.runCount, 2000) << "for the commands of one letter";
+}
+
 TEST_F(Rules, ComeToWhatRunsWithoutALimitWouldComeTo)
 {
     for (unsigned seed = 1; seed <= 20; ++seed)

@@ -5,6 +5,8 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <new>
+#include <stdexcept>
 #include <string>
 
 #define NASTY_EXPORT extern "C" __declspec(dllexport)
@@ -41,6 +43,8 @@ NASTY_EXPORT lytDataNext NextThree;
 NASTY_EXPORT lytDataText FullText;
 NASTY_EXPORT lytDataText SilentText;
 NASTY_EXPORT lytDataText EchoText;
+NASTY_EXPORT lytDataNext NextFailing;
+NASTY_EXPORT lytDataText FailingText;
 
 void Open(const char* parameter)
 {
@@ -105,6 +109,14 @@ int NextThree(char* display, int, char* value, int)
     return delivered < 3 ? PutItem(display, value, names[delivered++]) : 0;
 }
 
+// Two items, and then an exception.
+int NextFailing(char* display, int, char* value, int)
+{
+    if (delivered == 2)
+        throw std::runtime_error("no third item");
+    return PutItem(display, value, "item " + std::to_string(delivered++));
+}
+
 int FullText(const char*, char* text, int size)
 {
     std::memset(text, 'T', static_cast<size_t>(size) + 1);
@@ -120,4 +132,15 @@ int EchoText(const char* parameter, char* text, int size)
 {
     std::snprintf(text, static_cast<size_t>(size), "<%s> %d", parameter, size);
     return 0;
+}
+
+// Raises what the parameter says.
+int FailingText(const char* parameter, char*, int)
+{
+    const std::string kind = parameter;
+    if (kind == "number")
+        throw 7;
+    if (kind == "memory")
+        throw std::bad_alloc();
+    throw std::runtime_error("the partner is out of order");
 }

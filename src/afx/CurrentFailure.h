@@ -1,0 +1,8 @@
+// What a handler of last resort does with the exception that it caught, of whatever type it is.
+#pragma once
+
+// Called inside a catch block: tells the user of the exception that is being handled. A report that fails in its turn is
+// given up: there is no one left to tell.
+void ReportCurrentFailure() noexcept;
+// The same without a word.
+void DropCurrentFailure() noexcept;
