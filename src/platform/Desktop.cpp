@@ -87,6 +87,23 @@ void Desktop::ForgetTopLevel(const Window& dying)
     }
 }
 
+std::vector<HWND> Desktop::OwnedBy(const Window& owner) const
+{
+    std::vector<HWND> owned;
+    std::ranges::copy_if(m_topLevels, std::back_inserter(owned),
+                         [&](HWND each) { return Find(each)->owner == &owner; });
+    return owned;
+}
+
+HWND Desktop::SuccessorOf(const Window& going) const
+{
+    if (going.owner != nullptr && going.owner->IsReady())
+        return going.owner->handle;
+    const auto found =
+        std::ranges::find_if(m_topLevels, [&](HWND each) { return each != going.handle && Find(each)->IsReady(); });
+    return found != m_topLevels.end() ? *found : nullptr;
+}
+
 void Desktop::Activate(HWND window)
 {
     if (active == window)

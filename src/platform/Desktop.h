@@ -32,6 +32,9 @@ public:
     // Takes a window out of the tree, without a message.
     void Forget(HWND window);
 
+    std::vector<HWND> OwnedBy(const Window& owner) const;
+    // The top-level window that is activated when this one goes: its owner, or another; null when none can be.
+    HWND SuccessorOf(const Window& going) const;
     // Activates a top-level window; null activates none. The windows are told.
     void Activate(HWND window);
     // Moves the focus inside the active window and tells both windows.

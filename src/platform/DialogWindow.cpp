@@ -9,6 +9,18 @@
 namespace platform
 {
 
+namespace
+{
+
+void SelectAndFocus(HWND child)
+{
+    if (HasCode(child, DLGC_HASSETSEL))
+        ::SendMessageA(child, EM_SETSEL, 0, -1);
+    ::SetFocus(child);
+}
+
+} // namespace
+
 bool HasCode(HWND window, UINT codes, WPARAM key)
 {
     return (SendMessageA(window, WM_GETDLGCODE, key, 0) & codes) != 0;
@@ -41,14 +53,14 @@ LRESULT DialogWindow::HandleDefault(UINT message, WPARAM wParam, LPARAM lParam)
     case DM_SETDEFID: defaultId = static_cast<int>(wParam); return TRUE;
     case WM_NEXTDLGCTL: MoveToControl(wParam, lParam); return 0;
     case WM_SETFOCUS:
-        if (!hasEnded)
-            RestoreFocus();
+        if (!hasEnded && !RestoreSavedFocus())
+            FocusFirst();
         return 0;
     case WM_ACTIVATE:
-        if (LOWORD(wParam) == WA_INACTIVE)
-            m_savedFocus = FocusedChild() != nullptr ? ::GetFocus() : nullptr;
-        else if (const HWND saved = std::exchange(m_savedFocus, nullptr); ::IsWindow(saved))
-            ::SetFocus(saved);
+        if (LOWORD(wParam) != WA_INACTIVE)
+            RestoreSavedFocus();
+        else if (FocusedChild() != nullptr)
+            m_savedFocus = ::GetFocus();
         return 0;
     case WM_CLOSE:
         ::PostMessageA(handle, WM_COMMAND, MAKEWPARAM(IDCANCEL, BN_CLICKED),
@@ -122,9 +134,7 @@ void DialogWindow::MoveToControl(WPARAM wParam, LPARAM lParam)
 
 void DialogWindow::FocusChild(HWND child)
 {
-    if (HasCode(child, DLGC_HASSETSEL))
-        ::SendMessageA(child, EM_SETSEL, 0, -1);
-    ::SetFocus(child);
+    SelectAndFocus(child);
     MoveDefaultTo(child);
 }
 
@@ -167,17 +177,18 @@ Window* DialogWindow::FocusedChild() const
     return window;
 }
 
-void DialogWindow::RestoreFocus()
+bool DialogWindow::RestoreSavedFocus()
 {
-    const HWND saved = std::exchange(m_savedFocus, nullptr);
-    if (::IsWindow(saved))
-        ::SetFocus(saved);
-    else if (const Window* first = NextTabStop(nullptr))
-    {
-        if (HasCode(first->handle, DLGC_HASSETSEL))
-            ::SendMessageA(first->handle, EM_SETSEL, 0, -1);
-        ::SetFocus(first->handle);
-    }
+    if (hasEnded || !::IsWindow(m_savedFocus))
+        return false;
+    ::SetFocus(std::exchange(m_savedFocus, nullptr));
+    return true;
+}
+
+void DialogWindow::FocusFirst()
+{
+    if (const Window* first = NextTabStop(nullptr))
+        SelectAndFocus(first->handle);
 }
 
 } // namespace platform

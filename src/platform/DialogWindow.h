@@ -25,19 +25,22 @@ public:
     Window* FocusedChild() const;
     // A button has become a default button, or has ceased to be one.
     void NoteButton(HWND button, bool isDefault);
-    // A dialog that has no saved focus gives it to its first tab stop.
-    void RestoreFocus();
+    // Gives the focus to the first tab stop.
+    void FocusFirst();
 
     DLGPROC dialogProcedure = nullptr;
     int defaultId = IDOK;
+    bool enablesOwner = false; // which its modal run has disabled
     bool hasEnded = false;
-    INT_PTR result = 0;
+    INT_PTR result = IDOK;
 
 private:
     bool IsHandledByProgram(UINT message, WPARAM wParam, LPARAM lParam) const;
     LRESULT HandleDefault(UINT message, WPARAM wParam, LPARAM lParam);
     // The child after (before) one of the children, around the end.
     Window& Neighbour(const Window& child, bool backwards) const;
+    // Gives the focus back to the control that had it before the dialog lost its activation; false when there is none.
+    bool RestoreSavedFocus();
     void MoveToControl(WPARAM wParam, LPARAM lParam);
     void MoveDefaultTo(HWND focused) const;
     HWND DefaultButton() const;

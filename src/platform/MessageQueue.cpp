@@ -6,6 +6,8 @@
 #include <algorithm>
 #include <array>
 #include <deque>
+#include <optional>
+#include <utility>
 #include <vector>
 
 namespace platform
@@ -29,6 +31,7 @@ struct Key
 };
 
 std::deque<MSG> posted;
+std::optional<int> quit; // the exit code of a quit message
 std::deque<Key> typed;
 std::vector<Timer> timers;
 UINT_PTR lastTimer = 0;
@@ -39,6 +42,14 @@ bool isAltAlone = false;
 bool IsDown(UINT key)
 {
     return isDown[key];
+}
+
+bool TakeQuit(MSG& message)
+{
+    if (!quit)
+        return false;
+    message = {nullptr, WM_QUIT, static_cast<WPARAM>(*std::exchange(quit, std::nullopt)), 0, 0, {}};
+    return true;
 }
 
 // A key is down from the moment that its message is taken. While Alt is down keys have their other messages, which the
@@ -88,7 +99,7 @@ char CharacterOf(WPARAM key)
 bool TakeMessage(MSG& message)
 {
     if (posted.empty())
-        return TakeTypedKey(message) || TakeTimer(message);
+        return TakeQuit(message) || TakeTypedKey(message) || TakeTimer(message);
     message = posted.front();
     posted.pop_front();
     return true;
@@ -96,7 +107,7 @@ bool TakeMessage(MSG& message)
 
 bool IsIdle()
 {
-    return posted.empty() && typed.empty();
+    return posted.empty() && !quit && typed.empty();
 }
 
 bool TakePosted(HWND window, UINT message)
@@ -136,6 +147,16 @@ BOOL PostMessageA(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
     const platform::PlatformAtWork working;
     platform::posted.push_back({window, message, wParam, lParam, 0, {}});
     return TRUE;
+}
+
+void PostQuitMessage(int exitCode)
+{
+    platform::quit = exitCode;
+}
+
+BOOL PeekMessageA(MSG* message, HWND /*window*/, UINT /*first*/, UINT /*last*/, UINT /*flags*/)
+{
+    return platform::TakeQuit(*message);
 }
 
 // Timers of windows are not used: each has a procedure.

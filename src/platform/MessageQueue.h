@@ -1,5 +1,5 @@
-// The queue of the thread: what was posted comes first, then what the user typed, then timers. Time stands still while
-// there is anything to do, and goes on to the next timer when there is nothing.
+// The queue of the thread: what was posted comes first, then the quit message, then what the user typed, then timers. Time
+// stands still while there is anything to do, and jumps to the next timer when there is nothing.
 #pragma once
 
 #include <windows.h>
@@ -9,7 +9,7 @@ namespace platform
 
 // Takes the next message; false when nothing will ever come.
 bool TakeMessage(MSG& message);
-// True when all that was posted and typed has been taken.
+// True when only timers are left.
 bool IsIdle();
 // Takes one message out of turn, if it was posted to the window.
 bool TakePosted(HWND window, UINT message);

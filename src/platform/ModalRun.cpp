@@ -88,6 +88,12 @@ void RunUntilEnd(const DialogWindow& dialog)
             EndDialog(dialog.handle, IDCANCEL);
             return;
         }
+        // The runs further out end by it, too, and then the loop of the program.
+        if (message.message == WM_QUIT)
+        {
+            PostQuitMessage(static_cast<int>(message.wParam));
+            return;
+        }
         if (TakeDialogKey(dialog.handle, message))
             continue;
         TranslateKey(message);
@@ -95,10 +101,11 @@ void RunUntilEnd(const DialogWindow& dialog)
     }
 }
 
+// A dialog that ends while it opens takes the focus all the same.
 void Open(DialogWindow& dialog, LPARAM parameter)
 {
-    if (SendMessageA(dialog.handle, WM_INITDIALOG, 0, parameter) != FALSE && !dialog.hasEnded)
-        dialog.RestoreFocus();
+    if (SendMessageA(dialog.handle, WM_INITDIALOG, 0, parameter) != FALSE)
+        dialog.FocusFirst();
     if (!dialog.hasEnded)
         SetActiveWindow(dialog.handle);
 }
@@ -119,22 +126,21 @@ INT_PTR RunModal(const DialogTemplate& source, HWND owner, DLGPROC procedure, LP
     const HWND root = above != nullptr ? above->Root().handle : nullptr;
     if (GetCapture() != nullptr)
         SendMessageA(GetCapture(), WM_CANCELMODE, 0, 0);
-    EnableWindow(root, FALSE);
+    const bool disablesOwner = EnableWindow(root, FALSE) == FALSE;
     const HWND window = CreateFromTemplate(source, root);
     if (window == nullptr)
     {
-        EnableWindow(root, TRUE);
+        if (disablesOwner)
+            EnableWindow(root, TRUE);
         return notCreated;
     }
     const std::shared_ptr<Window> held = Desktop::Get().Hold(window);
     auto& dialog = static_cast<DialogWindow&>(*held);
     dialog.dialogProcedure = procedure;
+    dialog.enablesOwner = disablesOwner;
     Open(dialog, parameter);
     RunUntilEnd(dialog);
-    if (!dialog.hasEnded)
-        EnableWindow(root, TRUE);
-    DestroyWindow(window);
-    return dialog.result;
+    return DestroyWindow(window) != FALSE ? dialog.result : 0;
 }
 
 } // namespace
@@ -181,13 +187,14 @@ BOOL EndDialog(HWND dialog, INT_PTR result)
     ending->hasEnded = true;
     ending->result = result;
     const HWND owner = ending->owner != nullptr ? ending->owner->handle : nullptr;
-    EnableWindow(owner, TRUE);
+    if (ending->enablesOwner)
+        EnableWindow(owner, TRUE);
     if (ending->FocusedChild() != nullptr)
         SetFocus(dialog);
     ending->style &= ~DWORD{WS_VISIBLE};
     if (GetActiveWindow() == dialog)
     {
-        SetActiveWindow(owner);
+        SetActiveWindow(owner != nullptr ? owner : Desktop::Get().SuccessorOf(*ending));
         if (ending->IsFocused())
             SetFocus(nullptr);
     }

@@ -96,8 +96,10 @@ BOOL DestroyWindow(HWND window)
     const Window* dying = desktop.Find(window);
     if (dying == nullptr)
         return FALSE;
+    for (HWND owned : desktop.OwnedBy(*dying))
+        DestroyWindow(owned);
     if (desktop.active == window)
-        SetActiveWindow(HandleOf(dying->owner));
+        SetActiveWindow(desktop.SuccessorOf(*dying));
     else if (dying->parent != nullptr && dying->IsFocused())
         SetFocus(dying->parent->handle);
     TellDestruction(window);

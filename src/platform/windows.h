@@ -185,6 +185,7 @@ enum : UINT
     WM_GETTEXTLENGTH = 0xE,
     WM_PAINT = 0xF,
     WM_CLOSE = 0x10,
+    WM_QUIT = 0x12,
     WM_SHOWWINDOW = 0x18,
     WM_CANCELMODE = 0x1F,
     WM_NEXTDLGCTL = 0x28,
@@ -214,6 +215,7 @@ enum : UINT
     DM_SETDEFID = WM_USER + 1,
     DC_HASDEFID = 0x534B,
 
+    PM_REMOVE = 1,
     SIZE_RESTORED = 0,
     WA_INACTIVE = 0,
     WA_ACTIVE = 1,
@@ -409,6 +411,9 @@ DWORD GetCurrentProcessId();
 // Messages and their queue
 LRESULT SendMessageA(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 BOOL PostMessageA(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+void PostQuitMessage(int exitCode);
+// Takes the quit message: outside of modal runs nobody looks for another.
+BOOL PeekMessageA(MSG* message, HWND window, UINT first, UINT last, UINT flags);
 LRESULT DefWindowProcA(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 LRESULT CallWindowProcA(WNDPROC procedure, HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 UINT_PTR SetTimer(HWND window, UINT_PTR id, UINT milliseconds, TIMERPROC procedure);

@@ -190,7 +190,8 @@ void Stage::Run()
     std::printf("\n## %s\n", m_title);
     Look([this] { EndDialog(7); });
     const INT_PTR result = DoModal();
-    Print("gives %d, %s", static_cast<int>(result), m_robot.Done() ? "done" : "given up");
+    const char* const end = m_robot.Done() ? "done" : m_robot.HasGivenUp() ? "given up" : "before its acts did";
+    Print("gives %d, %s", static_cast<int>(result), end);
 }
 
 BOOL Stage::OnInitDialog()
@@ -207,6 +208,8 @@ BOOL Stage::OnInitDialog()
                                  control.style | WS_CHILD | WS_VISIBLE, place, this, static_cast<UINT>(control.id));
         control.window->SendMessage(WM_SETFONT, static_cast<WPARAM>(SendMessage(WM_GETFONT)), TRUE);
     }
+    if (onOpen)
+        onOpen();
     return TRUE;
 }
 

@@ -78,6 +78,8 @@ public:
 
     // What a button's command does beyond the record.
     std::function<void(int id, int code)> onCommand;
+    // What happens when the controls are there and the dialog is not shown yet.
+    std::function<void()> onOpen;
 
 protected:
     BOOL OnInitDialog() override;
@@ -114,6 +116,7 @@ void Lists();
 void Combos();
 void Trees();
 void Dialogs();
+void Endings();
 void Keys();
 void Measuring();
 // Of the sequences from one number to before another; a shown one prints every act and state.

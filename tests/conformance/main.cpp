@@ -17,8 +17,8 @@ int main(int argc, char** argv)
         void (*run)();
     };
     static constexpr Chapter chapters[] = {
-        {"buttons", Buttons}, {"edits", Edits},     {"lists", Lists}, {"combos", Combos},
-        {"trees", Trees},     {"dialogs", Dialogs}, {"keys", Keys},   {"measuring", Measuring},
+        {"buttons", Buttons}, {"edits", Edits},     {"lists", Lists}, {"combos", Combos},       {"trees", Trees},
+        {"dialogs", Dialogs}, {"endings", Endings}, {"keys", Keys},   {"measuring", Measuring},
     };
     const HINSTANCE module = ::GetModuleHandleA(nullptr);
     *AfxGetStaticModuleState() = {module, module};
