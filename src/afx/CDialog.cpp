@@ -56,6 +56,7 @@ INT_PTR CDialog::DoModal()
     ::InitCommonControlsEx(&classes);
 
     INT_PTR result = -1;
+    m_nModalResult = IDCANCEL;
     Creation creation{*this, {}};
     {
         const HWND owner = m_pParentWnd != nullptr ? m_pParentWnd->m_hWnd : ::GetActiveWindow();
@@ -66,7 +67,14 @@ INT_PTR CDialog::DoModal()
     if (modalDepth == 0)
         DeleteTempMap();
     creation.failure.Rethrow();
-    return result;
+    constexpr INT_PTR notCreated = -1;
+    return result == notCreated ? notCreated : m_nModalResult;
+}
+
+void CDialog::EndDialog(int result)
+{
+    m_nModalResult = result;
+    ::EndDialog(m_hWnd, result);
 }
 
 // The platform's own dialog procedure stays in charge of keys and focus; ours only joins the object with its window.

@@ -124,11 +124,12 @@ class CDialog : public CWnd
 public:
     explicit CDialog(UINT templateId, CWnd* parent = nullptr) : m_nIDTemplate(templateId), m_pParentWnd(parent) {}
 
-    // Runs the dialog; its owner is the parent, or the thread's active window without one. Gives what EndDialog was
-    // told, -1 when there is no such template, the object has a window already or another thread has windows up. Raises
-    // what joining the window raised, once the window is gone again.
-    INT_PTR DoModal();
-    void EndDialog(int result) const { ::EndDialog(m_hWnd, result); }
+    // Runs the dialog; its owner is the parent, or the thread's active window without one. Gives what the object told
+    // EndDialog; IDCANCEL when others ended or destroyed the window, or a quit message did, which waits for the host's
+    // own loop again; -1 when there is no such template, the object has a window already or another thread has windows
+    // up. Raises what joining the window raised, once the window is gone again.
+    virtual INT_PTR DoModal();
+    void EndDialog(int result);
     // Gives a child the focus as the Tab key does.
     void GotoDlgCtrl(const CWnd* child) const
     {
@@ -148,7 +149,8 @@ private:
     LRESULT HandleInitDialog(WPARAM wParam, LPARAM lParam);
 
     UINT m_nIDTemplate;
-    CWnd* m_pParentWnd; // outlives the modal run
+    int m_nModalResult = IDCANCEL; // what the object told EndDialog
+    CWnd* m_pParentWnd;            // outlives the modal run
 };
 
 class CButton : public CWnd

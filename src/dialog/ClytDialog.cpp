@@ -197,15 +197,16 @@ std::optional<CString> ClytDialog::ShowNested(const CString& descriptionFile)
     return nested.GetResult();
 }
 
-void ClytDialog::OnCancel()
+INT_PTR ClytDialog::DoModal()
 {
+    const INT_PTR ending = CDialog::DoModal();
     // After a confirmation in the wizard the tree keeps its place for the next step.
-    if (lytTreeConfirmCount != -1)
+    if (ending == IDCANCEL && lytTreeConfirmCount != -1)
     {
         lytTreeConfirmCount = 0;
         lytRestoreTreeChoice();
     }
-    CDialog::OnCancel();
+    return ending;
 }
 
 void ClytDialog::OnDestroy()

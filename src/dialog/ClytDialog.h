@@ -37,6 +37,7 @@ public:
     ClytDialog(CString descriptionFile, const CString& defineList);
     ~ClytDialog() override;
 
+    INT_PTR DoModal() override;
     CDialog& GetWindow() override { return *this; }
     CString GetTextSection() const override;
     const CString& GetResult() const { return result; }
@@ -81,7 +82,6 @@ protected:
     // Tells the user why the construction failed.
     virtual void ShowFailure(CException& failure) { failure.ReportError(); }
     void OnCommandBegun() override;
-    void OnCancel() override;
     afx_msg void OnDestroy();
 
     // Reads the description, creates the controls, scans the input and runs the rules once. Any failure is raised.

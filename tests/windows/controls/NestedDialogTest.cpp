@@ -1,5 +1,7 @@
 #include "Form.h"
 
+#include "support/OtherEndings.h"
+
 #include <gtest/gtest.h>
 
 namespace
@@ -49,6 +51,23 @@ TEST_F(NestedDialog, CancelChangesNothing)
     Click();
     form.Cancel("Inner");
     EXPECT_EQ(form.Ok().Open().text, "outer");
+}
+
+TEST_F(NestedDialog, AnyEndOtherThanItsOwnOkChangesNothing)
+{
+    for (const OtherEnding& ending : otherEndings)
+    {
+        SCOPED_TRACE(ending.name);
+        Click();
+        form.In("Inner", [&] { ending.act(robot::ActiveDialog()); });
+        // The quit message goes on to the outer dialog.
+        if (!ending.leavesQuit)
+            form.Ok();
+        const Form::Outcome outcome = form.Open();
+        EXPECT_EQ(outcome.answer, ending.leavesQuit ? 0 : 1);
+        EXPECT_EQ(outcome.text, ending.leavesQuit ? "" : "outer");
+        EXPECT_EQ(TakeQuit(), ending.leavesQuit);
+    }
 }
 
 TEST_F(NestedDialog, AnOutputRuleThatComposesNothingDoesNotOpenIt)

@@ -1,6 +1,8 @@
 // The group dialog: the key is split before it and joined again after it.
 #include "DialogFixture.h"
 
+#include "support/OtherEndings.h"
+
 namespace
 {
 
@@ -152,6 +154,20 @@ TEST_F(Group, CancelLeavesBothBuffers)
     EXPECT_EQ(group(0, "xBNGy(a)", first.Data(), first.Size(), second.Data(), second.Size()), 0);
     EXPECT_EQ(first.Text(), "old1");
     EXPECT_EQ(second.Text(), "old2");
+}
+
+TEST_F(Group, AnyEndOtherThanItsOwnOkLeavesBothBuffers)
+{
+    for (const OtherEnding& ending : otherEndings)
+    {
+        SCOPED_TRACE(ending.name);
+        On(ending.act);
+        EXPECT_EQ(group(1, "F-002REPfindings(a;R;roofing)", first.Data(), first.Size(), second.Data(), second.Size()),
+                  0);
+        EXPECT_EQ(first.Text(), "old1");
+        EXPECT_EQ(second.Text(), "old2");
+        EXPECT_EQ(TakeQuit(), ending.leavesQuit);
+    }
 }
 
 TEST_F(Group, FirstPartThatIsTooLongIs254WithTheSize)

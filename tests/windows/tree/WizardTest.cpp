@@ -1,6 +1,8 @@
 // The wizard: from the entry picked to the texts delivered.
 #include "WizardFixture.h"
 
+#include "support/OtherEndings.h"
+
 TEST_F(Wizard, DeliversAListOneTextByOne)
 {
     EXPECT_EQ(Ask("Roof", "Group", "head/LIST{a|b|c"), "1 head/LIST{");
@@ -63,6 +65,22 @@ TEST_F(Wizard, CancelInTheTreeGivesZero)
     robot.On("Catalogue", [](HWND dialog) { TreeWindow(dialog).Cancel(); });
     EXPECT_EQ(Next(), "0 untouched");
     EXPECT_TRUE(robot.Done()) << robot.Log();
+}
+
+TEST_F(Wizard, AnyEndOtherThanItsOwnOkGivesZero)
+{
+    for (const OtherEnding& ending : otherEndings)
+    {
+        SCOPED_TRACE(ending.name);
+        robot::Robot robot;
+        robot.On("Catalogue", ending.act);
+        EXPECT_EQ(Next(), "0 untouched");
+        EXPECT_EQ(TakeQuit(), ending.leavesQuit);
+        robot.On("Catalogue", [](HWND dialog) { TreeWindow(dialog).Pick("Roof"); }).On("Group", ending.act);
+        EXPECT_EQ(Next(), "0 untouched");
+        EXPECT_EQ(TakeQuit(), ending.leavesQuit);
+        EXPECT_TRUE(robot.Done()) << robot.Log();
+    }
 }
 
 TEST_F(Wizard, CancelInADialogGivesZeroAndStartsNoDelivery)
