@@ -12,7 +12,7 @@ WIDTH = 120
 
 
 def _argument(argument: Argument) -> str:
-    return f"ByVal {argument.name} As {TYPES[argument.kind]}"
+    return f"ByVal {argument.macro_name} As {TYPES[argument.kind]}"
 
 
 def _form(function: Function) -> tuple[str, str, str]:

@@ -30,6 +30,13 @@ class Argument:
     compared: bool = False
 
     @property
+    def macro_name(self) -> str:
+        """The name in the module for macros. The macro editor writes a word alike in the whole template, in small letters
+        if a parameter of that name is: so a parameter has no name that the word processor's objects use, such as Text.
+        """
+        return f"the{self.name[0].upper()}{self.name[1:]}"
+
+    @property
     def direction(self) -> str:
         if self.kind != "buffer":
             return "in"

@@ -89,7 +89,7 @@ def wanted(exports: table.Table, form: str, types: dict[str, str]) -> dict[str, 
     return {
         function.name: (
             bool(function.results),
-            [form.format(type=types[argument.kind], name=argument.name) for argument in function.arguments],
+            [form.format(type=types[argument.kind], name=argument.name, macro=argument.macro_name) for argument in function.arguments],
         )
         for function in exports.functions
     }
@@ -111,7 +111,7 @@ def differences(library: Path, import_libraries: list[Path]) -> list[str]:
     if header != wanted(exports, "{type} {name}", C_TYPES):
         found.append(f"include/lyt64.h declares other functions than the table: {header}")
     module = declarations((ROOT / "host/lyt64.bas").read_bytes().decode("cp1252"))
-    if module != wanted(exports, "ByVal {name} As {type}", MACRO_TYPES):
+    if module != wanted(exports, "ByVal {macro} As {type}", MACRO_TYPES):
         found.append(f"host/lyt64.bas declares other functions than the table: {module}")
     return found
 

@@ -26,6 +26,28 @@ TEST_F(LibraryMacros, AreReadByTheirHostAsTheyStand)
         EXPECT_EQ(moduleText[end - 1], '\r');
 }
 
+TEST_F(LibraryMacros, AreNotInTheListOfMacros)
+{
+    EXPECT_TRUE(macros::ReadModule(moduleText, true).isPrivate);
+}
+
+// The macro editor writes a word in the whole template as its last declaration has it.
+TEST_F(LibraryMacros, LeaveTheWordsOfOtherModulesAsTheyAre)
+{
+    const std::set<std::string> words = {"characters", "count",    "document", "field",  "file",  "first",  "index",
+                                         "item",       "items",    "key",      "kind",   "last",  "level",  "lines",
+                                         "name",       "names",    "number",   "path",   "range", "result", "second",
+                                         "section",    "selected", "size",     "target", "text",  "type",   "value"};
+    for (const bool is64Bit : {true, false})
+    {
+        for (const macros::Line& line : macros::ReadLines(moduleText, is64Bit))
+        {
+            for (size_t i = 0; i + 1 < line.tokens.size(); ++i)
+                EXPECT_FALSE(line.tokens[i + 1].Is("as") && words.contains(line.tokens[i].text)) << line.number;
+        }
+    }
+}
+
 TEST_F(LibraryMacros, FindTheLibraryByItsFullPathAlone)
 {
     EXPECT_EQ(FailureOf("freeglobalobject"), "File not found: lyt64.dll");
@@ -107,6 +129,7 @@ TEST_F(LibraryMacros, TellOfACopyThatLacksAFunction)
     EXPECT_EQ(DiagnosisFor("partner"),
               Diagnosis("partner\\lyt64.dll", "This copy has no function lytInitialiseEnvironment.",
                         "Replace it by the lyt64.dll that this module came with."));
+    EXPECT_EQ(FailureOf("lytstart", {Given(""), Given(""), Given("")}), TextOf("lytdiagnose"));
 }
 
 TEST_F(LibraryMacros, TellThatAllIsWell)

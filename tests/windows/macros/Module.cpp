@@ -83,12 +83,9 @@ private:
         if (Skip("attribute"))
             return;
         if (Skip("option"))
-        {
-            Expect("explicit");
-            m_isExplicit = true;
-            return;
-        }
-        if (!Skip("public"))
+            return ReadOption();
+        const bool isProcedure = Current().tokens[m_place].Is("function") || Current().tokens[m_place].Is("sub");
+        if (!isProcedure && !Skip("public"))
             Expect("private");
         if (Skip("declare"))
             ReadLibraryFunction();
@@ -102,6 +99,18 @@ private:
             ReadVariable();
         if (!AtEnd())
             throw MacroError(syntaxError, "there is more on the line than the declaration");
+    }
+
+    void ReadOption()
+    {
+        if (Skip("private"))
+        {
+            Expect("module");
+            m_module.isPrivate = true;
+            return;
+        }
+        Expect("explicit");
+        m_isExplicit = true;
     }
 
     void Note(const std::string& name)

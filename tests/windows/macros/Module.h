@@ -57,6 +57,7 @@ struct Module
     std::map<std::string, Procedure> procedures;
     std::map<std::string, Variable> variables;
     std::vector<Constant> constants; // in their order, as later ones use earlier ones
+    bool isPrivate = false;          // its procedures are off the list of macros
 };
 
 // Raises MacroError, with the number of the line, for a mistake. Every name may stand there once.

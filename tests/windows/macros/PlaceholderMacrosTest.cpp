@@ -157,6 +157,61 @@ TEST_F(PlaceholderMacros, LeaveNothingOfAGroupBehindThatIsTooLong)
     EXPECT_EQ(NumberOf("lytwizard", {macros::Object()}), 0) << "the catalogue is shown again";
 }
 
+TEST_F(PlaceholderMacros, RefuseATextOfTheWizardThatIsTooLong)
+{
+    const struct
+    {
+        const char* entry;
+        const char* dialog;
+        std::string text;
+    } cases[] = {
+        {"Material", "lytWzSym", tooLong},
+        {"Access", "lytWzPhr", tooLong},
+        {"Paving", "lytWzGrp", tooLong + "/LIST{a|b"},
+        {"Paving", "lytWzGrp", "head/LIST{" + tooLong},
+        {"Paving", "lytWzGrp", "head/LIST{a|" + tooLong},
+    };
+    for (const auto& c : cases)
+    {
+        SCOPED_TRACE(c.dialog);
+        Pick(c.entry);
+        Answer(c.dialog, c.text);
+        EXPECT_EQ(FailureOf("lytwizard", {macros::Object()}), "The text is longer than 65536 characters. Shorten it.");
+        EXPECT_EQ(error, Error(6404));
+    }
+}
+
+TEST_F(PlaceholderMacros, CollectATextOfTheWizardThatIsEmpty)
+{
+    Pick("Material");
+    Answer("lytWzSym", "");
+    EXPECT_EQ(NumberOf("lytwizard", {macros::Object()}), 2);
+    EXPECT_EQ(ItemsAt(0), Lines{""});
+}
+
+TEST_F(PlaceholderMacros, MayNotStopWhileAWindowIsOpen)
+{
+    std::string refusal;
+    robot.On("lytInSym",
+             [&](HWND dialog)
+             {
+                 try
+                 {
+                     module->Call("lytstop");
+                 }
+                 catch (const macros::MacroError& raised)
+                 {
+                     refusal = raised.what();
+                 }
+                 robot::Press(GetDlgItem(dialog, IDCANCEL));
+             });
+    EXPECT_EQ(NumberOf("lyteditsymbol", {Given("old")}), cancelled);
+    EXPECT_EQ(refusal, "A window of lyt64 is open. Close it before LytStop.");
+
+    Call("lytstop");
+    EXPECT_EQ(FailureOf("lytdocument"), "Call LytStart before any other function of lyt64.");
+}
+
 TEST_F(PlaceholderMacros, PickInTheCatalogue)
 {
     Pick("Material");

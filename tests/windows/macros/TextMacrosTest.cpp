@@ -85,6 +85,18 @@ TEST_F(TextMacros, FetchTheReportLineByLine)
     EXPECT_TRUE(isListed);
 }
 
+// A character takes two bytes in such a code page, so that a line with fewer characters may have been cut.
+TEST_F(TextMacros, FetchAWholeReportLineOfTwoByteCharacters)
+{
+    std::string names;
+    while (names.size() < 300)
+        names += "\x83\x41";
+    folder.Write("init/lyt.ini", "[Printers]\nnames=" + names + "\n");
+    const macros::HostCodePage japanese(932);
+    const Lines lines = ItemsIn(Call("lytreport", {Given(folder.Path())}));
+    EXPECT_EQ(std::ranges::count(lines, "  names = " + names), 1);
+}
+
 TEST_F(TextMacros, OpenTheParaTreeUnderItsOwnName)
 {
     Pick("", IDCANCEL);

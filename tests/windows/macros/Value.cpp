@@ -5,6 +5,23 @@
 namespace macros
 {
 
+namespace
+{
+
+UINT hostCodePage = CP_ACP;
+
+} // namespace
+
+HostCodePage::HostCodePage(unsigned codePage)
+{
+    hostCodePage = codePage;
+}
+
+HostCodePage::~HostCodePage()
+{
+    hostCodePage = CP_ACP;
+}
+
 Text TextFrom(const std::wstring& characters)
 {
     return {characters, true};
@@ -14,7 +31,7 @@ std::wstring Wide(const std::string& bytes)
 {
     std::wstring text(bytes.size(), L'\0');
     const int size = static_cast<int>(bytes.size());
-    text.resize(static_cast<size_t>(MultiByteToWideChar(CP_ACP, 0, bytes.data(), size, text.data(), size)));
+    text.resize(static_cast<size_t>(MultiByteToWideChar(hostCodePage, 0, bytes.data(), size, text.data(), size)));
     return text;
 }
 
@@ -22,7 +39,7 @@ std::string Bytes(const std::wstring& text)
 {
     const int size = static_cast<int>(text.size());
     std::string bytes(text.size() * 2, '\0');
-    bytes.resize(static_cast<size_t>(WideCharToMultiByte(CP_ACP, 0, text.data(), size, bytes.data(),
+    bytes.resize(static_cast<size_t>(WideCharToMultiByte(hostCodePage, 0, text.data(), size, bytes.data(),
                                                          static_cast<int>(bytes.size()), nullptr, nullptr)));
     return bytes;
 }

@@ -62,9 +62,19 @@ constexpr long long fileNotFound = 53;
 constexpr long long noSuchFunction = 453;
 
 Text TextFrom(const std::wstring& characters);
-// Between wide texts and bytes in the ANSI code page.
+// Between wide texts and bytes in the host's code page.
 std::wstring Wide(const std::string& bytes);
 std::string Bytes(const std::wstring& text);
+
+// A host with that code page, for as long as the object lives; else the system's.
+class HostCodePage
+{
+public:
+    explicit HostCodePage(unsigned codePage);
+    ~HostCodePage();
+    HostCodePage(const HostCodePage&) = delete;
+    HostCodePage& operator=(const HostCodePage&) = delete;
+};
 
 long long NumberIn(const Value& value);
 const Text& TextIn(const Value& value);
