@@ -219,7 +219,8 @@ End Function
 ' ---- New placeholders and the catalogue
 
 ' Leads through the choice. The texts to insert are in the collection: one of a symbol or a phrase, several of a group.
-' At LytNothing the author cancelled or chose nothing, and there are none.
+' The first text of a group ends with a brace, which the caller closes after the last. At LytNothing the author cancelled or
+' chose nothing, and there are none.
 Public Function LytWizard(ByRef texts As Collection) As LytKind
     Dim kindFound As Long, isTooLong As Boolean
     Set texts = New Collection

@@ -37,6 +37,11 @@ bool ClosesBlock(const Tokens& tokens)
     return tokens[0].Is("loop") || tokens[0].Is("end");
 }
 
+bool IsLabel(const Tokens& tokens)
+{
+    return tokens.size() == 2 && tokens[1].Is(":");
+}
+
 } // namespace
 
 Activation::Activation(Interpreter& interpreter, const Procedure& procedure, const Arguments& arguments)
@@ -80,8 +85,36 @@ void Activation::Declare(const std::string& name, Type type)
 
 Value Activation::Run()
 {
-    RunLines(0, m_procedure.body.size());
+    for (std::optional<size_t> start = 0; start;)
+        start = RunFrom(*start);
     return m_procedure.signature.isFunction ? m_locals[m_procedure.signature.name]->value : Value(0LL);
+}
+
+std::optional<size_t> Activation::RunFrom(size_t start)
+{
+    try
+    {
+        RunLines(start, m_procedure.body.size());
+        return std::nullopt;
+    }
+    catch (const MacroError& error)
+    {
+        if (m_handler.empty() || error.Number() == syntaxError)
+            throw;
+        m_caught = error.what();
+        return LineOfHandler();
+    }
+}
+
+size_t Activation::LineOfHandler()
+{
+    const std::string label = std::exchange(m_handler, "");
+    for (size_t line = 0; line < m_procedure.body.size(); ++line)
+    {
+        if (IsLabel(TokensAt(line)) && TokensAt(line)[0].Is(label.c_str()))
+            return line + 1;
+    }
+    throw MacroError(syntaxError, "there is no label " + label);
 }
 
 std::shared_ptr<Variable> Activation::Find(const std::string& name)
@@ -236,6 +269,8 @@ Activation::Flow Activation::RunLoop(size_t& line)
 
 Activation::Flow Activation::RunStatement(const Tokens& tokens)
 {
+    if (IsLabel(tokens))
+        return Flow::Next;
     const bool isLonger = tokens.size() > 1;
     if (tokens[0].Is("exit"))
         return tokens[1].Is("do") ? Flow::LeaveLoop : Flow::LeaveProcedure;
@@ -247,6 +282,8 @@ Activation::Flow Activation::RunStatement(const Tokens& tokens)
         RunAssignment(tokens, 1);
     else if (tokens[0].Is("err"))
         Raise(tokens);
+    else if (tokens[0].Is("on") && tokens.size() == 4)
+        m_handler = tokens[3].text; // On Error GoTo label
     else if (isLonger && tokens[1].Is("="))
         RunAssignment(tokens, 0);
     else if (isLonger && tokens[1].Is("."))

@@ -17,6 +17,7 @@ public:
     Value Call(const std::string& name, const Arguments& arguments) override;
     std::optional<Value> FindConstant(const std::string& name) override;
     long long LastError() override { return m_interpreter.m_libraries.LastError(); }
+    std::string Description() override { return m_caught; }
 
 private:
     enum class Flow
@@ -30,6 +31,10 @@ private:
     void BindLeftOut(const Parameter& parameter);
     void Declare(const std::string& name, Type type);
 
+    // Runs the lines from there on. The line to continue with, after an error that the procedure handles.
+    std::optional<size_t> RunFrom(size_t start);
+    // The line after the label that errors go to. An error in what follows it goes to the caller.
+    size_t LineOfHandler();
     // Runs the lines from the first to before the last.
     Flow RunLines(size_t first, size_t last);
     // Runs the statement or the block that begins there, and puts the line to the end of it.
@@ -56,6 +61,8 @@ private:
     const Procedure& m_procedure;
     std::map<std::string, std::shared_ptr<Variable>> m_locals;
     std::map<std::string, Value> m_constants;
+    std::string m_handler; // the label that errors go to; empty when they go to the caller
+    std::string m_caught;
 };
 
 } // namespace macros

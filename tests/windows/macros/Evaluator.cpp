@@ -180,9 +180,11 @@ Value Evaluator::Named(const std::string& name)
         return std::make_shared<Collection>();
     if (name == "err")
     {
-        if (!Skip(".") || !Skip("lastdllerror"))
-            throw MacroError(syntaxError, "Err has no such member here");
-        return m_scope.LastError();
+        if (Skip(".") && Skip("lastdllerror"))
+            return m_scope.LastError();
+        if (Skip("description"))
+            return TextFrom(Wide(m_scope.Description()));
+        throw MacroError(syntaxError, "Err has no such member here");
     }
     // A function's own name is its result, and a call when arguments follow.
     const bool hasArguments = !AtEnd() && m_tokens[m_place].Is("(");

@@ -20,6 +20,8 @@ public:
     virtual Value Call(const std::string& name, const Arguments& arguments) = 0;
     virtual std::optional<Value> FindConstant(const std::string& name) = 0;
     virtual long long LastError() = 0;
+    // The text of the error that was caught last.
+    virtual std::string Description() { return ""; }
 };
 
 class Evaluator

@@ -2,12 +2,17 @@
 
 #include <algorithm>
 #include <cwctype>
+#include <iterator>
 
 namespace macros
 {
 
 namespace
 {
+
+// Directions of a conversion.
+constexpr long long fromBytes = 64;
+constexpr long long toBytes = 128;
 
 const std::wstring& TextAt(const Arguments& arguments, size_t index)
 {
@@ -72,6 +77,20 @@ Value InSmallLetters(const Arguments& arguments)
     return TextFrom(text);
 }
 
+// One character for each byte, with either direction.
+Value Converted(const Arguments& arguments)
+{
+    const std::wstring& text = TextAt(arguments, 0);
+    if (NumberIn(arguments.at(1)->value) == toBytes)
+    {
+        const std::string bytes = Bytes(text);
+        return TextFrom(std::wstring(bytes.begin(), bytes.end()));
+    }
+    std::string bytes;
+    std::ranges::transform(text, std::back_inserter(bytes), [](wchar_t byte) { return static_cast<char>(byte); });
+    return TextFrom(Wide(bytes));
+}
+
 Value InDigits(const Arguments& arguments)
 {
     return TextFrom(std::to_wstring(NumberIn(arguments.at(0)->value)));
@@ -98,11 +117,11 @@ std::optional<Value> CallFunction(const std::string& name, const Arguments& argu
         const char* name;
         Value (*call)(const Arguments& arguments);
     } functions[] = {
-        {"len", Length},           {"left", Left},      {"right", Right},
-        {"mid", Middle},           {"instr", Position}, {"string", Repeated},
-        {"space", Blanks},         {"chr", Character},  {"chrw", Character},
-        {"lcase", InSmallLetters}, {"cstr", InDigits},  {"val", NumberOf},
-        {"strptr", AddressOfText},
+        {"len", Length},           {"left", Left},         {"right", Right},
+        {"mid", Middle},           {"instr", Position},    {"string", Repeated},
+        {"space", Blanks},         {"chr", Character},     {"chrw", Character},
+        {"lcase", InSmallLetters}, {"cstr", InDigits},     {"val", NumberOf},
+        {"strptr", AddressOfText}, {"strconv", Converted},
     };
     for (const auto& function : functions)
     {
@@ -122,6 +141,12 @@ std::optional<Value> ConstantOf(const std::string& name)
         return TextFrom(std::wstring(1, L'\0'));
     if (name == "vbnullstring")
         return Text();
+    if (name == "vbcr")
+        return TextFrom(L"\r");
+    if (name == "vbfromunicode")
+        return toBytes;
+    if (name == "vbunicode")
+        return fromBytes;
     if (name == "vbcrlf")
         return TextFrom(L"\r\n");
     if (name == "vbobjecterror")
