@@ -1,9 +1,9 @@
 #!/bin/sh
 # run-page.sh PAGE BUILD_FOLDER: does what a page of the documents tells its reader to do, in a folder of its own with
-# copies of the samples and headers. The tools of a native build are called by their names. With LYT_UPDATE set it writes
-# what was printed into the page.
+# copies of the samples and headers, and the import libraries. The tools of a native build are called by their names. With
+# LYT_UPDATE set it writes what was printed into the page.
 #
-# A block of text or ini is saved under the file name in backquotes in the line above it; one that begins with a section's
+# A block of text, settings or code is saved under the file name in backquotes in the line above it; one that begins with a section's
 # header takes the place of that section. Below the words "This is" and the name of a sample, a block must be that file. A
 # block of sh is entered at a shell, and a block of output is what it must print.
 set -u
@@ -13,7 +13,7 @@ PATH=$2/bin:$PATH
 folder=$(mktemp -d) || exit 2
 trap 'rm -rf "$folder"' EXIT
 cd "$folder" || exit 2
-mkdir build seen && ln -s "$2" build/windows && cp -r "$here/../../../samples" "$here/../../../include" . || exit 2
+mkdir build seen && ln -s "$2" build/windows && ln -s "$2/src/exports" lib && cp -r "$here/../../../samples" "$here/../../../include" . || exit 2
 
 # The page as a shell script: commands as they are, files and output as here-documents.
 awk -v q="'" '
