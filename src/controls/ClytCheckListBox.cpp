@@ -103,13 +103,10 @@ bool ClytCheckListBox::ComposeParameter(CString& parameter)
     return true;
 }
 
-void ClytCheckListBox::AddItems(ClytDataListing& listing)
+int ClytCheckListBox::AddListed(CString value, CString display, int index)
 {
-    int count = 0;
-    for (; listing.Next(); ++count)
-        PutChecked(listing.GetValue(), listing.GetDisplay(), BST_CHECKED, count);
-    if (count > 0)
-        SetCurSel(count - 1);
+    PutChecked(std::move(value), std::move(display), BST_CHECKED, index);
+    return index;
 }
 
 void ClytCheckListBox::PutChecked(CString value, CString display, int check, int place)

@@ -21,7 +21,7 @@ protected:
     void AddPiece(const CString& text) override { InsertItem(CString(), text, 1, 0, 0); }
     void AppendItem(CString& result, int index) const override;
     bool ComposeParameter(CString& parameter) override;
-    void AddItems(ClytDataListing& listing) override;
+    int AddListed(CString value, CString display, int index) override;
 
     afx_msg void OnLButtonDblClk(UINT flags, CPoint point);
     DECLARE_MESSAGE_MAP()

@@ -113,13 +113,29 @@ bool ClytItemControl<WINDOW>::ComposeParameter(CString& parameter)
 }
 
 template <class WINDOW>
+int ClytItemControl<WINDOW>::AddListed(CString value, CString display, int /*index*/)
+{
+    PutItem(std::move(value), std::move(display), 0);
+    return 0;
+}
+
+// A listing that breaks off leaves a selection, too. Without one, the next fill would not empty what this one has added.
+template <class WINDOW>
 void ClytItemControl<WINDOW>::AddItems(ClytDataListing& listing)
 {
-    bool added = false;
-    for (; listing.Next(); added = true)
-        PutItem(listing.GetValue(), listing.GetDisplay(), 0);
-    if (added)
-        this->SetCurSel(0);
+    struct LastSelection
+    {
+        ~LastSelection()
+        {
+            if (index != LB_ERR)
+                window.SetCurSel(index);
+        }
+        const WINDOW& window;
+        int index = LB_ERR;
+    };
+    LastSelection selection{*this};
+    for (int index = 0; listing.Next(); ++index)
+        selection.index = AddListed(listing.GetValue(), listing.GetDisplay(), index);
 }
 
 template <class WINDOW>

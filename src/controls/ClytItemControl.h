@@ -42,8 +42,8 @@ protected:
     virtual bool ComposeParameter(CString& parameter);
     // Adds what comes before the items of a library.
     virtual void AddHeadItem() {}
-    // Adds the items of a library. Each one added selects the first item; that is done once, after the last.
-    virtual void AddItems(ClytDataListing& listing);
+    // Adds an item of a library, counted from 0; answers which item is selected then.
+    virtual int AddListed(CString value, CString display, int index);
 
     // The text of a key in the dialog's text section.
     CString TextOf(const CString& key) const;
@@ -67,6 +67,9 @@ protected:
     ClytListSource source;
 
 private:
+    // Adds the items of a library. What each one selects is selected once, after the last.
+    void AddItems(ClytDataListing& listing);
+
     // One library for each class, for the whole process.
     static ClytDataLibrary library;
 };

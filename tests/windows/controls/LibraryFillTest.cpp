@@ -67,6 +67,23 @@ TEST_F(LibraryFill, AListThatNothingWasDeliveredToPullsTheFocusWhenItsValueIsRea
     }
 }
 
+TEST_P(EachKind, AListingThatFailsLeavesItsItemsSelectedSoThatTheNextFillEmptiesThem)
+{
+    List(kind, "nasty,Open,NextFailing");
+    const int selected = kind == "CheckListBox" ? 1 : 0;
+    for (int fill = 0; fill < 2; ++fill)
+    {
+        if (fill == 0)
+            ClickFill();
+        else
+            form.Then([this] { robot::Click(form["Fill"]); });
+        form.Message();
+        ExpectItems({"item 0", "item 1"});
+        ExpectSelected(selected);
+    }
+    EXPECT_EQ(form.Ok().Open().messages, Texts(2, "no third item"));
+}
+
 TEST_P(EachKind, BuffersFilledToTheLastByteEndThere)
 {
     List(kind, "nasty,Open,NextFull");
