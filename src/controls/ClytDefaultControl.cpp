@@ -45,3 +45,12 @@ void ClytDefaultControl::CreateControl(ClytForm* owner)
         lytTakeDialogFont(*child, window);
     }
 }
+
+// A press moves the focus first, of which the control that loses it tells the dialog: all of it is one command of the user.
+LRESULT ClytDefaultControl::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
+{
+    if (dialog == nullptr)
+        return CButton::WindowProc(message, wParam, lParam);
+    const Counted inCommand = dialog->BeginCommand();
+    return CButton::WindowProc(message, wParam, lParam);
+}

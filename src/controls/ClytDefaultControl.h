@@ -15,4 +15,7 @@ public:
     void CreateControl(ClytForm* owner) override;
     int IsActive() override { return 0; }
     int HasContent() override { return 0; }
+
+protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
 };

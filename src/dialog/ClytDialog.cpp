@@ -131,7 +131,7 @@ void ClytDialog::ApplyInput(const CString& partName)
     ClytInputPart* part = nullptr;
     if (!inputMap.Lookup(partName, part))
         lytRaise("217", CString(), partName);
-    part->Run(lytInputKey, lytStartName);
+    Scan(*part, lytInputKey);
     // Emptied, so that no nested dialog scans the same text.
     lytInputKey.Empty();
     for (POSITION place = controlList.GetHeadPosition(); place != nullptr;)
@@ -146,8 +146,15 @@ int ClytDialog::RunInput(const CString& partName, const CString& text)
         lytTellMissing(ClytMissing::InputPart, partName);
         return 0;
     }
-    part->Run(text, lytStartName);
+    Scan(*part, text);
     return 1;
+}
+
+void ClytDialog::Scan(const ClytInputPart& part, const CString& text)
+{
+    const Counted inCommand = BeginCommand();
+    const Counted scan(scanDepth);
+    part.Run(text, lytStartName);
 }
 
 // A command before which the rules fail is not carried out, except for Cancel: no description can keep the user in its

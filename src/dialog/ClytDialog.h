@@ -14,6 +14,7 @@
 
 #include <afxwin.h>
 
+#include <utility>
 #include <vector>
 
 // 0 while a dialog creates its controls, then 1. A construction that fails in between leaves it at 0.
@@ -51,7 +52,8 @@ public:
     // One pass over the rules. A failure is raised.
     virtual void RunDependencies();
     bool RunRules() override;
-    void Report(const char* number, const ClytPrefix& prefix, const CString& argument) override;
+    void Report(const ClytControl& control, const char* number, const ClytPrefix& prefix,
+                const CString& argument) override;
 
     // Scans lytInputKey into the controls, empties it and takes the baseline of every control.
     void ApplyInput(const CString& partName);
@@ -130,6 +132,8 @@ private:
     void TryRule(ClytControlDep& rule);
     void RunRule(ClytControlDep& rule);
     static void RunEventRule(ClytControlDep& rule);
+    // Runs an input part, from its statement "Start".
+    void Scan(const ClytInputPart& part, const CString& text);
     // Takes the present values of the controls that an event rule compares as the ones to compare with.
     void SaveBaseline();
     int AllConditionsHold(const ClytControlDep& rule);
@@ -155,10 +159,12 @@ private:
         int number = 0;
         int repeatedRuns = 0;
         bool hasFailed = false;
-        std::vector<CString> reports; // numbers and arguments of the messages that were shown
+        // The numbers and arguments of the messages that were shown; inside the rules without the control.
+        std::vector<std::pair<const ClytControl*, CString>> reports;
     };
     Command command;
     Run* innermostRun = nullptr; // on the stack of RunPasses
     int readDepth = 0;           // reads of a control's value in progress
+    int scanDepth = 0;           // scans in progress
     bool isOver = false;         // no rules run again: the construction failed, or the window is being destroyed
 };

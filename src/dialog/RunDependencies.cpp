@@ -121,18 +121,21 @@ void ClytDialog::TellRuleFailure() noexcept
     ReportCurrentFailure();
 }
 
-void ClytDialog::Report(const char* number, const ClytPrefix& prefix, const CString& argument)
+void ClytDialog::Report(const ClytControl& control, const char* number, const ClytPrefix& prefix,
+                        const CString& argument)
 {
-    if (innermostRun == nullptr)
+    if (innermostRun == nullptr && scanDepth == 0)
     {
         lytReport(number, prefix, argument);
         return;
     }
-    const CString report = number + argument;
+    const std::pair report(innermostRun == nullptr ? &control : nullptr, number + argument);
     if (std::ranges::find(command.reports, report) != command.reports.end())
         return;
     command.reports.push_back(report);
-    const Counted pause = PauseRules();
+    std::optional<Counted> pause;
+    if (innermostRun != nullptr)
+        pause.emplace(pausedRules);
     lytReport(number, prefix, argument);
 }
 

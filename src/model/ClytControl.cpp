@@ -129,7 +129,7 @@ int ClytControl::HasValueIn(const CStringList& values)
 
 void ClytControl::Report(const char* number, const ClytPrefix& prefix, const CString& argument) const
 {
-    dialog->Report(number, prefix, argument);
+    dialog->Report(*this, number, prefix, argument);
 }
 
 int ClytControl::TakeCommonOption(const CString& word)

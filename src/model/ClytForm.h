@@ -39,8 +39,10 @@ public:
             OnCommandBegun();
         return Counted(openCommands);
     }
-    // Shows a numbered error and continues. Inside the rules the same message is shown once for each command of the user.
-    virtual void Report(const char* number, const ClytPrefix& prefix, const CString& argument) = 0;
+    // Shows a numbered error of a control. For one command of the user the rules show the same message once, and a scan
+    // shows it once for each control: both may come to the same place many times.
+    virtual void Report(const ClytControl& control, const char* number, const ClytPrefix& prefix,
+                        const CString& argument) = 0;
     // What Return and the OK button do.
     virtual void OnOK() = 0;
     // Shows the dialog of a description over this one; its result, or nothing when it was not confirmed.
