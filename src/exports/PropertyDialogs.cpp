@@ -8,7 +8,6 @@
 #include "exports/ExportFrame.h"
 
 #include <algorithm>
-#include <optional>
 
 namespace
 {
@@ -44,16 +43,6 @@ int EditPlaceholder(const char* description, const CString& key, char* result, i
     return outcome;
 }
 
-// What a group's dialog gives back. A buffer without a text is left as the caller gave it.
-struct GroupAnswer
-{
-    Outcome outcome = nothing;
-    bool isTooLong = false; // for the first buffer
-    std::optional<CString> first;
-    std::optional<CString> second;
-    CString kind; // of the old key, for its place in the second buffer; may be empty
-};
-
 // One key of a group. The part before the bracket belongs to the document and is kept from the dialog.
 class GroupKey
 {
@@ -70,8 +59,8 @@ public:
 
     // What the dialog is to scan.
     const CString& Input() const { return m_input; }
-    // The answer to a confirmed dialog; `before` is what stands in the first buffer.
-    GroupAnswer AnswerTo(const CString& result, const CString& before, int firstSize) const;
+    // Writes the result of a confirmed dialog into the buffers.
+    Outcome HandOut(const CString& result, char* first, int firstSize, char* second, int secondSize) const;
 
 private:
     static bool IsToBeSplit(int groupKind, const CString& text)
@@ -90,59 +79,41 @@ private:
     bool m_isSplit;
 };
 
-// Cuts a result into the parts for the two buffers.
-void CutResult(const CString& result, GroupAnswer& answer)
+// Writes both parts of a result; false, after the message, when the first does not fit.
+bool WriteParts(const CString& result, char* first, int firstSize, char* second, int secondSize)
 {
     const int mark = result.Find(")/1");
-    answer.first = mark >= 0 ? result.Left(mark + 1) : CString();
-    answer.second = mark >= 0 ? result.Mid(mark + 2) : CString();
-}
-
-GroupAnswer GroupKey::AnswerTo(const CString& result, const CString& before, int firstSize) const
-{
-    GroupAnswer answer;
-    CString text = before;
-    if (!result.IsEmpty())
-    {
-        CutResult(result, answer);
-        const int length = answer.first->GetLength();
-        answer.isTooLong = length > firstSize;
-        // A text as long as its buffer leaves it empty.
-        text = length < firstSize ? *answer.first : CString();
-    }
-    if (answer.isTooLong)
-        return answer;
-
-    const int bracket = text.Find('(');
-    const CString tail = bracket >= 0 ? text.Mid(bracket) : CString();
-    answer.outcome = IsUnchanged(tail) ? unchanged : changed;
-    if (answer.outcome == unchanged || m_key.IsEmpty() || !m_isSplit)
-        return answer;
-    // A changed key gets back what the dialog has not seen.
-    answer.first = m_head + tail;
-    if (m_key.GetLength() >= kindEnd)
-        answer.kind = m_key.Mid(kindBegin, kindEnd - kindBegin);
-    return answer;
-}
-
-Outcome HandOut(const GroupAnswer& answer, char* first, int firstSize, char* second, int secondSize)
-{
-    if (answer.first)
-        CopyText(first, firstSize, *answer.first);
-    if (answer.isTooLong)
+    const CString left = mark >= 0 ? result.Left(mark + 1) : CString();
+    CopyText(first, firstSize, left);
+    if (left.GetLength() > firstSize)
     {
         CString room;
         room.Format("%d", firstSize);
         lytReport("254", CString(), room);
-        return nothing;
+        return false;
     }
-    if (!IsUsable(second, secondSize))
-        return answer.outcome;
-    if (answer.second)
-        CopyTextMarkingEnd(second, secondSize, *answer.second);
-    if (secondSize >= kindEnd)
-        std::copy_n(answer.kind.GetString(), answer.kind.GetLength(), second + kindBegin);
-    return answer.outcome;
+    if (IsUsable(second, secondSize))
+        CopyTextMarkingEnd(second, secondSize, mark >= 0 ? result.Mid(mark + 2) : CString());
+    return true;
+}
+
+// The tail is read back from the first buffer after both were written: a caller may pass one buffer as both.
+Outcome GroupKey::HandOut(const CString& result, char* first, int firstSize, char* second, int secondSize) const
+{
+    if (!result.IsEmpty() && !WriteParts(result, first, firstSize, second, secondSize))
+        return nothing;
+    const CString text = TextIn(first, firstSize);
+    const int bracket = text.Find('(');
+    const CString tail = bracket >= 0 ? text.Mid(bracket) : CString();
+    if (IsUnchanged(tail))
+        return unchanged;
+    if (m_key.IsEmpty() || !m_isSplit)
+        return changed;
+    // A changed key gets back what the dialog has not seen.
+    CopyText(first, firstSize, m_head + tail);
+    if (IsUsable(second, secondSize) && secondSize >= kindEnd && m_key.GetLength() >= kindEnd)
+        std::copy_n(m_key.GetString() + kindBegin, kindEnd - kindBegin, second + kindBegin);
+    return changed;
 }
 
 Outcome EditGroup(const GroupKey& key, const char* description, char* first, int firstSize, char* second,
@@ -153,8 +124,7 @@ Outcome EditGroup(const GroupKey& key, const char* description, char* first, int
         lytInputKey = key.Input();
     if (dialog.DoModal() != IDOK)
         return nothing;
-    const GroupAnswer answer = key.AnswerTo(dialog.GetResult(), TextIn(first, firstSize), firstSize);
-    return HandOut(answer, first, firstSize, second, secondSize);
+    return key.HandOut(dialog.GetResult(), first, firstSize, second, secondSize);
 }
 
 } // namespace

@@ -234,6 +234,19 @@ TEST_F(Group, SecondBufferMayBeMissing)
     }
 }
 
+// The tail is looked for in what the second text has left there.
+TEST_F(Group, OneBufferForBothTextsEndsWithTheSecond)
+{
+    On(
+        [](HWND dialog)
+        {
+            robot::ReplaceText(robot::ChildAt(dialog, 0), "(z)/1b(a)");
+            robot::Press(GetDlgItem(dialog, IDOK));
+        });
+    EXPECT_EQ(group(0, "xBNGy(a)", first.Data(), first.Size(), first.Data(), first.Size()), 2);
+    EXPECT_EQ(first.Text(), "1b(a)");
+}
+
 TEST_F(Group, FirstBufferMustBeThere)
 {
     EXPECT_EQ(group(0, "a", nullptr, 40, second.Data(), second.Size()), 0);
