@@ -21,9 +21,15 @@ GetVersionText* FindVersionFunction(HMODULE library)
 
 using VersionText = char[textSize];
 
+void End(VersionText& text)
+{
+    text[textSize - 1] = '\0';
+}
+
 void Clear(VersionText& text)
 {
     std::fill(std::begin(text), std::end(text), ' ');
+    End(text);
 }
 
 // What the library raises ends here: it is made of the library's code, and cannot outlive the library.
@@ -50,7 +56,7 @@ CString lytProbeResolveVersion()
     if (library.IsOpen())
         if (GetVersionText* const getVersion = FindVersionFunction(library.Get()))
             Ask(*getVersion, text);
-    // The library may not have ended the text.
-    text[textSize - 1] = '\0';
+    // The library may have written over the end.
+    End(text);
     return text;
 }

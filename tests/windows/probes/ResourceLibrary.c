@@ -1,4 +1,5 @@
 /* A resource library as the report asks it for its version. */
+#include <stdio.h>
 #include <string.h>
 
 void getLYTVersion(char* text)
@@ -14,6 +15,12 @@ void getVersion(char* text)
 void getNothing(char* text)
 {
     strcpy(text, "not asked for");
+}
+
+/* Reads the buffer as the text that it is. */
+void measureText(char* text)
+{
+    sprintf(text, "%u characters", (unsigned)strlen(text));
 }
 
 /* Writes all the room there is, without a NUL. */

@@ -45,6 +45,12 @@ TEST_F(ResourceLibrary, ThatIsMissingGivesBlanks)
     EXPECT_EQ(lytProbeResolveVersion(), blanks.c_str());
 }
 
+TEST_F(ResourceLibrary, IsGivenATextOf399Blanks)
+{
+    Provide("measuring");
+    EXPECT_EQ(lytProbeResolveVersion(), "399 characters");
+}
+
 TEST_F(ResourceLibrary, IsCutAt399CharactersWhenItLeavesNoEnd)
 {
     Provide("full");
