@@ -9,19 +9,15 @@
 namespace
 {
 
-// Modal runs that stand on the stack, one inside the other.
-int modalDepth = 0;
-
 // The owner comes out of a modal run enabled, or disabled, as it went in: not every platform looks when a dialog ends.
 class ModalRun
 {
 public:
-    explicit ModalRun(HWND owner) : m_owner(owner), m_wasEnabled(::IsWindowEnabled(owner)) { ++modalDepth; }
+    explicit ModalRun(HWND owner) : m_owner(owner), m_wasEnabled(::IsWindowEnabled(owner)) {}
     ModalRun(const ModalRun&) = delete;
     ModalRun& operator=(const ModalRun&) = delete;
     ~ModalRun()
     {
-        --modalDepth;
         if (m_owner != nullptr && ::IsWindowEnabled(m_owner) != m_wasEnabled)
             ::EnableWindow(m_owner, m_wasEnabled);
     }
@@ -64,8 +60,6 @@ INT_PTR CDialog::DoModal()
         result = ::DialogBoxParamA(AfxGetResourceHandle(), MAKEINTRESOURCEA(m_nIDTemplate), owner, DialogProc,
                                    reinterpret_cast<LPARAM>(&creation));
     }
-    if (modalDepth == 0)
-        DeleteTempMap();
     creation.failure.Rethrow();
     constexpr INT_PTR notCreated = -1;
     return result == notCreated ? notCreated : m_nModalResult;

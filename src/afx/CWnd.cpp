@@ -131,11 +131,6 @@ CWnd* CWnd::FromHandle(HWND window)
     return WindowMap::Get().FindOrMakeTemporary(window);
 }
 
-void CWnd::DeleteTempMap()
-{
-    WindowMap::Get().RemoveTemporaries();
-}
-
 LRESULT CWnd::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
 {
     LRESULT result = 0;

@@ -1,36 +1,60 @@
 #include "ModalWindows.h"
 
+#include "WindowMap.h"
+
 #include <atomic>
+#include <utility>
 
 namespace
 {
 
 std::atomic<DWORD> modalThread = 0; // 0 for none
+HANDLE openThread = nullptr;        // that thread: while it is open, no other thread gets its number
 int runs = 0;                       // of that thread, one inside the other
+
+void Release() noexcept
+{
+    WindowMap::Get().RemoveTemporaries();
+    const HANDLE thread = std::exchange(openThread, nullptr);
+    modalThread = 0;
+    ::CloseHandle(thread);
+}
+
+// True when the holder ended in the middle of its runs. They never return, and their windows are gone.
+bool TakeFromTheDead(DWORD holder) noexcept
+{
+    if (::WaitForSingleObject(openThread, 0) != WAIT_OBJECT_0 ||
+        !modalThread.compare_exchange_strong(holder, ::GetCurrentThreadId()))
+        return false;
+    runs = 0;
+    WindowMap::Get().RemoveAllPermanent();
+    Release();
+    return true;
+}
 
 bool ClaimForThisThread() noexcept
 {
     DWORD holder = 0;
-    const DWORD self = ::GetCurrentThreadId();
-    return modalThread.compare_exchange_strong(holder, self) || holder == self;
+    return !ModalWindows::AreElsewhere() &&
+           (modalThread.compare_exchange_strong(holder, ::GetCurrentThreadId()) || holder == ::GetCurrentThreadId());
 }
 
 } // namespace
 
 ModalWindows::ModalWindows() noexcept : m_areAllowed(ClaimForThisThread())
 {
-    if (m_areAllowed)
-        ++runs;
+    if (m_areAllowed && ++runs == 1)
+        openThread = ::OpenThread(SYNCHRONIZE, FALSE, ::GetCurrentThreadId());
 }
 
 ModalWindows::~ModalWindows()
 {
     if (m_areAllowed && --runs == 0)
-        modalThread = 0;
+        Release();
 }
 
 bool ModalWindows::AreElsewhere() noexcept
 {
     const DWORD holder = modalThread;
-    return holder != 0 && holder != ::GetCurrentThreadId();
+    return holder != 0 && holder != ::GetCurrentThreadId() && !TakeFromTheDead(holder);
 }

@@ -3,8 +3,8 @@
 
 #include <windows.h>
 
-// Stands on the stack around each modal run. All share the state of one form at a time, so that the runs of a process
-// belong to one thread until the last of them has ended.
+// On the stack around each modal run. All share the state of one form at a time, so that the runs of a process belong to
+// one thread until the last of them has ended, or the thread itself.
 class ModalWindows
 {
 public:

@@ -15,6 +15,7 @@ public:
     CWnd* FindPermanent(HWND window) const;
     void SetPermanent(HWND window, CWnd* object) { m_permanent[window] = {object, nullptr}; }
     void RemovePermanent(HWND window) { m_permanent.erase(window); }
+    void RemoveAllPermanent() { m_permanent.clear(); }
     // The object leaves; the procedure that stands below ours is kept for the window's sake.
     void Leave(HWND window, WNDPROC below) noexcept;
     WNDPROC FindBelow(HWND window) const;

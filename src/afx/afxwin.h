@@ -102,8 +102,6 @@ protected:
     afx_msg void OnLButtonDblClk(UINT /*flags*/, CPoint /*point*/) { Default(); }
     afx_msg void OnKeyDown(UINT /*key*/, UINT /*count*/, UINT /*flags*/) { Default(); }
 
-    static void DeleteTempMap();
-
 private:
     friend LRESULT AfxCallWndProc(CWnd& window, UINT message, WPARAM wParam, LPARAM lParam) noexcept;
 

@@ -165,6 +165,9 @@ enum : UINT
     MB_ICONERROR = 0x10,
     SEM_FAILCRITICALERRORS = 1,
     ERROR_MOD_NOT_FOUND = 126,
+    SYNCHRONIZE = 0x100000,
+    WAIT_OBJECT_0 = 0,
+    WAIT_TIMEOUT = 258,
     GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT = 2,
     GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS = 4,
     CP_ACP = 0,
@@ -619,7 +622,19 @@ inline int _localtime64_s(std::tm* local, const std::time_t* time)
     return localtime_r(time, local) != nullptr ? 0 : EINVAL;
 }
 
-// There is one thread.
+// There is one thread, and it lives.
+inline HANDLE OpenThread(DWORD /*access*/, BOOL /*isInherited*/, DWORD /*thread*/)
+{
+    return nullptr;
+}
+inline DWORD WaitForSingleObject(HANDLE /*object*/, DWORD /*milliseconds*/)
+{
+    return WAIT_TIMEOUT;
+}
+inline BOOL CloseHandle(HANDLE /*object*/)
+{
+    return TRUE;
+}
 inline void InitializeCriticalSection(CRITICAL_SECTION* /*section*/) {}
 inline void DeleteCriticalSection(CRITICAL_SECTION* /*section*/) {}
 inline void EnterCriticalSection(CRITICAL_SECTION* /*section*/) {}

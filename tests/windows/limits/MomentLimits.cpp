@@ -156,6 +156,76 @@ void CallAfterUnloading(Scene& scene)
     EXPECT_EQ(scene.ShowSymbol(), "2 key");
 }
 
+// ---- a thread that dies
+
+// Set once the thread below has a dialog up.
+HANDLE isUp = nullptr;
+
+void CALLBACK TellThatItIsUp(HWND /*window*/, UINT /*message*/, UINT_PTR /*timer*/, DWORD /*time*/)
+{
+    if (robot::ActiveDialog() != nullptr)
+        SetEvent(isUp);
+}
+
+void CALLBACK EndThread(HWND window, UINT message, UINT_PTR timer, DWORD time)
+{
+    TellThatItIsUp(window, message, timer, time);
+    if (robot::ActiveDialog() != nullptr)
+        ExitThread(0);
+}
+
+DWORD WINAPI ShowOnThisThread(void* tick)
+{
+    SetTimer(nullptr, 0, 10, reinterpret_cast<TIMERPROC>(tick));
+    Scene::Current().ShowSymbol();
+    return 1;
+}
+
+// Shows a dialog on another thread, which ends before the dialog does.
+void LoseAThread(Scene& scene, TIMERPROC tick, bool isKilled)
+{
+    isUp = CreateEventA(nullptr, TRUE, FALSE, nullptr);
+    const HANDLE thread = CreateThread(nullptr, 0, ShowOnThisThread, reinterpret_cast<void*>(tick), 0, nullptr);
+    constexpr DWORD patience = 60'000;
+    EXPECT_EQ(WaitForSingleObject(isUp, patience), WAIT_OBJECT_0);
+    if (isKilled)
+    {
+        EXPECT_EQ(scene.CallEverything(), "");
+        EXPECT_TRUE(TerminateThread(thread, 0));
+    }
+    EXPECT_EQ(WaitForSingleObject(thread, patience), WAIT_OBJECT_0);
+    CloseHandle(thread);
+    CloseHandle(isUp);
+}
+
+// The library works as if the thread had never been. The reference of the call that did not come back is the test's to
+// give up, since the next scene wants the library fresh.
+void ExpectWorking(Scene& scene)
+{
+    OnAnotherThread(
+        [&]
+        {
+            char buffer[10] = "";
+            EXPECT_EQ(scene.Get<decltype(lytGetTextForKey)>("lytGetTextForKey")("Buttons", "001", "", buffer, 10), 1);
+        });
+    scene.Describe("", "Go=DIALOG,lytInPhr,Take,Send\n");
+    scene.ClickOn("Go").OnDialog([&](HWND) { ExpectRefused(scene); }).EndDialog(IDOK).EndDialog(IDOK);
+    EXPECT_EQ(scene.ShowSymbol(), "1 <key>");
+    FreeLibrary(GetModuleHandleA("lyt64.dll"));
+}
+
+void EndBelowADialog(Scene& scene)
+{
+    LoseAThread(scene, EndThread, false);
+    ExpectWorking(scene);
+}
+
+void KillBelowADialog(Scene& scene)
+{
+    LoseAThread(scene, TellThatItIsUp, true);
+    ExpectWorking(scene);
+}
+
 constexpr Limit momentRows[] = {
     {"any function", "is called on another thread while a dialog is up",
      "refused: it gives 0, or nothing, and does nothing; the dialog goes on", CallBesideADialog},
@@ -181,6 +251,11 @@ constexpr Limit momentRows[] = {
      "it works, and what the library knew is still there", CallAfterUnloading},
     {"`LoadLibrary`", "takes a new reference before the dialog ends", "`FreeLibrary` then unloads the library as usual",
      UnloadAndLoadBelowADialog},
+    {"thread of the host", "ends while a dialog is up",
+     "the other threads are not refused any more, and every function works; memory of the call is lost, and the "
+     "library stays",
+     EndBelowADialog},
+    {"thread of the host", "is terminated while a dialog is up", "the same", KillBelowADialog},
 };
 
 } // namespace
