@@ -19,12 +19,17 @@ extern "C"
 
     BOOL WINAPI lytLibraryEntry(HINSTANCE module, DWORD reason, void* reserved);
 
-    // Sets the stack guard before anything protected runs, and empties the runtime after the last destructor. A process
-    // that ends (`reserved` is set then) takes everything with it; its other threads may have died holding a lock.
+    // Sets the stack guard before anything protected runs, and empties the runtime after the last destructor, or when the
+    // loading was refused. A process that ends (`reserved` is set then) takes everything with it; its other threads may
+    // have died holding a lock.
     __attribute__((no_stack_protector)) BOOL WINAPI lytLibraryEntry(HINSTANCE module, DWORD reason, void* reserved)
     {
         if (reason == DLL_PROCESS_ATTACH)
+        {
             SeedStackGuard();
+            if (!PrepareThreadCalls())
+                return FALSE;
+        }
         const BOOL result = DllMainCRTStartup(module, reason, reserved);
         if (reason == DLL_PROCESS_DETACH && reserved == nullptr)
         {

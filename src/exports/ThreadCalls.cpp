@@ -3,13 +3,15 @@
 // for the life of the process, so a host that loads and unloads this library ran out of slots. Here a slot comes with
 // its clean-up, and nothing else is taken.
 //
+// The runtime asks for one slot, when the first exception is raised, and ends the process if it gets none. So the slot
+// is taken while the library is being loaded, which may still be refused.
+//
 // These are all the calls that the runtime makes. One that was missing would bring the thread library back with its
 // own definitions, and the link would fail.
 #include "exports/ThreadCalls.h"
 
 #include <windows.h>
 
-#include <array>
 #include <cerrno>
 
 #include <pthread.h>
@@ -23,16 +25,38 @@ SRWLOCK sharedLock = SRWLOCK_INIT;
 CONDITION_VARIABLE sharedCondition = CONDITION_VARIABLE_INIT;
 SRWLOCK onceLock = SRWLOCK_INIT;
 
-std::array<DWORD, 4> slots;
-size_t slotCount = 0;
+DWORD slot = TLS_OUT_OF_INDEXES;
+// A thread-local slot has no clean-up: what other threads keep in it is lost when they end.
+bool isFiberLocal = false;
+void (*destroyValue)(void* value) = nullptr; // null until the runtime has asked for the slot
+
+void WINAPI DestroyValue(void* value)
+{
+    if (value != nullptr && destroyValue != nullptr)
+        destroyValue(value);
+}
 
 } // namespace
 
+bool PrepareThreadCalls()
+{
+    slot = FlsAlloc(DestroyValue);
+    isFiberLocal = slot != FLS_OUT_OF_INDEXES;
+    if (!isFiberLocal)
+        slot = TlsAlloc();
+    return slot != TLS_OUT_OF_INDEXES;
+}
+
 void ReleaseThreadCalls()
 {
-    // Runs the clean-up for the values of all threads.
-    while (slotCount > 0)
-        FlsFree(slots[--slotCount]);
+    if (isFiberLocal)
+    {
+        // Runs the clean-up for the values of all threads.
+        FlsFree(slot);
+        return;
+    }
+    DestroyValue(TlsGetValue(slot));
+    TlsFree(slot);
 }
 
 extern "C"
@@ -51,10 +75,9 @@ extern "C"
 
     int pthread_key_create(pthread_key_t* key, void (*destroy)(void*))
     {
-        const DWORD slot = slotCount < slots.size() ? FlsAlloc(destroy) : FLS_OUT_OF_INDEXES;
-        if (slot == FLS_OUT_OF_INDEXES)
+        if (destroyValue != nullptr)
             return EAGAIN;
-        slots[slotCount++] = slot;
+        destroyValue = destroy;
         *key = slot;
         return 0;
     }
@@ -63,7 +86,7 @@ extern "C"
     void* pthread_getspecific(pthread_key_t key)
     {
         const DWORD lastError = GetLastError();
-        void* const value = FlsGetValue(key);
+        void* const value = isFiberLocal ? FlsGetValue(key) : TlsGetValue(key);
         SetLastError(lastError);
         return value;
     }
@@ -71,7 +94,8 @@ extern "C"
     int pthread_setspecific(pthread_key_t key, const void* value)
     {
         // The platform only hands the value back.
-        return FlsSetValue(key, const_cast<void*>(value)) != FALSE ? 0 : ENOMEM;
+        auto* const given = const_cast<void*>(value);
+        return (isFiberLocal ? FlsSetValue(key, given) : TlsSetValue(key, given)) != FALSE ? 0 : ENOMEM;
     }
 
     int pthread_mutex_init(pthread_mutex_t* /*mutex*/, const pthread_mutexattr_t* /*attributes*/)

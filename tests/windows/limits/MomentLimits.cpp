@@ -2,6 +2,7 @@
 #include "Limit.h"
 #include "Scene.h"
 
+#include <algorithm>
 #include <thread>
 
 namespace
@@ -226,6 +227,66 @@ void KillBelowADialog(Scene& scene)
     ExpectWorking(scene);
 }
 
+// ---- a process without free slots
+
+// Takes every free slot of a kind, for its own lifetime.
+template <auto TAKE, auto GIVE>
+class EverySlot
+{
+public:
+    EverySlot()
+    {
+        for (DWORD slot = TAKE(); slot != TLS_OUT_OF_INDEXES; slot = TAKE())
+            m_taken.push_back(slot);
+    }
+    EverySlot(const EverySlot&) = delete;
+    EverySlot& operator=(const EverySlot&) = delete;
+    ~EverySlot() { std::ranges::for_each(m_taken, GIVE); }
+
+private:
+    std::vector<DWORD> m_taken;
+};
+using EveryFiberSlot = EverySlot<[] { return FlsAlloc(nullptr); }, FlsFree>;
+using EveryThreadSlot = EverySlot<TlsAlloc, TlsFree>;
+
+// The first exception of a library that has just been loaded.
+void ExpectFailureTold(Scene& scene)
+{
+    scene.Initialise();
+    scene.folder.Write("lytInSym.dlg", "no version\n");
+    scene.robot.AnswerMessage();
+    EXPECT_EQ(scene.ShowSymbol(), "0 as it was");
+}
+
+void LoadWithoutFiberSlots(Scene& scene)
+{
+    scene.Unload();
+    const EveryFiberSlot taken;
+    scene.LoadAgain();
+    ExpectFailureTold(scene);
+}
+
+void UseWithoutFiberSlots(Scene& scene)
+{
+    scene.Unload();
+    scene.LoadAgain();
+    const EveryFiberSlot taken;
+    ExpectFailureTold(scene);
+}
+
+void LoadWithoutSlots(Scene& scene)
+{
+    scene.Unload();
+    {
+        const EveryFiberSlot fibers;
+        const EveryThreadSlot threads;
+        EXPECT_EQ(LoadLibraryA((ProgramFolder() + "\\..\\lyt64.dll").c_str()), nullptr);
+        EXPECT_EQ(GetLastError(), static_cast<DWORD>(ERROR_DLL_INIT_FAILED));
+    }
+    scene.LoadAgain();
+    ExpectFailureTold(scene);
+}
+
 constexpr Limit momentRows[] = {
     {"any function", "is called on another thread while a dialog is up",
      "refused: it gives 0, or nothing, and does nothing; the dialog goes on", CallBesideADialog},
@@ -256,6 +317,12 @@ constexpr Limit momentRows[] = {
      "library stays",
      EndBelowADialog},
     {"thread of the host", "is terminated while a dialog is up", "the same", KillBelowADialog},
+    {"`LoadLibrary`", "finds all fiber-local slots of the process taken",
+     "the library takes a thread-local one, and works", LoadWithoutFiberSlots},
+    {"`LoadLibrary`", "finds all thread-local slots taken, too",
+     "refused: it gives null, and a later one works when there is a slot again", LoadWithoutSlots},
+    {"any function", "is called when all slots have been taken since `LoadLibrary`", "it works as at any time",
+     UseWithoutFiberSlots},
 };
 
 } // namespace
