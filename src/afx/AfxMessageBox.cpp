@@ -1,9 +1,11 @@
 #include <afx.h>
 
+#include "ModalOwner.h"
 #include "ModalWindows.h"
 
 int AfxMessageBox(const char* text, UINT type, UINT /*help*/)
 {
     const ModalWindows windows;
-    return MessageBoxA(GetActiveWindow(), text, "lyt64", type);
+    const ModalOwner owner(GetActiveWindow());
+    return MessageBoxA(owner.Get(), text, "lyt64", type);
 }

@@ -1,6 +1,7 @@
 #include <afxwin.h>
 
 #include "CallbackFailure.h"
+#include "ModalOwner.h"
 #include "ModalWindows.h"
 #include "ModernControls.h"
 
@@ -8,24 +9,6 @@
 
 namespace
 {
-
-// The owner comes out of a modal run enabled, or disabled, as it went in: not every platform looks when a dialog ends.
-class ModalRun
-{
-public:
-    explicit ModalRun(HWND owner) : m_owner(owner), m_wasEnabled(::IsWindowEnabled(owner)) {}
-    ModalRun(const ModalRun&) = delete;
-    ModalRun& operator=(const ModalRun&) = delete;
-    ~ModalRun()
-    {
-        if (m_owner != nullptr && ::IsWindowEnabled(m_owner) != m_wasEnabled)
-            ::EnableWindow(m_owner, m_wasEnabled);
-    }
-
-private:
-    HWND m_owner;
-    BOOL m_wasEnabled;
-};
 
 // What the dialog procedure is handed: the object to join with the window, and room for what goes wrong in that.
 struct Creation
@@ -55,9 +38,8 @@ INT_PTR CDialog::DoModal()
     m_nModalResult = IDCANCEL;
     Creation creation{*this, {}};
     {
-        const HWND owner = m_pParentWnd != nullptr ? m_pParentWnd->m_hWnd : ::GetActiveWindow();
-        const ModalRun run(owner);
-        result = ::DialogBoxParamA(AfxGetResourceHandle(), MAKEINTRESOURCEA(m_nIDTemplate), owner, DialogProc,
+        const ModalOwner owner(m_pParentWnd != nullptr ? m_pParentWnd->m_hWnd : ::GetActiveWindow());
+        result = ::DialogBoxParamA(AfxGetResourceHandle(), MAKEINTRESOURCEA(m_nIDTemplate), owner.Get(), DialogProc,
                                    reinterpret_cast<LPARAM>(&creation));
     }
     creation.failure.Rethrow();

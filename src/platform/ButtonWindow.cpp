@@ -118,24 +118,18 @@ void ButtonWindow::SetCheck(UINT check)
         UncheckOthers();
 }
 
-// Backwards from this one, around the beginning of the group.
+// The platform passes over options that cannot be used. It begins with the one before, and continues after this one.
 void ButtonWindow::UncheckOthers() const
 {
-    const WindowRow& row = parent->children;
-    const auto self = WindowRow::const_iterator(inRow);
-    const auto begins = [](const Window* child) { return child->HasStyle(WS_GROUP); };
-    auto first = self;
-    while (first != row.begin() && !begins(*first))
-        --first;
-    const auto end = std::find_if(std::next(self), row.end(), begins);
     std::vector<HWND> others;
-    for (auto member = std::prev(self == first ? end : self); member != self;
-         member = std::prev(member == first ? end : member))
+    for (const Window* member : OthersOfGroup())
     {
-        const auto* button = dynamic_cast<const ButtonWindow*>(*member);
-        if (button != nullptr && button->Kind() == BS_AUTORADIOBUTTON)
+        const auto* button = dynamic_cast<const ButtonWindow*>(member);
+        if (button != nullptr && button->Kind() == BS_AUTORADIOBUTTON && button->IsReady())
             others.push_back(button->handle);
     }
+    if (!others.empty())
+        std::ranges::rotate(others, std::prev(others.end()));
     for (HWND other : others)
         ::SendMessageA(other, BM_SETCHECK, BST_UNCHECKED, 0);
 }

@@ -35,7 +35,7 @@ void PressDefault(const DialogWindow& dialog, HWND focused)
 // An option button that an arrow key reaches from another is clicked; anything else only gets the focus.
 void MoveInGroup(const DialogWindow& dialog, HWND focused, bool backwards)
 {
-    const Window* from = Desktop::Get().Find(focused);
+    Window* from = Desktop::Get().Find(focused);
     const Window* next = from != nullptr ? dialog.NextInGroup(*from, backwards) : nullptr;
     if (next == nullptr || next == from)
         return;

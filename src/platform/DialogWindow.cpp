@@ -95,30 +95,15 @@ Window& DialogWindow::Neighbour(const Window& child, bool backwards) const
     return at != children.end() ? **at : *children.front();
 }
 
-// A group ends before the next child that begins one, and then goes round. The children stand in a circle: those before
-// the first that begins a group belong to the last.
-Window* DialogWindow::NextInGroup(const Window& from, bool backwards) const
+Window* DialogWindow::NextInGroup(Window& from, bool backwards) const
 {
     if (from.parent != this)
         return nullptr;
-    const auto here = WindowRow::const_iterator(from.inRow);
-    const auto begins = [](const Window* child) { return child->HasStyle(WS_GROUP); };
-    auto first = here;
-    while (first != children.begin() && !begins(*first))
-        --first;
-    const auto end = std::find_if(std::next(here), children.end(), begins);
-    std::vector<Window*> members;
-    if (end == children.end() && first != children.begin())
-        members.assign(children.begin(), std::find_if(children.begin(), first, begins));
-    members.insert(members.end(), first, end);
-    if (end != children.end() && !begins(*first))
-        members.insert(members.end(), std::prev(std::find_if(children.rbegin(), children.rend(), begins).base()),
-                       children.end());
-
+    std::vector<Window*> others = from.OthersOfGroup();
     if (backwards)
-        std::ranges::reverse(members);
-    std::rotate(members.begin(), std::ranges::find(members, &from) + 1, members.end());
-    return *std::ranges::find_if(members, [&](const Window* child) { return child == &from || child->IsReady(); });
+        std::ranges::reverse(others);
+    const auto next = std::ranges::find_if(others, &Window::IsReady);
+    return next != others.end() ? *next : &from;
 }
 
 void DialogWindow::MoveToControl(WPARAM wParam, LPARAM lParam)
@@ -187,8 +172,12 @@ bool DialogWindow::RestoreSavedFocus()
 
 void DialogWindow::FocusFirst()
 {
-    if (const Window* first = NextTabStop(nullptr))
-        SelectAndFocus(first->handle);
+    if (children.empty())
+        return;
+    const Window* first = NextTabStop(nullptr);
+    if (first == nullptr)
+        first = children.front()->IsReady() ? children.front() : NextInGroup(*children.front(), false);
+    SelectAndFocus(first->handle);
 }
 
 } // namespace platform

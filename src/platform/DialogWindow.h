@@ -18,19 +18,18 @@ public:
     // is none.
     Window* NextTabStop(const Window* from, bool backwards = false) const;
     // The child that an arrow key reaches: the next (previous) one of the group, or itself.
-    Window* NextInGroup(const Window& from, bool backwards) const;
+    Window* NextInGroup(Window& from, bool backwards) const;
     // Gives the focus to a child as the tab key does: an edit field is selected, and a push button becomes the default.
     void FocusChild(HWND child);
     // The child that holds the focus, itself or in a window of its own; null when no child does.
     Window* FocusedChild() const;
     // A button has become a default button, or has ceased to be one.
     void NoteButton(HWND button, bool isDefault);
-    // Gives the focus to the first tab stop.
+    // Gives the focus to the first tab stop; without one, to a child of the first group, be it hidden or not.
     void FocusFirst();
 
     DLGPROC dialogProcedure = nullptr;
     int defaultId = IDOK;
-    bool enablesOwner = false; // which its modal run has disabled
     bool hasEnded = false;
     INT_PTR result = IDOK;
 

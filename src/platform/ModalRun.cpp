@@ -126,18 +126,16 @@ INT_PTR RunModal(const DialogTemplate& source, HWND owner, DLGPROC procedure, LP
     const HWND root = above != nullptr ? above->Root().handle : nullptr;
     if (GetCapture() != nullptr)
         SendMessageA(GetCapture(), WM_CANCELMODE, 0, 0);
-    const bool disablesOwner = EnableWindow(root, FALSE) == FALSE;
+    EnableWindow(root, FALSE);
     const HWND window = CreateFromTemplate(source, root);
     if (window == nullptr)
     {
-        if (disablesOwner)
-            EnableWindow(root, TRUE);
+        EnableWindow(root, TRUE);
         return notCreated;
     }
     const std::shared_ptr<Window> held = Desktop::Get().Hold(window);
     auto& dialog = static_cast<DialogWindow&>(*held);
     dialog.dialogProcedure = procedure;
-    dialog.enablesOwner = disablesOwner;
     Open(dialog, parameter);
     RunUntilEnd(dialog);
     return DestroyWindow(window) != FALSE ? dialog.result : 0;
@@ -187,8 +185,7 @@ BOOL EndDialog(HWND dialog, INT_PTR result)
     ending->hasEnded = true;
     ending->result = result;
     const HWND owner = ending->owner != nullptr ? ending->owner->handle : nullptr;
-    if (ending->enablesOwner)
-        EnableWindow(owner, TRUE);
+    EnableWindow(owner, TRUE);
     if (ending->FocusedChild() != nullptr)
         SetFocus(dialog);
     ending->style &= ~DWORD{WS_VISIBLE};

@@ -111,6 +111,31 @@ std::vector<HWND> Window::ChildHandles() const
     return handles;
 }
 
+// A group ends before the next child that begins one. The children stand in a circle: those before the first that begins
+// a group belong to the last.
+std::vector<Window*> Window::OthersOfGroup() const
+{
+    const WindowRow& row = parent->children;
+    const auto self = WindowRow::const_iterator(inRow);
+    const auto begins = [](const Window& child) { return child.HasStyle(WS_GROUP); };
+    const auto after = [&](WindowRow::const_iterator member) { return ++member != row.end() ? member : row.begin(); };
+    std::vector<Window*> others;
+    auto next = after(self);
+    for (; next != self && !begins(**next); next = after(next))
+        others.push_back(*next);
+    if (next == self || begins(*this))
+        return others;
+    std::vector<Window*> before; // from this one back to the one that begins the group
+    auto previous = self;
+    do
+    {
+        previous = std::prev(previous != row.begin() ? previous : row.end());
+        before.push_back(*previous);
+    } while (!begins(**previous));
+    others.insert(others.end(), before.rbegin(), before.rend());
+    return others;
+}
+
 Window& Window::Root()
 {
     Window* root = this;

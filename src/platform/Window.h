@@ -54,6 +54,8 @@ public:
     POINT ClientOrigin() const;
     // The children in order of creation, as handles: what is sent to one may destroy another.
     std::vector<HWND> ChildHandles() const;
+    // Of a child: the other children of its group, from the one after it around to the one before it.
+    std::vector<Window*> OthersOfGroup() const;
     // The top-level window that this one is in.
     Window& Root();
 

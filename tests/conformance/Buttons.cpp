@@ -1,8 +1,91 @@
 // Push buttons, check boxes and option buttons: what a press does, and what a state set by the program does.
 #include "Stage.h"
 
+namespace
+{
+
+// Choices among options of which some cannot be used.
+void Options()
+{
+    Stage stage("Options");
+    CButton& push = stage.Button(9, "Push");
+    CButton& first = stage.Button(10, "First", BS_AUTORADIOBUTTON | WS_GROUP);
+    CButton& second = stage.Button(11, "Second", BS_AUTORADIOBUTTON);
+    CButton& third = stage.Button(12, "Third", BS_AUTORADIOBUTTON);
+    CButton& fourth = stage.Button(13, "Fourth", BS_AUTORADIOBUTTON);
+    stage.Button(IDOK, "OK", BS_DEFPUSHBUTTON | WS_GROUP);
+    const auto look = [&]
+    {
+        for (const CButton* option : {&first, &second, &third, &fourth})
+            Print("%d: %d, tab stop %d", option->GetDlgCtrlID(), option->GetCheck(),
+                  (option->GetStyle() & WS_TABSTOP) != 0);
+    };
+    const auto make = [&](CButton& option, bool isHidden, BOOL isOn)
+    {
+        if (isHidden)
+            option.ShowWindow(isOn != FALSE ? SW_SHOW : SW_HIDE);
+        else
+            option.EnableWindow(isOn);
+    };
+    for (const bool isHidden : {true, false})
+    {
+        const std::string state = isHidden ? "hidden" : "disabled";
+        stage.Act("choose by program beside a " + state + " one",
+                  [&, isHidden]
+                  {
+                      second.SetCheck(1);
+                      make(second, isHidden, FALSE);
+                      third.SetCheck(1);
+                  });
+        stage.Look(look);
+        stage.Act("click one beside it", [&] { robot::Click(first.m_hWnd); });
+        stage.Look(look);
+        stage.Act("arrow over it", [] { robot::PressKey(VK_DOWN); });
+        stage.Look(look);
+        stage.Act("choose the " + state + " one by program", [&] { second.SetCheck(1); });
+        stage.Look(look);
+        stage.Act("tab to the options",
+                  [&]
+                  {
+                      push.SetFocus();
+                      robot::PressKey(VK_TAB);
+                  });
+        stage.Act("use it again",
+                  [&, isHidden]
+                  {
+                      make(second, isHidden, TRUE);
+                      second.SetCheck(1);
+                  });
+        stage.Look(look);
+        stage.Act(state + ", and the one that begins the group",
+                  [&, isHidden]
+                  {
+                      make(first, isHidden, FALSE);
+                      make(second, isHidden, FALSE);
+                      fourth.SetCheck(1);
+                  });
+        stage.Look(look);
+        stage.Act("click one behind them", [&] { robot::Click(third.m_hWnd); });
+        stage.Act("arrow on", [] { robot::PressKey(VK_DOWN); });
+        stage.Act("arrow round", [] { robot::PressKey(VK_DOWN); });
+        stage.Look(look);
+        stage.Act("use both again",
+                  [&, isHidden]
+                  {
+                      make(first, isHidden, TRUE);
+                      make(second, isHidden, TRUE);
+                      first.SetCheck(1);
+                  });
+        stage.Look(look);
+    }
+    stage.Run();
+}
+
+} // namespace
+
 void Buttons()
 {
+    Options();
     Stage stage("Buttons");
     CButton& push = stage.Button(10, "Push");
     CButton& check = stage.Button(11, "Check", BS_AUTOCHECKBOX);
