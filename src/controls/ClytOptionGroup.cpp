@@ -109,6 +109,13 @@ ClytRadioButtonControl* ClytOptionGroup::Checked() const
     return nullptr;
 }
 
+void ClytOptionGroup::Choose(const ClytRadioButtonControl& chosen)
+{
+    for (POSITION place = buttons.GetHeadPosition(); place != nullptr;)
+        buttons.GetNext(place)->YieldTo(chosen);
+    PlaceTabStop();
+}
+
 // The platform takes the tab stop of each option that is unchecked, and would leave a group without a choice out of
 // reach of the keyboard. What the first option gets for that time it loses to the one that is chosen.
 void ClytOptionGroup::PlaceTabStop()

@@ -23,6 +23,8 @@ public:
     void Remove(const ClytRadioButtonControl& button);
     // Whether the button is the group's last, whose window comes last, too.
     bool EndsWith(const ClytRadioButtonControl& button) const { return buttons.GetTail() == &button; }
+    // The user has chosen a button: it is the only one that is checked.
+    void Choose(const ClytRadioButtonControl& chosen);
     // The Tab key reaches the chosen option, or the first while none is chosen. It asks one option after the other, so
     // what sets many of them calls it once.
     void PlaceTabStop();

@@ -1,5 +1,6 @@
 #include "controls/ClytRadioButtonControl.h"
 
+#include "base/Counted.h"
 #include "controls/ClytOptionGroup.h"
 
 ClytRadioButtonControl::ClytRadioButtonControl(CString controlName, ClytPosition topLeft, ClytSize extent,
@@ -39,4 +40,27 @@ void ClytRadioButtonControl::SetValue(const CString& value)
     Mark(value);
     if (group != nullptr)
         group->PlaceTabStop();
+}
+
+void ClytRadioButtonControl::Check(bool isChecked)
+{
+    const Counted checking(ownChecks);
+    SetCheck(isChecked ? BST_CHECKED : BST_UNCHECKED);
+}
+
+// A click checks the button by this message, before its command runs the rules. The platform then unchecks the others of
+// the group, but passes over those that are hidden or disabled, and the group would give the value of one of them.
+LRESULT ClytRadioButtonControl::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
+{
+    const LRESULT result = ClytWindowControl::WindowProc(message, wParam, lParam);
+    if (message == BM_SETCHECK && wParam == BST_CHECKED && ownChecks == 0 && group != nullptr)
+        group->Choose(*this);
+    return result;
+}
+
+// A button without a group of its dialog is in that of an outer dialog, whose choice is another one.
+void ClytRadioButtonControl::YieldTo(const ClytRadioButtonControl& chosen)
+{
+    if (this != &chosen && dialog == chosen.dialog && GetCheck() != BST_UNCHECKED)
+        Check(false);
 }

@@ -28,12 +28,18 @@ public:
     void JoinGroup(ClytOptionGroup* optionGroup) { group = optionGroup; }
     void Preselect(const CString& value) { preselected = optionValue == value ? 1 : 0; }
     void TakeGroupOption(ClytOption option) { TakeCommonOption(lytTextOf(option)); }
+    // Unchecks it when the user has chosen another one of its dialog.
+    void YieldTo(const ClytRadioButtonControl& chosen);
+
+protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
 
 private:
-    void Check(bool isChecked) const { SetCheck(isChecked ? BST_CHECKED : BST_UNCHECKED); }
+    void Check(bool isChecked);
 
     CString optionValue;
     int preselected = 0;
     int firstOfGroup;
+    int ownChecks = 0;                // in progress: what the program sets is not the user's choice
     ClytOptionGroup* group = nullptr; // parts with its buttons before it dies
 };

@@ -225,6 +225,62 @@ TEST_F(Options, ClicksMoveTheMarkWithinAGroupOnly)
     EXPECT_EQ(form.Ok().Open().text, "a e");
 }
 
+TEST_F(Options, AClickUnchecksWhatCannotBeUsedBeforeTheRulesRun)
+{
+    form.main.layout.insert(form.main.layout.end(), {"TextBox Edit", "TextBox Seen"});
+    static const struct
+    {
+        const char* name;
+        void (*choose)(HWND option);
+    } ways[] = {
+        {"click", [](HWND option) { robot::Click(option); }},
+        {"press", [](HWND option) { robot::Press(option); }},
+        {"space",
+         [](HWND option)
+         {
+             SetFocus(option);
+             robot::PressKey(VK_SPACE);
+         }},
+        {"arrow",
+         [](HWND option)
+         {
+             SetFocus(robot::ChildAt(GetParent(option), 0));
+             robot::PressKey(VK_DOWN);
+         }},
+    };
+    for (const char* state : {"VISIBLE", "ACTIVE"})
+    {
+        form.main.rules = {std::string("B/") + state + "=Edit(x)", "Seen/ACTIVE=Kind(c)"};
+        for (const auto& way : ways)
+        {
+            SCOPED_TRACE(std::string(state) + " " + way.name);
+            form.Then(
+                [&]
+                {
+                    EXPECT_EQ(Checked(), "B");
+                    way.choose(form["C"]);
+                });
+            form.Then(
+                [&]
+                {
+                    EXPECT_EQ(Checked(), "C");
+                    EXPECT_EQ(TabStops(), "C");
+                    EXPECT_TRUE(IsWindowEnabled(form["Seen"]));
+                });
+            EXPECT_EQ(form.Ok().Open().text, "<c>");
+        }
+    }
+}
+
+// The platform's exclusion passes over it.
+TEST_F(Options, AValueOfAButtonLeavesTheHiddenOneChecked)
+{
+    form.main.values.emplace_back("B=HIDDEN");
+    form.main.input = InputTo("C");
+    form.Then([&] { EXPECT_EQ(Checked(), "BC"); });
+    EXPECT_EQ(form.Ok().Open("c").text, "<b>");
+}
+
 TEST_F(Options, AButtonWithoutAGroupJoinsThatOfTheOuterDialog)
 {
     form.main.layout.insert(form.main.layout.end(), {"PushButton Go", "TextBox Edit"});
@@ -259,6 +315,17 @@ TEST_F(Options, AButtonWithoutAGroupJoinsThatOfTheOuterDialog)
             EXPECT_FALSE(IsWindowEnabled(edit));
         });
     EXPECT_EQ(form.Ok().Open().text, "<>");
+}
+
+TEST_F(Options, AClickLeavesTheChoiceOfTheOuterDialog)
+{
+    form.main.layout.emplace_back("PushButton Go");
+    form.main.values.emplace_back("Go=DIALOG,Inner,none,\"\"");
+    form.dialogs["Inner"] = {.layout = {"OptionButton Lone"}, .values = {"Lone=lone"}, .output = {"(\"x\")"}};
+    form.Then([&] { robot::Click(form["Go"]); });
+    form.In("Inner", [&] { robot::Click(form["Lone"]); });
+    form.Ok("Inner");
+    EXPECT_EQ(form.Ok().Open().text, "<b>");
 }
 
 TEST_F(Options, AButtonWithoutAnyGroupStandsAlone)
