@@ -1,4 +1,5 @@
 // lytcall: calls any function of lyt64.dll from a command line, for trying descriptions out and for unattended checks.
+#include "commandline/Finish.h"
 #include "lytcall/Commands.h"
 #include "lytcall/Script.h"
 
@@ -81,14 +82,12 @@ int Run(const std::vector<std::string>& words)
     return lytcall::RunCommand(session) != 0 ? done : callFailed;
 }
 
-} // namespace
-
-int main(int count, char** words)
+// What is raised becomes an error line and an exit code.
+int RunOrTell(const std::vector<std::string>& words)
 {
-    SetConsoleOutputCP(CP_UTF8);
     try
     {
-        return Run({words + 1, words + count});
+        return Run(words);
     }
     catch (const commandline::UsageError& error)
     {
@@ -111,4 +110,12 @@ int main(int count, char** words)
         std::fprintf(stderr, "lytcall: the library raised an exception; is the folder of the document writable?\n");
         return callFailed;
     }
+}
+
+} // namespace
+
+int main(int count, char** words)
+{
+    SetConsoleOutputCP(CP_UTF8);
+    return commandline::Finish("lytcall", RunOrTell({words + 1, words + count}));
 }

@@ -1,4 +1,5 @@
 // lytdlg: judges, tries, tests and draws dialog descriptions from a command line.
+#include "commandline/Finish.h"
 #include "lytdlg/Commands.h"
 #include "lytdlg/text/Paths.h"
 
@@ -9,5 +10,5 @@ int main(int count, char** words)
     SetConsoleOutputCP(CP_UTF8);
     // The templates, icons and manifest of the library are those of this program.
     AfxGetStaticModuleState()->m_hCurrentResourceHandle = GetModuleHandleA(nullptr);
-    return lytdlg::Run(lytdlg::CommandLineWords(count, words));
+    return commandline::Finish("lytdlg", lytdlg::Run(lytdlg::CommandLineWords(count, words)));
 }
