@@ -2,7 +2,11 @@
 
 #include <windows.h>
 
+#include <algorithm>
 #include <cstdio>
+#include <iterator>
+#include <string_view>
+#include <vector>
 
 namespace commandline
 {
@@ -24,6 +28,66 @@ std::string Convert(const std::string& text, UINT from, UINT to)
     return result;
 }
 
+constexpr const char* replacement = "\xEF\xBF\xBD";
+
+// Also a byte that is no UTF-8, and the two last characters of the first plane, which no file format has a place for.
+bool IsControl(const std::string& character)
+{
+    const auto first = static_cast<unsigned char>(character[0]);
+    if (character.size() == 1)
+        return first < 0x20U || first >= 0x7FU;
+    const bool isSecondRange = first == 0xC2U && static_cast<unsigned char>(character[1]) < 0xA0U;
+    return isSecondRange || character == "\xEF\xBF\xBE" || character == "\xEF\xBF\xBF";
+}
+
+// A byte that is no UTF-8 counts as one.
+std::vector<std::string> CharactersOf(const std::string& utf8)
+{
+    std::vector<std::string> characters;
+    for (size_t place = 0; place < utf8.size(); place += characters.back().size())
+        characters.push_back(utf8.substr(place, std::max<size_t>(1, LengthOfCharacter(utf8, place))));
+    return characters;
+}
+
+struct Escape
+{
+    char character;
+    char letter;
+};
+constexpr Escape escapes[] = {{'\n', 'n'}, {'\t', 't'}, {'\r', 'r'}, {'"', '"'}, {'\\', '\\'}};
+constexpr std::string_view hexDigits = "0123456789ABCDEF";
+
+// A character between quotes. A control character beyond ASCII has its number in its second byte.
+std::string Escaped(const std::string& character)
+{
+    const auto* const known = std::ranges::find(escapes, character[0], &Escape::character);
+    if (known != std::end(escapes))
+        return {'\\', known->letter};
+    if (!IsControl(character) || character.size() > 2)
+        return character;
+    const auto number = static_cast<unsigned char>(character.back());
+    return {'\\', 'x', hexDigits[number >> 4U], hexDigits[number & 15U]};
+}
+
+// What an escape stands for; the place moves to its last character. A backslash before anything else is left out.
+std::string TakeEscape(const std::string& line, size_t& place)
+{
+    const char letter = line[++place];
+    if (letter == 'x' && place + 2 < line.size())
+    {
+        const size_t high = hexDigits.find(line[place + 1]);
+        const size_t low = hexDigits.find(line[place + 2]);
+        if (high < 16 && low < 16)
+        {
+            place += 2;
+            const auto number = static_cast<char>(high * 16 + low);
+            return high < 8 ? std::string{number} : std::string{'\xC2', number};
+        }
+    }
+    const auto* const known = std::ranges::find(escapes, letter, &Escape::letter);
+    return {known != std::end(escapes) ? known->character : letter};
+}
+
 } // namespace
 
 std::string ToUtf8(const std::string& ansi)
@@ -36,24 +100,72 @@ std::string ToAnsi(const std::string& utf8)
     return Convert(utf8, CP_UTF8, CP_ACP);
 }
 
-std::string Quoted(const std::string& text)
+size_t LengthOfCharacter(const std::string& utf8, size_t place)
+{
+    const auto byteAt = [&](size_t at) { return at < utf8.size() ? static_cast<unsigned char>(utf8[at]) : 0U; };
+    const unsigned first = byteAt(place);
+    const size_t length = first < 0x80U ? 1U : first < 0xC2U ? 0U : first < 0xE0U ? 2U : first < 0xF0U ? 3U : 4U;
+    for (size_t at = place + 1; at < place + length; ++at)
+    {
+        if ((byteAt(at) & 0xC0U) != 0x80U)
+            return 0;
+    }
+    const unsigned second = byteAt(place + 1);
+    const bool isTooLong = (first == 0xE0U && second < 0xA0U) || (first == 0xF0U && second < 0x90U);
+    const bool isNone = (first == 0xEDU && second >= 0xA0U) || (first == 0xF4U && second >= 0x90U) || first > 0xF4U;
+    return isTooLong || isNone ? 0 : length;
+}
+
+std::string Printable(const std::string& utf8)
+{
+    std::string printable;
+    for (const std::string& character : CharactersOf(utf8))
+    {
+        if (character == "\n" || character == "\r")
+            printable += ' ';
+        else
+            printable += character == "\t" || !IsControl(character) ? character : replacement;
+    }
+    return printable;
+}
+
+std::string Shown(const std::string& ansi)
+{
+    return Printable(ToUtf8(ansi));
+}
+
+std::string Quoted(const std::string& utf8)
 {
     std::string quoted = "\"";
-    for (const char ch : text)
-    {
-        if (ch == '\n' || ch == '\t' || ch == '\r')
-            (quoted += '\\') += ch == '\n' ? 'n' : ch == '\t' ? 't' : 'r';
-        else if (ch == '"' || ch == '\\')
-            (quoted += '\\') += ch;
-        else
-            quoted += ch;
-    }
+    for (const std::string& character : CharactersOf(utf8))
+        quoted += Escaped(character);
     return quoted + '"';
+}
+
+std::optional<std::string> TakeQuoted(const std::string& line, size_t& place)
+{
+    std::string text;
+    while (++place < line.size())
+    {
+        if (line[place] == '"')
+        {
+            ++place;
+            return text;
+        }
+        const bool isEscape = line[place] == '\\' && place + 1 < line.size();
+        text += isEscape ? TakeEscape(line, place) : line.substr(place, 1);
+    }
+    return std::nullopt;
+}
+
+void PrintLine(const std::string& utf8)
+{
+    std::printf("%s\n", Printable(utf8).c_str());
 }
 
 void PrintText(const std::string& name, const std::string& ansi)
 {
-    std::printf("%s = %s\n", name.c_str(), Quoted(ToUtf8(ansi)).c_str());
+    PrintLine(name + " = " + Quoted(ToUtf8(ansi)));
 }
 
 void PrintNumber(const std::string& name, int value, const std::string& meaning)

@@ -1,6 +1,7 @@
 #include "lytcall/Script.h"
 
 #include "commandline/Suggestion.h"
+#include "commandline/Text.h"
 
 #include <algorithm>
 #include <cctype>
@@ -22,8 +23,8 @@ struct Word
 class LineReader
 {
 public:
-    LineReader(const std::string& fileName, int lineNumber, std::string_view lineText)
-        : m_file(fileName), m_line(lineNumber), m_text(lineText)
+    LineReader(const std::string& fileName, int lineNumber, std::string lineText)
+        : m_file(fileName), m_line(lineNumber), m_text(std::move(lineText))
     {
     }
 
@@ -45,7 +46,7 @@ private:
 
     const std::string& m_file;
     int m_line;
-    std::string_view m_text;
+    std::string m_text;
     size_t m_next = 0;
 };
 
@@ -78,23 +79,11 @@ std::vector<Word> LineReader::Words()
 
 Word LineReader::QuotedWord()
 {
-    Word word{"", true, static_cast<int>(m_next) + 1};
-    for (++m_next; m_next < m_text.size(); ++m_next)
-    {
-        char ch = m_text[m_next];
-        if (ch == '"')
-        {
-            ++m_next;
-            return word;
-        }
-        if (ch == '\\' && m_next + 1 < m_text.size())
-        {
-            ch = m_text[++m_next];
-            ch = ch == 'n' ? '\n' : ch == 't' ? '\t' : ch;
-        }
-        word.text += ch;
-    }
-    Fail(word.column, "the quoted text does not end; add a \" at its end");
+    const int column = static_cast<int>(m_next) + 1;
+    std::optional<std::string> text = commandline::TakeQuoted(m_text, m_next);
+    if (!text)
+        Fail(column, "the quoted text does not end; add a \" at its end");
+    return {std::move(*text), true, column};
 }
 
 Word LineReader::PlainWord()
@@ -102,7 +91,7 @@ Word LineReader::PlainWord()
     const size_t start = m_next;
     while (m_next < m_text.size() && !IsBlank(m_text[m_next]))
         ++m_next;
-    return {std::string(m_text.substr(start, m_next - start)), false, static_cast<int>(start) + 1};
+    return {m_text.substr(start, m_next - start), false, static_cast<int>(start) + 1};
 }
 
 const StepForm& LineReader::FormOf(const Word& word) const
@@ -208,7 +197,7 @@ std::vector<Step> ReadScript(const std::string& fileName, std::string_view text)
     while (!text.empty())
     {
         const size_t end = std::min(text.find('\n'), text.size());
-        LineReader line(fileName, ++lineNumber, text.substr(0, end));
+        LineReader line(fileName, ++lineNumber, std::string(text.substr(0, end)));
         const std::vector<Word> words = line.Words();
         if (!words.empty())
             steps.push_back(line.StepOf(words));

@@ -1,5 +1,6 @@
 // lytcall: calls any function of lyt64.dll from a command line, for trying descriptions out and for unattended checks.
 #include "commandline/Finish.h"
+#include "commandline/Text.h"
 #include "lytcall/Commands.h"
 #include "lytcall/Script.h"
 
@@ -32,18 +33,16 @@ std::string ScriptHelp()
         text += " " + word;
     text += "\n  #5          the fifth control of the window, counted as the description lists them\n"
             "  focus       the control with the focus\n\n"
-            "Texts stand in quotes; \\\" \\\\ \\n \\t stand for themselves, a line feed and a tab. A step waits until "
-            "it can\n"
-            "be taken, at most as long as --limit says; one that cannot ends the call with a message that tells file, "
-            "line\n"
-            "and column, the reason and the way out.\n";
+            "Texts stand in quotes; \\\" \\\\ \\n \\t stand for themselves, a line feed and a tab, and \\x1B for the\n"
+            "character of that number. A step waits until it can be taken, at most as long as --limit says; one that\n"
+            "cannot ends the call with a message that tells file, line and column, the reason and the way out.\n";
     return text;
 }
 
 int Tell(const std::exception& error, ExitCode code)
 {
     std::fflush(stdout);
-    std::fprintf(stderr, "lytcall: %s\n", error.what());
+    std::fprintf(stderr, "lytcall: %s\n", commandline::Printable(error.what()).c_str());
     return code;
 }
 

@@ -1,28 +1,32 @@
 #include "lytdlg/draw/Dot.h"
 
+#include "commandline/Text.h"
+
+#include <algorithm>
+
 namespace lytdlg
 {
 
 namespace
 {
 
-// Backslashes would begin escapes of that language, and other control characters are no text in what it is turned into.
+// Backslashes would begin escapes of that language.
 std::string DotText(const std::string& utf8)
 {
     std::string quoted = "\"";
-    for (const char ch : utf8)
+    for (size_t start = 0; start <= utf8.size();)
     {
-        const auto code = static_cast<unsigned char>(ch);
-        if (ch == '"' || ch == '\\')
-            (quoted += '\\') += ch;
-        else if (ch == '\n')
-            quoted += "\\n";
-        else if (code < 0x20U || code == 0x7FU)
-            quoted += "\xEF\xBF\xBD";
-        else
+        const size_t end = std::min(utf8.find('\n', start), utf8.size());
+        for (const char ch : commandline::Printable(utf8.substr(start, end - start)))
+        {
+            if (ch == '"' || ch == '\\')
+                quoted += '\\';
             quoted += ch;
+        }
+        quoted += end < utf8.size() ? "\\n" : "\"";
+        start = end + 1;
     }
-    return quoted + '"';
+    return quoted;
 }
 
 } // namespace

@@ -1,66 +1,25 @@
 #include "lytdlg/draw/Markup.h"
 
+#include "commandline/Text.h"
+
+#include <algorithm>
+#include <iterator>
+
 namespace lytdlg
 {
 
-namespace
-{
-
-constexpr const char* replacement = "\xEF\xBF\xBD";
-
-// The length of the character that begins there; 0 for a byte that begins none.
-size_t LengthAt(const std::string& text, size_t place)
-{
-    const auto byteAt = [&](size_t at) { return at < text.size() ? static_cast<unsigned char>(text[at]) : 0U; };
-    const unsigned first = byteAt(place);
-    const size_t length = first < 0x80U ? 1U : first < 0xC2U ? 0U : first < 0xE0U ? 2U : first < 0xF0U ? 3U : 4U;
-    for (size_t at = place + 1; at < place + length; ++at)
-    {
-        if ((byteAt(at) & 0xC0U) != 0x80U)
-            return 0;
-    }
-    const unsigned second = byteAt(place + 1);
-    const bool isTooLong = (first == 0xE0U && second < 0xA0U) || (first == 0xF0U && second < 0x90U);
-    const bool isNone = (first == 0xEDU && second >= 0xA0U) || (first == 0xF4U && second >= 0x90U) || first > 0xF4U;
-    return isTooLong || isNone ? 0 : length;
-}
-
-// Neither file format has a place for control characters and for the two last of the first plane.
-bool IsHeld(const std::string& character)
-{
-    const auto first = static_cast<unsigned char>(character[0]);
-    if (character.size() == 1)
-        return first >= 0x20U && first != 0x7FU;
-    const auto second = static_cast<unsigned char>(character[1]);
-    return (first != 0xC2U || second >= 0xA0U) && character != "\xEF\xBF\xBE" && character != "\xEF\xBF\xBF";
-}
-
-std::string EscapedCharacter(const std::string& character)
+std::string Escaped(const std::string& utf8)
 {
     static constexpr struct
     {
         char character;
         const char* text;
-    } escapes[] = {{'&', "&amp;"},  {'<', "&lt;"}, {'>', "&gt;"}, {'"', "&quot;"},
-                   {'\'', "&#39;"}, {'\t', " "},   {'\n', " "},   {'\r', " "}};
-    for (const auto& escape : escapes)
-    {
-        if (character[0] == escape.character)
-            return escape.text;
-    }
-    return IsHeld(character) ? character : replacement;
-}
-
-} // namespace
-
-std::string Escaped(const std::string& utf8)
-{
+    } escapes[] = {{'&', "&amp;"}, {'<', "&lt;"}, {'>', "&gt;"}, {'"', "&quot;"}, {'\'', "&#39;"}, {'\t', " "}};
     std::string escaped;
-    for (size_t place = 0; place < utf8.size();)
+    for (const char ch : commandline::Printable(utf8))
     {
-        const size_t length = LengthAt(utf8, place);
-        escaped += length > 0 ? EscapedCharacter(utf8.substr(place, length)) : replacement;
-        place += length > 0 ? length : 1;
+        const auto* const escape = std::ranges::find(escapes, ch, [](const auto& each) { return each.character; });
+        escaped += escape != std::end(escapes) ? std::string(escape->text) : std::string(1, ch);
     }
     return escaped;
 }

@@ -15,26 +15,11 @@ namespace
 
 constexpr const char* blanks = " \t\r";
 
-// The number of bytes of the UTF-8 character that begins there; 0 when none does.
-size_t LengthOfCharacter(const std::string& text, size_t place)
-{
-    const auto lead = static_cast<unsigned char>(text[place]);
-    const size_t length = lead < 0x80 ? 1 : lead >= 0xF0 ? 4 : lead >= 0xE0 ? 3 : lead >= 0xC2 ? 2 : 0;
-    if (place + length > text.size())
-        return 0;
-    for (size_t next = place + 1; next < place + length; ++next)
-    {
-        if ((static_cast<unsigned char>(text[next]) & 0xC0U) != 0x80U)
-            return 0;
-    }
-    return length;
-}
-
 bool IsUtf8(const std::string& text)
 {
     for (size_t place = 0; place < text.size();)
     {
-        const size_t length = LengthOfCharacter(text, place);
+        const size_t length = commandline::LengthOfCharacter(text, place);
         if (length == 0)
             return false;
         place += length;
@@ -164,23 +149,11 @@ void LineReader::SkipBlanks()
 
 std::string LineReader::Quoted()
 {
-    std::string text;
-    for (size_t place = m_start + 1; place < m_text.size(); ++place)
-    {
-        if (m_text[place] == '"')
-        {
-            m_next = place + 1;
-            return text;
-        }
-        if (m_text[place] != '\\' || place + 1 == m_text.size())
-        {
-            text += m_text[place];
-            continue;
-        }
-        const char escaped = m_text[++place];
-        text += escaped == 'n' ? '\n' : escaped == 'r' ? '\r' : escaped == 't' ? '\t' : escaped;
-    }
-    Fail("the text has no closing quote; end it with a '\"'");
+    m_next = m_start;
+    std::optional<std::string> text = commandline::TakeQuoted(m_text, m_next);
+    if (!text)
+        Fail("the text has no closing quote; end it with a '\"'");
+    return std::move(*text);
 }
 
 } // namespace lytdlg
