@@ -1,5 +1,6 @@
 #include "lytdlg/Commands.h"
 
+#include "commandline/Text.h"
 #include "lytdlg/doctor/DoctorCommand.h"
 #include "lytdlg/draw/GraphCommand.h"
 #include "lytdlg/draw/PreviewCommand.h"
@@ -37,8 +38,7 @@ Command HelpCommand()
 
 int Tell(const char* text, ExitCode code)
 {
-    std::fflush(stdout);
-    std::fprintf(stderr, "lytdlg: %s\n", text);
+    TellError(text);
     return code;
 }
 
@@ -70,6 +70,12 @@ const commandline::ProgramForm& TheProgram()
         return made;
     }();
     return form;
+}
+
+void TellError(const std::string& text)
+{
+    std::fflush(stdout);
+    std::fprintf(stderr, "lytdlg: %s\n", commandline::Printable(text).c_str());
 }
 
 int Run(const std::vector<std::string>& words)

@@ -28,6 +28,9 @@ Command CheckCommand();
 const std::vector<Command>& Commands();
 const commandline::ProgramForm& TheProgram();
 
+// Prints an error line, after all that was printed.
+void TellError(const std::string& text);
+
 // Carries a command line out, without the program's name, and gives the exit code.
 int Run(const std::vector<std::string>& words);
 

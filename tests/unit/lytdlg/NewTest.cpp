@@ -3,6 +3,7 @@
 #include "environment/ClytEnvironment.h"
 #include "environment/ProcessState.h"
 #include "liveform/LiveForm.h"
+#include "lytdlg/doctor/Checks.h"
 #include "lytdlg/text/Format.h"
 #include "lytdlg/text/NewDialog.h"
 #include "lytdlg/text/TextFile.h"
@@ -187,7 +188,10 @@ TEST(New, TellsWhatIsWrongWithAName)
         const char* fault;
     } cases[] = {
         {"mine", ""},
-        {"lytInSym", ""},
+        {"lytNewSym", ""},
+        {"lytrpgrp",
+         "the macros open the dialog of this name with the key of a placeholder, which a new dialog would not "
+         "keep; begin with a copy of the sample lytrpgrp.dlg and its texts, or choose another name"},
         {"a-b_2", ""},
         {"", "use letters from A to Z, digits, - and _, with a letter first"},
         {"2a", "use letters from A to Z, digits, - and _, with a letter first"},
@@ -204,6 +208,8 @@ TEST(New, TellsWhatIsWrongWithAName)
     };
     for (const auto& c : cases)
         EXPECT_EQ(lytdlg::FaultOfName(c.name), c.fault) << c.name;
+    for (const lytdlg::OpenedDescription& opened : lytdlg::OpenedDescriptions())
+        EXPECT_NE(lytdlg::FaultOfName(fs::path(opened.name).stem().string()), "") << opened.name;
     EXPECT_EQ(lytdlg::FaultOfName(std::string(40, 'a')), "");
     EXPECT_EQ(lytdlg::FaultOfName(std::string(41, 'a')), "use 40 letters at most");
 }

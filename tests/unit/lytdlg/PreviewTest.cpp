@@ -225,7 +225,10 @@ TEST_F(Preview, TellsOfAFileThatCannotBeWritten)
 {
     Draw("preview", SmallDialog()(), "small.svg");
     Run({"preview", folder.File("test.dlg"), "-o", "no-such-folder/x.svg"});
-    EXPECT_EQ(told, "lytdlg: \"no-such-folder/x.svg\" cannot be written; make its folder first, or choose another\n");
+    EXPECT_EQ(
+        told,
+        "lytdlg: no-such-folder/x.svg cannot be written (No such file or directory); make its folder first, or choose "
+        "another\n");
     EXPECT_EQ(exitCode, 1);
 }
 

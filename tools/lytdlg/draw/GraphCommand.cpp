@@ -1,12 +1,10 @@
 #include "lytdlg/draw/GraphCommand.h"
 
-#include "commandline/RunProgram.h"
 #include "lytdlg/draw/Graphs.h"
 #include "lytdlg/draw/Output.h"
+#include "lytdlg/text/DescriptionPaths.h"
 #include "lytdlg/text/Paths.h"
-#include "lytdlg/text/TextFile.h"
 
-#include <cstdio>
 #include <filesystem>
 
 namespace lytdlg
@@ -31,22 +29,10 @@ std::string GraphOf(const std::string& kind, const Description& description)
 ExitCode TellMistakes(const Description& description)
 {
     for (const Mistake& mistake : description.mistakes)
-        std::fprintf(stderr, "lytdlg: %s:%d: left out: the library refuses it (%s); `lytdlg check` tells more\n",
-                     description.path.c_str(), mistake.place.line,
-                     mistake.number.empty() ? "the line ends too early" : mistake.number.c_str());
+        TellError(description.path + ":" + std::to_string(mistake.place.line) + ": left out: the library refuses it (" +
+                  (mistake.number.empty() ? "the line ends too early" : mistake.number) +
+                  "); `lytdlg check` tells more");
     return description.mistakes.empty() ? good : found;
-}
-
-void WriteSvg(const std::string& target, const std::string& graph)
-{
-    const TemporaryFile source(graph);
-    const int code = commandline::RunProgram({"dot", "-Tsvg", "-o", target, source.Name().string()});
-    if (code < 0)
-        throw std::runtime_error(
-            "an .svg needs Graphviz, which is not installed: apt-get install graphviz, or on Windows "
-            "its setup with the folder on the path; or write a .dot");
-    if (code > 0)
-        throw std::runtime_error("dot could not write \"" + target + "\"");
 }
 
 ExitCode Graph(const Request& request)
@@ -59,13 +45,15 @@ ExitCode Graph(const Request& request)
         throw UsageError("there is no graph of \"" + kind + "\"; use one of: rules, scan, groups");
     if (!target.empty() && extension != ".dot" && extension != ".svg")
         throw UsageError("\"" + target + "\" is no kind of graph; the name ends in .dot or .svg");
-    const std::optional<std::string> bytes = ReadWholeFile(PathOf(file));
-    if (!bytes)
+    std::error_code ignored;
+    if (!std::filesystem::is_regular_file(PathOf(file), ignored))
         throw UsageError("there is no dialog \"" + file + "\"; name a .dlg file with its folder");
-    const Description description(file, *bytes, request.Texts("--define"));
+    const Description description(file, ReadDescription(file), request.Texts("--define"));
     const std::string graph = GraphOf(kind, description);
     if (extension == ".svg")
-        WriteSvg(target, graph);
+        WriteByProgram(target, {"dot", "-Tsvg"}, graph,
+                       "an .svg needs Graphviz, which is not installed: apt-get install graphviz, or on Windows "
+                       "its setup with the folder on the path; or write a .dot");
     else
         WriteOut(target, graph);
     return TellMistakes(description);

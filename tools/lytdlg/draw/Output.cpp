@@ -1,5 +1,6 @@
 #include "lytdlg/draw/Output.h"
 
+#include "commandline/RunProgram.h"
 #include "lytdlg/text/Paths.h"
 #include "lytdlg/text/TextFile.h"
 
@@ -27,8 +28,21 @@ void WriteOut(const std::string& file, const std::string& bytes)
         std::fwrite(bytes.data(), 1, bytes.size(), stdout);
         return;
     }
-    if (!WriteBytesTo(PathOf(file), bytes))
-        throw std::runtime_error("\"" + file + "\" cannot be written; make its folder first, or choose another");
+    WriteWholeFile(PathOf(file), bytes);
+}
+
+void WriteByProgram(const std::string& file, std::vector<std::string> words, const std::string& source,
+                    const char* wayOut)
+{
+    const TemporaryFile given(source);
+    const TemporaryFile made("");
+    words.insert(words.end(), {"-o", made.Name().string(), given.Name().string()});
+    const int code = commandline::RunProgram(words);
+    if (code < 0)
+        throw std::runtime_error(wayOut);
+    if (code > 0)
+        throw std::runtime_error(words.front() + " could not make \"" + file + "\"");
+    WriteWholeFile(PathOf(file), ReadWholeFile(made.Name()).value_or(""));
 }
 
 } // namespace lytdlg

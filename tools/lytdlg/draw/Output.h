@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 namespace lytdlg
 {
@@ -10,5 +11,9 @@ namespace lytdlg
 std::string ExtensionOf(const std::string& file);
 // Writes to standard output for an empty name. Throws std::runtime_error when the file cannot be written.
 void WriteOut(const std::string& file, const std::string& bytes);
+// Has another program make the file of a source: it is told -o, the file to write and the file to read. Throws
+// std::runtime_error with the way out when there is no such program.
+void WriteByProgram(const std::string& file, std::vector<std::string> words, const std::string& source,
+                    const char* wayOut);
 
 } // namespace lytdlg

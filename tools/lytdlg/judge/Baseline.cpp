@@ -2,9 +2,11 @@
 
 #include "commandline/CommandLine.h"
 #include "lytdlg/text/Paths.h"
+#include "lytdlg/text/TextFile.h"
 
 #include <algorithm>
-#include <fstream>
+#include <filesystem>
+#include <sstream>
 
 namespace lytdlg
 {
@@ -12,7 +14,7 @@ namespace lytdlg
 namespace
 {
 
-constexpr const char* baselineTitle = "lytdlg baseline 1";
+constexpr const char* baselineTitle = "lytdlg baseline 1\n";
 
 std::string KeyOf(const Finding& finding, const Description& description)
 {
@@ -24,16 +26,22 @@ std::string KeyOf(const Finding& finding, const Description& description)
            line.substr(start, line.find_last_not_of(" \t") + 1 - start);
 }
 
+bool IsBaseline(const std::string& path)
+{
+    return ReadWholeFile(PathOf(path)).value_or("").starts_with(baselineTitle);
+}
+
 } // namespace
 
 Baseline::Baseline(const std::string& path)
 {
-    std::ifstream file(PathOf(path), std::ios::binary);
-    std::string line;
-    if (!std::getline(file, line) || line != baselineTitle)
+    if (!IsBaseline(path))
         throw commandline::UsageError("\"" + path +
                                       "\" is no file of known findings; write one with --write-baseline FILE");
-    while (std::getline(file, line))
+    std::istringstream lines(ReadWholeFile(PathOf(path)).value_or(""));
+    std::string line;
+    std::getline(lines, line);
+    while (std::getline(lines, line))
         ++m_known[line];
 }
 
@@ -55,15 +63,16 @@ void Baseline::Add(const Description& description, const Findings& findings)
 
 void Baseline::Write(const std::string& path) const
 {
-    std::ofstream file(PathOf(path), std::ios::binary);
-    file << baselineTitle << '\n';
+    if (std::filesystem::exists(PathOf(path)) && !IsBaseline(path))
+        throw commandline::UsageError("\"" + path +
+                                      "\" is no file of known findings, and stays as it is; choose another name");
+    std::string content = baselineTitle;
     for (const auto& [line, count] : m_known)
     {
         for (int written = 0; written < count; ++written)
-            file << line << '\n';
+            content += line + '\n';
     }
-    if (!file.flush())
-        throw commandline::UsageError("\"" + path + "\" cannot be written; check its folder and rights");
+    WriteWholeFile(PathOf(path), content);
 }
 
 } // namespace lytdlg

@@ -4,14 +4,13 @@
 #include "lytdlg/judge/Baseline.h"
 #include "lytdlg/judge/Report.h"
 #include "lytdlg/judge/RuleTexts.h"
-#include "lytdlg/text/BinaryStream.h"
 #include "lytdlg/text/DescriptionPaths.h"
 #include "lytdlg/text/Paths.h"
-#include "lytdlg/text/TextFile.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <cstdio>
-#include <filesystem>
+#include <optional>
 
 namespace lytdlg
 {
@@ -19,21 +18,11 @@ namespace lytdlg
 namespace
 {
 
-std::string BytesOf(const std::string& path)
+std::string FolderOf(const std::string& path)
 {
     if (path == standardInput)
-        return ReadStandardInput();
-    std::optional<std::string> bytes = ReadWholeFile(PathOf(path));
-    if (!bytes)
-        throw commandline::UsageError("\"" + path + "\" cannot be read; check its name and rights");
-    return std::move(*bytes);
-}
-
-std::string FolderOf(const std::string& operand)
-{
-    if (operand == standardInput || std::filesystem::is_directory(PathOf(operand)))
-        return operand == standardInput ? "" : operand;
-    const std::string folder = PathOf(operand).parent_path().string();
+        return "";
+    const std::string folder = PathOf(path).parent_path().string();
     return folder.empty() ? "." : folder;
 }
 
@@ -61,11 +50,10 @@ public:
             m_known = Baseline(asked.Text("--baseline", ""));
     }
 
-    void JudgeAt(const std::string& path, const Surroundings& surroundings)
+    void JudgeAt(const std::string& path)
     {
-        const std::string bytes = BytesOf(path);
-        const Description description(path, bytes, m_request.Texts("--define"));
-        Findings findings = Judge(description, surroundings);
+        const Description description(path, ReadDescription(path), m_request.Texts("--define"));
+        Findings findings = Judge(description, SurroundingsIn(FolderOf(path)));
         m_found.Add(description, findings);
         m_known.Subtract(description, findings);
         m_report->Add(description, findings);
@@ -82,6 +70,14 @@ public:
     }
 
 private:
+    // Kept from one description of a folder to the next.
+    const Surroundings& SurroundingsIn(const std::string& folder)
+    {
+        if (!m_surroundings || m_surroundings->folder != folder)
+            m_surroundings.emplace(SurroundingsOf(folder, m_request.Texts("--partners")));
+        return *m_surroundings;
+    }
+
     void Count(const Findings& findings)
     {
         ++m_counts.files;
@@ -97,6 +93,7 @@ private:
     }
 
     const Request& m_request; // of the caller
+    std::optional<Surroundings> m_surroundings;
     std::unique_ptr<Report> m_report;
     Baseline m_known;
     Baseline m_found;
@@ -132,13 +129,13 @@ ExitCode Check(const Request& request)
     if (request.operands.empty())
         throw commandline::UsageError("something is missing after \"check\"; write: lytdlg check PATH...");
     Checker checker(request);
-    for (const std::string& operand : request.operands)
+    const auto judge = [&](const std::string& path)
     {
-        const Surroundings surroundings = SurroundingsOf(FolderOf(operand), request.Texts("--partners"));
-        for (const std::string& path : DescriptionsAt(operand))
-            checker.JudgeAt(path, surroundings);
-    }
-    return checker.End();
+        checker.JudgeAt(path);
+        return good;
+    };
+    const ExitCode reading = ForEachDescription(request.operands, judge);
+    return std::max(reading, checker.End());
 }
 
 } // namespace

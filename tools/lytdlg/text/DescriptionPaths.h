@@ -1,6 +1,9 @@
 // The descriptions that a command line names.
 #pragma once
 
+#include "lytdlg/Commands.h"
+
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -13,5 +16,13 @@ inline constexpr const char* standardInput = "-";
 // The descriptions that an operand stands for: those of a folder in the order of their names, a file, or the standard
 // input. A UsageError when there are none.
 std::vector<std::string> DescriptionsAt(const std::string& operand);
+
+// What such a name stands for. Throws std::runtime_error when it cannot be read.
+std::string ReadDescription(const std::string& name);
+
+// Does the same with every description that the operands stand for, and gives the worst exit code. What is raised for one
+// of them is told, and the others still have their turn.
+ExitCode ForEachDescription(const std::vector<std::string>& operands,
+                            const std::function<ExitCode(const std::string& name)>& act);
 
 } // namespace lytdlg

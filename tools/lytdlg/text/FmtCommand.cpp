@@ -1,5 +1,6 @@
 #include "lytdlg/text/FmtCommand.h"
 
+#include "commandline/Text.h"
 #include "lytdlg/text/BinaryStream.h"
 #include "lytdlg/text/DescriptionPaths.h"
 #include "lytdlg/text/FileForLibrary.h"
@@ -8,8 +9,6 @@
 #include "lytdlg/text/Paths.h"
 #include "lytdlg/text/TextFile.h"
 
-#include <algorithm>
-#include <iterator>
 #include <optional>
 
 namespace lytdlg
@@ -43,15 +42,14 @@ std::optional<std::string> FormOf(const std::string& name, const fs::path& file,
     }
     catch (const TooManyDefines& failure)
     {
-        std::fflush(stdout);
-        std::fprintf(stderr, "lytdlg: %s %s; it is left as it is\n", name.c_str(), failure.what());
+        TellError(name + " " + failure.what() + "; it is left as it is");
         return std::nullopt;
     }
 }
 
 ExitCode FormatInput(Task task)
 {
-    const std::string content = ReadStandardInput();
+    const std::string content = ReadDescription(standardInput);
     const FileForLibrary file(content);
     const std::optional<std::string> form = FormOf("the standard input", file.Name(), content);
     const std::string& text = form ? *form : content;
@@ -66,38 +64,28 @@ ExitCode FormatInput(Task task)
 
 ExitCode FormatFile(const std::string& name, Task task)
 {
-    const std::optional<std::string> content = ReadWholeFile(PathOf(name));
-    if (!content)
-        throw std::runtime_error("cannot read " + name + "; check its rights");
-    const std::optional<std::string> form = FormOf(name, PathOf(name), *content);
+    const std::string content = ReadDescription(name);
+    const std::optional<std::string> form = FormOf(name, PathOf(name), content);
     if (!form)
         return found;
-    if (*form == *content)
+    if (*form == content)
         return good;
     if (task == Task::Diff)
-        WriteBytes(LineDiff(name, *content, *form));
+        WriteBytes(LineDiff(commandline::Printable(name), content, *form));
     if (task == Task::Check)
-        std::printf("%s\n", name.c_str());
+        commandline::PrintLine(name);
     if (task != Task::Write)
         return found;
-    ReplaceWholeFile(PathOf(name), *form);
-    std::printf("%s: formatted\n", name.c_str());
+    ReplaceWholeFile(PathOf(name), content, *form);
+    commandline::PrintLine(name + ": formatted");
     return good;
 }
 
 ExitCode Format(const Request& request)
 {
     const Task task = TaskOf(request);
-    std::vector<std::string> files;
-    for (const std::string& operand : request.operands)
-        std::ranges::copy(DescriptionsAt(operand), std::back_inserter(files));
-    ExitCode code = good;
-    for (const std::string& file : files)
-    {
-        const ExitCode ofFile = file == standardInput ? FormatInput(task) : FormatFile(file, task);
-        code = std::max(code, ofFile);
-    }
-    return code;
+    return ForEachDescription(request.operands, [&](const std::string& name)
+                              { return name == standardInput ? FormatInput(task) : FormatFile(name, task); });
 }
 
 } // namespace

@@ -1,9 +1,8 @@
 #include "lytdlg/text/NewCommand.h"
 
+#include "commandline/Text.h"
 #include "lytdlg/text/NewDialog.h"
 #include "lytdlg/text/Paths.h"
-
-#include <cstdio>
 
 namespace lytdlg
 {
@@ -22,7 +21,7 @@ ExitCode New(const Request& request)
     if (!std::filesystem::is_directory(PathOf(folder), ignored))
         throw commandline::UsageError("there is no folder " + folder + "; name the folder of the dialogs");
     for (const MadeFile& file : MakeDialog(PathOf(folder), name))
-        std::printf("%s: %s\n", file.name.string().c_str(), file.isNew ? "made" : "texts added");
+        commandline::PrintLine(file.name.string() + (file.isNew ? ": made" : ": texts added"));
     return good;
 }
 

@@ -1,6 +1,8 @@
 #include "lytdlg/text/NewDialog.h"
 
 #include "commandline/CommandLine.h"
+#include "lytdlg/doctor/Checks.h"
+#include "lytdlg/text/FolderLock.h"
 #include "lytdlg/text/LanguageFiles.h"
 #include "lytdlg/text/NewDialogTexts.h"
 #include "lytdlg/text/Paths.h"
@@ -74,14 +76,15 @@ void Carry(const std::vector<Change>& changes)
         for (; done < changes.size(); ++done)
         {
             const Change& change = changes[done];
-            change.before ? ReplaceWholeFile(change.name, change.content) : WriteNewFile(change.name, change.content);
+            change.before ? ReplaceWholeFile(change.name, *change.before, change.content)
+                          : WriteNewFile(change.name, change.content);
         }
     }
     catch (const std::exception&)
     {
         std::error_code ignored;
         for (size_t i = 0; i < done; ++i)
-            changes[i].before ? ReplaceWholeFile(changes[i].name, *changes[i].before)
+            changes[i].before ? ReplaceWholeFile(changes[i].name, changes[i].content, *changes[i].before)
                               : static_cast<void>(fs::remove(changes[i].name, ignored));
         throw;
     }
@@ -167,6 +170,12 @@ std::string FaultOfName(const std::string& name)
         return "use " + std::to_string(longestNewName) + " letters at most";
     if (IsAmong(name, devices))
         return "Windows keeps this name for a device; choose another";
+    if (std::ranges::any_of(OpenedDescriptions(),
+                            [&](const OpenedDescription& opened) { return IsSameName(name + ".dlg", opened.name); }))
+        return "the macros open the dialog of this name with the key of a placeholder, which a new dialog would not "
+               "keep; "
+               "begin with a copy of the sample " +
+               name + ".dlg and its texts, or choose another name";
     if (IsAmong(name, librarySections))
         return "the library has a section of texts with this name for itself; choose another";
     return {};
@@ -174,6 +183,7 @@ std::string FaultOfName(const std::string& name)
 
 std::vector<MadeFile> MakeDialog(const fs::path& folder, const std::string& name)
 {
+    const FolderLock others(folder);
     std::vector<Change> changes = TextChanges(folder, name);
     changes.push_back(CaseOf(folder, name, LanguageFiles(folder).Languages()));
     changes.push_back({folder / (name + ".dlg"), Named(NewDescription(), name), {}});

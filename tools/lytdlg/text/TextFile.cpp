@@ -6,8 +6,8 @@
 #include <windows.h>
 
 #include <algorithm>
+#include <cerrno>
 #include <fstream>
-#include <iterator>
 #include <stdexcept>
 
 namespace lytdlg
@@ -31,54 +31,117 @@ fs::path FreeName(const fs::path& folder, const std::string& stem)
     }
 }
 
+std::error_code WriteDraft(const fs::path& name, const std::string& content)
+{
+    errno = 0;
+    std::ofstream file(name, std::ios::binary);
+    file << content;
+    file.close();
+    if (!file.fail())
+        return {};
+    return {errno != 0 ? errno : EIO, std::generic_category()};
+}
+
+// The file that a link leads to. Throws when it is there and cannot be replaced.
+fs::path TargetOf(const fs::path& name)
+{
+    std::error_code failure;
+    const fs::path found = fs::canonical(name, failure);
+    if (failure)
+        return name;
+    if (!fs::is_regular_file(found, failure))
+        throw std::runtime_error(name.string() + " is no file that could be replaced; choose another");
+    if (IsWriteProtected(found))
+        throw std::runtime_error(name.string() + " is write-protected; it stays as it was");
+    return found;
+}
+
+// Gone with its owner, unless it was renamed before.
+struct Draft
+{
+    const fs::path name;
+    ~Draft()
+    {
+        std::error_code ignored;
+        fs::remove(name, ignored);
+    }
+};
+
+// Writes the content beside the target, and renames it after a last look at what is there.
+template <class CHECK>
+void Put(const fs::path& target, const std::string& content, const CHECK& checkAgain)
+{
+    const Draft draft{FreeName(target.parent_path(), target.filename().string())};
+    std::error_code failure = WriteDraft(draft.name, content);
+    if (!failure)
+    {
+        std::error_code ignored;
+        if (fs::exists(target, ignored))
+            fs::permissions(draft.name, fs::status(target, ignored).permissions(), ignored);
+        checkAgain();
+        fs::rename(draft.name, target, failure);
+    }
+    if (failure)
+        throw std::runtime_error(FailureToWrite(target, failure));
+}
+
 } // namespace
 
 std::optional<std::string> ReadWholeFile(const fs::path& name)
 {
     std::error_code ignored;
-    std::ifstream file(name, std::ios::binary);
-    if (!file || fs::is_directory(name, ignored))
-        return std::nullopt;
-    std::string content{std::istreambuf_iterator<char>(file), {}};
-    return file.bad() ? std::nullopt : std::optional(std::move(content));
+    const fs::file_status status = fs::status(name, ignored);
+    std::ifstream file;
+    // Also for what has no entry in a folder, such as a stream of a file.
+    if (fs::is_regular_file(status) || !fs::exists(status))
+        file.open(name, std::ios::binary);
+    std::string content;
+    char block[8192];
+    while (file.is_open() && (file.read(block, sizeof block) || file.gcount() > 0))
+        content.append(block, static_cast<size_t>(file.gcount()));
+    return file.is_open() && !file.bad() ? std::optional(std::move(content)) : std::nullopt;
 }
 
-bool WriteBytesTo(const fs::path& name, const std::string& content)
+void WriteWholeFile(const fs::path& name, const std::string& content)
 {
-    std::ofstream file(name, std::ios::binary);
-    file << content;
-    file.close();
-    return !file.fail();
+    Put(TargetOf(name), content, [] {});
 }
 
-void ReplaceWholeFile(const fs::path& name, const std::string& content)
+void ReplaceWholeFile(const fs::path& name, const std::string& before, const std::string& content)
 {
-    std::error_code failure;
-    const fs::path target = fs::canonical(name, failure);
-    if (failure || IsWriteProtected(target))
-        throw std::runtime_error(name.string() + " is write-protected; it stays as it was");
-    const fs::path draft = FreeName(target.parent_path(), target.filename().string());
-    if (WriteBytesTo(draft, content))
-    {
-        fs::permissions(draft, fs::status(target).permissions(), failure);
-        fs::rename(draft, target, failure);
-        if (!failure)
-            return;
-    }
-    fs::remove(draft, failure);
-    throw std::runtime_error("cannot write " + name.string() + "; it stays as it was. Check the rights of its folder");
+    const fs::path target = TargetOf(name);
+    Put(target, content,
+        [&]
+        {
+            if (ReadWholeFile(target) != before)
+                throw std::runtime_error(name.string() +
+                                         " was changed by somebody else meanwhile, and stays so; try again");
+        });
 }
 
 void WriteNewFile(const fs::path& name, const std::string& content)
 {
-    std::error_code failure;
-    fs::create_directories(name.parent_path(), failure);
-    const bool isThere = fs::exists(fs::symlink_status(name, failure));
-    if (!isThere && WriteBytesTo(name, content))
-        return;
-    if (!isThere)
-        fs::remove(name, failure);
-    throw std::runtime_error("cannot write " + name.string() + "; check the rights of its folder");
+    std::error_code ignored;
+    fs::create_directories(name.parent_path(), ignored);
+    Put(name, content,
+        [&]
+        {
+            if (fs::exists(fs::symlink_status(name, ignored)))
+                throw std::runtime_error(name.string() +
+                                         " is there meanwhile, and stays as it is; choose another name");
+        });
+}
+
+std::string FailureToWrite(const fs::path& name, const std::error_code& reason)
+{
+    const char* wayOut = "check the rights of its folder";
+    if (reason == std::errc::no_space_on_device || reason == std::errc::file_too_large)
+        wayOut = "make room on the disk, or choose another folder";
+    else if (reason == std::errc::no_such_file_or_directory)
+        wayOut = "make its folder first, or choose another";
+    std::error_code ignored;
+    const char* kept = fs::exists(name, ignored) ? " and stays as it was" : "";
+    return name.string() + " cannot be written" + kept + " (" + reason.message() + "); " + wayOut;
 }
 
 bool IsWriteProtected(const fs::path& name)
@@ -104,8 +167,8 @@ std::vector<fs::path> FilesIn(const fs::path& folder, const std::string& extensi
 
 TemporaryFile::TemporaryFile(const std::string& content) : m_name(FreeName(fs::temp_directory_path(), "lytdlg"))
 {
-    if (!WriteBytesTo(m_name, content))
-        throw std::runtime_error("cannot write " + m_name.string() + "; check the folder for temporary files");
+    if (const std::error_code failure = WriteDraft(m_name, content))
+        throw std::runtime_error(FailureToWrite(m_name, failure));
 }
 
 TemporaryFile::~TemporaryFile()

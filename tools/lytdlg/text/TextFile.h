@@ -4,24 +4,30 @@
 #include <filesystem>
 #include <optional>
 #include <string>
+#include <system_error>
 #include <vector>
 
 namespace lytdlg
 {
 
-// Nothing for a file that cannot be read.
+// Nothing for a file that cannot be read. A device or a pipe is no file: it may have no end.
 std::optional<std::string> ReadWholeFile(const std::filesystem::path& name);
 
-// Writes a file, over the one that is there, which may be a device. False when that fails.
-bool WriteBytesTo(const std::filesystem::path& name, const std::string& content);
+// Every file is written beside its place and put there in one step, so that at no time it is half written. A file that is
+// replaced keeps its rights, and a link leads where it led. What cannot be written throws std::runtime_error, with all as it
+// was.
 
-// Puts the content in a file's place in one step, so that at no time the file is half written. The file keeps its rights,
-// and a link leads where it led. Throws std::runtime_error, with the file as it was, when it cannot be written.
-void ReplaceWholeFile(const std::filesystem::path& name, const std::string& content);
+// Over the file that is there, if any.
+void WriteWholeFile(const std::filesystem::path& name, const std::string& content);
 
-// Writes a file that was not there, and its folder when that was not there either. Throws std::runtime_error, and leaves no
-// file, when it cannot be written.
+// Over the file that still holds what it held before.
+void ReplaceWholeFile(const std::filesystem::path& name, const std::string& before, const std::string& content);
+
+// Where no file is; makes its folder as well.
 void WriteNewFile(const std::filesystem::path& name, const std::string& content);
+
+// Why a file cannot be written, and the way out.
+std::string FailureToWrite(const std::filesystem::path& name, const std::error_code& reason);
 
 // The files of a folder with an extension, in the order of their names. Case does not count, and a folder that is not there
 // has none.

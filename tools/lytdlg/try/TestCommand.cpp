@@ -1,5 +1,6 @@
 #include "lytdlg/try/TestCommand.h"
 
+#include "commandline/Text.h"
 #include "lytdlg/text/Paths.h"
 #include "lytdlg/text/TextFile.h"
 #include "lytdlg/try/CaseRun.h"
@@ -11,6 +12,7 @@
 namespace lytdlg
 {
 
+using commandline::PrintLine;
 namespace fs = std::filesystem;
 
 namespace
@@ -46,17 +48,14 @@ struct Count
 
 void Print(const GoldenCase& one, const Difference& difference)
 {
-    std::printf("%s:%d: %s\n", one.file.c_str(), difference.line, one.name.c_str());
+    PrintLine(one.file + ":" + std::to_string(difference.line) + ": " + one.name);
     if (difference.isStop)
     {
-        std::printf("    cannot go on: %s\n", difference.got.c_str());
+        PrintLine("    cannot go on: " + difference.got);
         return;
     }
-    if (!difference.expected.empty())
-        std::printf("    expected: %s\n", difference.expected.c_str());
-    else
-        std::printf("    expected: nothing more\n");
-    std::printf("    got:      %s\n", difference.got.empty() ? "nothing" : difference.got.c_str());
+    PrintLine("    expected: " + (difference.expected.empty() ? "nothing more" : difference.expected));
+    PrintLine("    got:      " + (difference.got.empty() ? "nothing" : difference.got));
 }
 
 // The line ends stay what they were.
@@ -66,8 +65,8 @@ void Update(const std::string& file, const std::string& content, const CaseUpdat
     std::string text;
     for (const std::string& line : Updated(LinesOf(content), update))
         text += line + lineEnd;
-    ReplaceWholeFile(PathOf(file), text);
-    std::printf("%s: brought up to date\n", file.c_str());
+    WriteWholeFile(PathOf(file), text);
+    PrintLine(file + ": brought up to date");
 }
 
 // A case that could not go on is not brought up to date.
@@ -109,7 +108,7 @@ ExitCode Test(const Request& request)
             }
             catch (const FileError& error)
             {
-                std::printf("%s\n", error.what());
+                PrintLine(error.what());
                 ++count.notUnderstood;
             }
         }
