@@ -1,5 +1,7 @@
 #include "lytcall/ReportDifference.h"
 
+#include "commandline/Text.h"
+
 #include <algorithm>
 #include <map>
 
@@ -70,7 +72,7 @@ void Tell(const std::string& title, const Changes& changes, ReportDifference& di
     if (!changes.empty())
         difference.text += title + "\n";
     for (const Change& change : changes)
-        difference.text += std::string("  ") + change.side + " " + change.line + "\n";
+        difference.text += std::string("  ") + change.side + " " + commandline::Printable(change.line) + "\n";
 }
 
 // The blocks of a report by title; of two with one title the second is told apart by a number.

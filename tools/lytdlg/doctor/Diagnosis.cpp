@@ -1,5 +1,6 @@
 #include "lytdlg/doctor/Diagnosis.h"
 
+#include "commandline/Text.h"
 #include "lytdlg/text/Json.h"
 
 #include <algorithm>
@@ -79,10 +80,10 @@ void PrintAsText(const Diagnosis& diagnosis)
 {
     for (const Observation& observation : diagnosis.All())
     {
-        std::printf("%-*s %-*s %s%s\n", verdictWidth, WordOf(observation.verdict), aboutWidth, observation.about,
-                    LeadOf(observation).c_str(), observation.message.c_str());
+        std::printf("%-*s %-*s ", verdictWidth, WordOf(observation.verdict), aboutWidth, observation.about);
+        commandline::PrintLine(LeadOf(observation) + observation.message);
         if (!observation.hint.empty())
-            std::printf("%*s hint: %s\n", verdictWidth + 1 + aboutWidth, "", observation.hint.c_str());
+            commandline::PrintLine(std::string(verdictWidth + 1 + aboutWidth, ' ') + " hint: " + observation.hint);
     }
     std::printf("verdict: %s\n", Summary(diagnosis).c_str());
 }

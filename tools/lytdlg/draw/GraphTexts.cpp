@@ -8,7 +8,7 @@ namespace lytdlg
 
 std::string Shown(const CString& text)
 {
-    return commandline::ToUtf8(text.GetString());
+    return commandline::Shown(text.GetString());
 }
 
 std::string ValuesText(const CStringList& values)

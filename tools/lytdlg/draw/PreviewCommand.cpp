@@ -11,7 +11,6 @@
 #include "lytdlg/try/TrialRun.h"
 
 #include <algorithm>
-#include <cstdio>
 #include <filesystem>
 #include <functional>
 #include <iterator>
@@ -43,37 +42,25 @@ struct Opening
     std::vector<std::string> messages;
 };
 
-std::string OnOneLine(const std::string& text)
-{
-    std::string line = ToUtf8(text);
-    std::ranges::replace(line, '\n', ' ');
-    return line;
-}
-
 // Opens the dialog as a call does, lets somebody look at it, and closes it again.
 Opening Open(const Setup& setup, const Look& look)
 {
     TrialRun run(setup, false);
-    const auto step = [&look](const Trial& open)
-    {
-        if (const TrialDialog* top = open.Top())
-            look(*top);
-    };
-    const Outcome& outcome = run.Run({}, step);
+    const Outcome& outcome = run.Run({}, look);
     if (outcome.ending == Ending::NotOpened)
-        return {OnOneLine(outcome.failureNumber + ": " + outcome.failureMessage), {}};
+        return {ToUtf8(outcome.failureNumber + ": " + outcome.failureMessage), {}};
     Opening opening;
     for (const Event& event : run.events)
-        opening.messages.push_back(OnOneLine(event.text));
+        opening.messages.push_back(ToUtf8(event.text));
     return opening;
 }
 
 ExitCode Tell(const std::string& file, const Opening& opening)
 {
     if (!opening.refusal.empty())
-        std::fprintf(stderr, "lytdlg: %s: the library refuses it: %s\n", file.c_str(), opening.refusal.c_str());
+        TellError(file + ": the library refuses it: " + opening.refusal);
     for (const std::string& message : opening.messages)
-        std::fprintf(stderr, "lytdlg: %s: shows a message while it opens: %s\n", file.c_str(), message.c_str());
+        TellError(file + ": shows a message while it opens: " + message);
     return opening.refusal.empty() && opening.messages.empty() ? good : found;
 }
 

@@ -7,6 +7,8 @@
 namespace lytdlg
 {
 
+using commandline::Shown;
+
 namespace
 {
 
@@ -17,14 +19,6 @@ std::string BlanksTo(const std::string& line, size_t column)
     for (char& ch : blanks)
         ch = ch == '\t' ? '\t' : ' ';
     return blanks;
-}
-
-// The line as a terminal can show it, byte for byte.
-std::string Shown(std::string line)
-{
-    for (char& ch : line)
-        ch = static_cast<unsigned char>(ch) < ' ' && ch != '\t' ? '?' : ch;
-    return line;
 }
 
 const char* ColourOf(Level level)
@@ -75,18 +69,17 @@ std::string TextOf(const Finding& finding, const Description& description, bool 
     const char* const colour = isColoured ? ColourOf(finding.rule->level) : "";
     const char* const plain = isColoured ? "\033[0m" : "";
     const std::string number = finding.number.empty() ? "" : " (message " + finding.number + ")";
-    std::string text = PathOf(finding, description) + ":" + std::to_string(finding.place.line) + ":" +
-                       std::to_string(finding.place.column + 1) + ": " + colour + WordOf(finding.rule->level) + plain +
-                       " " + finding.rule->id + ": " + commandline::ToUtf8(finding.message) + number + "\n";
+    std::string text = commandline::Printable(PathOf(finding, description)) + ":" + std::to_string(finding.place.line) +
+                       ":" + std::to_string(finding.place.column + 1) + ": " + colour + WordOf(finding.rule->level) +
+                       plain + " " + finding.rule->id + ": " + Shown(finding.message) + number + "\n";
     if (finding.place.line > 0)
     {
         const std::string& line = LineOf(finding, description);
-        text += "    " + commandline::ToUtf8(Shown(line)) + "\n    " +
-                BlanksTo(line, static_cast<size_t>(finding.place.column)) + colour + "^" +
-                std::string(static_cast<size_t>(std::max(0, finding.place.length - 1)), '~') + plain + "\n";
+        text += "    " + Shown(line) + "\n    " + BlanksTo(line, static_cast<size_t>(finding.place.column)) + colour +
+                "^" + std::string(static_cast<size_t>(std::max(0, finding.place.length - 1)), '~') + plain + "\n";
     }
     if (!finding.hint.empty())
-        text += "    hint: " + commandline::ToUtf8(finding.hint) + "\n";
+        text += "    hint: " + Shown(finding.hint) + "\n";
     return text;
 }
 

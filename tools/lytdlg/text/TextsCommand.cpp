@@ -55,7 +55,7 @@ void PrintTable(const std::vector<Cells>& table)
         std::string line;
         for (size_t i = 0; i < cells.size(); ++i)
             line += cells[i] + std::string(std::max(widths[i], cells[i].size()) - cells[i].size(), ' ');
-        std::printf("%s\n", commandline::ToUtf8(line).c_str());
+        commandline::PrintLine(commandline::ToUtf8(line));
     }
 }
 
@@ -66,16 +66,19 @@ void PrintForReading(const TextTable& texts)
     for (const LanguageFile& file : texts.Languages().Files())
         table.front().push_back(file.Language());
     table.front().push_back("USED BY");
-    std::string remarks;
+    std::vector<std::string> remarks;
     for (const TextRow& row : texts.Rows())
     {
         table.push_back(CellsOf(row, texts));
         for (const std::string& remark : row.remarks)
-            remarks += "[" + row.section + "] " + row.key + ": " + remark + "\n";
+            remarks.push_back("[" + row.section + "] " + row.key + ": " + remark);
     }
     PrintTable(table);
-    std::printf("%s%s\n%zu texts, %zu missing\n", remarks.empty() ? "" : "\n", commandline::ToUtf8(remarks).c_str(),
-                texts.Rows().size(), texts.CountMissing());
+    if (!remarks.empty())
+        std::printf("\n");
+    for (const std::string& remark : remarks)
+        commandline::PrintLine(commandline::ToUtf8(remark));
+    std::printf("\n%zu texts, %zu missing\n", texts.Rows().size(), texts.CountMissing());
 }
 
 Json JsonOf(const TextUse& use)

@@ -93,7 +93,7 @@ std::string DescribeContent(const ControlState& state)
 
 std::string ShownName(const ControlState& state)
 {
-    return state.name.empty() ? "-" : ToUtf8(state.name);
+    return state.name.empty() ? "-" : commandline::Shown(state.name);
 }
 
 std::string Describe(const ControlState& state, size_t nameWidth)

@@ -19,7 +19,7 @@ ExitCode RunDialog(const Request& request)
         std::fputs(Describe(state).c_str(), stdout);
     run.PrintEvents();
     for (const std::string& control : run.items.Unused())
-        std::printf("nothing asked for the items of %s\n", commandline::ToUtf8(control).c_str());
+        commandline::PrintLine("nothing asked for the items of " + commandline::ToUtf8(control));
     if (outcome.ending == Ending::NotOpened)
         return static_cast<ExitCode>(run.PrintFailure());
     std::printf("%s\n", WordOf(outcome.ending));

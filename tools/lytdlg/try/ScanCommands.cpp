@@ -9,6 +9,7 @@
 namespace lytdlg
 {
 
+using commandline::PrintLine;
 using commandline::PrintText;
 using commandline::Quoted;
 using commandline::ToUtf8;
@@ -21,8 +22,8 @@ constexpr commandline::OptionForm traceOption = {"--trace", nullptr, false, "pri
 void PrintFills(const Recorder& recorder)
 {
     for (const FillRecord& fill : recorder.Fills())
-        std::printf("line %d %s: %s %s\n", fill.line, ToUtf8(fill.statement).c_str(), ToUtf8(fill.control).c_str(),
-                    fill.text.c_str());
+        PrintLine("line " + std::to_string(fill.line) + " " + ToUtf8(fill.statement + ": " + fill.control) + " " +
+                  fill.text);
     const std::string end = recorder.Steps().empty() ? "Start" : recorder.Steps().back().next;
     if (end == "End" || end.empty())
         std::printf("the scan ended at %s\n", end.empty() ? "the end of the text" : "End");
@@ -42,14 +43,14 @@ ExitCode Scan(const Request& request)
     if (!isParent)
         setup.input.clear();
     TrialRun run(setup, request.Has("--trace"));
-    const auto scan = [&](Trial& trial)
+    const auto scan = [&](TrialDialog& dialog)
     {
         if (isParent)
             return;
-        CheckKnown("input part", part, FactsOf(*trial.Top()).parts);
+        CheckKnown("input part", part, FactsOf(dialog).parts);
         run.recorder.ForgetScan();
         run.events.clear();
-        trial.Top()->RunInput(part.c_str(), text.c_str());
+        dialog.RunInput(part.c_str(), text.c_str());
     };
     if (run.Run({}, scan).ending == Ending::NotOpened)
         return static_cast<ExitCode>(run.PrintFailure());
@@ -69,7 +70,7 @@ int PrintComposed(const Recorder& recorder, const std::string& group, const std:
     }
     std::printf("no rule of the output group %s holds\n", Quoted(ToUtf8(group)).c_str());
     for (size_t index = 0; index < output.refusals.size(); ++index)
-        std::printf("line %d: %s\n", output.refusedLines[index], output.refusals[index].text.c_str());
+        PrintLine("line " + std::to_string(output.refusedLines[index]) + ": " + output.refusals[index].text);
     return found;
 }
 
@@ -78,12 +79,10 @@ ExitCode Compose(const Request& request)
     const std::string group = AnsiOf(request.Text("--group", lytParentName));
     TrialRun run(SetupOf(request), request.Has("--trace"));
     CString text;
-    const auto compose = [&](Trial& trial)
+    const auto compose = [&](TrialDialog& dialog)
     {
-        if (trial.Top() == nullptr)
-            return;
-        CheckKnown("output group", group, FactsOf(*trial.Top()).groups);
-        trial.Top()->ComposeNamedOutput(group.c_str(), text);
+        CheckKnown("output group", group, FactsOf(dialog).groups);
+        dialog.ComposeNamedOutput(group.c_str(), text);
     };
     if (run.Run(ActsOf(request), compose).ending == Ending::NotOpened)
         return static_cast<ExitCode>(run.PrintFailure());
@@ -104,8 +103,8 @@ std::string RoundOf(const Setup& setup, const std::string& text)
     TrialRun run(setup, false);
     CString composed;
     bool isComposed = false;
-    const auto compose = [&](Trial& trial)
-    { isComposed = trial.Top()->ComposeNamedOutput(lytParentName, composed) != 0; };
+    const auto compose = [&](TrialDialog& dialog)
+    { isComposed = dialog.ComposeNamedOutput(lytParentName, composed) != 0; };
     const Outcome& outcome = run.Run({}, compose);
     if (outcome.ending == Ending::NotOpened)
         return "the dialog does not open: " + Quoted(ToUtf8(outcome.failureMessage));

@@ -14,7 +14,22 @@ namespace lytdlg
 using commandline::PrintText;
 using commandline::ToUtf8;
 
-const Outcome& TrialRun::Run(const std::vector<Act>& acts, Trial::Step last)
+namespace
+{
+
+void LookAtTop(const Trial& running, const TrialRun::Look& look)
+{
+    if (running.PresentEnding() == Ending::NotOpened)
+        return;
+    TrialDialog* top = running.Top();
+    if (top == nullptr)
+        throw ActError("no described dialog is left to look at; leave the last --ok, --cancel or --press out");
+    look(*top);
+}
+
+} // namespace
+
+const Outcome& TrialRun::Run(const std::vector<Act>& acts, const Look& look)
 {
     std::deque<Trial::Step> steps;
     for (const Act& act : acts)
@@ -27,8 +42,8 @@ const Outcome& TrialRun::Run(const std::vector<Act>& acts, Trial::Step last)
                 running.Do(act);
             });
     }
-    if (last)
-        steps.push_back(std::move(last));
+    if (look)
+        steps.emplace_back([&look](const Trial& running) { LookAtTop(running, look); });
     // What a dialog does while it is closed for want of further acts is nobody's concern.
     steps.emplace_back([this](Trial& /*trial*/) { recorder.EndTrace(); });
     return trial.Run(std::move(steps));
@@ -41,7 +56,7 @@ void TrialRun::PrintEvents() const
         if (event.kind == EventKind::Message)
             PrintText("message", event.text);
         else
-            std::printf("%s\n", event.text.c_str());
+            commandline::PrintLine(event.text);
     }
 }
 

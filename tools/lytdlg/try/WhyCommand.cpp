@@ -1,10 +1,9 @@
 #include "lytdlg/try/WhyCommand.h"
 
+#include "commandline/Text.h"
 #include "lytdlg/try/Explanation.h"
 #include "lytdlg/try/TakeAct.h"
 #include "lytdlg/try/TrialRun.h"
-
-#include <cstdio>
 
 namespace lytdlg
 {
@@ -16,21 +15,13 @@ ExitCode Why(const Request& request)
 {
     TrialRun run(SetupOf(request), false);
     std::vector<std::string> lines;
-    const auto explain = [&](Trial& trial)
-    {
-        // A dialog that does not open has nothing to explain.
-        if (trial.PresentEnding() == Ending::NotOpened)
-            return;
-        const TrialDialog* dialog = trial.Top();
-        if (dialog == nullptr)
-            throw ActError("the dialog is closed before the question; leave the last --ok or --cancel out");
-        lines = Explain(*dialog, ControlNamed(*dialog, AnsiOf(request.Operand(1, ""))), run.recorder);
-    };
+    const auto explain = [&](const TrialDialog& dialog)
+    { lines = Explain(dialog, ControlNamed(dialog, AnsiOf(request.Operand(1, ""))), run.recorder); };
     if (run.Run(ActsOf(request), explain).ending == Ending::NotOpened)
         return static_cast<ExitCode>(run.PrintFailure());
     run.PrintEvents();
     for (const std::string& line : lines)
-        std::printf("%s\n", line.c_str());
+        commandline::PrintLine(line);
     return good;
 }
 
