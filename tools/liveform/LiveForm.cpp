@@ -59,7 +59,8 @@ bool LiveForm::Enter(const CString& controlName, const CString& input)
 
 bool LiveForm::Enter(ClytControl& control, const CString& input)
 {
-    return EnterAsUser(*this, control, input) != Entered::OutOfReach;
+    const Entered entered = EnterAsUser(*this, control, input);
+    return entered == Entered::Done || entered == Entered::NotOffered;
 }
 
 std::string LiveForm::Value(const CString& name) const
@@ -82,10 +83,7 @@ bool LiveForm::IsShown(const CString& name) const
 
 std::string LiveForm::Focus() const
 {
-    HWND window = ::GetFocus();
-    while (window != nullptr && ::GetParent(window) != m_hWnd)
-        window = ::GetParent(window);
-    const auto* control = dynamic_cast<const ClytControl*>(FromHandlePermanent(window));
+    const ClytControl* control = FocusedControl(*this);
     return control != nullptr ? control->GetName().GetString() : "";
 }
 

@@ -35,56 +35,83 @@ bool Choose(const LIST& list, ClytControl& control, const CString& value, int co
     return false;
 }
 
+bool HasFocus(const CWnd& window)
+{
+    return ::GetFocus() == window.m_hWnd || ::IsChild(window.m_hWnd, ::GetFocus()) != FALSE;
+}
+
+// Keys go to the window with the focus.
+bool TakesFocus(const CWnd& window)
+{
+    robot::Focus(window.m_hWnd);
+    return HasFocus(window);
+}
+
+Entered Type(const CWnd& field, const CString& text)
+{
+    if (!TakesFocus(field))
+        return Entered::NotFocused;
+    robot::ReplaceText(field.m_hWnd, text.GetString());
+    return Entered::Done;
+}
+
 // A value that no item has is typed, where the box takes free text.
-bool ChooseOrType(const CComboBox& box, ClytControl& control, const CString& value)
+Entered ChooseOrType(const CComboBox& box, ClytControl& control, const CString& value)
 {
     if (Choose(box, control, value, CBN_SELCHANGE))
-        return true;
+        return Entered::Done;
     const bool isFree = ::GetWindow(box.m_hWnd, GW_CHILD) != nullptr;
-    if (isFree)
-        robot::ReplaceText(box.m_hWnd, value.GetString());
-    return isFree;
+    return isFree ? Type(box, value) : Entered::NotOffered;
 }
 
 // By the space key: a box without a label has no height, so the mouse never meets it.
-void Mark(const CButton& box)
+Entered Mark(const CButton& box)
 {
-    robot::Focus(box.m_hWnd);
+    if (!TakesFocus(box))
+        return Entered::NotFocused;
     box.SendMessage(WM_KEYDOWN, VK_SPACE);
     box.SendMessage(WM_KEYUP, VK_SPACE);
+    return Entered::Done;
 }
 
-bool Press(const CButton& button, ClytControl& control, const CString& value)
+Entered Press(const CButton& button, ClytControl& control, const CString& value)
 {
     const bool isCheckBox = dynamic_cast<const ClytCheckBoxControl*>(&button) != nullptr;
     if (isCheckBox && control.GetValue() == value)
-        return true;
+        return Entered::Done;
     if (isCheckBox || dynamic_cast<const ClytRadioButtonControl*>(&button) != nullptr)
-        Mark(button);
-    else if (dynamic_cast<const ClytGroupBoxControl*>(&button) == nullptr)
-        button.SendMessage(BM_CLICK);
-    else
-        return false;
-    return true;
+        return Mark(button);
+    if (dynamic_cast<const ClytGroupBoxControl*>(&button) != nullptr)
+        return Entered::NotOffered;
+    button.SendMessage(BM_CLICK);
+    return Entered::Done;
 }
 
 Entered EnterInWindow(const CWnd& window, ClytControl& control, const CString& input)
 {
-    bool isOffered = true;
     if (dynamic_cast<const CEdit*>(&window) != nullptr)
-        robot::ReplaceText(window.m_hWnd, input.GetString());
-    else if (const auto* list = dynamic_cast<const CListBox*>(&window))
-        isOffered = Choose(*list, control, input, LBN_SELCHANGE);
-    else if (const auto* box = dynamic_cast<const CComboBox*>(&window))
-        isOffered = ChooseOrType(*box, control, input);
-    else if (const auto* button = dynamic_cast<const CButton*>(&window))
-        isOffered = Press(*button, control, input);
-    else
-        isOffered = false;
-    return isOffered ? Entered::Done : Entered::NotOffered;
+        return Type(window, input);
+    if (const auto* list = dynamic_cast<const CListBox*>(&window))
+        return Choose(*list, control, input, LBN_SELCHANGE) ? Entered::Done : Entered::NotOffered;
+    if (const auto* box = dynamic_cast<const CComboBox*>(&window))
+        return ChooseOrType(*box, control, input);
+    const auto* button = dynamic_cast<const CButton*>(&window);
+    return button != nullptr ? Press(*button, control, input) : Entered::NotOffered;
 }
 
 } // namespace
+
+ClytControl* FocusedControl(const ClytForm& form)
+{
+    for (POSITION place = form.GetControlList().GetHeadPosition(); place != nullptr;)
+    {
+        ClytControl* control = form.GetControlList().GetNext(place);
+        const auto* window = dynamic_cast<const CWnd*>(control);
+        if (window != nullptr && window->m_hWnd != nullptr && HasFocus(*window))
+            return control;
+    }
+    return nullptr;
+}
 
 Entered EnterAsUser(const ClytForm& form, ClytControl& control, const CString& input)
 {

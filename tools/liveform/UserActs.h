@@ -9,8 +9,12 @@ enum class Entered
 {
     Done,
     OutOfReach, // the control is disabled or hidden, or takes no value
-    NotOffered  // no item or option has that value
+    NotOffered, // no item or option has that value
+    NotFocused  // a rule that the focus sets off on its way takes it elsewhere, where keys would go
 };
+
+// The control that has the focus; null when none of the form has it.
+ClytControl* FocusedControl(const ClytForm& form);
 
 // Enters a value: types it into a field, chooses the item or the option that has it, checks or unchecks a box. A button is
 // pressed. What that sets off happens before the function returns.

@@ -66,11 +66,29 @@ std::vector<std::string> OfferedBy(const TrialDialog& dialog, ClytControl& contr
                      (values.empty() ? "; it offers nothing" : values));
 }
 
+[[noreturn]] void FailNotFocused(const TrialDialog& dialog, const Act& act)
+{
+    const ClytControl* focused = FocusedControl(dialog);
+    const std::string name = focused != nullptr ? ToUtf8(dialog.NameOf(*focused)) : "";
+    const std::string other = focused == nullptr ? "nothing" : name.empty() ? "a control without a name" : name;
+    throw ActError(act.place + ToUtf8(act.name) + " does not get the focus: " + other +
+                   " has it, where the keys would land; --trace shows the rules that run on the way");
+}
+
+void EnterValue(const TrialDialog& dialog, ClytControl& control, const Act& act)
+{
+    const Entered entered = EnterAsUser(dialog, control, act.value.c_str());
+    if (entered == Entered::NotFocused)
+        FailNotFocused(dialog, act);
+    if (entered != Entered::Done)
+        FailNotOffered(dialog, control, act);
+}
+
 // A box has two values. Entering one that it does not have turns it over, so it is turned back.
 void SetCheckBox(const TrialDialog& dialog, ClytControl& control, const Act& act)
 {
     const CString before = control.GetValue();
-    EnterAsUser(dialog, control, act.value.c_str());
+    EnterValue(dialog, control, act);
     const CString after = control.GetValue();
     if (after == act.value.c_str())
         return;
@@ -87,8 +105,8 @@ void Set(const TrialDialog& dialog, ClytControl& control, const Act& act)
     CheckReach(dialog, control, act);
     if (type == "CheckBox")
         SetCheckBox(dialog, control, act);
-    else if (EnterAsUser(dialog, control, act.value.c_str()) != Entered::Done)
-        FailNotOffered(dialog, control, act);
+    else
+        EnterValue(dialog, control, act);
 }
 
 void Press(const TrialDialog& dialog, ClytControl& control, const Act& act)
@@ -118,8 +136,7 @@ void SetMark(const TrialDialog& dialog, ClytControl& control, const Act& act)
     if (list == nullptr)
         FailWrongType(dialog, control, act, "a check list");
     CheckReach(dialog, control, act);
-    if (EnterAsUser(dialog, control, act.value.c_str()) != Entered::Done)
-        FailNotOffered(dialog, control, act);
+    EnterValue(dialog, control, act);
     const bool isMarked = list->GetCheck(list->GetCurSel()) == BST_CHECKED;
     if (isMarked != (act.kind == ActKind::Mark))
         list->SendMessage(WM_KEYDOWN, VK_SPACE);
