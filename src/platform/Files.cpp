@@ -67,6 +67,13 @@ BOOL CopyFileA(LPCSTR from, LPCSTR to, BOOL keepExisting)
     return fs::copy_file(NativePath(from), NativePath(to), options, failed) ? TRUE : FALSE;
 }
 
+BOOL MoveFileExA(LPCSTR from, LPCSTR to, DWORD /*flags*/)
+{
+    std::error_code failed;
+    fs::rename(NativePath(from), NativePath(to), failed);
+    return failed ? FALSE : TRUE;
+}
+
 BOOL DeleteFileA(LPCSTR file)
 {
     std::error_code failed;

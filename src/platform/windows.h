@@ -603,6 +603,9 @@ BOOL CreateDirectoryA(LPCSTR folder, const void* security);
 BOOL RemoveDirectoryA(LPCSTR folder);
 BOOL CopyFileA(LPCSTR from, LPCSTR to, BOOL keepExisting);
 BOOL DeleteFileA(LPCSTR file);
+#define MOVEFILE_REPLACE_EXISTING 0x1
+// Replaces whatever the flags say.
+BOOL MoveFileExA(LPCSTR from, LPCSTR to, DWORD flags);
 
 // Texts in code page 1252, UTF-8 and wide characters. The terminal of this machine reads UTF-8.
 int MultiByteToWideChar(UINT codePage, DWORD flags, LPCSTR text, int length, wchar_t* buffer, int size);

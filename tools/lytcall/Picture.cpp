@@ -1,8 +1,9 @@
 #include "lytcall/Picture.h"
 
-#include <cstdio>
-#include <memory>
-#include <vector>
+#include "commandline/WholeFile.h"
+
+#include <cstdlib>
+#include <cstring>
 
 namespace lytcall
 {
@@ -48,23 +49,22 @@ private:
     HGDIOBJ m_old = nullptr;
 };
 
-struct FileCloser
+template <class T>
+std::string BytesOf(const T& header)
 {
-    void operator()(FILE* file) const { std::fclose(file); }
-};
+    std::string bytes(sizeof header, '\0');
+    std::memcpy(bytes.data(), &header, sizeof header);
+    return bytes;
+}
 
 bool Write(const Canvas& canvas, const std::string& fileName)
 {
-    const std::unique_ptr<FILE, FileCloser> file(std::fopen(fileName.c_str(), "wb"));
-    if (file == nullptr)
-        return false;
     BITMAPFILEHEADER head = {};
     head.bfType = 0x4D42;
     head.bfOffBits = sizeof head + sizeof(BITMAPINFOHEADER);
     head.bfSize = head.bfOffBits + canvas.Header().biSizeImage;
-    return std::fwrite(&head, sizeof head, 1, file.get()) == 1 &&
-           std::fwrite(&canvas.Header(), sizeof(BITMAPINFOHEADER), 1, file.get()) == 1 &&
-           std::fwrite(canvas.Pixels(), canvas.Header().biSizeImage, 1, file.get()) == 1;
+    const std::string pixels(static_cast<const char*>(canvas.Pixels()), canvas.Header().biSizeImage);
+    return commandline::WriteWholeFile(fileName, BytesOf(head) + BytesOf(canvas.Header()) + pixels);
 }
 
 } // namespace
@@ -87,6 +87,11 @@ bool SavePicture(HWND window, const std::string& fileName)
     ReleaseDC(window, source);
     GdiFlush();
     return copied && Write(canvas, fileName);
+}
+
+bool HasScreen()
+{
+    return std::getenv("LYT_UNSEEN") == nullptr;
 }
 
 } // namespace lytcall

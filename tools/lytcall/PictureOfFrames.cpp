@@ -1,5 +1,5 @@
 // Windows in memory have no pixels: their picture shows where the window and its visible children stand, a frame for each.
-#include "commandline/OwnedFile.h"
+#include "commandline/WholeFile.h"
 #include "lytcall/Picture.h"
 
 #include "robot/WindowRobot.h"
@@ -80,11 +80,6 @@ std::vector<uint8_t> HeadersOf(const Canvas& canvas)
     return bytes;
 }
 
-bool Write(FILE* file, const std::vector<uint8_t>& bytes)
-{
-    return std::fwrite(bytes.data(), 1, bytes.size(), file) == bytes.size();
-}
-
 RECT PlaceOf(HWND window)
 {
     RECT place = {};
@@ -106,8 +101,14 @@ bool SavePicture(HWND window, const std::string& fileName)
         if (IsWindowVisible(child))
             canvas.DrawFrame(PlaceOf(child));
     }
-    const commandline::OwnedFile file(std::fopen(fileName.c_str(), "wb"));
-    return file != nullptr && Write(file.get(), HeadersOf(canvas)) && Write(file.get(), canvas.Pixels());
+    std::vector<uint8_t> bytes = HeadersOf(canvas);
+    bytes.insert(bytes.end(), canvas.Pixels().begin(), canvas.Pixels().end());
+    return commandline::WriteWholeFile(fileName, {bytes.begin(), bytes.end()});
+}
+
+bool HasScreen()
+{
+    return false;
 }
 
 } // namespace lytcall

@@ -2,8 +2,8 @@
 #include "lytcall/Redaction.h"
 #include "lytcall/ReportDifference.h"
 
-#include "commandline/OwnedFile.h"
 #include "commandline/Text.h"
+#include "commandline/WholeFile.h"
 
 #include <algorithm>
 #include <cstdio>
@@ -13,7 +13,6 @@ namespace lytcall
 {
 
 using commandline::PrintNumber;
-using commandline::ToUtf8;
 
 namespace
 {
@@ -70,17 +69,14 @@ std::string TextOf(const ReportLines& lines)
 
 ReportLines ReadReport(const std::string& fileName)
 {
-    const commandline::OwnedFile file(std::fopen(fileName.c_str(), "rb"));
-    if (file == nullptr)
+    const std::optional<std::string> text = commandline::ReadWholeFile(fileName);
+    if (!text)
         throw CallError(fileName + " cannot be read; save a report by `lytcall report --out " + fileName + "` first");
-    std::string text;
-    for (int c = std::fgetc(file.get()); c != EOF; c = std::fgetc(file.get()))
-        text += static_cast<char>(c);
     ReportLines lines;
-    for (size_t start = 0; start < text.size();)
+    for (size_t start = 0; start < text->size();)
     {
-        const size_t end = std::min(text.find('\n', start), text.size());
-        lines.push_back(text.substr(start, end - start));
+        const size_t end = std::min(text->find('\n', start), text->size());
+        lines.push_back(text->substr(start, end - start));
         if (lines.back().ends_with('\r'))
             lines.back().pop_back();
         start = end + 1;
@@ -95,19 +91,22 @@ int RunReport(const Session& session)
     const Request& request = session.Asked();
     if (request.operands.size() > 1)
         throw commandline::UsageError("one folder is examined; to compare two saved reports, add --diff");
-    const std::string fileName = request.Text("--out", "");
-    const commandline::OwnedFile file(fileName.empty() ? nullptr : std::fopen(fileName.c_str(), "wb"));
-    if (!fileName.empty() && file == nullptr)
-        throw CallError(fileName + " cannot be written; check the name behind --out");
-
     ReportLines lines = Gather(session, request.Operand(0, ProgramFolder()));
     if (request.Has("--redact"))
         lines = Redacted(lines);
-    std::ranges::transform(lines, lines.begin(), ToUtf8);
+    std::ranges::transform(lines, lines.begin(), commandline::Shown);
     const std::string text = request.Has("--json") ? JsonOf(CutReport(lines)) : TextOf(lines);
-    std::fwrite(text.data(), 1, text.size(), file != nullptr ? file.get() : stdout);
-    if (file != nullptr)
-        PrintNumber("lines", static_cast<int>(lines.size()));
+    const std::string fileName = request.Text("--out", "");
+    if (fileName.empty())
+    {
+        std::fwrite(text.data(), 1, text.size(), stdout);
+        return 1;
+    }
+    if (!commandline::WriteWholeFile(fileName, text))
+        throw CallError(fileName +
+                        " cannot be written, and what was there stays; check the name behind --out, the rights "
+                        "of its folder and the room on the disk");
+    PrintNumber("lines", static_cast<int>(lines.size()));
     return 1;
 }
 

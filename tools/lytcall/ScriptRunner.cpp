@@ -1,11 +1,13 @@
 #include "lytcall/ScriptRunner.h"
 
-#include "commandline/OwnedFile.h"
+#include "commandline/Finish.h"
 #include "commandline/Text.h"
+#include "commandline/WholeFile.h"
 #include "lytcall/Picture.h"
 
 #include "robot/WindowRobot.h"
 
+#include <cstdio>
 #include <cstdlib>
 #include <utility>
 
@@ -19,6 +21,7 @@ namespace
 {
 
 constexpr UINT tickMilliseconds = 5;
+constexpr int mostClosings = 100;
 
 ScriptRunner* running = nullptr;
 
@@ -26,13 +29,10 @@ std::vector<Step> StepsOfFile(const std::string& fileName)
 {
     if (fileName.empty())
         return {};
-    const commandline::OwnedFile file(std::fopen(fileName.c_str(), "rb"));
-    if (file == nullptr)
+    const std::optional<std::string> text = commandline::ReadWholeFile(fileName);
+    if (!text)
         throw ScriptError(fileName, 1, 1, "the script cannot be opened; check its name");
-    std::string text;
-    for (int ch = std::fgetc(file.get()); ch != EOF; ch = std::fgetc(file.get()))
-        text += static_cast<char>(ch);
-    return ReadScript(fileName, text);
+    return ReadScript(fileName, *text);
 }
 
 } // namespace
@@ -41,7 +41,6 @@ ScriptRunner::ScriptRunner(const std::string& scriptFile, std::string pictureFil
     : m_file(scriptFile),
       m_picture(std::move(pictureFile)),
       m_steps(StepsOfFile(scriptFile)),
-      m_unseen(std::getenv("LYT_UNSEEN") != nullptr),
       m_patience(static_cast<ULONGLONG>(secondsPerStep) * 1000)
 {
     running = this;
@@ -86,9 +85,8 @@ void ScriptRunner::Run()
     HWND dialog = robot::ActiveDialog();
     if (!m_failure.empty())
     {
-        // Nothing more is expected of the windows: each is closed as soon as it is on top.
         if (dialog != nullptr)
-            PostMessageA(dialog, WM_COMMAND, robot::IsMessageBox(dialog) ? IDOK : IDCANCEL, 0);
+            Close(dialog);
         return;
     }
     if (dialog != nullptr && !m_picture.empty())
@@ -129,20 +127,39 @@ void ScriptRunner::TakeStep(const Step& step)
 // not there.
 void ScriptRunner::WatchEnd()
 {
-    if ((m_steps.empty() && !m_unseen) || GetTickCount64() <= m_deadline)
+    if ((m_steps.empty() && HasScreen()) || GetTickCount64() <= m_deadline)
         return;
     HWND dialog = robot::ActiveDialog();
     if (dialog == nullptr)
         RestartClock();
     else if (m_steps.empty())
-        m_failure = "the window " + Quoted(ToUtf8(robot::TextOf(dialog))) +
-                    " is open, and there is no screen to show it; set DISPLAY, or give a script with --script";
+        m_failure =
+            "the window " + Quoted(ToUtf8(robot::TextOf(dialog))) +
+            " is open, and there is no screen to show it; give a script with --script, or under Wine set DISPLAY";
     else if (robot::IsMessageBox(dialog))
         Fail(m_steps.back(), "after it a message is open: " + Quoted(ToUtf8(robot::MessageTextOf(dialog))) +
                                  "; answer it with the steps `message` and `answer`");
     else
         Fail(m_steps.back(), "after it the window " + Quoted(ToUtf8(robot::TextOf(dialog))) +
                                  " is still open; end the script with a step that closes it");
+}
+
+// Nothing more is expected of the windows: each is closed as soon as it is on top. A call that opens one after the other
+// would never come back.
+void ScriptRunner::Close(HWND dialog)
+{
+    const bool isMessage = robot::IsMessageBox(dialog);
+    if (++m_closings <= mostClosings)
+    {
+        PostMessageA(dialog, WM_COMMAND, isMessage ? IDOK : IDCANCEL, 0);
+        return;
+    }
+    const std::string text = Quoted(ToUtf8(isMessage ? robot::MessageTextOf(dialog) : robot::TextOf(dialog)));
+    std::fflush(stdout);
+    std::fprintf(
+        stderr, "lytcall: %s\nlytcall: %s; the call is given up\n", commandline::Printable(m_failure).c_str(),
+        (isMessage ? "messages keep coming, the last is " + text : "the window " + text + " does not close").c_str());
+    std::_Exit(commandline::Finish("lytcall", 1));
 }
 
 void ScriptRunner::Fail(const Step& step, const std::string& reason)

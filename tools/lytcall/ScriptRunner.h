@@ -32,6 +32,7 @@ private:
     void Run();
     void TakeStep(const Step& step);
     void WatchEnd();
+    void Close(HWND dialog);
     void Fail(const Step& step, const std::string& reason);
     void RestartClock();
 
@@ -41,7 +42,7 @@ private:
     size_t m_next = 0;
     Stage m_stage;
     std::string m_failure;
-    bool m_unseen; // the environment's LYT_UNSEEN: there is no screen
+    int m_closings = 0;
     ULONGLONG m_patience;
     ULONGLONG m_deadline = 0;
     UINT_PTR m_timer = 0;
