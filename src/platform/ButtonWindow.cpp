@@ -121,15 +121,17 @@ void ButtonWindow::SetCheck(UINT check)
 // The platform passes over options that cannot be used. It begins with the one before, and continues after this one.
 void ButtonWindow::UncheckOthers() const
 {
+    std::vector<Window*> members = OthersOfGroup();
+    std::erase_if(members, [](const Window* member) { return !member->IsReady(); });
+    if (!members.empty())
+        std::ranges::rotate(members, std::prev(members.end()));
     std::vector<HWND> others;
-    for (const Window* member : OthersOfGroup())
+    for (const Window* member : members)
     {
         const auto* button = dynamic_cast<const ButtonWindow*>(member);
-        if (button != nullptr && button->Kind() == BS_AUTORADIOBUTTON && button->IsReady())
+        if (button != nullptr && button->Kind() == BS_AUTORADIOBUTTON)
             others.push_back(button->handle);
     }
-    if (!others.empty())
-        std::ranges::rotate(others, std::prev(others.end()));
     for (HWND other : others)
         ::SendMessageA(other, BM_SETCHECK, BST_UNCHECKED, 0);
 }

@@ -32,15 +32,15 @@ void PressDefault(const DialogWindow& dialog, HWND focused)
         Press(dialog, id, button);
 }
 
-// An option button that an arrow key reaches from another is clicked; anything else only gets the focus.
+// An option button that an arrow key reaches is clicked; anything else only gets the focus.
 void MoveInGroup(const DialogWindow& dialog, HWND focused, bool backwards)
 {
     Window* from = Desktop::Get().Find(focused);
     const Window* next = from != nullptr ? dialog.NextInGroup(*from, backwards) : nullptr;
-    if (next == nullptr || next == from)
+    if (next == nullptr)
         return;
     const HWND target = next->handle;
-    if (HasCode(focused, DLGC_RADIOBUTTON) && HasCode(target, DLGC_RADIOBUTTON))
+    if (HasCode(target, DLGC_RADIOBUTTON))
     {
         SetFocus(target);
         if (SendMessageA(target, BM_GETCHECK, 0, 0) == BST_UNCHECKED)
@@ -73,13 +73,13 @@ void TakeAccess(const DialogWindow& dialog, HWND target)
     SendMessageA(dialog.handle, WM_NEXTDLGCTL, 0, FALSE);
 }
 
-// The search begins after the child that has the focus.
+// The search begins with the child that has the focus.
 bool TakeAccessKey(const DialogWindow& dialog, WPARAM character)
 {
     const auto wanted = static_cast<char>(std::tolower(static_cast<unsigned char>(character)));
     const WindowRow& row = dialog.children;
     const Window* focused = dialog.FocusedChild();
-    auto place = focused != nullptr ? std::next(WindowRow::const_iterator(focused->inRow)) : row.begin();
+    auto place = focused != nullptr ? WindowRow::const_iterator(focused->inRow) : row.begin();
     for (size_t step = 0; step < row.size(); ++step)
     {
         if (place == row.end())

@@ -8,7 +8,6 @@
 #include "environment/ProcessState.h"
 #include "tree/ClytNode.h"
 
-#include <cstdint>
 #include <random>
 #include <regex>
 
@@ -89,21 +88,6 @@ public:
 
 private:
     HMODULE m_handle = reinterpret_cast<HMODULE>(this);
-};
-
-// Texts that were added one after the other, as a number of 64 bits.
-class Digest
-{
-public:
-    void Add(const std::string& text)
-    {
-        for (const char ch : text + "\n")
-            m_value = (m_value ^ static_cast<unsigned char>(ch)) * 0x100000001B3U;
-    }
-    uint64_t Value() const { return m_value; }
-
-private:
-    uint64_t m_value = 0xCBF29CE484222325U;
 };
 
 bool IsClass(HWND window, const char* name)

@@ -9,6 +9,7 @@ namespace
 {
 
 int depth = 0;
+Digest* printedInto = nullptr;
 
 struct MessageName
 {
@@ -46,6 +47,14 @@ constexpr MessageName names[] = {
     {"CLICK", BM_CLICK, false},
     {"SETSEL", EM_SETSEL, false},
 };
+
+void PrintLine(const std::string& line)
+{
+    if (printedInto != nullptr)
+        printedInto->Add(line);
+    else
+        std::printf("%s\n", line.c_str());
+}
 
 std::string WindowName(HWND window)
 {
@@ -97,12 +106,18 @@ std::string Described(UINT message, WPARAM wParam, LPARAM lParam)
 
 void Print(const char* format, ...)
 {
-    std::printf("%*s", depth * 2, "");
+    char text[512];
     va_list arguments;
     va_start(arguments, format);
-    std::vprintf(format, arguments); // NOLINT(clang-analyzer-valist.Uninitialized): va_start is above
+    std::vsnprintf(text, sizeof text, format,
+                   arguments); // NOLINT(clang-analyzer-valist.Uninitialized): va_start is above
     va_end(arguments);
-    std::printf("\n");
+    PrintLine(std::string(static_cast<size_t>(depth) * 2, ' ') + text);
+}
+
+void PrintInto(Digest* digest)
+{
+    printedInto = digest;
 }
 
 RecordedMessage::RecordedMessage(int id, UINT message, WPARAM wParam, LPARAM lParam)
@@ -173,10 +188,10 @@ void Stage::Act(const std::string& title, std::function<void()> act)
     Look(
         [title, act = std::move(act)]
         {
-            std::printf("# %s\n", title.c_str());
+            PrintLine("# " + title);
             act();
         });
-    Look([] { std::printf("= focus %s\n", FocusName().c_str()); });
+    Look([] { PrintLine("= focus " + FocusName()); });
 }
 
 void Stage::Look(std::function<void()> look)
@@ -187,7 +202,8 @@ void Stage::Look(std::function<void()> look)
 
 void Stage::Run()
 {
-    std::printf("\n## %s\n", m_title);
+    PrintLine("");
+    PrintLine(std::string("## ") + m_title);
     Look([this] { EndDialog(7); });
     const INT_PTR result = DoModal();
     const char* const end = m_robot.Done() ? "done" : m_robot.HasGivenUp() ? "given up" : "before its acts did";

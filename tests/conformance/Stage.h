@@ -8,13 +8,31 @@
 
 #include <afxcmn.h>
 
+#include <cstdint>
 #include <functional>
 #include <list>
 #include <memory>
 #include <string>
 
+// Texts that were added one after the other, as a number of 64 bits.
+class Digest
+{
+public:
+    void Add(const std::string& text)
+    {
+        for (const char ch : text + "\n")
+            m_value = (m_value ^ static_cast<unsigned char>(ch)) * 0x100000001B3U;
+    }
+    uint64_t Value() const { return m_value; }
+
+private:
+    uint64_t m_value = 0xCBF29CE484222325U;
+};
+
 // Prints one line of the record.
 void Print(const char* format, ...) __attribute__((format(printf, 1, 2)));
+// From then on lines are added to the digest instead; null prints again.
+void PrintInto(Digest* digest);
 
 // Prints a message for as long as it is handled; `id` is the window's.
 class RecordedMessage
@@ -121,3 +139,4 @@ void Keys();
 void Measuring();
 // Of the sequences from one number to before another; a shown one prints every act and state.
 void Generated(unsigned begin, unsigned end, bool isShown);
+void Meddled(unsigned begin, unsigned end, bool isShown);
