@@ -130,13 +130,17 @@ Entered EnterAsUser(const ClytForm& form, ClytControl& control, const CString& i
 std::vector<ClytControl*> OptionsOf(const ClytForm& form, const ClytControl& group)
 {
     std::vector<ClytControl*> options;
-    bool isOfGroup = false;
-    for (POSITION place = form.GetControlList().GetHeadPosition(); place != nullptr;)
+    if (dynamic_cast<const ClytOptionGroup*>(&group) == nullptr)
+        return options;
+    POSITION place = form.GetControlList().GetHeadPosition();
+    while (place != nullptr && form.GetControlList().GetNext(place) != &group)
+        continue;
+    while (place != nullptr)
     {
         ClytControl* control = form.GetControlList().GetNext(place);
         if (dynamic_cast<ClytOptionGroup*>(control) != nullptr)
-            isOfGroup = control == &group;
-        else if (isOfGroup && dynamic_cast<ClytRadioButtonControl*>(control) != nullptr)
+            break;
+        if (dynamic_cast<ClytRadioButtonControl*>(control) != nullptr)
             options.push_back(control);
     }
     return options;

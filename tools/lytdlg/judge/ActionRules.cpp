@@ -1,5 +1,6 @@
 #include "lytdlg/judge/ActionRules.h"
 
+#include "lytdlg/judge/DescriptionIndex.h"
 #include "lytdlg/judge/PlacedValue.h"
 #include "model/ClytWords.h"
 
@@ -292,17 +293,11 @@ void JudgeDoubleClick(const Statement& statement)
     const Kind kind = KindOfControl(statement.Of(), name);
     if (name == lytTextOf(ClytValueWord::Ok) || kind == Kind::Button)
         return;
-    std::vector<std::string> buttons = {"OK"};
-    for (const ClytControlStatement& each : statement.Of().controls)
-    {
-        if (KindOf(each) == Kind::Button && !each.name.IsEmpty())
-            buttons.emplace_back(each.name.GetString());
-    }
     statement.Add(doubleClick, 0,
                   control == nullptr
                       ? "no control is called " + InQuotes(name)
                       : InQuotes(name) + " is " + NameOf(kind) + ", and a double click does nothing to it",
-                  MeantOr(name, buttons, "name a push button, or OK"));
+                  MeantOr(name, statement.Of().Index().ButtonNames(), "name a push button, or OK"));
 }
 
 } // namespace action_rules

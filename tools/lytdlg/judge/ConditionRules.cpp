@@ -2,7 +2,7 @@
 
 #include "lytdlg/judge/Conditions.h"
 #include "lytdlg/judge/ControlValues.h"
-#include "lytdlg/judge/Fills.h"
+#include "lytdlg/judge/DescriptionIndex.h"
 #include "lytdlg/judge/Lists.h"
 
 #include <algorithm>
@@ -96,7 +96,7 @@ bool MayHaveNoChoice(const Description& description, const std::string& name, Ki
     if (kind != Kind::List)
         return kind == Kind::CheckList;
     return GetsItems(description, name) || StatementsOf(description, name, Role::Item).empty() ||
-           !FillsOf(description, name).empty();
+           description.Index().FactsOf(name).isFilled;
 }
 
 void JudgeUnknown(const Condition& condition)

@@ -1,10 +1,11 @@
 #include "lytdlg/judge/Conditions.h"
 
-#include "lytdlg/judge/ControlValues.h"
+#include "lytdlg/judge/DescriptionIndex.h"
 #include "lytdlg/judge/Lists.h"
 
 #include <algorithm>
 #include <cctype>
+#include <map>
 
 namespace lytdlg
 {
@@ -16,17 +17,26 @@ using Values = std::set<std::string>;
 
 std::string Listed(const Values& values)
 {
+    constexpr size_t mostListed = 12;
     std::string list;
+    size_t count = 0;
     for (const std::string& value : values)
     {
-        if (!value.empty())
+        if (value.empty())
+            continue;
+        if (count++ < mostListed)
             list += (list.empty() ? "" : ", ") + InQuotes(value);
     }
+    if (count > mostListed)
+        list += " and " + std::to_string(count - mostListed) + " more";
     return list.empty() ? "its only value is empty" : "its values are " + list;
 }
 
+// For a control with many values the list of them says enough.
 std::string HintForValue(const std::string& value, const Values& possible)
 {
+    if (possible.size() > mostCandidates)
+        return "use one of the values that $VALUES names";
     return MeantOr(value, {possible.begin(), possible.end()}, Listed(possible));
 }
 
@@ -78,21 +88,44 @@ std::vector<std::string> ValuesAskedBy(const ClytCtrlValList& condition)
     return values;
 }
 
-bool ExcludeEachOther(const ClytCtrlValList& left, const ClytCtrlValList& right)
+// What the conditions so far leave a control to hold.
+class Choice
 {
-    if (left.GetName() != right.GetName() || left.GetValues().IsEmpty() || right.GetValues().IsEmpty())
-        return false;
-    const std::vector<std::string> leftValues = ValuesAskedBy(left);
-    const std::vector<std::string> rightValues = ValuesAskedBy(right);
-    const bool isLeftOpen = AsksForContent(left);
-    const bool isRightOpen = AsksForContent(right);
-    if (isLeftOpen || isRightOpen)
+public:
+    // False when the condition leaves nothing; then it counts alone.
+    bool Narrow(const ClytCtrlValList& condition)
     {
-        const std::vector<std::string>& closed = isLeftOpen ? rightValues : leftValues;
-        return isLeftOpen != isRightOpen && std::ranges::all_of(closed, &std::string::empty);
+        const std::vector<std::string> asked = ValuesAskedBy(condition);
+        const Values values(asked.begin(), asked.end());
+        const bool isOpen = AsksForContent(condition);
+        Choice both = *this;
+        both.m_isNotEmpty = m_isNotEmpty || isOpen;
+        if (!isOpen && !m_values)
+            both.m_values = values;
+        else if (!isOpen)
+            std::erase_if(*both.m_values, [&](const std::string& value) { return !values.contains(value); });
+        if (both.m_isNotEmpty && both.m_values)
+            both.m_values->erase("");
+        const bool isPossible = !both.m_values || !both.m_values->empty();
+        *this = isPossible ? both : Choice{};
+        return isPossible;
     }
-    return std::ranges::none_of(leftValues, [&](const std::string& value)
-                                { return std::ranges::find(rightValues, value) != rightValues.end(); });
+
+private:
+    std::optional<Values> m_values; // any while no condition names some
+    bool m_isNotEmpty = false;
+};
+
+std::vector<const ClytCtrlValList*> Contradictions(const ClytOwnedList<ClytCtrlValList>& conditions)
+{
+    std::map<std::string, Choice> choices;
+    std::vector<const ClytCtrlValList*> found;
+    for (const ClytCtrlValList* condition : Records(conditions))
+    {
+        if (!condition->GetValues().IsEmpty() && !choices[condition->GetName().GetString()].Narrow(*condition))
+            found.push_back(condition);
+    }
+    return found;
 }
 
 bool AlwaysHolds(const Description& description, const ClytCtrlValList& condition)
@@ -109,7 +142,7 @@ bool AlwaysHolds(const Description& description, const ClytCtrlValList& conditio
                           (kind == Kind::OptionGroup && LastStatementOf(description, name, Role::Default) != nullptr);
     const std::vector<std::string> asked = ValuesAskedBy(condition);
     const auto isAsked = [&](const std::string& value) { return std::ranges::find(asked, value) != asked.end(); };
-    return isChosen && std::ranges::all_of(*PossibleValues(description, *control), isAsked);
+    return isChosen && std::ranges::all_of(*description.Index().PossibleValuesOf(*control), isAsked);
 }
 
 void JudgeValues(const Case& judged, const Rule& rule, const ClytCtrlValList& condition, ValueWords known)
@@ -119,7 +152,7 @@ void JudgeValues(const Case& judged, const Rule& rule, const ClytCtrlValList& co
     const ClytControlStatement* control = description.FindControl(name);
     if (control == nullptr)
         return;
-    const std::optional<Values> possible = PossibleValues(description, *control);
+    const std::optional<Values>& possible = description.Index().PossibleValuesOf(*control);
     const ClytSpan& span = condition.GetSpan();
     for (const std::string& value : Strings(condition.GetValues()))
     {

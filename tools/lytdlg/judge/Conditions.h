@@ -10,9 +10,8 @@ namespace lytdlg
 bool AsksForContent(const ClytCtrlValList& condition);
 // The values in brackets, with an empty text for NULL, and without a NOTNULL at the end.
 std::vector<std::string> ValuesAskedBy(const ClytCtrlValList& condition);
-// Whether no value of a control satisfies both. What two conditions of one control have in common can be empty only when
-// both name their values.
-bool ExcludeEachOther(const ClytCtrlValList& left, const ClytCtrlValList& right);
+// The conditions that, with those before them, leave a control no value to hold.
+std::vector<const ClytCtrlValList*> Contradictions(const ClytOwnedList<ClytCtrlValList>& conditions);
 
 // Whether the condition holds whatever the user does: it names all values of a control that never is disabled, or none.
 bool AlwaysHolds(const Description& description, const ClytCtrlValList& condition);

@@ -93,10 +93,9 @@ void JudgeItems(const Case& judged)
                                 "the item of line " + std::to_string(first->second) + " has the same value",
                                 "give each item a value of its own");
         const std::string section = judged.description.TextSection();
-        const std::vector<std::string> languages = judged.surroundings.texts.Languages();
-        const auto isKey = [&](const std::string& language)
-        { return judged.surroundings.texts.Has(language, section, value.values.front()); };
-        if (IsOpenList(statement.kind) && std::ranges::any_of(languages, isKey))
+        const auto isKey = [&](const LanguageFile& file)
+        { return file.Find(section, value.values.front()) != nullptr; };
+        if (IsOpenList(statement.kind) && std::ranges::any_of(judged.surroundings.texts.Files(), isKey))
             judged.findings.Add(itemIsKey, statement.PlaceOfValue(),
                                 InQuotes(value.values.front()) + " is also a key of the section [" + section + "]",
                                 "give the item a value that is no key");
@@ -137,29 +136,39 @@ void JudgeOptions(const Case& judged, const std::string& group)
     }
 }
 
-void JudgeGroupDefault(const PlacedValue& statement)
+// The values of a group's options, each with the last statement that gives it.
+std::map<std::string, const ValueStatement*> OwnersOfValues(const Description& description, const std::string& group)
 {
-    const Description& description = statement.judged.description;
-    const std::string& begin = statement.value.values.front();
-    std::vector<std::string> values;
-    const ValueStatement* own = nullptr;
-    for (const ClytControlStatement* option : OptionButtonsOf(description, statement.value.name))
+    std::map<std::string, const ValueStatement*> owners;
+    for (const ClytControlStatement* option : OptionButtonsOf(description, group))
     {
         for (const ValueStatement* value : StatementsOf(description, option->name.GetString(), Role::OptionValue))
-        {
-            values.push_back(value->values.front());
-            own = value->values.front() == begin ? value : own;
-        }
+            owners[value->values.front()] = value;
     }
-    if (own == nullptr)
-        statement.judged.findings.Add(defaultUnknown, statement.PlaceOfValue(),
-                                      "no option of " + statement.Name() + " has the value " + InQuotes(begin),
-                                      MeantOr(begin, values, "use the value of one of its options"));
-    else if (own->span.line > statement.value.span.line)
-        statement.judged.findings.Add(defaultEarly, statement.PlaceOfValue(),
-                                      "the option gets this value in line " + std::to_string(own->span.line) +
-                                          ", too late",
-                                      "write the statement after the values of the options");
+    return owners;
+}
+
+void JudgeGroupDefaults(const Case& judged, const std::string& group)
+{
+    const std::map<std::string, const ValueStatement*> owners = OwnersOfValues(judged.description, group);
+    std::vector<std::string> values;
+    for (const auto& [value, owner] : owners)
+        values.push_back(value);
+    for (const ValueStatement* value : StatementsOf(judged.description, group, Role::Default))
+    {
+        const PlacedValue statement(judged, *value);
+        const std::string& begin = value->values.front();
+        const auto own = owners.find(begin);
+        if (own == owners.end())
+            judged.findings.Add(defaultUnknown, statement.PlaceOfValue(),
+                                "no option of " + statement.Name() + " has the value " + InQuotes(begin),
+                                MeantOr(begin, values, "use the value of one of its options"));
+        else if (own->second->span.line > value->span.line)
+            judged.findings.Add(defaultEarly, statement.PlaceOfValue(),
+                                "the option gets this value in line " + std::to_string(own->second->span.line) +
+                                    ", too late",
+                                "write the statement after the values of the options");
+    }
 }
 
 void JudgeCheckBox(const Case& judged, const std::string& name)
@@ -223,16 +232,15 @@ Family ContentRules()
             {
                 JudgeItems(judged);
                 JudgeCheckBoxes(judged);
+                std::set<std::string> groups;
                 for (const ClytControlStatement& control : judged.description.controls)
                 {
-                    if (KindOf(control) == Kind::OptionGroup)
-                        JudgeOptions(judged, control.name.GetString());
-                }
-                for (const ValueStatement& value : judged.description.values)
-                {
-                    const PlacedValue statement(judged, value);
-                    if (statement.kind == Kind::OptionGroup && statement.role == Role::Default)
-                        JudgeGroupDefault(statement);
+                    const std::string name = control.name.GetString();
+                    if (KindOf(control) != Kind::OptionGroup || !groups.insert(name).second)
+                        continue;
+                    JudgeOptions(judged, name);
+                    if (KindOfControl(judged.description, name) == Kind::OptionGroup)
+                        JudgeGroupDefaults(judged, name);
                 }
             }};
 }

@@ -1,7 +1,6 @@
 #include "lytdlg/judge/ControlValues.h"
 
-#include "lytdlg/judge/Fills.h"
-#include "lytdlg/judge/Lists.h"
+#include "lytdlg/judge/DescriptionIndex.h"
 #include "lytdlg/text/LanguageFiles.h"
 
 #include <algorithm>
@@ -15,11 +14,6 @@ namespace
 ClytOption OptionOf(const ValueStatement& statement)
 {
     return lytMeaningOf<ClytOption>(statement.values.front().c_str());
-}
-
-ClytAction ActionOf(const ValueStatement& statement)
-{
-    return lytMeaningOf<ClytAction>(statement.keyword.c_str());
 }
 
 Role RoleOfCheckBox(ClytKeyword keyword)
@@ -100,89 +94,52 @@ bool IsMeantAsOption(const ValueStatement& statement)
 
 bool HasOption(const Description& description, const std::string& name, ClytOption option)
 {
-    return std::ranges::any_of(StatementsOf(description, name, Role::Option),
-                               [&](const ValueStatement* statement) { return OptionOf(*statement) == option; });
+    return description.Index().FactsOf(name).options.contains(option);
 }
 
 bool MayBeHidden(const Description& description, const ClytControlStatement& control)
 {
     const ClytControlStatement* group = KindOf(control) == Kind::Option ? GroupOf(description, control) : nullptr;
-    const CString& name = group != nullptr ? group->name : control.name;
-    if (name.IsEmpty())
-        return false;
-    const auto hides = [&](const ClytControlDep* rule)
-    {
-        const ClytState meaning = rule->stateWord.GetMeaning();
-        return rule->controlName == name && (meaning == ClytState::Visible || meaning == ClytState::Other);
-    };
-    const auto toggles = [&](const ValueStatement& statement)
-    {
-        return ActionOf(statement) == ClytAction::Visible && statement.values.front() == name.GetString() &&
-               RoleOf(description, statement) == Role::Action;
-    };
-    return HasOption(description, name.GetString(), ClytOption::Invisible) ||
-           HasOption(description, name.GetString(), ClytOption::Hidden) ||
-           std::ranges::any_of(Records(description.rules), hides) || std::ranges::any_of(description.values, toggles);
+    const std::string name = (group != nullptr ? group->name : control.name).GetString();
+    return !name.empty() &&
+           (HasOption(description, name, ClytOption::Invisible) || HasOption(description, name, ClytOption::Hidden) ||
+            description.Index().FactsOf(name).isHidden);
 }
 
 bool MayBeDisabled(const Description& description, const std::string& name)
 {
-    const auto disables = [&](const ClytControlDep* rule)
-    { return rule->controlName == name.c_str() && rule->stateWord.GetMeaning() == ClytState::Active; };
-    const auto toggles = [&](const ValueStatement& statement)
-    {
-        return ActionOf(statement) == ClytAction::Active && statement.values.front() == name &&
-               RoleOf(description, statement) == Role::Action;
-    };
-    return HasOption(description, name, ClytOption::Inactive) ||
-           std::ranges::any_of(Records(description.rules), disables) ||
-           std::ranges::any_of(description.values, toggles);
+    return HasOption(description, name, ClytOption::Inactive) || description.Index().FactsOf(name).isDisabled;
 }
 
-std::vector<const ValueStatement*> StatementsOf(const Description& description, const std::string& name, Role role)
+const std::vector<const ValueStatement*>& StatementsOf(const Description& description, const std::string& name,
+                                                       Role role)
 {
-    const Kind kind = KindOfControl(description, name);
-    std::vector<const ValueStatement*> found;
-    for (const ValueStatement& statement : description.values)
-    {
-        if (statement.name == name && RoleOf(kind, statement) == role)
-            found.push_back(&statement);
-    }
-    return found;
+    static const std::vector<const ValueStatement*> none;
+    const auto& statements = description.Index().FactsOf(name).statements;
+    const auto found = statements.find(role);
+    return found != statements.end() ? found->second : none;
 }
 
 bool IsMeantElsewhere(const Description& description, const std::string& name)
 {
-    const std::vector<std::string> names = ControlNames(description);
-    const auto isMisspelt = [&](const ValueStatement& value)
-    { return description.FindControl(value.name) == nullptr && MeantWord(value.name, names) == name; };
-    const auto isRefused = [&](const SourceLine* line)
-    { return description.IsRefused(line->number) && line->text.find(name) != std::string::npos; };
-    return std::ranges::any_of(description.values, isMisspelt) ||
-           std::ranges::any_of(description.text.LinesOf(Section::Values), isRefused);
+    return description.Index().IsMeantElsewhere(name);
 }
 
 const ValueStatement* LastStatementOf(const Description& description, const std::string& name, Role role)
 {
-    const std::vector<const ValueStatement*> statements = StatementsOf(description, name, role);
+    const std::vector<const ValueStatement*>& statements = StatementsOf(description, name, role);
     return statements.empty() ? nullptr : statements.back();
 }
 
 bool GetsItemsOnOpening(const Description& description, const std::string& name)
 {
     return LastStatementOf(description, name, Role::Source) != nullptr ||
-           std::ranges::any_of(FillsOf(description, name),
-                               [](const ClytControlFill* fill) { return AddsItems(*fill); });
+           description.Index().FactsOf(name).getsItemsFromInput;
 }
 
 bool GetsItems(const Description& description, const std::string& name)
 {
-    const auto isAdded = [&](const ValueStatement& statement)
-    {
-        return ActionOf(statement) == ClytAction::Add && statement.values.back() == name &&
-               RoleOf(description, statement) == Role::Action;
-    };
-    return GetsItemsOnOpening(description, name) || std::ranges::any_of(description.values, isAdded);
+    return GetsItemsOnOpening(description, name) || description.Index().FactsOf(name).getsItemsFromButton;
 }
 
 std::optional<std::set<std::string>> PossibleValues(const Description& description, const ClytControlStatement& control)

@@ -38,7 +38,8 @@ bool MayBeHidden(const Description& description, const ClytControlStatement& con
 bool MayBeDisabled(const Description& description, const std::string& name);
 
 // The statements of a control that have a role, in their order.
-std::vector<const ValueStatement*> StatementsOf(const Description& description, const std::string& name, Role role);
+const std::vector<const ValueStatement*>& StatementsOf(const Description& description, const std::string& name,
+                                                       Role role);
 // The last of them, which is the one that counts where a control has but one; null without any.
 const ValueStatement* LastStatementOf(const Description& description, const std::string& name, Role role);
 

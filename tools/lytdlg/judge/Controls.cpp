@@ -1,5 +1,7 @@
 #include "lytdlg/judge/Controls.h"
 
+#include "lytdlg/judge/DescriptionIndex.h"
+
 namespace lytdlg
 {
 
@@ -10,30 +12,13 @@ Kind KindOf(const ClytControlStatement& control)
 
 const ClytControlStatement* GroupOf(const Description& description, const ClytControlStatement& option)
 {
-    const ClytControlStatement* group = nullptr;
-    for (const ClytControlStatement& control : description.controls)
-    {
-        if (&control == &option)
-            break;
-        if (KindOf(control) == Kind::OptionGroup)
-            group = &control;
-    }
-    return group;
+    return description.Index().GroupOf(option);
 }
 
-std::vector<const ClytControlStatement*> OptionButtonsOf(const Description& description, const std::string& group)
+const std::vector<const ClytControlStatement*>& OptionButtonsOf(const Description& description,
+                                                                const std::string& group)
 {
-    std::vector<const ClytControlStatement*> options;
-    bool isInGroup = false;
-    for (const ClytControlStatement& control : description.controls)
-    {
-        const Kind kind = KindOf(control);
-        if (kind == Kind::OptionGroup)
-            isInGroup = control.name == group.c_str();
-        else if (kind == Kind::Option && isInGroup)
-            options.push_back(&control);
-    }
-    return options;
+    return description.Index().FactsOf(group).optionButtons;
 }
 
 } // namespace lytdlg

@@ -10,6 +10,7 @@ Kind KindOf(const ClytControlStatement& control);
 // The group that an option stands in; null without one.
 const ClytControlStatement* GroupOf(const Description& description, const ClytControlStatement& option);
 // The option buttons of a group, in their order.
-std::vector<const ClytControlStatement*> OptionButtonsOf(const Description& description, const std::string& group);
+const std::vector<const ClytControlStatement*>& OptionButtonsOf(const Description& description,
+                                                                const std::string& group);
 
 } // namespace lytdlg

@@ -195,8 +195,8 @@ void JudgeEvent(const Judged& each)
 
 void JudgeNever(const Judged& each)
 {
-    const std::vector<const ClytCtrlValList*> conditions = Records(each.rule.conditions);
-    if (conditions.empty() && !IsStateRule(each.rule))
+    const bool isAlone = each.rule.conditions.IsEmpty();
+    if (isAlone && !IsStateRule(each.rule))
     {
         each.Add(never, each.PlaceOfWord(), "no control is named; the rule never acts",
                  "name the controls after the equals sign");
@@ -204,20 +204,13 @@ void JudgeNever(const Judged& each)
     }
     if (!IsStateRule(each.rule))
         return;
-    if (conditions.empty())
+    if (isAlone)
         each.Add(always, each.PlaceOfWord(), "no condition is named; the rule always holds",
                  "name the conditions after the equals sign");
-    for (size_t left = 0; left < conditions.size(); ++left)
-    {
-        for (size_t right = left + 1; right < conditions.size(); ++right)
-        {
-            if (ExcludeEachOther(*conditions[left], *conditions[right]))
-                each.Add(never, conditions[right]->GetSpan(),
-                         InQuotes(conditions[right]->GetName().GetString()) +
-                             " cannot hold both at once; the rule never holds",
-                         "of the values in one pair of brackets one is enough");
-        }
-    }
+    for (const ClytCtrlValList* condition : Contradictions(each.rule.conditions))
+        each.Add(never, condition->GetSpan(),
+                 InQuotes(condition->GetName().GetString()) + " cannot hold both at once; the rule never holds",
+                 "of the values in one pair of brackets one is enough");
 }
 
 void JudgeSelf(const Judged& each)
@@ -260,17 +253,16 @@ Family DependencyRules()
              &hidden, &onItself, &never, &always},
             [](const Case& judged)
             {
-                const std::vector<const ClytControlDep*> rules = Records(judged.description.rules);
-                for (size_t index = 0; index < rules.size(); ++index)
+                std::vector<const ClytControlDep*> rules = Records(judged.description.rules);
+                std::ranges::reverse(rules);
+                const ClytControlDep* next = nullptr;
+                for (const ClytControlDep* rule : rules)
                 {
-                    const ClytControlDep& rule = *rules[index];
-                    const auto isKept = [&](const ClytControlDep* other)
-                    { return judged.description.FindControl(other->controlName.GetString()) != nullptr; };
-                    const auto next =
-                        std::find_if(rules.begin() + static_cast<std::ptrdiff_t>(index) + 1, rules.end(), isKept);
-                    const Judged each = {judged, rule, next != rules.end() ? *next : nullptr,
-                                         KindOfControl(judged.description, rule.controlName.GetString())};
-                    if (!isKept(&rule))
+                    const std::string name = rule->controlName.GetString();
+                    const Judged each = {judged, *rule, next, KindOfControl(judged.description, name)};
+                    if (judged.description.FindControl(name) != nullptr)
+                        next = rule;
+                    else
                         JudgeControl(each);
                     if (each.kind == Kind::Unknown)
                         continue;

@@ -1,6 +1,7 @@
 #include "lytdlg/judge/Description.h"
 
 #include "commandline/Suggestion.h"
+#include "lytdlg/judge/DescriptionIndex.h"
 #include "lytdlg/judge/LineTokens.h"
 #include "lytdlg/judge/Lists.h"
 #include "lytdlg/judge/SectionReader.h"
@@ -86,18 +87,19 @@ Description::Description(std::string filePath, const std::string& bytes, const s
     ReadEvaluations();
     ReadInputs();
     ReadOutputs();
+    m_index = std::make_unique<DescriptionIndex>(*this);
 }
+
+Description::~Description() = default;
 
 const ClytControlStatement* Description::FindControl(const std::string& name) const
 {
-    const auto found = std::find_if(controls.rbegin(), controls.rend(),
-                                    [&](const ClytControlStatement& control) { return control.name == name.c_str(); });
-    return found != controls.rend() ? &*found : nullptr;
+    return m_index->FactsOf(name).control;
 }
 
 bool Description::IsRefused(int line) const
 {
-    return std::ranges::any_of(mistakes, [&](const Mistake& mistake) { return mistake.place.line == line; });
+    return m_index->IsRefused(line);
 }
 
 ClytSpan Description::PlaceOf(int line, const std::string& word, int fromColumn) const

@@ -9,9 +9,12 @@
 #include "model/ClytOutput.h"
 
 #include <list>
+#include <memory>
 
 namespace lytdlg
 {
+
+class DescriptionIndex;
 
 // What a reader tells of a line that it refuses.
 struct Mistake
@@ -55,6 +58,7 @@ class Description
 {
 public:
     Description(std::string path, const std::string& bytes, const std::vector<std::string>& defines);
+    ~Description();
     Description(const Description&) = delete;
     Description& operator=(const Description&) = delete;
 
@@ -78,6 +82,7 @@ public:
     std::list<OutputGroup> outputs;
     std::vector<Mistake> mistakes;
 
+    const DescriptionIndex& Index() const { return *m_index; }
     std::string TextSection() const { return layoutWords.empty() ? "" : layoutWords.front(); }
     // The statement of a control's name, the last one as in the library; null for an unknown name.
     const ClytControlStatement* FindControl(const std::string& name) const;
@@ -98,6 +103,8 @@ private:
     void ReadEvaluations();
     void ReadInputs();
     void ReadOutputs();
+
+    std::unique_ptr<const DescriptionIndex> m_index; // of all that was read
 };
 
 } // namespace lytdlg

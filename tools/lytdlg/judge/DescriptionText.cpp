@@ -8,6 +8,7 @@
 #include <cctype>
 #include <cstring>
 #include <optional>
+#include <unordered_set>
 
 namespace lytdlg
 {
@@ -218,6 +219,7 @@ void DescriptionText::ApplyDefines()
 {
     bool isActive = true;
     int counted = 0;
+    std::unordered_set<std::string> names;
     for (SourceLine& line : m_lines)
     {
         const bool isMark = line.text.starts_with('<') || line.text.starts_with('>');
@@ -226,7 +228,7 @@ void DescriptionText::ApplyDefines()
             const size_t start = line.text.starts_with("<!") ? 2 : 1;
             const std::string name = line.text.substr(start, line.text.find_first_of(" \t;", start) - start);
             isActive = IsDefined(name) == (start == 1);
-            if (std::ranges::find(m_defineNames, name) == m_defineNames.end())
+            if (names.insert(name).second)
                 m_defineNames.push_back(name);
         }
         else if (isMark)
@@ -246,7 +248,7 @@ void DescriptionText::FindSections()
         const auto found =
             line.isRead ? std::ranges::find(sectionWords, RoughHeaderWord(line.text)) : std::end(sectionWords);
         if (found != std::end(sectionWords))
-            m_headerLines.emplace_back(allSections[found - std::begin(sectionWords)], line.number);
+            m_lastHeaders[allSections[found - std::begin(sectionWords)]] = line.number;
     }
     GoThroughSections({});
     const std::vector<Section> missing = SectionsWithoutHeader();
@@ -305,8 +307,8 @@ bool DescriptionText::BeginsWithoutHeader(Section section) const
 
 bool DescriptionText::HasBelow(Section section, int line) const
 {
-    return std::ranges::any_of(m_headerLines,
-                               [&](const auto& header) { return header.first == section && header.second > line; });
+    const auto last = m_lastHeaders.find(section);
+    return last != m_lastHeaders.end() && last->second > line;
 }
 
 // A header stands in a wrong place by itself when its section is open already, or when this section and the one that is

@@ -5,8 +5,8 @@
 #include "base/ClytSpan.h"
 #include "dlgfile/SectionDelimiters.h"
 
+#include <map>
 #include <string>
-#include <utility>
 #include <vector>
 
 namespace lytdlg
@@ -106,7 +106,7 @@ private:
     std::vector<FalseHeader> m_falseHeaders;
     std::vector<std::string> m_defines;
     std::vector<std::string> m_defineNames;
-    std::vector<std::pair<Section, int>> m_headerLines; // that hold the right word, wherever they stand
+    std::map<Section, int> m_lastHeaders; // the last line that holds the right word, wherever it stands
     bool m_endsWithLineEnd = true;
     bool m_hasEndMark = false;
     bool m_hasTextAfterEndMark = false;

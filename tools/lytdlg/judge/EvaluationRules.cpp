@@ -2,9 +2,7 @@
 
 #include "lytdlg/judge/Conditions.h"
 #include "lytdlg/judge/Controls.h"
-#include "lytdlg/judge/Lists.h"
-
-#include <algorithm>
+#include "lytdlg/judge/DescriptionIndex.h"
 
 namespace lytdlg
 {
@@ -99,7 +97,7 @@ bool AsksNameless(const EvaluationStatement& statement)
 void JudgeNames(const Case& judged, const EvaluationStatement& statement)
 {
     const Description& description = judged.description;
-    const std::vector<std::string> names = ControlNames(description);
+    const std::vector<std::string>& names = ControlNames(description);
     const std::string own = statement.own.GetName().GetString();
     if (description.FindControl(own) == nullptr)
         judged.findings.Add(unknown, statement.own.GetSpan(),
@@ -134,39 +132,24 @@ void JudgeForm(const Case& judged, const EvaluationStatement& statement)
 
 void JudgeTwice(const Case& judged)
 {
-    const auto& statements = judged.description.evaluations;
-    for (auto statement = statements.begin(); statement != statements.end(); ++statement)
+    std::unordered_map<std::string, const EvaluationStatement*> last;
+    for (const EvaluationStatement& statement : judged.description.evaluations)
     {
-        const auto later = std::find_if(std::next(statement), statements.end(),
-                                        [&](const EvaluationStatement& other)
-                                        { return other.own.GetName() == statement->own.GetName(); });
-        if (later != statements.end())
-            judged.findings.Add(twice, statement->own.GetSpan(),
-                                "the check in line " + std::to_string(later->own.GetSpan().line) +
+        const EvaluationStatement*& before = last[statement.own.GetName().GetString()];
+        if (before != nullptr)
+            judged.findings.Add(twice, before->own.GetSpan(),
+                                "the check in line " + std::to_string(statement.own.GetSpan().line) +
                                     " takes the place of this one",
                                 "put both into one check, or delete one");
+        before = &statement;
     }
-}
-
-bool IsItemOfResult(const Description& description, const CString& name)
-{
-    for (const OutputGroup& group : description.outputs)
-    {
-        if (group.name != "parent")
-            continue;
-        for (const ClytDialogOutput* rule : Records(group.rules))
-        {
-            if (std::ranges::any_of(rule->items, [&](const ClytOutputItem& item) { return item.text == name; }))
-                return true;
-        }
-    }
-    return false;
 }
 
 void JudgeUse(const Case& judged, const EvaluationStatement& statement)
 {
     const CString& own = statement.own.GetName();
-    if (judged.description.FindControl(own.GetString()) == nullptr || IsItemOfResult(judged.description, own))
+    if (judged.description.FindControl(own.GetString()) == nullptr ||
+        judged.description.Index().IsItemOfResult(own.GetString()))
         return;
     judged.findings.Add(neverMade, statement.own.GetSpan(),
                         "no output rule has " + InQuotes(own.GetString()) + " among its items, so it is never checked",

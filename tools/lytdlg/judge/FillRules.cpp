@@ -2,11 +2,9 @@
 
 #include "dialog/ClytDialog.h"
 #include "lytdlg/judge/Conditions.h"
-#include "lytdlg/judge/ControlValues.h"
+#include "lytdlg/judge/DescriptionIndex.h"
 #include "lytdlg/judge/Fills.h"
 #include "lytdlg/judge/Lists.h"
-
-#include <algorithm>
 
 namespace lytdlg
 {
@@ -167,13 +165,13 @@ void JudgeChoice(const Case& judged, const InputPart& part, const ClytControlFil
     const bool isOpening = part.name == lytParentName;
     if (isOpening ? GetsItemsOnOpening(judged.description, name) : GetsItems(judged.description, name))
         return;
-    const std::vector<const ValueStatement*> items = StatementsOf(judged.description, name, Role::Item);
-    const auto chosen = std::ranges::find_if(items, [&](const ValueStatement* item)
-                                             { return fill.value == item->values.front().c_str(); });
+    const std::vector<const ValueStatement*>& items = StatementsOf(judged.description, name, Role::Item);
+    const auto& places = judged.description.Index().FactsOf(name).places;
+    const auto chosen = places.find(fill.value.GetString());
     if (items.empty())
         judged.findings.Add(listEmpty, fill.span, "the list " + InQuotes(name) + " has no items to choose from",
                             "add the piece with ADD or CONCAT, or give the list items");
-    else if (fill.value.IsEmpty() || items.end() - chosen <= 2)
+    else if (fill.value.IsEmpty() || chosen == places.end() || items.size() - chosen->second <= 2)
         judged.findings.Add(listChoice, fill.span,
                             "an input cannot choose the last two items of " + InQuotes(name) +
                                 (items.size() <= 2 ? ", and it has no others" : ""),
@@ -182,17 +180,20 @@ void JudgeChoice(const Case& judged, const InputPart& part, const ClytControlFil
 
 void JudgeFixedValue(const Case& judged, const ClytControlFill& fill, const ClytControlStatement& control)
 {
-    auto possible = PossibleValues(judged.description, control);
+    const std::optional<std::set<std::string>>& possible = judged.description.Index().PossibleValuesOf(control);
     const bool isTaken = fill.value.IsEmpty() || lytMeans<ClytValueWord::Fill>(fill.value);
     if (!possible || isTaken || fill.action.GetMeaning() != ClytFillAction::Other)
         return;
-    if (KindOf(control) == Kind::CheckBox)
-        possible->insert({"ON", "OFF"});
     const std::string value = fill.value.GetString();
-    if (possible->contains(value))
+    const bool isMark = KindOf(control) == Kind::CheckBox && (value == "ON" || value == "OFF");
+    if (isMark || possible->contains(value))
         return;
-    possible->erase("");
-    const std::vector<std::string> known(possible->begin(), possible->end());
+    std::vector<std::string> known;
+    if (possible->size() <= mostCandidates)
+        known.assign(possible->begin(), possible->end());
+    std::erase(known, "");
+    if (KindOf(control) == Kind::CheckBox)
+        known.insert(known.end(), {"ON", "OFF"});
     judged.findings.Add(fixedValue,
                         judged.description.PlaceOf(fill.span.line, value, fill.span.column + fill.span.length),
                         InQuotes(fill.controlName.GetString()) + " has no value " + InQuotes(value),

@@ -1,7 +1,5 @@
 #include "lytdlg/judge/Fills.h"
 
-#include "lytdlg/judge/Lists.h"
-
 namespace lytdlg
 {
 
@@ -14,26 +12,6 @@ bool AddsItems(const ClytControlFill& fill)
 bool TakesPiece(const ClytControlFill& fill)
 {
     return AddsItems(fill) || (fill.action.GetMeaning() == ClytFillAction::Other && fill.value.IsEmpty());
-}
-
-std::vector<const ClytControlFill*> FillsOf(const Description& description, const std::string& name)
-{
-    std::vector<const ClytControlFill*> found;
-    for (const InputPart& input : description.inputs)
-    {
-        for (const ClytDialogInput* statement : Records(input.part.GetStatements()))
-        {
-            for (const ClytConditionFill* rule : Records(statement->scanRule.rules))
-            {
-                for (const ClytControlFill* fill : Records(rule->fills))
-                {
-                    if (fill->controlName == name.c_str())
-                        found.push_back(fill);
-                }
-            }
-        }
-    }
-    return found;
 }
 
 } // namespace lytdlg

@@ -1,6 +1,7 @@
 #include "lytdlg/judge/Finding.h"
 
 #include <algorithm>
+#include <string_view>
 #include <tuple>
 
 namespace lytdlg
@@ -11,8 +12,8 @@ namespace
 
 auto OrderOf(const Finding& finding)
 {
-    return std::tuple(finding.path, finding.place.line, finding.place.column, finding.rule->level,
-                      std::string(finding.rule->id), finding.message);
+    return std::tuple(std::string_view(finding.path), finding.place.line, finding.place.column, finding.rule->level,
+                      std::string_view(finding.rule->id), std::string_view(finding.message));
 }
 
 } // namespace

@@ -38,8 +38,11 @@ DescriptionTexts TextsOf(std::string fileName, const std::string& bytes)
     std::vector<std::vector<std::string>> variants = {{}};
     if (!names.empty())
         variants.push_back(names);
-    for (const std::string& define : names)
-        variants.push_back({define});
+    // Each define is another reading of the whole.
+    constexpr size_t mostDefines = 20;
+    texts.isWhole = names.size() <= mostDefines;
+    for (size_t index = 0; index < std::min(names.size(), mostDefines); ++index)
+        variants.push_back({names[index]});
     for (const std::vector<std::string>& defines : variants)
     {
         const Description description("", bytes, defines);

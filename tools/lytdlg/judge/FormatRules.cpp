@@ -3,11 +3,11 @@
 #include "dialog/ClytDialog.h"
 #include "lytdlg/judge/Conditions.h"
 #include "lytdlg/judge/Controls.h"
+#include "lytdlg/judge/DescriptionIndex.h"
 #include "lytdlg/judge/FormatPieces.h"
 #include "lytdlg/judge/LineTokens.h"
 #include "lytdlg/judge/Lists.h"
 
-#include <algorithm>
 #include <cctype>
 
 namespace lytdlg
@@ -157,12 +157,6 @@ void JudgePieces(const Case& judged, const ClytDialogOutput& rule)
     }
 }
 
-bool HasCheck(const Description& description, const ClytOutputItem& item)
-{
-    return std::ranges::any_of(description.evaluations, [&](const EvaluationStatement& statement)
-                               { return statement.own.GetName() == item.text; });
-}
-
 std::string Counted(size_t count, const char* what)
 {
     return std::to_string(count) + " " + what + (count == 1 ? "" : "s");
@@ -189,7 +183,7 @@ void JudgeCount(const Case& judged, const OutputGroup& group, const ClytDialogOu
     for (size_t index = taken; index < given; ++index)
     {
         const ClytOutputItem& item = rule.items[index];
-        if (group.name != lytParentName || !HasCheck(judged.description, item))
+        if (group.name != lytParentName || !judged.description.Index().HasCheck(item.text.GetString()))
             judged.findings.Add(surplus, item.span,
                                 "the format does not take " + InQuotes(item.text.GetString()) +
                                     ", and no check asks for it",

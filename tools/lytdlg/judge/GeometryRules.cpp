@@ -3,7 +3,11 @@
 #include "lytdlg/judge/Places.h"
 
 #include <algorithm>
+#include <deque>
 #include <limits>
+#include <numeric>
+#include <set>
+#include <unordered_map>
 
 namespace lytdlg
 {
@@ -81,12 +85,10 @@ std::string NameOf(const ClytControlStatement& control)
     return name.IsEmpty() ? "the " + std::string(control.type.GetString()) : InQuotes(name.GetString());
 }
 
-using Pair = std::pair<const ClytControlStatement*, const ClytControlStatement*>;
-
-// Where a rule found something about a control, or about two.
+// Where a rule found something about a control.
 struct Sighting
 {
-    Pair controls;
+    const ClytControlStatement* control = nullptr;
     const Screen* first = nullptr;
     size_t count = 0;
     int pixels = 0; // on the first screen
@@ -95,18 +97,19 @@ struct Sighting
 class Sightings
 {
 public:
-    void Add(const Screen& screen, const Pair& controls, int pixels = 0)
+    void Add(const Screen& screen, const ClytControlStatement* control, int pixels = 0)
     {
-        const auto known = std::ranges::find(m_sightings, controls, &Sighting::controls);
-        if (known != m_sightings.end())
-            ++known->count;
+        const auto [place, isNew] = m_places.try_emplace(control, m_sightings.size());
+        if (isNew)
+            m_sightings.push_back({control, &screen, 1, pixels});
         else
-            m_sightings.push_back({controls, &screen, 1, pixels});
+            ++m_sightings[place->second].count;
     }
     const std::vector<Sighting>& All() const { return m_sightings; }
 
 private:
     std::vector<Sighting> m_sightings;
+    std::unordered_map<const ClytControlStatement*, size_t> m_places;
 };
 
 // What is so at each resolution and in each language needs no more words.
@@ -144,27 +147,102 @@ bool Cover(const PlacedControl& left, const PlacedControl& right)
     return !areFrames || !(Holds(left.place, right.place) || Holds(right.place, left.place));
 }
 
-void JudgeOverlap(const Case& judged, const std::vector<Screen>& screens)
+// No screen has room for more controls side by side: a control is compared with as many at its height.
+constexpr size_t mostCompared = 1000;
+
+// The controls before one in the file that overlap with it.
+class Overlaps
 {
-    Sightings seen;
+public:
+    void Add(size_t before)
+    {
+        ++m_count;
+        m_first.insert(before);
+        if (m_first.size() > mostTold)
+            m_first.erase(std::prev(m_first.end()));
+    }
+    // The same control on another screen.
+    void Merge(const Overlaps& other)
+    {
+        const size_t most = std::max(m_count, other.m_count);
+        for (const size_t before : other.m_first)
+            Add(before);
+        m_count = std::max(most, m_first.size());
+    }
+    // In their order, not more than a few.
+    const std::set<size_t>& First() const { return m_first; }
+    size_t CountOfOthers() const { return m_count - m_first.size(); }
+
+private:
+    static constexpr size_t mostTold = 3;
+
+    std::set<size_t> m_first;
+    size_t m_count = 0;
+};
+
+// Sorted by their upper edges, a control meets only those above it that reach down to it.
+std::vector<Overlaps> OverlapsOn(const Screen& screen)
+{
+    const std::vector<PlacedControl>& controls = screen.controls;
+    std::vector<size_t> order(controls.size());
+    std::iota(order.begin(), order.end(), size_t{0});
+    std::ranges::stable_sort(order, {}, [&](size_t control) { return controls[control].place.top; });
+    std::vector<Overlaps> found(controls.size());
+    std::deque<size_t> above;
+    for (const size_t control : order)
+    {
+        std::erase_if(above, [&](size_t other) { return controls[other].place.bottom <= controls[control].place.top; });
+        for (const size_t other : above)
+        {
+            if (Cover(controls[other], controls[control]))
+                found[std::max(control, other)].Add(std::min(control, other));
+        }
+        above.push_back(control);
+        if (above.size() > mostCompared)
+            above.pop_front();
+    }
+    return found;
+}
+
+Sighting SightingOf(const std::vector<Screen>& screens, size_t before, size_t control)
+{
+    Sighting sighting = {screens.front().controls[control].control};
     for (const Screen& screen : screens)
     {
-        for (auto control = screen.controls.begin(); control != screen.controls.end(); ++control)
-        {
-            for (auto before = screen.controls.begin(); before != control; ++before)
-            {
-                if (Cover(*before, *control))
-                    seen.Add(screen, {before->control, control->control});
-            }
-        }
+        if (!Cover(screen.controls[before], screen.controls[control]))
+            continue;
+        sighting.first = sighting.count++ == 0 ? &screen : sighting.first;
     }
-    for (const Sighting& sighting : seen.All())
+    return sighting;
+}
+
+// Each screen has the same controls in the same order.
+void JudgeOverlap(const Case& judged, const std::vector<Screen>& screens)
+{
+    std::vector<Overlaps> overlaps(screens.front().controls.size());
+    for (const Screen& screen : screens)
     {
-        const auto& [before, control] = sighting.controls;
-        judged.findings.Add(overlap, control->span,
-                            NameOf(*control) + " and " + NameOf(*before) + " in line " +
-                                std::to_string(before->span.line) + " overlap" + Where(sighting, screens),
-                            "move one of them, or make it smaller");
+        const std::vector<Overlaps> found = OverlapsOn(screen);
+        for (size_t control = 0; control < found.size(); ++control)
+            overlaps[control].Merge(found[control]);
+    }
+    for (size_t control = 0; control < overlaps.size(); ++control)
+    {
+        const ClytControlStatement& own = *screens.front().controls[control].control;
+        for (const size_t other : overlaps[control].First())
+        {
+            const ClytControlStatement& before = *screens.front().controls[other].control;
+            judged.findings.Add(overlap, own.span,
+                                NameOf(own) + " and " + NameOf(before) + " in line " +
+                                    std::to_string(before.span.line) + " overlap" +
+                                    Where(SightingOf(screens, other, control), screens),
+                                "move one of them, or make it smaller");
+        }
+        if (const size_t others = overlaps[control].CountOfOthers(); others != 0)
+            judged.findings.Add(overlap, own.span,
+                                "and " + std::to_string(others) + (others == 1 ? " more overlaps" : " more overlap") +
+                                    " with " + NameOf(own),
+                                "move it, or make it smaller");
     }
 }
 
@@ -181,12 +259,12 @@ void JudgeOutside(const Case& judged, const std::vector<Screen>& screens)
             const bool isWithin = control.place.left >= 0 && control.place.top >= 0 &&
                                   control.place.right <= screen.client.cx && control.place.bottom <= screen.client.cy;
             if (isFair && !isWithin)
-                seen.Add(screen, {control.control, nullptr});
+                seen.Add(screen, control.control);
         }
     }
     for (const Sighting& sighting : seen.All())
-        judged.findings.Add(outside, sighting.controls.first->span,
-                            NameOf(*sighting.controls.first) + " goes beyond the dialog" + Where(sighting, screens),
+        judged.findings.Add(outside, sighting.control->span,
+                            NameOf(*sighting.control) + " goes beyond the dialog" + Where(sighting, screens),
                             "move it, or make the dialog larger");
 }
 
@@ -214,14 +292,13 @@ void JudgeClipped(const Case& judged, const std::vector<Screen>& screens)
         {
             const int lacking = control.captionWidth - RoomOf(control);
             if (lacking > 0)
-                seen.Add(screen, {control.control, nullptr}, lacking);
+                seen.Add(screen, control.control, lacking);
         }
     }
     for (const Sighting& sighting : seen.All())
-        judged.findings.Add(clipped, sighting.controls.first->span,
-                            "the caption of " + NameOf(*sighting.controls.first) + " is " +
-                                std::to_string(sighting.pixels) + (sighting.pixels == 1 ? " pixel" : " pixels") +
-                                " too wide" + Where(sighting, screens),
+        judged.findings.Add(clipped, sighting.control->span,
+                            "the caption of " + NameOf(*sighting.control) + " is " + std::to_string(sighting.pixels) +
+                                (sighting.pixels == 1 ? " pixel" : " pixels") + " too wide" + Where(sighting, screens),
                             "make the control wider, or the text shorter");
 }
 
@@ -230,16 +307,26 @@ bool TakesFocus(const PlacedControl& control)
     return control.kind != Kind::Text && control.kind != Kind::Frame;
 }
 
+std::vector<const PlacedControl*> FramesOf(const Screen& screen)
+{
+    std::vector<const PlacedControl*> frames;
+    for (const PlacedControl& control : screen.controls)
+    {
+        if (control.kind == Kind::Frame && frames.size() < mostCompared)
+            frames.push_back(&control);
+    }
+    return frames;
+}
+
 // The smallest frame round a control; null without one.
-const PlacedControl* FrameOf(const Screen& screen, const PlacedControl& control)
+const PlacedControl* FrameOf(const std::vector<const PlacedControl*>& frames, const PlacedControl& control)
 {
     const PlacedControl* smallest = nullptr;
-    for (const PlacedControl& candidate : screen.controls)
+    for (const PlacedControl* candidate : frames)
     {
-        const bool isRound =
-            candidate.kind == Kind::Frame && &candidate != &control && Holds(candidate.place, control.place);
-        if (isRound && (smallest == nullptr || Holds(smallest->place, candidate.place)))
-            smallest = &candidate;
+        const bool isRound = candidate != &control && Holds(candidate->place, control.place);
+        if (isRound && (smallest == nullptr || Holds(smallest->place, candidate->place)))
+            smallest = candidate;
     }
     return smallest;
 }
@@ -254,13 +341,14 @@ bool GoesBack(const CRect& from, const CRect& to)
 
 void JudgeTabOrder(const Case& judged, const Screen& screen)
 {
+    const std::vector<const PlacedControl*> frames = FramesOf(screen);
     const PlacedControl* before = nullptr;
     for (const PlacedControl& control : screen.controls)
     {
         if (!TakesFocus(control))
             continue;
-        const bool isTold = before != nullptr && FrameOf(screen, *before) == FrameOf(screen, control) &&
-                            GoesBack(before->place, control.place);
+        const bool isTold = before != nullptr && GoesBack(before->place, control.place) &&
+                            FrameOf(frames, *before) == FrameOf(frames, control);
         if (isTold)
             judged.findings.Add(tabOrder, control.control->span,
                                 "the Tab key goes back from " + NameOf(*before->control) + " in line " +
@@ -289,23 +377,27 @@ void JudgeHeights(const Case& judged)
 
 void JudgeFrames(const Case& judged, const Screen& screen)
 {
-    const auto isIn = [&](const ClytControlStatement* option, const CRect& place)
-    {
-        return std::ranges::any_of(screen.controls, [&](const PlacedControl& control)
-                                   { return control.control == option && Holds(place, control.place); });
-    };
+    std::unordered_map<const ClytControlStatement*, CRect> places;
+    for (const PlacedControl& control : screen.controls)
+        places.emplace(control.control, control.place);
+    const std::vector<const PlacedControl*> frames = FramesOf(screen);
+    std::set<CString> groups;
     for (const ClytControlStatement& group : judged.description.controls)
     {
-        if (KindOf(group) != Kind::OptionGroup)
+        if (KindOf(group) != Kind::OptionGroup || !groups.insert(group.name).second)
             continue;
-        const std::vector<const ClytControlStatement*> options =
+        const std::vector<const ClytControlStatement*>& options =
             OptionButtonsOf(judged.description, group.name.GetString());
-        for (const PlacedControl& box : screen.controls)
+        for (const PlacedControl* frame : frames)
         {
-            const auto held = std::ranges::count_if(options, [&](const ClytControlStatement* option)
-                                                    { return isIn(option, box.place); });
-            if (box.kind == Kind::Frame && held != 0 && held != std::ssize(options))
-                judged.findings.Add(splitFrame, box.control->span,
+            const auto isHeld = [&](const ClytControlStatement* option)
+            {
+                const auto place = places.find(option);
+                return place != places.end() && Holds(frame->place, place->second);
+            };
+            const auto held = std::ranges::count_if(options, isHeld);
+            if (held != 0 && held != std::ssize(options))
+                judged.findings.Add(splitFrame, frame->control->span,
                                     "the frame holds " + std::to_string(held) + " of the " +
                                         std::to_string(options.size()) + " options of " + NameOf(group),
                                     "let it hold all of them");

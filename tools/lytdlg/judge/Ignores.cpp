@@ -3,6 +3,7 @@
 #include "commandline/Suggestion.h"
 
 #include <algorithm>
+#include <map>
 
 namespace lytdlg
 {
@@ -62,10 +63,25 @@ std::vector<Remark> RemarksOf(const DescriptionText& text)
     return remarks;
 }
 
-bool Silences(const Remark& remark, const Finding& finding)
+// How many findings each rule has in each line.
+using Silenced = std::map<std::pair<int, std::string>, size_t>;
+
+// Takes away what the remarks silence.
+void Silence(const std::vector<Remark>& remarks, Findings& findings, Silenced& silenced)
 {
-    return finding.path.empty() && finding.place.line == remark.place.line && remark.rule == finding.rule->id &&
-           finding.rule->level != Level::Error;
+    for (const Remark& remark : remarks)
+    {
+        if (remark.hasReason && FindRule(remark.rule) != nullptr)
+            silenced[{remark.place.line, remark.rule}] = 0;
+    }
+    findings.Remove(
+        [&](const Finding& finding)
+        {
+            if (silenced.empty() || !finding.path.empty() || finding.rule->level == Level::Error)
+                return false;
+            const auto remark = silenced.find({finding.place.line, finding.rule->id});
+            return remark != silenced.end() && ++remark->second > 0;
+        });
 }
 
 } // namespace
@@ -77,7 +93,10 @@ Family IgnoreRules()
 
 void ApplyIgnores(const Description& description, Findings& findings)
 {
-    for (const Remark& remark : RemarksOf(description.text))
+    const std::vector<Remark> remarks = RemarksOf(description.text);
+    Silenced silenced;
+    Silence(remarks, findings, silenced);
+    for (const Remark& remark : remarks)
     {
         if (FindRule(remark.rule) == nullptr)
         {
@@ -88,7 +107,7 @@ void ApplyIgnores(const Description& description, Findings& findings)
         else if (!remark.hasReason)
             findings.Add(unreasoned, remark.place, "the remark gives no reason",
                          "write why after \"" + remark.rule + "\"");
-        else if (findings.Remove([&](const Finding& finding) { return Silences(remark, finding); }) == 0)
+        else if (silenced[{remark.place.line, remark.rule}] == 0)
             findings.Add(unused, remark.place, "\"" + remark.rule + "\" finds nothing here", "delete the remark");
     }
 }

@@ -9,6 +9,7 @@
 #include "lytdlg/text/Words.h"
 
 #include <algorithm>
+#include <unordered_set>
 
 namespace lytdlg
 {
@@ -148,16 +149,21 @@ void JudgeMessage(const Case& judged, const LibraryText& text)
 }
 
 // All texts that the dialogs of the folder show, this one as it is now.
-std::vector<ShownText> UsesInFolder(const Case& judged)
+std::unordered_set<std::string> TextsInFolder(const Case& judged)
 {
     const std::string own = FileNameOf(judged.description);
-    std::vector<ShownText> uses = TextsOf(own, judged.description.text.Bytes()).uses;
+    std::unordered_set<std::string> used;
+    for (const ShownText& use : TextsOf(own, judged.description.text.Bytes()).uses)
+        used.insert(TextId(use.section, use.key));
     for (const DescriptionTexts& texts : judged.surroundings.descriptions.All())
     {
-        if (texts.fileName != own)
-            uses.insert(uses.end(), texts.uses.begin(), texts.uses.end());
+        for (const ShownText& use : texts.uses)
+        {
+            if (texts.fileName != own)
+                used.insert(TextId(use.section, use.key));
+        }
     }
-    return uses;
+    return used;
 }
 
 // Told for the first dialog of the folder that has the section.
@@ -172,16 +178,14 @@ void JudgeUnused(const Case& judged)
                           judged.description.mistakes.empty();
     if ((!isFirstOfSection && !isFirst) || !areWhole)
         return;
-    const std::vector<ShownText> uses = UsesInFolder(judged);
+    const std::unordered_set<std::string> used = TextsInFolder(judged);
     for (const LanguageFile& file : judged.surroundings.texts.Files())
     {
         for (const LanguageKey& key : file.Keys())
         {
             const bool isOfSection = (isFirstOfSection && IsSameName(key.section, name)) ||
                                      (isFirst && IsSameName(key.section, messageSection));
-            const auto isUse = [&](const ShownText& use)
-            { return IsSameName(use.section, key.section) && IsSameName(use.key, key.name); };
-            if (key.isReached && key.hasText && isOfSection && std::ranges::none_of(uses, isUse))
+            if (key.isReached && key.hasText && isOfSection && !used.contains(TextId(key.section, key.name)))
                 AddIn(judged, unused, file, key.place, key.line,
                       "no dialog of the folder uses the text " + InQuotes(key.name), "delete it");
         }

@@ -1,6 +1,5 @@
 #include "lytdlg/judge/MarkRules.h"
 
-#include <algorithm>
 #include <set>
 
 namespace lytdlg
@@ -89,8 +88,7 @@ public:
 private:
     void JudgeIndented(const SourceLine& line, size_t start)
     {
-        const auto isHere = [&](const Mistake& mistake) { return mistake.place.line == line.number; };
-        if (std::ranges::any_of(m_judged.description.mistakes, isHere))
+        if (m_judged.description.IsRefused(line.number))
         {
             m_judged.findings
                 .Add(indented, {line.number, static_cast<int>(start), 1}, "this mark is read as a statement",

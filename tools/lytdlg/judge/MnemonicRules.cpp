@@ -4,6 +4,7 @@
 #include "lytdlg/judge/TextUses.h"
 
 #include <algorithm>
+#include <map>
 
 namespace lytdlg
 {
@@ -63,29 +64,49 @@ std::vector<Caption> CaptionsOf(const Description& description, const LanguageFi
     return captions;
 }
 
-bool AreSeenTogether(const Description& description, const Caption& left, const Caption& right)
+// The captions before one that underline its letter. Two of different controls are enough to find one that is not its
+// own: each control may have a second caption.
+class LetterUsers
 {
-    const ClytControlStatement& one = *left.use->control;
-    const ClytControlStatement& other = *right.use->control;
-    return &one != &other && !(MayBeHidden(description, one) && MayBeHidden(description, other));
-}
+public:
+    void Add(const Caption& caption)
+    {
+        const bool isNew = std::ranges::none_of(m_captions, [&](const Caption* other)
+                                                { return other->use->control == caption.use->control; });
+        if (isNew && m_captions.size() < 2)
+            m_captions.push_back(&caption);
+    }
+    const Caption* Other(const Caption& caption) const
+    {
+        const auto other = std::ranges::find_if(m_captions, [&](const Caption* each)
+                                                { return each->use->control != caption.use->control; });
+        return other != m_captions.end() ? *other : nullptr;
+    }
 
+private:
+    std::vector<const Caption*> m_captions;
+};
+
+// Two controls that may both be hidden are taken for ones that are never seen together.
 void JudgeTwice(const Case& judged, const LanguageFile& file, const std::vector<Caption>& captions)
 {
-    for (auto caption = captions.begin(); caption != captions.end(); ++caption)
+    std::map<char, LetterUsers> all;
+    std::map<char, LetterUsers> alwaysSeen;
+    for (const Caption& caption : captions)
     {
-        const auto before = std::find_if(captions.begin(), caption,
-                                         [&](const Caption& other) {
-                                             return other.letter == caption->letter &&
-                                                    AreSeenTogether(judged.description, other, *caption);
-                                         });
-        if (caption->letter == '\0' || before == caption)
+        if (caption.letter == '\0')
             continue;
-        judged.findings.Add(twice, caption->use->place,
-                            "in " + file.Language() + ".nls " + InQuotes(caption->use->key) +
-                                " underlines the letter " + std::string(1, caption->letter) + " as " +
-                                InQuotes(before->use->key) + " in line " + std::to_string(before->use->place.line) +
-                                " does",
+        const bool mayBeHidden = MayBeHidden(judged.description, *caption.use->control);
+        const Caption* before = (mayBeHidden ? alwaysSeen : all)[caption.letter].Other(caption);
+        all[caption.letter].Add(caption);
+        if (!mayBeHidden)
+            alwaysSeen[caption.letter].Add(caption);
+        if (before == nullptr)
+            continue;
+        judged.findings.Add(twice, caption.use->place,
+                            "in " + file.Language() + ".nls " + InQuotes(caption.use->key) + " underlines the letter " +
+                                std::string(1, caption.letter) + " as " + InQuotes(before->use->key) + " in line " +
+                                std::to_string(before->use->place.line) + " does",
                             "choose another letter in the language file");
     }
 }

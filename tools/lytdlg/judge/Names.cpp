@@ -1,6 +1,7 @@
 #include "lytdlg/judge/Names.h"
 
 #include "commandline/Suggestion.h"
+#include "lytdlg/judge/DescriptionIndex.h"
 #include "lytdlg/text/LanguageFiles.h"
 
 #include <algorithm>
@@ -61,41 +62,29 @@ constexpr Synonym synonyms[] = {
 
 } // namespace
 
-std::vector<std::string> ControlNames(const Description& description)
+const std::vector<std::string>& ControlNames(const Description& description)
 {
-    std::vector<std::string> names;
-    for (const ClytControlStatement& control : description.controls)
-    {
-        if (!control.name.IsEmpty())
-            names.emplace_back(control.name.GetString());
-    }
-    return names;
+    return description.Index().ControlNames();
 }
 
-std::vector<std::string> GroupNames(const Description& description)
+const std::vector<std::string>& GroupNames(const Description& description)
 {
-    std::vector<std::string> names;
-    for (const OutputGroup& group : description.outputs)
-        names.push_back(group.name);
-    return names;
+    return description.Index().GroupNames();
 }
 
-std::vector<std::string> PartNames(const Description& description)
+const std::vector<std::string>& PartNames(const Description& description)
 {
-    std::vector<std::string> names;
-    for (const InputPart& part : description.inputs)
-        names.push_back(part.name);
-    return names;
+    return description.Index().PartNames();
 }
 
 bool HasGroup(const Description& description, const std::string& name)
 {
-    return std::ranges::find(description.outputs, name, &OutputGroup::name) != description.outputs.end();
+    return description.Index().HasGroup(name);
 }
 
 bool HasPart(const Description& description, const std::string& name)
 {
-    return std::ranges::find(description.inputs, name, &InputPart::name) != description.inputs.end();
+    return description.Index().HasPart(name);
 }
 
 Kind KindOfControl(const Description& description, const std::string& name)
@@ -106,6 +95,8 @@ Kind KindOfControl(const Description& description, const std::string& name)
 
 std::string MeantWord(const std::string& word, const std::vector<std::string>& known)
 {
+    if (known.size() > mostCandidates)
+        return "";
     const auto same =
         std::ranges::find_if(known, [&](const std::string& candidate) { return IsSameName(candidate, word); });
     if (same != known.end())

@@ -9,9 +9,9 @@ namespace lytdlg
 {
 
 // In the order of the file; empty names are left out.
-std::vector<std::string> ControlNames(const Description& description);
-std::vector<std::string> GroupNames(const Description& description);
-std::vector<std::string> PartNames(const Description& description);
+const std::vector<std::string>& ControlNames(const Description& description);
+const std::vector<std::string>& GroupNames(const Description& description);
+const std::vector<std::string>& PartNames(const Description& description);
 
 bool HasGroup(const Description& description, const std::string& name);
 bool HasPart(const Description& description, const std::string& name);
@@ -28,6 +28,8 @@ std::vector<std::string> WordsOf()
     return words;
 }
 
+// Among more words than these no search is made: a help for each of many wrong words would take minutes.
+inline constexpr size_t mostCandidates = 500;
 // The known word that was meant: one that differs in upper and lower case only, or in a few letters. Empty when there is
 // none.
 std::string MeantWord(const std::string& word, const std::vector<std::string>& known);

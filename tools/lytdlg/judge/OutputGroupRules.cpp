@@ -4,8 +4,8 @@
 #include "lytdlg/judge/LineTokens.h"
 #include "lytdlg/judge/Names.h"
 
-#include <algorithm>
 #include <set>
+#include <unordered_map>
 
 namespace lytdlg
 {
@@ -88,25 +88,26 @@ void JudgeFirst(const Case& judged)
 void JudgeGroups(const Case& judged)
 {
     const std::set<std::string> used = UsedGroups(judged.description);
-    const auto& groups = judged.description.outputs;
-    for (auto group = groups.begin(); group != groups.end(); ++group)
+    std::unordered_map<std::string, const OutputGroup*> last;
+    for (const OutputGroup& group : judged.description.outputs)
+        last[group.name] = &group;
+    for (const OutputGroup& group : judged.description.outputs)
     {
-        const ClytSpan place = judged.description.PlaceOf(group->header.line);
-        const auto later = std::find_if(std::next(group), groups.end(),
-                                        [&](const OutputGroup& other) { return other.name == group->name; });
-        if (later != groups.end())
+        const ClytSpan place = judged.description.PlaceOf(group.header.line);
+        const OutputGroup* later = last[group.name];
+        if (later != &group)
             judged.findings.Add(groupTwice, place,
-                                "the group " + InQuotes(group->name) + " in line " +
-                                    std::to_string(later->header.line) + " takes the place of this one",
+                                "the group " + InQuotes(group.name) + " in line " + std::to_string(later->header.line) +
+                                    " takes the place of this one",
                                 "give each group a name of its own");
-        else if (!used.contains(group->name))
-            judged.findings.Add(groupUnused, place, "nothing uses the group " + InQuotes(group->name),
+        else if (!used.contains(group.name))
+            judged.findings.Add(groupUnused, place, "nothing uses the group " + InQuotes(group.name),
                                 "name it in a FILLEDBY, DIALOG or ACTION, or delete it");
-        else if (group->rules.IsEmpty() && group->name == lytParentName)
+        else if (group.rules.IsEmpty() && group.name == lytParentName)
             judged.findings.Add(noResult, place, "there is no rule for the dialog's result, and OK does nothing",
                                 "add a rule, as (\"%s\", Name)");
-        else if (group->rules.IsEmpty())
-            judged.findings.Add(groupEmpty, place, "the group " + InQuotes(group->name) + " has no rule",
+        else if (group.rules.IsEmpty())
+            judged.findings.Add(groupEmpty, place, "the group " + InQuotes(group.name) + " has no rule",
                                 "add one, as (\"%s\", Name)");
     }
 }

@@ -6,6 +6,8 @@
 #include "lytdlg/judge/Lists.h"
 
 #include <algorithm>
+#include <map>
+#include <tuple>
 
 namespace lytdlg
 {
@@ -131,30 +133,93 @@ bool HoldsWhenever(const ClytDialogOutput& rule, const ClytDialogOutput& other)
 
 void JudgeNever(const Case& judged, const ClytDialogOutput& rule)
 {
-    const std::vector<const ClytCtrlValList*> conditions = Records(rule.conditions);
-    for (size_t right = 1; right < conditions.size(); ++right)
-    {
-        const auto excludes = [&](const ClytCtrlValList* left) { return ExcludeEachOther(*left, *conditions[right]); };
-        if (std::any_of(conditions.begin(), conditions.begin() + static_cast<std::ptrdiff_t>(right), excludes))
-            judged.findings.Add(never, conditions[right]->GetSpan(),
-                                InQuotes(conditions[right]->GetName().GetString()) +
-                                    " cannot hold both at once; the rule never holds",
-                                "of the values in one pair of brackets one is enough");
-    }
+    for (const ClytCtrlValList* asked : Contradictions(rule.conditions))
+        judged.findings.Add(never, asked->GetSpan(),
+                            InQuotes(asked->GetName().GetString()) + " cannot hold both at once; the rule never holds",
+                            "of the values in one pair of brackets one is enough");
 }
+
+// The rules of a group that were met, by the values that their first condition takes: those that hold whenever another
+// one does are among the few that share a value with it.
+class MetRules
+{
+public:
+    // The first rule that holds whenever the given one does; null when none does.
+    const ClytDialogOutput* ThatHoldsWhenever(const ClytDialogOutput& rule) const
+    {
+        const ClytDialogOutput* first = nullptr;
+        for (const ClytCtrlValList* given : Records(rule.conditions))
+        {
+            for (const Key& key : KeysToAsk(*given))
+                first = Earlier(first, FirstAt(key, rule));
+        }
+        return first;
+    }
+
+    void Add(const ClytDialogOutput& rule)
+    {
+        if (rule.conditions.IsEmpty())
+            return;
+        const ClytCtrlValList& first = *rule.conditions.GetHead();
+        const std::string name = first.GetName().GetString();
+        m_rules[{name, Asks::Anything, ""}].push_back(&rule);
+        if (first.GetValues().IsEmpty())
+            m_rules[{name, Asks::NoValue, ""}].push_back(&rule);
+        for (const std::string& value : ValuesAskedBy(first))
+            m_rules[{name, Asks::Value, value}].push_back(&rule);
+    }
+
+private:
+    enum class Asks
+    {
+        Anything,
+        NoValue,
+        Value
+    };
+    using Key = std::tuple<std::string, Asks, std::string>;
+
+    static std::vector<Key> KeysToAsk(const ClytCtrlValList& given)
+    {
+        const std::string name = given.GetName().GetString();
+        const std::vector<std::string> values = ValuesAskedBy(given);
+        const Key withoutValue = {name, Asks::NoValue, ""};
+        if (given.GetValues().IsEmpty())
+            return {withoutValue};
+        return {withoutValue, values.empty() ? Key{name, Asks::Anything, ""} : Key{name, Asks::Value, values.front()}};
+    }
+
+    // Where more rules than these ask for one value, the others are passed over.
+    const ClytDialogOutput* FirstAt(const Key& key, const ClytDialogOutput& rule) const
+    {
+        constexpr size_t mostAsked = 100;
+        const auto found = m_rules.find(key);
+        if (found == m_rules.end())
+            return nullptr;
+        const auto end = found->second.begin() + static_cast<std::ptrdiff_t>(std::min(mostAsked, found->second.size()));
+        const auto holds = std::find_if(found->second.begin(), end,
+                                        [&](const ClytDialogOutput* other) { return HoldsWhenever(*other, rule); });
+        return holds != end ? *holds : nullptr;
+    }
+
+    static const ClytDialogOutput* Earlier(const ClytDialogOutput* left, const ClytDialogOutput* right)
+    {
+        return left == nullptr || (right != nullptr && right->span.line < left->span.line) ? right : left;
+    }
+
+    std::map<Key, std::vector<const ClytDialogOutput*>> m_rules;
+};
 
 void JudgeShadowed(const Case& judged, const OutputGroup& group)
 {
-    const std::vector<const ClytDialogOutput*> rules = Records(group.rules);
-    for (auto rule = rules.begin(); rule != rules.end(); ++rule)
+    MetRules met;
+    for (const ClytDialogOutput* rule : Records(group.rules))
     {
-        const auto earlier = std::find_if(rules.begin(), rule,
-                                          [&](const ClytDialogOutput* other) { return HoldsWhenever(*other, **rule); });
-        if (earlier != rule)
-            judged.findings.Add(shadowed, judged.description.PlaceOf((*rule)->span.line),
-                                "the rule in line " + std::to_string((*earlier)->span.line) +
+        if (const ClytDialogOutput* earlier = met.ThatHoldsWhenever(*rule))
+            judged.findings.Add(shadowed, judged.description.PlaceOf(rule->span.line),
+                                "the rule in line " + std::to_string(earlier->span.line) +
                                     " holds whenever this one does, so this one is never used",
                                 "put it before that rule");
+        met.Add(*rule);
     }
 }
 

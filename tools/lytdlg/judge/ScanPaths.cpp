@@ -4,6 +4,9 @@
 #include "lytdlg/judge/Lists.h"
 
 #include <algorithm>
+#include <cstdint>
+#include <unordered_map>
+#include <unordered_set>
 
 namespace lytdlg
 {
@@ -59,31 +62,80 @@ std::vector<Step> AtEnd(const ClytInputPart& part, const ClytDialogInput& statem
     return Found(part, {scan.GetLength() != 0 ? scan.GetTarget() : scan.TargetOf("Rest")});
 }
 
-// The way from a statement back to itself; empty when there is none.
-std::vector<Step> WayRound(const ClytInputPart& part, Step start, Successors successors)
+// Goes along all ways once, each statement once, and notes where one leads back to a statement that it came from.
+class CircleSearch
 {
-    std::vector<Step> way = {start};
-    std::set<Step> seen = {start};
-    while (!way.empty())
+public:
+    CircleSearch(const ClytInputPart& part, Successors successors) : m_part(part), m_successors(successors) {}
+
+    void From(Step start)
     {
-        Step next = nullptr;
-        for (const Step candidate : successors(part, *way.back()))
+        if (m_places.try_emplace(start, 0).second)
+            Enter(start);
+        while (!m_way.empty())
         {
-            if (candidate == start)
-                return way;
-            if (next == nullptr && !seen.contains(candidate))
-                next = candidate;
+            Stop& here = m_way.back();
+            if (here.taken == here.next.size())
+            {
+                m_places[here.statement] = left;
+                m_way.pop_back();
+                continue;
+            }
+            const Step next = here.next[here.taken++];
+            const auto [place, isNew] = m_places.try_emplace(next, m_way.size());
+            if (isNew)
+                Enter(next);
+            else if (place->second != left)
+                Close(place->second);
         }
-        if (next == nullptr)
-        {
-            way.pop_back();
-            continue;
-        }
-        seen.insert(next);
-        way.push_back(next);
     }
-    return way;
-}
+
+    const std::vector<std::vector<Step>>& Circles() const { return m_circles; }
+
+private:
+    struct Stop
+    {
+        Step statement;
+        std::vector<Step> next;
+        size_t taken = 0;
+    };
+
+    // What leads back comes first, for the shortest circle.
+    void Enter(Step statement)
+    {
+        Stop& here = m_way.emplace_back(Stop{statement, m_successors(m_part, *statement)});
+        std::ranges::stable_partition(here.next,
+                                      [&](Step next)
+                                      {
+                                          const auto place = m_places.find(next);
+                                          return place != m_places.end() && place->second != left;
+                                      });
+    }
+
+    // Statements of a circle that was found are in no other one, and a few circles are enough to begin with.
+    void Close(size_t from)
+    {
+        constexpr size_t mostCircles = 20;
+        if (m_circles.size() == mostCircles ||
+            (m_found.contains(m_way.back().statement) && m_found.contains(m_way[from].statement)))
+            return;
+        std::vector<Step>& circle = m_circles.emplace_back();
+        for (size_t index = from; index < m_way.size(); ++index)
+            circle.push_back(m_way[index].statement);
+        const auto lineOf = [](Step statement) { return statement->span.line; };
+        std::ranges::rotate(circle, std::ranges::min_element(circle, {}, lineOf));
+        m_found.insert(circle.begin(), circle.end());
+    }
+
+    static constexpr size_t left = SIZE_MAX;
+
+    const ClytInputPart& m_part; // of the description
+    const Successors m_successors;
+    std::vector<Stop> m_way;
+    std::unordered_map<Step, size_t> m_places; // on the way, or left
+    std::unordered_set<Step> m_found;
+    std::vector<std::vector<Step>> m_circles;
+};
 
 } // namespace
 
@@ -133,12 +185,15 @@ std::vector<ScanCircle> CirclesOf(const Description& description, const ClytInpu
     std::set<Step> told;
     for (const Successors successors : {WithinText, AtEnd, Jump})
     {
+        CircleSearch search(part, successors);
         for (const ClytDialogInput* statement : Records(part.GetStatements()))
         {
-            if (!reached.contains(statement) || told.contains(statement))
-                continue;
-            const std::vector<Step> way = WayRound(part, statement, successors);
-            if (way.empty())
+            if (reached.contains(statement))
+                search.From(statement);
+        }
+        for (const std::vector<Step>& way : search.Circles())
+        {
+            if (std::ranges::all_of(way, [&](Step statement) { return told.contains(statement); }))
                 continue;
             told.insert(way.begin(), way.end());
             circles.push_back({way, successors == Jump, successors == AtEnd});

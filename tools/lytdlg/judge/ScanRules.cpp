@@ -6,6 +6,7 @@
 #include "lytdlg/judge/ScanPaths.h"
 
 #include <algorithm>
+#include <unordered_map>
 
 namespace lytdlg
 {
@@ -98,6 +99,11 @@ std::vector<std::string> StatementNames(const ClytInputPart& part)
     return names;
 }
 
+bool IsTarget(const ClytInputPart& part, const std::string& name)
+{
+    return name == "End" || part.Find(name.c_str()) != nullptr;
+}
+
 // Parts.
 
 // The names of the parts that buttons run.
@@ -119,19 +125,21 @@ void JudgeParts(const Case& judged)
 {
     const std::set<std::string> used = UsedParts(judged.description);
     const auto& parts = judged.description.inputs;
-    const bool hasParent = std::ranges::any_of(parts, [](const InputPart& part) { return part.name == lytParentName; });
-    for (auto part = parts.begin(); part != parts.end(); ++part)
+    const bool hasParent = HasPart(judged.description, lytParentName);
+    std::unordered_map<std::string, const InputPart*> last;
+    for (const InputPart& part : parts)
+        last[part.name] = &part;
+    for (const InputPart& part : parts)
     {
-        const ClytSpan place = judged.description.PlaceOf(part->header.line);
-        const auto later = std::find_if(std::next(part), parts.end(),
-                                        [&](const InputPart& other) { return other.name == part->name; });
-        if (later != parts.end())
+        const ClytSpan place = judged.description.PlaceOf(part.header.line);
+        const InputPart* later = last[part.name];
+        if (later != &part)
             judged.findings.Add(partTwice, place,
-                                "the part " + InQuotes(part->name) + " in line " + std::to_string(later->header.line) +
+                                "the part " + InQuotes(part.name) + " in line " + std::to_string(later->header.line) +
                                     " takes the place of this one",
                                 "give each part a name of its own");
-        else if (!used.contains(part->name) && hasParent)
-            judged.findings.Add(partUnused, place, "no button runs the part " + InQuotes(part->name),
+        else if (!used.contains(part.name) && hasParent)
+            judged.findings.Add(partUnused, place, "no button runs the part " + InQuotes(part.name),
                                 "name it in a button's DIALOG or ACTION, or delete it");
     }
 }
@@ -164,8 +172,7 @@ bool HasMisspeltTarget(const Case& judged, const InputPart& part)
     {
         for (const ScanTarget& next : TargetsOf(judged.description, *statement))
         {
-            const std::string meant = MeantWord(next.name, known);
-            if (next.name != "End" && !meant.empty() && meant != next.name)
+            if (!IsTarget(part.part, next.name) && !MeantWord(next.name, known).empty())
                 return true;
         }
     }
@@ -190,13 +197,12 @@ void JudgeReached(const Case& judged, const InputPart& part)
     }
 }
 
-void JudgeTargets(const Case& judged, const InputPart& part, const ClytDialogInput& statement)
+void JudgeTargets(const Case& judged, const InputPart& part, const ClytDialogInput& statement,
+                  const std::vector<std::string>& known)
 {
-    std::vector<std::string> known = StatementNames(part.part);
-    known.emplace_back("End");
     for (const ScanTarget& next : TargetsOf(judged.description, statement))
     {
-        if (std::ranges::find(known, next.name) != known.end())
+        if (IsTarget(part.part, next.name))
             continue;
         if (next.name.empty())
             judged.findings.Add(target, NamePlace(statement),
@@ -211,9 +217,13 @@ void JudgeTargets(const Case& judged, const InputPart& part, const ClytDialogInp
 
 std::string WayOf(const ScanCircle& found)
 {
+    constexpr size_t mostNamed = 12;
+    const size_t named = std::min(mostNamed, found.statements.size());
     std::string way;
-    for (const ClytDialogInput* statement : found.statements)
-        way += InQuotes(statement->name.GetString()) + " -> ";
+    for (size_t index = 0; index < named; ++index)
+        way += InQuotes(found.statements[index]->name.GetString()) + " -> ";
+    if (named < found.statements.size())
+        way += std::to_string(found.statements.size() - named) + " more -> ";
     return way + InQuotes(found.statements.front()->name.GetString());
 }
 
@@ -235,6 +245,18 @@ void JudgeCircles(const Case& judged, const InputPart& part)
 }
 
 // The first line of a part.
+
+// The next line of the section that is read; null after its last.
+const SourceLine* LineAfter(const DescriptionText& text, int number)
+{
+    for (size_t index = static_cast<size_t>(number); index < text.Lines().size(); ++index)
+    {
+        const SourceLine& line = text.Lines()[index];
+        if (line.isRead && !line.isStray && line.section == Section::Input)
+            return &line;
+    }
+    return nullptr;
+}
 
 // Where a tab or a `;` stands after a word and outside quotes; npos when none does.
 size_t FindNoDelimiter(const std::string& line)
@@ -260,16 +282,14 @@ size_t FindNoDelimiter(const std::string& line)
 
 void JudgeFirstLine(const Case& judged, const InputPart& part)
 {
-    const std::vector<const SourceLine*> lines = judged.description.text.LinesOf(Section::Input);
-    const auto first =
-        std::ranges::find_if(lines, [&](const SourceLine* line) { return line->number > part.header.line; });
-    if (first == lines.end() || (*first)->isHeader)
+    const SourceLine* first = LineAfter(judged.description.text, part.header.line);
+    if (first == nullptr || first->isHeader)
         return;
-    const size_t place = FindNoDelimiter((*first)->text);
+    const size_t place = FindNoDelimiter(first->text);
     if (place == std::string::npos)
         return;
-    const std::string sign = (*first)->text[place] == ';' ? "`;`" : "tab";
-    judged.findings.Add(firstLine, {(*first)->number, static_cast<int>(place), 1},
+    const std::string sign = first->text[place] == ';' ? "`;`" : "tab";
+    judged.findings.Add(firstLine, {first->number, static_cast<int>(place), 1},
                         "in the line after a header a " + sign + " does not separate: it belongs to the word before it",
                         "put a comment line between the header and this line");
 }
@@ -277,11 +297,10 @@ void JudgeFirstLine(const Case& judged, const InputPart& part)
 // A line that is refused leads nowhere, and says nothing about the others.
 bool IsWhole(const Description& description, const InputPart& part)
 {
-    for (const SourceLine* line : description.text.LinesOf(Section::Input))
+    for (const SourceLine* line = LineAfter(description.text, part.header.line); line != nullptr && !line->isHeader;
+         line = LineAfter(description.text, line->number))
     {
-        if (line->isHeader && line->number > part.header.line)
-            return true;
-        if (line->number > part.header.line && description.IsRefused(line->number))
+        if (description.IsRefused(line->number))
             return false;
     }
     return true;
@@ -291,8 +310,10 @@ void JudgePaths(const Case& judged, const InputPart& part)
 {
     JudgeReached(judged, part);
     JudgeCircles(judged, part);
+    std::vector<std::string> known = StatementNames(part.part);
+    known.emplace_back("End");
     for (const ClytDialogInput* statement : Records(part.part.GetStatements()))
-        JudgeTargets(judged, part, *statement);
+        JudgeTargets(judged, part, *statement, known);
 }
 
 } // namespace scan_rules

@@ -4,6 +4,7 @@
 #include "lytdlg/judge/LineTokens.h"
 
 #include <algorithm>
+#include <map>
 
 namespace lytdlg
 {
@@ -188,20 +189,22 @@ void AddStray(const Case& judged, const SourceLine& line)
         judged.findings.Add(order, place, message, "delete the line, or move the section to its place").number = "212";
 }
 
-// The first section between two that comes only below a line; null when none does.
-const SourceLine* SkippedBy(const DescriptionText& text, Section above, const SourceLine& line)
+// The line of the last header of each section.
+std::map<Section, int> LastHeaders(const DescriptionText& text)
 {
-    const auto skipped = std::ranges::find_if(text.Lines(),
-                                              [&](const SourceLine& other) {
-                                                  return other.number > line.number && other.isHeader &&
-                                                         other.section > above && other.section < line.section;
-                                              });
-    return skipped != text.Lines().end() ? &*skipped : nullptr;
+    std::map<Section, int> lines;
+    for (const SourceLine& line : text.Lines())
+    {
+        if (line.isHeader)
+            lines[line.section] = line.number;
+    }
+    return lines;
 }
 
 void JudgeOrder(const Case& judged)
 {
     const DescriptionText& text = judged.description.text;
+    const std::map<Section, int> last = LastHeaders(text);
     Section above = Section::Head;
     for (const SourceLine& line : text.Lines())
     {
@@ -209,10 +212,14 @@ void JudgeOrder(const Case& judged)
             AddStray(judged, line);
         if (!line.isHeader)
             continue;
-        if (const SourceLine* skipped = SkippedBy(text, above, line))
+        // A section between the two that comes only below this line.
+        const auto skipped = std::ranges::find_if(
+            last, [&](const auto& header)
+            { return header.first > above && header.first < line.section && header.second > line.number; });
+        if (skipped != last.end())
             judged.findings
                 .Add(order, judged.description.PlaceOf(line.number),
-                     std::string("\"") + WordOf(line.section) + "\" stands before \"" + WordOf(skipped->section) + "\"",
+                     std::string("\"") + WordOf(line.section) + "\" stands before \"" + WordOf(skipped->first) + "\"",
                      "move the section to its place")
                 .number = NumberWithin(above);
         else

@@ -7,6 +7,9 @@
 #include "lytdlg/text/Words.h"
 
 #include <algorithm>
+#include <map>
+#include <set>
+#include <unordered_set>
 
 namespace lytdlg
 {
@@ -87,15 +90,29 @@ constexpr Rule hiddenKey = {"text-twice",
                             "$LAYOUT Example\n    CheckBox 520, 12, 112, 12, \"Copied\", .More",
                             "$LAYOUT Example\n    CheckBox 520, 12, 112, 12, \"Remove\", .More"};
 
-std::vector<std::string> KeyNames(const Case& judged, const std::string& language, const std::string& name)
+// The names of the keys in a section of a language, looked up for the first text that is missing there.
+class KeyNames
 {
-    std::vector<std::string> names;
-    for (const LanguageKey& key : judged.surroundings.texts.Keys(language, name))
-        names.push_back(key.name);
-    return names;
-}
+public:
+    explicit KeyNames(const LanguageFiles& texts) : m_texts(texts) {}
 
-void JudgeMissing(const Case& judged, const ShownText& use)
+    const std::vector<std::string>& In(const std::string& language, const std::string& section)
+    {
+        const auto [place, isNew] = m_names.try_emplace({language, section});
+        if (isNew)
+        {
+            for (const LanguageKey& key : m_texts.Keys(language, section))
+                place->second.push_back(key.name);
+        }
+        return place->second;
+    }
+
+private:
+    const LanguageFiles& m_texts; // of the surroundings
+    std::map<std::pair<std::string, std::string>, std::vector<std::string>> m_names;
+};
+
+void JudgeMissing(const Case& judged, const ShownText& use, KeyNames& names)
 {
     std::vector<std::string> lacking;
     std::string hint;
@@ -106,7 +123,7 @@ void JudgeMissing(const Case& judged, const ShownText& use)
             continue;
         lacking.push_back(file.Language() + ".nls");
         if (hint.empty())
-            hint = MeantOr(use.key, KeyNames(judged, file.Language(), use.section), "");
+            hint = MeantOr(use.key, names.In(file.Language(), use.section), "");
     }
     if (!lacking.empty())
         judged.findings.Add(missing, use.place,
@@ -184,14 +201,18 @@ void JudgeBytes(const Case& judged, const LanguageFile& file, const LanguageKey&
     }
 }
 
-void JudgeTwice(const Case& judged, const ShownText& use, const LanguageFile& file, const LanguageKey& found)
+void JudgeTwice(const Case& judged, const std::unordered_set<std::string>& used)
 {
-    for (const LanguageKey& key : file.Keys())
+    for (const LanguageFile& file : judged.surroundings.texts.Files())
     {
-        if (!key.isReached && IsSameName(key.section, use.section) && IsSameName(key.name, use.key))
-            AddIn(judged, hiddenKey, file, key.place, key.line,
-                  "the text stands in line " + std::to_string(found.place.line) + " already, and that one counts",
-                  "take one of them away");
+        for (const LanguageKey& key : file.Keys())
+        {
+            const LanguageKey* found = key.isReached ? nullptr : file.Find(key.section, key.name);
+            if (found != nullptr && used.contains(TextId(key.section, key.name)))
+                AddIn(judged, hiddenKey, file, key.place, key.line,
+                      "the text stands in line " + std::to_string(found->place.line) + " already, and that one counts",
+                      "take one of them away");
+        }
     }
 }
 
@@ -229,6 +250,20 @@ void JudgeMarks(const Case& judged, const ShownText& use)
     }
 }
 
+void JudgeTexts(const Case& judged, const ShownText& use)
+{
+    JudgeMarks(judged, use);
+    for (const LanguageFile& file : judged.surroundings.texts.Files())
+    {
+        if (const LanguageKey* key = file.Find(use.section, use.key))
+        {
+            JudgeText(judged, use, file, *key);
+            JudgeEmpty(judged, use, file, *key);
+            JudgeBytes(judged, file, *key);
+        }
+    }
+}
+
 } // namespace text_rules
 } // namespace
 
@@ -238,21 +273,19 @@ Family TextRules()
     return {{&missing, &tooLong, &apostrophe, &ampersand, &stray, &marks, &bytes, &emptyText, &hiddenKey},
             [](const Case& judged)
             {
+                KeyNames names(judged.surroundings.texts);
+                std::unordered_set<std::string> used;
+                std::set<std::pair<TextRole, std::string>> met;
                 for (const ShownText& use : TextUsesOf(judged.description))
                 {
-                    JudgeMissing(judged, use);
-                    JudgeMarks(judged, use);
-                    for (const LanguageFile& file : judged.surroundings.texts.Files())
-                    {
-                        if (const LanguageKey* key = file.Find(use.section, use.key))
-                        {
-                            JudgeText(judged, use, file, *key);
-                            JudgeEmpty(judged, use, file, *key);
-                            JudgeBytes(judged, file, *key);
-                            JudgeTwice(judged, use, file, *key);
-                        }
-                    }
+                    JudgeMissing(judged, use, names);
+                    const std::string id = TextId(use.section, use.key);
+                    used.insert(id);
+                    // What its text is like is the same wherever it is shown in a role.
+                    if (met.emplace(use.role, id).second)
+                        JudgeTexts(judged, use);
                 }
+                JudgeTwice(judged, used);
             }};
 }
 

@@ -52,6 +52,7 @@ bool LooksOpen(const std::string& text)
 DescriptionLines Split(const std::string& content)
 {
     DescriptionLines split;
+    const size_t endOfLines = content.find(endOfText);
     size_t start = 0;
     while (start < content.size())
     {
@@ -60,7 +61,7 @@ DescriptionLines Split(const std::string& content)
         const size_t next = feed != std::string::npos ? feed + 1 : end;
         if (feed != std::string::npos && end > start && content[end - 1] == '\r')
             --end;
-        if (content.find(endOfText, start) < next)
+        if (endOfLines < next)
             break;
         split.lines.push_back({content.substr(start, end - start), content.substr(end, next - end), {}});
         start = next;

@@ -52,8 +52,7 @@ public:
             TakeLine();
     }
     std::vector<LanguageKey> TakeKeys() { return std::move(m_keys); }
-    // In the order of the file, each as often as it begins.
-    std::vector<std::string> TakeSections() { return std::move(m_sections); }
+    std::unordered_set<std::string> TakeSections() { return std::move(m_sections); }
 
 private:
     // A line ends at a carriage return, a line feed or both.
@@ -73,10 +72,8 @@ private:
 
     void BeginSection(std::string_view name)
     {
-        m_isReached = !name.empty() && std::ranges::none_of(m_sections, [&](const std::string& section)
-                                                            { return IsSameName(section, name); });
+        m_isReached = m_sections.insert(FoldedName(name)).second && !name.empty();
         m_section = name;
-        m_sections.push_back(m_section);
     }
 
     void AddKey(std::string_view text, std::string_view line)
@@ -89,22 +86,16 @@ private:
         key.hasText = sign != std::string_view::npos;
         if (key.hasText)
             key.text = Unquoted(UpToNul(WithoutBlanks(text.substr(sign + 1))));
-        key.isReached = m_isReached && !HasInSection(key.name);
+        key.isReached = m_isReached && m_reached.insert(TextId(m_section, key.name)).second;
         m_keys.push_back(std::move(key));
-    }
-
-    bool HasInSection(const std::string& name) const
-    {
-        return std::ranges::any_of(
-            m_keys, [&](const LanguageKey& key)
-            { return key.isReached && IsSameName(key.name, name) && IsSameName(key.section, m_section); });
     }
 
     std::string_view m_rest;
     int m_line = 0;
     std::string m_section;
-    bool m_isReached = true; // above the first section, what an empty name of a section finds
-    std::vector<std::string> m_sections;
+    bool m_isReached = true;                    // above the first section, what an empty name of a section finds
+    std::unordered_set<std::string> m_sections; // folded
+    std::unordered_set<std::string> m_reached;  // the texts that the library finds
     std::vector<LanguageKey> m_keys;
 };
 
@@ -115,14 +106,21 @@ std::vector<std::filesystem::path> LanguageFilesIn(const std::filesystem::path& 
 
 } // namespace
 
+std::string FoldedName(std::string_view name)
+{
+    return CString(std::string(WithoutBlanks(name)).c_str()).MakeLower().GetString();
+}
+
 bool IsSameName(std::string_view left, std::string_view right)
 {
     left = WithoutBlanks(left);
     right = WithoutBlanks(right);
-    if (left.size() != right.size())
-        return false;
-    const std::string text(right);
-    return CString(std::string(left).c_str()).CompareNoCase(text.c_str()) == 0;
+    return left.size() == right.size() && FoldedName(left) == FoldedName(right);
+}
+
+std::string TextId(std::string_view section, std::string_view key)
+{
+    return FoldedName(section) + '\n' + FoldedName(key);
 }
 
 std::vector<LanguageKey> ReadLanguageKeys(std::string_view content)
@@ -141,6 +139,11 @@ LanguageFile::LanguageFile(std::string language, std::string fileName)
     reader.Read();
     m_sections = reader.TakeSections();
     m_keys = reader.TakeKeys();
+    for (size_t index = 0; index < m_keys.size(); ++index)
+    {
+        if (m_keys[index].isReached)
+            m_reached.emplace(TextId(m_keys[index].section, m_keys[index].name), index);
+    }
 }
 
 bool LanguageFile::HasByteOrderMark() const
@@ -150,15 +153,13 @@ bool LanguageFile::HasByteOrderMark() const
 
 bool LanguageFile::HasSection(const std::string& section) const
 {
-    return std::ranges::any_of(m_sections, [&](const std::string& each) { return IsSameName(each, section); });
+    return m_sections.contains(FoldedName(section));
 }
 
 const LanguageKey* LanguageFile::Find(const std::string& section, const std::string& key) const
 {
-    const auto found = std::ranges::find_if(
-        m_keys, [&](const LanguageKey& each)
-        { return each.isReached && IsSameName(each.name, key) && IsSameName(each.section, section); });
-    return found != m_keys.end() && found->hasText ? &*found : nullptr;
+    const auto found = m_reached.find(TextId(section, key));
+    return found != m_reached.end() && m_keys[found->second].hasText ? &m_keys[found->second] : nullptr;
 }
 
 std::vector<std::string> LanguagesIn(const std::filesystem::path& folder)

@@ -7,6 +7,8 @@
 #include <filesystem>
 #include <string>
 #include <string_view>
+#include <unordered_map>
+#include <unordered_set>
 #include <vector>
 
 namespace lytdlg
@@ -61,8 +63,9 @@ private:
     std::string m_language;
     std::string m_fileName;
     std::string m_firstLine;
-    std::vector<std::string> m_sections;
+    std::unordered_set<std::string> m_sections; // folded
     std::vector<LanguageKey> m_keys;
+    std::unordered_map<std::string, size_t> m_reached; // the texts that the library finds, and their keys
 };
 
 class LanguageFiles
@@ -94,5 +97,9 @@ private:
 
 // Two names of sections or keys that the library takes for one.
 bool IsSameName(std::string_view left, std::string_view right);
+// Equal for two such names.
+std::string FoldedName(std::string_view name);
+// Equal for two texts that the library takes for one.
+std::string TextId(std::string_view section, std::string_view key);
 
 } // namespace lytdlg

@@ -63,9 +63,8 @@ bool TextTable::IsMissing(const TextRow& row, const LanguageFile& file) const
 
 TextRow& TextTable::RowOf(const std::string& section, const std::string& key)
 {
-    const auto found = std::ranges::find_if(m_rows, [&](const TextRow& row)
-                                            { return IsSameName(row.key, key) && IsSameName(row.section, section); });
-    return found != m_rows.end() ? *found : m_rows.emplace_back(TextRow{section, key, {}, {}});
+    const auto [place, isNew] = m_places.try_emplace(TextId(section, key), m_rows.size());
+    return isNew ? m_rows.emplace_back(TextRow{section, key, {}, {}}) : m_rows[place->second];
 }
 
 void TextTable::AddUse(const ShownText& text, const std::string& fileName)

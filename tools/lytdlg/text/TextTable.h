@@ -5,6 +5,7 @@
 
 #include <filesystem>
 #include <string>
+#include <unordered_map>
 #include <vector>
 
 namespace lytdlg
@@ -51,6 +52,7 @@ private:
 
     LanguageFiles m_languages;
     std::vector<TextRow> m_rows;
+    std::unordered_map<std::string, size_t> m_places; // of each text among the rows
 };
 
 } // namespace lytdlg
