@@ -2,16 +2,6 @@
 
 #include <cstring>
 
-namespace
-{
-
-CString MarkerName(const char* line)
-{
-    return {line, static_cast<int>(std::strcspn(line, " \t;\n\r"))};
-}
-
-} // namespace
-
 ClytLineSource::ClytLineSource(const char* defineList)
 {
     if (defineList == nullptr || *defineList == '\0')
@@ -34,10 +24,9 @@ char* ClytLineSource::ReadString(char* buffer, UINT count)
     {
         if (*buffer == '<')
         {
-            const bool isInverted = buffer[1] == '!';
             void* unused = nullptr;
-            const bool isDefined = defines.Lookup(MarkerName(buffer + (isInverted ? 2 : 1)), unused);
-            lineActive = isDefined != isInverted;
+            const bool isDefined = defines.Lookup(DefineOf(buffer), unused);
+            lineActive = isDefined != IsInverted(buffer);
         }
         else if (*buffer == '>')
             lineActive = true;
@@ -48,6 +37,12 @@ char* ClytLineSource::ReadString(char* buffer, UINT count)
         }
     }
     return nullptr;
+}
+
+CString ClytLineSource::DefineOf(const char* line)
+{
+    const char* const name = line + (IsInverted(line) ? 2 : 1);
+    return {name, static_cast<int>(std::strcspn(name, " \t;\n\r"))};
 }
 
 bool ClytLineSource::ReadAnyLine(char* buffer, UINT count)

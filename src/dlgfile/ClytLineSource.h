@@ -19,6 +19,9 @@ public:
     int GetLineNumber() const { return lineNumber; }
     // Where the present line stands in the file, and a part of it that begins at a column of the line as delivered.
     const ClytSpan& GetLinePlace() const { return linePlace; }
+    // What a line that begins with `<` tells: the define that it names, and whether `<!` turns it round.
+    static CString DefineOf(const char* line);
+    static bool IsInverted(const char* line) { return line[1] == '!'; }
     ClytSpan PlaceInLine(int column, int length) const { return {linePlace.line, linePlace.column + column, length}; }
 
 protected:

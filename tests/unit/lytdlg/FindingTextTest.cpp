@@ -80,6 +80,23 @@ TEST(FindingText, SaysWhatIsWrongInTheseWords)
     }
 }
 
+// A line is cut after 399 characters, and a piece may begin with a mark.
+TEST(FindingText, IsOfThePiecesThatTheLibraryReads)
+{
+    const std::string wholePiece = "$VALUES\nUnit = m" + std::string(391, ' ');
+    EXPECT_EQ(FindIn(wholePiece).text, "");
+    const Found found = FindIn(wholePiece + "<NOPE\nNothing\n>");
+    EXPECT_EQ(found.rules, (std::set<std::string>{"define-off", "line-length"})) << found.text;
+}
+
+TEST(FindingText, IsToldOfLinesThatADefineWithANulSwitchesOn)
+{
+    const Description description("", ExampleDescription("$VALUES\n<A{NUL}B\nNobody = m\n>"), {"A"});
+    const Findings findings = Judge(description, SurroundingsOf("", {}));
+    ASSERT_EQ(findings.All().size(), 1U);
+    EXPECT_EQ(findings.All().front().rule->id, std::string("value-control-unknown"));
+}
+
 // What they would say about the actions of buttons, and which controls the result takes.
 TEST(FindingText, IsNotToldOfSectionsThatAreCutOff)
 {

@@ -40,10 +40,10 @@ std::string TakenByPieces(const char* format)
 
 TEST(FormatPieces, AreCountedAsTheCompositionTakesThem)
 {
-    static const char* const formats[] = {"",       "plain s.", "%s",    "%s;%s",   "size %s", "%.5s",
-                                          "%0.5s",  "%5s;%s",   "%d;%s", "%.5d;%s", "a.%s",    "%s.",
-                                          "%s%",    "%",        "%%s",   "%-.5s%s", "0%s",     "%0s%s",
-                                          "%.1x s", "%s \\n%s", "ss%ss", "%.0005s", "S%sS",    "\"%s\""};
+    static const char* const formats[] = {
+        "",        "plain s.",    "%s",       "%s;%s", "size %s", "%.5s", "%0.5s",   "%5s;%s", "%d;%s",
+        "%.5d;%s", "a.%s",        "%s.",      "%s%",   "%",       "%%s",  "%-.5s%s", "0%s",    "%0s%s",
+        "%.1x s",  "%. 3s|%.+2s", "%s \\n%s", "ss%ss", "%.0005s", "S%sS", "\"%s\""};
     for (const char* format : formats)
         EXPECT_EQ(TakenByPieces(format), TakenByComposition(format)) << format;
 }

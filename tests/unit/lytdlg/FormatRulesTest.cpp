@@ -133,6 +133,9 @@ TEST(FormatRules, FindNothingWrongInAFairFormat)
 $OUTPUT, parent
     Form("") = ("%s %.5s %0.3s\n%s", Name, Unit, Place, %))",
         R"(
+$OUTPUT, parent
+    Form("") = ("%. 3s|%.+2s", Name, Unit))",
+        R"(
 $EVALUATION, x
     Unit = NULL: NameMissing
 $OUTPUT, parent

@@ -30,7 +30,7 @@ std::vector<std::string> HeaderWords(ClytDialogFile& file)
 // its word comes from the reader.
 std::vector<const SourceLine*> Body(const DescriptionText& text, Section section)
 {
-    std::vector<const SourceLine*> lines = text.LinesOf(section);
+    std::vector<const SourceLine*> lines = text.LinesWithMarksOf(section);
     if (!lines.empty() && lines.front()->isHeader)
         lines.erase(lines.begin());
     return lines;
@@ -129,12 +129,12 @@ bool Description::IsQuoted(const ClytSpan& place) const
 
 void Description::ReadLayout()
 {
-    const std::vector<const SourceLine*> layout = text.LinesOf(Section::Layout);
+    const std::vector<const SourceLine*> layout = text.LinesWithMarksOf(Section::Layout);
     const bool hasHeader = text.HeaderOf(Section::Layout) != nullptr;
-    std::vector<const SourceLine*> lines = hasHeader ? text.LinesOf(Section::Head) : layout;
+    std::vector<const SourceLine*> lines = hasHeader ? text.LinesWithMarksOf(Section::Head) : layout;
     if (hasHeader)
         lines.insert(lines.end(), layout.begin(), layout.end());
-    SectionReader file(lines, WordOf(Section::Values), mistakes);
+    SectionReader file(text, lines, WordOf(Section::Values), mistakes);
 
     CString version;
     if (hasHeader && file.ReadVersionHeader(version) == 0)
@@ -146,6 +146,8 @@ void Description::ReadLayout()
     hasDialogHeader = file.ReadDialogHeader(width, height, caption, lastText) != 0;
     title = caption.GetString();
     dialogHeader = file.GetLinePlace();
+    // When the section ends before it, the line that follows counts.
+    dialogHeader.line = std::min(dialogHeader.line, lines.empty() ? 1 : lines.back()->number + 1);
     if (mistakes.size() == mistakesBefore || mistakes.back().number != "215" || IsDialogLine(text, dialogHeader.line))
     {
         ReadControls(file);
@@ -153,7 +155,7 @@ void Description::ReadLayout()
     }
     // The line that should have been the dialog's is a control.
     const auto first = std::ranges::find(lines, dialogHeader.line, &SourceLine::number);
-    SectionReader rest({first, lines.end()}, WordOf(Section::Values), mistakes);
+    SectionReader rest(text, {first, lines.end()}, WordOf(Section::Values), mistakes);
     ReadControls(rest);
 }
 
@@ -174,7 +176,7 @@ void Description::ReadControls(ClytDialogFile& file)
 
 void Description::ReadValues()
 {
-    SectionReader file(Body(text, Section::Values), WordOf(Section::Dependencies), mistakes);
+    SectionReader file(text, Body(text, Section::Values), WordOf(Section::Dependencies), mistakes);
     CString name;
     CString keyword;
     CStringList list;
@@ -191,7 +193,7 @@ void Description::ReadDependencies()
     std::vector<const SourceLine*> lines = Body(text, Section::Dependencies);
     if (const SourceLine* header = text.HeaderOf(Section::Evaluation))
         lines.push_back(header);
-    SectionReader file(lines, WordOf(Section::Evaluation), mistakes);
+    SectionReader file(text, lines, WordOf(Section::Evaluation), mistakes);
     auto rule = std::make_unique<ClytControlDep>();
     size_t mistakesBefore = mistakes.size();
     while (file.ReadDependencyStatement(*rule) == 1)
@@ -209,7 +211,7 @@ void Description::ReadDependencies()
 
 void Description::ReadEvaluations()
 {
-    SectionReader file(Body(text, Section::Evaluation), WordOf(Section::Input), mistakes);
+    SectionReader file(text, Body(text, Section::Evaluation), WordOf(Section::Input), mistakes);
     while (true)
     {
         EvaluationStatement& statement = evaluations.emplace_back();
@@ -227,7 +229,7 @@ void Description::ReadEvaluations()
 void Description::ReadInputs()
 {
     // A reader of parts finds the header of the first in its token list, where the section before has left it.
-    std::vector<const SourceLine*> lines = text.LinesOf(Section::Input);
+    std::vector<const SourceLine*> lines = text.LinesWithMarksOf(Section::Input);
     if (lines.empty())
         return;
     SourceLine header;
@@ -235,7 +237,7 @@ void Description::ReadInputs()
     header.number = lines.front()->number - 1;
     if (!lines.front()->isHeader)
         lines.insert(lines.begin(), &header);
-    SectionReader file(lines, WordOf(Section::Output), mistakes);
+    SectionReader file(text, lines, WordOf(Section::Output), mistakes);
     ClytCtrlValList own;
     ClytCtrlValList other;
     CString word;
@@ -254,7 +256,7 @@ void Description::ReadInputs()
 
 void Description::ReadOutputs()
 {
-    std::vector<const SourceLine*> lines = text.LinesOf(Section::Output);
+    std::vector<const SourceLine*> lines = text.LinesWithMarksOf(Section::Output);
     if (lines.empty())
         return;
     OutputGroup* group = &outputs.emplace_back();
@@ -262,7 +264,7 @@ void Description::ReadOutputs()
     group->header = PlaceOf(lines.front()->number);
     if (lines.front()->isHeader)
         lines.erase(lines.begin());
-    SectionReader file(lines, WordOf(Section::End), mistakes);
+    SectionReader file(text, lines, WordOf(Section::End), mistakes);
     CString nextName;
     auto rule = std::make_unique<ClytDialogOutput>();
     size_t mistakesBefore = mistakes.size();

@@ -1,8 +1,9 @@
 #include "lytdlg/judge/DescriptionText.h"
 
 #include "commandline/Suggestion.h"
-#include "dlgfile/Tokenize.h"
+#include "dlgfile/ClytDialogFile.h"
 #include "lytdlg/text/LanguageFiles.h"
+#include "lytdlg/text/Words.h"
 
 #include <algorithm>
 #include <cctype>
@@ -18,9 +19,6 @@ namespace
 
 constexpr const char* sectionWords[] = {"$VERSION",    "$LAYOUT", "$VALUES", "$DEPENDANCES",
                                         "$EVALUATION", "$INPUT",  "$OUTPUT", "$END"};
-// A line is read in pieces of this length, and each counts.
-constexpr size_t pieceLength = 399;
-
 std::string Upper(std::string text)
 {
     std::ranges::transform(text, text.begin(), [](unsigned char ch) { return static_cast<char>(std::toupper(ch)); });
@@ -127,10 +125,35 @@ bool SeemsToBegin(Section section, const std::string& line, bool hasLayoutEnded)
     }
 }
 
-int CountPieces(const std::string& text)
+// Delivers the lines that the defines leave in, and notes the marks.
+class SwitchedLines : public ClytLineSource
 {
-    return static_cast<int>((text.size() + 1 + pieceLength - 1) / pieceLength);
-}
+public:
+    SwitchedLines(std::vector<const SourceLine*> lines, const std::string& defineList)
+        : ClytLineSource(defineList.c_str()), m_lines(std::move(lines), {})
+    {
+    }
+    std::vector<SwitchMark> TakeMarks() { return std::move(m_marks); }
+
+protected:
+    int TakeLine(char* buffer, UINT count) override
+    {
+        const int distance = m_lines.Take(buffer, count);
+        if (distance != 0 && (*buffer == '<' || *buffer == '>'))
+        {
+            SwitchMark& mark = m_marks.emplace_back();
+            mark.isOpening = *buffer == '<';
+            mark.isInverted = mark.isOpening && IsInverted(buffer);
+            mark.define = mark.isOpening ? DefineOf(buffer).GetString() : "";
+            mark.place = {m_lines.Number(), m_lines.Column(), static_cast<int>(std::strcspn(buffer, "\n"))};
+        }
+        return distance;
+    }
+
+private:
+    SourceLines m_lines;
+    std::vector<SwitchMark> m_marks;
+};
 
 } // namespace
 
@@ -189,10 +212,17 @@ const SourceLine* DescriptionText::HeaderOf(Section section) const
 
 std::vector<const SourceLine*> DescriptionText::LinesOf(Section section) const
 {
+    std::vector<const SourceLine*> found = LinesWithMarksOf(section);
+    std::erase_if(found, [](const SourceLine* line) { return !line->isRead; });
+    return found;
+}
+
+std::vector<const SourceLine*> DescriptionText::LinesWithMarksOf(Section section) const
+{
     std::vector<const SourceLine*> found;
     for (const SourceLine& line : m_lines)
     {
-        if (line.isRead && !line.isStray && line.section == section)
+        if (!line.isStray && line.section == section)
             found.push_back(&line);
     }
     return found;
@@ -217,27 +247,29 @@ void DescriptionText::SplitLines(const std::string& bytes)
 
 void DescriptionText::ApplyDefines()
 {
-    bool isActive = true;
-    int counted = 0;
-    std::unordered_set<std::string> names;
+    std::vector<const SourceLine*> lines;
     for (SourceLine& line : m_lines)
     {
-        const bool isMark = line.text.starts_with('<') || line.text.starts_with('>');
-        if (line.text.starts_with('<'))
-        {
-            const size_t start = line.text.starts_with("<!") ? 2 : 1;
-            const std::string name = line.text.substr(start, line.text.find_first_of(" \t;", start) - start);
-            isActive = IsDefined(name) == (start == 1);
-            if (names.insert(name).second)
-                m_defineNames.push_back(name);
-        }
-        else if (isMark)
-            isActive = true;
-        line.isRead = isActive && !isMark;
-        if (!line.isRead)
+        line.isRead = false;
+        lines.push_back(&line);
+    }
+    SwitchedLines reader(std::move(lines), Joined(m_defines, ","));
+    char buffer[ClytDialogFile::lineSize + 1];
+    while (reader.ReadString(buffer, ClytDialogFile::lineSize) != nullptr)
+    {
+        const ClytSpan& place = reader.GetLinePlace();
+        if (place.column != 0)
             continue;
-        line.counted = counted + 1;
-        counted += CountPieces(line.text);
+        SourceLine& line = m_lines[static_cast<size_t>(place.line - 1)];
+        line.isRead = true;
+        line.counted = reader.GetLineNumber();
+    }
+    m_marks = reader.TakeMarks();
+    std::unordered_set<std::string> names;
+    for (const SwitchMark& mark : m_marks)
+    {
+        if (mark.isOpening && names.insert(mark.define).second)
+            m_defineNames.push_back(mark.define);
     }
 }
 

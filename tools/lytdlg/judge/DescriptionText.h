@@ -3,31 +3,15 @@
 #pragma once
 
 #include "base/ClytSpan.h"
-#include "dlgfile/SectionDelimiters.h"
+#include "lytdlg/judge/SourceLines.h"
 
 #include <map>
-#include <string>
-#include <vector>
 
 namespace lytdlg
 {
 
 // What the library takes for the end of a file, whatever follows.
 inline constexpr char endOfText = 0x1A;
-
-// The sections in the order that a description must have. Each opens with its word, but for the head, which is what
-// stands above $LAYOUT.
-enum class Section
-{
-    Head,
-    Layout,
-    Values,
-    Dependencies,
-    Evaluation,
-    Input,
-    Output,
-    End
-};
 
 inline constexpr Section allSections[] = {Section::Head,       Section::Layout, Section::Values, Section::Dependencies,
                                           Section::Evaluation, Section::Input,  Section::Output, Section::End};
@@ -37,18 +21,6 @@ const char* WordOf(Section section);
 // The characters that end a word in the statements of a section.
 const DelimiterSet& DelimitersOf(Section section);
 
-struct SourceLine
-{
-    std::string text;                // without its line end
-    int number = 0;                  // in the file, from 1
-    int counted = 0;                 // as messages of the library count it; 0 for a line that is not read
-    bool isRead = true;              // the defines leave it in, and it is no mark itself
-    Section section = Section::Head; // in which it stands; a header stands in its own
-    bool isHeader = false;           // it opens its section, or a further part of it
-    bool isStray = false;            // a header that does not belong there, and opens nothing
-    std::string meant;               // what a header was meant to be; empty when it is right, or no header
-};
-
 // A line that was meant as a header and is none, since its word is misspelt or goes on after a blank.
 struct FalseHeader
 {
@@ -56,6 +28,15 @@ struct FalseHeader
     Section present = Section::Head; // that it is read as a statement of
     std::string word;                // as the library reads it
     std::string meant;               // the whole line as it should be
+    ClytSpan place;
+};
+
+// What switches lines on or off: a line, or a further piece of one, that begins with `<` or `>`.
+struct SwitchMark
+{
+    std::string define; // that `<` names
+    bool isOpening = false;
+    bool isInverted = false;
     ClytSpan place;
 };
 
@@ -71,6 +52,7 @@ public:
     // An empty line for a number that the file does not have.
     const SourceLine& Line(int number) const;
     const std::vector<FalseHeader>& FalseHeaders() const { return m_falseHeaders; }
+    const std::vector<SwitchMark>& Marks() const { return m_marks; }
     // The names that lines are switched by, each once.
     const std::vector<std::string>& DefineNames() const { return m_defineNames; }
     bool IsDefined(const std::string& name) const;
@@ -80,6 +62,8 @@ public:
     bool BeginsWithoutHeader(Section section) const;
     // The lines of a section that are read, its header and those of its parts among them.
     std::vector<const SourceLine*> LinesOf(Section section) const;
+    // The same lines, and among them the marks with what they switch off.
+    std::vector<const SourceLine*> LinesWithMarksOf(Section section) const;
     bool EndsWithLineEnd() const { return m_endsWithLineEnd; }
     // What stands after a Ctrl-Z, which ends the text, is not read.
     bool HasEndMark() const { return m_hasEndMark; }
@@ -105,6 +89,7 @@ private:
     std::vector<SourceLine> m_lines;
     std::vector<FalseHeader> m_falseHeaders;
     std::vector<std::string> m_defines;
+    std::vector<SwitchMark> m_marks;
     std::vector<std::string> m_defineNames;
     std::map<Section, int> m_lastHeaders; // the last line that holds the right word, wherever it stands
     bool m_endsWithLineEnd = true;

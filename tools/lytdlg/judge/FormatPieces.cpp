@@ -1,5 +1,7 @@
 #include "lytdlg/judge/FormatPieces.h"
 
+#include "base/Words.h"
+
 #include <algorithm>
 
 namespace lytdlg
@@ -22,11 +24,11 @@ FormatPieceKind KindOfConversion(const std::string& conversion)
     const size_t point = conversion.starts_with("0.") ? 1 : 0;
     if (conversion[point] != '.')
         return FormatPieceKind::NoConversion;
-    const bool isLimit = conversion.find_first_not_of("0123456789", point + 1) == std::string::npos;
-    if (!isLimit)
+    const char* rest = nullptr;
+    const int limit = lytNumberOf(conversion.c_str() + point + 1, &rest);
+    if (*rest != '\0')
         return FormatPieceKind::LimitAndText;
-    const bool isNothing = conversion.find_first_not_of('0', point + 1) == std::string::npos;
-    return isNothing ? FormatPieceKind::NoLimit : FormatPieceKind::Item;
+    return limit <= 0 ? FormatPieceKind::NoLimit : FormatPieceKind::Item;
 }
 
 } // namespace

@@ -25,9 +25,9 @@ constexpr Rule tab = {
 constexpr Rule length = {
     "line-length",
     Level::Warning,
-    "A line has more than 398 characters.",
-    "A line is read in pieces of 399 characters, its end among them. What is left over is read as a\n"
-    "statement of its own, and counts as a line.",
+    "A line has more than 399 characters.",
+    "A line is read in pieces of 399 characters. What is left over is read as a statement of its own, and\n"
+    "counts as a line.",
     "$VALUES\nUnit = m{LONG}; metres",
     "$VALUES\nUnit = m ; metres"};
 
@@ -151,7 +151,7 @@ void JudgeTabs(const Case& judged, const SourceLine& line)
 
 void JudgeLength(const Case& judged, const SourceLine& line)
 {
-    constexpr size_t limit = ClytDialogFile::lineSize - 1;
+    constexpr size_t limit = ClytDialogFile::lineSize;
     if (IsInStatements(line) && line.text.size() > limit)
         AddAt(judged, length, line.number, limit, line.text.size() - limit,
               "what stands after character " + std::to_string(limit) + " is read as a line of its own",

@@ -61,74 +61,70 @@ class Marks
 public:
     explicit Marks(const Case& judged) : m_judged(judged) {}
 
-    void Take(const SourceLine& line)
+    void Take(const SwitchMark& mark)
     {
-        const size_t start = line.text.find_first_not_of(" \t");
-        if (start == std::string::npos || (line.text[start] != '<' && line.text[start] != '>'))
-            return;
-        if (start > 0)
-        {
-            JudgeIndented(line, start);
-            return;
-        }
-        if (line.text.front() == '<')
-            Open(line);
+        if (mark.isOpening)
+            Open(mark);
         else
-            Close(line);
+            Close(mark);
     }
 
     void End()
     {
         if (m_open != nullptr)
-            m_judged.findings.Add(unended, m_judged.description.PlaceOf(m_open->number),
-                                  "no > ends this mark down to the end of the file",
+            m_judged.findings.Add(unended, PlaceOf(*m_open), "no > ends this mark down to the end of the file",
                                   "add a line with > after the last line that belongs to the define");
     }
 
 private:
-    void JudgeIndented(const SourceLine& line, size_t start)
+    ClytSpan PlaceOf(const SwitchMark& mark) const
     {
-        if (m_judged.description.IsRefused(line.number))
-        {
-            m_judged.findings
-                .Add(indented, {line.number, static_cast<int>(start), 1}, "this mark is read as a statement",
-                     "begin the line with it, without blanks")
-                .number = "212";
-        }
+        return mark.place.column == 0 ? m_judged.description.PlaceOf(mark.place.line) : mark.place;
     }
+    Section SectionOf(const SwitchMark& mark) const { return m_judged.description.text.Line(mark.place.line).section; }
 
-    void Open(const SourceLine& line)
+    void Open(const SwitchMark& mark)
     {
-        const size_t start = line.text.starts_with("<!") ? 2 : 1;
-        const std::string name = line.text.substr(start, line.text.find_first_of(" \t;", start) - start);
-        const ClytSpan place = m_judged.description.PlaceOf(line.number);
-        if (name.empty())
+        const ClytSpan place = PlaceOf(mark);
+        if (mark.define.empty())
             m_judged.findings.Add(nameless, place, "the name of the define is missing",
                                   "write it right after the mark, without a blank");
-        else if (start == 1 && line.section != Section::End && !m_judged.description.text.IsDefined(name) &&
-                 m_switchedOff.insert(name).second)
+        else if (!mark.isInverted && SectionOf(mark) != Section::End &&
+                 !m_judged.description.text.IsDefined(mark.define) && m_switchedOff.insert(mark.define).second)
             m_judged.findings.Add(switchedOff, place,
-                                  "lines that the define \"" + name + "\" switches on were not judged",
-                                  "judge them with --define " + name);
+                                  "lines that the define \"" + mark.define + "\" switches on were not judged",
+                                  "judge them with --define " + mark.define);
         if (m_open != nullptr)
             m_judged.findings.Add(nested, place,
-                                  "marks do not nest: this one ends the mark of line " + std::to_string(m_open->number),
+                                  "marks do not nest: this one ends the mark of line " +
+                                      std::to_string(m_open->place.line),
                                   "end the other one with > first");
-        m_open = &line;
+        m_open = &mark;
     }
 
-    void Close(const SourceLine& line)
+    void Close(const SwitchMark& mark)
     {
-        if (m_open == nullptr && line.section != Section::Head)
-            m_judged.findings.Add(unopened, m_judged.description.PlaceOf(line.number), "this mark ends nothing",
-                                  "delete it");
+        if (m_open == nullptr && SectionOf(mark) != Section::Head)
+            m_judged.findings.Add(unopened, PlaceOf(mark), "this mark ends nothing", "delete it");
         m_open = nullptr;
     }
 
     const Case& m_judged;
-    const SourceLine* m_open = nullptr;
+    const SwitchMark* m_open = nullptr;
     std::set<std::string> m_switchedOff; // told once each
 };
+
+void JudgeIndented(const Case& judged, const SourceLine& line)
+{
+    const size_t start = line.text.find_first_not_of(" \t");
+    const bool isIndented =
+        start != std::string::npos && start > 0 && (line.text[start] == '<' || line.text[start] == '>');
+    if (isIndented && judged.description.IsRefused(line.number))
+        judged.findings
+            .Add(indented, {line.number, static_cast<int>(start), 1}, "this mark is read as a statement",
+                 "begin the line with it, without blanks")
+            .number = "212";
+}
 
 } // namespace mark_rules
 } // namespace
@@ -140,9 +136,11 @@ Family MarkRules()
             [](const Case& judged)
             {
                 Marks marks(judged);
-                for (const SourceLine& line : judged.description.text.Lines())
-                    marks.Take(line);
+                for (const SwitchMark& mark : judged.description.text.Marks())
+                    marks.Take(mark);
                 marks.End();
+                for (const SourceLine& line : judged.description.text.Lines())
+                    JudgeIndented(judged, line);
             }};
 }
 

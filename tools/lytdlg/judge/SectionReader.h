@@ -11,10 +11,11 @@ class SectionReader : public ClytDialogFile
 public:
     // Delivers the lines and then the word that ends their section, whether the file has it or not. The mistakes, with
     // their places in the file, go to the list.
-    SectionReader(std::vector<const SourceLine*> sectionLines, const char* endWord, std::vector<Mistake>& mistakes);
+    SectionReader(const DescriptionText& text, std::vector<const SourceLine*> sectionLines, const char* endWord,
+                  std::vector<Mistake>& mistakes);
 
 protected:
-    int TakeLine(char* buffer, UINT count) override;
+    int TakeLine(char* buffer, UINT count) override { return m_lines.Take(buffer, count); }
 
 private:
     class Sink : public ErrorSink
@@ -33,11 +34,7 @@ private:
     };
 
     Sink m_sink;
-    std::vector<const SourceLine*> m_lines; // of the description, which outlives its readers
-    std::string m_endLine;
-    size_t m_line = 0;   // the next to take, the last one being that of the end word
-    size_t m_column = 0; // how much of it was taken
-    int m_number = 0;    // of the line taken last
+    SourceLines m_lines; // of the description, which outlives its readers
 };
 
 } // namespace lytdlg
