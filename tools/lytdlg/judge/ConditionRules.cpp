@@ -74,6 +74,15 @@ constexpr Rule movesFocus = {
     "$DEPENDANCES\nUnit/ACTIVE = Rooms(a)",
     "$DEPENDANCES\nUnit/ACTIVE = Rooms(NOTNULL)"};
 
+constexpr Rule holdsFocus = {
+    "focus-held",
+    Level::Warning,
+    "A condition asks for the value of a check list, which then holds the focus.",
+    "A check list begins without a choice. As long as it has none, each run of the rules that reads its value\n"
+    "moves the focus there: the user can type in no other control. NOTNULL does not read it.",
+    "$DEPENDANCES\nUnit/ACTIVE = Parts(\"\")",
+    "$DEPENDANCES\nUnit/ACTIVE = Parts(NOTNULL)"};
+
 struct Condition
 {
     const Case& judged;
@@ -155,8 +164,15 @@ void JudgeAlways(const Condition& condition)
 
 void JudgeFocus(const Condition& condition)
 {
-    if (condition.HasValues() && !AsksForContent(condition.list) &&
-        MayHaveNoChoice(condition.judged.description, condition.Name(), condition.kind))
+    if (!condition.HasValues() || AsksForContent(condition.list) ||
+        !MayHaveNoChoice(condition.judged.description, condition.Name(), condition.kind))
+        return;
+    if (condition.kind == Kind::CheckList)
+        condition.judged.findings.Add(holdsFocus, condition.list.GetSpan(),
+                                      InQuotes(condition.Name()) +
+                                          " begins without a choice, and holds the focus until it has one",
+                                      "ask NOTNULL only, or use a drop-down list");
+    else
         condition.judged.findings.Add(movesFocus, condition.list.GetSpan(),
                                       InQuotes(condition.Name()) + " may have no choice, and then moves the focus",
                                       "ask NOTNULL only, or use a drop-down list");
@@ -195,7 +211,7 @@ void JudgeReached(const Case& judged, const ClytControlDep& rule)
 Family ConditionRules()
 {
     using namespace condition_rules;
-    return {{&unknown, &neverHeld, &noValue, &alwaysHeld, &notLast, &notReached, &movesFocus},
+    return {{&unknown, &neverHeld, &noValue, &alwaysHeld, &notLast, &notReached, &movesFocus, &holdsFocus},
             [](const Case& judged)
             {
                 for (const ClytControlDep* rule : Records(judged.description.rules))

@@ -77,6 +77,15 @@ constexpr Rule noSize = {
     "$LAYOUT\nTextBox 500, 12, 100, 0, .Extra",
     "$LAYOUT\nTextBox 500, 12, 100, 19, .Extra"};
 
+constexpr Rule noCaption = {
+    "box-without-caption",
+    Level::Warning,
+    "A check box or an option has no caption, and cannot be clicked.",
+    "Both are as high as their text. Without one they have no height: nobody sees them, and the mouse\n"
+    "does not reach them. One that nobody is to see should be HIDDEN.",
+    "$LAYOUT\nCheckBox 520, 12, 112, 12, \"\", .More",
+    "$LAYOUT\nCheckBox 520, 12, 112, 12, \"Remove\", .More"};
+
 constexpr Rule noGroup = {
     "option-without-group",
     Level::Warning,
@@ -237,6 +246,19 @@ void JudgeNumbers(const Statement& statement)
             "give it a size, or make it HIDDEN in $VALUES");
 }
 
+void JudgeCaption(const Statement& statement)
+{
+    const ClytControlStatement& control = statement.control;
+    const bool isBox = statement.kind == Kind::CheckBox || statement.kind == Kind::Option;
+    if (!isBox || !control.text.IsEmpty() ||
+        HasOption(statement.judged.description, control.name.GetString(), ClytOption::Hidden))
+        return;
+    statement.judged.findings.Add(noCaption, statement.judged.description.PlaceOf(control.span.line),
+                                  NameOf(statement.kind) +
+                                      std::string(" without a caption has no height and cannot be clicked"),
+                                  "write the key of its text before the name, or make it HIDDEN in $VALUES");
+}
+
 void JudgeStatements(const Case& judged)
 {
     for (const ClytControlStatement& control : judged.description.controls)
@@ -250,6 +272,7 @@ void JudgeStatements(const Case& judged)
         JudgeType(statement);
         JudgeNamePoint(statement);
         JudgeNumbers(statement);
+        JudgeCaption(statement);
     }
 }
 
@@ -325,8 +348,8 @@ void JudgeButton(const Case& judged, Kind kind, const char* typeWord)
 Family LayoutRules()
 {
     using namespace layout_rules;
-    return {{&unknownType, &nameTwice, &noPoint, &surplus, &noNumber, &range, &noSize, &noGroup, &emptyGroup, &noButton,
-             &buttonTwice},
+    return {{&unknownType, &nameTwice, &noPoint, &surplus, &noNumber, &range, &noSize, &noCaption, &noGroup,
+             &emptyGroup, &noButton, &buttonTwice},
             [](const Case& judged)
             {
                 JudgeHeader(judged);
