@@ -21,6 +21,8 @@ public:
     // A button joins the group of the last "OptionGroup" statement; without one it stands alone.
     static void AddToCurrentGroup(ClytRadioButtonControl& button);
     void Remove(const ClytRadioButtonControl& button);
+    // In the order of the layout.
+    const CTypedPtrList<CPtrList, ClytRadioButtonControl*>& GetButtons() const { return buttons; }
     // Whether the button is the group's last, whose window comes last, too.
     bool EndsWith(const ClytRadioButtonControl& button) const { return buttons.GetTail() == &button; }
     // The user has chosen a button: it is the only one that is checked.

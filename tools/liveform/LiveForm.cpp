@@ -59,7 +59,7 @@ bool LiveForm::Enter(const CString& controlName, const CString& input)
 
 bool LiveForm::Enter(ClytControl& control, const CString& input)
 {
-    const Entered entered = EnterAsUser(*this, control, input);
+    const Entered entered = EnterAsUser(control, input);
     return entered == Entered::Done || entered == Entered::NotOffered;
 }
 

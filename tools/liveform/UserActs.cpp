@@ -113,13 +113,13 @@ ClytControl* FocusedControl(const ClytForm& form)
     return nullptr;
 }
 
-Entered EnterAsUser(const ClytForm& form, ClytControl& control, const CString& input)
+Entered EnterAsUser(ClytControl& control, const CString& input)
 {
     if (dynamic_cast<ClytOptionGroup*>(&control) != nullptr)
     {
-        const std::vector<ClytControl*> options = OptionsOf(form, control);
+        const std::vector<ClytControl*> options = OptionsOf(control);
         const auto option = std::ranges::find_if(options, [&](ClytControl* one) { return one->GetValue() == input; });
-        return option != options.end() ? EnterAsUser(form, **option, input) : Entered::NotOffered;
+        return option != options.end() ? EnterAsUser(**option, input) : Entered::NotOffered;
     }
     const auto* window = dynamic_cast<const CWnd*>(&control);
     if (window == nullptr || !window->IsWindowEnabled() || !window->IsWindowVisible())
@@ -127,21 +127,13 @@ Entered EnterAsUser(const ClytForm& form, ClytControl& control, const CString& i
     return EnterInWindow(*window, control, input);
 }
 
-std::vector<ClytControl*> OptionsOf(const ClytForm& form, const ClytControl& group)
+std::vector<ClytControl*> OptionsOf(const ClytControl& control)
 {
     std::vector<ClytControl*> options;
-    if (dynamic_cast<const ClytOptionGroup*>(&group) == nullptr)
-        return options;
-    POSITION place = form.GetControlList().GetHeadPosition();
-    while (place != nullptr && form.GetControlList().GetNext(place) != &group)
-        continue;
-    while (place != nullptr)
+    if (const auto* group = dynamic_cast<const ClytOptionGroup*>(&control))
     {
-        ClytControl* control = form.GetControlList().GetNext(place);
-        if (dynamic_cast<ClytOptionGroup*>(control) != nullptr)
-            break;
-        if (dynamic_cast<ClytRadioButtonControl*>(control) != nullptr)
-            options.push_back(control);
+        for (POSITION place = group->GetButtons().GetHeadPosition(); place != nullptr;)
+            options.push_back(group->GetButtons().GetNext(place));
     }
     return options;
 }
@@ -153,7 +145,7 @@ bool IsSeenEnabled(ClytControl& control)
                                                           : control.IsActive() != 0;
 }
 
-bool IsSeen(const ClytForm& form, ClytControl& control)
+bool IsSeen(ClytControl& control)
 {
     const auto isShown = [](const ClytControl* one)
     {
@@ -162,5 +154,5 @@ bool IsSeen(const ClytForm& form, ClytControl& control)
     };
     if (dynamic_cast<ClytOptionGroup*>(&control) == nullptr)
         return isShown(&control);
-    return std::ranges::any_of(OptionsOf(form, control), isShown);
+    return std::ranges::any_of(OptionsOf(control), isShown);
 }

@@ -18,10 +18,10 @@ ClytControl* FocusedControl(const ClytForm& form);
 
 // Enters a value: types it into a field, chooses the item or the option that has it, checks or unchecks a box. A button is
 // pressed. What that sets off happens before the function returns.
-Entered EnterAsUser(const ClytForm& form, ClytControl& control, const CString& input);
+Entered EnterAsUser(ClytControl& control, const CString& input);
 
-// The buttons of an option group: they stand after it in the layout, up to the next group.
-std::vector<ClytControl*> OptionsOf(const ClytForm& form, const ClytControl& group);
+// The buttons of an option group, in the order of the layout; none of another control.
+std::vector<ClytControl*> OptionsOf(const ClytControl& control);
 // An option group has no window of its own; it is shown when one of its buttons is.
 bool IsSeenEnabled(ClytControl& control);
-bool IsSeen(const ClytForm& form, ClytControl& control);
+bool IsSeen(ClytControl& control);

@@ -123,7 +123,7 @@ DialogState LookAt(const TrialDialog& dialog)
 ControlState LookAt(const TrialDialog& dialog, ClytControl& control)
 {
     const std::string& type = dialog.TypeOf(control);
-    ControlState state{dialog.NameOf(control), type, IsSeenEnabled(control), IsSeen(dialog, control)};
+    ControlState state{dialog.NameOf(control), type, IsSeenEnabled(control), IsSeen(control)};
     state.value = ValueOf(control);
     const auto& window = dynamic_cast<const CWnd&>(control);
     if (HasItems(type))

@@ -66,7 +66,7 @@ private:
         for (POSITION place = form.GetControlList().GetHeadPosition(); place != nullptr;)
         {
             ClytControl* group = form.GetControlList().GetNext(place);
-            const std::vector<ClytControl*> options = OptionsOf(form, *group);
+            const std::vector<ClytControl*> options = OptionsOf(*group);
             if (std::ranges::find(options, &subject) != options.end())
                 return group;
         }

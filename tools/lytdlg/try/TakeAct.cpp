@@ -37,10 +37,10 @@ namespace
     throw UsageError(act.place + ToUtf8(act.name) + " is a " + dialog.TypeOf(control) + " and not " + wanted);
 }
 
-void CheckReach(const TrialDialog& dialog, ClytControl& control, const Act& act)
+void CheckReach(ClytControl& control, const Act& act)
 {
     const bool isEnabled = IsSeenEnabled(control);
-    if (isEnabled && IsSeen(dialog, control))
+    if (isEnabled && IsSeen(control))
         return;
     throw ActError(act.place + ToUtf8(act.name) + (isEnabled ? " is hidden" : " is disabled") +
                    ", so no user can reach it; `lytdlg why` tells the reason");
@@ -52,7 +52,7 @@ std::vector<std::string> OfferedBy(const TrialDialog& dialog, ClytControl& contr
     std::vector<std::string> values;
     for (const ItemState& item : LookAt(dialog, control).items)
         values.push_back(item.value);
-    for (ClytControl* option : OptionsOf(dialog, control))
+    for (ClytControl* option : OptionsOf(control))
         values.emplace_back(option->GetValue().GetString());
     return values;
 }
@@ -77,7 +77,7 @@ std::vector<std::string> OfferedBy(const TrialDialog& dialog, ClytControl& contr
 
 void EnterValue(const TrialDialog& dialog, ClytControl& control, const Act& act)
 {
-    const Entered entered = EnterAsUser(dialog, control, act.value.c_str());
+    const Entered entered = EnterAsUser(control, act.value.c_str());
     if (entered == Entered::NotFocused)
         FailNotFocused(dialog, act);
     if (entered != Entered::Done)
@@ -92,7 +92,7 @@ void SetCheckBox(const TrialDialog& dialog, ClytControl& control, const Act& act
     const CString after = control.GetValue();
     if (after == act.value.c_str())
         return;
-    EnterAsUser(dialog, control, before);
+    EnterAsUser(control, before);
     throw UsageError(act.place + ToUtf8(act.name) + " does not offer " + Quoted(ToUtf8(act.value)) +
                      "; use one of: " + Quoted(ToUtf8(before.GetString())) + ", " + Quoted(ToUtf8(after.GetString())));
 }
@@ -102,7 +102,7 @@ void Set(const TrialDialog& dialog, ClytControl& control, const Act& act)
     const std::string& type = dialog.TypeOf(control);
     if (!HasItems(type) && !HasValue(type))
         FailWrongType(dialog, control, act, "something that has a value");
-    CheckReach(dialog, control, act);
+    CheckReach(control, act);
     if (type == "CheckBox")
         SetCheckBox(dialog, control, act);
     else
@@ -114,7 +114,7 @@ void Press(const TrialDialog& dialog, ClytControl& control, const Act& act)
     const std::string& type = dialog.TypeOf(control);
     if (type != "PushButton" && type != "OKButton" && type != "CancelButton")
         FailWrongType(dialog, control, act, "a button");
-    CheckReach(dialog, control, act);
+    CheckReach(control, act);
     robot::Press(dynamic_cast<const CWnd&>(control).m_hWnd);
 }
 
@@ -123,7 +123,7 @@ void DoubleClick(const TrialDialog& dialog, ClytControl& control, const Act& act
     const auto* list = dynamic_cast<const CListBox*>(&control);
     if (list == nullptr)
         FailWrongType(dialog, control, act, "a list");
-    CheckReach(dialog, control, act);
+    CheckReach(control, act);
     CRect place;
     if (list->GetCurSel() == LB_ERR || list->GetItemRect(list->GetCurSel(), &place) == LB_ERR)
         throw ActError(act.place + "nothing is chosen in " + ToUtf8(act.name) + "; set it first");
@@ -135,7 +135,7 @@ void SetMark(const TrialDialog& dialog, ClytControl& control, const Act& act)
     const auto* list = dynamic_cast<const CCheckListBox*>(&control);
     if (list == nullptr)
         FailWrongType(dialog, control, act, "a check list");
-    CheckReach(dialog, control, act);
+    CheckReach(control, act);
     EnterValue(dialog, control, act);
     const bool isMarked = list->GetCheck(list->GetCurSel()) == BST_CHECKED;
     if (isMarked != (act.kind == ActKind::Mark))
