@@ -14,9 +14,18 @@ TEST(Text, IsPrintedWithoutControlCharacters)
         {"\xC3\xA9\xE2\x82\xAC\xF0\x9F\x98\x80", "\xC3\xA9\xE2\x82\xAC\xF0\x9F\x98\x80"},
         {"two\nlines\r\n", "two lines  "},
         {"\x1B[2J", "\xEF\xBF\xBD[2J"},
-        {"a\x7F" "b", "a\xEF\xBF\xBD" "b"},
-        {"\xC2\x9B" "2J", "\xEF\xBF\xBD" "2J"},
-        {"\x9B" "2J", "\xEF\xBF\xBD" "2J"},
+        {"a\x7F"
+         "b",
+         "a\xEF\xBF\xBD"
+         "b"},
+        {"\xC2\x9B"
+         "2J",
+         "\xEF\xBF\xBD"
+         "2J"},
+        {"\x9B"
+         "2J",
+         "\xEF\xBF\xBD"
+         "2J"},
         {"\xC3", "\xEF\xBF\xBD"},
     };
     for (const auto& c : cases)
