@@ -204,16 +204,28 @@ std::optional<CString> ClytDialog::ShowNested(const CString& descriptionFile)
     return nested.GetResult();
 }
 
+// A quit message or a partner that ends the dialog cancels it past OnCancel.
 INT_PTR ClytDialog::DoModal()
 {
     const INT_PTR ending = CDialog::DoModal();
-    // After a confirmation in the wizard the tree keeps its place for the next step.
-    if (ending == IDCANCEL && lytTreeConfirmCount != -1)
-    {
-        lytTreeConfirmCount = 0;
-        lytRestoreTreeChoice();
-    }
+    if (ending == IDCANCEL)
+        RestoreTree();
     return ending;
+}
+
+void ClytDialog::OnCancel()
+{
+    RestoreTree();
+    CDialog::OnCancel();
+}
+
+// After a confirmation in the wizard the tree keeps its place for the next step.
+void ClytDialog::RestoreTree()
+{
+    if (lytTreeConfirmCount == -1)
+        return;
+    lytTreeConfirmCount = 0;
+    lytRestoreTreeChoice();
 }
 
 void ClytDialog::OnDestroy()

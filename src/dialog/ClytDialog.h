@@ -84,6 +84,7 @@ protected:
     // Tells the user why the construction failed.
     virtual void ShowFailure(CException& failure) { failure.ReportError(); }
     void OnCommandBegun() override;
+    void OnCancel() override;
     afx_msg void OnDestroy();
 
     // Reads the description, creates the controls, scans the input and runs the rules once. Any failure is raised.
@@ -116,6 +117,8 @@ private:
     void ReadOutputGroups();
     void TakeHeaderWords(CStringList& words);
     static void TakeScale();
+    // Gives the catalogue its place before the last confirmation back.
+    static void RestoreTree();
     // Sizes the window so that its client area has the scaled size.
     void Resize(int width, int height);
     // Of the control that has the focus.
