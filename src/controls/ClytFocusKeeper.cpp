@@ -3,9 +3,16 @@
 namespace
 {
 
-bool CanTakeFocus(HWND window)
+// A dialog that is about to open is not visible yet, and neither are its controls: each says for itself whether it is
+// meant to be.
+bool CanTakeFocus(HWND window, HWND dialog)
 {
-    return ::IsWindowEnabled(window) && ::IsWindowVisible(window);
+    for (; window != dialog; window = ::GetParent(window))
+    {
+        if (!::IsWindowEnabled(window) || (::GetWindowLongPtrA(window, GWL_STYLE) & WS_VISIBLE) == 0)
+            return false;
+    }
+    return true;
 }
 
 // True when no window hears the keyboard although the dialog is in front. While another window is active nothing is to be
@@ -13,7 +20,7 @@ bool CanTakeFocus(HWND window)
 bool IsDeaf(HWND dialog)
 {
     const HWND active = ::GetActiveWindow();
-    return ::GetFocus() == nullptr && (active == dialog || active == nullptr) && CanTakeFocus(dialog);
+    return ::GetFocus() == nullptr && (active == dialog || active == nullptr) && ::IsWindowEnabled(dialog);
 }
 
 // The child of the dialog that is the window itself, or that surrounds it as a combo box surrounds its field.
@@ -32,7 +39,7 @@ ClytFocusKeeper::~ClytFocusKeeper()
     if (!::IsChild(dialog.m_hWnd, m_focus) || !IsDeaf(dialog.m_hWnd))
         return;
     const Counted pause = m_form.PauseRules();
-    if (CanTakeFocus(m_focus))
+    if (CanTakeFocus(m_focus, dialog.m_hWnd))
         ::SetFocus(m_focus);
     else if (const CWnd* next = dialog.GetNextDlgTabItem(ControlAround(m_focus, dialog.m_hWnd)))
         dialog.GotoDlgCtrl(next);

@@ -192,8 +192,11 @@ void ClytDialog::OnOK()
         lytGiveReturnKey(*rule->GetControl(), *this);
         return;
     }
-    if (ComposeResult() != 0)
-        CDialog::OnOK();
+    if (ComposeResult() == 0)
+        return;
+    // The commands that the closing window sends belong to this one.
+    ++openCommands;
+    CDialog::OnOK();
 }
 
 std::optional<CString> ClytDialog::ShowNested(const CString& descriptionFile)
@@ -216,6 +219,7 @@ INT_PTR ClytDialog::DoModal()
 void ClytDialog::OnCancel()
 {
     RestoreTree();
+    ++openCommands;
     CDialog::OnCancel();
 }
 

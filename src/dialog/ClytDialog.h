@@ -162,8 +162,8 @@ private:
         int number = 0;
         int repeatedRuns = 0;
         bool hasFailed = false;
-        // The numbers and arguments of the messages that were shown; inside the rules without the control.
-        std::vector<std::pair<const ClytControl*, CString>> reports;
+        bool isTold = false;                                             // a failure or a report of the rules
+        std::vector<std::pair<const ClytControl*, CString>> scanReports; // numbers and arguments
     };
     Command command;
     Run* innermostRun = nullptr; // on the stack of RunPasses

@@ -82,7 +82,7 @@ private:
 
 void ClytDialog::OnCommandBegun()
 {
-    command = {command.number + 1, 0, false, {}};
+    command = {command.number + 1, 0, false, false, {}};
 }
 
 bool ClytDialog::CommandRunsRules()
@@ -112,7 +112,8 @@ bool ClytDialog::RunRules()
 // on without an end: no rules run until the message is closed.
 void ClytDialog::TellRuleFailure() noexcept
 {
-    if (std::exchange(command.hasFailed, true))
+    command.hasFailed = true;
+    if (std::exchange(command.isTold, true))
     {
         DropCurrentFailure();
         return;
@@ -124,18 +125,21 @@ void ClytDialog::TellRuleFailure() noexcept
 void ClytDialog::Report(const ClytControl& control, const char* number, const ClytPrefix& prefix,
                         const CString& argument)
 {
-    if (innermostRun == nullptr && scanDepth == 0)
+    if (innermostRun != nullptr)
     {
+        if (std::exchange(command.isTold, true))
+            return;
+        const Counted pause = PauseRules();
         lytReport(number, prefix, argument);
         return;
     }
-    const std::pair report(innermostRun == nullptr ? &control : nullptr, number + argument);
-    if (std::ranges::find(command.reports, report) != command.reports.end())
-        return;
-    command.reports.push_back(report);
-    std::optional<Counted> pause;
-    if (innermostRun != nullptr)
-        pause.emplace(pausedRules);
+    if (scanDepth != 0)
+    {
+        const std::pair report(&control, number + argument);
+        if (std::ranges::find(command.scanReports, report) != command.scanReports.end())
+            return;
+        command.scanReports.push_back(report);
+    }
     lytReport(number, prefix, argument);
 }
 

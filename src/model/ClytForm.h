@@ -39,8 +39,8 @@ public:
             OnCommandBegun();
         return Counted(openCommands);
     }
-    // Shows a numbered error of a control. For one command of the user the rules show the same message once, and a scan
-    // shows it once for each control: both may come to the same place many times.
+    // Shows a numbered error of a control. For one command of the user the rules show one message, whether they failed or
+    // not, and a scan shows the same one of a control once: both may come to the same place many times.
     virtual void Report(const ClytControl& control, const char* number, const ClytPrefix& prefix,
                         const CString& argument) = 0;
     // What Return and the OK button do.

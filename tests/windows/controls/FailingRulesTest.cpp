@@ -113,6 +113,26 @@ TEST_F(FailingRules, ReportTheSameOnceForEachCommand)
     EXPECT_EQ(outcome.messages, Texts(2, "201 ''"));
 }
 
+// The closing window moves the focus, and so tells the dialog that the list loses it.
+TEST_F(FailingRules, AreNotTriedAgainWhileTheDialogCloses)
+{
+    form.main.layout = {"CheckListBox A", "TextBox B", "Text Label"};
+    form.main.values = {"A=FILLEDBY,nasty,Open,NextNone,Parameter", "A=a,a", "A=b,b"};
+    form.main.rules = {"A/FILL = B, A", "Label/CLEAR = B, A(b)"};
+    form.main.output = {"(\"done\")", "$OUTPUT, Parameter", "(\"%s.5%q\", A)"};
+    form.Then(
+        [this]
+        {
+            robot::Focus(form["A"]);
+            SendMessageA(form["A"], LB_SETCURSEL, 1, 0);
+            PostMessageA(robot::ActiveDialog(), WM_COMMAND, IDCANCEL, 0);
+        });
+    form.Message();
+    const Form::Outcome outcome = form.Open();
+    EXPECT_EQ(outcome.answer, 0);
+    EXPECT_EQ(outcome.messages, Texts{invalidArgument});
+}
+
 // The statement jumps to itself and takes nothing, ten thousand times.
 TEST_F(FailingRules, AreNotTheOnlyOnesToReportTheSameOnce)
 {

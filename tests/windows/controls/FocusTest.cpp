@@ -51,6 +51,16 @@ TEST_F(Focus, GoesToTheNextTabStopWhenAnActionDisablesItsOwnControl)
     EXPECT_EQ(form.Open().answer, 0);
 }
 
+// The dialog gives its first control the focus before it shows.
+TEST_F(Focus, IsThereFromTheOpeningOn)
+{
+    form.main.layout = {"TextBox E"};
+    form.main.rules = {"E/ACTIVE = E(1)", "E/ACTIVE = Nobody(zz)"};
+    ExpectFocus("E");
+    form.Then([] { robot::PressKey(VK_ESCAPE); });
+    EXPECT_EQ(form.Open().answer, 0);
+}
+
 // Reading the list of the nested dialog moves the focus back into it while it ends.
 TEST_F(Focus, ComesBackFromANestedDialogThatPullsItWhileItEnds)
 {
