@@ -124,7 +124,7 @@ void ButtonWindow::UncheckOthers() const
     std::vector<Window*> members = OthersOfGroup();
     std::erase_if(members, [](const Window* member) { return !member->IsReady(); });
     if (!members.empty())
-        std::ranges::rotate(members, std::prev(members.end()));
+        std::rotate(members.begin(), std::prev(members.end()), members.end());
     std::vector<HWND> others;
     for (const Window* member : members)
     {
