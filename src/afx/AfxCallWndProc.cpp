@@ -2,6 +2,7 @@
 
 #include "CurrentFailure.h"
 #include "CurrentMessage.h"
+#include "Unwound.h"
 
 #include <exception>
 #include <memory>
@@ -77,7 +78,7 @@ LRESULT AfxCallWndProc(CWnd& window, UINT message, WPARAM wParam, LPARAM lParam)
     try
     {
         const MSG received{handle, message, wParam, lParam, 0, {}};
-        const CurrentMessage current(received);
+        const Unwound<CurrentMessage> current(received);
         return window.WindowProc(message, wParam, lParam);
     }
     catch (...)

@@ -2,10 +2,11 @@
 
 #include "ModalOwner.h"
 #include "ModalWindows.h"
+#include "Unwound.h"
 
 int AfxMessageBox(const char* text, UINT type, UINT /*help*/)
 {
-    const ModalWindows windows;
-    const ModalOwner owner(GetActiveWindow());
-    return MessageBoxA(owner.Get(), text, "lyt64", type);
+    const Unwound<ModalWindows> windows;
+    const Unwound<ModalOwner> owner(GetActiveWindow());
+    return MessageBoxA(owner->Get(), text, "lyt64", type);
 }

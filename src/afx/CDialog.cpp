@@ -4,11 +4,30 @@
 #include "ModalOwner.h"
 #include "ModalWindows.h"
 #include "ModernControls.h"
+#include "Unwound.h"
 
 #include <commctrl.h>
 
 namespace
 {
+
+// A run that breaks off leaves no window. One of the same dialog around it, in which it does not begin, keeps its own.
+class RunWindow
+{
+public:
+    explicit RunWindow(CDialog& dialog) : m_dialog(dialog), m_before(dialog.m_hWnd) {}
+    RunWindow(const RunWindow&) = delete;
+    RunWindow& operator=(const RunWindow&) = delete;
+    ~RunWindow()
+    {
+        if (m_dialog.m_hWnd != m_before)
+            m_dialog.DestroyWindow();
+    }
+
+private:
+    CDialog& m_dialog;
+    HWND m_before;
+};
 
 // What the dialog procedure is handed: the object to join with the window, and room for what goes wrong in that.
 struct Creation
@@ -27,10 +46,10 @@ END_MESSAGE_MAP()
 
 INT_PTR CDialog::DoModal()
 {
-    const ModalWindows windows;
-    if (!windows.AreAllowed())
+    const Unwound<ModalWindows> windows;
+    if (!windows->AreAllowed())
         return -1;
-    const ModernControls modernControls;
+    const Unwound<ModernControls> modernControls;
     INITCOMMONCONTROLSEX classes{sizeof classes, ICC_TREEVIEW_CLASSES | ICC_STANDARD_CLASSES};
     ::InitCommonControlsEx(&classes);
 
@@ -38,8 +57,9 @@ INT_PTR CDialog::DoModal()
     m_nModalResult = IDCANCEL;
     Creation creation{*this, {}};
     {
-        const ModalOwner owner(m_pParentWnd != nullptr ? m_pParentWnd->m_hWnd : ::GetActiveWindow());
-        result = ::DialogBoxParamA(AfxGetResourceHandle(), MAKEINTRESOURCEA(m_nIDTemplate), owner.Get(), DialogProc,
+        const Unwound<ModalOwner> owner(m_pParentWnd != nullptr ? m_pParentWnd->m_hWnd : ::GetActiveWindow());
+        const Unwound<RunWindow> window(*this);
+        result = ::DialogBoxParamA(AfxGetResourceHandle(), MAKEINTRESOURCEA(m_nIDTemplate), owner->Get(), DialogProc,
                                    reinterpret_cast<LPARAM>(&creation));
     }
     creation.failure.Rethrow();

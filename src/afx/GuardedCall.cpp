@@ -1,5 +1,7 @@
 #include "GuardedCall.h"
 
+#include "Unwound.h"
+
 #include <afx.h>
 
 #include <stdexcept>
@@ -8,9 +10,10 @@
 
 extern "C"
 {
-    // Calls run(step). Gives 0, or the code of the exception that ended it.
-    DWORD lytRunStep(void (*run)(void* step), void* step);
-    // Where lytRunStep goes on after an exception; no function.
+    // Calls run(step). Gives 0, or the code of the exception that ended it, marked as raised. What the third argument
+    // says is kept at the place `guardedWithin` of the function's frame, for the handler.
+    ULONG64 lytRunStep(void (*run)(void* step), void* step, const UnwoundLink* within);
+    // Where lytRunStep continues after an exception; no function.
     void lytStepRaised();
 
     EXCEPTION_DISPOSITION lytHandleStep(EXCEPTION_RECORD* record, void* frame, CONTEXT* context,
@@ -28,6 +31,7 @@ lytRunStep:
     .seh_stackalloc 40
     .seh_endprologue
     .seh_handler lytHandleStep, @except
+    movq %r8, 32(%rsp)
     movq %rcx, %rax
     movq %rdx, %rcx
     call *%rax
@@ -42,11 +46,18 @@ lytStepRaised:
 namespace
 {
 
-// The exceptions of this tool chain are no errors in the system's sense, nor are those for a debugger.
+constexpr size_t guardedWithin = 32;
+// Sets a code apart from no exception: it may be any number, 0 too.
+constexpr ULONG64 raised = 1ULL << 32;
+
+// What the system raises and handles itself, such as the text for a debugger, never comes as far as here.
 bool IsToBeCaught(DWORD code)
 {
-    constexpr DWORD errors = 0xC0000000;
-    return (code & errors) == errors && code != EXCEPTION_STACK_OVERFLOW;
+    constexpr DWORD ownExceptions = 0x20474343; // one of three kinds, which the mask leaves out
+    constexpr DWORD withoutKind = 0xF0FFFFFF;
+    if ((code & withoutKind) == ownExceptions || code == EXCEPTION_STACK_OVERFLOW)
+        return false;
+    return code != EXCEPTION_BREAKPOINT || !::IsDebuggerPresent();
 }
 
 } // namespace
@@ -55,19 +66,20 @@ EXCEPTION_DISPOSITION lytHandleStep(EXCEPTION_RECORD* record, void* frame, CONTE
                                     DISPATCHER_CONTEXT* dispatcher)
 {
     constexpr DWORD unwinding = 0x66; // the four flags that stand for it
-    if ((record->ExceptionFlags & unwinding) == 0 && IsToBeCaught(record->ExceptionCode))
-        RtlUnwindEx(frame, reinterpret_cast<void*>(&lytStepRaised), record,
-                    reinterpret_cast<void*>(static_cast<ULONG_PTR>(record->ExceptionCode)), context,
-                    dispatcher->HistoryTable);
+    if ((record->ExceptionFlags & unwinding) != 0 || !IsToBeCaught(record->ExceptionCode))
+        return ExceptionContinueSearch;
+    UnwoundLink::DestroyWithin(*reinterpret_cast<UnwoundLink**>(static_cast<char*>(frame) + guardedWithin));
+    RtlUnwindEx(frame, reinterpret_cast<void*>(&lytStepRaised), record,
+                reinterpret_cast<void*>(raised | record->ExceptionCode), context, dispatcher->HistoryTable);
     return ExceptionContinueSearch;
 }
 
 void RunGuarded(void (*run)(void* step), void* step)
 {
-    const DWORD code = lytRunStep(run, step);
-    if (code == 0)
+    const ULONG64 end = lytRunStep(run, step, UnwoundLink::Innermost());
+    if (end == 0)
         return;
     CString message;
-    message.Format("A partner library failed with exception 0x%08lX.", code);
+    message.Format("exception 0x%08lX", static_cast<DWORD>(end));
     throw std::runtime_error(message.GetString());
 }

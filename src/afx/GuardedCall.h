@@ -2,14 +2,9 @@
 #pragma once
 
 // Runs the step. What it raises that is no exception of this tool chain, such as an access violation or an exception of
-// another compiler's runtime, is raised as a std::runtime_error; it would otherwise pass all handlers and end the
-// process. The overflow of the stack passes, since there is no room to go on.
+// another compiler's runtime, is raised as a std::runtime_error with its number; it would otherwise pass all handlers
+// and end the process. Two pass: the overflow of the stack, since there is no room to go on, and the breakpoint of a
+// process under a debugger.
 //
-// No object of the step itself may need a destructor: nothing runs between the place where it was raised and here.
+// No destructor runs between the place where it was raised and here but that of an `Unwound` object.
 void RunGuarded(void (*run)(void* step), void* step);
-
-template <class STEP>
-void GuardedCall(STEP step)
-{
-    RunGuarded([](void* given) { (*static_cast<STEP*>(given))(); }, &step);
-}

@@ -2,12 +2,10 @@
 
 #include "base/LongestRun.h"
 
-#include <GuardedCall.h>
-
-CString lytCallForText(lytDataText& function, const CString& parameter)
+CString lytCallForText(const ClytPartnerFunction<lytDataText>& function, const CString& parameter)
 {
     ClytDataText answer;
-    GuardedCall([&] { function(parameter, answer.Buffer(), ClytDataText::usableSize); });
+    function(parameter, answer.Buffer(), ClytDataText::usableSize);
     answer.End();
     return answer.Text();
 }
@@ -17,9 +15,7 @@ bool ClytDataListing::Next()
     if (delivered == lytLongestRun)
         return false;
     ++delivered;
-    int answer = 0;
-    GuardedCall(
-        [&] { answer = next(display.Buffer(), ClytDataText::usableSize, value.Buffer(), ClytDataText::usableSize); });
+    const int answer = next(display.Buffer(), ClytDataText::usableSize, value.Buffer(), ClytDataText::usableSize);
     display.End();
     value.End();
     return answer != 0;
@@ -40,7 +36,10 @@ void ClytListSource::TakeStatement(const CStringList& values, const ClytSpan& pl
 bool ClytDataLibrary::Load(const CString& name, const ClytSpan& place)
 {
     if (module == nullptr || !lytIsLoaded(module))
+    {
+        loadedName = name;
         module = lytLoadLibrary(name);
+    }
     if (module == nullptr)
         lytTellMissing(ClytMissing::Library, name, nullptr, place);
     return module != nullptr;

@@ -1,7 +1,7 @@
 // How controls reach the partner libraries that description files name; lytdata.h says what those offer.
 #pragma once
 
-#include "base/PartnerLibrary.h"
+#include "base/ClytPartnerFunction.h"
 #include "model/ClytObserver.h"
 
 #include "lytdata.h"
@@ -25,14 +25,14 @@ private:
 };
 
 // Calls a partner's function for one text.
-CString lytCallForText(lytDataText& function, const CString& parameter);
+CString lytCallForText(const ClytPartnerFunction<lytDataText>& function, const CString& parameter);
 
 // One listing that a partner's start function has opened. The texts of an item stay until the next function changes
 // them: a function that leaves a buffer alone repeats the item before it.
 class ClytDataListing
 {
 public:
-    explicit ClytDataListing(lytDataNext& nextFunction) : next(nextFunction) {}
+    explicit ClytDataListing(ClytPartnerFunction<lytDataNext> nextFunction) : next(std::move(nextFunction)) {}
 
     // False at the end of the listing, and of a run that does not end.
     [[nodiscard]] bool Next();
@@ -40,7 +40,7 @@ public:
     CString GetValue() const { return value.Text(); }
 
 private:
-    lytDataNext& next;
+    ClytPartnerFunction<lytDataNext> next;
     int delivered = 0;
     ClytDataText display;
     ClytDataText value;
@@ -67,16 +67,17 @@ class ClytDataLibrary
 public:
     // False when there is no library yet and this one cannot be loaded. The place is that of the statement that names it.
     [[nodiscard]] bool Load(const CString& name, const ClytSpan& place = {});
-    // Null for a function that the library does not have.
+    // Tells of a function that the library does not have.
     template <class FUNCTION>
-    [[nodiscard]] FUNCTION* Find(const CString& name, const ClytSpan& place = {}) const
+    [[nodiscard]] ClytPartnerFunction<FUNCTION> Find(const CString& name, const ClytSpan& place = {}) const
     {
-        auto* found = lytFindFunction<FUNCTION>(module, name);
-        if (found == nullptr)
+        ClytPartnerFunction<FUNCTION> found(module, loadedName, name);
+        if (!found)
             lytTellMissing(ClytMissing::LibraryFunction, name, nullptr, place);
         return found;
     }
 
 private:
     HMODULE module = nullptr; // never freed: the controls of any later dialog call into it
+    CString loadedName;
 };

@@ -70,6 +70,6 @@ void ClytEditControl::FillByLibrary()
         return;
     if (!editLibrary.Load(source.library, source.span))
         return;
-    if (auto* fill = editLibrary.Find<lytDataText>(source.startFunction, source.span))
-        SetWindowText(lytCallForText(*fill, parameter));
+    if (const auto fill = editLibrary.Find<lytDataText>(source.startFunction, source.span))
+        SetWindowText(lytCallForText(fill, parameter));
 }

@@ -5,8 +5,6 @@
 #include "environment/ClytEnvironment.h"
 #include "model/ClytObserver.h"
 
-#include <GuardedCall.h>
-
 #include <new>
 #include <type_traits>
 #include <utility>
@@ -86,16 +84,16 @@ void ClytItemControl<WINDOW>::FillByLibrary()
         this->Report("251", CString(), this->name);
     if (!library.Load(source.library, source.span))
         return;
-    auto* start = library.template Find<lytDataStart>(source.startFunction, source.span);
-    if (start == nullptr)
+    const auto start = library.template Find<lytDataStart>(source.startFunction, source.span);
+    if (!start)
         return;
-    GuardedCall([&] { start(parameter); });
-    auto* next = library.template Find<lytDataNext>(source.nextFunction, source.span);
-    if (next == nullptr)
+    start(parameter);
+    const auto next = library.template Find<lytDataNext>(source.nextFunction, source.span);
+    if (!next)
         return;
     const ClytRedrawPause pause(*this);
     AddHeadItem();
-    ClytDataListing listing(*next);
+    ClytDataListing listing(next);
     AddItems(listing);
 }
 

@@ -113,15 +113,15 @@ ClytPushButtonControl::After ClytPushButtonControl::CallFunction()
     LoadOrFail(library);
     lytSetCursor(IDC_WAIT);
     const HMODULE module = LoadOrFail(library);
-    auto* call = lytFindFunction<lytDataText>(module, function);
-    if (call == nullptr)
+    const ClytPartnerFunction<lytDataText> call(module, library, function);
+    if (!call)
         lytRaise("232", ClytPrefix::OfKey("238"));
     const ClytModuleHandle second(module);
 
     CString answer;
     CString parameter;
     if (dialog->ComposeNamedOutput(outputRule, parameter) != 0)
-        answer = lytCallForText(*call, parameter);
+        answer = lytCallForText(call, parameter);
     if (lytTreeResult == 1)
         lytInputKey = answer;
     else

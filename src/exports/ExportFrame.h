@@ -3,6 +3,7 @@
 
 #include <ModalWindows.h>
 #include <ModuleReference.h>
+#include <Unwound.h>
 #include <afx.h>
 #include <afxstat_.h>
 
@@ -49,7 +50,7 @@ private:
 
 #define LYT_EXPORT_FRAME(refusal)                                                                                      \
     LYT_REFUSE_OTHER_THREADS(refusal);                                                                                 \
-    const ExportFrame exportFrame
+    const Unwound<ExportFrame> exportFrame
 // Asking for cursor and focus costs more than a short export does, so one that reaches neither a window nor a partner
 // leaves it out.
 #define LYT_QUIET_FRAME(refusal)                                                                                       \

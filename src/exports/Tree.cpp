@@ -7,7 +7,6 @@
 #include "tree/ClytTreeDialog.h"
 #include "tree/NodeFill.h"
 #include "tree/NodeSearch.h"
-#include "tree/TreeSource.h"
 
 namespace
 {
@@ -18,7 +17,7 @@ bool FindSymbol(const CString& text, CString& key)
 {
     ClytNodeList read;
     ClytTreeSource source;
-    if (lytSymbolNodes.IsEmpty() && lytGetTreeSource('S', source.start, source.next))
+    if (lytSymbolNodes.IsEmpty() && lytGetTreeSource('S', source))
         lytFillFromSource(read, source, nullptr, 'S');
 
     const ClytNode* node = lytFindNode(lytSymbolNodes.IsEmpty() ? read : lytSymbolNodes, 'S', text);

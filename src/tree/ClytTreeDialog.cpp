@@ -9,7 +9,6 @@
 #include "tree/NodeExpansion.h"
 #include "tree/NodeFill.h"
 #include "tree/NodeSearch.h"
-#include "tree/TreeSource.h"
 
 #include <cstdlib>
 
@@ -131,7 +130,7 @@ void ClytTreeDialog::FillTree()
         return;
     }
     ClytTreeSource source;
-    if (!lytGetTreeSource(m_bPara ? 'P' : 'S', source.start, source.next))
+    if (!lytGetTreeSource(m_bPara ? 'P' : 'S', source))
         return;
     try
     {

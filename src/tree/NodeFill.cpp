@@ -4,7 +4,6 @@
 #include "tree/ClytAncestors.h"
 #include "tree/ClytChildCursor.h"
 
-#include <GuardedCall.h>
 #include <algorithm>
 #include <cstring>
 
@@ -100,9 +99,7 @@ void lytExpandLabel(char (&target)[lytShownLabelSize], const char* label)
 
 void lytFillFromSource(ClytNodeList& nodes, const ClytTreeSource& source, ClytTreeItems* items, char kind)
 {
-    int32_t answer = 0;
-    GuardedCall([&] { answer = source.start(""); });
-    if (answer == 0)
+    if (source.start("") == 0)
         return;
 
     ClytNodeList run;
@@ -111,8 +108,7 @@ void lytFillFromSource(ClytNodeList& nodes, const ClytTreeSource& source, ClytTr
     for (int count = 0; count < lytLongestRun; ++count)
     {
         lytTreeRecord record = {};
-        GuardedCall([&] { answer = source.next(&record); });
-        if (answer == 0)
+        if (source.next(&record) == 0)
             break;
         type = &TypeOf(record.nType, *type);
         ClytNode& node = run.AddTail(NodeOf(record, *type));

@@ -2,13 +2,7 @@
 #pragma once
 
 #include "tree/ClytTreeItems.h"
-
-// The two functions that serve one catalogue.
-struct ClytTreeSource
-{
-    lytTreeStartFunction start = nullptr;
-    lytTreeNextFunction next = nullptr;
-};
+#include "tree/TreeSource.h"
 
 // Room for a label as shown.
 inline constexpr int lytShownLabelSize = 255;

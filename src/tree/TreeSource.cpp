@@ -1,9 +1,5 @@
 #include "tree/TreeSource.h"
 
-#include "base/PartnerLibrary.h"
-
-#include <type_traits>
-
 namespace
 {
 
@@ -11,40 +7,35 @@ namespace
 // looked for again at each use.
 HMODULE lytSourceLibrary = nullptr;
 
-struct SourcePair
-{
-    lytTreeStartFunction start;
-    lytTreeNextFunction next;
-};
-SourcePair symbolPair;
-SourcePair paraPair;
+constexpr const char* lytSourceName = "lytsrc";
 
-SourcePair FindPair(const char* start, const char* next)
+ClytTreeSource symbolPair;
+ClytTreeSource paraPair;
+
+ClytTreeSource FindPair(HMODULE library, const char* start, const char* next)
 {
-    return {lytFindFunction<std::remove_pointer_t<lytTreeStartFunction>>(lytSourceLibrary, start),
-            lytFindFunction<std::remove_pointer_t<lytTreeNextFunction>>(lytSourceLibrary, next)};
+    return {{library, lytSourceName, start}, {library, lytSourceName, next}};
 }
 
 bool LoadSource()
 {
     if (lytSourceLibrary != nullptr && lytIsLoaded(lytSourceLibrary))
         return true;
-    lytSourceLibrary = lytLoadLibrary("lytsrc");
-    if (lytSourceLibrary == nullptr)
+    const HMODULE library = lytLoadLibrary(lytSourceName);
+    if (library == nullptr)
         return false;
-    paraPair = FindPair("lytParaTreeStart", "lytParaTreeNext");
-    symbolPair = FindPair("lytTreeStart", "lytTreeNext");
+    paraPair = FindPair(library, "lytParaTreeStart", "lytParaTreeNext");
+    symbolPair = FindPair(library, "lytTreeStart", "lytTreeNext");
+    lytSourceLibrary = library;
     return true;
 }
 
 } // namespace
 
-bool lytGetTreeSource(char kind, lytTreeStartFunction& start, lytTreeNextFunction& next)
+bool lytGetTreeSource(char kind, ClytTreeSource& source)
 {
     if (!LoadSource())
         return false;
-    const SourcePair& pair = kind == 'P' ? paraPair : symbolPair;
-    start = pair.start;
-    next = pair.next;
-    return start != nullptr && next != nullptr;
+    source = kind == 'P' ? paraPair : symbolPair;
+    return source.start && source.next;
 }

@@ -1,8 +1,7 @@
 #include "base/ClytHandle.h"
-#include "base/PartnerLibrary.h"
+#include "base/ClytPartnerFunction.h"
 #include "sysinfo/frame/Probes.h"
 
-#include <GuardedCall.h>
 #include <algorithm>
 #include <iterator>
 
@@ -11,12 +10,14 @@ namespace
 
 constexpr size_t textSize = 400;
 
-using GetVersionText = void(char* text);
+constexpr const char* libraryName = "LytRes64.dll";
 
-GetVersionText* FindVersionFunction(HMODULE library)
+using GetVersionText = ClytPartnerFunction<void(char* text)>;
+
+GetVersionText FindVersionFunction(HMODULE library)
 {
-    auto* const own = lytFindFunction<GetVersionText>(library, "getLYTVersion");
-    return own != nullptr ? own : lytFindFunction<GetVersionText>(library, "getVersion");
+    const GetVersionText own(library, libraryName, "getLYTVersion");
+    return own ? own : GetVersionText(library, libraryName, "getVersion");
 }
 
 using VersionText = char[textSize];
@@ -32,12 +33,11 @@ void Clear(VersionText& text)
     End(text);
 }
 
-// What the library raises ends here: it is made of the library's code, and cannot outlive the library.
-void Ask(GetVersionText& getVersion, VersionText& text)
+void Ask(const GetVersionText& getVersion, VersionText& text)
 {
     try
     {
-        GuardedCall([&] { getVersion(text); });
+        getVersion(text);
     }
     catch (...)
     {
@@ -52,10 +52,10 @@ CString lytProbeResolveVersion()
 {
     VersionText text;
     Clear(text);
-    const ClytModuleHandle library(lytLoadLibrary("LytRes64.dll"));
+    const ClytModuleHandle library(lytLoadLibrary(libraryName));
     if (library.IsOpen())
-        if (GetVersionText* const getVersion = FindVersionFunction(library.Get()))
-            Ask(*getVersion, text);
+        if (const GetVersionText getVersion = FindVersionFunction(library.Get()))
+            Ask(getVersion, text);
     // The library may have written over the end.
     End(text);
     return text;

@@ -45,12 +45,12 @@ void RecordedSource::Interrupt(size_t record, std::function<void()> act)
 
 ClytTreeSource RecordedSource::Refusing()
 {
-    return {[](const char*) { return 0; }, [](lytTreeRecord*) { return 1; }};
+    return {+[](const char*) { return 0; }, +[](lytTreeRecord*) { return 1; }};
 }
 
 ClytTreeSource RecordedSource::Endless()
 {
-    return {[](const char*) { return 1; }, [](lytTreeRecord*) { return 1; }};
+    return {+[](const char*) { return 1; }, +[](lytTreeRecord*) { return 1; }};
 }
 
 int32_t RecordedSource::Start(const char* selection)

@@ -157,13 +157,13 @@ void Call(const Journey& journey, Course& course)
         course.raised = lytMessageOf(*e).GetString();
         e->Delete();
     }
-    catch (const std::bad_alloc& e)
-    {
-        course.raised = e.what();
-    }
-    catch (const std::runtime_error& e)
+    catch (const lytcall::CallError& e)
     {
         course.printed = e.what();
+    }
+    catch (const std::exception& e)
+    {
+        course.raised = e.what();
     }
     course.printed = print.Text() + course.printed;
 }

@@ -2,6 +2,7 @@
 #include "Limit.h"
 #include "Ways.h"
 
+#include <cstdio>
 #include <cstring>
 #include <limits>
 #include <stdexcept>
@@ -103,30 +104,55 @@ void ConfirmMessage(Scene& scene)
     scene.robot.AnswerMessage();
 }
 
-void ExpectTold(const Scene& scene)
+std::string Failure(const std::string& library, const std::string& function, const std::string& reason)
 {
-    EXPECT_EQ(scene.robot.Messages(), Texts{"Broken off."});
+    return "The library '" + library + "' failed in its function '" + function + "': " + reason;
+}
+
+void ExpectTold(const Scene& scene, const std::string& library, const std::string& function)
+{
+    EXPECT_EQ(scene.robot.Messages(), Texts{Failure(library, function, "Broken off.")});
 }
 
 void RaisingText(Scene& scene)
 {
     scene.Partner("hostile").text = [](const char*, char*, int) -> int { BreakOff(); };
     EXPECT_EQ(FillText(scene, ConfirmMessage), "2 key");
-    ExpectTold(scene);
+    ExpectTold(scene, "hostile", "Text");
 }
 
 void RaisingAction(Scene& scene)
 {
     scene.Partner("hostile").text = [](const char*, char*, int) -> int { BreakOff(); };
     EXPECT_EQ(Act(scene, ConfirmMessage), "2 key");
-    ExpectTold(scene);
+    ExpectTold(scene, "hostile", "Text");
 }
 
-// An exception that other tool chains and the system raise.
+void NamelessText(Scene& scene)
+{
+    scene.Partner("hostile").text = [](const char*, char*, int) -> int { throw 1; };
+    EXPECT_EQ(FillText(scene, ConfirmMessage), "2 key");
+    EXPECT_EQ(scene.robot.Messages(), Texts{Failure("hostile", "Text", "an unknown exception")});
+}
+
+// Codes of the exceptions of other tool chains and of the system: native C++, .NET, two of Delphi, a division, a text for
+// a debugger, a breakpoint, a guard page, and plain numbers.
+constexpr DWORD foreignCodes[] = {0xE06D7363, 0xE0434352, 0x0EEDFADE, 0x0EEFFACE, 0xC000008C, 0x40010006,
+                                  0x80000003, 0x80000001, 0xE0001234, 1,          0};
+
+DWORD foreignCode = 0;
+
 int RaiseForeign()
 {
-    RaiseException(0xE0001234, 0, 0, nullptr);
+    RaiseException(foreignCode, 0, 0, nullptr);
     return 0;
+}
+
+std::string ForeignFailure(const std::string& library, const std::string& function)
+{
+    char number[11] = "";
+    std::snprintf(number, sizeof number, "0x%08lX", foreignCode);
+    return Failure(library, function, std::string("exception ") + number);
 }
 
 int TouchNothing()
@@ -135,26 +161,44 @@ int TouchNothing()
     return *nothing;
 }
 
-const char* const foreignMessage = "A partner library failed with exception 0xE0001234.";
-const char* const faultMessage = "A partner library failed with exception 0xC0000005.";
+const char* const fault = "exception 0xC0000005";
 
 void ForeignText(Scene& scene)
 {
+    Texts expected;
     scene.Partner("hostile").text = [](const char*, char*, int) { return RaiseForeign(); };
-    EXPECT_EQ(FillText(scene, ConfirmMessage), "2 key");
+    for (const DWORD code : foreignCodes)
+    {
+        foreignCode = code;
+        expected.push_back(ForeignFailure("hostile", "Text"));
+        EXPECT_EQ(FillText(scene, ConfirmMessage), "2 key") << expected.back();
+    }
     scene.Partner("hostile").text = [](const char*, char*, int) { return TouchNothing(); };
+    expected.push_back(Failure("hostile", "Text", fault));
     EXPECT_EQ(Act(scene, ConfirmMessage), "2 key");
-    EXPECT_EQ(scene.robot.Messages(), (Texts{foreignMessage, faultMessage}));
+    EXPECT_EQ(scene.robot.Messages(), expected);
+}
+
+void TalkingText(Scene& scene)
+{
+    scene.Partner("hostile").text = [](const char*, char* text, int)
+    {
+        OutputDebugStringA("raises and handles an exception");
+        std::strcpy(text, "talked");
+        return 1;
+    };
+    EXPECT_EQ(FillText(scene), "1 talked");
 }
 
 void ForeignItem(Scene& scene)
 {
+    foreignCode = foreignCodes[0];
     scene.Partner("hostile").start = [](const char*) { RaiseForeign(); };
     EXPECT_EQ(FillList(scene, ConfirmMessage), Texts{});
     scene.Partner("hostile") = {};
     scene.Partner("hostile").next = [](char*, int, char*, int) { return TouchNothing(); };
     EXPECT_EQ(FillList(scene, ConfirmMessage), Texts{});
-    EXPECT_EQ(scene.robot.Messages(), (Texts{foreignMessage, faultMessage}));
+    EXPECT_EQ(scene.robot.Messages(), (Texts{ForeignFailure("hostile", "Start"), Failure("hostile", "Next", fault)}));
 }
 
 void ForeignRecord(Scene& scene)
@@ -162,7 +206,8 @@ void ForeignRecord(Scene& scene)
     scene.Partner("lytsrc").treeNext = [](lytTreeRecord*) { return static_cast<int32_t>(TouchNothing()); };
     scene.robot.AnswerMessage();
     EXPECT_EQ(scene.EndBrowser(IDCANCEL).OpenBrowser(), "0 as it was");
-    EXPECT_EQ(scene.robot.Messages(), Texts{faultMessage});
+    EXPECT_EQ(scene.robot.Messages(), Texts{Failure("lytsrc", "lytTreeNext", fault)});
+    foreignCode = foreignCodes[0];
     scene.Partner("lytsrc").treeStart = [](const char*) { return static_cast<int32_t>(RaiseForeign()); };
     EXPECT_ANY_THROW(scene.FindSymbol("k"));
 }
@@ -184,7 +229,7 @@ void RaisingItem(Scene& scene)
         return 1;
     };
     EXPECT_EQ(FillList(scene, ConfirmMessage), Texts{"first"});
-    ExpectTold(scene);
+    ExpectTold(scene, "hostile", "Next");
 }
 
 void RaisingRecord(Scene& scene)
@@ -192,7 +237,7 @@ void RaisingRecord(Scene& scene)
     scene.Partner("lytsrc").treeNext = [](lytTreeRecord*) -> int32_t { BreakOff(); };
     scene.robot.AnswerMessage();
     EXPECT_EQ(scene.EndBrowser(IDCANCEL).OpenBrowser(), "0 as it was");
-    ExpectTold(scene);
+    ExpectTold(scene, "lytsrc", "lytTreeNext");
 }
 
 void RaisingLookup(Scene& scene)
@@ -218,16 +263,21 @@ constexpr Limit answerRows[] = {
      "the type of the record before, a heading at first; the level counts as it is", OddRecord},
     {"version of the resource library", "fills 400 bytes", "it is the first 399", FilledVersion},
     {"text of a field", "raises a C++ exception of the same tool chain",
-     "a message says what it says; the field is as it was, and the dialog goes on", RaisingText},
+     "a message names library and function, and says what it says; the field is as it was, and the dialog goes on",
+     RaisingText},
     {"text of an action", "the same", "the same, and nothing is scanned", RaisingAction},
     {"items of a list", "the same", "the same; the items before it stay in the list", RaisingItem},
     {"record of the catalogue", "the same while it is shown",
-     "a message says what it says; the catalogue is empty, and is read again by the next call", RaisingRecord},
+     "a message as above; the catalogue is empty, and is read again by the next call", RaisingRecord},
     {"record of the catalogue", "the same in `lytGetSymbolfromTree`",
      "the exception goes on to the caller, whose process may end; the library works on", RaisingLookup},
     {"version of the resource library", "the same", "the report shows no version", RaisingVersion},
     {"text of a field or an action", "raises any other exception, an access violation for instance",
      "the same as with a C++ exception; the message gives its number", ForeignText},
+    {"text of a field", "raises what is no `std::exception`", "the same; the message says that it is unknown",
+     NamelessText},
+    {"text of a field", "writes a text for a debugger", "as any other function: the system handles that itself",
+     TalkingText},
     {"start or item of a list", "the same", "the same", ForeignItem},
     {"record of the catalogue", "the same", "the same", ForeignRecord},
     {"version of the resource library", "the same", "the report shows no version", ForeignVersion},

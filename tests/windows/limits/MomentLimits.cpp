@@ -55,12 +55,7 @@ void CallOnAnotherThreadBetweenDialogs(Scene& scene)
 {
     scene.EndDialog(IDOK);
     scene.ShowSymbol();
-    OnAnotherThread(
-        [&]
-        {
-            char buffer[10] = "";
-            EXPECT_EQ(scene.Get<decltype(lytGetTextForKey)>("lytGetTextForKey")("Buttons", "001", "", buffer, 10), 1);
-        });
+    OnAnotherThread([&] { EXPECT_EQ(scene.AskForText(), 1); });
 }
 
 void CallAboveADialog(Scene& scene)
@@ -203,12 +198,7 @@ void LoseAThread(Scene& scene, TIMERPROC tick, bool isKilled)
 // give up, since the next scene wants the library fresh.
 void ExpectWorking(Scene& scene)
 {
-    OnAnotherThread(
-        [&]
-        {
-            char buffer[10] = "";
-            EXPECT_EQ(scene.Get<decltype(lytGetTextForKey)>("lytGetTextForKey")("Buttons", "001", "", buffer, 10), 1);
-        });
+    OnAnotherThread([&] { EXPECT_EQ(scene.AskForText(), 1); });
     scene.Describe("", "Go=DIALOG,lytInPhr,Take,Send\n");
     scene.ClickOn("Go").OnDialog([&](HWND) { ExpectRefused(scene); }).EndDialog(IDOK).EndDialog(IDOK);
     EXPECT_EQ(scene.ShowSymbol(), "1 <key>");

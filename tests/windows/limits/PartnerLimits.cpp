@@ -6,6 +6,7 @@
 
 #include <cstring>
 #include <fstream>
+#include <thread>
 
 namespace
 {
@@ -88,6 +89,57 @@ void CallingVersion(Scene& scene)
         std::strcpy(text, "after all");
     };
     EXPECT_EQ(VersionLine(scene), "after all");
+}
+
+// ---- failures with the library's own frames in between
+
+// The message was told once, the dialog works, and nothing is left of what the library did in between.
+void ExpectFailureOf(Scene& scene, Steps between)
+{
+    const HWND active = GetActiveWindow();
+    EXPECT_EQ(FillText(scene, between), "2 key");
+    EXPECT_EQ(scene.robot.Messages().size(), 1U);
+    EXPECT_EQ(GetActiveWindow(), active);
+    HANDLE context = nullptr;
+    EXPECT_TRUE(GetCurrentActCtx(&context));
+    EXPECT_EQ(context, nullptr);
+    std::thread([&] { EXPECT_EQ(scene.AskForText(), 1); }).join();
+}
+
+int ShowForNoBuffer(const char* /*parameter*/, char* /*text*/, int /*size*/)
+{
+    Scene::Current().Partner("hostile") = {};
+    auto* const noBuffer = reinterpret_cast<char*>(intptr_t{16});
+    return Scene::Current().Get<decltype(lytSymbolPropertyDialog)>("lytSymbolPropertyDialog")("key", noBuffer, 300);
+}
+
+void CallingWithoutABuffer(Scene& scene)
+{
+    scene.Partner("hostile").text = ShowForNoBuffer;
+    ExpectFailureOf(scene, [](Scene& current) { current.EndDialog(IDOK).robot.AnswerMessage(); });
+}
+
+LRESULT CALLBACK FailLater(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    if (message == WM_APP)
+        RaiseException(0xE0001234, 0, 0, nullptr);
+    return DefWindowProcA(window, message, wParam, lParam);
+}
+
+int ShowAboveAFailure(const char* /*parameter*/, char* /*text*/, int /*size*/)
+{
+    Scene::Current().Partner("hostile") = {};
+    HWND window = CreateWindowA("Static", "", 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr, nullptr, nullptr);
+    SetWindowLongPtrA(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(FailLater));
+    PostMessageA(window, WM_APP, 0, 0);
+    Scene::Current().ShowSymbol();
+    return 0;
+}
+
+void FailingBelowADialog(Scene& scene)
+{
+    scene.Partner("hostile").text = ShowAboveAFailure;
+    ExpectFailureOf(scene, [](Scene& current) { current.robot.AnswerMessage(); });
 }
 
 // ---- unloading
@@ -253,6 +305,10 @@ constexpr Limit partnerRows[] = {
      CallingRecord},
     {"catalogue in `lytGetSymbolfromTree`", "the same", "the same", CallingLookup},
     {"resource library", "shows a dialog of the library", "it works as at any time", CallingVersion},
+    {"text of a field", "shows a dialog of the library, and hands over a buffer that is no memory",
+     "a message as for any failure of it; the library gives up what it held for the inner call", CallingWithoutABuffer},
+    {"text of a field", "shows a dialog of the library, and raises an exception in a window below it",
+     "the same; the inner dialog is gone", FailingBelowADialog},
     {"text of a field", "unloads lyt64.dll", "the library stays, and the call comes back", UnloadingText},
     {"text of an action", "the same", "the same", UnloadingAction},
     {"catalogue in `lytGetSymbolfromTree`", "the same", "the same", UnloadingLookup},

@@ -112,6 +112,12 @@ std::string Scene::OpenBrowser()
     return std::to_string(result) + " " + buffer.Text();
 }
 
+int Scene::AskForText() const
+{
+    char buffer[10] = "";
+    return Get<decltype(lytGetTextForKey)>("lytGetTextForKey")("Buttons", "001", "", buffer, sizeof buffer);
+}
+
 std::string Scene::FindSymbol(const std::string& begin) const
 {
     GuardedBuffer buffer(300, "as it was");

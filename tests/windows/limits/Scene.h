@@ -37,6 +37,8 @@ public:
     std::string ShowSymbol();
     // Opens the browser for any entry.
     std::string OpenBrowser();
+    // Asks for a text: 1.
+    int AskForText() const;
     // The key of the symbol that this text begins.
     std::string FindSymbol(const std::string& begin) const;
 

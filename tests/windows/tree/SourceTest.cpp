@@ -150,7 +150,8 @@ TEST_F(TreeSource, RunThatBreaksOffIsToldAndNotKept)
     GuardedBuffer buffer(255, "untouched");
     EXPECT_EQ(Get<decltype(lytOpenTreeView)>("lytOpenTreeView")("S", buffer.Data(), buffer.Size()), 0);
     EXPECT_TRUE(robot.Done()) << robot.Log();
-    EXPECT_EQ(robot.Messages(), Lines({"The source broke off."}));
+    EXPECT_EQ(robot.Messages(),
+              Lines({"The library 'lytsrc' failed in its function 'lytTreeNext': The source broke off."}));
 
     Interrupt(0, nullptr);
     EXPECT_EQ(ItemsShown("S"), houseShown);

@@ -1,0 +1,56 @@
+// Ends what stands on the stack between a guarded call and the place where a partner library failed.
+#pragma once
+
+#include <memory>
+#include <utility>
+
+// The objects that are to be destroyed even then, the innermost first.
+class UnwoundLink
+{
+public:
+    UnwoundLink(void (*destroy)(void* object), void* object) noexcept
+        : m_outer(std::exchange(innermost, this)), m_destroy(destroy), m_object(object)
+    {
+    }
+    UnwoundLink(const UnwoundLink&) = delete;
+    UnwoundLink& operator=(const UnwoundLink&) = delete;
+    ~UnwoundLink() { innermost = m_outer; }
+
+    static const UnwoundLink* Innermost() noexcept { return innermost; }
+    // Destroys the objects inside of `outer`, whose frames are about to be left without their destructors.
+    static void DestroyWithin(const UnwoundLink* outer) noexcept
+    {
+        while (innermost != nullptr && innermost != outer)
+        {
+            const UnwoundLink* const link = std::exchange(innermost, innermost->m_outer);
+            link->m_destroy(link->m_object);
+        }
+    }
+
+private:
+    static inline const UnwoundLink* innermost = nullptr;
+
+    const UnwoundLink* m_outer; // lives longer
+    void (*m_destroy)(void* object);
+    void* m_object;
+};
+
+// An object on the stack whose destructor also runs when an exception of another tool chain passes. Such an exception
+// runs none by itself; so this is for what holds more than memory.
+template <class OBJECT>
+class Unwound
+{
+public:
+    template <class... ARGUMENTS>
+    explicit Unwound(ARGUMENTS&&... arguments) : m_object(std::forward<ARGUMENTS>(arguments)...)
+    {
+    }
+
+    const OBJECT* operator->() const { return &m_object; }
+
+private:
+    static void Destroy(void* object) { std::destroy_at(static_cast<OBJECT*>(object)); }
+
+    OBJECT m_object;
+    UnwoundLink m_link{Destroy, &m_object}; // as long as the object is whole
+};

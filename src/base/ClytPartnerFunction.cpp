@@ -1,0 +1,33 @@
+#include "base/ClytPartnerFunction.h"
+
+#include <GuardedCall.h>
+
+#include <stdexcept>
+
+// An exception is made of its library's code: it ends here, where the library is certain to be there.
+void ClytPartnerCall::Run(void (*run)(void* step), void* step) const
+{
+    try
+    {
+        RunGuarded(run, step);
+    }
+    catch (CException*)
+    {
+        throw;
+    }
+    catch (const std::exception& e)
+    {
+        Fail(e.what());
+    }
+    catch (...)
+    {
+        Fail("an unknown exception");
+    }
+}
+
+void ClytPartnerCall::Fail(const char* reason) const
+{
+    CString message;
+    message.Format("The library '%s' failed in its function '%s': %s", library.GetString(), name.GetString(), reason);
+    throw std::runtime_error(message.GetString());
+}
