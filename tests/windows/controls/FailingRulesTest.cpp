@@ -15,9 +15,12 @@ struct Failure
 };
 
 const Failure failures[] = {
-    {"nasty,FailingText,x,Parameter", "(\"number\")", "An unknown error occurred."},
-    {"nasty,FailingText,x,Parameter", "(\"memory\")", "std::bad_alloc"},
-    {"nasty,FailingText,x,Parameter", "(\"other\")", "the partner is out of order"},
+    {"nasty,FailingText,x,Parameter", "(\"number\")",
+     "The library 'nasty' failed in its function 'FailingText': an unknown exception"},
+    {"nasty,FailingText,x,Parameter", "(\"memory\")",
+     "The library 'nasty' failed in its function 'FailingText': std::bad_alloc"},
+    {"nasty,FailingText,x,Parameter", "(\"other\")",
+     "The library 'nasty' failed in its function 'FailingText': out of order"},
     {"nasty,EchoText,x,Parameter", "(\"%s.5%q\", A)", invalidArgument},
     {"nasty,EchoText,x,Parameter", "Ghost(1) = (\"%s\", A)", "245 'Ghost'"},
 };

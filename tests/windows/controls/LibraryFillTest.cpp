@@ -81,7 +81,8 @@ TEST_P(EachKind, AListingThatFailsLeavesItsItemsSelectedSoThatTheNextFillEmpties
         ExpectItems({"item 0", "item 1"});
         ExpectSelected(selected);
     }
-    EXPECT_EQ(form.Ok().Open().messages, Texts(2, "no third item"));
+    EXPECT_EQ(form.Ok().Open().messages,
+              Texts(2, "The library 'nasty' failed in its function 'NextFailing': no third item"));
 }
 
 TEST_P(EachKind, BuffersFilledToTheLastByteEndThere)

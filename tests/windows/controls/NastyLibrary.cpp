@@ -142,5 +142,5 @@ int FailingText(const char* parameter, char*, int)
         throw 7;
     if (kind == "memory")
         throw std::bad_alloc();
-    throw std::runtime_error("the partner is out of order");
+    throw std::runtime_error("out of order");
 }

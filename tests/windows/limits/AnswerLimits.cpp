@@ -121,6 +121,16 @@ void RaisingText(Scene& scene)
     ExpectTold(scene, "hostile", "Text");
 }
 
+void RaisingRule(Scene& scene)
+{
+    scene.Partner("hostile").text = [](const char*, char*, int) -> int { BreakOff(); };
+    scene.Describe("TextBox 10, 60, 60, 15, .B\n", "B=FILLEDBY,hostile,Text\n", "B/FILL = Key\n");
+    scene.OnDialog([](HWND) { robot::TypeText("x"); }).robot.AnswerMessage().AnswerMessage();
+    scene.EndDialog(IDOK).robot.AnswerMessage();
+    scene.EndDialog(IDCANCEL).robot.AnswerMessage();
+    EXPECT_EQ(scene.ShowSymbol(), "0 as it was");
+}
+
 void RaisingAction(Scene& scene)
 {
     scene.Partner("hostile").text = [](const char*, char*, int) -> int { BreakOff(); };
@@ -267,6 +277,10 @@ constexpr Limit answerRows[] = {
      RaisingText},
     {"text of an action", "the same", "the same, and nothing is scanned", RaisingAction},
     {"items of a list", "the same", "the same; the items before it stay in the list", RaisingItem},
+    {"text of a field that a rule fills", "the same",
+     "one message for each command of the user, and a typed letter is two; OK is not carried out, Cancel ends the "
+     "dialog",
+     RaisingRule},
     {"record of the catalogue", "the same while it is shown",
      "a message as above; the catalogue is empty, and is read again by the next call", RaisingRecord},
     {"record of the catalogue", "the same in `lytGetSymbolfromTree`",

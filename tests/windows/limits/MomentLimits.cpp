@@ -152,6 +152,37 @@ void CallAfterUnloading(Scene& scene)
     EXPECT_EQ(scene.ShowSymbol(), "2 key");
 }
 
+// ---- a host that quits
+
+void ExpectQuitLeft()
+{
+    MSG message{};
+    EXPECT_TRUE(PeekMessageA(&message, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE));
+    EXPECT_EQ(message.wParam, 7U);
+}
+
+void QuitBelowADialog(Scene& scene)
+{
+    scene.OnDialog([](HWND) { PostQuitMessage(7); });
+    EXPECT_EQ(scene.ShowSymbol(), "0 as it was");
+    ExpectQuitLeft();
+}
+
+void QuitBelowABrowser(Scene& scene)
+{
+    scene.OnBrowser([](HWND) { PostQuitMessage(7); });
+    EXPECT_EQ(scene.OpenBrowser(), "0 as it was");
+    ExpectQuitLeft();
+}
+
+void QuitBelowANestedDialog(Scene& scene)
+{
+    scene.Describe("", "Go=DIALOG,lytInPhr,Take,Send\n");
+    scene.ClickOn("Go").OnDialog([](HWND) { PostQuitMessage(7); });
+    EXPECT_EQ(scene.ShowSymbol(), "0 as it was");
+    ExpectQuitLeft();
+}
+
 // ---- a thread that dies
 
 // Set once the thread below has a dialog up.
@@ -286,6 +317,10 @@ constexpr Limit momentRows[] = {
      CallOnAnotherThreadBetweenDialogs},
     {"any function", "is called on the same thread while a dialog is up, by a timer for instance",
      "it works as at any time; its windows stand above the dialog", CallAboveADialog},
+    {"host", "posts a quit message while a dialog is up",
+     "the dialog is cancelled, and the message waits for the host's own loop", QuitBelowADialog},
+    {"host", "the same while the catalogue is up", "the same", QuitBelowABrowser},
+    {"host", "the same while a dialog is above another", "the same; both are cancelled", QuitBelowANestedDialog},
     {"`FreeGlobalObject`", "is called while a dialog is up",
      "the dialog goes on with what it has read, and gives its result; what it looks up from then on is not found",
      ReleaseBelowADialog},

@@ -184,7 +184,7 @@ void ClosingText(Scene& scene)
 {
     scene.Partner("hostile").text = [](const char*, char*, int)
     {
-        EndDialog(robot::ActiveDialog(), IDCANCEL);
+        EndDialog(robot::ActiveDialog(), IDOK);
         return 0;
     };
     scene.Describe("", "Key=FILLEDBY,hostile,Text\nFill=FILL,Key\n");
@@ -313,7 +313,8 @@ constexpr Limit partnerRows[] = {
     {"text of an action", "the same", "the same", UnloadingAction},
     {"catalogue in `lytGetSymbolfromTree`", "the same", "the same", UnloadingLookup},
     {"resource library", "the same", "the same", UnloadingVersion},
-    {"text of a field", "ends the dialog", "the dialog is cancelled when the function has come back", ClosingText},
+    {"text of a field", "ends the dialog, with OK", "the dialog is cancelled when the function has come back",
+     ClosingText},
     {"text of a field", "destroys the dialog's window", "the same", DestroyingText},
     {"data library of a field", "is freed between two calls", "it is loaded again", VanishingText},
     {"data library of a list", "the same", "the same", VanishingItems},

@@ -84,13 +84,14 @@ void Scene::Initialise() const
                                                                         folder.Path().c_str(), folder.Path().c_str());
 }
 
-void Scene::Describe(const std::string& controls, const std::string& values) const
+void Scene::Describe(const std::string& controls, const std::string& values, const std::string& rules) const
 {
     Description description;
     description.head = "$VERSION 1\n$LAYOUT LIMITS\n";
     description.controls += controls + "PushButton 200, 10, 60, 20, \"Fill\", .Fill\n"
                                        "PushButton 200, 40, 60, 20, \"Go\", .Go\n";
     description.values = values;
+    description.rules = rules;
     description.input += "$INPUT, Take\nStart: (999, End = Key\n";
     description.output += "$OUTPUT, Send\n(\"<%s>\", Key)\n";
     folder.Write("lytInSym.dlg", description.Text());

@@ -32,7 +32,7 @@ public:
     void Initialise() const;
     // Writes the description of the symbol dialog, in which the buttons "Fill" and "Go" act on the fields of these lines.
     // Its output rule "Send" gives "<", the key and ">", its input rule "Take" takes a key.
-    void Describe(const std::string& controls, const std::string& values) const;
+    void Describe(const std::string& controls, const std::string& values, const std::string& rules = "") const;
     // Shows the symbol dialog for the key "key": result and text, as in `1 text`.
     std::string ShowSymbol();
     // Opens the browser for any entry.
