@@ -15,6 +15,9 @@ int RunReport(const Session& session);
 // Prints what differs between two saved reports; false when a line does that does not differ from run to run. It needs no
 // library.
 bool CompareSavedReports(const Request& request);
+// Prints a saved report without its names, or writes it where --out says; false when the operand names no file. It needs no
+// library either.
+bool RedactSavedReport(const Request& request);
 // Lets lytdlg judge a deployment, by the same words, and gives its exit code. Raises CallError when it cannot be run.
 int RunDoctor(const std::vector<std::string>& words);
 

@@ -1,12 +1,14 @@
 #include "lytcall/Commands.h"
 #include "lytcall/Redaction.h"
 #include "lytcall/ReportDifference.h"
+#include "lytcall/SavedReport.h"
 
 #include "commandline/Text.h"
 #include "commandline/WholeFile.h"
 
 #include <algorithm>
 #include <cstdio>
+#include <cstdlib>
 #include <io.h>
 
 namespace lytcall
@@ -59,29 +61,44 @@ ReportLines Gather(const Session& session, const std::string& folder)
     return lines;
 }
 
-std::string TextOf(const ReportLines& lines)
-{
-    std::string text;
-    for (const std::string& line : lines)
-        text += line + "\n";
-    return text;
-}
-
 ReportLines ReadReport(const std::string& fileName)
 {
-    const std::optional<std::string> text = commandline::ReadWholeFile(fileName);
-    if (!text)
+    const std::optional<std::string> bytes = commandline::ReadWholeFile(fileName);
+    if (!bytes)
         throw CallError(fileName + " cannot be read; save a report by `lytcall report --out " + fileName + "` first");
-    ReportLines lines;
-    for (size_t start = 0; start < text->size();)
+    const std::optional<ReportLines> lines = ReadSavedReport(*bytes);
+    if (!lines)
+        throw CallError(fileName + " is no report; name a file that `lytcall report --out FILE` has saved");
+    return *lines;
+}
+
+// Names of this machine that the report itself does not print.
+ReportLines NamesOfThisMachine()
+{
+    ReportLines names;
+    for (const char* name : {"USERDOMAIN", "USERDNSDOMAIN"})
     {
-        const size_t end = std::min(text->find('\n', start), text->size());
-        lines.push_back(text->substr(start, end - start));
-        if (lines.back().ends_with('\r'))
-            lines.back().pop_back();
-        start = end + 1;
+        if (const char* const value = std::getenv(name))
+            names.push_back(name + (":" + commandline::ToUtf8(value)));
     }
-    return lines;
+    return names;
+}
+
+// To standard output, or to the file that --out names.
+void Write(const Request& request, const ReportLines& lines)
+{
+    const std::string text = request.Has("--json") ? JsonOf(CutReport(lines)) : TextOf(lines);
+    const std::string fileName = request.Text("--out", "");
+    if (fileName.empty())
+    {
+        std::fwrite(text.data(), 1, text.size(), stdout);
+        return;
+    }
+    if (!commandline::WriteWholeFile(fileName, text))
+        throw CallError(fileName +
+                        " cannot be written, and what was there stays; check the name behind --out, the rights "
+                        "of its folder and the room on the disk");
+    PrintNumber("lines", static_cast<int>(lines.size()));
 }
 
 } // namespace
@@ -92,30 +109,30 @@ int RunReport(const Session& session)
     if (request.operands.size() > 1)
         throw commandline::UsageError("one folder is examined; to compare two saved reports, add --diff");
     ReportLines lines = Gather(session, request.Operand(0, ProgramFolder()));
-    if (request.Has("--redact"))
-        lines = Redacted(lines);
     std::ranges::transform(lines, lines.begin(), commandline::Shown);
-    const std::string text = request.Has("--json") ? JsonOf(CutReport(lines)) : TextOf(lines);
-    const std::string fileName = request.Text("--out", "");
-    if (fileName.empty())
-    {
-        std::fwrite(text.data(), 1, text.size(), stdout);
-        return 1;
-    }
-    if (!commandline::WriteWholeFile(fileName, text))
-        throw CallError(fileName +
-                        " cannot be written, and what was there stays; check the name behind --out, the rights "
-                        "of its folder and the room on the disk");
-    PrintNumber("lines", static_cast<int>(lines.size()));
+    Write(request, request.Has("--redact") ? Redacted(lines, NamesOfThisMachine()) : lines);
     return 1;
+}
+
+bool RedactSavedReport(const Request& request)
+{
+    if (request.operands.size() != 1 || !commandline::ReadWholeFile(request.operands[0]))
+        return false;
+    Write(request, Redacted(ReadReport(request.operands[0])));
+    return true;
 }
 
 bool CompareSavedReports(const Request& request)
 {
     if (request.operands.size() != 2)
         throw commandline::UsageError("--diff compares two saved reports; write: lytcall report --diff FILE FILE");
-    const ReportDifference difference =
-        CompareReports(ReadReport(request.operands[0]), ReadReport(request.operands[1]));
+    ReportLines all = ReadReport(request.operands[0]);
+    const ReportLines second = ReadReport(request.operands[1]);
+    ReportDifference difference = CompareReports(all, second);
+    // Both reports tell names, and each gets the word that it would have in either.
+    std::ranges::copy(second, std::back_inserter(all));
+    if (request.Has("--redact"))
+        difference.text = TextOf(Redacted(LinesOfText(difference.text), all));
     std::fputs(difference.text.c_str(), stdout);
     PrintNumber("different lines", static_cast<int>(difference.lines));
     PrintNumber("different from run to run", static_cast<int>(difference.fromRunToRun));

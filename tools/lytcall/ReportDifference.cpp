@@ -20,19 +20,6 @@ struct Change
 
 using Changes = std::vector<Change>;
 
-// What stands before the value; the whole line without one. A colon after a single letter is that of a drive.
-std::string LabelOf(const std::string& line)
-{
-    for (size_t place = line.find_first_of(":="); place != std::string::npos;
-         place = line.find_first_of(":=", place + 1))
-    {
-        const size_t start = line.find_last_of(' ', place);
-        if (place - (start == std::string::npos ? 0 : start + 1) != 1)
-            return line.substr(0, place);
-    }
-    return line;
-}
-
 // The lines that the other report has fewer of.
 ReportLines LackingIn(const ReportLines& other, const ReportLines& lines)
 {

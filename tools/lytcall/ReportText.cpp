@@ -60,6 +60,28 @@ std::string JsonText(const std::string& text)
 
 } // namespace
 
+ReportLines LinesOfText(const std::string& text)
+{
+    ReportLines lines;
+    for (size_t start = 0; start < text.size();)
+    {
+        const size_t end = std::min(text.find('\n', start), text.size());
+        lines.push_back(text.substr(start, end - start));
+        if (lines.back().ends_with('\r'))
+            lines.back().pop_back();
+        start = end + 1;
+    }
+    return lines;
+}
+
+std::string TextOf(const ReportLines& lines)
+{
+    std::string text;
+    for (const std::string& line : lines)
+        text += line + "\n";
+    return text;
+}
+
 std::vector<ReportBlock> CutReport(const ReportLines& lines)
 {
     std::vector<ReportBlock> blocks = {{"The program and Windows", {}}};
@@ -72,6 +94,18 @@ std::vector<ReportBlock> CutReport(const ReportLines& lines)
         blocks.back().lines.push_back(line);
     }
     return blocks;
+}
+
+std::string LabelOf(const std::string& line)
+{
+    for (size_t place = line.find_first_of(":="); place != std::string::npos;
+         place = line.find_first_of(":=", place + 1))
+    {
+        const size_t start = line.find_last_of(' ', place);
+        if (place - (start == std::string::npos ? 0 : start + 1) != 1)
+            return line.substr(0, place);
+    }
+    return line;
 }
 
 bool ChangesFromRunToRun(const std::string& line)

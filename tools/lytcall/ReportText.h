@@ -9,6 +9,10 @@ namespace lytcall
 
 using ReportLines = std::vector<std::string>;
 
+// A line ends with a line feed, before which a carriage return may stand.
+ReportLines LinesOfText(const std::string& text);
+std::string TextOf(const ReportLines& lines);
+
 struct ReportBlock
 {
     std::string title;
@@ -18,6 +22,8 @@ struct ReportBlock
 // Cuts a report at the lines that begin its blocks. The titles are those of docs/report.md; a word processor's version has
 // a block of its own.
 std::vector<ReportBlock> CutReport(const ReportLines& lines);
+// What stands before the value of a line; the whole line without one. A colon after a single letter is that of a drive.
+std::string LabelOf(const std::string& line);
 // True for a line that differs between any two runs on one machine.
 bool ChangesFromRunToRun(const std::string& line);
 // The report as JSON in UTF-8: an object with the blocks, each with its title and lines. The lines are UTF-8, too.

@@ -75,6 +75,8 @@ int Run(const std::vector<std::string>& words)
     }
     if (request.command == "report" && request.Has("--diff"))
         return lytcall::CompareSavedReports(request) ? done : callFailed;
+    if (request.command == "report" && request.Has("--redact") && lytcall::RedactSavedReport(request))
+        return done;
     if (request.command == "doctor")
         return JudgeDeployment(words);
     const lytcall::Session session(request);

@@ -1,6 +1,6 @@
-// Reports as texts: their blocks, what differs between two, and names taken out.
-#include "lytcall/Redaction.h"
+// Reports as texts: their blocks, what differs between two, and saved ones.
 #include "lytcall/ReportDifference.h"
+#include "lytcall/SavedReport.h"
 
 #include <gtest/gtest.h>
 
@@ -36,11 +36,13 @@ std::string Outline(const ReportLines& lines)
     return outline;
 }
 
-std::string Redacted(const std::string& line)
+// The mark and each byte as a number of two bytes.
+std::string InUtf16(const std::string& ascii, bool isLowFirst)
 {
-    ReportLines lines = Report();
-    lines.push_back(line);
-    return lytcall::Redacted(lines).back();
+    std::string bytes = isLowFirst ? "\xFF\xFE" : "\xFE\xFF";
+    for (const char c : ascii)
+        bytes += isLowFirst ? std::string{c, '\0'} : std::string{'\0', c};
+    return bytes;
 }
 
 } // namespace
@@ -103,27 +105,28 @@ TEST(ReportDifference, PaysNoHeedToTheOrderInABlock)
     EXPECT_EQ(lytcall::CompareReports(Report(), other).text, "");
 }
 
-TEST(Redaction, ReplacesEachNameByTheSameWord)
+TEST(SavedReport, IsReadInEachFormThatItIsSavedIn)
 {
-    static const struct
-    {
-        const char* line;
-        const char* redacted;
-    } cases[] = {
-        {"USERNAME:jsmith", "USERNAME:USER"},
-        {"C:\\Users\\JSmith\\x", "C:\\Users\\USER\\x"},
-        {"C:\\Users\\JSMITH~1\\x", "C:\\Users\\USER1\\x"},
-        {"C:\\Users\\Public\\x", "C:\\Users\\Public\\x"},
-        {"jsmithson and jsmith.", "jsmithson and USER."},
-        {"\\\\desk-7\\share", "\\\\MACHINE\\share"},
-        {"\\\\depot\\a \\\\DEPOT\\b \\\\other\\c", "\\\\SERVER1\\a \\\\SERVER1\\b \\\\SERVER2\\c"},
-        {"  Network Printer: Big on attic", "  Network Printer: Big on SERVER2"},
-        {"C:\\\\twice", "C:\\\\twice"},
-        {"", ""},
-    };
-    for (const auto& c : cases)
-    {
-        SCOPED_TRACE(c.line);
-        EXPECT_EQ(Redacted(c.line), c.redacted);
-    }
+    const std::string text = lytcall::TextOf(Report());
+    for (const std::string& bytes :
+         {text, "\xEF\xBB\xBF" + text, InUtf16(text, true), InUtf16(text, false),
+          lytcall::JsonOf(lytcall::CutReport(Report())), InUtf16(lytcall::JsonOf(lytcall::CutReport(Report())), true)})
+        EXPECT_EQ(lytcall::ReadSavedReport(bytes), Report()) << bytes;
+}
+
+TEST(SavedReport, KeepsTheLettersOfUtf16)
+{
+    // U+00E4, U+20AC and U+1F600, which takes two numbers.
+    const std::string name("\xE4\0\xAC\x20\x3D\xD8\0\xDE", 8);
+    const auto lines = lytcall::ReadSavedReport(InUtf16("Printers\nFile Information:\n", true) + name);
+    ASSERT_TRUE(lines);
+    EXPECT_EQ(lines->back(), "\xC3\xA4\xE2\x82\xAC\xF0\x9F\x98\x80");
+}
+
+TEST(SavedReport, IsNothingThatIsNoReport)
+{
+    for (const char* bytes :
+         {"", "a text\nof lines\n", "{}", "[1, 2]", R"({"blocks": 1})", R"({"blocks": [{"lines": 2}]})",
+          R"({"blocks": [1]})", R"({"verdict": "good", "observations": []})", "\xFF\xFE", "\xFF\xFE\x01"})
+        EXPECT_FALSE(lytcall::ReadSavedReport(bytes)) << bytes;
 }
