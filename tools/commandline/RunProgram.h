@@ -11,6 +11,9 @@ namespace commandline
 // is none.
 int RunProgram(const std::vector<std::string>& words);
 
+// A word as a command line of Windows holds it; there only.
+std::wstring QuotedWord(const std::wstring& word);
+
 // A word that `main` was given, in UTF-8.
 std::string WordOfMain(const std::string& word);
 

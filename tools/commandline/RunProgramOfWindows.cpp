@@ -20,9 +20,11 @@ std::wstring Wide(const std::string& utf8)
     return wide;
 }
 
+} // namespace
+
 // The runtime joins the words with blanks, and the other program takes them apart again: there quotes hold a word together,
 // and backslashes count only before a quote.
-std::wstring Quoted(const std::wstring& word)
+std::wstring QuotedWord(const std::wstring& word)
 {
     std::wstring quoted = L"\"";
     size_t backslashes = 0;
@@ -36,13 +38,11 @@ std::wstring Quoted(const std::wstring& word)
     return quoted.append(backslashes, L'\\') + L'"';
 }
 
-} // namespace
-
 int RunProgram(const std::vector<std::string>& words)
 {
     std::vector<std::wstring> quoted;
     for (const std::string& word : words)
-        quoted.push_back(Quoted(Wide(word)));
+        quoted.push_back(QuotedWord(Wide(word)));
     std::vector<const wchar_t*> arguments;
     for (const std::wstring& word : quoted)
         arguments.push_back(word.c_str());

@@ -1,6 +1,7 @@
 // lytdlg: judges, tries, tests and draws dialog descriptions from a command line.
 #include "commandline/Finish.h"
 #include "lytdlg/Commands.h"
+#include "lytdlg/judge/LoadTrial.h"
 #include "lytdlg/text/Paths.h"
 
 #include <afxwin.h>
@@ -10,5 +11,8 @@ int main(int count, char** words)
     SetConsoleOutputCP(CP_UTF8);
     // The templates, icons and manifest of the library are those of this program.
     AfxGetStaticModuleState()->m_hCurrentResourceHandle = GetModuleHandleA(nullptr);
-    return commandline::Finish("lytdlg", lytdlg::Run(lytdlg::CommandLineWords(count, words)));
+    const std::vector<std::string> given = lytdlg::CommandLineWords(count, words);
+    if (!given.empty() && given.front() == lytdlg::loadTrialWord)
+        return lytdlg::CarryOutLoadTrial(given);
+    return commandline::Finish("lytdlg", lytdlg::Run(given));
 }

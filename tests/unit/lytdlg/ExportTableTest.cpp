@@ -31,6 +31,13 @@ TEST(ExportTable, NamesTheFunctionsOfALibrary)
     EXPECT_EQ(NamesIn(LibraryFile({})), "");
 }
 
+TEST(ExportTable, NamesTheLibrariesThatAreNeeded)
+{
+    const std::vector<std::string> needed = {"KERNEL32.dll", "libstdc++-6.dll"};
+    EXPECT_EQ(ReadExports(LibraryFile({"LookUp"}, machine64, needed)).needed, needed);
+    EXPECT_EQ(ReadExports(LibraryFile({"LookUp"})).needed, std::vector<std::string>());
+}
+
 TEST(ExportTable, TellsLibrariesThatA64BitProgramCannotLoad)
 {
     EXPECT_EQ(ReadExports(LibraryFile({"LookUp"}, machine32)).form, LibraryForm::OtherBits);
@@ -51,6 +58,7 @@ TEST(ExportTable, EndsWithTheFileWhereverThatIsCut)
         const std::string names = NamesIn({cut.data(), cut.size()});
         EXPECT_TRUE(all.starts_with(names)) << length << ": " << names;
         EXPECT_NE(names, all) << length;
+        EXPECT_EQ(ReadExports({cut.data(), cut.size()}).form, LibraryForm::NoLibrary) << length;
     }
 }
 

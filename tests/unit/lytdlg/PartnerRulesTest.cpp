@@ -47,6 +47,33 @@ TEST(PartnerRules, TellOfALibraryThatIsInNoFolder)
 )");
 }
 
+TEST(PartnerRules, TellOfALibraryThatNeedsAnotherOne)
+{
+    const TestFolder folder;
+    folder.Write("lytdata.dll", LibraryFile({"NextItem", "OpenMarked"}, machine64, {"kernel32.dll", "own.dll"}));
+    folder.Write("own.dll", LibraryFile({}, machine64, {"libstdc++-6.dll", "lyt64.dll"}));
+    EXPECT_EQ(
+        TextsOfFindings(filled, {folder.Path()}),
+        "example.dlg:45:23: warning partner-form: lytdata.dll cannot be loaded: it needs libstdc++-6.dll, which "
+        "Windows does not find\n"
+        "        Parts = FILLEDBY, lytdata, OpenMarked, NextItem\n"
+        "                          ^~~~~~~\n"
+        "    hint: link it statically, so that it needs nothing but Windows, or copy what it needs beside the word "
+        "processor's program\n");
+    folder.Write("libstdc++-6.dll", LibraryFile({}));
+    EXPECT_EQ(TextsOfFindings(filled, {folder.Path()}), "");
+}
+
+TEST(PartnerRules, KnowTheFunctionsOfCppByTheirDecoratedNames)
+{
+    const TestFolder folder;
+    folder.Write("lytdata.dll", LibraryFile({"_Z8NextItemPciS_i", "?OpenMarked@@YAXPEBD@Z"}));
+    const std::string found = TextsOfFindings(filled, {folder.Path()});
+    for (const char* hint : {"hint: \"_Z8NextItemPciS_i\" is that function of C++; declare it extern \"C\"\n",
+                             "hint: \"?OpenMarked@@YAXPEBD@Z\" is that function of C++; declare it extern \"C\"\n"})
+        EXPECT_NE(found.find(hint), std::string::npos) << found;
+}
+
 TEST(PartnerRules, TellOfALibraryThatCannotBeLoaded)
 {
     const TestFolder folder;

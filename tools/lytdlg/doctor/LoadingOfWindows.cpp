@@ -3,16 +3,14 @@
 #include "base/PartnerLibrary.h"
 #include "lytdlg/doctor/Configuration.h"
 #include "lytdlg/doctor/Deployment.h"
-#include "lytdlg/judge/ExportTable.h"
+#include "lytdlg/judge/LoadTrial.h"
 #include "lytdlg/text/LibraryTexts.h"
 #include "lytdlg/text/Paths.h"
 #include "lytdlg/text/TextFile.h"
 
 #include "lyt64.h"
 
-#include <algorithm>
 #include <array>
-#include <iterator>
 
 namespace lytdlg
 {
@@ -21,7 +19,6 @@ namespace
 {
 
 constexpr const char* aboutLoading = "loading";
-constexpr DWORD virusInfected = 225; // which the headers of the toolchain do not name
 
 // The functions that tell what the library reads; null when it has none of that name.
 struct Functions
@@ -38,24 +35,6 @@ struct Functions
     decltype(lytGetTextForKey)* textForKey;
     decltype(FreeGlobalObject)* end;
 };
-
-// Why the platform does not load a library.
-std::string ReasonOf(DWORD error)
-{
-    static constexpr struct
-    {
-        DWORD error;
-        const char* reason;
-    } reasons[] = {
-        {ERROR_ACCESS_DENIED, "access is denied"},
-        {ERROR_MOD_NOT_FOUND, "a library that it needs is missing"},
-        {ERROR_BAD_EXE_FORMAT, "the file is damaged"},
-        {virusInfected, "the virus scanner blocks it"},
-        {ERROR_ACCESS_DISABLED_BY_POLICY, "a policy of this machine forbids it"},
-    };
-    const auto* const known = std::ranges::find(reasons, error, [](const auto& each) { return each.error; });
-    return "error " + std::to_string(error) + (known != std::end(reasons) ? std::string(", ") + known->reason : "");
-}
 
 size_t CountRead(const Functions& functions)
 {
@@ -116,7 +95,7 @@ void JudgeLoading(const Deployment& deployment, const Configuration& configurati
     const ClytModuleHandle library(::LoadLibraryW(std::filesystem::absolute(file).c_str()));
     if (!library.IsOpen())
     {
-        diagnosis.Add(Verdict::Wrong, aboutLoading, file, "cannot be loaded: " + ReasonOf(::GetLastError()),
+        diagnosis.Add(Verdict::Wrong, aboutLoading, file, "cannot be loaded: " + ReasonOfLoadError(::GetLastError()),
                       "copy it again; what guards this machine may have to allow it");
         return;
     }

@@ -2,7 +2,7 @@
 #include "lytdlg/doctor/WantedLibraries.h"
 
 #include "commandline/Text.h"
-#include "lytdlg/judge/ExportTable.h"
+#include "lytdlg/judge/LoadTrial.h"
 #include "lytdlg/judge/Names.h"
 #include "lytdlg/judge/PartnerCalls.h"
 #include "lytdlg/text/Paths.h"
@@ -64,6 +64,15 @@ std::vector<FoundCopy> CopiesOf(const std::string& name, const std::vector<Searc
     return copies;
 }
 
+// The library is loaded before any partner.
+LoadSurroundings LoadSurroundingsOf(const Deployment& deployment)
+{
+    LoadSurroundings surroundings = {{}, deployment.library.chosen};
+    for (const SearchFolder& each : deployment.search)
+        surroundings.folders.push_back(each.folder);
+    return surroundings;
+}
+
 class PartnerJudge
 {
 public:
@@ -112,13 +121,22 @@ private:
     {
         m_table = ReadExports(loaded.bytes);
         if (m_table.form == LibraryForm::Library)
-            return true;
+            return JudgeLoading(loaded.file);
         const bool isOther = m_table.form == LibraryForm::OtherBits;
         m_diagnosis.Add(WhenUseless(), aboutPartners, loaded.file,
                         (isOther ? "is no 64-bit library; " : "is no library, or is damaged or cannot be read; ") +
                             m_wanted.consequence,
                         isOther ? "put a 64-bit one in its place" : "copy it again");
         return false;
+    }
+
+    bool JudgeLoading(const fs::path& file)
+    {
+        const std::optional<LoadFailure> failure = TryToLoad(file, m_table, LoadSurroundingsOf(m_deployment));
+        if (failure)
+            m_diagnosis.Add(WhenUseless(), aboutPartners, file,
+                            "cannot be loaded: " + failure->reason + "; " + m_wanted.consequence, failure->hint);
+        return !failure;
     }
 
     void JudgeLoaded(const std::vector<FoundCopy>& copies)
@@ -143,7 +161,7 @@ private:
         {
             if (lacks(function))
                 Tell(function, "has no function " + InQuotes(ToUtf8(function.name)),
-                     MeantOr(function.name, m_table.names, otherVersion));
+                     HintForFunction(function.name, m_table.names, otherVersion));
         }
         if (std::ranges::any_of(m_wanted.functions, lacks))
             return false;

@@ -30,9 +30,6 @@ Host HostOfWorkstation();
 // the workstation are not known.
 std::vector<SearchFolder> SystemSearchFolders();
 
-// A file of a folder; empty when there is none. Case does not count.
-std::filesystem::path FileIn(const std::filesystem::path& folder, const std::string& name);
-
 struct Deployment;
 class Configuration;
 

@@ -1,8 +1,5 @@
 #include "lytdlg/doctor/Workstation.h"
 
-#include "lytdlg/text/LanguageFiles.h"
-#include "lytdlg/text/TextFile.h"
-
 namespace lytdlg
 {
 
@@ -13,16 +10,6 @@ Host HostOfWorkstation()
 
 std::vector<SearchFolder> SystemSearchFolders()
 {
-    return {};
-}
-
-std::filesystem::path FileIn(const std::filesystem::path& folder, const std::string& name)
-{
-    for (const std::filesystem::path& file : FilesIn(folder, std::filesystem::path(name).extension().string()))
-    {
-        if (IsSameName(file.filename().string(), name))
-            return file;
-    }
     return {};
 }
 

@@ -1,9 +1,8 @@
 #include "lytdlg/doctor/Workstation.h"
 
-#include <windows.h>
+#include "lytdlg/text/AskedPath.h"
 
 #include <algorithm>
-#include <iterator>
 
 namespace lytdlg
 {
@@ -13,35 +12,23 @@ namespace fs = std::filesystem;
 namespace
 {
 
-constexpr DWORD longestPath = 32768;
-
-std::wstring WithoutQuotes(std::wstring text)
-{
-    std::erase(text, L'"');
-    return text;
-}
-
-// What a function of the platform writes into a buffer, without the quotes that may stand round a path; empty when it fails.
-template <class Ask>
-fs::path AskedPath(Ask ask)
-{
-    std::wstring path(longestPath, L'\0');
-    path.resize(std::min<size_t>(ask(path.data(), longestPath), longestPath));
-    return WithoutQuotes(path);
-}
-
 fs::path RegisteredWordProcessor()
 {
-    return AskedPath(
-        [](wchar_t* buffer, DWORD length) -> DWORD
-        {
-            constexpr DWORD bytes = sizeof(wchar_t);
-            DWORD size = length * bytes;
-            const LSTATUS failure = RegGetValueW(
-                HKEY_LOCAL_MACHINE, L"SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\App Paths\\Winword.exe", nullptr,
-                RRF_RT_REG_SZ, nullptr, buffer, &size);
-            return failure == ERROR_SUCCESS ? size / bytes - 1 : 0;
-        });
+    std::wstring program =
+        AskedPath(
+            [](wchar_t* buffer, DWORD length) -> DWORD
+            {
+                constexpr DWORD bytes = sizeof(wchar_t);
+                DWORD size = length * bytes;
+                const LSTATUS failure = RegGetValueW(
+                    HKEY_LOCAL_MACHINE, L"SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\App Paths\\Winword.exe",
+                    nullptr, RRF_RT_REG_SZ, nullptr, buffer, &size);
+                return failure == ERROR_SUCCESS ? size / bytes - 1 : 0;
+            })
+            .wstring();
+    // Quotes may stand round it.
+    std::erase(program, L'"');
+    return program;
 }
 
 // An empty piece of PATH names no folder.
@@ -79,14 +66,6 @@ std::vector<SearchFolder> SystemSearchFolders()
     };
     AddFoldersOfPath(folders);
     return folders;
-}
-
-// The file system itself takes no account of case.
-fs::path FileIn(const fs::path& folder, const std::string& name)
-{
-    fs::path file = folder / fs::path(std::u8string(name.begin(), name.end()));
-    std::error_code ignored;
-    return fs::is_regular_file(file, ignored) ? file : fs::path();
 }
 
 } // namespace lytdlg

@@ -17,8 +17,10 @@ constexpr uint32_t machine64 = 0x8664;
 constexpr uint32_t machine32 = 0x14C;
 constexpr uint32_t magic64 = 0x20B;
 constexpr uint32_t libraryFlag = 0x2000;
+constexpr size_t importEntrySize = 20;
 // What no library that is meant to be called by name goes beyond; a table may claim anything.
 constexpr uint32_t mostNames = 65536;
+constexpr size_t mostImports = 1024;
 constexpr size_t longestName = 255;
 
 // Numbers of a file, the lower byte first. A place beyond the end gives nothing.
@@ -40,6 +42,7 @@ public:
     uint32_t Short(size_t place) const { return Number(place, 2).value_or(0); }
     uint32_t Long(size_t place) const { return Number(place, 4).value_or(0); }
 
+    size_t Size() const { return m_bytes.size(); }
     bool Has(size_t place, std::string_view text) const
     {
         return place <= m_bytes.size() && m_bytes.substr(place).starts_with(text);
@@ -65,7 +68,7 @@ public:
 
     LibraryForm Form() const
     {
-        if (!IsImage() || (m_bytes.Short(m_header + 22) & libraryFlag) == 0)
+        if (!IsImage() || (m_bytes.Short(m_header + 22) & libraryFlag) == 0 || IsCut())
             return LibraryForm::NoLibrary;
         return Bits() == 64 ? LibraryForm::Library : LibraryForm::OtherBits;
     }
@@ -101,18 +104,48 @@ public:
         return names;
     }
 
+    std::vector<std::string> Needed() const
+    {
+        std::vector<std::string> needed;
+        const std::optional<size_t> table = PlaceOf(m_bytes.Long(Optional() + 120));
+        for (size_t index = 0; table && index < mostImports; ++index)
+        {
+            const std::optional<size_t> place = PlaceOf(m_bytes.Long(*table + index * importEntrySize + 12));
+            if (!place)
+                break;
+            needed.push_back(m_bytes.Name(*place));
+        }
+        return needed;
+    }
+
 private:
     bool IsImage() const { return m_bytes.Has(0, "MZ") && m_bytes.Has(m_header, std::string_view("PE\0\0", 4)); }
     size_t Optional() const { return m_header + fileHeaderSize; }
 
+    uint32_t CountOfSections() const { return m_bytes.Short(m_header + 6); }
+    size_t SectionHeader(uint32_t index) const
+    {
+        return Optional() + m_bytes.Short(m_header + 20) + index * sectionHeaderSize;
+    }
+
+    // A file whose copying broke off lacks the ends of its sections.
+    bool IsCut() const
+    {
+        for (uint32_t index = 0; index < CountOfSections(); ++index)
+        {
+            const size_t header = SectionHeader(index);
+            if (size_t{m_bytes.Long(header + 16)} + m_bytes.Long(header + 20) > m_bytes.Size())
+                return true;
+        }
+        return m_bytes.Size() < SectionHeader(CountOfSections());
+    }
+
     // Where an address of the loaded library stands in the file.
     std::optional<size_t> PlaceOf(uint32_t address) const
     {
-        const size_t sections = Optional() + m_bytes.Short(m_header + 20);
-        const uint32_t count = m_bytes.Short(m_header + 6);
-        for (uint32_t index = 0; address != 0 && index < count; ++index)
+        for (uint32_t index = 0; address != 0 && index < CountOfSections(); ++index)
         {
-            const size_t header = sections + index * sectionHeaderSize;
+            const size_t header = SectionHeader(index);
             const uint32_t start = m_bytes.Long(header + 12);
             const uint32_t size = m_bytes.Long(header + 16);
             if (address >= start && address - start < size)
@@ -131,7 +164,9 @@ ExportTable ReadExports(std::string_view bytes)
 {
     const Image image(bytes);
     const LibraryForm form = image.Form();
-    return {form, form == LibraryForm::Library ? image.Names() : std::vector<std::string>()};
+    if (form != LibraryForm::Library)
+        return {form, {}, {}};
+    return {form, image.Names(), image.Needed()};
 }
 
 int BitsOf(std::string_view bytes)

@@ -1,4 +1,4 @@
-// The functions that a library file offers, read from its export table without loading it. Nothing of the file is trusted.
+// The functions that a library file offers, and the libraries that it needs, read from its tables without loading it. Nothing of the file is trusted.
 #pragma once
 
 #include <string>
@@ -10,7 +10,7 @@ namespace lytdlg
 
 enum class LibraryForm
 {
-    NoLibrary, // not a library, or damaged
+    NoLibrary, // not a library, or damaged, as one is whose copying broke off
     OtherBits, // a library that a 64-bit program cannot load
     Library
 };
@@ -18,7 +18,8 @@ enum class LibraryForm
 struct ExportTable
 {
     LibraryForm form = LibraryForm::NoLibrary;
-    std::vector<std::string> names; // as far as the table can be read
+    std::vector<std::string> names;  // as far as the table can be read
+    std::vector<std::string> needed; // the libraries that are loaded with it, likewise
 };
 
 // The bytes of a whole file.

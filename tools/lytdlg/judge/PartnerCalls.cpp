@@ -1,8 +1,10 @@
 #include "lytdlg/judge/PartnerCalls.h"
 
 #include "lytdlg/judge/Controls.h"
+#include "lytdlg/judge/Names.h"
 #include "lytdlg/text/LanguageFiles.h"
 
+#include <algorithm>
 #include <sstream>
 
 namespace lytdlg
@@ -42,6 +44,19 @@ std::string LibraryFileName(const std::string& name)
 {
     const std::string file = name.substr(name.find_last_of("\\/") + 1);
     return file.find('.') == std::string::npos ? file + ".dll" : file;
+}
+
+std::string HintForFunction(const std::string& function, const std::vector<std::string>& known,
+                            const std::string& otherwise)
+{
+    // As the compilers of C++ decorate the name.
+    const std::string gnu = "_Z" + std::to_string(function.size()) + function;
+    const std::string microsoft = "?" + function + "@";
+    const auto decorated = std::ranges::find_if(known, [&](const std::string& name)
+                                                { return name.starts_with(gnu) || name.starts_with(microsoft); });
+    if (decorated != known.end())
+        return InQuotes(*decorated) + " is that function of C++; declare it extern \"C\"";
+    return MeantOr(function, known, otherwise);
 }
 
 bool IsOwnLibrary(const std::string& fileName)

@@ -24,6 +24,9 @@ ClytSpan PlaceOf(const Description& description, const PartnerCall& call, const 
 
 // The name of a library's file, without a folder, as the platform completes it before it looks for the file.
 std::string LibraryFileName(const std::string& name);
+// What to do about a function that a library does not have, given those that it has.
+std::string HintForFunction(const std::string& function, const std::vector<std::string>& known,
+                            const std::string& otherwise);
 // Whether a description names the library itself, which is not looked for.
 bool IsOwnLibrary(const std::string& fileName);
 // The functions of the library itself, as its definition has them.

@@ -1,6 +1,8 @@
 #include "lytdlg/judge/PartnerRules.h"
 
+#include "commandline/Text.h"
 #include "lytdlg/judge/ExportTable.h"
+#include "lytdlg/judge/LoadTrial.h"
 #include "lytdlg/judge/Names.h"
 #include "lytdlg/judge/PartnerCalls.h"
 #include "lytdlg/text/Paths.h"
@@ -26,12 +28,14 @@ constexpr Rule library = {
     "",
     ""};
 
-constexpr Rule form = {"partner-form",
-                       Level::Warning,
-                       "A 64-bit program cannot load a library.",
-                       "A 64-bit word processor loads 64-bit libraries only.",
-                       "",
-                       ""};
+constexpr Rule form = {
+    "partner-form",
+    Level::Warning,
+    "A 64-bit program cannot load a library.",
+    "A 64-bit word processor loads 64-bit libraries only, and finds what they need in the same folders. On\n"
+    "Windows each library is loaded, in a separate process, to see whether it can be.",
+    "",
+    ""};
 
 constexpr Rule function = {
     "partner-function",
@@ -58,36 +62,51 @@ constexpr Rule shared = {
     "$LAYOUT Example\n    ListBox 520, 12, 100, 34, .More\n    CheckListBox 520, 64, 100, 34, .Most\n"
     "$VALUES\n    More = FILLEDBY, lytdata, Open, Next\n    Most = FILLEDBY, other, Open, Next"};
 
-// The libraries of the folders, each read once.
+struct Partner
+{
+    ExportTable table;
+    std::optional<LoadFailure> failure; // of a library that is none of other bits
+};
+
+// The libraries of the folders, each read and tried once.
 class Partners
 {
 public:
-    explicit Partners(const std::vector<std::string>& folders) : m_folders(folders) {}
+    explicit Partners(const std::vector<std::string>& folders)
+    {
+        for (const std::string& folder : folders)
+            m_surroundings.folders.push_back(PathOf(folder));
+    }
 
-    bool AreKnown() const { return !m_folders.empty(); }
+    bool AreKnown() const { return !m_surroundings.folders.empty(); }
     // Null when no folder holds the file.
-    const ExportTable* Find(const std::string& fileName)
+    const Partner* Find(const std::string& fileName)
     {
         if (IsOwnLibrary(fileName))
             return &m_own;
-        const auto known = m_tables.find(fileName);
-        if (known != m_tables.end())
+        const auto known = m_partners.find(fileName);
+        if (known != m_partners.end())
             return &known->second;
-        for (const std::string& folder : m_folders)
+        for (const std::filesystem::path& folder : m_surroundings.folders)
         {
-            for (const std::filesystem::path& file : FilesIn(PathOf(folder), fileName.substr(fileName.rfind('.'))))
-            {
-                if (IsSameName(file.filename().string(), fileName))
-                    return &(m_tables[fileName] = ReadExports(ReadWholeFile(file).value_or("")));
-            }
+            const std::filesystem::path file = FileIn(folder, commandline::ToUtf8(fileName));
+            if (!file.empty())
+                return &(m_partners[fileName] = Read(file));
         }
         return nullptr;
     }
 
 private:
-    const std::vector<std::string>& m_folders; // of the surroundings, which outlive the judging
-    std::map<std::string, ExportTable> m_tables;
-    const ExportTable m_own = {LibraryForm::Library, OwnFunctions()};
+    Partner Read(const std::filesystem::path& file) const
+    {
+        const ExportTable table = ReadExports(ReadWholeFile(file).value_or(""));
+        const bool isTried = table.form == LibraryForm::Library;
+        return {table, isTried ? TryToLoad(file, table, m_surroundings) : std::nullopt};
+    }
+
+    LoadSurroundings m_surroundings;
+    std::map<std::string, Partner> m_partners;
+    const Partner m_own = {{LibraryForm::Library, OwnFunctions(), {}}, {}};
 };
 
 void JudgeFunctions(const Case& judged, const PartnerCall& call, const ExportTable& table)
@@ -99,7 +118,7 @@ void JudgeFunctions(const Case& judged, const PartnerCall& call, const ExportTab
         judged.findings
             .Add(function, PlaceOf(judged.description, call, name),
                  LibraryFileName(call.library) + " has no function " + InQuotes(name),
-                 MeantOr(name, table.names, "name one of its functions"))
+                 HintForFunction(name, table.names, "name one of its functions"))
             .number = call.isAction ? "232" : "";
     }
 }
@@ -107,8 +126,8 @@ void JudgeFunctions(const Case& judged, const PartnerCall& call, const ExportTab
 void JudgeCall(const Case& judged, const PartnerCall& call, Partners& partners)
 {
     const std::string file = LibraryFileName(call.library);
-    const ExportTable* table = partners.Find(file);
-    if (table == nullptr)
+    const Partner* const partner = partners.Find(file);
+    if (partner == nullptr)
     {
         if (partners.AreKnown())
             judged.findings
@@ -117,15 +136,20 @@ void JudgeCall(const Case& judged, const PartnerCall& call, Partners& partners)
                      "check its name, or give its folder with --partners")
                 .number = call.isAction ? "233" : "";
     }
-    else if (table->form != LibraryForm::Library)
+    else if (partner->table.form != LibraryForm::Library)
         judged.findings
             .Add(form, PlaceOf(judged.description, call, call.library),
-                 table->form == LibraryForm::OtherBits ? file + " is no 64-bit library"
-                                                       : file + " is no library, or is damaged",
+                 partner->table.form == LibraryForm::OtherBits ? file + " is no 64-bit library"
+                                                               : file + " is no library, or is damaged",
                  "build it for 64 bits")
             .number = call.isAction ? "233" : "";
+    else if (partner->failure)
+        judged.findings
+            .Add(form, PlaceOf(judged.description, call, call.library),
+                 file + " cannot be loaded: " + partner->failure->reason, partner->failure->hint)
+            .number = call.isAction ? "233" : "";
     else
-        JudgeFunctions(judged, call, *table);
+        JudgeFunctions(judged, call, partner->table);
 }
 
 // A drop-down list and a combo box are of one type.

@@ -46,6 +46,14 @@ std::vector<std::string> CommandLineWords(int /*count*/, char** /*words*/)
     return texts;
 }
 
+// The file system itself takes no account of case.
+std::filesystem::path FileIn(const std::filesystem::path& folder, const std::string& name)
+{
+    std::filesystem::path file = folder / PathOf(name);
+    std::error_code ignored;
+    return std::filesystem::is_regular_file(file, ignored) ? file : std::filesystem::path();
+}
+
 std::string NameForLibrary(const std::filesystem::path& path)
 {
     std::string name = TextIn(GetACP(), path.wstring());

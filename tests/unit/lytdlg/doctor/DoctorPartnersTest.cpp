@@ -69,6 +69,40 @@ TEST(DoctorOnPartners, TellsOfOneThatCannotBeLoaded)
               "                        hint: copy it again\n");
 }
 
+TEST(DoctorOnPartners, NamesWhatALibraryNeedsAndDoesNotFind)
+{
+    const DoctorFolder folder;
+    folder.Write("word/lytsrc.dll",
+                 LibraryFile({"lytTreeStart", "lytTreeNext"}, machine64, {"libgcc_s_seh-1.dll", "libstdc++-6.dll"}));
+    EXPECT_EQ(
+        folder.Findings(),
+        "wrong    partners       word/lytsrc.dll: cannot be loaded: it needs libgcc_s_seh-1.dll, libstdc++-6.dll, "
+        "which Windows does not find; the catalogue stays empty\n"
+        "                        hint: link it statically, so that it needs nothing but Windows, or copy what it "
+        "needs beside the word processor's program\n");
+}
+
+TEST(DoctorOnPartners, TakesACutLibraryForADamagedOne)
+{
+    const DoctorFolder folder;
+    const std::string whole = folder.Read("word/lytsrc.dll");
+    folder.Write("word/lytsrc.dll", whole.substr(0, whole.size() - 1));
+    EXPECT_EQ(folder.Findings(),
+              "wrong    partners       word/lytsrc.dll: is no library, or is damaged or cannot be read; the catalogue "
+              "stays empty\n"
+              "                        hint: copy it again\n");
+}
+
+TEST(DoctorOnPartners, TellsOfAFunctionThatIsOneOfCpp)
+{
+    const DoctorFolder folder;
+    folder.Write("word/lytsrc.dll", LibraryFile({"_Z12lytTreeStartPKc", "lytTreeNext"}));
+    EXPECT_EQ(folder.Findings(),
+              "wrong    partners       lytsrc.dll has no function \"lytTreeStart\"; the catalogue stays empty\n"
+              "                        hint: \"_Z12lytTreeStartPKc\" is that function of C++; declare it extern "
+              "\"C\"\n");
+}
+
 TEST(DoctorOnPartners, TellsWhereAFunctionIsCalledThatIsNotThere)
 {
     const DoctorFolder folder;
