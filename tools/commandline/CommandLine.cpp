@@ -211,6 +211,12 @@ Request ReadCommandLine(const ProgramForm& program, const std::vector<std::strin
     return Reader(program, words).Read();
 }
 
+bool AsksDoctorForJson(const std::vector<std::string>& words)
+{
+    const std::vector<std::string> asked = {"--format", "json"};
+    return !words.empty() && words.front() == "doctor" && !std::ranges::search(words, asked).empty();
+}
+
 const OptionForm versionOption = {"--version", nullptr, false, "print the version"};
 
 std::string VersionText(const ProgramForm& program)

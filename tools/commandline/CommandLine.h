@@ -74,6 +74,8 @@ private:
 // Reads a command line without the program's name. An empty one, `help` and `--help` give the command "help"; after a
 // command, `--help` gives it with that command as its operand. `--version` gives the command "version".
 Request ReadCommandLine(const ProgramForm& program, const std::vector<std::string>& words);
+// Whether a command line asks for JSON of `doctor`, also one that cannot be understood.
+bool AsksDoctorForJson(const std::vector<std::string>& words);
 // What help prints: for the program, or for the command of that name.
 std::string HelpText(const ProgramForm& program);
 std::string HelpText(const ProgramForm& program, const std::string& command);

@@ -134,4 +134,9 @@ std::string JsonOf(const std::vector<ReportBlock>& blocks)
     return text + "]}\n";
 }
 
+std::string JsonOfRefusal(const std::string& reason)
+{
+    return "{\n  \"verdict\": \"not judged\",\n  \"message\": " + JsonText(reason) + "\n}\n";
+}
+
 } // namespace lytcall

@@ -28,5 +28,7 @@ std::string LabelOf(const std::string& line);
 bool ChangesFromRunToRun(const std::string& line);
 // The report as JSON in UTF-8: an object with the blocks, each with its title and lines. The lines are UTF-8, too.
 std::string JsonOf(const std::vector<ReportBlock>& blocks);
+// Why nothing was judged, as the verdict on a deployment.
+std::string JsonOfRefusal(const std::string& reason);
 
 } // namespace lytcall

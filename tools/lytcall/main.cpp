@@ -2,6 +2,7 @@
 #include "commandline/Finish.h"
 #include "commandline/Text.h"
 #include "lytcall/Commands.h"
+#include "lytcall/ReportText.h"
 #include "lytcall/Script.h"
 
 #include <cstdio>
@@ -46,7 +47,13 @@ int Tell(const std::exception& error, ExitCode code)
     return code;
 }
 
-// Nothing was judged when that fails.
+// Nothing was judged. Programs that have asked for JSON are told so.
+void TellRefusal(const std::vector<std::string>& words, const std::exception& error)
+{
+    if (commandline::AsksDoctorForJson(words))
+        std::printf("%s", lytcall::JsonOfRefusal(error.what()).c_str());
+}
+
 int JudgeDeployment(const std::vector<std::string>& words)
 {
     try
@@ -55,6 +62,7 @@ int JudgeDeployment(const std::vector<std::string>& words)
     }
     catch (const lytcall::CallError& error)
     {
+        TellRefusal(words, error);
         return Tell(error, notUnderstood);
     }
 }
@@ -92,6 +100,7 @@ int RunOrTell(const std::vector<std::string>& words)
     }
     catch (const commandline::UsageError& error)
     {
+        TellRefusal(words, error);
         Tell(error, notUnderstood);
         std::fprintf(stderr, "`lytcall --help` lists commands and options.\n");
         return notUnderstood;

@@ -1,6 +1,7 @@
 #include "lytdlg/Commands.h"
 
 #include "commandline/Text.h"
+#include "lytdlg/doctor/Diagnosis.h"
 #include "lytdlg/doctor/DoctorCommand.h"
 #include "lytdlg/draw/GraphCommand.h"
 #include "lytdlg/draw/PreviewCommand.h"
@@ -94,6 +95,8 @@ int Run(const std::vector<std::string>& words)
     }
     catch (const commandline::UsageError& error)
     {
+        if (commandline::AsksDoctorForJson(words))
+            PrintRefusalAsJson(error.what());
         Tell(error.what(), notUnderstood);
         std::fprintf(stderr, "`lytdlg --help` lists commands and options.\n");
         return notUnderstood;

@@ -1,5 +1,7 @@
 #include "LibraryFile.h"
 
+#include <iterator>
+
 namespace
 {
 
@@ -14,31 +16,42 @@ void Put(std::string& bytes, size_t place, size_t number, size_t size)
         bytes.at(place + index) = static_cast<char>(number >> (8 * index) & 0xFFU);
 }
 
-// The table, the addresses of the names, and the names.
+// The table, the addresses of the functions and of the names, the numbers of the functions, and the names.
 std::string ExportSection(const std::vector<std::string>& functions)
 {
-    std::string section(tableSize + functions.size() * 4, '\0');
-    Put(section, 24, functions.size(), 4);
-    Put(section, 32, sectionAddress + tableSize, 4);
-    for (size_t index = 0; index < functions.size(); ++index)
+    const size_t count = functions.size();
+    const size_t names = tableSize + count * 4;
+    const size_t numbers = names + count * 4;
+    std::string section(numbers + count * 2, '\0');
+    const size_t fields[] = {
+        1, count, count, sectionAddress + tableSize, sectionAddress + names, sectionAddress + numbers};
+    for (size_t index = 0; index < std::size(fields); ++index)
+        Put(section, 16 + index * 4, fields[index], 4);
+    for (size_t index = 0; index < count; ++index)
     {
-        Put(section, tableSize + index * 4, sectionAddress + section.size(), 4);
+        Put(section, tableSize + index * 4, sectionAddress + 0x8000, 4);
+        Put(section, names + index * 4, sectionAddress + section.size(), 4);
+        Put(section, numbers + index * 2, index, 2);
         section += functions[index] + '\0';
     }
     return section;
 }
 
-// An entry for each library, from which no function is taken, and an empty one; then the names. Gives where it begins.
+// An entry for each library, from which the first function is taken by its number, and an empty one; then for each two
+// numbers and the name. Gives where they begin.
 size_t AddImports(std::string& section, const std::vector<std::string>& needed)
 {
+    constexpr size_t firstFunction = 0x8000000000000001;
     const size_t start = section.size();
-    section.append((needed.size() + 1) * importSize + 8, '\0');
+    section.append((needed.size() + 1) * importSize, '\0');
     for (size_t index = 0; index < needed.size(); ++index)
     {
         const size_t entry = start + index * importSize;
-        Put(section, entry, sectionAddress + start + (needed.size() + 1) * importSize, 4);
+        Put(section, entry, sectionAddress + section.size(), 4);
+        Put(section, entry + 16, sectionAddress + section.size(), 4);
+        section.append(16, '\0');
+        Put(section, section.size() - 16, firstFunction, 8);
         Put(section, entry + 12, sectionAddress + section.size(), 4);
-        Put(section, entry + 16, sectionAddress + start + (needed.size() + 1) * importSize, 4);
         section += needed[index] + '\0';
     }
     return start;

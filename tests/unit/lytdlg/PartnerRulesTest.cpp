@@ -51,7 +51,7 @@ TEST(PartnerRules, TellOfALibraryThatNeedsAnotherOne)
 {
     const TestFolder folder;
     folder.Write("lytdata.dll", LibraryFile({"NextItem", "OpenMarked"}, machine64, {"kernel32.dll", "own.dll"}));
-    folder.Write("own.dll", LibraryFile({}, machine64, {"libstdc++-6.dll", "lyt64.dll"}));
+    folder.Write("own.dll", LibraryFile({"Own"}, machine64, {"libstdc++-6.dll", "lyt64.dll"}));
     EXPECT_EQ(
         TextsOfFindings(filled, {folder.Path()}),
         "example.dlg:45:23: warning partner-form: lytdata.dll cannot be loaded: it needs libstdc++-6.dll, which "
@@ -60,7 +60,7 @@ TEST(PartnerRules, TellOfALibraryThatNeedsAnotherOne)
         "                          ^~~~~~~\n"
         "    hint: link it statically, so that it needs nothing but Windows, or copy what it needs beside the word "
         "processor's program\n");
-    folder.Write("libstdc++-6.dll", LibraryFile({}));
+    folder.Write("libstdc++-6.dll", LibraryFile({"Throw"}));
     EXPECT_EQ(TextsOfFindings(filled, {folder.Path()}), "");
 }
 

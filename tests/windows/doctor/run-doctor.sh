@@ -13,10 +13,30 @@ key='HKLM\SOFTWARE\Microsoft\Windows\CurrentVersion\App Paths\Winword.exe'
 trap 'rm -rf "$folder"' EXIT
 
 winpath() { echo "Z:$PWD/$1" | tr / '\\'; }
-# Registers a word processor until the case is done.
+initKey='HKCR\LYTDOCUMENT\shell\open\IniPath'
+# register KEY TEXT: enters the default value of a key until the case is done.
 register() {
-    trap '"$wine_run" reg.exe delete "$key" /f >"$folder/registry"' EXIT
-    "$wine_run" reg.exe add "$key" /ve /d "$1" /f >"$folder/registry"
+    registered=$1
+    trap '"$wine_run" reg.exe delete "$registered" /f >"$folder/registry"' EXIT
+    "$wine_run" reg.exe add "$1" /ve /d "$2" /f >"$folder/registry"
+}
+# lock FILE: another program has the file open for itself until the case is done.
+lock() {
+    cat >lock.c <<'END'
+#include <windows.h>
+int main(int count, char** words)
+{
+    const HANDLE file = count > 1 ? CreateFileA(words[1], GENERIC_READ, 0, NULL, OPEN_EXISTING, 0, NULL) : NULL;
+    CloseHandle(CreateFileA("locked", GENERIC_WRITE, 0, NULL, CREATE_ALWAYS, 0, NULL));
+    for (int tries = 0; tries < 600 && GetFileAttributesA("locked") != INVALID_FILE_ATTRIBUTES; ++tries)
+        Sleep(100);
+    return file == NULL;
+}
+END
+    x86_64-w64-mingw32-gcc -s -o lock.exe lock.c
+    "$wine_run" ./lock.exe "$1" &
+    until [ -f locked ]; do sleep 0.1; done
+    trap 'rm locked; wait' EXIT
 }
 # Says that a file is for the older processors.
 patch_machine() {
@@ -36,7 +56,7 @@ END
     x86_64-w64-mingw32-g++ -shared -s $1 -o lytsrc.dll catalogue.cpp && rm catalogue.cpp
 }
 # Only what changes the verdict, each with its way out.
-findings() { awk '/^[a-z]/ { chosen = !/^(good|note) / } chosen'; }
+findings() { awk 'BEGIN { chosen = 1 } /^[a-z]/ { chosen = !/^(good|note) / } chosen'; }
 
 grep -v '^#' "$cases" >"$folder/cases"
 while IFS='|' read -r name breach words; do
@@ -54,11 +74,20 @@ while IFS='|' read -r name breach words; do
     )
     cd "$folder" && rm -rf deployed
     $choose <"$folder/output"
-done <"$folder/cases" | tr -d '\r' >"$folder/told"
-# The folder is another one each time.
-HERE=Z:$(echo "$folder/deployed" | tr / '\\') awk '{
-    for (here = ENVIRON["HERE"]; (place = index($0, here)) > 0;)
+done <"$folder/cases" | tr -d '\r' |
+    # The library is another one after each change.
+    sed -E 's/version [0-9.]+, SHA-256 [0-9a-f]{64}/version N, SHA-256 SUM/' >"$folder/told"
+# The folder is another one each time; JSON doubles its backslashes.
+HERE=Z:$(echo "$folder/deployed" | tr / '\\') awk '
+function without(here, place) {
+    while ((place = index($0, here)) > 0)
         $0 = substr($0, 1, place - 1) "HERE" substr($0, place + length(here))
+}
+{
+    here = ENVIRON["HERE"]
+    without(here)
+    gsub(/\\/, "&&", here)
+    without(here)
     print
 }' "$folder/told" >"$folder/actual"
 

@@ -3,6 +3,8 @@
 #include "Limit.h"
 #include "Scene.h"
 
+#include <filesystem>
+
 namespace
 {
 
@@ -139,6 +141,21 @@ void FolderThatIsTooLong(Scene& scene)
     EXPECT_EQ(attendant.Seen(), "no value present;");
 }
 
+void PlantedLibrary(Scene& scene)
+{
+    const std::filesystem::path before = std::filesystem::current_path();
+    const std::filesystem::path planted = scene.folder.Path() + "\\lyt.dll";
+    std::filesystem::copy_file(ProgramFolder() + "\\hostile.dll", planted);
+    std::filesystem::current_path(planted.parent_path());
+    scene.EndDialog(IDOK);
+    EXPECT_EQ(scene.ShowSymbol(), "2 key");
+    std::filesystem::current_path(before);
+    const HMODULE loaded = GetModuleHandleA("lyt.dll");
+    ASSERT_NE(loaded, nullptr);
+    // Its file goes with the scene.
+    FreeLibrary(loaded);
+}
+
 constexpr Limit fileRows[] = {
     {"`lyt.ini`, language file", "10 MB of lines", "read as any other, and the last section found", LongFiles},
     {"`lyt.ini`, language file", "a value of 10 MB", "1,023 and 74 characters of it are used", LongValue},
@@ -151,6 +168,10 @@ constexpr Limit fileRows[] = {
      "what the platform does not open is missing: \"no value present\" in place of texts, or message 207 for the "
      "description",
      FolderThatIsTooLong},
+    {"current folder", "a library `lyt.dll`, which no folder before it has",
+     "it is loaded, and its code runs; [deployment.md](deployment.md#libraries-that-somebody-has-planted) has the way "
+     "out",
+     PlantedLibrary},
 };
 
 } // namespace

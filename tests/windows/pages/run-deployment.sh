@@ -1,6 +1,6 @@
 #!/bin/sh
 # run-deployment.sh PAGE BUILD: lays out the deployment of docs/deployment.md on drive C: of the test prefix and looks at it:
-# partner libraries are found in the folders of the page's table, in that order; the log has the names that the page says;
+# the page's commands succeed; partner libraries are found in the folders of the page's table, in that order; the log has the names that the page says;
 # and each row of its last table takes a piece away and compares what lytcall prints to deployment.expected, and what the
 # report says to the row. With LYT_UPDATE set it writes that file.
 set -u
@@ -23,6 +23,16 @@ while read -r place; do
 done <folders
 report seen.txt
 grep -qix "LYT Resolve Version            : *" seen.txt || complain "a copy in none of the folders was found"
+
+# The commands as the page has them.
+lay_out
+grep '^    C:.*lytcall' "$page" >commands
+[ "$(wc -l <commands)" = 2 ] || complain "the page has other commands"
+while read -r command words; do
+    # shellcheck disable=SC2086  # a list of words
+    (cd "$drive/Inspection/documents" && WINEPATH=$search_path "$build/wine-run.sh" "$command.exe" $words) >told ||
+        { cat told; complain "no success: $command $words"; }
+done <commands
 
 # The log, with the level that asks for one.
 lay_out

@@ -22,11 +22,18 @@ void JudgeLog(const Deployment& deployment, const Configuration& configuration, 
 void JudgeTexts(const Deployment& deployment, const Configuration& configuration, Diagnosis& diagnosis);
 // The descriptions that the library opens by itself, and all that `check` finds in any.
 void JudgeDialogs(const Deployment& deployment, const std::list<Description>& descriptions, Diagnosis& diagnosis);
+// The fonts that `lyt.ini` names are installed, as far as this machine tells.
+void JudgeFonts(const Deployment& deployment, const Configuration& configuration, Diagnosis& diagnosis);
+// Files that are not found because of their names.
+void JudgeNames(const Deployment& deployment, Diagnosis& diagnosis);
 // The libraries that the library and the descriptions call. Gives the files that are loaded.
 std::vector<std::filesystem::path> JudgePartners(const Deployment& deployment,
                                                  const std::list<Description>& descriptions, Diagnosis& diagnosis);
 // Files that are write-protected, or marked as downloaded: those of the deployment and the partners.
 void JudgeMarks(const Deployment& deployment, const std::vector<std::filesystem::path>& partners, Diagnosis& diagnosis);
+
+// A file that cannot be read: somebody has it open, or the users may not.
+void AddUnreadable(Verdict verdict, const char* about, const std::filesystem::path& file, Diagnosis& diagnosis);
 
 // The descriptions of the deployment that can be read, in the order of their names.
 std::list<Description> ReadDescriptions(const Deployment& deployment);

@@ -5,6 +5,17 @@
 namespace lytdlg
 {
 
+std::vector<const LanguageKey*> Configuration::KeysOf(const std::string& section) const
+{
+    std::vector<const LanguageKey*> keys;
+    for (const LanguageKey& key : m_file.Keys())
+    {
+        if (key.isReached && IsSameName(key.section, section))
+            keys.push_back(&key);
+    }
+    return keys;
+}
+
 int Configuration::LogLevel() const
 {
     return NumberOf("LogLevel", "level");

@@ -19,6 +19,8 @@ public:
     {
         return m_file.Find(section, key);
     }
+    // In the order of the file.
+    std::vector<const LanguageKey*> KeysOf(const std::string& section) const;
     // Empty when none is set.
     std::string Language() const { return ValueOf("global", "Current Language"); }
     // As the library counts it: what is no number is 0.

@@ -61,6 +61,18 @@ void JudgeCatalogueSize(const std::filesystem::path& file, const Configuration& 
     }
 }
 
+// A report takes that folder, and the library keeps to it.
+void JudgeRegisteredFolder(const std::filesystem::path& file, Diagnosis& diagnosis)
+{
+    const std::filesystem::path folder = RegisteredConfigurationFolder();
+    std::error_code ignored;
+    if (!folder.empty() && !std::filesystem::equivalent(folder, std::filesystem::absolute(file).parent_path(), ignored))
+        diagnosis.Add(Verdict::Warning, aboutConfiguration, folder,
+                      "is the folder that HKCR\\LYTDOCUMENT\\shell\\open\\IniPath names; once somebody has gathered a "
+                      "report, the library looks for lyt.ini there",
+                      "remove that key of the registry, or let it name the folder of " + file.string());
+}
+
 } // namespace
 
 void JudgeConfiguration(const Deployment& deployment, const Configuration& configuration, Diagnosis& diagnosis)
@@ -76,8 +88,7 @@ void JudgeConfiguration(const Deployment& deployment, const Configuration& confi
     }
     if (!ReadWholeFile(file))
     {
-        diagnosis.Add(Verdict::Wrong, aboutConfiguration, file, "cannot be read",
-                      "give the users the right to read it");
+        AddUnreadable(Verdict::Wrong, aboutConfiguration, file, diagnosis);
         return;
     }
     diagnosis.Add(Verdict::Good, aboutConfiguration, file, "is there");
@@ -92,6 +103,7 @@ void JudgeConfiguration(const Deployment& deployment, const Configuration& confi
                        {1, 0, 1},
                        "a byte order mark stands before the first line, and hides it",
                        saveAsAnsi});
+    JudgeRegisteredFolder(file, diagnosis);
     JudgeLanguage(deployment, configuration, diagnosis);
     JudgeCatalogueSize(file, configuration, diagnosis);
 }

@@ -17,6 +17,15 @@ namespace
 
 constexpr int deepest = 3;
 
+// The library opens no file with a longer name. The prefix lifts that for the system alone.
+constexpr size_t longestPath = 259;
+
+bool IsTooLong(const fs::path& path)
+{
+    std::error_code ignored;
+    return fs::absolute(path, ignored).u16string().size() > longestPath;
+}
+
 // A folder that was named twice, or that holds another one that was named, is gone through once.
 class Finder
 {
@@ -30,7 +39,9 @@ public:
             if (entry.depth() >= deepest)
                 entry.disable_recursion_pending();
             std::error_code ignored;
-            if (entry->is_regular_file(ignored) && m_seen.insert(fs::canonical(entry->path(), ignored)).second)
+            if (IsTooLong(entry->path()))
+                tooLong.push_back(entry->path());
+            else if (entry->is_regular_file(ignored) && m_seen.insert(fs::canonical(entry->path(), ignored)).second)
                 Take(entry->path());
         }
     }
@@ -39,6 +50,9 @@ public:
     std::vector<fs::path> ownLibraries;
     std::vector<fs::path> configurations;
     std::vector<fs::path> dialogFolders;
+    std::vector<fs::path> hiddenEndings;
+    std::vector<fs::path> tooLong;
+    std::vector<fs::path> checksums;
 
 private:
     void Take(const fs::path& file)
@@ -52,6 +66,16 @@ private:
         else if (IsSameName(extension, ".dlg") &&
                  std::ranges::find(dialogFolders, file.parent_path()) == dialogFolders.end())
             dialogFolders.push_back(file.parent_path());
+        else if (IsSameName(name, "SHA256SUMS"))
+            checksums.push_back(file);
+        else if (IsSameName(extension, ".txt") && IsOfDeployment(file.stem()))
+            hiddenEndings.push_back(file);
+    }
+
+    static bool IsOfDeployment(const fs::path& name)
+    {
+        const std::string extension = name.extension().string();
+        return IsSameName(extension, ".dlg") || IsSameName(extension, ".nls") || IsSameName(name.string(), "lyt.ini");
     }
 
     std::set<fs::path> m_seen;
@@ -83,11 +107,30 @@ std::vector<SearchFolder> SearchFoldersOf(const Request& request, const Host& ho
         return folders;
     }
     for (const std::string& folder : request.Texts("--partners"))
-        folders.push_back({PathOf(folder), "a folder of --partners"});
+        folders.push_back(SearchFolderOf(PathOf(folder).native(), "a folder of --partners"));
     return folders;
 }
 
+// As the library is given it, without the prefix for long names.
+fs::path FolderNamed(std::string name)
+{
+    const std::string prefix = "\\\\?\\";
+    if (name.starts_with(prefix))
+        name = IsSameName(name.substr(prefix.size(), 4), "UNC\\") ? "\\\\" + name.substr(prefix.size() + 4)
+                                                                  : name.substr(prefix.size());
+    if (IsTooLong(PathOf(name)))
+        throw commandline::UsageError("the name of " + name + " is longer than the " + std::to_string(longestPath) +
+                                      " characters that Windows allows the library; move the deployment");
+    return PathOf(name);
+}
+
 } // namespace
+
+SearchFolder SearchFolderOf(fs::path::string_type text, const char* name)
+{
+    const bool isQuoted = std::erase(text, '"') > 0;
+    return {text, name, false, isQuoted};
+}
 
 Deployment FindDeployment(const Request& request)
 {
@@ -95,9 +138,9 @@ Deployment FindDeployment(const Request& request)
     for (const std::string& folder : request.operands)
     {
         std::error_code ignored;
-        if (!fs::is_directory(PathOf(folder), ignored))
+        if (!fs::is_directory(FolderNamed(folder), ignored))
             throw commandline::UsageError("there is no folder " + folder + "; name the folders of the deployment");
-        finder.GoThrough(PathOf(folder));
+        finder.GoThrough(FolderNamed(folder));
     }
     const auto pieceOf = [&](const char* option, const std::vector<fs::path>& found) {
         return request.Has(option) ? Piece{PathOf(request.Text(option, "")), {}} : PieceOf(found);
@@ -109,6 +152,9 @@ Deployment FindDeployment(const Request& request)
         deployment.configuration.chosen /= "lyt.ini";
     deployment.dialogs = pieceOf("--dialogs", finder.dialogFolders);
     deployment.libraries = std::move(finder.libraries);
+    deployment.hiddenEndings = std::move(finder.hiddenEndings);
+    deployment.tooLong = std::move(finder.tooLong);
+    deployment.checksums = std::move(finder.checksums);
     std::ranges::sort(deployment.libraries, IsBefore);
     deployment.document = request.Text("--document", "");
     deployment.defines = request.Texts("--define");

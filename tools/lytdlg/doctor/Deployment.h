@@ -21,7 +21,10 @@ struct Deployment
     Piece dialogs;       // the folder of the descriptions
     // Every library in the folders of the deployment.
     std::vector<std::filesystem::path> libraries;
-    std::string document; // empty when none was named
+    std::vector<std::filesystem::path> hiddenEndings; // that would be found without the `.txt` at their ends
+    std::vector<std::filesystem::path> tooLong;       // files and folders whose names the library cannot open
+    std::vector<std::filesystem::path> checksums;     // files SHA256SUMS
+    std::string document;                             // empty when none was named
     std::vector<std::string> defines;
     Host host;
     std::vector<SearchFolder> search; // in which the platform looks for partner libraries, in its order

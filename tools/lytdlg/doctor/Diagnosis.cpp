@@ -5,6 +5,9 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <map>
+#include <tuple>
+#include <utility>
 
 namespace lytdlg
 {
@@ -14,6 +17,17 @@ namespace
 
 constexpr int verdictWidth = 8;
 constexpr int aboutWidth = 14;
+
+// More than these are told in one line.
+constexpr size_t mostOfAKind = 3;
+constexpr size_t toldAlready = 0;
+
+using ObservedKind = std::tuple<Verdict, std::string, std::string>;
+
+ObservedKind KindOf(const Observation& observation)
+{
+    return {observation.verdict, observation.about, observation.kind};
+}
 
 // The path with the place in it, and what separates both from the message.
 std::string LeadOf(const Observation& observation)
@@ -76,12 +90,27 @@ Verdict Diagnosis::Worst() const
     return worst != m_observations.end() ? worst->verdict : Verdict::Good;
 }
 
+bool Diagnosis::IsWrong(const std::string& about) const
+{
+    return std::ranges::any_of(m_observations, [&](const Observation& each)
+                               { return each.verdict == Verdict::Wrong && each.about == about; });
+}
+
 void PrintAsText(const Diagnosis& diagnosis)
 {
+    std::map<ObservedKind, size_t> counts;
+    for (const Observation& observation : diagnosis.All())
+        ++counts[KindOf(observation)];
     for (const Observation& observation : diagnosis.All())
     {
+        size_t& count = counts[KindOf(observation)];
+        const bool isOneOfMany = !observation.kind.empty() && (count > mostOfAKind || count == toldAlready);
+        if (isOneOfMany && count == toldAlready)
+            continue;
+        const std::string more =
+            isOneOfMany ? " (and " + std::to_string(std::exchange(count, toldAlready) - 1) + " more of this kind)" : "";
         std::printf("%-*s %-*s ", verdictWidth, WordOf(observation.verdict), aboutWidth, observation.about);
-        commandline::PrintLine(LeadOf(observation) + observation.message);
+        commandline::PrintLine(LeadOf(observation) + observation.message + more);
         if (!observation.hint.empty())
             commandline::PrintLine(std::string(verdictWidth + 1 + aboutWidth, ' ') + " hint: " + observation.hint);
     }
@@ -98,6 +127,11 @@ void PrintAsJson(const Diagnosis& diagnosis)
                {"wrong", diagnosis.CountOf(Verdict::Wrong)},
                {"warnings", diagnosis.CountOf(Verdict::Warning)},
                {"observations", observations}});
+}
+
+void PrintRefusalAsJson(const std::string& reason)
+{
+    PrintJson({{"verdict", "not judged"}, {"message", reason}});
 }
 
 std::string Counted(size_t count, const std::string& one, const std::string& many)

@@ -28,6 +28,7 @@ struct Observation
     ClytSpan place;         // in the file; line 0 for the whole of it
     std::string message;    // this and what follows in UTF-8
     std::string hint;       // the way out; empty when nothing is to be done
+    std::string kind = {};  // what many have in common; empty for one that is always told by itself
 };
 
 class Diagnosis
@@ -43,6 +44,7 @@ public:
 
     const std::vector<Observation>& All() const { return m_observations; }
     size_t CountOf(Verdict verdict) const;
+    bool IsWrong(const std::string& about) const;
     // The gravest that was met.
     Verdict Worst() const;
 
@@ -50,9 +52,12 @@ private:
     std::vector<Observation> m_observations;
 };
 
-// For people, a line for each observation with the way out below it; for programs, one object of JSON. To standard output.
+// For people, a line for each observation, or for many of a kind, with the way out below it; for programs, one object of
+// JSON. To standard output.
 void PrintAsText(const Diagnosis& diagnosis);
 void PrintAsJson(const Diagnosis& diagnosis);
+// For programs as well: why nothing was judged.
+void PrintRefusalAsJson(const std::string& reason);
 
 // "1 file", "2 files".
 std::string Counted(size_t count, const std::string& one, const std::string& many);

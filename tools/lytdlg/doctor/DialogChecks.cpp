@@ -32,7 +32,7 @@ void JudgeReadable(const std::filesystem::path& folder, Diagnosis& diagnosis)
     for (const std::filesystem::path& file : FilesIn(folder, ".dlg"))
     {
         if (!ReadWholeFile(file))
-            diagnosis.Add(Verdict::Wrong, aboutDialogs, file, "cannot be read", "give the users the right to read it");
+            AddUnreadable(Verdict::Wrong, aboutDialogs, file, diagnosis);
     }
 }
 
@@ -51,7 +51,8 @@ void JudgeDescription(const Description& description, const Surroundings& surrou
             continue;
         diagnosis.Add({finding.rule->level == Level::Error ? Verdict::Wrong : Verdict::Warning, aboutDialogs,
                        PathOf(finding, description), finding.place,
-                       ToUtf8(finding.message) + " (" + finding.rule->id + ")", ToUtf8(finding.hint)});
+                       ToUtf8(finding.message) + " (" + finding.rule->id + ")", ToUtf8(finding.hint),
+                       finding.rule->id});
     }
 }
 

@@ -23,6 +23,8 @@ Diagnosis Examine(const Deployment& deployment)
     JudgeConfiguration(deployment, configuration, diagnosis);
     JudgeLog(deployment, configuration, diagnosis);
     JudgeTexts(deployment, configuration, diagnosis);
+    JudgeFonts(deployment, configuration, diagnosis);
+    JudgeNames(deployment, diagnosis);
     JudgeDialogs(deployment, descriptions, diagnosis);
     const std::vector<std::filesystem::path> partners = JudgePartners(deployment, descriptions, diagnosis);
     JudgeScreen(deployment, diagnosis);

@@ -1,4 +1,5 @@
 #include "lytdlg/doctor/Checks.h"
+#include "lytdlg/doctor/Checksum.h"
 
 #include "lytdlg/judge/ExportTable.h"
 #include "lytdlg/judge/PartnerCalls.h"
@@ -31,13 +32,30 @@ void JudgeFunctions(const std::filesystem::path& file, const ExportTable& table,
                       "it is another library, or of another version; copy the lyt64.dll that belongs to these tools");
 }
 
-void JudgeFile(const std::filesystem::path& file, Diagnosis& diagnosis)
+// Against the checksums that were handed out with it.
+void JudgeChecksum(const Deployment& deployment, const std::string& bytes, Diagnosis& diagnosis)
 {
+    const std::filesystem::path& file = deployment.library.chosen;
+    const std::string own = ChecksumOf(bytes);
+    const std::string version = VersionOf(bytes);
+    diagnosis.Add(Verdict::Good, aboutLibrary, file,
+                  (version.empty() ? "without a version" : "version " + version) + ", SHA-256 " + own);
+    for (const std::filesystem::path& sums : deployment.checksums)
+    {
+        const std::optional<std::string> listed = ListedChecksumOf(sums, file);
+        if (listed && !IsSameName(*listed, own))
+            diagnosis.Add(Verdict::Wrong, aboutLibrary, file, "is not the file that " + sums.string() + " tells of",
+                          "it is damaged, or of another version; copy it again");
+    }
+}
+
+void JudgeFile(const Deployment& deployment, Diagnosis& diagnosis)
+{
+    const std::filesystem::path& file = deployment.library.chosen;
     const std::optional<std::string> bytes = ReadWholeFile(file);
     if (!bytes)
     {
-        diagnosis.Add(Verdict::Wrong, aboutLibrary, file, "cannot be read",
-                      "check the name, and give the users the right to read it");
+        AddUnreadable(Verdict::Wrong, aboutLibrary, file, diagnosis);
         return;
     }
     const ExportTable table = ReadExports(*bytes);
@@ -51,6 +69,7 @@ void JudgeFile(const std::filesystem::path& file, Diagnosis& diagnosis)
         break;
     case LibraryForm::Library: JudgeFunctions(file, table, diagnosis); break;
     }
+    JudgeChecksum(deployment, *bytes, diagnosis);
 }
 
 } // namespace
@@ -63,7 +82,7 @@ void JudgeLibrary(const Deployment& deployment, Diagnosis& diagnosis)
                       "copy it there, or name it with --library");
         return;
     }
-    JudgeFile(deployment.library.chosen, diagnosis);
+    JudgeFile(deployment, diagnosis);
     for (const std::filesystem::path& other : deployment.library.others)
         diagnosis.Add(Verdict::Warning, aboutLibrary, other, "is a second copy, and the macros may load either",
                       "remove it, or name the one that is meant with --library");

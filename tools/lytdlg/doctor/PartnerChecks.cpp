@@ -60,7 +60,10 @@ std::vector<FoundCopy> CopiesOf(const std::string& name, const std::vector<Searc
         return copies;
     }
     for (const SearchFolder& folder : folders)
-        add(FileIn(folder.folder, fileName), folder);
+    {
+        if (!folder.isQuoted)
+            add(FileIn(folder.folder, fileName), folder);
+    }
     return copies;
 }
 
@@ -69,7 +72,10 @@ LoadSurroundings LoadSurroundingsOf(const Deployment& deployment)
 {
     LoadSurroundings surroundings = {{}, deployment.library.chosen};
     for (const SearchFolder& each : deployment.search)
-        surroundings.folders.push_back(each.folder);
+    {
+        if (!each.isQuoted)
+            surroundings.folders.push_back(each.folder);
+    }
     return surroundings;
 }
 
@@ -101,6 +107,16 @@ public:
 private:
     void TellMissing()
     {
+        const auto quoted = std::ranges::find_if(m_deployment.search, [&](const SearchFolder& each)
+                                                 { return each.isQuoted && !FileIn(each.folder, m_fileName).empty(); });
+        if (quoted != m_deployment.search.end() && !HasFolder(m_wanted.name))
+        {
+            m_diagnosis.Add(m_wanted.whenMissing, aboutPartners, FileIn(quoted->folder, m_fileName),
+                            std::string("is not found by Windows, since quotes stand round ") + quoted->name + "; " +
+                                m_wanted.consequence,
+                            "take the quotes away there");
+            return;
+        }
         const auto own = std::ranges::find_if(m_deployment.libraries, [&](const fs::path& file)
                                               { return IsSameName(file.filename().string(), m_fileName); });
         const bool isHere = own != m_deployment.libraries.end();
@@ -220,6 +236,38 @@ private:
     ExportTable m_table;
 };
 
+// Whoever hands out a document can put a library beside it, and Windows loads one from the current folder that no folder
+// before has. Of partners in the current folder there is a finding already.
+void JudgePlanted(const Deployment& deployment, const std::vector<WantedLibrary>& wanted, Diagnosis& diagnosis)
+{
+    const auto judge = [&](const fs::path& folder, const std::string& name)
+    {
+        const auto isSearched = [&](const SearchFolder& each)
+        {
+            std::error_code ignored;
+            return !each.isCurrent && fs::equivalent(each.folder, folder, ignored);
+        };
+        const fs::path file = FileIn(folder, name);
+        if (!file.empty() && std::ranges::none_of(deployment.search, isSearched))
+            diagnosis.Add(Verdict::Warning, aboutPartners, file,
+                          "lies in the current folder or in that of the document, from where Windows may load it",
+                          "remove it, unless you know who put it there, and keep partners in folders that users cannot "
+                          "write");
+    };
+    const std::string companion = "lyt.dll";
+    for (const SearchFolder& each : deployment.search)
+    {
+        if (each.isCurrent)
+            judge(each.folder, companion);
+    }
+    if (deployment.document.empty())
+        return;
+    const fs::path folder = fs::absolute(PathOf(deployment.document)).parent_path();
+    judge(folder, companion);
+    for (const WantedLibrary& each : wanted)
+        judge(folder, ToUtf8(LibraryFileName(each.name)));
+}
+
 } // namespace
 
 std::vector<fs::path> JudgePartners(const Deployment& deployment, const std::list<Description>& descriptions,
@@ -233,7 +281,9 @@ std::vector<fs::path> JudgePartners(const Deployment& deployment, const std::lis
                       "name the word processor's program with --host, and the folders of PATH with --partners");
         return loaded;
     }
-    for (const WantedLibrary& wanted : WantedLibraries(descriptions))
+    const std::vector<WantedLibrary> all = WantedLibraries(descriptions);
+    JudgePlanted(deployment, all, diagnosis);
+    for (const WantedLibrary& wanted : all)
     {
         const fs::path file = PartnerJudge(deployment, wanted, diagnosis).Judge();
         if (!file.empty())

@@ -112,8 +112,8 @@ void JudgeControls(const std::filesystem::path& library, Diagnosis& diagnosis)
 void JudgeScreen(const Deployment& deployment, Diagnosis& diagnosis)
 {
     JudgeResolution(diagnosis);
-    std::error_code ignored;
-    if (std::filesystem::exists(deployment.library.chosen, ignored))
+    // Another library, or one that cannot be loaded, asks for no controls.
+    if (!diagnosis.IsWrong("library") && !diagnosis.IsWrong("loading"))
         JudgeControls(deployment.library.chosen, diagnosis);
 }
 

@@ -37,7 +37,8 @@ public:
     {
         if (!ReadWholeFile(PathOf(m_file.FileName())))
         {
-            Tell(m_whenMissing, {}, "cannot be read", "give the users the right to read it");
+            m_isGood = false;
+            AddUnreadable(m_whenMissing, aboutTexts, PathOf(m_file.FileName()), m_diagnosis);
             return;
         }
         for (const LibraryText& text : LibraryTexts())
@@ -56,21 +57,22 @@ private:
         else
             Tell(m_whenMissing, EndOf(text.section),
                  "the text " + NameOf(text) + " is missing, and \"no value present\" is shown in its place",
-                 "add to the section: " + SampleOf(text));
+                 "add to the section: " + SampleOf(text), "missing in ");
     }
 
     void JudgeKey(const LibraryText& text, const LanguageKey& key)
     {
         if (key.text.empty())
-            Tell(Verdict::Warning, key.place, "the text " + NameOf(text) + " is empty", "write " + SampleOf(text));
+            Tell(Verdict::Warning, key.place, "the text " + NameOf(text) + " is empty", "write " + SampleOf(text),
+                 "empty in ");
         else if (key.text.size() > longestLanguageText)
             Tell(Verdict::Warning, key.place,
                  "the text " + NameOf(text) + " has " + std::to_string(key.text.size()) + " characters, of which " +
                      std::to_string(longestLanguageText) + " are shown",
-                 "make it shorter");
+                 "make it shorter", "too long in ");
         else if (CountOf(key.text, argumentMark) < CountOf(SampleOf(text), argumentMark))
             Tell(Verdict::Warning, key.place, "the text " + NameOf(text) + " has no place for what it is about",
-                 "write '' there, as in " + SampleOf(text));
+                 "write '' there, as in " + SampleOf(text), "without a place in ");
     }
 
     void TellOfSection(const std::string& section)
@@ -84,10 +86,13 @@ private:
              "copy the section from a language file of the samples");
     }
 
-    void Tell(Verdict verdict, const ClytSpan& place, const std::string& message, const std::string& hint)
+    // Texts of one file that lack the same are of one kind.
+    void Tell(Verdict verdict, const ClytSpan& place, const std::string& message, const std::string& hint,
+              const std::string& kind = "")
     {
         m_isGood = m_isGood && verdict == Verdict::Good;
-        m_diagnosis.Add({verdict, aboutTexts, m_file.FileName(), place, message, hint});
+        m_diagnosis.Add({verdict, aboutTexts, m_file.FileName(), place, message, hint,
+                         kind.empty() ? "" : kind + m_file.FileName()});
     }
 
     // The last line of a section: what is missing belongs below it.

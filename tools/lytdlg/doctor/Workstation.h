@@ -4,6 +4,7 @@
 #include "lytdlg/doctor/Diagnosis.h"
 
 #include <filesystem>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -22,13 +23,23 @@ struct SearchFolder
     std::filesystem::path folder;
     const char* name;       // as messages tell it
     bool isCurrent = false; // the current folder, which is another one at another time
+    bool isQuoted = false;  // quotes stand round it, so that the platform does not find it
 };
+// A folder as PATH names it.
+SearchFolder SearchFolderOf(std::filesystem::path::string_type text, const char* name);
 
 // The word processor that is registered; without one this program stands for it, where that makes sense.
 Host HostOfWorkstation();
 // Where the platform looks for a library after the folder of the program, in its order. None natively: there the folders of
 // the workstation are not known.
 std::vector<SearchFolder> SystemSearchFolders();
+
+// Whether another program has the file open and lets nobody read it.
+bool IsLocked(const std::filesystem::path& file);
+// The folder of `lyt.ini` that the registry leads to when a report is gathered; empty without one.
+std::filesystem::path RegisteredConfigurationFolder();
+// Whether the system has a font of that name, in the ANSI code page; nothing where that is not known.
+std::optional<bool> HasFont(const std::string& name);
 
 struct Deployment;
 class Configuration;

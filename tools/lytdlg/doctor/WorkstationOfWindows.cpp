@@ -12,23 +12,18 @@ namespace fs = std::filesystem;
 namespace
 {
 
-fs::path RegisteredWordProcessor()
+// The text of a key's default value; empty without one.
+std::wstring RegisteredText(HKEY root, const wchar_t* key)
 {
-    std::wstring program =
-        AskedPath(
-            [](wchar_t* buffer, DWORD length) -> DWORD
-            {
-                constexpr DWORD bytes = sizeof(wchar_t);
-                DWORD size = length * bytes;
-                const LSTATUS failure = RegGetValueW(
-                    HKEY_LOCAL_MACHINE, L"SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\App Paths\\Winword.exe",
-                    nullptr, RRF_RT_REG_SZ, nullptr, buffer, &size);
-                return failure == ERROR_SUCCESS ? size / bytes - 1 : 0;
-            })
-            .wstring();
-    // Quotes may stand round it.
-    std::erase(program, L'"');
-    return program;
+    return AskedPath(
+               [&](wchar_t* buffer, DWORD length) -> DWORD
+               {
+                   constexpr DWORD bytes = sizeof(wchar_t);
+                   DWORD size = length * bytes;
+                   const LSTATUS failure = RegGetValueW(root, key, nullptr, RRF_RT_REG_SZ, nullptr, buffer, &size);
+                   return failure == ERROR_SUCCESS ? size / bytes - 1 : 0;
+               })
+        .wstring();
 }
 
 // An empty piece of PATH names no folder.
@@ -40,7 +35,7 @@ void AddFoldersOfPath(std::vector<SearchFolder>& folders)
     {
         const size_t end = std::min(all.find(L';', start), all.size());
         if (end > start)
-            folders.push_back({all.substr(start, end - start), "a folder of PATH"});
+            folders.push_back(SearchFolderOf(all.substr(start, end - start), "a folder of PATH"));
         start = end + 1;
     }
 }
@@ -49,7 +44,10 @@ void AddFoldersOfPath(std::vector<SearchFolder>& folders)
 
 Host HostOfWorkstation()
 {
-    const fs::path registered = RegisteredWordProcessor();
+    std::wstring registered =
+        RegisteredText(HKEY_LOCAL_MACHINE, L"SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\App Paths\\Winword.exe");
+    // Quotes may stand round it.
+    std::erase(registered, L'"');
     if (!registered.empty())
         return {registered, true};
     return {AskedPath([](wchar_t* buffer, DWORD size) { return GetModuleFileNameW(nullptr, buffer, size); }), false};
@@ -66,6 +64,39 @@ std::vector<SearchFolder> SystemSearchFolders()
     };
     AddFoldersOfPath(folders);
     return folders;
+}
+
+bool IsLocked(const fs::path& file)
+{
+    constexpr DWORD sharedWithAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+    const HANDLE opened = CreateFileW(file.c_str(), GENERIC_READ, sharedWithAll, nullptr, OPEN_EXISTING, 0, nullptr);
+    if (opened == INVALID_HANDLE_VALUE)
+        return GetLastError() == ERROR_SHARING_VIOLATION;
+    CloseHandle(opened);
+    return false;
+}
+
+fs::path RegisteredConfigurationFolder()
+{
+    return RegisteredText(HKEY_CLASSES_ROOT, L"LYTDOCUMENT\\shell\\open\\IniPath");
+}
+
+std::optional<bool> HasFont(const std::string& name)
+{
+    LOGFONTA wanted = {};
+    wanted.lfCharSet = DEFAULT_CHARSET;
+    if (name.empty() || name.size() >= sizeof wanted.lfFaceName)
+        return false;
+    name.copy(static_cast<char*>(wanted.lfFaceName), sizeof wanted.lfFaceName - 1);
+    const CClientDC screen(nullptr);
+    bool isFound = false;
+    const auto note = [](const LOGFONTA*, const TEXTMETRICA*, DWORD, LPARAM target)
+    {
+        *reinterpret_cast<bool*>(target) = true;
+        return 0;
+    };
+    EnumFontFamiliesExA(screen.m_hDC, &wanted, note, reinterpret_cast<LPARAM>(&isFound), 0);
+    return isFound;
 }
 
 } // namespace lytdlg

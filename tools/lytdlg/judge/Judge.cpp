@@ -71,7 +71,7 @@ void RemoveWhatIsNotKnown(const DescriptionText& text, Findings& findings)
 
 Surroundings SurroundingsOf(const std::string& folder, const std::vector<std::string>& partners)
 {
-    return {folder, partners, LanguageFiles(PathOf(folder)), FolderTexts(folder)};
+    return {folder, std::make_shared<PartnerLibraries>(partners), LanguageFiles(PathOf(folder)), FolderTexts(folder)};
 }
 
 const std::string& PathOf(const Finding& finding, const Description& description)

@@ -5,7 +5,10 @@
 #include "lytdlg/judge/Description.h"
 #include "lytdlg/judge/Finding.h"
 #include "lytdlg/judge/FolderTexts.h"
+#include "lytdlg/judge/PartnerLibraries.h"
 #include "lytdlg/text/LanguageFiles.h"
+
+#include <memory>
 
 namespace lytdlg
 {
@@ -13,8 +16,8 @@ namespace lytdlg
 // What stands round a description. Read once for all descriptions of a folder.
 struct Surroundings
 {
-    std::string folder;                // of the description, without a `\` or `/` at its end; empty for a text alone
-    std::vector<std::string> partners; // folders that may hold libraries
+    std::string folder; // of the description, without a `\` or `/` at its end; empty for a text alone
+    std::shared_ptr<PartnerLibraries> partners;
     LanguageFiles texts;
     FolderTexts descriptions;
 };

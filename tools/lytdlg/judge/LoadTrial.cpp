@@ -34,17 +34,20 @@ class MissingLibraries
 public:
     explicit MissingLibraries(const LoadSurroundings& surroundings) : m_folders(surroundings.folders) {}
 
-    std::vector<std::string> Of(const ExportTable& table)
+    void LookFor(const ExportTable& table)
     {
         for (const std::string& name : table.needed)
             Look(name);
-        return m_missing;
     }
+    const std::vector<std::string>& All() const { return m_missing; }
+    // The library itself, which is there in the word processor.
+    bool NeedOwn() const { return m_needOwn; }
 
 private:
     void Look(const std::string& name)
     {
         // The platform makes such a name up for a library of another one.
+        m_needOwn = m_needOwn || IsOwnLibrary(name);
         if (IsOwnLibrary(name) || StartsWithAny(name, {"api-ms-", "ext-ms-"}) || IsOneOf(m_seen, name))
             return;
         m_seen.push_back(name);
@@ -55,7 +58,7 @@ private:
         if (folder == m_folders.end())
             m_missing.push_back(name);
         else
-            Of(ReadExports(ReadWholeFile(FileIn(*folder, name)).value_or("")));
+            LookFor(ReadExports(ReadWholeFile(FileIn(*folder, name)).value_or("")));
     }
 
     static bool IsOneOf(const std::vector<std::string>& names, const std::string& name)
@@ -70,6 +73,7 @@ private:
     const std::vector<fs::path>& m_folders; // of the caller
     std::vector<std::string> m_seen;
     std::vector<std::string> m_missing;
+    bool m_needOwn = false;
 };
 
 LoadFailure FailureOfMissing(const std::vector<std::string>& missing)
@@ -85,15 +89,16 @@ LoadFailure FailureOfMissing(const std::vector<std::string>& missing)
 std::optional<LoadFailure> TryToLoad(const fs::path& library, const ExportTable& table,
                                      const LoadSurroundings& surroundings)
 {
-    std::vector<std::string> missing = MissingLibraries(surroundings).Of(table);
+    MissingLibraries libraries(surroundings);
+    libraries.LookFor(table);
+    std::vector<std::string> missing = libraries.All();
     const std::optional<unsigned long> error = LoadErrorOf(library, surroundings);
     if (!error)
         std::erase_if(missing, [](const std::string& name) { return !StartsWithAny(name, {"lib", "cyg", "msys-"}); });
     if ((!error || error == libraryMissing) && !missing.empty())
         return FailureOfMissing(missing);
-    // One that needs lyt64.dll itself finds it in the word processor.
-    const bool needsOwn = surroundings.loaded.empty() && std::ranges::any_of(table.needed, IsOwnLibrary);
-    if (!error || error == 0UL || (error == libraryMissing && needsOwn))
+    const bool lacksOwn = libraries.NeedOwn() && surroundings.loaded.empty();
+    if (!error || error == 0UL || (error == libraryMissing && lacksOwn))
         return std::nullopt;
     return LoadFailure{ReasonOfLoadError(*error),
                        "ask its maker what it needs; what guards this machine may have to allow it"};

@@ -10,7 +10,6 @@
 #include <array>
 #include <cstdio>
 #include <iterator>
-#include <map>
 
 namespace lytdlg
 {
@@ -71,12 +70,6 @@ void SearchIn(const fs::path& folder)
 
 std::optional<unsigned long> LoadErrorOf(const fs::path& library, const LoadSurroundings& surroundings)
 {
-    // A library that several descriptions call is tried once, unless it has been replaced meanwhile.
-    static std::map<std::pair<fs::path, fs::file_time_type>, std::optional<unsigned long>> known;
-    std::error_code ignored;
-    const auto [trial, isNew] = known.try_emplace({fs::absolute(library), fs::last_write_time(library, ignored)});
-    if (!isNew)
-        return trial->second;
     std::wstring commandLine = L"lytdlg " + fs::path(loadTrialWord).wstring();
     const auto add = [&](const fs::path& word)
     { commandLine += L' ' + commandline::QuotedWord(fs::absolute(word).wstring()); };
@@ -85,8 +78,7 @@ std::optional<unsigned long> LoadErrorOf(const fs::path& library, const LoadSurr
         add(folder);
     if (!surroundings.loaded.empty())
         add(surroundings.loaded);
-    trial->second = ExitCodeOf(ProgramOfTrials(), commandLine);
-    return trial->second;
+    return ExitCodeOf(ProgramOfTrials(), commandLine);
 }
 
 std::string ReasonOfLoadError(unsigned long error)

@@ -1,12 +1,8 @@
 #include "lytdlg/judge/PartnerRules.h"
 
-#include "commandline/Text.h"
-#include "lytdlg/judge/ExportTable.h"
-#include "lytdlg/judge/LoadTrial.h"
 #include "lytdlg/judge/Names.h"
 #include "lytdlg/judge/PartnerCalls.h"
-#include "lytdlg/text/Paths.h"
-#include "lytdlg/text/TextFile.h"
+#include "lytdlg/judge/PartnerLibraries.h"
 
 #include <algorithm>
 #include <map>
@@ -62,53 +58,6 @@ constexpr Rule shared = {
     "$LAYOUT Example\n    ListBox 520, 12, 100, 34, .More\n    CheckListBox 520, 64, 100, 34, .Most\n"
     "$VALUES\n    More = FILLEDBY, lytdata, Open, Next\n    Most = FILLEDBY, other, Open, Next"};
 
-struct Partner
-{
-    ExportTable table;
-    std::optional<LoadFailure> failure; // of a library that is none of other bits
-};
-
-// The libraries of the folders, each read and tried once.
-class Partners
-{
-public:
-    explicit Partners(const std::vector<std::string>& folders)
-    {
-        for (const std::string& folder : folders)
-            m_surroundings.folders.push_back(PathOf(folder));
-    }
-
-    bool AreKnown() const { return !m_surroundings.folders.empty(); }
-    // Null when no folder holds the file.
-    const Partner* Find(const std::string& fileName)
-    {
-        if (IsOwnLibrary(fileName))
-            return &m_own;
-        const auto known = m_partners.find(fileName);
-        if (known != m_partners.end())
-            return &known->second;
-        for (const std::filesystem::path& folder : m_surroundings.folders)
-        {
-            const std::filesystem::path file = FileIn(folder, commandline::ToUtf8(fileName));
-            if (!file.empty())
-                return &(m_partners[fileName] = Read(file));
-        }
-        return nullptr;
-    }
-
-private:
-    Partner Read(const std::filesystem::path& file) const
-    {
-        const ExportTable table = ReadExports(ReadWholeFile(file).value_or(""));
-        const bool isTried = table.form == LibraryForm::Library;
-        return {table, isTried ? TryToLoad(file, table, m_surroundings) : std::nullopt};
-    }
-
-    LoadSurroundings m_surroundings;
-    std::map<std::string, Partner> m_partners;
-    const Partner m_own = {{LibraryForm::Library, OwnFunctions(), {}}, {}};
-};
-
 void JudgeFunctions(const Case& judged, const PartnerCall& call, const ExportTable& table)
 {
     for (const std::string& name : call.functions)
@@ -123,7 +72,7 @@ void JudgeFunctions(const Case& judged, const PartnerCall& call, const ExportTab
     }
 }
 
-void JudgeCall(const Case& judged, const PartnerCall& call, Partners& partners)
+void JudgeCall(const Case& judged, const PartnerCall& call, PartnerLibraries& partners)
 {
     const std::string file = LibraryFileName(call.library);
     const Partner* const partner = partners.Find(file);
@@ -185,9 +134,8 @@ Family PartnerRules()
             [](const Case& judged)
             {
                 const std::vector<PartnerCall> calls = PartnerCallsOf(judged.description);
-                Partners partners(judged.surroundings.partners);
                 for (const PartnerCall& call : calls)
-                    JudgeCall(judged, call, partners);
+                    JudgeCall(judged, call, *judged.surroundings.partners);
                 JudgeShared(judged, calls);
             }};
 }

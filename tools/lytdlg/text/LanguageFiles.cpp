@@ -1,5 +1,7 @@
 #include "lytdlg/text/LanguageFiles.h"
 
+#include "commandline/Text.h"
+#include "commandline/Unicode.h"
 #include "environment/ClytEnvironment.h"
 #include "lytdlg/text/Paths.h"
 #include "lytdlg/text/TextFile.h"
@@ -133,7 +135,10 @@ std::vector<LanguageKey> ReadLanguageKeys(std::string_view content)
 LanguageFile::LanguageFile(std::string language, std::string fileName)
     : m_language(std::move(language)), m_fileName(std::move(fileName))
 {
-    const std::string content = ReadWholeFile(PathOf(m_fileName)).value_or("");
+    std::string content = ReadWholeFile(PathOf(m_fileName)).value_or("");
+    // The platform takes the mark of UTF-16 for what it is, and converts the text; that of UTF-8 it takes for letters.
+    if (content.starts_with("\xFF\xFE"))
+        content = commandline::ToAnsi(commandline::FromMarkedUnicode(content));
     m_firstLine = content.substr(0, content.find_first_of("\r\n"));
     KeyReader reader(content);
     reader.Read();

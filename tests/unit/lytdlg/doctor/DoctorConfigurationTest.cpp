@@ -118,3 +118,17 @@ TEST(DoctorOnConfiguration, TellsOfALevelThatIsNoNumber)
               "warning  log            init/lyt.ini:14:7: the level \"all\" is no number, and counts as 0\n"
               "                        hint: write level=0, or the highest level that is to be logged\n");
 }
+
+// As the platform's own functions read such files.
+TEST(DoctorOnConfiguration, ReadsFilesInUtf16)
+{
+    const DoctorFolder folder;
+    for (const char* file : {"init/lyt.ini", "dialogs/lang/English.nls", "dialogs/lang/German.nls"})
+    {
+        std::string wide = "\xFF\xFE";
+        for (const char ch : folder.Read(file))
+            wide += std::string{ch, '\0'};
+        folder.Write(file, wide);
+    }
+    EXPECT_EQ(folder.Findings(), "");
+}

@@ -146,3 +146,46 @@ TEST(DoctorOnDialogs, NotesFilesThatAreWriteProtected)
                                   "and nothing else: lyt.ini\n"),
               std::string::npos);
 }
+
+TEST(DoctorOnDialogs, TellsOfManyOfAKindInOneLine)
+{
+    const DoctorFolder folder;
+    folder.Write("dialogs/lang/German.nls",
+                 std::regex_replace(folder.Read("dialogs/lang/German.nls"), std::regex("\n2(\\d\\d)="), "\n;2$1="));
+    const std::string found = folder.Findings();
+    EXPECT_TRUE(
+        std::regex_match(found, std::regex("warning  texts [^\n]+ is missing, and [^\n]+ \\(and \\d\\d more of this "
+                                           "kind\\)\n {24}hint: [^\n]+\n")))
+        << found;
+    const CommandRun run({"doctor", folder.Path(), "--format", "json"});
+    EXPECT_EQ(run.output.find("more of this kind"), std::string::npos) << "programs are told of each";
+    for (int number = 0; number < 23; ++number)
+        folder.Write("dialogs/more" + std::to_string(number) + ".dlg", "$LAYOUT x\n$END\n");
+    EXPECT_LT(std::ranges::count(folder.Findings(), '\n'), 20) << folder.Findings();
+}
+
+TEST(DoctorOnDialogs, TellsOfAnEndingThatExplorerHides)
+{
+    const DoctorFolder folder;
+    for (const char* name :
+         {"dialogs/mine.dlg.txt", "dialogs/lang/English.nls.TXT", "init/lyt.ini.txt", "readme.txt", "a.dll.txt"})
+        folder.Write(name, "");
+    const std::string found = folder.Findings();
+    EXPECT_EQ(std::ranges::count(found, '\n'), 6) << found;
+    EXPECT_NE(
+        found.find("warning  names          dialogs/mine.dlg.txt: is not read, since its name ends with .txt, which "
+                   "Explorer may hide\n"
+                   "                        hint: rename it to mine.dlg\n"),
+        std::string::npos)
+        << found;
+}
+
+TEST(DoctorOnDialogs, TellsOfFilesWithLongerNamesThanTheLibraryOpens)
+{
+    const DoctorFolder folder;
+    const std::string name(250, 'x');
+    folder.Write("dialogs/" + name + ".dlg", "");
+    EXPECT_TRUE(folder.Findings().starts_with("wrong    names          dialogs/" + name +
+                                              ".dlg: has a longer name than the library can open, with its folders\n"))
+        << folder.Findings();
+}

@@ -215,3 +215,33 @@ TEST(DoctorOnPartners, KnowsTheLibrariesThatTheSourcesLoad)
         known.insert(partner.name);
     EXPECT_EQ(known, NamedInSources("", "lytLoadLibrary\\(\"([^\"]+)\"\\)"));
 }
+
+TEST(DoctorOnPartners, TellsOfAFolderInQuotesWhichWindowsDoesNotFind)
+{
+    const DoctorFolder folder;
+    folder.Write("parts/lytdata.dll", folder.Read("word/lytdata.dll"));
+    folder.Remove("word/lytdata.dll");
+    EXPECT_EQ(
+        folder.Findings({"--partners", "\"" + folder.File("parts") + "\""}),
+        "wrong    partners       parts/lytdata.dll: is not found by Windows, since quotes stand round a folder of "
+        "--partners; what it fills stays empty\n"
+        "                        hint: take the quotes away there\n");
+}
+
+TEST(DoctorOnPartners, LooksForLibrariesThatSomebodyHasPutBesideTheDocument)
+{
+    const DoctorFolder folder;
+    const TestFolder documents;
+    documents.Write("a.doc", "");
+    for (const char* planted : {"lyt.dll", "lytsrc.dll", "LytRes64.dll"})
+    {
+        documents.Write(planted, LibraryFile({}));
+        EXPECT_EQ(folder.Findings({"--document", documents.File("a.doc")}),
+                  "warning  partners       " + documents.File(planted) +
+                      ": lies in the current folder or in that of the document, from where Windows may load it\n"
+                      "                        hint: remove it, unless you know who put it there, and keep partners in "
+                      "folders that users cannot write\n");
+        std::filesystem::remove(documents.File(planted));
+    }
+    EXPECT_EQ(folder.Findings({"--document", documents.File("a.doc")}), "");
+}

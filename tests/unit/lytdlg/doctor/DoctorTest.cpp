@@ -1,6 +1,8 @@
 // What `lytdlg doctor` says of the library and its host, and how it is asked and answers.
 #include "DoctorFolder.h"
 
+#include "lytdlg/doctor/Checksum.h"
+
 #include <nlohmann/json.hpp>
 
 using nlohmann::json;
@@ -10,21 +12,24 @@ TEST(Doctor, FindsNothingWrongWithTheSamples)
     const DoctorFolder folder;
     EXPECT_EQ(folder.Output(),
               "good     library        lyt64.dll: 64-bit, with all 21 functions\n"
-              "good     host           word/word.exe: 64-bit\n"
-              "note     loading        judged on Windows only, with the screen and the common controls\n"
-              "good     configuration  init/lyt.ini: is there\n"
-              "good     language       init/lyt.ini:5:18: English\n"
-              "good     log            init/lyt.ini:14:7: level 0: no log is written\n"
-              "good     texts          dialogs/lang/English.nls: all 36 texts of the library\n"
-              "good     texts          dialogs/lang/German.nls: all 36 texts of the library\n"
-              "good     dialogs        dialogs: 8 descriptions, in which `check` finds nothing\n"
-              "good     partners       word/lytsrc.dll: in the host's folder, with lytTreeStart, lytTreeNext, "
-              "lytParaTreeStart, lytParaTreeNext\n"
-              "good     partners       word/LytRes64.dll: in the host's folder, with getVersion\n"
-              "good     partners       word/lytdata.dll: in the host's folder, with LookUp, OpenList, NextItem, "
-              "OpenMarked, OpenSymbols, NextSymbol\n"
-              "good     marks          15 files, none marked as downloaded\n"
-              "verdict: good\n");
+              "good     library        lyt64.dll: without a version, SHA-256 " +
+                  lytdlg::ChecksumOf(folder.Read("lyt64.dll")) +
+                  "\n"
+                  "good     host           word/word.exe: 64-bit\n"
+                  "note     loading        judged on Windows only, with the screen and the common controls\n"
+                  "good     configuration  init/lyt.ini: is there\n"
+                  "good     language       init/lyt.ini:5:18: English\n"
+                  "good     log            init/lyt.ini:14:7: level 0: no log is written\n"
+                  "good     texts          dialogs/lang/English.nls: all 36 texts of the library\n"
+                  "good     texts          dialogs/lang/German.nls: all 36 texts of the library\n"
+                  "good     dialogs        dialogs: 8 descriptions, in which `check` finds nothing\n"
+                  "good     partners       word/lytsrc.dll: in the host's folder, with lytTreeStart, lytTreeNext, "
+                  "lytParaTreeStart, lytParaTreeNext\n"
+                  "good     partners       word/LytRes64.dll: in the host's folder, with getVersion\n"
+                  "good     partners       word/lytdata.dll: in the host's folder, with LookUp, OpenList, NextItem, "
+                  "OpenMarked, OpenSymbols, NextSymbol\n"
+                  "good     marks          15 files, none marked as downloaded\n"
+                  "verdict: good\n");
 }
 
 TEST(Doctor, LooksForTheLibrary)
@@ -124,12 +129,12 @@ TEST(Doctor, TellsTheSameAsJson)
     EXPECT_EQ(told.at("verdict"), "wrong");
     EXPECT_EQ(told.at("wrong"), 1);
     EXPECT_EQ(told.at("warnings"), 0);
-    EXPECT_EQ(told.at("observations").size(), 13U);
+    EXPECT_EQ(told.at("observations").size(), 14U);
     EXPECT_EQ(told.at("observations").at(0), json({{"verdict", "good"},
                                                    {"about", "library"},
                                                    {"path", folder.File("lyt64.dll")},
                                                    {"message", "64-bit, with all 21 functions"}}));
-    EXPECT_EQ(told.at("observations").at(4),
+    EXPECT_EQ(told.at("observations").at(5),
               json({{"verdict", "wrong"},
                     {"about", "language"},
                     {"path", folder.File("init/lyt.ini")},
@@ -159,4 +164,49 @@ TEST(Doctor, SaysWhatToWriteWhenItIsNotUnderstood)
               CommandRun(2, "", "lytdlg: there is no folder nowhere; name the folders of the deployment\n" + help));
     EXPECT_EQ(CommandRun({"doctor", folder.Path(), "--format", "jsn"}),
               CommandRun(2, "", "lytdlg: there is no format \"jsn\"; did you mean \"json\"?\n" + help));
+}
+
+TEST(Doctor, ComparesTheLibraryWithTheChecksumsThatWereHandedOutWithIt)
+{
+    EXPECT_EQ(lytdlg::ChecksumOf("abc"), "ba7816bf8f01cfea414140de5dae2223b00361a396177a9cb410ff61f20015ad");
+    const DoctorFolder folder;
+    const std::string sum = lytdlg::ChecksumOf(folder.Read("lyt64.dll"));
+    for (const std::string& good :
+         std::vector<std::string>{sum + "  lyt64.dll\n", sum + " *lyt64.dll\r\n", "12  word/lytsrc.dll\n", "a\n"})
+    {
+        folder.Write("SHA256SUMS", good);
+        EXPECT_EQ(folder.Findings(), "") << good;
+    }
+    folder.Write("SHA256SUMS", "12  lytsrc.dll\n" + std::string(64, '0') + "  ./lyt64.dll\n");
+    EXPECT_EQ(folder.Findings(), "wrong    library        lyt64.dll: is not the file that SHA256SUMS tells of\n"
+                                 "                        hint: it is damaged, or of another version; copy it again\n");
+}
+
+TEST(Doctor, KnowsTheVersionOfTheLibraryByItsRecord)
+{
+    const std::string record("\xBD\x04\xEF\xFE\0\0\x01\0\x02\0\x01\0\x04\x01\x03\0", 16);
+    EXPECT_EQ(lytdlg::VersionOf("before " + record + " after"), "1.2.3.260");
+    EXPECT_EQ(lytdlg::VersionOf(record.substr(0, 15)), "");
+    EXPECT_EQ(lytdlg::VersionOf(""), "");
+}
+
+TEST(Doctor, TellsProgramsWhyNothingWasJudged)
+{
+    for (const std::vector<std::string>& words : {std::vector<std::string>{"doctor", "nowhere", "--format", "json"},
+                                                  {"doctor", "--format", "json"},
+                                                  {"doctor", ".", "--wrong", "--format", "json"}})
+    {
+        const CommandRun run(words);
+        EXPECT_EQ(run.code, 2);
+        EXPECT_EQ(json::parse(run.output).at("verdict"), "not judged");
+        EXPECT_NE(run.errors.find(json::parse(run.output).at("message")), std::string::npos);
+    }
+}
+
+TEST(Doctor, RefusesAFolderWithALongerNameThanTheLibraryOpens)
+{
+    const CommandRun run({"doctor", "\\\\?\\" + std::string(260, 'x')});
+    EXPECT_EQ(run.code, 2);
+    EXPECT_NE(run.errors.find(" is longer than the 259 characters that Windows allows the library"), std::string::npos)
+        << run;
 }
