@@ -213,7 +213,9 @@ TEST(DoctorOnPartners, KnowsTheLibrariesThatTheSourcesLoad)
     std::set<std::string> known = {"lyt", "kernel32.dll"};
     for (const lytdlg::OwnPartner& partner : lytdlg::OwnPartners())
         known.insert(partner.name);
-    EXPECT_EQ(known, NamedInSources("", "lytLoadLibrary\\(\"([^\"]+)\"\\)"));
+    // A name that messages tell as well has a constant.
+    EXPECT_EQ(known,
+              NamedInSources("", "(?:lytLoadLibrary\\(|const char\\* (?:libraryName|lytSourceName) = )\"([^\"]+)\""));
 }
 
 TEST(DoctorOnPartners, TellsOfAFolderInQuotesWhichWindowsDoesNotFind)
