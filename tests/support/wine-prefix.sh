@@ -16,12 +16,20 @@ managed=N
 
 # Wine's background processes inherit the output; ctest would wait for them.
 quiet() { "$@" >/dev/null 2>&1 </dev/null; }
-set_value() { quiet timeout 30 /usr/lib/wine/wine64 reg add "$@" /f; }
+# limited SECONDS COMMAND...: the seconds are ten times what the command takes on an idle machine.
+limited() {
+    limit=$(($1 * ${LYT_PATIENCE:-1}))
+    shift
+    quiet timeout "$limit" "$@" && return
+    echo "wine-prefix.sh: \"$*\" failed, or ended after $limit s, the limit; set LYT_PATIENCE to a larger factor" >&2
+    return 1
+}
+set_value() { limited 30 /usr/lib/wine/wine64 reg add "$@" /f; }
 
 if [ ! -f "$dir/.ready-$mode" ]; then
     rm -rf "$dir"
     mkdir -p "$dir"
-    quiet timeout 180 wineboot -i
+    limited 180 wineboot -i
     # A crash ends the program with an error code at once; the usual debugger can hang on its own dialog.
     set_value 'HKLM\Software\Microsoft\Windows NT\CurrentVersion\AeDebug' /v Debugger /t REG_SZ /d false
     set_value 'HKLM\Software\Microsoft\Windows NT\CurrentVersion\AeDebug' /v Auto /t REG_SZ /d 1
@@ -29,7 +37,7 @@ if [ ! -f "$dir/.ready-$mode" ]; then
     set_value 'HKCU\Software\Wine\Drivers' /v Graphics /t REG_SZ /d "$driver"
     set_value 'HKCU\Software\Wine\X11 Driver' /v Managed /t REG_SZ /d "$managed"
     set_value 'HKCU\Control Panel\Desktop' /v LogPixels /t REG_DWORD /d "$dpi"
-    quiet timeout 60 wineserver -w || true
+    limited 60 wineserver -w || true
     # Debian's build does not find its own fonts: without them no Tahoma and no MS Sans Serif.
     cp /usr/share/wine/fonts/*.ttf /usr/share/wine/fonts/*.fon "$dir/drive_c/windows/Fonts/"
     touch "$dir/.ready-$mode"
