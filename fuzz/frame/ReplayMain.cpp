@@ -8,6 +8,7 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <stdexcept>
 
 namespace
 {
@@ -23,14 +24,15 @@ constexpr const char* usage =
 std::string ReadFile(const fs::path& name)
 {
     std::ifstream file(name, std::ios::binary);
+    if (!fs::is_regular_file(name) || !file)
+        throw std::runtime_error(name.string() + " cannot be read");
     return {std::istreambuf_iterator<char>(file), {}};
 }
 
 std::vector<fs::path> FilesIn(const fs::path& folder)
 {
-    std::error_code missing;
     std::vector<fs::path> files;
-    for (const auto& entry : fs::directory_iterator(folder, missing))
+    for (const auto& entry : fs::directory_iterator(folder))
         files.push_back(entry.path());
     std::ranges::sort(files);
     return files;
@@ -106,5 +108,12 @@ int Run(const std::vector<std::string>& words)
 
 int main(int count, char** words)
 {
-    return Run({words + 1, words + count});
+    try
+    {
+        return Run({words + 1, words + count});
+    }
+    catch (const std::exception& error)
+    {
+        return Refuse(error.what());
+    }
 }

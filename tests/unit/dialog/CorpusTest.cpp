@@ -33,11 +33,12 @@ TEST_P(Corpus, ComesToItsEnd)
     for (const std::string& seed : seeds)
         Replay(seed);
     const fs::path folder = fs::path(LYT_SOURCE_FOLDER "/fuzz/corpus") / GetParam()->name;
-    std::error_code missing;
-    for (const auto& entry : fs::directory_iterator(folder, missing))
+    ASSERT_TRUE(fs::is_directory(folder)) << folder;
+    for (const auto& entry : fs::directory_iterator(folder))
     {
         SCOPED_TRACE(entry.path().string());
         std::ifstream file(entry.path(), std::ios::binary);
+        ASSERT_TRUE(file);
         Replay({std::istreambuf_iterator<char>(file), {}});
     }
 }
