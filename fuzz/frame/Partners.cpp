@@ -85,6 +85,11 @@ int LookUp(const char* parameter, char* text, int size)
     return 1;
 }
 
+int LookUpRaises(const char* /*parameter*/, char* /*text*/, int /*size*/)
+{
+    throw std::runtime_error("the library failed");
+}
+
 int LookUpLong(const char* /*parameter*/, char* text, int size)
 {
     Fill(text, size, std::string(static_cast<size_t>(size) + 1, 'x'));
@@ -142,6 +147,8 @@ private:
     }
     static FARPROC FindText(std::string_view function)
     {
+        if (function.ends_with("Raises"))
+            return Address(LookUpRaises);
         return function.ends_with("Long") ? Address(LookUpLong) : Address(LookUp);
     }
     static FARPROC FindExport(std::string_view function)

@@ -1,10 +1,11 @@
 #include "fuzz/frame/Stage.h"
 
 #include "environment/ProcessState.h"
-#include "fuzz/frame/ActingUser.h"
 #include "fuzz/frame/Attempt.h"
+#include "fuzz/frame/Despair.h"
 #include "fuzz/frame/Partners.h"
 #include "platform/MemoryFiles.h"
+#include "robot/ActingUser.h"
 
 #include "lyt64.h"
 
@@ -62,6 +63,8 @@ Room::Room(int size, int beyond)
 
 void CallAsUserActs(const std::string& acts, const std::function<void()>& call)
 {
-    const ActingUser user(acts);
+    const FillsAreActs fills;
+    const robot::ActingUser user(acts, {"o", "x"});
     Attempt(call);
+    DemandNone(user.Despair());
 }

@@ -23,6 +23,7 @@ constexpr const char* furtherWords[] = {
     "OpenList",
     "NextItem",
     "LookUp",
+    "LookUpRaises",
     "lyt64",
     "%s",
     "%.3s",

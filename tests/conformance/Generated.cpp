@@ -241,7 +241,13 @@ private:
     {
         const bool isBox = robot::IsMessageBox(dialog);
         Tell(isBox ? "answer" : "press " + std::to_string(button));
-        robot::Press(GetDlgItem(dialog, isBox ? int{IDOK} : button));
+        if (isBox)
+        {
+            robot::AnswerBox(dialog);
+            return;
+        }
+        robot::BeginAct();
+        robot::Press(GetDlgItem(dialog, button));
     }
 
     void Act(HWND dialog)
@@ -251,6 +257,7 @@ private:
             Press(dialog, IDOK);
             return;
         }
+        robot::BeginAct();
         const std::vector<HWND> children = robot::ChildrenOf(dialog);
         const unsigned place = Any(children.size());
         using Doing = void (Sequence::*)(HWND);

@@ -1,6 +1,7 @@
 #include "robot/WindowRobot.h"
 
 #include <algorithm>
+#include <stdexcept>
 #include <utility>
 
 namespace robot
@@ -13,6 +14,8 @@ constexpr UINT tickMilliseconds = 5;
 constexpr int messageTextId = 0xFFFF;
 
 Robot* current = nullptr;
+int boxesOfAct = 0;
+HWND answeredBox = nullptr;
 
 LPARAM KeyData(UINT virtualKey, bool up)
 {
@@ -98,6 +101,20 @@ bool IsMessageBox(HWND window)
 std::string MessageTextOf(HWND box)
 {
     return TextOf(GetDlgItem(box, messageTextId));
+}
+
+void BeginAct()
+{
+    boxesOfAct = 0;
+}
+
+// A box may be seen once more before the press has reached it.
+void AnswerBox(HWND box, int most)
+{
+    if (box != answeredBox && ++boxesOfAct > most)
+        throw std::runtime_error("message " + std::to_string(boxesOfAct) + " after one act: " + MessageTextOf(box));
+    answeredBox = box;
+    Press(GetDlgItem(box, IDOK));
 }
 
 std::vector<HWND> ChildrenOf(HWND dialog)
@@ -230,6 +247,7 @@ Robot::Robot(UINT limitInMilliseconds)
       m_deadline(GetTickCount64() + limitInMilliseconds),
       m_previous(std::exchange(current, this))
 {
+    BeginAct();
 }
 
 Robot::~Robot()
@@ -266,6 +284,18 @@ Robot& Robot::AnswerMessage(int button)
         "message", [] { return IsMessageBox(ActiveDialog()); }, answer);
 }
 
+Robot& Robot::AnswerAll(int most)
+{
+    // Before the answer, which may bring the next box.
+    const auto answer = [this, most]
+    {
+        AnswerAll(most);
+        AnswerBox(ActiveDialog(), most);
+    };
+    return When(
+        "box", [] { return IsMessageBox(ActiveDialog()); }, answer);
+}
+
 void Robot::Tick(HWND /*window*/, UINT /*message*/, UINT_PTR /*timer*/, DWORD /*time*/)
 {
     Robot* const robot = current;
@@ -279,6 +309,7 @@ void Robot::Tick(HWND /*window*/, UINT /*message*/, UINT_PTR /*timer*/, DWORD /*
     catch (const std::exception& error)
     {
         robot->m_log += std::string(" raised '") + error.what() + "'";
+        robot->m_deadline = 0;
         robot->GiveUp();
     }
 }

@@ -28,6 +28,12 @@ RECT PlaceOf(HWND child);
 bool IsMessageBox(HWND window);
 std::string MessageTextOf(HWND box);
 
+// Whoever answers message boxes as they come would not notice that they never end. So each act of a user begins here, and
+// the boxes that it leads to are answered here: more of them than an act sends commands raise a std::runtime_error.
+inline constexpr int mostBoxesOfAct = 5;
+void BeginAct();
+void AnswerBox(HWND box, int most = mostBoxesOfAct);
+
 // The children of a dialog in the order of their creation.
 std::vector<HWND> ChildrenOf(HWND dialog);
 // The n-th (from 0) child, or the n-th child of a class (compared without case); null when there is none.
@@ -75,6 +81,9 @@ public:
     Robot& When(const std::string& name, std::function<bool()> ready, std::function<void()> act);
     // Once a message box is the active window, keeps its text in Messages and presses a button (IDOK, IDYES, ...).
     Robot& AnswerMessage(int button = IDOK);
+
+    // Answers every message box as it comes, so many of them for an act at most.
+    Robot& AnswerAll(int most = mostBoxesOfAct);
 
     // True when every step was taken in time.
     bool Done() const { return m_steps.empty() && !m_timedOut; }

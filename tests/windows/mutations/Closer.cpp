@@ -45,7 +45,7 @@ Closer::Closer(unsigned number) : m_dice(number), m_actsLeft(static_cast<int>(m_
 
 std::string Closer::Stuck() const
 {
-    return m_robot.HasGivenUp() ? "after a minute: " + m_robot.Log() : m_stuck;
+    return m_robot.HasGivenUp() ? m_robot.Log() : m_stuck;
 }
 
 void Closer::WaitForWindow()
@@ -72,15 +72,16 @@ void Closer::AnswerMessage(HWND box)
 {
     if (m_answered.insert(box).second)
         m_messages.push_back(robot::MessageTextOf(box));
-    robot::Press(GetDlgItem(box, IDOK));
+    robot::AnswerBox(box);
 }
 
 void Closer::ActOnDialog(HWND dialog)
 {
     constexpr int atRandom = 4;
     constexpr int byOk = atRandom + 1;
-    constexpr int byCancel = byOk + 2;
+    constexpr int byCancel = byOk + 1;
     const int step = ++m_steps[dialog];
+    robot::BeginAct();
     if (step <= atRandom && m_actsLeft > 0)
     {
         --m_actsLeft;

@@ -10,6 +10,7 @@
 #include "robot/WindowRobot.h"
 
 #include <algorithm>
+#include <limits>
 
 namespace lytdlg
 {
@@ -25,27 +26,6 @@ constexpr Rule refused = {
     "library shows. Mend the findings above first: they may be its cause.",
     "",
     ""};
-
-// Presses OK in every message box that comes up, for as long as it lives.
-class BoxAnswerer
-{
-public:
-    BoxAnswerer() { Await(); }
-
-private:
-    void Await()
-    {
-        m_robot.When(
-            "box", [] { return robot::IsMessageBox(robot::ActiveDialog()); },
-            [this]
-            {
-                Await();
-                robot::Press(GetDlgItem(robot::ActiveDialog(), IDOK));
-            });
-    }
-
-    robot::Robot m_robot;
-};
 
 // Looks for texts where none are, since each one would be looked up in a file.
 class WithoutTexts
@@ -116,7 +96,8 @@ std::optional<Refusal> RefusalOf(const Description& description)
 {
     const FileForLibrary file(description.text.Bytes());
     const WithoutTexts noTexts(NameForLibrary(file.Name().parent_path() / "none"));
-    const BoxAnswerer answerer;
+    robot::Robot user;
+    user.AnswerAll(std::numeric_limits<int>::max());
     lytInputKey.Empty();
     LiveForm form(NameForLibrary(file.Name()).c_str(), Joined(description.text.Defines(), ",").c_str());
     try
