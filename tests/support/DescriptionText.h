@@ -12,11 +12,11 @@ struct DescriptionText
                "$INPUT\n" + input + "$OUTPUT\n" + output + "$END\n";
     }
 
-    std::string layout;
-    std::string values;
-    std::string dependencies;
-    std::string evaluation;
-    std::string input;
-    std::string output;
-    std::string section; // the operand of the layout header
+    std::string layout = {};
+    std::string values = {};
+    std::string dependencies = {};
+    std::string evaluation = {};
+    std::string input = {};
+    std::string output = {};
+    std::string section = {}; // the operand of the layout header
 };
