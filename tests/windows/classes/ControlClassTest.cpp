@@ -249,6 +249,6 @@ TEST(DataLibrary, TellsAListenerWhatIsNotThere)
     EXPECT_FALSE(library.Load("absent.dll"));
     EXPECT_EQ(observer.TakeHeard(), "no library absent.dll\n");
     ASSERT_TRUE(library.Load("nasty.dll"));
-    EXPECT_EQ(library.Find<lytDataText>("Absent"), nullptr);
+    EXPECT_FALSE(library.Find<lytDataText>("Absent"));
     EXPECT_EQ(observer.TakeHeard(), "no function Absent\n");
 }

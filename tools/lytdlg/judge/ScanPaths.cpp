@@ -104,12 +104,12 @@ private:
     void Enter(Step statement)
     {
         Stop& here = m_way.emplace_back(Stop{statement, m_successors(m_part, *statement)});
-        std::ranges::stable_partition(here.next,
-                                      [&](Step next)
-                                      {
-                                          const auto place = m_places.find(next);
-                                          return place != m_places.end() && place->second != left;
-                                      });
+        const auto leadsBack = [&](Step next)
+        {
+            const auto place = m_places.find(next);
+            return place != m_places.end() && place->second != left;
+        };
+        std::stable_partition(here.next.begin(), here.next.end(), leadsBack);
     }
 
     // Statements of a circle that was found are in no other one, and a few circles are enough to begin with.
@@ -123,7 +123,7 @@ private:
         for (size_t index = from; index < m_way.size(); ++index)
             circle.push_back(m_way[index].statement);
         const auto lineOf = [](Step statement) { return statement->span.line; };
-        std::ranges::rotate(circle, std::ranges::min_element(circle, {}, lineOf));
+        std::rotate(circle.begin(), std::ranges::min_element(circle, {}, lineOf), circle.end());
         m_found.insert(circle.begin(), circle.end());
     }
 
