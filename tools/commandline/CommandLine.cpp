@@ -214,7 +214,8 @@ Request ReadCommandLine(const ProgramForm& program, const std::vector<std::strin
 bool AsksDoctorForJson(const std::vector<std::string>& words)
 {
     const std::vector<std::string> asked = {"--format", "json"};
-    return !words.empty() && words.front() == "doctor" && !std::ranges::search(words, asked).empty();
+    return !words.empty() && words.front() == "doctor" &&
+           std::search(words.begin(), words.end(), std::begin(asked), std::end(asked)) != words.end();
 }
 
 const OptionForm versionOption = {"--version", nullptr, false, "print the version"};
