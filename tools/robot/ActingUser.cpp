@@ -91,6 +91,14 @@ bool IsListOpen()
     return std::ranges::any_of(boxes, [](HWND box) { return SendMessageA(box, CB_GETDROPPEDSTATE, 0, 0) != 0; });
 }
 
+// A dialog whose last control was disabled has nobody who could take a key.
+bool HasKeyboard(HWND dialog)
+{
+    const auto takesKeys = [](HWND child)
+    { return CanBeActedOn(child) && (GetWindowLongA(child, GWL_STYLE) & WS_TABSTOP) != 0; };
+    return GetFocus() != nullptr || std::ranges::any_of(ChildrenOf(dialog), takesKeys);
+}
+
 void PressCancel(HWND dialog)
 {
     HWND button = GetDlgItem(dialog, IDCANCEL);
@@ -225,7 +233,8 @@ void ActingUser::Leave(HWND window)
     if (step + 1 == m_leaving.size())
         m_closing = window;
     BeginAct();
-    ActOnDialog(window, ActWord(m_leaving[step]));
+    const ActWord word(m_leaving[step]);
+    ActOnDialog(window, word.act == 'k' && !HasKeyboard(window) ? ActWord("q") : word);
 }
 
 } // namespace robot
