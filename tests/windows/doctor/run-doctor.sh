@@ -14,9 +14,10 @@ trap 'rm -rf "$folder"' EXIT
 
 winpath() { echo "Z:$PWD/$1" | tr / '\\'; }
 initKey='HKCR\LYTDOCUMENT\shell\open\IniPath'
-# register KEY TEXT: enters the default value of a key until the case is done.
+# register KEY TEXT [CREATED]: enters the default value of a key until the case is done. CREATED is the first key on the
+# way to it that was not there before.
 register() {
-    registered=$1
+    registered=${3-$1}
     trap '"$wine_run" reg.exe delete "$registered" /f >"$folder/registry"' EXIT
     "$wine_run" reg.exe add "$1" /ve /d "$2" /f >"$folder/registry"
 }
