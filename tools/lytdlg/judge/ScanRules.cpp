@@ -244,12 +244,10 @@ void JudgeCircles(const Case& judged, const InputPart& part)
     }
 }
 
-// The first line of a part.
-
 // The next line of the section that is read; null after its last.
 const SourceLine* LineAfter(const DescriptionText& text, int number)
 {
-    for (size_t index = static_cast<size_t>(number); index < text.Lines().size(); ++index)
+    for (auto index = static_cast<size_t>(number); index < text.Lines().size(); ++index)
     {
         const SourceLine& line = text.Lines()[index];
         if (line.isRead && !line.isStray && line.section == Section::Input)
