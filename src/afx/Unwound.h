@@ -1,4 +1,4 @@
-// Ends what stands on the stack between a guarded call and the place where a partner library failed.
+// Ends what is on the stack between a guarded call and the place where a partner library failed.
 #pragma once
 
 #include <memory>

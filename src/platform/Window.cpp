@@ -111,7 +111,7 @@ std::vector<HWND> Window::ChildHandles() const
     return handles;
 }
 
-// A group ends before the next child that begins one. The children stand in a circle: those before the first that begins
+// A group ends before the next child that begins one. The children form a circle: those before the first that begins
 // a group belong to the last.
 std::vector<Window*> Window::OthersOfGroup() const
 {

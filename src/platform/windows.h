@@ -604,7 +604,7 @@ BOOL RemoveDirectoryA(LPCSTR folder);
 BOOL CopyFileA(LPCSTR from, LPCSTR to, BOOL keepExisting);
 BOOL DeleteFileA(LPCSTR file);
 #define MOVEFILE_REPLACE_EXISTING 0x1
-// Replaces whatever the flags say.
+// Replaces a file that exists; the flags are not looked at.
 BOOL MoveFileExA(LPCSTR from, LPCSTR to, DWORD flags);
 
 // Texts in code page 1252, UTF-8 and wide characters. The terminal of this machine reads UTF-8.

@@ -69,7 +69,7 @@ std::string Escaped(const std::string& character)
     return {'\\', 'x', hexDigits[number >> 4U], hexDigits[number & 15U]};
 }
 
-// What an escape stands for; the place moves to its last character. A backslash before anything else is left out.
+// What an escape means; the place moves to its last character. A backslash before anything else is left out.
 std::string TakeEscape(const std::string& line, size_t& place)
 {
     const char letter = line[++place];

@@ -107,7 +107,7 @@ size_t LengthOfAddress6(const std::string& small, size_t place)
 constexpr struct
 {
     const char* word;
-    // 0 when what stands there has another shape.
+    // 0 for a text of another shape.
     size_t (*lengthAt)(const std::string& small, size_t place);
 } shapes[] = {
     {"SID", LengthOfIdentifier},   {"MAIL", LengthOfMail},        {"HARDWARE", LengthOfHardwareAddress},

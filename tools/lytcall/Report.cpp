@@ -96,7 +96,7 @@ void Write(const Request& request, const ReportLines& lines)
     }
     if (!commandline::WriteWholeFile(fileName, text))
         throw CallError(fileName +
-                        " cannot be written, and what was there stays; check the name behind --out, the rights "
+                        " cannot be written, and what was there stays; check the name after --out, the rights "
                         "of its folder and the room on the disk");
     PrintNumber("lines", static_cast<int>(lines.size()));
 }

@@ -9,7 +9,7 @@ namespace lytcall
 
 using ReportLines = std::vector<std::string>;
 
-// A line ends with a line feed, before which a carriage return may stand.
+// A line ends with a line feed, with or without a carriage return before it.
 ReportLines LinesOfText(const std::string& text);
 std::string TextOf(const ReportLines& lines);
 
@@ -22,7 +22,7 @@ struct ReportBlock
 // Cuts a report at the lines that begin its blocks. The titles are those of docs/report.md; a word processor's version has
 // a block of its own.
 std::vector<ReportBlock> CutReport(const ReportLines& lines);
-// What stands before the value of a line; the whole line without one. A colon after a single letter is that of a drive.
+// The part before the value of a line; the whole line without one. A colon after a single letter is that of a drive.
 std::string LabelOf(const std::string& line);
 // True for a line that differs between any two runs on one machine.
 bool ChangesFromRunToRun(const std::string& line);

@@ -1,4 +1,4 @@
-// A user who acts on whatever window is in front, while a call under test shows its windows.
+// A user who acts on the window in front, while a call under test shows its windows.
 //
 // Acts are words divided by blanks: a letter, a character that says whom or what, and for some a text.
 //

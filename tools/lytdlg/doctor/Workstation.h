@@ -23,7 +23,7 @@ struct SearchFolder
     std::filesystem::path folder;
     const char* name;       // as messages tell it
     bool isCurrent = false; // the current folder, which is another one at another time
-    bool isQuoted = false;  // quotes stand round it, so that the platform does not find it
+    bool isQuoted = false;  // it is in quotes, so that the platform does not find it
 };
 // A folder as PATH names it.
 SearchFolder SearchFolderOf(std::filesystem::path::string_type text, const char* name);

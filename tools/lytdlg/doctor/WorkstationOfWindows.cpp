@@ -46,7 +46,7 @@ Host HostOfWorkstation()
 {
     std::wstring registered =
         RegisteredText(HKEY_LOCAL_MACHINE, L"SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\App Paths\\Winword.exe");
-    // Quotes may stand round it.
+    // It may be in quotes.
     std::erase(registered, L'"');
     if (!registered.empty())
         return {registered, true};

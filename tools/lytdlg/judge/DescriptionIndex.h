@@ -1,5 +1,5 @@
 // What the rules ask of a description for each of its statements, looked up once: so a judgement takes time in proportion
-// to the length of the description, whatever it consists of.
+// to the length of the description, of any content.
 #pragma once
 
 #include "lytdlg/judge/ControlValues.h"

@@ -91,7 +91,7 @@ private:
     std::vector<std::string> m_defines;
     std::vector<SwitchMark> m_marks;
     std::vector<std::string> m_defineNames;
-    std::map<Section, int> m_lastHeaders; // the last line that holds the right word, wherever it stands
+    std::map<Section, int> m_lastHeaders; // the last line that holds the right word, in any place
     bool m_endsWithLineEnd = true;
     bool m_hasEndMark = false;
     bool m_hasTextAfterEndMark = false;

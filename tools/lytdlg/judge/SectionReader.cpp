@@ -18,7 +18,7 @@ int LastRead(const std::vector<const SourceLine*>& lines)
 
 } // namespace
 
-// The end word is read also where a mark has switched off what stands above it.
+// The end word is read also where a mark has switched off what is above it.
 SectionReader::SectionReader(const DescriptionText& text, std::vector<const SourceLine*> sectionLines,
                              const char* endWord, std::vector<Mistake>& mistakes)
     : ClytDialogFile(Joined(text.Defines(), ",").c_str(), m_sink),

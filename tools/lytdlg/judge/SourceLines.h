@@ -10,7 +10,7 @@ namespace lytdlg
 {
 
 // The sections in the order that a description must have. Each opens with its word, but for the head, which is what
-// stands above $LAYOUT.
+// is above $LAYOUT.
 enum class Section
 {
     Head,
@@ -29,7 +29,7 @@ struct SourceLine
     int number = 0;                  // in the file, from 1
     int counted = 0;                 // as messages of the library count it; 0 for a line that is not read
     bool isRead = true;              // the defines leave it in, and it is no mark itself
-    Section section = Section::Head; // in which it stands; a header stands in its own
+    Section section = Section::Head; // in which it is; a header belongs to the section that it begins
     bool isHeader = false;           // it opens its section, or a further part of it
     bool isStray = false;            // a header that does not belong there, and opens nothing
     std::string meant;               // what a header was meant to be; empty when it is right, or no header
@@ -44,7 +44,7 @@ public:
     // The next piece of at most `count` characters, and a NUL; gives by how many lines its number is above that of the
     // piece before, and 0 at the end.
     int Take(char* buffer, unsigned count);
-    // Where the piece that was taken last stands.
+    // The place of the piece that was taken last.
     int Number() const { return m_number; }
     int Column() const { return m_pieceColumn; }
 

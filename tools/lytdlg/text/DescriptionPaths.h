@@ -17,10 +17,10 @@ inline constexpr const char* standardInput = "-";
 // input. A UsageError when there are none.
 std::vector<std::string> DescriptionsAt(const std::string& operand);
 
-// What such a name stands for. Throws std::runtime_error when it cannot be read.
+// The files that such a name means. Throws std::runtime_error when it cannot be read.
 std::string ReadDescription(const std::string& name);
 
-// Does the same with every description that the operands stand for, and gives the worst exit code. What is raised for one
+// Does the same with every description that the operands name, and gives the worst exit code. What is raised for one
 // of them is told, and the others still have their turn.
 ExitCode ForEachDescription(const std::vector<std::string>& operands,
                             const std::function<ExitCode(const std::string& name)>& act);

@@ -9,7 +9,7 @@ namespace lytdlg
 namespace
 {
 
-// Of a control character that JSON lets stand in a text.
+// Of a control character that JSON allows in a text.
 std::string EscapeOf(char ch)
 {
     std::array<char, 7> escape{};
