@@ -17,6 +17,17 @@ void Act(OPERATION operation)
     Attempt(operation);
 }
 
+// Outside the rules a composition reports each value that a control does not have: one for each item and condition.
+template <class OPERATION>
+void ActOnOutput(OPERATION operation)
+{
+    constexpr int mostBoxes = 2000;
+    robot::Robot user;
+    user.AnswerAll(mostBoxes);
+    Act(operation);
+    DemandNone(user.HasGivenUp() ? user.Log() : "");
+}
+
 void Use(LiveForm& form)
 {
     for (POSITION place = form.GetControlList().GetHeadPosition(); place != nullptr;)
@@ -27,9 +38,9 @@ void Use(LiveForm& form)
             Act([&] { form.Enter(control, "1"); });
     }
     Act([&] { form.RunInput("other", "a,b;(c)\"d"); });
-    Act([&] { form.Confirm(); });
+    ActOnOutput([&] { form.Confirm(); });
     CString composed;
-    Act([&] { form.ComposeNamedOutput("other", composed); });
+    ActOnOutput([&] { form.ComposeNamedOutput("other", composed); });
 }
 
 } // namespace
@@ -40,7 +51,8 @@ void UseForm(const std::string& description, const std::string& input)
     lytInputKey = input.c_str();
     const FillsAreActs fills;
     robot::Robot user;
-    user.AnswerAll();
+    // To enter a value is two acts: the focus moves, and the text changes.
+    user.AnswerAll(2 * robot::mostBoxesOfAct);
     LiveForm form(file.Name().string().c_str(), "X,Y");
     if (form.Open())
         Use(form);
