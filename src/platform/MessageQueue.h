@@ -1,5 +1,5 @@
 // The queue of the thread: what was posted comes first, then the quit message, then what the user typed, then timers. Time
-// stands still while there is anything to do, and jumps to the next timer when there is nothing.
+// does not move while there is anything to do, and jumps to the next timer when there is nothing.
 #pragma once
 
 #include <windows.h>

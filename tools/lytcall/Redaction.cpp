@@ -15,7 +15,7 @@ namespace
 
 constexpr size_t none = std::string::npos;
 
-// Of letters beyond ASCII those of Western European languages.
+// Beyond ASCII, only the letters of Western European languages.
 std::string InSmallLetters(std::string text)
 {
     constexpr char leadOfLetters = '\xC3';
