@@ -54,5 +54,5 @@ foreach(line IN LISTS lines)
     message(FATAL_ERROR "${SCRIPT}: no windows in memory for the statement\n${line}")
   endif()
 endforeach()
-file(WRITE ${TABLE} "#include \"platform/DialogTemplates.h\"\n${includes}\n#include <commctrl.h>\n
+file(WRITE ${TABLE} "#include \"native/DialogTemplates.h\"\n${includes}\n#include <commctrl.h>\n
 static const platform::DialogTemplates templates({\n${templates}});\n")

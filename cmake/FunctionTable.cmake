@@ -17,7 +17,7 @@ function(lyt_function_table target library)
   list(JOIN functions "();\nvoid " declarations)
   set(table ${CMAKE_CURRENT_BINARY_DIR}/${target}-functions.cpp)
   # Only addresses are taken, so the functions need no types; of the variable only the making counts.
-  file(CONFIGURE OUTPUT ${table} CONTENT "#include \"platform/PartnerLibraries.h\"\n
+  file(CONFIGURE OUTPUT ${table} CONTENT "#include \"native/PartnerLibraries.h\"\n
 extern \"C\"\n{\nvoid ${declarations}();\n}\n
 [[maybe_unused]] static const bool areAdded = []\n{\n${additions}    return true;\n}();\n")
   target_sources(${target} PRIVATE ${table})

@@ -4,7 +4,7 @@
 #include "fuzz/frame/Attempt.h"
 #include "fuzz/frame/Despair.h"
 #include "fuzz/frame/Partners.h"
-#include "platform/MemoryFiles.h"
+#include "native/MemoryFiles.h"
 #include "robot/ActingUser.h"
 
 #include "lyt64.h"

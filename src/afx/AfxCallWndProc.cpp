@@ -1,8 +1,8 @@
 #include <afxwin.h>
 
 #include "CurrentFailure.h"
-#include "CurrentMessage.h"
-#include "Unwound.h"
+#include "system/CurrentMessage.h"
+#include "system/Unwound.h"
 
 #include <exception>
 #include <memory>

@@ -1,8 +1,8 @@
 #include <afx.h>
 
-#include "ModalOwner.h"
-#include "ModalWindows.h"
-#include "Unwound.h"
+#include "system/ModalOwner.h"
+#include "system/ModalWindows.h"
+#include "system/Unwound.h"
 
 int AfxMessageBox(const char* text, UINT type, UINT /*help*/)
 {

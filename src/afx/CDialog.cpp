@@ -1,10 +1,10 @@
 #include <afxwin.h>
 
-#include "CallbackFailure.h"
-#include "ModalOwner.h"
-#include "ModalWindows.h"
-#include "ModernControls.h"
-#include "Unwound.h"
+#include "system/CallbackFailure.h"
+#include "system/ModalOwner.h"
+#include "system/ModalWindows.h"
+#include "system/ModernControls.h"
+#include "system/Unwound.h"
 
 #include <commctrl.h>
 

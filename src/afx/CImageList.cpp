@@ -1,6 +1,6 @@
 #include <afxcmn.h>
 
-#include "ModernControls.h"
+#include "system/ModernControls.h"
 
 #include <utility>
 

@@ -1,16 +1,30 @@
 #include <afx.h>
 
-#include "FileNameLength.h"
-#include "StdioStream.h"
+#include "system/FileNameLength.h"
+#include "system/StdioStream.h"
 
 #include <cerrno>
+
+namespace
+{
+
+std::FILE* OpenStream(const char* fileName, UINT flags)
+{
+    StreamUse use = StreamUse::Read;
+    if ((flags & CFile::modeWrite) != 0)
+        use = (flags & CFile::modeNoTruncate) != 0 ? StreamUse::Append : StreamUse::Write;
+    return OpenTextStream(fileName, use,
+                          (flags & CFile::shareDenyWrite) != 0 ? StreamSharing::DenyWrite : StreamSharing::All);
+}
+
+} // namespace
 
 BOOL CStdioFile::Open(const char* fileName, UINT flags, CFileException* error)
 {
     SetFilePath(fileName);
     errno = 0;
     if (FileNameFits(fileName))
-        m_pStream.reset(OpenTextStream(fileName, flags));
+        m_pStream.reset(OpenStream(fileName, flags));
     else
         errno = ENOENT;
     if (m_pStream != nullptr)

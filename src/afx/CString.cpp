@@ -1,41 +1,13 @@
 #include <afx.h>
 
-#include "FormatText.h"
+#include "system/CodePage1252.h"
+#include "system/FormatText.h"
 
 #include <algorithm>
 #include <cstring>
 
 namespace
 {
-
-// Code page 1252 has three pairs of letters and one lone partner outside the Latin-1 block.
-unsigned char ToLower1252(unsigned char ch)
-{
-    if ((ch >= 'A' && ch <= 'Z') || (ch >= 0xC0 && ch <= 0xDE && ch != 0xD7))
-        return static_cast<unsigned char>(ch + 0x20);
-    switch (ch)
-    {
-    case 0x8A: return 0x9A;
-    case 0x8C: return 0x9C;
-    case 0x8E: return 0x9E;
-    case 0x9F: return 0xFF;
-    default: return ch;
-    }
-}
-
-unsigned char ToUpper1252(unsigned char ch)
-{
-    if ((ch >= 'a' && ch <= 'z') || (ch >= 0xE0 && ch <= 0xFE && ch != 0xF7))
-        return static_cast<unsigned char>(ch - 0x20);
-    switch (ch)
-    {
-    case 0x9A: return 0x8A;
-    case 0x9C: return 0x8C;
-    case 0x9E: return 0x8E;
-    case 0xFF: return 0x9F;
-    default: return ch;
-    }
-}
 
 unsigned char Byte(char ch)
 {

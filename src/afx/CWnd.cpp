@@ -1,7 +1,7 @@
 #include <afxwin.h>
 
-#include "CurrentMessage.h"
 #include "WindowMap.h"
+#include "system/CurrentMessage.h"
 
 #include <algorithm>
 #include <memory>

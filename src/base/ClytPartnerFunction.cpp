@@ -1,6 +1,6 @@
 #include "base/ClytPartnerFunction.h"
 
-#include <GuardedCall.h>
+#include "system/GuardedCall.h"
 
 #include <stdexcept>
 

@@ -1,6 +1,6 @@
 #include "base/PartnerLibrary.h"
 
-#include <FileNameLength.h>
+#include "system/FileNameLength.h"
 
 namespace
 {

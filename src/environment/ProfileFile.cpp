@@ -1,6 +1,6 @@
 #include "environment/ProfileFile.h"
 
-#include <FileNameLength.h>
+#include "system/FileNameLength.h"
 #include <afxwin.h>
 
 #include <string>

@@ -1,9 +1,8 @@
 // The frame that the exports share, and the copies between the caller's texts and ours.
 #pragma once
 
-#include <ModalWindows.h>
-#include <ModuleReference.h>
-#include <Unwound.h>
+#include "system/ModalWindows.h"
+#include "system/Unwound.h"
 #include <afx.h>
 #include <afxstat_.h>
 
@@ -34,11 +33,10 @@ private:
 };
 
 // The same for an export that shows windows or calls a partner library: cursor and focus of the host are as before on
-// every way out, too, and whoever unloads the library meanwhile finds it loaded until the call has come back.
+// every way out, too.
 class ExportFrame
 {
 private:
-    ModuleReference m_module; // the last to go
     HostState m_host;
     QuietFrame m_frame;
 };

@@ -55,7 +55,7 @@ int __stdcall lytGetTextForKey(const char* section, const char* key, const char*
 }
 
 // The one export without the frame: it needs neither the module's resources nor the companion library. Its message box
-// takes cursor and focus like any other, so it keeps the host's itself, and the library.
+// takes cursor and focus like any other, so it keeps the host's itself.
 int __stdcall lytGetTextFromIniFile(const char* path, char* buffer, int size)
 {
     LYT_REFUSE_OTHER_THREADS(0);
@@ -65,7 +65,6 @@ int __stdcall lytGetTextFromIniFile(const char* path, char* buffer, int size)
     const int slash = name.Find('/');
     if (slash < 0)
     {
-        const ModuleReference module;
         const HostState host;
         lytReport("250");
         return 0;

@@ -1,11 +1,11 @@
 // The export that leads through the choice of a new placeholder.
 #include "lyt64.h"
 
-#include "afx/ModernControls.h"
 #include "dialog/ClytDialog.h"
 #include "environment/ClytEnvironment.h"
 #include "environment/ProcessState.h"
 #include "exports/ExportFrame.h"
+#include "system/ModernControls.h"
 #include "tree/ClytWizardQueue.h"
 
 #include <afxcmn.h>

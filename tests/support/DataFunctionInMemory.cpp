@@ -1,5 +1,5 @@
 // Natively libraries are entries of a table, which knows the function from the start of the program.
-#include "platform/PartnerLibraries.h"
+#include "native/PartnerLibraries.h"
 #include "support/DataFunction.h"
 
 namespace

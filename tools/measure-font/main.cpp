@@ -1,4 +1,4 @@
-// Prints what this platform measures at its resolution: one entry of the table in src/platform/Measured.cpp.
+// Prints what this platform measures at its resolution: one entry of the table in native/Measured.cpp.
 #include "res/resource.h"
 
 #include <windows.h>

@@ -1,6 +1,6 @@
-#include "sysinfo/files/DirectoryName.h"
 #include "sysinfo/files/FileListing.h"
-#include "sysinfo/files/FileSearch.h"
+#include "sysinfo/frame/DirectoryName.h"
+#include "sysinfo/frame/FileSearch.h"
 #include "sysinfo/frame/Probes.h"
 #include "sysinfo/frame/ReportLines.h"
 

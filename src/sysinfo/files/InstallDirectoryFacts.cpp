@@ -1,6 +1,6 @@
-#include "sysinfo/files/DirectoryName.h"
+#include "sysinfo/frame/DirectoryName.h"
 #include "sysinfo/frame/Probes.h"
-#include "sysinfo/system/RegistryKey.h"
+#include "sysinfo/frame/RegistryKey.h"
 
 namespace
 {

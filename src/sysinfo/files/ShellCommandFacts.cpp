@@ -1,8 +1,8 @@
 #include "sysinfo/files/ShellCommand.h"
 
 #include "sysinfo/frame/Probes.h"
+#include "sysinfo/frame/RegistryKey.h"
 #include "sysinfo/frame/ReportLines.h"
-#include "sysinfo/system/RegistryKey.h"
 
 namespace
 {

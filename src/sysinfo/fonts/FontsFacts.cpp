@@ -8,7 +8,7 @@
 
 #include <afxwin.h>
 
-#include <CallbackFailure.h>
+#include "system/CallbackFailure.h"
 
 #include <string>
 #include <utility>

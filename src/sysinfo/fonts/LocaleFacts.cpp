@@ -1,6 +1,6 @@
 #include "sysinfo/fonts/Locale.h"
 
-#include "sysinfo/system/SystemFunction.h"
+#include "sysinfo/frame/SystemFunction.h"
 
 CString LocaleText(unsigned locale, unsigned type)
 {

@@ -3,12 +3,12 @@
 #include "base/PartnerLibrary.h"
 #include "base/Words.h"
 #include "environment/ClytEnvironment.h"
-#include "sysinfo/files/DirectoryName.h"
-#include "sysinfo/files/FileSearch.h"
+#include "sysinfo/frame/DirectoryName.h"
+#include "sysinfo/frame/FileSearch.h"
 #include "sysinfo/frame/Probes.h"
+#include "sysinfo/frame/RegistryKey.h"
 #include "sysinfo/frame/ReportFrame.h"
 #include "sysinfo/frame/ReportLines.h"
-#include "sysinfo/system/RegistryKey.h"
 
 namespace
 {

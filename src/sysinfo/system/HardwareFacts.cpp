@@ -1,8 +1,8 @@
 #include "sysinfo/frame/Probes.h"
+#include "sysinfo/frame/RegistryKey.h"
 #include "sysinfo/frame/ReportLines.h"
+#include "sysinfo/frame/SystemFunction.h"
 #include "sysinfo/system/Hardware.h"
-#include "sysinfo/system/RegistryKey.h"
-#include "sysinfo/system/SystemFunction.h"
 
 namespace
 {

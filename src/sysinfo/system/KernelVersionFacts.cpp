@@ -1,8 +1,8 @@
 #include "sysinfo/system/KernelVersion.h"
 
 #include "base/PartnerLibrary.h"
+#include "sysinfo/frame/FactHandles.h"
 #include "sysinfo/frame/Probes.h"
-#include "sysinfo/system/FactHandles.h"
 
 #include <string>
 #include <vector>

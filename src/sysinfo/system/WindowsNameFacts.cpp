@@ -1,6 +1,6 @@
 #include "sysinfo/frame/Probes.h"
-#include "sysinfo/system/RegistryKey.h"
-#include "sysinfo/system/SystemFunction.h"
+#include "sysinfo/frame/RegistryKey.h"
+#include "sysinfo/frame/SystemFunction.h"
 #include "sysinfo/system/WindowsName.h"
 
 namespace

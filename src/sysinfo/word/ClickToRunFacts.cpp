@@ -1,5 +1,5 @@
 #include "sysinfo/frame/Probes.h"
-#include "sysinfo/system/RegistryKey.h"
+#include "sysinfo/frame/RegistryKey.h"
 
 namespace
 {

@@ -1,7 +1,7 @@
 // The languages that the office package has enabled.
 #pragma once
 
-#include "sysinfo/system/RegistryValue.h"
+#include "sysinfo/frame/RegistryValue.h"
 
 #include <vector>
 

@@ -1,7 +1,7 @@
 #include "sysinfo/word/EnabledLanguages.h"
 
 #include "base/Words.h"
-#include "sysinfo/files/RegistryDump.h"
+#include "sysinfo/frame/RegistryDump.h"
 #include "sysinfo/word/LanguageTags.h"
 #include "sysinfo/word/WordDirectories.h"
 

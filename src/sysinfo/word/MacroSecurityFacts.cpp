@@ -1,7 +1,7 @@
 #include "sysinfo/word/MacroSecurity.h"
 
 #include "sysinfo/frame/Probes.h"
-#include "sysinfo/system/RegistryKey.h"
+#include "sysinfo/frame/RegistryKey.h"
 
 namespace
 {

@@ -1,6 +1,6 @@
 #include "sysinfo/word/MacroSecurity.h"
 
-#include "sysinfo/files/DirectoryName.h"
+#include "sysinfo/frame/DirectoryName.h"
 #include "sysinfo/word/WordDirectories.h"
 
 #include <algorithm>

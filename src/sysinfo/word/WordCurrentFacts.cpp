@@ -1,9 +1,9 @@
 #include "sysinfo/word/WordCurrent.h"
 
 #include "environment/ClytEnvironment.h"
-#include "sysinfo/files/ProgramKind.h"
 #include "sysinfo/frame/Probes.h"
-#include "sysinfo/system/RegistryKey.h"
+#include "sysinfo/frame/ProgramKind.h"
+#include "sysinfo/frame/RegistryKey.h"
 
 namespace
 {

@@ -1,7 +1,7 @@
 #include "sysinfo/word/WordCurrent.h"
 
 #include "base/Words.h"
-#include "sysinfo/files/ProgramKind.h"
+#include "sysinfo/frame/ProgramKind.h"
 
 CString WordVersionOf(const CString& program)
 {

@@ -2,7 +2,7 @@
 
 #include "environment/ClytEnvironment.h"
 #include "sysinfo/frame/Probes.h"
-#include "sysinfo/system/RegistryKey.h"
+#include "sysinfo/frame/RegistryKey.h"
 
 namespace
 {

@@ -1,6 +1,6 @@
 #include "RaisesInvalidArgument.h"
 
-#include <CallbackFailure.h>
+#include "system/CallbackFailure.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include <FileNameLength.h>
+#include "system/FileNameLength.h"
 
 #include <afx.h>
 

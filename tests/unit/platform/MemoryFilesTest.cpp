@@ -1,5 +1,5 @@
 // Files in memory, opened as the library opens any file.
-#include "platform/MemoryFiles.h"
+#include "native/MemoryFiles.h"
 #include "environment/ProfileFile.h"
 
 #include <afx.h>

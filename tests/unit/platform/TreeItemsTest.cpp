@@ -1,7 +1,7 @@
 // The rows of a tree in memory.
 #include <afxcmn.h>
 
-#include "platform/TreeItems.h"
+#include "native/TreeItems.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 #include "sysinfo/word/WordCurrent.h"
 
-#include "sysinfo/files/ProgramKind.h"
+#include "sysinfo/frame/ProgramKind.h"
 
 #include <gtest/gtest.h>
 

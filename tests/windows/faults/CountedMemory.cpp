@@ -1,6 +1,6 @@
 #include "CountedMemory.h"
 
-#include "platform/FaultPlan.h"
+#include "native/FaultPlan.h"
 
 #include <cstdlib>
 #include <new>

@@ -7,8 +7,8 @@
 #include "Journey.h"
 #include "NewProcess.h"
 
-#include "platform/FaultPlan.h"
-#include "platform/MemoryWindows.h"
+#include "native/FaultPlan.h"
+#include "native/MemoryWindows.h"
 #include "support/TestFolder.h"
 
 #include <gtest/gtest.h>

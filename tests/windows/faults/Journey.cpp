@@ -4,9 +4,9 @@
 #include "environment/ClytException.h"
 #include "lyt64.h"
 #include "lytcall/Commands.h"
-#include "platform/FaultPlan.h"
-#include "platform/MemoryWindows.h"
-#include "platform/PartnerLibraries.h"
+#include "native/FaultPlan.h"
+#include "native/MemoryWindows.h"
+#include "native/PartnerLibraries.h"
 #include "tree/ClytWizardQueue.h"
 #include "windows/dialogs/CreationHook.h"
 

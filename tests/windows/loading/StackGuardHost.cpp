@@ -1,5 +1,5 @@
 // Is protected by the library's stack guard, and shows it, runs over a buffer or does not.
-#include "exports/StackGuard.h"
+#include "runtime/StackGuard.h"
 
 #include <cstdint>
 #include <cstdio>

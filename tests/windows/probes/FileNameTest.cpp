@@ -2,7 +2,7 @@
 #include "ProbeFixture.h"
 
 #include "base/PartnerLibrary.h"
-#include "sysinfo/files/ProgramKind.h"
+#include "sysinfo/frame/ProgramKind.h"
 
 namespace
 {

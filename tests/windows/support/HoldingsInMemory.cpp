@@ -2,7 +2,7 @@
 // counts as used; ctest runs the tests without that.
 #include "support/Holdings.h"
 
-#include "platform/MemoryWindows.h"
+#include "native/MemoryWindows.h"
 
 #include <malloc.h>
 

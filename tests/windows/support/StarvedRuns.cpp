@@ -1,6 +1,6 @@
 // A modal run over windows in memory that nothing could end any more was cancelled, so that the call came back. The test
 // that opened it has failed, whatever else it found.
-#include "platform/MemoryWindows.h"
+#include "native/MemoryWindows.h"
 
 #include <gtest/gtest.h>
 

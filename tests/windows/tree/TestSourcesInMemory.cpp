@@ -2,7 +2,7 @@
 #include "TestSource.h"
 #include "TestSources.h"
 
-#include "platform/PartnerLibraries.h"
+#include "native/PartnerLibraries.h"
 
 HMODULE LoadTestSource(const std::string& variant)
 {

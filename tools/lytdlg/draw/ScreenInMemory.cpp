@@ -1,7 +1,7 @@
 // Windows in memory stand on a screen of either resolution.
 #include "lytdlg/draw/Screen.h"
 
-#include "platform/MemoryWindows.h"
+#include "native/MemoryWindows.h"
 
 #include <afxwin.h>
 

@@ -1,7 +1,7 @@
 #include "lytdlg/judge/Places.h"
 
 #include "controls/ClytWindowControl.h"
-#include "platform/Metrics.h"
+#include "native/Metrics.h"
 
 #include <algorithm>
 #include <cstdlib>

@@ -1,6 +1,6 @@
 #include "lytdlg/text/FileForLibrary.h"
 
-#include "platform/MemoryFiles.h"
+#include "native/MemoryFiles.h"
 
 namespace lytdlg
 {

@@ -8,7 +8,7 @@
 //
 // These are all the calls that the runtime makes. One that was missing would bring the thread library back with its
 // own definitions, and the link would fail.
-#include "exports/ThreadCalls.h"
+#include "runtime/ThreadCalls.h"
 
 #include <windows.h>
 

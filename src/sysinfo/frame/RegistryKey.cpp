@@ -1,4 +1,4 @@
-#include "sysinfo/system/RegistryKey.h"
+#include "sysinfo/frame/RegistryKey.h"
 
 #include <cstring>
 #include <string>

@@ -1,7 +1,7 @@
 // Files and folders, which may be named with `\` between folders.
 #include <windows.h>
 
-#include "platform/NativePath.h"
+#include "native/NativePath.h"
 
 #include <filesystem>
 #include <unistd.h>

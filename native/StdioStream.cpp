@@ -1,10 +1,10 @@
 // Text streams as the Windows runtime has them: CR LF is one line end, Ctrl-Z ends a text that is read, `\` separates
 // folders and a folder is no file.
-#include <StdioStream.h>
+#include "system/StdioStream.h"
 
-#include "platform/FaultPlan.h"
-#include "platform/MemoryFiles.h"
-#include "platform/NativePath.h"
+#include "native/FaultPlan.h"
+#include "native/MemoryFiles.h"
+#include "native/NativePath.h"
 
 #include <cerrno>
 #include <fcntl.h>
@@ -33,12 +33,11 @@ int GetTextCharacter(std::FILE* stream)
     return ch;
 }
 
-// The flags mean the same for a file in memory.
-std::FILE* OpenInMemory(const std::string& path, UINT flags)
+std::FILE* OpenInMemory(const std::string& path, StreamUse use)
 {
-    if ((flags & CFile::modeWrite) == 0)
+    if (use == StreamUse::Read)
         return platform::OpenMemoryFileToRead(path);
-    if ((flags & CFile::modeNoTruncate) == 0)
+    if (use == StreamUse::Write)
         platform::RemoveMemoryFile(path.c_str());
     return platform::OpenMemoryFileToAppend(path);
 }
@@ -59,7 +58,7 @@ void LoseWhatIsWritten(std::FILE* stream)
 
 } // namespace
 
-std::FILE* OpenTextStream(const char* fileName, UINT flags)
+std::FILE* OpenTextStream(const char* fileName, StreamUse use, StreamSharing /*sharing*/)
 {
     if (platform::IsToFail(platform::FaultKind::Open))
     {
@@ -69,18 +68,18 @@ std::FILE* OpenTextStream(const char* fileName, UINT flags)
     const platform::PlatformAtWork working;
     const std::string path = NativePath(fileName);
     if (platform::IsInMemory(path))
-        return OpenInMemory(path, flags);
+        return OpenInMemory(path, use);
     if (IsFolder(path.c_str()))
     {
         errno = EACCES;
         return nullptr;
     }
-    if ((flags & CFile::modeWrite) == 0)
+    if (use == StreamUse::Read)
         return std::fopen(path.c_str(), "rb");
-    return std::fopen(path.c_str(), (flags & CFile::modeNoTruncate) != 0 ? "ab" : "wb");
+    return std::fopen(path.c_str(), use == StreamUse::Append ? "ab" : "wb");
 }
 
-bool ReadTextLine(std::FILE* stream, char* buffer, UINT count)
+bool ReadTextLine(std::FILE* stream, char* buffer, unsigned count)
 {
     if (platform::IsToFail(platform::FaultKind::Read))
     {
@@ -88,7 +87,7 @@ bool ReadTextLine(std::FILE* stream, char* buffer, UINT count)
         putc_unlocked(endOfText, stream);
         return false;
     }
-    UINT length = 0;
+    unsigned length = 0;
     while (length < count)
     {
         const int ch = GetTextCharacter(stream);

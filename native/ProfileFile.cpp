@@ -1,11 +1,11 @@
 // The platform's profile functions. One table of cases in the tests runs against both.
-#include "platform/FaultPlan.h"
-#include "platform/MemoryFiles.h"
-#include "platform/NativePath.h"
+#include "native/FaultPlan.h"
+#include "native/MemoryFiles.h"
+#include "native/NativePath.h"
+#include "system/CodePage1252.h"
 
 #include <windows.h>
 
-#include <afx.h>
 #include <algorithm>
 #include <cstring>
 #include <fcntl.h>
@@ -59,17 +59,15 @@ std::string_view UpToNul(std::string_view text)
     return text.substr(0, text.find('\0'));
 }
 
-CString Text(std::string_view text)
+bool SameLetter(char left, char right)
 {
-    return {text.data(), static_cast<int>(text.size())};
+    return ToLower1252(static_cast<unsigned char>(left)) == ToLower1252(static_cast<unsigned char>(right));
 }
 
 // The blanks round either name do not count, nor does case.
 bool SameName(std::string_view left, std::string_view right)
 {
-    const std::string_view leftName = UpToNul(Trimmed(left));
-    const std::string_view rightName = UpToNul(Trimmed(right));
-    return leftName.size() == rightName.size() && Text(leftName).CompareNoCase(Text(rightName)) == 0;
+    return std::ranges::equal(UpToNul(Trimmed(left)), UpToNul(Trimmed(right)), SameLetter);
 }
 
 // Empty for a file that cannot be read, a folder among them. A language file is read for each text that a dialog shows,

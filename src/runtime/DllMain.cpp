@@ -1,4 +1,3 @@
-#include <ModuleReference.h>
 #include <afxstat_.h>
 
 extern "C" BOOL __stdcall DllMain(HINSTANCE module, DWORD reason, void* /*reserved*/)
@@ -6,7 +5,6 @@ extern "C" BOOL __stdcall DllMain(HINSTANCE module, DWORD reason, void* /*reserv
     if (reason == DLL_PROCESS_ATTACH)
     {
         *AfxGetStaticModuleState() = {module, module};
-        ModuleReference::Prepare(module);
         DisableThreadLibraryCalls(module);
     }
     return TRUE;

@@ -1,9 +1,9 @@
-#include "sysinfo/files/ProgramKind.h"
+#include "sysinfo/frame/ProgramKind.h"
 
-#include "sysinfo/files/FileSearch.h"
+#include "sysinfo/frame/FileSearch.h"
 #include "sysinfo/frame/Probes.h"
 
-#include <FileNameLength.h>
+#include "system/FileNameLength.h"
 
 static_assert(lytBinary64 == SCS_64BIT_BINARY);
 

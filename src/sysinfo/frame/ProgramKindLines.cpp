@@ -1,4 +1,4 @@
-#include "sysinfo/files/ProgramKind.h"
+#include "sysinfo/frame/ProgramKind.h"
 
 CString BitsText(const std::optional<unsigned>& binaryKind)
 {

@@ -1,7 +1,7 @@
 // The toolchain's own guard asks the system for random bytes while the library is being loaded, and the system loads
 // further libraries for that, inside the loader's lock. This one takes its place. What it mixes is at hand and differs
 // from load to load: an attacker who could ask for all of it is inside the process already.
-#include "exports/StackGuard.h"
+#include "runtime/StackGuard.h"
 
 #include <windows.h>
 

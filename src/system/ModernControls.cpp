@@ -1,4 +1,4 @@
-#include "ModernControls.h"
+#include "system/ModernControls.h"
 
 #include <afxstat_.h>
 

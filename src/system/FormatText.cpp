@@ -1,4 +1,4 @@
-#include "FormatText.h"
+#include "system/FormatText.h"
 
 #include <cstdio>
 

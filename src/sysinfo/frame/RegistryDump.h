@@ -1,7 +1,7 @@
 // Keys of the registry with all that is below them.
 #pragma once
 
-#include "sysinfo/system/RegistryValue.h"
+#include "sysinfo/frame/RegistryValue.h"
 
 // The types that a dump words. It calls 0, 5, 6, 7 and 8 unsupported, and shows no data for those above.
 enum RegistryType : unsigned

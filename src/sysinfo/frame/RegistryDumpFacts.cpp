@@ -1,8 +1,8 @@
-#include "sysinfo/files/RegistryDump.h"
+#include "sysinfo/frame/RegistryDump.h"
 
 #include "sysinfo/frame/Probes.h"
+#include "sysinfo/frame/RegistryKey.h"
 #include "sysinfo/frame/ReportLines.h"
-#include "sysinfo/system/RegistryKey.h"
 
 static_assert(registryText == REG_SZ && registryExpandableText == REG_EXPAND_SZ && registryBinary == REG_BINARY &&
               registryNumber == REG_DWORD);

@@ -1,4 +1,4 @@
-#include "ModalWindows.h"
+#include "system/ModalWindows.h"
 
 #include "WindowMap.h"
 

@@ -1,9 +1,9 @@
 // A search for files by a pattern, and the question whether a file may be used.
 #pragma once
 
-#include "sysinfo/system/FactHandles.h"
+#include "sysinfo/frame/FactHandles.h"
 
-#include <FileNameLength.h>
+#include "system/FileNameLength.h"
 #include <afx.h>
 
 #include <cerrno>

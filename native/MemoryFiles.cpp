@@ -1,6 +1,6 @@
-#include "platform/MemoryFiles.h"
+#include "native/MemoryFiles.h"
 
-#include "platform/NativePath.h"
+#include "native/NativePath.h"
 
 #include <cerrno>
 #include <memory>

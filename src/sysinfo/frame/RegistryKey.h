@@ -1,8 +1,8 @@
 // An open key of the registry, for reading; closes itself.
 #pragma once
 
-#include "sysinfo/system/FactHandles.h"
-#include "sysinfo/system/RegistryValue.h"
+#include "sysinfo/frame/FactHandles.h"
+#include "sysinfo/frame/RegistryValue.h"
 
 #include <vector>
 #include <windows.h>

@@ -1,22 +1,22 @@
-#include "StdioStream.h"
+#include "system/StdioStream.h"
 
 #include <limits>
 #include <share.h>
 #include <string>
 
-std::FILE* OpenTextStream(const char* fileName, UINT flags)
+std::FILE* OpenTextStream(const char* fileName, StreamUse use, StreamSharing sharing)
 {
-    const int sharing = (flags & CFile::shareDenyWrite) != 0 ? _SH_DENYWR : _SH_DENYNO;
-    if ((flags & CFile::modeWrite) == 0)
-        return _fsopen(fileName, "rt", sharing);
+    const int denied = sharing == StreamSharing::DenyWrite ? _SH_DENYWR : _SH_DENYNO;
+    if (use == StreamUse::Read)
+        return _fsopen(fileName, "rt", denied);
     // The runtime would translate line ends in pieces, with a write of the file for each.
-    std::FILE* stream = _fsopen(fileName, (flags & CFile::modeNoTruncate) != 0 ? "ab" : "wb", sharing);
+    std::FILE* stream = _fsopen(fileName, use == StreamUse::Append ? "ab" : "wb", denied);
     if (stream != nullptr)
         std::setvbuf(stream, nullptr, _IONBF, 0);
     return stream;
 }
 
-bool ReadTextLine(std::FILE* stream, char* buffer, UINT count)
+bool ReadTextLine(std::FILE* stream, char* buffer, unsigned count)
 {
     // The runtime counts the NUL, the class library does not.
     return std::fgets(buffer, static_cast<int>(count) + 1, stream) != nullptr;

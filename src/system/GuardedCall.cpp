@@ -1,6 +1,6 @@
-#include "GuardedCall.h"
+#include "system/GuardedCall.h"
 
-#include "Unwound.h"
+#include "system/Unwound.h"
 
 #include <afx.h>
 

@@ -1,4 +1,4 @@
-#include "sysinfo/files/RegistryDump.h"
+#include "sysinfo/frame/RegistryDump.h"
 
 namespace
 {

@@ -1,4 +1,4 @@
-#include "sysinfo/system/RegistryValue.h"
+#include "sysinfo/frame/RegistryValue.h"
 
 #include <algorithm>
 

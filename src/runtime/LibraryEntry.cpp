@@ -1,6 +1,6 @@
 // What the loader calls: the first code of the library that runs, and the last.
-#include "exports/StackGuard.h"
-#include "exports/ThreadCalls.h"
+#include "runtime/StackGuard.h"
+#include "runtime/ThreadCalls.h"
 
 #include <windows.h>
 

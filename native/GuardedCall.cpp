@@ -1,4 +1,4 @@
-#include "GuardedCall.h"
+#include "system/GuardedCall.h"
 
 // There is one tool chain.
 void RunGuarded(void (*run)(void* step), void* step)
