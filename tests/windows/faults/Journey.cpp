@@ -66,24 +66,6 @@ std::string ContentOf(const std::string& file)
     return content.str();
 }
 
-// A word @NAME stands for what that file holds, without the line end.
-std::string WordOf(const std::string& word)
-{
-    if (!word.starts_with('@'))
-        return word;
-    std::string text = ContentOf(LYT_TEXTS + word.substr(1));
-    text.erase(text.find_last_not_of('\n') + 1);
-    return text;
-}
-
-// Calls that never reach an export, and those of the report, which needs Windows, are no journeys.
-bool IsJourney(const std::string& name)
-{
-    static constexpr std::array others{"report",     "doctor",    "script-",   "usage",
-                                       "no-picture", "no-script", "no-screen", "no-library"};
-    return std::ranges::none_of(others, [&](const char* other) { return name.starts_with(other); });
-}
-
 std::vector<Journey> ReadJourneys()
 {
     std::vector<Journey> journeys;
@@ -94,9 +76,8 @@ std::vector<Journey> ReadJourneys()
         Journey journey;
         std::getline(words, journey.name, '\t');
         for (std::string word; std::getline(words, word, '\t');)
-            journey.words.push_back(WordOf(word));
-        if (IsJourney(journey.name))
-            journeys.push_back(journey);
+            journey.words.push_back(word);
+        journeys.push_back(journey);
     }
     return journeys;
 }
