@@ -3,7 +3,6 @@ import argparse
 import datetime
 import json
 import re
-import shutil
 import sys
 
 import figures
@@ -56,15 +55,11 @@ def as_lines(result):
 
 
 def write_page(result, folder):
-    """The page, and beside it the drawings and the figures that it can be written from again."""
-    words, drawings = page.make(works.load(), result)
+    """The page, and beside it the figures that it can be written from again."""
     beside = folder / "benchmarks"
-    shutil.rmtree(beside, ignore_errors=True)
-    beside.mkdir(parents=True)
-    (folder / "benchmarks.md").write_text(words, encoding="utf-8")
+    beside.mkdir(parents=True, exist_ok=True)
+    (folder / "benchmarks.md").write_text(page.make(works.load(), result), encoding="utf-8")
     (beside / "figures.json").write_text(as_lines(result), encoding="utf-8")
-    for name, drawing in drawings.items():
-        (beside / name).write_text(drawing, encoding="utf-8")
 
 
 def write_again():

@@ -1,7 +1,6 @@
-"""docs/benchmarks.md and its drawings."""
+"""docs/benchmarks.md."""
 import pathlib
 
-from drawing import draw
 from figures import growth, run_ratios, summarise, time_text
 from works import outcomes
 
@@ -122,7 +121,7 @@ def growth_rows(work, named, grown):
 
 
 def growth_section(works, summary):
-    rows, drawn, steep = [], [], []
+    rows, steep = [], []
     for name, work in works.items():
         grown = growth(summary.get(name, {}))
         if "ours" not in grown:
@@ -132,16 +131,13 @@ def growth_section(works, summary):
         if any(ALARM in row[-1] for row in added):
             steep.append(work["title"])
         rows += added
-        drawn.append((name, work, named))
     words = ("## Growth\n\n"
              "Each work in three sizes, each ten times the one before, and the exponent of the power of the size that fits its\n"
              "times best: 1 is linear, 0 constant. The exponent of the last step alone shows growth that a constant beginning\n"
              "hides from the fit. What is steeper than linear and just as steep in the rival is the platform's, or the\n"
-             "emulator's, and not the library's. In the drawings the dashed line is linear growth.\n\n")
+             "emulator's, and not the library's.\n\n")
     words += f'Steeper than linear without a rival that is so as well: {", ".join(steep) or "nothing"}.\n\n'
-    words += table(["work", "", ":sizes", ":times", ":exponent", ":last step", "growth"], rows) + "\n"
-    words += "\n\n".join(f'![{work["title"]}](benchmarks/{name}.svg)' for name, work, _ in drawn) + "\n"
-    return words, {f"{name}.svg": draw(work["title"], work["unit"], named) for name, work, named in drawn}
+    return words + table(["work", "", ":sizes", ":times", ":exponent", ":last step", "growth"], rows)
 
 
 def profile_section(works, profile):
@@ -158,14 +154,13 @@ def profile_section(works, profile):
 
 
 def make(works, figures):
-    """The text of the page, and {name: text} of its drawings."""
+    """The text of the page."""
     summary = figures["works"]
     found = outcomes(works, summary)
-    growth_words, drawings = growth_section(works, summary)
     usage = "".join(f"    {line}\n" if line.strip() else "\n" for line in USAGE.read_text(encoding="utf-8").splitlines())
     sections = [HEAD, "## How to measure\n\n" + usage, machine_section(figures), aims_section(found), reasons_section(found),
-                rivals_section(works, summary), growth_words, profile_section(works, figures["profile"])]
-    return "\n".join(section for section in sections if section), drawings
+                rivals_section(works, summary), growth_section(works, summary), profile_section(works, figures["profile"])]
+    return "\n".join(section for section in sections if section)
 
 
 def in_short(works, figures):
