@@ -52,25 +52,6 @@ TEST(FmtCommand, ListsWithCheckWhatWouldChange)
     EXPECT_EQ(CommandRun({"fmt", folder.File("b.dlg"), "--check"}), CommandRun(0));
 }
 
-TEST(FmtCommand, ShowsWithDiffWhatWouldChange)
-{
-    const TestFolder folder;
-    const std::string file = folder.Write("a.dlg", written);
-    EXPECT_EQ(CommandRun({"fmt", file, "--diff"}), CommandRun(1, "--- " + file + "\n+++ " + file +
-                                                                     "\n@@ -1,7 +1,7 @@\n"
-                                                                     "-$VERSION  1\n"
-                                                                     "+$VERSION 1\n"
-                                                                     " $LAYOUT S\n"
-                                                                     " Begin Dialog Box 1, 2, \"T\", .M\n"
-                                                                     " $VALUES\n"
-                                                                     "-A=b\n"
-                                                                     "+    A = b\n"
-                                                                     " \n"
-                                                                     " $END\n"));
-    EXPECT_EQ(folder.Read("a.dlg"), written);
-    EXPECT_EQ(CommandRun({"fmt", folder.Write("b.dlg", form), "--diff"}), CommandRun(0));
-}
-
 TEST(FmtCommand, TakesTheStandardInputToTheStandardOutput)
 {
     const TestFolder folder;
@@ -123,6 +104,4 @@ TEST(FmtCommand, SaysWhatToWriteWhenItIsNotUnderstood)
               CommandRun(2, "",
                          "lytdlg: the folder " + folder.Path() +
                              " holds no description (*.dlg); name the one that does\n" + hint));
-    EXPECT_EQ(CommandRun({"fmt", "a.dlg", "--check", "--diff"}),
-              CommandRun(2, "", "lytdlg: --check and --diff exclude each other; give one of them\n" + hint));
 }

@@ -2,7 +2,6 @@
 #include "DrawnFolder.h"
 #include "WellFormed.h"
 #include "lytdlg/draw/Markup.h"
-#include "lytdlg/draw/Png.h"
 
 namespace
 {
@@ -143,20 +142,6 @@ TEST_F(Preview, GreysOutWhatIsDisabled)
     EXPECT_NE(drawing.find("fill=\"#8a8a8a\">abc</text>"), std::string::npos);
 }
 
-TEST_F(Preview, GivesAPageWithATableThatLeadsThereAndBack)
-{
-    const std::string page = Draw("preview", SmallDialog()(), "small.html");
-    EXPECT_EQ(MistakeOfXml(page), "");
-    EXPECT_NE(page.find("<a href=\"#row-2\">"), std::string::npos);
-    EXPECT_NE(page.find("<g id=\"control-2\">"), std::string::npos);
-    EXPECT_NE(page.find("<tr id=\"row-2\">"), std::string::npos);
-    EXPECT_NE(page.find("<a href=\"#control-2\">Name</a>"), std::string::npos);
-    EXPECT_NE(page.find("<td>TextBox</td>"), std::string::npos);
-    EXPECT_NE(page.find("<td>45, 10</td>"), std::string::npos) << page;
-    // A hidden control has a row, and nothing that the row could lead to.
-    EXPECT_NE(page.find("<td>Hidden</td>"), std::string::npos);
-}
-
 TEST_F(Preview, TellsTheNumberedMessageOfADialogThatIsRefused)
 {
     EXPECT_EQ(
@@ -187,13 +172,10 @@ TEST_F(Preview, IsWellFormedWhateverTheTexts)
         folder.WriteIni("");
         folder.Write("lang/Test.nls",
                      "[TEXTS]\r\nTITLE=" + Replaced(hostile.substr(0, 70), "\n", "") + "\r\nLABEL=&]]>&#x1;<b>\r\n");
-        for (const char* target : {"hostile.svg", "hostile.html"})
-        {
-            const std::string drawing =
-                Draw("preview", SmallDialog()(), target, {"--names", "--tabs", "--input", hostile});
-            EXPECT_EQ(MistakeOfXml(drawing), "");
-            EXPECT_NE(drawing, "");
-        }
+        const std::string drawing =
+            Draw("preview", SmallDialog()(), "hostile.svg", {"--names", "--tabs", "--input", hostile});
+        EXPECT_EQ(MistakeOfXml(drawing), "");
+        EXPECT_NE(drawing, "");
     }
 }
 
@@ -205,12 +187,7 @@ TEST_F(Preview, TellsWhatACommandLineShouldBe)
         std::vector<std::string> words;
         const char* message;
     } cases[] = {
-        {{"preview"},
-         "lytdlg: preview draws one dialog, or with --sheet those of a folder; write: lytdlg preview DIALOG, or lytdlg "
-         "preview --sheet FOLDER\n"},
-        {{"preview", dialog, "-o", "x.gif"},
-         "lytdlg: \"x.gif\" is no kind of picture; the name ends in .svg, .png or .html\n"},
-        {{"preview", "--sheet", folder.Path(), "-o", "x.svg"}, "lytdlg: a sheet is a page; write: -o FILE.html\n"},
+        {{"preview", dialog, "-o", "x.png"}, "lytdlg: \"x.png\" is no kind of picture; the name ends in .svg\n"},
         {{"preview", "none.dlg"}, "lytdlg: there is no dialog \"none.dlg\"; name a .dlg file with its folder\n"},
     };
     for (const auto& c : cases)
@@ -253,31 +230,4 @@ TEST(Markup, EscapesWhatItCannotHold)
     // A surrogate and a form that is too long are no characters.
     for (const char* broken : {"\xED\xA0\x80", "\xE0\x80\xAF", "\xF4\x90\x80\x80", "\xFF"})
         EXPECT_EQ(lytdlg::Escaped(broken).find(broken), std::string::npos);
-}
-
-TEST(Png, HoldsThePixelsOfABitmap)
-{
-    std::string bitmap("BM", 2);
-    bitmap.resize(54, '\0');
-    bitmap[18] = 1;
-    bitmap[22] = 2;
-    bitmap[28] = 24;
-    // From bottom to top, blue first, and rows of four bytes.
-    bitmap += std::string("\x03\x02\x01\0\x06\x05\x04\0", 8);
-    const std::string expected("\x89PNG\r\n\x1A\n"
-                               "\0\0\0\x0DIHDR\0\0\0\1\0\0\0\2\x08\2\0\0\0\x16\xE3\x21\x70"
-                               "\0\0\0\x13IDAT\x78\1\1\x08\0\xF7\xFF\0\4\5\6\0\1\2\3\0\x6A\0\x16\xE9\x71\xC4\x5F"
-                               "\0\0\0\0IEND\xAE\x42\x60\x82",
-                               8 + 25 + 31 + 12);
-    EXPECT_EQ(lytdlg::PngOfBitmap(bitmap), expected);
-}
-
-TEST(Png, RefusesWhatIsNoBitmap)
-{
-    EXPECT_THROW(lytdlg::PngOfBitmap("GIF89a"), std::runtime_error);
-    std::string cut("BM", 2);
-    cut.resize(54, '\0');
-    cut[18] = cut[22] = 9;
-    cut[28] = 24;
-    EXPECT_THROW(lytdlg::PngOfBitmap(cut), std::runtime_error);
 }

@@ -6,7 +6,7 @@
 namespace
 {
 
-const std::regex declaration(R"(<\?xml version="1\.0" encoding="UTF-8"\?>|<!DOCTYPE html>)");
+const std::regex declaration(R"(<\?xml version="1\.0" encoding="UTF-8"\?>)");
 const std::regex openTag(R"re(<([a-zA-Z][a-zA-Z0-9]*)( [a-zA-Z:-]+="[^"<>]*")*(/?)>)re");
 const std::regex closeTag(R"(</([a-zA-Z][a-zA-Z0-9]*)>)");
 const std::regex entity("&(amp|lt|gt|quot|#39);");

@@ -42,7 +42,6 @@ for output in /dev/full closed; do
     refused "$lytdlg" why $dialog Name
     refused "$lytdlg" test samples/cases
     refused "$lytdlg" fmt -
-    refused "$lytdlg" fmt input.dlg --diff
     refused "$lytdlg" texts samples/dialogs
     refused "$lytdlg" new "$(basename "$output")" -o samples/dialogs
     refused "$lytdlg" preview $dialog

@@ -1,4 +1,4 @@
-// Writes XML and HTML that is well formed whatever texts it is given.
+// Writes XML that is well formed for any text.
 #pragma once
 
 #include <string>
@@ -31,8 +31,6 @@ public:
     void Empty(const char* element, const Attributes& attributes = {});
     // An element with a text in it; the text stays as it is, blanks included.
     void Leaf(const char* element, const Attributes& attributes, const std::string& utf8);
-    // Lines that are markup already.
-    void Add(const std::string& lines) { m_text += lines; }
 
     const std::string& Text() const { return m_text; }
 

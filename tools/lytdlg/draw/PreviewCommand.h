@@ -1,4 +1,4 @@
-// preview: a picture of a dialog as it would stand on the screen, or of all dialogs of a folder.
+// preview: a drawing of a dialog as it would appear on the screen.
 #pragma once
 
 #include "lytdlg/Commands.h"

@@ -1,13 +1,8 @@
 // The resolution of the screen that dialogs are opened on.
 #pragma once
 
-#include <vector>
-
 namespace lytdlg
 {
-
-// Those that dialogs can be opened at here, smallest first.
-std::vector<int> Resolutions();
 
 // Holds for as long as it lives.
 class Resolution

@@ -8,11 +8,6 @@
 namespace lytdlg
 {
 
-std::vector<int> Resolutions()
-{
-    return {96, 120};
-}
-
 Resolution::Resolution(int pixelsPerInch) : m_before(PixelsPerInch())
 {
     platform::SetPixelsPerInch(pixelsPerInch);

@@ -9,11 +9,6 @@
 namespace lytdlg
 {
 
-std::vector<int> Resolutions()
-{
-    return {PixelsPerInch()};
-}
-
 Resolution::Resolution(int pixelsPerInch) : m_before(PixelsPerInch())
 {
     if (pixelsPerInch != m_before)

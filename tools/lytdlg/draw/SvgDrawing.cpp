@@ -113,10 +113,7 @@ private:
 
     void Place(const SeenControl& control, size_t number)
     {
-        const std::string suffix = std::to_string(number);
-        if (m_style.isLinked)
-            m_pen.markup.Open("a", {{"href", "#" + m_style.idPrefix + "row-" + suffix}});
-        m_pen.markup.Open("g", {{"id", m_style.idPrefix + "control-" + suffix}});
+        m_pen.markup.Open("g", {{"id", "control-" + std::to_string(number)}});
         const std::string name = control.name.empty() ? "" : control.name + ": ";
         m_pen.markup.Leaf("title", {}, ToUtf8(name + control.type));
         Area place = control.place;
@@ -131,8 +128,6 @@ private:
         else
             m_pen.Frame(place, "none", color::name, {{"stroke-dasharray", "3 2"}});
         m_pen.markup.Close();
-        if (m_style.isLinked)
-            m_pen.markup.Close();
     }
 
     void Annotate(const SeenControl& control)

@@ -11,11 +11,9 @@ struct SvgStyle
 {
     bool showsNames = false; // names at the controls, and hidden ones in outline
     bool showsTabs = false;  // the numbers of the tab stops
-    std::string idPrefix;    // before the identifiers "control-1", "control-2" ...
-    bool isLinked = false;   // each control leads to "row-N" with the same prefix
 };
 
-// UTF-8, an element of its own; it may stand in a page or follow an XML declaration.
+// In UTF-8, without an XML declaration.
 std::string DrawSvg(const SeenDialog& dialog, const SvgStyle& style);
 
 } // namespace lytdlg

@@ -5,7 +5,6 @@
 #include "lytdlg/text/DescriptionPaths.h"
 #include "lytdlg/text/FileForLibrary.h"
 #include "lytdlg/text/Format.h"
-#include "lytdlg/text/LineDiff.h"
 #include "lytdlg/text/Paths.h"
 #include "lytdlg/text/TextFile.h"
 
@@ -22,16 +21,8 @@ namespace
 enum class Task
 {
     Write,
-    Check,
-    Diff
+    Check
 };
-
-Task TaskOf(const Request& request)
-{
-    if (request.Has("--check") && request.Has("--diff"))
-        throw commandline::UsageError("--check and --diff exclude each other; give one of them");
-    return request.Has("--check") ? Task::Check : request.Has("--diff") ? Task::Diff : Task::Write;
-}
 
 // A description with its form; nothing, and a word about it, when it has none.
 std::optional<std::string> FormOf(const std::string& name, const fs::path& file, const std::string& content)
@@ -55,8 +46,6 @@ ExitCode FormatInput(Task task)
     const std::string& text = form ? *form : content;
     if (task == Task::Write)
         WriteBytes(text);
-    else if (task == Task::Diff)
-        WriteBytes(LineDiff(standardInput, content, text));
     else if (text != content)
         std::printf("%s\n", standardInput);
     return form && (task == Task::Write || text == content) ? good : found;
@@ -70,12 +59,11 @@ ExitCode FormatFile(const std::string& name, Task task)
         return found;
     if (*form == content)
         return good;
-    if (task == Task::Diff)
-        WriteBytes(LineDiff(commandline::Printable(name), content, *form));
     if (task == Task::Check)
+    {
         commandline::PrintLine(name);
-    if (task != Task::Write)
         return found;
+    }
     ReplaceWholeFile(PathOf(name), content, *form);
     commandline::PrintLine(name + ": formatted");
     return good;
@@ -83,7 +71,7 @@ ExitCode FormatFile(const std::string& name, Task task)
 
 ExitCode Format(const Request& request)
 {
-    const Task task = TaskOf(request);
+    const Task task = request.Has("--check") ? Task::Check : Task::Write;
     return ForEachDescription(request.operands, [&](const std::string& name)
                               { return name == standardInput ? FormatInput(task) : FormatFile(name, task); });
 }
@@ -97,8 +85,7 @@ Command FmtCommand()
              1,
              1000,
              "bring descriptions into their one form; - reads the standard input",
-             {{"--check", nullptr, false, "only list the files that would change, and end with 1 if there are any"},
-              {"--diff", nullptr, false, "only show what would change, and end with 1 if anything would"}}},
+             {{"--check", nullptr, false, "only list the files that would change, and end with 1 if there are any"}}},
             Format};
 }
 
