@@ -15,9 +15,9 @@
  *     a window of the library is up, a call on another thread is refused: it gives 0, if anything, and does nothing.
  *   - State lives in the process from load to unload. Call lytInitialiseEnvironment first.
  *   - Unloading frees everything: a host may load, call and unload as often as it likes, and a library that is loaded
- *     again starts afresh. Unload on the thread that calls, with no call under way. A library that is unloaded below a
- *     dialog, or by a partner that it calls, stays in the process as it is, until it has been loaded again, called and
- *     unloaded. Partner libraries and the system's own libraries that a call has loaded stay in the process.
+ *     again starts afresh. Unload on the thread that calls, with no call under way. Unloading it while a call is under
+ *     way ends the process. Partner libraries and the system's own libraries that a call has loaded stay in the
+ *     process.
  *   - The library is 64-bit, and so must its host be.
  *   - Partner libraries (the catalogue's lytsrc.dll, the data libraries that descriptions name, LytRes64.dll) are
  *     looked for where Windows looks for any library: in the host program's folder, in the folders of Windows, in the

@@ -1,4 +1,4 @@
-// Calls that come while another is under way, and a library that is unloaded meanwhile.
+// Calls that come while another is under way, a host or a thread that ends meanwhile, and a process without free slots.
 #include "Limit.h"
 #include "Scene.h"
 
@@ -82,76 +82,6 @@ void ReleaseBelowABrowser(Scene& scene)
     EXPECT_EQ(scene.robot.Messages(), Texts{"no value present"});
 }
 
-void UnloadBelowADialog(Scene& scene)
-{
-    scene.OnDialog([&](HWND) { scene.Unload(); }).EndDialog(IDOK);
-    EXPECT_EQ(scene.ShowSymbol(), "2 key");
-}
-
-void UnloadBesideADialog(Scene& scene)
-{
-    scene.OnDialog([&](HWND) { OnAnotherThread([&] { scene.Unload(); }); }).EndDialog(IDOK);
-    EXPECT_EQ(scene.ShowSymbol(), "2 key");
-}
-
-void UnloadBelowABrowser(Scene& scene)
-{
-    scene.OnBrowser([&](HWND) { scene.Unload(); }).EndBrowser(IDCANCEL);
-    EXPECT_EQ(scene.OpenBrowser(), "0 as it was");
-}
-
-void UnloadBelowTheWizard(Scene& scene)
-{
-    scene.Partner("lytsrc").treeNext = [](lytTreeRecord* record)
-    {
-        static bool isDelivered = false;
-        record->nType = LYT_TREE_SYMBOL;
-        isDelivered = !isDelivered;
-        return isDelivered ? 1 : 0;
-    };
-    scene.EndBrowser(IDOK).OnDialog([&](HWND) { scene.Unload(); }).EndDialog(IDOK);
-    char buffer[300] = "";
-    EXPECT_EQ(scene.Get<decltype(lytWizard)>("lytWizard")(buffer, 300), 2);
-    EXPECT_STREQ(buffer, "/");
-}
-
-void UnloadBelowAMessage(Scene& scene)
-{
-    scene.robot.When(
-        "message", [] { return robot::IsMessageBox(robot::ActiveDialog()); }, [&] { scene.Unload(); });
-    scene.robot.AnswerMessage();
-    char buffer[10] = "";
-    EXPECT_EQ(scene.Get<decltype(lytGetTextFromIniFile)>("lytGetTextFromIniFile")("no slash", buffer, 10), 0);
-}
-
-void UnloadBelowANestedDialog(Scene& scene)
-{
-    scene.Describe("", "Go=DIALOG,lytInPhr,Take,Send\n");
-    scene.ClickOn("Go").OnDialog([&](HWND) { scene.Unload(); }).EndDialog(IDOK).EndDialog(IDOK);
-    EXPECT_EQ(scene.ShowSymbol(), "1 <key>");
-}
-
-void UnloadAndLoadBelowADialog(Scene& scene)
-{
-    scene.OnDialog(
-        [&](HWND)
-        {
-            scene.Unload();
-            scene.LoadAgain();
-        });
-    scene.EndDialog(IDOK);
-    EXPECT_EQ(scene.ShowSymbol(), "2 key");
-}
-
-void CallAfterUnloading(Scene& scene)
-{
-    scene.OnDialog([&](HWND) { scene.Unload(); }).EndDialog(IDOK);
-    EXPECT_EQ(scene.ShowSymbol(), "2 key");
-    ExpectNothingDone(scene);
-    scene.EndDialog(IDOK);
-    EXPECT_EQ(scene.ShowSymbol(), "2 key");
-}
-
 // ---- a host that quits
 
 void ExpectQuitLeft()
@@ -225,15 +155,13 @@ void LoseAThread(Scene& scene, TIMERPROC tick, bool isKilled)
     CloseHandle(isUp);
 }
 
-// The library works as if the thread had never been. The reference of the call that did not come back is the test's to
-// give up, since the next scene wants the library fresh.
+// The library works as if the thread had never been.
 void ExpectWorking(Scene& scene)
 {
     OnAnotherThread([&] { EXPECT_EQ(scene.AskForText(), 1); });
     scene.Describe("", "Go=DIALOG,lytInPhr,Take,Send\n");
     scene.ClickOn("Go").OnDialog([&](HWND) { ExpectRefused(scene); }).EndDialog(IDOK).EndDialog(IDOK);
     EXPECT_EQ(scene.ShowSymbol(), "1 <key>");
-    FreeLibrary(GetModuleHandleA("lyt64.dll"));
 }
 
 void EndBelowADialog(Scene& scene)
@@ -326,20 +254,8 @@ constexpr Limit momentRows[] = {
      ReleaseBelowADialog},
     {"`FreeGlobalObject`", "is called while the catalogue is up",
      "its entries are gone: OK is refused with message 222, Cancel ends it", ReleaseBelowABrowser},
-    {"`FreeLibrary`", "gives up the last reference while a dialog is up",
-     "the library stays, and the call comes back with its result", UnloadBelowADialog},
-    {"`FreeLibrary`", "the same on another thread", "the same", UnloadBesideADialog},
-    {"`FreeLibrary`", "the same while the catalogue is up", "the same", UnloadBelowABrowser},
-    {"`FreeLibrary`", "the same while a dialog of the wizard is up", "the same", UnloadBelowTheWizard},
-    {"`FreeLibrary`", "the same while a message is up", "the same", UnloadBelowAMessage},
-    {"`FreeLibrary`", "the same while a dialog stands above another", "the same", UnloadBelowANestedDialog},
-    {"any function", "is called after that without another `LoadLibrary`",
-     "it works, and what the library knew is still there", CallAfterUnloading},
-    {"`LoadLibrary`", "takes a new reference before the dialog ends", "`FreeLibrary` then unloads the library as usual",
-     UnloadAndLoadBelowADialog},
     {"thread of the host", "ends while a dialog is up",
-     "the other threads are not refused any more, and every function works; memory of the call is lost, and the "
-     "library stays",
+     "the other threads are not refused any more, and every function works; memory of the call is lost",
      EndBelowADialog},
     {"thread of the host", "is terminated while a dialog is up", "the same", KillBelowADialog},
     {"`LoadLibrary`", "finds all fiber-local slots of the process taken",
@@ -354,10 +270,9 @@ constexpr Limit momentRows[] = {
 
 const LimitTable momentLimits = {
     "Calls at the wrong time",
-    "Calls come from one thread, one at a time, and the library is unloaded when none is under way. This is what "
-    "happens\n"
-    "otherwise. Only a host that gives up more references than it holds takes the library's own as well, and ends the\n"
-    "process.",
+    "Calls come from one thread, one at a time. This is what happens otherwise. The host must not free the library\n"
+    "while a call is under way: the call's code is gone when it continues, and the process ends. The macros'\n"
+    "`LytStop` refuses while a call of theirs is running.",
     "what",
     momentRows,
 };

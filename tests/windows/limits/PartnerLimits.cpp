@@ -1,4 +1,4 @@
-// What partner libraries do besides: they call back, unload what is in use, vanish, or are none.
+// What partner libraries do besides: they call back, close the dialog, vanish, or are none.
 #include "Limit.h"
 #include "Ways.h"
 
@@ -142,42 +142,6 @@ void FailingBelowADialog(Scene& scene)
     ExpectFailureOf(scene, [](Scene& current) { current.robot.AnswerMessage(); });
 }
 
-// ---- unloading
-
-int UnloadLibrary(const char* /*parameter*/, char* /*text*/, int /*size*/)
-{
-    Scene::Current().Unload();
-    return 0;
-}
-
-void UnloadingText(Scene& scene)
-{
-    scene.Partner("hostile").text = UnloadLibrary;
-    EXPECT_EQ(FillText(scene), "1 as it was");
-}
-
-void UnloadingAction(Scene& scene)
-{
-    scene.Partner("hostile").text = UnloadLibrary;
-    EXPECT_EQ(Act(scene), "2 key");
-}
-
-void UnloadingLookup(Scene& scene)
-{
-    scene.Partner("lytsrc").treeStart = [](const char*) -> int32_t
-    {
-        Scene::Current().Unload();
-        return 1;
-    };
-    EXPECT_EQ(scene.FindSymbol("k"), "0 as it was");
-}
-
-void UnloadingVersion(Scene& scene)
-{
-    scene.Partner("LytRes64").version = [](char*) { Scene::Current().Unload(); };
-    EXPECT_EQ(VersionLine(scene), NoVersion());
-}
-
 // ---- closing the dialog
 
 void ClosingText(Scene& scene)
@@ -309,10 +273,6 @@ constexpr Limit partnerRows[] = {
      "a message as for any failure of it; the library gives up what it held for the inner call", CallingWithoutABuffer},
     {"text of a field", "shows a dialog of the library, and raises an exception in a window below it",
      "the same; the inner dialog is gone", FailingBelowADialog},
-    {"text of a field", "unloads lyt64.dll", "the library stays, and the call comes back", UnloadingText},
-    {"text of an action", "the same", "the same", UnloadingAction},
-    {"catalogue in `lytGetSymbolfromTree`", "the same", "the same", UnloadingLookup},
-    {"resource library", "the same", "the same", UnloadingVersion},
     {"text of a field", "ends the dialog, with OK", "the dialog is cancelled when the function has come back",
      ClosingText},
     {"text of a field", "destroys the dialog's window", "the same", DestroyingText},

@@ -57,11 +57,6 @@ Scene::Scene() : m_library(LibraryFile())
 Scene::~Scene()
 {
     EXPECT_TRUE(robot.Done()) << robot.Log();
-    if (m_isUnloaded)
-    {
-        EXPECT_TRUE(FreshLibrary::IsLoaded());
-        LoadAgain();
-    }
     Get<decltype(FreeGlobalObject)>("FreeGlobalObject")();
     for (HMODULE partner : m_partners)
     {
@@ -129,13 +124,11 @@ std::string Scene::FindSymbol(const std::string& begin) const
 
 void Scene::Unload()
 {
-    m_isUnloaded = true;
     FreeLibrary(m_library.Module());
 }
 
 void Scene::LoadAgain()
 {
-    m_isUnloaded = false;
     EXPECT_EQ(LoadLibraryA(LibraryFile().c_str()), m_library.Module());
 }
 

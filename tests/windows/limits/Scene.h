@@ -57,7 +57,7 @@ public:
         return OnBrowser([button](HWND dialog) { robot::Press(GetDlgItem(dialog, button)); });
     }
 
-    // The host gives up its reference to the library, and takes a new one.
+    // The host gives up its reference to the library, and takes a new one before the scene ends.
     void Unload();
     void LoadAgain();
     // Calls every export with arguments that are as they should be. The windows are ended by steps of the caller:
@@ -81,5 +81,4 @@ private:
 
     FreshLibrary m_library;
     std::vector<HMODULE> m_partners;
-    bool m_isUnloaded = false;
 };

@@ -83,26 +83,6 @@ TEST_F(Unloading, AfterAPropertyDialogLeavesNothingBehind)
                      });
 }
 
-TEST_F(Unloading, BelowADialogLeavesNothingBehindOnceTheLibraryWasLoadedAgain)
-{
-    Cycle(rounds,
-          [&](const FreshLibrary& library)
-          {
-              robot::Robot user;
-              user.On("",
-                      [&](HWND window)
-                      {
-                          FreeLibrary(library.Module());
-                          robot::Press(GetDlgItem(window, IDOK));
-                      });
-              auto* show = library.Get<decltype(lytSymbolPropertyDialog)>("lytSymbolPropertyDialog");
-              EXPECT_NE(show("key", buffer, 200), 0);
-              EXPECT_TRUE(user.Done()) << user.Log();
-              EXPECT_EQ(LoadLibraryA("lyt64.dll"), library.Module());
-              library.Get<decltype(FreeGlobalObject)>("FreeGlobalObject")();
-          });
-}
-
 TEST_F(Unloading, AfterADialogThatFailsLeavesNothingBehind)
 {
     folder.Write("lytInSym.dlg", "no version\n");
