@@ -118,11 +118,10 @@ struct TEXTMETRICA
     LONG tmHeight;
 };
 
-struct ACTCTXA
+struct ACTIVATION_CONTEXT_BASIC_INFORMATION
 {
-    DWORD cbSize, dwFlags;
-    HMODULE hModule;
-    LPCSTR lpResourceName;
+    HANDLE hActCtx;
+    DWORD dwFlags;
 };
 
 struct KEYBDINPUT
@@ -156,7 +155,6 @@ struct CRITICAL_SECTION
 #define IDC_WAIT MAKEINTRESOURCEA(32514)
 #define IDC_CROSS MAKEINTRESOURCEA(32515)
 #define INVALID_HANDLE_VALUE (reinterpret_cast<HANDLE>(static_cast<LONG_PTR>(-1)))
-#define ISOLATIONAWARE_MANIFEST_RESOURCE_ID MAKEINTRESOURCEA(2)
 
 enum : UINT
 {
@@ -172,8 +170,9 @@ enum : UINT
     GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS = 4,
     CP_ACP = 0,
     CP_UTF8 = 65001,
-    ACTCTX_FLAG_RESOURCE_NAME_VALID = 8,
-    ACTCTX_FLAG_HMODULE_VALID = 0x80,
+    QUERY_ACTCTX_FLAG_ACTCTX_IS_ADDRESS = 0x10,
+    QUERY_ACTCTX_FLAG_NO_ADDREF = 0x80000000,
+    ActivationContextBasicInformation = 1,
 
     WM_NULL = 0,
     WM_DESTROY = 2,
@@ -581,11 +580,11 @@ inline BOOL SetThreadErrorMode(DWORD /*mode*/, DWORD* previous)
 }
 
 // There is one set of controls here, and no manifest that asks for another.
-inline HANDLE CreateActCtxA(const ACTCTXA* /*request*/)
+inline BOOL QueryActCtxW(DWORD /*flags*/, HANDLE /*context*/, void* /*part*/, DWORD /*kind*/, void* /*information*/,
+                         size_t /*size*/, size_t* /*written*/)
 {
-    return INVALID_HANDLE_VALUE;
+    return FALSE;
 }
-inline void ReleaseActCtx(HANDLE /*context*/) {}
 inline BOOL ActivateActCtx(HANDLE /*context*/, ULONG_PTR* /*cookie*/)
 {
     return FALSE;

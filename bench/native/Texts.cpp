@@ -5,8 +5,8 @@
 #include "liveform/LiveForm.h"
 #include "support/DescriptionText.h"
 #include "support/TestFolder.h"
+#include "sysinfo/frame/Probes.h"
 #include "sysinfo/frame/Report.h"
-#include "sysinfo/frame/ReportLines.h"
 
 #include <windows.h>
 

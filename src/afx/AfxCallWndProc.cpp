@@ -1,6 +1,5 @@
 #include <afxwin.h>
 
-#include "CurrentFailure.h"
 #include "system/CurrentMessage.h"
 #include "system/Unwound.h"
 

@@ -26,3 +26,13 @@ int CException::ReportError(UINT type, UINT help)
         CopyMessage("An unnamed failure stopped the operation.", message, sizeof message);
     return AfxMessageBox(message, type, help);
 }
+
+BOOL CInvalidArgException::GetErrorMessage(char* buffer, UINT size, UINT* /*helpContext*/) const
+{
+    return CopyMessage("An argument is missing or out of range.", buffer, size);
+}
+
+void AfxThrowInvalidArgException()
+{
+    throw new CInvalidArgException;
+}

@@ -1,7 +1,7 @@
 #include <afxwin.h>
 
-#include "WindowMap.h"
 #include "system/CurrentMessage.h"
+#include <winhand_.h>
 
 #include <algorithm>
 #include <memory>
@@ -14,12 +14,12 @@ namespace
 // The window goes on without its object: ours stays in the chain of procedures and hands everything to the one below.
 LRESULT PassBelow(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept
 {
-    const WNDPROC below = WindowMap::Get().FindBelow(window);
+    const WNDPROC below = CHandleMap::Get().FindBelow(window);
     if (below == nullptr)
         return ::DefWindowProcA(window, message, wParam, lParam);
     const LRESULT result = ::CallWindowProcA(below, window, message, wParam, lParam);
     if (message == WM_NCDESTROY)
-        WindowMap::Get().RemovePermanent(window);
+        CHandleMap::Get().RemoveHandle(window);
     return result;
 }
 
@@ -39,6 +39,18 @@ struct WindowDestroyer
 using CreatedWindow = std::unique_ptr<std::remove_pointer_t<HWND>, WindowDestroyer>;
 
 } // namespace
+
+const AFX_MSGMAP* CCmdTarget::GetThisMessageMap()
+{
+    static constexpr AFX_MSGMAP_ENTRY entries[] = {{0, 0, 0, nullptr}};
+    static constexpr AFX_MSGMAP map = {nullptr, entries};
+    return &map;
+}
+
+const AFX_MSGMAP* CCmdTarget::GetMessageMap() const
+{
+    return GetThisMessageMap();
+}
 
 CWnd::~CWnd()
 {
@@ -89,8 +101,8 @@ BOOL CWnd::DestroyWindow()
 
 BOOL CWnd::SubclassWindow(HWND window)
 {
-    WindowMap& map = WindowMap::Get();
-    if (window == nullptr || m_hWnd != nullptr || map.FindPermanent(window) != nullptr)
+    CHandleMap& map = CHandleMap::Get();
+    if (window == nullptr || m_hWnd != nullptr || map.LookupPermanent(window) != nullptr)
         return FALSE;
     const WNDPROC below = map.FindBelow(window);
     map.SetPermanent(window, this);
@@ -110,25 +122,25 @@ HWND CWnd::UnsubclassWindow()
         return nullptr;
     if (::GetWindowLongPtrA(window, GWLP_WNDPROC) == reinterpret_cast<LONG_PTR>(WindowProcedure))
     {
-        WindowMap::Get().RemovePermanent(window);
+        CHandleMap::Get().RemoveHandle(window);
         ::SetWindowLongPtrA(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(super));
     }
     else
     {
         // Somebody joined the window after us. To put back what we found would take them out of the chain.
-        WindowMap::Get().Leave(window, super);
+        CHandleMap::Get().Leave(window, super);
     }
     return window;
 }
 
 CWnd* CWnd::FromHandlePermanent(HWND window)
 {
-    return WindowMap::Get().FindPermanent(window);
+    return CHandleMap::Get().LookupPermanent(window);
 }
 
 CWnd* CWnd::FromHandle(HWND window)
 {
-    return WindowMap::Get().FindOrMakeTemporary(window);
+    return CHandleMap::Get().FromHandle(window);
 }
 
 LRESULT CWnd::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
@@ -209,10 +221,10 @@ void CWnd::OnNcDestroy()
     const HWND window = std::exchange(m_hWnd, nullptr);
     const WNDPROC super = std::exchange(m_pfnSuper, nullptr);
     // The window is about to go: to put the procedure below back in would be a call of the platform for nothing.
-    WindowMap::Get().Leave(window, super);
+    CHandleMap::Get().Leave(window, super);
     const MSG& message = CurrentMessage::Get();
     ::CallWindowProcA(super, window, WM_NCDESTROY, message.wParam, message.lParam);
-    WindowMap::Get().RemovePermanent(window);
+    CHandleMap::Get().RemoveHandle(window);
     PostNcDestroy();
 }
 

@@ -170,7 +170,12 @@ public:
         typeText = 0x4000
     };
 
-    void SetFilePath(const char* fileName);
+    void SetFilePath(const char* fileName)
+    {
+        if (fileName == nullptr)
+            AfxThrowInvalidArgException();
+        m_strFileName = fileName;
+    }
 
 protected:
     CString m_strFileName;

@@ -14,7 +14,7 @@
 #include <utility>
 #include <vector>
 
-// The common body of the lists; CList, CObList, CPtrList and CStringList are its published forms.
+// The common body of the lists; CObList, CPtrList and CStringList are its published forms.
 template <class TYPE>
 class CListBody : public CObject
 {
@@ -22,18 +22,20 @@ public:
     int GetCount() const noexcept { return static_cast<int>(m_nodes.size()); }
     bool IsEmpty() const noexcept { return m_nodes.empty(); }
 
-    POSITION AddHead(TYPE element) { return Insert(m_nodes.begin(), std::move(element)); }
-    POSITION AddTail(TYPE element) { return Insert(m_nodes.end(), std::move(element)); }
+    POSITION AddTail(TYPE element)
+    {
+        const auto node = m_nodes.insert(m_nodes.end(), Node{std::move(element), {}});
+        node->self = node;
+        return Place(*node);
+    }
 
     const TYPE& GetHead() const { return Checked(GetHeadPosition())->element; }
-    const TYPE& GetTail() const { return Checked(GetTailPosition())->element; }
+    const TYPE& GetTail() const { return Checked(m_nodes.empty() ? nullptr : Place(m_nodes.back()))->element; }
     TYPE RemoveHead() { return Take(GetHeadPosition()); }
-    TYPE RemoveTail() { return Take(GetTailPosition()); }
     void RemoveAt(POSITION position) { Take(position); }
     void RemoveAll() { m_nodes.clear(); }
 
     POSITION GetHeadPosition() const { return m_nodes.empty() ? nullptr : Place(m_nodes.front()); }
-    POSITION GetTailPosition() const { return m_nodes.empty() ? nullptr : Place(m_nodes.back()); }
     const TYPE& GetAt(POSITION position) const { return Checked(position)->element; }
     void SetAt(POSITION position, TYPE element) { Checked(position)->element = std::move(element); }
 
@@ -81,12 +83,6 @@ private:
         if (position == nullptr)
             AfxThrowInvalidArgException();
         return static_cast<Node*>(static_cast<void*>(position));
-    }
-    POSITION Insert(typename std::list<Node>::const_iterator before, TYPE element)
-    {
-        const auto node = m_nodes.insert(before, Node{std::move(element), {}});
-        node->self = node;
-        return Place(*node);
     }
     TYPE Take(POSITION position)
     {

@@ -5,16 +5,6 @@
 
 #include <map>
 
-template <class TYPE, class ARG_TYPE = const TYPE&>
-class CList : public CListBody<TYPE>
-{
-};
-
-template <class TYPE, class ARG_TYPE = const TYPE&>
-class CArray : public CArrayBody<TYPE>
-{
-};
-
 template <class KEY, class ARG_KEY, class VALUE, class ARG_VALUE>
 class CMap : public CObject
 {
@@ -41,12 +31,10 @@ template <class BASE_CLASS, class TYPE>
 class CTypedPtrList : public BASE_CLASS
 {
 public:
-    POSITION AddHead(TYPE element) { return BASE_CLASS::AddHead(element); }
     POSITION AddTail(TYPE element) { return BASE_CLASS::AddTail(element); }
     TYPE GetHead() const { return static_cast<TYPE>(BASE_CLASS::GetHead()); }
     TYPE GetTail() const { return static_cast<TYPE>(BASE_CLASS::GetTail()); }
     TYPE RemoveHead() { return static_cast<TYPE>(BASE_CLASS::RemoveHead()); }
-    TYPE RemoveTail() { return static_cast<TYPE>(BASE_CLASS::RemoveTail()); }
     TYPE GetAt(POSITION position) const { return static_cast<TYPE>(BASE_CLASS::GetAt(position)); }
     TYPE GetNext(POSITION& position) const { return static_cast<TYPE>(BASE_CLASS::GetNext(position)); }
     TYPE GetPrev(POSITION& position) const { return static_cast<TYPE>(BASE_CLASS::GetPrev(position)); }

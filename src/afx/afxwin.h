@@ -115,6 +115,11 @@ private:
 // The one place where a message is handled, and the handler of last resort around it: what is raised is reported, and
 // nothing crosses a window procedure.
 LRESULT AfxCallWndProc(CWnd& window, UINT message, WPARAM wParam, LPARAM lParam) noexcept;
+// Called inside a catch block: shows the user the exception that is being handled, of any type. A report that fails in
+// its turn is given up: there is no one left to tell.
+void ReportCurrentFailure() noexcept;
+// The same without a word.
+void DropCurrentFailure() noexcept;
 
 // A modal dialog over a template of the resources.
 class CDialog : public CWnd
@@ -155,7 +160,10 @@ class CButton : public CWnd
 {
 public:
     using CWnd::Create;
-    BOOL Create(const char* caption, DWORD style, const RECT& rect, CWnd* parent, UINT id);
+    BOOL Create(const char* caption, DWORD style, const RECT& rect, CWnd* parent, UINT id)
+    {
+        return CWnd::Create("Button", caption, style, rect, parent, id);
+    }
     int GetCheck() const { return static_cast<int>(SendMessage(BM_GETCHECK)); }
     void SetCheck(int check) const { SendMessage(BM_SETCHECK, static_cast<WPARAM>(check)); }
 };
@@ -164,7 +172,10 @@ class CStatic : public CWnd
 {
 public:
     using CWnd::Create;
-    BOOL Create(const char* text, DWORD style, const RECT& rect, CWnd* parent, UINT id = 0xffff);
+    BOOL Create(const char* text, DWORD style, const RECT& rect, CWnd* parent, UINT id = 0xffff)
+    {
+        return CWnd::Create("Static", text, style, rect, parent, id);
+    }
 };
 
 class CEdit : public CWnd

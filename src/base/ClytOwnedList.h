@@ -37,7 +37,5 @@ public:
     void Exchange(ClytOwnedList& other) noexcept { List::Swap(other); }
 
 private:
-    using List::AddHead;
-    using List::RemoveTail;
     using List::SetAt;
 };

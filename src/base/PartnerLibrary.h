@@ -3,6 +3,9 @@
 
 #include <afxwin.h>
 
+// A run of records or items that has not ended by then counts as ended, so that no library can hang its caller.
+inline constexpr int lytLongestRun = 1'000'000;
+
 // While it lives, the system shows no box of its own on this thread for a file that is no library or for a drive without
 // a disk. What else the host has set stays in force, and its mode is back at the end.
 class ClytErrorBoxesOff

@@ -1,6 +1,6 @@
 #include "controls/ClytDataLibrary.h"
 
-#include "base/LongestRun.h"
+#include "base/PartnerLibrary.h"
 
 CString lytCallForText(const ClytPartnerFunction<lytDataText>& function, const CString& parameter)
 {

@@ -8,9 +8,9 @@
 
 #include "dlgfile/ClytDialogFile.h"
 #include "model/ClytControlDep.h"
+#include "model/ClytDialogOutput.h"
 #include "model/ClytForm.h"
 #include "model/ClytInputPart.h"
-#include "model/ClytOutput.h"
 
 #include <afxwin.h>
 

@@ -5,7 +5,7 @@
 #include "controls/ClytFocusKeeper.h"
 #include "model/ClytObserver.h"
 
-#include <CurrentFailure.h>
+#include <afxwin.h>
 
 #include <algorithm>
 #include <list>

@@ -1,6 +1,4 @@
 // Every process-wide object, in one file, so that they are constructed in this order and destroyed in the reverse one.
-#include "exports/CLytDlg32App.h"
-
 #include "environment/ClytEnvironment.h"
 #include "environment/ClytLogFile.h"
 #include "environment/ProcessState.h"
@@ -9,6 +7,12 @@
 
 #include <afxmt.h>
 #include <afxtempl.h>
+#include <afxwin.h>
+
+// It adds nothing to its base; the class library wants one in each module.
+class CLytDlg32App : public CWinApp
+{
+};
 
 CLytDlg32App lytApplication;
 CMap<int, int, CString, CString> lytLanguageTags;

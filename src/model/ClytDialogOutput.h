@@ -24,3 +24,11 @@ public:
     CString format;
     std::vector<ClytOutputItem> items;
 };
+
+// A named group of output rules, tried in file order.
+class ClytOutput : public CObject
+{
+public:
+    ClytOwnedList<ClytDialogOutput> rules;
+    ClytSpan span; // of the header
+};

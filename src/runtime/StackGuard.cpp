@@ -1,7 +1,10 @@
 // The toolchain's own guard asks the system for random bytes while the library is being loaded, and the system loads
 // further libraries for that, inside the loader's lock. This one takes its place. What it mixes is at hand and differs
 // from load to load: an attacker who could ask for all of it is inside the process already.
-#include "runtime/StackGuard.h"
+//
+// Without it the library is linked with the toolchain's, and loads further libraries: leave this source out of the
+// target, and the call of SeedStackGuard, and run `ctest --preset windows -R load-tests`.
+#include "runtime/LibraryEntry.h"
 
 #include <windows.h>
 

@@ -2,9 +2,8 @@
 
 #include "system/Unwound.h"
 
-#include <afx.h>
-
 #include <stdexcept>
+#include <string>
 
 #include <windows.h>
 
@@ -60,6 +59,15 @@ bool IsToBeCaught(DWORD code)
     return code != EXCEPTION_BREAKPOINT || !::IsDebuggerPresent();
 }
 
+std::string HexOf(DWORD code)
+{
+    constexpr unsigned bitsOfDigit = 4;
+    std::string digits(2 * sizeof code, '0');
+    for (auto digit = digits.rbegin(); code != 0; code >>= bitsOfDigit)
+        *digit++ = "0123456789ABCDEF"[code & 0xFU];
+    return digits;
+}
+
 } // namespace
 
 EXCEPTION_DISPOSITION lytHandleStep(EXCEPTION_RECORD* record, void* frame, CONTEXT* context,
@@ -79,7 +87,5 @@ void RunGuarded(void (*run)(void* step), void* step)
     const ULONG64 end = lytRunStep(run, step, UnwoundLink::Innermost());
     if (end == 0)
         return;
-    CString message;
-    message.Format("exception 0x%08lX", static_cast<DWORD>(end));
-    throw std::runtime_error(message.GetString());
+    throw std::runtime_error("exception 0x" + HexOf(static_cast<DWORD>(end)));
 }

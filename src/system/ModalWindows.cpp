@@ -1,7 +1,5 @@
 #include "system/ModalWindows.h"
 
-#include "WindowMap.h"
-
 #include <atomic>
 #include <utility>
 
@@ -12,9 +10,10 @@ std::atomic<DWORD> modalThread = 0; // 0 for none
 HANDLE openThread = nullptr;        // that thread: while it is open, no other thread gets its number
 int runs = 0;                       // of that thread, one inside the other
 
-void Release() noexcept
+void Release(ModalWindows::End end) noexcept
 {
-    WindowMap::Get().RemoveTemporaries();
+    if (ModalWindows::atEnd != nullptr)
+        ModalWindows::atEnd(end);
     const HANDLE thread = std::exchange(openThread, nullptr);
     modalThread = 0;
     ::CloseHandle(thread);
@@ -27,8 +26,7 @@ bool TakeFromTheDead(DWORD holder) noexcept
         !modalThread.compare_exchange_strong(holder, ::GetCurrentThreadId()))
         return false;
     runs = 0;
-    WindowMap::Get().RemoveAllPermanent();
-    Release();
+    Release(ModalWindows::End::ThreadDied);
     return true;
 }
 
@@ -50,7 +48,7 @@ ModalWindows::ModalWindows() noexcept : m_areAllowed(ClaimForThisThread())
 ModalWindows::~ModalWindows()
 {
     if (m_areAllowed && --runs == 0)
-        Release();
+        Release(ModalWindows::End::Returned);
 }
 
 bool ModalWindows::AreElsewhere() noexcept

@@ -18,6 +18,15 @@ public:
     // True when they are up, and belong to another thread than the one that asks.
     static bool AreElsewhere() noexcept;
 
+    // What else ends with the last run. It is called in the thread of the runs, or in another one after that thread has
+    // ended in the middle of them.
+    enum class End
+    {
+        Returned,
+        ThreadDied
+    };
+    static inline void (*atEnd)(End end) noexcept = nullptr;
+
 private:
     bool m_areAllowed;
 };

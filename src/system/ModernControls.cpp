@@ -1,49 +1,25 @@
 #include "system/ModernControls.h"
 
-#include <afxstat_.h>
-
 namespace
 {
 
-// The activation context of the module's manifest, made once.
-class ModuleManifest
+// The context that the loader made of the module's manifest, and owns; null without a manifest.
+HANDLE ContextOfThisModule()
 {
-public:
-    ModuleManifest()
-    {
-        ACTCTXA request{};
-        request.cbSize = sizeof request;
-        request.dwFlags = ACTCTX_FLAG_RESOURCE_NAME_VALID | ACTCTX_FLAG_HMODULE_VALID;
-        request.hModule = AfxGetResourceHandle();
-        request.lpResourceName = ISOLATIONAWARE_MANIFEST_RESOURCE_ID;
-        m_handle = ::CreateActCtxA(&request);
-    }
-    ModuleManifest(const ModuleManifest&) = delete;
-    ModuleManifest& operator=(const ModuleManifest&) = delete;
-    ~ModuleManifest()
-    {
-        if (IsThere())
-            ::ReleaseActCtx(m_handle);
-    }
-
-    bool IsThere() const { return m_handle != INVALID_HANDLE_VALUE; }
-    HANDLE Handle() const { return m_handle; }
-
-private:
-    HANDLE m_handle;
-};
-
-const ModuleManifest& Manifest()
-{
-    static const ModuleManifest manifest;
-    return manifest;
+    static const char inThisModule = '\0';
+    constexpr DWORD flags = QUERY_ACTCTX_FLAG_ACTCTX_IS_ADDRESS | QUERY_ACTCTX_FLAG_NO_ADDREF;
+    ACTIVATION_CONTEXT_BASIC_INFORMATION information{};
+    ::QueryActCtxW(flags, const_cast<char*>(&inThisModule), nullptr, ActivationContextBasicInformation, &information,
+                   sizeof information, nullptr);
+    return information.hActCtx;
 }
 
 } // namespace
 
 ModernControls::ModernControls()
 {
-    m_active = Manifest().IsThere() && ::ActivateActCtx(Manifest().Handle(), &m_cookie);
+    const HANDLE context = ContextOfThisModule();
+    m_active = context != nullptr && ::ActivateActCtx(context, &m_cookie) != FALSE;
 }
 
 ModernControls::~ModernControls()

@@ -14,6 +14,6 @@ public:
     ~ModernControls();
 
 private:
-    bool m_active = false;
+    bool m_active;
     ULONG_PTR m_cookie = 0;
 };

@@ -1,6 +1,6 @@
 #include "tree/NodeFill.h"
 
-#include "base/LongestRun.h"
+#include "base/PartnerLibrary.h"
 #include "tree/ClytAncestors.h"
 #include "tree/ClytChildCursor.h"
 

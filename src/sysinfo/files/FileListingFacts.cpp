@@ -1,8 +1,8 @@
 #include "sysinfo/files/FileListing.h"
-#include "sysinfo/frame/DirectoryName.h"
 #include "sysinfo/frame/FileSearch.h"
 #include "sysinfo/frame/Probes.h"
-#include "sysinfo/frame/ReportLines.h"
+#include "sysinfo/frame/Report.h"
+#include "sysinfo/frame/ReportFrame.h"
 
 namespace
 {

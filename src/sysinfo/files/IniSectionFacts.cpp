@@ -3,7 +3,7 @@
 #include "environment/ClytEnvironment.h"
 #include "environment/ClytINISection.h"
 #include "sysinfo/frame/Probes.h"
-#include "sysinfo/frame/ReportLines.h"
+#include "sysinfo/frame/Report.h"
 
 void lytShowIniSection(const char* section)
 {

@@ -1,6 +1,6 @@
-#include "sysinfo/frame/DirectoryName.h"
 #include "sysinfo/frame/Probes.h"
 #include "sysinfo/frame/RegistryKey.h"
+#include "sysinfo/frame/ReportFrame.h"
 
 namespace
 {

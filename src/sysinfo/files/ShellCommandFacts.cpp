@@ -2,7 +2,7 @@
 
 #include "sysinfo/frame/Probes.h"
 #include "sysinfo/frame/RegistryKey.h"
-#include "sysinfo/frame/ReportLines.h"
+#include "sysinfo/frame/Report.h"
 
 namespace
 {

@@ -2,9 +2,8 @@
 
 #include "environment/ClytEnvironment.h"
 #include "environment/ClytINISection.h"
-#include "sysinfo/fonts/Locale.h"
 #include "sysinfo/frame/Probes.h"
-#include "sysinfo/frame/ReportLines.h"
+#include "sysinfo/frame/Report.h"
 
 #include <afxwin.h>
 
@@ -79,7 +78,5 @@ void lytProbeFonts()
 
     CStringList lines;
     AddFontLines(iniFile, isRead ? &section : nullptr, EnumerateFonts, lines);
-    AddLocaleLines(LocaleText, lines);
-    AddLanguageGroupLines(FindGroupTest(), lines);
     AddReportLines(lines);
 }

@@ -7,11 +7,9 @@
 
 // A text of the locale tables, empty when it cannot be read.
 using ReadLocaleText = std::function<CString(unsigned locale, unsigned type)>;
-CString LocaleText(unsigned locale, unsigned type);
 
 // Whether a language group is installed. An empty function stands for a Windows that does not know the groups.
 using IsGroupInstalled = std::function<bool(unsigned group)>;
-IsGroupInstalled FindGroupTest();
 
 void AddLocaleLines(const ReadLocaleText& readText, CStringList& lines);
 

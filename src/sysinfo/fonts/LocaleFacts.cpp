@@ -1,6 +1,11 @@
 #include "sysinfo/fonts/Locale.h"
 
-#include "sysinfo/frame/SystemFunction.h"
+#include "sysinfo/frame/FactHandles.h"
+#include "sysinfo/frame/Probes.h"
+#include "sysinfo/frame/Report.h"
+
+namespace
+{
 
 CString LocaleText(unsigned locale, unsigned type)
 {
@@ -20,4 +25,14 @@ IsGroupInstalled FindGroupTest()
     if (isValid == nullptr)
         return {};
     return [isValid](unsigned group) { return isValid(group, installed) != FALSE; };
+}
+
+} // namespace
+
+void lytProbeLocale()
+{
+    CStringList lines;
+    AddLocaleLines(LocaleText, lines);
+    AddLanguageGroupLines(FindGroupTest(), lines);
+    AddReportLines(lines);
 }

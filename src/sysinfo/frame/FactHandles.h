@@ -1,4 +1,4 @@
-// Owners of the handles through which facts of the machine are read.
+// What facts of the machine are read through: handles with their owners, and functions that not every Windows has.
 #pragma once
 
 #include "base/ClytHandle.h"
@@ -28,3 +28,14 @@ struct ClytKeyKind
     static void Close(Handle key) noexcept { RegCloseKey(key); }
 };
 using ClytKeyHandle = ClytHandle<ClytKeyKind>;
+
+// A function of a system library; null when the library is not loaded or has no such function. `Function` is the
+// function's own type.
+template <class Function>
+Function* FindSystemFunction(const char* module, const char* name)
+{
+    const HMODULE library = GetModuleHandleA(module);
+    if (library == nullptr)
+        return nullptr;
+    return reinterpret_cast<Function*>(reinterpret_cast<void*>(GetProcAddress(library, name)));
+}

@@ -12,6 +12,7 @@ void lytProbeHardware();
 CString lytProbeScreen();
 void lytProbePrinters();
 void lytProbeFonts();
+void lytProbeLocale();
 
 // The word processor and its office package. `n` is the integer form of a version text.
 struct ClickToRunFacts

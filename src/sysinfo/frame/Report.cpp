@@ -3,12 +3,10 @@
 #include "base/PartnerLibrary.h"
 #include "base/Words.h"
 #include "environment/ClytEnvironment.h"
-#include "sysinfo/frame/DirectoryName.h"
 #include "sysinfo/frame/FileSearch.h"
 #include "sysinfo/frame/Probes.h"
 #include "sysinfo/frame/RegistryKey.h"
 #include "sysinfo/frame/ReportFrame.h"
-#include "sysinfo/frame/ReportLines.h"
 
 namespace
 {
@@ -178,6 +176,7 @@ int lytGatherReport(const char* directory)
     lytShowIniSection("Convert");
     lytShowIniSection("Printers");
     lytProbeFonts();
+    lytProbeLocale();
     AddReportLine("Office enabled languages:");
     lytProbeEnabledLanguages();
     return 1;

@@ -10,6 +10,7 @@
 // Its operation is declared in Probes.h and called at its place in Report.cpp.
 #pragma once
 
+#include <afxcoll.h>
 #include <afxmt.h>
 
 // Keeps two reports from being gathered at once.
@@ -21,3 +22,7 @@ int lytGatherReport(const char* directory);
 // Copies the line of that index, cut to size - 1 bytes, and returns 1. Without such a line it empties the store and
 // returns 0. A null target or a size below 1 is answered with 0, and the store stays.
 int lytReadReportLine(int index, char* target, int size);
+
+// Every probe appends its lines.
+void AddReportLine(CString line);
+void AddReportLines(const CStringList& lines);

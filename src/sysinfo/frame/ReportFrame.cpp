@@ -47,3 +47,20 @@ std::vector<CString> VersionTexts(const CString& versions)
     }
     return texts;
 }
+
+CString CannotOpenText(const CString& key)
+{
+    return "Cannot open registry key " + key;
+}
+
+CString UnsupportedVersionText()
+{
+    return CannotOpenText("unsupported version");
+}
+
+CString OfficeKey(int n, const char* key)
+{
+    CString name;
+    name.Format(R"(Software\Microsoft\Office\%d.0\%s)", n, key);
+    return name;
+}

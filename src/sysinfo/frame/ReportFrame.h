@@ -12,5 +12,16 @@ std::vector<CString> SearchDirectories(const CString& path, const CString& insta
 // What keeps the configuration file from being read; `error` is an `errno` value.
 CString IniAccessLine(int error, const CString& iniFile);
 
+inline CString WithSeparator(const CString& directory)
+{
+    return directory.Right(1) == "\\" ? directory : directory + "\\";
+}
+
 // The texts that the list of versions joins by "; ".
 std::vector<CString> VersionTexts(const CString& versions);
+
+// In place of what a key would say: it cannot be opened, or the version has none.
+CString CannotOpenText(const CString& key);
+CString UnsupportedVersionText();
+// A key of one version of the office package.
+CString OfficeKey(int n, const char* key);

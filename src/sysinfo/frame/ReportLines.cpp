@@ -1,7 +1,6 @@
-#include "sysinfo/frame/ReportLines.h"
+#include "sysinfo/frame/Report.h"
 
 #include "environment/ClytEnvironment.h"
-#include "sysinfo/frame/Report.h"
 
 #include <algorithm>
 #include <cstring>

@@ -48,3 +48,7 @@ CString PaperNameText(const PrinterMode& mode);
 CString PaperSizeText(const PrinterMode& mode);
 
 void AddPrinterLines(const PrintersFacts& facts, CStringList& lines);
+
+// The names of papers by the platform's DMPAPER constants; 0 is none of them. Texts are in code page 1252.
+inline constexpr int lytPaperCount = 118;
+extern const char* const lytPaperNames[lytPaperCount];

@@ -1,5 +1,5 @@
 #include "sysinfo/frame/Probes.h"
-#include "sysinfo/frame/ReportLines.h"
+#include "sysinfo/frame/Report.h"
 #include "sysinfo/printers/Printers.h"
 
 #include <algorithm>

@@ -1,7 +1,5 @@
 #include "sysinfo/printers/Printers.h"
 
-#include "sysinfo/printers/PaperNames.h"
-
 namespace
 {
 

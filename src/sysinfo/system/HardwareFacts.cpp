@@ -1,7 +1,7 @@
+#include "sysinfo/frame/FactHandles.h"
 #include "sysinfo/frame/Probes.h"
 #include "sysinfo/frame/RegistryKey.h"
-#include "sysinfo/frame/ReportLines.h"
-#include "sysinfo/frame/SystemFunction.h"
+#include "sysinfo/frame/Report.h"
 #include "sysinfo/system/Hardware.h"
 
 namespace

@@ -1,6 +1,6 @@
+#include "sysinfo/frame/FactHandles.h"
 #include "sysinfo/frame/Probes.h"
 #include "sysinfo/frame/RegistryKey.h"
-#include "sysinfo/frame/SystemFunction.h"
 #include "sysinfo/system/WindowsName.h"
 
 namespace

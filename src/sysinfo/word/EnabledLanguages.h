@@ -3,6 +3,8 @@
 
 #include "sysinfo/frame/RegistryValue.h"
 
+#include <afxtempl.h>
+
 #include <vector>
 
 // The number of the version in use, up to its first dot; 0 when there is none.
@@ -14,3 +16,9 @@ CString EnabledLanguageLine(int n, const RegistryValue& value);
 
 // The values of the key, as far as they can be read.
 std::vector<RegistryValue> ReadEnabledLanguages(int n);
+
+// The tags of languages by their locale identifiers. Filled on first use, then kept.
+extern CMap<int, int, CString, CString> lytLanguageTags;
+
+// False when the identifier is not known; `tag` is then left alone.
+bool FindLanguageTag(int locale, CString& tag);

@@ -2,8 +2,7 @@
 
 #include "base/Words.h"
 #include "sysinfo/frame/RegistryDump.h"
-#include "sysinfo/word/LanguageTags.h"
-#include "sysinfo/word/WordDirectories.h"
+#include "sysinfo/frame/ReportFrame.h"
 
 namespace
 {

@@ -1,7 +1,6 @@
 #include "sysinfo/word/MacroSecurity.h"
 
-#include "sysinfo/frame/DirectoryName.h"
-#include "sysinfo/word/WordDirectories.h"
+#include "sysinfo/frame/ReportFrame.h"
 
 #include <algorithm>
 #include <cctype>

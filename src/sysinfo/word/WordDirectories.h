@@ -23,9 +23,3 @@ struct RegistryPlace
 std::optional<RegistryPlace> UserTemplatesPlace(int n);
 std::optional<RegistryPlace> WorkgroupTemplatesPlace(int n);
 std::optional<RegistryPlace> StartupPlace(int n);
-
-// What stands in place of a directory when its key cannot be opened, and for a version without one.
-CString CannotOpenText(const CString& key);
-CString UnsupportedVersionText();
-// A key of one version of the office package.
-CString OfficeKey(int n, const char* key);

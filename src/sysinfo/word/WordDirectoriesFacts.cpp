@@ -1,5 +1,6 @@
 #include "sysinfo/frame/Probes.h"
 #include "sysinfo/frame/RegistryKey.h"
+#include "sysinfo/frame/ReportFrame.h"
 #include "sysinfo/word/WordDirectories.h"
 
 namespace

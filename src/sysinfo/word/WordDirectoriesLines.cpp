@@ -1,5 +1,7 @@
 #include "sysinfo/word/WordDirectories.h"
 
+#include "sysinfo/frame/ReportFrame.h"
+
 namespace
 {
 
@@ -57,21 +59,4 @@ std::optional<RegistryPlace> StartupPlace(int n)
     if (n == 8 || HasCommonLayout(n))
         return RegistryPlace{OfficeKey(n, options), "STARTUP-PATH", value};
     return {};
-}
-
-CString CannotOpenText(const CString& key)
-{
-    return "Cannot open registry key " + key;
-}
-
-CString UnsupportedVersionText()
-{
-    return CannotOpenText("unsupported version");
-}
-
-CString OfficeKey(int n, const char* key)
-{
-    CString name;
-    name.Format(R"(Software\Microsoft\Office\%d.0\%s)", n, key);
-    return name;
 }

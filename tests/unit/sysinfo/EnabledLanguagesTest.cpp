@@ -1,7 +1,5 @@
 #include "sysinfo/word/EnabledLanguages.h"
 
-#include "sysinfo/word/LanguageTags.h"
-
 #include <gtest/gtest.h>
 
 #include <climits>

@@ -1,4 +1,4 @@
-#include "sysinfo/frame/ReportLines.h"
+#include "sysinfo/frame/Report.h"
 
 #include "environment/ClytEnvironment.h"
 #include "sysinfo/frame/Report.h"

@@ -1,4 +1,5 @@
 #include "sysinfo/word/WordDirectories.h"
+#include "sysinfo/frame/ReportFrame.h"
 
 #include <gtest/gtest.h>
 

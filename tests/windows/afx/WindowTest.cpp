@@ -1,7 +1,7 @@
 #include "TestWindows.h"
 
-#include <WindowMap.h>
 #include <afxcmn.h>
+#include <winhand_.h>
 
 #include "support/RecordedMessages.h"
 
@@ -227,7 +227,7 @@ TEST(Window, LeavesAProcedureThatStandsOnTopOfOurs)
     later.UnsubclassWindow();
     ::DestroyWindow(handle);
     EXPECT_FALSE(::IsWindow(handle));
-    EXPECT_EQ(WindowMap::Get().FindBelow(handle), nullptr) << "the handle may come back as another window's";
+    EXPECT_EQ(CHandleMap::Get().FindBelow(handle), nullptr) << "the handle may come back as another window's";
 }
 
 TEST(Window, ObjectThatDiesUnderAnotherProcedureTakesItsWindowAlong)
@@ -250,7 +250,7 @@ TEST(Window, ThatDiesUnderAnotherProcedureLetsItsObjectGo)
     ::DestroyWindow(handle);
     EXPECT_EQ(window.m_hWnd, nullptr);
     EXPECT_EQ(window.destroyed, 1);
-    EXPECT_EQ(WindowMap::Get().FindBelow(handle), nullptr);
+    EXPECT_EQ(CHandleMap::Get().FindBelow(handle), nullptr);
 }
 
 TEST(Window, HasOneObject)

@@ -1,5 +1,5 @@
 // Is protected by the library's stack guard, and shows it, runs over a buffer or does not.
-#include "runtime/StackGuard.h"
+#include "runtime/LibraryEntry.h"
 
 #include <cstdint>
 #include <cstdio>

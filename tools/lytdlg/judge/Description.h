@@ -5,8 +5,8 @@
 #include "dlgfile/ClytDialogFile.h"
 #include "lytdlg/judge/DescriptionText.h"
 #include "model/ClytControlDep.h"
+#include "model/ClytDialogOutput.h"
 #include "model/ClytInputPart.h"
-#include "model/ClytOutput.h"
 
 #include <list>
 #include <memory>

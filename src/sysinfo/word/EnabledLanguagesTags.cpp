@@ -1,4 +1,4 @@
-#include "sysinfo/word/LanguageTags.h"
+#include "sysinfo/word/EnabledLanguages.h"
 
 namespace
 {

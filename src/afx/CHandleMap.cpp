@@ -1,35 +1,47 @@
-#include "WindowMap.h"
+#include <winhand_.h>
 
-WindowMap& WindowMap::Get()
+CHandleMap& CHandleMap::Get()
 {
-    static WindowMap map;
+    static CHandleMap map;
     return map;
 }
 
-CWnd* WindowMap::FindPermanent(HWND window) const
+CHandleMap::CHandleMap()
+{
+    ModalWindows::atEnd = DeleteTemp;
+}
+
+void CHandleMap::DeleteTemp(ModalWindows::End end) noexcept
+{
+    Get().m_temporary.clear();
+    if (end == ModalWindows::End::ThreadDied)
+        Get().m_permanent.clear();
+}
+
+CWnd* CHandleMap::LookupPermanent(HWND window) const
 {
     const auto entry = m_permanent.find(window);
     return entry != m_permanent.end() ? entry->second.object : nullptr;
 }
 
-void WindowMap::Leave(HWND window, WNDPROC below) noexcept
+void CHandleMap::Leave(HWND window, WNDPROC below) noexcept
 {
     const auto entry = m_permanent.find(window);
     if (entry != m_permanent.end())
         entry->second = {nullptr, below};
 }
 
-WNDPROC WindowMap::FindBelow(HWND window) const
+WNDPROC CHandleMap::FindBelow(HWND window) const
 {
     const auto entry = m_permanent.find(window);
     return entry != m_permanent.end() ? entry->second.below : nullptr;
 }
 
-CWnd* WindowMap::FindOrMakeTemporary(HWND window)
+CWnd* CHandleMap::FromHandle(HWND window)
 {
     if (window == nullptr)
         return nullptr;
-    if (CWnd* permanent = FindPermanent(window))
+    if (CWnd* permanent = LookupPermanent(window))
         return permanent;
     std::unique_ptr<CWnd>& temporary = m_temporary[window];
     if (temporary == nullptr)

@@ -1,30 +1,33 @@
 // Which object belongs to which window.
 #pragma once
 
+#include "system/ModalWindows.h"
 #include <afxwin.h>
 
 #include <memory>
 #include <unordered_map>
 
-class WindowMap
+class CHandleMap
 {
 public:
-    static WindowMap& Get();
+    static CHandleMap& Get();
 
     // Objects that joined their window. The map does not own them.
-    CWnd* FindPermanent(HWND window) const;
+    CWnd* LookupPermanent(HWND window) const;
     void SetPermanent(HWND window, CWnd* object) { m_permanent[window] = {object, nullptr}; }
-    void RemovePermanent(HWND window) { m_permanent.erase(window); }
-    void RemoveAllPermanent() { m_permanent.clear(); }
-    // The object leaves; the procedure that stands below ours is kept for the window's sake.
+    void RemoveHandle(HWND window) { m_permanent.erase(window); }
+    // The object leaves; the procedure below ours is kept for the window's sake.
     void Leave(HWND window, WNDPROC below) noexcept;
     WNDPROC FindBelow(HWND window) const;
 
-    // An object that only holds the handle, for a window that none joined. Null for null.
-    CWnd* FindOrMakeTemporary(HWND window);
-    void RemoveTemporaries() { m_temporary.clear(); }
+    // The object of a window; for one that none joined an object that only holds the handle, and lives until the last
+    // modal run ends. Null for null.
+    CWnd* FromHandle(HWND window);
 
 private:
+    CHandleMap();
+    static void DeleteTemp(ModalWindows::End end) noexcept;
+
     struct Joined
     {
         CWnd* object;

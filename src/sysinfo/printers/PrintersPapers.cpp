@@ -1,4 +1,4 @@
-#include "sysinfo/printers/PaperNames.h"
+#include "sysinfo/printers/Printers.h"
 
 // A line for each name.
 // clang-format off

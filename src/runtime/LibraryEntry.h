@@ -1,0 +1,11 @@
+// What the entry of the library asks of the pieces that stand in for the tool chain's own.
+#pragma once
+
+// Gives the value between a function's buffers and its return address, anew for this load. Nothing that is protected may
+// be running.
+void SeedStackGuard();
+
+// Takes all that the C++ runtime will ask of a thread library, before it runs; false when the process has none left.
+bool PrepareThreadCalls();
+// Gives back all that was taken for the runtime, for every thread. It must not be used any more.
+void ReleaseThreadCalls();
