@@ -122,7 +122,7 @@ void ComboBoxWindow::TakeCharacter(WPARAM character)
         Choose(found);
 }
 
-// The user chooses with a closed list at once; with an open one the choice stands when it closes. The edit field follows
+// The user chooses with a closed list at once; with an open one the choice is made when it closes. The edit field follows
 // the notification.
 void ComboBoxWindow::Choose(int index)
 {
@@ -139,7 +139,7 @@ void ComboBoxWindow::Choose(int index)
     m_keepsCurrent = HasEdit();
 }
 
-// The keys go on from the first item that begins with the text, or else from the top.
+// The keys continue from the first item that begins with the text, or else from the top.
 void ComboBoxWindow::MoveCaretToText()
 {
     const std::string& typed = Desktop::Get().Find(m_edit)->text;

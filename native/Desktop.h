@@ -35,9 +35,9 @@ public:
     std::vector<HWND> OwnedBy(const Window& owner) const;
     // The top-level window that is activated when this one goes: its owner, or another; null when none can be.
     HWND SuccessorOf(const Window& going) const;
-    // Activates a top-level window; null activates none. The windows are told.
+    // Activates a top-level window; null activates none. The windows get their messages.
     void Activate(HWND window);
-    // Moves the focus inside the active window and tells both windows.
+    // Moves the focus inside the active window, with the messages for both windows.
     HWND MoveFocus(HWND window);
 
     HWND focus = nullptr;

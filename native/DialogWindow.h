@@ -14,14 +14,14 @@ public:
     LRESULT Handle(UINT message, WPARAM wParam, LPARAM lParam) override;
     SIZE Adjusted(SIZE wanted) const override;
 
-    // The next (previous) child that the tab key reaches, coming from one of the children or from none; null when there
-    // is none.
+    // The next (previous) child that the tab key reaches, coming from one of the children or from none; null when
+    // it reaches no child.
     Window* NextTabStop(const Window* from, bool backwards = false) const;
     // The child that an arrow key reaches: the next (previous) one of the group, or itself.
     Window* NextInGroup(Window& from, bool backwards) const;
     // Gives the focus to a child as the tab key does: an edit field is selected, and a push button becomes the default.
     void FocusChild(HWND child);
-    // The child that holds the focus, itself or in a window of its own; null when no child does.
+    // The child that holds the focus, itself or in one of its windows; null when no child does.
     Window* FocusedChild() const;
     // A button has become a default button, or has ceased to be one.
     void NoteButton(HWND button, bool isDefault);
@@ -38,7 +38,7 @@ private:
     LRESULT HandleDefault(UINT message, WPARAM wParam, LPARAM lParam);
     // The child after (before) one of the children, around the end.
     Window& Neighbour(const Window& child, bool backwards) const;
-    // Gives the focus back to the control that had it before the dialog lost its activation; false when there is none.
+    // Gives the focus back to the control that had it before the dialog lost its activation; false when no control had it.
     bool RestoreSavedFocus();
     void MoveToControl(WPARAM wParam, LPARAM lParam);
     void MoveDefaultTo(HWND focused) const;

@@ -14,7 +14,7 @@ public:
     LRESULT Handle(UINT message, WPARAM wParam, LPARAM lParam) override;
 
 protected:
-    // Puts a text in place of the selection, and tells the parent.
+    // Puts a text in place of the selection, and notifies the parent.
     void Replace(std::string_view put);
 
 private:

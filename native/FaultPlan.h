@@ -1,4 +1,4 @@
-// Calls that fail when they are told to, as the platform's do when memory, handles or a disk run out.
+// Calls that fail on request, as the platform's do when memory, handles or a disk run out.
 //
 // The program under test is the library: its work begins with a call of an export, and pauses while the platform works for
 // it. What the robot, a tool or a test does beside it never fails, and neither does an allocation of the platform's own.

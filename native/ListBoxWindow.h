@@ -1,4 +1,4 @@
-// A list of items of which one can be selected. The caret is the item that keys go on from.
+// A list of items of which one can be selected. The caret is the item from which keys continue.
 #pragma once
 
 #include "ListItems.h"

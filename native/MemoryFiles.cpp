@@ -41,7 +41,7 @@ ssize_t Append(void* cookie, const char* buffer, size_t size)
     return static_cast<ssize_t>(size);
 }
 
-// A stream that is written to always stands at the end.
+// A stream that is written to is always at the end.
 int StayAtEnd(void* cookie, off64_t* offset, int /*origin*/)
 {
     *offset = static_cast<off64_t>(static_cast<OpenFile*>(cookie)->content->size());

@@ -63,7 +63,7 @@ bool TakeTypedKey(MSG& message)
     isDown[key.code & 0xFFU] = !key.isUp;
     const Desktop& desktop = Desktop::Get();
     const bool isAlt = key.code == VK_MENU;
-    // Alt that comes up after another key does not stand for the menu.
+    // Alt that comes up after another key does not open the menu.
     isAltAlone = isAlt && (!key.isUp || isAltAlone);
     const bool isSystem = desktop.focus == nullptr || (isAlt ? isAltAlone : IsDown(VK_MENU) && !IsDown(VK_CONTROL));
     const UINT down = isSystem ? WM_SYSKEYDOWN : WM_KEYDOWN;

@@ -13,7 +13,7 @@ bool TakeMessage(MSG& message);
 bool IsIdle();
 // Takes one message out of turn, if it was posted to the window.
 bool TakePosted(HWND window, UINT message);
-// Posts the characters that a message of the keyboard stands for.
+// Posts the characters of a message of the keyboard.
 void TranslateKey(const MSG& message);
 void Dispatch(const MSG& message);
 // Handles a message as a key of the dialog; false when it is not one, and is to be dispatched.

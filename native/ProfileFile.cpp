@@ -118,7 +118,7 @@ std::string_view TakeLine(std::string_view& rest)
     return Trimmed(line.substr(0, end));
 }
 
-// Whether only blanks stand before a place in its line.
+// Whether only blanks come before a place in its line.
 bool IsFirstOfLine(std::string_view file, size_t place)
 {
     for (; place > 0 && file[place - 1] != '\n' && file[place - 1] != '\r'; --place)

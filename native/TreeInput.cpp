@@ -59,7 +59,7 @@ void TreeWindow::TakeClick(LPARAM point, bool isDouble)
     ::SetFocus(handle);
 }
 
-// A tree without a selection selects what stands at its top.
+// A tree without a selection selects its topmost item.
 void TreeWindow::TakeFocus()
 {
     const size_t top = m_items.AtRow(m_top);

@@ -44,7 +44,7 @@ public:
     // Replaces the state whole.
     void SetState(size_t item, UINT state);
 
-    // Root where there is none.
+    // The root where no such item is.
     size_t FirstChild(size_t item) const;
     size_t Sibling(size_t item, int step) const;
     // How deep an item lies; 0 for one without a parent.

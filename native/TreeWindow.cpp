@@ -47,7 +47,7 @@ LRESULT TreeWindow::Insert(const TVINSERTSTRUCTA& insert)
     return TreeItems::HandleOf(m_items.Insert(under, insert.item.pszText, insert.item.iImage));
 }
 
-// Nobody asks to be told of each item that is deleted, so all go at once.
+// Nobody asks for a message for each item that is deleted, so all go at once.
 LRESULT TreeWindow::DeleteAll()
 {
     m_items.Clear();
@@ -56,7 +56,7 @@ LRESULT TreeWindow::DeleteAll()
     return TRUE;
 }
 
-// The state is given whole, whatever the mask asks for.
+// The state is given whole; the mask does not matter.
 LRESULT TreeWindow::GetItem(TVITEMA& request) const
 {
     const size_t item = Find(request.hItem);

@@ -30,7 +30,7 @@ private:
     LRESULT SetItem(const TVITEMA& change);
     LRESULT ItemRect(RECT& rect, bool isLabel) const;
     LRESULT NextItem(WPARAM relation, size_t item) const;
-    // The item so many rows after an item that is seen; root where there is none.
+    // The item so many rows after an item that is seen; the root where no such item is.
     size_t Neighbour(size_t item, int step) const;
 
     void ChangeState(size_t item, UINT remove, UINT add);

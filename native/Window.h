@@ -42,7 +42,7 @@ public:
     void Resize(SIZE wanted);
 
     bool HasStyle(DWORD flag) const { return (style & flag) != 0; }
-    // Visible and enabled itself, whatever its parents are.
+    // Visible and enabled itself; its parents do not matter.
     bool IsReady() const { return HasStyle(WS_VISIBLE) && !HasStyle(WS_DISABLED); }
     bool IsFocused() const;
     // What the frame takes of the window's size.
@@ -67,7 +67,7 @@ public:
     Window* parent = nullptr; // of a child
     Window* owner = nullptr;  // of a top-level window
     WindowRow children;
-    std::multimap<int, Window*> childrenById; // those of one id in order of creation
+    std::multimap<int, Window*> childrenById; // children with one id in order of creation
     WindowRow::iterator inRow;                // of a child: its place in both of the parent
     std::multimap<int, Window*>::iterator inIds;
     std::string text;

@@ -88,7 +88,7 @@ HWND CreateWindowExA(DWORD exStyle, LPCSTR className, LPCSTR text, DWORD style, 
     return window.handle;
 }
 
-// A window that dies gives focus and activation away before it is told, as if it were hidden first.
+// A window that dies gives focus and activation away before its messages, as if it were hidden first.
 BOOL DestroyWindow(HWND window)
 {
     const platform::PlatformAtWork working;

@@ -1,4 +1,4 @@
-// Visual themes for the native build: there is none.
+// Visual themes, which the native build does not have.
 #pragma once
 
 #include <windows.h>

@@ -449,7 +449,7 @@ inline LONG GetWindowLongA(HWND window, int index)
 int GetClassNameA(HWND window, char* buffer, int size);
 int GetDlgCtrlID(HWND window);
 HWND GetDlgItem(HWND dialog, int id);
-// The first child of a class, whatever its text is.
+// The first child of a class with any text.
 HWND FindWindowExA(HWND parent, HWND after, LPCSTR className, LPCSTR text);
 HWND GetParent(HWND window);
 HWND GetWindow(HWND window, UINT relation);

@@ -11,7 +11,7 @@
 namespace
 {
 
-// The window goes on without its object: ours stays in the chain of procedures and hands everything to the one below.
+// The window lives on without its object: our procedure stays in the chain of procedures and hands everything to the one below.
 LRESULT PassBelow(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept
 {
     const WNDPROC below = CHandleMap::Get().FindBelow(window);
@@ -199,7 +199,7 @@ BOOL CWnd::Dispatch(UINT message, UINT code, UINT id, LRESULT* result)
 
 BOOL CWnd::OnCommand(WPARAM wParam, LPARAM lParam)
 {
-    // A menu or an accelerator has its own meaning for the code; both stand for the plain command.
+    // A menu or an accelerator has its own meaning for the code; both mean the plain command.
     const UINT code = lParam != 0 ? HIWORD(wParam) : 0;
     LRESULT result = 0;
     return Dispatch(WM_COMMAND, code, LOWORD(wParam), &result);

@@ -27,14 +27,14 @@ class CString
 {
 public:
     CString();
-    // Texts come and go everywhere: what the compiler would repeat at each place stands once, in CString.cpp.
+    // Texts come and go everywhere: what the compiler would repeat at each place is in CString.cpp, once.
     CString(const CString& text);
     CString(CString&& text) noexcept;
     CString& operator=(const CString& text);
     CString& operator=(CString&& text) noexcept;
     ~CString();
     // A null pointer counts as an empty text.
-    CString(const char* text); // NOLINT(google-explicit-constructor): literals stand for strings everywhere
+    CString(const char* text); // NOLINT(google-explicit-constructor): literals are used as strings everywhere
     CString(const char* text, int length);
     explicit CString(char ch, int repeat = 1);
 
@@ -71,7 +71,7 @@ public:
     // Byte for byte, with the letters of code page 1252 folded to lower case; negative, 0 or positive.
     int CompareNoCase(const char* text) const;
 
-    // Case folding follows code page 1252, whatever the locale of the process is.
+    // Case folding follows code page 1252 in every locale.
     CString& MakeLower();
     CString& MakeUpper();
 
@@ -153,7 +153,7 @@ public:
 [[noreturn]] void AfxThrowFileException(int cause, int osError = 0, const char* fileName = nullptr);
 
 // Shows a message to the user and returns the button pressed. The library defines it with a message box; a program that
-// has no window (tests, tools) links a definition of its own.
+// has no window (tests, tools) links another definition.
 int AfxMessageBox(const char* text, UINT type = 0, UINT help = 0);
 
 // What a file is opened for, and its name.
@@ -181,11 +181,11 @@ protected:
     CString m_strFileName;
 };
 
-// A text file: a line ends in one '\n', whatever the file holds, and Ctrl-Z ends the text.
+// A text file: a line ends in one '\n' for each line end of the file, and Ctrl-Z ends the text.
 class CStdioFile : public CFile
 {
 public:
-    // False when the file cannot be opened; `error`, when given, then tells why.
+    // False when the file cannot be opened; `error`, when given, then says why.
     [[nodiscard]] BOOL Open(const char* fileName, UINT flags, CFileException* error = nullptr);
     // Raises CFileException when what is still buffered cannot be written to the file.
     virtual void Close();

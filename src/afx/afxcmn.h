@@ -10,7 +10,7 @@ class CImageList;
 class CTreeCtrl : public CWnd
 {
 public:
-    // The list goes on belonging to its object, which outlives the control.
+    // The list still belongs to its object, which outlives the control.
     void SetImageList(const CImageList* images, int kind) const;
     // The new item; null when the control cannot take it.
     HTREEITEM InsertItem(const char* text, int image, int selectedImage, HTREEITEM parent = TVI_ROOT,

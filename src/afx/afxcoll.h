@@ -1,6 +1,6 @@
 // Collections of the class library, thin over the standard containers.
 //
-// A POSITION names an element and stays valid until that element is removed. Taking an element where there is none (a
+// A POSITION names an element and stays valid until that element is removed. Taking an element where nothing is (a
 // null POSITION, the head of an empty list, an index outside an array) raises the invalid-argument exception.
 #pragma once
 

@@ -1,8 +1,8 @@
 // The window half of the class library: windows, dialogs, controls and device contexts.
 //
 // A CWnd belongs to one window. It joins that window by replacing its window procedure, so that every message passes
-// the message map of its class first and then, unless a handler ended it, the procedure that stood there before. No
-// exception leaves that way: what a handler raises is reported to the user, and the window goes on.
+// the message map of its class first and then, unless a handler ended it, the procedure that was there before. No
+// exception leaves that way: what a handler raises is reported to the user, and the window lives on.
 #pragma once
 
 #include <afx.h>
@@ -127,8 +127,8 @@ class CDialog : public CWnd
 public:
     explicit CDialog(UINT templateId, CWnd* parent = nullptr) : m_nIDTemplate(templateId), m_pParentWnd(parent) {}
 
-    // Runs the dialog; its owner is the parent, or the thread's active window without one. Gives what the object told
-    // EndDialog; IDCANCEL when others ended or destroyed the window, or a quit message did, which waits for the host's
+    // Runs the dialog; its owner is the parent, or the thread's active window without one. Gives what the object passed
+    // to EndDialog; IDCANCEL when others ended or destroyed the window, or a quit message did, which waits for the host's
     // own loop again; -1 when there is no such template, the object has a window already or another thread has windows
     // up. Raises what joining the window raised, once the window is gone again.
     virtual INT_PTR DoModal();
@@ -152,7 +152,7 @@ private:
     LRESULT HandleInitDialog(WPARAM wParam, LPARAM lParam);
 
     UINT m_nIDTemplate;
-    int m_nModalResult = IDCANCEL; // what the object told EndDialog
+    int m_nModalResult = IDCANCEL; // what the object passed to EndDialog
     CWnd* m_pParentWnd;            // outlives the modal run
 };
 

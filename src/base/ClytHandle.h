@@ -18,7 +18,7 @@ private:
     DWORD m_error = GetLastError();
 };
 
-// Owns one handle and closes it on every way out. KIND names the type, the value that stands for none, and the way to
+// Owns one handle and closes it on every way out. KIND names the type, the value for no handle, and the way to
 // close: `Handle`, `None()`, `Close(handle)`.
 template <class KIND>
 class ClytHandle

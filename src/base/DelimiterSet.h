@@ -1,4 +1,4 @@
-// The characters that end a run of plain text, such as a token: each section of a description has a set of its own, and
+// The characters that end a run of plain text, such as a token: each section of a description has its own set, and
 // so has each statement that scans.
 #pragma once
 

@@ -26,7 +26,7 @@ bool lytIsLoaded(HMODULE library)
 {
     if (IsOwn(library))
         return true;
-    // A library's handle is the address at which it stands.
+    // A library's handle is the address at which it is loaded.
     constexpr DWORD flags = GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT;
     HMODULE found = nullptr;
     return ::GetModuleHandleExA(flags, reinterpret_cast<LPCSTR>(library), &found) && found == library;

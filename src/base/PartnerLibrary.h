@@ -1,4 +1,4 @@
-// The one place that loads libraries: the partners that stand beside the host, or that a description names.
+// The one place that loads libraries: the partners beside the host, or that a description names.
 #pragma once
 
 #include <afxwin.h>
@@ -6,7 +6,7 @@
 // A run of records or items that has not ended by then counts as ended, so that no library can hang its caller.
 inline constexpr int lytLongestRun = 1'000'000;
 
-// While it lives, the system shows no box of its own on this thread for a file that is no library or for a drive without
+// While it lives, the system shows no box on this thread for a file that is no library or for a drive without
 // a disk. What else the host has set stays in force, and its mode is back at the end.
 class ClytErrorBoxesOff
 {
@@ -24,7 +24,7 @@ private:
 class ClytOwnLibraries
 {
 public:
-    // Null for a library that is none of them. The handle is one that the platform's loader does not know.
+    // Null for any other library. The handle is one that the platform's loader does not know.
     virtual HMODULE Load(const char* name) = 0;
     virtual bool Owns(HMODULE library) const = 0;
     // Null when the library has no function of that name.
@@ -38,7 +38,7 @@ protected:
 inline ClytOwnLibraries* lytOwnLibraries = nullptr;
 
 // Null when the library cannot be loaded, and for a name that is empty or longer than the platform takes. The system
-// shows no message of its own, whatever lies under the name.
+// shows no message, for any file of that name.
 [[nodiscard]] HMODULE lytLoadLibrary(const char* name);
 
 // False for a library that somebody has taken out of the process since it was loaded: its functions are gone, too.

@@ -25,7 +25,7 @@ inline int lytNumberOf(const char* text, const char** rest = nullptr)
     return static_cast<int>(std::clamp<long>(number, std::numeric_limits<int>::min(), std::numeric_limits<int>::max()));
 }
 
-// White space as the C locale has it, whatever the locale of the host is.
+// White space as the C locale has it, in every locale of the host.
 constexpr bool lytIsSpace(char ch)
 {
     return ch == ' ' || (ch >= '\t' && ch <= '\r');

@@ -1,4 +1,4 @@
-// What the entry of the library asks of the pieces that stand in for the tool chain's own.
+// What the entry of the library asks of the pieces that replace the tool chain's.
 #pragma once
 
 // Gives the value between a function's buffers and its return address, anew for this load. Nothing that is protected may

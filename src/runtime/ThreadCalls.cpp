@@ -1,5 +1,5 @@
 // The C++ runtime keeps its exceptions in flight by thread and guards its few shared structures, all through the calls
-// below. The toolchain's thread library serves them too, but keeps a thread-local slot, handles and a handler of its own
+// below. The toolchain's thread library serves them too, but keeps a thread-local slot, handles and a handler
 // for the life of the process, so a host that loads and unloads this library ran out of slots. Here a slot comes with
 // its clean-up, and nothing else is taken.
 //

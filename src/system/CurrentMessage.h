@@ -18,5 +18,5 @@ public:
 private:
     static inline const MSG* current = nullptr;
 
-    const MSG* m_previous; // stands further down the stack
+    const MSG* m_previous; // further down the stack
 };

@@ -73,7 +73,7 @@ std::string HexOf(DWORD code)
 EXCEPTION_DISPOSITION lytHandleStep(EXCEPTION_RECORD* record, void* frame, CONTEXT* context,
                                     DISPATCHER_CONTEXT* dispatcher)
 {
-    constexpr DWORD unwinding = 0x66; // the four flags that stand for it
+    constexpr DWORD unwinding = 0x66; // its four flags
     if ((record->ExceptionFlags & unwinding) != 0 || !IsToBeCaught(record->ExceptionCode))
         return ExceptionContinueSearch;
     UnwoundLink::DestroyWithin(*reinterpret_cast<UnwoundLink**>(static_cast<char*>(frame) + guardedWithin));

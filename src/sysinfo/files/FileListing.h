@@ -1,4 +1,4 @@
-// The files of one directory that a mask names, and on request those of the directories below; and whether the directory
+// The files of one directory that a mask names, and on request of the directories below; and whether the directory
 // can be used at all.
 #pragma once
 

@@ -8,7 +8,7 @@
 // A text of the locale tables, empty when it cannot be read.
 using ReadLocaleText = std::function<CString(unsigned locale, unsigned type)>;
 
-// Whether a language group is installed. An empty function stands for a Windows that does not know the groups.
+// Whether a language group is installed. An empty function means a Windows that does not know the groups.
 using IsGroupInstalled = std::function<bool(unsigned group)>;
 
 void AddLocaleLines(const ReadLocaleText& readText, CStringList& lines);

@@ -9,7 +9,7 @@
 #include <cerrno>
 #include <io.h>
 
-// Begins a search and gives the first file found; no open search when there is none.
+// Begins a search and gives the first file found; no open search when no file matches.
 inline ClytSearchHandle lytFindFirst(const CString& pattern, WIN32_FIND_DATAA& found)
 {
     return FileNameFits(pattern) ? ClytSearchHandle(FindFirstFileA(pattern, &found)) : ClytSearchHandle();

@@ -1,5 +1,5 @@
 // The operations of the report's probes. Those that return nothing append their lines to the report; no probe fails: each
-// has words of its own for what it cannot read, or leaves its line out.
+// has its words for what it cannot read, or leaves its line out.
 #pragma once
 
 #include <afx.h>

@@ -87,7 +87,7 @@ void AddRegistrySettings()
     lytDumpRegistry("SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\App Paths\\LYTEXE32.EXE", HKEY_LOCAL_MACHINE);
     lytDumpRegistry("SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\App Paths\\LYTEXE64.EXE", HKEY_LOCAL_MACHINE);
     lytDumpRegistry("SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\App Paths\\LYTLABEL.EXE", HKEY_LOCAL_MACHINE);
-    // The root's name stands inside the key too, so this one never exists. Reports have always said so.
+    // The root's name is inside the key too, so this one never exists. Reports have always said so.
     lytDumpRegistry("HKEY_CURRENT_USER\\Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\FileExts\\.LYT",
                     HKEY_CURRENT_USER);
 }

@@ -1,11 +1,11 @@
-// Texts of the report's own, between those of the probes.
+// Texts of the report itself, between the texts of the probes.
 #pragma once
 
 #include <afx.h>
 
 #include <vector>
 
-// The directories in which the resource library is looked for: those of `path`, and the installation directory when the
+// The directories in which the resource library is looked for: the directories of `path`, and the installation directory when the
 // path does not name it. All in lower case. An empty piece ends the walk: it and all that follows are one directory.
 std::vector<CString> SearchDirectories(const CString& path, const CString& installDirectory);
 

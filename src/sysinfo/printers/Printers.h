@@ -49,6 +49,6 @@ CString PaperSizeText(const PrinterMode& mode);
 
 void AddPrinterLines(const PrintersFacts& facts, CStringList& lines);
 
-// The names of papers by the platform's DMPAPER constants; 0 is none of them. Texts are in code page 1252.
+// The names of papers by the platform's DMPAPER constants; 0 is no paper. Texts are in code page 1252.
 inline constexpr int lytPaperCount = 118;
 extern const char* const lytPaperNames[lytPaperCount];

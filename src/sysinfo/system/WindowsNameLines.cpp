@@ -184,7 +184,7 @@ CString WindowsNameLine(const WindowsFacts& facts)
     if (facts.platform != platformNt || facts.major < 5)
         return "";
 
-    // The edition follows without a blank of its own: the version numbers end in one, and older releases have none.
+    // The edition follows without another blank: the version numbers end in one, and older releases have none.
     CString line = "Microsoft " + ReleaseText(facts) + EditionName(facts.edition);
     if (!facts.servicePack.IsEmpty())
         line += " " + facts.servicePack;

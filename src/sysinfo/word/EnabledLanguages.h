@@ -7,7 +7,7 @@
 
 #include <vector>
 
-// The number of the version in use, up to its first dot; 0 when there is none.
+// The number of the version in use, up to its first dot; 0 without a version.
 int VersionNumberOf(const CString& currentVersion);
 // The key of that version, below the user's own keys.
 CString EnabledLanguagesKey(int n);

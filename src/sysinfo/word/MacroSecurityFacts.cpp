@@ -9,7 +9,7 @@ namespace
 constexpr DWORD nameSize = 64;
 constexpr DWORD pathSize = 260;
 
-// All subkeys count, whatever they are called; one whose name is too long is skipped.
+// All subkeys count, under any name; one whose name is too long is skipped.
 std::vector<CString> ReadTrustedPaths(const RegistryKey& locations)
 {
     std::vector<CString> paths;

@@ -47,7 +47,7 @@ void Ask(const GetVersionText& getVersion, VersionText& text)
 
 } // namespace
 
-// Blanks stand for the version of a library that is missing or does not report it.
+// Blanks are the version of a library that is missing or does not report it.
 CString lytProbeResolveVersion()
 {
     VersionText text;
