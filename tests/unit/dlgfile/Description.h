@@ -2,6 +2,7 @@
 #pragma once
 
 #include "dlgfile/ClytDialogFile.h"
+#include "support/Cases.h"
 #include "support/ErrorTexts.h"
 #include "support/TestFolder.h"
 
@@ -63,6 +64,15 @@ inline std::string Shown(const ClytConditions& conditions)
     for (POSITION place = conditions.GetHeadPosition(); place != nullptr;)
         shown += (shown.empty() ? "" : " ") + Shown(*conditions.GetNext(place));
     return shown;
+}
+
+// What is read of a text, or the message that reading it raises.
+template <class Read>
+std::string ReadOrRaised(Read read)
+{
+    std::string shown;
+    const std::string message = RaisedMessage([&] { shown = read(); });
+    return message == "nothing was raised" ? shown : message;
 }
 
 // Tests that look at the messages of numbered errors.
