@@ -1,4 +1,5 @@
 #include "sysinfo/fonts/Fonts.h"
+#include "sysinfo/fonts/Locale.h"
 
 #include "environment/ClytINISection.h"
 
@@ -12,41 +13,49 @@ namespace
 const std::string rule = "  " + std::string(81, '-');
 const std::string heading = "  Font Family                    | Font Name                      | Character set";
 
+std::string Column(const std::string& text)
+{
+    return text + std::string(text.size() < 30 ? 30 - text.size() : 0, ' ');
+}
+
 std::string NameLine(const std::string& name)
 {
-    return "  " + name + std::string(name.size() < 30 ? 30 - name.size() : 0, ' ') + " | " + std::string(30, ' ') +
-           " |      ";
+    return "  " + Column(name) + " | " + Column("") + " |      ";
 }
 
 std::string EntryLine(const std::string& fullName, const std::string& charset)
 {
-    return "  " + std::string(30, ' ') + " | " + fullName +
-           std::string(fullName.size() < 30 ? 30 - fullName.size() : 0, ' ') + " | " + charset;
+    return "  " + Column("") + " | " + Column(fullName) + " | " + charset;
 }
 
-// The report of a section with these lines, on a machine where each name has the fonts given.
+// A section with these lines, on a machine where each name has the fonts given.
 class Fonts : public testing::Test
 {
 protected:
     void AddKey(const char* key, const char* value)
     {
-        ClytINIStruct line;
-        line.key = key;
-        line.value = value;
-        section.push_back(line);
+        section.emplace_back();
+        section.back().key = key;
+        section.back().value = value;
     }
-    Texts Report()
+    // The lines after the head of the table, which is after those of the keys.
+    Texts Table()
     {
         CStringList lines;
-        AddFontLines(
-            "C:\\init\\lyt.ini", &section,
-            [this](const CString& name)
-            {
-                asked.emplace_back(name.GetString());
-                return installed;
-            },
-            lines);
-        return TextsOf(lines);
+        const auto find = [this](const CString& name)
+        {
+            asked.emplace_back(name.GetString());
+            return installed;
+        };
+        AddFontLines("C:\\init\\lyt.ini", &section, find, lines);
+        const Texts report = TextsOf(lines);
+        Texts head = {"Fonts Information from C:\\init\\lyt.ini"};
+        for (const ClytINIStruct& line : section)
+            head.push_back(("  " + line.key + "=" + line.value).GetString());
+        head.insert(head.end(), {rule, heading, rule});
+        const auto end = report.begin() + static_cast<std::ptrdiff_t>(head.size());
+        EXPECT_EQ(Texts(report.begin(), end), head);
+        return {end, report.end()};
     }
 
     ClytINISection section{"", ""};
@@ -56,15 +65,6 @@ protected:
 
 } // namespace
 
-TEST_F(Fonts, LaysTheTableOutAfterTheKeys)
-{
-    AddKey("Text", "Tahoma");
-    installed = {{"Tahoma", 0}, {"Tahoma", 204}};
-    EXPECT_EQ(Report(), (Texts{"Fonts Information from C:\\init\\lyt.ini", "  Text=Tahoma", rule, heading, rule,
-                               NameLine("Tahoma"), EntryLine("Tahoma", "ANSI_CHARSET"),
-                               EntryLine("Tahoma", "RUSSIAN_CHARSET"), rule}));
-}
-
 TEST_F(Fonts, SectionThatCannotBeReadEndsThePart)
 {
     CStringList lines;
@@ -73,80 +73,37 @@ TEST_F(Fonts, SectionThatCannotBeReadEndsThePart)
     EXPECT_EQ(TextsOf(lines), (Texts{"Fonts Information from C:\\lyt.ini", "Section is EMPTY or not found!"}));
 }
 
-TEST_F(Fonts, FontNamedTwiceIsAskedForAndListedOnce)
+TEST_F(Fonts, AreAskedForAndListedOnceInTheOrderOfTheirBytes)
 {
-    AddKey("Text", "Tahoma,Tahoma");
-    AddKey("Other", "Tahoma");
-    const Texts report = Report();
-    EXPECT_EQ(asked, Texts{"Tahoma"});
-    EXPECT_EQ(report, (Texts{"Fonts Information from C:\\init\\lyt.ini", "  Text=Tahoma,Tahoma", "  Other=Tahoma", rule,
-                             heading, rule, NameLine("Tahoma"), rule}));
-}
-
-TEST_F(Fonts, BlankAfterACommaBelongsToTheName)
-{
-    AddKey("Text", "Tahoma, Arial");
-    const Texts report = Report();
-    EXPECT_EQ(asked, (Texts{"Tahoma", " Arial"}));
-    EXPECT_EQ(report[5], NameLine(" Arial"));
-    EXPECT_EQ(report[7], NameLine("Tahoma"));
-}
-
-TEST_F(Fonts, FontOfSeveralCharacterSetsHasALineForEachInTheOrderFound)
-{
-    AddKey("Text", "Tahoma");
-    installed = {{"Tahoma", 238}, {"Tahoma", 0}, {"Tahoma", 161}};
-    const Texts report = Report();
-    EXPECT_EQ(Texts(report.begin() + 6, report.begin() + 9),
-              (Texts{EntryLine("Tahoma", "EASTEUROPE_CHARSET"), EntryLine("Tahoma", "ANSI_CHARSET"),
-                     EntryLine("Tahoma", "GREEK_CHARSET")}));
-}
-
-TEST_F(Fonts, LikeLinesInARowCollapse)
-{
-    AddKey("Text", "Tahoma");
-    installed = {{"Tahoma", 0}, {"Tahoma", 0}, {"Tahoma Bold", 0}, {"Tahoma", 0}, {"Tahoma", 3}, {"Tahoma", 4}};
-    const Texts report = Report();
-    EXPECT_EQ(Texts(report.begin() + 6, report.end()),
-              (Texts{EntryLine("Tahoma", "ANSI_CHARSET"), EntryLine("Tahoma Bold", "ANSI_CHARSET"),
-                     EntryLine("Tahoma", "ANSI_CHARSET"), EntryLine("Tahoma", "<unknown>"), rule}));
-}
-
-TEST_F(Fonts, LikeLinesOfTwoNamesBothStay)
-{
-    AddKey("Text", "A,B");
-    installed = {{"Tahoma", 0}};
-    EXPECT_EQ(Report(), (Texts{"Fonts Information from C:\\init\\lyt.ini", "  Text=A,B", rule, heading, rule,
-                               NameLine("A"), EntryLine("Tahoma", "ANSI_CHARSET"), rule, NameLine("B"),
-                               EntryLine("Tahoma", "ANSI_CHARSET"), rule}));
-}
-
-TEST_F(Fonts, NamesStandInTheOrderOfTheirBytes)
-{
-    AddKey("Text", "arial,Zebra,\xC4hnlich,Arial,Ari");
-    const Texts report = Report();
-    EXPECT_EQ(report, (Texts{"Fonts Information from C:\\init\\lyt.ini", "  Text=arial,Zebra,\xC4hnlich,Arial,Ari",
-                             rule, heading, rule, NameLine("Ari"), rule, NameLine("Arial"), rule, NameLine("Zebra"),
-                             rule, NameLine("arial"), rule, NameLine("\xC4hnlich"), rule}));
-}
-
-TEST_F(Fonts, EmptyPieceNamesNoFont)
-{
-    AddKey("Text", ",Tahoma,,");
+    AddKey("Text", "arial,Zebra,\xC4hnlich,,Arial,Ari, Arial,arial,");
+    AddKey("Other", "Arial");
     AddKey("None", "");
-    EXPECT_EQ(Report(), (Texts{"Fonts Information from C:\\init\\lyt.ini", "  Text=,Tahoma,,", "  None=", rule, heading,
-                               rule, NameLine("Tahoma"), rule}));
-    EXPECT_EQ(asked, Texts{"Tahoma"});
+    const Texts names = {" Arial", "Ari", "Arial", "Zebra", "arial", "\xC4hnlich"};
+    Texts expected;
+    for (const std::string& name : names)
+        expected.insert(expected.end(), {NameLine(name), rule});
+    EXPECT_EQ(Table(), expected);
+    EXPECT_EQ(asked.size(), names.size());
 }
 
-TEST_F(Fonts, LongNamesKeepTheirWidth)
+TEST_F(Fonts, HaveALineForEachCharacterSetInTheOrderFoundWithoutLikeLinesInARow)
 {
-    const std::string name(40, 'x');
-    AddKey("Text", name.c_str());
-    installed = {{name.c_str(), 0}};
-    const Texts report = Report();
-    EXPECT_EQ(report[5], NameLine(name));
-    EXPECT_EQ(report[6], EntryLine(name, "ANSI_CHARSET"));
+    const std::string longName(40, 'x');
+    AddKey("Text", ("A," + longName).c_str());
+    installed = {{"Tahoma", 238}, {"Tahoma", 0}, {"Tahoma", 0}, {"Tahoma Bold", 0},
+                 {"Tahoma", 0},   {"Tahoma", 3}, {"Tahoma", 4}, {longName.c_str(), 238}};
+    const Texts entries = {EntryLine("Tahoma", "EASTEUROPE_CHARSET"),
+                           EntryLine("Tahoma", "ANSI_CHARSET"),
+                           EntryLine("Tahoma Bold", "ANSI_CHARSET"),
+                           EntryLine("Tahoma", "ANSI_CHARSET"),
+                           EntryLine("Tahoma", "<unknown>"),
+                           EntryLine(longName, "EASTEUROPE_CHARSET"),
+                           rule};
+    Texts expected = {NameLine("A")};
+    expected.insert(expected.end(), entries.begin(), entries.end());
+    expected.push_back(NameLine(longName));
+    expected.insert(expected.end(), entries.begin(), entries.end());
+    EXPECT_EQ(Table(), expected);
 }
 
 TEST(CharsetName, NamesEachCharacterSet)
@@ -167,4 +124,66 @@ TEST(CharsetName, NamesEachCharacterSet)
         names[static_cast<size_t>(n.charset)] = n.name;
     for (int charset = 0; charset < 256; ++charset)
         EXPECT_EQ(lytCharsetName(static_cast<unsigned char>(charset)), names[static_cast<size_t>(charset)]) << charset;
+}
+
+TEST(Locale, ListsEachValueInOrderUnderItsLabel)
+{
+    const auto ask = [](unsigned locale, unsigned type)
+    {
+        CString text;
+        text.Format("%u/%u", locale, type);
+        return text;
+    };
+    CStringList lines;
+    AddLocaleLines(ask, lines);
+    EXPECT_EQ(TextsOf(lines), (Texts{
+                                  "LOCALE.SYSTEM.ANSICODEPAGE        = 2048/4100",
+                                  "LOCALE.SYSTEM.CODEPAGE            = 2048/11",
+                                  "LOCALE.USER.ANSICODEPAGE          = 1024/4100",
+                                  "LOCALE.USER.CODEPAGE              = 1024/11",
+                                  "LOCALE.USER.LANGUAGE              = 1024/2",
+                                  "LOCALE.USER.COUNTRY (region code) = 1024/5",
+                                  "LOCALE.USER.COUNTRY               = 1024/10",
+                                  "LOCALE.USER.EBCDICCODEPAGE        = 1024/4114",
+                                  "LOCALE.USER.LANGUAGE              = 1024/1",
+                                  "LOCALE.USER.SABBREVCTRY           = 1024/7",
+                                  "LOCALE.USER.COUNTRY               = 1024/6",
+                                  "LOCALE.USER.ENGCOUNTRY            = 1024/4098",
+                                  "LOCALE.USER.ENGLANGUAGE           = 1024/4097",
+                                  "LOCALE.USER.ISO3166CTRY           = 1024/90",
+                                  "LOCALE.USER.ISO639LANG            = 1024/89",
+                                  "LOCALE.USER.NATIVECTRY            = 1024/8",
+                                  "LOCALE.USER.NATIVELANG            = 1024/4",
+                              }));
+}
+
+TEST(LanguageGroups, TellForEachGroupWhetherItIsInstalled)
+{
+    static const char* const names[] = {"WESTERN_EUROPE",
+                                        "CENTRAL_EUROPE",
+                                        "BALTIC",
+                                        "GREEK",
+                                        "CYRILLIC",
+                                        "TURKISH",
+                                        "JAPANESE",
+                                        "KOREAN",
+                                        "TRADITIONAL_CHINESE",
+                                        "SIMPLIFIED_CHINESE",
+                                        "THAI",
+                                        "HEBREW",
+                                        "ARABIC",
+                                        "VIETNAMESE",
+                                        "INDIC",
+                                        "GEORGIAN",
+                                        "ARMENIAN"};
+    Texts expected = {"Windows installed languages:"};
+    for (unsigned group = 1; group <= std::size(names); ++group)
+        expected.push_back(
+            "Language " + std::string(names[group - 1]) +
+            (group % 3 == 0 ? " not installed in Windows, see ZVK note 939928" : " is installed in Windows"));
+    CStringList lines;
+    AddLanguageGroupLines({}, lines);
+    EXPECT_EQ(lines.GetCount(), 0) << "where the system does not know them";
+    AddLanguageGroupLines([](unsigned group) { return group % 3 != 0; }, lines);
+    EXPECT_EQ(TextsOf(lines), expected);
 }
