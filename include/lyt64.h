@@ -9,8 +9,8 @@
  *   - A text that does not fit its buffer leaves the buffer empty. Where a function says so, it also writes a NUL at
  *     buffer[size], one byte beyond the stated size: leave room for it.
  *   - Results are 32-bit integers.
- *   - The functions show their own messages, in a message box titled "lyt64", and keep the host as it was: current
- *     folder, cursor, focus and the enabled state of its windows.
+ *   - The functions show their messages in a message box titled "lyt64". They keep the host as it was: current folder,
+ *     cursor, focus and the enabled state of its windows.
  *   - All calls come from one thread, one at a time. Dialogs are modal and belong to that thread's active window. While
  *     a window of the library is up, a call on another thread is refused: it gives 0, if anything, and does nothing.
  *   - State lives in the process from load to unload. Call lytInitialiseEnvironment first.
@@ -19,14 +19,13 @@
  *     way ends the process. Partner libraries and the system's own libraries that a call has loaded stay in the
  *     process.
  *   - The library is 64-bit, and so must its host be.
- *   - Partner libraries (the catalogue's lytsrc.dll, the data libraries that descriptions name, LytRes64.dll) are
- *     looked for where Windows looks for any library: in the host program's folder, in the folders of Windows, in the
- *     current folder and in PATH, and not beside this library. One that is not found is treated as empty, without a
- *     message.
+ *   - Partner libraries (the catalogue's lytsrc.dll, the data libraries that descriptions name, LytRes64.dll) are not
+ *     looked for beside this library. Windows looks for them in the host program's folder, in its own folders, in the
+ *     current folder and in PATH. One that is not found is treated as empty, without a message.
  *
  * Traps
  *   - Use the text of a property dialog only after a 1. After a 2 nothing changed, and the buffer holds what the dialog
- *     composed, which need not be the key: of a group whose key was split, it lacks the part before the bracket.
+ *     composed. That need not be the key: of a group whose key was split, it lacks the part before the bracket.
  *   - 1 with an empty text means that the buffer was too small; a text as long as the stated size does not fit. Only a
  *     group's first text that is longer than its buffer is refused with a message and 0.
  *   - lytWizard can return 0 along with the last text of a group, and the texts before it keep the "|" at their end:
@@ -63,8 +62,9 @@ extern "C"
 
     /* Show the dialog of a placeholder's kind, with the key scanned into its controls, until the user ends it.
      *
-     * Return 1 when the placeholder changed, 2 when it did not, and 0 when there is nothing to use: the user cancelled,
-     * or the dialog could not be shown and a message said why. In both cases the buffers are as they were. */
+     * Return 1 when the placeholder changed, 2 when it did not, and 0 when there is nothing to use. Then the user
+     * cancelled, or the dialog could not be shown and a message said why. In both cases the buffers are as they were.
+     */
 
     /* The descriptions lytInSym.dlg and lytInPhr.dlg. The placeholder counts as changed when the buffer then holds
      * anything but the key. A result that is empty leaves the buffer as it was. One that is longer than the size leaves
@@ -74,14 +74,14 @@ extern "C"
 
     /* The description lytCdGrp.dlg for kind 0, lytRpGrp.dlg for any other.
      *
-     * The dialog's result is cut at its first ")/1": what stands before the "/" goes to `first`, what follows it to
-     * `second`; without ")/1" both get an empty text. A result that is empty stands for the text that `first` holds
-     * already, and leaves `second` alone.
+     * The dialog's result is cut at its first ")/1": what comes before the "/" goes to `first`, what follows it to
+     * `second`; without ")/1" both get an empty text. An empty result means the text that `first` holds already, and
+     * leaves `second` alone.
      *
      * A key that holds "BNG", and with kind 1 any key but an empty one, is split: the dialog sees only what begins with
-     * the first "(". After a change the part before it is put in front again, and bytes 5, 6 and 7 of the key, counted
-     * from 0, are written over those of `second`, if key and second buffer have 8 bytes or more. Any other key counts
-     * as changed whenever the user confirms.
+     * the first "(". After a change the part before it is put in front again. Bytes 5, 6 and 7 of the key, counted from
+     * 0, replace the same bytes of `second`, if key and second buffer have 8 bytes or more. Any other key counts as
+     * changed whenever the user confirms.
      *
      * A first part that is longer than its buffer is refused with a message: the buffer is then empty, and the result
      * is 0. A second part that does not fit leaves its buffer empty; one longer than secondSize also writes a NUL at
@@ -110,9 +110,9 @@ extern "C"
 
     /* Walk over the symbols below a group of the symbol tree, once a dialog has read it: one start, then reads until 0.
      * lytTreeStartChildNode returns 1 when an entry with the key was found and another entry follows it. Unless that is
-     * a symbol, reads go on from where an earlier walk stood. lytTreeReadChildNode copies the label as shown, and the
-     * key, a backslash and the label as the data source gave it; it returns 1, or 0 at the end: after the last entry,
-     * or at one of another level than the very first entry that was read in this process. */
+     * a symbol, reads continue where an earlier walk ended. lytTreeReadChildNode copies the label as shown, and the
+     * key, a backslash and the label as the data source gave it. It returns 1, or 0 at the end. The end is after the
+     * last entry, or at an entry of another level than the very first one that was read in this process. */
     int __stdcall lytTreeStartChildNode(const char* key);
     int __stdcall lytTreeReadChildNode(char* text, int textSize, char* path, int pathSize);
 
@@ -137,9 +137,9 @@ extern "C"
      * size. */
     int __stdcall lytListFromIniNext(char* value, int valueSize, char* display, int displaySize);
 
-    /* Writes a text to the log, a block of its own between two banners, when the level is not above the key "level" of
-     * the section "LogLevel" in lyt.ini. The log has the document's name up to the first dot of its path, and then
-     * ".log". Level 0 in lyt.ini means no log.
+    /* Writes a text to the log, as a block between two banners, when the level is not above the key "level" of the
+     * section "LogLevel" in lyt.ini. The log has the document's name up to the first dot of its path, and then ".log".
+     * Level 0 in lyt.ini means no log.
      *
      * A log that cannot be opened (207), written (208) or closed (209) raises a C++ exception, thrown as a pointer to
      * the library's ClytException: a failure that leaves the function. A C++ caller of the same tool chain can catch
@@ -153,7 +153,7 @@ extern "C"
     /* Leads through a new placeholder: the user picks an entry of the catalogue and fills in the entry's dialog
      * (lytWzGrp.dlg, lytWzPhr.dlg or lytWzSym.dlg). Call again while the result is 1:
      *   0  after a 1: the last text of a group, in the buffer, or the end of a list that ended in "|", with the buffer
-     *      as it was; at any other time: nothing chosen, or cancelled. Empty the buffer before each call to tell them
+     *      as it was. At any other time: nothing chosen, or cancelled. Empty the buffer before each call to tell them
      *      apart
      *   1  text of a group in the buffer, and more to come with the next call
      *   2  text of a symbol in the buffer
@@ -172,11 +172,11 @@ extern "C"
      * may take some time, all of it in this call. */
     int __stdcall lytSystemInfoInit(const char* directory);
 
-    /* Copies the line of an index, counted from 0, to the target and returns 1; a longer line is cut to size - 1
-     * characters, and the last byte, target[size - 1], becomes a NUL however short the line is. An index without a line
-     * frees the report, leaves the target as it was and returns 0: so read upward from 0 until 0 comes back, which
-     * takes time in proportion to their number. An empty line is a line. Once the report is freed, every index gives 0
-     * until the next lytSystemInfoInit. */
+    /* Copies the line of an index, counted from 0, to the target and returns 1. A longer line is cut to size - 1
+     * characters. The last byte, target[size - 1], becomes a NUL for a short line, too. An index without a line frees
+     * the report, leaves the target as it was and returns 0. So read upward from 0 until 0 comes back, which takes time
+     * in proportion to their number. An empty line is a line. Once the report is freed, every index gives 0 until the
+     * next lytSystemInfoInit. */
     int __stdcall lytSystemInfoRead(int index, char* target, int size);
 
 #ifdef __cplusplus
