@@ -1,9 +1,8 @@
 // What lists cost beyond asking the data library and sending the platform's own messages.
-#include "windows/Works.h"
-
-#include "Form.h"
 #include "lytdata.h"
 #include "windows/ByHand.h"
+#include "windows/LiveForm.h"
+#include "windows/Works.h"
 
 namespace
 {
@@ -128,30 +127,29 @@ class ListForm
 public:
     ListForm(const ListKind& kind, int count)
     {
-        m_form.main.layout = {std::string(kind.type) + " List", "PushButton Fill", "TextBox Edit"};
-        m_form.main.values = {"List=FILLEDBY,nasty,Open,NextMany,Count", "Fill=FILL,List"};
-        m_form.main.rules = {"List/CLEAR=Edit"};
-        m_form.main.output = {"(\"x\")", "$OUTPUT, Count", "(\"" + std::to_string(count) + "\")"};
+        m_form.Take("layout", std::string(kind.type) + " List ; PushButton Fill ; TextBox Edit");
+        m_form.Take("values", "List=FILLEDBY,nasty,Open,NextMany,Count ; Fill=FILL,List");
+        m_form.Take("rules", "List/CLEAR=Edit");
+        m_form.Take("output", "(\"x\") ; $OUTPUT, Count ; (\"" + std::to_string(count) + "\")");
     }
 
     void Run(const std::function<void()>& act)
     {
         // The windows are looked for once: to find one costs as many calls of the platform as a fill.
-        m_form.Then(
-            [&]
-            {
-                m_fill = m_form["Fill"];
-                m_edit = m_form["Edit"];
-                act();
-            });
-        m_form.Ok().Open();
+        ActOn(m_form,
+              [&]
+              {
+                  m_fill = m_form.Window("Fill");
+                  m_edit = m_form.Window("Edit");
+                  act();
+              });
     }
     void Fill() const { Click(m_fill); }
     // A change of the field empties the list.
     void Empty() { SetWindowTextA(m_edit, std::to_string(++m_changes).c_str()); }
 
 private:
-    Form m_form;
+    CaseForm m_form;
     HWND m_fill = nullptr;
     HWND m_edit = nullptr;
     int m_changes = 0;
@@ -222,22 +220,23 @@ void MeasureDropListEmptied(const BenchMeter& meter)
 
 void MeasureAllValues(const BenchMeter& meter)
 {
-    Form form;
-    form.main.layout = {"ListBox List", "PushButton Fill", "ListBox Other", "PushButton Read"};
-    form.main.values = {"List=FILLEDBY,nasty,Open,NextMany,Count", "Fill=FILL,List",
-                        "Other=FILLEDBY,nasty,Open,NextNone,All", "Read=FILL,Other"};
-    form.main.output = {"(\"x\")", "$OUTPUT, Count", "(\"" + std::to_string(meter.Size()) + "\")", "$OUTPUT, All",
-                        "(\"%s\", List(\"/\"))"};
-    form.Then(
-        [&]
-        {
-            Click(form["Fill"]);
-            const Source source(meter.Size());
-            const TextsByHand texts(form.Folder().Path());
-            meter.Compare({
-                {"ours", [&] { Click(form["Read"]); }},
-                {"by hand", [&] { source.Each([&](int, const char* item) { texts.Read("TEXTS", item); }); }},
-            });
-        });
-    form.Ok().Open();
+    CaseForm form;
+    form.Take("layout", "ListBox List ; PushButton Fill ; ListBox Other ; PushButton Read");
+    form.Take("values", "List=FILLEDBY,nasty,Open,NextMany,Count ; Fill=FILL,List");
+    form.Take("values+", "Other=FILLEDBY,nasty,Open,NextNone,All ; Read=FILL,Other");
+    form.Take("output", "(\"x\") ; $OUTPUT, Count ; (\"" + std::to_string(meter.Size()) +
+                            "\") ; $OUTPUT, All ; (\"%s\", List(\"/\"))");
+    const TestFolder folder;
+    ActOn(form, folder,
+          [&]
+          {
+              Click(form.Window("Fill"));
+              const Source source(meter.Size());
+              const TextsByHand texts(folder.Path());
+              HWND read = form.Window("Read");
+              meter.Compare({
+                  {"ours", [&] { Click(read); }},
+                  {"by hand", [&] { source.Each([&](int, const char* item) { texts.Read("TEXTS", item); }); }},
+              });
+          });
 }

@@ -1,7 +1,6 @@
 // What a run of rules costs beyond the windows' part of it.
+#include "windows/LiveForm.h"
 #include "windows/Works.h"
-
-#include "Form.h"
 
 namespace
 {
@@ -22,29 +21,27 @@ public:
         const auto name = [&](int index) { return "C" + std::to_string(index % controls); };
         for (int control = 0; control < controls; ++control)
         {
-            m_form.main.layout.push_back(std::string(types[control % 4]) + " " + std::to_string(control % 20 * 40) +
-                                         ", " + std::to_string(control / 20 * 20) + ", 36, 18, \"C0\", ." +
-                                         name(control));
+            m_form.Take("layout+", std::string(types[control % 4]) + " " + std::to_string(control % 20 * 40) + ", " +
+                                       std::to_string(control / 20 * 20) + ", 36, 18, \"C0\", ." + name(control));
         }
         for (int rule = 0; rule < rules; ++rule)
-            m_form.main.rules.push_back(name(rule) + "/" + words[rule % 4] + "=" + name(ConditionOf(rule)) +
-                                        (rule % 3 == 0 ? "(NOTNULL)" : "(a,b,c)"));
+            m_form.Take("rules+", name(rule) + "/" + words[rule % 4] + "=" + name(ConditionOf(rule)) +
+                                      (rule % 3 == 0 ? "(NOTNULL)" : "(a,b,c)"));
     }
 
     void Measure(const BenchMeter& meter)
     {
-        m_form.Then(
-            [&]
-            {
-                HWND dialog = robot::ActiveDialog();
-                m_windows = robot::ChildrenOf(dialog);
-                meter.Compare({
-                    {"ours", [&] { SendMessageA(dialog, WM_COMMAND, MAKEWPARAM(0, 0x77), 1); }},
-                    {"by hand", [&] { RunByHand(); }},
-                    {"calls without asking", [&] { SetStatesUnasked(); }},
-                });
-            });
-        m_form.Ok().Open();
+        ActOn(m_form,
+              [&]
+              {
+                  HWND dialog = robot::ActiveDialog();
+                  m_windows = robot::ChildrenOf(dialog);
+                  meter.Compare({
+                      {"ours", [&] { SendMessageA(dialog, WM_COMMAND, MAKEWPARAM(0, 0x77), 1); }},
+                      {"by hand", [&] { RunByHand(); }},
+                      {"calls without asking", [&] { SetStatesUnasked(); }},
+                  });
+              });
     }
 
 private:
@@ -93,7 +90,7 @@ private:
 
     int m_controls;
     int m_rules;
-    Form m_form;
+    CaseForm m_form;
     std::vector<HWND> m_windows;
 };
 

@@ -1,6 +1,6 @@
 // A check list draws its items itself: in the colours that somebody has chosen for the system, high contrast among them.
 // What is drawn only real windows show.
-#include "CheckListFixture.h"
+#include "dialogs/DialogFixture.h"
 
 #include <algorithm>
 #include <array>
@@ -112,21 +112,31 @@ void ExpectText(const Canvas& canvas, COLORREF text, COLORREF ground)
     EXPECT_EQ(canvas.At(Canvas::width - 1, Canvas::height - 1), ground);
 }
 
-class CheckListColours : public CheckList
+class CheckListColours : public DialogFixture
 {
 protected:
-    // Draws the first item in that state and looks at it.
-    void Expect(UINT state, COLORREF text, COLORREF ground)
+    // Opens a dialog with a check list, and looks at it.
+    void Look(const std::function<void(HWND list)>& look, const std::string& values = "")
     {
-        form.Then(
-            [=, this]
+        Description description;
+        description.controls += "CheckListBox 10, 40, 130, 62, .List\n";
+        description.values = "List=ONE,Xone\nList=TWO,xtwo\n" + values;
+        Describe(description);
+        On([&look](HWND dialog) { look(robot::ChildOfClass(dialog, "ListBox")); });
+        EXPECT_EQ(ShowAndPress(IDOK, "a"), 2);
+    }
+    // Draws the first item in that state and looks at it.
+    void Expect(UINT state, COLORREF ink, COLORREF ground, const std::string& values = "")
+    {
+        Look(
+            [=](HWND list)
             {
-                const Canvas canvas(form["List"]);
-                canvas.Draw(form["List"], state);
-                ExpectText(canvas, text, ground);
+                const Canvas canvas(list);
+                canvas.Draw(list, state);
+                ExpectText(canvas, ink, ground);
                 EXPECT_EQ(canvas.At(0, 0), scheme[0]) << "the ground of the mark";
-            });
-        form.Ok().Open();
+            },
+            values);
     }
 
     const ChosenScheme chosen;
@@ -134,35 +144,25 @@ protected:
 
 } // namespace
 
-TEST_F(CheckListColours, ShowAnItemAsOfAnyWindow)
+TEST_F(CheckListColours, AreThoseThatTheSystemHasForTheState)
 {
     Expect(0, scheme[1], scheme[0]);
-}
-
-TEST_F(CheckListColours, ShowTheChosenItemAsChosen)
-{
     Expect(ODS_SELECTED, scheme[3], scheme[2]);
-}
-
-TEST_F(CheckListColours, ShowADisabledItemInGrey)
-{
-    form.main.values.emplace_back("List=INACTIVE");
-    Expect(ODS_SELECTED, scheme[4], scheme[0]);
+    Expect(ODS_SELECTED, scheme[4], scheme[0], "List=INACTIVE\n");
 }
 
 TEST_F(CheckListColours, MarkTheItemWithTheFocus)
 {
-    form.Then(
-        [&]
+    Look(
+        [](HWND list)
         {
-            const Canvas without(form["List"]);
-            const Canvas with(form["List"]);
-            without.Draw(form["List"], ODS_SELECTED);
-            with.Draw(form["List"], ODS_SELECTED | ODS_FOCUS);
+            const Canvas without(list);
+            const Canvas with(list);
+            without.Draw(list, ODS_SELECTED);
+            with.Draw(list, ODS_SELECTED | ODS_FOCUS);
             int different = 0;
             for (int x = 0; x < Canvas::width; ++x)
                 different += with.At(x, 0) != without.At(x, 0) ? 1 : 0;
             EXPECT_GT(different, Canvas::width / 4);
         });
-    form.Ok().Open();
 }

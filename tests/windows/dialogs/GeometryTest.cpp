@@ -118,6 +118,28 @@ TEST_F(Geometry, TextsAreScaledInPlaceOnly)
     EXPECT_EQ(ShowAndPress(IDOK, "a"), 2);
 }
 
+TEST_F(Geometry, ControlsWithAMarkAreAsWideAsTheirTextWithRoomForTheMark)
+{
+    Description description;
+    description.controls += "CheckBox 8, 6, 400, 90, \"Label\", .Box\nOptionGroup .Kind\n"
+                            "OptionButton 8, 40, 100, 90, \"Label\", .Option\nText 10, 60, 50, 12, \"Label\", .L\n";
+    Describe(description);
+    On(
+        [&](HWND dialog)
+        {
+            RECT label{};
+            GetClientRect(robot::ChildAt(dialog, 5), &label);
+            for (const size_t index : {size_t{3}, size_t{4}})
+            {
+                RECT area{};
+                GetClientRect(robot::ChildAt(dialog, index), &area);
+                EXPECT_EQ(area.right, label.right + ScaledX(28));
+                EXPECT_EQ(area.bottom, label.bottom);
+            }
+        });
+    EXPECT_EQ(ShowAndPress(IDOK, "a"), 2);
+}
+
 TEST_F(Geometry, OptionButtonIsCreatedAtASizeScaledTwice)
 {
     Description description;

@@ -3,7 +3,7 @@
 //
 // The tests stand in the order in which they have to run: the library can only be loaded and unloaded before anything
 // keeps it, and the catalogue's tests take it away after each.
-#include "controls/WholeForm.h"
+#include "cases/CaseRun.h"
 #include "report/ReportTest.h"
 #include "support/FreshLibrary.h"
 #include "support/Holdings.h"
@@ -49,8 +49,14 @@ class LongRunOfReports : public ReportTest
 {
 };
 
-class LongRunOfForms : public WholeForm
+class LongRunOfForms : public CaseRun
 {
+protected:
+    static Case CaseOf(const std::string& name)
+    {
+        const std::vector<Case> cases = ReadCases(LYT_WHOLE_FORM);
+        return *std::ranges::find(cases, name, &Case::name);
+    }
 };
 
 class LongRunOfCatalogues : public Wizard
@@ -75,29 +81,12 @@ TEST(LongRunOfLoads, HoldsNothingMore)
 
 TEST_F(LongRunOfForms, WithEveryControlHoldsNothingMore)
 {
-    RunLong(1000,
-            [&]
-            {
-                form.Then(
-                    [&]
-                    {
-                        for (const char* button : {"Fill", "Add", "Delete", "Down", "Later", "Signed", "Final"})
-                            robot::Click(form[button]);
-                    });
-                EXPECT_EQ(form.Ok().Open("remark#x").answer, 1);
-            });
+    RunLong(1000, [&, one = CaseOf("RoundsTakeNothingWithThem")] { Run(one); });
 }
 
 TEST_F(LongRunOfForms, OneInsideTheOtherHoldsNothingMore)
 {
-    RunLong(200,
-            [&]
-            {
-                form.Then([&] { robot::Click(form["More"]); });
-                form.In("Inner", [&] { robot::ReplaceText(form["Field"], "from inside"); });
-                form.Ok("Inner");
-                EXPECT_EQ(form.Ok().Open("remark#x").text, "final;A. Writer;XXone,-two;from inside");
-            });
+    RunLong(200, [&, one = CaseOf("WorksAsAWhole")] { Run(one); });
 }
 
 TEST_F(LongRunOfReports, HoldsNothingMore)
