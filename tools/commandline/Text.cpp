@@ -88,6 +88,18 @@ std::string TakeEscape(const std::string& line, size_t& place)
     return {known != std::end(escapes) ? known->character : letter};
 }
 
+bool IsUtf8(const std::string& text)
+{
+    for (size_t place = 0; place < text.size();)
+    {
+        const size_t length = LengthOfCharacter(text, place);
+        if (length == 0)
+            return false;
+        place += length;
+    }
+    return true;
+}
+
 } // namespace
 
 std::string ToUtf8(const std::string& ansi)
@@ -98,6 +110,29 @@ std::string ToUtf8(const std::string& ansi)
 std::string ToAnsi(const std::string& utf8)
 {
     return Convert(utf8, CP_UTF8, CP_ACP);
+}
+
+std::string AsUtf8(const std::string& text)
+{
+    return IsUtf8(text) ? text : ToUtf8(text);
+}
+
+std::string AsAnsi(const std::string& text)
+{
+    return IsUtf8(text) ? ToAnsi(text) : text;
+}
+
+std::vector<std::string> LinesOf(const std::string& text)
+{
+    std::vector<std::string> lines;
+    for (size_t start = 0; start < text.size();)
+    {
+        const size_t end = std::min(text.find('\n', start), text.size());
+        const size_t length = end - start;
+        lines.push_back(text.substr(start, length > 0 && text[end - 1] == '\r' ? length - 1 : length));
+        start = end + 1;
+    }
+    return lines;
 }
 
 size_t LengthOfCharacter(const std::string& utf8, size_t place)

@@ -3,12 +3,18 @@
 
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace commandline
 {
 
 std::string ToUtf8(const std::string& ansi);
 std::string ToAnsi(const std::string& utf8);
+// A text that may be in either.
+std::string AsUtf8(const std::string& text);
+std::string AsAnsi(const std::string& text);
+// The lines of a text, without their ends.
+std::vector<std::string> LinesOf(const std::string& text);
 
 // The length of the UTF-8 character that begins there; 0 when none does.
 size_t LengthOfCharacter(const std::string& utf8, size_t place);

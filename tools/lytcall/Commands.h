@@ -7,7 +7,7 @@ namespace lytcall
 {
 
 // Runs the command of the session; the last call's result decides whether it counts as failed. Raises CallError and
-// ScriptError.
+// script::FileError.
 int RunCommand(const Session& session);
 
 // The report, in a file of its own.

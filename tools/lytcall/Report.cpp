@@ -132,7 +132,7 @@ bool CompareSavedReports(const Request& request)
     // Both reports tell names, and each gets the word that it would have in either.
     std::ranges::copy(second, std::back_inserter(all));
     if (request.Has("--redact"))
-        difference.text = TextOf(Redacted(LinesOfText(difference.text), all));
+        difference.text = TextOf(Redacted(commandline::LinesOf(difference.text), all));
     std::fputs(difference.text.c_str(), stdout);
     PrintNumber("different lines", static_cast<int>(difference.lines));
     PrintNumber("different from run to run", static_cast<int>(difference.fromRunToRun));

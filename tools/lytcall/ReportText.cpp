@@ -60,20 +60,6 @@ std::string JsonText(const std::string& text)
 
 } // namespace
 
-ReportLines LinesOfText(const std::string& text)
-{
-    ReportLines lines;
-    for (size_t start = 0; start < text.size();)
-    {
-        const size_t end = std::min(text.find('\n', start), text.size());
-        lines.push_back(text.substr(start, end - start));
-        if (lines.back().ends_with('\r'))
-            lines.back().pop_back();
-        start = end + 1;
-    }
-    return lines;
-}
-
 std::string TextOf(const ReportLines& lines)
 {
     std::string text;

@@ -9,8 +9,6 @@ namespace lytcall
 
 using ReportLines = std::vector<std::string>;
 
-// A line ends with a line feed, with or without a carriage return before it.
-ReportLines LinesOfText(const std::string& text);
 std::string TextOf(const ReportLines& lines);
 
 struct ReportBlock

@@ -1,5 +1,6 @@
 #include "lytcall/SavedReport.h"
 
+#include "commandline/Text.h"
 #include "commandline/Unicode.h"
 
 // The streams would double the size of the program.
@@ -25,11 +26,11 @@ ReportLines LinesOfJson(const Json& report)
 }
 
 // JSON of another form has no lines.
-ReportLines LinesOf(const std::string& text)
+ReportLines LinesOfReport(const std::string& text)
 try
 {
     const Json report = Json::parse(text, nullptr, false);
-    return report.is_object() ? LinesOfJson(report) : LinesOfText(text);
+    return report.is_object() ? LinesOfJson(report) : commandline::LinesOf(text);
 }
 catch (const Json::exception&)
 {
@@ -40,7 +41,7 @@ catch (const Json::exception&)
 
 std::optional<ReportLines> ReadSavedReport(const std::string& bytes)
 {
-    ReportLines lines = LinesOf(commandline::FromMarkedUnicode(bytes));
+    ReportLines lines = LinesOfReport(commandline::FromMarkedUnicode(bytes));
     // Any report has several blocks; a text of another kind is at most the first.
     constexpr size_t fewestBlocks = 3;
     if (CutReport(lines).size() < fewestBlocks)

@@ -16,6 +16,7 @@ namespace lytcall
 
 using commandline::Quoted;
 using commandline::ToUtf8;
+using script::Step;
 
 namespace
 {
@@ -31,19 +32,19 @@ std::vector<Step> StepsOfFile(const std::string& fileName)
         return {};
     const std::optional<std::string> text = commandline::ReadWholeFile(fileName);
     if (!text)
-        throw ScriptError(fileName, 1, 1, "the script cannot be opened; check its name");
-    return ReadScript(fileName, *text);
+        script::LineReader(fileName, 1, "").Fail("the script cannot be opened; check its name");
+    return ReadScript(fileName, *text, script::Player::OfWindows);
 }
 
 } // namespace
 
 ScriptRunner::ScriptRunner(const std::string& scriptFile, std::string pictureFile, int secondsPerStep)
-    : m_file(scriptFile),
-      m_picture(std::move(pictureFile)),
+    : m_picture(std::move(pictureFile)),
       m_steps(StepsOfFile(scriptFile)),
       m_patience(static_cast<ULONGLONG>(secondsPerStep) * 1000)
 {
     running = this;
+    m_stage.savePicture = SavePicture;
     RestartClock();
     m_timer = SetTimer(nullptr, 0, tickMilliseconds, Tick);
 }
@@ -103,8 +104,8 @@ void ScriptRunner::Run()
 
 void ScriptRunner::TakeStep(const Step& step)
 {
-    const StepAction& action = ActionOf(step);
-    if (!action.ready(m_stage, step))
+    const script::StepForm& form = FormOf(step);
+    if (!form.ready(m_stage, step))
     {
         if (GetTickCount64() > m_deadline)
             Fail(step, ReasonOf(m_stage, step));
@@ -115,7 +116,7 @@ void ScriptRunner::TakeStep(const Step& step)
     RestartClock();
     try
     {
-        action.act(m_stage, step);
+        form.act(m_stage, step);
     }
     catch (const std::runtime_error& error)
     {
@@ -164,7 +165,7 @@ void ScriptRunner::Close(HWND dialog)
 
 void ScriptRunner::Fail(const Step& step, const std::string& reason)
 {
-    m_failure = ScriptError(m_file, step.line, step.column, "step `" + step.word + "`: " + reason).what();
+    m_failure = step.place + "step `" + step.word + "`: " + reason;
 }
 
 void ScriptRunner::RestartClock()

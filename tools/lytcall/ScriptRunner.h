@@ -3,8 +3,7 @@
 // A timer of the calling thread fires inside every modal loop, between two messages: a step never runs inside one.
 #pragma once
 
-#include "lytcall/Script.h"
-#include "lytcall/StepActions.h"
+#include "script/Script.h"
 
 #include <windows.h>
 
@@ -17,30 +16,29 @@ namespace lytcall
 class ScriptRunner
 {
 public:
-    // Both file names may be empty: then no step is taken, no picture made. Raises ScriptError for a script that cannot
+    // Both file names may be empty: then no step is taken, no picture made. Raises FileError for a script that cannot
     // be read.
     ScriptRunner(const std::string& scriptFile, std::string pictureFile, int secondsPerStep);
     ScriptRunner(const ScriptRunner&) = delete;
     ScriptRunner& operator=(const ScriptRunner&) = delete;
     ~ScriptRunner();
 
-    // To be called when the call has come back: raises ScriptError when a step failed or was left over.
+    // To be called when the call has come back: raises std::runtime_error when a step failed or was left over.
     void Finish();
 
 private:
     static void CALLBACK Tick(HWND window, UINT message, UINT_PTR timer, DWORD time);
     void Run();
-    void TakeStep(const Step& step);
+    void TakeStep(const script::Step& step);
     void WatchEnd();
     void Close(HWND dialog);
-    void Fail(const Step& step, const std::string& reason);
+    void Fail(const script::Step& step, const std::string& reason);
     void RestartClock();
 
-    std::string m_file;
     std::string m_picture;
-    std::vector<Step> m_steps;
+    std::vector<script::Step> m_steps;
     size_t m_next = 0;
-    Stage m_stage;
+    script::Stage m_stage;
     std::string m_failure;
     int m_closings = 0;
     ULONGLONG m_patience;

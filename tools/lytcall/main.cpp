@@ -3,7 +3,7 @@
 #include "commandline/Text.h"
 #include "lytcall/Commands.h"
 #include "lytcall/ReportText.h"
-#include "lytcall/Script.h"
+#include "script/Script.h"
 
 #include <cstdio>
 #include <exception>
@@ -18,27 +18,9 @@ enum ExitCode
     notUnderstood = 2
 };
 
-std::string ScriptHelp()
-{
-    std::string text = "A script takes one step a line; '#' begins a comment.\n\nsteps:\n";
-    for (const lytcall::StepForm& form : lytcall::StepForms())
-    {
-        std::string left = std::string("  ") + form.word + " " + form.arguments;
-        left.append(left.size() < 34 ? 34 - left.size() : 1, ' ');
-        text += left + form.meaning + "\n";
-    }
-    text += "\nA CONTROL is one of\n"
-            "  \"CAPTION\"   the button with that caption, or the field behind the label with it\n"
-            "  edit2       the second edit field; so with";
-    for (const std::string& word : lytcall::TypeWords())
-        text += " " + word;
-    text += "\n  #5          the fifth control of the window, counted as the description lists them\n"
-            "  focus       the control with the focus\n\n"
-            "Texts stand in quotes; \\\" \\\\ \\n \\t stand for themselves, a line feed and a tab, and \\x1B for the\n"
-            "character of that number. A step waits until it can be taken, at most as long as --limit says; one that\n"
-            "cannot ends the call with a message that tells file, line and column, the reason and the way out.\n";
-    return text;
-}
+constexpr const char* scriptRemarks =
+    "A step waits until it can be taken, at most as long as --limit says; one that cannot ends the call with a\n"
+    "message that tells file, line and column, the reason and the way out.\n";
 
 int Tell(const std::exception& error, ExitCode code)
 {
@@ -72,8 +54,9 @@ int Run(const std::vector<std::string>& words)
     const lytcall::Request request = commandline::ReadCommandLine(lytcall::TheProgram(), words);
     if (request.command == "help")
     {
-        std::printf("%s", request.Operand(0, "") == "script" ? ScriptHelp().c_str()
-                                                             : commandline::HelpText(lytcall::TheProgram()).c_str());
+        std::printf("%s", (request.Operand(0, "") == "script" ? script::Help() + scriptRemarks
+                                                              : commandline::HelpText(lytcall::TheProgram()))
+                              .c_str());
         return done;
     }
     if (request.command == "version")
@@ -98,16 +81,16 @@ int RunOrTell(const std::vector<std::string>& words)
     {
         return Run(words);
     }
+    catch (const script::FileError& error)
+    {
+        return Tell(error, notUnderstood);
+    }
     catch (const commandline::UsageError& error)
     {
         TellRefusal(words, error);
         Tell(error, notUnderstood);
         std::fprintf(stderr, "`lytcall --help` lists commands and options.\n");
         return notUnderstood;
-    }
-    catch (const lytcall::ScriptError& error)
-    {
-        return Tell(error, notUnderstood);
     }
     catch (const std::exception& error)
     {

@@ -1,5 +1,6 @@
 // Reports without names: what is replaced, by which word, and that nothing is left in any line of a report.
 #include "lytcall/Redaction.h"
+#include "commandline/Text.h"
 
 #include <gtest/gtest.h>
 
@@ -25,7 +26,7 @@ ReportLines GoldenReport()
     std::ifstream file(LYT_SOURCE_FOLDER "/tests/windows/report/golden-report.txt");
     std::stringstream text;
     text << file.rdbuf();
-    ReportLines lines = lytcall::LinesOfText(text.str());
+    ReportLines lines = commandline::LinesOf(text.str());
     // What that machine has none of.
     for (const char* line :
          {"  Network Printer: Office on attic", "Error: File name or path not found: <folder>\\lyt.ini",

@@ -395,6 +395,36 @@ A dialog is opened, worked and ended: states, the order of the acts, endings.
   refused
   [1]
 
+A script works the window as one for lytcall does, too.
+
+  $ cat >window.script <<'END'
+  > type "Name:" "length"
+  > key alt+d
+  > enter "3"
+  > append Unit = m2
+  > set #9 = none
+  > expect Name = "x"
+  > END
+  $ lytdlg run samples/dialogs/lytInSym.dlg --script window.script
+  lytdlg: window.script:6:1: error: `expect` looks at the windows of a call, which only lytcall makes; write acts alone, such as `set` and `press`
+  `lytdlg --help` lists commands and options.
+  [2]
+  $ sed -i '/^expect/d' window.script
+  $ lytdlg run samples/dialogs/lytInSym.dlg --script window.script --ok | tail -n 2
+  confirmed
+  result = "S1:length(3,m2)=\"none\""
+  $ printf '%s\n' 'select "Trade:" "Masonry"' 'check #14' 'press ok' >window.script
+  $ lytdlg run samples/dialogs/lytRpGrp.dlg --script window.script | grep -e '^  Trade ' -e '^  Costs' -e '^[^ ]'
+  dialog "Findings of an inspection"
+    Trade          DropListBox  enabled  shown  "masonry" of "all" ("(all trades)"), "roofing" ("Roofing"), "masonry" ("Masonry"), "carpentry" ("Carpentry"), "plumbing" ("Plumbing"), "heating" ("Heating"), "electrical" ("Electrical")
+    Costs          CheckBox     enabled  shown  "C"
+  message = "Please enter a heading for the findings."
+  refused
+  $ printf '%s\n' 'select "Unit:" "m"' >window.script
+  $ lytdlg run samples/dialogs/lytInSym.dlg --script window.script
+  lytdlg: window.script:1:1: error: "Unit:" has no item "m"; the step `items` lists what it has
+  [1]
+
 Names of files with letters beyond ASCII.
 
   $ mkdir Größe

@@ -414,3 +414,26 @@ Forms of a placeholder, and what comes back when nothing is changed.
   first = ""
   second = ""
   [1]
+
+A script works the window as one for lytdlg does, too.
+
+  $ script window 'set "Name:" = length' 'set edit2=3' 'expect "Unit:" = m2' 'expect text5 hidden' ok >set.steps
+  $ lytcall symbol 'S1:area(2,m2)' --script set.steps
+  key = "S1:area(2,m2)"
+  window = "Properties of a value"
+  result = 1 (changed)
+  text = "S1:length(3,m2)"
+  $ script window 'set "Trade:" = Masonry' 'set "With costs" = unchecked' 'unmark list3 = Cellar' 'mark list3 = Roof' \
+  >   'items list3' 'read "With costs"' cancel >set.steps
+  $ lytcall group --script set.steps
+  kind = 1
+  key = "F-002REPfindings(Findings;R;roofing;Team North;101 Hall|102 Kitchen;Xroof|Xcellar;PC75;DIN 18338;;Cracks in the plaster; medium; north wall|Damp patch; severe)"
+  window = "Findings of an inspection"
+  items list3 = 2
+    item = "[x] Roof"
+    item = "[ ] Cellar"
+  read "With costs" = "unchecked"
+  result = 0 (not confirmed)
+  first = ""
+  second = ""
+  [1]

@@ -82,7 +82,7 @@ std::string NewDescription()
            "    Name = NULL: @NameMissing\n"
            "\n"
            "$INPUT, parent\n"
-           "    ; What stands before the sign is the name; all that follows is the value.\n"
+           "    ; What comes before the sign is the name; all that follows is the value.\n"
            "    Start: (\"=\", Value = Name\n"
            "    Value: (999, End = Value\n"
            "\n"

@@ -1,162 +1,68 @@
 #include "lytdlg/try/Act.h"
 
-#include "commandline/Suggestion.h"
 #include "commandline/Text.h"
+#include "lytdlg/try/TrialEnvironment.h"
 
 #include <algorithm>
+#include <cstring>
 
 namespace lytdlg
 {
 
-using commandline::UsageError;
+using script::Step;
 
 namespace
 {
 
-// What stands after an act's word.
-enum class Shape
-{
-    Alone,
-    Name,
-    NameAndValue
-};
+constexpr const char* nameAndValue = "NAME=VALUE";
+constexpr const char* scriptOption = "--script";
 
-struct ActForm
+Step ActOf(const commandline::OptionForm& option, const std::string& given)
 {
-    const char* word;
-    ActKind kind;
-    Shape shape;
-    const char* meaning;
-};
-
-constexpr ActForm forms[] = {
-    {"set", ActKind::Set, Shape::NameAndValue, "type, choose or mark: field, list, combo, check box, option group"},
-    {"press", ActKind::Press, Shape::Name, "press a button"},
-    {"doubleclick", ActKind::DoubleClick, Shape::Name, "double-click the chosen item of a list"},
-    {"mark", ActKind::Mark, Shape::NameAndValue, "mark the item of a check list that has this value"},
-    {"unmark", ActKind::Unmark, Shape::NameAndValue, "take the mark off again"},
-    {"ok", ActKind::Ok, Shape::Alone, "press OK of the dialog on top"},
-    {"cancel", ActKind::Cancel, Shape::Alone, "press Cancel of the dialog on top"},
-};
-
-const ActForm* FormOf(const std::string& word)
-{
-    const auto* form = std::ranges::find_if(forms, [&](const ActForm& one) { return word == one.word; });
-    return form != std::end(forms) ? form : nullptr;
-}
-
-Act ActOf(const ActForm& form, const std::string& text)
-{
-    Act act{form.kind};
-    const size_t sign = text.find('=');
-    if (form.shape == Shape::NameAndValue && sign == std::string::npos)
-        throw UsageError(std::string("option --") + form.word + " needs NAME=VALUE after it and not \"" + text + "\"");
-    act.name = AnsiOf(form.shape == Shape::NameAndValue ? text.substr(0, sign) : text);
-    act.value = form.shape == Shape::NameAndValue ? AnsiOf(text.substr(sign + 1)) : "";
+    const std::string text = commandline::AsUtf8(given);
+    Step act{"", option.word + std::strlen("--")};
+    const size_t sign = option.value == nameAndValue ? text.find('=') : text.size();
+    if (sign == std::string::npos)
+        throw commandline::UsageError(std::string("option ") + option.word + " needs NAME=VALUE after it and not \"" +
+                                      given + "\"");
+    if (option.value != nullptr)
+        act.target = {script::TargetKind::Name, text.substr(0, sign)};
+    if (option.value == nameAndValue)
+        act.arguments.push_back(text.substr(sign + 1));
     return act;
-}
-
-Act ReadScriptLine(LineReader& line)
-{
-    const std::string word = line.Word("an act");
-    if (std::optional<Act> act = ReadAct(word, line))
-        return *std::move(act);
-    line.Fail("there is no act \"" + word + "\"; " + commandline::Suggestion(word, ActWords()));
-}
-
-std::vector<Act> ActsOfScript(const std::string& file)
-{
-    std::vector<Act> acts;
-    int number = 0;
-    for (const std::string& text : LinesOf(ReadUtf8File(file)))
-    {
-        LineReader line({file, ++number}, text);
-        if (!line.IsAtEnd())
-            acts.push_back(ReadScriptLine(line));
-    }
-    return acts;
 }
 
 } // namespace
 
-std::string Describe(const Act& act)
-{
-    const auto* form = std::ranges::find(forms, act.kind, &ActForm::kind);
-    std::string text = form->word;
-    if (form->shape != Shape::Alone)
-        text += " " + commandline::ToUtf8(act.name);
-    if (form->shape == Shape::NameAndValue)
-        text += " = " + commandline::Quoted(commandline::ToUtf8(act.value));
-    return text;
-}
-
 const std::vector<commandline::OptionForm>& ActOptions()
 {
-    static const std::vector<commandline::OptionForm> options = []
-    {
-        static const std::vector<std::string> words = []
-        {
-            std::vector<std::string> made;
-            for (const ActForm& form : forms)
-                made.push_back(std::string("--") + form.word);
-            return made;
-        }();
-        std::vector<commandline::OptionForm> made;
-        for (size_t index = 0; index < words.size(); ++index)
-        {
-            const ActForm& form = forms[index];
-            const char* value = form.shape == Shape::Alone  ? nullptr
-                                : form.shape == Shape::Name ? "NAME"
-                                                            : "NAME=VALUE";
-            made.push_back({words[index].c_str(), value, false, form.meaning});
-        }
-        made.push_back({"--script", "FILE", false, "the acts of a file, one a line: set NAME = VALUE, press NAME, ok"});
-        return made;
-    }();
+    static const std::vector<commandline::OptionForm> options = {
+        {"--set", nameAndValue, false, "type, choose or mark: field, list, combo, check box, option group"},
+        {"--press", "NAME", false, "press a button"},
+        {"--doubleclick", "NAME", false, "double-click the chosen item of a list"},
+        {"--mark", nameAndValue, false, "mark the item of a check list that has this value"},
+        {"--unmark", nameAndValue, false, "take the mark off again"},
+        {"--ok", nullptr, false, "press OK of the dialog on top"},
+        {"--cancel", nullptr, false, "press Cancel of the dialog on top"},
+        {scriptOption, "FILE", false, "the acts of a file, one a line: set NAME = VALUE, press NAME, ok"},
+    };
     return options;
 }
 
-std::vector<Act> ActsOf(const commandline::Request& request)
+std::vector<Step> ActsOf(const commandline::Request& request)
 {
-    std::vector<Act> acts;
-    for (const auto& [option, value] : request.InOrder())
+    std::vector<Step> acts;
+    for (const auto& [word, value] : request.InOrder())
     {
-        if (option == "--script")
-            std::ranges::move(ActsOfScript(value), std::back_inserter(acts));
-        else if (const ActForm* form = FormOf(option.substr(2)))
-            acts.push_back(ActOf(*form, value));
+        const auto option =
+            std::ranges::find_if(ActOptions(), [&](const commandline::OptionForm& one) { return word == one.word; });
+        if (word == scriptOption)
+            std::ranges::move(ReadScript(value, ReadUtf8File(value), script::Player::OfDescriptions),
+                              std::back_inserter(acts));
+        else if (option != ActOptions().end())
+            acts.push_back(ActOf(*option, value));
     }
     return acts;
-}
-
-const std::vector<std::string>& ActWords()
-{
-    static const std::vector<std::string> words = []
-    {
-        std::vector<std::string> made;
-        for (const ActForm& form : forms)
-            made.emplace_back(form.word);
-        return made;
-    }();
-    return words;
-}
-
-std::optional<Act> ReadAct(const std::string& word, LineReader& line)
-{
-    const ActForm* form = FormOf(word);
-    if (form == nullptr)
-        return {};
-    Act act{form->kind};
-    act.place = line.PlaceOfWord();
-    if (form->shape != Shape::Alone)
-        act.name = AnsiOf(line.Word("the name of a control"));
-    if (form->shape == Shape::NameAndValue)
-    {
-        line.Expect('=', std::string("write: ") + word + " NAME = VALUE");
-        act.value = AnsiOf(line.Text());
-    }
-    line.ExpectEnd();
-    return act;
 }
 
 } // namespace lytdlg

@@ -11,15 +11,17 @@
 namespace lytdlg
 {
 
+using commandline::AsAnsi;
 using commandline::Quoted;
 using commandline::ToUtf8;
+using script::LineReader;
 namespace fs = std::filesystem;
 
 namespace
 {
 
 const std::vector<std::string> headerWords = {"case", "dialog", "input", "define", "language", "init", "items"};
-const std::vector<std::string> stateWords = {"enabled", "disabled", "shown", "hidden"};
+const std::vector<std::string> stateWords = {"enabled", "disabled", "shown", "visible", "hidden"};
 const std::vector<std::string> endingWords = {"confirmed", "cancelled", "refused", "open"};
 
 bool Has(const std::vector<std::string>& words, const std::string& word)
@@ -45,8 +47,8 @@ public:
             BeginCase(line);
         else if (word == "expect")
             AddExpectation(line);
-        else if (std::optional<Act> act = ReadAct(word, line))
-            Steps().push_back({line.Place().line, true, *std::move(act), {}});
+        else if (const script::StepForm* form = FindForm(word, script::Player::OfDescriptions))
+            Steps().push_back({line.Number(), true, ReadStep(*form, line, script::Player::OfDescriptions), {}});
         else
             ReadHeader(word, line);
     }
@@ -58,7 +60,7 @@ public:
         for (const GoldenCase& one : m_cases)
         {
             if (one.setup.dialog.empty())
-                throw FileError({m_file, one.line}, 1, "the case names no dialog; write dialog: FILE.dlg");
+                LineReader(m_file, one.line, "").Fail("the case names no dialog; write dialog: FILE.dlg");
         }
         return std::move(m_cases);
     }
@@ -69,7 +71,7 @@ private:
         line.Expect(':', "write: case: what it shows");
         GoldenCase begun = m_common;
         begun.name = line.Text();
-        begun.line = line.Place().line;
+        begun.line = line.Number();
         m_cases.push_back(std::move(begun));
     }
 
@@ -88,7 +90,7 @@ private:
         Setup& setup = Current().setup;
         if (word == "items")
         {
-            const std::string control = AnsiOf(line.Word("the name of a list"));
+            const std::string control = AsAnsi(line.Word("the name of a list"));
             line.Expect('=', "write: items LIST = FILE");
             setup.items.push_back({control, Resolved(line.Text())});
             return;
@@ -100,11 +102,11 @@ private:
         if (word == "dialog")
             setup.dialog = Resolved(text);
         else if (word == "input")
-            setup.input = AnsiOf(text);
+            setup.input = AsAnsi(text);
         else if (word == "define")
-            setup.defines.push_back(AnsiOf(text));
+            setup.defines.push_back(AsAnsi(text));
         else if (word == "language")
-            setup.language = AnsiOf(text);
+            setup.language = AsAnsi(text);
         else
             setup.initFolder = Resolved(text);
     }
@@ -113,11 +115,11 @@ private:
     {
         std::vector<std::string> known = headerWords;
         known.emplace_back("expect");
-        std::ranges::copy(ActWords(), std::back_inserter(known));
+        std::ranges::copy(script::ActWords(), std::back_inserter(known));
         line.FailAt(column, "there is no word \"" + word + "\"; " + commandline::Suggestion(word, known));
     }
 
-    void AddExpectation(LineReader& line) { Steps().push_back({line.Place().line, false, {}, ReadExpectation(line)}); }
+    void AddExpectation(LineReader& line) { Steps().push_back({line.Number(), false, {}, ReadExpectation(line)}); }
 
     static Expectation ReadExpectation(LineReader& line)
     {
@@ -133,7 +135,7 @@ private:
         }
         if (line.IsAtEnd() || word == "not")
             return ReadEnding(word, line);
-        Expectation expectation{ExpectationKind::Value, AnsiOf(word), "", line.PlaceOfWord()};
+        Expectation expectation{ExpectationKind::Value, AsAnsi(word), "", line.Place()};
         ReadOfControl(line, expectation);
         return expectation;
     }
@@ -190,7 +192,7 @@ std::vector<GoldenCase> ReadCases(const std::string& file, const std::vector<std
     CaseReader reader(file);
     int number = 0;
     for (const std::string& line : lines)
-        reader.Read(LineReader({file, ++number}, line));
+        reader.Read(LineReader(file, ++number, line));
     return reader.TakeCases();
 }
 

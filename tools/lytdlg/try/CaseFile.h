@@ -14,8 +14,8 @@
 // What stands before the first `case:` goes for all cases of the file; a file without one is a single case.
 #pragma once
 
-#include "lytdlg/try/Act.h"
 #include "lytdlg/try/TrialEnvironment.h"
+#include "script/Script.h"
 
 namespace lytdlg
 {
@@ -45,7 +45,7 @@ struct CaseStep
 {
     int line = 0;
     bool isAct = false;
-    Act act = {};
+    script::Step act = {};
     Expectation expectation = {};
 };
 
@@ -58,7 +58,7 @@ struct GoldenCase
     std::vector<CaseStep> steps;
 };
 
-// Raises FileError, with place and way out, at the first mistake.
+// Raises script::FileError, with place and way out, at the first mistake.
 std::vector<GoldenCase> ReadCases(const std::string& file, const std::vector<std::string>& lines);
 
 // An expectation as a line of a file has it.

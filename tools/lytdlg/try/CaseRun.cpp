@@ -26,8 +26,8 @@ std::string ItemsOf(const ControlState& state)
 
 std::string StateOf(const ControlState& state, const std::string& expected)
 {
-    if (expected == "shown" || expected == "hidden")
-        return state.isShown ? "shown" : "hidden";
+    if (expected == "shown" || expected == "visible" || expected == "hidden")
+        return !state.isShown ? "hidden" : expected == "visible" ? expected : "shown";
     return state.isEnabled ? "enabled" : "disabled";
 }
 

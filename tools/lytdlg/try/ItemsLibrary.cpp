@@ -2,7 +2,6 @@
 
 #include "controls/ClytEditControl.h"
 #include "lytdlg/text/Words.h"
-#include "lytdlg/try/LineReader.h"
 
 #include "lyt64.h"
 #include "lytdata.h"
@@ -110,9 +109,9 @@ LibraryItem ItemOf(const std::string& line)
 ItemsFile::ItemsFile(const std::string& name)
 {
     std::vector<LibraryItem>* section = &m_others;
-    for (const std::string& text : LinesOf(ReadUtf8File(name)))
+    for (const std::string& text : commandline::LinesOf(ReadUtf8File(name)))
     {
-        const std::string line = AnsiOf(Trimmed(text));
+        const std::string line = commandline::AsAnsi(Trimmed(text));
         if (line.empty() || line.front() == '#')
             continue;
         if (line.ends_with("->"))

@@ -36,7 +36,7 @@ void PrintFills(const Recorder& recorder)
 ExitCode Scan(const Request& request)
 {
     Setup setup = SetupOf(request);
-    const std::string part = AnsiOf(request.Text("--part", lytParentName));
+    const std::string part = commandline::AsAnsi(request.Text("--part", lytParentName));
     const std::string text = setup.input;
     // Any other part works on a dialog that is open.
     const bool isParent = part == lytParentName;
@@ -76,7 +76,7 @@ int PrintComposed(const Recorder& recorder, const std::string& group, const std:
 
 ExitCode Compose(const Request& request)
 {
-    const std::string group = AnsiOf(request.Text("--group", lytParentName));
+    const std::string group = commandline::AsAnsi(request.Text("--group", lytParentName));
     TrialRun run(SetupOf(request), request.Has("--trace"));
     CString text;
     const auto compose = [&](TrialDialog& dialog)
@@ -122,13 +122,13 @@ ExitCode Roundtrip(const Request& request)
     int number = 0;
     int count = 0;
     int differences = 0;
-    for (const std::string& line : LinesOf(ReadUtf8File(request.Text("--inputs", ""))))
+    for (const std::string& line : commandline::LinesOf(ReadUtf8File(request.Text("--inputs", ""))))
     {
         ++number;
         if (line.empty() || line.front() == '#')
             continue;
         ++count;
-        setup.input = AnsiOf(line);
+        setup.input = commandline::AsAnsi(line);
         const std::string difference = RoundOf(setup, setup.input);
         if (difference.empty())
             continue;

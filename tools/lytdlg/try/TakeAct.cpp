@@ -6,9 +6,9 @@
 #include "lytdlg/try/ControlState.h"
 #include "lytdlg/try/Trial.h"
 #include "robot/WindowRobot.h"
+#include "script/Controls.h"
 
 #include <algorithm>
-#include <array>
 
 namespace lytdlg
 {
@@ -16,6 +16,7 @@ namespace lytdlg
 using commandline::Quoted;
 using commandline::ToUtf8;
 using commandline::UsageError;
+using script::Step;
 
 namespace
 {
@@ -32,17 +33,17 @@ namespace
                      commandline::Suggestion(ToUtf8(name), names));
 }
 
-[[noreturn]] void FailWrongType(const TrialDialog& dialog, ClytControl& control, const Act& act, const char* wanted)
+[[noreturn]] void FailWrongType(const TrialDialog& dialog, ClytControl& control, const Step& act, const char* wanted)
 {
-    throw UsageError(act.place + ToUtf8(act.name) + " is a " + dialog.TypeOf(control) + " and not " + wanted);
+    throw UsageError(act.place + act.target.Written() + " is a " + dialog.TypeOf(control) + " and not " + wanted);
 }
 
-void CheckReach(ClytControl& control, const Act& act)
+void CheckReach(ClytControl& control, const Step& act)
 {
     const bool isEnabled = IsSeenEnabled(control);
     if (isEnabled && IsSeen(control))
         return;
-    throw ActError(act.place + ToUtf8(act.name) + (isEnabled ? " is hidden" : " is disabled") +
+    throw ActError(act.place + act.target.Written() + (isEnabled ? " is hidden" : " is disabled") +
                    ", so no user can reach it; `lytdlg why` tells the reason");
 }
 
@@ -57,27 +58,27 @@ std::vector<std::string> OfferedBy(const TrialDialog& dialog, ClytControl& contr
     return values;
 }
 
-[[noreturn]] void FailNotOffered(const TrialDialog& dialog, ClytControl& control, const Act& act)
+[[noreturn]] void FailNotOffered(const TrialDialog& dialog, ClytControl& control, const Step& act)
 {
     std::string values;
     for (const std::string& value : OfferedBy(dialog, control))
         values += (values.empty() ? "; use one of: " : ", ") + Quoted(ToUtf8(value));
-    throw UsageError(act.place + ToUtf8(act.name) + " does not offer " + Quoted(ToUtf8(act.value)) +
+    throw UsageError(act.place + act.target.Written() + " does not offer " + Quoted(act.Argument()) +
                      (values.empty() ? "; it offers nothing" : values));
 }
 
-[[noreturn]] void FailNotFocused(const TrialDialog& dialog, const Act& act)
+[[noreturn]] void FailNotFocused(const TrialDialog& dialog, const Step& act)
 {
     const ClytControl* focused = FocusedControl(dialog);
     const std::string name = focused != nullptr ? ToUtf8(dialog.NameOf(*focused)) : "";
     const std::string other = focused == nullptr ? "nothing" : name.empty() ? "a control without a name" : name;
-    throw ActError(act.place + ToUtf8(act.name) + " does not get the focus: " + other +
+    throw ActError(act.place + act.target.Written() + " does not get the focus: " + other +
                    " has it, where the keys would land; --trace shows the rules that run on the way");
 }
 
-void EnterValue(const TrialDialog& dialog, ClytControl& control, const Act& act)
+void EnterValue(const TrialDialog& dialog, ClytControl& control, const Step& act)
 {
-    const Entered entered = EnterAsUser(control, act.value.c_str());
+    const Entered entered = EnterAsUser(control, commandline::ToAnsi(act.Argument()).c_str());
     if (entered == Entered::NotFocused)
         FailNotFocused(dialog, act);
     if (entered != Entered::Done)
@@ -85,19 +86,19 @@ void EnterValue(const TrialDialog& dialog, ClytControl& control, const Act& act)
 }
 
 // A box has two values. Entering one that it does not have turns it over, so it is turned back.
-void SetCheckBox(const TrialDialog& dialog, ClytControl& control, const Act& act)
+void SetCheckBox(const TrialDialog& dialog, ClytControl& control, const Step& act)
 {
     const CString before = control.GetValue();
     EnterValue(dialog, control, act);
     const CString after = control.GetValue();
-    if (after == act.value.c_str())
+    if (after == commandline::ToAnsi(act.Argument()).c_str())
         return;
     EnterAsUser(control, before);
-    throw UsageError(act.place + ToUtf8(act.name) + " does not offer " + Quoted(ToUtf8(act.value)) +
+    throw UsageError(act.place + act.target.Written() + " does not offer " + Quoted(act.Argument()) +
                      "; use one of: " + Quoted(ToUtf8(before.GetString())) + ", " + Quoted(ToUtf8(after.GetString())));
 }
 
-void Set(const TrialDialog& dialog, ClytControl& control, const Act& act)
+void Set(const TrialDialog& dialog, ClytControl& control, const Step& act)
 {
     const std::string& type = dialog.TypeOf(control);
     if (!HasItems(type) && !HasValue(type))
@@ -109,7 +110,7 @@ void Set(const TrialDialog& dialog, ClytControl& control, const Act& act)
         EnterValue(dialog, control, act);
 }
 
-void Press(const TrialDialog& dialog, ClytControl& control, const Act& act)
+void Press(const TrialDialog& dialog, ClytControl& control, const Step& act)
 {
     const std::string& type = dialog.TypeOf(control);
     if (type != "PushButton" && type != "OKButton" && type != "CancelButton")
@@ -118,7 +119,7 @@ void Press(const TrialDialog& dialog, ClytControl& control, const Act& act)
     robot::Press(dynamic_cast<const CWnd&>(control).m_hWnd);
 }
 
-void DoubleClick(const TrialDialog& dialog, ClytControl& control, const Act& act)
+void DoubleClick(const TrialDialog& dialog, ClytControl& control, const Step& act)
 {
     const auto* list = dynamic_cast<const CListBox*>(&control);
     if (list == nullptr)
@@ -126,11 +127,11 @@ void DoubleClick(const TrialDialog& dialog, ClytControl& control, const Act& act
     CheckReach(control, act);
     CRect place;
     if (list->GetCurSel() == LB_ERR || list->GetItemRect(list->GetCurSel(), &place) == LB_ERR)
-        throw ActError(act.place + "nothing is chosen in " + ToUtf8(act.name) + "; set it first");
+        throw ActError(act.place + "nothing is chosen in " + act.target.Written() + "; set it first");
     robot::DoubleClickAt(list->m_hWnd, (place.left + place.right) / 2, (place.top + place.bottom) / 2);
 }
 
-void SetMark(const TrialDialog& dialog, ClytControl& control, const Act& act)
+void SetMark(const TrialDialog& dialog, ClytControl& control, const Step& act)
 {
     const auto* list = dynamic_cast<const CCheckListBox*>(&control);
     if (list == nullptr)
@@ -138,32 +139,61 @@ void SetMark(const TrialDialog& dialog, ClytControl& control, const Act& act)
     CheckReach(control, act);
     EnterValue(dialog, control, act);
     const bool isMarked = list->GetCheck(list->GetCurSel()) == BST_CHECKED;
-    if (isMarked != (act.kind == ActKind::Mark))
+    if (isMarked != (act.word == "mark"))
         list->SendMessage(WM_KEYDOWN, VK_SPACE);
 }
 
+// What the description makes of an act: of values, which a window does not show, and of types.
 struct Taker
 {
-    ActKind kind;
-    void (*take)(const TrialDialog& dialog, ClytControl& control, const Act& act);
+    std::string_view word;
+    void (*take)(const TrialDialog& dialog, ClytControl& control, const Step& act);
 };
 
 constexpr Taker takers[] = {
-    {ActKind::Set, Set},      {ActKind::Press, Press},    {ActKind::DoubleClick, DoubleClick},
-    {ActKind::Mark, SetMark}, {ActKind::Unmark, SetMark},
+    {"set", Set}, {"press", Press}, {"doubleclick", DoubleClick}, {"mark", SetMark}, {"unmark", SetMark},
 };
 
-// By its button, or without one by what Return and Escape send.
-void End(int id)
+HWND WindowOf(ClytControl& control)
 {
-    HWND window = robot::ActiveDialog();
-    if (HWND button = GetDlgItem(window, id))
-        robot::Press(button);
-    else
-        PostMessageA(window, WM_COMMAND, static_cast<WPARAM>(id), 0);
+    const auto* window = dynamic_cast<const CWnd*>(&control);
+    return window != nullptr ? window->m_hWnd : nullptr;
+}
+
+ClytControl& ControlOf(const TrialDialog& dialog, const Step& act)
+{
+    ClytControl* control = TargetOf(dialog, act);
+    if (control == nullptr)
+        FailUnknown(LookAt(dialog), commandline::ToAnsi(act.target.Written()), act.place);
+    return *control;
+}
+
+// Any other act is that of a user who sees the window alone.
+void TakeStep(const TrialDialog* dialog, const Step& act)
+{
+    script::Stage stage;
+    if (dialog != nullptr && FormOf(act).shape[0] == 'c')
+        stage.named = [window = WindowOf(ControlOf(*dialog, act))](const std::string& /*name*/) { return window; };
+    if (!FormOf(act).ready(stage, act))
+        throw ActError(act.place + ReasonOf(stage, act));
+    FormOf(act).act(stage, act);
 }
 
 } // namespace
+
+ClytControl* TargetOf(const TrialDialog& dialog, const Step& act)
+{
+    if (ClytControl* named = dialog.FindControl(commandline::ToAnsi(act.target.Written()).c_str()))
+        return named;
+    HWND window = script::FindControl(dialog.m_hWnd, act.target);
+    for (POSITION place = dialog.GetControlList().GetHeadPosition(); window != nullptr && place != nullptr;)
+    {
+        ClytControl* control = dialog.GetControlList().GetNext(place);
+        if (WindowOf(*control) == window)
+            return control;
+    }
+    return nullptr;
+}
 
 ClytControl& ControlNamed(const TrialDialog& dialog, const std::string& name, const std::string& place)
 {
@@ -181,18 +211,16 @@ const ControlState& StateNamed(const DialogState& dialog, const std::string& nam
     return *state;
 }
 
-void TakeAct(TrialDialog* dialog, const Act& act)
+void TakeAct(TrialDialog* dialog, const Step& act)
 {
-    if (act.kind == ActKind::Ok || act.kind == ActKind::Cancel)
-    {
-        End(act.kind == ActKind::Ok ? IDOK : IDCANCEL);
-        return;
-    }
-    if (dialog == nullptr)
+    if (dialog == nullptr && act.word != "ok" && act.word != "cancel")
         throw ActError(act.place + "the window " + Quoted(ToUtf8(robot::TextOf(robot::ActiveDialog()))) +
                        " is no described dialog; end it with ok or cancel first");
-    ClytControl& control = ControlNamed(*dialog, act.name, act.place);
-    std::ranges::find(takers, act.kind, &Taker::kind)->take(*dialog, control, act);
+    const auto* taker = std::ranges::find(takers, act.word, &Taker::word);
+    if (taker != std::end(takers))
+        taker->take(*dialog, ControlOf(*dialog, act), act);
+    else
+        TakeStep(dialog, act);
 }
 
 } // namespace lytdlg

@@ -63,7 +63,7 @@ void Update(const std::string& file, const std::string& content, const CaseUpdat
 {
     const char* lineEnd = content.find("\r\n") != std::string::npos ? "\r\n" : "\n";
     std::string text;
-    for (const std::string& line : Updated(LinesOf(content), update))
+    for (const std::string& line : Updated(commandline::LinesOf(content), update))
         text += line + lineEnd;
     WriteWholeFile(PathOf(file), text);
     PrintLine(file + ": brought up to date");
@@ -82,7 +82,7 @@ void TestFile(const std::string& file, bool isUpdate, Count& count)
 {
     const std::string content = ReadUtf8File(file);
     CaseUpdate all;
-    for (const GoldenCase& one : ReadCases(file, LinesOf(content)))
+    for (const GoldenCase& one : ReadCases(file, commandline::LinesOf(content)))
     {
         CaseResult result = RunCase(one);
         ++PlaceFor(result, isUpdate, count);
@@ -106,7 +106,7 @@ ExitCode Test(const Request& request)
             {
                 TestFile(file, request.Has("--update"), count);
             }
-            catch (const FileError& error)
+            catch (const script::FileError& error)
             {
                 PrintLine(error.what());
                 ++count.notUnderstood;

@@ -33,12 +33,12 @@ std::string NameOf(const TrialDialog& dialog)
     return commandline::ToUtf8(file.substr(file.find_last_of("\\/") + 1));
 }
 
-// Also by its name in the layout.
-bool IsOk(const TrialDialog& dialog, const Act& act)
+// Also by its button.
+bool IsOk(const TrialDialog& dialog, const script::Step& act)
 {
-    if (act.kind != ActKind::Press)
-        return act.kind == ActKind::Ok;
-    const ClytControl* pressed = dialog.FindControl(act.name.c_str());
+    if (act.word != "press")
+        return act.word == "ok";
+    const ClytControl* pressed = TargetOf(dialog, act);
     return pressed != nullptr && dialog.TypeOf(*pressed) == "OKButton";
 }
 
@@ -215,14 +215,14 @@ const DialogState& Trial::State()
     return m_outcome.states.back();
 }
 
-void Trial::Do(const Act& act)
+void Trial::Do(const script::Step& act)
 {
     if (m_open.empty() && m_outcome.ending == Ending::NotOpened)
         return;
     if (m_open.empty())
         throw ActError(act.place + "the dialog is closed; take what follows away, or do it before");
     // What is about to be closed is seen for the last time.
-    if (act.kind != ActKind::Set)
+    if (act.word != "set")
         LookAtAll();
     TrialDialog* top = Top();
     m_hasPressedOk = top == m_open.front() && IsOk(*top, act);

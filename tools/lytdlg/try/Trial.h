@@ -56,7 +56,7 @@ public:
     const Outcome& Run(std::deque<Step> steps);
 
     // For steps, and afterwards.
-    void Do(const Act& act);
+    void Do(const script::Step& act);
     EventLog& Events() { return m_events; }
     const Outcome& Result() const { return m_outcome; }
     // How the outermost dialog stands or has ended.
@@ -77,7 +77,7 @@ private:
     void Answer(HWND box);
     void LeaveAll();
     void LookAtAll();
-    void DoOn(TrialDialog& dialog, const Act& act);
+    void DoOn(TrialDialog& dialog, const script::Step& act);
 
     TrialEnvironment m_surroundings;
     CString m_input;

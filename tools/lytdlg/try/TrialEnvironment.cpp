@@ -6,7 +6,8 @@
 #include "environment/ProcessState.h"
 #include "lytdlg/text/LanguageFiles.h"
 #include "lytdlg/text/Paths.h"
-#include "lytdlg/try/LineReader.h"
+#include "lytdlg/text/TextFile.h"
+#include "script/LineReader.h"
 #include "tree/ClytNode.h"
 
 #include <windows.h>
@@ -60,20 +61,28 @@ ItemsOption ItemsOptionOf(const std::string& text)
     const size_t sign = text.find('=');
     if (sign == std::string::npos || sign == 0)
         throw UsageError("option --items needs LIST=FILE after it and not \"" + text + "\"");
-    return {AnsiOf(text.substr(0, sign)), text.substr(sign + 1)};
+    return {commandline::AsAnsi(text.substr(0, sign)), text.substr(sign + 1)};
 }
 
 Setup SetupOf(const commandline::Request& request)
 {
     Setup setup{request.Operand(0, "")};
-    setup.input = AnsiOf(request.Text("--input", ""));
-    setup.language = AnsiOf(request.Text("--language", ""));
+    setup.input = commandline::AsAnsi(request.Text("--input", ""));
+    setup.language = commandline::AsAnsi(request.Text("--language", ""));
     setup.initFolder = request.Text("--init", "");
     for (const std::string& define : request.Texts("--define"))
-        setup.defines.push_back(AnsiOf(define));
+        setup.defines.push_back(commandline::AsAnsi(define));
     for (const std::string& items : request.Texts("--items"))
         setup.items.push_back(ItemsOptionOf(items));
     return setup;
+}
+
+std::string ReadUtf8File(const std::string& name)
+{
+    std::optional<std::string> content = ReadWholeFile(PathOf(name));
+    if (!content)
+        throw UsageError("there is no file \"" + name + "\"; check folder and name");
+    return script::ScriptText(*std::move(content));
 }
 
 TrialEnvironment::TrialEnvironment(const Setup& setup)

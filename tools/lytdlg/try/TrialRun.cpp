@@ -29,10 +29,10 @@ void LookAtTop(const Trial& running, const TrialRun::Look& look)
 
 } // namespace
 
-const Outcome& TrialRun::Run(const std::vector<Act>& acts, const Look& look)
+const Outcome& TrialRun::Run(const std::vector<script::Step>& acts, const Look& look)
 {
     std::deque<Trial::Step> steps;
-    for (const Act& act : acts)
+    for (const script::Step& act : acts)
     {
         steps.emplace_back(
             [act, this](Trial& running)

@@ -19,7 +19,7 @@ struct TrialRun
     // The acts, and then a look at the dialog on top; there is none when the dialog was not opened. Raises ActError when
     // the acts leave no described dialog on top.
     using Look = std::function<void(TrialDialog& dialog)>;
-    const Outcome& Run(const std::vector<Act>& acts, const Look& look = {});
+    const Outcome& Run(const std::vector<script::Step>& acts, const Look& look = {});
     // Prints messages, nested dialogs and trace in their order.
     void PrintEvents() const;
     // Prints why the dialog was not opened, and gives the exit code for it.

@@ -16,7 +16,7 @@ ExitCode Why(const Request& request)
     TrialRun run(SetupOf(request), false);
     std::vector<std::string> lines;
     const auto explain = [&](const TrialDialog& dialog)
-    { lines = Explain(dialog, ControlNamed(dialog, AnsiOf(request.Operand(1, ""))), run.recorder); };
+    { lines = Explain(dialog, ControlNamed(dialog, commandline::AsAnsi(request.Operand(1, ""))), run.recorder); };
     if (run.Run(ActsOf(request), explain).ending == Ending::NotOpened)
         return static_cast<ExitCode>(run.PrintFailure());
     run.PrintEvents();

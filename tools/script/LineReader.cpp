@@ -1,13 +1,11 @@
-#include "lytdlg/try/LineReader.h"
+#include "script/LineReader.h"
 
 #include "commandline/Text.h"
-#include "lytdlg/text/LanguageFiles.h"
-#include "lytdlg/text/Paths.h"
-#include "lytdlg/text/TextFile.h"
 
 #include <algorithm>
+#include <cctype>
 
-namespace lytdlg
+namespace script
 {
 
 namespace
@@ -15,58 +13,26 @@ namespace
 
 constexpr const char* blanks = " \t\r";
 
-bool IsUtf8(const std::string& text)
-{
-    for (size_t place = 0; place < text.size();)
-    {
-        const size_t length = commandline::LengthOfCharacter(text, place);
-        if (length == 0)
-            return false;
-        place += length;
-    }
-    return true;
-}
-
 } // namespace
 
-FileError::FileError(const LinePlace& place, size_t column, const std::string& message)
-    : UsageError(place.file + ":" + std::to_string(place.line) + ":" + std::to_string(column) + ": error: " + message)
+std::string ScriptText(std::string content)
 {
-}
-
-std::string ReadUtf8File(const std::string& name)
-{
-    const std::optional<std::string> content = ReadWholeFile(PathOf(name));
-    if (!content)
-        throw commandline::UsageError("there is no file \"" + name + "\"; check folder and name");
-    std::string text = *content;
-    if (text.starts_with(byteOrderMark))
-        text.erase(0, 3);
-    return IsUtf8(text) ? text : commandline::ToUtf8(text);
-}
-
-std::vector<std::string> LinesOf(const std::string& text)
-{
-    std::vector<std::string> lines;
-    for (size_t start = 0; start < text.size();)
-    {
-        const size_t end = std::min(text.find('\n', start), text.size());
-        const size_t length = end - start;
-        lines.push_back(text.substr(start, length > 0 && text[end - 1] == '\r' ? length - 1 : length));
-        start = end + 1;
-    }
-    return lines;
-}
-
-std::string AnsiOf(const std::string& text)
-{
-    return IsUtf8(text) ? commandline::ToAnsi(text) : text;
+    if (content.starts_with("\xEF\xBB\xBF"))
+        content.erase(0, 3);
+    return commandline::AsUtf8(content);
 }
 
 bool LineReader::IsAtEnd()
 {
     SkipBlanks();
     return m_next == m_text.size() || m_text[m_next] == '#';
+}
+
+bool LineReader::IsAtEndOrControl()
+{
+    const bool isNumber =
+        IsAtEnd() && m_next + 1 < m_text.size() && std::isdigit(static_cast<unsigned char>(m_text[m_next + 1])) != 0;
+    return IsAtEnd() && !isNumber;
 }
 
 bool LineReader::Takes(char ch)
@@ -94,6 +60,14 @@ std::string LineReader::Word(const std::string& what)
     m_next = std::min(m_text.find_first_of(" \t\r=:,", m_next), m_text.size());
     if (m_next == m_start)
         Fail("'" + m_text.substr(m_start, 1) + "' stands where " + what + " should be; take it away");
+    return m_text.substr(m_start, m_next - m_start);
+}
+
+std::string LineReader::PlainWord()
+{
+    SkipBlanks();
+    m_start = m_next;
+    m_next = std::min(m_text.find_first_of(blanks, m_next), m_text.size());
     return m_text.substr(m_start, m_next - m_start);
 }
 
@@ -132,14 +106,20 @@ void LineReader::ExpectEnd()
                                "comment after a '#'");
 }
 
-void LineReader::Fail(const std::string& message) const
+size_t LineReader::NextColumn()
 {
-    FailAt(Column(), message);
+    SkipBlanks();
+    return m_next + 1;
 }
 
 void LineReader::FailAt(size_t column, const std::string& message) const
 {
-    throw FileError(m_place, column, message);
+    throw FileError(PlaceAt(column) + message);
+}
+
+std::string LineReader::PlaceAt(size_t column) const
+{
+    return m_file + ":" + std::to_string(m_number) + ":" + std::to_string(column) + ": error: ";
 }
 
 void LineReader::SkipBlanks()
@@ -156,4 +136,4 @@ std::string LineReader::Quoted()
     return std::move(*text);
 }
 
-} // namespace lytdlg
+} // namespace script

@@ -1,14 +1,13 @@
-#include "lytcall/Controls.h"
+#include "script/Controls.h"
 
 #include "commandline/Text.h"
-#include "lytcall/TreeItems.h"
 
 #include "robot/WindowRobot.h"
 
 #include <algorithm>
 #include <functional>
 
-namespace lytcall
+namespace script
 {
 
 using commandline::Quoted;
@@ -101,6 +100,56 @@ bool IsCheckList(HWND control)
     return TypeOf(control) == "list" && (GetWindowLongA(control, GWL_STYLE) & LBS_OWNERDRAWFIXED) != 0;
 }
 
+// ---- Trees
+
+HTREEITEM Next(HWND tree, UINT relation, HTREEITEM item)
+{
+    return reinterpret_cast<HTREEITEM>(SendMessageA(tree, TVM_GETNEXTITEM, relation, reinterpret_cast<LPARAM>(item)));
+}
+
+std::string LabelOf(HWND tree, HTREEITEM item)
+{
+    char label[512] = "";
+    TVITEMA record = {};
+    record.mask = TVIF_TEXT;
+    record.hItem = item;
+    record.pszText = label;
+    record.cchTextMax = sizeof label;
+    SendMessageA(tree, TVM_GETITEMA, 0, reinterpret_cast<LPARAM>(&record));
+    return label;
+}
+
+std::string TreeItemPath(HWND tree, HTREEITEM item)
+{
+    std::string path;
+    for (; item != nullptr; item = Next(tree, TVGN_PARENT, item))
+        path = LabelOf(tree, item) + (path.empty() ? "" : "/" + path);
+    return path;
+}
+
+std::vector<std::string> VisibleTreeItems(HWND tree)
+{
+    std::vector<std::string> items;
+    HTREEITEM item = Next(tree, TVGN_ROOT, nullptr);
+    for (; item != nullptr; item = Next(tree, TVGN_NEXTVISIBLE, item))
+    {
+        std::string indent;
+        for (HTREEITEM parent = Next(tree, TVGN_PARENT, item); parent != nullptr;
+             parent = Next(tree, TVGN_PARENT, parent))
+            indent += "  ";
+        items.push_back(indent + LabelOf(tree, item));
+    }
+    return items;
+}
+
+bool TreeItemPlace(HWND tree, HTREEITEM item, RECT& place)
+{
+    SendMessageA(tree, TVM_ENSUREVISIBLE, 0, reinterpret_cast<LPARAM>(item));
+    // The message takes the item's handle out of the rectangle that it fills.
+    *reinterpret_cast<HTREEITEM*>(&place) = item;
+    return SendMessageA(tree, TVM_GETITEMRECT, TRUE, reinterpret_cast<LPARAM>(&place)) != 0;
+}
+
 } // namespace
 
 std::string TypeOf(HWND control)
@@ -123,6 +172,27 @@ std::string TypeOf(HWND control)
     return windowClass;
 }
 
+HTREEITEM FindTreeItem(HWND tree, const std::string& path)
+{
+    // A label may hold a slash itself, so each label is compared with the beginning of what is left.
+    HTREEITEM item = Next(tree, TVGN_ROOT, nullptr);
+    std::string rest = path;
+    while (item != nullptr)
+    {
+        const std::string label = LabelOf(tree, item);
+        if (rest == label)
+            return item;
+        if (rest.starts_with(label + "/") && Next(tree, TVGN_CHILD, item) != nullptr)
+        {
+            rest.erase(0, label.size() + 1);
+            item = Next(tree, TVGN_CHILD, item);
+        }
+        else
+            item = Next(tree, TVGN_NEXT, item);
+    }
+    return nullptr;
+}
+
 HWND FindControl(HWND dialog, const Target& target)
 {
     switch (target.kind)
@@ -131,20 +201,14 @@ HWND FindControl(HWND dialog, const Target& target)
     case TargetKind::Number: return robot::ChildAt(dialog, target.number - 1);
     case TargetKind::Type: return FindByType(dialog, target.name, target.number);
     case TargetKind::Focus: return FocusedControl(dialog);
+    case TargetKind::Name: break;
     }
     return nullptr;
 }
 
 std::string NameOf(const Target& target)
 {
-    switch (target.kind)
-    {
-    case TargetKind::Caption: return Quoted(target.name);
-    case TargetKind::Number: return "#" + std::to_string(target.number);
-    case TargetKind::Type: return target.number == 1 ? target.name : target.name + std::to_string(target.number);
-    case TargetKind::Focus: break;
-    }
-    return "focus";
+    return target.kind == TargetKind::Caption ? Quoted(target.name) : target.Written();
 }
 
 std::string ReadControl(HWND control)
@@ -186,6 +250,7 @@ bool HasState(HWND control, const std::string& state)
         {"enabled", [](HWND window) { return IsWindowEnabled(window) != FALSE; }},
         {"disabled", [](HWND window) { return IsWindowEnabled(window) == FALSE; }},
         {"visible", [](HWND window) { return IsWindowVisible(window) != FALSE; }},
+        {"shown", [](HWND window) { return IsWindowVisible(window) != FALSE; }},
         {"hidden", [](HWND window) { return IsWindowVisible(window) == FALSE; }},
         {"checked", IsChecked},
         {"unchecked", [](HWND window) { return !IsChecked(window); }},
@@ -250,4 +315,4 @@ bool ItemPlace(HWND control, const std::string& item, RECT& place)
     return true;
 }
 
-} // namespace lytcall
+} // namespace script

@@ -1,14 +1,16 @@
 // The controls of a live window, as scripts name, read and work them.
 #pragma once
 
-#include "lytcall/Script.h"
+#include "script/Script.h"
 
 #include <windows.h>
+
+#include <commctrl.h>
 
 #include <string>
 #include <vector>
 
-namespace lytcall
+namespace script
 {
 
 // The word of a control's type ("edit", "list" ...), or its window class when scripts have no word for it.
@@ -25,6 +27,9 @@ bool HasState(HWND control, const std::string& state);
 // One line on each control of the window.
 std::vector<std::string> DescribeControls(HWND dialog);
 
+// The item of a tree that the labels on the way to it name, such as "Roof/Tiles/North side"; null for none.
+HTREEITEM FindTreeItem(HWND tree, const std::string& path);
+
 // The place of an item in client coordinates of its list or tree, scrolled into view; false when there is none.
 bool ItemPlace(HWND control, const std::string& item, RECT& place);
 // The index of a list's or combo box's item, or -1.
@@ -32,4 +37,4 @@ int ItemIndex(HWND list, const std::string& item);
 // True when the item of a check list bears its mark.
 bool IsItemChecked(HWND list, int index);
 
-} // namespace lytcall
+} // namespace script
