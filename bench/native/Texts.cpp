@@ -5,7 +5,7 @@
 #include "liveform/LiveForm.h"
 #include "support/DescriptionText.h"
 #include "support/TestFolder.h"
-#include "sysinfo/frame/Probes.h"
+#include "sysinfo/frame/Report.h"
 #include "sysinfo/frame/Report.h"
 
 #include <windows.h>
