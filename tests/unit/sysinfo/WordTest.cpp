@@ -16,8 +16,6 @@ namespace
 
 using namespace std::string_literals;
 
-constexpr unsigned registryText = 1;
-constexpr unsigned registryNumber = 4;
 const std::string unsupported = "Cannot open registry key unsupported version";
 
 // "key|name" of a value, "key|name|" of a subkey, "none" for a version without the directory.
@@ -71,20 +69,20 @@ TEST(EnabledLanguages, AreShownByTheTagOfTheirIdentifierBelowVersion16)
         RegistryValue value;
         const char* line;
     } cases[] = {
-        {15, {"1031", registryText, "On\0"s}, "de-de=On"},
-        {15, {"1033abc", registryText, "On"}, "en-us=On"},
-        {15, {"1027", registryText, "On"}, "1027=On"},
-        {15, {"", registryText, "On"}, "=On"},
-        {15, {"4294968329", registryText, "On"}, "4294968329=On"},
-        {15, {"PreviousInstallLanguage", registryText, "1031"}, "PreviousInstallLanguage=1031"},
-        {16, {"de-DE", registryText, ""}, "de-DE="},
-        {16, {"1031", registryText, "On"}, "1031=On"},
-        {16, {"de-de", registryNumber, "\x02\x00\x00\x00"s}, "de-de=2"},
-        {16, {"de-de", registryNumber, "\xFF\xFF\xFF\xFF"s}, "de-de=-1"},
-        {16, {"de-de", registryNumber, "\x02"s}, "de-de=2"},
-        {16, {"de-de", registryNumber, ""}, "de-de=0"},
+        {15, {"1031", 1, "On\0"s}, "de-de=On"},
+        {15, {"1033abc", 1, "On"}, "en-us=On"},
+        {15, {"1027", 1, "On"}, "1027=On"},
+        {15, {"", 1, "On"}, "=On"},
+        {15, {"4294968329", 1, "On"}, "4294968329=On"},
+        {15, {"PreviousInstallLanguage", 1, "1031"}, "PreviousInstallLanguage=1031"},
+        {16, {"de-DE", 1, ""}, "de-DE="},
+        {16, {"1031", 1, "On"}, "1031=On"},
+        {16, {"de-de", 4, "\x02\x00\x00\x00"s}, "de-de=2"},
+        {16, {"de-de", 4, "\xFF\xFF\xFF\xFF"s}, "de-de=-1"},
+        {16, {"de-de", 4, "\x02"s}, "de-de=2"},
+        {16, {"de-de", 4, ""}, "de-de=0"},
         {16, {"x", 3, "ab\0cd"s}, "x=ab"},
-        {16, {"x", registryText, "no end"}, "x=no end"},
+        {16, {"x", 1, "no end"}, "x=no end"},
     };
     for (const auto& c : cases)
         EXPECT_EQ(EnabledLanguageLine(c.n, c.value), c.line);
