@@ -6,7 +6,6 @@
 #include "support/DescriptionText.h"
 #include "support/TestFolder.h"
 #include "sysinfo/frame/Report.h"
-#include "sysinfo/frame/Report.h"
 
 #include <windows.h>
 
