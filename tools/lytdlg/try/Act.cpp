@@ -54,8 +54,7 @@ std::vector<Step> ActsOf(const commandline::Request& request)
     std::vector<Step> acts;
     for (const auto& [word, value] : request.InOrder())
     {
-        const auto option =
-            std::ranges::find_if(ActOptions(), [&](const commandline::OptionForm& one) { return word == one.word; });
+        const auto option = std::ranges::find(ActOptions(), word, &commandline::OptionForm::word);
         if (word == scriptOption)
             std::ranges::move(ReadScript(value, ReadUtf8File(value), script::Player::OfDescriptions),
                               std::back_inserter(acts));
