@@ -7,6 +7,7 @@
 
 #include "support/Cases.h"
 
+#include <array>
 #include <climits>
 #include <cstring>
 #include <vector>
@@ -50,14 +51,14 @@ public:
     {
         parents.push_back(NumberOf(parent));
         images += std::to_string(image);
-        return reinterpret_cast<HTREEITEM>(m_places + parents.size());
+        return reinterpret_cast<HTREEITEM>(m_places.data() + parents.size());
     }
     void ExpandItem(HTREEITEM item) override { expanded += std::to_string(NumberOf(item)); }
     HTREEITEM GetRootItem() const override { return nullptr; }
 
     int NumberOf(HTREEITEM item) const
     {
-        return item == nullptr ? 0 : static_cast<int>(reinterpret_cast<char*>(item) - m_places);
+        return item == nullptr ? 0 : static_cast<int>(reinterpret_cast<char*>(item) - m_places.data());
     }
 
     std::vector<int> parents;
@@ -65,7 +66,7 @@ public:
     std::string expanded;
 
 private:
-    char m_places[100] = {};
+    std::array<char, 1000> m_places{};
 };
 
 class Nodes : public testing::Test

@@ -245,7 +245,7 @@ bool CaseRun::TakeStep(const CaseLine& line, const std::string& word, const std:
         return false;
     if (m_stages.empty() || (m_stages.back().isFull && !isTogether))
         AddStage();
-    m_stages.back().acts.push_back(
+    m_stages.back().acts.emplace_back(
         [act, line, file = m_file]
         {
             const testing::ScopedTrace trace(file.c_str(), line.number, line.text);

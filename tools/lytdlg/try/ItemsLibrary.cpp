@@ -1,5 +1,6 @@
 #include "lytdlg/try/ItemsLibrary.h"
 
+#include "commandline/Text.h"
 #include "controls/ClytEditControl.h"
 #include "lytdlg/text/Words.h"
 

@@ -217,10 +217,10 @@ void TakeAct(TrialDialog* dialog, const Step& act)
         throw ActError(act.place + "the window " + Quoted(ToUtf8(robot::TextOf(robot::ActiveDialog()))) +
                        " is no described dialog; end it with ok or cancel first");
     const auto* taker = std::ranges::find(takers, act.word, &Taker::word);
-    if (taker != std::end(takers))
-        taker->take(*dialog, ControlOf(*dialog, act), act);
-    else
+    if (taker == std::end(takers))
         TakeStep(dialog, act);
+    else if (dialog != nullptr)
+        taker->take(*dialog, ControlOf(*dialog, act), act);
 }
 
 } // namespace lytdlg
