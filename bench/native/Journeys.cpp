@@ -51,9 +51,10 @@ class FormWithFinding : public LiveForm
 public:
     using LiveForm::LiveForm;
 
-    std::optional<CString> ShowNested(const CString& descriptionFile) override
+    std::optional<CString> ShowNested(const CString& description, const CString& input) override
     {
-        LiveForm finding(descriptionFile);
+        lytInputKey = input;
+        LiveForm finding(lytEnvironment.GetDescriptionFile(description));
         return Work(finding, {{"Typical", "rot"}, {"Place", "cellar stairs"}});
     }
 };

@@ -149,24 +149,23 @@ ClytPushButtonControl::After ClytPushButtonControl::OpenDialog()
 {
     lytSetCursor(IDC_WAIT);
     lytInputKey.Empty();
-    const CString file = lytEnvironment.GetDialogPath() + "\\" + Value(0) + ".dlg";
+    const CString description = Value(0) + ".dlg";
     const CString outputRule = action.GetValues().GetTail();
     CString input;
-    if (dialog->ComposeNamedOutput(outputRule, input) != 0)
-        lytInputKey = input;
+    dialog->ComposeNamedOutput(outputRule, input);
     // A description refuses to open its dialog by composing nothing.
-    if (!outputRule.IsEmpty() && lytInputKey.IsEmpty())
+    if (!outputRule.IsEmpty() && input.IsEmpty())
     {
         lytTellMissing(ClytMissing::NestedDialog, Value(0), this, action.GetSpan());
         return After::Nothing;
     }
 
-    const std::optional<CString> result = dialog->ShowNested(file);
+    const std::optional<CString> result = dialog->ShowNested(description, input);
     if (!result)
         return After::RunRules;
     lytInputKey = *result;
-    if (!lytInputKey.IsEmpty())
-        dialog->RunInput(Value(1), CString(lytInputKey));
+    if (!result->IsEmpty())
+        dialog->RunInput(Value(1), *result);
     return After::RunRules;
 }
 

@@ -199,12 +199,22 @@ void ClytDialog::OnOK()
     CDialog::OnOK();
 }
 
-std::optional<CString> ClytDialog::ShowNested(const CString& descriptionFile)
+std::optional<CString> ClytDialog::Show(const CString& description, const CString& input)
 {
-    ClytDialog nested(descriptionFile, lytEnvironment.GetDialogDefine());
-    if (nested.DoModal() != IDOK)
+    return ClytDialog(lytEnvironment.GetDescriptionFile(description), lytEnvironment.GetDialogDefine()).Ask(input);
+}
+
+std::optional<CString> ClytDialog::Ask(const CString& input)
+{
+    lytInputKey = input;
+    if (DoModal() != IDOK)
         return {};
-    return nested.GetResult();
+    return result;
+}
+
+std::optional<CString> ClytDialog::ShowNested(const CString& description, const CString& input)
+{
+    return Show(description, input);
 }
 
 // A quit message or a partner that ends the dialog cancels it past OnCancel.

@@ -14,6 +14,7 @@
 
 #include <afxwin.h>
 
+#include <optional>
 #include <utility>
 #include <vector>
 
@@ -38,6 +39,11 @@ public:
     ClytDialog(CString descriptionFile, const CString& defineList);
     ~ClytDialog() override;
 
+    // Shows the description of that name from the dialog folder over an input text. Its result, when the user confirmed
+    // it.
+    static std::optional<CString> Show(const CString& description, const CString& input);
+    // The same of a dialog that has been made. The input key is left as the dialog leaves it.
+    std::optional<CString> Ask(const CString& input);
     INT_PTR DoModal() override;
     CDialog& GetWindow() override { return *this; }
     CString GetTextSection() const override;
@@ -73,7 +79,7 @@ public:
     // Return and the OK button. The dialog stays open when a default-button rule has the key, when no output rule
     // holds, and when an evaluation refuses.
     void OnOK() override;
-    std::optional<CString> ShowNested(const CString& descriptionFile) override;
+    std::optional<CString> ShowNested(const CString& description, const CString& input) override;
 
 protected:
     BOOL OnInitDialog() override;

@@ -16,6 +16,8 @@ public:
     void SetDocName(CString name) { docName = std::move(name); }
     const CString& GetInitPath() const { return initPath; }
     const CString& GetDialogPath() const { return dialogPath; }
+    // The full name of a file in the dialog folder.
+    CString GetDescriptionFile(const CString& name) const { return dialogPath + "\\" + name; }
     const CString& GetDocName() const { return docName; }
 
     // The define list: texts joined by commas, handed to every description file that is read.

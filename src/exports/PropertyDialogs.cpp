@@ -23,24 +23,22 @@ enum Outcome
 constexpr int kindBegin = 5;
 constexpr int kindEnd = 8;
 
-CString DescriptionFile(const char* name)
+// The input key is empty afterwards, even if a dialog inside this one has left something in it.
+std::optional<CString> ShowOver(const char* description, const CString& key)
 {
-    return lytEnvironment.GetDialogPath() + "\\" + name;
+    std::optional<CString> result = ClytDialog::Show(description, key);
+    lytInputKey.Empty();
+    return result;
 }
 
-int EditPlaceholder(const char* description, const CString& key, char* result, int size)
+int EditPlaceholder(const char* description, const CString& key, char* buffer, int size)
 {
-    ClytDialog dialog(DescriptionFile(description), lytEnvironment.GetDialogDefine());
-    lytInputKey = key;
-    int outcome = nothing;
-    if (dialog.DoModal() == IDOK)
-    {
-        if (!dialog.GetResult().IsEmpty())
-            CopyTextMarkingEnd(result, size, dialog.GetResult());
-        outcome = TextIn(result, size) == key ? unchanged : changed;
-    }
-    lytInputKey.Empty();
-    return outcome;
+    const std::optional<CString> result = ShowOver(description, key);
+    if (!result)
+        return nothing;
+    if (!result->IsEmpty())
+        CopyTextMarkingEnd(buffer, size, *result);
+    return TextIn(buffer, size) == key ? unchanged : changed;
 }
 
 // One key of a group. The part before the bracket belongs to the document and is kept from the dialog.
@@ -116,17 +114,6 @@ Outcome GroupKey::HandOut(const CString& result, char* first, int firstSize, cha
     return changed;
 }
 
-Outcome EditGroup(const GroupKey& key, const char* description, char* first, int firstSize, char* second,
-                  int secondSize)
-{
-    ClytDialog dialog(DescriptionFile(description), lytEnvironment.GetDialogDefine());
-    if (!key.Input().IsEmpty())
-        lytInputKey = key.Input();
-    if (dialog.DoModal() != IDOK)
-        return nothing;
-    return key.HandOut(dialog.GetResult(), first, firstSize, second, secondSize);
-}
-
 } // namespace
 
 int __stdcall lytSymbolPropertyDialog(const char* key, char* result, int size)
@@ -147,8 +134,9 @@ int __stdcall lytGroupPropertyDialog(int kind, const char* key, char* first, int
     LYT_EXPORT_FRAME(nothing);
     if (!IsUsable(first, firstSize))
         return nothing;
-    const char* description = kind == 0 ? "lytCdGrp.dlg" : "lytRpGrp.dlg";
-    const Outcome outcome = EditGroup(GroupKey(kind, key), description, first, firstSize, second, secondSize);
-    lytInputKey.Empty();
-    return outcome;
+    const GroupKey groupKey(kind, key);
+    // A key that is empty leaves what an earlier dialog has left.
+    const std::optional<CString> result = ShowOver(kind == 0 ? "lytCdGrp.dlg" : "lytRpGrp.dlg",
+                                                   groupKey.Input().IsEmpty() ? lytInputKey : groupKey.Input());
+    return result ? groupKey.HandOut(*result, first, firstSize, second, secondSize) : nothing;
 }

@@ -1,7 +1,6 @@
 // The exports of the catalogue.
 #include "lyt64.h"
 
-#include "environment/ProcessState.h"
 #include "exports/ExportFrame.h"
 #include "tree/ClytChildCursor.h"
 #include "tree/ClytTreeDialog.h"
@@ -35,12 +34,10 @@ int __stdcall lytOpenTreeView(const char* request, char* target, int size)
     LYT_EXPORT_FRAME(0);
     if (!IsUsable(target, size))
         return 0;
-    lytTreeResult = 0;
-    ClytTreeDialog dialog(request);
-    if (dialog.DoModal() != IDOK)
+    const std::optional<CString> choice = lytBrowse(request);
+    if (!choice)
         return 0;
-    lytTreeResult = 1;
-    CopyTextMarkingEnd(target, size, dialog.GetResult());
+    CopyTextMarkingEnd(target, size, *choice);
     return 1;
 }
 

@@ -2,10 +2,10 @@
 #include "lyt64.h"
 
 #include "dialog/ClytDialog.h"
-#include "environment/ClytEnvironment.h"
 #include "environment/ProcessState.h"
 #include "exports/ExportFrame.h"
 #include "system/ModernControls.h"
+#include "tree/ClytTreeDialog.h"
 #include "tree/ClytWizardQueue.h"
 
 #include <afxcmn.h>
@@ -20,7 +20,23 @@ constexpr int moreToCome = 1;
 constexpr int symbolText = 2;
 constexpr int phraseText = 3;
 
-constexpr int choiceSize = 255;
+// A longer choice counts as none.
+constexpr int longestChoice = 254;
+
+// What is asked after a choice of that type.
+struct Step
+{
+    char type;
+    int inputBegin; // the number of `/` before what the dialog scans
+    const char* description;
+    int result;
+};
+
+constexpr Step steps[] = {
+    {'G', 1, "lytWzGrp.dlg", moreToCome},
+    {'H', 2, "lytWzPhr.dlg", phraseText},
+    {'S', 1, "lytWzSym.dlg", symbolText},
+};
 
 // What follows the first (the second, and so on) `/`; the whole text without one.
 CString After(const CString& text, int separators)
@@ -31,64 +47,30 @@ CString After(const CString& text, int separators)
     return text.Mid(start);
 }
 
-// Shows the dialog over the input text; true when it ended with OK.
-bool Ask(const char* file, const CString& input, CString& result)
+std::optional<CString> Browse()
 {
-    lytInputKey = input;
-    ClytDialog dialog(lytEnvironment.GetDialogPath() + "\\" + file, lytEnvironment.GetDialogDefine());
-    if (dialog.DoModal() != IDOK)
-        return false;
-    result = dialog.GetResult();
-    return true;
+    // The host has its focus back before the dialog opens.
+    const HostState host;
+    return lytBrowse("W");
 }
-
-int AskGroup(const CString& choice, CString& text)
-{
-    const CString input = After(choice, 1);
-    lytWizardGroup = input.Left(input.Find('/'));
-    CString result;
-    if (!Ask("lytWzGrp.dlg", input, result))
-        return nothingOrLast;
-    text = lytWizardQueue.Begin(result);
-    return moreToCome;
-}
-
-int AskPhrase(const CString& choice, CString& text)
-{
-    return Ask("lytWzPhr.dlg", After(choice, 2), text) ? phraseText : nothingOrLast;
-}
-
-int AskSymbol(const CString& choice, CString& text)
-{
-    return Ask("lytWzSym.dlg", After(choice, 1), text) ? symbolText : nothingOrLast;
-}
-
-struct Step
-{
-    char type;
-    int (*ask)(const CString& choice, CString& text);
-};
-
-constexpr Step steps[] = {
-    {'G', AskGroup},
-    {'H', AskPhrase},
-    {'S', AskSymbol},
-};
 
 int AskNext(char* buffer, int size)
 {
-    char choice[choiceSize + 1] = "";
-    if (lytOpenTreeView("W", choice, choiceSize) != 1)
+    const std::optional<CString> choice = Browse();
+    if (!choice || choice->GetLength() > longestChoice)
         return nothingOrLast;
-    const Step* step = std::ranges::find(steps, choice[0], &Step::type);
+    const Step* step = std::ranges::find(steps, (*choice)[0], &Step::type);
     if (step == std::end(steps))
         return nothingOrLast;
 
-    CString text;
-    const int result = step->ask(choice, text);
-    if (result != nothingOrLast)
-        CopyText(buffer, size, text);
-    return result;
+    const CString input = After(*choice, step->inputBegin);
+    if (step->result == moreToCome)
+        lytWizardGroup = input.Left(input.Find('/'));
+    const std::optional<CString> result = ClytDialog::Show(step->description, input);
+    if (!result)
+        return nothingOrLast;
+    CopyText(buffer, size, step->result == moreToCome ? lytWizardQueue.Begin(*result) : *result);
+    return step->result;
 }
 
 // The first call decides for the whole process which version of the common controls this library uses.

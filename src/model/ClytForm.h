@@ -45,8 +45,9 @@ public:
                         const CString& argument) = 0;
     // What Return and the OK button do.
     virtual void OnOK() = 0;
-    // Shows the dialog of a description over this one; its result, or nothing when it was not confirmed.
-    virtual std::optional<CString> ShowNested(const CString& descriptionFile) = 0;
+    // Shows the dialog of a description of the dialog folder over this one, with an input to scan. Its result, or nothing
+    // when it was not confirmed.
+    virtual std::optional<CString> ShowNested(const CString& description, const CString& input) = 0;
 
 protected:
     ~ClytForm() = default;

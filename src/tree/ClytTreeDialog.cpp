@@ -214,7 +214,7 @@ void ClytTreeDialog::StoreSize() const
     lytTreeLastHeight = std::abs(rect.Height());
 }
 
-void ClytTreeDialog::StoreItemStates() const
+void ClytTreeDialog::StoreItemStates()
 {
     for (POSITION position = m_nodes.GetHeadPosition(); position != nullptr;)
     {
@@ -246,4 +246,14 @@ void ClytTreeDialog::OnDoubleClick(NMHDR* /*header*/, LRESULT* result)
     if (!m_treeCtrl.ItemHasChildren(m_treeCtrl.GetSelectedItem()))
         OnOK();
     *result = 0;
+}
+
+std::optional<CString> lytBrowse(const CString& request)
+{
+    lytTreeResult = 0;
+    ClytTreeDialog dialog(request);
+    if (dialog.DoModal() != IDOK)
+        return {};
+    lytTreeResult = 1;
+    return dialog.GetResult();
 }

@@ -8,6 +8,8 @@
 
 #include <afxcmn.h>
 
+#include <optional>
+
 class ClytTreeDialog : public CDialog
 {
 public:
@@ -40,7 +42,7 @@ private:
     void MarkInitialNode();
     void CountConfirmation() const;
     void StoreSize() const;
-    void StoreItemStates() const;
+    void StoreItemStates();
 
     CTreeCtrl
         m_treeCtrl; // holds the handle of control 1000 without joining it: a fill sends it a message for each record
@@ -52,3 +54,6 @@ private:
     bool m_bPara;
     ClytNodeList& m_nodes; // lives as long as the process
 };
+
+// Shows the browser. What the user has picked, when he confirmed it.
+std::optional<CString> lytBrowse(const CString& request);

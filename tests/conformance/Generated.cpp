@@ -141,7 +141,7 @@ ClytDialog DialogOf(const char* file, const std::string& input)
 {
     lytInputKey = input.c_str();
     lytCommandSeen = 0;
-    return {lytEnvironment.GetDialogPath() + "\\" + file + ".dlg", CString()};
+    return {lytEnvironment.GetDescriptionFile(CString(file) + ".dlg"), CString()};
 }
 
 class Sequence

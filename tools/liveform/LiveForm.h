@@ -43,7 +43,7 @@ public:
 
     void RunDependencies() override;
     // Only a modal run shows a nested dialog.
-    std::optional<CString> ShowNested(const CString& /*descriptionFile*/) override { return {}; }
+    std::optional<CString> ShowNested(const CString& /*description*/, const CString& /*input*/) override { return {}; }
 
 private:
     int m_openRuns = 0;

@@ -60,10 +60,8 @@ const Outcome& Trial::Run(std::deque<Step> steps)
     m_steps = std::move(steps);
     AwaitTurn();
     TrialDialog dialog(m_surroundings.DescriptionFile().c_str(), lytEnvironment.GetDialogDefine(), *this);
-    lytInputKey = m_input;
-    const INT_PTR result = dialog.Run();
-    if (result == IDOK)
-        m_outcome.text = dialog.GetResult().GetString();
+    if (const std::optional<CString> result = dialog.Ask(m_input))
+        m_outcome.text = result->GetString();
     if (m_failure != nullptr)
         std::rethrow_exception(m_failure);
     if (m_robot.HasGivenUp())

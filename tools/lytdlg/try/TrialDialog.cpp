@@ -10,20 +10,18 @@ TrialDialog::TrialDialog(const CString& descriptionFile, const CString& defines,
 {
 }
 
-INT_PTR TrialDialog::Run()
+INT_PTR TrialDialog::DoModal()
 {
     m_watcher.Opening(*this);
-    const INT_PTR ending = DoModal();
+    const INT_PTR ending = ClytDialog::DoModal();
     m_watcher.Closed(*this, ending);
     return ending;
 }
 
-std::optional<CString> TrialDialog::ShowNested(const CString& descriptionFile)
+std::optional<CString> TrialDialog::ShowNested(const CString& description, const CString& input)
 {
-    TrialDialog nested(descriptionFile, lytEnvironment.GetDialogDefine(), m_watcher);
-    if (nested.Run() != IDOK)
-        return {};
-    return nested.GetResult();
+    return TrialDialog(lytEnvironment.GetDescriptionFile(description), lytEnvironment.GetDialogDefine(), m_watcher)
+        .Ask(input);
 }
 
 void TrialDialog::Leave()

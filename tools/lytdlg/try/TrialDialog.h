@@ -30,9 +30,9 @@ public:
     // The watcher outlives the dialog.
     TrialDialog(const CString& descriptionFile, const CString& defines, TrialWatcher& dialogWatcher);
 
-    // DoModal, with the watcher told before and after.
-    INT_PTR Run();
-    std::optional<CString> ShowNested(const CString& descriptionFile) override;
+    // The watcher is told before and after.
+    INT_PTR DoModal() override;
+    std::optional<CString> ShowNested(const CString& description, const CString& input) override;
 
     const std::string& DescriptionFile() const { return m_file; }
     // The type word of a control.
