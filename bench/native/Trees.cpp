@@ -147,7 +147,7 @@ void MeasureTreeRefill(const BenchMeter& meter)
 {
     NoControl control;
     MeasureShapes(
-        meter, [&](const ClytNodeList& nodes, Level) { lytFillFromList(nodes, control, 'S'); },
+        meter, [&](ClytNodeList& nodes, Level) { lytFillFromList(nodes, control, 'S'); },
         [&](const PlainRecords& records)
         {
             for (const lytTreeRecord& record : records)

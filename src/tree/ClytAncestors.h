@@ -13,7 +13,7 @@ class ClytAncestors
 public:
     // What was added for the nearest earlier node with a smaller level; null when there is none. Nodes of that level or
     // a greater one are dropped: they are parents no longer.
-    ClytNode* FindAbove(int level)
+    const ClytNode* FindAbove(int level)
     {
         while (!m_path.empty() && m_path.back().level >= level)
             m_path.pop_back();
@@ -27,13 +27,13 @@ public:
         return parent != nullptr ? parent->m_hItem : nullptr;
     }
     // Every node of the walk is added, shown or not, once its parent has been looked up.
-    void Add(int level, ClytNode* node) { m_path.push_back({level, node}); }
+    void Add(int level, const ClytNode* node) { m_path.push_back({level, node}); }
 
 private:
     struct Step
     {
         int level;
-        ClytNode* node; // the list of the walk owns it
+        const ClytNode* node; // the list of the walk owns it
     };
     std::vector<Step> m_path;
 };

@@ -3,7 +3,7 @@
 #include "environment/ProcessState.h"
 #include "tree/ClytChildCursor.h"
 
-void lytRestoreCurrentNode(const ClytNodeList& nodes)
+void lytRestoreCurrentNode(ClytNodeList& nodes)
 {
     for (POSITION position = nodes.GetHeadPosition(); position != nullptr;)
     {

@@ -33,6 +33,6 @@ extern ClytNodeList lytSymbolNodes;
 extern ClytNodeList lytParaNodes;
 
 // Makes the node that was selected at the dialog's opening the current one again.
-void lytRestoreCurrentNode(const ClytNodeList& nodes);
+void lytRestoreCurrentNode(ClytNodeList& nodes);
 // Deletes the nodes of both catalogues; the walk over the child nodes ends with them.
 void lytDeleteNodes();

@@ -124,7 +124,7 @@ void lytFillFromSource(ClytNodeList& nodes, const ClytTreeSource& source, ClytTr
     Replace(nodes, run);
 }
 
-void lytFillFromList(const ClytNodeList& nodes, ClytTreeItems& items, char kind)
+void lytFillFromList(ClytNodeList& nodes, ClytTreeItems& items, char kind)
 {
     ClytAncestors ancestors;
     for (POSITION position = nodes.GetHeadPosition(); position != nullptr;)

@@ -16,4 +16,4 @@ void lytExpandLabel(char (&target)[lytShownLabelSize], const char* label);
 // not touched.
 void lytFillFromSource(ClytNodeList& nodes, const ClytTreeSource& source, ClytTreeItems* items, char kind);
 // Shows the entries of a list that is already filled, and gives each node the item of this control.
-void lytFillFromList(const ClytNodeList& nodes, ClytTreeItems& items, char kind);
+void lytFillFromList(ClytNodeList& nodes, ClytTreeItems& items, char kind);

@@ -8,18 +8,18 @@ namespace
 {
 
 template <class Condition>
-ClytNode* FindFirst(const ClytNodeList& nodes, Condition condition)
+const ClytNode* FindFirst(const ClytNodeList& nodes, Condition condition)
 {
     for (POSITION position = nodes.GetHeadPosition(); position != nullptr;)
     {
-        ClytNode* node = nodes.GetNext(position);
+        const ClytNode* node = nodes.GetNext(position);
         if (condition(*node))
             return node;
     }
     return nullptr;
 }
 
-void Mark(const ClytNodeList& nodes, int ClytNode::*mark, const ClytNode* marked)
+void Mark(ClytNodeList& nodes, int ClytNode::*mark, const ClytNode* marked)
 {
     for (POSITION position = nodes.GetHeadPosition(); position != nullptr;)
     {
@@ -30,27 +30,27 @@ void Mark(const ClytNodeList& nodes, int ClytNode::*mark, const ClytNode* marked
 
 } // namespace
 
-ClytNode* lytFindNodeByItem(const ClytNodeList& nodes, HTREEITEM item)
+const ClytNode* lytFindNodeByItem(const ClytNodeList& nodes, HTREEITEM item)
 {
     if (item == nullptr)
         return nullptr;
     return FindFirst(nodes, [item](const ClytNode& node) { return node.m_hItem == item; });
 }
 
-ClytNode* lytFindCurrentNode(const ClytNodeList& nodes)
+const ClytNode* lytFindCurrentNode(const ClytNodeList& nodes)
 {
     return FindFirst(nodes, [](const ClytNode& node) { return node.m_nCurrent == 1; });
 }
 
-ClytNode* lytFindNode(const ClytNodeList& nodes, char kind, const char* text)
+const ClytNode* lytFindNode(const ClytNodeList& nodes, char kind, const char* text)
 {
     const size_t length = std::strlen(text);
     ClytAncestors nearest; // for each node above: where a climb from it ends
     for (POSITION position = nodes.GetHeadPosition(); position != nullptr;)
     {
-        ClytNode* node = nodes.GetNext(position);
-        ClytNode* above = nearest.FindAbove(node->m_nLevel);
-        ClytNode* climbed = node->m_cType == kind ? node : above;
+        const ClytNode* node = nodes.GetNext(position);
+        const ClytNode* above = nearest.FindAbove(node->m_nLevel);
+        const ClytNode* climbed = node->m_cType == kind ? node : above;
         nearest.Add(node->m_nLevel, climbed);
 
         const bool named =
@@ -61,12 +61,12 @@ ClytNode* lytFindNode(const ClytNodeList& nodes, char kind, const char* text)
     return nullptr;
 }
 
-void lytMarkCurrentNode(const ClytNodeList& nodes, const ClytNode* current)
+void lytMarkCurrentNode(ClytNodeList& nodes, const ClytNode* current)
 {
     Mark(nodes, &ClytNode::m_nCurrent, current);
 }
 
-void lytMarkInitialNode(const ClytNodeList& nodes, const ClytNode* initial)
+void lytMarkInitialNode(ClytNodeList& nodes, const ClytNode* initial)
 {
     Mark(nodes, &ClytNode::m_nInitial, initial);
 }
