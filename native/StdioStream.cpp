@@ -117,5 +117,5 @@ bool WriteText(std::FILE* stream, const char* text)
         if (putc_unlocked(*text, stream) == EOF)
             return false;
     }
-    return true;
+    return std::fflush(stream) == 0;
 }

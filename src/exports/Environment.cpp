@@ -2,7 +2,6 @@
 #include "lyt64.h"
 
 #include "environment/ClytEnvironment.h"
-#include "environment/ClytLogFile.h"
 #include "environment/ProcessState.h"
 #include "exports/ExportFrame.h"
 #include "tree/ClytNode.h"
@@ -38,7 +37,6 @@ void __stdcall FreeGlobalObject()
 {
     LYT_EXPORT_FRAME();
     lytEnvironment.Reset();
-    lytLog.Reset();
     lytDeleteNodes();
     lytInputKey.Empty();
     lytWizardGroup.Empty();

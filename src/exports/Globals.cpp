@@ -1,6 +1,5 @@
 // Every process-wide object, in one file, so that they are constructed in this order and destroyed in the reverse one.
 #include "environment/ClytEnvironment.h"
-#include "environment/ClytLogFile.h"
 #include "environment/ProcessState.h"
 #include "tree/ClytNode.h"
 #include "tree/ClytWizardQueue.h"
@@ -18,7 +17,6 @@ CLytDlg32App lytApplication;
 CMap<int, int, CString, CString> lytLanguageTags;
 CCriticalSection lytReportLock;
 ClytEnvironment lytEnvironment;
-ClytLogFile lytLog;
 CString lytInputKey;
 ClytNodeList lytSymbolNodes;
 ClytNodeList lytParaNodes;

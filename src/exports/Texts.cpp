@@ -3,7 +3,7 @@
 
 #include "environment/ClytEnvironment.h"
 #include "environment/ClytException.h"
-#include "environment/ClytLogFile.h"
+#include "environment/LogFile.h"
 #include "environment/ProcessState.h"
 #include "exports/ExportFrame.h"
 
@@ -98,10 +98,5 @@ int __stdcall lytListFromIniNext(char* value, int valueSize, char* display, int 
 void __stdcall lytWriteToLogFile(const char* text, int level)
 {
     LYT_QUIET_FRAME();
-    const int currentLevel = ClytLogFile::CurrentLevel();
-    if (level > currentLevel)
-        return;
-    lytLog.Open(currentLevel);
-    lytLog.Write(text != nullptr ? text : "", level);
-    lytLog.Close();
+    lytWriteToLog(text != nullptr ? text : "", level);
 }

@@ -22,5 +22,5 @@ enum class StreamSharing
 // Reads up to and including a line end, at most `count` characters and a NUL; false at the end of the text.
 [[nodiscard]] bool ReadTextLine(std::FILE* stream, char* buffer, unsigned count);
 
-// Writes a text whole, or holds it back until the stream is sought or closed; false when it cannot be written.
+// Writes a text whole; false when it cannot be written.
 [[nodiscard]] bool WriteText(std::FILE* stream, const char* text);

@@ -1,5 +1,5 @@
 // A log whose device is full, and one whose file may not grow. Windows has no such means, so these tests run natively.
-#include "environment/ClytLogFile.h"
+#include "environment/LogFile.h"
 
 #include "support/LanguageFolder.h"
 #include "support/RaisedMessage.h"
@@ -50,13 +50,7 @@ protected:
 
     static std::string Write(const std::string& text)
     {
-        return RaisedMessage(
-            [&]
-            {
-                lytLog.Open();
-                lytLog.Write(text.c_str(), 1);
-                lytLog.Close();
-            });
+        return RaisedMessage([&] { lytWriteToLog(text.c_str(), 1); });
     }
     static size_t CountOpenFiles()
     {

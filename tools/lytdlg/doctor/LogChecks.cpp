@@ -1,7 +1,7 @@
 #include "lytdlg/doctor/Checks.h"
 
 #include "commandline/Text.h"
-#include "environment/ClytLogFile.h"
+#include "environment/LogFile.h"
 #include "lytdlg/text/Paths.h"
 #include "lytdlg/text/TextFile.h"
 

@@ -1,4 +1,4 @@
-#include "environment/ClytLogFile.h"
+#include "environment/LogFile.h"
 
 #include "support/LanguageFolder.h"
 #include "support/RaisedMessage.h"
@@ -23,12 +23,7 @@ protected:
 
     void SetLevel(const std::string& level) const { folder.WriteIni("[LogLevel]\r\nlevel=" + level + "\r\n"); }
 
-    static void WriteMessage(const char* text, int level = 1)
-    {
-        lytLog.Open();
-        lytLog.Write(text, level);
-        lytLog.Close();
-    }
+    static void WriteMessage(const char* text, int level = 1) { lytWriteToLog(text, level); }
     size_t CountBlocks(const std::string& name) const
     {
         const std::string text = folder.Read(name);
@@ -130,7 +125,7 @@ TEST_F(Log, LeavesOutMessagesAboveItsLevel)
     EXPECT_NE(text.find("at the level"), std::string::npos);
     EXPECT_NE(text.find("below"), std::string::npos);
     EXPECT_EQ(text.find("above"), std::string::npos);
-    EXPECT_EQ(CountBlocks("doc.log"), 3U);
+    EXPECT_EQ(CountBlocks("doc.log"), 2U);
 }
 
 TEST_F(Log, TakesANegativeLevelAsALevel)
@@ -139,7 +134,7 @@ TEST_F(Log, TakesANegativeLevelAsALevel)
     lytEnvironment.SetDocName("doc.rtf");
     WriteMessage("minus one", -1);
     WriteMessage("zero", 0);
-    EXPECT_EQ(CountBlocks("doc.log"), 2U);
+    EXPECT_EQ(CountBlocks("doc.log"), 1U);
     EXPECT_NE(folder.Read("doc.log").find("minus one"), std::string::npos);
     EXPECT_EQ(folder.Read("doc.log").find("zero"), std::string::npos);
 }
@@ -167,16 +162,6 @@ TEST_F(Log, Raises207WhenAFolderStandsInItsPlace)
     fs::create_directory("doc.log");
     lytEnvironment.SetDocName("doc.rtf");
     EXPECT_EQ(RaisedMessage([] { WriteMessage("text"); }), "Access was denied: doc.log\nopen 'doc.log'");
-}
-
-TEST_F(Log, Raises208WhenNoFileIsOpen)
-{
-    SetLevel("1");
-    lytEnvironment.SetDocName("none\\doc.rtf");
-    RaisedMessage([] { lytLog.Open(); });
-    const char* const message = "An argument is missing or out of range.\nwrite 'none\\doc.log'";
-    EXPECT_EQ(RaisedMessage([] { lytLog.Write("text", 1); }), message);
-    EXPECT_EQ(RaisedMessage([] { lytLog.Close(); }), message);
 }
 
 TEST_F(Log, RaisesTheInvalidArgumentExceptionForATimeWithoutADate)

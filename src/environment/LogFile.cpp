@@ -1,4 +1,4 @@
-#include "environment/ClytLogFile.h"
+#include "environment/LogFile.h"
 
 #include "base/Words.h"
 #include "environment/ClytEnvironment.h"
@@ -40,6 +40,13 @@ void Guarded(CStdioFile& file, const char* number, const CString& logName, Step 
     }
 }
 
+CString Block(const char* message)
+{
+    const std::time_t now = std::time(nullptr);
+    return "\n" + Rule() + lytLogBannerLine("START...  ", now) + Rule() + "\n" + message + "\n" + Rule() +
+           lytLogBannerLine("END...    ", now) + "\n";
+}
+
 } // namespace
 
 CString lytLogNameOf(const CString& docName)
@@ -55,69 +62,22 @@ CString lytLogBannerLine(const char* word, std::time_t time)
     return word + CString("Date ") + Formatted("%x", local) + "           Time " + Formatted("%X", local) + "\n";
 }
 
-int ClytLogFile::CurrentLevel()
+void lytWriteToLog(const char* message, int messageLevel)
 {
-    return lytNumberOf(lytEnvironment.GetLogLevel());
-}
-
-void ClytLogFile::Open(int currentLevel)
-{
-    logName = lytEnvironment.GetDocName();
-    level = currentLevel;
-    if (level == 0)
+    const int level = lytNumberOf(lytEnvironment.GetLogLevel());
+    if (level == 0 || messageLevel > level)
         return;
-
-    logName = lytLogNameOf(logName);
+    const CString logName = lytLogNameOf(lytEnvironment.GetDocName());
+    CStdioFile file;
     CFileException error;
-    if (!CStdioFile::Open(logName, logFlags, &error))
+    if (!file.Open(logName, logFlags, &error))
         lytRaise("207", lytMessageOf(error), logName);
-    block.Empty();
-    Add("\n" + Rule() + BannerLine("START...  ") + Rule() + "\n");
-}
-
-void ClytLogFile::Write(const char* text, int messageLevel)
-{
-    if (level != 0 && messageLevel <= level)
-        Add(text);
-}
-
-void ClytLogFile::Close()
-{
-    if (level == 0)
-        return;
-    Add("\n" + Rule() + BannerLine("END...    ") + "\n");
-    Guarded(*this, "208", logName,
+    const CString block = Block(message);
+    Guarded(file, "208", logName,
             [&]
             {
-                WriteString(block);
-                // A stream that holds text back writes it now.
-                SeekToEnd();
+                file.SeekToEnd();
+                file.WriteString(block);
             });
-    Guarded(*this, "209", logName, [&] { CStdioFile::Close(); });
-}
-
-void ClytLogFile::Reset()
-{
-    logName.Empty();
-    block.Empty();
-}
-
-CString ClytLogFile::BannerLine(const char* word)
-{
-    try
-    {
-        return lytLogBannerLine(word, std::time(nullptr));
-    }
-    catch (CException*)
-    {
-        Abort();
-        throw;
-    }
-}
-
-// Looks for the end of the file each time, which tells early that there is none.
-void ClytLogFile::Add(const char* text)
-{
-    Guarded(*this, "208", logName, [&] { SeekToEnd(); });
-    block += text;
+    Guarded(file, "209", logName, [&] { file.Close(); });
 }
