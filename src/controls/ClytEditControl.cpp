@@ -63,8 +63,7 @@ void ClytEditControl::DoAction(const ClytStateWord& word)
 void ClytEditControl::FillByLibrary()
 {
     const ClytWaitCursor waiting;
-    if (lytObserver != nullptr)
-        lytObserver->LibraryAsked(*this);
+    lytTell(&ClytObserver::LibraryAsked, *this);
     CString parameter;
     if (!source.parameterRule.IsEmpty() && dialog->ComposeNamedOutput(source.parameterRule, parameter) == 0)
         return;

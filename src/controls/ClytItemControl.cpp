@@ -74,8 +74,7 @@ template <class WINDOW>
 void ClytItemControl<WINDOW>::FillByLibrary()
 {
     const ClytWaitCursor waiting;
-    if (lytObserver != nullptr)
-        lytObserver->LibraryAsked(*this);
+    lytTell(&ClytObserver::LibraryAsked, *this);
     EmptyFromSelection();
     CString parameter;
     if (!ComposeParameter(parameter))

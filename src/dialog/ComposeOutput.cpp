@@ -5,6 +5,7 @@
 #include "base/Words.h"
 #include "environment/ClytException.h"
 #include "environment/ProcessState.h"
+#include "model/ClytConditionTest.h"
 #include "model/ClytObserver.h"
 
 #include <algorithm>
@@ -75,17 +76,6 @@ int LengthAtMost(const CString& format, const CStringArray& items)
     return length;
 }
 
-ClytTested Test(const ClytCtrlValList& condition)
-{
-    ClytControl* control = condition.GetControl();
-    if (control == nullptr)
-        return ClytTested::UnknownControl;
-    if (control->IsActive() == 0)
-        return ClytTested::Inactive;
-    const bool isAnyValue = condition.GetValues().IsEmpty();
-    return isAnyValue || condition.Contains(control->GetValue()) != 0 ? ClytTested::Holds : ClytTested::NotListed;
-}
-
 } // namespace
 
 const ClytDialogOutput* ClytDialog::SelectRule(const ClytOutput& group)
@@ -97,26 +87,16 @@ const ClytDialogOutput* ClytDialog::SelectRule(const ClytOutput& group)
         if (HoldsForOutput(*rule))
             chosen = rule;
     }
-    if (lytObserver != nullptr)
-        lytObserver->OutputChosen(chosen);
+    lytTell(&ClytObserver::OutputChosen, chosen);
     return chosen;
 }
 
 bool ClytDialog::HoldsForOutput(const ClytDialogOutput& rule)
 {
     const Counted read(readDepth);
-    for (POSITION place = rule.conditions.GetHeadPosition(); place != nullptr;)
-    {
-        const ClytCtrlValList& condition = *rule.conditions.GetNext(place);
-        const ClytTested tested = Test(condition);
-        if (lytObserver != nullptr)
-            lytObserver->OutputConditionTested(rule, condition, tested);
-        if (tested == ClytTested::UnknownControl)
-            lytRaise("245", CString(), condition.GetName());
-        if (tested != ClytTested::Holds)
-            return false;
-    }
-    return true;
+    return lytConditionsHold(rule.conditions, ClytRuleKind::Output,
+                             [&](const ClytCtrlValList& condition, ClytTested tested)
+                             { lytTell(&ClytObserver::OutputConditionTested, rule, condition, tested); });
 }
 
 int ClytDialog::ComposeOutput(const ClytOutput& group, CString& target, int check)

@@ -9,17 +9,6 @@
 
 #include <set>
 
-namespace
-{
-
-void TellPassedOver(ClytPassedOver what, const CString& name, const ClytSpan& place)
-{
-    if (lytObserver != nullptr)
-        lytObserver->PassedOver(what, name, place);
-}
-
-} // namespace
-
 void ClytDialog::ReadDescription()
 {
     const Counted inCommand = BeginCommand();
@@ -108,7 +97,7 @@ void ClytDialog::CreateLayoutControl(const ClytControlStatement& statement)
                                 label});
     if (made == nullptr)
     {
-        TellPassedOver(ClytPassedOver::LayoutStatement, statement.type, statement.span);
+        lytTell(&ClytObserver::PassedOver, ClytPassedOver::LayoutStatement, statement.type, statement.span);
         return;
     }
     ClytControl& control = controlList.AddTail(std::move(made));
@@ -130,7 +119,7 @@ void ClytDialog::ReadValues()
         if (control != nullptr)
             control->TakeStatement(values, keyword, file.GetStatementPlace());
         else
-            TellPassedOver(ClytPassedOver::ValueStatement, name, file.GetStatementPlace());
+            lytTell(&ClytObserver::PassedOver, ClytPassedOver::ValueStatement, name, file.GetStatementPlace());
     }
 }
 
@@ -147,7 +136,7 @@ void ClytDialog::ReadDependencies()
         {
             // The name stays in the record, so an empty line that follows finds it again.
             if (rule->span.line == file.GetLinePlace().line)
-                TellPassedOver(ClytPassedOver::DependencyRule, rule->controlName, rule->span);
+                lytTell(&ClytObserver::PassedOver, ClytPassedOver::DependencyRule, rule->controlName, rule->span);
             continue;
         }
         dependencyList.AddTail(std::move(rule)).Bind(controlMap);
@@ -202,7 +191,7 @@ void ClytDialog::ReadEvaluations()
         if (control != nullptr)
             control->SetEvaluation(own, other, messageKey);
         else
-            TellPassedOver(ClytPassedOver::Evaluation, own.GetName(), own.GetSpan());
+            lytTell(&ClytObserver::PassedOver, ClytPassedOver::Evaluation, own.GetName(), own.GetSpan());
     }
 }
 

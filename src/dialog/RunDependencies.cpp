@@ -46,16 +46,14 @@ public:
           m_depth(m_outer != nullptr ? m_outer->m_depth + 1 : 1),
           m_readsBefore(owner.readDepth)
     {
-        if (lytObserver != nullptr)
-            lytObserver->RunBegan(m_depth);
+        lytTell(&ClytObserver::RunBegan, m_depth);
     }
     Run(const Run&) = delete;
     Run& operator=(const Run&) = delete;
     ~Run()
     {
         m_owner.innermostRun = m_outer;
-        if (lytObserver != nullptr)
-            lytObserver->RunEnded(m_depth);
+        lytTell(&ClytObserver::RunEnded, m_depth);
     }
 
     // A value that was being read when the run began is not this run's concern.
@@ -210,8 +208,7 @@ void ClytDialog::RunRule(ClytControlDep& rule)
         return;
     }
     const int on = AllConditionsHold(rule);
-    if (lytObserver != nullptr)
-        lytObserver->StateSet(rule, on);
+    lytTell(&ClytObserver::StateSet, rule, on);
     rule.GetControl()->SetState(rule.stateWord, on);
 }
 
@@ -224,8 +221,7 @@ void ClytDialog::RunEventRule(ClytControlDep& rule)
     const ClytEvent event = isInProgress             ? ClytEvent::InProgress
                             : rule.AnyChanged() != 0 ? ClytEvent::Acts
                                                      : ClytEvent::NothingChanged;
-    if (lytObserver != nullptr)
-        lytObserver->EventDecided(rule, event);
+    lytTell(&ClytObserver::EventDecided, rule, event);
     if (event == ClytEvent::Acts)
         rule.GetControl()->DoAction(rule.stateWord);
 }

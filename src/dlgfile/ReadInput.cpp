@@ -142,6 +142,6 @@ void ClytDialogFile::ReadInputConditions(POSITION token, ClytDialogInput& statem
 
 void ClytDialogFile::ReadTargets(POSITION token, ClytDialogInput& statement)
 {
-    statement.trueTarget = NextOrFail(token).GetText();
-    statement.falseTarget = NextOrFail(token).GetText();
+    statement.trueTarget.name = NextOrFail(token).GetText();
+    statement.falseTarget.name = NextOrFail(token).GetText();
 }

@@ -4,6 +4,8 @@
 #include "model/ClytCtrlValList.h"
 #include "model/ClytWords.h"
 
+enum class ClytRuleKind;
+
 class ClytControlDep : public CObject
 {
 public:
@@ -27,5 +29,7 @@ public:
     int failedIn = 0; // the number of the user's command in which the rule has failed; 0 for none
 
 private:
+    int ConditionsHold(ClytRuleKind kind) const;
+
     ClytControl* control = nullptr; // the form's, which outlives the rule's use
 };

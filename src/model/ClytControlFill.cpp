@@ -12,12 +12,10 @@ void ClytControlFill::Apply(const CString& piece) const
 {
     if (control == nullptr)
     {
-        if (lytObserver != nullptr)
-            lytObserver->PassedOver(ClytPassedOver::Fill, controlName, span);
+        lytTell(&ClytObserver::PassedOver, ClytPassedOver::Fill, controlName, span);
         return;
     }
-    if (lytObserver != nullptr)
-        lytObserver->Filled(*this, piece);
+    lytTell(&ClytObserver::Filled, *this, piece);
     switch (action.GetMeaning())
     {
     case ClytFillAction::Fill: control->FillByLibrary(); break;

@@ -33,11 +33,6 @@ int ClytCtrlValList::Contains(const CString& value) const
     return 0;
 }
 
-int ClytCtrlValList::IsSatisfied() const
-{
-    return control != nullptr ? control->HasValueIn(values) : 0;
-}
-
 void lytBindConditions(const ClytConditions& conditions, const ClytControlMap& controls)
 {
     for (POSITION place = conditions.GetHeadPosition(); place != nullptr;)

@@ -37,8 +37,6 @@ public:
 
     // 1 when a listed value equals the text byte for byte, or is "NULL" and the text is empty.
     int Contains(const CString& value) const;
-    // 1 when the control holds one of the values; "NULL" has no meaning here, and an unknown control gives 0.
-    int IsSatisfied() const;
 
 private:
     CString controlName;

@@ -1,5 +1,7 @@
 #include "model/ClytDialogInput.h"
 
+#include "model/ClytConditionTest.h"
+
 void ClytDialogInput::Bind(const ClytControlMap& controls)
 {
     lytBindConditions(conditions, controls);
@@ -8,10 +10,6 @@ void ClytDialogInput::Bind(const ClytControlMap& controls)
 
 int ClytDialogInput::ConditionsHold() const
 {
-    for (POSITION place = conditions.GetHeadPosition(); place != nullptr;)
-    {
-        if (conditions.GetNext(place)->IsSatisfied() != 0)
-            return 1;
-    }
-    return 0;
+    const auto tellNothing = [](const ClytCtrlValList& /*condition*/, ClytTested /*result*/) {};
+    return lytConditionsHold(conditions, ClytRuleKind::Input, tellNothing) ? 1 : 0;
 }

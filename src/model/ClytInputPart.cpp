@@ -41,15 +41,14 @@ void ClytInputPart::Bind(const ClytControlMap& controls)
 // A statement named "End" is never run.
 void ClytInputPart::BindTarget(ClytTarget& target) const
 {
-    target.statement = lytSameWord(target, "End") ? nullptr : Find(target);
+    target.statement = lytSameWord(target.name, "End") ? nullptr : Find(target.name);
 }
 
 void ClytInputPart::Run(CString text, const CString& name) const
 {
     ClytScanner scanner(text);
-    if (lytObserver != nullptr)
-        lytObserver->ScanBegan(scanner.GetRest());
-    ClytTarget start(name);
+    lytTell(&ClytObserver::ScanBegan, scanner.GetRest());
+    ClytTarget start{name};
     BindTarget(start);
     const ClytTarget* next = &start;
     ClytSpan asker = span;
@@ -64,8 +63,8 @@ void ClytInputPart::Run(CString text, const CString& name) const
         if (idle == circleLimit)
             lytRaise("206", "The input statements go round in a circle.");
     }
-    if (!lytSameWord(*next, "End"))
-        lytTellMissing(ClytMissing::InputStatement, *next, nullptr, asker);
+    if (!lytSameWord(next->name, "End"))
+        lytTellMissing(ClytMissing::InputStatement, next->name, nullptr, asker);
 }
 
 const ClytTarget& ClytInputPart::RunStatement(const ClytDialogInput& statement, ClytScanner& scanner, CString& piece)
@@ -74,14 +73,12 @@ const ClytTarget& ClytInputPart::RunStatement(const ClytDialogInput& statement, 
     if (rule.scan.HasScan() == 0)
     {
         const ClytTarget& next = statement.ConditionsHold() != 0 ? statement.trueTarget : statement.falseTarget;
-        if (lytObserver != nullptr)
-            lytObserver->Jumped(statement, next);
+        lytTell(&ClytObserver::Jumped, statement, next.name);
         return next;
     }
     piece.Empty();
     const ClytTarget& next = scanner.Cut(rule.scan, piece);
-    if (lytObserver != nullptr)
-        lytObserver->Cut(statement, piece, scanner.GetRest(), next);
+    lytTell(&ClytObserver::Cut, statement, piece, scanner.GetRest(), next.name);
     rule.ApplyFills(piece);
     return next;
 }

@@ -110,10 +110,15 @@ protected:
 
 inline ClytObserver* lytObserver = nullptr; // outlives what it listens to
 
-// Tells the listener, if there is one, of something that was looked for in vain.
+// Tells the listener, if there is one.
+template <class... PARAMETERS, class... ARGUMENTS>
+void lytTell(void (ClytObserver::*what)(PARAMETERS...), const ARGUMENTS&... arguments)
+{
+    if (lytObserver != nullptr)
+        (lytObserver->*what)(arguments...);
+}
 inline void lytTellMissing(ClytMissing what, const CString& name, const ClytControl* control = nullptr,
                            const ClytSpan& place = {})
 {
-    if (lytObserver != nullptr)
-        lytObserver->Missed(what, name, control, place);
+    lytTell(&ClytObserver::Missed, what, name, control, place);
 }

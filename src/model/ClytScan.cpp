@@ -29,7 +29,7 @@ void ClytScan::SetFixedLength(int pieceLength, const CString& statementName, con
 {
     length = pieceLength;
     lengthSpan = place;
-    target = statementName;
+    target = {statementName};
 }
 
 void ClytScan::AddSeparator(const CString& separatorText, const CString& statementName, const ClytSpan& place)
@@ -40,5 +40,5 @@ void ClytScan::AddSeparator(const CString& separatorText, const CString& stateme
     else
         stops.Add(separatorText[0]);
     length = 0;
-    target.Empty();
+    target = {};
 }

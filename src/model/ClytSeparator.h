@@ -1,4 +1,4 @@
-// A text that ends a piece of the input, and the statement that goes on after it.
+// A text that ends a piece of the input, and the statement that continues after it.
 #pragma once
 
 #include "base/ClytSpan.h"
@@ -8,7 +8,7 @@ class ClytSeparator : public CObject
 {
 public:
     ClytSeparator(CString separatorText, const CString& statementName, const ClytSpan& place)
-        : text(std::move(separatorText)), target(statementName), span(place)
+        : text(std::move(separatorText)), target{statementName}, span(place)
     {
     }
 

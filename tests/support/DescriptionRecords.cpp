@@ -47,6 +47,7 @@ public:
             Add(*records.GetNext(place));
         return *this;
     }
+    Record& Add(const ClytTarget& target) { return Add(target.name); }
     Record& Add(const ClytSeparator& separator) { return Add(separator.text).Add(separator.target); }
     Record& Add(const ClytConditionFill& rule) { return Add(rule.values).Add(rule.fills); }
     Record& Add(const ClytControlFill& fill)

@@ -125,12 +125,12 @@ std::string Output(const std::string& line)
 std::string Shown(const ClytScan& scan)
 {
     std::string shown;
-    if (scan.GetLength() != 0 || !scan.GetTarget().IsEmpty())
-        shown += "[" + std::to_string(scan.GetLength()) + ">" + scan.GetTarget().GetString() + "]";
+    if (scan.GetLength() != 0 || !scan.GetTarget().name.IsEmpty())
+        shown += "[" + std::to_string(scan.GetLength()) + ">" + scan.GetTarget().name.GetString() + "]";
     for (POSITION place = scan.GetSeparators().GetHeadPosition(); place != nullptr;)
     {
         const ClytSeparator& separator = *scan.GetSeparators().GetNext(place);
-        shown += "['" + std::string(separator.text.GetString()) + "'>" + separator.target.GetString() + "]";
+        shown += "['" + std::string(separator.text.GetString()) + "'>" + separator.target.name.GetString() + "]";
     }
     return shown;
 }
@@ -158,9 +158,9 @@ std::string Shown(const ClytDialogInput& statement)
         shown += rule.values.IsEmpty() ? " " : " (" + Joined(rule.values, ",") + ")";
         shown += Shown(*rule.fills.GetHead());
     }
-    if (!statement.conditions.IsEmpty() || !statement.falseTarget.IsEmpty())
-        shown += Shown(statement.conditions) + " ? " + statement.trueTarget.GetString() + " : " +
-                 statement.falseTarget.GetString();
+    if (!statement.conditions.IsEmpty() || !statement.falseTarget.name.IsEmpty())
+        shown += Shown(statement.conditions) + " ? " + statement.trueTarget.name.GetString() + " : " +
+                 statement.falseTarget.name.GetString();
     return shown;
 }
 
@@ -535,7 +535,7 @@ TEST_F(Statement, OfAnInputIsFoundByTheLaterOfTwoNames)
     file.ReadInputPart(part);
     EXPECT_EQ(part.GetStatements().GetCount(), 2);
     ASSERT_NE(part.Find("A"), nullptr);
-    EXPECT_EQ(part.Find("A")->falseTarget, "Two");
+    EXPECT_EQ(part.Find("A")->falseTarget.name, "Two");
     EXPECT_EQ(part.Find("B"), nullptr);
 }
 

@@ -1,5 +1,6 @@
 #include "Controls.h"
 
+#include "model/ClytConditionTest.h"
 #include "model/ClytControlDep.h"
 
 #include <gtest/gtest.h>
@@ -17,7 +18,7 @@ ClytCtrlValList& Fill(ClytCtrlValList& list, std::initializer_list<const char*> 
 int IsSatisfied(ClytCtrlValList& list, const Controls& controls)
 {
     list.Bind(controls.map);
-    return list.IsSatisfied();
+    return lytTest(list, ClytRuleKind::Input) == ClytTested::Holds ? 1 : 0;
 }
 
 int Contains(std::initializer_list<const char*> values, const char* value)

@@ -42,7 +42,7 @@ protected:
     {
         State(name).scanRule.scan.SetFixedLength(length, target);
     }
-    void Jump(const char* name, const char* target) { State(name).falseTarget = target; }
+    void Jump(const char* name, const char* target) { State(name).falseTarget.name = target; }
     // That many jumps in a row, from the state of that name to the one with the number after its name.
     void JumpUpTo(const std::string& name, int count)
     {
@@ -252,8 +252,8 @@ TEST_F(Scan, DoesNothingWithoutStatements)
 TEST_F(Scan, ChoosesATargetByItsConditions)
 {
     ClytDialogInput& start = State("Start");
-    start.trueTarget = "Yes";
-    start.falseTarget = "No";
+    start.trueTarget.name = "Yes";
+    start.falseTarget.name = "No";
     AddCondition(start.conditions, "A", {"1"});
     AddCondition(start.conditions, "B", {"2"});
     Cut("Yes", {"|", "End"});

@@ -136,7 +136,7 @@ std::string Cuts(const std::string& text, const std::vector<std::vector<Entry>>&
         for (const Entry& entry : entries)
             scan.AddSeparator(entry.separator.c_str(), entry.target.c_str());
         CString piece;
-        const CString target = scanner.Cut(scan, piece);
+        const CString target = scanner.Cut(scan, piece).name;
         log += std::string(piece) + "|" + target.GetString() + "|" + scanner.GetRest() + "\n";
     }
     return log;

@@ -27,13 +27,13 @@ std::vector<WayOn> CutsOf(const ClytScan& scan)
 {
     if (scan.GetLength() > 0)
         return {{std::to_string(scan.GetLength()) + (scan.GetLength() == 1 ? " character" : " characters"),
-                 scan.GetTarget()}};
+                 scan.GetTarget().name}};
     std::vector<WayOn> ways;
     for (POSITION place = scan.GetSeparators().GetHeadPosition(); place != nullptr;)
     {
         const ClytSeparator& separator = *scan.GetSeparators().GetNext(place);
         const bool isRest = separator.text == "Rest";
-        ways.push_back({isRest ? "'Rest', end of the text" : QuotedText(separator.text), separator.target});
+        ways.push_back({isRest ? "'Rest', end of the text" : QuotedText(separator.text), separator.target.name});
     }
     return ways;
 }
@@ -41,8 +41,8 @@ std::vector<WayOn> CutsOf(const ClytScan& scan)
 std::vector<WayOn> JumpsOf(const Description& description, const ClytDialogInput& statement)
 {
     if (statement.conditions.IsEmpty())
-        return {{"always", statement.falseTarget}};
-    WayOn held{"", statement.trueTarget};
+        return {{"always", statement.falseTarget.name}};
+    WayOn held{"", statement.trueTarget.name};
     for (POSITION place = statement.conditions.GetHeadPosition(); place != nullptr;)
     {
         const ClytCtrlValList& condition = *statement.conditions.GetNext(place);
@@ -50,7 +50,7 @@ std::vector<WayOn> JumpsOf(const Description& description, const ClytDialogInput
             (held.label.empty() ? "if " : "\nor ") + Shown(condition.GetName()) + ValuesText(condition.GetValues());
         held.isUnknown = held.isUnknown || description.FindControl(condition.GetName().GetString()) == nullptr;
     }
-    return {held, {"else", statement.falseTarget}};
+    return {held, {"else", statement.falseTarget.name}};
 }
 
 std::string FillText(const ClytControlFill& fill)

@@ -39,8 +39,8 @@ std::vector<Step> Jump(const ClytInputPart& part, const ClytDialogInput& stateme
 {
     if (IsScan(statement))
         return {};
-    return statement.conditions.IsEmpty() ? Found(part, {statement.falseTarget})
-                                          : Found(part, {statement.trueTarget, statement.falseTarget});
+    return statement.conditions.IsEmpty() ? Found(part, {statement.falseTarget.name})
+                                          : Found(part, {statement.trueTarget.name, statement.falseTarget.name});
 }
 
 // Inside a text an empty separator in the first place cuts nothing.
@@ -48,9 +48,9 @@ std::vector<Step> WithinText(const ClytInputPart& part, const ClytDialogInput& s
 {
     const ClytScan& scan = statement.scanRule.scan;
     if (!IsScan(statement))
-        return statement.conditions.IsEmpty() ? Found(part, {statement.falseTarget}) : std::vector<Step>();
+        return statement.conditions.IsEmpty() ? Found(part, {statement.falseTarget.name}) : std::vector<Step>();
     const bool cutsNothing = scan.GetLength() == 0 && scan.GetSeparators().GetHead()->text.IsEmpty();
-    return cutsNothing ? Found(part, {scan.TargetOf("")}) : std::vector<Step>();
+    return cutsNothing ? Found(part, {scan.TargetOf("").name}) : std::vector<Step>();
 }
 
 // At the end of a text nothing is left to cut.
@@ -59,7 +59,7 @@ std::vector<Step> AtEnd(const ClytInputPart& part, const ClytDialogInput& statem
     const ClytScan& scan = statement.scanRule.scan;
     if (!IsScan(statement))
         return WithinText(part, statement);
-    return Found(part, {scan.GetLength() != 0 ? scan.GetTarget() : scan.TargetOf("Rest")});
+    return Found(part, {(scan.GetLength() != 0 ? scan.GetTarget() : scan.TargetOf("Rest")).name});
 }
 
 // Goes along all ways once, each statement once, and notes where one leads back to a statement that it came from.
@@ -149,13 +149,13 @@ std::vector<ScanTarget> TargetsOf(const Description& description, const ClytDial
     const ClytScan& scan = statement.scanRule.scan;
     if (!IsScan(statement))
         return statement.conditions.IsEmpty()
-                   ? std::vector{at(statement.falseTarget, start)}
-                   : std::vector{at(statement.trueTarget, start), at(statement.falseTarget, start)};
+                   ? std::vector{at(statement.falseTarget.name, start)}
+                   : std::vector{at(statement.trueTarget.name, start), at(statement.falseTarget.name, start)};
     if (scan.GetLength() != 0)
-        return {at(scan.GetTarget(), scan.GetLengthSpan().column + scan.GetLengthSpan().length)};
+        return {at(scan.GetTarget().name, scan.GetLengthSpan().column + scan.GetLengthSpan().length)};
     std::vector<ScanTarget> targets;
     for (const ClytSeparator* separator : Records(scan.GetSeparators()))
-        targets.push_back(at(separator->target, separator->span.column + separator->span.length));
+        targets.push_back(at(separator->target.name, separator->span.column + separator->span.length));
     return targets;
 }
 

@@ -135,7 +135,7 @@ void JudgeEnds(const Case& judged, const ClytScanRule& rule)
     for (const ClytSeparator* separator : separators)
     {
         const std::string text = separator->text.GetString();
-        if (separator->target != "End" || text.empty() || EndsInClosingBracket(text))
+        if (separator->target.name != "End" || text.empty() || EndsInClosingBracket(text))
             continue;
         if (text != "Rest")
             judged.findings.Add(dropped, separator->span, "what follows " + InQuotes(text) + " in the text is dropped",

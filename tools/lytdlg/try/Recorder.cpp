@@ -4,6 +4,7 @@
 #include "controls/ClytPushButtonControl.h"
 #include "lytdlg/text/Words.h"
 #include "lytdlg/try/ControlState.h"
+#include "model/ClytConditionTest.h"
 
 #include <array>
 
@@ -164,7 +165,7 @@ std::string Recorder::SeparatorOf(const ClytDialogInput& statement, const CStrin
     {
         const ClytSeparator& separator = *scan.GetSeparators().GetNext(place);
         const bool isAtEnd = *rest == '\0' && consumed == piece.GetString() && !separator.text.IsEmpty();
-        if (!isAtEnd && separator.target == nextStatement && consumed.ends_with(separator.text.GetString()))
+        if (!isAtEnd && separator.target.name == nextStatement && consumed.ends_with(separator.text.GetString()))
             return separator.text.IsEmpty() ? "by the empty separator" : "at " + QuotedUtf8(separator.text);
     }
     return "to the end of the text";
@@ -189,10 +190,7 @@ void Recorder::Jumped(const ClytDialogInput& statement, const CString& nextState
     for (POSITION place = statement.conditions.GetHeadPosition(); place != nullptr;)
     {
         const ClytCtrlValList& condition = *statement.conditions.GetNext(place);
-        const ClytTested result = condition.GetControl() == nullptr ? ClytTested::UnknownControl
-                                  : condition.IsSatisfied() != 0    ? ClytTested::Holds
-                                                                    : ClytTested::NotListed;
-        clauses += ClauseOf(condition, result) + "; ";
+        clauses += ClauseOf(condition, lytTest(condition, ClytRuleKind::Input)) + "; ";
     }
     Trace("  " + LineText(statement.span) + " " + Name(statement.name) + ": " + clauses + "on to " +
           Name(nextStatement));

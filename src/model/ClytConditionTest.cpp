@@ -1,0 +1,66 @@
+#include "model/ClytConditionTest.h"
+
+#include "model/ClytControl.h"
+
+namespace
+{
+
+struct Verdicts
+{
+    ClytVerdict ofResult[8]; // in the order of ClytTested
+    bool atEnd;
+};
+
+constexpr auto next = ClytVerdict::Next;
+constexpr auto holds = ClytVerdict::Holds;
+constexpr auto fails = ClytVerdict::Fails;
+constexpr auto raises = ClytVerdict::Raises;
+constexpr auto never = ClytVerdict::Fails; // this kind of rule has no such result
+
+constexpr Verdicts verdicts[] = {
+    // Holds, UnknownControl, Inactive, NotListed, HasContent, IsEmpty, Changed, Unchanged
+    {{next, next, fails, fails, holds, fails, never, never}, true},   // state
+    {{never, fails, never, never, never, never, holds, next}, false}, // event
+    {{next, raises, fails, fails, never, never, never, never}, true}, // output
+    {{holds, next, never, next, never, never, never, never}, false},  // input
+};
+
+ClytTested TestValue(const ClytCtrlValList& condition, ClytControl& control, bool isState)
+{
+    if (control.IsActive() == 0 && !(isState && control.IsExemptFromActive()))
+        return ClytTested::Inactive;
+    if (condition.GetValues().IsEmpty())
+        return ClytTested::Holds;
+    // The last value decides, so an earlier "NOTNULL" is a value like any other.
+    if (isState && condition.AsksForContent())
+        return control.HasContent() != 0 ? ClytTested::HasContent : ClytTested::IsEmpty;
+    return condition.Contains(control.GetValue()) != 0 ? ClytTested::Holds : ClytTested::NotListed;
+}
+
+} // namespace
+
+ClytTested lytTest(const ClytCtrlValList& condition, ClytRuleKind kind)
+{
+    ClytControl* control = condition.GetControl();
+    if (control == nullptr)
+        return ClytTested::UnknownControl;
+    switch (kind)
+    {
+    case ClytRuleKind::Event: return control->IsChanged() != 0 ? ClytTested::Changed : ClytTested::Unchanged;
+    case ClytRuleKind::Input:
+        return control->HasValueIn(condition.GetValues()) != 0 ? ClytTested::Holds : ClytTested::NotListed;
+    case ClytRuleKind::State:
+    case ClytRuleKind::Output: break;
+    }
+    return TestValue(condition, *control, kind == ClytRuleKind::State);
+}
+
+ClytVerdict lytVerdictOf(ClytRuleKind kind, ClytTested result)
+{
+    return verdicts[static_cast<size_t>(kind)].ofResult[static_cast<size_t>(result)];
+}
+
+bool lytHoldsAtEnd(ClytRuleKind kind)
+{
+    return verdicts[static_cast<size_t>(kind)].atEnd;
+}

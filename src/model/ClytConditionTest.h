@@ -1,0 +1,48 @@
+// How rules go through their conditions.
+#pragma once
+
+#include "environment/ClytException.h"
+#include "model/ClytCtrlValList.h"
+#include "model/ClytObserver.h"
+
+// What has conditions.
+enum class ClytRuleKind
+{
+    State,
+    Event,
+    Output,
+    Input
+};
+
+// What the result of a test means for the rule.
+enum class ClytVerdict
+{
+    Next, // the next condition decides
+    Holds,
+    Fails,
+    Raises // 245
+};
+
+// Tests one condition as a rule of that kind does.
+ClytTested lytTest(const ClytCtrlValList& condition, ClytRuleKind kind);
+ClytVerdict lytVerdictOf(ClytRuleKind kind, ClytTested result);
+// When no condition has decided.
+bool lytHoldsAtEnd(ClytRuleKind kind);
+
+// Goes through the conditions of a rule until one decides, and tells of each that it has tested.
+template <class TELL>
+bool lytConditionsHold(const ClytConditions& conditions, ClytRuleKind kind, TELL tell)
+{
+    for (POSITION place = conditions.GetHeadPosition(); place != nullptr;)
+    {
+        const ClytCtrlValList& condition = *conditions.GetNext(place);
+        const ClytTested result = lytTest(condition, kind);
+        tell(condition, result);
+        const ClytVerdict verdict = lytVerdictOf(kind, result);
+        if (verdict == ClytVerdict::Raises)
+            lytRaise("245", CString(), condition.GetName());
+        if (verdict != ClytVerdict::Next)
+            return verdict == ClytVerdict::Holds;
+    }
+    return lytHoldsAtEnd(kind);
+}
