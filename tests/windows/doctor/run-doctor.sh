@@ -9,10 +9,12 @@ cases=$3
 expected=$4
 here=$(cd "$(dirname "$0")" && pwd)
 folder=$(mktemp -d) || exit 2
+# shellcheck disable=SC2034  # for the cases
 key='HKLM\SOFTWARE\Microsoft\Windows\CurrentVersion\App Paths\Winword.exe'
 trap 'rm -rf "$folder"' EXIT
 
 winpath() { echo "Z:$PWD/$1" | tr / '\\'; }
+# shellcheck disable=SC2034  # for the cases
 initKey='HKCR\LYTDOCUMENT\shell\open\IniPath'
 # register KEY TEXT [CREATED]: enters the default value of a key until the case is done. CREATED is the first key on the
 # way to it that was not there before.
@@ -62,7 +64,7 @@ findings() { awk 'BEGIN { chosen = 1 } /^[a-z]/ { chosen = !/^(good|note) / } ch
 grep -v '^#' "$cases" >"$folder/cases"
 while IFS='|' read -r name breach words; do
     name=${name% }
-    [ "$name" = good ] && choose=cat || choose=findings
+    [ "$name" = good ] && choose="cat" || choose="findings"
     mkdir "$folder/deployed" && cd "$folder/deployed" || exit 2
     cp "$bin"/lytcall.exe "$bin"/lytdlg.exe "$bin"/lyt64.dll "$bin"/lytsrc.dll "$bin"/lytdata.dll .
     mkdir samples && cp -r "$here/../../../samples/dialogs" "$here/../../../samples/init" samples

@@ -8,6 +8,7 @@ shift
 rm -rf "$folder"
 mkdir -p "$folder" || exit
 for transcript in "$@"; do
+    # shellcheck disable=SC2034  # for the commands
     HERE=$(dirname "$transcript")
     area=$(basename "$transcript" .t)
     (

@@ -34,6 +34,7 @@ spoil() {
 ansi() { printf '%s' "$1" | iconv -f UTF-8 -t CP1252; }
 
 run() {
+    # shellcheck disable=SC2086  # a list of words
     "$wine_run" "$lytcall" symbol "$key" --dialogs dialogs --init . --script steps $words >output
     echo "exit = $?" >>output
 }
