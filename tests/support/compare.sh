@@ -1,13 +1,17 @@
 #!/bin/sh
-# compare.sh EXPECTED PROGRAM...: runs the program and compares its output, line by line, with the file. With LYT_UPDATE set
-# it writes the file instead.
+# compare.sh [--before TEXT] EXPECTED PROGRAM...: runs the program and compares its output, line by line, with the file, or
+# with what stands before the first line that begins with the text. With LYT_UPDATE set it writes the whole file instead.
+before=
+[ "$1" != --before ] || { before=$2; shift 2; }
 expected=$1
 shift
-actual=$(mktemp) || exit 97
-trap 'rm -f "$actual"' EXIT
-"$@" >"$actual" || { cat "$actual"; exit 1; }
-if [ -n "${LYT_UPDATE:-}" ]; then
-    cp "$actual" "$expected"
+folder=$(mktemp -d) || exit 97
+trap 'rm -rf "$folder"' EXIT
+"$@" >"$folder/actual" || { cat "$folder/actual"; exit 1; }
+if [ -n "$before" ]; then
+    sed "/^$before/,\$d" "$expected" | diff -U5 - "$folder/actual"
+elif [ -n "${LYT_UPDATE:-}" ]; then
+    cp "$folder/actual" "$expected"
 else
-    diff -U5 "$expected" "$actual"
+    diff -U5 "$expected" "$folder/actual"
 fi

@@ -1,6 +1,7 @@
 #include "lytcall/Session.h"
 
 #include "lytcall/ScriptRunner.h"
+#include "robot/Patience.h"
 
 #include <cstdio>
 
@@ -11,7 +12,7 @@ namespace
 {
 
 constexpr int defaultSize = 1024;
-constexpr int defaultPatience = 10;
+constexpr unsigned defaultPatience = 10;
 // Some functions write one byte beyond the stated size.
 constexpr size_t roomBehind = 16;
 
@@ -83,7 +84,7 @@ std::vector<char> Session::Buffer(const char* sizeOption) const
 int Session::WithWindows(const std::function<int()>& call) const
 {
     ScriptRunner runner(m_request.Text("--script", ""), m_request.Text("--shot", ""),
-                        m_request.Number("--limit", defaultPatience));
+                        m_request.Number("--limit", static_cast<int>(robot::Patience(defaultPatience))));
     // Whoever looks at a window wants to see first what it was opened with.
     std::fflush(stdout);
     const int result = call();

@@ -1,5 +1,7 @@
 #include "robot/WindowRobot.h"
 
+#include "robot/Patience.h"
+
 #include <algorithm>
 #include <stdexcept>
 #include <utility>
@@ -244,7 +246,7 @@ int SelectedItemOf(HWND list)
 
 Robot::Robot(UINT limitInMilliseconds)
     : m_timer(SetTimer(nullptr, 0, tickMilliseconds, Tick)),
-      m_deadline(GetTickCount64() + limitInMilliseconds),
+      m_deadline(GetTickCount64() + Patience(limitInMilliseconds)),
       m_previous(std::exchange(current, this))
 {
     BeginAct();

@@ -69,7 +69,7 @@ int SelectedItemOf(HWND list);
 class Robot
 {
 public:
-    // Gives up after the limit: closes every dialog of the thread, so that the call under test comes back.
+    // Gives up after the limit times LYT_PATIENCE: closes every dialog of the thread, so that the call under test comes back.
     explicit Robot(UINT limitInMilliseconds = 20000);
     Robot(const Robot&) = delete;
     Robot& operator=(const Robot&) = delete;

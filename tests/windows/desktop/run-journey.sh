@@ -30,11 +30,11 @@ complain() {
     exit 1
 }
 
-# until_done COMPLAINT COMMAND...: tries the command again and again, for a minute at most.
+# until_done COMPLAINT COMMAND...: tries the command again and again, for a minute at most, LYT_PATIENCE times.
 until_done() {
     complaint=$1
     shift
-    deadline=$(($(date +%s) + 60))
+    deadline=$(($(date +%s) + 60 * ${LYT_PATIENCE:-1}))
     until "$@" >/dev/null 2>&1; do
         [ "$(date +%s)" -lt $deadline ] || complain "$complaint"
         sleep 0.05

@@ -6,11 +6,6 @@
 namespace
 {
 
-// Enough for a block that each round leaves behind to stand out from the state of the heap's caches.
-constexpr int rounds = 100;
-// More than a process has thread-local slots.
-constexpr int loads = 1200;
-
 class Unloading : public testing::Test
 {
 protected:
@@ -39,7 +34,7 @@ protected:
     // The same for a call that shows one dialog after another, each of which is confirmed.
     void CycleWithDialogs(int dialogs, const std::function<void(const FreshLibrary&)>& call) const
     {
-        Cycle(rounds,
+        Cycle(Holdings::Rounds(),
               [&](const FreshLibrary& library)
               {
                   // A robot a round: its log would grow.
@@ -59,7 +54,7 @@ protected:
 
 TEST_F(Unloading, AfterATextLeavesNothingBehind)
 {
-    Cycle(loads,
+    Cycle(12 * Holdings::Rounds(),
           [&](const FreshLibrary& library) {
               EXPECT_EQ(library.Get<decltype(lytGetTextForKey)>("lytGetTextForKey")("Buttons", "001", "", buffer, 200),
                         1);
@@ -68,7 +63,7 @@ TEST_F(Unloading, AfterATextLeavesNothingBehind)
 
 TEST_F(Unloading, AfterALogLeavesNothingBehind)
 {
-    Cycle(rounds, [](const FreshLibrary& library)
+    Cycle(Holdings::Rounds(), [](const FreshLibrary& library)
           { library.Get<decltype(lytWriteToLogFile)>("lytWriteToLogFile")("text", 1); });
     EXPECT_TRUE(folder.Has("doc.log"));
 }
@@ -86,7 +81,7 @@ TEST_F(Unloading, AfterAPropertyDialogLeavesNothingBehind)
 TEST_F(Unloading, AfterADialogThatFailsLeavesNothingBehind)
 {
     folder.Write("lytInSym.dlg", "no version\n");
-    Cycle(rounds,
+    Cycle(Holdings::Rounds(),
           [&](const FreshLibrary& library)
           {
               robot::Robot user;
@@ -111,7 +106,7 @@ TEST_F(Unloading, AfterAWizardLeavesNothingBehind)
 
 TEST_F(Unloading, AfterAReportLeavesNothingBehind)
 {
-    Cycle(rounds,
+    Cycle(Holdings::Rounds(),
           [&](const FreshLibrary& library)
           {
               EXPECT_EQ(library.Get<decltype(lytSystemInfoInit)>("lytSystemInfoInit")(folder.Path().c_str()), 1);

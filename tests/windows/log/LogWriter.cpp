@@ -8,6 +8,7 @@
 #include "lyt64.h"
 
 #include "environment/ClytException.h"
+#include "robot/Patience.h"
 #include "support/ImportHook.h"
 
 #include <cerrno>
@@ -41,7 +42,7 @@ void Pause()
 {
     constexpr DWORD limit = 60000;
     SetEvent(OpenEventOf("lyt-log-paused"));
-    WaitForSingleObject(OpenEventOf("lyt-log-go"), limit);
+    WaitForSingleObject(OpenEventOf("lyt-log-go"), robot::Patience(limit));
 }
 
 // Stands before every operation.

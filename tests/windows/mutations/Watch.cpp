@@ -1,11 +1,13 @@
 #include "Watch.h"
 
+#include "robot/Patience.h"
+
 #include <cstdio>
 
 namespace
 {
 
-constexpr ULONGLONG limit = 180000; // milliseconds; a robot gives up earlier, when windows still listen
+constexpr unsigned limit = 180000; // milliseconds; a robot gives up earlier, when windows still listen
 constexpr DWORD step = 1000;
 constexpr UINT hungCode = 3;
 
@@ -40,7 +42,7 @@ DWORD WINAPI Watch::Run(void* watch)
     auto* const self = static_cast<Watch*>(watch);
     while (WaitForSingleObject(self->m_end, step) == WAIT_TIMEOUT)
     {
-        if (GetTickCount64() - self->m_began < limit)
+        if (GetTickCount64() - self->m_began < robot::Patience(limit))
             continue;
         std::printf("case %u does not come back\n", current.load());
         TerminateProcess(GetCurrentProcess(), hungCode);

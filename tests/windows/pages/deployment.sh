@@ -7,7 +7,7 @@ folder=$(mktemp -d) || exit 2
 cd "$folder" || exit 2
 bad=0
 . "$here/rows.sh"
-drive=$build/wine/drive_c
+drive=$("$build/wine-run.sh" --prefix)/drive_c
 samples=$here/../../../samples
 deployment_page=$here/../../../docs/deployment.md
 

@@ -9,6 +9,10 @@
 class Holdings
 {
 public:
+    // How often something is done that must leave nothing behind: a hundred times, and over real windows ten times, since
+    // they take minutes. LYT_LONG_RUN in the environment asks for the hundred there as well.
+    static int Rounds();
+
     // Counts.
     Holdings();
 

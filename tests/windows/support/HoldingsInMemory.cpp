@@ -6,6 +6,11 @@
 
 #include <malloc.h>
 
+int Holdings::Rounds()
+{
+    return 100;
+}
+
 Holdings::Holdings() : m_heapBytes(mallinfo2().uordblks)
 {
     m_counted[windows] = platform::CountWindows();

@@ -1,6 +1,8 @@
 // What the platform itself has no count of is found by looking at every handle that there can be.
 #include "support/Holdings.h"
 
+#include <cstdlib>
+
 #include <malloc.h>
 #include <windows.h>
 
@@ -187,6 +189,11 @@ size_t ActivationContextsOn()
 }
 
 } // namespace
+
+int Holdings::Rounds()
+{
+    return std::getenv("LYT_LONG_RUN") != nullptr ? 100 : 10;
+}
 
 Holdings::Holdings()
 {

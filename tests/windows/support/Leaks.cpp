@@ -1,7 +1,5 @@
 #include "support/Leaks.h"
 
-#include "support/Holdings.h"
-
 #include <gtest/gtest.h>
 
 void ExpectNoGrowth(const std::function<void()>& once, int rounds)
