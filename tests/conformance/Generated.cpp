@@ -6,9 +6,9 @@
 #include "dialog/ClytDialog.h"
 #include "environment/ClytEnvironment.h"
 #include "environment/ProcessState.h"
+#include "support/Dice.h"
 #include "tree/ClytNode.h"
 
-#include <random>
 #include <regex>
 
 namespace
@@ -152,7 +152,7 @@ public:
           m_isShown(isShown),
           m_isPlain(number / std::size(samples) % 2 == 0),
           m_sample(samples[number % std::size(samples)]),
-          m_random(number)
+          m_dice(number)
     {
     }
 
@@ -160,8 +160,7 @@ public:
     {
         lytWizardGroup.Empty();
         ClytDialog dialog = DialogOf(m_sample.file, m_sample.input);
-        const unsigned acts = 2 + Any(12);
-        for (unsigned act = 0; act < acts; ++act)
+        for (size_t acts = 2 + m_dice.Below(12); acts > 0; --acts)
             Step([this] { Act(robot::ActiveDialog()); });
         // Then all is confirmed, and what is not is cancelled.
         for (const int button : {IDOK, IDOK, IDCANCEL, IDCANCEL, IDCANCEL, IDCANCEL})
@@ -204,13 +203,6 @@ private:
     {
         const size_t end = composed.find(")/1");
         return end != std::string::npos ? composed.substr(0, end + 1) : composed;
-    }
-
-    unsigned Any(size_t count) { return static_cast<unsigned>(m_random() % count); }
-    template <class CHOICE, size_t COUNT>
-    CHOICE OneOf(const CHOICE (&choices)[COUNT])
-    {
-        return choices[Any(COUNT)];
     }
 
     void Step(std::function<void()> act)
@@ -259,19 +251,19 @@ private:
         }
         robot::BeginAct();
         const std::vector<HWND> children = robot::ChildrenOf(dialog);
-        const unsigned place = Any(children.size());
+        const size_t place = m_dice.Below(children.size());
         using Doing = void (Sequence::*)(HWND);
         static constexpr Doing onChildren[] = {&Sequence::Focus,      &Sequence::Click,   &Sequence::Choose,
                                                &Sequence::Choose,     &Sequence::Replace, &Sequence::Replace,
                                                &Sequence::DoubleClick};
         static constexpr Doing onFocus[] = {&Sequence::StrikeKey, &Sequence::StrikeKey, &Sequence::TypeLetters,
                                             &Sequence::StrikeMnemonic};
-        if (Any(2) == 0)
+        if (m_dice.Is(2))
         {
-            (this->*OneOf(onFocus))(dialog);
+            (this->*m_dice.Of(onFocus))(dialog);
             return;
         }
-        const Doing doing = OneOf(onChildren);
+        const Doing doing = m_dice.Of(onChildren);
         Tell("child " + std::to_string(place + 1));
         if (IsInReach(children[place]))
             (this->*doing)(children[place]);
@@ -292,14 +284,14 @@ private:
     {
         Tell("double click");
         if (IsClass(child, "ListBox"))
-            robot::DoubleClickAt(child, 5, 5 + static_cast<int>(Any(40)));
+            robot::DoubleClickAt(child, 5, 5 + static_cast<int>(m_dice.Below(40)));
     }
     void Choose(HWND child)
     {
         const size_t count = IsList(child) ? robot::ItemsOf(child).size() : 0;
         Tell("choose of " + std::to_string(count));
         if (count != 0)
-            robot::SelectItem(child, static_cast<int>(Any(count)));
+            robot::SelectItem(child, static_cast<int>(m_dice.Below(count)));
         else if (IsClass(child, "Button"))
             robot::Press(child);
     }
@@ -307,7 +299,7 @@ private:
     {
         static constexpr const char* plain[] = {"", "volume", "0", "3", "roof.slates", "two"};
         static constexpr const char* any[] = {"a;b", "x(y)", "\"q\"", "m|n", "n=,2", "}", " c "};
-        const std::string text = m_isPlain ? OneOf(plain) : OneOf(any);
+        const std::string text = m_isPlain ? m_dice.Of(plain) : m_dice.Of(any);
         Tell("replace by " + text);
         const bool isCombo = IsClass(child, "ComboBox") && GetWindow(child, GW_CHILD) != nullptr;
         if (IsClass(child, "Edit") || (isCombo && !m_isPlain))
@@ -319,7 +311,7 @@ private:
     {
         static constexpr UINT keys[] = {VK_TAB,  VK_TAB, VK_DOWN,  VK_UP,    VK_LEFT,   VK_RIGHT,
                                         VK_HOME, VK_END, VK_SPACE, VK_SPACE, VK_RETURN, VK_ESCAPE};
-        const UINT key = OneOf(keys);
+        const UINT key = m_dice.Of(keys);
         Tell("key " + std::to_string(key));
         if (key != VK_SPACE || MayType())
             robot::PressKey(key);
@@ -328,14 +320,14 @@ private:
     {
         static constexpr const char* plain[] = {"a", "t", "5", "\b", "\b\b"};
         static constexpr const char* any[] = {";", "(b", ")", " ", "\\n"};
-        const std::string text = m_isPlain ? OneOf(plain) : OneOf(any);
+        const std::string text = m_isPlain ? m_dice.Of(plain) : m_dice.Of(any);
         Tell("type " + text);
         if (MayType())
             robot::TypeText(text);
     }
     void StrikeMnemonic(HWND /*dialog*/)
     {
-        const char letter = static_cast<char>('a' + Any(26));
+        const char letter = static_cast<char>('a' + m_dice.Below(26));
         Tell(std::string("mnemonic ") + letter);
         robot::PressMnemonic(letter);
     }
@@ -344,7 +336,7 @@ private:
     bool m_isShown;
     bool m_isPlain; // nothing is typed that a scan takes for a separator
     const Sample& m_sample;
-    std::mt19937 m_random;
+    Dice m_dice;
     robot::Robot m_robot{20000};
     Digest m_digest;
     bool m_isConfirmed = false;

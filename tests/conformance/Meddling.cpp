@@ -3,9 +3,7 @@
 #include "Stage.h"
 
 #include "res/resource.h"
-
-#include <iterator>
-#include <random>
+#include "support/Dice.h"
 
 namespace
 {
@@ -36,7 +34,7 @@ private:
 class Meddling
 {
 public:
-    explicit Meddling(unsigned number) : m_random(number)
+    explicit Meddling(unsigned number) : m_dice(number)
     {
         m_stage.Edit(firstId);
         m_stage.Static(11, "&Label");
@@ -64,8 +62,7 @@ public:
 
     void Run()
     {
-        const unsigned acts = 4 + Any(12);
-        for (unsigned act = 0; act < acts; ++act)
+        for (size_t acts = 4 + m_dice.Below(12); acts > 0; --acts)
             m_stage.Act("act", [this] { Act(); });
         // Whatever is up comes down.
         for (int time = 0; time < 3; ++time)
@@ -80,14 +77,8 @@ public:
     }
 
 private:
-    unsigned Any(size_t count) { return static_cast<unsigned>(m_random() % count); }
-
     // A child of the dialog on top.
-    HWND Child()
-    {
-        const std::vector<HWND> children = robot::ChildrenOf(robot::ActiveDialog());
-        return children[Any(children.size())];
-    }
+    HWND Child() { return m_dice.Of(robot::ChildrenOf(robot::ActiveDialog())); }
 
     void Act()
     {
@@ -100,34 +91,34 @@ private:
         static constexpr Doing doings[] = {&Meddling::Show, &Meddling::Show,  &Meddling::Enable, &Meddling::Enable,
                                            &Meddling::Mark, &Meddling::Focus, &Meddling::Click,  &Meddling::Click,
                                            &Meddling::Key,  &Meddling::Key,   &Meddling::Key,    &Meddling::Tell};
-        (this->*doings[Any(std::size(doings))])();
+        (this->*m_dice.Of(doings))();
     }
 
     void Show()
     {
         const HWND child = Child();
-        const bool isOn = Any(3) == 0;
+        const bool isOn = m_dice.Is(3);
         Print("show %d %d", ::GetDlgCtrlID(child), isOn);
         ::ShowWindow(child, isOn ? SW_SHOW : SW_HIDE);
     }
     void Enable()
     {
         const HWND child = Child();
-        const bool isOn = Any(3) == 0;
+        const bool isOn = m_dice.Is(3);
         Print("enable %d %d", ::GetDlgCtrlID(child), isOn);
         ::EnableWindow(child, isOn ? TRUE : FALSE);
     }
     void Mark()
     {
-        const int id = 13 + static_cast<int>(Any(4));
-        const unsigned mark = Any(2);
+        const int id = 13 + static_cast<int>(m_dice.Below(4));
+        const auto mark = static_cast<unsigned>(m_dice.Below(2));
         Print("mark %d %u", id, mark);
         ::SendMessageA(::GetDlgItem(m_stage.m_hWnd, id), BM_SETCHECK, mark, 0);
     }
     void Focus()
     {
         const HWND child = Child();
-        const bool isByDialog = Any(2) == 0;
+        const bool isByDialog = m_dice.Is(2);
         Print("focus %d %d", ::GetDlgCtrlID(child), isByDialog);
         if (isByDialog)
             robot::Focus(child);
@@ -137,7 +128,7 @@ private:
     void Click()
     {
         const HWND child = Child();
-        const bool isByMouse = Any(2) == 0;
+        const bool isByMouse = m_dice.Is(2);
         Print("click %d %d", ::GetDlgCtrlID(child), isByMouse);
         if (!isByMouse)
             robot::Press(child);
@@ -147,7 +138,7 @@ private:
     void Key()
     {
         static constexpr UINT keys[] = {VK_TAB, VK_TAB, VK_DOWN, VK_UP, VK_SPACE, VK_RETURN, 'P', 'S', 'T', 'O', 'L'};
-        const UINT key = keys[Any(std::size(keys))];
+        const UINT key = m_dice.Of(keys);
         Print("key %u", key);
         if (key < 'A')
             robot::PressKey(key);
@@ -160,7 +151,7 @@ private:
         ::AfxMessageBox("told");
     }
 
-    std::mt19937 m_random;
+    Dice m_dice;
     Stage m_stage{"Meddling"};
 };
 

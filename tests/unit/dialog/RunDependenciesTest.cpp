@@ -2,10 +2,10 @@
 
 #include "base/Counted.h"
 #include "support/DataFunction.h"
+#include "support/Dice.h"
 
 #include <algorithm>
 #include <array>
-#include <random>
 #include <vector>
 
 namespace
@@ -42,11 +42,13 @@ class UnlimitedNesting
 {
 public:
     // A chain through all fields in an order of its own, each with one more field that sets it off.
-    UnlimitedNesting(int fields, unsigned seed) : texts(fields), saved(fields), random(seed)
+    UnlimitedNesting(int fields, unsigned seed) : texts(fields), saved(fields)
     {
+        Dice dice(seed);
         for (int index = 1; index < fields; ++index)
-            rules.push_back({.target = index, .sources = {index - 1, static_cast<int>(random() % fields)}});
-        std::shuffle(rules.begin(), rules.end(), random);
+            rules.push_back({.target = index, .sources = {index - 1, static_cast<int>(dice.Below(fields))}});
+        for (size_t index = rules.size(); index > 1; --index)
+            std::swap(rules[index - 1], rules[dice.Below(index)]);
     }
 
     std::string Description() const
@@ -91,7 +93,6 @@ private:
 
     std::vector<Rule> rules;
     std::vector<std::string> saved;
-    std::mt19937 random;
     int runs = 0;
     int fills = 0;
 };

@@ -3,73 +3,17 @@
 #include "lytdlg/judge/LibraryVerdict.h"
 #include "lytdlg/judge/Report.h"
 #include "lytdlg/text/TextFile.h"
+#include "support/Mutations.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <cstdint>
 #include <set>
 
 namespace
 {
 
 using namespace lytdlg;
-
-// The same numbers on every machine.
-class Chance
-{
-public:
-    size_t Below(size_t limit)
-    {
-        m_state = m_state * 6364136223846793005U + 1442695040888963407U;
-        return static_cast<size_t>(m_state >> 33U) % limit;
-    }
-
-private:
-    uint64_t m_state = 20;
-};
-
-std::vector<std::string> Lines(const std::string& text)
-{
-    std::vector<std::string> lines;
-    for (size_t start = 0; start < text.size();)
-    {
-        const size_t end = std::min(text.find('\n', start), text.size() - 1) + 1;
-        lines.push_back(text.substr(start, end - start));
-        start = end;
-    }
-    return lines;
-}
-
-std::string MutatedInLines(const std::string& text, Chance& chance)
-{
-    std::vector<std::string> lines = Lines(text);
-    const size_t line = chance.Below(lines.size());
-    const size_t other = chance.Below(lines.size());
-    switch (chance.Below(3))
-    {
-    case 0: lines.erase(lines.begin() + static_cast<std::ptrdiff_t>(line)); break;
-    case 1: lines.insert(lines.begin() + static_cast<std::ptrdiff_t>(line), lines[other]); break;
-    default: std::swap(lines[line], lines[other]);
-    }
-    std::string mutated;
-    for (const std::string& each : lines)
-        mutated += each;
-    return mutated;
-}
-
-std::string MutatedInBytes(std::string text, Chance& chance)
-{
-    static const std::string bytes = "=,:;()/\"\t\n $.<>[|%\\xA0" + std::string("\x1A\0\xFC", 3);
-    const size_t place = chance.Below(text.size());
-    switch (chance.Below(3))
-    {
-    case 0: text.erase(place, 1); break;
-    case 1: text.insert(place, 1, bytes[chance.Below(bytes.size())]); break;
-    default: text[place] = bytes[chance.Below(bytes.size())];
-    }
-    return text;
-}
 
 struct Verdict
 {
@@ -115,13 +59,11 @@ bool HasNumberAtItsLine(const Verdict& verdict)
 template <class Act>
 void ForEachMutation(Act act)
 {
-    const std::vector<std::string> texts = SampleDescriptions();
-    Chance chance;
-    for (int count = 0; count < LYT_MUTATIONS; ++count)
+    const Mutations mutations(SampleDescriptions());
+    for (unsigned number = 0; number < LYT_MUTATIONS; ++number)
     {
-        SCOPED_TRACE(count);
-        const std::string& bytes = texts[chance.Below(texts.size())];
-        act(chance.Below(2) == 0 ? MutatedInLines(bytes, chance) : MutatedInBytes(bytes, chance));
+        SCOPED_TRACE(number);
+        act(mutations.Changed(number, 1));
     }
 }
 

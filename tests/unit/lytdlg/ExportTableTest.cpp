@@ -2,10 +2,9 @@
 #include "LibraryFile.h"
 
 #include "lytdlg/judge/ExportTable.h"
+#include "support/Dice.h"
 
 #include <gtest/gtest.h>
-
-#include <random>
 
 namespace
 {
@@ -64,14 +63,13 @@ TEST(ExportTable, EndsWithTheFileWhereverThatIsCut)
 
 TEST(ExportTable, TakesAnyBytesForNumbers)
 {
-    std::mt19937 random(1);
-    std::uniform_int_distribution<int> byte(0, 255);
+    Dice dice(1);
     const std::string library = LibraryFile({"LookUp", "NextItem", "OpenList"});
     for (int round = 0; round < 20000; ++round)
     {
         std::vector<char> bytes(library.begin(), library.end());
         for (int change = 0; change < 4; ++change)
-            bytes[std::uniform_int_distribution<size_t>(2, bytes.size() - 1)(random)] = static_cast<char>(byte(random));
+            bytes[2 + dice.Below(bytes.size() - 2)] = static_cast<char>(dice.Below(256));
         EXPECT_LE(ReadExports({bytes.data(), bytes.size()}).names.size(), bytes.size());
     }
 }

@@ -2,10 +2,10 @@
 #include <afxcmn.h>
 
 #include "native/TreeItems.h"
+#include "support/Dice.h"
 
 #include <gtest/gtest.h>
 
-#include <random>
 #include <vector>
 
 namespace
@@ -49,14 +49,14 @@ void ExpectRows(const TreeItems& items, size_t last)
 
 TEST(TreeItems, HaveTheRowsThatNoCollapsedItemHides)
 {
-    std::mt19937 random(1);
+    Dice dice(1);
     TreeItems items;
     size_t last = 0;
     for (int round = 0; round < 300; ++round)
     {
-        last = items.Insert(random() % (last + 1), "x", 0);
-        const size_t changed = 1 + random() % last;
-        items.SetState(changed, random() % 3 != 0 ? UINT{TVIS_EXPANDED} : 0U);
+        last = items.Insert(dice.Below(last + 1), "x", 0);
+        const size_t changed = 1 + dice.Below(last);
+        items.SetState(changed, dice.Is(3) ? 0U : UINT{TVIS_EXPANDED});
         ExpectRows(items, last);
     }
     items.Clear();
