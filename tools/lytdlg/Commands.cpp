@@ -2,16 +2,6 @@
 
 #include "commandline/Text.h"
 #include "lytdlg/doctor/Diagnosis.h"
-#include "lytdlg/doctor/DoctorCommand.h"
-#include "lytdlg/draw/GraphCommand.h"
-#include "lytdlg/draw/PreviewCommand.h"
-#include "lytdlg/text/FmtCommand.h"
-#include "lytdlg/text/NewCommand.h"
-#include "lytdlg/text/TextsCommand.h"
-#include "lytdlg/try/RunCommand.h"
-#include "lytdlg/try/ScanCommands.h"
-#include "lytdlg/try/TestCommand.h"
-#include "lytdlg/try/WhyCommand.h"
 
 #include <afx.h>
 

@@ -23,6 +23,18 @@ struct Command
 };
 
 Command CheckCommand();
+Command RunCommand();
+Command ScanCommand();
+Command ComposeCommand();
+Command RoundtripCommand();
+Command WhyCommand();
+Command TestCommand();
+Command FmtCommand();
+Command TextsCommand();
+Command NewCommand();
+Command PreviewCommand();
+Command GraphCommand();
+Command DoctorCommand();
 
 // Every command, in the order of the help.
 const std::vector<Command>& Commands();

@@ -82,7 +82,7 @@ private:
 };
 
 // The one that lies least deep stands first.
-bool IsBefore(const fs::path& left, const fs::path& right)
+bool IsPathBefore(const fs::path& left, const fs::path& right)
 {
     const auto depthOf = [](const fs::path& path) { return std::distance(path.begin(), path.end()); };
     return depthOf(left) != depthOf(right) ? depthOf(left) < depthOf(right) : left < right;
@@ -90,7 +90,7 @@ bool IsBefore(const fs::path& left, const fs::path& right)
 
 Piece PieceOf(std::vector<fs::path> found)
 {
-    std::ranges::sort(found, IsBefore);
+    std::ranges::sort(found, IsPathBefore);
     if (found.empty())
         return {};
     return {found.front(), {found.begin() + 1, found.end()}};
@@ -155,7 +155,7 @@ Deployment FindDeployment(const Request& request)
     deployment.hiddenEndings = std::move(finder.hiddenEndings);
     deployment.tooLong = std::move(finder.tooLong);
     deployment.checksums = std::move(finder.checksums);
-    std::ranges::sort(deployment.libraries, IsBefore);
+    std::ranges::sort(deployment.libraries, IsPathBefore);
     deployment.document = request.Text("--document", "");
     deployment.defines = request.Texts("--define");
     deployment.host = request.Has("--host") ? Host{PathOf(request.Text("--host", "")), true} : HostOfWorkstation();

@@ -24,7 +24,7 @@ constexpr size_t toldAlready = 0;
 
 using ObservedKind = std::tuple<Verdict, std::string, std::string>;
 
-ObservedKind KindOf(const Observation& observation)
+ObservedKind ObservedKindOf(const Observation& observation)
 {
     return {observation.verdict, observation.about, observation.kind};
 }
@@ -100,10 +100,10 @@ void PrintAsText(const Diagnosis& diagnosis)
 {
     std::map<ObservedKind, size_t> counts;
     for (const Observation& observation : diagnosis.All())
-        ++counts[KindOf(observation)];
+        ++counts[ObservedKindOf(observation)];
     for (const Observation& observation : diagnosis.All())
     {
-        size_t& count = counts[KindOf(observation)];
+        size_t& count = counts[ObservedKindOf(observation)];
         const bool isOneOfMany = !observation.kind.empty() && (count > mostOfAKind || count == toldAlready);
         if (isOneOfMany && count == toldAlready)
             continue;

@@ -39,7 +39,7 @@ void JudgeReadable(const std::filesystem::path& folder, Diagnosis& diagnosis)
 // The texts of the library are judged by themselves.
 bool IsToldElsewhere(const Finding& finding)
 {
-    return finding.rule->level == Level::Note || std::string(finding.rule->id) == "message-differs";
+    return finding.rule->level == Level::Note || finding.rule->id == "message-differs";
 }
 
 void JudgeDescription(const Description& description, const Surroundings& surroundings, Diagnosis& diagnosis)

@@ -1,4 +1,4 @@
-#include "lytdlg/doctor/DoctorCommand.h"
+#include "lytdlg/Commands.h"
 
 #include "commandline/Suggestion.h"
 #include "lytdlg/doctor/Checks.h"

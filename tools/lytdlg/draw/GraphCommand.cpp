@@ -1,4 +1,4 @@
-#include "lytdlg/draw/GraphCommand.h"
+#include "lytdlg/Commands.h"
 
 #include "lytdlg/draw/Graphs.h"
 #include "lytdlg/draw/Output.h"

@@ -1,4 +1,4 @@
-#include "lytdlg/draw/PreviewCommand.h"
+#include "lytdlg/Commands.h"
 
 #include "commandline/Text.h"
 #include "lytdlg/draw/Output.h"

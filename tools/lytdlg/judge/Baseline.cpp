@@ -22,8 +22,7 @@ std::string KeyOf(const Finding& finding, const Description& description)
     std::ranges::replace(path, '\\', '/');
     const std::string& line = LineOf(finding, description);
     const size_t start = std::min(line.find_first_not_of(" \t"), line.size());
-    return std::string(finding.rule->id) + '\t' + path + '\t' +
-           line.substr(start, line.find_last_not_of(" \t") + 1 - start);
+    return finding.rule->id + '\t' + path + '\t' + line.substr(start, line.find_last_not_of(" \t") + 1 - start);
 }
 
 bool IsBaseline(const std::string& path)

@@ -3,7 +3,6 @@
 #include "lytdlg/Commands.h"
 #include "lytdlg/judge/Baseline.h"
 #include "lytdlg/judge/Report.h"
-#include "lytdlg/judge/RuleTexts.h"
 #include "lytdlg/text/DescriptionPaths.h"
 #include "lytdlg/text/Paths.h"
 
@@ -110,12 +109,7 @@ ExitCode Explain(const std::string& id)
 {
     const Rule* rule = FindRule(id);
     if (rule == nullptr)
-    {
-        const std::string nearest = commandline::Nearest(id, RuleNames());
-        throw commandline::UsageError(
-            "there is no rule \"" + id + "\"; " +
-            (nearest.empty() ? "`lytdlg check --rules` lists them" : "did you mean \"" + nearest + "\"?"));
-    }
+        throw commandline::UsageError("there is no rule \"" + id + "\"; " + HintForRule(id));
     std::fputs(Explanation(*rule).c_str(), stdout);
     return good;
 }

@@ -59,7 +59,7 @@ bool IsKnown(const std::string& word, ValueWords known)
            (known == ValueWords::Null && lytMeans<ClytValueWord::Null>(word.c_str()));
 }
 
-void JudgeValueWord(const Case& judged, const Rule& rule, const std::string& value, const std::string& meant,
+void JudgeValueWord(const Case& judged, RuleName rule, const std::string& value, const std::string& meant,
                     const ClytSpan& place, ValueWords known)
 {
     if (!IsKnown(meant, known))
@@ -145,7 +145,7 @@ bool AlwaysHolds(const Description& description, const ClytCtrlValList& conditio
     return isChosen && std::ranges::all_of(*description.Index().PossibleValuesOf(*control), isAsked);
 }
 
-void JudgeValues(const Case& judged, const Rule& rule, const ClytCtrlValList& condition, ValueWords known)
+void JudgeValues(const Case& judged, RuleName rule, const ClytCtrlValList& condition, ValueWords known)
 {
     const Description& description = judged.description;
     const std::string name = condition.GetName().GetString();
@@ -167,7 +167,7 @@ void JudgeValues(const Case& judged, const Rule& rule, const ClytCtrlValList& co
     }
 }
 
-void JudgeReadControl(const Case& judged, const Rule& rule, const std::string& name, const ClytSpan& place)
+void JudgeReadControl(const Case& judged, RuleName rule, const std::string& name, const ClytSpan& place)
 {
     const ClytControlStatement* control = judged.description.FindControl(name);
     if (control == nullptr)

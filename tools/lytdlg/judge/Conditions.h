@@ -25,8 +25,8 @@ enum class ValueWords
 };
 
 // Tells of the values that the control of a condition can never have.
-void JudgeValues(const Case& judged, const Rule& rule, const ClytCtrlValList& condition, ValueWords known);
+void JudgeValues(const Case& judged, RuleName rule, const ClytCtrlValList& condition, ValueWords known);
 // Tells of a control whose value does not change with what the user does. The place is that of its name.
-void JudgeReadControl(const Case& judged, const Rule& rule, const std::string& name, const ClytSpan& place);
+void JudgeReadControl(const Case& judged, RuleName rule, const std::string& name, const ClytSpan& place);
 
 } // namespace lytdlg

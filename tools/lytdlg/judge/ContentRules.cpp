@@ -1,4 +1,4 @@
-#include "lytdlg/judge/ContentRules.h"
+#include "lytdlg/judge/Families.h"
 
 #include "lytdlg/judge/PlacedValue.h"
 
@@ -11,73 +11,6 @@ namespace lytdlg
 
 namespace
 {
-namespace content_rules
-{
-
-constexpr Rule itemTwice = {"item-twice",
-                            Level::Warning,
-                            "Two items of a list have the same value.",
-                            "A value leads to the first item that has it. The other can be chosen by the user only.",
-                            "$VALUES\nPlace: Attic = hall place",
-                            "$VALUES\nPlace: Attic = attic place"};
-
-constexpr Rule optionTwice = {"option-twice",
-                              Level::Warning,
-                              "Two options of a group have one value.",
-                              "A value leads to one of them only, and the result does not tell which was chosen.",
-                              "$VALUES\n-Long = l\n-Order = s\nLong = s\nOrder = s",
-                              "$VALUES\n-Long = l\nLong = l"};
-
-constexpr Rule optionValueless = {
-    "option-without-value",
-    Level::Warning,
-    "An option has no value, while others of its group have one.",
-    "The value of the group is that of the option that is chosen: of this one it is an empty text. Where that is\n"
-    "meant, give it the value \"\".",
-    "$VALUES\n-Long = l",
-    "$VALUES\n-Long = l\nLong = \"\""};
-
-constexpr Rule itemIsKey = {
-    "item-is-key",
-    Level::Warning,
-    "The value of an item of a list or check list is also the key of a text.",
-    "When all items of such a list go into a result, each is looked up once more in the dialog's texts, in\n"
-    "upper or lower case. One that is a key goes out as its text, in a check list without its mark.",
-    "$VALUES\nParts: Hall = hall",
-    "$VALUES\nParts: Hall = the hall"};
-
-constexpr Rule defaultUnknown = {
-    "default-unknown",
-    Level::Warning,
-    "No option has the value that its group begins with.",
-    "A group begins with the option whose value its statement names. When none has it, nothing is\n"
-    "chosen.",
-    "$VALUES\n-Order = s\nOrder = x",
-    "$VALUES\n-Order = s\nOrder = l"};
-
-constexpr Rule defaultEarly = {
-    "default-early",
-    Level::Warning,
-    "A group's statement stands above the value of its option.",
-    "A group looks for its option when the statement is read. Write it after the values of the\n"
-    "options.",
-    "$VALUES\n-Long = l\n-Order = s\nOrder = l\nLong = l",
-    "$VALUES\n-Long = l\n-Order = s\nLong = l\nOrder = l"};
-
-constexpr Rule checkDefault = {"check-default",
-                               Level::Error,
-                               "A check box begins with neither of its two texts.",
-                               "What a check box begins with is its ON or its OFF text. Anything else ends the dialog.",
-                               "$VALUES\n-Pictures = -\nPictures = x",
-                               "$VALUES\n-Pictures = -\nPictures = P"};
-
-constexpr Rule checkTexts = {
-    "check-texts",
-    Level::Warning,
-    "A check box lacks its ON or its OFF text, or the two are the same.",
-    "The value of a check box is its ON or its OFF text. One that is missing is an empty text.",
-    "$VALUES\n-Pictures: ON = P",
-    "$VALUES\n-Pictures: ON = P\nPictures: ON = P"};
 
 void JudgeItems(const Case& judged)
 {
@@ -89,14 +22,14 @@ void JudgeItems(const Case& judged)
             continue;
         const auto [first, isNew] = lines.emplace(std::pair(value.name, value.values.front()), value.span.line);
         if (!isNew)
-            judged.findings.Add(itemTwice, statement.PlaceOfValue(),
+            judged.findings.Add("item-twice", statement.PlaceOfValue(),
                                 "the item of line " + std::to_string(first->second) + " has the same value",
                                 "give each item a value of its own");
         const std::string section = judged.description.TextSection();
         const auto isKey = [&](const LanguageFile& file)
         { return file.Find(section, value.values.front()) != nullptr; };
         if (IsOpenList(statement.kind) && std::ranges::any_of(judged.surroundings.texts.Files(), isKey))
-            judged.findings.Add(itemIsKey, statement.PlaceOfValue(),
+            judged.findings.Add("item-is-key", statement.PlaceOfValue(),
                                 InQuotes(value.values.front()) + " is also a key of the section [" + section + "]",
                                 "give the item a value that is no key");
     }
@@ -106,7 +39,7 @@ void JudgeItems(const Case& judged)
 void JudgeOptionValue(const Case& judged, const ClytControlStatement& option)
 {
     const std::string name = option.name.GetString();
-    judged.findings.Add(optionValueless, judged.description.PlaceOf(option.span.line),
+    judged.findings.Add("option-without-value", judged.description.PlaceOf(option.span.line),
                         (name.empty() ? "this option" : InQuotes(name)) + std::string(" has no value"),
                         "add " + InQuotes((name.empty() ? "NAME" : name) + " = VALUE") + " to $VALUES");
 }
@@ -125,7 +58,7 @@ void JudgeOptions(const Case& judged, const std::string& group)
         }
         const auto [first, isNew] = lines.emplace(own->values.front(), own->span.line);
         if (!isNew)
-            judged.findings.Add(optionTwice, PlacedValue(judged, *own).PlaceOfValue(),
+            judged.findings.Add("option-twice", PlacedValue(judged, *own).PlaceOfValue(),
                                 "the option of line " + std::to_string(first->second) + " has the same value",
                                 "give each option a value of its own");
     }
@@ -160,11 +93,11 @@ void JudgeGroupDefaults(const Case& judged, const std::string& group)
         const std::string& begin = value->values.front();
         const auto own = owners.find(begin);
         if (own == owners.end())
-            judged.findings.Add(defaultUnknown, statement.PlaceOfValue(),
+            judged.findings.Add("default-unknown", statement.PlaceOfValue(),
                                 "no option of " + statement.Name() + " has the value " + InQuotes(begin),
                                 MeantOr(begin, values, "use the value of one of its options"));
         else if (own->second->span.line > value->span.line)
-            judged.findings.Add(defaultEarly, statement.PlaceOfValue(),
+            judged.findings.Add("default-early", statement.PlaceOfValue(),
                                 "the option gets this value in line " + std::to_string(own->second->span.line) +
                                     ", too late",
                                 "write the statement after the values of the options");
@@ -184,7 +117,7 @@ void JudgeCheckBox(const Case& judged, const std::string& name)
     {
         const PlacedValue statement(judged, *begin);
         judged.findings
-            .Add(checkDefault, statement.PlaceOfValue(),
+            .Add("check-default", statement.PlaceOfValue(),
                  InQuotes(text) + " is neither the ON nor the OFF text of " + InQuotes(name),
                  MeantOr(text, {textOf(on), textOf(off)}, "use one of the two texts"))
             .number = "236";
@@ -195,14 +128,14 @@ void JudgeCheckBox(const Case& judged, const std::string& name)
     if (begin == nullptr && on == nullptr && off == nullptr)
         return;
     if (on == nullptr || off == nullptr)
-        judged.findings.Add(checkTexts, place,
+        judged.findings.Add("check-texts", place,
                             InQuotes(name) + " has no " +
                                 (on != nullptr    ? "OFF text"
                                  : off != nullptr ? "ON text"
                                                   : "ON and no OFF text"),
                             "add " + InQuotes(name + (on != nullptr ? ": OFF = TEXT" : ": ON = TEXT")) + " to $VALUES");
     else if (textOf(on) == textOf(off))
-        judged.findings.Add(checkTexts,
+        judged.findings.Add("check-texts",
                             PlacedValue(judged, *(on->span.line > off->span.line ? on : off)).PlaceOfValue(),
                             "ON and OFF text of " + InQuotes(name) + " are the same", "make them differ");
 }
@@ -220,29 +153,22 @@ void JudgeCheckBoxes(const Case& judged)
     }
 }
 
-} // namespace content_rules
 } // namespace
 
-Family ContentRules()
+void ApplyContentRules(const Case& judged)
 {
-    using namespace content_rules;
-    return {{&itemTwice, &optionTwice, &optionValueless, &itemIsKey, &defaultUnknown, &defaultEarly, &checkDefault,
-             &checkTexts},
-            [](const Case& judged)
-            {
-                JudgeItems(judged);
-                JudgeCheckBoxes(judged);
-                std::set<std::string> groups;
-                for (const ClytControlStatement& control : judged.description.controls)
-                {
-                    const std::string name = control.name.GetString();
-                    if (KindOf(control) != Kind::OptionGroup || !groups.insert(name).second)
-                        continue;
-                    JudgeOptions(judged, name);
-                    if (KindOfControl(judged.description, name) == Kind::OptionGroup)
-                        JudgeGroupDefaults(judged, name);
-                }
-            }};
+    JudgeItems(judged);
+    JudgeCheckBoxes(judged);
+    std::set<std::string> groups;
+    for (const ClytControlStatement& control : judged.description.controls)
+    {
+        const std::string name = control.name.GetString();
+        if (KindOf(control) != Kind::OptionGroup || !groups.insert(name).second)
+            continue;
+        JudgeOptions(judged, name);
+        if (KindOfControl(judged.description, name) == Kind::OptionGroup)
+            JudgeGroupDefaults(judged, name);
+    }
 }
 
 } // namespace lytdlg

@@ -18,19 +18,9 @@ auto OrderOf(const Finding& finding)
 
 } // namespace
 
-const char* WordOf(Level level)
+Finding& Findings::Add(RuleName rule, const ClytSpan& place, std::string message, std::string hint)
 {
-    switch (level)
-    {
-    case Level::Error: return "error";
-    case Level::Warning: return "warning";
-    default: return "note";
-    }
-}
-
-Finding& Findings::Add(const Rule& rule, const ClytSpan& place, std::string message, std::string hint)
-{
-    return m_findings.emplace_back(Finding{&rule, place, std::move(message), std::move(hint), "", "", ""});
+    return m_findings.emplace_back(Finding{&rule.Get(), place, std::move(message), std::move(hint), "", "", ""});
 }
 
 void Findings::Sort()

@@ -2,34 +2,13 @@
 #pragma once
 
 #include "base/ClytSpan.h"
+#include "lytdlg/judge/Rule.h"
 
 #include <string>
 #include <vector>
 
 namespace lytdlg
 {
-
-enum class Level
-{
-    Error,   // the library refuses the file, or the dialog
-    Warning, // it is passed over, or data gets lost or looks wrong
-    Note     // it does no harm and no good
-};
-
-const char* WordOf(Level level);
-
-// One rule that descriptions are judged by.
-struct Rule
-{
-    const char* id; // short words with hyphens
-    Level level;
-    const char* summary; // one sentence, for lists
-    const char* reason;  // why it matters and what to do, for --explain
-    // What is wrong and what would be right: lines for the description of the examples, each group under its section's
-    // word; see Examples.h.
-    const char* wrong;
-    const char* right;
-};
 
 struct Finding
 {
@@ -46,8 +25,7 @@ struct Finding
 class Findings
 {
 public:
-    // The rule outlives the finding.
-    Finding& Add(const Rule& rule, const ClytSpan& place, std::string message, std::string hint);
+    Finding& Add(RuleName rule, const ClytSpan& place, std::string message, std::string hint);
     const std::vector<Finding>& All() const { return m_findings; }
     // Takes away what the predicate is true for, and says how many there were.
     template <class PREDICATE>

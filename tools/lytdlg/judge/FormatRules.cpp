@@ -1,4 +1,4 @@
-#include "lytdlg/judge/FormatRules.h"
+#include "lytdlg/judge/Families.h"
 
 #include "dialog/ClytDialog.h"
 #include "lytdlg/judge/Conditions.h"
@@ -15,92 +15,8 @@ namespace lytdlg
 
 namespace
 {
-namespace format_rules
-{
 
 constexpr size_t mostItems = 25;
-
-constexpr Rule loneS = {"format-letter-s",
-                        Level::Warning,
-                        "A small s in a format takes an item.",
-                        "In a format with any % every small s takes an item, as %s does. Write it as a capital, or "
-                        "put the word among the\nitems.",
-                        "$OUTPUT, parent\n    Form(\"\") = (\"places:%s\", Name, Unit)",
-                        "$OUTPUT, parent\n    Form(\"\") = (\"PLACES:%s\", Name)"};
-
-constexpr Rule lonePoint = {"format-point",
-                            Level::Error,
-                            "A point stands alone in a format.",
-                            "In a format with any % a point is read as the limit of a conversion, and composing the "
-                            "text fails. Put the text\nwith the point among the items.",
-                            "$OUTPUT, parent\n    Form(\"\") = (\"No. %s\", Name)",
-                            "$OUTPUT, parent\n    Form(\"\") = (\"%s%s\", \"No. \", Name)"};
-
-constexpr Rule openPercent = {"format-percent",
-                              Level::Error,
-                              "No s comes after a per cent sign.",
-                              "Only %s and %.5s exist, and composing the text fails. Put a per cent sign among the "
-                              "items.",
-                              "$OUTPUT, parent\n    Form(\"\") = (\"%s %\", Name)",
-                              "$OUTPUT, parent\n    Form(\"\") = (\"%s %s\", Name, %)"};
-
-constexpr Rule noConversion = {
-    "format-conversion",
-    Level::Warning,
-    "A per cent sign begins no conversion that exists.",
-    "Only %s and %.5s exist. From any other per cent sign to the next s, all goes into the text as it is, and no item\n"
-    "is taken.",
-    "$OUTPUT, parent\n    Form(\"\") = (\"%5s;%s\", Name)",
-    "$OUTPUT, parent\n    Form(\"\") = (\"%.5s;%s\", Name, Unit)"};
-
-constexpr Rule tooFew = {"format-items",
-                         Level::Warning,
-                         "A format takes more items than the rule has.",
-                         "What is missing is empty in the text.",
-                         "$OUTPUT, parent\n    Form(\"\") = (\"%s;%s\", Name)",
-                         "$OUTPUT, parent\n    Form(\"\") = (\"%s;%s\", Name, Unit)"};
-
-constexpr Rule tooMany = {"format-limit",
-                          Level::Error,
-                          "A rule has more than 25 items, or its format takes more.",
-                          "A rule has places for 25 items; with more, composing the text fails.",
-                          "$OUTPUT, parent\n    Form(\"\") = (\"%s\", Name, a, a, a, a, a, a, a, a, a, a, a, a, a, a, "
-                          "a, a, a, a, a, a, a, a, a, a, a)",
-                          "$OUTPUT, parent\n    Form(\"\") = (\"%s%s\", Name, a)"};
-
-constexpr Rule surplus = {
-    "format-surplus",
-    Level::Note,
-    "An item is not taken by the format, and not checked either.",
-    "Items after the last conversion do no harm. They are useful for a check of $EVALUATION: "
-    "OK checks all items.",
-    "$OUTPUT, parent\n    Form(\"\") = (\"%s\", Name, Unit)",
-    "$EVALUATION, x\n    Unit = NULL: NameMissing\n$OUTPUT, parent\n    Form(\"\") = (\"%s\", Name, Unit)"};
-
-constexpr Rule escape = {
-    "format-escape",
-    Level::Warning,
-    "A \\n or \\t stays as it is.",
-    "They become a line end or a tab, and a blank, but not at the very end of the text, and not in "
-    "a format without a %.",
-    "$OUTPUT, parent\n    Form(\"\") = (\"%s\\n\", Name)",
-    "$OUTPUT, parent\n    Form(\"\") = (\"%s\\n;%s\", Name, Unit)"};
-
-constexpr Rule empty = {"format-empty",
-                        Level::Warning,
-                        "A rule has an empty format.",
-                        "Such a rule is not kept; its conditions and items join those of the next rule. For an empty "
-                        "result use \"%s\" and\nan empty item.",
-                        "$OUTPUT, parent\n    (\"\")",
-                        "$OUTPUT, parent\n    Form(\"\") = (\"%s\", \"\")"};
-
-constexpr Rule word = {"format-word",
-                       Level::Warning,
-                       "A word stands before the brackets of a format, and is passed over.",
-                       "A rule is the conditions, an equals sign and the brackets. The values of a condition stand in "
-                       "brackets of their own.",
-                       "$OUTPUT, parent\n    Name = NULL (\"%s\", Unit)",
-                       "$OUTPUT, parent\n    Name(NULL) = (\"%s\", Unit)"};
 
 // Where a format stands in the line of its rule.
 ClytSpan PlaceOf(const Description& description, const ClytDialogOutput& rule)
@@ -118,27 +34,28 @@ void AddPiece(const Case& judged, const FormatPiece& piece, const ClytSpan& plac
     switch (piece.kind)
     {
     case FormatPieceKind::LoneS:
-        findings.Add(loneS, place, "in a format with %, this s takes an item",
+        findings.Add("format-letter-s", place, "in a format with %, this s takes an item",
                      "write a capital S, or put the word among the items");
         break;
     case FormatPieceKind::LonePoint:
-        findings.Add(lonePoint, place, "in a format with %, a lone point makes the composition fail",
+        findings.Add("format-point", place, "in a format with %, a lone point makes the composition fail",
                      "put the text with the point among the items");
         break;
     case FormatPieceKind::OpenPercent:
-        findings.Add(openPercent, place, "no s comes after this %, and the composition fails",
+        findings.Add("format-percent", place, "no s comes after this %, and the composition fails",
                      "put the sign among the items: (\"%s%s\", Name, %)");
         break;
     case FormatPieceKind::NoConversion:
-        findings.Add(noConversion, place, InQuotes(text) + " is no conversion: it goes into the text without the %",
+        findings.Add("format-conversion", place,
+                     InQuotes(text) + " is no conversion: it goes into the text without the %",
                      "write %s, or %.5s for the first five characters");
         break;
     case FormatPieceKind::NoLimit:
-        findings.Add(noConversion, place, InQuotes(text) + " takes an item and leaves nothing of it",
+        findings.Add("format-conversion", place, InQuotes(text) + " takes an item and leaves nothing of it",
                      "write %s, or %.5s for the first five characters");
         break;
     case FormatPieceKind::LimitAndText:
-        findings.Add(noConversion, place,
+        findings.Add("format-conversion", place,
                      "after its limit " + InQuotes(text) + " goes on to the next s, and that part is lost",
                      "write %.5s for the first five characters");
         break;
@@ -169,7 +86,7 @@ void JudgeCount(const Case& judged, const OutputGroup& group, const ClytDialogOu
     const ClytSpan place = PlaceOf(judged.description, rule);
     if (taken > mostItems || given > mostItems)
     {
-        judged.findings.Add(tooMany, given > mostItems ? rule.items[mostItems].span : place,
+        judged.findings.Add("format-limit", given > mostItems ? rule.items[mostItems].span : place,
                             given > mostItems
                                 ? "this is item 26, and the composition fails"
                                 : "the format takes " + Counted(taken, "item") + ", and the composition fails",
@@ -177,14 +94,14 @@ void JudgeCount(const Case& judged, const OutputGroup& group, const ClytDialogOu
         return;
     }
     if (taken > given)
-        judged.findings.Add(tooFew, place,
+        judged.findings.Add("format-items", place,
                             "the format takes " + Counted(taken, "item") + ", the rule has " + std::to_string(given),
                             "add the missing items, or delete conversions");
     for (size_t index = taken; index < given; ++index)
     {
         const ClytOutputItem& item = rule.items[index];
         if (group.name != lytParentName || !judged.description.Index().HasCheck(item.text.GetString()))
-            judged.findings.Add(surplus, item.span,
+            judged.findings.Add("format-surplus", item.span,
                                 "the format does not take " + InQuotes(item.text.GetString()) +
                                     ", and no check asks for it",
                                 "delete it, or add a %s for it");
@@ -202,7 +119,7 @@ void JudgeEscapes(const Case& judged, const ClytDialogOutput& rule)
         const bool isAtEnd = at + 2 == format.size();
         if ((sign != "\\n" && sign != "\\t") || (!isPlain && !isAtEnd))
             continue;
-        judged.findings.Add(escape, {place.line, place.column + static_cast<int>(at), 2},
+        judged.findings.Add("format-escape", {place.line, place.column + static_cast<int>(at), 2},
                             isPlain ? sign + " stays as it is in a format without a %"
                                     : sign + " stays as it is at the end of the text",
                             isPlain ? "write \"%s\" and put the text among the items" : "let some text follow it");
@@ -222,40 +139,34 @@ void JudgeTokens(const Case& judged)
             const bool isWord =
                 !tokens[index].text.empty() && tokens[index].delimiter == '(' && index > 0 && isRightSide;
             if (isWord && !judged.description.IsRefused(line->number))
-                judged.findings.Add(word,
+                judged.findings.Add("format-word",
                                     {line->number, tokens[index].column, static_cast<int>(tokens[index].text.size())},
                                     InQuotes(tokens[index].text) + " before the format is passed over",
                                     "put values in brackets after their control, before the equals sign");
             if (isOpen && isRightSide && tokens[index + 1].text.empty() && !judged.description.IsRefused(line->number))
-                judged.findings.Add(empty, judged.description.PlaceOf(line->number),
+                judged.findings.Add("format-empty", judged.description.PlaceOf(line->number),
                                     "the format is empty, and the rule is not kept",
                                     "write (\"%s\", \"\") for an empty text");
         }
     }
 }
 
-} // namespace format_rules
 } // namespace
 
-Family FormatRules()
+void ApplyFormatRules(const Case& judged)
 {
-    using namespace format_rules;
-    return {{&loneS, &lonePoint, &openPercent, &noConversion, &tooFew, &tooMany, &surplus, &escape, &empty, &word},
-            [](const Case& judged)
-            {
-                for (const OutputGroup& group : judged.description.outputs)
-                {
-                    for (const ClytDialogOutput* rule : Records(group.rules))
-                    {
-                        if (judged.description.IsRefused(rule->span.line))
-                            continue;
-                        JudgePieces(judged, *rule);
-                        JudgeCount(judged, group, *rule);
-                        JudgeEscapes(judged, *rule);
-                    }
-                }
-                JudgeTokens(judged);
-            }};
+    for (const OutputGroup& group : judged.description.outputs)
+    {
+        for (const ClytDialogOutput* rule : Records(group.rules))
+        {
+            if (judged.description.IsRefused(rule->span.line))
+                continue;
+            JudgePieces(judged, *rule);
+            JudgeCount(judged, group, *rule);
+            JudgeEscapes(judged, *rule);
+        }
+    }
+    JudgeTokens(judged);
 }
 
 } // namespace lytdlg

@@ -1,4 +1,4 @@
-#include "lytdlg/judge/GeometryRules.h"
+#include "lytdlg/judge/Families.h"
 
 #include "lytdlg/judge/Places.h"
 
@@ -14,70 +14,11 @@ namespace lytdlg
 
 namespace
 {
-namespace geometry_rules
-{
 
 // What docs/descriptions.md tells authors: layout units.
 constexpr int fieldHeight = 19;
 constexpr int rowHeight = 15;
 constexpr int listFrame = 4;
-
-constexpr Rule overlap = {
-    "geometry-overlap",
-    Level::Warning,
-    "Two controls overlap.",
-    "A Text, a CheckBox and an OptionButton are as large as their text, in each language and at "
-    "96 and at 120 dots per\ninch. A frame holds other controls, and they should not stand on its "
-    "border.",
-    "$LAYOUT Example\n    TextBox 520, 12, 100, 19, .More\n    TextBox 600, 12, 100, 19, .Most",
-    "$LAYOUT Example\n    TextBox 520, 12, 100, 19, .More\n    TextBox 632, 12, 100, 19, .Most"};
-
-constexpr Rule outside = {"geometry-outside",
-                          Level::Warning,
-                          "A control goes beyond the dialog.",
-                          "What goes beyond the edge of the dialog is not seen.",
-                          "$LAYOUT Example\n    TextBox 700, 12, 100, 19, .More",
-                          "$LAYOUT Example\n    TextBox 640, 12, 100, 19, .More"};
-
-constexpr Rule clipped = {"geometry-clipped",
-                          Level::Warning,
-                          "A caption is wider than its control.",
-                          "A button and a frame do not grow with their text: it is cut at both ends.",
-                          "$LAYOUT Example\n    GroupBox 520, 12, 30, 60, \"Remove\", .More",
-                          "$LAYOUT Example\n    GroupBox 520, 12, 90, 60, \"Remove\", .More"};
-
-constexpr Rule tabOrder = {"geometry-tab",
-                           Level::Warning,
-                           "The Tab key goes back.",
-                           "The Tab key follows the order of the statements: let them stand as one reads the dialog, "
-                           "from the top down and from\nleft to right.",
-                           "$LAYOUT Example\n    TextBox 520, 64, 100, 19, .More\n    TextBox 520, 38, 100, 19, .Most",
-                           "$LAYOUT Example\n    TextBox 520, 38, 100, 19, .More\n    TextBox 520, 64, 100, 19, .Most"};
-
-constexpr Rule noDrop = {"geometry-drop",
-                         Level::Warning,
-                         "A list that drops down has no room to open.",
-                         "The height of a ComboBox or DropListBox is that of the field and the open list together: 19 "
-                         "units for the field and\n15 for each row.",
-                         "$LAYOUT Example\n    ComboBox 520, 12, 100, 19, .More",
-                         "$LAYOUT Example\n    ComboBox 520, 12, 100, 79, .More"};
-
-constexpr Rule noRow = {"geometry-row",
-                        Level::Warning,
-                        "A list is too low for a row.",
-                        "A list shows whole rows only: allow 15 units for each row and 4 for the frame.",
-                        "$LAYOUT Example\n    ListBox 520, 12, 100, 16, .More",
-                        "$LAYOUT Example\n    ListBox 520, 12, 100, 34, .More"};
-
-constexpr Rule splitFrame = {
-    "geometry-frame",
-    Level::Warning,
-    "A frame holds some options of a group and not the others.",
-    "What stands in one frame belongs together: a frame should hold all options of a group.",
-    "$LAYOUT Example\n    GroupBox 508, 6, 130, 60, \"\"\n    OptionGroup .More\n"
-    "    OptionButton 520, 24, 80, 12, \"Remove\", .One\n    OptionButton 650, 24, 80, 12, \"Extra\", .Two",
-    "$LAYOUT Example\n    GroupBox 508, 6, 240, 60, \"\"\n    OptionGroup .More\n"
-    "    OptionButton 520, 24, 80, 12, \"Remove\", .One\n    OptionButton 650, 24, 80, 12, \"Extra\", .Two"};
 
 std::string NameOf(const ClytControlStatement& control)
 {
@@ -232,14 +173,14 @@ void JudgeOverlap(const Case& judged, const std::vector<Screen>& screens)
         for (const size_t other : overlaps[control].First())
         {
             const ClytControlStatement& before = *screens.front().controls[other].control;
-            judged.findings.Add(overlap, own.span,
+            judged.findings.Add("geometry-overlap", own.span,
                                 NameOf(own) + " and " + NameOf(before) + " in line " +
                                     std::to_string(before.span.line) + " overlap" +
                                     Where(SightingOf(screens, other, control), screens),
                                 "move one of them, or make it smaller");
         }
         if (const size_t others = overlaps[control].CountOfOthers(); others != 0)
-            judged.findings.Add(overlap, own.span,
+            judged.findings.Add("geometry-overlap", own.span,
                                 "and " + std::to_string(others) + (others == 1 ? " more overlaps" : " more overlap") +
                                     " with " + NameOf(own),
                                 "move it, or make it smaller");
@@ -263,7 +204,7 @@ void JudgeOutside(const Case& judged, const std::vector<Screen>& screens)
         }
     }
     for (const Sighting& sighting : seen.All())
-        judged.findings.Add(outside, sighting.control->span,
+        judged.findings.Add("geometry-outside", sighting.control->span,
                             NameOf(*sighting.control) + " goes beyond the dialog" + Where(sighting, screens),
                             "move it, or make the dialog larger");
 }
@@ -296,7 +237,7 @@ void JudgeClipped(const Case& judged, const std::vector<Screen>& screens)
         }
     }
     for (const Sighting& sighting : seen.All())
-        judged.findings.Add(clipped, sighting.control->span,
+        judged.findings.Add("geometry-clipped", sighting.control->span,
                             "the caption of " + NameOf(*sighting.control) + " is " + std::to_string(sighting.pixels) +
                                 (sighting.pixels == 1 ? " pixel" : " pixels") + " too wide" + Where(sighting, screens),
                             "make the control wider, or the text shorter");
@@ -350,7 +291,7 @@ void JudgeTabOrder(const Case& judged, const Screen& screen)
         const bool isTold = before != nullptr && GoesBack(before->place, control.place) &&
                             FrameOf(frames, *before) == FrameOf(frames, control);
         if (isTold)
-            judged.findings.Add(tabOrder, control.control->span,
+            judged.findings.Add("geometry-tab", control.control->span,
                                 "the Tab key goes back from " + NameOf(*before->control) + " in line " +
                                     std::to_string(before->control->span.line) + " to " + NameOf(*control.control),
                                 "let the statements stand in the order of reading");
@@ -365,11 +306,11 @@ void JudgeHeights(const Case& judged)
         const Kind kind = KindOf(control);
         const bool isOpen = IsOpenList(kind);
         if (HasItems(kind) && !isOpen && control.height < fieldHeight + rowHeight)
-            judged.findings.Add(noDrop, control.span,
+            judged.findings.Add("geometry-drop", control.span,
                                 "with a height of " + std::to_string(control.height) + " the list has no room to open",
                                 "allow 19 for the field and 15 for each row");
         else if (isOpen && control.height < rowHeight + listFrame)
-            judged.findings.Add(noRow, control.span,
+            judged.findings.Add("geometry-row", control.span,
                                 "with a height of " + std::to_string(control.height) + " the list shows no row",
                                 "allow 15 for each row and 4 for the frame");
     }
@@ -397,7 +338,7 @@ void JudgeFrames(const Case& judged, const Screen& screen)
             };
             const auto held = std::ranges::count_if(options, isHeld);
             if (held != 0 && held != std::ssize(options))
-                judged.findings.Add(splitFrame, frame->control->span,
+                judged.findings.Add("geometry-frame", frame->control->span,
                                     "the frame holds " + std::to_string(held) + " of the " +
                                         std::to_string(options.size()) + " options of " + NameOf(group),
                                     "let it hold all of them");
@@ -405,25 +346,19 @@ void JudgeFrames(const Case& judged, const Screen& screen)
     }
 }
 
-} // namespace geometry_rules
 } // namespace
 
-Family GeometryRules()
+void ApplyGeometryRules(const Case& judged)
 {
-    using namespace geometry_rules;
-    return {{&overlap, &outside, &clipped, &tabOrder, &noDrop, &noRow, &splitFrame},
-            [](const Case& judged)
-            {
-                if (judged.description.width <= 0 || judged.description.height <= 0)
-                    return;
-                const std::vector<Screen> screens = ScreensOf(judged.description, judged.surroundings.texts);
-                JudgeOverlap(judged, screens);
-                JudgeOutside(judged, screens);
-                JudgeClipped(judged, screens);
-                JudgeTabOrder(judged, screens.front());
-                JudgeFrames(judged, screens.front());
-                JudgeHeights(judged);
-            }};
+    if (judged.description.width <= 0 || judged.description.height <= 0)
+        return;
+    const std::vector<Screen> screens = ScreensOf(judged.description, judged.surroundings.texts);
+    JudgeOverlap(judged, screens);
+    JudgeOutside(judged, screens);
+    JudgeClipped(judged, screens);
+    JudgeTabOrder(judged, screens.front());
+    JudgeFrames(judged, screens.front());
+    JudgeHeights(judged);
 }
 
 } // namespace lytdlg

@@ -1,6 +1,4 @@
-#include "lytdlg/judge/Ignores.h"
-
-#include "commandline/Suggestion.h"
+#include "lytdlg/judge/Families.h"
 
 #include <algorithm>
 #include <map>
@@ -12,30 +10,6 @@ namespace
 {
 
 constexpr const char* mark = "; lytdlg: ignore";
-
-constexpr Rule unknown = {
-    "ignore-unknown",
-    Level::Warning,
-    "A remark silences a rule that does not exist.",
-    "A remark reads `; lytdlg: ignore RULE reason`, with the name of the rule as a finding gives it.",
-    "$VALUES\n    Unit = 60   ; lytdlg: ignore value-twcie kept for older documents",
-    "$VALUES\n    Unit = 60"};
-
-constexpr Rule unreasoned = {
-    "ignore-without-reason",
-    Level::Warning,
-    "A remark silences a rule but does not say why.",
-    "Whoever reads the description later wants to know why the finding is no mistake. Write the\n"
-    "reason after the name of the rule.",
-    "$VALUES\n    Unit = 60   ; lytdlg: ignore ignore-unused",
-    "$VALUES\n    Unit = 60"};
-
-constexpr Rule unused = {"ignore-unused",
-                         Level::Note,
-                         "A remark silences a rule that finds nothing there.",
-                         "It does no harm, but would hide a mistake that is made in this line later: delete it.",
-                         "$VALUES\n    Unit = 60   ; lytdlg: ignore ignore-unknown nothing is here to silence",
-                         "$VALUES\n    Unit = 60"};
 
 struct Remark
 {
@@ -86,11 +60,6 @@ void Silence(const std::vector<Remark>& remarks, Findings& findings, Silenced& s
 
 } // namespace
 
-Family IgnoreRules()
-{
-    return {{&unknown, &unreasoned, &unused}, [](const Case&) {}};
-}
-
 void ApplyIgnores(const Description& description, Findings& findings)
 {
     const std::vector<Remark> remarks = RemarksOf(description.text);
@@ -99,16 +68,14 @@ void ApplyIgnores(const Description& description, Findings& findings)
     for (const Remark& remark : remarks)
     {
         if (FindRule(remark.rule) == nullptr)
-        {
-            const std::string nearest = commandline::Nearest(remark.rule, RuleNames());
-            findings.Add(unknown, remark.place, "there is no rule \"" + remark.rule + "\"",
-                         nearest.empty() ? "`lytdlg check --rules` lists them" : "did you mean \"" + nearest + "\"?");
-        }
+            findings.Add("ignore-unknown", remark.place, "there is no rule \"" + remark.rule + "\"",
+                         HintForRule(remark.rule));
         else if (!remark.hasReason)
-            findings.Add(unreasoned, remark.place, "the remark gives no reason",
+            findings.Add("ignore-without-reason", remark.place, "the remark gives no reason",
                          "write why after \"" + remark.rule + "\"");
         else if (silenced[{remark.place.line, remark.rule}] == 0)
-            findings.Add(unused, remark.place, "\"" + remark.rule + "\" finds nothing here", "delete the remark");
+            findings.Add("ignore-unused", remark.place, "\"" + remark.rule + "\" finds nothing here",
+                         "delete the remark");
     }
 }
 

@@ -67,14 +67,11 @@ private:
     static Json RulesOf()
     {
         Json rules = Json::array();
-        for (const Family& family : Families())
-        {
-            for (const Rule* rule : family.rules)
-                rules.push_back({{"id", rule->id},
-                                 {"shortDescription", {{"text", rule->summary}}},
-                                 {"fullDescription", {{"text", rule->reason}}},
-                                 {"defaultConfiguration", {{"level", WordOf(rule->level)}}}});
-        }
+        for (const Rule& rule : Rules())
+            rules.push_back({{"id", rule.id},
+                             {"shortDescription", {{"text", rule.summary}}},
+                             {"fullDescription", {{"text", rule.reason}}},
+                             {"defaultConfiguration", {{"level", WordOf(rule.level)}}}});
         return rules;
     }
 

@@ -1,30 +1,6 @@
 #include "lytdlg/judge/Judge.h"
 
-#include "lytdlg/judge/ActionRules.h"
-#include "lytdlg/judge/ConditionRules.h"
-#include "lytdlg/judge/ContentRules.h"
-#include "lytdlg/judge/DependencyRules.h"
-#include "lytdlg/judge/EvaluationRules.h"
-#include "lytdlg/judge/FillRules.h"
-#include "lytdlg/judge/FormatRules.h"
-#include "lytdlg/judge/GeometryRules.h"
-#include "lytdlg/judge/Ignores.h"
-#include "lytdlg/judge/LanguageFileRules.h"
-#include "lytdlg/judge/LayoutRules.h"
-#include "lytdlg/judge/LibraryVerdict.h"
-#include "lytdlg/judge/LineRules.h"
-#include "lytdlg/judge/MarkRules.h"
-#include "lytdlg/judge/MnemonicRules.h"
-#include "lytdlg/judge/OutputGroupRules.h"
-#include "lytdlg/judge/OutputRules.h"
-#include "lytdlg/judge/PartnerRules.h"
-#include "lytdlg/judge/ScanRules.h"
-#include "lytdlg/judge/SectionRules.h"
-#include "lytdlg/judge/SeparatorRules.h"
-#include "lytdlg/judge/StatementRules.h"
-#include "lytdlg/judge/TextRules.h"
-#include "lytdlg/judge/ValueRules.h"
-#include "lytdlg/judge/WordRules.h"
+#include "lytdlg/judge/Families.h"
 #include "lytdlg/text/Paths.h"
 
 #include <algorithm>
@@ -35,11 +11,19 @@ namespace lytdlg
 namespace
 {
 
+// In the order of the sections. The library comes last: it looks whether a finding stands for its failure.
+constexpr void (*families[])(const Case& judged) = {
+    ApplySectionRules,     ApplyLineRules,       ApplyMarkRules,    ApplyStatementRules,    ApplyWordRules,
+    ApplyLayoutRules,      ApplyValueRules,      ApplyContentRules, ApplyActionRules,       ApplyDependencyRules,
+    ApplyConditionRules,   ApplyEvaluationRules, ApplyScanRules,    ApplySeparatorRules,    ApplyFillRules,
+    ApplyOutputGroupRules, ApplyOutputRules,     ApplyFormatRules,  ApplyLanguageFileRules, ApplyTextRules,
+    ApplyMnemonicRules,    ApplyGeometryRules,   ApplyPartnerRules, ApplyLibraryVerdict};
+
 // A rule that tells of what a section does not say.
 struct Lack
 {
     Section section;
-    const char* rule;
+    RuleName rule;
 };
 
 constexpr Lack lacks[] = {
@@ -63,7 +47,7 @@ void RemoveWhatIsNotKnown(const DescriptionText& text, Findings& findings)
     for (const Lack& lack : lacks)
     {
         if (IsCutOff(text, lack.section))
-            findings.Remove([&](const Finding& finding) { return std::string(finding.rule->id) == lack.rule; });
+            findings.Remove([&](const Finding& finding) { return finding.rule == &lack.rule.Get(); });
     }
 }
 
@@ -72,6 +56,14 @@ void RemoveWhatIsNotKnown(const DescriptionText& text, Findings& findings)
 Surroundings SurroundingsOf(const std::string& folder, const std::vector<std::string>& partners)
 {
     return {folder, std::make_shared<PartnerLibraries>(partners), LanguageFiles(PathOf(folder)), FolderTexts(folder)};
+}
+
+void AddIn(const Case& judged, RuleName rule, const LanguageFile& file, const ClytSpan& place, const std::string& line,
+           const std::string& message, const std::string& hint)
+{
+    Finding& finding = judged.findings.Add(rule, place, message, hint);
+    finding.path = file.FileName();
+    finding.line = line;
 }
 
 const std::string& PathOf(const Finding& finding, const Description& description)
@@ -84,48 +76,11 @@ const std::string& LineOf(const Finding& finding, const Description& description
     return finding.path.empty() ? description.text.Line(finding.place.line).text : finding.line;
 }
 
-const std::vector<Family>& Families()
-{
-    // In the order of the sections. The library comes last: it looks whether a finding stands for its failure.
-    static const std::vector<Family> families = {
-        SectionRules(),     LineRules(),       MarkRules(),    StatementRules(),    WordRules(),
-        LayoutRules(),      ValueRules(),      ContentRules(), ActionRules(),       DependencyRules(),
-        ConditionRules(),   EvaluationRules(), ScanRules(),    SeparatorRules(),    FillRules(),
-        OutputGroupRules(), OutputRules(),     FormatRules(),  LanguageFileRules(), TextRules(),
-        MnemonicRules(),    GeometryRules(),   PartnerRules(), IgnoreRules(),       LibraryRules(),
-    };
-    return families;
-}
-
-const Rule* FindRule(const std::string& id)
-{
-    for (const Family& family : Families())
-    {
-        for (const Rule* rule : family.rules)
-        {
-            if (id == rule->id)
-                return rule;
-        }
-    }
-    return nullptr;
-}
-
-std::vector<std::string> RuleNames()
-{
-    std::vector<std::string> names;
-    for (const Family& family : Families())
-    {
-        for (const Rule* rule : family.rules)
-            names.emplace_back(rule->id);
-    }
-    return names;
-}
-
 Findings Judge(const Description& description, const Surroundings& surroundings)
 {
     Findings findings;
-    for (const Family& family : Families())
-        family.judge({description, surroundings, findings});
+    for (const auto apply : families)
+        apply({description, surroundings, findings});
     RemoveWhatIsNotKnown(description.text, findings);
     ApplyIgnores(description, findings);
     findings.Sort();

@@ -1,5 +1,4 @@
-// Judges a description by every rule there is. The rules come in families, one for each section and a few more; a family
-// is a source with its rules and one function, and a row in the table of Judge.cpp.
+// Judges a description by every rule there is.
 #pragma once
 
 #include "lytdlg/judge/Description.h"
@@ -31,20 +30,13 @@ struct Case
     Findings& findings;
 };
 
-struct Family
-{
-    std::vector<const Rule*> rules;
-    void (*judge)(const Case& judged);
-};
+// Adds a finding in a language file. The line is the whole one that the place is in.
+void AddIn(const Case& judged, RuleName rule, const LanguageFile& file, const ClytSpan& place, const std::string& line,
+           const std::string& message, const std::string& hint);
 
 // The file that a finding is in, and its line there.
 const std::string& PathOf(const Finding& finding, const Description& description);
 const std::string& LineOf(const Finding& finding, const Description& description);
-
-const std::vector<Family>& Families();
-// Null when there is no rule of that id.
-const Rule* FindRule(const std::string& id);
-std::vector<std::string> RuleNames();
 
 // All findings on a description, in the order of its lines.
 Findings Judge(const Description& description, const Surroundings& surroundings);

@@ -1,7 +1,6 @@
-#include "lytdlg/judge/LanguageFileRules.h"
+#include "lytdlg/judge/Families.h"
 
 #include "lytdlg/judge/CodePage.h"
-#include "lytdlg/judge/LanguageFindings.h"
 #include "lytdlg/judge/Names.h"
 #include "lytdlg/judge/TextUses.h"
 #include "lytdlg/text/LibraryTexts.h"
@@ -16,51 +15,6 @@ namespace lytdlg
 
 namespace
 {
-namespace language_file_rules
-{
-
-constexpr Rule section = {"text-section",
-                          Level::Warning,
-                          "The text section is not in the language file.",
-                          "$LAYOUT names the section of the language files in which the texts of the dialog are keys.",
-                          "$LAYOUT Exmaple",
-                          "$LAYOUT Example"};
-
-constexpr Rule markAtBegin = {
-    "text-byte-order-mark",
-    Level::Warning,
-    "A language file begins with a byte order mark.",
-    "The file was saved as UTF-8 with a mark at its beginning, which hides its first line: when that is a "
-    "section, all texts of\nthe section are missing. Save it in code page 1252, which editors call ANSI or "
-    "Windows-1252.",
-    "",
-    ""};
-
-constexpr Rule unused = {
-    "text-unused",
-    Level::Note,
-    "No dialog of the folder uses the text.",
-    "The key is in the section of this dialog, and neither this dialog nor another one with that "
-    "section shows it;\nor it is a message of the section MsgBox that no check of $EVALUATION names.",
-    "$VALUES\n-    Form: Square = square form",
-    "$VALUES\n    Form: Hall = other form"};
-
-constexpr Rule form = {"text-form",
-                       Level::Warning,
-                       "A line of a language file is no section, no text and no comment.",
-                       "A section is its name in square brackets, a text is a key, an equals sign and the text, and a "
-                       "comment begins with\na semicolon. The library passes any other line over.",
-                       "",
-                       ""};
-
-constexpr Rule message = {
-    "message-differs",
-    Level::Warning,
-    "A message of the library is missing in one language, or takes no argument there.",
-    "Messages that one language file has in [Dialog_Error] and [Label] should be in all, each with "
-    "the same places for\nthe argument ('').",
-    "",
-    ""};
 
 void JudgeSection(const Case& judged)
 {
@@ -78,7 +32,7 @@ void JudgeSection(const Case& judged)
             known.push_back(key.section);
         const bool isHiddenByMark =
             file.HasByteOrderMark() && file.FirstLine().find("[" + name + "]") != std::string::npos;
-        judged.findings.Add(section, description.PlaceOf(header->number, name),
+        judged.findings.Add("text-section", description.PlaceOf(header->number, name),
                             file.Language() + ".nls has no section [" + name + "]",
                             isHiddenByMark ? "a byte order mark hides it; " + std::string(saveAsAnsi)
                                            : MeantOr(name, known, "add it, with all texts"));
@@ -103,7 +57,7 @@ void JudgeByteOrderMark(const Case& judged)
     {
         if (!file.HasByteOrderMark() || !IsFirstOfFolder(judged))
             continue;
-        AddIn(judged, markAtBegin, file, {1, 0, 1}, file.FirstLine(),
+        AddIn(judged, "text-byte-order-mark", file, {1, 0, 1}, file.FirstLine(),
               "a byte order mark stands before the first line, and hides it", saveAsAnsi);
     }
 }
@@ -117,7 +71,7 @@ void JudgeForm(const Case& judged)
             const bool isOpenSection = key.name.starts_with('[');
             const bool isTold = key.place.line == 1 && file.HasByteOrderMark();
             if (!key.hasText && !isTold)
-                AddIn(judged, form, file, key.place, key.line,
+                AddIn(judged, "text-form", file, key.place, key.line,
                       isOpenSection ? "the bracket of this section is not closed" : "this line has no equals sign",
                       isOpenSection ? "write [NAME]" : "write KEY=TEXT, or a semicolon before a comment");
         }
@@ -137,11 +91,11 @@ void JudgeMessage(const Case& judged, const LibraryText& text)
     {
         const LanguageKey* key = file.Find(text.section, text.key);
         if (key == nullptr)
-            AddIn(judged, message, *first, model.place, model.line,
+            AddIn(judged, "message-differs", *first, model.place, model.line,
                   file.Language() + ".nls has no text " + InQuotes(text.key) + " in [" + text.section + "]",
                   "add it there");
         else if (CountOf(key->text, "''") != CountOf(model.text, "''"))
-            AddIn(judged, message, file, key->place, key->line,
+            AddIn(judged, "message-differs", file, key->place, key->line,
                   "the marks '' differ from those in " + first->Language() + ".nls, line " +
                       std::to_string(model.place.line),
                   "give both languages the same marks");
@@ -186,33 +140,27 @@ void JudgeUnused(const Case& judged)
             const bool isOfSection = (isFirstOfSection && IsSameName(key.section, name)) ||
                                      (isFirst && IsSameName(key.section, messageSection));
             if (key.isReached && key.hasText && isOfSection && !used.contains(TextId(key.section, key.name)))
-                AddIn(judged, unused, file, key.place, key.line,
+                AddIn(judged, "text-unused", file, key.place, key.line,
                       "no dialog of the folder uses the text " + InQuotes(key.name), "delete it");
         }
     }
 }
 
-} // namespace language_file_rules
 } // namespace
 
-Family LanguageFileRules()
+void ApplyLanguageFileRules(const Case& judged)
 {
-    using namespace language_file_rules;
-    return {{&section, &markAtBegin, &form, &message, &unused},
-            [](const Case& judged)
-            {
-                if (judged.surroundings.texts.Files().empty())
-                    return;
-                JudgeByteOrderMark(judged);
-                JudgeSection(judged);
-                if (IsFirstOfFolder(judged))
-                {
-                    JudgeForm(judged);
-                    for (const LibraryText& text : LibraryTexts())
-                        JudgeMessage(judged, text);
-                }
-                JudgeUnused(judged);
-            }};
+    if (judged.surroundings.texts.Files().empty())
+        return;
+    JudgeByteOrderMark(judged);
+    JudgeSection(judged);
+    if (IsFirstOfFolder(judged))
+    {
+        JudgeForm(judged);
+        for (const LibraryText& text : LibraryTexts())
+            JudgeMessage(judged, text);
+    }
+    JudgeUnused(judged);
 }
 
 } // namespace lytdlg

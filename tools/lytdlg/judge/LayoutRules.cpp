@@ -1,4 +1,4 @@
-#include "lytdlg/judge/LayoutRules.h"
+#include "lytdlg/judge/Families.h"
 
 #include "base/Words.h"
 #include "lytdlg/judge/ControlValues.h"
@@ -15,112 +15,6 @@ namespace lytdlg
 
 namespace
 {
-namespace layout_rules
-{
-
-constexpr Rule unknownType = {
-    "type-unknown",
-    Level::Warning,
-    "A type word is unknown, and its statement makes no control.",
-    "The library knows thirteen type words, letter by letter. A statement with any other word is\n"
-    "passed over, and the control is missing.",
-    "$LAYOUT\nTextbox 500, 12, 100, 19, .Extra",
-    "$LAYOUT\nTextBox 500, 12, 100, 19, .Extra"};
-
-constexpr Rule nameTwice = {"name-twice",
-                            Level::Warning,
-                            "Two controls have the same name.",
-                            "Rules and statements reach only the last control of a name.",
-                            "$LAYOUT\nTextBox 500, 12, 100, 19, .Name",
-                            "$LAYOUT\nTextBox 500, 12, 100, 19, .Extra"};
-
-constexpr Rule noPoint = {
-    "name-without-point",
-    Level::Warning,
-    "A name has no point before it.",
-    "A name comes after a point. In the last place the first letter is dropped as if it were the\n"
-    "point, and in the place of the text the name is taken for a key of the texts.",
-    "$LAYOUT\nTextBox 500, 12, 100, 19, \"\", Extra",
-    "$LAYOUT\nTextBox 500, 12, 100, 19, \"\", .Extra"};
-
-constexpr Rule surplus = {
-    "control-surplus",
-    Level::Warning,
-    "A statement has more words than a control takes.",
-    "Four numbers are followed by the text and the name, and after the name nothing more is read. "
-    "A fifth number\nis taken for the key of the text.",
-    "$LAYOUT\nTextBox 500, 12, 100, 19, \"\", .Extra, .More",
-    "$LAYOUT\nTextBox 500, 12, 100, 19, \"\", .Extra"};
-
-constexpr Rule noNumber = {
-    "number-wrong",
-    Level::Warning,
-    "A word stands where a number must stand.",
-    "Left, top, width and height are whole numbers. A word counts as 0, and of \"12x\" the 12 counts.",
-    "$LAYOUT\nTextBox 500, 12, wide, 19, .Extra",
-    "$LAYOUT\nTextBox 500, 12, 100, 19, .Extra"};
-
-constexpr Rule range = {"number-range",
-                        Level::Warning,
-                        "A position or a size is out of range.",
-                        "Numbers reach from -2147483648 to 2147483647; the nearest of them counts.",
-                        "$LAYOUT\nText 500, 12, 99999999999, 12, \"Hall\", .Extra",
-                        "$LAYOUT\nText 500, 12, 100, 12, \"Hall\", .Extra"};
-
-constexpr Rule noSize = {
-    "size-zero",
-    Level::Warning,
-    "A control has no width or no height.",
-    "Texts, check boxes and options are as large as their text. Any other control takes the size that\n"
-    "its statement gives; without one it cannot be seen. A control that nobody is to see\n"
-    "should be HIDDEN.",
-    "$LAYOUT\nTextBox 500, 12, 100, 0, .Extra",
-    "$LAYOUT\nTextBox 500, 12, 100, 19, .Extra"};
-
-constexpr Rule noCaption = {
-    "box-without-caption",
-    Level::Warning,
-    "A check box or an option has no caption, and cannot be clicked.",
-    "Both are as high as their text. Without one they have no height: nobody sees them, and the mouse\n"
-    "does not reach them. One that nobody is to see should be HIDDEN.",
-    "$LAYOUT\nCheckBox 520, 12, 112, 12, \"\", .More",
-    "$LAYOUT\nCheckBox 520, 12, 112, 12, \"Remove\", .More"};
-
-constexpr Rule noGroup = {
-    "option-without-group",
-    Level::Warning,
-    "An option stands before any option group.",
-    "An OptionGroup stands for the options that follow it. Without one an option stands for itself\n"
-    "alone: its value is its own, checked or not.",
-    "$LAYOUT\n-OptionGroup .Order\nOptionGroup .Order\n"
-    "OptionButton 500, 12, 80, 12, \"Remove\", .Extra\n$VALUES\n-Order = s\nExtra = e",
-    "$LAYOUT\nOptionGroup .Kind\nOptionButton 500, 12, 80, 12, \"Remove\", .Extra"};
-
-constexpr Rule emptyGroup = {
-    "group-without-options",
-    Level::Warning,
-    "An option group has no options.",
-    "The options of a group follow it, up to the next group. A group without options has no value.",
-    "$LAYOUT\nOptionGroup .Kind",
-    "$LAYOUT\nOptionGroup .Kind\nOptionButton 500, 12, 80, 12, \"Remove\", .KindShort"};
-
-constexpr Rule noButton = {
-    "button-missing",
-    Level::Note,
-    "The dialog has no OK button or no Cancel button.",
-    "Without an OK button only Return confirms, and without a Cancel button only Escape and the frame\n"
-    "cancel.",
-    "-CancelButton 352, 384, 112, 22, .Cancel",
-    "$LAYOUT\n-OKButton  228, 384, 112,  22, .Ok\n-CancelButton 352, 384, 112, 22, .Cancel\n"
-    "OKButton 228, 384, 112, 22, .Ok\nCancelButton 352, 384, 112, 22, .Cancel"};
-
-constexpr Rule buttonTwice = {
-    "button-twice",
-    Level::Warning,
-    "The dialog has two OK buttons or two Cancel buttons.",
-    "A dialog has at most one of each.",
-    "$LAYOUT\nOKButton 500, 12, 112, 22, .Extra",
-    "$LAYOUT\nPushButton 500, 12, 112, 22, \"Remove\", .Extra\n$VALUES\nExtra: DELETE = Rooms"};
 
 ClytSpan PlaceOf(const ClytControlStatement& control, const LineToken& word)
 {
@@ -128,7 +22,7 @@ ClytSpan PlaceOf(const ClytControlStatement& control, const LineToken& word)
 }
 
 // One control with the words of its statement.
-struct Statement
+struct LayoutLine
 {
     const Case& judged;
     const ClytControlStatement& control;
@@ -136,21 +30,21 @@ struct Statement
     const Kind kind;
 };
 
-void JudgeType(const Statement& statement)
+void JudgeType(const LayoutLine& statement)
 {
     if (statement.kind == Kind::Unknown)
         statement.judged.findings.Add(
-            unknownType, PlaceOf(statement.control, statement.words[0]),
+            "type-unknown", PlaceOf(statement.control, statement.words[0]),
             InQuotes(statement.words[0].text) + " is no type of control, and makes none",
             MeantOr(statement.words[0].text, TypeWords(), "use one of: " + Joined(TypeWords())));
 }
 
-bool IsInQuotes(const Statement& statement, const LineToken& word)
+bool IsInQuotes(const LayoutLine& statement, const LineToken& word)
 {
     return statement.judged.description.IsQuoted(PlaceOf(statement.control, word));
 }
 
-bool IsNumber(const std::string& word)
+bool IsLayoutNumber(const std::string& word)
 {
     const char* rest = nullptr;
     static_cast<void>(lytNumberOf(word.c_str(), &rest));
@@ -158,19 +52,19 @@ bool IsNumber(const std::string& word)
 }
 
 // The first number after the four that a control has; null without one.
-const LineToken* FifthNumber(const Statement& statement)
+const LineToken* FifthNumber(const LayoutLine& statement)
 {
     const std::vector<LineToken>& words = statement.words;
-    const bool isFifth = words.size() > 5 && IsNumber(words[5].text) && !IsInQuotes(statement, words[5]);
-    return isFifth && IsNumber(words[4].text) ? &words[5] : nullptr;
+    const bool isFifth = words.size() > 5 && IsLayoutNumber(words[5].text) && !IsInQuotes(statement, words[5]);
+    return isFifth && IsLayoutNumber(words[4].text) ? &words[5] : nullptr;
 }
 
-void JudgeNamePoint(const Statement& statement)
+void JudgeNamePoint(const LayoutLine& statement)
 {
     const std::vector<LineToken>& words = statement.words;
     if (const LineToken* fifth = FifthNumber(statement))
     {
-        statement.judged.findings.Add(surplus, PlaceOf(statement.control, *fifth),
+        statement.judged.findings.Add("control-surplus", PlaceOf(statement.control, *fifth),
                                       "a fifth number is taken for the key of a text",
                                       "left, top, width and height are all; delete one of the numbers");
         return;
@@ -178,7 +72,7 @@ void JudgeNamePoint(const Statement& statement)
     const bool isShort = words.size() > 1 && words[1].text.starts_with('.');
     const size_t last = isShort ? 1 : words.size() > 5 && words[5].text.starts_with('.') ? 5 : 6;
     if (words.size() > last + 1)
-        statement.judged.findings.Add(surplus, PlaceOf(statement.control, words[last + 1]),
+        statement.judged.findings.Add("control-surplus", PlaceOf(statement.control, words[last + 1]),
                                       "nothing is read after the name", "delete the words");
     const bool isNameAsText = words.size() == 6 && !statement.control.text.IsEmpty() && !ShowsText(statement.kind) &&
                               statement.kind != Kind::Unknown && !IsInQuotes(statement, words[5]);
@@ -189,7 +83,7 @@ void JudgeNamePoint(const Statement& statement)
         return;
     const std::string taken = statement.control.name.GetString();
     statement.judged.findings.Add(
-        noPoint, PlaceOf(statement.control, *name),
+        "name-without-point", PlaceOf(statement.control, *name),
         isNameAsText ? InQuotes(name->text) + " is taken for a text, which " + NameOf(statement.kind) + " does not show"
                      : "the control is called " + InQuotes(taken) + ", without its first letter",
         "write \"." + name->text + "\"");
@@ -203,11 +97,11 @@ void JudgeNumber(const Case& judged, int line, const LineToken& word, const char
     const bool isCut = word.text != std::to_string(number) &&
                        (number == std::numeric_limits<int>::max() || number == std::numeric_limits<int>::min());
     if (word.text.empty() || *rest != '\0')
-        judged.findings.Add(noNumber, place,
+        judged.findings.Add("number-wrong", place,
                             InQuotes(word.text) + " counts as " + std::to_string(number) + " for the " + what,
                             "write a whole number");
     else if (isCut)
-        judged.findings.Add(range, place,
+        judged.findings.Add("number-range", place,
                             "the " + std::string(what) + " " + word.text + " counts as " + std::to_string(number),
                             "write a smaller number");
 }
@@ -223,7 +117,7 @@ void JudgeHeader(const Case& judged)
     JudgeNumber(judged, line, words[4], "height of the dialog");
 }
 
-void JudgeNumbers(const Statement& statement)
+void JudgeNumbers(const LayoutLine& statement)
 {
     constexpr const char* names[] = {"left", "top", "width", "height"};
     const bool hasNumbers = statement.words.size() > 4 && !statement.words[1].text.starts_with('.');
@@ -240,20 +134,20 @@ void JudgeNumbers(const Statement& statement)
                     [](const LineToken& word) { return std::isalpha(static_cast<unsigned char>(word.text[0])) != 0; });
     if (!isWord)
         statement.judged.findings.Add(
-            noSize, hasNumbers ? PlaceOf(control, statement.words[control.width > 0 ? 4 : 3]) : control.span,
+            "size-zero", hasNumbers ? PlaceOf(control, statement.words[control.width > 0 ? 4 : 3]) : control.span,
             NameOf(statement.kind) + std::string(" without ") + (control.width > 0 ? "a height" : "a width") +
                 " cannot be seen",
             "give it a size, or make it HIDDEN in $VALUES");
 }
 
-void JudgeCaption(const Statement& statement)
+void JudgeCaption(const LayoutLine& statement)
 {
     const ClytControlStatement& control = statement.control;
     const bool isBox = statement.kind == Kind::CheckBox || statement.kind == Kind::Option;
     if (!isBox || !control.text.IsEmpty() ||
         HasOption(statement.judged.description, control.name.GetString(), ClytOption::Hidden))
         return;
-    statement.judged.findings.Add(noCaption, statement.judged.description.PlaceOf(control.span.line),
+    statement.judged.findings.Add("box-without-caption", statement.judged.description.PlaceOf(control.span.line),
                                   NameOf(statement.kind) +
                                       std::string(" without a caption has no height and cannot be clicked"),
                                   "write the key of its text before the name, or make it HIDDEN in $VALUES");
@@ -263,9 +157,9 @@ void JudgeStatements(const Case& judged)
 {
     for (const ClytControlStatement& control : judged.description.controls)
     {
-        const Statement statement = {judged, control,
-                                     TokensOf(judged.description.text.Line(control.span.line).text, Section::Layout),
-                                     KindOf(control)};
+        const LayoutLine statement = {judged, control,
+                                      TokensOf(judged.description.text.Line(control.span.line).text, Section::Layout),
+                                      KindOf(control)};
         // What goes over the limit of a line stands there as a control of its own.
         if (statement.words.empty() || statement.words[0].text != control.type.GetString())
             continue;
@@ -287,20 +181,20 @@ void JudgeNames(const Case& judged)
         const auto [first, isNew] = lines.emplace(name, control.span.line);
         if (!isNew)
             judged.findings.Add(
-                nameTwice, judged.description.PlaceOf(control.span.line, "." + name, control.span.column),
+                "name-twice", judged.description.PlaceOf(control.span.line, "." + name, control.span.column),
                 "a control of line " + std::to_string(first->second) + " has the name " + InQuotes(name),
                 "give each control a name of its own");
     }
 }
 
-void JudgeGroups(const Case& judged)
+void JudgeOptionGroups(const Case& judged)
 {
     const ClytControlStatement* group = nullptr;
     bool hasOptions = true;
     const auto judgeGroup = [&]
     {
         if (group != nullptr && !hasOptions)
-            judged.findings.Add(emptyGroup, judged.description.PlaceOf(group->span.line),
+            judged.findings.Add("group-without-options", judged.description.PlaceOf(group->span.line),
                                 "no option follows the group " + InQuotes(group->name.GetString()),
                                 "write its options below it");
     };
@@ -315,7 +209,7 @@ void JudgeGroups(const Case& judged)
         }
         hasOptions = hasOptions || kind == Kind::Option;
         if (kind == Kind::Option && group == nullptr)
-            judged.findings.Add(noGroup, judged.description.PlaceOf(control.span.line),
+            judged.findings.Add("option-without-group", judged.description.PlaceOf(control.span.line),
                                 "this option belongs to no group", "write an OptionGroup above it");
     }
     judgeGroup();
@@ -329,7 +223,7 @@ void JudgeButton(const Case& judged, Kind kind, const char* typeWord)
         if (KindOf(control) != kind)
             continue;
         if (first != nullptr)
-            judged.findings.Add(buttonTwice, judged.description.PlaceOf(control.span.line),
+            judged.findings.Add("button-twice", judged.description.PlaceOf(control.span.line),
                                 std::string("the dialog has ") + NameOf(kind) + " already, in line " +
                                     std::to_string(first->span.line),
                                 "delete one of them");
@@ -337,28 +231,21 @@ void JudgeButton(const Case& judged, Kind kind, const char* typeWord)
             first = &control;
     }
     if (first == nullptr && judged.description.hasDialogHeader)
-        judged.findings.Add(noButton, judged.description.PlaceOf(judged.description.dialogHeader.line),
+        judged.findings.Add("button-missing", judged.description.PlaceOf(judged.description.dialogHeader.line),
                             std::string("the dialog has no ") + typeWord,
                             std::string("add one: ") + typeWord + " LEFT, TOP, 112, 22");
 }
 
-} // namespace layout_rules
 } // namespace
 
-Family LayoutRules()
+void ApplyLayoutRules(const Case& judged)
 {
-    using namespace layout_rules;
-    return {{&unknownType, &nameTwice, &noPoint, &surplus, &noNumber, &range, &noSize, &noCaption, &noGroup,
-             &emptyGroup, &noButton, &buttonTwice},
-            [](const Case& judged)
-            {
-                JudgeHeader(judged);
-                JudgeStatements(judged);
-                JudgeNames(judged);
-                JudgeGroups(judged);
-                JudgeButton(judged, Kind::Ok, "OKButton");
-                JudgeButton(judged, Kind::Cancel, "CancelButton");
-            }};
+    JudgeHeader(judged);
+    JudgeStatements(judged);
+    JudgeNames(judged);
+    JudgeOptionGroups(judged);
+    JudgeButton(judged, Kind::Ok, "OKButton");
+    JudgeButton(judged, Kind::Cancel, "CancelButton");
 }
 
 } // namespace lytdlg

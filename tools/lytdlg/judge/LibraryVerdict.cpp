@@ -4,6 +4,7 @@
 #include "environment/ClytEnvironment.h"
 #include "environment/ProcessState.h"
 #include "liveform/LiveForm.h"
+#include "lytdlg/judge/Families.h"
 #include "lytdlg/text/FileForLibrary.h"
 #include "lytdlg/text/Paths.h"
 #include "lytdlg/text/Words.h"
@@ -17,15 +18,6 @@ namespace lytdlg
 
 namespace
 {
-
-constexpr Rule refused = {
-    "refused",
-    Level::Error,
-    "The library refuses the description for a reason that no other rule names.",
-    "The dialog was constructed as the library does it, and that failed. The message is what the\n"
-    "library shows. Mend the findings above first: they may be its cause.",
-    "",
-    ""};
 
 // Looks for texts where none are, since each one would be looked up in a file.
 class WithoutTexts
@@ -112,7 +104,7 @@ std::optional<Refusal> RefusalOf(const Description& description)
     }
 }
 
-void JudgeByLibrary(const Case& judged)
+void ApplyLibraryVerdict(const Case& judged)
 {
     const std::optional<Refusal> refusal = RefusalOf(judged.description);
     if (!refusal)
@@ -132,15 +124,10 @@ void JudgeByLibrary(const Case& judged)
     }
     const std::string words = WordingOf(*refusal, judged.surroundings.texts);
     judged.findings
-        .Add(refused, judged.description.PlaceOf(refusal->line),
+        .Add("refused", judged.description.PlaceOf(refusal->line),
              "the library refuses the description here" + (words.empty() ? "" : ": " + words),
              findings.empty() ? "" : "mend the findings above first")
         .number = refusal->number;
-}
-
-Family LibraryRules()
-{
-    return {{&refused}, JudgeByLibrary};
 }
 
 } // namespace lytdlg

@@ -1,7 +1,7 @@
-// The last word is the library's: it constructs the dialog of a description, and what it refuses is a finding.
+// What the library says when it constructs the dialog of a description.
 #pragma once
 
-#include "lytdlg/judge/Judge.h"
+#include "lytdlg/judge/Description.h"
 
 #include <optional>
 
@@ -20,10 +20,5 @@ struct Refusal
 // Constructs the dialog, without texts and with an empty input; nothing when the library takes it. Messages on the way
 // are answered.
 std::optional<Refusal> RefusalOf(const Description& description);
-
-// Gives the finding at its place the library's number, or adds one when none stands for the refusal.
-void JudgeByLibrary(const Case& judged);
-
-Family LibraryRules();
 
 } // namespace lytdlg

@@ -1,4 +1,4 @@
-#include "lytdlg/judge/LineRules.h"
+#include "lytdlg/judge/Families.h"
 
 #include "dlgfile/ClytDialogFile.h"
 #include "lytdlg/judge/CodePage.h"
@@ -10,78 +10,6 @@ namespace lytdlg
 
 namespace
 {
-namespace line_rules
-{
-
-constexpr Rule tab = {
-    "tab",
-    Level::Warning,
-    "A tab ends a word.",
-    "Write blanks, never tabs. In most sections a tab separates like a comma, and one before a sign or\n"
-    "a comma makes an empty word of its own. In $OUTPUT it does not separate.",
-    "$VALUES\nUnit\t= m",
-    "$VALUES\nUnit = m"};
-
-constexpr Rule length = {
-    "line-length",
-    Level::Warning,
-    "A line has more than 399 characters.",
-    "A line is read in pieces of 399 characters. What is left over is read as a statement of its own, and\n"
-    "counts as a line.",
-    "$VALUES\nUnit = m{LONG}; metres",
-    "$VALUES\nUnit = m ; metres"};
-
-constexpr Rule markBeforeVersion = {
-    "byte-order-mark",
-    Level::Error,
-    "A byte order mark stands before $VERSION.",
-    "The file was saved as UTF-8 with a mark at its beginning, which the library takes for letters of the\n"
-    "first word. Save it in code page 1252, which editors call ANSI or Windows-1252.",
-    "\xEF\xBB\xBF{ABOVE}",
-    "; an example"};
-
-constexpr Rule markAbove = {
-    "byte-order-mark-above",
-    Level::Warning,
-    "A byte order mark stands before the free text above $VERSION.",
-    "The library passes it over there, but the file was saved as UTF-8: letters with an accent show as two\n"
-    "odd characters. Save it in code page 1252, which editors call ANSI or Windows-1252.",
-    "\xEF\xBB\xBF; an example",
-    "; an example"};
-
-constexpr Rule utf8 = {
-    "utf-8",
-    Level::Warning,
-    "A text was saved as UTF-8.",
-    "The library reads the ANSI code page, 1252 in Western Europe. Each letter with an accent shows as\n"
-    "two odd characters. Save the file in that code page.",
-    "$VALUES\nUnit = Stra\xC3\x9F"
-    "e",
-    "$VALUES\nUnit = Stra\xDF"
-    "e"};
-
-constexpr Rule bytes = {
-    "control-byte",
-    Level::Warning,
-    "A byte stands for no character.",
-    "A NUL byte ends the line for the library. Other control bytes, and the five that code page 1252\n"
-    "does not use, show as boxes or not at all.",
-    "$VALUES\nUnit = m{NUL}",
-    "$VALUES\nUnit = m"};
-
-constexpr Rule endMark = {"end-mark",
-                          Level::Warning,
-                          "Text stands after a Ctrl-Z, which ends the file for the library.",
-                          "In a text file a byte 1A (Ctrl-Z) is its end. What stands after it is not read.",
-                          "$END\n{1A}\nmore",
-                          "$END"};
-
-constexpr Rule afterEnd = {"after-end",
-                           Level::Warning,
-                           "Text stands after $END.",
-                           "The library reads no further than $END. What stands after it is lost.",
-                           "$END\n(\"%s\", Name)",
-                           "$END\n; a comment"};
 
 bool IsInStatements(const SourceLine& line)
 {
@@ -113,7 +41,7 @@ size_t EndOfStatement(const SourceLine& line)
     return text.size();
 }
 
-void AddAt(const Case& judged, const Rule& rule, int line, size_t column, size_t size, std::string message,
+void AddAt(const Case& judged, RuleName rule, int line, size_t column, size_t size, std::string message,
            std::string hint)
 {
     judged.findings.Add(rule, {line, static_cast<int>(column), static_cast<int>(size)}, std::move(message),
@@ -142,7 +70,7 @@ void JudgeTabs(const Case& judged, const SourceLine& line)
         if (!endsWord || isHarmless)
             continue;
         const bool separates = line.section != Section::Output;
-        AddAt(judged, tab, line.number, place, 1,
+        AddAt(judged, "tab", line.number, place, 1,
               separates ? "this tab ends the word before it, as a comma does" : "this tab does not separate words",
               "write blanks in place of tabs");
         return;
@@ -153,7 +81,7 @@ void JudgeLength(const Case& judged, const SourceLine& line)
 {
     constexpr size_t limit = ClytDialogFile::lineSize;
     if (IsInStatements(line) && line.text.size() > limit)
-        AddAt(judged, length, line.number, limit, line.text.size() - limit,
+        AddAt(judged, "line-length", line.number, limit, line.text.size() - limit,
               "what stands after character " + std::to_string(limit) + " is read as a line of its own",
               "a line may have " + std::to_string(limit) + " characters; shorten it");
 }
@@ -169,12 +97,12 @@ void JudgeBytes(const Case& judged, const SourceLine& line)
     {
         const size_t size = SequenceLength(line.text, place);
         if (size != 0 && !isUtf8Told)
-            AddAt(judged, utf8, line.number, place, size,
+            AddAt(judged, "utf-8", line.number, place, size,
                   "the library reads this letter as " + std::to_string(size) + " characters", saveAsAnsi);
         isUtf8Told = isUtf8Told || size != 0;
         if (size == 0 && StandsForNothing(line.text[place]))
         {
-            AddAt(judged, bytes, line.number, place, 1,
+            AddAt(judged, "control-byte", line.number, place, 1,
                   "the byte " + HexOf(line.text[place]) + " stands for no character",
                   line.text[place] == '\0' ? "delete it: it ends the line" : "delete it");
             return;
@@ -189,15 +117,15 @@ void JudgeFile(const Case& judged)
     const bool isAtVersion = !text.Lines().empty() && text.Lines().front().isHeader;
     if (text.HasByteOrderMark() && isAtVersion)
     {
-        AddAt(judged, markBeforeVersion, 1, 0, 1, "a byte order mark stands before the first word",
+        AddAt(judged, "byte-order-mark", 1, 0, 1, "a byte order mark stands before the first word",
               "save the file in code page 1252, or begin it with a comment");
         judged.findings.All().back().number = "213";
     }
     else if (text.HasByteOrderMark())
-        AddAt(judged, markAbove, 1, 0, 1, "the file begins with a byte order mark, and so was saved as UTF-8",
-              saveAsAnsi);
+        AddAt(judged, "byte-order-mark-above", 1, 0, 1,
+              "the file begins with a byte order mark, and so was saved as UTF-8", saveAsAnsi);
     if (text.HasTextAfterEndMark())
-        judged.findings.Add(endMark, judged.description.PlaceOf(static_cast<int>(text.Lines().size())),
+        judged.findings.Add("end-mark", judged.description.PlaceOf(static_cast<int>(text.Lines().size())),
                             "a Ctrl-Z ends the file here, and text follows it", "delete the byte 1A");
 }
 
@@ -208,30 +136,24 @@ void JudgeAfterEnd(const Case& judged)
         const size_t start = line->text.find_first_not_of(" \t");
         if (line->isHeader || start == std::string::npos || line->text[start] == ';')
             continue;
-        judged.findings.Add(afterEnd, judged.description.PlaceOf(line->number), "nothing after $END is read",
+        judged.findings.Add("after-end", judged.description.PlaceOf(line->number), "nothing after $END is read",
                             "move it above $END, or make a comment of it");
         return;
     }
 }
 
-} // namespace line_rules
 } // namespace
 
-Family LineRules()
+void ApplyLineRules(const Case& judged)
 {
-    using namespace line_rules;
-    return {{&tab, &length, &markBeforeVersion, &markAbove, &utf8, &bytes, &endMark, &afterEnd},
-            [](const Case& judged)
-            {
-                for (const SourceLine& line : judged.description.text.Lines())
-                {
-                    JudgeTabs(judged, line);
-                    JudgeLength(judged, line);
-                    JudgeBytes(judged, line);
-                }
-                JudgeFile(judged);
-                JudgeAfterEnd(judged);
-            }};
+    for (const SourceLine& line : judged.description.text.Lines())
+    {
+        JudgeTabs(judged, line);
+        JudgeLength(judged, line);
+        JudgeBytes(judged, line);
+    }
+    JudgeFile(judged);
+    JudgeAfterEnd(judged);
 }
 
 } // namespace lytdlg

@@ -1,4 +1,4 @@
-#include "lytdlg/judge/MarkRules.h"
+#include "lytdlg/judge/Families.h"
 
 #include <set>
 
@@ -7,53 +7,6 @@ namespace lytdlg
 
 namespace
 {
-namespace mark_rules
-{
-
-constexpr Rule indented = {
-    "mark-indented",
-    Level::Error,
-    "A mark that switches lines does not stand in the first column.",
-    "Lines between <NAME and > count only when the define NAME is set. The marks stand in the first\n"
-    "column; anywhere else the library takes them for statements.",
-    "$VALUES\nUnit = m\n >",
-    "$VALUES\n<!WIDE\nUnit = m\n>"};
-
-constexpr Rule unopened = {"mark-unopened",
-                           Level::Note,
-                           "A mark > ends nothing.",
-                           "A line that begins with > switches lines on again. Without a mark < above it they are on.",
-                           "$VALUES\nUnit = m\n>",
-                           "$VALUES\n<!WIDE\nUnit = m\n>"};
-
-constexpr Rule unended = {"mark-unended",
-                          Level::Warning,
-                          "A mark < is not ended by >.",
-                          "Everything down to the next mark, or to the end of the file, belongs to the define.",
-                          "$OUTPUT\n<!WIDE",
-                          "$OUTPUT\n<!WIDE\n>"};
-
-constexpr Rule nested = {"mark-nested",
-                         Level::Warning,
-                         "A mark < stands inside another one.",
-                         "Marks do not nest: the inner one ends the outer, and the first > ends both.",
-                         "$VALUES\n<!WIDE\n<!LONG\nUnit = m\n>",
-                         "$VALUES\n<!WIDE\n>\n<!LONG\nUnit = m\n>"};
-
-constexpr Rule nameless = {"mark-nameless",
-                           Level::Warning,
-                           "No name follows a mark <.",
-                           "The name of the define follows the mark at once, without a blank.",
-                           "$VALUES\n<! WIDE\nUnit = m\n>",
-                           "$VALUES\n<!WIDE\nUnit = m\n>"};
-
-constexpr Rule switchedOff = {
-    "define-off",
-    Level::Note,
-    "Lines are switched off, since no --define names their define.",
-    "They were not judged. Judge the description once more with the define that switches them on.",
-    "$VALUES\n<WIDE\nUnit = m\n>",
-    "$VALUES\nUnit = m"};
 
 // Follows the marks from the first line to the last.
 class Marks
@@ -72,7 +25,7 @@ public:
     void End()
     {
         if (m_open != nullptr)
-            m_judged.findings.Add(unended, PlaceOf(*m_open), "no > ends this mark down to the end of the file",
+            m_judged.findings.Add("mark-unended", PlaceOf(*m_open), "no > ends this mark down to the end of the file",
                                   "add a line with > after the last line that belongs to the define");
     }
 
@@ -87,15 +40,15 @@ private:
     {
         const ClytSpan place = PlaceOf(mark);
         if (mark.define.empty())
-            m_judged.findings.Add(nameless, place, "the name of the define is missing",
+            m_judged.findings.Add("mark-nameless", place, "the name of the define is missing",
                                   "write it right after the mark, without a blank");
         else if (!mark.isInverted && SectionOf(mark) != Section::End &&
                  !m_judged.description.text.IsDefined(mark.define) && m_switchedOff.insert(mark.define).second)
-            m_judged.findings.Add(switchedOff, place,
+            m_judged.findings.Add("define-off", place,
                                   "lines that the define \"" + mark.define + "\" switches on were not judged",
                                   "judge them with --define " + mark.define);
         if (m_open != nullptr)
-            m_judged.findings.Add(nested, place,
+            m_judged.findings.Add("mark-nested", place,
                                   "marks do not nest: this one ends the mark of line " +
                                       std::to_string(m_open->place.line),
                                   "end the other one with > first");
@@ -105,7 +58,7 @@ private:
     void Close(const SwitchMark& mark)
     {
         if (m_open == nullptr && SectionOf(mark) != Section::Head)
-            m_judged.findings.Add(unopened, PlaceOf(mark), "this mark ends nothing", "delete it");
+            m_judged.findings.Add("mark-unopened", PlaceOf(mark), "this mark ends nothing", "delete it");
         m_open = nullptr;
     }
 
@@ -121,27 +74,21 @@ void JudgeIndented(const Case& judged, const SourceLine& line)
         start != std::string::npos && start > 0 && (line.text[start] == '<' || line.text[start] == '>');
     if (isIndented && judged.description.IsRefused(line.number))
         judged.findings
-            .Add(indented, {line.number, static_cast<int>(start), 1}, "this mark is read as a statement",
+            .Add("mark-indented", {line.number, static_cast<int>(start), 1}, "this mark is read as a statement",
                  "begin the line with it, without blanks")
             .number = "212";
 }
 
-} // namespace mark_rules
 } // namespace
 
-Family MarkRules()
+void ApplyMarkRules(const Case& judged)
 {
-    using namespace mark_rules;
-    return {{&indented, &unopened, &unended, &nested, &nameless, &switchedOff},
-            [](const Case& judged)
-            {
-                Marks marks(judged);
-                for (const SwitchMark& mark : judged.description.text.Marks())
-                    marks.Take(mark);
-                marks.End();
-                for (const SourceLine& line : judged.description.text.Lines())
-                    JudgeIndented(judged, line);
-            }};
+    Marks marks(judged);
+    for (const SwitchMark& mark : judged.description.text.Marks())
+        marks.Take(mark);
+    marks.End();
+    for (const SourceLine& line : judged.description.text.Lines())
+        JudgeIndented(judged, line);
 }
 
 } // namespace lytdlg

@@ -1,4 +1,4 @@
-#include "lytdlg/judge/MnemonicRules.h"
+#include "lytdlg/judge/Families.h"
 
 #include "lytdlg/judge/ControlValues.h"
 #include "lytdlg/judge/TextUses.h"
@@ -11,48 +11,23 @@ namespace lytdlg
 
 namespace
 {
-namespace mnemonic_rules
-{
 
-constexpr Rule twice = {
-    "mnemonic-twice",
-    Level::Warning,
-    "Two captions of a dialog underline the same letter.",
-    "Alt with the letter then goes from one to the other, and a button needs a second press. Choose "
-    "another letter in\nthe language file.",
-    "$LAYOUT Example\n    CheckBox 520, 12, 112, 12, \"Note\", .More",
-    "$LAYOUT Example\n    CheckBox 520, 12, 112, 12, \"Remove\", .More"};
-
-constexpr Rule none = {
-    "mnemonic-none",
-    Level::Note,
-    "A caption underlines no letter, while most of the others do.",
-    "An & before a letter of the caption underlines it, and Alt with that letter goes to the button, "
-    "or to the control\nafter a Text.",
-    "$LAYOUT Example\n    CheckBox 520, 12, 112, 12, \"Plain\", .More",
-    "$LAYOUT Example\n    CheckBox 520, 12, 112, 12, \"Remove\", .More"};
-
-struct Caption
+struct LetteredCaption
 {
     const ShownText* use = nullptr;
     char letter = '\0';
 };
 
-std::string NameOf(const ClytControlStatement& control)
-{
-    return control.name.GetString();
-}
-
 bool IsHidden(const Description& description, const ClytControlStatement& control)
 {
-    return !control.name.IsEmpty() && HasOption(description, NameOf(control), ClytOption::Hidden);
+    return !control.name.IsEmpty() && HasOption(description, control.name.GetString(), ClytOption::Hidden);
 }
 
 // The captions that lead to a control, with their letters.
-std::vector<Caption> CaptionsOf(const Description& description, const LanguageFile& file,
-                                const std::vector<ShownText>& uses)
+std::vector<LetteredCaption> CaptionsOf(const Description& description, const LanguageFile& file,
+                                        const std::vector<ShownText>& uses)
 {
-    std::vector<Caption> captions;
+    std::vector<LetteredCaption> captions;
     for (const ShownText& use : uses)
     {
         const bool isCaption =
@@ -69,41 +44,41 @@ std::vector<Caption> CaptionsOf(const Description& description, const LanguageFi
 class LetterUsers
 {
 public:
-    void Add(const Caption& caption)
+    void Add(const LetteredCaption& caption)
     {
-        const bool isNew = std::ranges::none_of(m_captions, [&](const Caption* other)
+        const bool isNew = std::ranges::none_of(m_captions, [&](const LetteredCaption* other)
                                                 { return other->use->control == caption.use->control; });
         if (isNew && m_captions.size() < 2)
             m_captions.push_back(&caption);
     }
-    const Caption* Other(const Caption& caption) const
+    const LetteredCaption* Other(const LetteredCaption& caption) const
     {
-        const auto other = std::ranges::find_if(m_captions, [&](const Caption* each)
+        const auto other = std::ranges::find_if(m_captions, [&](const LetteredCaption* each)
                                                 { return each->use->control != caption.use->control; });
         return other != m_captions.end() ? *other : nullptr;
     }
 
 private:
-    std::vector<const Caption*> m_captions;
+    std::vector<const LetteredCaption*> m_captions;
 };
 
 // Two controls that may both be hidden are taken for ones that are never seen together.
-void JudgeTwice(const Case& judged, const LanguageFile& file, const std::vector<Caption>& captions)
+void JudgeTwice(const Case& judged, const LanguageFile& file, const std::vector<LetteredCaption>& captions)
 {
     std::map<char, LetterUsers> all;
     std::map<char, LetterUsers> alwaysSeen;
-    for (const Caption& caption : captions)
+    for (const LetteredCaption& caption : captions)
     {
         if (caption.letter == '\0')
             continue;
         const bool mayBeHidden = MayBeHidden(judged.description, *caption.use->control);
-        const Caption* before = (mayBeHidden ? alwaysSeen : all)[caption.letter].Other(caption);
+        const LetteredCaption* before = (mayBeHidden ? alwaysSeen : all)[caption.letter].Other(caption);
         all[caption.letter].Add(caption);
         if (!mayBeHidden)
             alwaysSeen[caption.letter].Add(caption);
         if (before == nullptr)
             continue;
-        judged.findings.Add(twice, caption.use->place,
+        judged.findings.Add("mnemonic-twice", caption.use->place,
                             "in " + file.Language() + ".nls " + InQuotes(caption.use->key) + " underlines the letter " +
                                 std::string(1, caption.letter) + " as " + InQuotes(before->use->key) + " in line " +
                                 std::to_string(before->use->place.line) + " does",
@@ -113,7 +88,7 @@ void JudgeTwice(const Case& judged, const LanguageFile& file, const std::vector<
 
 // Buttons, and texts whose next control can be reached. The two buttons that every dialog has are reached by Return and
 // Escape.
-bool LeadsSomewhere(const Description& description, const Caption& caption)
+bool LeadsSomewhere(const Description& description, const LetteredCaption& caption)
 {
     const ClytControlStatement* control = caption.use->control;
     const Kind kind = KindOf(*control);
@@ -123,44 +98,39 @@ bool LeadsSomewhere(const Description& description, const Caption& caption)
     if (control == &description.controls.back())
         return false;
     const bool isReached = KindOf(*next) == Kind::Field || HasItems(KindOf(*next));
-    const std::string name = NameOf(*next);
+    const std::string name = next->name.GetString();
     return isReached && !HasOption(description, name, ClytOption::Hidden) &&
            !HasOption(description, name, ClytOption::DisplayOnly);
 }
 
-void JudgeNone(const Case& judged, const LanguageFile& file, std::vector<Caption> captions)
+void JudgeNone(const Case& judged, const LanguageFile& file, std::vector<LetteredCaption> captions)
 {
-    std::erase_if(captions, [&](const Caption& caption) { return !LeadsSomewhere(judged.description, caption); });
-    const auto lacking = static_cast<size_t>(std::ranges::count(captions, '\0', &Caption::letter));
+    std::erase_if(captions,
+                  [&](const LetteredCaption& caption) { return !LeadsSomewhere(judged.description, caption); });
+    const auto lacking = static_cast<size_t>(std::ranges::count(captions, '\0', &LetteredCaption::letter));
     if (lacking * 2 >= captions.size())
         return;
-    for (const Caption& caption : captions)
+    for (const LetteredCaption& caption : captions)
     {
         if (caption.letter == '\0')
-            judged.findings.Add(none, caption.use->place,
+            judged.findings.Add("mnemonic-none", caption.use->place,
                                 "in " + file.Language() + ".nls " + InQuotes(caption.use->key) +
                                     " underlines no letter",
                                 "write an & before a letter that the dialog does not have yet");
     }
 }
 
-} // namespace mnemonic_rules
 } // namespace
 
-Family MnemonicRules()
+void ApplyMnemonicRules(const Case& judged)
 {
-    using namespace mnemonic_rules;
-    return {{&twice, &none},
-            [](const Case& judged)
-            {
-                const std::vector<ShownText> uses = TextUsesOf(judged.description);
-                for (const LanguageFile& file : judged.surroundings.texts.Files())
-                {
-                    const std::vector<Caption> captions = CaptionsOf(judged.description, file, uses);
-                    JudgeTwice(judged, file, captions);
-                    JudgeNone(judged, file, captions);
-                }
-            }};
+    const std::vector<ShownText> uses = TextUsesOf(judged.description);
+    for (const LanguageFile& file : judged.surroundings.texts.Files())
+    {
+        const std::vector<LetteredCaption> captions = CaptionsOf(judged.description, file, uses);
+        JudgeTwice(judged, file, captions);
+        JudgeNone(judged, file, captions);
+    }
 }
 
 } // namespace lytdlg

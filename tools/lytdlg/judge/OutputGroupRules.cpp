@@ -1,4 +1,4 @@
-#include "lytdlg/judge/OutputGroupRules.h"
+#include "lytdlg/judge/Families.h"
 
 #include "dialog/ClytDialog.h"
 #include "lytdlg/judge/LineTokens.h"
@@ -12,48 +12,6 @@ namespace lytdlg
 
 namespace
 {
-namespace output_group_rules
-{
-
-constexpr Rule noResult = {"output-parent",
-                           Level::Warning,
-                           "The dialog's result has no rule.",
-                           "The first group composes the result of the dialog. Without a rule OK does nothing.",
-                           "$OUTPUT, parent\n-    (\"%s;%s;%s;%s;%s;%s\", Name, Unit, Place, Form, Order, Pictures)\n"
-                           "$EVALUATION, x\n-    Name = NULL: NameMissing",
-                           "$OUTPUT, parent\n    Form(\"\") = (\"%s\", Name)"};
-
-constexpr Rule firstGroup = {"output-first",
-                             Level::Warning,
-                             "The first group has a name that does not count.",
-                             "The first group after $INPUT is always the result of the dialog, under the name parent.",
-                             "$OUTPUT,result",
-                             "$OUTPUT, parent"};
-
-constexpr Rule groupTwice = {
-    "output-twice",
-    Level::Warning,
-    "Two groups have the same name, and the first is never used.",
-    "Of groups with the same name the last counts.",
-    "$VALUES\n    Parts = FILLEDBY, lytdata, Open, Next, Out\n$OUTPUT, Out\n    (\"%s\", Name)\n$OUTPUT,  Out\n    "
-    "(\"%s\", Unit)",
-    "$VALUES\n    Parts = FILLEDBY, lytdata, Open, Next, Out\n$OUTPUT, Out\n    (\"%s\", Name)"};
-
-constexpr Rule groupUnused = {
-    "output-unused",
-    Level::Note,
-    "Nothing uses the group.",
-    "A group other than parent composes what a library of FILLEDBY or a button with DIALOG or ACTION receives.",
-    "$OUTPUT, Out\n    (\"%s\", Name)",
-    "$VALUES\n    Parts = FILLEDBY, lytdata, Open, Next, Out\n$OUTPUT, Out\n    (\"%s\", Name)"};
-
-constexpr Rule groupEmpty = {
-    "output-empty",
-    Level::Warning,
-    "A group has no rule.",
-    "It composes nothing, and what it is meant for does not happen.",
-    "$VALUES\n    Parts = FILLEDBY, lytdata, Open, Next, Out\n$OUTPUT, Out",
-    "$VALUES\n    Parts = FILLEDBY, lytdata, Open, Next, Out\n$OUTPUT, Out\n    (\"%s\", Name)"};
 
 std::set<std::string> UsedGroups(const Description& description)
 {
@@ -80,12 +38,12 @@ void JudgeFirst(const Case& judged)
         return;
     const std::vector<LineToken> words = TokensOf(header->text, Section::Input);
     if (words.size() > 1 && !words[1].text.empty() && words[1].text != lytParentName)
-        judged.findings.Add(firstGroup, judged.description.PlaceOf(header->number, words[1].text),
+        judged.findings.Add("output-first", judged.description.PlaceOf(header->number, words[1].text),
                             "the first group is the result of the dialog, whatever its name",
                             "write \"$OUTPUT, parent\", and put other groups after it");
 }
 
-void JudgeGroups(const Case& judged)
+void JudgeOutputGroups(const Case& judged)
 {
     const std::set<std::string> used = UsedGroups(judged.description);
     std::unordered_map<std::string, const OutputGroup*> last;
@@ -96,34 +54,28 @@ void JudgeGroups(const Case& judged)
         const ClytSpan place = judged.description.PlaceOf(group.header.line);
         const OutputGroup* later = last[group.name];
         if (later != &group)
-            judged.findings.Add(groupTwice, place,
+            judged.findings.Add("output-twice", place,
                                 "the group " + InQuotes(group.name) + " in line " + std::to_string(later->header.line) +
                                     " takes the place of this one",
                                 "give each group a name of its own");
         else if (!used.contains(group.name))
-            judged.findings.Add(groupUnused, place, "nothing uses the group " + InQuotes(group.name),
+            judged.findings.Add("output-unused", place, "nothing uses the group " + InQuotes(group.name),
                                 "name it in a FILLEDBY, DIALOG or ACTION, or delete it");
         else if (group.rules.IsEmpty() && group.name == lytParentName)
-            judged.findings.Add(noResult, place, "there is no rule for the dialog's result, and OK does nothing",
+            judged.findings.Add("output-parent", place, "there is no rule for the dialog's result, and OK does nothing",
                                 "add a rule, as (\"%s\", Name)");
         else if (group.rules.IsEmpty())
-            judged.findings.Add(groupEmpty, place, "the group " + InQuotes(group.name) + " has no rule",
+            judged.findings.Add("output-empty", place, "the group " + InQuotes(group.name) + " has no rule",
                                 "add one, as (\"%s\", Name)");
     }
 }
 
-} // namespace output_group_rules
 } // namespace
 
-Family OutputGroupRules()
+void ApplyOutputGroupRules(const Case& judged)
 {
-    using namespace output_group_rules;
-    return {{&noResult, &firstGroup, &groupTwice, &groupUnused, &groupEmpty},
-            [](const Case& judged)
-            {
-                JudgeFirst(judged);
-                JudgeGroups(judged);
-            }};
+    JudgeFirst(judged);
+    JudgeOutputGroups(judged);
 }
 
 } // namespace lytdlg

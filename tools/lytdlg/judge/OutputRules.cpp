@@ -1,4 +1,4 @@
-#include "lytdlg/judge/OutputRules.h"
+#include "lytdlg/judge/Families.h"
 
 #include "dialog/ClytDialog.h"
 #include "lytdlg/judge/Conditions.h"
@@ -14,103 +14,6 @@ namespace lytdlg
 
 namespace
 {
-namespace output_rules
-{
-
-constexpr Rule noDefault = {
-    "output-last",
-    Level::Warning,
-    "The result has no rule that always holds.",
-    "When no rule holds, OK does nothing. Give parent a last rule without conditions.",
-    "$OUTPUT, parent\n    Name(\"\") = (\"%s;%s;%s;%s;%s\", Unit, Place, Form, Order, Pictures)\n"
-    "    Name = (\"%s\", Name)\n-    (\"%s;%s;%s;%s;%s;%s\", Name, Unit, Place, Form, Order, Pictures)",
-    "$OUTPUT, parent\n    Name(\"\") = (\"%s\", Unit)"};
-
-constexpr Rule unreached = {"output-unreached",
-                            Level::Warning,
-                            "A rule stands after one without conditions, and is never used.",
-                            "The first rule whose conditions hold gives the text. Put the one without conditions last.",
-                            "$OUTPUT, parent\n    (\"%s\", Name)",
-                            "$OUTPUT, parent\n    Unit(\"\") = (\"%s\", Name)"};
-
-constexpr Rule shadowed = {
-    "output-shadowed",
-    Level::Warning,
-    "A rule stands after one that holds whenever it does, and is never used.",
-    "The first rule whose conditions hold gives the text. Put the one with more conditions first.",
-    "$OUTPUT, parent\n    Name(a, b) = (\"%s\", Unit)\n    Name(a), Unit(m) = (\"%s\", Name)",
-    "$OUTPUT, parent\n    Name(a), Unit(m) = (\"%s\", Name)\n    Name(a, b) = (\"%s\", Unit)"};
-
-constexpr Rule never = {
-    "output-never",
-    Level::Warning,
-    "A rule of the output never holds.",
-    "All conditions of a rule must hold at once. Two of one control without a value in common never\n"
-    "do; of the values in one pair of brackets one is enough.",
-    "$OUTPUT, parent\n    Name(a), Name(b) = (\"%s\", Unit)",
-    "$OUTPUT, parent\n    Name(a, b) = (\"%s\", Unit)"};
-
-constexpr Rule condition = {"output-condition",
-                            Level::Error,
-                            "A condition names a control that is not there.",
-                            "The message comes with OK, or when the group is used, and not when the dialog opens.",
-                            "$OUTPUT, parent\n    Unti(\"\") = (\"%s\", Name)",
-                            "$OUTPUT, parent\n    Unit(\"\") = (\"%s\", Name)"};
-
-constexpr Rule conditionValue = {"output-condition-value",
-                                 Level::Warning,
-                                 "A condition asks for a value that the control never has.",
-                                 "Values are compared letter by letter, the hidden value of an item and not its text. "
-                                 "NOTNULL is known in\n$DEPENDANCES only.",
-                                 "$OUTPUT, parent\n    Unit(NOTNULL) = (\"%s\", Name)",
-                                 "$OUTPUT, parent\n    Unit(NULL) = (\"%s\", Name)"};
-
-constexpr Rule valueless = {"output-valueless",
-                            Level::Warning,
-                            "A condition or an item reads a control that has no value of its own.",
-                            "Fixed texts, frames and buttons have no value: the library says so and goes on with an "
-                            "empty text. An option\nalways has its value: name the group.",
-                            "$OUTPUT, parent\n    Short(s) = (\"%s\", Name)",
-                            "$OUTPUT, parent\n    Order(s) = (\"%s\", Name)"};
-
-constexpr Rule item = {"output-item",
-                       Level::Warning,
-                       "An item is almost the name of a control.",
-                       "A word that is no control goes into the text as it is. Put it in quotes where that is meant.",
-                       "$OUTPUT, parent\n    Form(\"\") = (\"%s%s\", Nmae, Unit)",
-                       "$OUTPUT, parent\n    Form(\"\") = (\"%s%s\", Name, Unit)"};
-
-constexpr Rule noList = {"output-list",
-                         Level::Warning,
-                         "All items are asked for, of a control that has none.",
-                         "Brackets after an item ask for all items of a list; of any other control that is nothing.",
-                         "$OUTPUT, parent\n    Form(\"\") = (\"%s%s\", Name, Unit(\"|\"))",
-                         "$OUTPUT, parent\n    Form(\"\") = (\"%s%s\", Name, Rooms(\"|\"))"};
-
-constexpr Rule comboItems = {
-    "output-combo",
-    Level::Warning,
-    "All items are asked of a combo box that a library or a button fills.",
-    "Each item is looked up in the language file once more, and one that is no key goes out as \"no value\n"
-    "present\". Use a ListBox or CheckListBox.",
-    "$VALUES\n    Form = FILLEDBY, lytdata, Open, Next\n$OUTPUT, parent\n    Name(\"\") = (\"%s%s\", Name, "
-    "Form(\"|\"))",
-    "$OUTPUT, parent\n    Name(\"\") = (\"%s%s\", Name, Form(\"|\"))"};
-
-constexpr Rule longSeparator = {"output-separator",
-                                Level::Warning,
-                                "The brackets after a list hold more than three characters.",
-                                "The first stands between the items, the second before them and the third after them. "
-                                "What follows is passed over.",
-                                "$OUTPUT, parent\n    Form(\"\") = (\"%s%s\", Name, Rooms(\" plus \"))",
-                                "$OUTPUT, parent\n    Form(\"\") = (\"%s%s\", Name, Rooms(\"|[]\"))"};
-
-constexpr Rule blanks = {"output-blanks",
-                         Level::Note,
-                         "A list without separators has a blank before, between and after its items.",
-                         "Empty brackets, and CONCAT in them, stand for three blanks. Name a separator.",
-                         "$OUTPUT, parent\n    Form(\"\") = (\"%s%s\", Name, Rooms())",
-                         "$OUTPUT, parent\n    Form(\"\") = (\"%s%s\", Name, Rooms(\"|\"))"};
 
 // Whether a condition holds whenever the other one does.
 bool FollowsFrom(const ClytCtrlValList& asked, const ClytCtrlValList& other)
@@ -134,7 +37,7 @@ bool HoldsWhenever(const ClytDialogOutput& rule, const ClytDialogOutput& other)
 void JudgeNever(const Case& judged, const ClytDialogOutput& rule)
 {
     for (const ClytCtrlValList* asked : Contradictions(rule.conditions))
-        judged.findings.Add(never, asked->GetSpan(),
+        judged.findings.Add("output-never", asked->GetSpan(),
                             InQuotes(asked->GetName().GetString()) + " cannot hold both at once; the rule never holds",
                             "of the values in one pair of brackets one is enough");
 }
@@ -215,7 +118,7 @@ void JudgeShadowed(const Case& judged, const OutputGroup& group)
     for (const ClytDialogOutput* rule : Records(group.rules))
     {
         if (const ClytDialogOutput* earlier = met.ThatHoldsWhenever(*rule))
-            judged.findings.Add(shadowed, judged.description.PlaceOf(rule->span.line),
+            judged.findings.Add("output-shadowed", judged.description.PlaceOf(rule->span.line),
                                 "the rule in line " + std::to_string(earlier->span.line) +
                                     " holds whenever this one does, so this one is never used",
                                 "put it before that rule");
@@ -229,7 +132,7 @@ void JudgeOrder(const Case& judged, const OutputGroup& group)
     for (const ClytDialogOutput* rule : Records(group.rules))
     {
         if (always != nullptr)
-            judged.findings.Add(unreached, judged.description.PlaceOf(rule->span.line),
+            judged.findings.Add("output-unreached", judged.description.PlaceOf(rule->span.line),
                                 "the rule in line " + std::to_string(always->span.line) +
                                     " always holds, so this one is never used",
                                 "put it before that rule");
@@ -239,7 +142,7 @@ void JudgeOrder(const Case& judged, const OutputGroup& group)
             always = rule;
     }
     if (always == nullptr && !group.rules.IsEmpty() && group.name == lytParentName)
-        judged.findings.Add(noDefault, judged.description.PlaceOf(group.rules.GetTail()->span.line),
+        judged.findings.Add("output-last", judged.description.PlaceOf(group.rules.GetTail()->span.line),
                             "OK does nothing when this rule does not hold either",
                             "add a last rule without conditions");
 }
@@ -253,12 +156,12 @@ void JudgeConditions(const Case& judged, const ClytDialogOutput& rule)
         const std::string name = asked->GetName().GetString();
         if (judged.description.FindControl(name) == nullptr)
             judged.findings
-                .Add(condition, asked->GetSpan(), "there is no control " + InQuotes(name),
+                .Add("output-condition", asked->GetSpan(), "there is no control " + InQuotes(name),
                      MeantOr(name, ControlNames(judged.description), "name a control of $LAYOUT"))
                 .number = "245";
-        JudgeValues(judged, conditionValue, *asked, ValueWords::Null);
+        JudgeValues(judged, "output-condition-value", *asked, ValueWords::Null);
         if (!asked->GetValues().IsEmpty())
-            JudgeReadControl(judged, valueless, name, asked->GetSpan());
+            JudgeReadControl(judged, "output-valueless", name, asked->GetSpan());
     }
 }
 
@@ -267,11 +170,11 @@ void JudgeUnknownItem(const Case& judged, const ClytOutputItem& given)
     const std::string name = given.text.GetString();
     const std::string hint = MeantOr(name, ControlNames(judged.description), "");
     if (!given.action.IsEmpty())
-        judged.findings.Add(item, given.span,
+        judged.findings.Add("output-item", given.span,
                             "there is no list " + InQuotes(name) + ": the word itself goes into the text",
                             hint.empty() ? "name a list of $LAYOUT" : hint);
     else if (!hint.empty() && !judged.description.IsQuoted(given.span))
-        judged.findings.Add(item, given.span,
+        judged.findings.Add("output-item", given.span,
                             "there is no control " + InQuotes(name) + ": the word itself goes into the text",
                             hint + " Put a text in quotes");
 }
@@ -283,20 +186,20 @@ void JudgeAllItems(const Case& judged, const ClytOutputItem& given, const ClytCo
     const bool isCombo = kind == Kind::Combo || kind == Kind::DropList;
     if (!HasItems(kind))
     {
-        judged.findings.Add(noList, given.span,
+        judged.findings.Add("output-list", given.span,
                             "a " + std::string(control.type.GetString()) + " has no items: this is empty",
                             "leave the brackets out, or name a list");
         return;
     }
     if (isCombo && GetsItems(judged.description, name))
-        judged.findings.Add(comboItems, given.span,
+        judged.findings.Add("output-combo", given.span,
                             "items of " + InQuotes(name) + " that are no text keys go out as \"no value present\"",
                             "take a ListBox or CheckListBox");
     if (lytMeans<ClytFillAction::Concat>(given.action))
-        judged.findings.Add(blanks, given.span, "a blank comes before, between and after the items",
+        judged.findings.Add("output-blanks", given.span, "a blank comes before, between and after the items",
                             "name a separator, as " + name + "(\"|\")");
     else if (given.action.GetLength() > 3)
-        judged.findings.Add(longSeparator, given.span, "only the first three characters in the brackets count",
+        judged.findings.Add("output-separator", given.span, "only the first three characters in the brackets count",
                             "one between the items, one before them and one after them");
 }
 
@@ -312,34 +215,27 @@ void JudgeItems(const Case& judged, const ClytDialogOutput& rule)
         else if (!given.action.IsEmpty())
             JudgeAllItems(judged, given, *control);
         else
-            JudgeReadControl(judged, valueless, given.text.GetString(), given.span);
+            JudgeReadControl(judged, "output-valueless", given.text.GetString(), given.span);
     }
 }
 
-} // namespace output_rules
 } // namespace
 
-Family OutputRules()
+void ApplyOutputRules(const Case& judged)
 {
-    using namespace output_rules;
-    return {{&noDefault, &unreached, &shadowed, &never, &condition, &conditionValue, &valueless, &item, &noList,
-             &comboItems, &longSeparator, &blanks},
-            [](const Case& judged)
-            {
-                for (const OutputGroup& group : judged.description.outputs)
-                {
-                    JudgeOrder(judged, group);
-                    JudgeShadowed(judged, group);
-                    for (const ClytDialogOutput* rule : Records(group.rules))
-                    {
-                        if (judged.description.IsRefused(rule->span.line))
-                            continue;
-                        JudgeConditions(judged, *rule);
-                        JudgeNever(judged, *rule);
-                        JudgeItems(judged, *rule);
-                    }
-                }
-            }};
+    for (const OutputGroup& group : judged.description.outputs)
+    {
+        JudgeOrder(judged, group);
+        JudgeShadowed(judged, group);
+        for (const ClytDialogOutput* rule : Records(group.rules))
+        {
+            if (judged.description.IsRefused(rule->span.line))
+                continue;
+            JudgeConditions(judged, *rule);
+            JudgeNever(judged, *rule);
+            JudgeItems(judged, *rule);
+        }
+    }
 }
 
 } // namespace lytdlg

@@ -1,4 +1,4 @@
-#include "lytdlg/judge/ScanRules.h"
+#include "lytdlg/judge/Families.h"
 
 #include "dialog/ClytDialog.h"
 #include "lytdlg/judge/Controls.h"
@@ -13,78 +13,6 @@ namespace lytdlg
 
 namespace
 {
-namespace scan_rules
-{
-
-constexpr Rule startMissing = {"scan-start",
-                               Level::Warning,
-                               "A part has no statement `Start`.",
-                               "A run begins at the statement Start. Without it the text is not taken apart at all.",
-                               "$INPUT, parent\n-Start: (\";\", Unit = Name\n    start: (\";\", Unit = Name",
-                               "$INPUT, parent\n    Start: (\";\", Unit = Name"};
-
-constexpr Rule partTwice = {"scan-part-twice",
-                            Level::Warning,
-                            "Two parts have the same name, and the first is never run.",
-                            "Of parts with the same name the last counts.",
-                            "$INPUT,  parent\n    Start: (999, End = Name",
-                            "$INPUT, parent\n    Start: (999, End = Name\n-Unit: (999, End = Unit"};
-
-constexpr Rule partUnused = {
-    "scan-part-unused",
-    Level::Note,
-    "No button runs the part.",
-    "A part other than parent is run by a button with DIALOG or ACTION that names it.",
-    "$INPUT, Back\n    Start: (999, End = Name",
-    "$LAYOUT Example\n    PushButton 520, 12, 96, 21, \"Remove\", .More\n$VALUES\n    More: DIALOG = other, Back, Out\n"
-    "$INPUT, Back\n    Start: (999, End = Name\n$OUTPUT, Out\n    (\"%s\", Name)"};
-
-constexpr Rule nameTwice = {"scan-twice",
-                            Level::Warning,
-                            "Two statements of a part have the same name, and the first is never run.",
-                            "Of statements with the same name the last counts.",
-                            "$INPUT, parent\n    Unit : (999, End = Unit",
-                            "$INPUT, parent\n    Unit: (999, End = Unit"};
-
-constexpr Rule unreached = {"scan-unreached",
-                            Level::Warning,
-                            "No statement leads here.",
-                            "A run begins at Start and goes where the statements lead it.",
-                            "$INPUT, parent\n    Extra: (\",\", Unit = Name",
-                            "$INPUT, parent\n    Start: (\";\", Extra = Name\n    Extra: (\",\", Unit = Name"};
-
-constexpr Rule target = {
-    "scan-target",
-    Level::Warning,
-    "A statement leads to one that is not there.",
-    "The run ends there without a message, and the rest of the text is lost. Only End is meant to do\n"
-    "that.",
-    "$INPUT, parent\n    Unit: (\")\", Edn = Unit",
-    "$INPUT, parent\n    Unit: (\")\", End = Unit"};
-
-constexpr Rule circle = {"scan-circle",
-                         Level::Error,
-                         "Statements go round in a circle and cut nothing.",
-                         "Such a run ends with a message. A round of statements must cut something off the text, and "
-                         "at the end of the\ntext there is nothing left to cut: let it end there.",
-                         "$INPUT, parent\n    Unit: (1, Unit = Unit",
-                         "$INPUT, parent\n    Unit: (999, End = Unit"};
-
-constexpr Rule circleMaybe = {"scan-circle-condition",
-                              Level::Warning,
-                              "Statements may go round in a circle, as the controls are filled.",
-                              "Between statements that only decide where to go on, no control changes: once they go "
-                              "round they do so for ever,\nwhich ends with message 206.",
-                              "$INPUT, parent\n    Unit: Name(x) = End, Unit",
-                              "$INPUT, parent\n    Unit: Name(x) = End, Tail\n    Tail: (999, End = Unit"};
-
-constexpr Rule firstLine = {
-    "scan-first-line",
-    Level::Warning,
-    "In the line after a header neither a tab nor a `;` separates.",
-    "What looks like a comment becomes part of the last name. Begin a part with a comment line.",
-    "$INPUT, parent\n    Start: (\";\", Unit = Name ; up to the semicolon",
-    "$INPUT, parent\n    ; up to the semicolon\n    Unit: (999, End = Unit"};
 
 std::string LineOf(const ClytDialogInput& statement)
 {
@@ -134,12 +62,12 @@ void JudgeParts(const Case& judged)
         const ClytSpan place = judged.description.PlaceOf(part.header.line);
         const InputPart* later = last[part.name];
         if (later != &part)
-            judged.findings.Add(partTwice, place,
+            judged.findings.Add("scan-part-twice", place,
                                 "the part " + InQuotes(part.name) + " in line " + std::to_string(later->header.line) +
                                     " takes the place of this one",
                                 "give each part a name of its own");
         else if (!used.contains(part.name) && hasParent)
-            judged.findings.Add(partUnused, place, "no button runs the part " + InQuotes(part.name),
+            judged.findings.Add("scan-part-unused", place, "no button runs the part " + InQuotes(part.name),
                                 "name it in a button's DIALOG or ACTION, or delete it");
     }
 }
@@ -154,7 +82,7 @@ void JudgeStart(const Case& judged, const InputPart& part)
     const auto meant =
         std::ranges::find_if(names, [](const std::string& name) { return !MeantOr(name, {lytStartName}, "").empty(); });
     const ClytSpan place = meant != names.end() ? part.part.Find(meant->c_str())->span : part.header;
-    judged.findings.Add(startMissing, judged.description.PlaceOf(place.line, meant != names.end() ? *meant : ""),
+    judged.findings.Add("scan-start", judged.description.PlaceOf(place.line, meant != names.end() ? *meant : ""),
                         "the part " + InQuotes(part.name) + " has no statement \"Start\", so its run ends at once",
                         meant != names.end() ? "did you mean \"Start\"?" : "call the first statement \"Start\"");
 }
@@ -188,11 +116,11 @@ void JudgeReached(const Case& judged, const InputPart& part)
         const ClytDialogInput* found = part.part.Find(statement->name);
         const std::string name = InQuotes(statement->name.GetString());
         if (found != statement)
-            judged.findings.Add(nameTwice, NamePlace(*statement),
+            judged.findings.Add("scan-twice", NamePlace(*statement),
                                 "the statement " + name + " in line " + LineOf(*found) + " takes the place of this one",
                                 "give each statement of a part a name of its own");
         else if (!reached.empty() && !reached.contains(statement) && !isMisspelt)
-            judged.findings.Add(unreached, NamePlace(*statement), "no statement leads to " + name,
+            judged.findings.Add("scan-unreached", NamePlace(*statement), "no statement leads to " + name,
                                 "name it as a target, or delete it");
     }
 }
@@ -205,11 +133,11 @@ void JudgeTargets(const Case& judged, const InputPart& part, const ClytDialogInp
         if (IsTarget(part.part, next.name))
             continue;
         if (next.name.empty())
-            judged.findings.Add(target, NamePlace(statement),
+            judged.findings.Add("scan-target", NamePlace(statement),
                                 "the statement names none to go on with, and so the run ends",
                                 "write End where the run is to end");
         else
-            judged.findings.Add(target, next.place,
+            judged.findings.Add("scan-target", next.place,
                                 "no statement is called " + InQuotes(next.name) + ", and so the run ends",
                                 MeantOr(next.name, known, "write End where the run is to end"));
     }
@@ -231,7 +159,7 @@ void JudgeCircles(const Case& judged, const InputPart& part)
 {
     for (const ScanCircle& found : CirclesOf(judged.description, part.part))
     {
-        const Rule& rule = found.hasConditions ? circleMaybe : circle;
+        const RuleName rule = found.hasConditions ? RuleName("scan-circle-condition") : RuleName("scan-circle");
         const std::string when = found.hasConditions ? ", when the controls hold what leads there"
                                  : found.isAtEnd     ? " at the end of the text"
                                                      : "";
@@ -287,7 +215,7 @@ void JudgeFirstLine(const Case& judged, const InputPart& part)
     if (place == std::string::npos)
         return;
     const std::string sign = first->text[place] == ';' ? "`;`" : "tab";
-    judged.findings.Add(firstLine, {first->number, static_cast<int>(place), 1},
+    judged.findings.Add("scan-first-line", {first->number, static_cast<int>(place), 1},
                         "in the line after a header a " + sign + " does not separate: it belongs to the word before it",
                         "put a comment line between the header and this line");
 }
@@ -314,25 +242,18 @@ void JudgePaths(const Case& judged, const InputPart& part)
         JudgeTargets(judged, part, *statement, known);
 }
 
-} // namespace scan_rules
 } // namespace
 
-Family ScanRules()
+void ApplyScanRules(const Case& judged)
 {
-    using namespace scan_rules;
-    return {
-        {&startMissing, &partTwice, &partUnused, &nameTwice, &unreached, &target, &circle, &circleMaybe, &firstLine},
-        [](const Case& judged)
-        {
-            JudgeParts(judged);
-            for (const InputPart& part : judged.description.inputs)
-            {
-                JudgeStart(judged, part);
-                JudgeFirstLine(judged, part);
-                if (IsWhole(judged.description, part))
-                    JudgePaths(judged, part);
-            }
-        }};
+    JudgeParts(judged);
+    for (const InputPart& part : judged.description.inputs)
+    {
+        JudgeStart(judged, part);
+        JudgeFirstLine(judged, part);
+        if (IsWhole(judged.description, part))
+            JudgePaths(judged, part);
+    }
 }
 
 } // namespace lytdlg

@@ -1,4 +1,4 @@
-#include "lytdlg/judge/SectionRules.h"
+#include "lytdlg/judge/Families.h"
 
 #include "commandline/Suggestion.h"
 #include "lytdlg/judge/LineTokens.h"
@@ -11,80 +11,6 @@ namespace lytdlg
 
 namespace
 {
-namespace section_rules
-{
-
-constexpr Rule misspelt = {"section-misspelt",
-                           Level::Error,
-                           "A line looks like the header of a section but is not one.",
-                           "Each section opens with its own word, in capitals and with a $ before it. A line that only "
-                           "looks like it is read as a\n"
-                           "statement of the section above, and so is all that follows. A blank does not end the word, "
-                           "except in $LAYOUT: write a\n"
-                           "comma between the word and what follows it.",
-                           "$EVALUATION x",
-                           "$EVALUATION, x"};
-
-constexpr Rule missing = {
-    "section-missing",
-    Level::Error,
-    "A section has no header.",
-    "Every section must be there, in the fixed order, also when it is empty. Without its header the\n"
-    "library reads on to the end of the file and refuses it.",
-    "-$END",
-    "$END"};
-
-constexpr Rule order = {
-    "section-order",
-    Level::Error,
-    "A section does not stand in its place.",
-    "The sections stand in one fixed order: $VERSION, $LAYOUT, $VALUES, $DEPENDANCES, $EVALUATION,\n"
-    "$INPUT, $OUTPUT, $END. A header in another place is read as a statement of the section above it.",
-    "$DEPENDANCES\n    $VALUES",
-    "$VALUES"};
-
-constexpr Rule headerAsValue = {
-    "header-in-values",
-    Level::Warning,
-    "A header stands inside $VALUES, where it passes for a statement about a control.",
-    "The sections stand in one fixed order. In $VALUES the library takes the header of another section for\n"
-    "a statement about a control that is not there, and passes it over.",
-    "$VALUES\n    $INPUT, parent",
-    "$VALUES"};
-
-constexpr Rule dialogLine = {
-    "dialog-header",
-    Level::Error,
-    "The line Begin Dialog is missing or has the wrong form.",
-    "After $LAYOUT the first line says how large the dialog is and which text is its title. It has seven words:\n"
-    "Begin Dialog Box WIDTH, HEIGHT, \"TITLE\", .NAME. The third and the last are not used, but must be there.",
-    "Begin Dialog 760, 420, \"Title\", .Main",
-    "Begin Dialog Box 760, 420, \"Title\", .Main"};
-
-constexpr Rule textSection = {
-    "layout-without-texts",
-    Level::Warning,
-    "The line $LAYOUT names no section of the language file, and so the dialog shows no texts.",
-    "Titles and captions are keys of a section of the language file, never the texts themselves. The\n"
-    "word after $LAYOUT names the section.",
-    "$LAYOUT ",
-    "$LAYOUT Example"};
-
-constexpr Rule evaluationWord = {"evaluation-without-word",
-                                 Level::Error,
-                                 "No word follows $EVALUATION.",
-                                 "The word after $EVALUATION must be there, but means nothing: any word will do.",
-                                 "$EVALUATION ",
-                                 "$EVALUATION, x"};
-
-constexpr Rule parentPart = {
-    "input-parent",
-    Level::Error,
-    "No input part is named parent.",
-    "The part parent runs when the dialog opens. Without it the dialog does not open. Upper and lower case\n"
-    "differ. A header $INPUT without a name opens the part parent, too.",
-    "$INPUT, Parent",
-    "$INPUT, parent"};
 
 // What the library shows at a line that it reads as a statement of the section above; nothing where it may pass as one.
 std::string NumberWithin(Section above)
@@ -103,7 +29,7 @@ void JudgeFalseHeaders(const Case& judged)
         const bool isBlank = header.word.starts_with(word + " ");
         const bool isTab = header.word.starts_with(word + "\t");
         Finding& finding =
-            judged.findings.Add(misspelt, header.place, "\"" + header.word + "\" opens no section",
+            judged.findings.Add("section-misspelt", header.place, "\"" + header.word + "\" opens no section",
                                 (isBlank || isTab ? std::string(isBlank ? "a blank" : "a tab") +
                                                         " does not end the word; write \"" + header.meant + "\""
                                                   : "did you mean \"" + header.meant + "\"?"));
@@ -169,7 +95,7 @@ void JudgeMissing(const Case& judged)
                 break;
         }
         judged.findings
-            .Add(missing, judged.description.PlaceOf(LineAfter(text, section)),
+            .Add("section-missing", judged.description.PlaceOf(LineAfter(text, section)),
                  count == 1 ? "the line " + names + "\" is missing" : "the lines " + names + "\" are missing",
                  "every section must be there, also when it is empty")
             .number = NumberOfMissing(text, section);
@@ -184,9 +110,10 @@ void AddStray(const Case& judged, const SourceLine& line)
     const std::string message = "the header \"" + words.front().text + "\" stands inside the section " +
                                 std::string(WordOf(line.section)) + " and opens nothing";
     if (isValue)
-        judged.findings.Add(headerAsValue, place, message, "delete the line");
+        judged.findings.Add("header-in-values", place, message, "delete the line");
     else
-        judged.findings.Add(order, place, message, "delete the line, or move the section to its place").number = "212";
+        judged.findings.Add("section-order", place, message, "delete the line, or move the section to its place")
+            .number = "212";
 }
 
 // The line of the last header of each section.
@@ -218,7 +145,7 @@ void JudgeOrder(const Case& judged)
             { return header.first > above && header.first < line.section && header.second > line.number; });
         if (skipped != last.end())
             judged.findings
-                .Add(order, judged.description.PlaceOf(line.number),
+                .Add("section-order", judged.description.PlaceOf(line.number),
                      std::string("\"") + WordOf(line.section) + "\" stands before \"" + WordOf(skipped->first) + "\"",
                      "move the section to its place")
                 .number = NumberWithin(above);
@@ -230,7 +157,7 @@ void JudgeOrder(const Case& judged)
 void AddDialogLine(const Case& judged, const ClytSpan& place, const char* number, std::string message)
 {
     judged.findings
-        .Add(dialogLine, place, std::move(message), "write: Begin Dialog Box WIDTH, HEIGHT, \"TITLE\", .NAME")
+        .Add("dialog-header", place, std::move(message), "write: Begin Dialog Box WIDTH, HEIGHT, \"TITLE\", .NAME")
         .number = number;
 }
 
@@ -267,13 +194,13 @@ void JudgeHeaderWords(const Case& judged)
                                                           { return !control.text.IsEmpty(); });
     const SourceLine* layout = description.text.HeaderOf(Section::Layout);
     if (layout != nullptr && description.layoutWords.empty() && hasTexts)
-        judged.findings.Add(textSection, description.PlaceOf(layout->number),
+        judged.findings.Add("layout-without-texts", description.PlaceOf(layout->number),
                             "$LAYOUT names no text section, and so title and captions stay empty",
                             "name the section of the language file, as in \"$LAYOUT Symbol\"");
     const SourceLine* evaluation = description.text.HeaderOf(Section::Evaluation);
     if (evaluation != nullptr && description.evaluationWords.empty())
         judged.findings
-            .Add(evaluationWord, description.PlaceOf(evaluation->number), "a word must follow $EVALUATION",
+            .Add("evaluation-without-word", description.PlaceOf(evaluation->number), "a word must follow $EVALUATION",
                  "any word will do: write \"$EVALUATION, x\"")
             .number = "204";
 }
@@ -289,28 +216,22 @@ void JudgeParent(const Case& judged)
     const InputPart& part = meant != description.inputs.end() ? *meant : description.inputs.front();
     const ClytSpan place = description.PlaceOf(part.header.line, part.name, static_cast<int>(sizeof "$INPUT") - 1);
     judged.findings
-        .Add(parentPart, place, "no input part is named \"parent\", and so the dialog does not open",
+        .Add("input-parent", place, "no input part is named \"parent\", and so the dialog does not open",
              meant != description.inputs.end() ? "did you mean \"parent\"?"
                                                : "add \"$INPUT, parent\" with the statements that begin")
         .number = "217";
 }
 
-} // namespace section_rules
 } // namespace
 
-Family SectionRules()
+void ApplySectionRules(const Case& judged)
 {
-    using namespace section_rules;
-    return {{&misspelt, &missing, &order, &headerAsValue, &dialogLine, &textSection, &evaluationWord, &parentPart},
-            [](const Case& judged)
-            {
-                JudgeFalseHeaders(judged);
-                JudgeMissing(judged);
-                JudgeOrder(judged);
-                JudgeDialogLine(judged);
-                JudgeHeaderWords(judged);
-                JudgeParent(judged);
-            }};
+    JudgeFalseHeaders(judged);
+    JudgeMissing(judged);
+    JudgeOrder(judged);
+    JudgeDialogLine(judged);
+    JudgeHeaderWords(judged);
+    JudgeParent(judged);
 }
 
 } // namespace lytdlg

@@ -1,4 +1,4 @@
-#include "lytdlg/judge/SeparatorRules.h"
+#include "lytdlg/judge/Families.h"
 
 #include "lytdlg/judge/Fills.h"
 #include "lytdlg/judge/Lists.h"
@@ -11,50 +11,6 @@ namespace lytdlg
 
 namespace
 {
-namespace separator_rules
-{
-
-constexpr Rule hidden = {"scan-separator",
-                         Level::Warning,
-                         "A separator stands after one that begins it, and never comes into play.",
-                         "The first separator that fits wins: put the longer before the shorter. An empty one fits "
-                         "everywhere.",
-                         "$INPUT, parent\n    Start: (\">\", Unit, \">=\", Unit = Name",
-                         "$INPUT, parent\n    Start: (\">=\", Unit, \">\", Unit = Name"};
-
-constexpr Rule mixed = {"scan-length",
-                        Level::Warning,
-                        "A statement has a length and separators, and only one of them counts.",
-                        "The later of the two decides: a separator after a length takes its place, a length after "
-                        "separators wins over them.",
-                        "$INPUT, parent\n    Start: (3, Unit, \";\", Unit = Name",
-                        "$INPUT, parent\n    Start: (3, Unit = Name"};
-
-constexpr Rule number = {
-    "scan-number",
-    Level::Warning,
-    "A number is taken for a separator, or a separator for a number.",
-    "A word that begins with a number is a length, also in quotes, and a length is 1 or more. 0 is "
-    "a separator like\na letter.",
-    "$INPUT, parent\n    Start: (0, Unit = Name",
-    "$INPUT, parent\n    Start: (1, Unit = Name"};
-
-constexpr Rule restNotNeeded = {
-    "scan-rest",
-    Level::Warning,
-    "`Rest` leads to the end, where a run ends anyway, and cuts texts that hold these letters.",
-    "Rest is also a separator like any other. The end of a text ends each piece without it.",
-    "$INPUT, parent\n    Unit: (\")\", End, Rest, End = Unit",
-    "$INPUT, parent\n    Unit: (\")\", End = Unit"};
-
-constexpr Rule dropped = {
-    "scan-dropped",
-    Level::Warning,
-    "The text after a separator is dropped.",
-    "A run that ends at a separator leaves what follows it. That is right after a closing "
-    "bracket; elsewhere go on\nwith another statement, or take all that is left with a large number.",
-    "$INPUT, parent\n    Unit: (\",\", End = Unit",
-    "$INPUT, parent\n    Unit: (\")\", End = Unit"};
 
 void JudgeSeparators(const Case& judged, const ClytScan& scan)
 {
@@ -74,14 +30,14 @@ void JudgeSeparators(const Case& judged, const ClytScan& scan)
             continue;
         const std::string earlier = (*before)->text.GetString();
         if (earlier == text)
-            judged.findings.Add(hidden, separators[index]->span,
+            judged.findings.Add("scan-separator", separators[index]->span,
                                 "the separator " + InQuotes(text) + " stands here twice", "delete one of them");
         else if (earlier.empty())
-            judged.findings.Add(hidden, separators[index]->span,
+            judged.findings.Add("scan-separator", separators[index]->span,
                                 "the empty separator before " + InQuotes(text) + " fits everywhere",
                                 "put the empty separator last");
         else
-            judged.findings.Add(hidden, separators[index]->span,
+            judged.findings.Add("scan-separator", separators[index]->span,
                                 "the separator " + InQuotes(earlier) + " before " + InQuotes(text) + " wins",
                                 "put the longer one first");
     }
@@ -91,10 +47,10 @@ void JudgeLength(const Case& judged, const ClytScan& scan)
 {
     const bool hasSeparators = !scan.GetSeparators().IsEmpty();
     if (scan.GetLength() != 0 && hasSeparators)
-        judged.findings.Add(mixed, scan.GetLengthSpan(), "the length wins over the separators before it",
+        judged.findings.Add("scan-length", scan.GetLengthSpan(), "the length wins over the separators before it",
                             "cut by a length or at separators, in two statements");
     else if (scan.GetLength() == 0 && hasSeparators && scan.GetLengthSpan().line != 0)
-        judged.findings.Add(mixed, scan.GetLengthSpan(), "the separators after it take the place of the length",
+        judged.findings.Add("scan-length", scan.GetLengthSpan(), "the separators after it take the place of the length",
                             "cut by a length or at separators, in two statements");
 }
 
@@ -102,14 +58,14 @@ void JudgeNumbers(const Case& judged, const ClytScan& scan)
 {
     const ClytSpan& length = scan.GetLengthSpan();
     if (length.line != 0 && judged.description.IsQuoted(length))
-        judged.findings.Add(number, length, "this is a length, also in quotes",
+        judged.findings.Add("scan-number", length, "this is a length, also in quotes",
                             "no piece can be cut at a number; choose another separator");
     else if (scan.GetLength() < 0)
-        judged.findings.Add(number, length, "a length is 1 or more", "write how many characters the piece has");
+        judged.findings.Add("scan-number", length, "a length is 1 or more", "write how many characters the piece has");
     for (const ClytSeparator* separator : Records(scan.GetSeparators()))
     {
         if (separator->text == "0" && !judged.description.IsQuoted(separator->span))
-            judged.findings.Add(number, separator->span, "0 is no length, and is taken for a separator",
+            judged.findings.Add("scan-number", separator->span, "0 is no length, and is taken for a separator",
                                 "write how many characters the piece has, or \"\" to cut nothing");
     }
 }
@@ -138,37 +94,32 @@ void JudgeEnds(const Case& judged, const ClytScanRule& rule)
         if (separator->target.name != "End" || text.empty() || EndsInClosingBracket(text))
             continue;
         if (text != "Rest")
-            judged.findings.Add(dropped, separator->span, "what follows " + InQuotes(text) + " in the text is dropped",
+            judged.findings.Add("scan-dropped", separator->span,
+                                "what follows " + InQuotes(text) + " in the text is dropped",
                                 "go on with another statement; a piece that takes all is (999, End");
         else if (separators.size() > 1)
-            judged.findings.Add(restNotNeeded, separator->span,
+            judged.findings.Add("scan-rest", separator->span,
                                 "\"Rest\" cuts a text that holds these letters, and is not needed here",
                                 "leave it out: the end of the text ends the piece, and the run");
     }
 }
 
-} // namespace separator_rules
 } // namespace
 
-Family SeparatorRules()
+void ApplySeparatorRules(const Case& judged)
 {
-    using namespace separator_rules;
-    return {{&hidden, &mixed, &number, &restNotNeeded, &dropped},
-            [](const Case& judged)
-            {
-                for (const InputPart& part : judged.description.inputs)
-                {
-                    for (const ClytDialogInput* statement : Records(part.part.GetStatements()))
-                    {
-                        if (judged.description.IsRefused(statement->span.line))
-                            continue;
-                        JudgeSeparators(judged, statement->scanRule.scan);
-                        JudgeLength(judged, statement->scanRule.scan);
-                        JudgeNumbers(judged, statement->scanRule.scan);
-                        JudgeEnds(judged, statement->scanRule);
-                    }
-                }
-            }};
+    for (const InputPart& part : judged.description.inputs)
+    {
+        for (const ClytDialogInput* statement : Records(part.part.GetStatements()))
+        {
+            if (judged.description.IsRefused(statement->span.line))
+                continue;
+            JudgeSeparators(judged, statement->scanRule.scan);
+            JudgeLength(judged, statement->scanRule.scan);
+            JudgeNumbers(judged, statement->scanRule.scan);
+            JudgeEnds(judged, statement->scanRule);
+        }
+    }
 }
 
 } // namespace lytdlg

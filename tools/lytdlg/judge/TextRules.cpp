@@ -1,8 +1,7 @@
-#include "lytdlg/judge/TextRules.h"
+#include "lytdlg/judge/Families.h"
 
 #include "lytdlg/judge/CodePage.h"
 #include "lytdlg/judge/Controls.h"
-#include "lytdlg/judge/LanguageFindings.h"
 #include "lytdlg/judge/TextUses.h"
 #include "lytdlg/text/Words.h"
 
@@ -16,79 +15,6 @@ namespace lytdlg
 
 namespace
 {
-namespace text_rules
-{
-
-constexpr Rule missing = {"text-missing",
-                          Level::Warning,
-                          "A text is not in the language file.",
-                          "The dialog shows \"no value present\" in its place. A text in the layout is a key of the "
-                          "section that $LAYOUT names;\nthe message of a check is a key of the section MsgBox.",
-                          "$LAYOUT Example\n    CheckBox 520, 12, 112, 12, \"Piktures\", .More",
-                          "$LAYOUT Example\n    CheckBox 520, 12, 112, 12, \"Remove\", .More"};
-
-constexpr Rule tooLong = {"text-long",
-                          Level::Warning,
-                          "A text has more than 74 characters.",
-                          "The library cuts it there. Shorten it; the manual can say the rest.",
-                          "$VALUES\n    Form: LongText = long form",
-                          "$VALUES\n    Form: Hall = long form"};
-
-constexpr Rule apostrophe = {"text-apostrophe",
-                             Level::Warning,
-                             "A caption has an apostrophe.",
-                             "A caption ends at its first apostrophe. Write it without one.",
-                             "$LAYOUT Example\n    CheckBox 520, 12, 112, 12, \"Author\", .More",
-                             "$LAYOUT Example\n    CheckBox 520, 12, 112, 12, \"Remove\", .More"};
-
-constexpr Rule ampersand = {"text-ampersand",
-                            Level::Warning,
-                            "A title or an item has an ampersand.",
-                            "Titles and list items show an & as it is; only in captions does it underline a letter.",
-                            "$VALUES\n    Form: Remove = other form",
-                            "$VALUES\n    Form: Hall = other form"};
-
-constexpr Rule stray = {
-    "caption-ampersand",
-    Level::Warning,
-    "An ampersand of a caption underlines nothing, or a second letter.",
-    "An & underlines the letter after it, and a caption has one such letter. For an ampersand itself "
-    "write &&.",
-    "$LAYOUT Example\n    CheckBox 520, 12, 112, 12, \"Stray\", .More",
-    "$LAYOUT Example\n    CheckBox 520, 12, 112, 12, \"Remove\", .More"};
-
-constexpr Rule marks = {"text-marks",
-                        Level::Warning,
-                        "A text has other marks in one language than in another.",
-                        "A text should have its letter for the keyboard (&), its line ends (\\n) and its place for the "
-                        "argument ('') in every\nlanguage or in none.",
-                        "$LAYOUT Example\n    Text 520, 12, 100, 12, \"Marked\", .More",
-                        "$LAYOUT Example\n    CheckBox 520, 12, 112, 12, \"Remove\", .More"};
-
-constexpr Rule bytes = {
-    "text-bytes",
-    Level::Warning,
-    "A text of the language file has bytes that are no letters of its code page.",
-    "Language files are in the ANSI code page, 1252 in Western Europe. A letter with an accent that was "
-    "saved as UTF-8\nshows as two odd characters, and a byte that the code page does not use as a box.",
-    "$LAYOUT Example\n    CheckBox 520, 12, 112, 12, \"Accent\", .More",
-    "$LAYOUT Example\n    CheckBox 520, 12, 112, 12, \"Remove\", .More"};
-
-constexpr Rule emptyText = {
-    "text-empty",
-    Level::Warning,
-    "A text is empty.",
-    "Nothing follows the key in the language file, and the dialog shows nothing. Only an item of "
-    "a list may be empty, and then in\nevery language.",
-    "$LAYOUT Example\n    CheckBox 520, 12, 112, 12, \"Nothing\", .More",
-    "$LAYOUT Example\n    CheckBox 520, 12, 112, 12, \"Remove\", .More"};
-
-constexpr Rule hiddenKey = {"text-twice",
-                            Level::Warning,
-                            "A text stands in the language file twice.",
-                            "The library reads the first of two keys, and of two sections, that have one name.",
-                            "$LAYOUT Example\n    CheckBox 520, 12, 112, 12, \"Copied\", .More",
-                            "$LAYOUT Example\n    CheckBox 520, 12, 112, 12, \"Remove\", .More"};
 
 // The names of the keys in a section of a language, looked up for the first text that is missing there.
 class KeyNames
@@ -126,7 +52,7 @@ void JudgeMissing(const Case& judged, const ShownText& use, KeyNames& names)
             hint = MeantOr(use.key, names.In(file.Language(), use.section), "");
     }
     if (!lacking.empty())
-        judged.findings.Add(missing, use.place,
+        judged.findings.Add("text-missing", use.place,
                             Joined(lacking) + ": no text " + InQuotes(use.key) + " in [" + use.section + "]",
                             hint.empty() ? "add it there" : hint);
 }
@@ -155,19 +81,19 @@ void JudgeText(const Case& judged, const ShownText& use, const LanguageFile& fil
     const bool isCaption = use.role == TextRole::Caption;
     const bool isShownAsItIs = use.role == TextRole::Title || use.role == TextRole::Item;
     if (key.text.size() > longestLanguageText)
-        AddIn(judged, tooLong, file, key.place, key.line,
+        AddIn(judged, "text-long", file, key.place, key.line,
               "the text has " + std::to_string(key.text.size()) + " characters and is cut after 74: \"..." +
                   key.text.substr(longestLanguageText - 20, 20) + "\"",
               "shorten it");
     if (isCaption && key.text.find('\'') != std::string::npos)
-        AddIn(judged, apostrophe, file, key.place, key.line,
+        AddIn(judged, "text-apostrophe", file, key.place, key.line,
               "the caption ends at the apostrophe: " + InQuotes(key.text.substr(0, key.text.find('\'') + 1)),
               "write it without an apostrophe");
     const std::string strayMark = IsCaptionOrButton(use.role) ? StrayMark(key.text) : "";
     if (!strayMark.empty())
-        AddIn(judged, stray, file, key.place, key.line, strayMark, "write && for an ampersand itself");
+        AddIn(judged, "caption-ampersand", file, key.place, key.line, strayMark, "write && for an ampersand itself");
     if (isShownAsItIs && key.text.find('&') != std::string::npos)
-        AddIn(judged, ampersand, file, key.place, key.line,
+        AddIn(judged, "text-ampersand", file, key.place, key.line,
               std::string("a ") + (use.role == TextRole::Title ? "title" : "list item") + " shows the & as it is",
               "leave it out");
 }
@@ -182,7 +108,7 @@ void JudgeEmpty(const Case& judged, const ShownText& use, const LanguageFile& fi
     };
     const bool isMeant = use.role == TextRole::Item && std::ranges::all_of(judged.surroundings.texts.Files(), isEmpty);
     if (key.text.empty() && !isMeant)
-        AddIn(judged, emptyText, file, key.place, key.line, "the text is empty, and the dialog shows nothing",
+        AddIn(judged, "text-empty", file, key.place, key.line, "the text is empty, and the dialog shows nothing",
               "write the text after the equals sign");
 }
 
@@ -193,7 +119,7 @@ void JudgeBytes(const Case& judged, const LanguageFile& file, const LanguageKey&
         const bool isUtf8 = SequenceLength(key.text, place) != 0;
         if (!isUtf8 && !StandsForNothing(key.text[place]))
             continue;
-        AddIn(judged, bytes, file, key.place, key.line,
+        AddIn(judged, "text-bytes", file, key.place, key.line,
               isUtf8 ? "the text was saved as UTF-8, and shows odd characters"
                      : "the byte " + HexOf(key.text[place]) + " of the text stands for no character",
               saveAsAnsi);
@@ -209,7 +135,7 @@ void JudgeTwice(const Case& judged, const std::unordered_set<std::string>& used)
         {
             const LanguageKey* found = key.isReached ? nullptr : file.Find(key.section, key.name);
             if (found != nullptr && used.contains(TextId(key.section, key.name)))
-                AddIn(judged, hiddenKey, file, key.place, key.line,
+                AddIn(judged, "text-twice", file, key.place, key.line,
                       "the text stands in line " + std::to_string(found->place.line) + " already, and that one counts",
                       "take one of them away");
         }
@@ -243,7 +169,7 @@ void JudgeMarks(const Case& judged, const ShownText& use)
             continue;
         const std::string mark = DifferentMark(use.role, model->text, key->text);
         if (!mark.empty())
-            AddIn(judged, marks, file, key->place, key->line,
+            AddIn(judged, "text-marks", file, key->place, key->line,
                   "the marks " + mark + " differ from those in " + first->Language() + ".nls, line " +
                       std::to_string(model->place.line),
                   "give both languages the same marks");
@@ -264,29 +190,23 @@ void JudgeTexts(const Case& judged, const ShownText& use)
     }
 }
 
-} // namespace text_rules
 } // namespace
 
-Family TextRules()
+void ApplyTextRules(const Case& judged)
 {
-    using namespace text_rules;
-    return {{&missing, &tooLong, &apostrophe, &ampersand, &stray, &marks, &bytes, &emptyText, &hiddenKey},
-            [](const Case& judged)
-            {
-                KeyNames names(judged.surroundings.texts);
-                std::unordered_set<std::string> used;
-                std::set<std::pair<TextRole, std::string>> met;
-                for (const ShownText& use : TextUsesOf(judged.description))
-                {
-                    JudgeMissing(judged, use, names);
-                    const std::string id = TextId(use.section, use.key);
-                    used.insert(id);
-                    // What its text is like is the same wherever it is shown in a role.
-                    if (met.emplace(use.role, id).second)
-                        JudgeTexts(judged, use);
-                }
-                JudgeTwice(judged, used);
-            }};
+    KeyNames names(judged.surroundings.texts);
+    std::unordered_set<std::string> used;
+    std::set<std::pair<TextRole, std::string>> met;
+    for (const ShownText& use : TextUsesOf(judged.description))
+    {
+        JudgeMissing(judged, use, names);
+        const std::string id = TextId(use.section, use.key);
+        used.insert(id);
+        // What its text is like is the same wherever it is shown in a role.
+        if (met.emplace(use.role, id).second)
+            JudgeTexts(judged, use);
+    }
+    JudgeTwice(judged, used);
 }
 
 } // namespace lytdlg

@@ -1,4 +1,4 @@
-#include "lytdlg/judge/WordRules.h"
+#include "lytdlg/judge/Families.h"
 
 #include "lytdlg/judge/LineTokens.h"
 
@@ -9,17 +9,6 @@ namespace lytdlg
 
 namespace
 {
-namespace word_rules
-{
-
-constexpr Rule dropped = {
-    "word-dropped",
-    Level::Warning,
-    "A word stands where none is read, and is passed over.",
-    "What stands between a closing quote and the next comma or sign is lost, and so is a word between a\n"
-    "closing bracket and the next comma or sign. Mostly a comma is missing before it.",
-    "$LAYOUT\n    CheckBox 520, 12, 112, 12, \"Remove\".More",
-    "$LAYOUT\n    CheckBox 520, 12, 112, 12, \"Remove\", .More"};
 
 constexpr const char* wayOut = "write a comma before it, or delete it";
 
@@ -50,7 +39,8 @@ void JudgeQuotes(const Case& judged, const SourceLine& line)
         if (end != begin && rest < next && text[rest] != ';')
         {
             const size_t last = text.find_last_not_of(" \t", next - 1);
-            judged.findings.Add(dropped, {line.number, static_cast<int>(rest), static_cast<int>(last + 1 - rest)},
+            judged.findings.Add("word-dropped",
+                                {line.number, static_cast<int>(rest), static_cast<int>(last + 1 - rest)},
                                 "what follows the closing quote is passed over", wayOut);
         }
         begin = next < text.size() && text[next] != ';' ? text.find_first_not_of(" \t", next + 1) : std::string::npos;
@@ -67,7 +57,7 @@ void JudgeBrackets(const Case& judged, const SourceLine& line)
     {
         const LineToken& word = words[index];
         if (words[index - 1].delimiter == ')' && !word.text.empty())
-            judged.findings.Add(dropped, {line.number, word.column, static_cast<int>(word.text.size())},
+            judged.findings.Add("word-dropped", {line.number, word.column, static_cast<int>(word.text.size())},
                                 "what follows the closing bracket is passed over", wayOut);
     }
 }
@@ -80,32 +70,26 @@ void JudgeJump(const Case& judged, const SourceLine& line)
     const std::vector<LineToken> words = TokensOf(line.text, line.section);
     const bool isJump = words.size() > 3 && words[0].delimiter == ':' && words[1].delimiter == '=';
     if (isJump)
-        judged.findings.Add(dropped, {line.number, words[3].column, static_cast<int>(words[3].text.size())},
+        judged.findings.Add("word-dropped", {line.number, words[3].column, static_cast<int>(words[3].text.size())},
                             "without values in brackets this is no condition: the run always goes on at \"" +
                                 words[2].text + "\", and what follows is passed over",
                             "write CONTROL(VALUE) = NAME, OTHER, or delete it");
 }
 
-} // namespace word_rules
 } // namespace
 
-Family WordRules()
+void ApplyWordRules(const Case& judged)
 {
-    using namespace word_rules;
-    return {{&dropped},
-            [](const Case& judged)
-            {
-                for (const SourceLine& line : judged.description.text.Lines())
-                {
-                    const bool isStatement =
-                        line.isRead && !line.isHeader && line.section != Section::Head && line.section != Section::End;
-                    if (!isStatement || judged.description.IsRefused(line.number))
-                        continue;
-                    JudgeQuotes(judged, line);
-                    JudgeBrackets(judged, line);
-                    JudgeJump(judged, line);
-                }
-            }};
+    for (const SourceLine& line : judged.description.text.Lines())
+    {
+        const bool isStatement =
+            line.isRead && !line.isHeader && line.section != Section::Head && line.section != Section::End;
+        if (!isStatement || judged.description.IsRefused(line.number))
+            continue;
+        JudgeQuotes(judged, line);
+        JudgeBrackets(judged, line);
+        JudgeJump(judged, line);
+    }
 }
 
 } // namespace lytdlg

@@ -1,4 +1,4 @@
-#include "lytdlg/text/FmtCommand.h"
+#include "lytdlg/Commands.h"
 
 #include "commandline/Text.h"
 #include "lytdlg/text/BinaryStream.h"

@@ -1,4 +1,4 @@
-#include "lytdlg/text/NewCommand.h"
+#include "lytdlg/Commands.h"
 
 #include "commandline/Text.h"
 #include "lytdlg/text/NewDialog.h"

@@ -1,4 +1,4 @@
-#include "lytdlg/text/TextsCommand.h"
+#include "lytdlg/Commands.h"
 
 #include "commandline/Suggestion.h"
 #include "commandline/Text.h"

@@ -1,4 +1,4 @@
-#include "lytdlg/try/ScanCommands.h"
+#include "lytdlg/Commands.h"
 
 #include "commandline/Text.h"
 #include "lytdlg/try/TrialRun.h"

@@ -1,4 +1,4 @@
-#include "lytdlg/try/TestCommand.h"
+#include "lytdlg/Commands.h"
 
 #include "commandline/Text.h"
 #include "lytdlg/text/Paths.h"
