@@ -5,7 +5,6 @@
 #include "lytdlg/judge/Report.h"
 #include "support/TestFolder.h"
 
-#include <algorithm>
 #include <set>
 
 namespace lytdlg
@@ -31,8 +30,8 @@ struct Found
     std::string text;
 };
 
-// With families, their rules alone. Partner libraries are in those folders.
-inline Found FindIn(const std::string& example, const std::vector<Family>& families = {},
+// With a predicate, of the rules alone that it is true for. Partner libraries are in those folders.
+inline Found FindIn(const std::string& example, bool (*isAsked)(const Rule& rule) = nullptr,
                     const std::vector<std::string>& partners = {})
 {
     const std::string folder = ExampleFolder().Path();
@@ -41,9 +40,7 @@ inline Found FindIn(const std::string& example, const std::vector<Family>& famil
     Found found;
     for (Finding& finding : findings.All())
     {
-        const auto has = [&](const Family& family)
-        { return std::ranges::find(family.rules, finding.rule) != family.rules.end(); };
-        if (!families.empty() && std::ranges::none_of(families, has))
+        if (isAsked != nullptr && !isAsked(*finding.rule))
             continue;
         found.rules.insert(finding.rule->id);
         if (!finding.path.empty())

@@ -6,7 +6,7 @@
 
 std::string TextsOfFindings(const std::string& lines, const std::vector<std::string>& partners)
 {
-    return lytdlg::FindIn(lines, {}, partners).text;
+    return lytdlg::FindIn(lines, nullptr, partners).text;
 }
 
 void ExpectFindings(std::initializer_list<JudgedLines> examples)

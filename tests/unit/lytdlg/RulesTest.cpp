@@ -14,11 +14,8 @@ TEST(Rules, HaveNothingToSayAboutTheDescriptionOfTheExamples)
 TEST(Rules, HaveEachAnIdOfTheirOwn)
 {
     std::set<std::string> ids;
-    for (const Family& family : Families())
-    {
-        for (const Rule* rule : family.rules)
-            EXPECT_TRUE(ids.insert(rule->id).second) << rule->id;
-    }
+    for (const Rule& rule : Rules())
+        EXPECT_TRUE(ids.insert(rule.id).second) << rule.id;
 }
 
 namespace
@@ -32,28 +29,35 @@ const std::set<std::string> filesOfTheirOwn = {"refused",   "partner-library", "
 
 TEST(Rules, FindTheirWrongExampleAndNothingElseInIt)
 {
-    for (const Family& family : Families())
+    for (const Rule& rule : Rules())
     {
-        for (const Rule* rule : family.rules)
-        {
-            const std::string id = rule->id;
-            if (filesOfTheirOwn.contains(id))
-                continue;
-            SCOPED_TRACE(rule->id);
-            const Found found = FindIn(rule->wrong);
-            EXPECT_EQ(found.rules, std::set<std::string>{rule->id}) << found.text;
-        }
+        if (filesOfTheirOwn.contains(rule.id))
+            continue;
+        SCOPED_TRACE(rule.id);
+        const Found found = FindIn(rule.wrong);
+        EXPECT_EQ(found.rules, std::set<std::string>{rule.id}) << found.text;
     }
 }
 
 TEST(Rules, FindNothingInTheirRightExample)
 {
-    for (const Family& family : Families())
+    for (const Rule& rule : Rules())
     {
-        for (const Rule* rule : family.rules)
-        {
-            SCOPED_TRACE(rule->id);
-            EXPECT_EQ(FindIn(rule->right).text, "");
-        }
+        SCOPED_TRACE(rule.id);
+        EXPECT_EQ(FindIn(rule.right).text, "");
     }
+}
+
+TEST(Rules, ArePrintedAsTheirPageHasThem)
+{
+    std::string page;
+    for (const Rule& rule : Rules())
+    {
+        const std::string level = rule.level == Level::Error     ? "An error"
+                                  : rule.level == Level::Warning ? "A warning"
+                                                                 : "A note";
+        const std::string explanation = Explanation(rule);
+        page += "\n## " + rule.id + "\n\n" + level + ". " + explanation.substr(explanation.find('\n') + 1);
+    }
+    EXPECT_TRUE(RulePage().ends_with(page));
 }
