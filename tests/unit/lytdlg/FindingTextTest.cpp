@@ -96,8 +96,5 @@ TEST(FindingText, IsToldHereForEachRule)
     for (const TextCase& each : TextCases())
         all += each.findings;
     for (const Rule& rule : Rules())
-    {
-        if (IsTested(rule))
-            EXPECT_NE(all.find(" " + rule.id + ": "), std::string::npos) << rule.id;
-    }
+        EXPECT_TRUE(!IsTested(rule) || all.find(" " + rule.id + ": ") != std::string::npos) << rule.id;
 }
