@@ -6,15 +6,6 @@ from figures import digits, time_text
 
 FILE = pathlib.Path(__file__).resolve().parents[1] / "works.toml"
 
-# An absolute aim: how its figure follows from nanoseconds, and how it is written.
-ABSOLUTE = {
-    "ns_each": (lambda time, size: time / size, "ns per {unit}"),
-    "us": (lambda time, size: time / 1e3, "µs"),
-    "ms": (lambda time, size: time / 1e6, "ms"),
-    "kb": (lambda value, size: value, "KB"),
-}
-
-
 def load(file=FILE):
     """{name: work}, in the order of the page."""
     return tomllib.loads(file.read_text(encoding="utf-8"))
@@ -28,22 +19,16 @@ class Outcome:
         self.work = work
         self.size = aim["size"]
         self.rival = aim.get("rival", "")
-        kind = next(kind for kind in ("ratio", *ABSOLUTE) if kind in aim)
-        self.limit = aim[kind]
-        series = measured["series"]
-        self.ours = time_text(series["ours"]["median"]) if kind != "kb" else f'{digits(series["ours"]["median"])} KB'
-        self.other = time_text(series[self.rival]["median"]) if self.rival else ""
+        ours = measured["series"]["ours"]["median"]
         self.ratio = measured["ratios"].get(self.rival)
-        if kind == "ratio":
-            self.value = self.ratio["median"]
+        if self.rival:
+            self.limit, self.value = aim["ratio"], self.ratio["median"]
+            self.ours, self.other = time_text(ours), time_text(measured["series"][self.rival]["median"])
             self.aim_text = f"{self.limit:.2f} × the rival"
         else:
-            figure, unit = ABSOLUTE[kind]
-            self.value = figure(series["ours"]["median"], self.size)
-            unit = unit.format(unit=work.get("unit", "").removesuffix("s"))
-            self.aim_text = f"{digits(self.limit)} {unit}"
-            if kind == "ns_each":
-                self.ours += f", {digits(self.value)} {unit}"
+            self.limit, self.value = aim["kb"], ours
+            self.ours, self.other = f"{digits(ours)} KB", ""
+            self.aim_text = f"{digits(self.limit)} KB"
 
     # A figure that is written as the aim itself has met it.
     def is_met(self):

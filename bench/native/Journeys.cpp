@@ -4,19 +4,16 @@
 #include "environment/ClytEnvironment.h"
 #include "environment/ProcessState.h"
 #include "frame/Discard.h"
-#include "liveform/LiveForm.h"
+#include "native/FormByHand.h"
 
 #include <windows.h>
 
 #include <cstdio>
 #include <cstdlib>
 #include <optional>
-#include <utility>
 
 namespace
 {
-
-using Entries = std::vector<std::pair<const char*, const char*>>;
 
 CString SampleFolder()
 {
@@ -45,6 +42,8 @@ CString Work(LiveForm& form, const Entries& entries)
     return form.GetResult();
 }
 
+const Entries findingEntries = {{"Typical", "rot"}, {"Place", "cellar stairs"}};
+
 // The form with the dialog inside it, which LiveForm leaves to a modal run.
 class FormWithFinding : public LiveForm
 {
@@ -55,7 +54,7 @@ public:
     {
         lytInputKey = input;
         LiveForm finding(lytEnvironment.GetDescriptionFile(description));
-        return Work(finding, {{"Typical", "rot"}, {"Place", "cellar stairs"}});
+        return Work(finding, findingEntries);
     }
 };
 
@@ -68,26 +67,53 @@ template <class Dialog>
     Require(!Work(form, entries).IsEmpty(), "the result");
 }
 
-template <class Dialog>
-void MeasureJourney(const BenchMeter& meter, const char* description, const char* key, const Entries& entries)
+FormByHand ByHand(const CString& description, const CString& key, const Entries& entries)
+{
+    lytInputKey = key;
+    LiveForm form(description);
+    form.Construct();
+    return {form, description, entries};
+}
+
+CString SampleDialog(const char* name)
 {
     const CString samples = SampleFolder();
     lytEnvironment.SetDialogPath(samples + "dialogs");
     lytEnvironment.SetInitPath(samples + "init");
-    meter.Compare({{"ours", [&] { Journey<Dialog>(samples + "dialogs/" + description, key, entries); }}});
+    return samples + "dialogs/" + name;
 }
 
 } // namespace
 
 void MeasureSymbolJourney(const BenchMeter& meter)
 {
-    MeasureJourney<LiveForm>(meter, "lytInSym.dlg", "S1:area(2,m2)=\"n. a.\"", {{"Name", "length"}, {"Unit", "m"}});
+    const CString symbol = SampleDialog("lytInSym.dlg");
+    const CString key = "S1:area(2,m2)=\"n. a.\"";
+    const Entries entries = {{"Name", "length"}, {"Unit", "m"}};
+    const FormByHand byHand = ByHand(symbol, key, entries);
+    meter.Compare({
+        {"ours", [&] { Journey<LiveForm>(symbol, key, entries); }},
+        {"by hand", [&] { byHand.Work(); }},
+    });
 }
 
 void MeasureFormJourney(const BenchMeter& meter)
 {
-    MeasureJourney<FormWithFinding>(meter, "lytRpGrp.dlg",
-                                    "(Findings;R;roofing;Team North;101 Hall|102 Kitchen;Xroof|Xstairs;PC75;DIN 18338;;"
-                                    "Cracks; medium; north wall|Damp; severe)",
-                                    {{"Heading", "What was found"}, {"Chapter", "4.2"}, {"NewFinding", ""}});
+    const CString group = SampleDialog("lytRpGrp.dlg");
+    const CString key = "(Findings;R;roofing;Team North;101 Hall|102 Kitchen;Xroof|Xstairs;PC75;DIN 18338;;"
+                        "Cracks; medium; north wall|Damp; severe)";
+    const Entries typed = {{"Heading", "What was found"}, {"Chapter", "4.2"}};
+    Entries entries = typed;
+    entries.emplace_back("NewFinding", "");
+    const FormByHand groupByHand = ByHand(group, key, typed);
+    const FormByHand findingByHand = ByHand(SampleDialog("finding.dlg"), "; medium", {findingEntries[1]});
+    meter.Compare({
+        {"ours", [&] { Journey<FormWithFinding>(group, key, entries); }},
+        {"by hand",
+         [&]
+         {
+             groupByHand.Work();
+             findingByHand.Work();
+         }},
+    });
 }

@@ -51,6 +51,7 @@ public:
     }
 
     LiveForm* operator->() { return &m_form; }
+    const LiveForm& operator*() const { return m_form; }
 
 private:
     TestFolder m_folder;
@@ -110,6 +111,21 @@ void CopyText(const CString& text)
     Discard(copy.data());
 }
 
+// The texts of the fields, one after the other, with what the format has between them.
+void JoinByHand(const LiveForm& form)
+{
+    std::string joined;
+    for (int index = 0; index < fields; ++index)
+    {
+        HWND field = form.Window(Field(index).c_str())->m_hWnd;
+        std::string text(static_cast<size_t>(GetWindowTextLengthA(field)), '\0');
+        GetWindowTextA(field, text.data(), static_cast<int>(text.size()) + 1);
+        joined += text;
+        joined += ';';
+    }
+    Discard(joined.data());
+}
+
 } // namespace
 
 void MeasureScan(const BenchMeter& meter)
@@ -147,6 +163,7 @@ void MeasureComposition(const BenchMeter& meter)
     meter.Compare({
         {"ours", [&] { Discard(form->ComposeNamedOutput("parent", composed)); }},
         {"copy", [&] { CopyText(whole); }},
+        {"by hand", [&] { JoinByHand(*form); }},
     });
 }
 

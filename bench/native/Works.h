@@ -13,7 +13,7 @@ void MeasureRules(const BenchMeter& meter);
 void MeasureScan(const BenchMeter& meter);
 // The same with the pieces set to two fields in turn; the fields alone.
 void MeasureScanIntoFields(const BenchMeter& meter);
-// Composing a text of so many bytes; one copy of it.
+// Composing a text of so many bytes; one copy of it; the fields asked by hand and put together.
 void MeasureComposition(const BenchMeter& meter);
 // Reading a report of so many lines to its end; copying the same lines.
 void MeasureReportLines(const BenchMeter& meter);
@@ -21,7 +21,13 @@ void MeasureReportLines(const BenchMeter& meter);
 void MeasureTreeFill(const BenchMeter& meter);
 void MeasureTreeRefill(const BenchMeter& meter);
 void MeasureTreeSearch(const BenchMeter& meter);
-// What somebody does with a sample dialog: open it on a placeholder, type into two fields, confirm, close.
+// What somebody does with a sample dialog: open it on a placeholder, type into two fields, confirm, close; the same windows
+// made, filled, typed into, read and destroyed by hand.
 void MeasureSymbolJourney(const BenchMeter& meter);
 // The same with the form that repeats a group, and a finding from the dialog inside it.
 void MeasureFormJourney(const BenchMeter& meter);
+// A description of so many fields judged; the reading of it alone.
+void MeasureCheck(const BenchMeter& meter);
+// Brought into its form, and drawn; its lines copied.
+void MeasureFmt(const BenchMeter& meter);
+void MeasurePreview(const BenchMeter& meter);

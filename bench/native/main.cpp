@@ -17,5 +17,8 @@ int main(int argc, char** argv)
                           {"tree-search", {1000, 10'000, 100'000}, MeasureTreeSearch},
                           {"journey-symbol", {1}, MeasureSymbolJourney},
                           {"journey-form", {1}, MeasureFormJourney},
+                          {"check", {10, 100, 1000}, MeasureCheck},
+                          {"fmt", {10, 100, 1000}, MeasureFmt},
+                          {"preview", {10, 100, 1000}, MeasurePreview},
                       });
 }
