@@ -12,22 +12,22 @@ USAGE = pathlib.Path(__file__).with_name("usage.txt")
 
 HEAD = """# How fast it is
 
-`./measure` has written this page. Do not edit it: titles, aims and reasons stand in `bench/works.toml`, and
-`./measure --page` writes it anew from the figures of the last whole measurement, which lie in
-`docs/benchmarks/figures.json`.
+`./measure` has written this page. Do not edit it: titles, aims and reasons are in `bench/works.toml`. `./measure --page`
+writes it anew from the figures of the last whole measurement, which are in `docs/benchmarks/figures.json`.
 
 ## How to read it
 
 Each piece of work is done in turn with its rival, the same work done otherwise, in the same program and the same run. So
 what else the machine does falls on both, and their ratio is worth more than the times. A time is the median of all rounds,
-a ratio the median of the rounds' ratios; in brackets stands between which two the middle half of them lies. Where the
-brackets are far apart the machine was not quiet, and a ratio close to its aim says little.
+a ratio the median of the rounds' ratios. The brackets hold the middle half of them. Where the brackets are far apart the
+machine was not quiet, and a ratio close to its aim says little.
 
-A rival *by hand* calls the platform as the library does, reads what the library is told to read (each text and the language
-it is in, the level of the log), looks for the companion library as often, and throws away what it need not keep. Works
-that are measured *natively* are done by our code over windows in memory, and their time is the processor's. All others are
-done by the DLL under Wine, and their time is the clock's. There a call of the platform costs other than on Windows; the
-ratios hold better than the times.
+A rival *by hand* calls the platform as the library does. It reads what the library has to read: each text and the language
+it is in, the level of the log. It looks for the companion library as often, and throws away what it need not keep.
+
+Works that are measured *natively* are done by our code over windows in memory, and their time is the processor's. All
+others are done by the DLL under Wine, and their time is the clock's. There a call of the platform costs other than on
+Windows. The ratios hold better than the times.
 """
 
 
@@ -94,8 +94,8 @@ def rivals_section(works, summary):
                 how = brackets(one["ratios"][series]) + " ×" if kind == "rivals" else f"{100 * other / ours:.0f} % of it"
                 rows.append([title(work), place, time_text(ours), f"*{series}*: {words}", time_text(other), how])
     return ("## The rivals, and what the library is told to do\n\n"
-            "Each rival at the largest size that it is measured in, with the ratio to it; and the parts that the library is told\n"
-            "to do and that the rivals do as well, with their share of its time.\n\n" +
+            "Each rival at the largest size that it is measured in, with the ratio to it. Below it are the parts that the library\n"
+            "has to do and that the rivals do as well, with their share of its time.\n\n" +
             table(["work", ":size", ":time", "beside it", ":its time", ":the library"], rows))
 
 
@@ -144,8 +144,8 @@ def profile_section(works, profile):
     if not profile:
         return ""
     words = ["## Where the time goes\n\n"
-             "Counted in instructions by a profiler, each function with all that it calls, those of the platform in memory among\n"
-             "them: `GetPrivateProfileStringA`, which reads its file anew each time, and what stands below it, is not in the DLL.\n"
+             "Counted in instructions by a profiler, each function with all that it calls. Functions of the platform in memory are\n"
+             "among them and are not in the DLL: `GetPrivateProfileStringA`, for instance, which reads its file anew each time.\n"
              "Functions that the compiler has put into their callers do not appear.\n"]
     for name, rows in profile.items():
         listing = [[f"{share:.0f} %", f"`{function}`"] for share, function in rows]
