@@ -1,6 +1,7 @@
 // Composes items by a format, and expands the escapes of each.
 #include "dialog/ClytDialog.h"
 #include "fuzz/frame/Attempt.h"
+#include "fuzz/frame/Despair.h"
 #include "fuzz/frame/Fuzzer.h"
 #include "fuzz/frame/InputText.h"
 
@@ -11,19 +12,30 @@ namespace format_fuzzer
 
 constexpr int mostItems = 25;
 
+void ExpandEscapes(CString text)
+{
+    const int length = text.GetLength();
+    ClytDialog::ExpandEscapes(text);
+    DemandNone(text.GetLength() == length ? "" : "escapes change the length of a text");
+}
+
 void Run(const std::string& input)
 {
     InputText lines(input);
-    const std::string format = lines.Line();
+    const CString format = lines.Line().c_str();
+    int length = format.GetLength();
     CStringArray items;
     items.SetSize(mostItems);
     for (int count = 0; count < mostItems && !lines.IsAtEnd(); ++count)
+    {
         items.SetAt(count, lines.Line().c_str());
+        length += items[count].GetLength();
+    }
     CString text;
-    Attempt([&] { text = ClytDialog::FormatOutput(format.c_str(), items); });
-    ClytDialog::ExpandEscapes(text);
-    text = input.c_str();
-    ClytDialog::ExpandEscapes(text);
+    Attempt([&] { text = ClytDialog::FormatOutput(format, items); });
+    DemandNone(text.GetLength() <= length ? "" : "a composed text is longer than its format and items");
+    ExpandEscapes(text);
+    ExpandEscapes(input.c_str());
 }
 
 std::vector<std::string> Seeds()

@@ -1,5 +1,7 @@
 #include "Form.h"
 
+#include "support/Cases.h"
+
 namespace
 {
 
@@ -14,24 +16,28 @@ protected:
     }
 };
 
-CStringArray& Items(CStringArray& items, std::initializer_list<const char*> texts)
-{
-    items.SetSize(25);
-    int index = 0;
-    for (const char* item : texts)
-        items.SetAt(index++, item);
-    return items;
-}
-
-std::string Formatted(const char* format, std::initializer_list<const char*> texts = {})
+std::string Formatted(const std::string& format, std::initializer_list<const char*> texts)
 {
     CStringArray items;
-    return ClytDialog::FormatOutput(format, Items(items, texts)).GetString();
+    items.SetSize(25);
+    int index = 0;
+    for (const char* text : texts)
+        items.SetAt(index++, text);
+    std::string formatted;
+    const std::string message =
+        RaisedMessage([&] { formatted = ClytDialog::FormatOutput(format.c_str(), items).GetString(); });
+    return message == "nothing was raised" ? formatted : message;
 }
 
-std::string Expanded(const char* text)
+// With "a" as the first item, and "abcd" as the second.
+std::string FormattedItems(const std::string& format)
 {
-    CString expanded = text;
+    return Formatted(format, {"a", "abcd"});
+}
+
+std::string Expanded(const std::string& text)
+{
+    CString expanded = text.c_str();
     ClytDialog::ExpandEscapes(expanded);
     return expanded.GetString();
 }
@@ -64,21 +70,16 @@ TEST_F(Output, NeedsTheControlsOfItsConditionsActive)
     EXPECT_EQ(Compose(), "else");
 }
 
-TEST_F(Output, KnowsNoMeaningOfNotNull)
-{
-    text.output = "A(NOTNULL) = (\"something\")\n(\"else\")\n";
-    Open().Enter("A", "x");
-    EXPECT_EQ(Compose(), "else");
-}
-
 TEST_F(Output, LeavesTheTextAsItWasWhenNoRuleHolds)
 {
-    text.output = "A(1) = (\"one\")\n";
+    text.output = "A(1), A(NOTNULL) = (\"one\")\n";
     LiveForm& opened = Open();
     EXPECT_EQ(Compose(), "none");
     EXPECT_EQ(Compose("missing"), "none");
     EXPECT_FALSE(opened.Confirm());
     EXPECT_EQ(opened.GetResult(), "");
+    opened.Enter("A", "1");
+    EXPECT_EQ(Compose(), "none") << "NOTNULL means nothing here";
 }
 
 TEST_F(Output, RaisesAConditionOnAnUnknownControl)
@@ -96,41 +97,30 @@ TEST_F(Output, LeavesOtherFailuresOfTheConfirmationAsTheyAre)
     EXPECT_EQ(RaisedMessage([&] { opened.Confirm(); }), missingArgument);
 }
 
-TEST_F(Output, TakesTheValuesOfControlsAndOtherWordsAsTheyStand)
+TEST_F(Output, TakesTheValuesOfControlsAndOtherWordsAsTheyAre)
 {
-    text.output = "(\"%s/%s/%s\", A, word, B)\n";
-    LiveForm& opened = Open();
-    opened.Enter("A", "a");
-    EXPECT_EQ(Compose(), "a/word/");
-}
-
-TEST_F(Output, TakesTheValueOfAnInactiveControl)
-{
-    text.values = "A = INACTIVE\nA = text\n";
-    text.output = "(\"%s\", A)\n";
-    Open();
-    EXPECT_EQ(Compose(), "text");
-}
-
-TEST_F(Output, JoinsTheValuesOfAList)
-{
-    text.values = "L: one = 1\nL: two = 2\n";
-    text.output = "(\"%s\", L(\"/\"))\n$OUTPUT, three\n(\"%s\", L())\n$OUTPUT, framed\n(\"%s\", L(\"+[]\"))\n"
-                  "$OUTPUT, word\n(\"%s\", Word(\"/\"))\n";
-    Open();
-    EXPECT_EQ(Compose(), "one/two");
-    // Three blanks: one between the items, one before them and one after.
-    EXPECT_EQ(Compose("three"), " one two ");
-    EXPECT_EQ(Compose("framed"), "[one+two]");
-    EXPECT_EQ(Compose("word"), "Word");
-}
-
-TEST_F(Output, TakesNothingOfAControlWithoutAName)
-{
-    text.output = "(\"<%s>\", \"\")\n$OUTPUT, all\n(\"<%s>\", \"\"())\n";
-    Open();
-    EXPECT_EQ(Compose(), "<>");
-    EXPECT_EQ(Compose("all"), "<>");
+    text.values = "A = INACTIVE\nA = text\nL: one = 1\nL: two = 2\n";
+    static const struct
+    {
+        const char* rule;
+        const char* composed;
+    } cases[] = {
+        {"(\"%s/%s/%s\", A, word, B)", "text/word/"},
+        {"(\"%s|%s|%s\", word)", "word||"},
+        {"(\"%s\", L(\"/\"))", "one/two"},
+        // Three blanks: one between the items, one before them and one after.
+        {"(\"%s\", L())", " one two "},
+        {"(\"%s\", L(\"+[]\"))", "[one+two]"},
+        {"(\"%s\", Word(\"/\"))", "Word"},
+        {"(\"<%s>\", \"\")", "<>"},
+        {"(\"<%s>\", \"\"())", "<>"},
+    };
+    for (const auto& c : cases)
+    {
+        text.output = std::string(c.rule) + "\n";
+        Open();
+        EXPECT_EQ(Compose(), c.composed) << c.rule;
+    }
 }
 
 TEST_F(Output, ReportsAButtonEachTimeItIsTaken)
@@ -159,13 +149,6 @@ TEST_F(Output, Takes25ItemsAndNoMore)
     EXPECT_EQ(Compose(), result);
     EXPECT_EQ(RaisedMessage([&] { Compose("more"); }), missingArgument);
     EXPECT_EQ(RaisedMessage([&] { Compose("wide"); }), missingArgument);
-}
-
-TEST_F(Output, FillsPlacesWithoutAnItemWithNothing)
-{
-    text.output = "(\"%s|%s|%s\", word)\n";
-    Open();
-    EXPECT_EQ(Compose(), "word||");
 }
 
 TEST_F(Output, EvaluatesTheControlsItTakesWhenItIsTheResult)
@@ -264,96 +247,53 @@ TEST_F(Output, KeepsTheItemsOfARuleWithoutAFormatAlsoAcrossAHeader)
     EXPECT_EQ(Compose("second"), "first-word");
 }
 
-TEST(Format, WithoutConversionsStandsAsItIs)
+TEST(Format, TakesAnItemForEachConversionAndEachLetterS)
 {
-    EXPECT_EQ(Formatted("plain. s \\n text"), "plain. s \\n text");
-    EXPECT_EQ(Formatted("a\\nb"), "a\\nb");
-    EXPECT_EQ(Formatted(""), "");
-}
-
-TEST(Format, TakesItemsInTheirOrder)
-{
-    EXPECT_EQ(Formatted("%s-%s", {"a", "b"}), "a-b");
-}
-
-TEST(Format, TakesAnItemForALiteralLetterToo)
-{
-    EXPECT_EQ(Formatted("is %s", {"a", "b"}), "ia b");
-}
-
-TEST(Format, CutsAnItemAtItsLimit)
-{
-    EXPECT_EQ(Formatted("%.2s", {"abcd"}), "ab");
-    EXPECT_EQ(Formatted("%0.2s", {"abcd"}), "ab");
-    EXPECT_EQ(Formatted("%.9s", {"abcd"}), "abcd");
-    EXPECT_EQ(Formatted("%.s|%.xs|%.-1s", {"abcd", "abcd", "abcd"}), "||");
-    EXPECT_EQ(Formatted("%.99999999999s", {"abcd"}), "abcd");
-}
-
-TEST(Format, GivesAnyOtherConversionAsItsText)
-{
-    EXPECT_EQ(Formatted("%5s", {"a"}), "5s");
-    EXPECT_EQ(Formatted("%5s%s", {"a"}), "5sa");
-    EXPECT_EQ(Formatted("%%s%s", {"a"}), "%sa");
-    EXPECT_EQ(Formatted("%d%s", {"a"}), "d%s");
-    EXPECT_EQ(Formatted("0%s", {"a"}), "0a");
-}
-
-TEST(Format, FailsOnAConversionWithoutItsLetter)
-{
-    EXPECT_EQ(RaisedMessage([] { Formatted("100%"); }), missingArgument);
-    EXPECT_EQ(RaisedMessage([] { Formatted("%s %d", {"a"}); }), missingArgument);
-}
-
-TEST(Format, FailsOnALonePointBesideAConversion)
-{
-    EXPECT_EQ(RaisedMessage([] { Formatted("No. %s", {"a"}); }), missingArgument);
-    EXPECT_EQ(RaisedMessage([] { Formatted("%s.", {"a"}); }), missingArgument);
-}
-
-TEST(Format, FailsOnThe26thItem)
-{
-    std::string format;
-    for (int index = 0; index < 25; ++index)
-        format += "%s";
-    EXPECT_EQ(Formatted(format.c_str(), {"a", "b"}), "ab");
-    EXPECT_EQ(RaisedMessage([&] { Formatted((format + "%s").c_str()); }), missingArgument);
-    EXPECT_EQ(RaisedMessage([&] { Formatted((format + "s").c_str()); }), missingArgument);
-}
-
-TEST(Format, DropsABackslashBeforeAQuote)
-{
-    EXPECT_EQ(Formatted("\\\"%s\\\"", {"a"}), "\"a\"");
-    EXPECT_EQ(Formatted("\\%s", {"a"}), "\\a");
+    ExpectEach(FormattedItems, {{"plain. s \\n text", "plain. s \\n text"},
+                                {"a\\nb", "a\\nb"},
+                                {"", ""},
+                                {"%s-%s", "a-abcd"},
+                                {"is %s", "ia abcd"},
+                                {"%s%.2s", "aab"},
+                                {"%s%0.2s", "aab"},
+                                {"%s%.9s", "aabcd"},
+                                {"%.s|%.xs|%.-1s", "||"},
+                                {"%s%.99999999999s", "aabcd"},
+                                // Any other conversion is its text.
+                                {"%5s", "5s"},
+                                {"%5s%s", "5sa"},
+                                {"%%s%s", "%sa"},
+                                {"%d%s", "d%s"},
+                                {"0%s", "0a"},
+                                // A backslash before a quote goes.
+                                {"\\\"%s\\\"", "\"a\""},
+                                {"\\%s", "\\a"}});
+    // A conversion without its letter, and a lone point beside one.
+    ExpectAll(FormattedItems, missingArgument, {"100%", "%s %d", "No. %s", "%s."});
     EXPECT_EQ(Formatted("%s\"", {"\\"}), "\"");
     EXPECT_EQ(Formatted("%s\"", {"a\\"}), "a\\\"");
-}
-
-TEST(Format, ExpandsEscapesInTheFinishedText)
-{
+    // Escapes are expanded in the finished text.
     EXPECT_EQ(Formatted("a\\nb%s", {""}), "a\n b");
     EXPECT_EQ(Formatted("%sx", {"a\\tb\\"}), "a\t b\\x");
     EXPECT_EQ(Formatted("%snow", {"a\\"}), "a\n ow");
+    std::string most;
+    for (int index = 0; index < 25; ++index)
+        most += "%s";
+    EXPECT_EQ(Formatted(most, {"a", "b"}), "ab");
+    EXPECT_EQ(Formatted(most + "%s", {}), missingArgument);
+    EXPECT_EQ(Formatted(most + "s", {}), missingArgument);
 }
 
-TEST(Escapes, BecomeALineFeedOrTabAndABlank)
+TEST(Escapes, BecomeALineFeedOrTabAndABlankButAtTheVeryEnd)
 {
-    EXPECT_EQ(Expanded("a\\nb"), "a\n b");
-    EXPECT_EQ(Expanded("a\\tb"), "a\t b");
-    EXPECT_EQ(Expanded("\\n\\tx"), "\n \t x");
-    EXPECT_EQ(Expanded("a\\\\nb"), "a\\\n b");
-    EXPECT_EQ(Expanded("a\\xb"), "a\\xb");
-}
-
-TEST(Escapes, StayAtTheVeryEnd)
-{
-    EXPECT_EQ(Expanded("ab\\n"), "ab\\n");
-    EXPECT_EQ(Expanded("a\\nb\\n"), "a\n b\\n");
-}
-
-TEST(Escapes, StayInATextOfFewerThanThreeCharacters)
-{
-    EXPECT_EQ(Expanded("\\n"), "\\n");
-    EXPECT_EQ(Expanded("\\"), "\\");
-    EXPECT_EQ(Expanded(""), "");
+    ExpectEach(Expanded, {{"a\\nb", "a\n b"},
+                          {"a\\tb", "a\t b"},
+                          {"\\n\\tx", "\n \t x"},
+                          {"a\\\\nb", "a\\\n b"},
+                          {"a\\xb", "a\\xb"},
+                          {"ab\\n", "ab\\n"},
+                          {"a\\nb\\n", "a\n b\\n"},
+                          {"\\n", "\\n"},
+                          {"\\", "\\"},
+                          {"", ""}});
 }

@@ -1,6 +1,7 @@
 #include "Form.h"
 
 #include "model/ClytScale.h"
+#include "support/Cases.h"
 
 #include <climits>
 
@@ -78,22 +79,18 @@ TEST_F(Construction, ReadsAWholeDescription)
     EXPECT_EQ(lytInputApplied, 1);
 }
 
-TEST_F(Construction, WithoutATextSectionHasNoTexts)
+TEST_F(Construction, ShowsTheSentinelForAMissingTextAndNothingWithoutASection)
 {
-    text.layout = "Text 10, 10, 80, 12, \"LABEL\", .Label\n";
-    const LiveForm& opened = Open();
-    EXPECT_EQ(WindowText(opened), "");
-    EXPECT_EQ(TextOf(opened, "Label"), "");
-    EXPECT_EQ(opened.GetTextSection(), "");
-}
-
-TEST_F(Construction, ShowsTheSentinelForAMissingText)
-{
-    text.section = "TEXTS";
     text.layout = "Text 10, 10, 80, 12, \"UNKNOWN\", .Label\nText 1, 2, 3, 4, .Bare\n";
-    const LiveForm& opened = Open();
-    EXPECT_EQ(TextOf(opened, "Label"), "no value present");
-    EXPECT_EQ(TextOf(opened, "Bare"), "");
+    for (const char* section : {"TEXTS", ""})
+    {
+        text.section = section;
+        const LiveForm& opened = Open();
+        EXPECT_EQ(opened.GetTextSection(), section);
+        EXPECT_EQ(WindowText(opened), *section != '\0' ? "the title" : "");
+        EXPECT_EQ(TextOf(opened, "Label"), *section != '\0' ? "no value present" : "");
+        EXPECT_EQ(TextOf(opened, "Bare"), "");
+    }
 }
 
 TEST_F(Construction, ScalesAndCutsPositionsAndSizes)
@@ -135,10 +132,16 @@ TEST_F(Construction, IgnoresAnUnknownTypeWordAndStatementsThatNameIt)
 
 TEST_F(Construction, KeepsTwoControlsOfOneNameAndFindsTheLater)
 {
-    text.layout = "TextBox 1, 0, 3, 4, .A\nTextBox 2, 0, 3, 4, .A\n";
-    const LiveForm& opened = Open();
-    EXPECT_EQ(Names(opened), "A A ");
-    EXPECT_EQ(Place(opened, "A"), "2,0,3,4");
+    for (const char* name : {"A", ""})
+    {
+        const std::string suffix = *name != '\0' ? ", .A\n" : "\n";
+        text.layout = "TextBox 1, 0, 3, 4" + suffix + "TextBox 2, 0, 3, 4" + suffix;
+        text.values = std::string(name) + "=x\n";
+        const LiveForm& opened = Open();
+        EXPECT_EQ(opened.GetControlList().GetCount(), 2);
+        EXPECT_EQ(Place(opened, name), "2,0,3,4");
+        EXPECT_EQ(opened.Value(name), "x");
+    }
 }
 
 TEST_F(Construction, GivesEveryRuleTheLaterOfTwoControlsOfOneName)
@@ -159,15 +162,6 @@ TEST_F(Construction, GivesEveryRuleTheLaterOfTwoControlsOfOneName)
     EXPECT_FALSE(opened.Confirm());
     EXPECT_EQ(Messages(), "do not do that;");
     EXPECT_EQ(Compose("other"), "<x>");
-}
-
-TEST_F(Construction, FindsTheLastNamelessControlUnderTheEmptyName)
-{
-    text.layout = "TextBox 1, 0, 3, 4\nTextBox 2, 0, 3, 4\n";
-    text.values = "=x\n";
-    const LiveForm& opened = Open();
-    EXPECT_EQ(Place(opened, ""), "2,0,3,4");
-    EXPECT_EQ(opened.Value(""), "x");
 }
 
 TEST_F(Construction, GivesNamelessControlsNoneOfTheEmptyLines)
@@ -245,35 +239,27 @@ TEST_F(Construction, RaisesAFileThatCannotBeOpened)
     EXPECT_EQ(RaisedMessage([&] { ofNothing.Construct(); }), "207 ''");
 }
 
-TEST_F(Construction, RaisesEachMissingSection)
-{
-    EXPECT_EQ(OpenTextFailure(""), "214 ''");
-    EXPECT_EQ(OpenTextFailure("\x01\x02\xff binary \x1b junk"), "214 ''");
-    EXPECT_EQ(OpenTextFailure("$LAYOUT\n"), "213 ''");
-    EXPECT_EQ(OpenTextFailure("$VERSION 1\n$LAYOUT\n"), "215 ''");
-    EXPECT_EQ(OpenTextFailure("$VERSION 1\n$LAYOUT\nBegin Window Box 1, 2, T, M\n"), "205 ''");
-    const std::string begin = "$VERSION 1\n$LAYOUT\nBegin Dialog Box 1, 2, T, M\n";
-    EXPECT_EQ(OpenTextFailure(begin), "216 ''");
-    EXPECT_EQ(OpenTextFailure(begin + "$VALUES\n"), "217 '$DEPENDANCES'");
-    EXPECT_EQ(OpenTextFailure(begin + "$VALUES\n$DEPENDANCES\n"), "217 '$EVALUATION'");
-    EXPECT_EQ(OpenTextFailure(begin + "$VALUES\n$DEPENDANCES\n$EVALUATION, x\n"), "217 '$INPUT'");
-    EXPECT_EQ(OpenTextFailure(begin + "$VALUES\n$DEPENDANCES\n$EVALUATION, x\n$INPUT\n"), "217 '$OUTPUT'");
-    EXPECT_EQ(OpenTextFailure(begin + "$VALUES\n$DEPENDANCES\n$EVALUATION, x\n$INPUT\n$OUTPUT\n"), "217 '$END'");
-}
-
-TEST_F(Construction, RaisesSectionsInTheWrongOrder)
+TEST_F(Construction, RaisesSectionsThatAreMissingOrInTheWrongOrder)
 {
     const std::string begin = "$VERSION 1\n$LAYOUT\nBegin Dialog Box 1, 2, T, M\n";
-    EXPECT_EQ(OpenTextFailure(begin + "$DEPENDANCES\n$VALUES\n"), "212 '4'");
-    EXPECT_EQ(OpenTextFailure(begin + "$VALUES\n$EVALUATION, x\n$DEPENDANCES\n"), "217 '$EVALUATION'");
-    EXPECT_EQ(OpenTextFailure(begin + "$VALUES\n$DEPENDANCES\n$INPUT\n"), "212 '6'");
-}
-
-TEST_F(Construction, RaisesAnEvaluationHeaderWithoutItsWord)
-{
-    std::string description = text();
-    description.replace(description.find("$EVALUATION, x"), 14, "$EVALUATION");
-    EXPECT_EQ(OpenTextFailure(description), "204 ''");
+    const std::string rules = begin + "$VALUES\n$DEPENDANCES\n";
+    const std::string parts = rules + "$EVALUATION, x\n$INPUT\n";
+    ExpectEach([this](const std::string& description) { return OpenTextFailure(description); },
+               {{"", "214 ''"},
+                {"\x01\x02\xff binary \x1b junk", "214 ''"},
+                {"$LAYOUT\n", "213 ''"},
+                {"$VERSION 1\n$LAYOUT\n", "215 ''"},
+                {"$VERSION 1\n$LAYOUT\nBegin Window Box 1, 2, T, M\n", "205 ''"},
+                {begin, "216 ''"},
+                {begin + "$VALUES\n", "217 '$DEPENDANCES'"},
+                {rules, "217 '$EVALUATION'"},
+                {rules + "$EVALUATION, x\n", "217 '$INPUT'"},
+                {parts, "217 '$OUTPUT'"},
+                {parts + "$OUTPUT\n", "217 '$END'"},
+                {begin + "$DEPENDANCES\n$VALUES\n", "212 '4'"},
+                {begin + "$VALUES\n$EVALUATION, x\n$DEPENDANCES\n", "217 '$EVALUATION'"},
+                {rules + "$INPUT\n", "212 '6'"},
+                {rules + "$EVALUATION\n$INPUT\n", "204 ''"}});
 }
 
 TEST_F(Construction, WithoutAParentPartRaisesItsNameWhenTheInputIsApplied)

@@ -30,34 +30,36 @@ protected:
 
 } // namespace
 
-TEST_F(Errors, SpeakWithTheTextOfTheirNumber)
+TEST_F(Errors, SpeakWithTheTextOfTheirNumberBelowThePrefixAndAroundTheArgument)
 {
-    EXPECT_EQ(MessageOf({"Dialog_Error", "201", "", ""}), "no value");
-}
-
-TEST_F(Errors, WithoutATextSpeakWithTheSentinel)
-{
-    EXPECT_EQ(MessageOf({"Dialog_Error", "999", "", "argument"}), "no value present");
-    EXPECT_EQ(MessageOf({"Dialog_Error", "999", "prefix", ""}), "prefix\nno value present");
-}
-
-TEST_F(Errors, PutTheArgumentOnceAfterTheFirstApostrophe)
-{
-    EXPECT_EQ(MessageOf({"Dialog_Error", "212", "", "17"}), "line '17' is wrong");
-    EXPECT_EQ(MessageOf({"Dialog_Error", "212", "", ""}), "line '' is wrong");
-    EXPECT_EQ(MessageOf({"Dialog_Error", "201", "", "17"}), "no value");
-    EXPECT_EQ(MessageOf({"Dialog_Error", "212", "", "O'Hara"}), "line 'O'Hara' is wrong");
-}
-
-TEST_F(Errors, PutThePrefixOnALineAboveTheText)
-{
-    EXPECT_EQ(MessageOf({"Dialog_Error", "212", "cause", "17"}), "cause\nline '17' is wrong");
-}
-
-TEST_F(Errors, OfEvaluationRulesHaveASectionOfTheirOwn)
-{
-    EXPECT_EQ(MessageOf({"MsgBox", "Check", "", ""}), "please check");
-    EXPECT_EQ(MessageOf({"Dialog_Error", "Check", "", ""}), "no value present");
+    static const struct
+    {
+        const char* section;
+        const char* number;
+        const char* prefix;
+        const char* argument;
+        const char* message;
+    } cases[] = {
+        {"Dialog_Error", "201", "", "", "no value"},
+        {"Dialog_Error", "201", "", "17", "no value"},
+        {"Dialog_Error", "212", "", "17", "line '17' is wrong"},
+        {"Dialog_Error", "212", "", "", "line '' is wrong"},
+        {"Dialog_Error", "212", "", "O'Hara", "line 'O'Hara' is wrong"},
+        {"Dialog_Error", "212", "cause", "17", "cause\nline '17' is wrong"},
+        {"Dialog_Error", "999", "", "argument", "no value present"},
+        {"Dialog_Error", "999", "prefix", "", "prefix\nno value present"},
+        // Evaluation rules have a separate section.
+        {"MsgBox", "Check", "", "", "please check"},
+        {"Dialog_Error", "Check", "", "", "no value present"},
+    };
+    for (const auto& c : cases)
+        EXPECT_EQ(MessageOf({c.section, c.number, c.prefix, c.argument}), c.message);
+    EXPECT_EQ(ClytPrefix::OfKey("242").Worded(), "unbalanced");
+    EXPECT_EQ(ClytPrefix::OfKey("238").Worded(), "no value present");
+    // The language is that of the moment in which the message is shown.
+    const ClytException error("Dialog_Error", "201", "", "");
+    folder.Write("lang/Test.nls", "[Dialog_Error]\r\n201=kein Wert\r\n");
+    EXPECT_EQ(MessageOf(error), "kein Wert");
 }
 
 TEST_F(Errors, CopyTheirMessageUpToTheSizeOfTheBuffer)
@@ -75,54 +77,22 @@ TEST_F(Errors, CopyTheirMessageUpToTheSizeOfTheBuffer)
     EXPECT_EQ(buffer[0], '#');
 }
 
-TEST_F(Errors, GiveMoreThan74BytesToALargerBuffer)
-{
-    char buffer[200] = "";
-    ClytException("Dialog_Error", "213", "0123456789", "").GetErrorMessage(buffer, sizeof buffer);
-    EXPECT_EQ(buffer, "0123456789\n" + longText);
-}
-
 TEST_F(Errors, ShowTheFirst74BytesOfTheirMessage)
 {
     TakeMessages();
-    ClytException("Dialog_Error", "213", "0123456789", "").ReportError();
+    ClytException error("Dialog_Error", "213", "0123456789", "");
+    char buffer[200] = "";
+    error.GetErrorMessage(buffer, sizeof buffer);
+    EXPECT_EQ(buffer, "0123456789\n" + longText);
+    error.ReportError();
     EXPECT_EQ(TakeMessages(), std::vector{("0123456789\n" + longText).substr(0, 74)});
 }
 
-TEST_F(Errors, ReportedAreShownAndTheOperationGoesOn)
+TEST_F(Errors, AreReportedAndTheOperationContinuesOrAreRaisedAndItEnds)
 {
     TakeMessages();
-    bool wentOn = false;
     lytReport("212", "cause", "17");
-    wentOn = true;
-    EXPECT_TRUE(wentOn);
     EXPECT_EQ(TakeMessages(), std::vector<std::string>{"cause\nline '17' is wrong"});
-}
-
-TEST_F(Errors, RaisedEndTheOperationAndShowNothing)
-{
-    TakeMessages();
-    bool wentOn = false;
-    EXPECT_EQ(RaisedMessage(
-                  [&]
-                  {
-                      lytRaise("212", "cause", "17");
-                      wentOn = true;
-                  }),
-              "cause\nline '17' is wrong");
-    EXPECT_FALSE(wentOn);
+    EXPECT_EQ(RaisedMessage([] { lytRaise("212", "cause", "17"); }), "cause\nline '17' is wrong");
     EXPECT_TRUE(TakeMessages().empty());
-}
-
-TEST_F(Errors, TextsOfAKeyServeAsPrefixes)
-{
-    EXPECT_EQ(ClytPrefix::OfKey("242").Worded(), "unbalanced");
-    EXPECT_EQ(ClytPrefix::OfKey("238").Worded(), "no value present");
-}
-
-TEST_F(Errors, MessagesFollowTheLanguageAtTheTimeTheyAreShown)
-{
-    const ClytException error("Dialog_Error", "201", "", "");
-    folder.Write("lang/Test.nls", "[Dialog_Error]\r\n201=kein Wert\r\n");
-    EXPECT_EQ(MessageOf(error), "kein Wert");
 }

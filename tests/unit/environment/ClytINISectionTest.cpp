@@ -1,10 +1,7 @@
 #include "environment/ClytINISection.h"
 
+#include "support/Cases.h"
 #include "support/TestFolder.h"
-
-#include <gtest/gtest.h>
-
-#include <string>
 
 namespace
 {
@@ -14,23 +11,16 @@ class IniSection : public testing::Test
 protected:
     void Write(const std::string& lines) const { folder.Write("test.ini", "[s]\r\n" + lines); }
 
-    // Key and value of each line, joined.
-    std::string Lines() const
+    // Key and value of each line, and the lengths that their columns need.
+    std::string Read(const std::string& lines)
     {
-        std::string joined;
+        Write(lines);
+        const bool hasLines = section.Read();
+        EXPECT_EQ(hasLines, !section.empty());
+        std::string shown;
         for (const ClytINIStruct& line : section)
-            joined += "<" + std::string(line.key) + "|" + std::string(line.value) + ">";
-        return joined;
-    }
-
-    // Reads a section of these lines: what it holds, and its lengths.
-    void ExpectRead(const std::string& content, const std::string& lines, size_t longestKey, size_t longestValue)
-    {
-        Write(content);
-        EXPECT_TRUE(section.Read());
-        EXPECT_EQ(Lines(), lines);
-        EXPECT_EQ(section.GetLongestKey(), longestKey);
-        EXPECT_EQ(section.GetLongestValue(), longestValue);
+            shown += "<" + line.key + "|" + line.value + ">";
+        return shown + " " + std::to_string(section.GetLongestKey()) + "," + std::to_string(section.GetLongestValue());
     }
 
     const TestFolder folder;
@@ -40,57 +30,33 @@ protected:
 
 } // namespace
 
-TEST_F(IniSection, ReadsKeysAndValuesInFileOrder)
+TEST_F(IniSection, SplitsEachLineAtItsFirstEqualsSign)
 {
-    ExpectRead("b=1\r\na = two \r\n; note\r\n\r\n", "<b|1><a|two>", 1, 3);
+    const auto readAlone = [this](const std::string& lines)
+    {
+        section = ClytINISection(file.c_str(), "s");
+        return Read(lines);
+    };
+    ExpectEach(readAlone, {{"b=1\r\na = two \r\n; note\r\n\r\n", "<b|1><a|two> 1,3"},
+                           // A line without a sign, or that begins with it, is a key and counts as a value.
+                           {"=value\r\n", "<=value|> 0,6"},
+                           {"a long key\r\nb=1\r\n", "<a long key|><b|1> 1,10"},
+                           {"key=a=b\r\n", "<key|a=b> 3,3"},
+                           {"k=1\r\nk=2\r\n", "<k|1><k|2> 1,1"},
+                           {"k=\r\n", "<k|> 1,0"}});
 }
 
-TEST_F(IniSection, TakesALineThatBeginsWithEqualsAsAKey)
+TEST_F(IniSection, KeepsTheGreatestLengthsWhenItIsReadAgain)
 {
-    ExpectRead("=value\r\n", "<=value|>", 0, 6);
-}
-
-TEST_F(IniSection, CountsALineWithoutEqualsAsAValueOnly)
-{
-    ExpectRead("a long key\r\nb=1\r\n", "<a long key|><b|1>", 1, 10);
-}
-
-TEST_F(IniSection, SplitsAtTheFirstEqualsOnly)
-{
-    ExpectRead("key=a=b\r\n", "<key|a=b>", 3, 3);
-}
-
-TEST_F(IniSection, KeepsBothLinesWithOneKey)
-{
-    ExpectRead("k=1\r\nk=2\r\n", "<k|1><k|2>", 1, 1);
-}
-
-TEST_F(IniSection, KeepsAnEmptyValue)
-{
-    ExpectRead("k=\r\n", "<k|>", 1, 0);
-}
-
-TEST_F(IniSection, OnceAbsentIsEmptyAndKeepsItsLengths)
-{
-    ExpectRead("key=value\r\n", "<key|value>", 3, 5);
-    folder.Write("test.ini", "[other]\r\na=1\r\n");
-    EXPECT_FALSE(section.Read());
-    EXPECT_TRUE(section.empty());
-    EXPECT_EQ(section.GetLongestKey(), 3U);
-    EXPECT_EQ(section.GetLongestValue(), 5U);
-}
-
-TEST_F(IniSection, ReadAgainHoldsTheNewLinesAndTheGreatestLengths)
-{
-    ExpectRead("key=value\r\n", "<key|value>", 3, 5);
-    ExpectRead("a=1\r\n", "<a|1>", 3, 5);
+    EXPECT_EQ(Read("key=value\r\n"), "<key|value> 3,5");
+    EXPECT_EQ(Read("a=1\r\n"), "<a|1> 3,5");
+    EXPECT_EQ(Read("[other]\r\na=1\r\n"), " 3,5");
 }
 
 TEST_F(IniSection, IsEmptyWhenFileOrSectionIsMissing)
 {
     EXPECT_FALSE(section.Read());
-    ClytINISection noFile((folder.Path() + "\\none.ini").c_str(), "s");
-    EXPECT_FALSE(noFile.Read());
+    EXPECT_FALSE(ClytINISection((folder.Path() + "\\none.ini").c_str(), "s").Read());
     ClytINISection noNames(nullptr, nullptr);
     EXPECT_FALSE(noNames.Read());
     EXPECT_EQ(noNames.GetSectionName(), "");
@@ -104,17 +70,12 @@ TEST_F(IniSection, IsCutAt2048BytesWithinALine)
     Write(lines);
     EXPECT_TRUE(section.Read());
     EXPECT_EQ(section.size(), 205U);
-    EXPECT_EQ(section.back().key, "key120");
-    EXPECT_EQ(section.back().value, "");
+    EXPECT_EQ(section.back().key + "=" + section.back().value, "key120=");
     EXPECT_EQ(section.front().key, "key1000");
-}
-
-TEST_F(IniSection, HoldsTheWholeOfASectionThatJustFits)
-{
-    Write("a=" + std::string(2043, 'x') + "\r\n");
-    EXPECT_TRUE(section.Read());
-    EXPECT_EQ(section.GetLongestValue(), 2043U);
-    Write("a=" + std::string(2045, 'x') + "\r\n");
-    EXPECT_TRUE(section.Read());
-    EXPECT_EQ(section.front().value.GetLength(), 2044);
+    for (const int length : {2043, 2045})
+    {
+        Write("a=" + std::string(static_cast<size_t>(length), 'x') + "\r\n");
+        EXPECT_TRUE(section.Read());
+        EXPECT_EQ(section.front().value.GetLength(), std::min(length, 2044));
+    }
 }

@@ -2,70 +2,51 @@
 
 #include "model/ClytConditionTest.h"
 #include "model/ClytControlDep.h"
-
-#include <gtest/gtest.h>
+#include "support/Cases.h"
+#include "unit/dlgfile/Description.h"
 
 namespace
 {
 
-ClytCtrlValList& Fill(ClytCtrlValList& list, std::initializer_list<const char*> values)
-{
-    for (const char* value : values)
-        list.GetValues().AddTail(value);
-    return list;
-}
-
-int IsSatisfied(ClytCtrlValList& list, const Controls& controls)
-{
-    list.Bind(controls.map);
-    return lytTest(list, ClytRuleKind::Input) == ClytTested::Holds ? 1 : 0;
-}
-
-int Contains(std::initializer_list<const char*> values, const char* value)
+// Whether the values, cut at bars, contain the one after the last bar.
+std::string Contains(const std::string& text)
 {
     ClytCtrlValList list;
-    return Fill(list, values).Contains(value);
+    size_t place = 0;
+    for (size_t end = 0; (end = text.find('|', place)) != std::string::npos; place = end + 1)
+        list.GetValues().AddTail(text.substr(place, end - place).c_str());
+    return list.Contains(text.substr(place).c_str()) != 0 ? "yes" : "no";
 }
 
-class DependencyRule : public testing::Test
+// The conditions of a rule as they are written, over the controls A with the value x, B with y and the empty E.
+class Condition : public testing::Test
 {
 protected:
-    ClytControlDep& Bound()
+    Condition() : a(controls.Add("A", "x")), b(controls.Add("B", "y")) { controls.Add("E"); }
+
+    ClytControlDep& Rule(const std::string& conditions)
     {
-        rule.Bind(controls.map);
-        return rule;
+        Description file("X/ACTIVE = " + conditions + "\n");
+        rule = std::make_unique<ClytControlDep>();
+        EXPECT_EQ(file.ReadDependencyStatement(*rule), 1);
+        rule->Bind(controls.map);
+        return *rule;
     }
+    std::string Holds(const std::string& conditions) { return Rule(conditions).AllHold() != 0 ? "yes" : "no"; }
+    std::string Changed(const std::string& conditions) { return Rule(conditions).AnyChanged() != 0 ? "yes" : "no"; }
 
     Controls controls;
-    ClytControlDep rule;
+    RecordingControl& a;
+    RecordingControl& b;
+    std::unique_ptr<ClytControlDep> rule;
 };
 
 } // namespace
 
-TEST(ValueList, ContainsAnEmptyValueByTheWordNull)
+TEST(ValueList, ContainsAValueByteForByteAndAnEmptyOneByTheWordNull)
 {
-    EXPECT_EQ(Contains({"NULL"}, ""), 1);
-    EXPECT_EQ(Contains({"NULL"}, "x"), 0);
-    EXPECT_EQ(Contains({"a", "NULL"}, ""), 1);
-}
-
-TEST(ValueList, KnowsNullInUpperCaseOnly)
-{
-    EXPECT_EQ(Contains({"null"}, ""), 0);
-    EXPECT_EQ(Contains({"NULL "}, ""), 0);
-}
-
-TEST(ValueList, ContainsAnEmptyValueByAnEmptyText)
-{
-    EXPECT_EQ(Contains({""}, ""), 1);
-}
-
-TEST(ValueList, ComparesByteForByte)
-{
-    EXPECT_EQ(Contains({"abc"}, "abc"), 1);
-    EXPECT_EQ(Contains({"abc"}, "Abc"), 0);
-    EXPECT_EQ(Contains({"NULL"}, "NULL"), 1);
-    EXPECT_EQ(Contains({}, ""), 0);
+    ExpectAll(Contains, "yes", {"NULL|", "a|NULL|", "|", "abc|abc", "NULL|NULL"});
+    ExpectAll(Contains, "no", {"NULL|x", "null|", "NULL |", "abc|Abc", ""});
 }
 
 TEST(ValueList, IsSatisfiedByTheControlsValueWithoutAMeaningOfNull)
@@ -73,140 +54,73 @@ TEST(ValueList, IsSatisfiedByTheControlsValueWithoutAMeaningOfNull)
     Controls controls;
     controls.Add("A", "x");
     controls.Add("Empty");
-    ClytCtrlValList list("A");
-    EXPECT_EQ(IsSatisfied(list, controls), 0);
-    EXPECT_EQ(IsSatisfied(Fill(list, {"y", "x"}), controls), 1);
-    list.SetName("Empty");
-    EXPECT_EQ(IsSatisfied(Fill(list, {"NULL"}), controls), 0);
-    EXPECT_EQ(IsSatisfied(Fill(list, {""}), controls), 1);
-    list.SetName("Unknown");
-    EXPECT_EQ(IsSatisfied(list, controls), 0);
+    static const struct
+    {
+        const char* name;
+        std::vector<const char*> values;
+        bool isSatisfied;
+    } cases[] = {{"A", {}, false},
+                 {"A", {"y", "x"}, true},
+                 {"Empty", {"NULL"}, false},
+                 {"Empty", {""}, true},
+                 {"Unknown", {"x"}, false}};
+    for (const auto& c : cases)
+    {
+        ClytCtrlValList list(c.name);
+        for (const char* value : c.values)
+            list.GetValues().AddTail(value);
+        list.Bind(controls.map);
+        EXPECT_EQ(lytTest(list, ClytRuleKind::Input) == ClytTested::Holds, c.isSatisfied) << c.name;
+        ClytCtrlValList copy("B");
+        copy.GetValues().AddTail("3");
+        copy.CopyFrom(list);
+        copy.CopyFrom(copy);
+        EXPECT_EQ(copy.GetName(), c.name);
+        EXPECT_EQ(copy.GetValues().GetCount(), static_cast<int>(c.values.size()));
+    }
 }
 
-TEST(ValueList, CopiesNameAndValues)
+TEST_F(Condition, HoldsByOneOfItsValuesOrByContent)
 {
-    ClytCtrlValList from("A");
-    Fill(from, {"1", "2"});
-    ClytCtrlValList to("B");
-    Fill(to, {"3"});
-    to.CopyFrom(from);
-    to.CopyFrom(to);
-    EXPECT_EQ(to.GetName(), "A");
-    EXPECT_EQ(to.GetValues().GetCount(), 2);
+    const auto holds = [this](const std::string& conditions) { return Holds(conditions); };
+    // Unknown controls are passed over, and what is after NOTNULL is not looked at.
+    ExpectAll(holds, "yes",
+              {"", "A", "A(0,x), B(y)", "Unknown(1)", "A(NOTNULL), B(wrong)", "A(z,NOTNULL)", "E(NULL)", "E()"});
+    // NOTNULL counts as the last value only.
+    ExpectAll(holds, "no", {"A(x), B(z)", "E(NOTNULL), B(y)", "A(NOTNULL,z)", "A(notnull)", "A(y)", "A(NULL)"});
 }
 
-TEST_F(DependencyRule, HoldsWithoutConditions)
+TEST_F(Condition, FailsOnADisabledControlThatIsNeitherHiddenNorForDisplayOnly)
 {
-    EXPECT_EQ(Bound().AllHold(), 1);
-}
-
-TEST_F(DependencyRule, HoldsWhenEveryControlHasOneOfItsValues)
-{
-    controls.Add("A", "1");
-    controls.Add("B", "2");
-    AddCondition(rule.conditions, "A", {"0", "1"});
-    AddCondition(rule.conditions, "B", {"2"});
-    EXPECT_EQ(Bound().AllHold(), 1);
-    controls.Add("B", "3");
-    EXPECT_EQ(Bound().AllHold(), 0);
-}
-
-TEST_F(DependencyRule, PassesOverUnknownControls)
-{
-    AddCondition(rule.conditions, "Unknown", {"1"});
-    EXPECT_EQ(Bound().AllHold(), 1);
-}
-
-TEST_F(DependencyRule, FailsOnADisabledControl)
-{
-    RecordingControl& control = controls.Add("A");
-    AddCondition(rule.conditions, "A");
-    EXPECT_EQ(Bound().AllHold(), 1);
-    control.isActive = 0;
-    EXPECT_EQ(Bound().AllHold(), 0);
-}
-
-TEST_F(DependencyRule, ExemptsADisabledControlThatIsHiddenOrDisplayOnly)
-{
+    a.isActive = 0;
+    EXPECT_EQ(Holds("A"), "no");
+    a.Exempt("INACTIVE");
+    EXPECT_EQ(Holds("A(x)"), "no");
     for (const char* option : {"HIDDEN", "DISPLAYONLY"})
     {
-        SCOPED_TRACE(option);
-        RecordingControl& control = controls.Add("A", "x");
+        RecordingControl& control = controls.Add("C", "x");
         control.isActive = 0;
         control.Exempt(option);
-        rule.conditions.RemoveAll();
-        AddCondition(rule.conditions, "A", {"x"});
-        EXPECT_EQ(Bound().AllHold(), 1);
-        control.value = "y";
-        EXPECT_EQ(Bound().AllHold(), 0);
+        EXPECT_EQ(Holds("C(x)"), "yes") << option;
+        EXPECT_EQ(Holds("C(y)"), "no") << option;
     }
-    RecordingControl& control = controls.Add("A", "x");
-    control.isActive = 0;
-    control.Exempt("INACTIVE");
-    EXPECT_EQ(Bound().AllHold(), 0);
 }
 
-TEST_F(DependencyRule, EndsAtNotNullWithoutLookingAtLaterConditions)
+TEST_F(Condition, SeesAnyChangeUpToAnUnknownControl)
 {
-    RecordingControl& control = controls.Add("A", "something");
-    controls.Add("B", "2");
-    AddCondition(rule.conditions, "A", {"NOTNULL"});
-    AddCondition(rule.conditions, "B", {"wrong"});
-    EXPECT_EQ(Bound().AllHold(), 1);
-    control.value.Empty();
-    EXPECT_EQ(Bound().AllHold(), 0);
+    EXPECT_EQ(Changed("A, B"), "no");
+    b.isChanged = 7;
+    EXPECT_EQ(Changed("A, B"), "yes");
+    EXPECT_EQ(Changed(""), "no");
+    EXPECT_EQ(Changed("Unknown, B"), "no");
 }
 
-TEST_F(DependencyRule, KnowsNotNullAsTheLastValueOnly)
+TEST(DependencyRule, IsAnEventRuleByItsWord)
 {
-    controls.Add("A", "something");
-    AddCondition(rule.conditions, "A", {"NOTNULL", "x"});
-    EXPECT_EQ(Bound().AllHold(), 0);
-    rule.conditions.RemoveAll();
-    AddCondition(rule.conditions, "A", {"x", "NOTNULL"});
-    EXPECT_EQ(Bound().AllHold(), 1);
-    rule.conditions.RemoveAll();
-    AddCondition(rule.conditions, "A", {"notnull"});
-    EXPECT_EQ(Bound().AllHold(), 0);
-}
-
-TEST_F(DependencyRule, MatchesAnEmptyControlByNull)
-{
-    controls.Add("A");
-    AddCondition(rule.conditions, "A", {"NULL"});
-    EXPECT_EQ(Bound().AllHold(), 1);
-}
-
-TEST_F(DependencyRule, SeesAnyChangedControl)
-{
-    controls.Add("A");
-    RecordingControl& control = controls.Add("B");
-    EXPECT_EQ(Bound().AnyChanged(), 0);
-    AddCondition(rule.conditions, "A");
-    AddCondition(rule.conditions, "B");
-    EXPECT_EQ(Bound().AnyChanged(), 0);
-    control.isChanged = 7;
-    EXPECT_EQ(Bound().AnyChanged(), 1);
-}
-
-TEST_F(DependencyRule, SeesNoChangeAfterAnUnknownControl)
-{
-    controls.Add("A").isChanged = 1;
-    AddCondition(rule.conditions, "Unknown");
-    AddCondition(rule.conditions, "A");
-    EXPECT_EQ(Bound().AnyChanged(), 0);
-}
-
-TEST_F(DependencyRule, IsAnEventRuleByItsWord)
-{
-    for (const char* word : {"CLEAR", "FILL"})
+    ClytControlDep rule;
+    for (const char* word : {"CLEAR", "FILL", "VISIBLE", "ACTIVE", "clear", "DEFBUTTON", ""})
     {
         rule.stateWord = word;
-        EXPECT_TRUE(rule.IsEventRule()) << word;
-    }
-    for (const char* word : {"VISIBLE", "ACTIVE", "clear", "DEFBUTTON", ""})
-    {
-        rule.stateWord = word;
-        EXPECT_FALSE(rule.IsEventRule()) << word;
+        EXPECT_EQ(rule.IsEventRule(), std::string(word) == "CLEAR" || std::string(word) == "FILL") << word;
     }
 }

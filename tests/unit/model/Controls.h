@@ -69,10 +69,3 @@ public:
 private:
     std::map<std::string, std::unique_ptr<RecordingControl>> m_controls;
 };
-
-inline void AddCondition(ClytConditions& conditions, const char* name, std::initializer_list<const char*> values = {})
-{
-    ClytCtrlValList& condition = conditions.AddTail(std::make_unique<ClytCtrlValList>(name));
-    for (const char* value : values)
-        condition.GetValues().AddTail(value);
-}

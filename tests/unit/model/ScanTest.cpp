@@ -1,341 +1,190 @@
+// Statements of an input part as they are written, run over a text: what is done to the controls.
 #include "Controls.h"
 
 #include "model/ClytInputPart.h"
-#include "support/ErrorTexts.h"
-
-#include <gtest/gtest.h>
+#include "unit/dlgfile/Description.h"
 
 namespace
 {
 
-// An input part under construction: each of its statements puts its piece into a control of its own name.
+const std::string circle = "The input statements go round in a circle.\n206 ''";
+
+// That many jumps in a row, from the statement of that name to the one with the number after its name.
+std::string Jumps(const std::string& name, int count)
+{
+    std::string statements = name + ": x = " + name + "1\n";
+    for (int number = 1; number < count; ++number)
+        statements += name + std::to_string(number) + ": x = " + name + std::to_string(number + 1) + "\n";
+    return statements;
+}
+
 class Scan : public testing::Test
 {
 protected:
-    // B and C take the rest of the text, unless a test says otherwise.
     Scan()
     {
-        Cut("B", {"|", "End"});
-        Cut("C", {"|", "End"});
+        for (const char* name : {"", "A", "B", "C", "D", "X", "Start"})
+            controls.Add(name);
     }
 
-    ClytDialogInput& State(const char* name)
+    // B and C take the rest of the text, unless a later statement of the name says otherwise.
+    std::string Run(const std::string& statements, const std::string& text, const char* start = "Start")
     {
-        auto statement = std::make_unique<ClytDialogInput>();
-        statement->name = name;
-        ClytDialogInput& added = *statement;
-        part.Add(std::move(statement));
-        if (!controls.map.Lookup(name, m_unused))
-            controls.Add(name);
-        ClytConditionFill& rule = added.scanRule.rules.AddTail(std::make_unique<ClytConditionFill>());
-        rule.fills.AddTail(std::make_unique<ClytControlFill>()).controlName = name;
-        return added;
-    }
-    // A state that cuts at separators: text, target, text, target ...
-    void Cut(const char* name, std::initializer_list<const char*> entries)
-    {
-        ClytScan& scan = State(name).scanRule.scan;
-        for (auto entry = entries.begin(); entry != entries.end(); entry += 2)
-            scan.AddSeparator(entry[0], entry[1]);
-    }
-    void CutLength(const char* name, int length, const char* target)
-    {
-        State(name).scanRule.scan.SetFixedLength(length, target);
-    }
-    void Jump(const char* name, const char* target) { State(name).falseTarget.name = target; }
-    // That many jumps in a row, from the state of that name to the one with the number after its name.
-    void JumpUpTo(const std::string& name, int count)
-    {
-        std::string from = name;
-        for (int number = 1; number <= count; ++number)
-        {
-            const std::string to = name + " " + std::to_string(number);
-            Jump(from.c_str(), to.c_str());
-            from = to;
-        }
-    }
-    // What the run does, from the state of that name.
-    std::string Run(const CString& text, const char* start = "Start")
-    {
+        Description file("$INPUT\nB: (\"|\", End = B\nC: (\"|\", End = C\n" + statements + "\n$OUTPUT\n");
+        ClytCtrlValList unused;
+        CString name;
+        EXPECT_EQ(file.ReadEvaluationStatement(unused, unused, name), 0);
+        EXPECT_EQ(file.ReadInputHeader(name), 1);
+        ClytInputPart part;
+        file.ReadInputPart(part);
         part.Bind(controls.map);
-        part.Run(text, start);
-        return controls.TakeLog();
+        const CString copy = text.c_str();
+        const std::string message = RaisedMessage([&] { part.Run(copy, start); });
+        EXPECT_EQ(copy, text.c_str());
+        const std::string log = controls.TakeLog();
+        return message == "nothing was raised" ? log : message;
     }
 
     const ErrorTexts texts;
     Controls controls;
-    ClytInputPart part;
-
-private:
-    ClytControl* m_unused = nullptr;
 };
 
 } // namespace
 
-TEST_F(Scan, GoesOnAfterASeparator)
+TEST_F(Scan, CutsPiecesAndGoesOnWhereTheSeparatorLeads)
 {
-    Cut("Start", {",", "B"});
-    EXPECT_EQ(Run("a,b"), "Start.set(a) B.set(b) ");
+    static const struct
+    {
+        const char* start; // the list of the first statement, which fills the control Start
+        const char* text;
+        const char* log;
+    } cases[] = {
+        {"\",\", B", "a,b", "Start.set(a) B.set(b) "},
+        {"\",\", B", "a", "Start.set(a) "},
+        {"\",\", End", "a,b", "Start.set(a) "},
+        {"\",\", Nowhere", "a,b", "Start.set(a) "},
+        {"\",\", B, Rest, C", "abc", "Start.set(abc) C.set() "},
+        {"\",\", B, Rest, C", "", "Start.set() C.set() "},
+        {"\",\", B, Rest, C", "a,b", "Start.set(a) B.set(b) "},
+        {"Rest, B", "abRestcd", "Start.set(ab) B.set(cd) "},
+        // The first separator that fits.
+        {"\"->\", B, \"-\", C", "a->b", "Start.set(a) B.set(b) "},
+        {"\"-\", C, \"->\", B", "a->b", "Start.set(a) C.set(>b) "},
+        // A closing bracket that closes one of its piece is content; others end a piece inside brackets.
+        {"\")\", B", "a(b)c)d", "Start.set(a(b)c) B.set(d) "},
+        {"\")\", B", "a((b)c)d)e", "Start.set(a((b)c)d) B.set(e) "},
+        {"\")\", B", "a)b", "Start.set(a) B.set(b) "},
+        {"\")\", B", "((((a", "Start.set(((((a) "},
+        {"\"}\", B, \"]\", C", "a{b[c}d]e}f", "Start.set(a{b[c}d]e) B.set(f) "},
+        {"\"}\", B, \"]\", C", "a{b]f", "Start.set(a{b) C.set(f) "},
+        {"\",\", B", "f(a,b)", "Start.set(f(a) B.set(b)) "},
+        // Quotes around a piece go, others stay; inside them there are no separators and no brackets.
+        {"\",\", B", "\"a,b\",c", "Start.set(a,b) B.set(c) "},
+        {"\",\", B", "x\"a,b\",c", "Start.set(x\"a,b\") B.set(c) "},
+        {"\",\", B", "\"a\"\"b\",c", "Start.set(a\"b\") B.set(c) "},
+        {"\")\", B", "\"((\")x", "Start.set((() B.set(x) "},
+        {"\",\", B, Rest, C", "\"a,b", "Start.set(a,b) C.set() "},
+        {"\",\", B, Rest, C", "x\"a,b", "Start.set(x\"a,b) C.set() "},
+        {"\",\", B, Rest, C", "\"", "Start.set() C.set() "},
+        // A fixed length knows no quotes.
+        {"5, B", "abc", "Start.set(abc) B.set() "},
+        {"5, B", "abcdefg", "Start.set(abcde) B.set(fg) "},
+        {"-3, B", "abc", "Start.set() B.set(abc) "},
+        {"3, B", "\"a\"b", "Start.set(\"a\") B.set(b) "},
+    };
+    for (const auto& c : cases)
+        EXPECT_EQ(Run(std::string("Start: (") + c.start + " = Start", c.text), c.log) << c.start << " of " << c.text;
 }
 
-TEST_F(Scan, GoesToRestAtTheEndOfTheText)
+TEST_F(Scan, CountsTheBracketsOfEarlierPieces)
 {
-    Cut("Start", {",", "B", "Rest", "C"});
-    Cut("C", {";", "End"});
-    EXPECT_EQ(Run("abc"), "Start.set(abc) C.set() ");
+    static const struct
+    {
+        const char* statements;
+        const char* text;
+        const char* log;
+    } cases[] = {
+        {"Start: (\"(\", B = X\nB: (\",\", D, \")\", C = B\nD: (\",\", End, \")\", C = D", "x(a,b)y",
+         "X.set(x) B.set(a) D.set(b) C.set(y) "},
+        // Two are open when B begins, so the first closing one is content and the second ends the piece.
+        {"Start: (2, B = X\nB: (\")\", C = B", "((a)b)c", "X.set((() B.set(a)b) C.set(c) "},
+        // The first piece leaves the count at -1, so of the two opened after it only one counts as open.
+        {"Start: (\")\", D = X\nD: (2, B = D\nB: (\")\", C = B", "a)((b)c", "X.set(a) D.set((() B.set(b) C.set(c) "},
+        // Of a separator only the first character counts.
+        {"Start: (\",((\", B = X\nB: (\")\", C = B", "a,((b)c", "X.set(a) B.set(b) C.set(c) "},
+    };
+    for (const auto& c : cases)
+        EXPECT_EQ(Run(c.statements, c.text), c.log) << c.statements;
 }
 
-TEST_F(Scan, TakesTheLettersOfRestAsASeparator)
+TEST_F(Scan, FillsByTheRulesOfTheStatement)
 {
-    Cut("Start", {",", "B", "Rest", "C"});
-    Cut("C", {"Rest", "End"});
-    EXPECT_EQ(Run("abRestcd"), "Start.set(ab) C.set(cd) ");
-}
-
-TEST_F(Scan, WithoutARestEntryEndsWithTheText)
-{
-    Cut("Start", {",", "B"});
-    Cut("B", {",", "Start"});
-    EXPECT_EQ(Run("a"), "Start.set(a) ");
-}
-
-TEST_F(Scan, TakesTheFirstSeparatorThatFits)
-{
-    Cut("Start", {"->", "Long", "-", "Short"});
-    EXPECT_EQ(Run("a->b"), "Start.set(a) ");
-    Cut("Start", {"-", "Short", "->", "Long"});
-    Cut("Long", {"|", "End"});
-    Cut("Short", {"|", "End"});
-    EXPECT_EQ(Run("a->b"), "Start.set(a) Short.set(>b) ");
-}
-
-TEST_F(Scan, KeepsAClosingBracketThatClosesOneOfItsPiece)
-{
-    Cut("Start", {")", "B"});
-    EXPECT_EQ(Run("a(b)c)d"), "Start.set(a(b)c) B.set(d) ");
-    EXPECT_EQ(Run("a((b)c)d)e"), "Start.set(a((b)c)d) B.set(e) ");
-}
-
-TEST_F(Scan, EndsAtAClosingBracketWithoutAnOpeningOne)
-{
-    Cut("Start", {")", "B"});
-    EXPECT_EQ(Run("a)b"), "Start.set(a) B.set(b) ");
-}
-
-TEST_F(Scan, EndsAtTheBracketThatClosesOneOfAnEarlierPiece)
-{
-    Cut("Start", {"(", "B"});
-    Cut("B", {",", "B2", ")", "C"});
-    Cut("B2", {",", "End", ")", "C"});
-    EXPECT_EQ(Run("x(a,b)y"), "Start.set(x) B.set(a) B2.set(b) C.set(y) ");
-}
-
-TEST_F(Scan, KeepsAClosingBracketWhileAnEarlierOneStaysOpen)
-{
-    // Two brackets are open when B begins, so the first closing one is content and the second ends the piece.
-    CutLength("Start", 2, "B");
-    Cut("B", {")", "C"});
-    EXPECT_EQ(Run("((a)b)c"), "Start.set((() B.set(a)b) C.set(c) ");
-}
-
-TEST_F(Scan, CountsAClosingBracketBelowZero)
-{
-    // The first piece leaves the count at -1, and so of the two brackets opened after it only one counts as open.
-    Cut("Start", {")", "Two"});
-    CutLength("Two", 2, "B");
-    Cut("B", {")", "C"});
-    EXPECT_EQ(Run("a)((b)c"), "Start.set(a) Two.set((() B.set(b) C.set(c) ");
-}
-
-TEST_F(Scan, CountsTheThreeKindsOfBracketsApart)
-{
-    Cut("Start", {"}", "B", "]", "C"});
-    EXPECT_EQ(Run("a{b[c}d]e}f"), "Start.set(a{b[c}d]e) B.set(f) ");
-    EXPECT_EQ(Run("a{b]f"), "Start.set(a{b) C.set(f) ");
-}
-
-TEST_F(Scan, CountsOnlyTheFirstCharacterOfASeparator)
-{
-    Cut("Start", {",((", "B"});
-    Cut("B", {")", "C"});
-    EXPECT_EQ(Run("a,((b)c"), "Start.set(a) B.set(b) C.set(c) ");
-}
-
-TEST_F(Scan, LetsOtherSeparatorsEndAPieceInsideBrackets)
-{
-    Cut("Start", {",", "B"});
-    EXPECT_EQ(Run("f(a,b)"), "Start.set(f(a) B.set(b)) ");
-}
-
-TEST_F(Scan, StartsEachRunWithNoOpenBracket)
-{
-    Cut("Start", {")", "B"});
-    EXPECT_EQ(Run("((((a"), "Start.set(((((a) ");
-    EXPECT_EQ(Run("a)b"), "Start.set(a) B.set(b) ");
-}
-
-TEST_F(Scan, DropsTheQuotesOfAPieceThatBeginsWithThem)
-{
-    Cut("Start", {",", "B"});
-    EXPECT_EQ(Run("\"a,b\",c"), "Start.set(a,b) B.set(c) ");
-}
-
-TEST_F(Scan, KeepsTheQuotesInsideAPiece)
-{
-    Cut("Start", {",", "B"});
-    EXPECT_EQ(Run("x\"a,b\",c"), "Start.set(x\"a,b\") B.set(c) ");
-    EXPECT_EQ(Run("\"a\"\"b\",c"), "Start.set(a\"b\") B.set(c) ");
-}
-
-TEST_F(Scan, CountsNoBracketsInsideQuotes)
-{
-    Cut("Start", {")", "B"});
-    EXPECT_EQ(Run("\"((\")x"), "Start.set((() B.set(x) ");
-}
-
-TEST_F(Scan, EndsAnOpenQuoteWithTheText)
-{
-    Cut("Start", {",", "B", "Rest", "C"});
-    EXPECT_EQ(Run("\"a,b"), "Start.set(a,b) C.set() ");
-    EXPECT_EQ(Run("x\"a,b"), "Start.set(x\"a,b) C.set() ");
-    EXPECT_EQ(Run("\""), "Start.set() C.set() ");
-}
-
-TEST_F(Scan, LooksForSeparatorsBeforeQuotes)
-{
-    Cut("Start", {"\"", "B"});
-    EXPECT_EQ(Run("a\"b"), "Start.set(a) B.set(b) ");
-}
-
-TEST_F(Scan, TakesTheRestTargetOfAnEmptyText)
-{
-    Cut("Start", {",", "B", "Rest", "C"});
-    EXPECT_EQ(Run(""), "Start.set() C.set() ");
-}
-
-TEST_F(Scan, OfAFixedLengthStopsAtTheEndOfTheText)
-{
-    CutLength("Start", 5, "B");
-    EXPECT_EQ(Run("abc"), "Start.set(abc) B.set() ");
-    EXPECT_EQ(Run("abcdefg"), "Start.set(abcde) B.set(fg) ");
-}
-
-TEST_F(Scan, OfANegativeLengthTakesNothing)
-{
-    CutLength("Start", -3, "B");
-    EXPECT_EQ(Run("abc"), "Start.set() B.set(abc) ");
-}
-
-TEST_F(Scan, OfAFixedLengthKnowsNoQuotes)
-{
-    CutLength("Start", 3, "B");
-    EXPECT_EQ(Run("\"a\"b"), "Start.set(\"a\") B.set(b) ");
-}
-
-TEST_F(Scan, EndsAtEndOrAnUnknownName)
-{
-    Cut("Start", {",", "End"});
-    Cut("End", {",", "Start"});
-    EXPECT_EQ(Run("a,b"), "Start.set(a) ");
-    Cut("Start", {",", "Nowhere"});
-    EXPECT_EQ(Run("a,b"), "Start.set(a) ");
-    EXPECT_EQ(Run("a,b", "Nowhere"), "");
-}
-
-TEST_F(Scan, DoesNothingWithoutStatements)
-{
-    ClytInputPart empty;
-    empty.Run("a,b", "Start");
+    static const struct
+    {
+        const char* rules;
+        const char* piece;
+        const char* log;
+    } cases[] = {
+        {"A", "x", "A.set(x) "},
+        {"A = fixed", "x", "A.set(fixed) "},
+        {"A(fill)", "x", "A.set(x) "},
+        {"A(FILL)", "x", "A.fill() "},
+        {"A(ADD)", "x", "A.add(,x,00) "},
+        {"A(MODIFY)", "x", "A.replace(x) "},
+        // Operands and a line feed are joined to the separators.
+        {"A(CONCAT,a,b,c)", "x", "A.values(x\n,abc\n) "},
+        {"A(CONCAT)", "", "A.values(\n,\n) "},
+        {"Unknown, B", "x", "B.set(x) "},
+        {"A, B", "x", "A.set(x) B.set(x) "},
+        // A rule that does not hold takes the next one along, and knows no meaning of NULL.
+        {"(1,2) A, B, C", "2", "A.set(2) B.set(2) C.set(2) "},
+        {"(1,2) A, B, C", "x", "C.set(x) "},
+        {"(1,2) A, B, C", "", "C.set() "},
+        {"(NULL) A, B", "", ""},
+        {"(NULL) A, B", "NULL", "A.set(NULL) B.set(NULL) "},
+        {"A, (1) B", "x", "A.set(x) "},
+    };
+    for (const auto& c : cases)
+        EXPECT_EQ(Run(std::string("Start: (99, End = ") + c.rules, c.piece), c.log) << c.rules << " of " << c.piece;
+    // A fill without a control.
+    ClytScanRule rule;
+    rule.rules.AddTail(std::make_unique<ClytConditionFill>()).fills.AddTail(std::make_unique<ClytControlFill>());
+    rule.Bind(controls.map);
+    rule.ApplyFills("x");
     EXPECT_EQ(controls.TakeLog(), "");
 }
 
-TEST_F(Scan, ChoosesATargetByItsConditions)
+TEST_F(Scan, ChoosesATargetByItsConditionsOrJumps)
 {
-    ClytDialogInput& start = State("Start");
-    start.trueTarget.name = "Yes";
-    start.falseTarget.name = "No";
-    AddCondition(start.conditions, "A", {"1"});
-    AddCondition(start.conditions, "B", {"2"});
-    Cut("Yes", {"|", "End"});
-    Cut("No", {"|", "End"});
+    const char* const choice = "Start: A(1), X(2) = B, C";
+    controls.Add("A", "1");
+    controls.Add("X", "0");
+    EXPECT_EQ(Run(choice, "x"), "B.set(x) ") << "one that holds is enough";
     controls.Add("A", "0");
-    controls.Add("B", "2");
-    EXPECT_EQ(Run("x"), "Yes.set(x) ");
-    controls.Add("B", "0");
-    EXPECT_EQ(Run("x"), "No.set(x) ");
-}
-
-TEST_F(Scan, JumpsWithoutConditions)
-{
-    Jump("Start", "B");
-    EXPECT_EQ(Run("x"), "B.set(x) ");
-}
-
-TEST_F(Scan, WithAnEmptySeparatorConsumesNothing)
-{
-    Cut("Start", {"", "B"});
-    EXPECT_EQ(Run("x"), "Start.set() B.set(x) ");
+    EXPECT_EQ(Run(choice, "x"), "C.set(x) ");
+    EXPECT_EQ(Run("Start: x = B", "x"), "B.set(x) ");
+    EXPECT_EQ(Run("Start: x = B", "x", "Nowhere"), "");
+    ClytInputPart().Run("a,b", "Start");
 }
 
 TEST_F(Scan, RaisesACircleOfStatementsThatConsumesNothing)
 {
-    Jump("Start", "B");
-    Jump("B", "Start");
-    EXPECT_EQ(RaisedMessage([&] { Run("text"); }), "The input statements go round in a circle.\n206 ''");
-    controls.TakeLog();
-    Cut("B", {",", "Start", "Rest", "Start"});
-    EXPECT_EQ(RaisedMessage([&] { Run("a,b"); }), "The input statements go round in a circle.\n206 ''");
-    // A run after it starts afresh.
-    controls.TakeLog();
-    Cut("B", {")", "End"});
-    EXPECT_EQ(Run("a)"), "B.set(a) ");
-}
-
-TEST_F(Scan, RaisesThe10000thChangeOfStateInARowThatConsumesNothing)
-{
-    JumpUpTo("Start", 9999);
-    Cut("Start 9999", {",", "End"});
-    EXPECT_EQ(Run("a,"), "Start 9999.set(a) ");
-    Jump("Start 9999", "Start 10000");
-    Cut("Start 10000", {",", "End"});
-    EXPECT_EQ(RaisedMessage([&] { Run("a,"); }), "The input statements go round in a circle.\n206 ''");
-}
-
-TEST_F(Scan, CountsChangesOfStateFromZeroOnceTextIsConsumed)
-{
-    JumpUpTo("Start", 9999);
-    Cut("Start 9999", {",", "Again"});
-    JumpUpTo("Again", 9999);
-    Cut("Again 9999", {",", "End"});
-    EXPECT_EQ(Run("a,b,"), "Start 9999.set(a) Again 9999.set(b) ");
-}
-
-TEST_F(Scan, MayGoRoundAsLongAsItConsumesText)
-{
-    Cut("Start", {",", "Start", "Rest", "End"});
+    EXPECT_EQ(Run("Start: x = B\nB: x = Start", "text"), circle);
+    EXPECT_EQ(Run("Start: x = B\nB: (\",\", Start, Rest, Start = B", "a,b"), circle);
+    // The 10000th change of state in a row is one too many.
+    EXPECT_EQ(Run(Jumps("Start", 9999) + "Start9999: (\",\", End = A", "a,"), "A.set(a) ");
+    EXPECT_EQ(Run(Jumps("Start", 10000) + "Start10000: (\",\", End = A", "a,"), circle);
+    // They count from zero once text is consumed.
+    EXPECT_EQ(Run(Jumps("Start", 9999) + "Start9999: (\",\", Again = A\n" + Jumps("Again", 9999) +
+                      "Again9999: (\",\", End = B",
+                  "a,b,"),
+              "A.set(a) B.set(b) ");
     std::string text;
     std::string pieces;
     for (int index = 0; index < 20000; ++index)
     {
         text += "x,";
-        pieces += "Start.set(x) ";
+        pieces += "A.set(x) ";
     }
-    EXPECT_EQ(Run(text.c_str()), pieces + "Start.set() ");
-}
-
-TEST_F(Scan, WorksOnItsOwnCopyOfTheText)
-{
-    Cut("Start", {",", "B"});
-    CString text = "a,b";
-    Run(text);
-    EXPECT_EQ(text, "a,b");
-}
-
-TEST_F(Scan, AppliesTheFillsOfACutThatEndedWithTheText)
-{
-    ClytScanRule& rule = State("Start").scanRule;
-    rule.scan.SetFixedLength(1, "End");
-    ClytConditionFill& more = rule.rules.AddTail(std::make_unique<ClytConditionFill>());
-    more.fills.AddTail(std::make_unique<ClytControlFill>()).controlName = "Unknown";
-    EXPECT_EQ(Run("ab"), "Start.set(a) ");
+    EXPECT_EQ(Run("Start: (\",\", Start, Rest, End = A", text), pieces + "A.set() ");
 }

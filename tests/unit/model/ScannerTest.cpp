@@ -155,48 +155,34 @@ std::string PlainCuts(const std::string& text, const std::vector<std::vector<Ent
     return log;
 }
 
-std::string Cut(const std::string& text, const std::vector<Entry>& entries)
-{
-    return Cuts(text, {entries});
-}
-
 } // namespace
 
-TEST(Scanner, LooksForEverySeparatorThatBeginsWithTheSameCharacter)
+TEST(Scanner, CutsAtSeparatorsOfAnyFirstCharacter)
 {
-    EXPECT_EQ(Cut("a-b->c", {{"->", "arrow"}, {"--", "dash"}}), "a-b|arrow|c\n");
-    EXPECT_EQ(Cut("a->--c", {{"--", "dash"}, {"->-", "longer"}}), "a|longer|-c\n");
-}
-
-TEST(Scanner, CutsAtSeparatorsThatBeginWithABracket)
-{
-    EXPECT_EQ(Cut("a((b", {{"((", "two"}}), "a|two|b\n");
-    EXPECT_EQ(Cut("(a),b", {{"),", "end"}}), "(a),b||\n");
-    EXPECT_EQ(Cut("a),b", {{"),", "end"}}), "a|end|b\n");
-}
-
-TEST(Scanner, CutsAtSeparatorsThatBeginWithAQuote)
-{
-    EXPECT_EQ(Cut("a\"b\";c\";d", {{"\";", "end"}}), "a\"b\";c|end|d\n");
-    EXPECT_EQ(Cut("a\";\"c", {{"\";", "end"}}), "a|end|\"c\n");
-}
-
-TEST(Scanner, CutsAtAnEmptySeparatorWhereverItStands)
-{
-    EXPECT_EQ(Cut("ab", {{"", "here"}}), "|here|ab\n");
-    EXPECT_EQ(Cut("ab", {{";", "end"}, {"", "here"}}), "|here|ab\n");
-    EXPECT_EQ(Cut("", {{"", "here"}}), "||\n");
-}
-
-TEST(Scanner, CutsAtBytesBeyondAscii)
-{
-    EXPECT_EQ(Cut("a\xE4z\x80\x80z", {{"\x80z", "end"}}), "a\xE4z\x80|end|\n");
-    EXPECT_EQ(Cut("a\xFF", {{"\xFF", "end"}}), "a|end|\n");
-}
-
-TEST(Scanner, EndsWithTheTextAtItsNul)
-{
-    EXPECT_EQ(Cut(std::string("a\0;b", 4), {{";", "end"}, {"Rest", "rest"}}), "a|rest|\n");
+    using namespace std::string_literals;
+    static const struct
+    {
+        std::string text;
+        std::vector<Entry> entries;
+        const char* cut;
+    } cases[] = {
+        {"a-b->c", {{"->", "arrow"}, {"--", "dash"}}, "a-b|arrow|c\n"},
+        {"a->--c", {{"--", "dash"}, {"->-", "longer"}}, "a|longer|-c\n"},
+        {"a((b", {{"((", "two"}}, "a|two|b\n"},
+        {"(a),b", {{"),", "end"}}, "(a),b||\n"},
+        {"a),b", {{"),", "end"}}, "a|end|b\n"},
+        {"a\"b\";c\";d", {{"\";", "end"}}, "a\"b\";c|end|d\n"},
+        {"a\";\"c", {{"\";", "end"}}, "a|end|\"c\n"},
+        {"ab", {{"", "here"}}, "|here|ab\n"},
+        {"ab", {{";", "end"}, {"", "here"}}, "|here|ab\n"},
+        {"", {{"", "here"}}, "||\n"},
+        {"a\xE4z\x80\x80z", {{"\x80z", "end"}}, "a\xE4z\x80|end|\n"},
+        {"a\xFF", {{"\xFF", "end"}}, "a|end|\n"},
+        // The text ends at its NUL.
+        {"a\0;b"s, {{";", "end"}, {"Rest", "rest"}}, "a|rest|\n"},
+    };
+    for (const auto& c : cases)
+        EXPECT_EQ(Cuts(c.text, {c.entries}), c.cut);
 }
 
 TEST(Scanner, CutsAsAWalkOverEveryCharacterDoes)

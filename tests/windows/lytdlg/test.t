@@ -6,6 +6,13 @@ Every sample dialog, in one call.
 
   $ lytdlg test samples/cases >told || cat told
 
+A dialog with a statement of every form.
+
+  $ lytdlg test dialogs/everyForm.case >told || cat told
+  $ lytdlg compose dialogs/everyForm.dlg --group second --input 'hello;2'
+  result = "<2>\t \"word\""
+  by the rule in line 37
+
 The samples are without a flaw, and their texts are there, fit and underline a letter each.
 
   $ lytdlg check samples/dialogs | tail -n 1

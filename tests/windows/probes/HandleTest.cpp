@@ -34,7 +34,7 @@ protected:
 
 } // namespace
 
-TEST_F(Handle, HasOneOwner)
+TEST_F(Handle, HasOneOwnerAndIsClosedByTheNextOne)
 {
     EXPECT_FALSE(std::is_copy_constructible_v<Number>);
     EXPECT_FALSE(std::is_copy_assignable_v<Number>);
@@ -43,34 +43,16 @@ TEST_F(Handle, HasOneOwner)
     EXPECT_FALSE(first.IsOpen());
     EXPECT_EQ(second.Get(), 1);
     EXPECT_EQ(closed, Numbers());
-}
-
-TEST_F(Handle, IsClosedWhenSomethingIsRaised)
-{
-    try
-    {
-        const Number number(7);
-        throw std::runtime_error("raised");
-    }
-    catch (const std::runtime_error&)
-    {
-        EXPECT_EQ(closed, Numbers({7}));
-    }
-}
-
-TEST_F(Handle, IsClosedByTheNextOne)
-{
-    Number number(1);
-    number = Number(2);
+    second = Number(2);
     EXPECT_EQ(closed, Numbers({1}));
-    number.Reset(3);
+    second.Reset(3);
     EXPECT_EQ(closed, Numbers({1, 2}));
-    number.Reset();
+    second.Reset();
     EXPECT_EQ(closed, Numbers({1, 2, 3}));
-    EXPECT_FALSE(number.IsOpen());
+    EXPECT_FALSE(second.IsOpen());
 }
 
-TEST_F(Handle, ThatIsHandedOverOrNoneIsNotClosed)
+TEST_F(Handle, IsClosedWithItsOwnerUnlessItIsHandedOverOrNone)
 {
     {
         Number number(4);
@@ -78,14 +60,15 @@ TEST_F(Handle, ThatIsHandedOverOrNoneIsNotClosed)
         const Number none;
     }
     EXPECT_EQ(closed, Numbers());
-}
-
-TEST_F(Handle, KeepsTheLastErrorWhenItIsClosed)
-{
+    try
     {
-        const Number number(5);
+        const Number number(7);
         SetLastError(ERROR_FILE_NOT_FOUND);
+        throw std::runtime_error("raised");
     }
-    EXPECT_EQ(closed, Numbers({5}));
-    EXPECT_EQ(GetLastError(), static_cast<DWORD>(ERROR_FILE_NOT_FOUND));
+    catch (const std::runtime_error&)
+    {
+        EXPECT_EQ(closed, Numbers({7}));
+    }
+    EXPECT_EQ(GetLastError(), static_cast<DWORD>(ERROR_FILE_NOT_FOUND)) << "closing keeps the last error";
 }

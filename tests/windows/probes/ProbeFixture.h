@@ -20,6 +20,14 @@ protected:
 
     // The lines added since the last call.
     static Texts TakeLines();
+    // The lines that a probe adds.
+    template <class Probe>
+    static Texts LinesOf(Probe probe)
+    {
+        TakeLines();
+        probe();
+        return TakeLines();
+    }
     // This test program's own file: a 64-bit program.
     static std::string OwnFile();
     // Registers an installation directory.

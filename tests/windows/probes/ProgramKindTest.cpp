@@ -4,30 +4,14 @@
 
 namespace fs = std::filesystem;
 
-namespace
-{
+using ProgramKind = ProbeFixture;
 
-class ProgramKind : public ProbeFixture
+TEST_F(ProgramKind, IsTheServerWithItsBitsWhenThatIsBesideTheLibrary)
 {
-protected:
-    ProgramKind() { Install(folder.Path()); }
-};
-
-} // namespace
-
-TEST_F(ProgramKind, WithoutAServerIsTheFrontEnd)
-{
+    Install(folder.Path());
     EXPECT_EQ(lytProgramKind(), "LYT Front-End 64 bit");
-}
-
-TEST_F(ProgramKind, WithAServerBesideTheLibraryIsTheServerWithItsBits)
-{
-    fs::copy_file(OwnFile(), folder.File("lytRfcSv.exe"));
-    EXPECT_EQ(lytProgramKind(), "LYT Server 64 bit");
-}
-
-TEST_F(ProgramKind, WithAServerFileThatIsNoProgramTellsNoBits)
-{
     folder.Write("lytRfcSv.exe", "not a program");
     EXPECT_EQ(lytProgramKind(), "LYT Server");
+    fs::copy_file(OwnFile(), folder.File("lytRfcSv.exe"), fs::copy_options::overwrite_existing);
+    EXPECT_EQ(lytProgramKind(), "LYT Server 64 bit");
 }
