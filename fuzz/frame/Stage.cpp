@@ -1,5 +1,6 @@
 #include "fuzz/frame/Stage.h"
 
+#include "environment/ErrorTable.h"
 #include "environment/ProcessState.h"
 #include "fuzz/frame/Attempt.h"
 #include "fuzz/frame/Despair.h"
@@ -19,11 +20,9 @@ constexpr const char* configuration = "[global]\nCurrent Language=Test\nTreeLeve
 // Every numbered message names its number.
 std::string Texts()
 {
-    constexpr int firstNumber = 200;
-    constexpr int lastNumber = 259;
     std::string texts = "[x]\nTitle=A title\nLabel=&Label ''\nMessage=No ''\n[Dialog_Error]\n";
-    for (int number = firstNumber; number <= lastNumber; ++number)
-        texts += std::to_string(number) + "=E" + std::to_string(number) + " ''\n";
+    for (const ClytErrorRow& error : lytErrors)
+        texts += std::string(error.number) + "=E" + error.number + " ''\n";
     return texts;
 }
 

@@ -13,7 +13,7 @@ void ClytCheckBoxControl::CreateControl(ClytForm* owner)
     else if (defaultValue == offValue)
         SetCheck(BST_UNCHECKED);
     else if (!defaultValue.IsEmpty())
-        lytRaise("236", "238", name);
+        lytRaise(lytError("BoxText"), ClytPrefix(lytError("ActionFailed")), name);
 }
 
 void ClytCheckBoxControl::SetOption(const CStringList& values, const CString& keyword)

@@ -60,7 +60,7 @@ void ClytCheckListBox::MoveCurrentItem(int up)
     }
     if (up != 0 ? current == 0 : current == GetCount() - 1)
     {
-        Report(up != 0 ? "235" : "234");
+        Report(up != 0 ? lytError("FirstItemUp") : lytError("LastItemDown"));
         return;
     }
     const int other = up != 0 ? current - 1 : current + 1;

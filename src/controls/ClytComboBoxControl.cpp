@@ -108,7 +108,7 @@ void ClytComboBoxControl::MoveCurrentItem(int up)
     }
     if (up != 0 && current == 0)
     {
-        Report("235");
+        Report(lytError("FirstItemUp"));
         return;
     }
     // Below the last item there is none, and the arrays refuse the index.

@@ -80,7 +80,7 @@ void ClytItemControl<WINDOW>::FillByLibrary()
     if (!ComposeParameter(parameter))
         return;
     if (source.library.IsEmpty())
-        this->Report("251", CString(), this->name);
+        this->Report(lytError("LibraryNotNamed"), CString(), this->name);
     if (!library.Load(source.library, source.span))
         return;
     const auto start = library.template Find<lytDataStart>(source.startFunction, source.span);

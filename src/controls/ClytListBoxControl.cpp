@@ -42,7 +42,7 @@ void ClytListBoxControl::MoveCurrentItem(int up)
         return;
     }
     if (up != 0 && current == 0)
-        lytRaise("235");
+        lytRaise(lytError("FirstItemUp"));
     // Below the last item there is none, and the arrays refuse the index.
     ChangePlaces(current, up != 0 ? current - 1 : current + 1);
 }

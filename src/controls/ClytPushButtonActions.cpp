@@ -35,7 +35,7 @@ HMODULE LoadOrFail(const CString& library)
 {
     const HMODULE module = lytLoadLibrary(library);
     if (module == nullptr)
-        lytRaise("233", "238", library);
+        lytRaise(lytError("LibraryMissing"), ClytPrefix(lytError("ActionFailed")), library);
     return module;
 }
 
@@ -115,7 +115,7 @@ ClytPushButtonControl::After ClytPushButtonControl::CallFunction()
     const HMODULE module = LoadOrFail(library);
     const ClytPartnerFunction<lytDataText> call(module, library, function);
     if (!call)
-        lytRaise("232", ClytPrefix::OfKey("238"));
+        lytRaise(lytError("FunctionMissing"), ClytPrefix::OfKey(lytError("ActionFailed")));
     const ClytModuleHandle second(module);
 
     CString answer;

@@ -43,7 +43,7 @@ protected:
     {
         CWnd& parent = owner->GetWindow();
         if (!create(lytLayoutRect(position, size), &parent))
-            lytRaise("202", CString(), name);
+            lytRaise(lytError("WindowNotMade"), CString(), name);
         dialog = owner;
         lytTakeDialogFont(*this, parent);
         if (fit != ClytFit::ToLayout)

@@ -113,7 +113,7 @@ void ClytDialog::TakeScale()
     }
     lytScaleX = 1.0F;
     lytScaleY = 1.0F;
-    lytRaise("240");
+    lytRaise(lytError("Resolution"));
 }
 
 // Two passes: the first shows how much of the raw size the frame takes, the second adds it.
@@ -130,7 +130,7 @@ void ClytDialog::ApplyInput(const CString& partName)
 {
     ClytInputPart* part = nullptr;
     if (!inputMap.Lookup(partName, part))
-        lytRaise("217", CString(), partName);
+        lytRaise(lytError("EndTooSoon"), CString(), partName);
     Scan(*part, lytInputKey);
     // Emptied, so that no nested dialog scans the same text.
     lytInputKey.Empty();

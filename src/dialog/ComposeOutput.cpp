@@ -168,7 +168,7 @@ int ClytDialog::ComposeResult()
         const ClytCaught failure(e);
         char message[255] = "";
         failure->GetErrorMessage(message, sizeof message);
-        lytRaise("246", message);
+        lytRaise(lytError("ResultFailed"), message);
     }
 }
 

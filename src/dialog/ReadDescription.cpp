@@ -31,7 +31,7 @@ void ClytDialog::ReadDescription()
 void ClytDialog::OpenFile()
 {
     if (file.Open(fileName, CFile::modeRead) == 0)
-        lytRaise("207", CString(), fileName);
+        lytRaise(lytError("OpeningFailed"), CString(), fileName);
 }
 
 void ClytDialog::CloseFile()
@@ -43,7 +43,7 @@ void ClytDialog::CloseFile()
     catch (CException* e)
     {
         const ClytCaught failure(e);
-        lytRaise("209", CString(), fileName);
+        lytRaise(lytError("ClosingFailed"), CString(), fileName);
     }
 }
 
@@ -52,7 +52,7 @@ void ClytDialog::TakeHeaderWords(CStringList& words)
 {
     words.RemoveAll();
     if (file.TakeTokens(words) == 0)
-        lytRaise("204");
+        lytRaise(lytError("HeaderForm"));
     words.RemoveHead();
 }
 
@@ -67,7 +67,7 @@ void ClytDialog::ReadHeader()
     CString title;
     CString lastText;
     if (file.ReadDialogHeader(width, height, title, lastText) == 0)
-        lytRaise("205");
+        lytRaise(lytError("DialogForm"));
     const bool isKey = !title.IsEmpty() && !sectionList.IsEmpty();
     const CString windowCaption = isKey ? lytEnvironment.GetText(GetTextSection(), title) : CString();
     Resize(width, height);
@@ -175,7 +175,7 @@ void ClytDialog::ReadEvaluations()
     CStringList words;
     TakeHeaderWords(words);
     if (words.IsEmpty())
-        lytRaise("204");
+        lytRaise(lytError("HeaderForm"));
 
     while (true)
     {

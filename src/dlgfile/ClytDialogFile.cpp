@@ -56,7 +56,7 @@ int ClytDialogFile::ReadSectionLine(POSITION& token, const char* terminator, con
     if (!ReadTokens(delimiters))
     {
         tokens.RemoveAll();
-        Tell("217", EndOfLine(), terminator);
+        Tell(lytError("EndTooSoon"), EndOfLine(), terminator);
         return 0;
     }
     token = tokens.GetHeadPosition();
@@ -98,7 +98,7 @@ void ClytDialogFile::FailStatement(const ClytSpan& place)
 {
     CString number;
     number.Format("%d", GetLineNumber());
-    Tell("212", place, number);
+    Tell(lytError("LineForm"), place, number);
     throw Abandoned();
 }
 
@@ -121,6 +121,6 @@ bool ClytDialogFile::ReadValueList(POSITION& token, CStringList& values)
 void ClytDialogFile::FailQuote(const char* line, const char* openQuote)
 {
     const auto column = static_cast<int>(openQuote - line);
-    Tell("210", PlaceInLine(column, GetLinePlace().length - column));
+    Tell(lytError("QuoteOpen"), PlaceInLine(column, GetLinePlace().length - column));
     throw Abandoned();
 }

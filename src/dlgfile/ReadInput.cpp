@@ -32,7 +32,7 @@ void ReadGuarded(Read read)
     }
     catch (CException* e)
     {
-        lytRaiseInstead(ClytCaught(e), "206");
+        lytRaiseInstead(ClytCaught(e), lytError("ReadingFailed"));
     }
 }
 

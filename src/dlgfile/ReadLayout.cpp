@@ -39,7 +39,7 @@ int ClytDialogFile::ReadHeaderStatement(CString& version, bool& isVersionSeen)
 {
     if (!ReadHeaderLine())
     {
-        Tell("214", EndOfLine());
+        Tell(lytError("LayoutMissing"), EndOfLine());
         return 0;
     }
     const CString& word = tokens.GetHead().GetText();
@@ -54,7 +54,7 @@ int ClytDialogFile::ReadHeaderStatement(CString& version, bool& isVersionSeen)
     if (!lytSameWord(isVersion ? version : word, "$LAYOUT"))
         return 1;
     if (!isVersionSeen)
-        Tell("213", GetLinePlace());
+        Tell(lytError("VersionMissing"), GetLinePlace());
     return 0;
 }
 
@@ -88,7 +88,7 @@ int ClytDialogFile::ReadDialogHeader(int& width, int& height, CString& title, CS
             {
                 if (!ReadTokens(lytDialogDelimiters))
                 {
-                    Tell("215", EndOfLine());
+                    Tell(lytError("DialogMissing"), EndOfLine());
                     return 0;
                 }
             } while (tokens.IsEmpty());
@@ -96,7 +96,7 @@ int ClytDialogFile::ReadDialogHeader(int& width, int& height, CString& title, CS
             POSITION token = tokens.GetHeadPosition();
             if (!lytSameWord(Next(token).GetText(), "Begin"))
             {
-                Tell("215", GetLinePlace());
+                Tell(lytError("DialogMissing"), GetLinePlace());
                 return 0;
             }
             if (tokens.GetCount() != dialogWords)
@@ -120,7 +120,7 @@ int ClytDialogFile::ReadControlStatement(ClytControlStatement& statement)
         {
             if (!ReadTokens(lytControlDelimiters))
             {
-                Tell("216", EndOfLine());
+                Tell(lytError("ControlsOpen"), EndOfLine());
                 return 0;
             }
             POSITION token = tokens.GetHeadPosition();

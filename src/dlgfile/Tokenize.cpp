@@ -46,7 +46,7 @@ const char* FindGroupEnd(const char* text)
     {
         text = std::strpbrk(text, "()");
         if (text == nullptr)
-            lytRaise("241", ClytPrefix::OfKey("242"));
+            lytRaise(lytError("BracketOpen"), ClytPrefix::OfKey(lytError("ListText")));
         depth += *text == '(' ? 1 : -1;
     }
     return text;

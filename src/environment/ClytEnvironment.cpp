@@ -19,7 +19,7 @@ CString Guarded(Read read)
     }
     catch (CException* e)
     {
-        lytRaiseInstead(ClytCaught(e), "206");
+        lytRaiseInstead(ClytCaught(e), lytError("ReadingFailed"));
     }
 }
 

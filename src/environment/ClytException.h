@@ -1,8 +1,10 @@
 // The program's own failure: a section and a key of the language texts, so that its message speaks the user's language.
 //
-// Raised, it ends an operation: `lytRaise("212", "", lineNumber)`. Reported, it shows its message and the operation
-// goes on: `lytReport("251", "", controlName)`.
+// Raised, it ends an operation: `lytRaise(lytError("LineForm"), "", lineNumber)`. Reported, it shows its message and
+// the operation continues: `lytReport(lytError("LibraryNotNamed"), "", controlName)`.
 #pragma once
+
+#include "environment/ErrorTable.h"
 
 #include <afx.h>
 
@@ -57,9 +59,6 @@ struct ClytDeleteFailure
     void operator()(CException* e) const { e->Delete(); }
 };
 using ClytCaught = std::unique_ptr<CException, ClytDeleteFailure>;
-
-// The section of the numbered errors.
-inline constexpr const char* lytErrorSection = "Dialog_Error";
 
 // Raises a numbered error.
 [[noreturn]] void lytRaise(const char* number, const ClytPrefix& prefix = {}, const CString& argument = CString());

@@ -71,13 +71,13 @@ void lytWriteToLog(const char* message, int messageLevel)
     CStdioFile file;
     CFileException error;
     if (!file.Open(logName, logFlags, &error))
-        lytRaise("207", lytMessageOf(error), logName);
+        lytRaise(lytError("OpeningFailed"), lytMessageOf(error), logName);
     const CString block = Block(message);
-    Guarded(file, "208", logName,
+    Guarded(file, lytError("WritingFailed"), logName,
             [&]
             {
                 file.SeekToEnd();
                 file.WriteString(block);
             });
-    Guarded(file, "209", logName, [&] { file.Close(); });
+    Guarded(file, lytError("ClosingFailed"), logName, [&] { file.Close(); });
 }

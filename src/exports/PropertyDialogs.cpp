@@ -87,7 +87,7 @@ bool WriteParts(const CString& result, char* first, int firstSize, char* second,
     {
         CString room;
         room.Format("%d", firstSize);
-        lytReport("254", CString(), room);
+        lytReport(lytError("TextTooLong"), CString(), room);
         return false;
     }
     if (IsUsable(second, secondSize))

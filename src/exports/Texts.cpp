@@ -66,7 +66,7 @@ int __stdcall lytGetTextFromIniFile(const char* path, char* buffer, int size)
     if (slash < 0)
     {
         const HostState host;
-        lytReport("250");
+        lytReport(lytError("SlashMissing"));
         return 0;
     }
     // A missing key reads as a text of its own, not as the sentinel, and so counts as found.

@@ -40,7 +40,7 @@ bool lytConditionsHold(const ClytConditions& conditions, ClytRuleKind kind, TELL
         tell(condition, result);
         const ClytVerdict verdict = lytVerdictOf(kind, result);
         if (verdict == ClytVerdict::Raises)
-            lytRaise("245", CString(), condition.GetName());
+            lytRaise(lytError("OutputControl"), CString(), condition.GetName());
         if (verdict != ClytVerdict::Next)
             return verdict == ClytVerdict::Holds;
     }

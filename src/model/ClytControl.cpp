@@ -31,20 +31,20 @@ void ClytControl::AddValues(const CString& /*text*/, const CString& /*separators
 
 void ClytControl::SetValue(const CString& /*value*/)
 {
-    Report("200");
+    Report(lytError("ValueNotTaken"));
 }
 
 void ClytControl::GetAllValues(CString& /*result*/, const CString& /*separators*/) {}
 
 CString ClytControl::GetValue()
 {
-    Report("201");
+    Report(lytError("ValueMissing"));
     return {};
 }
 
 CString ClytControl::GetDisplayValue()
 {
-    Report("201");
+    Report(lytError("ValueMissing"));
     return {};
 }
 
@@ -55,7 +55,7 @@ int ClytControl::IsChanged()
 
 void ClytControl::DoAction(const ClytStateWord& /*word*/)
 {
-    Report("247", ClytPrefix::OfKey("248"), name);
+    Report(lytError("ActionUnknown"), ClytPrefix::OfKey(lytError("RuleWrong")), name);
 }
 
 int ClytControl::DeleteCurrentItem()

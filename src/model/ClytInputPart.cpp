@@ -61,7 +61,7 @@ void ClytInputPart::Run(CString text, const CString& name) const
         next = &RunStatement(*next->statement, scanner, piece);
         idle = scanner.GetRest() == before ? idle + 1 : 0;
         if (idle == circleLimit)
-            lytRaise("206", "The input statements go round in a circle.");
+            lytRaise(lytError("ReadingFailed"), "The input statements go round in a circle.");
     }
     if (!lytSameWord(next->name, "End"))
         lytTellMissing(ClytMissing::InputStatement, next->name, nullptr, asker);

@@ -184,14 +184,14 @@ void ClytTreeDialog::OnOK()
     StoreItemStates();
     if (chosen == nullptr)
     {
-        lytReport("222");
+        lytReport(lytError("ChoiceRefused"));
         return;
     }
 
     lytMarkCurrentNode(m_nodes, chosen);
     if (m_cKind != 'W' && chosen->m_cType != m_cKind)
     {
-        lytReport("222");
+        lytReport(lytError("ChoiceRefused"));
         return;
     }
     m_strResult = m_cKind == 'W' ? lytWizardChoice(*chosen) : chosen->m_szKey;

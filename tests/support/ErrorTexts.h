@@ -2,6 +2,7 @@
 #pragma once
 
 #include "support/LanguageFolder.h"
+#include "support/NumberedTexts.h"
 #include "support/RaisedMessage.h"
 
 // What the message of the class library's invalid-argument failure reads as.
@@ -11,14 +12,5 @@ class ErrorTexts : public LanguageFolder
 {
 public:
     // `more` is put after the section of the errors.
-    explicit ErrorTexts(const std::string& more = "") : LanguageFolder(Numbers() + more) {}
-
-private:
-    static std::string Numbers()
-    {
-        std::string texts = "[Dialog_Error]\r\n";
-        for (int number = 200; number <= 254; ++number)
-            texts += std::to_string(number) + "=" + std::to_string(number) + " ''\r\n";
-        return texts;
-    }
+    explicit ErrorTexts(const std::string& more = "") : LanguageFolder(NumberedTexts() + more) {}
 };

@@ -6,6 +6,7 @@
 #include "commandline/CommandLine.h"
 #include "robot/ActingUser.h"
 #include "support/Library.h"
+#include "support/NumberedTexts.h"
 #include "support/TestFolder.h"
 
 #include <algorithm>
@@ -48,11 +49,8 @@ std::string ReadFile(const fs::path& name)
 
 std::string Texts()
 {
-    std::string texts = "[TEXTS]\nLABEL=&Label\nTITLE=A title\n[Buttons]\n001=OK\n002=Cancel\n[MsgBox]\n"
-                        "REFUSED=refused\n[Dialog_Error]\n";
-    for (int number = 200; number < 260; ++number)
-        texts += std::to_string(number) + "=" + std::to_string(number) + " ''\n";
-    return texts;
+    return "[TEXTS]\nLABEL=&Label\nTITLE=A title\n[Buttons]\n001=OK\n002=Cancel\n[MsgBox]\nREFUSED=refused\n" +
+           NumberedTexts();
 }
 
 class Campaign

@@ -1,4 +1,5 @@
 // What the judge says and what the library does: samples, the dialogs of tests, and mutations of both.
+#include "environment/ErrorTable.h"
 #include "fuzz/frame/Samples.h"
 #include "lytdlg/judge/LibraryVerdict.h"
 #include "lytdlg/judge/Report.h"
@@ -37,7 +38,7 @@ Verdict VerdictOn(const std::string& bytes)
             continue;
         // What fails in the composition fails with OK, and not before.
         const bool isOfOutput = description.text.Line(finding.place.line).section == Section::Output;
-        verdict.hasError = verdict.hasError || !isOfOutput || finding.number == "212";
+        verdict.hasError = verdict.hasError || !isOfOutput || finding.number == lytError("LineForm");
         verdict.text += TextOf(finding, description, false);
         verdict.isForeseen = verdict.isForeseen && finding.rule->id != std::string("refused");
     }
@@ -49,7 +50,7 @@ bool HasNumberAtItsLine(const Verdict& verdict)
     return std::ranges::any_of(verdict.findings.All(),
                                [&](const Finding& finding)
                                {
-                                   const bool isOfLine = verdict.refusal->number == "212";
+                                   const bool isOfLine = verdict.refusal->number == lytError("LineForm");
                                    return finding.rule->level == Level::Error &&
                                           finding.number == verdict.refusal->number &&
                                           (!isOfLine || finding.place.line == verdict.refusal->line);

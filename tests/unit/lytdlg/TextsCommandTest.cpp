@@ -1,6 +1,7 @@
 // `lytdlg texts`: language files against dialogs and against each other.
 #include "CommandRun.h"
 #include "SourceNames.h"
+#include "environment/ErrorTable.h"
 #include "lytdlg/judge/FolderTexts.h"
 #include "lytdlg/text/LibraryTexts.h"
 #include "lytdlg/text/TextFile.h"
@@ -11,7 +12,7 @@
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
 
-#include <regex>
+#include <map>
 #include <set>
 
 namespace
@@ -183,32 +184,49 @@ TEST(Texts, OfTheSamplesAreAllThereAndAllUsed)
         EXPECT_TRUE(row.remarks.empty()) << row.section << "/" << row.key << ": " << row.remarks.front();
 }
 
-// Each number that stands in a call of the sources, and each text that they ask for by its name.
 TEST(Texts, OfTheLibraryAreThoseThatItsSourcesAskFor)
 {
-    std::set<std::string> asked;
-    // The keys of messages, and those of the two buttons.
-    const std::regex number("\"([02][0-9][0-9])\"");
-    const std::regex named("GetText\\(\"(\\w+)\", \"(\\w+)\"\\)");
-    for (const auto& entry : fs::recursive_directory_iterator(LYT_SOURCE_FOLDER "/src"))
-    {
-        if (entry.path().extension() != ".cpp" && entry.path().extension() != ".h")
-            continue;
-        const std::string source = lytdlg::ReadWholeFile(entry.path()).value_or("");
-        for (std::sregex_iterator found(source.begin(), source.end(), number), end; found != end; ++found)
-        {
-            // Comments name numbers as well, as examples.
-            const size_t line = source.rfind('\n', static_cast<size_t>(found->position())) + 1;
-            if (source.compare(source.find_first_not_of(' ', line), 2, "//") != 0)
-                asked.insert(((*found)[1].str().front() == '0' ? "Buttons/" : "Dialog_Error/") + (*found)[1].str());
-        }
-        for (std::sregex_iterator found(source.begin(), source.end(), named), end; found != end; ++found)
-            asked.insert((*found)[1].str() + "/" + (*found)[2].str());
-    }
     std::set<std::string> known;
     for (const lytdlg::LibraryText& text : lytdlg::LibraryTexts())
-        known.insert(text.section + "/" + text.key);
-    EXPECT_EQ(asked, known);
+    {
+        if (text.section != lytErrorSection)
+            known.insert('"' + text.section + "\", \"" + text.key + '"');
+    }
+    EXPECT_EQ(NamedInSources("", "GetText\\((\"\\w+\", \"\\w+\")\\)"), known);
+}
+
+TEST(Errors, MeetTheUserAsTheirTableSays)
+{
+    std::map<ClytErrorWay, std::set<std::string>> ways;
+    for (const ClytErrorRow& error : lytErrors)
+    {
+        if (error.way != ClytErrorWay::Either)
+            ways[error.way].insert(error.name);
+        else
+            for (const ClytErrorWay each : {ClytErrorWay::Raised, ClytErrorWay::Reported})
+                ways[each].insert(error.name);
+    }
+    const std::string name = "lytError\\(\"(\\w+)\"\\)";
+    EXPECT_EQ(NamedInSources("", ("\\b(?:lytRaise|lytRaiseInstead|Tell|Guarded)\\([^;]*?" + name).c_str()),
+              ways[ClytErrorWay::Raised]);
+    std::set<std::string> reported = NamedInSources("", ("\\b(?:lytReport|Report)\\([^;]*?" + name).c_str());
+    reported.merge(NamedInSources("", ("\\bReport\\([^;]*: " + name).c_str()));
+    EXPECT_EQ(reported, ways[ClytErrorWay::Reported]);
+    EXPECT_EQ(NamedInSources("", ("\\bClytPrefix(?:::OfKey)?\\(" + name).c_str()), ways[ClytErrorWay::Above]);
+}
+
+TEST(Errors, AreListedForThoseWhoWriteTheTexts)
+{
+    static const std::map<ClytErrorWay, const char*> ways = {{ClytErrorWay::Raised, "raised"},
+                                                             {ClytErrorWay::Reported, "reported"},
+                                                             {ClytErrorWay::Either, "either"},
+                                                             {ClytErrorWay::Above, "above another"}};
+    std::string rows = "| key | shown when | argument | way |\n|---|---|---|---|\n";
+    for (const ClytErrorRow& error : lytErrors)
+        rows += "| `" + std::string(error.number) + "` | " + error.about + " | " + error.argument + " | " +
+                ways.at(error.way) + " |\n";
+    const std::string page = lytdlg::ReadWholeFile(LYT_SOURCE_FOLDER "/docs/deployment.md").value_or("");
+    EXPECT_NE(page.find(rows), std::string::npos) << rows;
 }
 
 // Elsewhere the section comes from a dialog, a failure or a caller, and that of the buttons stands before a key of a table.

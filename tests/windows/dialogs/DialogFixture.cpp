@@ -1,15 +1,14 @@
 #include "DialogFixture.h"
 
+#include "support/NumberedTexts.h"
+
 std::string SharedTexts()
 {
-    std::string texts = "[Buttons]\r\n001=OK\r\n002=Cancel\r\n"
-                        "[TEXTS]\r\nTitle=The title\r\nLabel=A label\r\nLong=A label that is much longer\r\n"
-                        "Apostrophe=It's cut\r\nQuotes=\"\"\"\"\r\n"
-                        "[MsgBox]\r\nRefused=That is refused.\r\n"
-                        "[Dialog_Error]\r\n";
-    for (int number = 200; number < 260; ++number)
-        texts += std::to_string(number) + "=E" + std::to_string(number) + " ''\r\n";
-    return texts;
+    return "[Buttons]\r\n001=OK\r\n002=Cancel\r\n"
+           "[TEXTS]\r\nTitle=The title\r\nLabel=A label\r\nLong=A label that is much longer\r\n"
+           "Apostrophe=It's cut\r\nQuotes=\"\"\"\"\r\n"
+           "[MsgBox]\r\nRefused=That is refused.\r\n" +
+           NumberedTexts("E");
 }
 
 DialogFixture::DialogFixture()

@@ -53,7 +53,7 @@ void JudgeLogOf(const std::string& document, Diagnosis& diagnosis)
     const bool hasFolder = !log.has_parent_path() || fs::is_directory(log.parent_path(), ignored);
     diagnosis.Add(Verdict::Wrong, aboutLog, log,
                   std::string(hasFolder ? "cannot be written" : "cannot be written, since its folder is not there") +
-                      "; such a failure (207) may end the word processor",
+                      "; such a failure (" + lytError("OpeningFailed") + ") may end the word processor",
                   std::string(hasFolder ? "let the users write it" : "make the folder") +
                       ", or set level=0 in the section [LogLevel] of lyt.ini");
 }

@@ -1,4 +1,5 @@
 // What the dialogs stand on: the resolution of the screen, and the common controls that the manifest of the library asks for.
+#include "environment/ErrorTable.h"
 #include "lytdlg/doctor/Deployment.h"
 #include "model/ClytScale.h"
 
@@ -51,7 +52,8 @@ void JudgeResolution(Diagnosis& diagnosis)
     if (std::ranges::find(lytResolutions, pixelsPerInch, &ClytResolution::pixelsPerInch) != std::end(lytResolutions))
         diagnosis.Add(Verdict::Good, aboutScreen, {}, told);
     else
-        diagnosis.Add(Verdict::Wrong, aboutScreen, {}, told + ", at which no dialog opens (240)",
+        diagnosis.Add(Verdict::Wrong, aboutScreen, {},
+                      told + ", at which no dialog opens (" + lytError("Resolution") + ")",
                       "set the scale of the display to 100 or 125 per cent");
 }
 

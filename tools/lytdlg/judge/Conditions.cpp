@@ -178,7 +178,7 @@ void JudgeReadControl(const Case& judged, RuleName rule, const std::string& name
         judged.findings
             .Add(rule, place, "a " + std::string(control->type.GetString()) + " has no value",
                  "name a control that holds one")
-            .number = "201";
+            .number = lytError("ValueMissing");
     else if (kind == Kind::Option)
         judged.findings.Add(rule, place, "an option has its value whether it is chosen or not", "name its OptionGroup");
 }

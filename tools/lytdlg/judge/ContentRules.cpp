@@ -120,7 +120,7 @@ void JudgeCheckBox(const Case& judged, const std::string& name)
             .Add("check-default", statement.PlaceOfValue(),
                  InQuotes(text) + " is neither the ON nor the OFF text of " + InQuotes(name),
                  MeantOr(text, {textOf(on), textOf(off)}, "use one of the two texts"))
-            .number = "236";
+            .number = lytError("BoxText");
     }
     const ClytControlStatement& control = *description.FindControl(name);
     const ClytSpan place = description.PlaceOf(control.span.line, "." + name, control.span.column);

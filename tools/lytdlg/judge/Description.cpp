@@ -148,7 +148,8 @@ void Description::ReadLayout()
     dialogHeader = file.GetLinePlace();
     // When the section ends before it, the line that follows counts.
     dialogHeader.line = std::min(dialogHeader.line, lines.empty() ? 1 : lines.back()->number + 1);
-    if (mistakes.size() == mistakesBefore || mistakes.back().number != "215" || IsDialogLine(text, dialogHeader.line))
+    if (mistakes.size() == mistakesBefore || mistakes.back().number != lytError("DialogMissing") ||
+        IsDialogLine(text, dialogHeader.line))
     {
         ReadControls(file);
         return;

@@ -40,7 +40,7 @@ void JudgeAction(const Case& judged, const ClytControlFill& fill, Kind kind)
         if (word.empty())
             judged.findings
                 .Add("scan-action-idle", fill.span, "a " + type + " takes no value", "name a control that holds one")
-                .number = "200";
+                .number = lytError("ValueNotTaken");
         else
             judged.findings.Add("scan-action-idle", place, word + " does nothing on a " + type,
                                 kind == Kind::Combo || kind == Kind::DropList ? "use ADD, or a ListBox or CheckListBox"
@@ -55,7 +55,7 @@ void JudgeAction(const Case& judged, const ClytControlFill& fill, Kind kind)
         judged.findings
             .Add("scan-fill-source", fill.span, InQuotes(name) + " has no FILLEDBY statement to fill it by",
                  "add one to $VALUES")
-            .number = HasItems(kind) ? "251" : "";
+            .number = HasItems(kind) ? lytError("LibraryNotNamed") : "";
 }
 
 // An open list that has at that time the items of $VALUES alone: no button was pressed when the dialog opens.

@@ -64,9 +64,9 @@ std::string WordingOf(const Refusal& refusal, const LanguageFiles& texts)
 {
     for (const std::string& language : texts.Languages())
     {
-        if (refusal.number.empty() || !texts.Has(language, "Dialog_Error", refusal.number))
+        if (refusal.number.empty() || !texts.Has(language, lytErrorSection, refusal.number))
             continue;
-        std::string text = texts.Text(language, "Dialog_Error", refusal.number);
+        std::string text = texts.Text(language, lytErrorSection, refusal.number);
         if (const size_t mark = text.find('\''); mark != std::string::npos)
             text.insert(mark + 1, refusal.argument);
         return refusal.words.empty() ? text : refusal.words + " " + text;
@@ -77,7 +77,8 @@ std::string WordingOf(const Refusal& refusal, const LanguageFiles& texts)
 // A message with the number of a line belongs to that line, the others to the whole description.
 bool StandsFor(const Finding& finding, const Refusal& refusal)
 {
-    const bool isOfLine = refusal.number.empty() || refusal.number == "210" || refusal.number == "212";
+    const bool isOfLine =
+        refusal.number.empty() || refusal.number == lytError("QuoteOpen") || refusal.number == lytError("LineForm");
     return finding.rule->level == Level::Error && finding.number == refusal.number &&
            (!isOfLine || finding.place.line == refusal.line);
 }

@@ -119,7 +119,7 @@ void JudgeFile(const Case& judged)
     {
         AddAt(judged, "byte-order-mark", 1, 0, 1, "a byte order mark stands before the first word",
               "save the file in code page 1252, or begin it with a comment");
-        judged.findings.All().back().number = "213";
+        judged.findings.All().back().number = lytError("VersionMissing");
     }
     else if (text.HasByteOrderMark())
         AddAt(judged, "byte-order-mark-above", 1, 0, 1,

@@ -76,7 +76,7 @@ void JudgeIndented(const Case& judged, const SourceLine& line)
         judged.findings
             .Add("mark-indented", {line.number, static_cast<int>(start), 1}, "this mark is read as a statement",
                  "begin the line with it, without blanks")
-            .number = "212";
+            .number = lytError("LineForm");
 }
 
 } // namespace

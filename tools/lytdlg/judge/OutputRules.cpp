@@ -158,7 +158,7 @@ void JudgeConditions(const Case& judged, const ClytDialogOutput& rule)
             judged.findings
                 .Add("output-condition", asked->GetSpan(), "there is no control " + InQuotes(name),
                      MeantOr(name, ControlNames(judged.description), "name a control of $LAYOUT"))
-                .number = "245";
+                .number = lytError("OutputControl");
         JudgeValues(judged, "output-condition-value", *asked, ValueWords::Null);
         if (!asked->GetValues().IsEmpty())
             JudgeReadControl(judged, "output-valueless", name, asked->GetSpan());

@@ -23,7 +23,7 @@ void JudgeFunctions(const Case& judged, const PartnerCall& call, const ExportTab
             .Add("partner-function", PlaceOf(judged.description, call, name),
                  LibraryFileName(call.library) + " has no function " + InQuotes(name),
                  HintForFunction(name, table.names, "name one of its functions"))
-            .number = call.isAction ? "232" : "";
+            .number = call.isAction ? lytError("FunctionMissing") : "";
     }
 }
 
@@ -38,7 +38,7 @@ void JudgeCall(const Case& judged, const PartnerCall& call, PartnerLibraries& pa
                 .Add("partner-library", PlaceOf(judged.description, call, call.library),
                      file + " is in none of the folders for libraries",
                      "check its name, or give its folder with --partners")
-                .number = call.isAction ? "233" : "";
+                .number = call.isAction ? lytError("LibraryMissing") : "";
     }
     else if (partner->table.form != LibraryForm::Library)
         judged.findings
@@ -46,12 +46,12 @@ void JudgeCall(const Case& judged, const PartnerCall& call, PartnerLibraries& pa
                  partner->table.form == LibraryForm::OtherBits ? file + " is no 64-bit library"
                                                                : file + " is no library, or is damaged",
                  "build it for 64 bits")
-            .number = call.isAction ? "233" : "";
+            .number = call.isAction ? lytError("LibraryMissing") : "";
     else if (partner->failure)
         judged.findings
             .Add("partner-form", PlaceOf(judged.description, call, call.library),
                  file + " cannot be loaded: " + partner->failure->reason, partner->failure->hint)
-            .number = call.isAction ? "233" : "";
+            .number = call.isAction ? lytError("LibraryMissing") : "";
     else
         JudgeFunctions(judged, call, partner->table);
 }

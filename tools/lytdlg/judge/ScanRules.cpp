@@ -168,7 +168,7 @@ void JudgeCircles(const Case& judged, const InputPart& part)
                  "the run goes round in a circle" + when + ": " + WayOf(found),
                  found.isAtEnd ? "cut at separators and let the end of the text end the run, or lead to End"
                                : "let one of these statements cut something, or lead to End")
-            .number = "206";
+            .number = lytError("ReadingFailed");
     }
 }
 

@@ -15,7 +15,7 @@ namespace
 // What the library shows at a line that it reads as a statement of the section above; nothing where it may pass as one.
 std::string NumberWithin(Section above)
 {
-    return above == Section::Values ? "" : "212";
+    return above == Section::Values ? "" : lytError("LineForm");
 }
 
 void JudgeFalseHeaders(const Case& judged)
@@ -34,8 +34,8 @@ void JudgeFalseHeaders(const Case& judged)
                                                         " does not end the word; write \"" + header.meant + "\""
                                                   : "did you mean \"" + header.meant + "\"?"));
         finding.number = header.present != Section::Head     ? NumberWithin(header.present)
-                         : header.section == Section::Layout ? "214"
-                                                             : "213";
+                         : header.section == Section::Layout ? lytError("LayoutMissing")
+                                                             : lytError("VersionMissing");
     }
 }
 
@@ -64,14 +64,14 @@ int LineAfter(const DescriptionText& text, Section section)
 std::string NumberOfMissing(const DescriptionText& text, Section section)
 {
     if (section == Section::Head && HasHeader(text, Section::Layout))
-        return "213";
+        return lytError("VersionMissing");
     if (section <= Section::Layout)
-        return "214";
+        return lytError("LayoutMissing");
     // What follows is read as statements of the section above, and it depends on them what that comes to.
     const auto isBelow = [&](const SourceLine& line) { return line.isRead && line.section >= section; };
     if (std::ranges::any_of(text.Lines(), isBelow))
         return "";
-    return section == Section::Values ? "216" : "217";
+    return section == Section::Values ? lytError("ControlsOpen") : lytError("EndTooSoon");
 }
 
 // Sections that are missing side by side have one finding.
@@ -113,7 +113,7 @@ void AddStray(const Case& judged, const SourceLine& line)
         judged.findings.Add("header-in-values", place, message, "delete the line");
     else
         judged.findings.Add("section-order", place, message, "delete the line, or move the section to its place")
-            .number = "212";
+            .number = lytError("LineForm");
 }
 
 // The line of the last header of each section.
@@ -172,16 +172,16 @@ void JudgeDialogLine(const Case& judged)
     if (words.empty() || words[0].text != "Begin")
     {
         const bool isMeant = !words.empty() && commandline::IsClose(words[0].text, "Begin");
-        AddDialogLine(judged, place, "215",
+        AddDialogLine(judged, place, lytError("DialogMissing"),
                       isMeant ? "\"" + words[0].text + "\" does not begin a dialog"
                               : "the line \"Begin Dialog\" is missing before this one");
     }
     else if (!description.hasDialogHeader)
-        AddDialogLine(judged, description.PlaceOf(line, words[1].text, words[1].column), "205",
+        AddDialogLine(judged, description.PlaceOf(line, words[1].text, words[1].column), lytError("DialogForm"),
                       "\"" + words[1].text + "\" stands where \"Dialog\" must stand");
     else if (std::ranges::any_of(description.mistakes, [&](const Mistake& mistake)
-                                 { return mistake.place.line == line && mistake.number == "212"; }))
-        AddDialogLine(judged, place, "212",
+                                 { return mistake.place.line == line && mistake.number == lytError("LineForm"); }))
+        AddDialogLine(judged, place, lytError("LineForm"),
                       "the line has " + std::to_string(words.size()) + (words.size() == 1 ? " word" : " words") +
                           ", and not seven");
 }
@@ -202,7 +202,7 @@ void JudgeHeaderWords(const Case& judged)
         judged.findings
             .Add("evaluation-without-word", description.PlaceOf(evaluation->number), "a word must follow $EVALUATION",
                  "any word will do: write \"$EVALUATION, x\"")
-            .number = "204";
+            .number = lytError("HeaderForm");
 }
 
 void JudgeParent(const Case& judged)
@@ -219,7 +219,7 @@ void JudgeParent(const Case& judged)
         .Add("input-parent", place, "no input part is named \"parent\", and so the dialog does not open",
              meant != description.inputs.end() ? "did you mean \"parent\"?"
                                                : "add \"$INPUT, parent\" with the statements that begin")
-        .number = "217";
+        .number = lytError("EndTooSoon");
 }
 
 } // namespace

@@ -38,13 +38,13 @@ void AddMistake(const Case& judged, const Mistake& mistake)
 {
     const Description& description = judged.description;
     const SourceLine& line = description.text.Line(mistake.place.line);
-    if (mistake.number == "210")
+    if (mistake.number == lytError("QuoteOpen"))
     {
         judged.findings.Add("quote-open", mistake.place, "the quote is not closed", "write a quote after the text")
-            .number = "210";
+            .number = lytError("QuoteOpen");
         return;
     }
-    const bool isOfForm = mistake.number == "212" || mistake.number.empty();
+    const bool isOfForm = mistake.number == lytError("LineForm") || mistake.number.empty();
     if (!isOfForm || !IsStatement(description, line))
         return;
     Finding& finding =
@@ -52,7 +52,8 @@ void AddMistake(const Case& judged, const Mistake& mistake)
                             WhatIsWrong(line.text, line.section, mistake.place.column), FormsOf(line.section));
     if (mistake.place.column >= finding.place.column)
         finding.place = mistake.place;
-    finding.number = mistake.number.empty() && line.section == Section::Input ? "206" : mistake.number;
+    finding.number =
+        mistake.number.empty() && line.section == Section::Input ? lytError("ReadingFailed") : mistake.number;
 }
 
 } // namespace

@@ -10,6 +10,7 @@
 #include "model/ClytInputPart.h"
 
 #include <algorithm>
+#include <array>
 
 namespace lytdlg
 {
@@ -18,6 +19,8 @@ namespace
 {
 
 constexpr size_t pieceSize = ClytDialogFile::lineSize;
+constexpr std::array ofEndOfFile = {lytError("LayoutMissing"), lytError("DialogMissing"), lytError("ControlsOpen"),
+                                    lytError("EndTooSoon")};
 // Each one more doubles the readings.
 constexpr size_t mostDefines = 8;
 
@@ -91,9 +94,9 @@ public:
     // That the file ends where more was due is no fault of its last line.
     void Tell(std::unique_ptr<ClytException> failure, const ClytSpan& place) override
     {
-        const int number = lytNumberOf(failure->GetNumber());
-        const bool isEndOfFile = number >= 214 && number <= 217 && place.length == 0;
-        if (!isEndOfFile)
+        const bool isOfEnd = std::ranges::any_of(ofEndOfFile, [&](const char* number)
+                                                 { return lytSameWord(failure->GetNumber(), number); });
+        if (!isOfEnd || place.length != 0)
             TellShortLine(place);
     }
     void TellShortLine(const ClytSpan& place) override

@@ -1,6 +1,7 @@
 #include "lytdlg/text/NewDialog.h"
 
 #include "commandline/CommandLine.h"
+#include "environment/ErrorTable.h"
 #include "lytdlg/doctor/Checks.h"
 #include "lytdlg/text/FolderLock.h"
 #include "lytdlg/text/LanguageFiles.h"
@@ -26,7 +27,7 @@ constexpr size_t longestNewName = 40;
 constexpr std::array devices = {"CON",  "PRN",  "AUX",  "NUL",  "COM1", "COM2", "COM3", "COM4", "COM5", "COM6", "COM7",
                                 "COM8", "COM9", "LPT1", "LPT2", "LPT3", "LPT4", "LPT5", "LPT6", "LPT7", "LPT8", "LPT9"};
 // Sections that the library has for itself.
-constexpr std::array librarySections = {"Buttons", "Label", messageSection, "Dialog_Error"};
+constexpr std::array librarySections = {"Buttons", "Label", messageSection, lytErrorSection};
 
 bool IsLetter(char ch)
 {

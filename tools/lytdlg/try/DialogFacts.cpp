@@ -19,7 +19,7 @@ public:
         : m_file(defines.c_str(), errors), m_facts(target)
     {
         if (m_file.Open(name.c_str(), CFile::modeRead) == 0)
-            lytRaise("207", CString(), name.c_str());
+            lytRaise(lytError("OpeningFailed"), CString(), name.c_str());
     }
 
     void Read()
