@@ -71,6 +71,16 @@ TEST_F(CheckReport, TellsPlaceLevelRuleMessageAndTheWayOut)
     EXPECT_EQ(m_exit, 1);
 }
 
+// A tab is as wide as the terminal likes, and the description is not in UTF-8.
+TEST_F(CheckReport, ShowsThePlaceUnderTheLineAsItIsPrinted)
+{
+    const std::string printed = Check(With("$VALUES\n", "$VALUES\nField = \xE4\t\xC3\x9F\n"));
+    const std::string line = "    Field = \u00E4\t\u00C3\u0178\n";
+    EXPECT_NE(printed.find("box.dlg:9:10: warning tab"), std::string::npos) << printed;
+    EXPECT_NE(printed.find(line + "             ^\n"), std::string::npos) << printed;
+    EXPECT_NE(printed.find(line + "             \t^~\n"), std::string::npos) << printed;
+}
+
 // The header of a further group opens no section by itself.
 TEST_F(CheckReport, NamesTheHeaderThatIsMissingAboveAFurtherOne)
 {

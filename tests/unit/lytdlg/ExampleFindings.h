@@ -1,10 +1,12 @@
-// What the judge finds in an example, which stands in a folder with its texts and another dialog.
+// What the judge finds in an example, in a folder with its texts and another dialog.
 #pragma once
 
+#include "commandline/Text.h"
 #include "lytdlg/judge/Examples.h"
-#include "lytdlg/judge/Report.h"
+#include "lytdlg/judge/Judge.h"
 #include "support/TestFolder.h"
 
+#include <filesystem>
 #include <set>
 
 namespace lytdlg
@@ -23,29 +25,32 @@ inline const TestFolder& ExampleFolder()
     return folder;
 }
 
-// The rules that find something in an example, and the findings as a user sees them.
+// The rules that find something in an example, and each finding: its place (a path when it is another file, line, column
+// and length), its rule and message, and the hint in a second line.
 struct Found
 {
     std::set<std::string> rules;
     std::string text;
 };
 
-// With a predicate, of the rules alone that it is true for. Partner libraries are in those folders.
-inline Found FindIn(const std::string& example, bool (*isAsked)(const Rule& rule) = nullptr,
-                    const std::vector<std::string>& partners = {})
+// Partner libraries are in those folders.
+inline Found FindIn(const std::string& example, const std::vector<std::string>& partners = {})
 {
     const std::string folder = ExampleFolder().Path();
-    const Description description("example.dlg", ExampleDescription(example), {});
-    Findings findings = Judge(description, SurroundingsOf(folder, partners));
+    Findings findings = Judge(Description("", ExampleDescription(example), {}), SurroundingsOf(folder, partners));
     Found found;
-    for (Finding& finding : findings.All())
+    for (const Finding& finding : findings.All())
     {
-        if (isAsked != nullptr && !isAsked(*finding.rule))
-            continue;
         found.rules.insert(finding.rule->id);
+        found.text += "=> ";
         if (!finding.path.empty())
-            finding.path = std::filesystem::path(finding.path).lexically_relative(folder).generic_string();
-        found.text += TextOf(finding, description, false);
+            found.text += std::filesystem::path(finding.path).lexically_relative(folder).generic_string() + ":";
+        found.text += std::to_string(finding.place.line) + ":" + std::to_string(finding.place.column + 1) + "+" +
+                      std::to_string(finding.place.length) + " " + finding.rule->id + ": " +
+                      commandline::Shown(finding.message) +
+                      (finding.number.empty() ? "\n" : " (message " + finding.number + ")\n");
+        if (!finding.hint.empty())
+            found.text += "   " + commandline::Shown(finding.hint) + "\n";
     }
     return found;
 }

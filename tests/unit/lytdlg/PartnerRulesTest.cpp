@@ -1,10 +1,10 @@
-// What the rules say about the libraries that a description calls.
-#include "JudgedExample.h"
+// What the rules say about the libraries that a description calls, with a folder of such libraries.
+#include "ExampleFindings.h"
 #include "LibraryFile.h"
 
-#include "support/TestFolder.h"
-
 #include <gtest/gtest.h>
+
+using lytdlg::FindIn;
 
 namespace
 {
@@ -13,115 +13,62 @@ constexpr const char* filled = "$VALUES\n    Parts = FILLEDBY, lytdata, OpenMark
 constexpr const char* pressed = "$LAYOUT Example\n    PushButton 520, 12, 90, 21, \"Remove\", .More\n"
                                 "$VALUES\n    More: ACTION = other.dll, Open, Out, Back\n"
                                 "$INPUT, Back\n    Start: (999, End = Name\n$OUTPUT, Out\n    (\"%s\", Name)";
+const std::string library = "=> 45:23+7 partner-form: lytdata.dll ";
 
 } // namespace
 
 TEST(PartnerRules, SayNothingOfOtherLibrariesWithoutTheirFolders)
 {
-    EXPECT_EQ(TextsOfFindings(filled), "");
-    EXPECT_EQ(TextsOfFindings(pressed), "");
+    EXPECT_EQ(FindIn(filled).text, "");
+    EXPECT_EQ(FindIn(pressed).text, "");
 }
 
-TEST(PartnerRules, FindLibraryAndFunctionsWhateverTheCaseOfTheFile)
+TEST(PartnerRules, FindALibraryInNoFolder)
 {
     const TestFolder folder;
-    folder.Write("LytData.DLL", LibraryFile({"NextItem", "OpenMarked"}));
-    EXPECT_EQ(TextsOfFindings(filled, {folder.Path()}), "");
+    EXPECT_EQ(FindIn(filled, {folder.Path()}).text,
+              "=> 45:23+7 partner-library: lytdata.dll is in none of the folders for libraries\n"
+              "   check its name, or give its folder with --partners\n");
+    EXPECT_EQ(FindIn(pressed, {folder.Path()}).text,
+              "=> 46:20+9 partner-library: other.dll is in none of the folders for libraries (message 233)\n"
+              "   check its name, or give its folder with --partners\n");
 }
 
-TEST(PartnerRules, TellOfALibraryThatIsInNoFolder)
+TEST(PartnerRules, FindFunctionsThatALibraryDoesNotHave)
 {
     const TestFolder folder;
-    EXPECT_EQ(TextsOfFindings(filled, {folder.Path()}),
-              R"(example.dlg:45:23: warning partner-library: lytdata.dll is in none of the folders for libraries
-        Parts = FILLEDBY, lytdata, OpenMarked, NextItem
-                          ^~~~~~~
-    hint: check its name, or give its folder with --partners
-)");
-    EXPECT_EQ(
-        TextsOfFindings(pressed, {folder.Path()}),
-        R"(example.dlg:46:20: warning partner-library: other.dll is in none of the folders for libraries (message 233)
-        More: ACTION = other.dll, Open, Out, Back
-                       ^~~~~~~~~
-    hint: check its name, or give its folder with --partners
-)");
+    const auto with = [&](const std::vector<std::string>& functions)
+    {
+        folder.Write("LytData.DLL", LibraryFile(functions));
+        return FindIn(filled, {folder.Path()}).text;
+    };
+    const std::string finding = "=> 45:32+10 partner-function: lytdata.dll has no function \"OpenMarked\"\n";
+    EXPECT_EQ(with({"NextItem", "OpenMarked"}), "");
+    EXPECT_EQ(with({"NextItem", "OpenMarkd"}), finding + "   did you mean \"OpenMarkd\"?\n");
+    EXPECT_EQ(with({"NextItem", "?OpenMarked@@YAXPEBD@Z"}),
+              finding + "   \"?OpenMarked@@YAXPEBD@Z\" is that function of C++; declare it extern \"C\"\n");
+    EXPECT_EQ(with({"NextItem", "_Z10OpenMarkedPKc"}),
+              finding + "   \"_Z10OpenMarkedPKc\" is that function of C++; declare it extern \"C\"\n");
 }
 
-TEST(PartnerRules, TellOfALibraryThatNeedsAnotherOne)
+TEST(PartnerRules, FindALibraryThatCannotBeLoaded)
 {
     const TestFolder folder;
-    folder.Write("lytdata.dll", LibraryFile({"NextItem", "OpenMarked"}, machine64, {"kernel32.dll", "own.dll"}));
+    const auto with = [&](const std::string& bytes)
+    {
+        folder.Write("lytdata.dll", bytes);
+        return FindIn(filled, {folder.Path()}).text;
+    };
+    EXPECT_EQ(with(LibraryFile({"NextItem", "OpenMarked"}, machine32)),
+              library + "is no 64-bit library\n   build it for 64 bits\n");
+    EXPECT_EQ(with("a text"), library + "is no library, or is damaged\n   build it for 64 bits\n");
+
     folder.Write("own.dll", LibraryFile({"Own"}, machine64, {"libstdc++-6.dll", "lyt64.dll"}));
-    EXPECT_EQ(
-        TextsOfFindings(filled, {folder.Path()}),
-        "example.dlg:45:23: warning partner-form: lytdata.dll cannot be loaded: it needs libstdc++-6.dll, which "
-        "Windows does not find\n"
-        "        Parts = FILLEDBY, lytdata, OpenMarked, NextItem\n"
-        "                          ^~~~~~~\n"
-        "    hint: link it statically, so that it needs nothing but Windows, or copy what it needs beside the word "
-        "processor's program\n");
+    const std::string needy = LibraryFile({"NextItem", "OpenMarked"}, machine64, {"kernel32.dll", "own.dll"});
+    EXPECT_EQ(with(needy), library +
+                               "cannot be loaded: it needs libstdc++-6.dll, which Windows does not find\n   link it "
+                               "statically, so that it needs nothing but Windows, or copy what it needs beside the "
+                               "word processor's program\n");
     folder.Write("libstdc++-6.dll", LibraryFile({"Throw"}));
-    EXPECT_EQ(TextsOfFindings(filled, {folder.Path()}), "");
-}
-
-TEST(PartnerRules, KnowTheFunctionsOfCppByTheirDecoratedNames)
-{
-    const TestFolder folder;
-    folder.Write("lytdata.dll", LibraryFile({"_Z8NextItemPciS_i", "?OpenMarked@@YAXPEBD@Z"}));
-    const std::string found = TextsOfFindings(filled, {folder.Path()});
-    for (const char* hint : {"hint: \"_Z8NextItemPciS_i\" is that function of C++; declare it extern \"C\"\n",
-                             "hint: \"?OpenMarked@@YAXPEBD@Z\" is that function of C++; declare it extern \"C\"\n"})
-        EXPECT_NE(found.find(hint), std::string::npos) << found;
-}
-
-TEST(PartnerRules, TellOfALibraryThatCannotBeLoaded)
-{
-    const TestFolder folder;
-    folder.Write("lytdata.dll", LibraryFile({"NextItem", "OpenMarked"}, machine32));
-    EXPECT_EQ(TextsOfFindings(filled, {folder.Path()}),
-              R"(example.dlg:45:23: warning partner-form: lytdata.dll is no 64-bit library
-        Parts = FILLEDBY, lytdata, OpenMarked, NextItem
-                          ^~~~~~~
-    hint: build it for 64 bits
-)");
-    folder.Write("lytdata.dll", "a text");
-    EXPECT_EQ(TextsOfFindings(filled, {folder.Path()}),
-              R"(example.dlg:45:23: warning partner-form: lytdata.dll is no library, or is damaged
-        Parts = FILLEDBY, lytdata, OpenMarked, NextItem
-                          ^~~~~~~
-    hint: build it for 64 bits
-)");
-}
-
-TEST(PartnerRules, TellOfAFunctionThatALibraryDoesNotHave)
-{
-    const TestFolder folder;
-    folder.Write("lytdata.dll", LibraryFile({"NextItem", "OpenMarkd"}));
-    EXPECT_EQ(TextsOfFindings(filled, {folder.Path()}),
-              R"(example.dlg:45:32: warning partner-function: lytdata.dll has no function "OpenMarked"
-        Parts = FILLEDBY, lytdata, OpenMarked, NextItem
-                                   ^~~~~~~~~~
-    hint: did you mean "OpenMarkd"?
-)");
-}
-
-TEST(PartnerRules, KnowTheFunctionsOfTheLibraryItself)
-{
-    EXPECT_EQ(TextsOfFindings("$VALUES\n    Parts = FILLEDBY, lyt64, lytListFromIniStart, lytListFromIniNxt"),
-              R"(example.dlg:45:51: warning partner-function: lyt64.dll has no function "lytListFromIniNxt"
-        Parts = FILLEDBY, lyt64, lytListFromIniStart, lytListFromIniNxt
-                                                      ^~~~~~~~~~~~~~~~~
-    hint: did you mean "lytListFromIniNext"?
-)");
-}
-
-TEST(PartnerRules, TellOfTwoLibrariesForControlsOfOneType)
-{
-    EXPECT_EQ(
-        TextsOfFindings("$VALUES\n    Form = FILLEDBY, lytdata, Open, Next\n    Place = FILLEDBY, other, Open, Next"),
-        R"(example.dlg:46:23: warning partner-shared: "Form" in line 45 names lytdata.dll, and controls of one type share a library
-        Place = FILLEDBY, other, Open, Next
-                          ^~~~~
-    hint: put the functions into one library
-)");
+    EXPECT_EQ(with(needy), "");
 }
