@@ -17,7 +17,7 @@ if(NOT CMAKE_SCRIPT_MODE_FILE)
   return()
 endif()
 
-# What the statements with a class of their own stand for.
+# The class and style of a statement that names none.
 set(class_DEFPUSHBUTTON Button)
 set(style_DEFPUSHBUTTON "BS_DEFPUSHBUTTON | WS_TABSTOP")
 set(class_PUSHBUTTON Button)

@@ -35,7 +35,7 @@ public:
     unsigned Unsigned() { return static_cast<unsigned>(LongNumber()); }
     unsigned long long Bytes() { return static_cast<unsigned long long>(LongNumber()); }
     bool Truth() { return Line() == "1"; }
-    // An empty line stands for nothing.
+    // An empty line has no meaning.
     std::optional<CString> MaybeText()
     {
         const CString text = Text();

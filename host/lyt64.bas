@@ -1,7 +1,7 @@
 Attribute VB_Name = "lyt64"
 ' The functions of lyt64.dll for the macros of a template.
 '
-' Put lyt64.dll into a folder of its own, import this module into the template, and tell it the folder: at run time,
+' Put lyt64.dll into a separate folder, import this module into the template, and tell it the folder: at run time,
 ' by LytUseFolder, or below, in DefaultFolder. The library is loaded from there by its full path, so that no folder is
 ' changed and PATH does not matter. Then
 '
@@ -13,7 +13,7 @@ Attribute VB_Name = "lyt64"
 '
 ' The functions whose names begin with "Lyt" and a capital letter size their buffers themselves. What cannot be done
 ' is an error with a number of LytError and a text that says what to do. If the library itself does not answer (errors
-' 48, 53 and 453), MsgBox LytDiagnose says why. The functions below them are those of the library, as
+' 48, 53 and 453), MsgBox LytDiagnose says why. The functions below them are the library's, as
 ' docs/exports.md tells; lytWizard is declared as lytWizardNext, since macros do not tell small letters from capitals.
 '
 ' The macro editor writes a word alike everywhere in the template. So no name in this module is also the name of something

@@ -17,7 +17,7 @@ constexpr const char* help =
     "nanoseconds that each took in each round. Without a name, all works. `./measure` reads the lines.\n"
     "\n"
     "  --list        print the names of the works instead\n"
-    "  --seconds S   how long to go on with a work, all sizes together (default 2)\n";
+    "  --seconds S   how long to repeat a work, all sizes together (default 2)\n";
 
 constexpr int fewestRounds = 3;
 constexpr int mostRounds = 201;

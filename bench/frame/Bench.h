@@ -15,7 +15,7 @@ struct BenchSeries
     std::function<void()> before = {};
 };
 
-// Times series in turn, so that whatever else the machine does falls on all of them alike.
+// Times series in turn, so that anything else the machine does affects all of them alike.
 class BenchMeter
 {
 public:

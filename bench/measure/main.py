@@ -13,7 +13,7 @@ import works
 from trees import ROOT, SCRATCH, Revision, Tree, WineServer
 
 DOCS = ROOT / "docs"
-# Runs of each work, and for how many seconds a run goes on.
+# Runs of each work, and how many seconds a run takes.
 WHOLE = (4, 3.0)
 QUICK = (1, 0.2)
 

@@ -93,7 +93,7 @@ def rivals_section(works, summary):
                 place = f'{int(max(sizes, key=int)):,} {work["unit"]}' if "unit" in work else ""
                 how = brackets(one["ratios"][series]) + " ×" if kind == "rivals" else f"{100 * other / ours:.0f} % of it"
                 rows.append([title(work), place, time_text(ours), f"*{series}*: {words}", time_text(other), how])
-    return ("## The rivals, and what the library is told to do\n\n"
+    return ("## The rivals, and what the library has to do\n\n"
             "Each rival at the largest size that it is measured in, with the ratio to it. Below it are the parts that the library\n"
             "has to do and that the rivals do as well, with their share of its time.\n\n" +
             table(["work", ":size", ":time", "beside it", ":its time", ":the library"], rows))

@@ -60,7 +60,7 @@ class Tree:
 
 
 class Revision(Tree):
-    """Another revision, in a work tree of its own while it is needed, with the benches of this one."""
+    """Another revision, in a separate work tree while it is needed, with the benches of this one."""
 
     def __init__(self, revision):
         super().__init__(revision, SCRATCH / "revision")

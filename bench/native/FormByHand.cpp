@@ -68,7 +68,7 @@ FormByHand::FormByHand(const LiveForm& form, const char* description, Entries en
     std::smatch found;
     std::regex_search(content, found, std::regex("\\$LAYOUT (\\w+)"));
     m_section = found[1];
-    // The labels of the layout and the named items of lists; what else stands in quotes or after a colon is no key.
+    // The labels of the layout and the named items of lists; anything else in quotes or after a colon is not a key.
     const std::regex keys("\"(\\w+)\"|: (\\w+) =");
     for (std::sregex_iterator key(content.begin(), content.end(), keys), end; key != end; ++key)
     {

@@ -39,7 +39,7 @@ int Comb(int number)
     return number % 1000;
 }
 
-// Each entry stands nearer the root than the one before, so that none has a parent.
+// Each entry is nearer the root than the one before, so that none has a parent.
 int Falling(int number)
 {
     return -number;

@@ -62,7 +62,7 @@ void Fill(char* buffer, int size, const std::string& text)
     text.copy(buffer, room);
 }
 
-// The parameter is the list: its items stand between the marks that a check list writes.
+// The parameter is the list: its items are between the marks that a check list writes.
 void OpenList(const char* parameter)
 {
     itemsLeft = std::string(parameter) + "|one|Xtwo";
@@ -96,7 +96,7 @@ int LookUpLong(const char* /*parameter*/, char* text, int size)
     return 1;
 }
 
-// A library has functions of one kind, whatever name they are asked for by: a description that took one for one of another
+// A library has functions of one kind, under any name they are asked for by: a description that took one for one of another
 // kind would break any program.
 class Partners : public ClytOwnLibraries
 {
@@ -139,7 +139,7 @@ private:
     {
         return reinterpret_cast<FARPROC>(reinterpret_cast<void*>(function));
     }
-    // A fill asks for the function that starts the listing, and then for the one that goes on.
+    // A fill asks for the function that starts the listing, and then for the one that continues it.
     FARPROC FindOfList()
     {
         m_isNextDue = !m_isNextDue;

@@ -1,4 +1,4 @@
-// The partner libraries that the descriptions of the samples name, with what an input gives them to deliver. They stand in
+// The partner libraries that the descriptions of the samples name, with what an input gives them to deliver. They are in
 // the places of the samples' own, which read files.
 #pragma once
 

@@ -38,7 +38,7 @@ std::vector<fs::path> FilesIn(const fs::path& folder)
     return files;
 }
 
-// The name stands in the output before what a sanitizer prints of the input.
+// The name is in the output before what a sanitizer prints of the input.
 void ReplayFile(const Fuzzer& fuzzer, const fs::path& file)
 {
     std::printf("%s\n", file.string().c_str());

@@ -33,7 +33,7 @@ void Use(LiveForm& form)
     for (POSITION place = form.GetControlList().GetHeadPosition(); place != nullptr;)
     {
         ClytControl& control = *form.GetControlList().GetNext(place);
-        // A button may call a library that shows a dialog of its own, which no one would close.
+        // A button may call a library that shows its own dialog, which no one would close.
         if (dynamic_cast<ClytPushButtonControl*>(&control) == nullptr)
             Act([&] { form.Enter(control, "1"); });
     }

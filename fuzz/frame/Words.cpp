@@ -10,7 +10,7 @@
 namespace
 {
 
-// What no table holds: words that stand at one place of the reader, formats, keys of `lyt.ini`, texts with a meaning.
+// What no table holds: words that occur at one place of the reader, formats, keys of `lyt.ini`, texts with a meaning.
 constexpr const char* furtherWords[] = {
     "Begin Dialog",
     "End Dialog",

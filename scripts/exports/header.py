@@ -43,13 +43,13 @@ def comment(doc: str) -> str:
     after_list = False
     for block in blocks(doc):
         is_list = not isinstance(block, str)
-        # A list belongs to the paragraph above it, and what follows it goes on with that.
+        # A list belongs to the paragraph above it, and what follows continues it.
         if lines and not is_list and not after_list:
             lines.append(margin.rstrip())
         lines += _listed(block, margin) if is_list else _filled(block, margin, margin)
         after_list = is_list
     lines[0] = f"{INDENT}/* " + lines[0].removeprefix(margin)
-    # No line of its own for the end, unless the last is full.
+    # No separate line for the end, unless the last is full.
     if len(lines[-1]) + 3 > WIDTH:
         return "\n".join(lines) + f"\n{INDENT} */"
     return "\n".join(lines) + " */"

@@ -137,7 +137,7 @@ def _judge(functions: tuple[Function, ...]) -> None:
     names = [function.name for function in functions]
     for before, function in zip((None, *functions), functions):
         if names.count(function.name) > 1:
-            raise TableError(f"{function.name} stands there twice")
+            raise TableError(f"{function.name} is there twice")
         if function.alias and function.alias not in names:
             raise TableError(f"{function.name}: there is no function {function.alias} to be the same as")
         if bool(function.doc) == bool(function.covered_by):
