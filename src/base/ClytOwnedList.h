@@ -1,7 +1,7 @@
 // A list that owns its records: what leaves it without a new owner is deleted.
 #pragma once
 
-#include <afxtempl.h>
+#include "base/Iteration.h"
 
 #include <memory>
 

@@ -24,8 +24,8 @@ ClytOptionGroup::~ClytOptionGroup()
 {
     if (CurrentOptionGroup == this)
         CurrentOptionGroup = nullptr;
-    for (POSITION place = buttons.GetHeadPosition(); place != nullptr;)
-        buttons.GetNext(place)->JoinGroup(nullptr);
+    for (ClytRadioButtonControl& button : buttons)
+        button.JoinGroup(nullptr);
 }
 
 int ClytOptionGroup::TakeFirstOfGroup()
@@ -69,8 +69,8 @@ void ClytOptionGroup::CreateControl(ClytForm* owner)
     {
         if (option.isSet == 0)
             continue;
-        for (POSITION place = buttons.GetHeadPosition(); place != nullptr;)
-            buttons.GetNext(place)->TakeGroupOption(option.meaning);
+        for (ClytRadioButtonControl& button : buttons)
+            button.TakeGroupOption(option.meaning);
         return;
     }
 }
@@ -79,16 +79,16 @@ void ClytOptionGroup::SetOption(const CStringList& values, const CString& /*keyw
 {
     if (TakeCommonOption(values.GetHead()) != 0)
         return;
-    for (POSITION place = buttons.GetHeadPosition(); place != nullptr;)
-        buttons.GetNext(place)->Preselect(values.GetHead());
+    for (ClytRadioButtonControl& button : buttons)
+        button.Preselect(values.GetHead());
 }
 
 void ClytOptionGroup::SetValue(const CString& value)
 {
     if (value.IsEmpty() || buttons.IsEmpty())
         return;
-    for (POSITION place = buttons.GetHeadPosition(); place != nullptr;)
-        buttons.GetNext(place)->Mark(value);
+    for (ClytRadioButtonControl& button : buttons)
+        button.Mark(value);
     PlaceTabStop();
 }
 
@@ -100,19 +100,18 @@ CString ClytOptionGroup::GetValue()
 
 ClytRadioButtonControl* ClytOptionGroup::Checked() const
 {
-    for (POSITION place = buttons.GetHeadPosition(); place != nullptr;)
+    for (ClytRadioButtonControl& button : buttons)
     {
-        ClytRadioButtonControl* button = buttons.GetNext(place);
-        if (button->GetCheck() != BST_UNCHECKED)
-            return button;
+        if (button.GetCheck() != BST_UNCHECKED)
+            return &button;
     }
     return nullptr;
 }
 
 void ClytOptionGroup::Choose(const ClytRadioButtonControl& chosen)
 {
-    for (POSITION place = buttons.GetHeadPosition(); place != nullptr;)
-        buttons.GetNext(place)->YieldTo(chosen);
+    for (ClytRadioButtonControl& button : buttons)
+        button.YieldTo(chosen);
     PlaceTabStop();
 }
 
@@ -131,6 +130,6 @@ void ClytOptionGroup::PlaceTabStop()
 void ClytOptionGroup::SetState(const ClytStateWord& word, int on)
 {
     active = on != 0 ? 1 : 0;
-    for (POSITION place = buttons.GetHeadPosition(); place != nullptr;)
-        buttons.GetNext(place)->SetState(word, on);
+    for (ClytRadioButtonControl& button : buttons)
+        button.SetState(word, on);
 }

@@ -134,8 +134,8 @@ void ClytDialog::ApplyInput(const CString& partName)
     Scan(*part, lytInputKey);
     // Emptied, so that no nested dialog scans the same text.
     lytInputKey.Empty();
-    for (POSITION place = controlList.GetHeadPosition(); place != nullptr;)
-        controlList.GetNext(place)->SaveState();
+    for (ClytControl& control : controlList)
+        control.SaveState();
 }
 
 int ClytDialog::RunInput(const CString& partName, const CString& text)
@@ -171,15 +171,14 @@ BOOL ClytDialog::OnCommand(WPARAM wParam, LPARAM lParam)
 
 const ClytControlDep* ClytDialog::FindDefaultButtonRule(const CString& focusName) const
 {
-    for (POSITION place = dependencyList.GetHeadPosition(); place != nullptr;)
+    for (const ClytControlDep& rule : dependencyList)
     {
-        const ClytControlDep* rule = dependencyList.GetNext(place);
-        if (rule->stateWord.GetMeaning() != ClytState::DefButton)
+        if (rule.stateWord.GetMeaning() != ClytState::DefButton)
             continue;
-        for (POSITION at = rule->conditions.GetHeadPosition(); at != nullptr;)
+        for (const ClytCtrlValList& condition : rule.conditions)
         {
-            if (rule->conditions.GetNext(at)->GetName() == focusName)
-                return rule;
+            if (condition.GetName() == focusName)
+                return &rule;
         }
     }
     return nullptr;

@@ -81,11 +81,10 @@ int LengthAtMost(const CString& format, const CStringArray& items)
 const ClytDialogOutput* ClytDialog::SelectRule(const ClytOutput& group)
 {
     const ClytDialogOutput* chosen = nullptr;
-    for (POSITION place = group.rules.GetHeadPosition(); place != nullptr && chosen == nullptr;)
+    for (const ClytDialogOutput& rule : group.rules)
     {
-        const ClytDialogOutput* rule = group.rules.GetNext(place);
-        if (HoldsForOutput(*rule))
-            chosen = rule;
+        if (chosen == nullptr && HoldsForOutput(rule))
+            chosen = &rule;
     }
     lytTell(&ClytObserver::OutputChosen, chosen);
     return chosen;

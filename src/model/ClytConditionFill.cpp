@@ -4,17 +4,16 @@
 
 void ClytConditionFill::Bind(const ClytControlMap& controls)
 {
-    for (POSITION place = fills.GetHeadPosition(); place != nullptr;)
-        fills.GetNext(place)->Bind(controls);
+    for (ClytControlFill& fill : fills)
+        fill.Bind(controls);
 }
 
 int ClytConditionFill::Apply(const CString& piece) const
 {
     if (!Holds(piece))
         return 0;
-    for (POSITION place = fills.GetHeadPosition(); place != nullptr;)
+    for (const ClytControlFill& fill : fills)
     {
-        const ClytControlFill& fill = *fills.GetNext(place);
         if (!fill.controlName.IsEmpty())
             fill.Apply(piece);
     }
@@ -25,9 +24,9 @@ bool ClytConditionFill::Holds(const CString& piece) const
 {
     if (values.IsEmpty())
         return true;
-    for (POSITION place = values.GetHeadPosition(); place != nullptr;)
+    for (const CString& value : values)
     {
-        if (lytSameWord(values.GetNext(place), piece))
+        if (lytSameWord(value, piece))
             return true;
     }
     return false;

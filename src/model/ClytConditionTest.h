@@ -33,9 +33,8 @@ bool lytHoldsAtEnd(ClytRuleKind kind);
 template <class TELL>
 bool lytConditionsHold(const ClytConditions& conditions, ClytRuleKind kind, TELL tell)
 {
-    for (POSITION place = conditions.GetHeadPosition(); place != nullptr;)
+    for (const ClytCtrlValList& condition : conditions)
     {
-        const ClytCtrlValList& condition = *conditions.GetNext(place);
         const ClytTested result = lytTest(condition, kind);
         tell(condition, result);
         const ClytVerdict verdict = lytVerdictOf(kind, result);

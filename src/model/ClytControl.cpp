@@ -119,9 +119,9 @@ int ClytControl::HasValueIn(const CStringList& values)
     if (values.IsEmpty())
         return 0;
     const CString value = GetValue();
-    for (POSITION place = values.GetHeadPosition(); place != nullptr;)
+    for (const CString& listed : values)
     {
-        if (lytSameWord(values.GetNext(place), value))
+        if (lytSameWord(listed, value))
             return 1;
     }
     return 0;

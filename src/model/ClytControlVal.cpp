@@ -1,5 +1,7 @@
 #include "model/ClytControlVal.h"
 
+#include "base/Iteration.h"
+
 void ClytControlVal::Set(const CString& word, const CStringList& statementValues, const ClytSpan& place)
 {
     keyword = word;
@@ -7,6 +9,6 @@ void ClytControlVal::Set(const CString& word, const CStringList& statementValues
     if (&statementValues == &values)
         return;
     values.RemoveAll();
-    for (POSITION value = statementValues.GetHeadPosition(); value != nullptr;)
-        values.AddTail(statementValues.GetNext(value));
+    for (const CString& value : statementValues)
+        values.AddTail(value);
 }

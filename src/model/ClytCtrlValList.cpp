@@ -11,8 +11,8 @@ void ClytCtrlValList::CopyFrom(const ClytCtrlValList& other)
     control = other.control;
     asksForContent = other.asksForContent;
     values.RemoveAll();
-    for (POSITION place = other.values.GetHeadPosition(); place != nullptr;)
-        values.AddTail(other.values.GetNext(place));
+    for (const CString& value : other.values)
+        values.AddTail(value);
 }
 
 void ClytCtrlValList::Bind(const ClytControlMap& controls)
@@ -24,9 +24,8 @@ void ClytCtrlValList::Bind(const ClytControlMap& controls)
 
 int ClytCtrlValList::Contains(const CString& value) const
 {
-    for (POSITION place = values.GetHeadPosition(); place != nullptr;)
+    for (const CString& listed : values)
     {
-        const CString& listed = values.GetNext(place);
         if (listed == value || (value.IsEmpty() && lytMeans<ClytValueWord::Null>(listed)))
             return 1;
     }
@@ -35,6 +34,6 @@ int ClytCtrlValList::Contains(const CString& value) const
 
 void lytBindConditions(const ClytConditions& conditions, const ClytControlMap& controls)
 {
-    for (POSITION place = conditions.GetHeadPosition(); place != nullptr;)
-        conditions.GetNext(place)->Bind(controls);
+    for (ClytCtrlValList& condition : conditions)
+        condition.Bind(controls);
 }

@@ -28,9 +28,8 @@ const ClytDialogInput* ClytInputPart::Find(const CString& name) const
 void ClytInputPart::Bind(const ClytControlMap& controls)
 {
     const auto bind = [this](ClytTarget& target) { BindTarget(target); };
-    for (POSITION place = statements.GetHeadPosition(); place != nullptr;)
+    for (ClytDialogInput& statement : statements)
     {
-        ClytDialogInput& statement = *statements.GetNext(place);
         statement.Bind(controls);
         statement.scanRule.scan.BindTargets(bind);
         bind(statement.trueTarget);

@@ -4,11 +4,10 @@
 
 const ClytSeparator* ClytScan::FindSeparator(const char* rest) const
 {
-    for (POSITION place = separators.GetHeadPosition(); place != nullptr;)
+    for (const ClytSeparator& separator : separators)
     {
-        const ClytSeparator* separator = separators.GetNext(place);
-        if (std::strncmp(rest, separator->text, static_cast<size_t>(separator->text.GetLength())) == 0)
-            return separator;
+        if (std::strncmp(rest, separator.text, static_cast<size_t>(separator.text.GetLength())) == 0)
+            return &separator;
     }
     return nullptr;
 }
@@ -16,9 +15,8 @@ const ClytSeparator* ClytScan::FindSeparator(const char* rest) const
 const ClytTarget& ClytScan::TargetOf(const char* separatorText) const
 {
     static const ClytTarget none;
-    for (POSITION place = separators.GetHeadPosition(); place != nullptr;)
+    for (const ClytSeparator& separator : separators)
     {
-        const ClytSeparator& separator = *separators.GetNext(place);
         if (separator.text == separatorText)
             return separator.target;
     }

@@ -22,8 +22,8 @@ public:
     void BindTargets(BIND bind)
     {
         bind(target);
-        for (POSITION place = separators.GetHeadPosition(); place != nullptr;)
-            bind(separators.GetNext(place)->target);
+        for (ClytSeparator& separator : separators)
+            bind(separator.target);
     }
 
     // The later of the two kinds of entry decides: a separator wipes an earlier fixed length.

@@ -2,15 +2,13 @@
 
 void ClytScanRule::Bind(const ClytControlMap& controls)
 {
-    for (POSITION place = rules.GetHeadPosition(); place != nullptr;)
-        rules.GetNext(place)->Bind(controls);
+    for (ClytConditionFill& rule : rules)
+        rule.Bind(controls);
 }
 
 void ClytScanRule::ApplyFills(const CString& piece) const
 {
-    for (POSITION place = rules.GetHeadPosition(); place != nullptr;)
-    {
-        if (rules.GetNext(place)->Apply(piece) == 0 && place != nullptr)
-            rules.GetNext(place);
-    }
+    bool isLeftOut = false;
+    for (const ClytConditionFill& rule : rules)
+        isLeftOut = !isLeftOut && rule.Apply(piece) == 0;
 }

@@ -5,11 +5,8 @@
 
 void lytRestoreCurrentNode(ClytNodeList& nodes)
 {
-    for (POSITION position = nodes.GetHeadPosition(); position != nullptr;)
-    {
-        ClytNode* node = nodes.GetNext(position);
-        node->m_nCurrent = node->m_nInitial == 1 ? 1 : 0;
-    }
+    for (ClytNode& node : nodes)
+        node.m_nCurrent = node.m_nInitial == 1 ? 1 : 0;
 }
 
 void lytRestoreTreeChoice()

@@ -216,11 +216,8 @@ void ClytTreeDialog::StoreSize() const
 
 void ClytTreeDialog::StoreItemStates()
 {
-    for (POSITION position = m_nodes.GetHeadPosition(); position != nullptr;)
-    {
-        ClytNode* node = m_nodes.GetNext(position);
-        node->m_nItemState = m_treeCtrl.GetItemState(node->m_hItem, TVIS_EXPANDED);
-    }
+    for (ClytNode& node : m_nodes)
+        node.m_nItemState = m_treeCtrl.GetItemState(node.m_hItem, TVIS_EXPANDED);
 }
 
 void ClytTreeDialog::OnSize(UINT kind, int width, int height)

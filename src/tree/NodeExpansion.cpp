@@ -23,16 +23,15 @@ HTREEITEM lytExpandNodes(const ClytNodeList& nodes, const ClytExpansion& expansi
 
     const long long levels = expansion.treeLevels != 0 ? expansion.treeLevels : levelsWithoutValue;
     HTREEITEM pending = expansion.byLevels && expansion.selectKey.IsEmpty() ? items.GetRootItem() : nullptr;
-    for (POSITION position = nodes.GetHeadPosition(); position != nullptr;)
+    for (const ClytNode& node : nodes)
     {
-        const ClytNode* node = nodes.GetNext(position);
-        if (expansion.byLevels ? node->m_nLevel < levels - 1 : WasLeftOpen(*node))
-            items.ExpandItem(node->m_hItem);
+        if (expansion.byLevels ? node.m_nLevel < levels - 1 : WasLeftOpen(node))
+            items.ExpandItem(node.m_hItem);
 
         // A later entry with the key overrides an earlier one.
-        const bool wanted = !expansion.selectKey.IsEmpty() && expansion.selectKey == node->m_szKey;
-        if (wanted || (pending == nullptr && node->m_nCurrent == 1))
-            pending = node->m_hItem;
+        const bool wanted = !expansion.selectKey.IsEmpty() && expansion.selectKey == node.m_szKey;
+        if (wanted || (pending == nullptr && node.m_nCurrent == 1))
+            pending = node.m_hItem;
     }
     return pending;
 }

@@ -127,13 +127,12 @@ void lytFillFromSource(ClytNodeList& nodes, const ClytTreeSource& source, ClytTr
 void lytFillFromList(ClytNodeList& nodes, ClytTreeItems& items, char kind)
 {
     ClytAncestors ancestors;
-    for (POSITION position = nodes.GetHeadPosition(); position != nullptr;)
+    for (ClytNode& node : nodes)
     {
-        ClytNode* node = nodes.GetNext(position);
-        const HTREEITEM parent = ancestors.lytFindParentItem(node->m_nLevel);
-        ancestors.Add(node->m_nLevel, node);
+        const HTREEITEM parent = ancestors.lytFindParentItem(node.m_nLevel);
+        ancestors.Add(node.m_nLevel, &node);
 
-        const bool shown = kind != 'G' || node->m_cType == 'G' || node->m_cType == 'H';
-        node->m_hItem = shown ? Show(*node, parent, items, ImageOf(node->m_cType)) : nullptr;
+        const bool shown = kind != 'G' || node.m_cType == 'G' || node.m_cType == 'H';
+        node.m_hItem = shown ? Show(node, parent, items, ImageOf(node.m_cType)) : nullptr;
     }
 }

@@ -10,22 +10,18 @@ namespace
 template <class Condition>
 const ClytNode* FindFirst(const ClytNodeList& nodes, Condition condition)
 {
-    for (POSITION position = nodes.GetHeadPosition(); position != nullptr;)
+    for (const ClytNode& node : nodes)
     {
-        const ClytNode* node = nodes.GetNext(position);
-        if (condition(*node))
-            return node;
+        if (condition(node))
+            return &node;
     }
     return nullptr;
 }
 
 void Mark(ClytNodeList& nodes, int ClytNode::*mark, const ClytNode* marked)
 {
-    for (POSITION position = nodes.GetHeadPosition(); position != nullptr;)
-    {
-        ClytNode* node = nodes.GetNext(position);
-        node->*mark = node == marked ? 1 : 0;
-    }
+    for (ClytNode& node : nodes)
+        node.*mark = &node == marked ? 1 : 0;
 }
 
 } // namespace
@@ -46,15 +42,14 @@ const ClytNode* lytFindNode(const ClytNodeList& nodes, char kind, const char* te
 {
     const size_t length = std::strlen(text);
     ClytAncestors nearest; // for each node above: where a climb from it ends
-    for (POSITION position = nodes.GetHeadPosition(); position != nullptr;)
+    for (const ClytNode& node : nodes)
     {
-        const ClytNode* node = nodes.GetNext(position);
-        const ClytNode* above = nearest.FindAbove(node->m_nLevel);
-        const ClytNode* climbed = node->m_cType == kind ? node : above;
-        nearest.Add(node->m_nLevel, climbed);
+        const ClytNode* above = nearest.FindAbove(node.m_nLevel);
+        const ClytNode* climbed = node.m_cType == kind ? &node : above;
+        nearest.Add(node.m_nLevel, climbed);
 
         const bool named =
-            kind == 'G' ? std::strcmp(text, node->m_szKey) == 0 : std::strncmp(text, node->m_szKey, length) == 0;
+            kind == 'G' ? std::strcmp(text, node.m_szKey) == 0 : std::strncmp(text, node.m_szKey, length) == 0;
         if (named && climbed != nullptr)
             return climbed;
     }

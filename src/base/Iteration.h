@@ -1,0 +1,54 @@
+// Lets a range-based loop go over a list of the class library: for (const CString& text : texts). A list of pointers gives
+// what they point to. The element that the loop has reached must not be removed.
+#pragma once
+
+#include <afxtempl.h>
+
+#include <type_traits>
+
+template <class LIST>
+class ClytIterator
+{
+public:
+    ClytIterator(const LIST& list, POSITION position) : m_list(list), m_position(position) {}
+
+    decltype(auto) operator*() const
+    {
+        if constexpr (std::is_pointer_v<decltype(m_list.GetAt(m_position))>)
+            return *m_list.GetAt(m_position);
+        else
+            return m_list.GetAt(m_position);
+    }
+    ClytIterator& operator++()
+    {
+        m_list.GetNext(m_position);
+        return *this;
+    }
+    bool operator!=(const ClytIterator& other) const { return m_position != other.m_position; }
+
+private:
+    const LIST& m_list;
+    POSITION m_position; // null at the end
+};
+
+inline ClytIterator<CStringList> begin(const CStringList& list)
+{
+    return {list, list.GetHeadPosition()};
+}
+
+inline ClytIterator<CStringList> end(const CStringList& list)
+{
+    return {list, nullptr};
+}
+
+template <class BASE_CLASS, class TYPE>
+ClytIterator<CTypedPtrList<BASE_CLASS, TYPE>> begin(const CTypedPtrList<BASE_CLASS, TYPE>& list)
+{
+    return {list, list.GetHeadPosition()};
+}
+
+template <class BASE_CLASS, class TYPE>
+ClytIterator<CTypedPtrList<BASE_CLASS, TYPE>> end(const CTypedPtrList<BASE_CLASS, TYPE>& list)
+{
+    return {list, nullptr};
+}
