@@ -19,7 +19,7 @@ namespace
 constexpr int constructionFailed = 3;
 
 // The length that gives a client area of the wanted length, when a window of the wanted length has this client area;
-// scaled and cut to an integer. No window is longer than the limit, whatever a description says.
+// scaled and cut to an integer. A description cannot make a window longer than the limit.
 int OuterLength(int wanted, int client, float factor)
 {
     constexpr float limit = 1 << 30;
@@ -37,18 +37,6 @@ ClytDialog::ClytDialog(CString descriptionFile, const CString& defineList)
     : CDialog(IDD_PROPERTIES), file(defineList), fileName(std::move(descriptionFile))
 {
     lytTreeConfirmCount = 0;
-}
-
-// Controls may look at rules, groups and parts as they go, so they go first.
-ClytDialog::~ClytDialog()
-{
-    controlList.RemoveAll();
-    sectionList.RemoveAll();
-    dependencyList.RemoveAll();
-    outputList.RemoveAll();
-    inputList.RemoveAll();
-    controlMap.RemoveAll();
-    outputMap.RemoveAll();
 }
 
 CString ClytDialog::GetTextSection() const
@@ -74,7 +62,7 @@ BOOL ClytDialog::OnInitDialog()
     }
     catch (...)
     {
-        // Whoever handles the message tells the user. Nothing could be done with half a dialog.
+        // The handler of the message reports the failure. Half a dialog is of no use.
         isOver = true;
         EndDialog(constructionFailed);
         throw;

@@ -34,10 +34,9 @@ using ClytInputMap = CTypedPtrMap<CMapStringToPtr, CString, ClytInputPart*>;
 class ClytDialog : public CDialog, public ClytForm
 {
 public:
-    // Opens nothing: the work happens inside DoModal, which gives 1 (OK), 2 (Cancel) or 3 (the construction failed and
-    // the user was told). Only after 1 is there a result.
+    // Opens nothing: the work happens inside DoModal, which gives 1 (OK), 2 (Cancel) or 3 (the construction failed, and
+    // a message was shown). There is a result only after 1.
     ClytDialog(CString descriptionFile, const CString& defineList);
-    ~ClytDialog() override;
 
     // Shows the description of that name from the dialog folder over an input text. Its result, when the user confirmed
     // it.
@@ -71,7 +70,7 @@ public:
     // target as it was, when no rule holds or an evaluation fails (its message is shown).
     [[nodiscard]] int ComposeOutput(const ClytOutput& group, CString& target, int check);
     int ComposeNamedOutput(const CString& groupName, CString& target) override;
-    // Puts the items into the format. A format without `%` is the result as it stands.
+    // Puts the items into the format. A format without `%` is the result itself.
     static CString FormatOutput(const CString& format, const CStringArray& items);
     // Turns `\n` and `\t` into a line feed or a tab and a blank, except at the very end of the text.
     static void ExpandEscapes(CString& text);
@@ -87,7 +86,7 @@ protected:
     BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
     // A statement of the layout has made a control.
     virtual void ControlMade(const ClytControl& /*control*/, const ClytControlStatement& /*statement*/) {}
-    // Tells the user why the construction failed.
+    // Shows why the construction failed.
     virtual void ShowFailure(CException& failure) { failure.ReportError(); }
     void OnCommandBegun() override;
     void OnCancel() override;
@@ -134,7 +133,7 @@ private:
     // scanned, while a failure of the rules is shown, when a value that the innermost run reads moved the focus, and when
     // runs are nested too deep. In the last case the innermost run repeats the one that it refuses.
     [[nodiscard]] bool CommandRunsRules();
-    // Called where a failure of the rules was caught: tells the user, once for each of his commands.
+    // Called where a failure of the rules was caught: reports it, once for each command of the user.
     void TellRuleFailure() noexcept;
     void RunPasses();
     // Nothing is done for a rule that has failed since the command of the user began. A failure is raised.
@@ -152,9 +151,8 @@ private:
 
     ClytDialogFile file;
     ClytControlMap controlMap;
-    ClytControlList controlList; // in layout order
     ClytOwnedList<ClytControlDep> dependencyList;
-    std::vector<ClytControl*> baselineControls; // those of the event rules' conditions, each once
+    std::vector<ClytControl*> baselineControls; // of the event rules' conditions, each once
     ClytOutputMap outputMap;
     ClytOwnedList<ClytOutput> outputList;
     ClytInputMap inputMap;
@@ -176,4 +174,6 @@ private:
     int readDepth = 0;           // reads of a control's value in progress
     int scanDepth = 0;           // scans in progress
     bool isOver = false;         // no rules run again: the construction failed, or the window is being destroyed
+    // In layout order. The last member, since controls may look at all others while they are destroyed.
+    ClytControlList controlList;
 };

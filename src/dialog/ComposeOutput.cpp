@@ -83,8 +83,10 @@ const ClytDialogOutput* ClytDialog::SelectRule(const ClytOutput& group)
     const ClytDialogOutput* chosen = nullptr;
     for (const ClytDialogOutput& rule : group.rules)
     {
-        if (chosen == nullptr && HoldsForOutput(rule))
-            chosen = &rule;
+        if (!HoldsForOutput(rule))
+            continue;
+        chosen = &rule;
+        break;
     }
     lytTell(&ClytObserver::OutputChosen, chosen);
     return chosen;
@@ -126,7 +128,7 @@ int ClytDialog::ComposeOutput(const ClytOutput& group, CString& target, int chec
     return 1;
 }
 
-// Controls that know no name of their own (OK and Cancel) give no value.
+// Controls without a name (OK and Cancel) give no value.
 CString ClytDialog::TakeItem(const ClytOutputItem& item)
 {
     const Counted read(readDepth);

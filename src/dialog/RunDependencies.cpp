@@ -18,11 +18,11 @@ int lytInputApplied = 0;
 namespace
 {
 
-// How deep runs may be nested. The platform delivers some sixty messages one inside the other and drops any beyond
-// that without a word. A run takes two of them or more, and the dialogs below this one have had theirs.
+// How deep runs may be nested. The platform delivers some sixty nested messages, and drops further ones silently. A run
+// takes at least two, and the dialogs below this one have taken some.
 constexpr int deepestRun = 10;
 
-// How many refused runs are repeated for one command of the user, so that rules that set each other off come to an end.
+// How many refused runs are repeated for one command of the user: rules may set each other off without end.
 constexpr int mostRepeatedRuns = 1000;
 
 // One pass over the rules.
@@ -56,9 +56,9 @@ public:
         lytTell(&ClytObserver::RunEnded, m_depth);
     }
 
-    // A value that was being read when the run began is not this run's concern.
+    // A read that was in progress when the run began does not count.
     bool IsReading() const { return m_owner.readDepth > m_readsBefore; }
-    // False when no run fits inside this one; the one that wanted to is remembered.
+    // False when no further run may be nested in this one; the refusal is remembered.
     bool Admits()
     {
         m_hasRefused = m_depth >= deepestRun;
@@ -72,7 +72,7 @@ public:
 
 private:
     ClytDialog& m_owner;
-    Run* m_outer; // lives longer
+    Run* m_outer; // outlives this one
     int m_depth;
     int m_readsBefore; // reads in progress when the run began
     bool m_hasRefused = false;
@@ -106,8 +106,8 @@ bool ClytDialog::RunRules()
     return !command.hasFailed;
 }
 
-// The message takes the focus and gives it back, which is a command, too. The rules would fail in that one again, and so
-// on without an end: no rules run until the message is closed.
+// The message takes the focus and gives it back, which is another command. The rules would fail in it again, without end:
+// so none run until the message is closed.
 void ClytDialog::TellRuleFailure() noexcept
 {
     command.hasFailed = true;
@@ -166,7 +166,7 @@ void ClytDialog::RunPasses()
         POSITION& nextRule = passes.back().nextRule;
         if (nextRule == nullptr)
         {
-            // What a failed rule was to act on stays a change, so that the next command tries it again.
+            // After a failure the changes remain, so that the next command tries the rule again.
             if (!command.hasFailed)
                 SaveBaseline();
             passes.pop_back();
@@ -212,8 +212,8 @@ void ClytDialog::RunRule(ClytControlDep& rule)
     rule.GetControl()->SetState(rule.stateWord, on);
 }
 
-// What a rule does to its control sends commands, and so further runs take place inside this one. An event rule that
-// is being carried out is left out of them, or a field that fills itself would never come to an end.
+// A rule's action sends commands, which start further runs inside this one. These leave out an event rule that is being
+// carried out; otherwise a field that fills itself would never stop.
 void ClytDialog::RunEventRule(ClytControlDep& rule)
 {
     const bool isInProgress = rule.runCount != 0;
@@ -229,5 +229,5 @@ void ClytDialog::RunEventRule(ClytControlDep& rule)
 int ClytDialog::AllConditionsHold(const ClytControlDep& rule)
 {
     const Counted read(readDepth);
-    return rule.AllHold() != 0 ? 1 : 0;
+    return rule.AllHold();
 }

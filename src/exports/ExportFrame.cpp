@@ -10,8 +10,8 @@ namespace
 
 HMODULE lytLibrary = nullptr;
 
-// A companion library may stand beside the host. Nothing reads the handle, and a failed load is tried again by the
-// next call. What the companion does when it is loaded is its own affair, but the host must not notice.
+// There may be a companion library beside the host. Nothing reads the handle, and the next call tries a failed load again.
+// The companion may do anything when it is loaded; what the host would see of it is undone.
 void LoadCompanion()
 {
     if (lytLibrary != nullptr)
@@ -30,8 +30,8 @@ HostState::~HostState()
         SetCursor(m_cursor);
     if (GetFocus() == m_focus)
         return;
-    // A host without a focus gets none. If it had no active window either and has one at the end, the user has come to
-    // it meanwhile, and without the focus that window would not hear the keyboard.
+    // A host without a focus gets none. But if it had no active window and has one now, the user has switched to that
+    // window, which needs the focus to get the keys.
     const bool isToBeRestored = m_focus != nullptr ? IsWindow(m_focus) != FALSE : GetActiveWindow() == m_active;
     if (isToBeRestored)
         SetFocus(m_focus);

@@ -6,7 +6,7 @@
 #include <afx.h>
 #include <afxstat_.h>
 
-// Cursor and focus of the host, which are the same again when the object dies.
+// Restores the cursor and the focus of the host when it is destroyed.
 class HostState
 {
 public:
@@ -69,5 +69,5 @@ void CopyTextMarkingEnd(char* buffer, int size, const char* text);
 // Copies a text out and answers 1 when the buffer then holds one, else 0.
 int CopyOut(char* buffer, int size, const char* text);
 
-// What stands in a caller's buffer, read up to its NUL and never beyond its size.
+// The text in a caller's buffer, up to its NUL and never beyond its size.
 CString TextIn(const char* buffer, int size);

@@ -1,4 +1,5 @@
-// Every process-wide object, in one file, so that they are constructed in this order and destroyed in the reverse one.
+// The process-wide objects with a constructor or destructor, in one file: they are constructed in this order and destroyed
+// in the reverse one.
 #include "environment/ClytEnvironment.h"
 #include "environment/ProcessState.h"
 #include "tree/ClytNode.h"

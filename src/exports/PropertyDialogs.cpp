@@ -19,7 +19,7 @@ enum Outcome
     unchanged = 2
 };
 
-// Where the kind of a placeholder stands in its key, when the key is long enough to have one.
+// The place of the placeholder's kind in a key that is long enough to have one.
 constexpr int kindBegin = 5;
 constexpr int kindEnd = 8;
 
@@ -107,7 +107,7 @@ Outcome GroupKey::HandOut(const CString& result, char* first, int firstSize, cha
         return unchanged;
     if (m_key.IsEmpty() || !m_isSplit)
         return changed;
-    // A changed key gets back what the dialog has not seen.
+    // A changed key gets back the part that was kept from the dialog.
     CopyText(first, firstSize, m_head + tail);
     if (IsUsable(second, secondSize) && secondSize >= kindEnd && m_key.GetLength() >= kindEnd)
         std::copy_n(m_key.GetString() + kindBegin, kindEnd - kindBegin, second + kindBegin);
@@ -135,7 +135,7 @@ int __stdcall lytGroupPropertyDialog(int kind, const char* key, char* first, int
     if (!IsUsable(first, firstSize))
         return nothing;
     const GroupKey groupKey(kind, key);
-    // A key that is empty leaves what an earlier dialog has left.
+    // With an empty key the dialog scans what an earlier one has left.
     const std::optional<CString> result = ShowOver(kind == 0 ? "lytCdGrp.dlg" : "lytRpGrp.dlg",
                                                    groupKey.Input().IsEmpty() ? lytInputKey : groupKey.Input());
     return result ? groupKey.HandOut(*result, first, firstSize, second, secondSize) : nothing;

@@ -69,7 +69,7 @@ int __stdcall lytGetTextFromIniFile(const char* path, char* buffer, int size)
         lytReport(lytError("SlashMissing"));
         return 0;
     }
-    // A missing key reads as a text of its own, not as the sentinel, and so counts as found.
+    // The text for a missing key is not the sentinel, so it counts as found.
     return CopyUnlessSentinel(buffer, size, IniValueOf(name, slash));
 }
 

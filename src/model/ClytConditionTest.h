@@ -29,7 +29,7 @@ ClytVerdict lytVerdictOf(ClytRuleKind kind, ClytTested result);
 // When no condition has decided.
 bool lytHoldsAtEnd(ClytRuleKind kind);
 
-// Goes through the conditions of a rule until one decides, and tells of each that it has tested.
+// Goes through a rule's conditions until one decides, and reports each that was tested.
 template <class TELL>
 bool lytConditionsHold(const ClytConditions& conditions, ClytRuleKind kind, TELL tell)
 {

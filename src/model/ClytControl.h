@@ -32,9 +32,9 @@ public:
     ClytControl& operator=(const ClytControl&) = delete;
     virtual ~ClytControl();
 
-    // Creates the window under that of the form and remembers the form, which outlives the control.
+    // Creates the window as a child of the form's, and keeps the form, which outlives the control.
     virtual void CreateControl(ClytForm* owner);
-    // Takes one statement of the values section, which stands at that place of the description.
+    // Takes one statement of the values section; the place is where the description has it.
     void TakeStatement(const CStringList& values, const CString& keyword, const ClytSpan& place);
     virtual void SetOption(const CStringList& values, const CString& keyword);
     // Remembers the present value or selection, for IsChanged.

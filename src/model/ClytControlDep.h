@@ -9,7 +9,7 @@ enum class ClytRuleKind;
 class ClytControlDep : public CObject
 {
 public:
-    // Looks up the control that the rule acts on and those of its conditions.
+    // Looks up the rule's control and the controls of its conditions.
     void Bind(const ClytControlMap& controls);
     // Null before the rule is bound, and for an unknown control.
     ClytControl* GetControl() const { return control; }

@@ -1,4 +1,4 @@
-// The combination of values that a control's evaluation statement forbids; without own values there is none.
+// The combination of values that a control's evaluation statement forbids. Without own values nothing is forbidden.
 #pragma once
 
 #include "model/ClytCtrlValList.h"

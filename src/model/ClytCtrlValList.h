@@ -21,7 +21,7 @@ public:
         controlName = std::move(name);
         span = place;
     }
-    // Where the name stands in the description.
+    // Where the name is in the description.
     const ClytSpan& GetSpan() const { return span; }
     CStringList& GetValues() { return values; }
     const CStringList& GetValues() const { return values; }

@@ -1,5 +1,5 @@
 // One statement of an input part: a state of the scan. It cuts a piece off the input, or it only decides where the scan
-// goes on.
+// continues.
 #pragma once
 
 #include "model/ClytScanRule.h"

@@ -14,7 +14,7 @@ using ClytControlList = ClytOwnedList<ClytControl, CPtrList>;
 class ClytForm
 {
 public:
-    // The window that those of the controls are children of; it has the font that they take.
+    // The parent of the controls' windows; they take its font.
     virtual CDialog& GetWindow() = 0;
     // The section of the language texts in which captions are keys; empty when the layout names none.
     virtual CString GetTextSection() const = 0;
@@ -28,11 +28,11 @@ public:
     // Runs an input part over a text, from its statement "Start"; 0 when there is no such part.
     virtual int RunInput(const CString& partName, const CString& text) = 0;
     // One pass over the dependency rules in file order, then a new baseline for the controls of their conditions. False
-    // when a rule has failed since the command of the user began, of which the user has been told once.
+    // when a rule has failed since the command of the user began; the failure has then been reported once.
     virtual bool RunRules() = 0;
     // Commands that arrive while the result lives run no rules.
     [[nodiscard]] Counted PauseRules() { return Counted(pausedRules); }
-    // What the form is told while the result lives belongs to one command of the user.
+    // What happens while the result lives belongs to one command of the user.
     [[nodiscard]] Counted BeginCommand()
     {
         if (openCommands == 0)
@@ -40,7 +40,7 @@ public:
         return Counted(openCommands);
     }
     // Shows a numbered error of a control. For one command of the user the rules show one message, whether they failed or
-    // not, and a scan shows the same one of a control once: both may come to the same place many times.
+    // not, and a scan shows the same message of a control once: both may reach the same place many times.
     virtual void Report(const ClytControl& control, const char* number, const ClytPrefix& prefix,
                         const CString& argument) = 0;
     // What Return and the OK button do.
@@ -51,7 +51,7 @@ public:
 
 protected:
     ~ClytForm() = default;
-    // The first of what may become many messages of one command.
+    // Called at the first message of a command.
     virtual void OnCommandBegun() = 0;
 
     int pausedRules = 0;  // above 0 while commands run no rules

@@ -1,6 +1,6 @@
-// Listens to what a dialog does without a word: what it passes over, how it scans its input, runs its rules, chooses its
-// output, and what it looks for in vain. The library has no listener, and then each of these places costs a test of one
-// pointer; a tool sets one while it works.
+// Listens to what a dialog does silently: what it passes over, how it scans its input, runs its rules and chooses its
+// output, and which names it cannot find. The library has no listener, and each report then costs the test of a pointer.
+// A tool sets one while it works.
 #pragma once
 
 #include "base/ClytSpan.h"
@@ -17,14 +17,14 @@ class ClytDialogOutput;
 // What of a description is passed over because a word or name in it is unknown.
 enum class ClytPassedOver
 {
-    LayoutStatement, // its type word stands for no control
+    LayoutStatement, // its type word names no control
     ValueStatement,
     DependencyRule, // its conditions go to the next rule that is stored
     Evaluation,
     Fill
 };
 
-// What the test of a condition came to.
+// The result of a condition's test.
 enum class ClytTested
 {
     Holds,
@@ -37,7 +37,7 @@ enum class ClytTested
     Unchanged
 };
 
-// What came of an event rule.
+// What an event rule did.
 enum class ClytEvent
 {
     Acts,
@@ -45,7 +45,7 @@ enum class ClytEvent
     InProgress // a run inside its own action leaves it out
 };
 
-// What a dialog at work looked for in vain.
+// What a dialog at work could not find.
 enum class ClytMissing
 {
     ButtonTarget,
@@ -77,7 +77,7 @@ public:
                      const CString& /*nextStatement*/)
     {
     }
-    // A statement without a scan decided where the run goes on.
+    // A statement without a scan decided where the run continues.
     virtual void Jumped(const ClytDialogInput& /*statement*/, const CString& /*nextStatement*/) {}
     // A fill rule put a text into its control.
     virtual void Filled(const ClytControlFill& /*fill*/, const CString& /*piece*/) {}
@@ -88,8 +88,8 @@ public:
     // A run of the rules; the depth counts nested runs from 1. It ends on every way out.
     virtual void RunBegan(int /*depth*/) {}
     virtual void RunEnded(int /*depth*/) {}
-    // The conditions of a rule that were looked at are reported in their order, and then what comes of the rule, before
-    // it is carried out: that may begin a run inside this one.
+    // The tested conditions of a rule are reported in their order, and then what the rule does, before it does it: that
+    // may begin a run inside this one.
     virtual void ConditionTested(const ClytControlDep& /*rule*/, const ClytCtrlValList& /*condition*/,
                                  ClytTested /*result*/)
     {

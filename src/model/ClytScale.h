@@ -1,6 +1,6 @@
 #pragma once
 
-// Layout units are those of the platform's dialogs at two resolutions; there are no others.
+// What layout units are multiplied by at the two resolutions that the library knows.
 struct ClytResolution
 {
     int pixelsPerInch;
@@ -16,7 +16,7 @@ inline constexpr ClytResolution lytResolutions[] = {
 // What a check mark and the gap after it take, in layout units.
 inline constexpr double lytCheckMarkUnits = -28.0;
 
-// What layout units are multiplied by; set by the dialog from the screen's resolution, 1 without a window.
+// The present factors; set by the dialog from the screen's resolution, 1 without a window.
 extern float lytScaleX;
 extern float lytScaleY;
 

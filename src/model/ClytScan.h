@@ -10,7 +10,7 @@ class ClytScan : public CObject
 public:
     // 1 when there is anything to scan by.
     int HasScan() const { return !target.name.IsEmpty() || !separators.IsEmpty() ? 1 : 0; }
-    // The first character that may end a piece or that counts otherwise; what stands before it goes into the piece.
+    // The first character that may end the piece or is counted; the text before it belongs to the piece.
     const char* FindStop(const char* rest) const { return stops.FindIn(rest); }
     // The separator at the start of the rest, the first in file order that fits, or null.
     const ClytSeparator* FindSeparator(const char* rest) const;

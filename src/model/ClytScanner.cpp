@@ -26,7 +26,7 @@ void ClytScanner::CutLength(int length, CString& piece)
     piece.Append(start, static_cast<int>(rest - start));
 }
 
-// Plain text goes into the piece at once, and only what may be more than that is looked at closely.
+// Plain text is appended in one go, and only characters that may be more than that are examined.
 const ClytTarget& ClytScanner::CutToSeparator(const ClytScan& scan, CString& piece)
 {
     const char* start = rest;

@@ -63,7 +63,7 @@ enum class ClytFillAction
     Concat
 };
 
-// Values that stand for something else, each where its meaning is asked for.
+// Values that have a meaning in some places.
 enum class ClytValueWord
 {
     Other,
@@ -148,7 +148,7 @@ struct ClytWordTable<ClytValueWord>
     };
 };
 
-// What a word means among those of its kind.
+// The meaning of a word of that kind.
 template <class MEANING>
 MEANING lytMeaningOf(const CString& text)
 {
