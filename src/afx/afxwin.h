@@ -116,7 +116,7 @@ private:
 // nothing crosses a window procedure.
 LRESULT AfxCallWndProc(CWnd& window, UINT message, WPARAM wParam, LPARAM lParam) noexcept;
 // Called inside a catch block: shows the user the exception that is being handled, of any type. A report that fails in
-// its turn is given up: there is no one left to tell.
+// its turn is given up: nobody is left to see it.
 void ReportCurrentFailure() noexcept;
 // The same without a word.
 void DropCurrentFailure() noexcept;

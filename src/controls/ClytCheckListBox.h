@@ -11,7 +11,7 @@ public:
     void CreateControl(ClytForm* owner) override;
     void MoveCurrentItem(int up) override;
 
-    // Inserts an item in arrays and window alike, and selects it; position 0 is the top. Without a value of its own the
+    // Inserts an item in arrays and window alike, and selects it; position 0 is the top. Without a separate value the
     // item delivers what it shows.
     void InsertItem(const CString& value, const CString& display, int check, int hasValue, int place);
 

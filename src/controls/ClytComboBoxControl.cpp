@@ -111,7 +111,7 @@ void ClytComboBoxControl::MoveCurrentItem(int up)
         Report(lytError("FirstItemUp"));
         return;
     }
-    // Below the last item there is none, and the arrays refuse the index.
+    // The last item has none below it, and the arrays refuse the index.
     ChangePlaces(current, up != 0 ? current - 1 : current + 1);
 }
 

@@ -46,7 +46,7 @@ void ClytDefaultControl::CreateControl(ClytForm* owner)
     }
 }
 
-// A press moves the focus first, of which the control that loses it tells the dialog: all of it is one command of the user.
+// A press moves the focus first, and the control that loses it reports that to the dialog. All of it is one command.
 LRESULT ClytDefaultControl::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
 {
     if (dialog == nullptr)

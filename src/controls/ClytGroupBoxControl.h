@@ -6,7 +6,7 @@
 class ClytGroupBoxControl : public ClytWindowControl<CButton>
 {
 public:
-    // A caption of two quotation marks stands for none.
+    // A caption of two quotation marks is an empty one.
     ClytGroupBoxControl(CString controlName, ClytPosition topLeft, ClytSize extent, CString text);
 
     void CreateControl(ClytForm* owner) override;

@@ -51,7 +51,7 @@ protected:
     // Puts an item at the end of the arrays and at a place in the window, where 0 means the end, too.
     void PutItem(CString value, CString display, int place);
     // Looks at what the window answers to a text that was added. One that it has no room for raises std::bad_alloc: every
-    // later item would stand at the place of another's value.
+    // later item would be at the place of another's value.
     static void ExpectRoom(LRESULT answer);
     // Inserts a text in the window.
     void ShowItem(const CString& text, int place);

@@ -43,7 +43,7 @@ void ClytListBoxControl::MoveCurrentItem(int up)
     }
     if (up != 0 && current == 0)
         lytRaise(lytError("FirstItemUp"));
-    // Below the last item there is none, and the arrays refuse the index.
+    // The last item has none below it, and the arrays refuse the index.
     ChangePlaces(current, up != 0 ? current - 1 : current + 1);
 }
 

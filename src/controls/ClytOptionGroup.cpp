@@ -56,7 +56,7 @@ void ClytOptionGroup::Remove(const ClytRadioButtonControl& button)
 void ClytOptionGroup::CreateControl(ClytForm* owner)
 {
     dialog = owner;
-    // Only the first option that is set goes on to the buttons, whose windows come after the group.
+    // Only the first option that is set is passed on to the buttons, whose windows come after the group.
     const struct
     {
         int isSet;

@@ -1,4 +1,4 @@
-// The named control that stands for a group of option buttons: rules and output speak to it, and it answers for its
+// The named control that represents a group of option buttons: rules and output speak to it, and it answers for its
 // buttons. It has no window.
 #pragma once
 
@@ -18,7 +18,7 @@ public:
 
     // 1 for the first button after an "OptionGroup" statement, 0 for those that follow it.
     static int TakeFirstOfGroup();
-    // A button joins the group of the last "OptionGroup" statement; without one it stands alone.
+    // A button joins the group of the last "OptionGroup" statement; without one it is alone.
     static void AddToCurrentGroup(ClytRadioButtonControl& button);
     void Remove(const ClytRadioButtonControl& button);
     // In the order of the layout.
@@ -35,7 +35,7 @@ public:
     // The value preselects the button whose own value it is, so the statement comes after those of the buttons.
     void SetOption(const CStringList& values, const CString& keyword) override;
     void SaveState() override { savedValue = GetValue(); }
-    // Without a window of its own no control gets the focus.
+    // A control without a window gets no focus.
     void SetControlFocus() override { SetFocus(); }
     void SetValue(const CString& value) override;
     // The value of the first checked button; empty when there is none.

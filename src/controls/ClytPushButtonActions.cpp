@@ -200,7 +200,7 @@ void ClytPushButtonControl::ToggleCaption()
     SetWindowText(shown == alternateCaption ? caption : alternateCaption);
 }
 
-// After the last control there is none to go to: that raises the invalid-argument exception.
+// The last control has none after it: that raises the invalid-argument exception.
 void ClytPushButtonControl::FocusNextControl() const
 {
     ClytControl* self = dialog->FindControl(name);

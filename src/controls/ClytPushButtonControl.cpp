@@ -39,7 +39,7 @@ void ClytPushButtonControl::Click()
     lytSetCursor(IDC_ARROW);
 }
 
-// A click and what the window then tells the dialog of it are one command of the user.
+// A click and what the window then reports to the dialog are one command of the user.
 LRESULT ClytPushButtonControl::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
 {
     if (dialog == nullptr)
@@ -51,7 +51,7 @@ LRESULT ClytPushButtonControl::WindowProc(UINT message, WPARAM wParam, LPARAM lP
     }
     catch (...)
     {
-        // The button comes up before the user is told what failed.
+        // The button comes up before the message of what failed.
         CButton::WindowProc(message, wParam, lParam);
         throw;
     }

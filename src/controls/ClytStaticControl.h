@@ -1,4 +1,4 @@
-// A fixed text, which a rule can overwrite. It has no value of its own.
+// A fixed text, which a rule can overwrite. It has no value.
 #pragma once
 
 #include "controls/ClytWindowControl.h"

@@ -53,7 +53,7 @@ private:
     CString argument;
 };
 
-// A caught failure; deleted whatever happens next.
+// A caught failure; deleted in any case.
 struct ClytDeleteFailure
 {
     void operator()(CException* e) const { e->Delete(); }
@@ -64,7 +64,7 @@ using ClytCaught = std::unique_ptr<CException, ClytDeleteFailure>;
 [[noreturn]] void lytRaise(const char* number, const ClytPrefix& prefix = {}, const CString& argument = CString());
 // Raises a numbered error in place of a caught failure, whose message becomes the prefix.
 [[noreturn]] void lytRaiseInstead(ClytCaught failure, const char* number, const CString& argument = CString());
-// Shows a numbered error; the operation goes on.
+// Shows a numbered error; the operation continues.
 void lytReport(const char* number, const ClytPrefix& prefix = {}, const CString& argument = CString());
 // The message of an exception, at most 74 characters.
 CString lytMessageOf(const CException& e);

@@ -20,7 +20,7 @@ public:
 class ClytINISection : public std::list<ClytINIStruct>
 {
 public:
-    // A null pointer stands for an empty text.
+    // A null pointer is an empty text.
     ClytINISection(const char* file, const char* section) : fileName(file), sectionName(section) {}
     ClytINISection(const ClytINISection&) = default;
     ClytINISection& operator=(const ClytINISection&) = default;

@@ -1,4 +1,4 @@
-// Who is told what is wrong with a description, in the order of the file. After a sink that returns, the reader goes on
+// Receives what is wrong with a description, in the order of the file. After a sink that returns, the reader continues
 // with the next line: a line is a statement.
 #pragma once
 
@@ -11,7 +11,7 @@ class ErrorSink
 {
 public:
     virtual void Tell(std::unique_ptr<ClytException> failure, const ClytSpan& place) = 0;
-    // The line ends where a further token was due, at a place that has no error number of its own.
+    // The line ends where a further token was due, at a place without an error number.
     virtual void TellShortLine(const ClytSpan& place) = 0;
 
 protected:

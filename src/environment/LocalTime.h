@@ -1,4 +1,4 @@
-// Local time, where platforms differ in how they tell that a time has none.
+// Local time, where platforms differ in how they show that a time has none.
 #pragma once
 
 #include <ctime>

@@ -15,7 +15,7 @@
 
 #include <ctime>
 
-// Writes a message as it is, if its level is at most that of `lyt.ini`; a level of 0 there means that there is no log.
+// Writes a message as it is, if its level is at most that of `lyt.ini`; a level of 0 there means no log.
 // Errors 207 (opening), 208 (writing) and 209 (closing) are raised with the cause as prefix and the log's name as
 // argument. The file is closed by then.
 void lytWriteToLog(const char* message, int messageLevel);

@@ -4,7 +4,7 @@
 #include <cstring>
 
 // The platform counts a name in 16 bits: of a longer one it would take the beginning, which may well be another file. A
-// longer name is that of a missing file, and whoever hands a name to the platform asks here first.
+// longer name is that of a missing file, and callers that hand a name to the platform ask here first.
 inline constexpr size_t longestFileName = 32'767;
 
 inline bool FileNameFits(const char* fileName)

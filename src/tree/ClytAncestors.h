@@ -19,7 +19,7 @@ public:
             m_path.pop_back();
         return m_path.empty() ? nullptr : m_path.back().node;
     }
-    // The item under which an entry of this level belongs; null stands for the root. It is read from the parent's node
+    // The item under which an entry of this level belongs; null is the root. It is read from the parent's node
     // at this moment: a parent that is not shown sends its entries to the root.
     HTREEITEM lytFindParentItem(int level)
     {

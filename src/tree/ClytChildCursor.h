@@ -7,7 +7,7 @@ class ClytChildCursor
 {
 public:
     // Goes to the node after the first one with this key. False when there is no such node or none after it. A node
-    // that is no symbol leaves the cursor where it was, and a later read goes on from there.
+    // that is not a symbol leaves the cursor where it was, and a later read continues there.
     [[nodiscard]] bool Start(const ClytNodeList& nodes, const char* key);
     // Gives the label as shown, and the path: the key, `\` and the label with its marks. False without a place, and at a
     // node of another level, where the cursor then stays.

@@ -1,4 +1,4 @@
-// Decides which branches of a freshly filled tree stand open and which entry is to be selected.
+// Decides which branches of a freshly filled tree are open and which entry is to be selected.
 #pragma once
 
 #include "tree/ClytTreeItems.h"
@@ -8,7 +8,7 @@ struct ClytExpansion
     // "TreeLevels" of the configuration; 0, which a text that is no number also reads as, means 2.
     int treeLevels = 0;
     // The opening by levels, until the symbol tree was confirmed for the first time; afterwards, and in the para tree,
-    // branches stand as the last confirmation left them.
+    // branches are as the last confirmation left them.
     bool byLevels = false;
     // The key of the entry to select; empty when there is none.
     CString selectKey;

@@ -23,7 +23,7 @@ constexpr EntryType entryTypes[] = {
     {LYT_TREE_SYMBOL, 'S', 2},
 };
 
-// A number that is none of the known ones takes over the type of the entry before: sources leave it out for entries
+// An unknown number takes over the type of the entry before: sources leave it out for entries
 // that follow their like.
 const EntryType& TypeOf(int number, const EntryType& before)
 {

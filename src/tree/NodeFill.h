@@ -12,7 +12,7 @@ void lytExpandLabel(char (&target)[lytShownLabelSize], const char* label);
 
 // Reads one run and shows each entry, unless the source refuses to start; without `items` the nodes are only held. In a
 // dialog of kind 'G' symbols become nodes that are not shown. Once it has ended, the run replaces what the list holds:
-// a source that raises leaves the list as it was, and whatever a source does to the list meanwhile, the run is
+// a source that raises leaves the list as it was, and although a source may change the list meanwhile, the run is
 // not touched.
 void lytFillFromSource(ClytNodeList& nodes, const ClytTreeSource& source, ClytTreeItems* items, char kind);
 // Shows the entries of a list that is already filled, and gives each node the item of this control.

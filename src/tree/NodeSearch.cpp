@@ -68,7 +68,7 @@ void lytMarkInitialNode(ClytNodeList& nodes, const ClytNode* initial)
 
 CString lytWizardChoice(const ClytNode& node)
 {
-    // A heading has no key of its own to be inserted by.
+    // A heading has no key to be inserted by.
     CString choice(node.m_cType);
     choice += '/';
     if (node.m_cType != 'H')
