@@ -1,7 +1,7 @@
 // Whole dialogs as data: a description in the making, what a user does in the live window, and what is to be seen. What
 // precedes the first case of a file belongs to each; a line is a word and its operand.
 //
-//     case: TEXT            begins a case
+//     case: TEXT            begins a case. In all lines x{700} is 700 times x, and $folder is where the descriptions are
 //     each: A ~ B | C ~ D   the case runs for each alternative; the columns of one are $1, $2, ... in all lines. There
 //                           may be several such lines; those before the first case are for the cases without
 //     rounds                the case is done a hundred times, and nothing may grow
@@ -33,10 +33,12 @@
 //     ok, cancel, close, end, destroy         the buttons, the frame, and ways in which no user ends a dialog
 //     down NAME, up NAME, keyup NAME KEY      what a button hears
 //     caption NAME TEXT, enable NAME, disable NAME, unfocus    what a host does, which tells the dialog nothing
-//     command                                 a command of no meaning: the rules run
+//     command, command below                  a command of no meaning, to the dialog in front or to the one that it
+//                                             belongs to: the rules run
 //
-// Looks begin with the name of a control: `NAME = TEXT`, `NAME items A / B`, `NAME selected I`, `NAME style HEX`, `NAME kind
-// HEX` for the class's part of it, `NAME class WORD`, `NAME id NUMBER`, or a word: enabled, disabled, shown, hidden, checked,
+// Looks begin with the name of a control, in the dialog in front or in the one that it belongs to: `NAME = TEXT`, `NAME
+// items A / B`, `NAME selected I`, `NAME style HEX`, `NAME kind HEX` for the class's part of it, `NAME class WORD`, `NAME
+// id NUMBER`, `NAME fits TEXT` for its size, or a word: enabled, disabled, shown, hidden, checked,
 // unchecked, focused, unfocused, released, tabstop, skipped, group, member, sunken, default. `cursor arrow` and `cursor wait`
 // look at the cursor.
 #pragma once

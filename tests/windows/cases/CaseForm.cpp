@@ -136,16 +136,28 @@ void CaseForm::Write(const TestFolder& folder) const
     folder.Write("lang/Test.nls", lines);
 }
 
-HWND CaseForm::Window(const std::string& name) const
+HWND CaseForm::Window(HWND dialog, const std::string& name) const
 {
-    HWND front = robot::ActiveDialog();
-    const auto other = m_dialogs.find(robot::TextOf(front));
+    const std::string title = robot::TextOf(dialog);
+    const auto described = m_dialogs.find(title == TitleOf("") ? "" : title);
+    if (described == m_dialogs.end())
+        return nullptr;
     size_t place = 0;
-    for (const std::string& line : (other != m_dialogs.end() ? other : m_dialogs.find(""))->second.Layout())
+    for (const std::string& line : described->second.Layout())
     {
         if (NameOf(line) == name)
-            return robot::ChildAt(front, place);
+            return robot::ChildAt(dialog, place);
         place += HasWindow(line) ? 1 : 0;
+    }
+    return nullptr;
+}
+
+HWND CaseForm::Window(const std::string& name) const
+{
+    for (HWND dialog = robot::ActiveDialog(); dialog != nullptr; dialog = GetWindow(dialog, GW_OWNER))
+    {
+        if (HWND window = Window(dialog, name); window != nullptr)
+            return window;
     }
     ADD_FAILURE() << "no control " << name;
     return nullptr;

@@ -16,7 +16,7 @@ public:
     bool Take(const std::string& word, const std::string& operand);
     void Write(const TestFolder& folder) const;
     const std::string& Defines() const { return m_defines; }
-    // The window of a control, in the dialog in front.
+    // The window of a control: in the dialog in front, or in the one that it belongs to.
     HWND Window(const std::string& name) const;
     // True when some dialog has a control of that name.
     bool Has(const std::string& name) const;
@@ -33,6 +33,9 @@ private:
         std::vector<std::string> Layout() const;
         std::string Text(const std::string& title) const;
     };
+
+    // The window in a dialog; null when the dialog has no such control.
+    HWND Window(HWND dialog, const std::string& name) const;
 
     std::map<std::string, Dialog> m_dialogs = {{"", {}}};
     std::map<std::string, std::string> m_texts = {{"Title", "The title"}, {"Label", "A label"}, {"LATER", "Later"}};

@@ -78,7 +78,13 @@ const std::map<std::string, void (*)(const std::string& text)> dialogSteps = {
     {"end", [](const std::string&) { EndDialog(robot::ActiveDialog(), IDOK); }},
     {"destroy", [](const std::string&) { DestroyWindow(robot::ActiveDialog()); }},
     {"unfocus", [](const std::string&) { SetFocus(nullptr); }},
-    {"command", [](const std::string&) { SendMessageA(robot::ActiveDialog(), WM_COMMAND, MAKEWPARAM(0, 0x77), 1); }},
+    {"command",
+     [](const std::string& text)
+     {
+         HWND front = robot::ActiveDialog();
+         HWND dialog = text == "below" ? GetWindow(front, GW_OWNER) : front;
+         SendMessageA(dialog, WM_COMMAND, MAKEWPARAM(0, 0x77), 1);
+     }},
 };
 
 DWORD StyleOf(HWND window)
@@ -97,6 +103,22 @@ std::string InHexDigits(DWORD number, int digits)
     char text[9] = "";
     std::snprintf(text, sizeof text, "%0*lX", digits, static_cast<unsigned long>(number));
     return text;
+}
+
+std::string InPixels(LONG width, LONG height)
+{
+    return std::to_string(width) + " x " + std::to_string(height);
+}
+
+// The size of a text in the font of a window.
+std::string ExtentOf(const std::string& text, HWND window)
+{
+    HDC context = GetDC(window);
+    SelectObject(context, reinterpret_cast<HGDIOBJ>(SendMessageA(window, WM_GETFONT, 0, 0)));
+    SIZE extent = {};
+    GetTextExtentPoint32A(context, text.c_str(), static_cast<int>(text.size()), &extent);
+    ReleaseDC(window, context);
+    return InPixels(extent.cx, extent.cy);
 }
 
 // What a control may be.
@@ -157,6 +179,8 @@ void CaseRun::Take(const CaseLine& line)
 {
     std::string rest = line.text;
     Exchange(rest, "\\n", "\n");
+    Exchange(rest, "$folder", folder.Path());
+    WriteOutRuns(rest);
     const bool isTogether = rest.starts_with("& ");
     rest.erase(0, isTogether ? 2 : 0);
     const std::string word = TakeWord(rest);
@@ -265,6 +289,12 @@ void CaseRun::Look(const std::string& name, const std::string& rest) const
     std::string expected = rest;
     const std::string word = TakeWord(expected);
     HWND window = m_form.Window(name);
+    if (word == "fits")
+    {
+        const RECT place = robot::PlaceOf(window);
+        EXPECT_EQ(InPixels(place.right - place.left, place.bottom - place.top), ExtentOf(expected, window));
+        return;
+    }
     if (const auto state = states.find(word); state != states.end())
         EXPECT_TRUE(state->second(window)) << name << " is not " << word;
     else

@@ -27,6 +27,19 @@ inline std::string TakeWord(std::string& text)
     return word;
 }
 
+// A letter with a number in braces is so many of it: "ab{3}" is "abbb".
+inline void WriteOutRuns(std::string& text)
+{
+    for (size_t brace = text.find('{'); brace != std::string::npos; brace = text.find('{', brace + 1))
+    {
+        const size_t end = text.find_first_not_of("0123456789", brace + 1);
+        if (brace == 0 || end == std::string::npos || end == brace + 1 || text[end] != '}')
+            continue;
+        const size_t count = std::stoul(text.substr(brace + 1));
+        text.replace(brace - 1, end - brace + 2, count, text[brace - 1]);
+    }
+}
+
 inline void Exchange(std::string& text, const std::string& words, const std::string& others)
 {
     for (size_t place = text.find(words); place != std::string::npos; place = text.find(words, place + others.size()))

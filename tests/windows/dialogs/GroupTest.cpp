@@ -218,22 +218,6 @@ TEST_F(Group, RejoinedTextThatDoesNotFitLeavesTheFirstBufferEmpty)
     EXPECT_EQ(first.Text(), "");
 }
 
-TEST_F(Group, SecondBufferMayBeMissing)
-{
-    for (const int size : {0, -1, 40})
-    {
-        On(
-            [](HWND dialog)
-            {
-                robot::ReplaceText(robot::ChildAt(dialog, 0), "(z)/1b");
-                robot::Press(GetDlgItem(dialog, IDOK));
-            });
-        EXPECT_EQ(group(1, "KEY01abc(x)", first.Data(), first.Size(), size == 40 ? nullptr : second.Data(), size), 1);
-        EXPECT_EQ(first.Text(), "KEY01abc(z)");
-        EXPECT_EQ(second.Text(), "old2");
-    }
-}
-
 // The tail is looked for in what the second text has left there.
 TEST_F(Group, OneBufferForBothTextsEndsWithTheSecond)
 {
@@ -245,11 +229,4 @@ TEST_F(Group, OneBufferForBothTextsEndsWithTheSecond)
         });
     EXPECT_EQ(group(0, "xBNGy(a)", first.Data(), first.Size(), first.Data(), first.Size()), 2);
     EXPECT_EQ(first.Text(), "1b(a)");
-}
-
-TEST_F(Group, FirstBufferMustBeThere)
-{
-    EXPECT_EQ(group(0, "a", nullptr, 40, second.Data(), second.Size()), 0);
-    EXPECT_EQ(group(0, "a", first.Data(), 0, second.Data(), second.Size()), 0);
-    EXPECT_EQ(second.Text(), "old2");
 }

@@ -74,22 +74,6 @@ TEST_F(State, BufferWithoutANulIsReadNoFurtherThanItsSize)
     EXPECT_EQ(symbol("xxx", buffer.Data(), 3), 2);
 }
 
-TEST_F(State, BufferThatHoldsNothingShowsNoDialog)
-{
-    char buffer[4] = "old";
-    EXPECT_EQ(symbol("a", nullptr, 4), 0);
-    EXPECT_EQ(symbol("a", buffer, 0), 0);
-    EXPECT_EQ(phrase("a", buffer, -5), 0);
-    EXPECT_STREQ(buffer, "old");
-}
-
-TEST_F(State, NullKeyIsAnEmptyOne)
-{
-    GuardedBuffer buffer(20);
-    PressOn(IDOK);
-    EXPECT_EQ(symbol(nullptr, buffer.Data(), buffer.Size()), 2);
-}
-
 TEST_F(State, NoKeyIsLeftForTheNextDialog)
 {
     EXPECT_EQ(ShowAndPress(IDCANCEL, "left behind"), 0);

@@ -39,25 +39,6 @@ TEST_F(EnvironmentExports, KeepsDocumentAndFolder)
     EXPECT_EQ(buffer.Text(), "C:\\init");
 }
 
-TEST_F(EnvironmentExports, TakesNullForAnEmptyText)
-{
-    initialise(nullptr, nullptr, nullptr);
-    setDefine(nullptr);
-    GuardedBuffer buffer(20, "old");
-    EXPECT_EQ(getPath(buffer.Data(), buffer.Size()), 0);
-    EXPECT_EQ(buffer.Text(), "");
-}
-
-TEST_F(EnvironmentExports, RefusesBuffersThatHoldNothing)
-{
-    initialise("doc.rtf", "", "C:\\init");
-    GuardedBuffer buffer(20, "old");
-    EXPECT_EQ(getPath(nullptr, 20), 0);
-    EXPECT_EQ(getPath(buffer.Data(), 0), 0);
-    EXPECT_EQ(getDocName(buffer.Data(), -1), 0);
-    EXPECT_EQ(buffer.Text(), "old");
-}
-
 TEST_F(EnvironmentExports, LeavesAShortBufferEmpty)
 {
     initialise("1234567", "", "");

@@ -43,11 +43,6 @@ TEST_F(ReportStore, NextReportStartsAfresh)
     EXPECT_EQ(Report().size(), count);
 }
 
-TEST_F(ReportStore, TakesNullForNoDirectory)
-{
-    EXPECT_TRUE(HasLine(Report(nullptr), "LYT Directory Tree ()"));
-}
-
 TEST_F(ReportStore, HoldsNoLineBreaks)
 {
     for (const std::string& line : Report())

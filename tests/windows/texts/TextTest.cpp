@@ -41,17 +41,6 @@ TEST_F(TextForKey, AnUnknownKeyGivesTheSentinelAnd0)
     EXPECT_EQ(buffer.Text(), "no value present");
 }
 
-TEST_F(TextForKey, TakesNullForAnEmptyName)
-{
-    WriteTexts("k=ahead\r\n[s]\r\n=nameless\r\n");
-    GuardedBuffer buffer(30);
-    EXPECT_EQ(textForKey(nullptr, "k", nullptr, buffer.Data(), buffer.Size()), 1);
-    EXPECT_EQ(buffer.Text(), "ahead");
-    EXPECT_EQ(textForKey("s", nullptr, nullptr, buffer.Data(), buffer.Size()), 1);
-    EXPECT_EQ(buffer.Text(), "nameless");
-    EXPECT_EQ(textForKey(nullptr, nullptr, nullptr, buffer.Data(), buffer.Size()), 0);
-}
-
 TEST_F(TextForKey, ATextThatDoesNotFitLeavesTheBufferEmptyAndCountsAsFound)
 {
     WriteTexts("[s]\r\nk=12345\r\n");

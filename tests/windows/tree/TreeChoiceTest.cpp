@@ -189,23 +189,3 @@ TEST_F(TreeTarget, TakesATextThatFitsAndIsLeftEmptyByALongerOne)
         EXPECT_TRUE(buffer.IsIntact(1));
     }
 }
-
-TEST_F(TreeTarget, OpensNoDialogWithoutRoom)
-{
-    auto* open = Get<decltype(lytOpenTreeView)>("lytOpenTreeView");
-    GuardedBuffer buffer(10, "old");
-    EXPECT_EQ(open("S", nullptr, 10), 0);
-    EXPECT_EQ(open("S", buffer.Data(), 0), 0);
-    EXPECT_EQ(open("S", buffer.Data(), -1), 0);
-    EXPECT_EQ(buffer.Text(), "old");
-    EXPECT_EQ(Starts('S'), 0);
-}
-
-TEST_F(TreeTarget, NullRequestIsAnEmptyOne)
-{
-    robot::Robot robot;
-    robot.On("Catalogue", [&](HWND dialog) { TreeWindow(dialog).Cancel(); });
-    GuardedBuffer buffer(10, "old");
-    EXPECT_EQ(Get<decltype(lytOpenTreeView)>("lytOpenTreeView")(nullptr, buffer.Data(), buffer.Size()), 0);
-    EXPECT_TRUE(robot.Done()) << robot.Log();
-}
