@@ -1,4 +1,4 @@
-// Dialogs: opening and closing, one inside the other, states of windows, and what is told on the way.
+// Dialogs: opening and closing, one inside the other, states of windows, and which messages are sent on the way.
 #include "Stage.h"
 
 #include "res/resource.h"

@@ -305,7 +305,7 @@ private:
         if (IsClass(child, "Edit") || (isCombo && !m_isPlain))
             robot::ReplaceText(child, text);
     }
-    // A text of one's own in a combo box does not come back: set by a scan, it stands beside the choice, which counts.
+    // A free text in a combo box does not come back: set by a scan, it is beside the choice, which counts.
     bool MayType() const { return !m_isPlain || IsClass(GetParent(GetFocus()), "#32770"); }
     void StrikeKey(HWND /*dialog*/)
     {

@@ -1,4 +1,4 @@
-// A dialog on which a chapter of the conformance program acts, and the record of what its windows are told.
+// A dialog on which a chapter of the conformance program acts, and the record of the messages of its windows.
 //
 // Every message that matters is printed when it arrives, indented under the message inside which it was sent; so the
 // record shows the order and what was absent, and not results alone.
@@ -89,7 +89,7 @@ public:
 
     // Acts when everything that the act before led to has been handled.
     void Act(const std::string& title, std::function<void()> act);
-    // An act on whatever dialog is on top.
+    // An act on the topmost dialog.
     void Look(std::function<void()> look);
     // Opens the dialog, acts, and prints what it gives. What is never closed is closed by the robot.
     void Run();

@@ -1,4 +1,4 @@
-// The tree: items, expansion, selection, and what is told when the program or the user does it.
+// The tree: items, expansion, selection, and which messages are sent when the program or the user does it.
 #include "Stage.h"
 
 #include <map>

@@ -1,4 +1,4 @@
-// Acts on the class library over whatever windows there are, and prints what every window is told. The output over the
+// Acts on the class library over either kind of windows, and prints every message. The output over the
 // windows of the platform and over those in memory is the same, line by line: conformance.txt holds it. The name of a
 // chapter runs that one alone. `generated FIRST END` works the sample dialogs by sequences of acts, of which generated.txt
 // holds what the first come to; `generated NUMBER` shows one of them act by act. `meddled` does the same with a dialog

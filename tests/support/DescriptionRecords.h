@@ -4,5 +4,5 @@
 
 #include <string>
 
-// The define list is a text of names joined by commas. After a failure, reading goes on with the next line.
+// The define list is a text of names joined by commas. After a failure, reading continues with the next line.
 std::string RecordsOf(const std::string& fileName, const std::string& defines);

@@ -2,7 +2,7 @@
 // either until many more were released after it. Reading or writing one byte too far, using a block after its release
 // and releasing one twice end the program at once.
 //
-// A module that is linked with this file has such a heap of its own under `new` and `delete`.
+// A module that is linked with this file has its own such heap under `new` and `delete`.
 #include <array>
 #include <cstddef>
 #include <cstdint>

@@ -1,6 +1,6 @@
 #!/bin/sh
 # compare.sh [--before TEXT] EXPECTED PROGRAM...: runs the program and compares its output, line by line, with the file, or
-# with what stands before the first line that begins with the text. With LYT_UPDATE set it writes the whole file instead.
+# with what is before the first line that begins with the text. With LYT_UPDATE set it writes the whole file instead.
 before=
 [ "$1" != --before ] || { before=$2; shift 2; }
 expected=$1

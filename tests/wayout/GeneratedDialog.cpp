@@ -17,7 +17,7 @@ const Words textFunctions = {"Echo", "Echo", "Raise", "RaiseNumber", "Exhaust", 
 const Words startFunctions = {"Open", "Open", "OpenRaises"};
 const Words nextFunctions = {"Next", "NextRaises", "Nowhere"};
 const Words groups = {"one", "two", "three"};
-// The second conversion is none, and is found when the text is composed.
+// The second conversion is not one, and is found when the text is composed.
 const Words formats = {"%s;%s", "%s", "plain", "%s.5%q", "%s%"};
 
 bool IsList(const std::string& type)

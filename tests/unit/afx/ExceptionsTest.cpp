@@ -6,7 +6,7 @@
 namespace
 {
 
-// What the user is told of a file that the C library could not work on for this reason.
+// The message about a file that the C library could not work on for this reason.
 std::string MessageAfter(int error)
 {
     const CFileException failure(CFileException::ErrnoToException(error), 0, "a.txt");

@@ -19,7 +19,7 @@ std::string FieldName(int index)
 // A statement that lets the library fill B; what follows it names the rule for its parameter.
 const std::string filledB = "B = " + std::string(DataFunction::source);
 
-// So many runs stand one inside the other at most: the platform drops what nests much deeper.
+// So many runs are nested at most: the platform drops what nests much deeper.
 constexpr int deepestNesting = 10;
 
 CString Numbered(const char* text, int number)
@@ -29,7 +29,7 @@ CString Numbered(const char* text, int number)
     return numbered;
 }
 
-// In which order the rules of a chain stand in the file.
+// The order of a chain's rules in the file.
 enum class Order
 {
     AsTheChangesGo,
@@ -41,7 +41,7 @@ enum class Order
 class UnlimitedNesting
 {
 public:
-    // A chain through all fields in an order of its own, each with one more field that sets it off.
+    // A chain through all fields in a separate order, each with one more field that sets it off.
     UnlimitedNesting(int fields, unsigned seed) : texts(fields), saved(fields)
     {
         Dice dice(seed);

@@ -13,7 +13,7 @@ std::string Shown(const ClytSpan& place)
     return std::to_string(place.line) + ":" + std::to_string(place.column) + "+" + std::to_string(place.length);
 }
 
-// Keeps what it is told, a line each: place, number, argument.
+// Keeps each report as a line: place, number, argument.
 class KeepingSink final : public ErrorSink
 {
 public:
@@ -67,7 +67,7 @@ private:
         int number = 0;
         m_file.ReadVersionHeader(text);
         m_file.TakeTokens(words);
-        // A reading goes on after a failure that was told.
+        // A reading continues after a failure that was reported.
         static_cast<void>(m_file.ReadDialogHeader(number, number, text, text));
     }
 

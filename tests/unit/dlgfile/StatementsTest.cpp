@@ -493,7 +493,7 @@ TEST_F(Statement, OfAnInputChoosesATargetOrCutsAndFills)
               {"X: A(1)", "X: A(1) = ", "X: A(1) = T", "X: A(1)=T,", "X: A", "X: A(1", "X: A(1,", "X: ,", "X: word =",
                // Without a colon.
                "X", "X = A", "X, A", "X (\";\", End)", "X:",
-               // A list that is not finished, or goes on after its bracket.
+               // A list that is not finished, or continues after its bracket.
                "X: (\";\", Second) = N", "X: (\";\", Second) N", "X: (", "X: (\";\"", "X: (\";\", Second",
                "X: (\";\", Second,", "X: (\";\", A, \",\"", "X: (3",
                // Fill rules.

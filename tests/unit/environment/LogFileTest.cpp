@@ -14,7 +14,7 @@ namespace fs = std::filesystem;
 namespace
 {
 
-// The log of a document in a folder of its own, which is the current one.
+// The log of a document in a separate folder, which is the current one.
 class Log : public testing::Test
 {
 protected:

@@ -30,7 +30,7 @@ std::string ReadValue(const std::string& value)
     return ReadText("[s]\r\na=1\r\nk=" + value + "\r\nz=2\r\n", "s", "k");
 }
 
-// What the buffer holds of the section, without the lines' last NUL; a `|` stands for each NUL between lines.
+// What the buffer holds of the section, without the lines' last NUL; a `|` is each NUL between lines.
 struct Section
 {
     int count;

@@ -31,7 +31,7 @@ std::string Utf8(const wchar_t* text)
     return utf8;
 }
 
-// The object that stands for a window's client area.
+// The object of a window's client area.
 class ClientObject
 {
 public:

@@ -1,4 +1,4 @@
-// What a screen reader is told of a window, as the platform's accessibility interface tells it.
+// What a screen reader learns of a window, as the platform's accessibility interface tells it.
 #pragma once
 
 #include <string>
@@ -15,7 +15,7 @@ struct Accessible
     std::string shortcut;
     std::vector<std::string> states;
     std::vector<std::string> items; // of a list; the chosen one is marked
-    // False when the platform has no description for windows of this class, and told of a client area only. Role, marks
+    // False when the platform has no description for windows of this class, and reports a client area only. Role, marks
     // and items, and the name of a list, then are those that Windows gives to windows of this class and style.
     bool isTold = false;
 };

@@ -1,4 +1,4 @@
-// Prints what a screen reader is told of every sample dialog, of the catalogue and of a message, in both languages.
+// Prints what a screen reader learns of every sample dialog, of the catalogue and of a message, in both languages.
 #include "Accessible.h"
 
 #include "lyt64.h"

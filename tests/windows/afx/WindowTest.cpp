@@ -46,7 +46,7 @@ TEST(MessageMap, CracksParameters)
 TEST(MessageMap, CommandNeedsItsIdentifierAndItsCode)
 {
     RecordingWindow window;
-    const LPARAM control = 1; // any nonzero handle stands for a control
+    const LPARAM control = 1; // any nonzero handle serves as a control
     window.SendMessage(WM_COMMAND, MAKEWPARAM(7, BN_CLICKED), control);
     window.SendMessage(WM_COMMAND, MAKEWPARAM(7, EN_CHANGE), control);
     window.SendMessage(WM_COMMAND, MAKEWPARAM(8, BN_CLICKED), control);

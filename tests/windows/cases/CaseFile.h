@@ -7,7 +7,7 @@
 //     rounds                the case is done a hundred times, and nothing may grow
 //
 //     layout LINE ; LINE    the lines of a section; so do values, rules, evaluation, input and output. A layout line
-//                           `type name` gets a place of its own, and a caption that reads like the name
+//                           `type name` gets its own place, and a caption that reads like the name
 //     layout+ LINE ; LINE   further lines of it
 //     takes FILL            an input section that hands the whole text to one control
 //     dialog NAME           the sections that follow are of that further dialog; without a name, of the main one

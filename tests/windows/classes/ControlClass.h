@@ -1,4 +1,4 @@
-// A dialog object over a plain window: enough for controls to stand in.
+// A dialog object over a plain window: enough to hold controls.
 #pragma once
 
 #include "dialog/ClytDialog.h"

@@ -144,7 +144,7 @@ TEST_F(ControlClass, ACheckListInsertsInArraysAndWindowAlike)
     list.InsertItem("b", "B", 1, 1, 1);
     list.InsertItem("unused", "C", 1, 0, 1);
     EXPECT_EQ(list.GetCurSel(), 1);
-    // Without a value of its own the item delivers what it shows.
+    // An item without a value delivers what it shows.
     EXPECT_STREQ(list.GetValue(), "C");
     CString all;
     list.GetAllValues(all, CString("/"));
@@ -204,7 +204,7 @@ TEST_F(ControlClass, AGroupThatDiesPartsWithItsButtonsAndAButtonLeavesItsGroup)
     group->SetValue("b");
     EXPECT_STREQ(group->GetValue(), "b");
     group.reset();
-    // Nothing is left to join: the button stands alone.
+    // Nothing is left to join: the button is alone.
     ClytRadioButtonControl lone("C", origin, extent, 0, CString());
     ClytOptionGroup::AddToCurrentGroup(lone);
     second.reset();

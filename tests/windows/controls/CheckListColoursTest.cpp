@@ -94,7 +94,7 @@ bool IsBlend(COLORREF colour, COLORREF one, COLORREF other)
            IsBetween(GetBValue(colour), GetBValue(one), GetBValue(other));
 }
 
-// The text after the mark stands in one colour on the other.
+// The text after the mark has one colour on the other.
 void ExpectText(const Canvas& canvas, COLORREF text, COLORREF ground)
 {
     constexpr int afterMark = 20;

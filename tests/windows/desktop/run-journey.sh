@@ -1,6 +1,6 @@
 #!/bin/sh
 # run-journey.sh PREFIX_MAKER PREFIX RUNNER LYTCALL EXPECTED: works the complete form with mouse and keyboard, as somebody
-# does on a desktop: on a screen of its own, under a window manager. What the call prints must be what EXPECTED holds; with
+# does on a desktop: on a separate screen, under a window manager. What the call prints must be what EXPECTED holds; with
 # LYT_UPDATE set it is written there instead. With LYT_PICTURES set to a folder, a picture of the screen is saved in it at
 # each turn of the journey.
 set -u

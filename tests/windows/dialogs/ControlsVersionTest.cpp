@@ -1,4 +1,4 @@
-// Which set of common controls dialogs have, whatever the host asks for. Windows in memory have one set only.
+// Which set of common controls dialogs have, in spite of what the host asks for. Windows in memory have one set only.
 #include "DialogFixture.h"
 
 using ControlsVersion = DialogFixture;

@@ -1,4 +1,4 @@
-// What the property dialogs keep from call to call, and what they leave behind in the host.
+// What the property dialogs keep from call to call, and what they leave in the host.
 #include "DialogFixture.h"
 
 namespace

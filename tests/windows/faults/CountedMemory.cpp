@@ -8,7 +8,7 @@
 namespace
 {
 
-// What stands before each block: who took it, since anybody may give it back.
+// What is before each block: who took it, since anybody may give it back.
 struct alignas(std::max_align_t) Head
 {
     bool isCounted;

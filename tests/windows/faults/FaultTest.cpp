@@ -111,7 +111,7 @@ private:
     int m_silent = 0;
 };
 
-// In a folder of its own, where the log is written.
+// In a separate folder, where the log is written.
 class InFolder
 {
 public:
@@ -214,7 +214,7 @@ TEST(Libraries, ThatCannotBeLoadedAtFirstAreLoadedLater)
     std::cout << total << " failures\n";
 }
 
-// Whatever fails while the failure of a construction is told: nothing is left of the dialog, which would have the caption of
+// A second failure while that of a construction is reported: nothing is left of the dialog, which would have the caption of
 // its template.
 TEST(Construction, ThatFailsEndsTheDialog)
 {

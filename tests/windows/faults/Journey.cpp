@@ -169,7 +169,7 @@ Course Travel(const Journey& journey)
 {
     static const bool isWatched = (WatchExports(), true);
     static_cast<void>(isWatched);
-    // A caller that stops early leaves texts of the wizard behind.
+    // A caller that stops early leaves texts of the wizard.
     while (lytWizardQueue.IsPending())
         lytWizardQueue.Deliver();
     fs::remove("inspection.log");

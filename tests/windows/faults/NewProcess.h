@@ -1,4 +1,4 @@
-// Work in a process of its own, which begins in the state that this one is in.
+// Work in a separate process, which begins in the state that this one is in.
 #pragma once
 
 #include <functional>

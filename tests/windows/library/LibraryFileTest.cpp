@@ -23,7 +23,7 @@ protected:
     const Image image{m_module};
 };
 
-// Where the call goes whose first byte stands at a place of the code.
+// Where the call goes whose first byte is at a place of the code.
 size_t CallTarget(std::string_view code, size_t place)
 {
     int distance = 0;

@@ -1,4 +1,4 @@
-// Every export with its arguments: a good value of each, and what a bad one stands for.
+// Every export with its arguments: a good value of each, and what a bad one means.
 #pragma once
 
 #include "Scene.h"

@@ -28,7 +28,7 @@ std::string Setting(const Scene& scene, const char* path)
     return std::to_string(result) + " " + buffer.Text();
 }
 
-// Calls for texts and windows work on, whatever is in the files.
+// Calls for texts and windows work on, with anything in the files.
 void ExpectWorkingOn(Scene& scene)
 {
     scene.EndDialog(IDOK);

@@ -1,4 +1,4 @@
-// What partner libraries do besides: they call back, close the dialog, vanish, or are none.
+// What partner libraries do besides: they call back, close the dialog, vanish, or are not partner libraries at all.
 #include "Limit.h"
 #include "Ways.h"
 
@@ -93,7 +93,7 @@ void CallingVersion(Scene& scene)
 
 // ---- failures with the library's own frames in between
 
-// The message was told once, the dialog works, and nothing is left of what the library did in between.
+// The message came once, the dialog works, and nothing is left of what the library did in between.
 void ExpectFailureOf(Scene& scene, Steps between)
 {
     const HWND active = GetActiveWindow();

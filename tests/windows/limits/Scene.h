@@ -1,4 +1,4 @@
-// A process with a freshly loaded library, partner libraries that do what they are told, and a user.
+// A process with a freshly loaded library, partner libraries that follow orders, and a user.
 #pragma once
 
 #include "HostileLibrary.h"
@@ -16,7 +16,7 @@ public:
     // Every step was taken, and the library can be unloaded.
     ~Scene();
 
-    // The one that stands.
+    // The one that is open.
     static Scene& Current() { return *current; }
 
     template <class Function>

@@ -1,4 +1,4 @@
-// While the library loads a partner or gathers its report, the system shows no box of its own; the host's mode is back
+// While the library loads a partner or gathers its report, the system shows no box; the host's mode is back
 // afterwards.
 #include "dialogs/DialogFixture.h"
 #include "support/ImportHook.h"
@@ -53,7 +53,7 @@ protected:
         SetThreadErrorMode(m_ownMode, nullptr);
     }
 
-    // Clicks one of the description's own buttons, which stand after OK and Cancel.
+    // Clicks one of the description's own buttons, which come after OK and Cancel.
     void Click(size_t index)
     {
         On([index](HWND dialog) { robot::Click(robot::ChildOfClass(dialog, "Button", index + 2)); });

@@ -1,4 +1,4 @@
-// Loaded, called and unloaded over and over, the library leaves nothing behind in the process.
+// Loaded, called and unloaded over and over, the library leaves nothing in the process.
 #include "dialogs/DialogFixture.h"
 #include "support/FreshLibrary.h"
 #include "support/Leaks.h"

@@ -3,7 +3,7 @@
 namespace
 {
 
-// The place after the text at the place, npos when something else stands there.
+// The place after the text at the place, npos when something else is there.
 size_t After(const std::string& log, size_t place, const std::string& text)
 {
     return place != std::string::npos && log.compare(place, text.size(), text) == 0 ? place + text.size()

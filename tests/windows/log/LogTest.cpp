@@ -64,7 +64,7 @@ protected:
     const TestFolder folder;
 };
 
-// The number of a refused message stands at the end of the line after its cause.
+// The number of a refused message is at the end of the line after its cause.
 size_t CountRefusals(const std::string& output, const std::string& number)
 {
     size_t count = 0;
@@ -103,7 +103,7 @@ TEST_F(LogOfProcesses, HoldsWholeBlocksWhereverItsWriterIsStopped)
 
 TEST_F(LogOfProcesses, RefusesASecondWriterWith207AndKeepsTheBlockOfTheFirst)
 {
-    // Wherever the first stands once it has the file, up to the closing.
+    // Wherever the first is once it has the file, up to the closing.
     for (const char* operation : {"pause 2", "pause 3", "pause 4"})
     {
         SCOPED_TRACE(operation);

@@ -1,4 +1,4 @@
-// What a process holds is measured where the platform has no count of it: whatever is taken shows, and is gone when it is
+// What a process holds is measured where the platform has no count of it: all that is taken shows, and is gone when it is
 // given back.
 #include "support/Holdings.h"
 

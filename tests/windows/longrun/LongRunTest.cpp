@@ -1,7 +1,7 @@
-// One process that goes on for long: whatever is done a thousand times in it, it holds no more afterwards than it did
+// One process that runs for long: after a thousand times of each thing it holds no more than it did
 // when everything was warm.
 //
-// The tests stand in the order in which they have to run: the library can only be loaded and unloaded before anything
+// The tests are in the order in which they have to run: the library can only be loaded and unloaded before anything
 // keeps it, and the catalogue's tests take it away after each.
 #include "cases/CaseRun.h"
 #include "report/ReportTest.h"

@@ -9,7 +9,7 @@
 namespace macros
 {
 
-// What expressions see of the procedure that they stand in, and of its module.
+// What expressions see of the procedure that they are in, and of its module.
 class Scope
 {
 public:

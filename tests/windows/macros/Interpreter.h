@@ -15,7 +15,7 @@ class Interpreter
 public:
     explicit Interpreter(const std::string& source, bool is64Bit = true);
 
-    // Calls a procedure. What stands at a parameter by reference is changed.
+    // Calls a procedure. What is at a parameter by reference is changed.
     Value Call(const std::string& name, const Arguments& arguments = {});
 
     // The numbers of the lines that hold statements, and of those that were run.

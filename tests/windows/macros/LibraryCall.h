@@ -12,7 +12,7 @@
 namespace macros
 {
 
-// What stands at a parameter: a variable of the macro, or a temporary of the same shape.
+// What is at a parameter: a variable of the macro, or a temporary of the same shape.
 using Arguments = std::vector<std::shared_ptr<Variable>>;
 
 class Libraries

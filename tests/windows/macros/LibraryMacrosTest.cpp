@@ -6,7 +6,7 @@ class LibraryMacros : public MacroTest
 protected:
     // Makes no folder, unlike TestFolder::File.
     std::string PathOf(const std::string& name) const { return folder.Path() + "\\" + name; }
-    // What the diagnosis says when the module was told this folder.
+    // What the diagnosis says when the module was given this folder.
     std::string DiagnosisFor(const std::string& name)
     {
         Call("lytusefolder", {Given(PathOf(name))});

@@ -1,4 +1,4 @@
-// The module lyt64.bas, run against the library as it ships, which stands in a folder where nobody looks for it.
+// The module lyt64.bas, run against the library as it ships, which is in a folder where nobody looks for it.
 #pragma once
 
 #include "Interpreter.h"
@@ -21,7 +21,7 @@ protected:
     MacroTest();
     ~MacroTest() override;
 
-    // A module of its own, with these macros below it.
+    // A separate module, with these macros below it.
     void UseModule(const std::string& moreMacros = "", bool is64Bit = true);
     void CopyLibrary(const std::string& folderName) const;
     // Tells the module the folder of the library, and where dialogs and texts are.

@@ -60,7 +60,7 @@ struct Module
     bool isPrivate = false;          // its procedures are off the list of macros
 };
 
-// Raises MacroError, with the number of the line, for a mistake. Every name may stand there once.
+// Raises MacroError, with the number of the line, for a mistake. Every name may be there once.
 Module ReadModule(const std::string& source, bool is64Bit);
 // The type that a word after "As" names.
 Type TypeOf(const std::string& word);

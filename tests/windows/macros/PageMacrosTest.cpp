@@ -50,7 +50,7 @@ Public Function ToldText() As String
 End Function
 )";
 
-// The text with the other words in that one's place, wherever it stands; it must stand somewhere.
+// The text with the other words in place of those; they must be in it.
 void Exchange(std::string& text, const std::string& words, const std::string& others)
 {
     size_t place = text.find(words);

@@ -1,4 +1,4 @@
-// Catalogues as no source should deliver them: levels that jump, kinds that are none, texts of any bytes.
+// Catalogues as no source should deliver them: levels that jump, kinds that do not exist, texts of any bytes.
 #pragma once
 
 #include "support/Dice.h"

@@ -1,4 +1,4 @@
-// A user who does a few things at random in whatever opens, and closes it: first with OK, then with Cancel.
+// A user who does a few things at random in each dialog that opens, and closes it: first with OK, then with Cancel.
 #pragma once
 
 #include "robot/WindowRobot.h"

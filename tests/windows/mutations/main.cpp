@@ -75,7 +75,7 @@ private:
     // Counts take nothing of the heap that is looked at.
     std::vector<std::byte> m_room = std::vector<std::byte>(1U << 20U);
     std::pmr::monotonic_buffer_resource m_memory{m_room.data(), m_room.size()};
-    std::pmr::map<std::pmr::string, int> m_counts{&m_memory}; // by what is told
+    std::pmr::map<std::pmr::string, int> m_counts{&m_memory}; // by what is printed
     std::optional<Holdings> m_first;                          // at the first look
     std::optional<Holdings> m_held;                           // at the last
     int m_failures = 0;
@@ -125,7 +125,7 @@ void Campaign::Count(const Outcome& outcome)
         Count("cases without a window");
     for (const std::string& message : outcome.messages)
     {
-        // The number stands at the beginning of the text, after the prefix if there is one.
+        // The number is at the beginning of the text, after the prefix if there is one.
         const std::string text = message.substr(message.find('\n') + 1);
         const bool isNumbered = !text.empty() && std::isdigit(static_cast<unsigned char>(text.front())) != 0;
         Count("message " + (isNumbered ? text.substr(0, 3) : text));
@@ -192,7 +192,7 @@ int Run(const commandline::Request& request)
 
 int main(int count, char** words)
 {
-    // What is told stands in the output when a case ends the process, and no buffer comes to the heap later.
+    // What is printed is in the output when a case ends the process, and no buffer comes to the heap later.
     std::setvbuf(stdout, nullptr, _IONBF, 0);
     try
     {

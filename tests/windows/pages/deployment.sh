@@ -1,5 +1,5 @@
 # The deployment of docs/deployment.md, laid out on drive C: of the test prefix; sourced by the scripts beside it, which are
-# called with a PAGE and a BUILD. The script goes on in $folder, which it removes in the end.
+# called with a PAGE and a BUILD. The script continues in $folder, which it removes in the end.
 page=$1
 build=$2
 here=$(cd "$(dirname "$0")" && pwd)
@@ -51,7 +51,7 @@ report() {
 
 complain() { printf '%s\n' "$1"; bad=1; }
 
-# pattern LINE: a regular expression for a line of the page, where ... stands for anything, and blanks at its end for none.
+# pattern LINE: a regular expression for a line of the page, where ... means anything, and blanks at its end for none.
 pattern() { printf '%s\n' "$1" | sed 's/[][\.*^$]/\\&/g; s/…/.*/g; s/ *$/ */'; }
 
 # expect_told NUMBER N: bad.txt differs from good.txt by the line that the cell of the row has in backquotes; where it says

@@ -1,4 +1,4 @@
-# Rows of a table in a page; sourced by the scripts beside it, with $page set. A cell is told from the next by " | ".
+# Rows of a table in a page; sourced by the scripts beside it, with $page set. A cell is divided from the next by " | ".
 
 # row NUMBER: the row that begins with that number, without it.
 row() { sed -n "s/^| $1 | /| /p" "$page"; }
@@ -17,7 +17,7 @@ table() {
     ' "$page"
 }
 
-# expect_quoted NUMBER N FILE: what that cell has in quotes stands in the file, which holds what lytcall printed.
+# expect_quoted NUMBER N FILE: what that cell has in quotes is in the file, which holds what lytcall printed.
 expect_quoted() {
     sed 's/\\\\/\\/g' "$3" >printed
     quotes "$2" | while read -r text; do

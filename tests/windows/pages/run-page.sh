@@ -1,5 +1,5 @@
 #!/bin/sh
-# run-page.sh PAGE BUILD_FOLDER: does what a page of the documents tells its reader to do, in a folder of its own with
+# run-page.sh PAGE BUILD_FOLDER: does what a page of the documents tells its reader to do, in a separate folder with
 # copies of the samples and headers, and the import libraries. The tools of a native build are called by their names. With
 # LYT_UPDATE set it writes what was printed into the page.
 #

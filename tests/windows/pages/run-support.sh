@@ -14,7 +14,7 @@ registry() {
 value() { printf '[%s]\n%s="%s"\n' "$1" "$2" "$(printf '%s' "$3" | sed 's,\\,\\\\,g')" | registry; }
 without() { printf '[-%s]\n' "$1" | registry; }
 
-# older FILE FOLDER: a copy of that file of the deployment, in a folder of its own.
+# older FILE FOLDER: a copy of that file of the deployment, in a separate folder.
 older() { mkdir -p "$set/older" && cp "$set/$2/$1" "$set/older"; }
 
 trap 'grep "^.-" "$here/support.reg" | registry; rm -rf "$folder" "$drive/Inspection"' EXIT

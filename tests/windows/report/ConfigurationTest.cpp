@@ -14,7 +14,7 @@ class MachineWithoutAWordProcessor : public ReportTest
 {
 };
 
-// Two word processors, each with template directories of its own.
+// Two word processors, each with its own template directories.
 class TemplateSearch : public ReportTest
 {
 protected:
@@ -155,7 +155,7 @@ TEST_F(TemplateSearch, LastUserTemplateStaysInForceWhenNoneIsOfTheVersionInUse)
 
 TEST_F(TemplateSearch, WidthAfterTheVersionInUseKeepsItFromBeingMet)
 {
-    // The suffix " 64 bit" makes the text of the version in use unlike that of any version, so the search goes on.
+    // The suffix " 64 bit" makes the text of the version in use unlike that of any version, so the search continues.
     registry.AddKey(HKEY_LOCAL_MACHINE, "Software\\Microsoft\\Word\\17.0");
     registry.SetText(HKEY_CURRENT_USER, "Software\\Microsoft\\Office\\17.0\\Common\\General", "UserTemplates",
                      folder.File("user17"));

@@ -8,7 +8,7 @@
 namespace
 {
 
-// The call that fails, counted from 1; 0 is none.
+// The call that fails, counted from 1; 0 means no call.
 int failing = 0;
 int calls = 0;
 

@@ -39,7 +39,7 @@ protected:
     Texts Report(const char* directory = "");
     // The place of the folder of lyt.ini at the moment.
     std::string InitPath();
-    // Writes `lyt.ini` into the folder that the library was told at first.
+    // Writes `lyt.ini` into the folder that the library was given at first.
     void WriteIni(const std::string& content) { folder.Write("lyt.ini", content); }
     // Makes a folder of the test the installation directory.
     std::string InstallInto(const std::string& name);

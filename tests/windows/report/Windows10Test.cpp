@@ -1,4 +1,4 @@
-// From version 10 on the release is named by the registry. Only a program that says it knows Windows 10 is told of it.
+// From version 10 on the release is named by the registry. Only a program that says it knows Windows 10 learns of it.
 #include "ReportTest.h"
 
 #include "robot/Patience.h"

@@ -46,7 +46,7 @@ bool IsTabStop(HWND control)
     return !IsButtonOf(control, {BS_AUTORADIOBUTTON}) || (StyleOf(control) & WS_TABSTOP) != 0;
 }
 
-// That is shown and has no caption of its own.
+// That is shown and has no caption.
 bool IsField(HWND control)
 {
     const std::string type = robot::ClassOf(control);

@@ -1,4 +1,4 @@
-// The sample dialogs in one language, in a folder of their own, for the library to open.
+// The sample dialogs in one language, in a separate folder, for the library to open.
 #pragma once
 
 #include "support/TestFolder.h"

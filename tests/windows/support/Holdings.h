@@ -1,5 +1,5 @@
 // What this process holds of the platform and of its heap at one moment: what was done in between two such moments, and
-// is over, must not have left anything behind.
+// is over, must not have left anything.
 #pragma once
 
 #include <array>
@@ -9,7 +9,7 @@
 class Holdings
 {
 public:
-    // How often something is done that must leave nothing behind: a hundred times, and over real windows ten times, since
+    // How often something is done that must leave nothing: a hundred times, and over real windows ten times, since
     // they take minutes. LYT_LONG_RUN in the environment asks for the hundred there as well.
     static int Rounds();
 

@@ -127,7 +127,7 @@ size_t KernelHandles()
     return count;
 }
 
-// The next slot to be given out: slots in use stand before it.
+// The next slot to be given out: slots in use come before it.
 DWORD NextThreadSlot()
 {
     const DWORD slot = TlsAlloc();
@@ -142,7 +142,7 @@ DWORD NextFiberSlot()
     return slot;
 }
 
-// Classes stand in a table with the names of the process; the next one takes the lowest free place.
+// Classes are in a table with the names of the process; the next one takes the lowest free place.
 ATOM NextWindowClass()
 {
     WNDCLASSA kind = {};
@@ -169,7 +169,7 @@ size_t ActivationContextsHeld()
     return held;
 }
 
-// The contexts that this thread has switched on stand in a list.
+// The contexts that this thread has switched on are in a list.
 size_t ActivationContextsOn()
 {
     struct Frame

@@ -13,7 +13,7 @@ class Image
 public:
     explicit Image(HMODULE module) : m_module(module) {}
 
-    // What stands at an offset from the start.
+    // What is at an offset from the start.
     template <class T>
     T* At(ULONGLONG offset) const
     {

@@ -14,7 +14,7 @@ bool HasKey(HKEY root, const std::string& key)
     return true;
 }
 
-// The outermost part of a key that does not stand yet; empty when all of it does.
+// The outermost part of a key that is not there yet; empty when all of it is there.
 std::string FirstMissing(HKEY root, const std::string& key)
 {
     for (size_t end = key.find('\\');; end = key.find('\\', end + 1))

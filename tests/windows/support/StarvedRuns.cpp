@@ -1,5 +1,5 @@
 // A modal run over windows in memory that nothing could end any more was cancelled, so that the call came back. The test
-// that opened it has failed, whatever else it found.
+// that opened it has failed, in spite of all else that it found.
 #include "native/MemoryWindows.h"
 
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-// A data source that serves whatever a test hands it. It is loaded as lytsrc.dll; its functions are found by name.
+// A data source that serves what a test hands it. It is loaded as lytsrc.dll; its functions are found by name.
 #pragma once
 
 #include <lytsrc.h>

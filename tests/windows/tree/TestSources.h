@@ -7,5 +7,5 @@
 
 // Makes a variant the library `lytsrc`.
 HMODULE LoadTestSource(const std::string& variant);
-// Takes the library under test and its data source away, whoever still holds them.
+// Takes the library under test and its data source away, although others still hold them.
 void TakeLibrariesAway();

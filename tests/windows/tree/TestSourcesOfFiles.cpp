@@ -1,4 +1,4 @@
-// Each variant is a lytsrc.dll in a folder of its own beside the tests.
+// Each variant is a lytsrc.dll in a separate folder beside the tests.
 #include "TestSources.h"
 
 #include "support/Library.h"

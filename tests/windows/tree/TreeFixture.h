@@ -29,7 +29,7 @@ protected:
     void UseSource(const std::string& variant = "complete");
     // The data library of the tests, as a description names it.
     static std::string NastyLibrary();
-    // What the source serves from now on; `house` and `yard` unless told.
+    // What the source serves from now on; `house` and `yard` by default.
     void Serve(char kind, Records records, int startResult = 1);
     // Acts from inside the call in which the source delivers the record of this number; 0 for never.
     void Interrupt(int record, void (*act)()) const;

@@ -1,4 +1,4 @@
-// What one opening leaves behind for the next: open branches, the current entry, and what a property dialog's Cancel
+// What one opening leaves for the next: open branches, the current entry, and what a property dialog's Cancel
 // takes back.
 #include "TreeFixture.h"
 

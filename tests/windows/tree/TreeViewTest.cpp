@@ -1,4 +1,4 @@
-// What stands in the browser when it opens: entries, pictures, open branches, the selected entry.
+// What is in the browser when it opens: entries, pictures, open branches, the selected entry.
 #include "TreeFixture.h"
 
 class TreeView : public TreeTest

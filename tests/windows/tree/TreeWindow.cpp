@@ -147,7 +147,7 @@ void TreeWindow::DoubleClick(const std::string& label) const
     HTREEITEM item = Find(label);
     SendMessageA(m_tree, TVM_ENSUREVISIBLE, 0, Parameter(item));
     RECT place = {};
-    std::memcpy(&place, &item, sizeof(HTREEITEM)); // the message is told its item in the place for the answer
+    std::memcpy(&place, &item, sizeof(HTREEITEM)); // the message is given its item in the place for the answer
     SendMessageA(m_tree, TVM_GETITEMRECT, TRUE, Parameter(&place));
     robot::DoubleClickAt(m_tree, place.left + 3, (place.top + place.bottom) / 2);
 }

@@ -18,7 +18,7 @@ public:
 
     // All items from top to bottom, open or not: `label [image]`, two blanks deeper for each level.
     std::vector<std::string> Items() const;
-    // The labels of the items that stand open.
+    // The labels of the items that are open.
     std::vector<std::string> OpenItems() const;
     // The first item with the label; null without one.
     HTREEITEM Find(const std::string& label) const;

@@ -65,5 +65,5 @@ protected:
         return answer;
     }
 
-    std::string input; // what stood in the dialog's field
+    std::string input; // what was in the dialog's field
 };

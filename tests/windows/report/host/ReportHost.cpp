@@ -1,4 +1,4 @@
-// A host of its own for the library: writes the report to a file, as a program that knows Windows 10 or under a name that
+// A separate host for the library: writes the report to a file, as a program that knows Windows 10 or under a name that
 // the report looks at.
 #include "lyt64.h"
 
