@@ -1,7 +1,7 @@
 #include "fuzz/frame/Words.h"
 
+#include "controls/TypeWords.h"
 #include "dialog/ClytDialog.h"
-#include "lytdlg/judge/ControlKinds.h"
 #include "lytdlg/judge/DescriptionText.h"
 #include "model/ClytWords.h"
 
@@ -70,8 +70,8 @@ std::string Dictionary()
                         WordsOf<ClytFillAction>() + WordsOf<ClytValueWord>() + Quoted(lytStartName);
     for (const lytdlg::Section section : lytdlg::allSections)
         words += Quoted(lytdlg::WordOf(section));
-    for (const std::string& type : lytdlg::TypeWords())
-        words += Quoted(type);
+    for (const ClytType& type : lytTypes)
+        words += Quoted(type.word);
     for (const char* word : furtherWords)
         words += Quoted(word);
     return words;

@@ -2,6 +2,7 @@
 
 #include "base/ClytRedrawPause.h"
 #include "base/Words.h"
+#include "controls/TypeWords.h"
 
 namespace
 {
@@ -13,8 +14,8 @@ struct ComboKind
 };
 
 constexpr ComboKind comboKinds[] = {
-    {"ComboBox", WS_VISIBLE | WS_TABSTOP | CBS_DROPDOWN | CBS_AUTOHSCROLL},
-    {"DropListBox", WS_VISIBLE | WS_TABSTOP | CBS_DROPDOWNLIST},
+    {lytTypeOf(ClytKind::Combo).word, WS_VISIBLE | WS_TABSTOP | CBS_DROPDOWN | CBS_AUTOHSCROLL},
+    {lytTypeOf(ClytKind::DropList).word, WS_VISIBLE | WS_TABSTOP | CBS_DROPDOWNLIST},
 };
 
 // The place of the fixed first item in a "FILLEDBY" statement.

@@ -12,7 +12,10 @@
 #include "controls/ClytPushButtonControl.h"
 #include "controls/ClytRadioButtonControl.h"
 #include "controls/ClytStaticControl.h"
+#include "controls/TypeWords.h"
 #include "model/ClytScale.h"
+
+#include <iterator>
 
 namespace
 {
@@ -61,20 +64,21 @@ ControlPtr MakeOptionButton(const ClytControlRequest& request)
 }
 
 constexpr ControlType controlTypes[] = {
-    {"PushButton", Make<ClytPushButtonControl>},
-    {"Text", Make<ClytStaticControl>},
-    {"TextBox", Make<ClytEditControl>},
-    {"GroupBox", Make<ClytGroupBoxControl>},
-    {"ComboBox", MakeCombo},
-    {"DropListBox", MakeCombo},
-    {"ListBox", Make<ClytListBoxControl>},
-    {"CheckListBox", Make<ClytCheckListBox>},
-    {"CheckBox", Make<ClytCheckBoxControl>},
-    {"OptionGroup", MakeOptionGroup},
-    {"OptionButton", MakeOptionButton},
-    {"OKButton", MakeDefault<1>},
-    {"CancelButton", MakeDefault<0>},
+    {lytTypeOf(ClytKind::Button).word, Make<ClytPushButtonControl>},
+    {lytTypeOf(ClytKind::Text).word, Make<ClytStaticControl>},
+    {lytTypeOf(ClytKind::Field).word, Make<ClytEditControl>},
+    {lytTypeOf(ClytKind::Frame).word, Make<ClytGroupBoxControl>},
+    {lytTypeOf(ClytKind::Combo).word, MakeCombo},
+    {lytTypeOf(ClytKind::DropList).word, MakeCombo},
+    {lytTypeOf(ClytKind::List).word, Make<ClytListBoxControl>},
+    {lytTypeOf(ClytKind::CheckList).word, Make<ClytCheckListBox>},
+    {lytTypeOf(ClytKind::CheckBox).word, Make<ClytCheckBoxControl>},
+    {lytTypeOf(ClytKind::OptionGroup).word, MakeOptionGroup},
+    {lytTypeOf(ClytKind::Option).word, MakeOptionButton},
+    {lytTypeOf(ClytKind::Ok).word, MakeDefault<1>},
+    {lytTypeOf(ClytKind::Cancel).word, MakeDefault<0>},
 };
+static_assert(std::size(controlTypes) == std::size(lytTypes));
 
 } // namespace
 

@@ -1,4 +1,4 @@
-// The type words of the layout section, and the control that each names.
+// Makes the control of a type word of the layout.
 #pragma once
 
 #include "model/ClytControl.h"
@@ -15,5 +15,5 @@ struct ClytControlRequest
     const CString& label;
 };
 
-// Null for a word that names no control.
+// Null for a word that stands for no control.
 [[nodiscard]] std::unique_ptr<ClytControl> lytMakeControl(const ClytControlRequest& request);

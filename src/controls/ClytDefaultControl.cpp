@@ -1,6 +1,7 @@
 #include "controls/ClytDefaultControl.h"
 
 #include "controls/ClytWindowControl.h"
+#include "controls/TypeWords.h"
 #include "environment/ClytEnvironment.h"
 
 #include <iterator>
@@ -17,8 +18,8 @@ struct ButtonKind
 
 // By kind: Cancel, OK.
 constexpr ButtonKind buttonKinds[] = {
-    {"002", WS_TABSTOP, IDCANCEL},
-    {"001", WS_TABSTOP | BS_DEFPUSHBUTTON, IDOK},
+    {lytTypeOf(ClytKind::Cancel).captionKey, WS_TABSTOP, IDCANCEL},
+    {lytTypeOf(ClytKind::Ok).captionKey, WS_TABSTOP | BS_DEFPUSHBUTTON, IDOK},
 };
 
 } // namespace
@@ -37,8 +38,8 @@ void ClytDefaultControl::CreateControl(ClytForm* owner)
         return;
     const ButtonKind& button = buttonKinds[kind];
     CWnd& window = owner->GetWindow();
-    Create(lytEnvironment.GetText("Buttons", button.textKey), button.style, lytLayoutRect(position, size), &window,
-           button.id);
+    Create(lytEnvironment.GetText(lytButtonSection, button.textKey), button.style, lytLayoutRect(position, size),
+           &window, button.id);
     if (const CWnd* child = window.GetDlgItem(static_cast<int>(button.id)))
     {
         child->ShowWindow(SW_SHOW);

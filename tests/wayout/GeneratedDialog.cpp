@@ -1,5 +1,7 @@
 #include "GeneratedDialog.h"
 
+#include "controls/TypeWords.h"
+
 #include <algorithm>
 
 namespace
@@ -19,11 +21,6 @@ const Words nextFunctions = {"Next", "NextRaises", "Nowhere"};
 const Words groups = {"one", "two", "three"};
 // The second conversion is not one, and is found when the text is composed.
 const Words formats = {"%s;%s", "%s", "plain", "%s.5%q", "%s%"};
-
-bool IsList(const std::string& type)
-{
-    return type == "ListBox" || type == "CheckListBox";
-}
 
 } // namespace
 
@@ -49,8 +46,9 @@ GeneratedDialog::GeneratedDialog(Dice& dice) : m_dice(dice)
 
 void GeneratedDialog::AddLayout(const std::string& type, const std::string& name)
 {
-    m_text.layout += type + " 10, " + std::to_string(m_top) + ", 120, " + (type == "TextBox" ? "19" : "60") + ", \"" +
-                     (m_dice.Is(6) ? "" : "LABEL") + "\", ." + name + "\n";
+    m_text.layout += type + " 10, " + std::to_string(m_top) + ", 120, " +
+                     (lytTypeOf(type).kind == ClytKind::Field ? "19" : "60") + ", \"" + (m_dice.Is(6) ? "" : "LABEL") +
+                     "\", ." + name + "\n";
     m_names.push_back(name);
     if (std::ranges::find(withoutValue, type) == withoutValue.end())
         m_valued.push_back(name);
@@ -61,7 +59,7 @@ void GeneratedDialog::AddControl(size_t number)
 {
     const std::string& type = m_dice.Of(types);
     const std::string name(1, static_cast<char>('A' + number));
-    if (type == "OptionGroup")
+    if (lytTypeOf(type).kind == ClytKind::OptionGroup)
         AddOptions(name);
     else
     {
@@ -86,21 +84,22 @@ void GeneratedDialog::AddOptions(const std::string& name)
         m_text.values += name + " = a\n";
 }
 
-void GeneratedDialog::AddValues(const std::string& name, const std::string& type)
+void GeneratedDialog::AddValues(const std::string& name, const std::string& typeWord)
 {
-    if (type == "TextBox" && m_dice.Is(2))
+    const ClytType& type = lytTypeOf(typeWord);
+    if (type.kind == ClytKind::Field && m_dice.Is(2))
     {
         m_text.values += name + " = FILLEDBY, failing, " + m_dice.Of(textFunctions) + ", x" +
                          (m_dice.Is(2) ? ", " + m_dice.Of(groups) : "") + "\n";
         m_filled.push_back(name);
     }
-    else if (type == "TextBox")
+    else if (type.kind == ClytKind::Field)
         m_text.values += name + " = " + m_dice.Of(values) + "\n";
-    else if (IsList(type) || type == "ComboBox" || type == "DropListBox")
-        AddListValues(name, !IsList(type));
-    else if (type == "CheckBox")
+    else if (type.hasItems)
+        AddListValues(name, !type.isOpenList);
+    else if (type.kind == ClytKind::CheckBox)
         m_text.values += name + ": ON = on\n" + name + ": OFF = off\n";
-    else if (type == "PushButton")
+    else if (type.kind == ClytKind::Button)
         AddAction(name);
 }
 

@@ -17,7 +17,7 @@ public:
 private:
     void AddControl(size_t number);
     void AddOptions(const std::string& name);
-    void AddValues(const std::string& name, const std::string& type);
+    void AddValues(const std::string& name, const std::string& typeWord);
     void AddListValues(const std::string& name, bool isCombo);
     void AddAction(const std::string& name);
     void AddRule();

@@ -1,6 +1,6 @@
 // The dictionary of the fuzzers has each word that the library's tables have.
+#include "controls/TypeWords.h"
 #include "fuzz/frame/Words.h"
-#include "lytdlg/judge/ControlKinds.h"
 #include "support/WordKinds.h"
 
 #include <gtest/gtest.h>
@@ -33,8 +33,8 @@ TYPED_TEST(DictionaryOfTheFuzzers, HasTheWordsOfTheKind)
 
 TEST(Dictionary, HasTypesAndSections)
 {
-    for (const std::string& type : lytdlg::TypeWords())
-        EXPECT_TRUE(StandsInDictionary(type));
+    for (const ClytType& type : lytTypes)
+        EXPECT_TRUE(StandsInDictionary(type.word));
     for (const char* section :
          {"$VERSION", "$LAYOUT", "$VALUES", "$DEPENDANCES", "$EVALUATION", "$INPUT", "$OUTPUT", "$END"})
         EXPECT_TRUE(StandsInDictionary(section));

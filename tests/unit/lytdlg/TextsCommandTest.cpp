@@ -234,7 +234,7 @@ TEST(Texts, OfTheLibraryAreAskedForInNoOtherWay)
 {
     EXPECT_EQ(NamedInSources("", "lytEnvironment\\.GetText\\((?!\"\\w+\", \"\\w+\"\\))([^,]*),"),
               (std::set<std::string>{"GetTextSection()", "this->dialog->GetTextSection()", "dialog->GetTextSection()",
-                                     "lytErrorSection", "section", "CString(section)", "\"Buttons\""}));
+                                     "lytErrorSection", "section", "CString(section)", "lytButtonSection"}));
 }
 
 TEST(TextsCommand, SaysWhatToWriteWhenItIsNotUnderstood)

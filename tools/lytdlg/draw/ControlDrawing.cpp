@@ -1,5 +1,7 @@
 #include "lytdlg/draw/ControlDrawing.h"
 
+#include "controls/TypeWords.h"
+
 #include <algorithm>
 
 namespace lytdlg
@@ -166,7 +168,7 @@ void DrawItem(SvgPen& pen, const SeenControl& control, size_t index, const Area&
     const bool isChosen = control.chosen == static_cast<int>(index) && control.isEnabled;
     const char* const textColor = isChosen ? color::chosenText : TextColor(control);
     Area text = item;
-    if (control.type == "CheckListBox")
+    if (lytTypeOf(control.type).hasMarks)
     {
         const int margin = pen.Scaled(2);
         const int side = std::min(pen.Scaled(markSize), item.height);
@@ -176,7 +178,7 @@ void DrawItem(SvgPen& pen, const SeenControl& control, size_t index, const Area&
     }
     if (isChosen)
         pen.Fill(text, color::chosen);
-    const int indent = control.type == "CheckListBox" ? pen.Scaled(2) : 1;
+    const int indent = lytTypeOf(control.type).hasMarks ? pen.Scaled(2) : 1;
     pen.Text(text.left + indent, text.top + Middle(item.height, pen.TextHeight()), shown.text, textColor, item.width);
 }
 
@@ -253,19 +255,19 @@ void DrawButton(SvgPen& pen, const SeenControl& control)
 
 void DrawControl(SvgPen& pen, const SeenControl& control)
 {
-    static constexpr struct
+    struct Drawing
     {
-        const char* type;
+        ClytKind kind;
         void (*draw)(SvgPen& pen, const SeenControl& control);
-    } kinds[] = {{"Text", DrawLabel},        {"TextBox", DrawField},     {"GroupBox", DrawGroupFrame},
-                 {"ComboBox", DrawCombo},    {"DropListBox", DrawCombo}, {"ListBox", DrawList},
-                 {"CheckListBox", DrawList}, {"CheckBox", DrawCheckBox}, {"OptionButton", DrawOption},
-                 {"PushButton", DrawButton}, {"OKButton", DrawButton},   {"CancelButton", DrawButton}};
-    for (const auto& kind : kinds)
-    {
-        if (control.type == kind.type)
-            kind.draw(pen, control);
-    }
+    };
+    static constexpr Drawing drawings[] = {
+        {ClytKind::Text, DrawLabel},     {ClytKind::Field, DrawField},       {ClytKind::Frame, DrawGroupFrame},
+        {ClytKind::Combo, DrawCombo},    {ClytKind::DropList, DrawCombo},    {ClytKind::List, DrawList},
+        {ClytKind::CheckList, DrawList}, {ClytKind::CheckBox, DrawCheckBox}, {ClytKind::Option, DrawOption},
+        {ClytKind::Button, DrawButton},  {ClytKind::Ok, DrawButton},         {ClytKind::Cancel, DrawButton}};
+    const auto* const drawn = std::ranges::find(drawings, lytTypeOf(control.type).kind, &Drawing::kind);
+    if (drawn != std::end(drawings))
+        drawn->draw(pen, control);
 }
 
 } // namespace lytdlg

@@ -4,6 +4,7 @@
 #include "commandline/Text.h"
 #include "dialog/ClytDialog.h"
 #include "lytdlg/draw/GraphTexts.h"
+#include "lytdlg/judge/Controls.h"
 #include "lytdlg/text/Paths.h"
 #include "lytdlg/text/Words.h"
 #include "model/ClytWords.h"
@@ -60,7 +61,7 @@ private:
                                        {ClytAction::Fill, &UseGraph::DrawFill}};
         const ClytControlStatement* control = m_description.FindControl(statement.name);
         const CString keyword = statement.keyword.c_str();
-        if (control != nullptr && control->type == "PushButton")
+        if (control != nullptr && KindOf(*control) == Kind::Button)
         {
             const auto use = std::ranges::find(uses, lytMeaningOf<ClytAction>(keyword), &Use::action);
             if (use != std::end(uses))

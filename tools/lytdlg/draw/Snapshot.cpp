@@ -1,5 +1,6 @@
 #include "lytdlg/draw/Snapshot.h"
 
+#include "controls/TypeWords.h"
 #include "lytdlg/try/TrialDialog.h"
 #include "robot/WindowRobot.h"
 
@@ -75,7 +76,7 @@ void ReadList(HWND list, SeenControl& control)
     RECT rect{};
     Ask(list, LB_GETITEMRECT, static_cast<WPARAM>(control.topItem), reinterpret_cast<LPARAM>(&rect));
     control.firstItem = AreaOf(rect);
-    if (control.type != "CheckListBox")
+    if (!lytTypeOf(control.type).hasMarks)
         return;
     for (size_t index = 0; index < control.items.size(); ++index)
         control.items[index].isMarked = Ask(list, LB_GETITEMDATA, index) == BST_CHECKED;
@@ -100,15 +101,16 @@ void ReadWindow(HWND window, HWND dialog, SeenControl& control)
     control.isShown = IsWindowVisible(window) != FALSE;
     control.isEnabled = IsWindowEnabled(window) != FALSE;
     control.hasFocus = GetFocus() == window || IsChild(window, GetFocus()) != FALSE;
-    if (control.type == "CheckBox" || control.type == "OptionButton")
+    const ClytType& type = lytTypeOf(control.type);
+    if (type.isChecked)
         control.isChecked = Ask(window, BM_GETCHECK) == BST_CHECKED;
-    else if (control.type.ends_with("Button"))
+    else if (type.isButton)
         control.isDefault = (GetWindowLongA(window, GWL_STYLE) & LONG{BS_TYPEMASK}) == BS_DEFPUSHBUTTON;
-    else if (control.type == "TextBox")
+    else if (type.kind == ClytKind::Field)
         ReadSelection(window, control);
-    else if (control.type == "ListBox" || control.type == "CheckListBox")
+    else if (type.isOpenList)
         ReadList(window, control);
-    else if (control.type == "ComboBox" || control.type == "DropListBox")
+    else if (type.hasItems)
         ReadCombo(window, control);
 }
 

@@ -1,6 +1,7 @@
 #include "lytdlg/draw/SvgDrawing.h"
 
 #include "commandline/Text.h"
+#include "controls/TypeWords.h"
 #include "lytdlg/draw/ControlDrawing.h"
 
 #include <algorithm>
@@ -55,12 +56,13 @@ void DrawName(SvgPen& pen, const SeenControl& control)
     const Area& place = control.place;
     const int right = place.left + place.width;
     const int bottom = place.top + place.height;
+    const ClytType& type = lytTypeOf(control.type);
     const int inside = std::max(place.left + 2, right - pen.NoteWidth(control.name) - 2);
-    if (control.type == "Text")
+    if (type.kind == ClytKind::Text)
         pen.Note(place.left, bottom, control.name, color::name);
-    else if (control.type == "CheckBox" || control.type == "OptionButton")
+    else if (type.isChecked)
         pen.Note(right + 3, place.top + 1, control.name, color::name);
-    else if (control.type.ends_with("Button"))
+    else if (type.isButton)
         pen.Note(inside, bottom - pen.Scaled(4), control.name, color::name);
     else
         pen.Note(inside, place.top + 1, control.name, color::name);

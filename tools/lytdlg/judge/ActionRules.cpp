@@ -5,6 +5,7 @@
 #include "model/ClytWords.h"
 
 #include <algorithm>
+#include <functional>
 
 namespace lytdlg
 {
@@ -25,24 +26,19 @@ struct ActionLine : PlacedValue
     }
 };
 
-using Takes = bool (*)(Kind);
-
-bool IsAny(Kind kind)
-{
-    return !IsDefault(kind);
-}
+using Takes = std::function<bool(const ClytType&)>;
 
 // False when there is no such control, or when it does not take the action.
-void JudgeTarget(const ActionLine& statement, size_t index, Takes takes, const char* what)
+void JudgeTarget(const ActionLine& statement, size_t index, const Takes& takes, const char* what)
 {
     const std::string name = statement.Value(index);
     const Kind kind = KindOfControl(statement.Of(), name);
     if (statement.Of().FindControl(name) == nullptr)
         statement.Add("action-target", index, "no control is called " + InQuotes(name) + "; a press does nothing",
                       MeantOr(name, ControlNames(statement.Of()), "use the name of a control"));
-    else if (kind != Kind::Unknown && !takes(kind))
+    else if (kind != Kind::Unknown && !takes(lytTypeOf(kind)))
         statement.Add("action-kind", index,
-                      InQuotes(name) + " is " + NameOf(kind) + ", and " + statement.value.keyword +
+                      InQuotes(name) + " is " + lytTypeOf(kind).name + ", and " + statement.value.keyword +
                           " does nothing to it",
                       std::string("use ") + what);
 }
@@ -107,13 +103,13 @@ void JudgeAdd(const ActionLine& statement)
 {
     if (!HasWords(statement, 2, "ADD = FROM, TO"))
         return;
-    JudgeTarget(statement, 0, IsOpenList, "a list or a check list");
-    JudgeTarget(statement, statement.value.values.size() - 1, HasItems, "a list");
+    JudgeTarget(statement, 0, &ClytType::isOpenList, "a list or a check list");
+    JudgeTarget(statement, statement.value.values.size() - 1, &ClytType::hasItems, "a list");
 }
 
 void JudgeMove(const ActionLine& statement)
 {
-    JudgeTarget(statement, 0, HasItems, "a list");
+    JudgeTarget(statement, 0, &ClytType::hasItems, "a list");
     if (KindOfControl(statement.Of(), statement.Value(0)) == Kind::List)
         statement.Add("action-order", 0,
                       InQuotes(statement.Value(0)) + " is a plain list, which then shows one order and answers another",
@@ -123,8 +119,8 @@ void JudgeMove(const ActionLine& statement)
 void JudgeFill(const ActionLine& statement)
 {
     const std::string name = statement.Value(0);
-    JudgeTarget(statement, 0, IsFilledByLibrary, "a list or a field");
-    if (IsFilledByLibrary(KindOfControl(statement.Of(), name)) &&
+    JudgeTarget(statement, 0, &ClytType::isFilled, "a list or a field");
+    if (lytTypeOf(KindOfControl(statement.Of(), name)).isFilled &&
         LastStatementOf(statement.Of(), name, Role::Source) == nullptr)
         statement.Add("action-fill", 0, "no statement FILLEDBY says what fills " + InQuotes(name),
                       "add \"" + name + " = FILLEDBY, LIBRARY, FUNCTION, NEXT\" to $VALUES");
@@ -136,9 +132,9 @@ void JudgeAction(const ActionLine& statement)
     switch (lytMeaningOf<ClytAction>(word.c_str()))
     {
     case ClytAction::Visible:
-    case ClytAction::Active: JudgeTarget(statement, 0, IsAny, "another control"); break;
+    case ClytAction::Active: JudgeTarget(statement, 0, std::not_fn(&ClytType::isDefault), "another control"); break;
     case ClytAction::Add: JudgeAdd(statement); break;
-    case ClytAction::Delete: JudgeTarget(statement, 0, HasItems, "a list"); break;
+    case ClytAction::Delete: JudgeTarget(statement, 0, &ClytType::hasItems, "a list"); break;
     case ClytAction::Up:
     case ClytAction::Down: JudgeMove(statement); break;
     case ClytAction::Fill: JudgeFill(statement); break;
@@ -191,7 +187,7 @@ void JudgeDoubleClick(const ActionLine& statement)
     statement.Add("double-click", 0,
                   control == nullptr
                       ? "no control is called " + InQuotes(name)
-                      : InQuotes(name) + " is " + NameOf(kind) + ", and a double click does nothing to it",
+                      : InQuotes(name) + " is " + lytTypeOf(kind).name + ", and a double click does nothing to it",
                   MeantOr(name, statement.Of().Index().ButtonNames(), "name a push button, or OK"));
 }
 

@@ -54,11 +54,11 @@ bool JudgeKind(const Condition& condition)
     const bool isEvent = condition.rule.IsEventRule();
     const bool isAsked = isEvent || (condition.HasValues() && !AsksForContent(condition.list));
     const bool isDefButton = condition.rule.stateWord.GetMeaning() == ClytState::DefButton;
-    if (!isAsked || isDefButton || (HasValue(condition.kind) && (condition.kind != Kind::Option || isEvent)))
+    if (!isAsked || isDefButton || (lytTypeOf(condition.kind).hasValue && (condition.kind != Kind::Option || isEvent)))
         return false;
     const bool isOption = condition.kind == Kind::Option;
     condition.judged.findings.Add("condition-without-value", condition.list.GetSpan(),
-                                  InQuotes(condition.Name()) + " is " + NameOf(condition.kind) +
+                                  InQuotes(condition.Name()) + " is " + lytTypeOf(condition.kind).name +
                                       (isOption  ? ", which has its value checked or not"
                                        : isEvent ? ", which never changes"
                                                  : ", which has no value"),
@@ -84,12 +84,11 @@ void JudgeAlways(const Condition& condition)
                 : InQuotes(condition.Name()) + " is never disabled, and so the condition always holds",
             condition.HasValues() ? "name some of them, or delete the condition"
                                   : "write the values that it should have in brackets, or NOTNULL");
-    if (AsksForContent(condition.list) && !HasItems(condition.kind) && condition.kind != Kind::Field &&
-        !IsDefault(condition.kind))
+    if (AsksForContent(condition.list) && !lytTypeOf(condition.kind).isFilled && !lytTypeOf(condition.kind).isDefault)
         condition.judged.findings.Add(
             "condition-always", condition.list.GetSpan(),
-            InQuotes(condition.Name()) + " is " + NameOf(condition.kind) + ", for which NOTNULL always holds",
-            HasValue(condition.kind) ? "name the values that it should have" : "name a field or a list");
+            InQuotes(condition.Name()) + " is " + lytTypeOf(condition.kind).name + ", for which NOTNULL always holds",
+            lytTypeOf(condition.kind).hasValue ? "name the values that it should have" : "name a field or a list");
 }
 
 void JudgeFocus(const Condition& condition)

@@ -28,7 +28,7 @@ void JudgeItems(const Case& judged)
         const std::string section = judged.description.TextSection();
         const auto isKey = [&](const LanguageFile& file)
         { return file.Find(section, value.values.front()) != nullptr; };
-        if (IsOpenList(statement.kind) && std::ranges::any_of(judged.surroundings.texts.Files(), isKey))
+        if (lytTypeOf(statement.kind).isOpenList && std::ranges::any_of(judged.surroundings.texts.Files(), isKey))
             judged.findings.Add("item-is-key", statement.PlaceOfValue(),
                                 InQuotes(value.values.front()) + " is also a key of the section [" + section + "]",
                                 "give the item a value that is no key");

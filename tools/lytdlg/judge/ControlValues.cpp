@@ -61,7 +61,7 @@ Role RoleOf(Kind kind, const ValueStatement& statement)
     // A field asks for FILLEDBY first, any other control for the option words.
     if (kind == Kind::Field && keyword == ClytKeyword::FilledBy)
         return Role::Source;
-    const bool takesNothing = kind == Kind::Unknown || IsDefault(kind);
+    const bool takesNothing = kind == Kind::Unknown || lytTypeOf(kind).isDefault;
     if (!takesNothing && OptionOf(statement) != ClytOption::Other)
         return Role::Option;
     switch (kind)
@@ -71,7 +71,7 @@ Role RoleOf(Kind kind, const ValueStatement& statement)
     case Kind::List:
     case Kind::CheckList:
     case Kind::DropList:
-    case Kind::Combo: return RoleOfList(keyword, IsOpenList(kind));
+    case Kind::Combo: return RoleOfList(keyword, lytTypeOf(kind).isOpenList);
     case Kind::CheckBox: return RoleOfCheckBox(keyword);
     case Kind::Option: return Role::OptionValue;
     case Kind::Button: return Role::Action;

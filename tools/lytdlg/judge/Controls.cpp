@@ -7,7 +7,7 @@ namespace lytdlg
 
 Kind KindOf(const ClytControlStatement& control)
 {
-    return KindOf(std::string(control.type.GetString()));
+    return lytTypeOf(control.type.GetString()).kind;
 }
 
 const ClytControlStatement* GroupOf(const Description& description, const ClytControlStatement& option)

@@ -60,13 +60,14 @@ void JudgeWord(const Judged& each)
         each.Add("state-unknown", each.PlaceOfWord(),
                  InQuotes(word) + " is no state; the rule shows and hides the control",
                  MeantOr(word, WordsOf<ClytState>(), "use VISIBLE, ACTIVE, CLEAR, FILL or DEFBUTTON"));
-    if (IsDefault(each.kind) && IsStateRule(each.rule))
+    if (lytTypeOf(each.kind).isDefault && IsStateRule(each.rule))
         each.Add("state-on-ok", each.PlaceOfName(),
-                 std::string(NameOf(each.kind)) + " has no states; the rule does nothing",
+                 std::string(lytTypeOf(each.kind).name) + " has no states; the rule does nothing",
                  "refuse what must not be confirmed in $EVALUATION");
     if (each.rule.stateWord.GetMeaning() == ClytState::DefButton && each.kind != Kind::Button)
         each.Add("default-button", each.PlaceOfName(),
-                 InQuotes(each.Name()) + " is " + NameOf(each.kind) + " and cannot be pressed", "name a push button");
+                 InQuotes(each.Name()) + " is " + lytTypeOf(each.kind).name + " and cannot be pressed",
+                 "name a push button");
     if (each.rule.stateWord.GetMeaning() == ClytState::Visible && HasOption(each.Of(), each.Name(), ClytOption::Hidden))
         each.Add("hidden-shown", each.PlaceOfName(), InQuotes(each.Name()) + " is HIDDEN, and this rule shows it",
                  "make it INVISIBLE in $VALUES, or delete the rule");
@@ -77,9 +78,9 @@ void JudgeEvent(const Judged& each)
     if (!each.rule.IsEventRule())
         return;
     const std::string word = each.rule.stateWord.GetText().GetString();
-    if (!IsFilledByLibrary(each.kind))
+    if (!lytTypeOf(each.kind).isFilled)
         each.Add("event-kind", each.PlaceOfName(),
-                 InQuotes(each.Name()) + " is " + NameOf(each.kind) + " and does not know " + word,
+                 InQuotes(each.Name()) + " is " + lytTypeOf(each.kind).name + " and does not know " + word,
                  "use it for fields and lists");
     else if (each.rule.stateWord.GetMeaning() == ClytState::Fill &&
              LastStatementOf(each.Of(), each.Name(), Role::Source) == nullptr)

@@ -16,11 +16,11 @@ bool TakesAction(Kind kind, ClytFillAction word)
 {
     switch (word)
     {
-    case ClytFillAction::Fill: return HasItems(kind) || kind == Kind::Field;
+    case ClytFillAction::Fill: return lytTypeOf(kind).isFilled;
     case ClytFillAction::Add:
-    case ClytFillAction::Modify: return HasItems(kind);
-    case ClytFillAction::Concat: return IsOpenList(kind);
-    default: return HasValue(kind);
+    case ClytFillAction::Modify: return lytTypeOf(kind).hasItems;
+    case ClytFillAction::Concat: return lytTypeOf(kind).isOpenList;
+    default: return lytTypeOf(kind).hasValue;
     }
 }
 
@@ -55,7 +55,7 @@ void JudgeAction(const Case& judged, const ClytControlFill& fill, Kind kind)
         judged.findings
             .Add("scan-fill-source", fill.span, InQuotes(name) + " has no FILLEDBY statement to fill it by",
                  "add one to $VALUES")
-            .number = HasItems(kind) ? lytError("LibraryNotNamed") : "";
+            .number = lytTypeOf(kind).hasItems ? lytError("LibraryNotNamed") : "";
 }
 
 // An open list that has at that time the items of $VALUES alone: no button was pressed when the dialog opens.
@@ -114,7 +114,7 @@ void JudgeFill(const Case& judged, const InputPart& part, const ClytControlFill&
     const Kind kind = KindOf(*control);
     JudgeAction(judged, fill, kind);
     JudgeFixedValue(judged, fill, *control);
-    if (IsOpenList(kind) && fill.action.GetText().IsEmpty())
+    if (lytTypeOf(kind).isOpenList && fill.action.GetText().IsEmpty())
         JudgeChoice(judged, part, fill);
 }
 

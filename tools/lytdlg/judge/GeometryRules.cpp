@@ -304,8 +304,8 @@ void JudgeHeights(const Case& judged)
     for (const ClytControlStatement& control : judged.description.controls)
     {
         const Kind kind = KindOf(control);
-        const bool isOpen = IsOpenList(kind);
-        if (HasItems(kind) && !isOpen && control.height < fieldHeight + rowHeight)
+        const bool isOpen = lytTypeOf(kind).isOpenList;
+        if (lytTypeOf(kind).hasItems && !isOpen && control.height < fieldHeight + rowHeight)
             judged.findings.Add("geometry-drop", control.span,
                                 "with a height of " + std::to_string(control.height) + " the list has no room to open",
                                 "allow 19 for the field and 15 for each row");

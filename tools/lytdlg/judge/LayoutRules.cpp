@@ -74,19 +74,21 @@ void JudgeNamePoint(const LayoutLine& statement)
     if (words.size() > last + 1)
         statement.judged.findings.Add("control-surplus", PlaceOf(statement.control, words[last + 1]),
                                       "nothing is read after the name", "delete the words");
-    const bool isNameAsText = words.size() == 6 && !statement.control.text.IsEmpty() && !ShowsText(statement.kind) &&
-                              statement.kind != Kind::Unknown && !IsInQuotes(statement, words[5]);
+    const bool isNameAsText = words.size() == 6 && !statement.control.text.IsEmpty() &&
+                              !lytTypeOf(statement.kind).hasCaption && statement.kind != Kind::Unknown &&
+                              !IsInQuotes(statement, words[5]);
     const LineToken* name = isNameAsText                                                       ? &words[5]
                             : words.size() > 6 && last == 6 && !words[6].text.starts_with('.') ? &words[6]
                                                                                                : nullptr;
     if (name == nullptr || name->text.empty())
         return;
     const std::string taken = statement.control.name.GetString();
-    statement.judged.findings.Add(
-        "name-without-point", PlaceOf(statement.control, *name),
-        isNameAsText ? InQuotes(name->text) + " is taken for a text, which " + NameOf(statement.kind) + " does not show"
-                     : "the control is called " + InQuotes(taken) + ", without its first letter",
-        "write \"." + name->text + "\"");
+    statement.judged.findings.Add("name-without-point", PlaceOf(statement.control, *name),
+                                  isNameAsText
+                                      ? InQuotes(name->text) + " is taken for a text, which " +
+                                            lytTypeOf(statement.kind).name + " does not show"
+                                      : "the control is called " + InQuotes(taken) + ", without its first letter",
+                                  "write \"." + name->text + "\"");
 }
 
 void JudgeNumber(const Case& judged, int line, const LineToken& word, const char* what)
@@ -125,7 +127,7 @@ void JudgeNumbers(const LayoutLine& statement)
         JudgeNumber(statement.judged, statement.control.span.line, statement.words[index + 1], names[index]);
     const ClytControlStatement& control = statement.control;
     const bool hasSize = control.width > 0 && control.height > 0;
-    if (hasSize || !HasSize(statement.kind) ||
+    if (hasSize || !lytTypeOf(statement.kind).hasSize ||
         HasOption(statement.judged.description, control.name.GetString(), ClytOption::Hidden))
         return;
     const bool isWord =
@@ -135,7 +137,7 @@ void JudgeNumbers(const LayoutLine& statement)
     if (!isWord)
         statement.judged.findings.Add(
             "size-zero", hasNumbers ? PlaceOf(control, statement.words[control.width > 0 ? 4 : 3]) : control.span,
-            NameOf(statement.kind) + std::string(" without ") + (control.width > 0 ? "a height" : "a width") +
+            lytTypeOf(statement.kind).name + std::string(" without ") + (control.width > 0 ? "a height" : "a width") +
                 " cannot be seen",
             "give it a size, or make it HIDDEN in $VALUES");
 }
@@ -148,7 +150,7 @@ void JudgeCaption(const LayoutLine& statement)
         HasOption(statement.judged.description, control.name.GetString(), ClytOption::Hidden))
         return;
     statement.judged.findings.Add("box-without-caption", statement.judged.description.PlaceOf(control.span.line),
-                                  NameOf(statement.kind) +
+                                  lytTypeOf(statement.kind).name +
                                       std::string(" without a caption has no height and cannot be clicked"),
                                   "write the key of its text before the name, or make it HIDDEN in $VALUES");
 }
@@ -215,16 +217,16 @@ void JudgeOptionGroups(const Case& judged)
     judgeGroup();
 }
 
-void JudgeButton(const Case& judged, Kind kind, const char* typeWord)
+void JudgeButton(const Case& judged, const ClytType& type)
 {
     const ClytControlStatement* first = nullptr;
     for (const ClytControlStatement& control : judged.description.controls)
     {
-        if (KindOf(control) != kind)
+        if (KindOf(control) != type.kind)
             continue;
         if (first != nullptr)
             judged.findings.Add("button-twice", judged.description.PlaceOf(control.span.line),
-                                std::string("the dialog has ") + NameOf(kind) + " already, in line " +
+                                std::string("the dialog has ") + type.name + " already, in line " +
                                     std::to_string(first->span.line),
                                 "delete one of them");
         else
@@ -232,8 +234,8 @@ void JudgeButton(const Case& judged, Kind kind, const char* typeWord)
     }
     if (first == nullptr && judged.description.hasDialogHeader)
         judged.findings.Add("button-missing", judged.description.PlaceOf(judged.description.dialogHeader.line),
-                            std::string("the dialog has no ") + typeWord,
-                            std::string("add one: ") + typeWord + " LEFT, TOP, 112, 22");
+                            std::string("the dialog has no ") + type.word,
+                            std::string("add one: ") + type.word + " LEFT, TOP, 112, 22");
 }
 
 } // namespace
@@ -244,8 +246,8 @@ void ApplyLayoutRules(const Case& judged)
     JudgeStatements(judged);
     JudgeNames(judged);
     JudgeOptionGroups(judged);
-    JudgeButton(judged, Kind::Ok, "OKButton");
-    JudgeButton(judged, Kind::Cancel, "CancelButton");
+    JudgeButton(judged, lytTypeOf(Kind::Ok));
+    JudgeButton(judged, lytTypeOf(Kind::Cancel));
 }
 
 } // namespace lytdlg

@@ -97,7 +97,7 @@ bool LeadsSomewhere(const Description& description, const LetteredCaption& capti
     const ClytControlStatement* next = control + 1; // the statements stand in one vector
     if (control == &description.controls.back())
         return false;
-    const bool isReached = KindOf(*next) == Kind::Field || HasItems(KindOf(*next));
+    const bool isReached = lytTypeOf(KindOf(*next)).isFilled;
     const std::string name = next->name.GetString();
     return isReached && !HasOption(description, name, ClytOption::Hidden) &&
            !HasOption(description, name, ClytOption::DisplayOnly);

@@ -47,17 +47,17 @@ constexpr Synonym synonyms[] = {
     {"SPLIT", "CONCAT"},
     {"DOUBLECLICK", "DBLCLICK"},
     {"DBLCLK", "DBLCLICK"},
-    {"Edit", "TextBox"},
-    {"EditBox", "TextBox"},
-    {"Label", "Text"},
-    {"Static", "Text"},
-    {"Button", "PushButton"},
-    {"RadioButton", "OptionButton"},
-    {"Frame", "GroupBox"},
-    {"DropDown", "DropListBox"},
-    {"DropDownList", "DropListBox"},
-    {"DropDownListBox", "DropListBox"},
-    {"CheckedListBox", "CheckListBox"},
+    {"Edit", lytTypeOf(Kind::Field).word},
+    {"EditBox", lytTypeOf(Kind::Field).word},
+    {"Label", lytTypeOf(Kind::Text).word},
+    {"Static", lytTypeOf(Kind::Text).word},
+    {"Button", lytTypeOf(Kind::Button).word},
+    {"RadioButton", lytTypeOf(Kind::Option).word},
+    {"Frame", lytTypeOf(Kind::Frame).word},
+    {"DropDown", lytTypeOf(Kind::DropList).word},
+    {"DropDownList", lytTypeOf(Kind::DropList).word},
+    {"DropDownListBox", lytTypeOf(Kind::DropList).word},
+    {"CheckedListBox", lytTypeOf(Kind::CheckList).word},
 };
 
 } // namespace
@@ -90,7 +90,19 @@ bool HasPart(const Description& description, const std::string& name)
 Kind KindOfControl(const Description& description, const std::string& name)
 {
     const ClytControlStatement* control = description.FindControl(name);
-    return control != nullptr ? KindOf(control->type.GetString()) : Kind::Unknown;
+    return control != nullptr ? lytTypeOf(control->type.GetString()).kind : Kind::Unknown;
+}
+
+const std::vector<std::string>& TypeWords()
+{
+    static const std::vector<std::string> words = []
+    {
+        std::vector<std::string> all;
+        for (const ClytType& type : lytTypes)
+            all.emplace_back(type.word);
+        return all;
+    }();
+    return words;
 }
 
 std::string MeantWord(const std::string& word, const std::vector<std::string>& known)

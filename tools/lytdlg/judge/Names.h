@@ -1,12 +1,14 @@
 // The names that a description knows, and help with those that it does not.
 #pragma once
 
-#include "lytdlg/judge/ControlKinds.h"
+#include "controls/TypeWords.h"
 #include "lytdlg/judge/Description.h"
 #include "model/ClytWords.h"
 
 namespace lytdlg
 {
+
+using Kind = ClytKind;
 
 // In the order of the file; empty names are left out.
 const std::vector<std::string>& ControlNames(const Description& description);
@@ -17,6 +19,8 @@ bool HasGroup(const Description& description, const std::string& name);
 bool HasPart(const Description& description, const std::string& name);
 // Of the last control of that name; Unknown when there is none.
 Kind KindOfControl(const Description& description, const std::string& name);
+
+const std::vector<std::string>& TypeWords();
 
 // The words of a kind, as the library knows them.
 template <class MEANING>

@@ -184,7 +184,7 @@ void JudgeAllItems(const Case& judged, const ClytOutputItem& given, const ClytCo
     const Kind kind = KindOf(control);
     const std::string name = given.text.GetString();
     const bool isCombo = kind == Kind::Combo || kind == Kind::DropList;
-    if (!HasItems(kind))
+    if (!lytTypeOf(kind).hasItems)
     {
         judged.findings.Add("output-list", given.span,
                             "a " + std::string(control.type.GetString()) + " has no items: this is empty",

@@ -22,11 +22,11 @@ std::vector<PartnerCall> PartnerCallsOf(const Description& description)
         const bool isFilled = lytMeaningOf<ClytKeyword>(statement.keyword.c_str()) == ClytKeyword::FilledBy;
         const bool isAction =
             kind == Kind::Button && lytMeaningOf<ClytAction>(statement.keyword.c_str()) == ClytAction::Action;
-        if (!isAction && !(isFilled && (HasItems(kind) || kind == Kind::Field)))
+        if (!isAction && !(isFilled && lytTypeOf(kind).isFilled))
             continue;
         PartnerCall call = {&statement, kind, statement.values[0], {statement.values[1]}, isAction};
         // The second function gives the next item; for a field it means nothing.
-        if (HasItems(kind) && statement.values.size() > 2)
+        if (lytTypeOf(kind).hasItems && statement.values.size() > 2)
             call.functions.push_back(statement.values[2]);
         calls.push_back(std::move(call));
     }

@@ -1,8 +1,7 @@
 // The libraries that a description calls, and the functions that it calls in them.
 #pragma once
 
-#include "lytdlg/judge/ControlKinds.h"
-#include "lytdlg/judge/Description.h"
+#include "lytdlg/judge/Names.h"
 
 namespace lytdlg
 {

@@ -74,10 +74,9 @@ private:
     // The texts that the library cannot find are none here: they have a finding of their own.
     std::string CaptionOf(const ClytControlStatement& control, Kind kind) const
     {
-        const bool isOk = kind == Kind::Ok;
-        const bool isFixed = isOk || kind == Kind::Cancel;
-        const std::string section = isFixed ? "Buttons" : m_description.TextSection();
-        const std::string name = isFixed ? (isOk ? "001" : "002") : control.text.GetString();
+        const bool isFixed = lytTypeOf(kind).isDefault;
+        const std::string section = isFixed ? lytButtonSection : m_description.TextSection();
+        const std::string name = isFixed ? lytTypeOf(kind).captionKey : control.text.GetString();
         const LanguageKey* key = m_texts != nullptr && !name.empty() ? m_texts->Find(section, name) : nullptr;
         if (key == nullptr)
             return "";

@@ -45,11 +45,11 @@ private:
     void AddControl(const ClytControlStatement& control)
     {
         const Kind kind = KindOf(control);
-        if (ShowsText(kind))
+        if (lytTypeOf(kind).hasCaption)
             Add(TextRole::Caption, control.text.GetString(), control.span.line,
                 control.span.column + control.type.GetLength(), &control);
-        else if (kind == Kind::Ok || kind == Kind::Cancel)
-            m_uses.push_back({TextRole::Button, "Buttons", kind == Kind::Ok ? "001" : "002",
+        else if (lytTypeOf(kind).isDefault)
+            m_uses.push_back({TextRole::Button, lytButtonSection, lytTypeOf(kind).captionKey,
                               m_description.PlaceOf(control.span.line, control.type.GetString()), &control});
     }
 
@@ -62,7 +62,7 @@ private:
         const int after = statement.span.column + static_cast<int>(statement.name.size());
         if (kind == Kind::Button)
             AddAlternate(statement, *control, after);
-        else if (HasItems(kind))
+        else if (lytTypeOf(kind).hasItems)
             AddItem(statement, *control, after);
     }
 
@@ -78,7 +78,7 @@ private:
     {
         constexpr size_t firstItem = 4; // its place in a FILLEDBY statement of a combo box
         const auto meaning = lytMeaningOf<ClytKeyword>(statement.keyword.c_str());
-        const bool isOpen = IsOpenList(KindOf(control));
+        const bool isOpen = lytTypeOf(KindOf(control)).isOpenList;
         if (meaning == ClytKeyword::FilledBy)
         {
             if (!isOpen && statement.values.size() > firstItem)

@@ -39,8 +39,8 @@ void JudgeWords(const PlacedValue& statement)
     if (statement.role == Role::Nothing)
     {
         statement.judged.findings.Add("value-unused", statement.PlaceOfName(),
-                                      std::string(NameOf(statement.kind)) + " makes nothing of this statement",
-                                      IsDefault(statement.kind)
+                                      std::string(lytTypeOf(statement.kind).name) + " makes nothing of this statement",
+                                      lytTypeOf(statement.kind).isDefault
                                           ? "it takes no statements; delete it"
                                           : "it takes HIDDEN, INVISIBLE, DISPLAYONLY and INACTIVE");
         return;
@@ -63,15 +63,16 @@ void JudgeWords(const PlacedValue& statement)
     if (value.keyword.empty() || (!isWordless && !isItemWord))
         return;
     const bool isKnownElsewhere = value.keyword == listWords[0] || value.keyword == listWords[1];
-    const std::vector<std::string>& known = statement.kind == Kind::CheckBox ? checkWords
-                                            : HasItems(statement.kind)       ? listWords
-                                            : statement.kind == Kind::Field  ? fieldWords
-                                                                             : noWords;
+    const std::vector<std::string>& known = statement.kind == Kind::CheckBox     ? checkWords
+                                            : lytTypeOf(statement.kind).hasItems ? listWords
+                                            : statement.kind == Kind::Field      ? fieldWords
+                                                                                 : noWords;
     const std::string hint = isOption           ? "write an option in a statement of its own, and no other word in it"
                              : isKnownElsewhere ? "delete the word"
                                                 : MeantOr(value.keyword, known, "delete the word");
     statement.judged.findings.Add("keyword-unknown", statement.PlaceOfKeyword(),
-                                  InQuotes(value.keyword) + " means nothing to " + NameOf(statement.kind), hint);
+                                  InQuotes(value.keyword) + " means nothing to " + lytTypeOf(statement.kind).name,
+                                  hint);
 }
 
 // Statements of a role of which the last one counts.

@@ -1,5 +1,6 @@
 #include "lytdlg/text/LibraryTexts.h"
 
+#include "controls/TypeWords.h"
 #include "environment/ClytException.h"
 
 namespace lytdlg
@@ -9,7 +10,10 @@ const std::vector<LibraryText>& LibraryTexts()
 {
     static const std::vector<LibraryText> texts = []
     {
-        std::vector<LibraryText> all = {{"Buttons", "001"}, {"Buttons", "002"}, {"Label", "TreeDlgLabel"}};
+        std::vector<LibraryText> all;
+        for (const ClytKind button : {ClytKind::Ok, ClytKind::Cancel})
+            all.push_back({lytButtonSection, lytTypeOf(button).captionKey});
+        all.push_back({"Label", "TreeDlgLabel"});
         for (const ClytErrorRow& error : lytErrors)
             all.push_back({lytErrorSection, error.number});
         return all;

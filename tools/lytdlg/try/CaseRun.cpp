@@ -1,6 +1,7 @@
 #include "lytdlg/try/CaseRun.h"
 
 #include "commandline/Text.h"
+#include "controls/TypeWords.h"
 #include "lytdlg/try/TakeAct.h"
 #include "lytdlg/try/TrialRun.h"
 
@@ -18,7 +19,7 @@ std::string ItemsOf(const ControlState& state)
     std::string text;
     for (const ItemState& item : state.items)
     {
-        const std::string mark = state.type != "CheckListBox" ? "" : item.isMarked ? "[x] " : "[ ] ";
+        const std::string mark = !lytTypeOf(state.type).hasMarks ? "" : item.isMarked ? "[x] " : "[ ] ";
         text += (text.empty() ? "" : ", ") + Quoted(mark + ToUtf8(item.value));
     }
     return text;
@@ -122,7 +123,7 @@ private:
         else if (expectation.kind == ExpectationKind::State)
             text = StateOf(state, text);
         else
-            text = ToUtf8(HasValue(state.type) || HasItems(state.type) ? state.value.value_or("") : state.caption);
+            text = ToUtf8(lytTypeOf(state.type).hasValue ? state.value.value_or("") : state.caption);
     }
 
     static constexpr const char* m_nothing = "\x01";

@@ -5,11 +5,11 @@
 #include "controls/ClytItemControl.h"
 #include "controls/ClytOptionGroup.h"
 #include "controls/ClytRadioButtonControl.h"
+#include "controls/TypeWords.h"
 #include "liveform/UserActs.h"
 #include "robot/WindowRobot.h"
 
 #include <algorithm>
-#include <array>
 
 namespace lytdlg
 {
@@ -20,17 +20,8 @@ using commandline::ToUtf8;
 namespace
 {
 
-constexpr std::array withItems = {"ListBox", "CheckListBox", "DropListBox", "ComboBox"};
-constexpr std::array withValue = {"TextBox", "CheckBox", "OptionGroup", "OptionButton"};
-
 constexpr size_t typeWidth = 13;
 constexpr size_t stateWidth = 9;
-
-template <class WORDS>
-bool IsOneOf(const WORDS& words, const std::string& word)
-{
-    return std::ranges::any_of(words, [&](const char* known) { return word == known; });
-}
 
 std::string Padded(std::string text, size_t width)
 {
@@ -84,7 +75,7 @@ std::string States(const ControlState& state)
 
 std::string DescribeContent(const ControlState& state)
 {
-    if (HasItems(state.type))
+    if (lytTypeOf(state.type).hasItems)
         return (state.value ? Quoted(ToUtf8(*state.value)) : "nothing chosen") + DescribeItems(state);
     if (state.value)
         return Quoted(ToUtf8(*state.value)) + (state.isChosen ? " chosen" : "");
@@ -122,15 +113,15 @@ DialogState LookAt(const TrialDialog& dialog)
 
 ControlState LookAt(const TrialDialog& dialog, ClytControl& control)
 {
-    const std::string& type = dialog.TypeOf(control);
-    ControlState state{dialog.NameOf(control), type, IsSeenEnabled(control), IsSeen(control)};
+    const ClytType& type = lytTypeOf(dialog.TypeOf(control));
+    ControlState state{dialog.NameOf(control), type.word, IsSeenEnabled(control), IsSeen(control)};
     state.value = ValueOf(control);
     const auto& window = dynamic_cast<const CWnd&>(control);
-    if (HasItems(type))
+    if (type.hasItems)
         state.items = ItemsOf(control);
-    else if (!HasValue(type))
+    else if (!type.hasValue)
         state.caption = robot::TextOf(window.m_hWnd);
-    if (const auto* button = dynamic_cast<const CButton*>(&window); button != nullptr && type == "OptionButton")
+    if (const auto* button = dynamic_cast<const CButton*>(&window); button != nullptr && type.kind == ClytKind::Option)
         state.isChosen = button->GetCheck() == BST_CHECKED;
     return state;
 }
@@ -146,16 +137,6 @@ std::optional<std::string> ValueOf(ClytControl& control)
     else if (!IsAnyOf<CComboBox, CEdit, ClytCheckBoxControl, ClytRadioButtonControl, ClytOptionGroup>(control))
         return {};
     return control.GetValue().GetString();
-}
-
-bool HasItems(const std::string& type)
-{
-    return IsOneOf(withItems, type);
-}
-
-bool HasValue(const std::string& type)
-{
-    return IsOneOf(withValue, type);
 }
 
 std::string Describe(const DialogState& state)
@@ -176,7 +157,7 @@ std::string DescribeItems(const ControlState& state)
     std::string text = " of ";
     for (const ItemState& item : state.items)
     {
-        const std::string mark = state.type != "CheckListBox" ? "" : item.isMarked ? "[x] " : "[ ] ";
+        const std::string mark = !lytTypeOf(state.type).hasMarks ? "" : item.isMarked ? "[x] " : "[ ] ";
         const std::string shown = item.shown == item.value ? "" : " (" + Quoted(ToUtf8(item.shown)) + ")";
         text += (&item != &state.items.front() ? ", " : "") + mark + Quoted(ToUtf8(item.value)) + shown;
     }

@@ -46,10 +46,6 @@ ControlState LookAt(const TrialDialog& dialog, ClytControl& control);
 // The value of a control, without the side effects that asking a list without a choice has; none where there is none.
 std::optional<std::string> ValueOf(ClytControl& control);
 
-// The type words with a list of items, and with a value.
-bool HasItems(const std::string& type);
-bool HasValue(const std::string& type);
-
 // A line for each control, in UTF-8: name, type, states, value or text, items.
 std::string Describe(const DialogState& state);
 std::string DescribeItems(const ControlState& state);

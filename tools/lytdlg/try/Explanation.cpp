@@ -2,6 +2,7 @@
 
 #include "commandline/Text.h"
 #include "controls/ClytOptionGroup.h"
+#include "controls/TypeWords.h"
 #include "liveform/UserActs.h"
 #include "lytdlg/try/ControlState.h"
 #include "lytdlg/try/TrialRun.h"
@@ -53,7 +54,7 @@ public:
         TellSide(shownSide, m_state.isShown);
         TellSide(enabledSide, m_state.isEnabled);
         // An option takes what its group is given.
-        if ((HasValue(m_state.type) || HasItems(m_state.type)) && m_group == nullptr)
+        if (lytTypeOf(m_state.type).hasValue && m_group == nullptr)
             std::ranges::move(ExplainValue(m_dialog, m_control, m_recorder), std::back_inserter(m_lines));
         return std::move(m_lines);
     }
@@ -78,9 +79,9 @@ private:
         const std::string states =
             std::string(m_state.isShown ? "shown" : "hidden") + " and " + (m_state.isEnabled ? "enabled" : "disabled");
         std::string value;
-        if (HasItems(m_state.type))
+        if (lytTypeOf(m_state.type).hasItems)
             value = !m_state.value ? "; nothing is chosen in it" : "; its value is " + Quoted(ToUtf8(*m_state.value));
-        else if (HasValue(m_state.type))
+        else if (lytTypeOf(m_state.type).hasValue)
             value = m_state.value->empty() ? "; it is empty" : "; its value is " + Quoted(ToUtf8(*m_state.value));
         Tell(ToUtf8(m_state.name) + " is " + states + value + ".");
     }

@@ -2,6 +2,7 @@
 
 #include "commandline/Suggestion.h"
 #include "commandline/Text.h"
+#include "controls/TypeWords.h"
 #include "liveform/UserActs.h"
 #include "lytdlg/try/ControlState.h"
 #include "lytdlg/try/Trial.h"
@@ -100,11 +101,11 @@ void SetCheckBox(const TrialDialog& dialog, ClytControl& control, const Step& ac
 
 void Set(const TrialDialog& dialog, ClytControl& control, const Step& act)
 {
-    const std::string& type = dialog.TypeOf(control);
-    if (!HasItems(type) && !HasValue(type))
+    const ClytType& type = lytTypeOf(dialog.TypeOf(control));
+    if (!type.hasValue)
         FailWrongType(dialog, control, act, "something that has a value");
     CheckReach(control, act);
-    if (type == "CheckBox")
+    if (type.kind == ClytKind::CheckBox)
         SetCheckBox(dialog, control, act);
     else
         EnterValue(dialog, control, act);
@@ -112,8 +113,7 @@ void Set(const TrialDialog& dialog, ClytControl& control, const Step& act)
 
 void Press(const TrialDialog& dialog, ClytControl& control, const Step& act)
 {
-    const std::string& type = dialog.TypeOf(control);
-    if (type != "PushButton" && type != "OKButton" && type != "CancelButton")
+    if (!lytTypeOf(dialog.TypeOf(control)).isButton)
         FailWrongType(dialog, control, act, "a button");
     CheckReach(control, act);
     robot::Press(dynamic_cast<const CWnd&>(control).m_hWnd);

@@ -1,6 +1,7 @@
 #include "lytdlg/try/Trial.h"
 
 #include "commandline/Text.h"
+#include "controls/TypeWords.h"
 #include "environment/ClytEnvironment.h"
 #include "environment/ProcessState.h"
 #include "lytdlg/try/DialogFacts.h"
@@ -39,7 +40,7 @@ bool IsOk(const TrialDialog& dialog, const script::Step& act)
     if (act.word != "press")
         return act.word == "ok";
     const ClytControl* pressed = TargetOf(dialog, act);
-    return pressed != nullptr && dialog.TypeOf(*pressed) == "OKButton";
+    return pressed != nullptr && lytTypeOf(dialog.TypeOf(*pressed)).kind == ClytKind::Ok;
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 #include "lytdlg/try/Explanation.h"
 
 #include "commandline/Text.h"
+#include "controls/TypeWords.h"
 #include "lytdlg/try/ControlState.h"
 #include "lytdlg/try/TrialRun.h"
 
@@ -70,7 +71,7 @@ private:
 
     void TellChoice()
     {
-        if (!HasItems(m_state.type) || m_state.value || m_state.items.empty())
+        if (!lytTypeOf(m_state.type).hasItems || m_state.value || m_state.items.empty())
             return;
         const FillRecord* last = LastFill();
         if (last != nullptr && IsAmongLastTwo(last->value))
@@ -107,7 +108,8 @@ private:
         {
             if (!IsAboutThis(fill))
                 continue;
-            const bool isEmptyText = m_state.type == "TextBox" && fill.action.empty() && fill.value.empty();
+            const bool isEmptyText =
+                lytTypeOf(m_state.type).kind == ClytKind::Field && fill.action.empty() && fill.value.empty();
             Tell("The scan came to it" + InLine(fill.line) + " (statement " + ToUtf8(fill.statement) + "): it " +
                  fill.text + (isEmptyText ? ", which changes nothing." : "."));
             isFilled = true;
