@@ -85,3 +85,11 @@ std::vector<Case> ReadCases(const std::string& path)
     Add(made, alternatives.empty() ? sharedAlternatives : alternatives, cases);
     return cases;
 }
+
+std::vector<Case> CasesOf(const std::string& paths)
+{
+    std::vector<Case> all;
+    for (const std::string& path : Split(paths, "|"))
+        std::ranges::copy(ReadCases(path), std::back_inserter(all));
+    return all;
+}

@@ -43,6 +43,8 @@
 // look at the cursor.
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include <string>
 #include <vector>
 
@@ -63,3 +65,17 @@ struct Case
 };
 
 std::vector<Case> ReadCases(const std::string& path);
+// All cases of files with bars between their paths.
+std::vector<Case> CasesOf(const std::string& paths);
+
+// GoogleTest prints it where a test fails.
+inline void PrintTo(const Case& one, std::ostream* stream)
+{
+    *stream << one.name;
+}
+
+// The name of its test.
+inline std::string NameOfCase(const testing::TestParamInfo<Case>& one)
+{
+    return one.param.file + "_" + one.param.name;
+}

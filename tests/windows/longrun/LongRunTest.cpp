@@ -8,7 +8,7 @@
 #include "support/FreshLibrary.h"
 #include "support/Holdings.h"
 #include "support/Leaks.h"
-#include "tree/WizardFixture.h"
+#include "tree/TreeFixture.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -59,10 +59,15 @@ protected:
     }
 };
 
-class LongRunOfCatalogues : public Wizard
+class LongRunOfCatalogues : public TreeTest
 {
 protected:
-    LongRunOfCatalogues() { Serve('S', Catalogue(5000)); }
+    LongRunOfCatalogues()
+    {
+        UseSource();
+        Serve('S', Catalogue(5000));
+        WriteDialog("lytWzGrp", {});
+    }
 };
 
 } // namespace
@@ -110,8 +115,8 @@ TEST_F(LongRunOfCatalogues, InTheWizardHoldsNothingMore)
     RunLong(200,
             [&]
             {
-                EXPECT_EQ(Ask("Entry 10", "Group", "head/LIST{a|b"), "1 head/LIST{");
-                EXPECT_EQ(Next(), "1 a|");
-                EXPECT_EQ(Next(), "0 b");
+                EXPECT_EQ(AskWizard("Entry 10", "Group", "head/LIST{a|b"), "1 head/LIST{");
+                EXPECT_EQ(CallWizard(), "1 a|");
+                EXPECT_EQ(CallWizard(), "0 b");
             });
 }

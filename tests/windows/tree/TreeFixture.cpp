@@ -36,13 +36,20 @@ lytTreeRecord Entry(int level, int type, const std::string& label, const std::st
 
 TreeTest::TreeTest()
 {
-    folder.Write("dialogs/lang/English.nls", "[Label]\nTreeDlgLabel=Catalogue\n"
-                                             "[Buttons]\n001=Fine\n002=Stop\n"
-                                             "[Dialog_Error]\n222=Pick another.\n");
+    folder.Write("dialogs/lang/English.nls",
+                 "[Label]\nTreeDlgLabel=Catalogue\n"
+                 "[Buttons]\n001=Fine\n002=Stop\n"
+                 "[TEXTS]\nlytInSym=Form\nlytWzGrp=Group\nlytWzPhr=Phrase\nlytWzSym=Symbol\nPick=Pick\n"
+                 "[Dialog_Error]\n207=No file ''.\n222=Pick another.\n");
     Configure("TreeWidth=300\nTreeHeight=400\nTreeLevels=2\n");
     m_library = LoadLibraryA((ProgramFolder() + "\\..\\lyt64.dll").c_str());
     if (m_library == nullptr)
         throw std::runtime_error("lyt64.dll is not to be found");
+    Initialise();
+}
+
+void TreeTest::Initialise()
+{
     Get<decltype(lytInitialiseEnvironment)>("lytInitialiseEnvironment")("", (folder.Path() + "\\dialogs").c_str(),
                                                                         folder.Path().c_str());
 }
@@ -93,6 +100,12 @@ int TreeTest::Nexts(char kind) const
     return GetFromSource<decltype(TestSourceNexts)>("TestSourceNexts")(kind);
 }
 
+void TreeTest::WriteDialog(const std::string& name, Description description) const
+{
+    description.begin = "Begin Dialog Box 300, 200, \"" + name + "\", .Main\n";
+    folder.Write("dialogs/" + name + ".dlg", description.Text());
+}
+
 void TreeTest::Configure(const std::string& lines)
 {
     folder.Write("lyt.ini", "[global]\nCurrent Language=English\n" + lines);
@@ -106,6 +119,8 @@ TreeTest::Answer TreeTest::Open(const std::string& request,
     {
         if (index > 0)
             robot.AnswerMessage();
+        if (acts[index] == nullptr)
+            continue;
         const auto isTree = []
         {
             HWND dialog = robot::ActiveDialog();
@@ -161,6 +176,32 @@ SIZE TreeTest::SizeShown(const std::string& request)
 TreeTest::Answer TreeTest::Pick(const std::string& request, const std::string& label)
 {
     return Open(request, [&](const TreeWindow& tree) { tree.Pick(label); });
+}
+
+std::string TreeTest::CallWizard(int size) const
+{
+    GuardedBuffer buffer(size, "untouched");
+    const int result = Get<decltype(lytWizard)>("lytWizard")(buffer.Data(), buffer.Size());
+    EXPECT_TRUE(buffer.IsIntact());
+    return std::to_string(result) + " " + (buffer.Text().empty() ? "nothing" : buffer.Text());
+}
+
+std::string TreeTest::AskWizard(const std::string& label, const std::string& title, const std::string& text, int size)
+{
+    robot::Robot robot;
+    robot.On("Catalogue", [&](HWND dialog) { TreeWindow(dialog).Pick(label); });
+    robot.On(title,
+             [&](HWND dialog)
+             {
+                 HWND field = robot::ChildOfClass(dialog, "Edit");
+                 scanned = robot::TextOf(field);
+                 if (!text.empty())
+                     robot::ReplaceText(field, text);
+                 robot::Press(robot::ChildWithText(dialog, text.empty() ? "Stop" : "Fine"));
+             });
+    std::string answer = CallWizard(size);
+    EXPECT_TRUE(robot.Done()) << robot.Log();
+    return answer;
 }
 
 std::string TreeTest::SymbolFor(const std::string& text)

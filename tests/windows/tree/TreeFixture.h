@@ -4,12 +4,7 @@
 #include "TestSource.h"
 #include "TreeWindow.h"
 
-#include "robot/WindowRobot.h"
-#include "support/Library.h"
-#include "support/TestFolder.h"
-
-#include <gtest/gtest.h>
-#include <lyt64.h>
+#include "dialogs/DialogFixture.h"
 
 #include <functional>
 
@@ -25,6 +20,8 @@ protected:
     TreeTest();
     ~TreeTest() override;
 
+    // As a host does at its start; the constructor does it as well.
+    void Initialise();
     // Makes a data source reachable. Until then there is none.
     void UseSource(const std::string& variant = "complete");
     // The data library of the tests, as a description names it.
@@ -36,6 +33,8 @@ protected:
     int Starts(char kind) const;
     int Nexts(char kind) const;
 
+    // A dialog whose title is the text of its name. As it comes, its field takes the input and gives the result.
+    void WriteDialog(const std::string& name, Description description) const;
     // Writes lyt.ini: the language, and these lines in the section "global".
     void Configure(const std::string& lines);
 
@@ -47,7 +46,7 @@ protected:
     };
     // Opens the browser, lets one action work it, which must end it; messages are confirmed.
     Answer Open(const std::string& request, const std::function<void(const TreeWindow&)>& act);
-    // The same with an action after each message.
+    // The same with an action after each message; null is none.
     Answer Open(const std::string& request, const std::vector<std::function<void(const TreeWindow&)>>& acts);
     // Opens the browser and looks only.
     Lines ItemsShown(const std::string& request);
@@ -56,6 +55,11 @@ protected:
     SIZE SizeShown(const std::string& request);
     Answer Pick(const std::string& request, const std::string& label);
 
+    // `result text` of one call of the wizard with nothing on the screen; "nothing" for an empty text.
+    std::string CallWizard(int size = 255) const;
+    // One call in which an entry is picked, and the dialog with this title gets the text and OK, or Cancel without one. What
+    // its field held is `scanned`.
+    std::string AskWizard(const std::string& label, const std::string& title, const std::string& text, int size = 255);
     std::string SymbolFor(const std::string& text);
     // `text|path` of each read until one gives 0.
     Lines ReadChildren();
@@ -72,6 +76,7 @@ protected:
     static const Records yard;
 
     TestFolder folder;
+    std::string scanned;
 
 private:
     template <class Function>

@@ -12,14 +12,6 @@ protected:
     }
 };
 
-TEST_F(TreeShape, TextsOfNinetyNineCharactersAreWhole)
-{
-    const std::string label(99, 'l');
-    const std::string key(99, 'k');
-    EXPECT_EQ(Shown({Entry(0, LYT_TREE_SYMBOL, label, key)}), Lines({label + " [2]"}));
-    EXPECT_EQ(Pick("S", label).text, key);
-}
-
 TEST_F(TreeShape, BytesOfTheCodePageStayAsTheyAre)
 {
     EXPECT_EQ(Shown({Entry(0, LYT_TREE_SYMBOL, "T\xFCr \x80", "t\xFCr")}), Lines({"T\xFCr \x80 [2]"}));
