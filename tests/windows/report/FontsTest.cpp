@@ -8,18 +8,6 @@
 namespace
 {
 
-const std::string rule = "  " + std::string(81, '-');
-
-std::string Column(const std::string& text)
-{
-    return text + std::string(text.size() < 30 ? 30 - text.size() : 0, ' ');
-}
-
-std::string NameLine(const std::string& name)
-{
-    return "  " + Column(name) + " | " + Column("") + " |      ";
-}
-
 // What the platform was asked for.
 std::vector<LOGFONTW> asked;
 
@@ -32,8 +20,6 @@ int WINAPI NoteFont(HDC /*context*/, LOGFONTW* font, FONTENUMPROCW /*enumerate*/
 
 class Fonts : public ReportTest
 {
-protected:
-    Texts FontLines() { return LinesBetween(Report(), "Fonts Information from ", "LOCALE."); }
 };
 
 class Locale : public ReportTest
@@ -41,18 +27,6 @@ class Locale : public ReportTest
 };
 
 } // namespace
-
-TEST_F(Fonts, InstalledFontShowsItsStylesAndCharacterSets)
-{
-    WriteIni("[FONTS]\r\nText=Tahoma\r\n");
-    const Texts lines = FontLines();
-    ASSERT_GT(lines.size(), 6U);
-    EXPECT_EQ(lines[4], NameLine("Tahoma"));
-    EXPECT_EQ(lines[5], "  " + Column("") + " | " + Column("Tahoma") + " | ANSI_CHARSET");
-    EXPECT_TRUE(HasLine(lines, "  " + Column("") + " | " + Column("Tahoma") + " | RUSSIAN_CHARSET"));
-    EXPECT_TRUE(HasLine(lines, "  " + Column("") + " | " + Column("Tahoma Bold") + " | ANSI_CHARSET"));
-    EXPECT_EQ(lines.back(), rule);
-}
 
 TEST_F(Fonts, AskForTheFirst31CharactersOfANameInAnyCharacterSet)
 {
@@ -86,14 +60,4 @@ TEST_F(Locale, ShowsWhatThePlatformTells)
     EXPECT_EQ(lines[first], "LOCALE.SYSTEM.ANSICODEPAGE        = " + text(LOCALE_SYSTEM_DEFAULT, 4100));
     EXPECT_EQ(lines[first + 10], "LOCALE.USER.COUNTRY               = " + text(LOCALE_USER_DEFAULT, LOCALE_SCOUNTRY));
     EXPECT_EQ(lines[first + 17], "Windows installed languages:");
-}
-
-TEST_F(Locale, TellsOfEachLanguageGroupWhetherItIsInstalled)
-{
-    const Texts lines = LinesBetween(Report(), "Windows installed languages:", "Office enabled languages:");
-    ASSERT_EQ(lines.size(), 17U);
-    EXPECT_EQ(lines.front(), IsValidLanguageGroup(1, LGRPID_INSTALLED)
-                                 ? "Language WESTERN_EUROPE is installed in Windows"
-                                 : "Language WESTERN_EUROPE not installed in Windows, see ZVK note 939928");
-    EXPECT_TRUE(lines.back().starts_with("Language ARMENIAN ")) << lines.back();
 }

@@ -85,15 +85,6 @@ TEST_F(Hardware, SixtyFourBitProcessCountsItsProcessorsAndPages)
     EXPECT_TRUE(HasLine(lines, "Virtual Memory Granularity : " + std::to_string(system.dwAllocationGranularity)));
 }
 
-TEST_F(Hardware, ShowsNameAndSpeedOfTheProcessor)
-{
-    registry.SetText(HKEY_LOCAL_MACHINE, processorKey, "ProcessorNameString", "Some CPU @ 3.00GHz");
-    registry.SetNumber(HKEY_LOCAL_MACHINE, processorKey, "~MHz", 2995);
-    const Texts lines = Report();
-    EXPECT_EQ(lines[3], "CPU Name  : Some CPU @ 3.00GHz");
-    EXPECT_EQ(lines[4], "CPU Speed : 2995");
-}
-
 TEST_F(Hardware, LeavesOutAnUnknownProcessor)
 {
     registry.Remove(HKEY_LOCAL_MACHINE, processorKey, "ProcessorNameString");

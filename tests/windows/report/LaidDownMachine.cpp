@@ -95,6 +95,9 @@ void LaidDownMachine::LayDocumentType()
     registry.Set(HKEY_CLASSES_ROOT, "LYTDOCUMENT", "Bytes", REG_BINARY, std::string("\x01\xAB\xFF", 3));
     registry.SetText(HKEY_LOCAL_MACHINE, "SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\App Paths\\LYTEXE64.EXE",
                      "Path", "C:\\lyt");
+    // Under the name of the root once more, it is not found.
+    registry.SetText(HKEY_CURRENT_USER, "Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\FileExts\\.LYT",
+                     "Progid", "LYTDOCUMENT");
     registry.SetText(HKEY_CLASSES_ROOT, ".pdf", "", "LYT.Test.Pdf");
     registry.SetText(HKEY_CLASSES_ROOT, "LYT.Test.Pdf\\shell\\print\\command", "", "reader.exe /p \"%1\"");
 }

@@ -24,23 +24,6 @@ TEST_F(Printers, NoneAtAllLeavesTheHeadingAndTheDefaultLine)
     EXPECT_EQ(PrinterLines(), Texts{"  Default Printer : no default printer found"});
 }
 
-TEST_F(Printers, ShowsTheDefaultPrinterAsTheProfileHasIt)
-{
-    const DefaultPrinter device("Office,winspool,LPT1:");
-    EXPECT_EQ(PrinterLines(), Texts{"  Default Printer : Office,winspool,LPT1:"});
-}
-
-TEST_F(Printers, ShowsA4InTwoWays)
-{
-    DEVMODEA mode = PrinterMode(DM_PAPERSIZE | DM_DUPLEX);
-    mode.dmPaperSize = 9;
-    mode.dmPaperWidth = 2100;
-    mode.dmPaperLength = 2970;
-    mode.dmDuplex = 2;
-    EXPECT_EQ(LineWith(mode),
-              "  Printer: Test on LPT1: (LYT Test Driver), Duplex Vertical, A4 210 x 297 mm, 210mm x 297mm");
-}
-
 TEST_F(Printers, ShowsANegativePaperAsANumber)
 {
     DEVMODEA mode = PrinterMode(DM_PAPERSIZE);

@@ -11,30 +11,6 @@ class Workstation : public ReportTest
 
 } // namespace
 
-TEST_F(Workstation, ShowsVariablesWithoutABlankAfterTheColon)
-{
-    const EnvironmentVariable path("PATH", "C:\\one;C:\\two");
-    const EnvironmentVariable temp("TEMP", "C:\\temp");
-    const EnvironmentVariable tmp("TMP", "C:\\tmp");
-    const Texts lines = Report();
-    const size_t first = FindLine(lines, "PATH");
-    ASSERT_LT(first + 6, lines.size());
-    EXPECT_EQ(lines[first], "PATH    :C:\\one;C:\\two");
-    EXPECT_EQ(lines[first + 1], "TEMP    :C:\\temp");
-    EXPECT_EQ(lines[first + 2], "TMP     :C:\\tmp");
-}
-
-TEST_F(Workstation, SaysWhenAVariableIsNotSet)
-{
-    const EnvironmentVariable path("PATH", nullptr);
-    const EnvironmentVariable temp("TEMP", nullptr);
-    const EnvironmentVariable tmp("TMP", nullptr);
-    const Texts lines = Report();
-    EXPECT_TRUE(HasLine(lines, "PATH    :Value not set."));
-    EXPECT_TRUE(HasLine(lines, "TEMP    :Value not set."));
-    EXPECT_TRUE(HasLine(lines, "TMP     :Value not set."));
-}
-
 TEST_F(Workstation, TakesAnEmptyVariableForOneThatIsNotSet)
 {
     const EnvironmentVariable temp("TEMP", "");
