@@ -4,7 +4,7 @@
 #include "frame/Discard.h"
 #include "lytdlg/Commands.h"
 #include "lytdlg/judge/Judge.h"
-#include "lytdlg/text/Format.h"
+#include "lytdlg/text/DescriptionLines.h"
 #include "support/DescriptionText.h"
 #include "support/TestFolder.h"
 

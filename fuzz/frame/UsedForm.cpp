@@ -5,7 +5,7 @@
 #include "fuzz/frame/Attempt.h"
 #include "fuzz/frame/Despair.h"
 #include "liveform/LiveForm.h"
-#include "lytdlg/text/FileForLibrary.h"
+#include "lytdlg/text/Paths.h"
 
 namespace
 {

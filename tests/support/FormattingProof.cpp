@@ -1,7 +1,7 @@
 #include "support/FormattingProof.h"
 
-#include "lytdlg/text/FileForLibrary.h"
-#include "lytdlg/text/Format.h"
+#include "lytdlg/text/DescriptionLines.h"
+#include "lytdlg/text/Paths.h"
 #include "support/DescriptionRecords.h"
 
 #include <algorithm>

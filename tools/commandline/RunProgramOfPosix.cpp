@@ -1,4 +1,4 @@
-#include "commandline/RunProgram.h"
+#include "commandline/Program.h"
 
 #include <spawn.h>
 #include <sys/wait.h>

@@ -35,4 +35,7 @@ void PrintLine(const std::string& utf8);
 void PrintText(const std::string& name, const std::string& ansi);
 void PrintNumber(const std::string& name, int value, const std::string& meaning = "");
 
+// The text of a file, in UTF-8, whose first bytes are the mark of UTF-16 or UTF-8; any other as it is.
+std::string FromMarkedUnicode(const std::string& bytes);
+
 } // namespace commandline

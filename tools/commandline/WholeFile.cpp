@@ -1,7 +1,5 @@
 #include "commandline/WholeFile.h"
 
-#include "commandline/OwnedFile.h"
-
 #include <windows.h>
 
 #include <sys/stat.h>

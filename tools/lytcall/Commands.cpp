@@ -1,4 +1,5 @@
 #include "lytcall/Commands.h"
+#include "lytcall/Session.h"
 
 #include "commandline/Text.h"
 

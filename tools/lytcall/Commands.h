@@ -1,10 +1,16 @@
 // The commands: each calls its functions of the library and prints what comes back.
 #pragma once
 
-#include "lytcall/Session.h"
+#include "commandline/CommandLine.h"
 
 namespace lytcall
 {
+
+using commandline::Request;
+
+class Session;
+
+const commandline::ProgramForm& TheProgram();
 
 // Runs the command of the session; the last call's result decides whether it counts as failed. Raises CallError and
 // script::FileError.

@@ -1,6 +1,7 @@
 #include "lytcall/Commands.h"
+#include "lytcall/Session.h"
 
-#include "commandline/RunProgram.h"
+#include "commandline/Program.h"
 
 #include <algorithm>
 #include <cstdio>

@@ -1,4 +1,4 @@
-#include "lytcall/Picture.h"
+#include "lytcall/ScriptRunner.h"
 
 #include "commandline/WholeFile.h"
 

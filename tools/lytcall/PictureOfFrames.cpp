@@ -1,6 +1,6 @@
 // Windows in memory have no pixels: their picture shows where the window and its visible children stand, a frame for each.
 #include "commandline/WholeFile.h"
-#include "lytcall/Picture.h"
+#include "lytcall/ScriptRunner.h"
 
 #include "robot/WindowRobot.h"
 

@@ -1,4 +1,4 @@
-#include "lytcall/RedactedShapes.h"
+#include "lytcall/Redaction.h"
 
 #include <algorithm>
 #include <cctype>

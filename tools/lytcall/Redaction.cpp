@@ -1,8 +1,5 @@
 #include "lytcall/Redaction.h"
 
-#include "lytcall/RedactedShapes.h"
-#include "lytcall/Secrets.h"
-
 #include <algorithm>
 #include <cctype>
 #include <string_view>

@@ -1,7 +1,7 @@
 #include "lytcall/Commands.h"
 #include "lytcall/Redaction.h"
-#include "lytcall/ReportDifference.h"
-#include "lytcall/SavedReport.h"
+#include "lytcall/ReportText.h"
+#include "lytcall/Session.h"
 
 #include "commandline/Text.h"
 #include "commandline/WholeFile.h"

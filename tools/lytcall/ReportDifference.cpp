@@ -1,4 +1,4 @@
-#include "lytcall/ReportDifference.h"
+#include "lytcall/ReportText.h"
 
 #include "commandline/Text.h"
 

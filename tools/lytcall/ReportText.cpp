@@ -1,7 +1,10 @@
 #include "lytcall/ReportText.h"
 
+#include "commandline/Text.h"
+
 #include <algorithm>
 #include <cstdio>
+#include <nlohmann/json.hpp>
 #include <string_view>
 
 namespace lytcall
@@ -56,6 +59,28 @@ std::string JsonText(const std::string& text)
             quoted += c;
     }
     return quoted + "\"";
+}
+
+using Json = nlohmann::json;
+
+ReportLines LinesOfJson(const Json& report)
+{
+    ReportLines lines;
+    for (const Json& block : report.value("blocks", Json::array()))
+        std::ranges::copy(block.value("lines", ReportLines()), std::back_inserter(lines));
+    return lines;
+}
+
+// JSON of another form has no lines.
+ReportLines LinesOfReport(const std::string& text)
+try
+{
+    const Json report = Json::parse(text, nullptr, false);
+    return report.is_object() ? LinesOfJson(report) : commandline::LinesOf(text);
+}
+catch (const Json::exception&)
+{
+    return {};
 }
 
 } // namespace
@@ -123,6 +148,16 @@ std::string JsonOf(const std::vector<ReportBlock>& blocks)
 std::string JsonOfRefusal(const std::string& reason)
 {
     return "{\n  \"verdict\": \"not judged\",\n  \"message\": " + JsonText(reason) + "\n}\n";
+}
+
+std::optional<ReportLines> ReadSavedReport(const std::string& bytes)
+{
+    ReportLines lines = LinesOfReport(commandline::FromMarkedUnicode(bytes));
+    // Any report has several blocks; a text of another kind is at most the first.
+    constexpr size_t fewestBlocks = 3;
+    if (CutReport(lines).size() < fewestBlocks)
+        return std::nullopt;
+    return lines;
 }
 
 } // namespace lytcall

@@ -1,6 +1,7 @@
 // A report as text: its blocks, and the lines that tell of the moment.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -28,5 +29,18 @@ bool ChangesFromRunToRun(const std::string& line);
 std::string JsonOf(const std::vector<ReportBlock>& blocks);
 // Why nothing was judged, as the verdict on a deployment.
 std::string JsonOfRefusal(const std::string& reason);
+
+// The lines of the report, in UTF-8; nothing when the bytes of the file are no report.
+std::optional<ReportLines> ReadSavedReport(const std::string& bytes);
+
+struct ReportDifference
+{
+    std::string text;        // for people: block by block, what the first report has and the second, line by line
+    size_t lines = 0;        // that differ
+    size_t fromRunToRun = 0; // that differ, as such lines do
+};
+
+// Compares block by block. The order of the lines in a block does not count.
+ReportDifference CompareReports(const ReportLines& first, const ReportLines& second);
 
 } // namespace lytcall

@@ -1,9 +1,8 @@
 #include "lytcall/ScriptRunner.h"
 
-#include "commandline/Finish.h"
+#include "commandline/Program.h"
 #include "commandline/Text.h"
 #include "commandline/WholeFile.h"
-#include "lytcall/Picture.h"
 
 #include "robot/WindowRobot.h"
 

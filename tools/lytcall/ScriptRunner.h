@@ -46,4 +46,9 @@ private:
     UINT_PTR m_timer = 0;
 };
 
+// Saves what the window shows, frame included; false when it cannot be drawn or the file cannot be written.
+bool SavePicture(HWND window, const std::string& fileName);
+// Whether there is a screen on which somebody may look at windows.
+bool HasScreen();
+
 } // namespace lytcall

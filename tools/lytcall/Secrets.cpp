@@ -1,6 +1,5 @@
-#include "lytcall/Secrets.h"
+#include "lytcall/Redaction.h"
 
-#include "lytcall/RedactedShapes.h"
 #include "lytcall/ReportText.h"
 
 #include <algorithm>

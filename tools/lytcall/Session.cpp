@@ -1,7 +1,7 @@
 #include "lytcall/Session.h"
 
+#include "commandline/Program.h"
 #include "lytcall/ScriptRunner.h"
-#include "robot/Patience.h"
 
 #include <cstdio>
 
@@ -84,12 +84,27 @@ std::vector<char> Session::Buffer(const char* sizeOption) const
 int Session::WithWindows(const std::function<int()>& call) const
 {
     ScriptRunner runner(m_request.Text("--script", ""), m_request.Text("--shot", ""),
-                        m_request.Number("--limit", static_cast<int>(robot::Patience(defaultPatience))));
+                        m_request.Number("--limit", static_cast<int>(commandline::Patience(defaultPatience))));
     // Whoever looks at a window wants to see first what it was opened with.
     std::fflush(stdout);
     const int result = call();
     runner.Finish();
     return result;
+}
+
+LytLibrary::LytLibrary(const std::string& fileName) : m_fileName(fileName), m_module(LoadLibraryA(fileName.c_str()))
+{
+    if (m_module == nullptr)
+        throw CallError(fileName + " cannot be loaded (error " + std::to_string(GetLastError()) +
+                        "); name it with --library, as a 64-bit DLL");
+}
+
+FARPROC LytLibrary::Address(const char* name) const
+{
+    FARPROC address = GetProcAddress(m_module, name);
+    if (address == nullptr)
+        throw CallError(m_fileName + " does not export " + name);
+    return address;
 }
 
 } // namespace lytcall

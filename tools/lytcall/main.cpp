@@ -1,8 +1,9 @@
 // lytcall: calls any function of lyt64.dll from a command line, for trying descriptions out and for unattended checks.
-#include "commandline/Finish.h"
+#include "commandline/Program.h"
 #include "commandline/Text.h"
 #include "lytcall/Commands.h"
 #include "lytcall/ReportText.h"
+#include "lytcall/Session.h"
 #include "script/Script.h"
 
 #include <cstdio>

@@ -1,5 +1,5 @@
 // lytdlg: judges, tries, tests and draws dialog descriptions from a command line.
-#include "commandline/Finish.h"
+#include "commandline/Program.h"
 #include "lytdlg/Commands.h"
 #include "lytdlg/judge/LoadTrial.h"
 #include "lytdlg/text/Paths.h"

@@ -1,6 +1,6 @@
 #include "robot/WindowRobot.h"
 
-#include "robot/Patience.h"
+#include "commandline/Program.h"
 
 #include <algorithm>
 #include <stdexcept>
@@ -246,7 +246,7 @@ int SelectedItemOf(HWND list)
 
 Robot::Robot(UINT limitInMilliseconds)
     : m_timer(SetTimer(nullptr, 0, tickMilliseconds, Tick)),
-      m_deadline(GetTickCount64() + Patience(limitInMilliseconds)),
+      m_deadline(GetTickCount64() + commandline::Patience(limitInMilliseconds)),
       m_previous(std::exchange(current, this))
 {
     BeginAct();

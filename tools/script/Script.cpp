@@ -1,6 +1,6 @@
 #include "script/Script.h"
 
-#include "commandline/Suggestion.h"
+#include "commandline/CommandLine.h"
 #include "commandline/Text.h"
 
 #include <algorithm>

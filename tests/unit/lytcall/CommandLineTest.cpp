@@ -1,4 +1,4 @@
-#include "lytcall/ProgramForm.h"
+#include "lytcall/Commands.h"
 
 #include <gtest/gtest.h>
 

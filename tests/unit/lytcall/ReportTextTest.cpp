@@ -1,6 +1,5 @@
 // Reports as texts: their blocks, what differs between two, and saved ones.
-#include "lytcall/ReportDifference.h"
-#include "lytcall/SavedReport.h"
+#include "lytcall/ReportText.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 // What the judge says and what the library does: samples, the dialogs of tests, and mutations of both.
 #include "environment/ErrorTable.h"
 #include "fuzz/frame/Samples.h"
-#include "lytdlg/judge/LibraryVerdict.h"
+#include "lytdlg/judge/Judge.h"
 #include "lytdlg/judge/Report.h"
 #include "lytdlg/text/TextFile.h"
 #include "support/Mutations.h"

@@ -1,6 +1,6 @@
 // The one form of a description, section by section, and what is left as it is.
-#include "lytdlg/text/FileForLibrary.h"
-#include "lytdlg/text/Format.h"
+#include "lytdlg/text/DescriptionLines.h"
+#include "lytdlg/text/Paths.h"
 #include "lytdlg/text/TextFile.h"
 #include "support/DescriptionText.h"
 

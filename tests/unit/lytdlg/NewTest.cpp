@@ -4,7 +4,7 @@
 #include "environment/ProcessState.h"
 #include "liveform/LiveForm.h"
 #include "lytdlg/doctor/Checks.h"
-#include "lytdlg/text/Format.h"
+#include "lytdlg/text/DescriptionLines.h"
 #include "lytdlg/text/NewDialog.h"
 #include "lytdlg/text/TextFile.h"
 #include "lytdlg/text/TextTable.h"

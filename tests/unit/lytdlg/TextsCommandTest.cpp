@@ -3,7 +3,7 @@
 #include "SourceNames.h"
 #include "environment/ErrorTable.h"
 #include "lytdlg/judge/FolderTexts.h"
-#include "lytdlg/text/LibraryTexts.h"
+#include "lytdlg/text/LanguageFiles.h"
 #include "lytdlg/text/TextFile.h"
 #include "lytdlg/text/TextTable.h"
 #include "support/DescriptionText.h"

@@ -1,9 +1,10 @@
 #include "Journey.h"
 
-#include "commandline/OwnedFile.h"
+#include "commandline/WholeFile.h"
 #include "environment/ClytException.h"
 #include "lyt64.h"
 #include "lytcall/Commands.h"
+#include "lytcall/Session.h"
 #include "native/FaultPlan.h"
 #include "native/MemoryWindows.h"
 #include "native/PartnerLibraries.h"

@@ -2,7 +2,7 @@
 #include "Limit.h"
 #include "Scene.h"
 
-#include "robot/Patience.h"
+#include "commandline/Program.h"
 
 #include <algorithm>
 #include <thread>
@@ -145,7 +145,7 @@ void LoseAThread(Scene& scene, TIMERPROC tick, bool isKilled)
 {
     isUp = CreateEventA(nullptr, TRUE, FALSE, nullptr);
     const HANDLE thread = CreateThread(nullptr, 0, ShowOnThisThread, reinterpret_cast<void*>(tick), 0, nullptr);
-    const DWORD patience = robot::Patience(60'000);
+    const DWORD patience = commandline::Patience(60'000);
     EXPECT_EQ(WaitForSingleObject(isUp, patience), WAIT_OBJECT_0);
     if (isKilled)
     {

@@ -2,7 +2,7 @@
 // with a number.
 #include "LogBlocks.h"
 
-#include "robot/Patience.h"
+#include "commandline/Program.h"
 #include "support/ChildProcess.h"
 
 #include <gtest/gtest.h>
@@ -27,7 +27,7 @@ public:
     void Wait() const
     {
         constexpr DWORD limit = 60000;
-        EXPECT_EQ(WaitForSingleObject(m_event, robot::Patience(limit)), WAIT_OBJECT_0);
+        EXPECT_EQ(WaitForSingleObject(m_event, commandline::Patience(limit)), WAIT_OBJECT_0);
     }
 
 private:

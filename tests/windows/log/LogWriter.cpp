@@ -7,8 +7,8 @@
 // lyt-log-go; `refuse` answers the N-th closing of a file with a failure. Every exception that leaves a call is printed.
 #include "lyt64.h"
 
+#include "commandline/Program.h"
 #include "environment/ClytException.h"
-#include "robot/Patience.h"
 #include "support/ImportHook.h"
 
 #include <cerrno>
@@ -42,7 +42,7 @@ void Pause()
 {
     constexpr DWORD limit = 60000;
     SetEvent(OpenEventOf("lyt-log-paused"));
-    WaitForSingleObject(OpenEventOf("lyt-log-go"), robot::Patience(limit));
+    WaitForSingleObject(OpenEventOf("lyt-log-go"), commandline::Patience(limit));
 }
 
 // Stands before every operation.

@@ -1,6 +1,6 @@
 #include "Watch.h"
 
-#include "robot/Patience.h"
+#include "commandline/Program.h"
 
 #include <cstdio>
 
@@ -42,7 +42,7 @@ DWORD WINAPI Watch::Run(void* watch)
     auto* const self = static_cast<Watch*>(watch);
     while (WaitForSingleObject(self->m_end, step) == WAIT_TIMEOUT)
     {
-        if (GetTickCount64() - self->m_began < robot::Patience(limit))
+        if (GetTickCount64() - self->m_began < commandline::Patience(limit))
             continue;
         std::printf("case %u does not come back\n", current.load());
         TerminateProcess(GetCurrentProcess(), hungCode);

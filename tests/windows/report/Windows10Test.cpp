@@ -1,7 +1,7 @@
 // From version 10 on the release is named by the registry. Only a program that says it knows Windows 10 learns of it.
 #include "ReportTest.h"
 
-#include "robot/Patience.h"
+#include "commandline/Program.h"
 
 #include <fstream>
 
@@ -33,7 +33,7 @@ protected:
         PROCESS_INFORMATION process = {};
         if (!CreateProcessA(nullptr, command.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup, &process))
             return "report-host.exe does not start";
-        WaitForSingleObject(process.hProcess, robot::Patience(60000));
+        WaitForSingleObject(process.hProcess, commandline::Patience(60000));
         CloseHandle(process.hProcess);
         CloseHandle(process.hThread);
 

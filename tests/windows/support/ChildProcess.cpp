@@ -1,6 +1,6 @@
 #include "support/ChildProcess.h"
 
-#include "robot/Patience.h"
+#include "commandline/Program.h"
 
 #include <gtest/gtest.h>
 
@@ -27,7 +27,7 @@ ChildProcess::~ChildProcess()
 ChildEnd ChildProcess::Wait() const
 {
     constexpr DWORD limit = 60000;
-    EXPECT_EQ(WaitForSingleObject(m_process.hProcess, robot::Patience(limit)), WAIT_OBJECT_0);
+    EXPECT_EQ(WaitForSingleObject(m_process.hProcess, commandline::Patience(limit)), WAIT_OBJECT_0);
     ChildEnd end;
     GetExitCodeProcess(m_process.hProcess, &end.code);
     end.output = m_folder.Read("output");

@@ -1,9 +1,9 @@
 #include "lytdlg/doctor/Checks.h"
 
 #include "commandline/Text.h"
-#include "lytdlg/judge/CodePage.h"
 #include "lytdlg/judge/Names.h"
 #include "lytdlg/text/TextFile.h"
+#include "lytdlg/text/Words.h"
 
 #include <algorithm>
 

@@ -1,7 +1,9 @@
 #include "lytdlg/doctor/Diagnosis.h"
 
 #include "commandline/Text.h"
-#include "lytdlg/text/Json.h"
+#include "lytdlg/text/TextFile.h"
+
+#include <nlohmann/json.hpp>
 
 #include <algorithm>
 #include <cstdio>

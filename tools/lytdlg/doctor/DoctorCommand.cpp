@@ -1,6 +1,6 @@
 #include "lytdlg/Commands.h"
 
-#include "commandline/Suggestion.h"
+#include "commandline/CommandLine.h"
 #include "lytdlg/doctor/Checks.h"
 
 #include <algorithm>

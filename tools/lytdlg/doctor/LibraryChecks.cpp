@@ -1,5 +1,5 @@
 #include "lytdlg/doctor/Checks.h"
-#include "lytdlg/doctor/Checksum.h"
+#include "lytdlg/doctor/Deployment.h"
 
 #include "lytdlg/judge/ExportTable.h"
 #include "lytdlg/judge/PartnerCalls.h"

@@ -4,7 +4,7 @@
 #include "lytdlg/doctor/Configuration.h"
 #include "lytdlg/doctor/Deployment.h"
 #include "lytdlg/judge/LoadTrial.h"
-#include "lytdlg/text/LibraryTexts.h"
+#include "lytdlg/text/LanguageFiles.h"
 #include "lytdlg/text/Paths.h"
 #include "lytdlg/text/TextFile.h"
 

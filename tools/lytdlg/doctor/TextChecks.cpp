@@ -1,7 +1,7 @@
 #include "lytdlg/doctor/Checks.h"
 
 #include "commandline/Text.h"
-#include "lytdlg/text/LibraryTexts.h"
+#include "lytdlg/text/LanguageFiles.h"
 #include "lytdlg/text/NewDialogTexts.h"
 #include "lytdlg/text/Paths.h"
 #include "lytdlg/text/TextFile.h"

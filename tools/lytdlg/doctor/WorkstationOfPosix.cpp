@@ -1,5 +1,9 @@
 #include "lytdlg/doctor/Workstation.h"
 
+#include "lytdlg/doctor/Deployment.h"
+
+#include <nettle/sha2.h>
+
 namespace lytdlg
 {
 
@@ -34,5 +38,15 @@ void JudgeLoading(const Deployment& /*deployment*/, const Configuration& /*confi
 }
 
 void JudgeScreen(const Deployment& /*deployment*/, Diagnosis& /*diagnosis*/) {}
+
+std::optional<Sha256> Sha256Of(const std::string& bytes)
+{
+    Sha256 sum = {};
+    sha256_ctx context;
+    sha256_init(&context);
+    sha256_update(&context, bytes.size(), reinterpret_cast<const uint8_t*>(bytes.data()));
+    sha256_digest(&context, sum.size(), sum.data());
+    return sum;
+}
 
 } // namespace lytdlg

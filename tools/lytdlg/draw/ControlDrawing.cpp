@@ -1,4 +1,4 @@
-#include "lytdlg/draw/ControlDrawing.h"
+#include "lytdlg/draw/SvgPen.h"
 
 #include "controls/TypeWords.h"
 

@@ -1,7 +1,8 @@
-// Writes graphs in the language of Graphviz.
+// Writes graphs of a description in the language of Graphviz.
 #pragma once
 
 #include "lytdlg/draw/Markup.h"
+#include "lytdlg/judge/Description.h"
 
 #include <set>
 
@@ -32,5 +33,18 @@ private:
 // How what is wrong or never happens is drawn.
 const Attributes& UnknownLook();
 const Attributes& UnusedLook();
+
+std::string Shown(const CString& text);
+// The values of a list, in brackets with commas; nothing for an empty list.
+std::string ValuesText(const CStringList& values);
+// The node of a control, red when there is no such control; gives the identifier of the node.
+std::string ControlNode(Dot& dot, const Description& description, const CString& name);
+
+// Graphs of a description: its dependency rules, the states of its scan, and who uses its output groups.
+// `title` is in UTF-8.
+std::string RulesGraph(const std::string& title, const Description& description);
+std::string ScanGraph(const std::string& title, const Description& description);
+// `dialogFolder` is where the nested dialogs are.
+std::string GroupsGraph(const std::string& title, const Description& description, const std::string& dialogFolder);
 
 } // namespace lytdlg

@@ -1,9 +1,9 @@
 #include "lytdlg/Commands.h"
 
-#include "lytdlg/draw/Graphs.h"
-#include "lytdlg/draw/Output.h"
+#include "lytdlg/draw/Dot.h"
 #include "lytdlg/text/DescriptionPaths.h"
 #include "lytdlg/text/Paths.h"
+#include "lytdlg/text/TextFile.h"
 
 #include <filesystem>
 

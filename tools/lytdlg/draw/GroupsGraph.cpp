@@ -1,10 +1,9 @@
 // Output groups, input parts, nested dialogs and libraries are nodes beside the controls that use them.
-#include "lytdlg/draw/Graphs.h"
+#include "lytdlg/draw/Dot.h"
 
 #include "commandline/Text.h"
 #include "dialog/ClytDialog.h"
-#include "lytdlg/draw/GraphTexts.h"
-#include "lytdlg/judge/Controls.h"
+#include "lytdlg/judge/Names.h"
 #include "lytdlg/text/Paths.h"
 #include "lytdlg/text/Words.h"
 #include "model/ClytWords.h"

@@ -1,9 +1,9 @@
 #include "lytdlg/Commands.h"
 
 #include "commandline/Text.h"
-#include "lytdlg/draw/Output.h"
-#include "lytdlg/draw/Screen.h"
-#include "lytdlg/draw/SvgDrawing.h"
+#include "lytdlg/draw/Snapshot.h"
+#include "lytdlg/draw/SvgPen.h"
+#include "lytdlg/text/TextFile.h"
 #include "lytdlg/try/TrialRun.h"
 
 #include <algorithm>

@@ -1,7 +1,6 @@
 // Controls are nodes; a rule is an edge to its control from each control that it asks.
-#include "lytdlg/draw/Graphs.h"
+#include "lytdlg/draw/Dot.h"
 
-#include "lytdlg/draw/GraphTexts.h"
 #include "lytdlg/text/Words.h"
 
 namespace lytdlg

@@ -1,8 +1,7 @@
 // A part is a cluster, a statement of it a node with its fills, and each way on an edge.
-#include "lytdlg/draw/Graphs.h"
+#include "lytdlg/draw/Dot.h"
 
 #include "dialog/ClytDialog.h"
-#include "lytdlg/draw/GraphTexts.h"
 #include "lytdlg/text/Words.h"
 
 namespace lytdlg

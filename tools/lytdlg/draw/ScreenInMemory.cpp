@@ -1,5 +1,5 @@
 // Windows in memory stand on a screen of either resolution.
-#include "lytdlg/draw/Screen.h"
+#include "lytdlg/draw/Snapshot.h"
 
 #include "native/MemoryWindows.h"
 

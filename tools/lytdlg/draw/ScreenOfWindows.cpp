@@ -1,5 +1,5 @@
 // A real screen has the resolution that it has.
-#include "lytdlg/draw/Screen.h"
+#include "lytdlg/draw/Snapshot.h"
 
 #include <afxwin.h>
 

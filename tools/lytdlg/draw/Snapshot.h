@@ -68,4 +68,22 @@ struct SeenDialog
 // Looks at an open dialog, and changes nothing of it.
 SeenDialog See(const TrialDialog& dialog);
 
+// Holds for as long as it lives.
+// The resolution of the screen that dialogs are opened on.
+class Resolution
+{
+public:
+    // Throws std::runtime_error when the screen cannot have it.
+    explicit Resolution(int pixelsPerInch);
+    Resolution(const Resolution&) = delete;
+    Resolution& operator=(const Resolution&) = delete;
+    ~Resolution();
+
+private:
+    int m_before;
+};
+
+// That of the screen as it stands.
+int PixelsPerInch();
+
 } // namespace lytdlg

@@ -1,8 +1,7 @@
-#include "lytdlg/draw/SvgDrawing.h"
+#include "lytdlg/draw/SvgPen.h"
 
 #include "commandline/Text.h"
 #include "controls/TypeWords.h"
-#include "lytdlg/draw/ControlDrawing.h"
 
 #include <algorithm>
 

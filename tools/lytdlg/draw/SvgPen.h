@@ -1,4 +1,4 @@
-// Rectangles and texts of a drawing, in pixels.
+// Draws a dialog and its controls: rectangles and texts, in pixels.
 #pragma once
 
 #include "lytdlg/draw/Markup.h"
@@ -64,5 +64,19 @@ private:
 
     const SeenDialog& m_dialog;
 };
+
+struct SvgStyle
+{
+    bool showsNames = false; // names at the controls, and hidden ones in outline
+    bool showsTabs = false;  // the numbers of the tab stops
+};
+
+// The dialog as SVG, pixel for pixel as its window and controls are placed. Each character has its place from the widths of
+// the dialog's own font, so that a text that is cut off in the window is cut off at the same letter here. In UTF-8, without
+// an XML declaration.
+std::string DrawSvg(const SeenDialog& dialog, const SvgStyle& style);
+
+// Draws one control, within its place.
+void DrawControl(SvgPen& pen, const SeenControl& control);
 
 } // namespace lytdlg

@@ -1,5 +1,5 @@
 // The command that judges descriptions.
-#include "commandline/Suggestion.h"
+#include "commandline/CommandLine.h"
 #include "lytdlg/Commands.h"
 #include "lytdlg/judge/Baseline.h"
 #include "lytdlg/judge/Report.h"

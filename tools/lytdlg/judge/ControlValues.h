@@ -1,7 +1,7 @@
 // What the statements of $VALUES make of a control, and the values that it may come to hold.
 #pragma once
 
-#include "lytdlg/judge/Controls.h"
+#include "lytdlg/judge/Names.h"
 #include "model/ClytWords.h"
 
 #include <optional>

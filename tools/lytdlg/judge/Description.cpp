@@ -1,10 +1,10 @@
 #include "lytdlg/judge/Description.h"
 
-#include "commandline/Suggestion.h"
+#include "commandline/CommandLine.h"
 #include "lytdlg/judge/DescriptionIndex.h"
-#include "lytdlg/judge/LineTokens.h"
 #include "lytdlg/judge/Lists.h"
 #include "lytdlg/judge/SectionReader.h"
+#include "lytdlg/judge/StatementText.h"
 
 #include <algorithm>
 #include <cctype>

@@ -1,9 +1,8 @@
 #include "lytdlg/judge/DescriptionIndex.h"
 
 #include "dialog/ClytDialog.h"
-#include "lytdlg/judge/Fills.h"
-#include "lytdlg/judge/LineTokens.h"
 #include "lytdlg/judge/Lists.h"
+#include "lytdlg/judge/StatementText.h"
 
 namespace lytdlg
 {
@@ -165,6 +164,17 @@ std::unordered_set<std::string> DescriptionIndex::NamesMeantElsewhere() const
         }
     }
     return names;
+}
+
+bool AddsItems(const ClytControlFill& fill)
+{
+    const ClytFillAction action = fill.action.GetMeaning();
+    return action == ClytFillAction::Add || action == ClytFillAction::Modify || action == ClytFillAction::Concat;
+}
+
+bool TakesPiece(const ClytControlFill& fill)
+{
+    return AddsItems(fill) || (fill.action.GetMeaning() == ClytFillAction::Other && fill.value.IsEmpty());
 }
 
 } // namespace lytdlg

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "lytdlg/judge/ControlValues.h"
+#include "lytdlg/judge/Description.h"
 
 #include <map>
 #include <unordered_map>
@@ -73,5 +74,9 @@ private:
     mutable std::optional<std::unordered_set<std::string>> m_meantElsewhere; // looked up when it is asked for
     mutable std::unordered_map<const ClytControlStatement*, std::optional<std::set<std::string>>> m_possibleValues;
 };
+
+bool AddsItems(const ClytControlFill& fill);
+// Whether the piece of the input goes into the control.
+bool TakesPiece(const ClytControlFill& fill);
 
 } // namespace lytdlg

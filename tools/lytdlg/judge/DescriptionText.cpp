@@ -1,6 +1,6 @@
 #include "lytdlg/judge/DescriptionText.h"
 
-#include "commandline/Suggestion.h"
+#include "commandline/CommandLine.h"
 #include "dlgfile/ClytDialogFile.h"
 #include "lytdlg/text/LanguageFiles.h"
 #include "lytdlg/text/Words.h"

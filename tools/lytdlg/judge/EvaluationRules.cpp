@@ -1,8 +1,8 @@
 #include "lytdlg/judge/Families.h"
 
 #include "lytdlg/judge/Conditions.h"
-#include "lytdlg/judge/Controls.h"
 #include "lytdlg/judge/DescriptionIndex.h"
+#include "lytdlg/judge/Names.h"
 
 namespace lytdlg
 {

@@ -1,6 +1,6 @@
 #include "lytdlg/judge/Examples.h"
 
-#include "commandline/Suggestion.h"
+#include "commandline/CommandLine.h"
 #include "lytdlg/judge/Names.h"
 #include "lytdlg/text/Words.h"
 

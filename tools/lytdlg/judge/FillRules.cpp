@@ -3,7 +3,6 @@
 #include "dialog/ClytDialog.h"
 #include "lytdlg/judge/Conditions.h"
 #include "lytdlg/judge/DescriptionIndex.h"
-#include "lytdlg/judge/Fills.h"
 #include "lytdlg/judge/Lists.h"
 
 namespace lytdlg

@@ -2,11 +2,11 @@
 
 #include "dialog/ClytDialog.h"
 #include "lytdlg/judge/Conditions.h"
-#include "lytdlg/judge/Controls.h"
 #include "lytdlg/judge/DescriptionIndex.h"
 #include "lytdlg/judge/FormatPieces.h"
-#include "lytdlg/judge/LineTokens.h"
 #include "lytdlg/judge/Lists.h"
+#include "lytdlg/judge/Names.h"
+#include "lytdlg/judge/StatementText.h"
 
 #include <cctype>
 

@@ -15,8 +15,7 @@ namespace lytdlg
 namespace
 {
 
-// What docs/descriptions.md tells authors: layout units.
-constexpr int fieldHeight = 19;
+// In layout units, as docs/descriptions.md has them.
 constexpr int rowHeight = 15;
 constexpr int listFrame = 4;
 

@@ -1,6 +1,8 @@
 #include "commandline/Text.h"
 #include "lytdlg/judge/Report.h"
-#include "lytdlg/text/Json.h"
+#include "lytdlg/text/TextFile.h"
+
+#include <nlohmann/json.hpp>
 
 #include <cctype>
 

@@ -8,6 +8,7 @@
 #include "lytdlg/text/LanguageFiles.h"
 
 #include <memory>
+#include <optional>
 
 namespace lytdlg
 {
@@ -40,5 +41,18 @@ const std::string& LineOf(const Finding& finding, const Description& description
 
 // All findings on a description, in the order of its lines.
 Findings Judge(const Description& description, const Surroundings& surroundings);
+
+// Why the library refuses a description, and at which line of the file.
+struct Refusal
+{
+    std::string number; // of its message; empty for a failure of the class library
+    std::string words;  // what it shows, as far as that needs no language file
+    std::string argument;
+    int line = 0;
+};
+
+// Constructs the dialog, without texts and with an empty input; nothing when the library takes it. Messages on the way
+// are answered.
+std::optional<Refusal> RefusalOf(const Description& description);
 
 } // namespace lytdlg

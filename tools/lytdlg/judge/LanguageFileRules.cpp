@@ -1,9 +1,8 @@
 #include "lytdlg/judge/Families.h"
 
-#include "lytdlg/judge/CodePage.h"
 #include "lytdlg/judge/Names.h"
 #include "lytdlg/judge/TextUses.h"
-#include "lytdlg/text/LibraryTexts.h"
+#include "lytdlg/text/LanguageFiles.h"
 #include "lytdlg/text/Paths.h"
 #include "lytdlg/text/Words.h"
 

@@ -2,7 +2,7 @@
 
 #include "base/Words.h"
 #include "lytdlg/judge/ControlValues.h"
-#include "lytdlg/judge/LineTokens.h"
+#include "lytdlg/judge/StatementText.h"
 #include "lytdlg/text/Words.h"
 
 #include <algorithm>

@@ -1,11 +1,10 @@
-#include "lytdlg/judge/LibraryVerdict.h"
+#include "lytdlg/judge/Judge.h"
 
 #include "commandline/Text.h"
 #include "environment/ClytEnvironment.h"
 #include "environment/ProcessState.h"
 #include "liveform/LiveForm.h"
 #include "lytdlg/judge/Families.h"
-#include "lytdlg/text/FileForLibrary.h"
 #include "lytdlg/text/Paths.h"
 #include "lytdlg/text/Words.h"
 #include "robot/WindowRobot.h"

@@ -1,7 +1,7 @@
 #include "lytdlg/judge/Families.h"
 
 #include "dlgfile/ClytDialogFile.h"
-#include "lytdlg/judge/CodePage.h"
+#include "lytdlg/text/Words.h"
 
 #include <algorithm>
 

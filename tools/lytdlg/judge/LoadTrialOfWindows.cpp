@@ -2,8 +2,7 @@
 
 #include "base/ClytHandle.h"
 #include "base/PartnerLibrary.h"
-#include "commandline/RunProgram.h"
-#include "lytdlg/text/AskedPath.h"
+#include "commandline/Program.h"
 #include "lytdlg/text/Paths.h"
 
 #include <algorithm>

@@ -1,6 +1,6 @@
 #include "lytdlg/judge/Names.h"
 
-#include "commandline/Suggestion.h"
+#include "commandline/CommandLine.h"
 #include "lytdlg/judge/DescriptionIndex.h"
 #include "lytdlg/text/LanguageFiles.h"
 
@@ -131,6 +131,22 @@ std::string MeantOr(const std::string& word, const std::vector<std::string>& kno
 std::string InQuotes(const std::string& text)
 {
     return "\"" + text + "\"";
+}
+
+Kind KindOf(const ClytControlStatement& control)
+{
+    return lytTypeOf(control.type.GetString()).kind;
+}
+
+const ClytControlStatement* GroupOf(const Description& description, const ClytControlStatement& option)
+{
+    return description.Index().GroupOf(option);
+}
+
+const std::vector<const ClytControlStatement*>& OptionButtonsOf(const Description& description,
+                                                                const std::string& group)
+{
+    return description.Index().FactsOf(group).optionButtons;
 }
 
 } // namespace lytdlg

@@ -42,4 +42,11 @@ std::string MeantOr(const std::string& word, const std::vector<std::string>& kno
 
 std::string InQuotes(const std::string& text);
 
+Kind KindOf(const ClytControlStatement& control);
+// The group that an option stands in; null without one.
+const ClytControlStatement* GroupOf(const Description& description, const ClytControlStatement& option);
+// The option buttons of a group, in their order.
+const std::vector<const ClytControlStatement*>& OptionButtonsOf(const Description& description,
+                                                                const std::string& group);
+
 } // namespace lytdlg

@@ -1,8 +1,8 @@
 #include "lytdlg/judge/Families.h"
 
 #include "dialog/ClytDialog.h"
-#include "lytdlg/judge/LineTokens.h"
 #include "lytdlg/judge/Names.h"
+#include "lytdlg/judge/StatementText.h"
 
 #include <set>
 #include <unordered_map>

@@ -1,6 +1,5 @@
 #include "lytdlg/judge/PartnerCalls.h"
 
-#include "lytdlg/judge/Controls.h"
 #include "lytdlg/judge/Names.h"
 #include "lytdlg/text/LanguageFiles.h"
 

@@ -93,7 +93,6 @@ private:
 
     CSize SizeOf(const ClytControlStatement& control, Kind kind) const
     {
-        constexpr int fieldHeight = 19; // of a list that drops down, as long as it is shut
         const int width = lytScaled(control.width, m_resolution.x);
         const int height = lytScaled(control.height, m_resolution.y);
         const std::string caption = CaptionOf(control, kind);

@@ -11,7 +11,10 @@
 namespace lytdlg
 {
 
-// A control with a window of its own that is seen.
+// In layout units, as docs/descriptions.md has it: of a field, and of a list that drops down while it is shut.
+inline constexpr int fieldHeight = 19;
+
+// A control with a separate window that is seen.
 struct PlacedControl
 {
     const ClytControlStatement* control = nullptr; // of the description

@@ -17,7 +17,7 @@
 // The reason goes to the examples or to the next rule; a rule without an example has neither.
 #include "lytdlg/judge/Rule.h"
 
-#include "commandline/Suggestion.h"
+#include "commandline/CommandLine.h"
 #include "commandline/Text.h"
 #include "lytdlg/judge/RulePage.h"
 

@@ -1,8 +1,8 @@
 #include "lytdlg/judge/Families.h"
 
 #include "dialog/ClytDialog.h"
-#include "lytdlg/judge/Controls.h"
 #include "lytdlg/judge/Lists.h"
+#include "lytdlg/judge/Names.h"
 #include "lytdlg/judge/ScanPaths.h"
 
 #include <algorithm>

@@ -1,7 +1,7 @@
 #include "lytdlg/judge/Families.h"
 
-#include "commandline/Suggestion.h"
-#include "lytdlg/judge/LineTokens.h"
+#include "commandline/CommandLine.h"
+#include "lytdlg/judge/StatementText.h"
 
 #include <algorithm>
 #include <map>

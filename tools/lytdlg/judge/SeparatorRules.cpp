@@ -1,6 +1,6 @@
 #include "lytdlg/judge/Families.h"
 
-#include "lytdlg/judge/Fills.h"
+#include "lytdlg/judge/DescriptionIndex.h"
 #include "lytdlg/judge/Lists.h"
 #include "lytdlg/judge/Names.h"
 

@@ -1,5 +1,6 @@
 #include "lytdlg/judge/StatementText.h"
 
+#include "dlgfile/Tokenize.h"
 #include "lytdlg/judge/Names.h"
 
 #include <algorithm>
@@ -225,6 +226,19 @@ std::string FormsOf(Section section)
         return "write NAME: (\"SEPARATOR\", NEXT = CONTROL, or NAME: CONTROL(VALUE) = NEXT, OTHER, or NAME: x = NEXT";
     default: return "write (\"FORMAT\", ITEM, ITEM), with conditions CONTROL(VALUE), CONTROL(VALUE) = before it";
     }
+}
+
+std::vector<LineToken> TokensOf(const std::string& line, Section section)
+{
+    ClytTokenList tokens;
+    static_cast<void>(lytTokenize(line.c_str(), DelimitersOf(section), tokens));
+    std::vector<LineToken> words;
+    for (POSITION place = tokens.GetHeadPosition(); place != nullptr;)
+    {
+        const ClytToken& token = tokens.GetNext(place);
+        words.push_back({token.GetText().GetString(), token.GetColumn(), token.GetDelimiter()});
+    }
+    return words;
 }
 
 } // namespace lytdlg

@@ -1,10 +1,21 @@
-// What is wrong with the form of a statement, in words, and the forms that its section has.
+// The words of a statement, and what is wrong with its form.
 #pragma once
 
-#include "lytdlg/judge/LineTokens.h"
+#include "lytdlg/judge/DescriptionText.h"
 
 namespace lytdlg
 {
+
+// A word of a line as the reader of its section takes it, with what ends it.
+struct LineToken
+{
+    std::string text; // without blanks and quotes round it
+    int column = 0;
+    char delimiter = '\n';
+};
+
+// Up to a quote that is not closed.
+std::vector<LineToken> TokensOf(const std::string& line, Section section);
 
 // The column is where the reader gave up: a word, or the end of the line.
 std::string WhatIsWrong(const std::string& line, Section section, int column);

@@ -1,4 +1,4 @@
-#include "commandline/Terminal.h"
+#include "commandline/Program.h"
 #include "commandline/Text.h"
 #include "lytdlg/judge/Report.h"
 

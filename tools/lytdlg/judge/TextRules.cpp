@@ -1,7 +1,6 @@
 #include "lytdlg/judge/Families.h"
 
-#include "lytdlg/judge/CodePage.h"
-#include "lytdlg/judge/Controls.h"
+#include "lytdlg/judge/Names.h"
 #include "lytdlg/judge/TextUses.h"
 #include "lytdlg/text/Words.h"
 

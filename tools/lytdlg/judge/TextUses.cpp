@@ -1,6 +1,6 @@
 #include "lytdlg/judge/TextUses.h"
 
-#include "lytdlg/judge/Controls.h"
+#include "lytdlg/judge/Names.h"
 #include "lytdlg/text/LanguageFiles.h"
 
 #include <cctype>

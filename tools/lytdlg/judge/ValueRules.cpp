@@ -1,7 +1,7 @@
 #include "lytdlg/judge/Families.h"
 
-#include "lytdlg/judge/LineTokens.h"
 #include "lytdlg/judge/PlacedValue.h"
+#include "lytdlg/judge/StatementText.h"
 
 #include <algorithm>
 #include <map>

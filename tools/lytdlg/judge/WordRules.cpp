@@ -1,6 +1,6 @@
 #include "lytdlg/judge/Families.h"
 
-#include "lytdlg/judge/LineTokens.h"
+#include "lytdlg/judge/StatementText.h"
 
 #include <algorithm>
 

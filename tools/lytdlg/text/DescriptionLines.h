@@ -62,4 +62,8 @@ std::vector<std::string> DefinesOf(const std::vector<DescriptionLine>& lines);
 // Every choice of these defines, as the lists that a reader takes.
 std::vector<std::string> ChoicesOf(const std::vector<std::string>& defines);
 
+// The content in its form. A line that is refused, or that would be read otherwise, stays as it is, byte for byte. The file
+// holds the content, for the library to read.
+std::string FormattedDescription(const std::filesystem::path& fileName, const std::string& content);
+
 } // namespace lytdlg

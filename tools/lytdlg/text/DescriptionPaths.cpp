@@ -1,6 +1,6 @@
 #include "lytdlg/text/DescriptionPaths.h"
 
-#include "lytdlg/text/BinaryStream.h"
+#include "commandline/Program.h"
 #include "lytdlg/text/Paths.h"
 #include "lytdlg/text/TextFile.h"
 
@@ -38,7 +38,7 @@ std::vector<std::string> DescriptionsAt(const std::string& operand)
 std::string ReadDescription(const std::string& name)
 {
     if (name == standardInput)
-        return ReadStandardInput();
+        return commandline::ReadStandardInput();
     std::optional<std::string> content = ReadWholeFile(PathOf(name));
     if (!content)
         throw std::runtime_error("cannot read " + name + "; check its rights");

@@ -1,10 +1,9 @@
 #include "lytdlg/Commands.h"
 
+#include "commandline/Program.h"
 #include "commandline/Text.h"
-#include "lytdlg/text/BinaryStream.h"
+#include "lytdlg/text/DescriptionLines.h"
 #include "lytdlg/text/DescriptionPaths.h"
-#include "lytdlg/text/FileForLibrary.h"
-#include "lytdlg/text/Format.h"
 #include "lytdlg/text/Paths.h"
 #include "lytdlg/text/TextFile.h"
 
@@ -45,7 +44,7 @@ ExitCode FormatInput(Task task)
     const std::optional<std::string> form = FormOf("the standard input", file.Name(), content);
     const std::string& text = form ? *form : content;
     if (task == Task::Write)
-        WriteBytes(text);
+        commandline::WriteBytes(text);
     else if (text != content)
         std::printf("%s\n", standardInput);
     return form && (task == Task::Write || text == content) ? good : found;

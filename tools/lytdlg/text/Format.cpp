@@ -1,4 +1,4 @@
-#include "lytdlg/text/Format.h"
+#include "lytdlg/text/DescriptionLines.h"
 
 #include "dlgfile/ClytDialogFile.h"
 #include "lytdlg/text/Statement.h"

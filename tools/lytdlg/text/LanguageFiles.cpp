@@ -1,8 +1,9 @@
 #include "lytdlg/text/LanguageFiles.h"
 
 #include "commandline/Text.h"
-#include "commandline/Unicode.h"
+#include "controls/TypeWords.h"
 #include "environment/ClytEnvironment.h"
+#include "environment/ClytException.h"
 #include "lytdlg/text/Paths.h"
 #include "lytdlg/text/TextFile.h"
 
@@ -228,6 +229,21 @@ std::vector<LanguageKey> LanguageFiles::Keys(const std::string& language, const 
     std::ranges::copy_if(file->Keys(), std::back_inserter(keys),
                          [&](const LanguageKey& key) { return key.isReached && IsSameName(key.section, section); });
     return keys;
+}
+
+const std::vector<LibraryText>& LibraryTexts()
+{
+    static const std::vector<LibraryText> texts = []
+    {
+        std::vector<LibraryText> all;
+        for (const ClytKind button : {ClytKind::Ok, ClytKind::Cancel})
+            all.push_back({lytButtonSection, lytTypeOf(button).captionKey});
+        all.push_back({"Label", "TreeDlgLabel"});
+        for (const ClytErrorRow& error : lytErrors)
+            all.push_back({lytErrorSection, error.number});
+        return all;
+    }();
+    return texts;
 }
 
 } // namespace lytdlg

@@ -102,4 +102,13 @@ std::string FoldedName(std::string_view name);
 // Equal for two texts that the library takes for one.
 std::string TextId(std::string_view section, std::string_view key);
 
+struct LibraryText
+{
+    std::string section;
+    std::string key;
+};
+
+// Buttons, the window of the catalogue and the numbered messages.
+const std::vector<LibraryText>& LibraryTexts();
+
 } // namespace lytdlg

@@ -3,7 +3,6 @@
 #include "commandline/CommandLine.h"
 #include "environment/ErrorTable.h"
 #include "lytdlg/doctor/Checks.h"
-#include "lytdlg/text/FolderLock.h"
 #include "lytdlg/text/LanguageFiles.h"
 #include "lytdlg/text/NewDialogTexts.h"
 #include "lytdlg/text/Paths.h"

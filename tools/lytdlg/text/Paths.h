@@ -2,6 +2,8 @@
 #pragma once
 
 #include <filesystem>
+#include <functional>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -22,5 +24,32 @@ std::filesystem::path FileIn(const std::filesystem::path& folder, const std::str
 
 // The name as the library opens it. A UsageError when it holds a letter that the library's code page does not have.
 std::string NameForLibrary(const std::filesystem::path& path);
+
+// A file that nobody but the library opens; it is gone with its owner. Natively it is held in memory.
+class FileForLibrary
+{
+public:
+    explicit FileForLibrary(const std::string& content);
+
+    const std::filesystem::path& Name() const { return m_name; }
+
+private:
+    std::filesystem::path m_name;
+    std::shared_ptr<const void> m_file; // keeps the file there
+};
+
+// Keeps other runs of this program out of a folder; they wait. The system gives it free when the process ends in any way.
+class FolderLock
+{
+public:
+    // Where the system has no such lock, as on some file servers, nobody waits.
+    explicit FolderLock(const std::filesystem::path& folder);
+
+private:
+    std::shared_ptr<const void> m_lock;
+};
+
+// On Windows only: the path that a function of the system writes into a buffer of a size; empty when it fails.
+std::filesystem::path AskedPath(const std::function<unsigned long(wchar_t*, unsigned long)>& ask);
 
 } // namespace lytdlg

@@ -1,10 +1,12 @@
 #include "commandline/CommandLine.h"
 #include "lytdlg/text/Paths.h"
+#include "lytdlg/text/TextFile.h"
 
 #include <windows.h>
 
 #include <shellapi.h>
 
+#include <algorithm>
 #include <memory>
 
 namespace lytdlg
@@ -63,6 +65,36 @@ std::string NameForLibrary(const std::filesystem::path& path)
             "\": its code page lacks a letter of the name; rename the file or folder, or copy "
             "the dialogs to a folder with plain letters");
     return name;
+}
+
+std::filesystem::path AskedPath(const std::function<unsigned long(wchar_t*, unsigned long)>& ask)
+{
+    constexpr DWORD longest = 32768;
+    std::wstring path(longest, L'\0');
+    path.resize(std::min<size_t>(ask(path.data(), longest), longest));
+    return path;
+}
+
+FileForLibrary::FileForLibrary(const std::string& content)
+{
+    auto file = std::make_shared<const TemporaryFile>(content);
+    m_name = file->Name();
+    m_file = std::move(file);
+}
+
+// A folder itself cannot be locked: nobody could list it. One lock for all folders costs a wait that nobody notices.
+FolderLock::FolderLock(const std::filesystem::path& /*folder*/)
+{
+    HANDLE mutex = CreateMutexA(nullptr, FALSE, "lytdlg-folder");
+    if (mutex == nullptr)
+        return;
+    WaitForSingleObject(mutex, INFINITE);
+    const auto giveFree = [mutex](const void*)
+    {
+        ReleaseMutex(mutex);
+        CloseHandle(mutex);
+    };
+    m_lock = {nullptr, giveFree};
 }
 
 } // namespace lytdlg

@@ -1,12 +1,19 @@
 #include "lytdlg/text/TextFile.h"
 
+#include "commandline/Program.h"
 #include "lytdlg/text/Paths.h"
+
+#include <nlohmann/json.hpp>
 
 #include <afx.h>
 #include <windows.h>
 
 #include <algorithm>
+#include <array>
+#include <cctype>
 #include <cerrno>
+#include <cstdio>
+#include <filesystem>
 #include <fstream>
 #include <stdexcept>
 
@@ -83,6 +90,14 @@ void Put(const fs::path& target, const std::string& content, const CHECK& checkA
     }
     if (failure)
         throw std::runtime_error(FailureToWrite(target, failure));
+}
+
+// Of a control character that JSON allows in a text.
+std::string EscapeOf(char ch)
+{
+    std::array<char, 7> escape{};
+    std::snprintf(escape.data(), escape.size(), "\\u%04x", static_cast<unsigned>(static_cast<unsigned char>(ch)));
+    return escape.data();
 }
 
 } // namespace
@@ -175,6 +190,53 @@ TemporaryFile::~TemporaryFile()
 {
     std::error_code ignored;
     fs::remove(m_name, ignored);
+}
+
+std::string ExtensionOf(const std::string& file)
+{
+    std::string extension = PathOf(file).extension().string();
+    std::ranges::transform(extension, extension.begin(),
+                           [](unsigned char ch) { return static_cast<char>(std::tolower(ch)); });
+    return extension;
+}
+
+void WriteOut(const std::string& file, const std::string& bytes)
+{
+    if (file.empty())
+    {
+        std::fwrite(bytes.data(), 1, bytes.size(), stdout);
+        return;
+    }
+    WriteWholeFile(PathOf(file), bytes);
+}
+
+void WriteByProgram(const std::string& file, std::vector<std::string> words, const std::string& source,
+                    const char* wayOut)
+{
+    const TemporaryFile given(source);
+    const TemporaryFile made("");
+    words.insert(words.end(), {"-o", made.Name().string(), given.Name().string()});
+    const int code = commandline::RunProgram(words);
+    if (code < 0)
+        throw std::runtime_error(wayOut);
+    if (code > 0)
+        throw std::runtime_error(words.front() + " could not make \"" + file + "\"");
+    WriteWholeFile(PathOf(file), ReadWholeFile(made.Name()).value_or(""));
+}
+
+void PrintJson(const Json& json)
+{
+    const std::string text = json.dump(2, ' ', false, Json::error_handler_t::replace);
+    std::string printed;
+    for (size_t place = 0; place < text.size(); ++place)
+    {
+        const bool isSecondRange = text[place] == '\xC2' && static_cast<unsigned char>(text[place + 1]) < 0xA0U;
+        if (isSecondRange || text[place] == '\x7F')
+            printed += EscapeOf(text[isSecondRange ? ++place : place]);
+        else
+            printed += text[place];
+    }
+    std::puts(printed.c_str());
 }
 
 } // namespace lytdlg

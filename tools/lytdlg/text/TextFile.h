@@ -1,5 +1,7 @@
-// Files that are read and written whole, byte for byte.
+// Files that are read and written whole, byte for byte, and what commands write to the standard output.
 #pragma once
+
+#include <nlohmann/json_fwd.hpp>
 
 #include <filesystem>
 #include <optional>
@@ -50,5 +52,19 @@ public:
 private:
     std::filesystem::path m_name;
 };
+
+// The extension of a file name in lower case, with its point.
+std::string ExtensionOf(const std::string& file);
+// Writes to standard output for an empty name. Throws std::runtime_error when the file cannot be written.
+void WriteOut(const std::string& file, const std::string& bytes);
+// Has another program make the file of a source: it is told -o, the file to write and the file to read. Throws
+// std::runtime_error with the way out when there is no such program.
+void WriteByProgram(const std::string& file, std::vector<std::string> words, const std::string& source,
+                    const char* wayOut);
+
+// In the order in which it is written.
+using Json = nlohmann::ordered_json;
+// To standard output. Texts are in UTF-8; bytes that are none, as a path may hold them, are replaced.
+void PrintJson(const Json& json);
 
 } // namespace lytdlg

@@ -1,7 +1,7 @@
 #include "lytdlg/text/TextTable.h"
 
 #include "lytdlg/judge/FolderTexts.h"
-#include "lytdlg/text/LibraryTexts.h"
+#include "lytdlg/text/LanguageFiles.h"
 #include "lytdlg/text/Words.h"
 
 #include <algorithm>

@@ -1,10 +1,12 @@
 #include "lytdlg/Commands.h"
 
-#include "commandline/Suggestion.h"
+#include "commandline/CommandLine.h"
 #include "commandline/Text.h"
-#include "lytdlg/text/Json.h"
 #include "lytdlg/text/Paths.h"
+#include "lytdlg/text/TextFile.h"
 #include "lytdlg/text/TextTable.h"
+
+#include <nlohmann/json.hpp>
 
 #include <algorithm>
 #include <cstdio>

@@ -1,6 +1,6 @@
 #include "lytdlg/try/CaseFile.h"
 
-#include "commandline/Suggestion.h"
+#include "commandline/CommandLine.h"
 #include "commandline/Text.h"
 #include "lytdlg/text/Paths.h"
 
@@ -11,12 +11,12 @@
 namespace lytdlg
 {
 
+namespace fs = std::filesystem;
+
 using commandline::AsAnsi;
 using commandline::Quoted;
 using commandline::ToUtf8;
 using script::LineReader;
-namespace fs = std::filesystem;
-
 namespace
 {
 

@@ -2,7 +2,7 @@
 
 #include "commandline/Text.h"
 #include "controls/TypeWords.h"
-#include "lytdlg/try/TakeAct.h"
+#include "lytdlg/try/Act.h"
 #include "lytdlg/try/TrialRun.h"
 
 namespace lytdlg

@@ -1,6 +1,9 @@
 // What a description says line by line, read once more for whoever explains a dialog.
 #pragma once
 
+#include "lytdlg/try/Recorder.h"
+#include "lytdlg/try/TrialDialog.h"
+
 #include <string>
 #include <vector>
 
@@ -43,5 +46,12 @@ struct DialogFacts
 
 // The line of the file that the library refuses while it reads the description; 0 when it reads it to the end.
 int RefusedLine(const std::string& file, const std::string& defines);
+
+// Why a control of an open dialog is hidden, disabled or empty, or that it is not, in plain sentences: a line each, in UTF-8.
+std::vector<std::string> Explain(const TrialDialog& dialog, ClytControl& control, const Recorder& recorder);
+// The part of it that is about the value: what filled and emptied the control, or why nothing did.
+std::vector<std::string> ExplainValue(const TrialDialog& dialog, ClytControl& control, const Recorder& recorder);
+
+std::string InLine(int line);
 
 } // namespace lytdlg

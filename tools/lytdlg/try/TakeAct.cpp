@@ -1,6 +1,6 @@
-#include "lytdlg/try/TakeAct.h"
+#include "lytdlg/try/Act.h"
 
-#include "commandline/Suggestion.h"
+#include "commandline/CommandLine.h"
 #include "commandline/Text.h"
 #include "controls/TypeWords.h"
 #include "liveform/UserActs.h"

@@ -12,9 +12,9 @@
 namespace lytdlg
 {
 
-using commandline::PrintLine;
 namespace fs = std::filesystem;
 
+using commandline::PrintLine;
 namespace
 {
 

@@ -4,8 +4,8 @@
 #include "controls/TypeWords.h"
 #include "environment/ClytEnvironment.h"
 #include "environment/ProcessState.h"
+#include "lytdlg/try/Act.h"
 #include "lytdlg/try/DialogFacts.h"
-#include "lytdlg/try/TakeAct.h"
 
 #include <algorithm>
 #include <array>

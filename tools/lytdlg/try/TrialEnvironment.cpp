@@ -1,6 +1,6 @@
 #include "lytdlg/try/TrialEnvironment.h"
 
-#include "commandline/Suggestion.h"
+#include "commandline/CommandLine.h"
 #include "commandline/Text.h"
 #include "environment/ClytEnvironment.h"
 #include "environment/ProcessState.h"
@@ -17,9 +17,9 @@
 namespace lytdlg
 {
 
-using commandline::UsageError;
 namespace fs = std::filesystem;
 
+using commandline::UsageError;
 namespace
 {
 

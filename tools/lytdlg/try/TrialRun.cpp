@@ -1,6 +1,6 @@
 #include "lytdlg/try/TrialRun.h"
 
-#include "commandline/Suggestion.h"
+#include "commandline/CommandLine.h"
 #include "commandline/Text.h"
 #include "environment/ClytEnvironment.h"
 #include "lytdlg/Commands.h"

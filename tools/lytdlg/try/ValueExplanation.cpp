@@ -1,4 +1,4 @@
-#include "lytdlg/try/Explanation.h"
+#include "lytdlg/try/DialogFacts.h"
 
 #include "commandline/Text.h"
 #include "controls/TypeWords.h"

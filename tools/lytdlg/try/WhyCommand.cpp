@@ -1,8 +1,8 @@
 #include "lytdlg/Commands.h"
 
 #include "commandline/Text.h"
-#include "lytdlg/try/Explanation.h"
-#include "lytdlg/try/TakeAct.h"
+#include "lytdlg/try/Act.h"
+#include "lytdlg/try/DialogFacts.h"
 #include "lytdlg/try/TrialRun.h"
 
 namespace lytdlg

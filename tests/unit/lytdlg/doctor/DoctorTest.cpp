@@ -1,7 +1,7 @@
 // What `lytdlg doctor` says of the library and its host, and how it is asked and answers.
 #include "DoctorFolder.h"
 
-#include "lytdlg/doctor/Checksum.h"
+#include "lytdlg/doctor/Deployment.h"
 
 #include <nlohmann/json.hpp>
 

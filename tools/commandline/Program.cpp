@@ -1,9 +1,12 @@
-#include "lytdlg/text/BinaryStream.h"
+#include "commandline/Program.h"
 
+#include <algorithm>
+#include <cstdio>
+#include <cstdlib>
 #include <fcntl.h>
 #include <io.h>
 
-namespace lytdlg
+namespace commandline
 {
 
 namespace
@@ -33,6 +36,22 @@ private:
 
 } // namespace
 
+int Finish(const char* program, int code)
+{
+    // A write that failed before is remembered by the stream alone.
+    if (std::fflush(stdout) == 0 && std::ferror(stdout) == 0)
+        return code;
+    std::fprintf(stderr, "%s: what was printed could not be written whole; is the disk full, or the output closed?\n",
+                 program);
+    return std::max(code, 1);
+}
+
+bool IsTerminal(std::FILE* stream)
+{
+    const char* const refused = std::getenv("NO_COLOR");
+    return (refused == nullptr || *refused == '\0') && _isatty(_fileno(stream)) != 0;
+}
+
 std::string ReadStandardInput()
 {
     const BinaryMode binary(stdin);
@@ -49,4 +68,4 @@ void WriteBytes(const std::string& bytes)
     std::fwrite(bytes.data(), 1, bytes.size(), stdout);
 }
 
-} // namespace lytdlg
+} // namespace commandline
