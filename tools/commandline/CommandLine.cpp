@@ -43,7 +43,7 @@ const CommandForm& CommandOf(const ProgramForm& program, const std::string& word
     throw UsageError("there is no command \"" + word + "\"; " + Suggestion(word, known));
 }
 
-// Options may stand before the command, so until it is known those of all commands are.
+// Options may come before the command, so until it is known the options of all commands are allowed.
 const OptionForm& OptionOf(const ProgramForm& program, const std::string& command, const std::string& word)
 {
     if (const OptionForm* form = Find(program.options, word))

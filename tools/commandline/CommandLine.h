@@ -31,7 +31,7 @@ struct CommandForm
     size_t least;         // how many must be there
     size_t most;
     const char* meaning;
-    std::vector<OptionForm> options = {}; // those of this command alone
+    std::vector<OptionForm> options = {}; // of this command alone
 };
 
 struct ProgramForm

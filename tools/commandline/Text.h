@@ -31,7 +31,7 @@ std::string Quoted(const std::string& utf8);
 std::optional<std::string> TakeQuoted(const std::string& line, size_t& place);
 // Prints a line with texts from outside in it.
 void PrintLine(const std::string& utf8);
-// Prints "name = value" on a line of its own, in UTF-8.
+// Prints "name = value" on a separate line, in UTF-8.
 void PrintText(const std::string& name, const std::string& ansi);
 void PrintNumber(const std::string& name, int value, const std::string& meaning = "");
 

@@ -20,7 +20,7 @@ LiveForm::~LiveForm()
 void LiveForm::Construct()
 {
     ReadDescription();
-    // The run that ends the construction is none that a command began.
+    // No command began the run that ends the construction.
     --runCount;
     SetWindowPos(nullptr, 0, 0, 0, 0, SWP_SHOWWINDOW | SWP_NOACTIVATE | SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER);
 }

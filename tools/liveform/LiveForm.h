@@ -1,4 +1,4 @@
-// A described dialog on a window of its own, without a modal run: its controls are those that ship, over windows of the
+// A described dialog on a separate window, without a modal run: its controls are those that ship, over windows of the
 // platform or in memory. Tests and fuzzers read a description into it, do what a user would do, and look at the result.
 #pragma once
 
@@ -24,10 +24,10 @@ public:
     // box. A button is pressed. False when no control of that name can be reached.
     bool Enter(const CString& controlName, const CString& input);
     bool Enter(ClytControl& control, const CString& input);
-    // OK without the end of the dialog: true when the result stands. A failure is raised.
+    // OK without the end of the dialog: true when there is a result. A failure is raised.
     bool Confirm() { return ComposeResult() != 0; }
 
-    // The window of a control; null when there is none of that name.
+    // The window of a control; null when no control has that name.
     CWnd* Window(const CString& name) const { return dynamic_cast<CWnd*>(FindControl(name)); }
     // What is seen of a control; an unknown one has the value "?", is disabled and hidden.
     std::string Value(const CString& name) const;

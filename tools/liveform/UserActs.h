@@ -22,6 +22,6 @@ Entered EnterAsUser(ClytControl& control, const CString& input);
 
 // The buttons of an option group, in the order of the layout; none of another control.
 std::vector<ClytControl*> OptionsOf(const ClytControl& control);
-// An option group has no window of its own; it is shown when one of its buttons is.
+// An option group has no window; it is shown when one of its buttons is.
 bool IsSeenEnabled(ClytControl& control);
 bool IsSeen(ClytControl& control);

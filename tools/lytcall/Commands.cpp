@@ -134,7 +134,7 @@ int RunChild(const Session& session)
 {
     std::vector<char> text = session.Buffer("--size");
     std::vector<char> path = session.Buffer("--second-size");
-    // The pair walks the list that a catalogue window left behind.
+    // The pair walks the list that a catalogue window has left.
     if (OpenTree(session, session.Asked().Operand(1, "S"), text) != 1)
         return 0;
     const std::string key = session.Asked().Operand(0, "");

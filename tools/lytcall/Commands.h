@@ -16,7 +16,7 @@ const commandline::ProgramForm& TheProgram();
 // script::FileError.
 int RunCommand(const Session& session);
 
-// The report, in a file of its own.
+// The report, which has a separate source.
 int RunReport(const Session& session);
 // Prints what differs between two saved reports; false when a line does that does not differ from run to run. It needs no
 // library.

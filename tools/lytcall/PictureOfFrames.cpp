@@ -1,4 +1,4 @@
-// Windows in memory have no pixels: their picture shows where the window and its visible children stand, a frame for each.
+// Windows in memory have no pixels: their picture shows where the window and its visible children are, a frame for each.
 #include "commandline/WholeFile.h"
 #include "lytcall/ScriptRunner.h"
 

@@ -240,7 +240,7 @@ private:
         }
     }
 
-    // A folder of a user whose name another one has, too, is told apart by the domain.
+    // A user's folder has the domain in its name when another user has the same name.
     void NoteUser(const std::string& name)
     {
         const size_t dot = name.find('.');

@@ -35,7 +35,7 @@ ReportLines LackingIn(const ReportLines& other, const ReportLines& lines)
     return lacking;
 }
 
-// Both sides of a changed line stand together.
+// Both sides of a changed line come together.
 Changes ChangesOf(const ReportLines& first, const ReportLines& second)
 {
     Changes changes;
@@ -62,7 +62,7 @@ void Tell(const std::string& title, const Changes& changes, ReportDifference& di
         difference.text += std::string("  ") + change.side + " " + commandline::Printable(change.line) + "\n";
 }
 
-// The blocks of a report by title; of two with one title the second is told apart by a number.
+// The blocks of a report by title; the second of two with one title gets a number.
 std::vector<ReportBlock> NamedBlocks(const ReportLines& lines)
 {
     std::vector<ReportBlock> blocks = CutReport(lines);

@@ -18,8 +18,8 @@ struct ReportBlock
     ReportLines lines;
 };
 
-// Cuts a report at the lines that begin its blocks. The titles are those of docs/report.md; a word processor's version has
-// a block of its own.
+// Cuts a report at the lines that begin its blocks. The titles are as in docs/report.md; a word processor's version has
+// a separate block.
 std::vector<ReportBlock> CutReport(const ReportLines& lines);
 // The part before the value of a line; the whole line without one. A colon after a single letter is that of a drive.
 std::string LabelOf(const std::string& line);

@@ -23,7 +23,7 @@ bool IsSecret(std::string name)
                                [&](std::string_view stem) { return name.find(stem) != std::string::npos; });
 }
 
-// A value of the registry is told with the path of its key.
+// A value of the registry is printed with the path of its key.
 bool HasSecretPart(const std::string& label)
 {
     for (size_t start = label.find_first_not_of(' '), end = 0; start < label.size(); start = end + 1)

@@ -53,7 +53,7 @@ Session::~Session()
     RemoveDirectoryA(m_ownFolder.c_str());
 }
 
-// The language stands in lyt.ini, so another language needs a lyt.ini of its own.
+// The language is in lyt.ini, so another language needs another lyt.ini.
 std::string Session::InitFolder()
 {
     std::string folder = m_request.Text("--init", ProgramFolder() + "\\samples\\init");

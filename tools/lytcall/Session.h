@@ -24,7 +24,7 @@ public:
 };
 
 // Functions are found by the names that lyt64.h declares. The library stays loaded until the program ends: an exception
-// that it raised is ended by code of its own, and that may be wanted after the owner of this object is gone.
+// that it raised is ended by its code, which may be wanted after the owner of this object is gone.
 class LytLibrary
 {
 public:

@@ -30,7 +30,7 @@ int Tell(const std::exception& error, ExitCode code)
     return code;
 }
 
-// Nothing was judged. Programs that have asked for JSON are told so.
+// Nothing was judged. Programs that have asked for JSON get that as JSON.
 void TellRefusal(const std::vector<std::string>& words, const std::exception& error)
 {
     if (commandline::AsksDoctorForJson(words))

@@ -9,7 +9,7 @@
 int main(int count, char** words)
 {
     SetConsoleOutputCP(CP_UTF8);
-    // The templates, icons and manifest of the library are those of this program.
+    // The templates, icons and manifest of the library are in this program.
     AfxGetStaticModuleState()->m_hCurrentResourceHandle = GetModuleHandleA(nullptr);
     const std::vector<std::string> given = lytdlg::CommandLineWords(count, words);
     if (!given.empty() && given.front() == lytdlg::loadTrialWord)

@@ -103,7 +103,7 @@ enum class Player
     OfDescriptions // whoever knows its description, too, and takes acts only
 };
 
-// Reads what follows the word of a step; raises FileError at a mistake. Null for a word that is none of the player's.
+// Reads what follows the word of a step; raises FileError at a mistake. Null for a word that the player does not have.
 const StepForm* FindForm(const std::string& word, Player player);
 Step ReadStep(const StepForm& form, LineReader& line, Player player);
 // Reads a whole script.

@@ -29,7 +29,7 @@ void JudgeNames(const Deployment& deployment, Diagnosis& diagnosis);
 // The libraries that the library and the descriptions call. Gives the files that are loaded.
 std::vector<std::filesystem::path> JudgePartners(const Deployment& deployment,
                                                  const std::list<Description>& descriptions, Diagnosis& diagnosis);
-// Files that are write-protected, or marked as downloaded: those of the deployment and the partners.
+// Files that are write-protected, or marked as downloaded: the files of the deployment and the partners.
 void JudgeMarks(const Deployment& deployment, const std::vector<std::filesystem::path>& partners, Diagnosis& diagnosis);
 
 // A file that cannot be read: somebody has it open, or the users may not.

@@ -34,7 +34,7 @@ private:
     LanguageFile m_file; // a language file has the same form
 };
 
-// Where the value of a key stands in its line.
+// Where the value of a key is in its line.
 ClytSpan PlaceOfValue(const LanguageKey& key);
 
 } // namespace lytdlg

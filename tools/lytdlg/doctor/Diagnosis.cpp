@@ -20,7 +20,7 @@ namespace
 constexpr int verdictWidth = 8;
 constexpr int aboutWidth = 14;
 
-// More than these are told in one line.
+// More than these are reported in one line.
 constexpr size_t mostOfAKind = 3;
 constexpr size_t toldAlready = 0;
 

@@ -28,7 +28,7 @@ struct Observation
     ClytSpan place;         // in the file; line 0 for the whole of it
     std::string message;    // this and what follows in UTF-8
     std::string hint;       // the way out; empty when nothing is to be done
-    std::string kind = {};  // what many have in common; empty for one that is always told by itself
+    std::string kind = {};  // what many have in common; empty for one that is always reported by itself
 };
 
 class Diagnosis

@@ -16,7 +16,7 @@ namespace
 {
 
 constexpr const char* aboutMarks = "marks";
-// Zones below are those of the machine, its network and the sites that it trusts.
+// Zones below are the machine, its network and the sites that it trusts.
 constexpr char firstForeignZone = '3';
 
 using FilesOfFolders = std::map<fs::path, std::vector<std::string>>;

@@ -1,4 +1,4 @@
-// What the dialogs stand on: the resolution of the screen, and the common controls that the manifest of the library asks for.
+// What the dialogs need: the resolution of the screen, and the common controls that the manifest of the library asks for.
 #include "environment/ErrorTable.h"
 #include "lytdlg/doctor/Deployment.h"
 #include "model/ClytScale.h"
@@ -17,7 +17,7 @@ namespace
 constexpr const char* aboutScreen = "screen";
 constexpr const char* aboutControls = "controls";
 
-// A word processor knows the resolution of its screen. To a program that does not, Windows tells 96 whatever it is.
+// A word processor knows the resolution of its screen. To a program that does not, Windows always reports 96.
 class AwareOfResolution
 {
 public:

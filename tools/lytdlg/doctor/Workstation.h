@@ -15,7 +15,7 @@ namespace lytdlg
 struct Host
 {
     std::filesystem::path program; // empty when it is not known
-    bool isKnown = false;          // false for a program that stands for it
+    bool isKnown = false;          // false for a program in its place
 };
 
 struct SearchFolder
@@ -28,7 +28,7 @@ struct SearchFolder
 // A folder as PATH names it.
 SearchFolder SearchFolderOf(std::filesystem::path::string_type text, const char* name);
 
-// The word processor that is registered; without one this program stands for it, where that makes sense.
+// The word processor that is registered; without one this program takes its place, where that makes sense.
 Host HostOfWorkstation();
 // Where the platform looks for a library after the folder of the program, in its order. None natively: there the folders of
 // the workstation are not known.

@@ -14,7 +14,7 @@ class Dot
 public:
     explicit Dot(const std::string& title);
 
-    // A node is written once, as it is first told. Texts are in UTF-8; the lines of a label are separated by line feeds.
+    // A node is written once, as it is first given. Texts are in UTF-8; the lines of a label are separated by line feeds.
     void Node(const std::string& id, const std::string& label, const Attributes& more = {});
     void Edge(const std::string& from, const std::string& to, const std::string& label, const Attributes& more = {});
     void BeginCluster(const std::string& id, const std::string& label);

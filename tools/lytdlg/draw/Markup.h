@@ -21,7 +21,7 @@ struct Attribute
 };
 using Attributes = std::vector<Attribute>;
 
-// Elements, each on a line of its own.
+// Elements, each on a separate line.
 class Markup
 {
 public:

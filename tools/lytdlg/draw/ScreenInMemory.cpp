@@ -1,4 +1,4 @@
-// Windows in memory stand on a screen of either resolution.
+// Windows in memory are on a screen of either resolution.
 #include "lytdlg/draw/Snapshot.h"
 
 #include "native/MemoryWindows.h"

@@ -83,7 +83,7 @@ private:
     int m_before;
 };
 
-// That of the screen as it stands.
+// Of the screen as it is.
 int PixelsPerInch();
 
 } // namespace lytdlg

@@ -67,7 +67,7 @@ void DrawName(SvgPen& pen, const SeenControl& control)
         pen.Note(inside, place.top + 1, control.name, color::name);
 }
 
-// A number in brackets is that of a control that the Tab key passes over as the dialog stands.
+// A number in brackets belongs to a control that the Tab key passes over in the dialog as it is.
 void DrawTabNumber(SvgPen& pen, const SeenControl& control)
 {
     const std::string number = std::to_string(control.tabNumber);

@@ -23,7 +23,7 @@ public:
     void Write(const std::string& path) const;
 
 private:
-    std::map<std::string, int> m_known; // a line of the file, and how often it stands there
+    std::map<std::string, int> m_known; // a line of the file, and how often it is there
 };
 
 } // namespace lytdlg

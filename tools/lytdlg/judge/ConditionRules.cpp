@@ -29,7 +29,7 @@ struct Condition
     }
 };
 
-// An item that the first statement of the kind adds stands chosen; a check list never begins with a choice.
+// An item that the first statement of the kind adds is chosen; a check list never begins with a choice.
 bool MayHaveNoChoice(const Description& description, const std::string& name, Kind kind)
 {
     if (kind != Kind::List)

@@ -1,4 +1,4 @@
-// Conditions, whatever rule they belong to: what they ask, and what is wrong with them.
+// Conditions of all kinds of rules: what they ask, and what is wrong with them.
 #pragma once
 
 #include "lytdlg/judge/Judge.h"
@@ -13,7 +13,7 @@ std::vector<std::string> ValuesAskedBy(const ClytCtrlValList& condition);
 // The conditions that, with those before them, leave a control no value to hold.
 std::vector<const ClytCtrlValList*> Contradictions(const ClytOwnedList<ClytCtrlValList>& conditions);
 
-// Whether the condition holds whatever the user does: it names all values of a control that never is disabled, or none.
+// Whether the condition always holds: it names all values of a control that never is disabled, or none.
 bool AlwaysHolds(const Description& description, const ClytCtrlValList& condition);
 
 // Which words for a value mean something in the conditions of a section.

@@ -56,7 +56,7 @@ bool IsWholeWord(const std::string& line, size_t place, size_t size)
            !(isLetter(place + size) && isLetter(place + size - 1));
 }
 
-// Where a word stands, if need be as a part of another one; npos when it does not stand there.
+// Where a word is, if need be as a part of another one; npos when it is not there.
 size_t PlaceInLine(const std::string& line, const std::string& word, size_t from)
 {
     const size_t first = word.empty() ? std::string::npos : line.find(word, from);

@@ -67,7 +67,7 @@ public:
 
     // The words after $LAYOUT, the text section first.
     std::vector<std::string> layoutWords;
-    bool hasDialogHeader = false; // the line Begin Dialog is there, whatever is wrong with its numbers
+    bool hasDialogHeader = false; // the line Begin Dialog is there, even with wrong numbers
     int width = 0;
     int height = 0;
     std::string title;
@@ -88,11 +88,11 @@ public:
     const ClytControlStatement* FindControl(const std::string& name) const;
     // Whether a reader refuses the line: what is there of its statement is not whole.
     bool IsRefused(int line) const;
-    // The place of a word of a line, from a column on; the whole line when it does not stand there.
+    // The place of a word of a line, from a column on; the whole line when it is not there.
     ClytSpan PlaceOf(int line, const std::string& word, int fromColumn = 0) const;
     // The place of a line's content, without the blanks round it.
     ClytSpan PlaceOf(int line) const;
-    // Whether quotes stand round the word at the place.
+    // Whether the word at the place is in quotes.
     bool IsQuoted(const ClytSpan& place) const;
 
 private:

@@ -62,7 +62,7 @@ HeaderWord HeaderWordOf(const std::string& line, Section section)
 }
 
 // The section whose header a word was meant to be. A word with a `$` is meant as one, and so is one in capitals that
-// stands alone. A blank ends the word of a header only where blanks separate.
+// is alone. A blank ends the word of a header only where blanks separate.
 std::optional<Section> MeantBy(const HeaderWord& word, Section present)
 {
     std::string first = word.text.substr(0, word.text.find_first_of(" \t"));
@@ -88,7 +88,7 @@ std::string CorrectHeader(const HeaderWord& word, Section section)
     return WordOf(section) + (name.empty() ? "" : separator + name);
 }
 
-// What a line begins with, whatever its section is.
+// What a line of any section begins with.
 std::string RoughHeaderWord(const std::string& line)
 {
     const size_t start = line.find_first_not_of(" \t\"");
@@ -343,7 +343,7 @@ bool DescriptionText::HasBelow(Section section, int line) const
     return last != m_lastHeaders.end() && last->second > line;
 }
 
-// A header stands in a wrong place by itself when its section is open already, or when this section and the one that is
+// A header by itself is in a wrong place when its section is open already, or when this section and the one that is
 // due still come. Otherwise a section was moved, or left out.
 bool DescriptionText::IsStray(Section section, Section present, int line) const
 {
@@ -378,7 +378,7 @@ Section DescriptionText::Opened(SourceLine& line, Section present)
     if (!meant || (*meant == Section::Head && present != Section::Head))
         return present;
     const bool isFurtherPart = *meant == present && (present == Section::Input || present == Section::Output);
-    // Of a section with parts the first header may be the wrong one, and those of further parts right.
+    // Of a section with parts the first header may be the wrong one, and the headers of further parts right.
     const bool isFirstPart = *meant == Next(present) && (*meant == Section::Input || *meant == Section::Output);
     if (!isFurtherPart && !isFirstPart && (HasBelow(*meant, 0) || IsStray(*meant, present, line.number)))
         return present;

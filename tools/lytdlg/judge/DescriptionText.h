@@ -10,7 +10,7 @@
 namespace lytdlg
 {
 
-// What the library takes for the end of a file, whatever follows.
+// What the library takes for the end of a file, with anything after it.
 inline constexpr char endOfText = 0x1A;
 
 inline constexpr Section allSections[] = {Section::Head,       Section::Layout, Section::Values, Section::Dependencies,
@@ -21,7 +21,7 @@ const char* WordOf(Section section);
 // The characters that end a word in the statements of a section.
 const DelimiterSet& DelimitersOf(Section section);
 
-// A line that was meant as a header and is none, since its word is misspelt or goes on after a blank.
+// A line that was meant as a header but is not one: its word is misspelt or continues after a blank.
 struct FalseHeader
 {
     Section section = Section::Head; // that it was meant to open
@@ -58,16 +58,16 @@ public:
     bool IsDefined(const std::string& name) const;
     // The line that opens a section first; null when none does.
     const SourceLine* HeaderOf(Section section) const;
-    // Lines of the section stand above its first header.
+    // Lines of the section are above its first header.
     bool BeginsWithoutHeader(Section section) const;
-    // The lines of a section that are read, its header and those of its parts among them.
+    // The lines of a section that are read, its header and the headers of its parts among them.
     std::vector<const SourceLine*> LinesOf(Section section) const;
     // The same lines, and among them the marks with what they switch off.
     std::vector<const SourceLine*> LinesWithMarksOf(Section section) const;
     bool EndsWithLineEnd() const { return m_endsWithLineEnd; }
-    // What stands after a Ctrl-Z, which ends the text, is not read.
+    // What comes after a Ctrl-Z, which ends the text, is not read.
     bool HasEndMark() const { return m_hasEndMark; }
-    // Whether more than blanks stand after it.
+    // Whether more than blanks come after it.
     bool HasTextAfterEndMark() const { return m_hasTextAfterEndMark; }
     // The mark that some editors put before a text in UTF-8. The library takes it for letters; it is not in the lines.
     bool HasByteOrderMark() const { return m_hasByteOrderMark; }

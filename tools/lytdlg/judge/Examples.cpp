@@ -119,7 +119,7 @@ std::string SectionOf(const std::string& line)
     return MeantWord(word, known);
 }
 
-// What stands before the delimiter, for a statement that has a name.
+// What comes before the delimiter, for a statement that has a name.
 std::string NameOf(const std::string& line)
 {
     return line.substr(0, line.find(':') + 1);

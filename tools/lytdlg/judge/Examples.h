@@ -9,8 +9,8 @@
 //     -Mark = HIDDEN      takes that line away
 //     Begin ...           takes the place of the line that begins so; a statement of $INPUT that of the same name
 //
-// New controls stand above OKButton (the part of the dialog from 500 to the right is free), new output rules above those
-// that are there, other lines below. Lines above the first header begin the file. {NUL} and {1A} stand for those bytes,
+// New controls come above OKButton (the part of the dialog from 500 to the right is free), new output rules above the ones
+// that are there, other lines below. Lines above the first header begin the file. {NUL} and {1A} are these bytes,
 // {LONG} for 400 blanks, {ABOVE} joins the line with the next one, and {CUT} is where the file ends.
 #pragma once
 
@@ -28,7 +28,7 @@ struct ExampleFile
     const char* content;
 };
 
-// What stands beside the description: texts for it, and a dialog that a button may open.
+// What is beside the description: texts for it, and a dialog that a button may open.
 const std::vector<ExampleFile>& ExampleFiles();
 
 } // namespace lytdlg

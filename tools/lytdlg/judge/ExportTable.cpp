@@ -140,7 +140,7 @@ private:
         return m_bytes.Size() < SectionHeader(CountOfSections());
     }
 
-    // Where an address of the loaded library stands in the file.
+    // Where an address of the loaded library is in the file.
     std::optional<size_t> PlaceOf(uint32_t address) const
     {
         for (uint32_t index = 0; address != 0 && index < CountOfSections(); ++index)

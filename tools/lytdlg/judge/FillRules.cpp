@@ -103,7 +103,7 @@ void JudgeFill(const Case& judged, const InputPart& part, const ClytControlFill&
 {
     const std::string name = fill.controlName.GetString();
     const ClytControlStatement* control = judged.description.FindControl(name);
-    // What a comment in the first line made of a name is told there.
+    // What a comment in the first line made of a name is reported there.
     if (control == nullptr && name.find_first_of("\t;") == std::string::npos)
         judged.findings.Add("scan-fill", fill.span,
                             "there is no control " + InQuotes(name) + ", and so the piece is lost",

@@ -16,7 +16,7 @@ bool TakesItem(FormatPieceKind kind)
            kind == FormatPieceKind::LimitAndText;
 }
 
-// What stands between a `%` and the `s`: nothing, or a limit.
+// What comes between a `%` and the `s`: nothing, or a limit.
 FormatPieceKind KindOfConversion(const std::string& conversion)
 {
     if (conversion.empty())

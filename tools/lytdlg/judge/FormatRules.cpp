@@ -18,7 +18,7 @@ namespace
 
 constexpr size_t mostItems = 25;
 
-// Where a format stands in the line of its rule.
+// Where a format is in the line of its rule.
 ClytSpan PlaceOf(const Description& description, const ClytDialogOutput& rule)
 {
     const std::string quoted = InQuotes(rule.format.GetString());

@@ -193,7 +193,7 @@ void JudgeOutside(const Case& judged, const std::vector<Screen>& screens)
     {
         for (const PlacedControl& control : screen.controls)
         {
-            // Numbers that no dialog has are told where they stand.
+            // Numbers that no dialog has are reported where they are.
             constexpr int least = std::numeric_limits<int>::min();
             const bool isFair = control.control->x > least && control.control->y > least;
             const bool isWithin = control.place.left >= 0 && control.place.top >= 0 &&

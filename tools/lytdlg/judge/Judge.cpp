@@ -11,7 +11,7 @@ namespace lytdlg
 namespace
 {
 
-// In the order of the sections. The library comes last: it looks whether a finding stands for its failure.
+// In the order of the sections. The library comes last: it looks whether a finding explains its failure.
 constexpr void (*families[])(const Case& judged) = {
     ApplySectionRules,     ApplyLineRules,       ApplyMarkRules,    ApplyStatementRules,    ApplyWordRules,
     ApplyLayoutRules,      ApplyValueRules,      ApplyContentRules, ApplyActionRules,       ApplyDependencyRules,

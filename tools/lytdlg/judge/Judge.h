@@ -13,7 +13,7 @@
 namespace lytdlg
 {
 
-// What stands round a description. Read once for all descriptions of a folder.
+// What is around a description. Read once for all descriptions of a folder.
 struct Surroundings
 {
     std::string folder; // of the description, without a `\` or `/` at its end; empty for a text alone

@@ -43,7 +43,7 @@ std::string FileNameOf(const Description& description)
     return PathOf(description.path).filename().string();
 }
 
-// What concerns the whole folder is told for its first dialog.
+// What concerns the whole folder is reported for its first dialog.
 bool IsFirstOfFolder(const Case& judged)
 {
     const std::vector<DescriptionTexts>& all = judged.surroundings.descriptions.All();

@@ -162,7 +162,7 @@ void JudgeStatements(const Case& judged)
         const LayoutLine statement = {judged, control,
                                       TokensOf(judged.description.text.Line(control.span.line).text, Section::Layout),
                                       KindOf(control)};
-        // What goes over the limit of a line stands there as a control of its own.
+        // What is over the limit of a line is a separate control there.
         if (statement.words.empty() || statement.words[0].text != control.type.GetString())
             continue;
         JudgeType(statement);

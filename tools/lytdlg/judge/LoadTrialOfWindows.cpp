@@ -56,7 +56,7 @@ std::optional<DWORD> ExitCodeOf(const fs::path& program, std::wstring commandLin
     return code;
 }
 
-// The folders that are named take the place of those that the platform would search; older ones cannot be told of any.
+// The folders that are named take the place of those that the platform would search; older ones know no such call.
 void SearchIn(const fs::path& folder)
 {
     using AddFolder = void* WINAPI(PCWSTR);

@@ -64,7 +64,7 @@ private:
 
     const Case& m_judged;
     const SwitchMark* m_open = nullptr;
-    std::set<std::string> m_switchedOff; // told once each
+    std::set<std::string> m_switchedOff; // reported once each
 };
 
 void JudgeIndented(const Case& judged, const SourceLine& line)

@@ -94,7 +94,7 @@ bool LeadsSomewhere(const Description& description, const LetteredCaption& capti
     const Kind kind = KindOf(*control);
     if (kind != Kind::Text)
         return caption.use->role == TextRole::Caption && kind != Kind::Frame;
-    const ClytControlStatement* next = control + 1; // the statements stand in one vector
+    const ClytControlStatement* next = control + 1; // the statements are in one vector
     if (control == &description.controls.back())
         return false;
     const bool isReached = lytTypeOf(KindOf(*next)).isFilled;

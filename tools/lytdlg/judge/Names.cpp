@@ -12,7 +12,7 @@ namespace lytdlg
 namespace
 {
 
-// Words that other descriptions of dialogs have for those of this one.
+// Words of other kinds of descriptions, and the words here that mean the same.
 struct Synonym
 {
     const char* word;

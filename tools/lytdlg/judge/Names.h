@@ -17,7 +17,7 @@ const std::vector<std::string>& PartNames(const Description& description);
 
 bool HasGroup(const Description& description, const std::string& name);
 bool HasPart(const Description& description, const std::string& name);
-// Of the last control of that name; Unknown when there is none.
+// Of the last control of that name; Unknown without one.
 Kind KindOfControl(const Description& description, const std::string& name);
 
 const std::vector<std::string>& TypeWords();
@@ -43,7 +43,7 @@ std::string MeantOr(const std::string& word, const std::vector<std::string>& kno
 std::string InQuotes(const std::string& text);
 
 Kind KindOf(const ClytControlStatement& control);
-// The group that an option stands in; null without one.
+// The group that an option belongs to; null without one.
 const ClytControlStatement* GroupOf(const Description& description, const ClytControlStatement& option);
 // The option buttons of a group, in their order.
 const std::vector<const ClytControlStatement*>& OptionButtonsOf(const Description& description,

@@ -33,7 +33,7 @@ std::set<std::string> UsedGroups(const Description& description)
 void JudgeFirst(const Case& judged)
 {
     const SourceLine* header = judged.description.text.HeaderOf(Section::Output);
-    // The header of a further group is no first one: that the first is missing is told by itself.
+    // The header of a further group is not the first: a missing first header is reported by itself.
     if (header == nullptr || judged.description.text.BeginsWithoutHeader(Section::Output))
         return;
     const std::vector<LineToken> words = TokensOf(header->text, Section::Input);

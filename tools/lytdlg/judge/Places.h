@@ -1,4 +1,4 @@
-// Where the controls of a description stand on a screen, as the library places them: scaled from layout units, and some as
+// Where the controls of a description are on a screen, as the library places them: scaled from layout units, and some as
 // large as their text.
 #pragma once
 

@@ -34,7 +34,7 @@ std::vector<Step> Found(const ClytInputPart& part, std::initializer_list<CString
     return found;
 }
 
-// Only jumps cut nothing whatever the text is, and nothing changes a control between them.
+// Only jumps cut nothing in any text, and nothing changes a control between them.
 std::vector<Step> Jump(const ClytInputPart& part, const ClytDialogInput& statement)
 {
     if (IsScan(statement))

@@ -184,7 +184,7 @@ const SourceLine* LineAfter(const DescriptionText& text, int number)
     return nullptr;
 }
 
-// Where a tab or a `;` stands after a word and outside quotes; npos when none does.
+// Where a tab or a `;` comes after a word and outside quotes; npos without one.
 size_t FindNoDelimiter(const std::string& line)
 {
     bool isQuoted = false;

@@ -22,7 +22,7 @@ void JudgeFalseHeaders(const Case& judged)
 {
     for (const FalseHeader& header : judged.description.text.FalseHeaders())
     {
-        // Free text may stand above the version.
+        // Free text may be above the version.
         if (header.section == Section::Head && judged.description.text.HeaderOf(Section::Head) != nullptr)
             continue;
         const std::string word = WordOf(header.section);

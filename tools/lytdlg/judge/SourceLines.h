@@ -53,7 +53,7 @@ private:
 
     std::vector<const SourceLine*> m_lines;
     std::vector<std::string> m_end;
-    size_t m_line = 0;   // the next to take, the last ones being those of the end
+    size_t m_line = 0;   // the next to take, the last ones being the lines of the end
     size_t m_column = 0; // how much of it was taken
     int m_number = 0;    // of the line taken last
     int m_pieceColumn = 0;

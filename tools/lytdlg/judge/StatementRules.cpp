@@ -60,7 +60,7 @@ void AddMistake(const Case& judged, const Mistake& mistake)
 
 void ApplyStatementRules(const Case& judged)
 {
-    // The part of a line that goes over its limit is read as a line of its own.
+    // The part of a line over its limit is read as a separate line.
     std::set<int> told;
     for (const Mistake& mistake : judged.description.mistakes)
     {

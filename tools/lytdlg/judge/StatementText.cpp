@@ -70,7 +70,7 @@ std::string MissingAfter(const std::string& what, const std::string& word)
     return what + " is missing" + (word.empty() ? "" : " after " + InQuotes(word));
 }
 
-// Where a blank stands in place of a delimiter, the word before it.
+// Where a blank is in place of a delimiter, the word before it.
 std::string BeforeBlank(const std::string& word)
 {
     return word.substr(0, word.find(' '));

@@ -12,7 +12,7 @@ using commandline::Shown;
 namespace
 {
 
-// The blanks up to a column, tabs kept, so that the caret stands under the place however wide a tab is.
+// The blanks up to a column, tabs kept, so that the caret is under the place however wide a tab is.
 std::string BlanksTo(const std::string& line, size_t column)
 {
     std::string blanks = line.substr(0, std::min(column, line.size()));

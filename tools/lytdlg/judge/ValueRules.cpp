@@ -89,7 +89,7 @@ void JudgeValuesTwice(const Case& judged)
     for (const ValueStatement& value : judged.description.values)
     {
         const PlacedValue statement(judged, value);
-        // What was meant otherwise is told by itself.
+        // What was meant otherwise is reported by itself.
         const bool isMeantOtherwise =
             IsMeantAsOption(value) || (statement.role == Role::Default && !value.keyword.empty());
         if (!IsSingle(statement.role) || isMeantOtherwise)

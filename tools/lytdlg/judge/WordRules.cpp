@@ -12,7 +12,7 @@ namespace
 
 constexpr const char* wayOut = "write a comma before it, or delete it";
 
-// Where a word ends, its closing quote included. Without quotes it ends where it begins, and the end of the line stands
+// Where a word ends, its closing quote included. Without quotes it ends where it begins, and the end of the line is
 // for a quote that is not closed.
 size_t EndOfQuotes(const std::string& text, size_t begin)
 {

@@ -216,7 +216,7 @@ std::vector<std::string> DefinesOf(const std::vector<DescriptionLine>& lines)
     std::vector<std::string> names;
     for (const DescriptionLine& line : lines)
     {
-        // Each piece of a long line is one of its own.
+        // Each piece of a long line is a separate line.
         for (size_t start = 0; start < line.text.size(); start += pieceSize)
         {
             if (line.text[start] != '<')

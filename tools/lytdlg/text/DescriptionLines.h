@@ -41,7 +41,7 @@ struct DescriptionLine
 struct DescriptionLines
 {
     std::vector<DescriptionLine> lines;
-    std::string unread; // what follows an end of text (Ctrl-Z) and the line that it stands in
+    std::string unread; // what follows an end of text (Ctrl-Z) and the line that it is in
 };
 
 // A description that names more defines than can be tried in every choice.

@@ -13,7 +13,7 @@ namespace lytdlg
 // Stands for a description on the standard input.
 inline constexpr const char* standardInput = "-";
 
-// The descriptions that an operand stands for: those of a folder in the order of their names, a file, or the standard
+// The descriptions that an operand means: all of a folder in the order of their names, a file, or the standard
 // input. A UsageError when there are none.
 std::vector<std::string> DescriptionsAt(const std::string& operand);
 
@@ -21,7 +21,7 @@ std::vector<std::string> DescriptionsAt(const std::string& operand);
 std::string ReadDescription(const std::string& name);
 
 // Does the same with every description that the operands name, and gives the worst exit code. What is raised for one
-// of them is told, and the others still have their turn.
+// of them is reported, and the others still have their turn.
 ExitCode ForEachDescription(const std::vector<std::string>& operands,
                             const std::function<ExitCode(const std::string& name)>& act);
 

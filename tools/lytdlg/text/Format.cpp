@@ -12,8 +12,8 @@ namespace
 {
 
 constexpr size_t indentationWidth = 4;
-// Where comments after statements stand. Those of lines one below the other share a column further right when a statement
-// needs it, except that of a very long one, which stands just after its statement.
+// Where comments after statements are. Lines one below the other have theirs in one column, further right when a statement
+// needs it, except that of a very long one, which is just after its statement.
 constexpr size_t leastCommentColumn = 48;
 constexpr size_t widestAligned = 76;
 constexpr size_t commentGap = 2;

@@ -82,9 +82,9 @@ public:
 
     // True when the library finds a text, which may be empty.
     bool Has(const std::string& language, const std::string& section, const std::string& key) const;
-    // The whole text; what the library shows in its place where there is none.
+    // The whole text; without one what the library shows in its place.
     std::string Text(const std::string& language, const std::string& section, const std::string& key) const;
-    // Where the key stands in its file; line 0 when it is missing.
+    // Where the key is in its file; line 0 when it is missing.
     ClytSpan Place(const std::string& language, const std::string& section, const std::string& key) const;
     // The keys of a section that the library reaches, in the order of the file.
     std::vector<LanguageKey> Keys(const std::string& language, const std::string& section) const;

@@ -22,7 +22,7 @@ namespace
 
 constexpr size_t longestNewName = 40;
 
-// Names of files that Windows has for its devices, whatever comes after a point.
+// Names of files that Windows has for its devices, with any extension.
 constexpr std::array devices = {"CON",  "PRN",  "AUX",  "NUL",  "COM1", "COM2", "COM3", "COM4", "COM5", "COM6", "COM7",
                                 "COM8", "COM9", "LPT1", "LPT2", "LPT3", "LPT4", "LPT5", "LPT6", "LPT7", "LPT8", "LPT9"};
 // Sections that the library has for itself.

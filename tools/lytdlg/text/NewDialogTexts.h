@@ -7,7 +7,7 @@
 namespace lytdlg
 {
 
-// Each `@` stands for the name of the dialog.
+// Each `@` is the name of the dialog.
 std::string NewDescription();
 // `prefix` leads from the case to the dialog.
 std::string NewCase(const std::string& prefix, const std::string& language);
@@ -18,7 +18,7 @@ const std::vector<std::string>& KnownLanguages();
 std::string LibraryTextsOf(const std::string& language);
 // One of them, without its key; empty when it has none such.
 std::string LibraryTextIn(const std::string& language, const std::string& section, const std::string& key);
-// The lines for the section MsgBox, and those of the dialog's own section. A language that is not known speaks English.
+// The lines for the section MsgBox, and for the dialog's own section. A language that is not known speaks English.
 std::string NewMessages(const std::string& language);
 std::string NewTexts(const std::string& language);
 

@@ -21,13 +21,13 @@ const char* SkipBlanks(const char* text)
     return text;
 }
 
-// Walks over the words of a line that the library has cut, to find what stands round them.
+// Walks over the words of a line that the library has cut, to find what is around them.
 class Cutter
 {
 public:
     Cutter(const char* line, const DelimiterSet& delimiters) : m_line(line), m_delimiters(delimiters), m_place(line) {}
 
-    // False where something stands between a closing quote and the delimiter.
+    // False where something is between a closing quote and the delimiter.
     bool Take(const ClytToken& token)
     {
         const char* start = SkipBlanks(m_place);

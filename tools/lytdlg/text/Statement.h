@@ -31,7 +31,7 @@ struct Statement
 
 const DelimiterSet& DelimitersOf(LineSection section);
 
-// Cuts a line into its words. Nothing where a quote stays open, and where something stands that no reader sees.
+// Cuts a line into its words. Nothing where a quote stays open, and where there is something that no reader sees.
 std::optional<Statement> CutStatement(const std::string& line, LineSection section);
 
 // The statement without its comment, indented. Nothing where the section has no form for it.
@@ -40,7 +40,7 @@ std::optional<std::string> LaidOut(const Statement& statement, LineSection secti
 // True when the readers of the section find the same in both lines.
 bool ReadsAlike(const std::string& left, const std::string& right, LineSection section);
 
-// True for the line of a section, or of the dialog itself and its end: it stands at the margin.
+// True for the line of a section, or of the dialog itself and its end: it begins at the margin.
 bool IsHeading(const Statement& statement, LineSection section);
 
 } // namespace lytdlg

@@ -75,7 +75,7 @@ std::string WithNumbers(const std::vector<Word>& words)
     return code;
 }
 
-// What a reader passes over, and what stands in another word's place, has no form.
+// What a reader passes over, and what is in another word's place, has no form.
 std::optional<std::string> ControlForm(const std::vector<Word>& words)
 {
     if (words.size() == 2 && IsName(words[1]))
@@ -127,7 +127,7 @@ std::optional<std::string> LayoutForm(const Statement& statement, LineSection se
     return words[0].text + (isEnd ? " " + Unquoted(words[1]) : "");
 }
 
-// The separators of a scan, which stand in pairs with the statements that go on.
+// The separators of a scan, in pairs with the statements that continue.
 std::vector<size_t> ScanSeparators(const std::vector<Word>& words)
 {
     std::vector<size_t> separators;
@@ -144,7 +144,7 @@ std::vector<size_t> ScanSeparators(const std::vector<Word>& words)
     return separators;
 }
 
-// The format of an output rule, and what stands between the values of a list.
+// The format of an output rule, and what is between the values of a list.
 std::vector<size_t> OutputTexts(const std::vector<Word>& words)
 {
     std::vector<size_t> texts;

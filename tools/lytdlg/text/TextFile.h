@@ -57,7 +57,7 @@ private:
 std::string ExtensionOf(const std::string& file);
 // Writes to standard output for an empty name. Throws std::runtime_error when the file cannot be written.
 void WriteOut(const std::string& file, const std::string& bytes);
-// Has another program make the file of a source: it is told -o, the file to write and the file to read. Throws
+// Has another program make the file of a source: its words are -o, the file to write and the file to read. Throws
 // std::runtime_error with the way out when there is no such program.
 void WriteByProgram(const std::string& file, std::vector<std::string> words, const std::string& source,
                     const char* wayOut);

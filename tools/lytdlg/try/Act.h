@@ -13,10 +13,10 @@ namespace lytdlg
 
 // The options that are acts, and what a command lists of them in its form.
 const std::vector<commandline::OptionForm>& ActOptions();
-// Every act of the command line, in its order; those of a script stand where the script is named.
+// Every act of the command line, in its order; the acts of a script come where the script is named.
 std::vector<script::Step> ActsOf(const commandline::Request& request);
 
-// The dialog is null when the window on top is none that a description makes. Raises UsageError for a name or a value that
+// The dialog is null when no description made the window on top. Raises UsageError for a name or a value that
 // the dialog does not have, and ActError for what a user could not do.
 void TakeAct(TrialDialog* dialog, const script::Step& act);
 

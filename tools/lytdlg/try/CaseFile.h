@@ -11,7 +11,7 @@
 //     expect message "Please enter the decimal places, 0 to 9."
 //     expect refused
 //
-// What stands before the first `case:` goes for all cases of the file; a file without one is a single case.
+// What comes before the first `case:` is for all cases of the file; a file without one is a single case.
 #pragma once
 
 #include "lytdlg/try/TrialEnvironment.h"

@@ -43,7 +43,7 @@ DialogState LookAt(const TrialDialog& dialog);
 // The same of one control.
 ControlState LookAt(const TrialDialog& dialog, ClytControl& control);
 
-// The value of a control, without the side effects that asking a list without a choice has; none where there is none.
+// The value of a control, without the side effects that asking a list without a choice has; nothing without a value.
 std::optional<std::string> ValueOf(ClytControl& control);
 
 // A line for each control, in UTF-8: name, type, states, value or text, items.

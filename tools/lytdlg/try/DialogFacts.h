@@ -26,7 +26,7 @@ struct ValueFact
     int line = 0;
 };
 
-// Texts are in the code page of the dialogs, lines those of the file.
+// Texts are in the code page of the dialogs, lines are of the file.
 struct DialogFacts
 {
     std::vector<ControlFact> controls;

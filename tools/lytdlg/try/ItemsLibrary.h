@@ -22,7 +22,7 @@ struct LibraryItem
 };
 
 // The items of a file: a line each, `text=value` or one text that is both. After a line `parameter ->` they are those for
-// that parameter; what stands before the first such line goes for every other.
+// that parameter; what comes before the first such line is for every other.
 class ItemsFile
 {
 public:

@@ -220,7 +220,7 @@ void Recorder::RunBegan(int depth)
     Trace(depth == 1 ? "rules" : "rules once more, inside this");
 }
 
-// A run that comes to the same as the one just before, as one does when the focus moves, is not told again.
+// A run that comes to the same as the one just before, as one does when the focus moves, is not reported again.
 void Recorder::RunEnded(int depth)
 {
     m_depth = std::max(depth - 2, 0);

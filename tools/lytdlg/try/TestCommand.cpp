@@ -18,7 +18,7 @@ using commandline::PrintLine;
 namespace
 {
 
-// The case files that an operand stands for, in the order of their names.
+// The case files that an operand means, in the order of their names.
 std::vector<std::string> FilesOf(const std::string& operand)
 {
     if (!fs::exists(PathOf(operand)))

@@ -59,7 +59,7 @@ public:
     void Do(const script::Step& act);
     EventLog& Events() { return m_events; }
     const Outcome& Result() const { return m_outcome; }
-    // How the outermost dialog stands or has ended.
+    // How the outermost dialog is or has ended.
     Ending PresentEnding() const;
     // Of the dialog on top; the state that it was seen in last, once all are closed.
     const DialogState& State();

@@ -17,7 +17,7 @@ public:
     // A dialog is about to be opened, and is gone; one inside the other.
     virtual void Opening(TrialDialog& dialog) = 0;
     virtual void Closed(TrialDialog& dialog, INT_PTR result) = 0;
-    // The construction failed; the user is told next.
+    // The construction failed; the user sees the message next.
     virtual void Failed(const TrialDialog& dialog, const CException& failure) = 0;
 
 protected:
@@ -30,7 +30,7 @@ public:
     // The watcher outlives the dialog.
     TrialDialog(const CString& descriptionFile, const CString& defines, TrialWatcher& dialogWatcher);
 
-    // The watcher is told before and after.
+    // The watcher is called before and after.
     INT_PTR DoModal() override;
     std::optional<CString> ShowNested(const CString& description, const CString& input) override;
 

@@ -25,7 +25,7 @@ namespace
 
 constexpr const char* iniFile = "lyt.ini";
 
-// Where lyt.ini stands near a folder of dialogs; empty when it stands nowhere.
+// Where lyt.ini is near a folder of dialogs; empty without one.
 std::string InitFolderNear(const fs::path& dialogs)
 {
     for (const fs::path& folder : {dialogs, dialogs.parent_path() / "init", dialogs.parent_path()})

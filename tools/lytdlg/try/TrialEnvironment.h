@@ -1,4 +1,4 @@
-// What a dialog is tried with: its folders, its language, the defines and what stands for its data libraries.
+// What a dialog is tried with: its folders, its language, the defines and the substitutes for its data libraries.
 #pragma once
 
 #include "commandline/CommandLine.h"
@@ -54,7 +54,7 @@ private:
     void MakeIniFile(const std::string& source, const std::string& language);
 
     std::string m_descriptionFile;
-    std::string m_ownFolder; // holds a lyt.ini of its own
+    std::string m_ownFolder; // holds another lyt.ini
 };
 
 } // namespace lytdlg

@@ -32,7 +32,7 @@ struct TrialRun
     bool traced;
 };
 
-// What the description of an open dialog says; raises UsageError when a name is none of those known.
+// What the description of an open dialog says; raises UsageError when a name is not known.
 DialogFacts FactsOf(const TrialDialog& dialog);
 void CheckKnown(const std::string& what, const std::string& name, const std::vector<std::string>& known);
 
