@@ -95,9 +95,7 @@ const ClytDialogOutput* ClytDialog::SelectRule(const ClytOutput& group)
 bool ClytDialog::HoldsForOutput(const ClytDialogOutput& rule)
 {
     const Counted read(readDepth);
-    return lytConditionsHold(rule.conditions, ClytRuleKind::Output,
-                             [&](const ClytCtrlValList& condition, ClytTested tested)
-                             { lytTell(&ClytObserver::OutputConditionTested, rule, condition, tested); });
+    return lytConditionsHold(rule.conditions, ClytRuleKind::Output, rule.span);
 }
 
 int ClytDialog::ComposeOutput(const ClytOutput& group, CString& target, int check)

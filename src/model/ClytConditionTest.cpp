@@ -1,21 +1,26 @@
 #include "model/ClytConditionTest.h"
 
+#include "environment/ClytException.h"
 #include "model/ClytControl.h"
 
 namespace
 {
 
-struct Verdicts
+// What the result of a test means for the rule.
+enum Verdict
 {
-    ClytVerdict ofResult[8]; // in the order of ClytTested
-    bool atEnd;
+    next, // the next condition decides
+    holds,
+    fails,
+    raises,
+    never = fails // this kind of rule has no such result
 };
 
-constexpr auto next = ClytVerdict::Next;
-constexpr auto holds = ClytVerdict::Holds;
-constexpr auto fails = ClytVerdict::Fails;
-constexpr auto raises = ClytVerdict::Raises;
-constexpr auto never = ClytVerdict::Fails; // this kind of rule has no such result
+struct Verdicts
+{
+    Verdict ofResult[8]; // in the order of ClytTested
+    bool atEnd;          // when no condition has decided
+};
 
 constexpr Verdicts verdicts[] = {
     // Holds, UnknownControl, Inactive, NotListed, HasContent, IsEmpty, Changed, Unchanged
@@ -55,12 +60,20 @@ ClytTested lytTest(const ClytCtrlValList& condition, ClytRuleKind kind)
     return TestValue(condition, *control, kind == ClytRuleKind::State);
 }
 
-ClytVerdict lytVerdictOf(ClytRuleKind kind, ClytTested result)
+bool lytConditionsHold(const ClytConditions& conditions, ClytRuleKind kind, const ClytSpan& rule)
 {
-    return verdicts[static_cast<size_t>(kind)].ofResult[static_cast<size_t>(result)];
-}
-
-bool lytHoldsAtEnd(ClytRuleKind kind)
-{
-    return verdicts[static_cast<size_t>(kind)].atEnd;
+    const Verdicts& ofKind = verdicts[static_cast<size_t>(kind)];
+    for (const ClytCtrlValList& condition : conditions)
+    {
+        const ClytTested result = lytTest(condition, kind);
+        // A statement of the input is reported with its jump.
+        if (kind != ClytRuleKind::Input)
+            lytTell(&ClytObserver::ConditionTested, kind, rule, condition, result);
+        const Verdict verdict = ofKind.ofResult[static_cast<size_t>(result)];
+        if (verdict == raises)
+            lytRaise(lytError("OutputControl"), CString(), condition.GetName());
+        if (verdict != next)
+            return verdict == holds;
+    }
+    return ofKind.atEnd;
 }

@@ -15,17 +15,10 @@ bool ClytControlDep::IsEventRule() const
 
 int ClytControlDep::AllHold() const
 {
-    return ConditionsHold(ClytRuleKind::State);
+    return lytConditionsHold(conditions, ClytRuleKind::State, span) ? 1 : 0;
 }
 
 int ClytControlDep::AnyChanged() const
 {
-    return ConditionsHold(ClytRuleKind::Event);
-}
-
-int ClytControlDep::ConditionsHold(ClytRuleKind kind) const
-{
-    const auto tell = [this](const ClytCtrlValList& condition, ClytTested result)
-    { lytTell(&ClytObserver::ConditionTested, *this, condition, result); };
-    return lytConditionsHold(conditions, kind, tell) ? 1 : 0;
+    return lytConditionsHold(conditions, ClytRuleKind::Event, span) ? 1 : 0;
 }

@@ -4,8 +4,6 @@
 #include "model/ClytCtrlValList.h"
 #include "model/ClytWords.h"
 
-enum class ClytRuleKind;
-
 class ClytControlDep : public CObject
 {
 public:
@@ -29,7 +27,5 @@ public:
     int failedIn = 0; // the number of the user's command in which the rule has failed; 0 for none
 
 private:
-    int ConditionsHold(ClytRuleKind kind) const;
-
     ClytControl* control = nullptr; // the form's, which outlives the rule's use
 };

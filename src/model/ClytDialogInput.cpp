@@ -10,6 +10,5 @@ void ClytDialogInput::Bind(const ClytControlMap& controls)
 
 int ClytDialogInput::ConditionsHold() const
 {
-    const auto tellNothing = [](const ClytCtrlValList& /*condition*/, ClytTested /*result*/) {};
-    return lytConditionsHold(conditions, ClytRuleKind::Input, tellNothing) ? 1 : 0;
+    return lytConditionsHold(conditions, ClytRuleKind::Input, span) ? 1 : 0;
 }

@@ -24,6 +24,15 @@ enum class ClytPassedOver
     Fill
 };
 
+// What has conditions.
+enum class ClytRuleKind
+{
+    State,
+    Event,
+    Output,
+    Input
+};
+
 // The result of a condition's test.
 enum class ClytTested
 {
@@ -90,18 +99,14 @@ public:
     virtual void RunEnded(int /*depth*/) {}
     // The tested conditions of a rule are reported in their order, and then what the rule does, before it does it: that
     // may begin a run inside this one.
-    virtual void ConditionTested(const ClytControlDep& /*rule*/, const ClytCtrlValList& /*condition*/,
+    virtual void ConditionTested(ClytRuleKind /*kind*/, const ClytSpan& /*rule*/, const ClytCtrlValList& /*condition*/,
                                  ClytTested /*result*/)
     {
     }
     virtual void StateSet(const ClytControlDep& /*rule*/, int /*on*/) {}
     virtual void EventDecided(const ClytControlDep& /*rule*/, ClytEvent /*event*/) {}
 
-    // The same for the rules of an output group; the chosen one is null when none holds.
-    virtual void OutputConditionTested(const ClytDialogOutput& /*rule*/, const ClytCtrlValList& /*condition*/,
-                                       ClytTested /*result*/)
-    {
-    }
+    // Null when no rule of the group holds.
     virtual void OutputChosen(const ClytDialogOutput* /*rule*/) {}
 
 protected:

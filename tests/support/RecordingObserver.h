@@ -52,20 +52,17 @@ public:
     }
     void RunBegan(int depth) override { Hear("run ", std::to_string(depth)); }
     void RunEnded(int depth) override { Hear("end ", std::to_string(depth)); }
-    void ConditionTested(const ClytControlDep& rule, const ClytCtrlValList& condition, ClytTested result) override
+    void ConditionTested(ClytRuleKind kind, const ClytSpan& rule, const ClytCtrlValList& condition,
+                         ClytTested result) override
     {
-        Hear(Shown(rule), " asks ", condition.GetName(), ": ", Shown(result));
+        Hear(kind == ClytRuleKind::Output ? "output" : "rule", " in line ", std::to_string(rule.line), " asks ",
+             condition.GetName(), ": ", Shown(result));
     }
     void StateSet(const ClytControlDep& rule, int on) override { Hear(Shown(rule), " set to ", std::to_string(on)); }
     void EventDecided(const ClytControlDep& rule, ClytEvent event) override
     {
         constexpr std::array names = {"acts", "finds nothing changed", "is in progress"};
         Hear(Shown(rule), " ", names.at(static_cast<size_t>(event)));
-    }
-    void OutputConditionTested(const ClytDialogOutput& rule, const ClytCtrlValList& condition,
-                               ClytTested result) override
-    {
-        Hear("output in line ", std::to_string(rule.span.line), " asks ", condition.GetName(), ": ", Shown(result));
     }
     void OutputChosen(const ClytDialogOutput* rule) override
     {

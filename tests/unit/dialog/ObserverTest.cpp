@@ -98,12 +98,12 @@ TEST_F(RuleObserver, HearsWhatEachConditionCameToAndWhatWasSet)
     Open();
     EXPECT_EQ(observer.TakeHeard(), "Start on to End\n"
                                     "run 1\n"
-                                    "A/ACTIVE asks Unknown: unknown control\n"
-                                    "A/ACTIVE asks B: holds\n"
+                                    "rule in line 12 asks Unknown: unknown control\n"
+                                    "rule in line 12 asks B: holds\n"
                                     "A/ACTIVE set to 1\n"
-                                    "A/VISIBLE asks B: not listed\n"
+                                    "rule in line 13 asks B: not listed\n"
                                     "A/VISIBLE set to 0\n"
-                                    "B/ACTIVE asks C: inactive\n"
+                                    "rule in line 14 asks C: inactive\n"
                                     "B/ACTIVE set to 0\n"
                                     "B/VISIBLE set to 1\n"
                                     "end 1\n");
@@ -113,8 +113,8 @@ TEST_F(RuleObserver, HearsThatNotNullDecides)
 {
     text.dependencies = "B/ACTIVE = A(NOTNULL), B(never)\n";
     Open();
-    EXPECT_EQ(Enter("A", "x"), "run 1\nB/ACTIVE asks A: has content\nB/ACTIVE set to 1\nend 1\n");
-    EXPECT_EQ(Enter("A", ""), "run 1\nB/ACTIVE asks A: is empty\nB/ACTIVE set to 0\nend 1\n");
+    EXPECT_EQ(Enter("A", "x"), "run 1\nrule in line 10 asks A: has content\nB/ACTIVE set to 1\nend 1\n");
+    EXPECT_EQ(Enter("A", ""), "run 1\nrule in line 10 asks A: is empty\nB/ACTIVE set to 0\nend 1\n");
 }
 
 TEST_F(RuleObserver, HearsWhichChangeSetsAnEventRuleOffAndTheRunInside)
@@ -125,15 +125,15 @@ TEST_F(RuleObserver, HearsWhichChangeSetsAnEventRuleOffAndTheRunInside)
     // A field tells each change of its text twice.
     const std::string inside = "run 2\n"
                                "C/CLEAR is in progress\n"
-                               "B/CLEAR asks Unknown: unknown control\n"
+                               "rule in line 12 asks Unknown: unknown control\n"
                                "B/CLEAR finds nothing changed\n"
                                "end 2\n";
     EXPECT_EQ(Enter("A", "x"), "run 1\n"
-                               "C/CLEAR asks B: unchanged\n"
-                               "C/CLEAR asks A: changed\n"
+                               "rule in line 11 asks B: unchanged\n"
+                               "rule in line 11 asks A: changed\n"
                                "C/CLEAR acts\n" +
                                    inside + inside +
-                                   "B/CLEAR asks Unknown: unknown control\n"
+                                   "rule in line 12 asks Unknown: unknown control\n"
                                    "B/CLEAR finds nothing changed\n"
                                    "end 1\n");
 }
@@ -145,7 +145,7 @@ TEST_F(RuleObserver, HearsTheEndOfARunThatFails)
     text.output = "$OUTPUT, Parameter\n(\"100%\")\n";
     Open();
     EXPECT_EQ(Enter("A", "x"), "run 1\n"
-                               "B/FILL asks A: changed\n"
+                               "rule in line 11 asks A: changed\n"
                                "B/FILL acts\n"
                                "output in line 17\n"
                                "end 1\n");

@@ -235,9 +235,19 @@ void Recorder::RunEnded(int depth)
     m_runEnd = m_log->size();
 }
 
-void Recorder::ConditionTested(const ClytControlDep& /*rule*/, const ClytCtrlValList& condition, ClytTested result)
+void Recorder::ConditionTested(ClytRuleKind kind, const ClytSpan& rule, const ClytCtrlValList& condition,
+                               ClytTested result)
 {
-    m_tested.push_back({ClauseOf(condition, result), result});
+    if (kind != ClytRuleKind::Output)
+    {
+        m_tested.push_back({ClauseOf(condition, result), result});
+        return;
+    }
+    if (result == ClytTested::Holds)
+        return;
+    m_nextOutput.refusals.push_back({ClauseOf(condition, result), result});
+    m_nextOutput.refusedLines.push_back(rule.line);
+    Trace("output " + LineText(rule) + ": no, " + m_nextOutput.refusals.back().text);
 }
 
 void Recorder::StateSet(const ClytControlDep& rule, int on)
@@ -260,15 +270,6 @@ void Recorder::EventDecided(const ClytControlDep& rule, ClytEvent event)
                                                                          : Name(rule.controlName) + " is filled";
     const std::string clauses = event == ClytEvent::InProgress ? "" : Joined(record.conditions) + "; ";
     Trace("  " + LineText(rule.span) + " " + Name(rule.controlName) + "/" + record.word + ": " + clauses + consequence);
-}
-
-void Recorder::OutputConditionTested(const ClytDialogOutput& rule, const ClytCtrlValList& condition, ClytTested result)
-{
-    if (result == ClytTested::Holds)
-        return;
-    m_nextOutput.refusals.push_back({ClauseOf(condition, result), result});
-    m_nextOutput.refusedLines.push_back(rule.span.line);
-    Trace("output " + LineText(rule.span) + ": no, " + m_nextOutput.refusals.back().text);
 }
 
 void Recorder::OutputChosen(const ClytDialogOutput* rule)

@@ -73,11 +73,10 @@ public:
     void Filled(const ClytControlFill& fill, const CString& piece) override;
     void RunBegan(int depth) override;
     void RunEnded(int depth) override;
-    void ConditionTested(const ClytControlDep& rule, const ClytCtrlValList& condition, ClytTested result) override;
+    void ConditionTested(ClytRuleKind kind, const ClytSpan& rule, const ClytCtrlValList& condition,
+                         ClytTested result) override;
     void StateSet(const ClytControlDep& rule, int on) override;
     void EventDecided(const ClytControlDep& rule, ClytEvent event) override;
-    void OutputConditionTested(const ClytDialogOutput& rule, const ClytCtrlValList& condition,
-                               ClytTested result) override;
     void OutputChosen(const ClytDialogOutput* rule) override;
 
     // What is heard from now on is not traced.
