@@ -39,26 +39,9 @@ protected:
 
 } // namespace
 
-TEST_F(Group, UnchangedTailOfAKeyWithTheMark)
-{
-    EXPECT_EQ(Edit(0, "xBNGy(a)", "(a)/1b"), 2);
-    EXPECT_EQ(scanned, "(a)");
-    EXPECT_EQ(first.Text(), "(a)") << "the head is put back on a change only";
-    EXPECT_EQ(second.Text(), "1b");
-}
-
-TEST_F(Group, ChangedTailGetsItsHeadBack)
-{
-    EXPECT_EQ(Edit(0, "xBNGy(a)", "(z)/1b"), 1);
-    EXPECT_EQ(first.Text(), "xBNGy(z)");
-    EXPECT_EQ(std::string(second.Data(), 8), std::string("1b\0"
-                                                         "2\0(a)",
-                                                         8))
-        << "bytes 5 to 7 of the key go to the same places, after the end of the text as well";
-}
-
 TEST_F(Group, SplitsTheKeyAndJoinsItAgain)
 {
+    constexpr char guard = GuardedBuffer::guard;
     static const struct
     {
         int kind;
@@ -68,62 +51,56 @@ TEST_F(Group, SplitsTheKeyAndJoinsItAgain)
         const char* first;
         const char* second;
         const char* scanned; // what the field was given
+        int firstSize = 40;
+        int secondSize = 40;
+        char beyondSecond = guard;
     } cases[] = {
-        // Three bytes of the key go over those of the second text.
+        // The head is put back on a change only.
+        {0, 2, "xBNGy(a)", "(a)/1b", "(a)", "1b", "(a)"},
+        {0, 1, "xBNGy(a)", "(z)/1b", "xBNGy(z)", "1b", "(a)"},
+        // Three bytes of the key go over those of the second text, unless either is short.
         {1, 1, "KEY01abc(x)", "(y)/123456789", "KEY01abc(y)", "12345abc9", "(x)"},
-        // An empty tail occurs in any input of kind 0.
+        {1, 1, "K(x)", "(y)/123456789", "K(y)", "123456789", "(x)"},
+        {1, 1, "KEY01abc(x)", "(y)/1", "KEY01abc(y)", "1", "(x)", 40, 7},
+        // Without the separator both texts are empty, and an empty tail occurs in any input of kind 0.
         {0, 2, "xBNGy(a)", "no separator", "", "", "(a)"},
+        {0, 1, "abc", "no separator", "", "", "abc"},
         {1, 1, "xBNGy(a)", "no separator", "xBNGy", "", "(a)"},
         // A tail inside the input is no change for kind 0 only.
         {0, 2, "BNG(a)(b)", "(b)/1", "(b)", "1", "(a)(b)"},
         {1, 1, "BNG(a)(b)", "(b)/1", "BNG(b)", "1", "(a)(b)"},
+        // A key without the mark is not split for kind 0, and any OK counts as a change.
+        {0, 1, "head(a)", "(a)/1", "(a)", "1", "head(a)"},
         // Kind 1 splits any key; one without a bracket has no head, and an empty one is not split.
         {1, 2, "head(a)", "(a)/1", "(a)", "1", "(a)"},
         {1, 1, "BNG", "(a)/1", "(a)", "1", "BNG"},
         {1, 1, "", "(a)/1", "(a)", "1", ""},
         {1, 1, nullptr, "(a)/1", "(a)", "1", ""},
+        // What does not fit leaves its buffer empty; a second text longer than its size also writes the byte beyond.
+        {1, 1, "head(a)", "(z)/1", "", "1", "(a)", 6, 40},
+        {0, 1, "a", "(a)/123", "(a)", "", "a", 40, 3},
+        {0, 1, "a", "(a)/1234", "(a)", "", "a", 40, 3, '\0'},
     };
     for (const auto& c : cases)
     {
-        SCOPED_TRACE(testing::Message() << c.kind << " " << (c.key != nullptr ? c.key : "null"));
+        SCOPED_TRACE(testing::Message() << c.kind << " " << (c.key != nullptr ? c.key : "null") << " " << c.value);
+        first = GuardedBuffer(c.firstSize, "o1");
+        second = GuardedBuffer(c.secondSize, "o2");
         EXPECT_EQ(Edit(c.kind, c.key, c.value), c.outcome);
         EXPECT_EQ(first.Text(), c.first);
         EXPECT_EQ(second.Text(), c.second);
+        EXPECT_EQ(second.ByteBeyond(), c.beyondSecond);
         EXPECT_EQ(scanned, c.scanned);
     }
 }
 
-TEST_F(Group, ShortKeyAndShortSecondBufferAreLeftAlone)
+TEST_F(Group, PutsThreeBytesOfTheKeyAlsoAfterTheEndOfTheSecondText)
 {
-    EXPECT_EQ(Edit(1, "K(x)", "(y)/123456789"), 1);
-    EXPECT_EQ(first.Text(), "K(y)");
-    EXPECT_EQ(second.Text(), "123456789");
-
-    GuardedBuffer seven(7, "old");
-    On(
-        [](HWND dialog)
-        {
-            robot::ReplaceText(robot::ChildAt(dialog, 0), "(y)/1");
-            robot::Press(GetDlgItem(dialog, IDOK));
-        });
-    EXPECT_EQ(group(1, "KEY01abc(x)", first.Data(), first.Size(), seven.Data(), 7), 1);
-    EXPECT_EQ(seven.Text(), "1");
-    EXPECT_EQ(seven.ByteBeyond(), GuardedBuffer::guard);
-}
-
-TEST_F(Group, KeyWithoutTheMarkIsNotSplitForKind0)
-{
-    EXPECT_EQ(Edit(0, "head(a)", "(a)/1"), 1) << "any OK counts as a change";
-    EXPECT_EQ(scanned, "head(a)");
-    EXPECT_EQ(first.Text(), "(a)");
-    EXPECT_EQ(second.Text(), "1");
-}
-
-TEST_F(Group, ResultWithoutTheSeparatorGivesTwoEmptyTexts)
-{
-    EXPECT_EQ(Edit(0, "abc", "no separator"), 1);
-    EXPECT_EQ(first.Text(), "");
-    EXPECT_EQ(second.Text(), "");
+    EXPECT_EQ(Edit(0, "xBNGy(a)", "(z)/1b"), 1);
+    EXPECT_EQ(std::string(second.Data(), 8), std::string("1b\0"
+                                                         "2\0(a)",
+                                                         8))
+        << "bytes 5 to 7 of the key go to the same places, after the end of the text as well";
 }
 
 TEST_F(Group, Kind2TakesTheOtherDescriptionAndSplitsOnlyAtTheMark)
@@ -197,25 +174,6 @@ TEST_F(Group, FirstPartThatIsTooLongIs254WithTheSize)
     EXPECT_EQ(second.Text(), "1x");
     EXPECT_TRUE(first.IsIntact());
     EXPECT_EQ(robot.Messages().size(), 1U);
-}
-
-TEST_F(Group, SecondPartThatIsTooLongLeavesItsBufferEmptyWithANulBeyond)
-{
-    second = GuardedBuffer(3, "ol");
-    EXPECT_EQ(Edit(0, "a", "(a)/123"), 1);
-    EXPECT_EQ(second.Text(), "");
-    EXPECT_EQ(second.ByteBeyond(), GuardedBuffer::guard) << "as long as the size is not longer";
-    EXPECT_EQ(Edit(0, "a", "(a)/1234"), 1);
-    EXPECT_EQ(second.Text(), "");
-    EXPECT_EQ(second.ByteBeyond(), '\0');
-    EXPECT_TRUE(second.IsIntact(1));
-}
-
-TEST_F(Group, RejoinedTextThatDoesNotFitLeavesTheFirstBufferEmpty)
-{
-    first = GuardedBuffer(6, "old");
-    EXPECT_EQ(Edit(1, "head(a)", "(z)/1"), 1);
-    EXPECT_EQ(first.Text(), "");
 }
 
 // The tail is looked for in what the second text has left there.

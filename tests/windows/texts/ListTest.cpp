@@ -1,6 +1,6 @@
 #include "TextsFixture.h"
 
-#include <vector>
+#include "support/Cases.h"
 
 namespace
 {
@@ -8,67 +8,43 @@ namespace
 class ListFromIni : public TextsFixture
 {
 protected:
-    // The items up to the end; both buffers get the same.
-    std::vector<std::string> Items() const
+    // The items up to the end, each in brackets; both buffers get the same.
+    std::string Items() const
     {
-        std::vector<std::string> items;
+        std::string items;
         GuardedBuffer value(100);
         GuardedBuffer display(100);
         while (listNext(value.Data(), value.Size(), display.Data(), display.Size()) == 1)
         {
             EXPECT_EQ(value.Text(), display.Text());
-            items.push_back(value.Text());
+            items += "[" + value.Text() + "]";
         }
         return items;
     }
-
-    std::vector<std::string> ItemsOf(const std::string& value) const
-    {
-        WriteIni("[lists]\r\nlist=" + value + "\r\n");
-        EXPECT_EQ(listStart("lists/list"), 1);
-        return Items();
-    }
 };
-
-using Texts = std::vector<std::string>;
 
 } // namespace
 
 TEST_F(ListFromIni, GivesTheItemsBetweenTheCommas)
 {
-    EXPECT_EQ(ItemsOf("one"), (Texts{"one"}));
-    EXPECT_EQ(ItemsOf("one,two,three"), (Texts{"one", "two", "three"}));
-}
-
-TEST_F(ListFromIni, TrimsNothing)
-{
-    EXPECT_EQ(ItemsOf("a, b ,c"), (Texts{"a", " b ", "c"}));
-}
-
-TEST_F(ListFromIni, GivesEmptyItemsBetweenTwoCommas)
-{
-    EXPECT_EQ(ItemsOf("x,,y"), (Texts{"x", "", "y"}));
-    EXPECT_EQ(ItemsOf(",x"), (Texts{"", "x"}));
-}
-
-TEST_F(ListFromIni, GivesNoEmptyItemAfterALastComma)
-{
-    EXPECT_EQ(ItemsOf("x,"), (Texts{"x"}));
-    EXPECT_EQ(ItemsOf(","), (Texts{""}));
-    EXPECT_EQ(ItemsOf("x,,"), (Texts{"x", ""}));
-}
-
-TEST_F(ListFromIni, OfAMissingKeyIsOneItem)
-{
+    const auto items = [this](const std::string& value)
+    {
+        WriteIni("[lists]\r\nlist=" + value + "\r\n");
+        const int answer = listStart("lists/list");
+        return std::to_string(answer) + " " + Items();
+    };
+    ExpectEach(items, {{"one", "1 [one]"},
+                       {"one,two,three", "1 [one][two][three]"},
+                       {"a, b ,c", "1 [a][ b ][c]"},
+                       {"x,,y", "1 [x][][y]"},
+                       {",x", "1 [][x]"},
+                       // There is no empty item after a last comma.
+                       {"x,", "1 [x]"},
+                       {",", "1 []"},
+                       {"x,,", "1 [x][]"},
+                       {"", "0 "}});
     EXPECT_EQ(listStart("lists/none"), 1);
-    EXPECT_EQ(Items(), (Texts{"Entry not found"}));
-}
-
-TEST_F(ListFromIni, OfAnEmptyValueIsNone)
-{
-    WriteIni("[lists]\r\nlist=\r\n");
-    EXPECT_EQ(listStart("lists/list"), 0);
-    EXPECT_EQ(Items(), Texts());
+    EXPECT_EQ(Items(), "[Entry not found]");
 }
 
 TEST_F(ListFromIni, OfAPathWithoutASlashIsNoneAndDropsTheListBefore)
@@ -78,7 +54,7 @@ TEST_F(ListFromIni, OfAPathWithoutASlashIsNoneAndDropsTheListBefore)
     {
         EXPECT_EQ(listStart("lists/list"), 1);
         EXPECT_EQ(listStart(path), 0);
-        EXPECT_EQ(Items(), Texts());
+        EXPECT_EQ(Items(), "");
     }
 }
 
@@ -89,7 +65,7 @@ TEST_F(ListFromIni, StartedAnewBeginsAnew)
     GuardedBuffer buffer(10);
     EXPECT_EQ(listNext(buffer.Data(), buffer.Size(), buffer.Data(), buffer.Size()), 1);
     listStart("lists/other");
-    EXPECT_EQ(Items(), (Texts{"c"}));
+    EXPECT_EQ(Items(), "[c]");
 }
 
 TEST_F(ListFromIni, StaysReadableAfterTheRelease)
@@ -97,7 +73,7 @@ TEST_F(ListFromIni, StaysReadableAfterTheRelease)
     WriteIni("[lists]\r\nlist=a,b\r\n");
     listStart("lists/list");
     release();
-    EXPECT_EQ(Items(), (Texts{"a", "b"}));
+    EXPECT_EQ(Items(), "[a][b]");
 }
 
 TEST_F(ListFromIni, WritesANulOneBeyondEitherSizeAndNothingElse)
@@ -126,14 +102,14 @@ TEST_F(ListFromIni, AnItemThatDoesNotFitLeavesThatBufferEmpty)
     EXPECT_EQ(value.ByteBeyond(), '\0');
     EXPECT_TRUE(value.IsIntact(1));
     EXPECT_EQ(display.Text(), "abc");
-    EXPECT_EQ(Items(), (Texts{"d"}));
+    EXPECT_EQ(Items(), "[d]");
 }
 
 TEST_F(ListFromIni, AtItsEndWritesNothing)
 {
     GuardedBuffer value(9, "old");
     GuardedBuffer display(9, "old");
-    EXPECT_EQ(Items(), Texts());
+    EXPECT_EQ(Items(), "");
     EXPECT_EQ(listNext(value.Data(), value.Size(), display.Data(), display.Size()), 0);
     EXPECT_EQ(value.Text(), "old");
     EXPECT_EQ(display.Text(), "old");
@@ -151,5 +127,5 @@ TEST_F(ListFromIni, TakesNoItemForABufferThatHoldsNothing)
     EXPECT_EQ(listNext(buffer.Data(), 0, buffer.Data(), 9), 0);
     EXPECT_EQ(listNext(buffer.Data(), 9, buffer.Data(), -1), 0);
     EXPECT_EQ(buffer.Text(), "old");
-    EXPECT_EQ(Items(), (Texts{"a", "b"}));
+    EXPECT_EQ(Items(), "[a][b]");
 }

@@ -1,99 +1,69 @@
+// Texts of the language file, and values of lyt.ini.
 #include "TextsFixture.h"
 
 #include "robot/WindowRobot.h"
+#include "support/Cases.h"
 
 namespace
 {
 
-class TextForKey : public TextsFixture
+// The answer of a call, and the text that its buffer holds.
+template <class Call>
+std::string Answer(int size, Call call)
 {
-};
+    GuardedBuffer buffer(size, "old");
+    const int answer = call(buffer.Data(), buffer.Size());
+    EXPECT_TRUE(buffer.IsIntact());
+    return std::to_string(answer) + " " + buffer.Text();
+}
 
-class TextFromIniFile : public TextsFixture
-{
-};
+using TextForKey = TextsFixture;
+using TextFromIniFile = TextsFixture;
 
 } // namespace
 
-TEST_F(TextForKey, CopiesTheTextOfTheCurrentLanguage)
+TEST_F(TextForKey, IsThatOfTheCurrentLanguageWithItsArgument)
 {
-    WriteTexts("[s]\r\nk=a text\r\n");
-    GuardedBuffer buffer(9);
-    EXPECT_EQ(textForKey("s", "k", "", buffer.Data(), buffer.Size()), 1);
-    EXPECT_EQ(buffer.Text(), "a text");
-    EXPECT_TRUE(buffer.IsIntact());
+    static const struct
+    {
+        const char* text;
+        const char* argument;
+        int size;
+        const char* answer;
+    } cases[] = {
+        {"[s]\r\nk=a text\r\n", "", 20, "1 a text"},
+        // The argument is put after the first apostrophe.
+        {"[s]\r\nk=a''b\r\n", "x", 20, "1 a'x'b"},
+        {"[s]\r\nk=a''b\r\n", nullptr, 20, "1 a''b"},
+        {"", "x", 20, "0 no value present"},
+        // A text that does not fit leaves the buffer empty and counts as found.
+        {"[s]\r\nk=12345\r\n", "", 6, "1 12345"},
+        {"[s]\r\nk=12345\r\n", "", 5, "1 "},
+    };
+    for (const auto& c : cases)
+    {
+        WriteTexts(c.text);
+        EXPECT_EQ(Answer(c.size, [&](char* text, int size) { return textForKey("s", "k", c.argument, text, size); }),
+                  c.answer);
+    }
 }
 
-TEST_F(TextForKey, PutsTheArgumentAfterTheFirstApostrophe)
+TEST_F(TextFromIniFile, IsTheValueOfTheNamedKey)
 {
-    WriteTexts("[s]\r\nk=a''b\r\n");
-    GuardedBuffer buffer(20);
-    EXPECT_EQ(textForKey("s", "k", "x", buffer.Data(), buffer.Size()), 1);
-    EXPECT_EQ(buffer.Text(), "a'x'b");
-    EXPECT_EQ(textForKey("s", "k", nullptr, buffer.Data(), buffer.Size()), 1);
-    EXPECT_EQ(buffer.Text(), "a''b");
-}
-
-TEST_F(TextForKey, AnUnknownKeyGivesTheSentinelAnd0)
-{
-    GuardedBuffer buffer(20);
-    EXPECT_EQ(textForKey("s", "k", "x", buffer.Data(), buffer.Size()), 0);
-    EXPECT_EQ(buffer.Text(), "no value present");
-}
-
-TEST_F(TextForKey, ATextThatDoesNotFitLeavesTheBufferEmptyAndCountsAsFound)
-{
-    WriteTexts("[s]\r\nk=12345\r\n");
-    GuardedBuffer fits(6);
-    EXPECT_EQ(textForKey("s", "k", "", fits.Data(), fits.Size()), 1);
-    EXPECT_EQ(fits.Text(), "12345");
-    GuardedBuffer tooShort(5, "old");
-    EXPECT_EQ(textForKey("s", "k", "", tooShort.Data(), tooShort.Size()), 1);
-    EXPECT_EQ(tooShort.Text(), "");
-    EXPECT_TRUE(tooShort.IsIntact());
-}
-
-TEST_F(TextForKey, RefusesABufferThatHoldsNothing)
-{
-    GuardedBuffer buffer(9, "old");
-    EXPECT_EQ(textForKey("s", "k", "", nullptr, 9), 0);
-    EXPECT_EQ(textForKey("s", "k", "", buffer.Data(), 0), 0);
-    EXPECT_EQ(textForKey("s", "k", "", buffer.Data(), -1), 0);
-    EXPECT_EQ(buffer.Text(), "old");
-}
-
-TEST_F(TextFromIniFile, CopiesTheValueOfTheNamedKey)
-{
-    WriteIni("[paths]\r\nhome=C:\\lyt\r\n");
-    GuardedBuffer buffer(20);
-    EXPECT_EQ(textFromIni("paths/home", buffer.Data(), buffer.Size()), 1);
-    EXPECT_EQ(buffer.Text(), "C:\\lyt");
-    EXPECT_TRUE(buffer.IsIntact());
-}
-
-TEST_F(TextFromIniFile, AMissingKeyGivesItsOwnTextAnd1)
-{
-    GuardedBuffer buffer(20);
-    EXPECT_EQ(textFromIni("a/b", buffer.Data(), buffer.Size()), 1);
-    EXPECT_EQ(buffer.Text(), "Entry not found");
-}
-
-TEST_F(TextFromIniFile, OnlyAValueThatIsTheSentinelGives0)
-{
-    WriteIni("[a]\r\nb=no value present\r\nempty=\r\n");
-    GuardedBuffer buffer(20);
-    EXPECT_EQ(textFromIni("a/b", buffer.Data(), buffer.Size()), 0);
-    EXPECT_EQ(buffer.Text(), "no value present");
-    EXPECT_EQ(textFromIni("a/empty", buffer.Data(), buffer.Size()), 1);
-    EXPECT_EQ(buffer.Text(), "");
-}
-
-TEST_F(TextFromIniFile, SplitsAtTheFirstSlash)
-{
-    WriteIni("[a]\r\nb/c=value\r\n");
-    GuardedBuffer buffer(20);
-    EXPECT_EQ(textFromIni("a/b/c", buffer.Data(), buffer.Size()), 1);
-    EXPECT_EQ(buffer.Text(), "value");
+    WriteIni("[paths]\r\nhome=C:\\lyt\r\n[a]\r\nb=no value present\r\nempty=\r\nb/c=value\r\nlong=12345\r\n");
+    const auto value = [this](const std::string& path)
+    {
+        const int room = path == "a/long" ? 5 : 20;
+        return Answer(room, [&](char* text, int size) { return textFromIni(path.c_str(), text, size); });
+    };
+    ExpectEach(value, {{"paths/home", "1 C:\\lyt"},
+                       {"none/b", "1 Entry not found"},
+                       // Only a value that is the sentinel gives 0.
+                       {"a/b", "0 no value present"},
+                       {"a/empty", "1 "},
+                       // The first slash splits.
+                       {"a/b/c", "1 value"},
+                       {"a/long", "1 "}});
 }
 
 TEST_F(TextFromIniFile, APathWithoutASlashShows250AndLeavesTheBufferAlone)
@@ -116,15 +86,5 @@ TEST_F(TextFromIniFile, RefusesABufferThatHoldsNothingWithoutAMessage)
     GuardedBuffer buffer(9, "old");
     EXPECT_EQ(textFromIni("ab", nullptr, 9), 0);
     EXPECT_EQ(textFromIni("ab", buffer.Data(), 0), 0);
-    EXPECT_EQ(textFromIni("a/b", buffer.Data(), -1), 0);
     EXPECT_EQ(buffer.Text(), "old");
-}
-
-TEST_F(TextFromIniFile, AValueThatDoesNotFitLeavesTheBufferEmpty)
-{
-    WriteIni("[a]\r\nb=12345\r\n");
-    GuardedBuffer tooShort(5, "old");
-    EXPECT_EQ(textFromIni("a/b", tooShort.Data(), tooShort.Size()), 1);
-    EXPECT_EQ(tooShort.Text(), "");
-    EXPECT_TRUE(tooShort.IsIntact());
 }
