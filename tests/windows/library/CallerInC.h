@@ -6,7 +6,6 @@ extern "C"
 {
 #endif
 
-    int CountFunctionsSeenFromC(void);
     int ReadDocNameFromC(const char* docName, char* buffer, int size);
 
 #ifdef __cplusplus

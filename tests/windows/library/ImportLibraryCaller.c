@@ -1,4 +1,4 @@
-/* A program that is linked with the import library for linkers other than mingw's, and finds every function. */
+/* A program that is linked with the import library for linkers other than mingw's. */
 #include "CallerInC.h"
 
 #include <string.h>
@@ -6,6 +6,6 @@
 int main(void)
 {
     char buffer[10] = "";
-    const int isFound = CountFunctionsSeenFromC() == 21 && ReadDocNameFromC("doc", buffer, sizeof buffer) == 1;
+    const int isFound = ReadDocNameFromC("doc", buffer, sizeof buffer) == 1;
     return isFound && strcmp(buffer, "doc") == 0 ? 0 : 1;
 }

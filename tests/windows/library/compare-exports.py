@@ -40,7 +40,8 @@ class Image:
     def exports(self) -> dict[str, int]:
         """The address of each exported name."""
         directory = self._place(self._export_rva)
-        count, functions, names, ordinals = struct.unpack_from("<24xI3I", self._bytes, directory)[-4:]
+        function_count, count, functions, names, ordinals = struct.unpack_from("<20x5I", self._bytes, directory)
+        assert function_count == count, "an export has no name of its own"
         found = {}
         for index in range(count):
             start = self._place(self._number("<I", self._place(names) + 4 * index))

@@ -3,6 +3,7 @@
 #include "Observation.h"
 
 #include <limits>
+#include <utility>
 
 namespace
 {
@@ -128,6 +129,14 @@ std::string CellOf(const Argument& argument, Column column)
     return "";
 }
 
+std::string RowOf(const std::string& name, const Argument& argument)
+{
+    std::string row = "| " + name + " |";
+    for (const Column column : {null, zero, negative, largest, longText})
+        row += " " + CellOf(argument, column) + " |";
+    return row + "\n";
+}
+
 } // namespace
 
 void ProveBadArguments(Scene& scene, const Export& function)
@@ -140,8 +149,7 @@ void ProveBadArguments(Scene& scene, const Export& function)
         {
             if (bad.kind != function.arguments[index].kind)
                 continue;
-            SCOPED_TRACE(std::string(function.name) + ": " + function.arguments[index].name + " " +
-                         columns[bad.column]);
+            SCOPED_TRACE("argument " + std::to_string(index + 1) + " of " + function.name + ": " + columns[bad.column]);
             const BadCall call = {scene, function, index};
             EXPECT_EQ(call.WithValue(bad.value), bad.expected(call));
         }
@@ -150,22 +158,29 @@ void ProveBadArguments(Scene& scene, const Export& function)
 
 std::string BadArgumentsTable()
 {
-    std::string text = "| function | argument |";
-    std::string rule = "|---|---|";
+    std::string text = "| argument |";
+    std::string rule = "|---|";
     for (const char* column : columns)
     {
         text += std::string(" ") + column + " |";
         rule += "---|";
     }
     text += "\n" + rule + "\n";
+    static constexpr std::pair<const char*, Kind> kinds[] = {
+        {"a text", Kind::text},
+        {"a buffer", Kind::buffer},
+        {"a buffer's size", Kind::size},
+        {"`second` of `lytGroupPropertyDialog`", Kind::spare},
+        {"`secondSize` of `lytGroupPropertyDialog`", Kind::spareSize},
+    };
+    for (const auto& [name, kind] : kinds)
+        text += RowOf(name, {.kind = kind});
     for (const Export& function : Exports())
     {
         for (const Argument& argument : function.arguments)
         {
-            text += std::string("| `") + function.name + "` | `" + argument.name + "` |";
-            for (const Column column : {null, zero, negative, largest, longText})
-                text += " " + CellOf(argument, column) + " |";
-            text += "\n";
+            if (argument.kind == Kind::number)
+                text += RowOf(std::string("`") + argument.name + "` of `" + function.name + "`", argument);
         }
     }
     return text;

@@ -3,6 +3,8 @@
 
 #include "Exports.h"
 
+#include <string>
+
 // Calls the function with each bad value of each argument, and compares with what the page says.
 void ProveBadArguments(Scene& scene, const Export& function);
 // The table of the page.

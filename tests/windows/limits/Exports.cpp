@@ -1,29 +1,12 @@
 #include "Exports.h"
 
+#include "Scene.h"
+
 #include <cstring>
+#include <type_traits>
 
 namespace
 {
-
-Argument Text(const char* name, const char* good)
-{
-    return {name, Kind::text, good};
-}
-
-Argument Buffer(const char* name)
-{
-    return {name, Kind::buffer};
-}
-
-Argument Size(const char* name)
-{
-    return {name, Kind::size};
-}
-
-Argument Number(const char* name, int good, OddNumber negative, OddNumber huge)
-{
-    return {name, Kind::number, "", good, negative, huge};
-}
 
 void Nothing(Scene& /*scene*/) {}
 
@@ -73,59 +56,92 @@ void GatherReport(Scene& scene)
 constexpr OddNumber asTwo = {2, "as 2: the dialog of a repetition, and only a key with \"BNG\" is split"};
 constexpr OddNumber beyondTheEnd = {100'000, "0, and the report is freed, as beyond its end"};
 
+// A number after a buffer is its size.
+template <class TYPE>
+constexpr Kind kindOf = Kind::number;
+template <>
+constexpr Kind kindOf<const char*> = Kind::text;
+template <>
+constexpr Kind kindOf<char*> = Kind::buffer;
+
+template <class FUNCTION>
+struct Signature;
+template <class RESULT, class... ARGUMENTS>
+struct Signature<RESULT(ARGUMENTS...)>
+{
+    static constexpr bool hasResult = !std::is_void_v<RESULT>;
+    static std::vector<Kind> Kinds() { return {kindOf<ARGUMENTS>...}; }
+};
+
+std::vector<Argument> ArgumentsOf(const std::vector<Kind>& kinds, const std::vector<Argument>& values)
+{
+    std::vector<Argument> arguments;
+    auto value = values.begin();
+    for (const Kind kind : kinds)
+    {
+        if (kind == Kind::buffer)
+            arguments.push_back({.kind = kind});
+        else if (kind == Kind::number && !arguments.empty() && arguments.back().kind == Kind::buffer)
+            arguments.push_back({.kind = Kind::size});
+        else
+        {
+            arguments.push_back(*value++);
+            arguments.back().kind = kind;
+        }
+    }
+    return arguments;
+}
+
+// The values are good ones for the texts and numbers.
+template <class FUNCTION>
+Export Of(const char* name, const std::vector<Argument>& values = {}, void (*prepare)(Scene& scene) = Nothing)
+{
+    return {name, Signature<FUNCTION>::hasResult, ArgumentsOf(Signature<FUNCTION>::Kinds(), values), prepare};
+}
+
+// The last buffer may be missing.
+Export WithSpare(Export function)
+{
+    const auto size = function.arguments.rbegin();
+    size[0].kind = Kind::spareSize;
+    size[1].kind = Kind::spare;
+    return function;
+}
+
 } // namespace
 
 const std::vector<Export>& Exports()
 {
     static const std::vector<Export> exports = {
-        {"lytInitialiseEnvironment",
-         false,
-         {Text("docName", "doc.rtf"), Text("dialogFolder", "C:\\nowhere"), Text("initFolder", "C:\\nowhere")},
-         Nothing},
-        {"lytSetDialogDefine", false, {Text("define", "A")}, Nothing},
-        {"lytGetInitializationPath", true, {Buffer("buffer"), Size("size")}, Nothing},
-        {"lytGetCurrentDocName", true, {Buffer("buffer"), Size("size")}, Nothing},
-        {"FreeGlobalObject", false, {}, Nothing},
-        {"lytSymbolPropertyDialog", true, {Text("key", "a"), Buffer("result"), Size("size")}, Nothing},
-        {"lytPhrasePropertyDialog", true, {Text("key", "a"), Buffer("result"), Size("size")}, Nothing},
-        {"lytGroupPropertyDialog",
-         true,
-         {Number("kind", 0, asTwo, asTwo),
-          Text("key", "(a)/1b"),
-          Buffer("first"),
-          Size("firstSize"),
-          {"second", Kind::spare},
-          {"secondSize", Kind::spareSize}},
-         Nothing},
-        {"lytOpenTreeView", true, {Text("request", "W"), Buffer("target"), Size("size")}, ServeCatalogue},
-        {"lytOpenTreeViewPara", true, {Text("request", "P"), Buffer("target"), Size("size")}, ServeCatalogue},
-        {"lytGetSymbolfromTree", true, {Text("text", "s"), Buffer("target"), Size("size")}, ServeCatalogue},
-        {"lytTreeStartChildNode", true, {Text("key", "group")}, StartChildren},
-        {"lytTreeReadChildNode",
-         true,
-         {Buffer("text"), Size("textSize"), Buffer("path"), Size("pathSize")},
-         StartChildren},
-        {"lytGetTextForKey",
-         true,
-         {Text("section", "Buttons"), Text("key", "001"), Text("argument", "x"), Buffer("buffer"), Size("size")},
-         Nothing},
-        {"lytGetTextFromIniFile", true, {Text("path", "lists/list"), Buffer("buffer"), Size("size")}, Nothing},
-        {"lytListFromIniStart", true, {Text("path", "lists/list")}, Nothing},
-        {"lytListFromIniNext",
-         true,
-         {Buffer("value"), Size("valueSize"), Buffer("display"), Size("displaySize")},
-         StartList},
-        {"lytWriteToLogFile",
-         false,
-         {Text("text", "text"),
-          Number("level", 1, {0, "as 0: written whenever there is a log"}, {1'000, "not written"})},
-         Nothing},
-        {"lytWizard", true, {Buffer("buffer"), Size("size")}, ServeSymbol},
-        {"lytSystemInfoInit", true, {Text("directory", "C:\\nowhere")}, Nothing},
-        {"lytSystemInfoRead",
-         true,
-         {Number("index", 1, beyondTheEnd, beyondTheEnd), Buffer("target"), Size("size")},
-         GatherReport},
+        Of<decltype(lytSymbolPropertyDialog)>("lytSymbolPropertyDialog", {{"a"}}),
+        Of<decltype(lytPhrasePropertyDialog)>("lytPhrasePropertyDialog", {{"a"}}),
+        WithSpare(Of<decltype(lytGroupPropertyDialog)>(
+            "lytGroupPropertyDialog", {{.negative = asTwo, .huge = asTwo, .name = "kind"}, {"(a)/1b"}})),
+        Of<decltype(lytWizard)>("lytWizard", {}, ServeSymbol),
+        Of<decltype(lytOpenTreeView)>("lytOpenTreeView", {{"W"}}, ServeCatalogue),
+        Of<decltype(lytOpenTreeViewPara)>("lytOpenTreeViewPara", {{"P"}}, ServeCatalogue),
+        Of<decltype(lytGetSymbolfromTree)>("lytGetSymbolfromTree", {{"s"}}, ServeCatalogue),
+        Of<decltype(lytTreeStartChildNode)>("lytTreeStartChildNode", {{"group"}}, StartChildren),
+        Of<decltype(lytTreeReadChildNode)>("lytTreeReadChildNode", {}, StartChildren),
+        Of<decltype(lytGetTextForKey)>("lytGetTextForKey", {{"Buttons"}, {"001"}, {"x"}}),
+        Of<decltype(lytGetTextFromIniFile)>("lytGetTextFromIniFile", {{"lists/list"}}),
+        Of<decltype(lytListFromIniStart)>("lytListFromIniStart", {{"lists/list"}}),
+        Of<decltype(lytListFromIniNext)>("lytListFromIniNext", {}, StartList),
+        Of<decltype(lytWriteToLogFile)>("lytWriteToLogFile", {{"text"},
+                                                              {.number = 1,
+                                                               .negative = {0, "as 0: written whenever there is a log"},
+                                                               .huge = {1'000, "not written"},
+                                                               .name = "level"}}),
+        Of<decltype(lytSystemInfoInit)>("lytSystemInfoInit", {{"C:\\nowhere"}}),
+        Of<decltype(lytSystemInfoRead)>(
+            "lytSystemInfoRead", {{.number = 1, .negative = beyondTheEnd, .huge = beyondTheEnd, .name = "index"}},
+            GatherReport),
+        Of<decltype(lytSetDialogDefine)>("lytSetDialogDefine", {{"A"}}),
+        Of<decltype(lytGetInitializationPath)>("lytGetInitializationPath"),
+        Of<decltype(lytGetCurrentDocName)>("lytGetCurrentDocName"),
+        Of<decltype(FreeGlobalObject)>("FreeGlobalObject"),
+        Of<decltype(lytInitialiseEnvironment)>("lytInitialiseEnvironment",
+                                               {{"doc.rtf"}, {"C:\\nowhere"}, {"C:\\nowhere"}}),
     };
     return exports;
 }

@@ -1,9 +1,9 @@
 // Every export with its arguments: a good value of each, and what a bad one means.
 #pragma once
 
-#include "Scene.h"
+#include <vector>
 
-#include <optional>
+class Scene;
 
 enum class Kind
 {
@@ -24,12 +24,12 @@ struct OddNumber
 
 struct Argument
 {
-    const char* name;
-    Kind kind;
     const char* text = ""; // a good one
     int number = 0;
     OddNumber negative = {};
     OddNumber huge = {};
+    const char* name = ""; // of a number
+    Kind kind = {};
 };
 
 struct Export
@@ -40,4 +40,5 @@ struct Export
     void (*prepare)(Scene& scene);
 };
 
+// The environment last, since dialogs need it.
 const std::vector<Export>& Exports();

@@ -2,9 +2,11 @@
 #include "Limit.h"
 #include "LimitsPage.h"
 #include "Scene.h"
+#include "support/Image.h"
 
 #include <cstdlib>
 #include <fstream>
+#include <set>
 #include <sstream>
 
 // GoogleTest prints it where a test fails.
@@ -55,6 +57,15 @@ TEST_P(EachLimit, ComesOutAsThePageTells)
 {
     Scene scene;
     GetParam().prove(scene);
+}
+
+TEST(EveryExport, IsListed)
+{
+    const Scene scene;
+    std::set<std::string> listed;
+    for (const Export& function : Exports())
+        listed.insert(function.name);
+    EXPECT_EQ(listed, Image(GetModuleHandleA("lyt64.dll")).ExportedNames());
 }
 
 TEST(LimitsPage, ListsEveryLimit)

@@ -57,13 +57,22 @@ Value GoodValue(const Argument& argument, size_t index)
     }
 }
 
+std::vector<Value> GoodValues(const Export& function)
+{
+    std::vector<Value> values;
+    for (const Argument& argument : function.arguments)
+        values.push_back(GoodValue(argument, values.size()));
+    return values;
+}
+
 // Further arguments than a function has are not looked at.
-int Invoke(void* function, std::vector<Value> values)
+int Invoke(const Scene& scene, const Export& function, std::vector<Value> values)
 {
     using Any = Value(Value, Value, Value, Value, Value, Value);
     values.resize(mostArguments);
-    auto* const call = reinterpret_cast<Any*>(function);
-    return static_cast<int>(call(values[0], values[1], values[2], values[3], values[4], values[5]));
+    auto* const call = reinterpret_cast<Any*>(scene.GetAny(function.name));
+    const Value result = call(values[0], values[1], values[2], values[3], values[4], values[5]);
+    return function.hasResult ? static_cast<int>(result) : 0;
 }
 
 } // namespace
@@ -75,10 +84,14 @@ void PrintTo(const Observation& observation, std::ostream* stream)
         *stream << " buffer: " << text;
 }
 
-ObservedCall::ObservedCall(Scene& scene, const Export& function) : m_scene(scene), m_function(function)
+int CallWithGoodValues(const Scene& scene, const Export& function)
 {
-    for (size_t index = 0; index < function.arguments.size(); ++index)
-        m_values.push_back(GoodValue(function.arguments[index], index));
+    return Invoke(scene, function, GoodValues(function));
+}
+
+ObservedCall::ObservedCall(Scene& scene, const Export& function)
+    : m_scene(scene), m_function(function), m_values(GoodValues(function))
+{
 }
 
 Observation ObservedCall::Run()
@@ -95,8 +108,7 @@ Observation ObservedCall::Run()
 
     Observation seen;
     const Attendant attendant;
-    const int result = Invoke(m_scene.GetAny(m_function.name), m_values);
-    seen.result = m_function.hasResult ? result : 0;
+    seen.result = Invoke(m_scene, m_function, m_values);
     seen.windows = attendant.Seen();
     seen.log = m_scene.folder.Has("doc.log") ? "written" : "";
     for (size_t index = 0; index < m_values.size(); ++index)

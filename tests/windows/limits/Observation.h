@@ -2,6 +2,7 @@
 #pragma once
 
 #include "Exports.h"
+#include "Scene.h"
 
 // An argument as it is handed over.
 using Value = intptr_t;
@@ -17,6 +18,9 @@ struct Observation
 };
 
 void PrintTo(const Observation& observation, std::ostream* stream);
+
+// Calls a function with a good value for each argument, in the state that the library is in. 0 for one without a result.
+int CallWithGoodValues(const Scene& scene, const Export& function);
 
 // A call under preparation, with a good value for each argument. Its buffers have room for any size.
 class ObservedCall

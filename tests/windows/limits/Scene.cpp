@@ -1,6 +1,6 @@
 #include "Scene.h"
 
-#include "support/Image.h"
+#include "Observation.h"
 
 Scene* Scene::current = nullptr;
 const std::string Scene::everyAnswer =
@@ -14,31 +14,6 @@ std::string LibraryFile()
 {
     return ProgramFolder() + "\\..\\lyt64.dll";
 }
-
-// Exports called one after another, and those that gave something other than 0.
-class Answers
-{
-public:
-    explicit Answers(const FreshLibrary& library) : m_library(library) {}
-
-    template <class Function, class... Arguments>
-    void Call(const char* name, Arguments... arguments)
-    {
-        m_called.insert(name);
-        auto* const function = m_library.Get<Function>(name);
-        if constexpr (std::is_void_v<std::invoke_result_t<Function*, Arguments...>>)
-            function(arguments...);
-        else if (const int result = function(arguments...); result != 0)
-            m_given += std::string(name) + " " + std::to_string(result) + "\n";
-    }
-    const std::set<std::string>& Called() const { return m_called; }
-    const std::string& Given() const { return m_given; }
-
-private:
-    const FreshLibrary& m_library;
-    std::set<std::string> m_called;
-    std::string m_given;
-};
 
 } // namespace
 
@@ -134,33 +109,14 @@ void Scene::LoadAgain()
 
 std::string Scene::CallEverything() const
 {
-    char first[300] = "";
-    char second[300] = "";
-    const char* const path = folder.Path().c_str();
-    Answers answers(m_library);
-    answers.Call<decltype(lytSymbolPropertyDialog)>("lytSymbolPropertyDialog", "a", first, 300);
-    answers.Call<decltype(lytPhrasePropertyDialog)>("lytPhrasePropertyDialog", "a", first, 300);
-    answers.Call<decltype(lytGroupPropertyDialog)>("lytGroupPropertyDialog", 0, "a", first, 300, second, 300);
-    answers.Call<decltype(lytWizard)>("lytWizard", first, 300);
-    answers.Call<decltype(lytOpenTreeView)>("lytOpenTreeView", "S", first, 300);
-    answers.Call<decltype(lytOpenTreeViewPara)>("lytOpenTreeViewPara", "P", first, 300);
-    answers.Call<decltype(lytGetSymbolfromTree)>("lytGetSymbolfromTree", "a", first, 300);
-    answers.Call<decltype(lytTreeStartChildNode)>("lytTreeStartChildNode", "a");
-    answers.Call<decltype(lytTreeReadChildNode)>("lytTreeReadChildNode", first, 300, second, 300);
-    answers.Call<decltype(lytGetTextForKey)>("lytGetTextForKey", "Buttons", "001", "", first, 300);
-    answers.Call<decltype(lytGetTextFromIniFile)>("lytGetTextFromIniFile", "lists/list", first, 300);
-    answers.Call<decltype(lytListFromIniStart)>("lytListFromIniStart", "lists/list");
-    answers.Call<decltype(lytListFromIniNext)>("lytListFromIniNext", first, 200, second, 200);
-    answers.Call<decltype(lytWriteToLogFile)>("lytWriteToLogFile", "text", 1);
-    answers.Call<decltype(lytSystemInfoInit)>("lytSystemInfoInit", path);
-    answers.Call<decltype(lytSystemInfoRead)>("lytSystemInfoRead", 0, first, 300);
-    answers.Call<decltype(lytSetDialogDefine)>("lytSetDialogDefine", "A");
-    answers.Call<decltype(lytGetInitializationPath)>("lytGetInitializationPath", first, 300);
-    answers.Call<decltype(lytGetCurrentDocName)>("lytGetCurrentDocName", first, 300);
-    answers.Call<decltype(FreeGlobalObject)>("FreeGlobalObject");
-    answers.Call<decltype(lytInitialiseEnvironment)>("lytInitialiseEnvironment", "other.rtf", path, path);
-    EXPECT_EQ(answers.Called(), Image(m_library.Module()).ExportedNames());
-    return answers.Given();
+    std::string given;
+    for (const Export& function : Exports())
+    {
+        if (const int result = CallWithGoodValues(*this, function); result != 0)
+            given += std::string(function.name) + " " + std::to_string(result) + "\n";
+    }
+    Initialise();
+    return given;
 }
 
 Scene& Scene::CancelEverything()

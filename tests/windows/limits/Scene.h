@@ -60,8 +60,8 @@ public:
     // The host gives up its reference to the library, and takes a new one before the scene ends.
     void Unload();
     void LoadAgain();
-    // Calls every export with arguments that are as they should be. The windows are ended by steps of the caller:
-    // CancelEverything. The names and results of those that give something other than 0, line by line.
+    // Calls every export with good arguments, and initialises the library again. The windows are ended by steps of the
+    // caller: CancelEverything. The names and results of those that give something other than 0, line by line.
     std::string CallEverything() const;
     Scene& CancelEverything();
     // What CallEverything gives then.
