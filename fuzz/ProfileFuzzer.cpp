@@ -25,8 +25,8 @@ void ReadValues(const std::string& section, const std::string& key, int size)
 {
     const Room room(size);
     GetPrivateProfileStringA(section.c_str(), key.c_str(), "default ", room.Data(), static_cast<DWORD>(size), file);
-    static_cast<void>(ReadProfileText(section.c_str(), key.c_str(), "default", size, file));
-    ReadProfileSection(section.c_str(), room.Data(), size, file);
+    static_cast<void>(lytReadProfileText(section.c_str(), key.c_str(), "default", size, file));
+    lytReadProfileSection(section.c_str(), room.Data(), size, file);
 }
 
 void ReadSection(const std::string& name)
@@ -38,7 +38,7 @@ void ReadSection(const std::string& name)
     AddFontLines(
         file, isThere ? &section : nullptr,
         [](const CString& font) {
-            return std::vector<lytFontEntry>{{font, 0}, {font + " Bold", 255}};
+            return std::vector<FontEntry>{{font, 0}, {font + " Bold", 255}};
         },
         lines);
 }

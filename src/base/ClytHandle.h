@@ -12,10 +12,10 @@ public:
     ClytKeptError() = default;
     ClytKeptError(const ClytKeptError&) = delete;
     ClytKeptError& operator=(const ClytKeptError&) = delete;
-    ~ClytKeptError() { SetLastError(m_error); }
+    ~ClytKeptError() { SetLastError(error); }
 
 private:
-    DWORD m_error = GetLastError();
+    DWORD error = GetLastError();
 };
 
 // Owns one handle and closes it on every way out. KIND names the type, the value for no handle, and the way to
@@ -27,10 +27,10 @@ public:
     using Handle = typename KIND::Handle;
 
     ClytHandle() = default;
-    explicit ClytHandle(Handle handle) noexcept : m_handle(handle) {}
+    explicit ClytHandle(Handle handle) noexcept : owned(handle) {}
     ClytHandle(const ClytHandle&) = delete;
     ClytHandle& operator=(const ClytHandle&) = delete;
-    ClytHandle(ClytHandle&& other) noexcept : m_handle(other.Release()) {}
+    ClytHandle(ClytHandle&& other) noexcept : owned(other.Release()) {}
     ClytHandle& operator=(ClytHandle&& other) noexcept
     {
         Reset(other.Release());
@@ -38,14 +38,14 @@ public:
     }
     ~ClytHandle() { Reset(); }
 
-    bool IsOpen() const noexcept { return m_handle != KIND::None(); }
-    Handle Get() const noexcept { return m_handle; }
+    bool IsOpen() const noexcept { return owned != KIND::None(); }
+    Handle Get() const noexcept { return owned; }
     // Hands the handle over to the caller, who closes it.
-    [[nodiscard]] Handle Release() noexcept { return std::exchange(m_handle, KIND::None()); }
+    [[nodiscard]] Handle Release() noexcept { return std::exchange(owned, KIND::None()); }
     // Closes the handle and takes over another.
     void Reset(Handle handle = KIND::None()) noexcept
     {
-        const Handle old = std::exchange(m_handle, handle);
+        const Handle old = std::exchange(owned, handle);
         if (old == KIND::None())
             return;
         const ClytKeptError kept;
@@ -53,7 +53,7 @@ public:
     }
 
 private:
-    Handle m_handle = KIND::None();
+    Handle owned = KIND::None();
 };
 
 // A loaded library.

@@ -10,25 +10,25 @@ template <class LIST>
 class ClytIterator
 {
 public:
-    ClytIterator(const LIST& list, POSITION position) : m_list(list), m_position(position) {}
+    ClytIterator(const LIST& walkedList, POSITION start) : list(walkedList), position(start) {}
 
     decltype(auto) operator*() const
     {
-        if constexpr (std::is_pointer_v<decltype(m_list.GetAt(m_position))>)
-            return *m_list.GetAt(m_position);
+        if constexpr (std::is_pointer_v<decltype(list.GetAt(position))>)
+            return *list.GetAt(position);
         else
-            return m_list.GetAt(m_position);
+            return list.GetAt(position);
     }
     ClytIterator& operator++()
     {
-        m_list.GetNext(m_position);
+        list.GetNext(position);
         return *this;
     }
-    bool operator!=(const ClytIterator& other) const { return m_position != other.m_position; }
+    bool operator!=(const ClytIterator& other) const { return position != other.position; }
 
 private:
-    const LIST& m_list;
-    POSITION m_position; // null at the end
+    const LIST& list;
+    POSITION position; // null at the end
 };
 
 inline ClytIterator<CStringList> begin(const CStringList& list)

@@ -11,13 +11,13 @@ inline constexpr int lytLongestRun = 1'000'000;
 class ClytErrorBoxesOff
 {
 public:
-    ClytErrorBoxesOff() { ::SetThreadErrorMode(::GetThreadErrorMode() | SEM_FAILCRITICALERRORS, &m_hostMode); }
+    ClytErrorBoxesOff() { ::SetThreadErrorMode(::GetThreadErrorMode() | SEM_FAILCRITICALERRORS, &hostMode); }
     ClytErrorBoxesOff(const ClytErrorBoxesOff&) = delete;
     ClytErrorBoxesOff& operator=(const ClytErrorBoxesOff&) = delete;
-    ~ClytErrorBoxesOff() { ::SetThreadErrorMode(m_hostMode, nullptr); }
+    ~ClytErrorBoxesOff() { ::SetThreadErrorMode(hostMode, nullptr); }
 
 private:
-    DWORD m_hostMode = 0;
+    DWORD hostMode = 0;
 };
 
 // Libraries that a program contains and offers in place of files.

@@ -52,6 +52,6 @@ LRESULT ClytDefaultControl::WindowProc(UINT message, WPARAM wParam, LPARAM lPara
 {
     if (dialog == nullptr)
         return CButton::WindowProc(message, wParam, lParam);
-    const Counted inCommand = dialog->BeginCommand();
+    const ClytCounted inCommand = dialog->BeginCommand();
     return CButton::WindowProc(message, wParam, lParam);
 }

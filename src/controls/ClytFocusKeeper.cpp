@@ -35,12 +35,12 @@ CWnd* ControlAround(HWND window, HWND dialog)
 
 ClytFocusKeeper::~ClytFocusKeeper()
 {
-    const CDialog& dialog = m_form.GetWindow();
-    if (!::IsChild(dialog.m_hWnd, m_focus) || !IsDeaf(dialog.m_hWnd))
+    const CDialog& dialog = form.GetWindow();
+    if (!::IsChild(dialog.m_hWnd, focus) || !IsDeaf(dialog.m_hWnd))
         return;
-    const Counted pause = m_form.PauseRules();
-    if (CanTakeFocus(m_focus, dialog.m_hWnd))
-        ::SetFocus(m_focus);
-    else if (const CWnd* next = dialog.GetNextDlgTabItem(ControlAround(m_focus, dialog.m_hWnd)))
+    const ClytCounted pause = form.PauseRules();
+    if (CanTakeFocus(focus, dialog.m_hWnd))
+        ::SetFocus(focus);
+    else if (const CWnd* next = dialog.GetNextDlgTabItem(ControlAround(focus, dialog.m_hWnd)))
         dialog.GotoDlgCtrl(next);
 }

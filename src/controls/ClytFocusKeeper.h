@@ -11,12 +11,12 @@
 class ClytFocusKeeper
 {
 public:
-    explicit ClytFocusKeeper(ClytForm& form) : m_form(form), m_focus(::GetFocus()) {}
+    explicit ClytFocusKeeper(ClytForm& keptForm) : form(keptForm), focus(::GetFocus()) {}
     ClytFocusKeeper(const ClytFocusKeeper&) = delete;
     ClytFocusKeeper& operator=(const ClytFocusKeeper&) = delete;
     ~ClytFocusKeeper();
 
 private:
-    ClytForm& m_form; // outlives this
-    HWND m_focus;     // null, or the window that had the focus at first
+    ClytForm& form; // outlives this
+    HWND focus;     // null, or the window that had the focus at first
 };

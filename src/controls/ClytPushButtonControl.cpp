@@ -44,7 +44,7 @@ LRESULT ClytPushButtonControl::WindowProc(UINT message, WPARAM wParam, LPARAM lP
 {
     if (dialog == nullptr)
         return CButton::WindowProc(message, wParam, lParam);
-    const Counted inCommand = dialog->BeginCommand();
+    const ClytCounted inCommand = dialog->BeginCommand();
     try
     {
         TakeMessage(message, wParam);

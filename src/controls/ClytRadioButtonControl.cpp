@@ -1,6 +1,6 @@
 #include "controls/ClytRadioButtonControl.h"
 
-#include "base/Counted.h"
+#include "base/ClytCounted.h"
 #include "controls/ClytOptionGroup.h"
 
 ClytRadioButtonControl::ClytRadioButtonControl(CString controlName, ClytPosition topLeft, ClytSize extent,
@@ -44,7 +44,7 @@ void ClytRadioButtonControl::SetValue(const CString& value)
 
 void ClytRadioButtonControl::Check(bool isChecked)
 {
-    const Counted checking(ownChecks);
+    const ClytCounted checking(ownChecks);
     SetCheck(isChecked ? BST_CHECKED : BST_UNCHECKED);
 }
 

@@ -140,8 +140,8 @@ int ClytDialog::RunInput(const CString& partName, const CString& text)
 
 void ClytDialog::Scan(const ClytInputPart& part, const CString& text)
 {
-    const Counted inCommand = BeginCommand();
-    const Counted scan(scanDepth);
+    const ClytCounted inCommand = BeginCommand();
+    const ClytCounted scan(scanDepth);
     part.Run(text, lytStartName);
 }
 
@@ -149,7 +149,7 @@ void ClytDialog::Scan(const ClytInputPart& part, const CString& text)
 // dialog.
 BOOL ClytDialog::OnCommand(WPARAM wParam, LPARAM lParam)
 {
-    const Counted inCommand = BeginCommand();
+    const ClytCounted inCommand = BeginCommand();
     const bool isCancel = LOWORD(wParam) == IDCANCEL;
     if (CommandRunsRules() && !RunRules() && !isCancel)
         return TRUE;

@@ -1,7 +1,7 @@
 // The composition of a dialog's text: choose a rule, take the values of the controls, put them into the format.
 #include "dialog/ClytDialog.h"
 
-#include "base/Counted.h"
+#include "base/ClytCounted.h"
 #include "base/Words.h"
 #include "environment/ClytException.h"
 #include "environment/ProcessState.h"
@@ -46,25 +46,25 @@ struct Conversion
 class FormatReader
 {
 public:
-    explicit FormatReader(const CString& text) : format(text) {}
+    explicit FormatReader(const CString& format) : m_format(format) {}
 
-    bool IsAtEnd() const { return place >= format.GetLength(); }
-    bool IsBeforeQuote() const { return !IsAtEnd() && format[place] == '"'; }
+    bool IsAtEnd() const { return m_place >= m_format.GetLength(); }
+    bool IsBeforeQuote() const { return !IsAtEnd() && m_format[m_place] == '"'; }
     CString TakePiece()
     {
-        if (format[place] != '%')
-            return format.Mid(place++, 1);
-        const int end = format.Find('s', place);
+        if (m_format[m_place] != '%')
+            return m_format.Mid(m_place++, 1);
+        const int end = m_format.Find('s', m_place);
         if (end < 0)
             AfxThrowInvalidArgException();
-        const CString piece = format.Mid(place + 1, end - place);
-        place = end + 1;
+        const CString piece = m_format.Mid(m_place + 1, end - m_place);
+        m_place = end + 1;
         return piece;
     }
 
 private:
-    const CString& format;
-    int place = 0;
+    const CString& m_format;
+    int m_place = 0;
 };
 
 // The room that a result needs, or more where the format limits an item or leaves it out.
@@ -94,7 +94,7 @@ const ClytDialogOutput* ClytDialog::SelectRule(const ClytOutput& group)
 
 bool ClytDialog::HoldsForOutput(const ClytDialogOutput& rule)
 {
-    const Counted read(readDepth);
+    const ClytCounted read(readDepth);
     return lytConditionsHold(rule.conditions, ClytRuleKind::Output, rule.span);
 }
 
@@ -129,7 +129,7 @@ int ClytDialog::ComposeOutput(const ClytOutput& group, CString& target, int chec
 // Controls without a name (OK and Cancel) give no value.
 CString ClytDialog::TakeItem(const ClytOutputItem& item)
 {
-    const Counted read(readDepth);
+    const ClytCounted read(readDepth);
     const bool hasName = !item.control->GetName().IsEmpty();
     if (item.action.IsEmpty())
         return hasName ? item.control->GetValue() : item.text;

@@ -11,7 +11,7 @@
 
 void ClytDialog::ReadDescription()
 {
-    const Counted inCommand = BeginCommand();
+    const ClytCounted inCommand = BeginCommand();
     OpenFile();
     ReadHeader();
     ReadControls();

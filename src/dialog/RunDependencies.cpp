@@ -1,7 +1,7 @@
 // The runs of the dependency rules: one at the end of the construction, and one at each command.
 #include "dialog/ClytDialog.h"
 
-#include "base/Counted.h"
+#include "base/ClytCounted.h"
 #include "controls/ClytFocusKeeper.h"
 #include "model/ClytObserver.h"
 
@@ -30,7 +30,7 @@ struct Pass
 {
     Pass(int& mark, POSITION firstRule) : held(mark), nextRule(firstRule) {}
 
-    Counted held; // the mark of the rule that set the pass off
+    ClytCounted held; // the mark of the rule that set the pass off
     POSITION nextRule;
 };
 
@@ -41,41 +41,38 @@ class ClytDialog::Run
 {
 public:
     explicit Run(ClytDialog& owner)
-        : m_owner(owner),
-          m_outer(std::exchange(owner.innermostRun, this)),
-          m_depth(m_outer != nullptr ? m_outer->m_depth + 1 : 1),
-          m_readsBefore(owner.readDepth)
+        : dialog(owner),
+          outer(std::exchange(owner.innermostRun, this)),
+          depth(outer != nullptr ? outer->depth + 1 : 1),
+          readsBefore(owner.readDepth)
     {
-        lytTell(&ClytObserver::RunBegan, m_depth);
+        lytTell(&ClytObserver::RunBegan, depth);
     }
     Run(const Run&) = delete;
     Run& operator=(const Run&) = delete;
     ~Run()
     {
-        m_owner.innermostRun = m_outer;
-        lytTell(&ClytObserver::RunEnded, m_depth);
+        dialog.innermostRun = outer;
+        lytTell(&ClytObserver::RunEnded, depth);
     }
 
     // A read that was in progress when the run began does not count.
-    bool IsReading() const { return m_owner.readDepth > m_readsBefore; }
+    bool IsReading() const { return dialog.readDepth > readsBefore; }
     // False when no further run may be nested in this one; the refusal is remembered.
     bool Admits()
     {
-        m_hasRefused = m_depth >= deepestRun;
-        return !m_hasRefused;
+        hasRefused = depth >= deepestRun;
+        return !hasRefused;
     }
     // True once after a run was refused, as long as it may still be repeated.
-    bool TakeRefusal()
-    {
-        return std::exchange(m_hasRefused, false) && m_owner.command.repeatedRuns++ < mostRepeatedRuns;
-    }
+    bool TakeRefusal() { return std::exchange(hasRefused, false) && dialog.command.repeatedRuns++ < mostRepeatedRuns; }
 
 private:
-    ClytDialog& m_owner;
-    Run* m_outer; // outlives this one
-    int m_depth;
-    int m_readsBefore; // reads in progress when the run began
-    bool m_hasRefused = false;
+    ClytDialog& dialog;
+    Run* outer; // outlives this one
+    int depth;
+    int readsBefore; // reads in progress when the run began
+    bool hasRefused = false;
 };
 
 void ClytDialog::OnCommandBegun()
@@ -94,7 +91,7 @@ bool ClytDialog::CommandRunsRules()
 
 bool ClytDialog::RunRules()
 {
-    const Counted inCommand = BeginCommand();
+    const ClytCounted inCommand = BeginCommand();
     try
     {
         RunDependencies();
@@ -116,7 +113,7 @@ void ClytDialog::TellRuleFailure() noexcept
         DropCurrentFailure();
         return;
     }
-    const Counted pause = PauseRules();
+    const ClytCounted pause = PauseRules();
     ReportCurrentFailure();
 }
 
@@ -127,7 +124,7 @@ void ClytDialog::Report(const ClytControl& control, const char* number, const Cl
     {
         if (std::exchange(command.isTold, true))
             return;
-        const Counted pause = PauseRules();
+        const ClytCounted pause = PauseRules();
         lytReport(number, prefix, argument);
         return;
     }
@@ -217,7 +214,7 @@ void ClytDialog::RunRule(ClytControlDep& rule)
 void ClytDialog::RunEventRule(ClytControlDep& rule)
 {
     const bool isInProgress = rule.runCount != 0;
-    const Counted running(rule.runCount);
+    const ClytCounted running(rule.runCount);
     const ClytEvent event = isInProgress             ? ClytEvent::InProgress
                             : rule.AnyChanged() != 0 ? ClytEvent::Acts
                                                      : ClytEvent::NothingChanged;
@@ -228,6 +225,6 @@ void ClytDialog::RunEventRule(ClytControlDep& rule)
 
 int ClytDialog::AllConditionsHold(const ClytControlDep& rule)
 {
-    const Counted read(readDepth);
+    const ClytCounted read(readDepth);
     return rule.AllHold();
 }

@@ -40,8 +40,8 @@ CString ClytEnvironment::GetIniFileName() const
 
 CString ClytEnvironment::GetLanguage() const
 {
-    return Guarded([&]
-                   { return ReadProfileText("global", "Current Language", lytNoValue, textSize, GetIniFileName()); });
+    return Guarded(
+        [&] { return lytReadProfileText("global", "Current Language", lytNoValue, textSize, GetIniFileName()); });
 }
 
 CString ClytEnvironment::GetLanguageFileName() const
@@ -51,12 +51,13 @@ CString ClytEnvironment::GetLanguageFileName() const
 
 CString ClytEnvironment::GetLogLevel() const
 {
-    return Guarded([&] { return ReadProfileText("LogLevel", "level", "0", textSize, GetIniFileName()); });
+    return Guarded([&] { return lytReadProfileText("LogLevel", "level", "0", textSize, GetIniFileName()); });
 }
 
 CString ClytEnvironment::GetText(const char* section, const char* key, const CString& argument) const
 {
-    CString text = Guarded([&] { return ReadProfileText(section, key, lytNoValue, textSize, GetLanguageFileName()); });
+    CString text =
+        Guarded([&] { return lytReadProfileText(section, key, lytNoValue, textSize, GetLanguageFileName()); });
     const int mark = text.Find('\'');
     if (argument.IsEmpty() || mark < 0)
         return text;
@@ -65,7 +66,7 @@ CString ClytEnvironment::GetText(const char* section, const char* key, const CSt
 
 CString ClytEnvironment::GetIniValue(const char* section, const char* key) const
 {
-    return ReadProfileText(section, key, lytNoEntry, valueSize, GetIniFileName());
+    return lytReadProfileText(section, key, lytNoEntry, valueSize, GetIniFileName());
 }
 
 void ClytEnvironment::Reset()

@@ -12,13 +12,13 @@ constexpr UINT messageSize = 75;
 ClytPrefix ClytPrefix::OfKey(const char* key)
 {
     ClytPrefix prefix(key);
-    prefix.m_isKey = true;
+    prefix.isKey = true;
     return prefix;
 }
 
 CString ClytPrefix::Worded() const
 {
-    return m_isKey ? lytEnvironment.GetText(lytErrorSection, m_text) : m_text;
+    return isKey ? lytEnvironment.GetText(lytErrorSection, text) : text;
 }
 
 ClytException::ClytException(CString textSection, CString textKey, ClytPrefix messagePrefix, CString textArgument)

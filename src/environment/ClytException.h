@@ -16,18 +16,18 @@ class ClytPrefix
 {
 public:
     ClytPrefix() = default;
-    ClytPrefix(CString text) : m_text(std::move(text)) {}
-    ClytPrefix(const char* text) : m_text(text) {}
+    ClytPrefix(CString words) : text(std::move(words)) {}
+    ClytPrefix(const char* words) : text(words) {}
     static ClytPrefix OfKey(const char* key);
 
     CString Worded() const;
-    bool IsKey() const { return m_isKey; }
+    bool IsKey() const { return isKey; }
     // The text or the key.
-    const CString& Get() const { return m_text; }
+    const CString& Get() const { return text; }
 
 private:
-    CString m_text;
-    bool m_isKey = false;
+    CString text;
+    bool isKey = false;
 };
 
 class ClytException : public CException

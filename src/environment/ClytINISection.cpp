@@ -19,10 +19,10 @@ bool ClytINISection::Read()
     clear();
     // A small buffer is enough to see that a section is absent.
     char buffer[sectionSize];
-    if (ReadProfileSection(sectionName, buffer, probeSize, fileName) == 0)
+    if (lytReadProfileSection(sectionName, buffer, probeSize, fileName) == 0)
         return false;
 
-    const int count = ReadProfileSection(sectionName, buffer, sectionSize, fileName);
+    const int count = lytReadProfileSection(sectionName, buffer, sectionSize, fileName);
     for (const char* line = buffer; line < buffer + count; line += std::strlen(line) + 1)
         AddLine(line);
     return !empty();

@@ -2,7 +2,7 @@
 
 #include <afxwin.h>
 
-bool LocalTimeOf(std::time_t time, std::tm& local)
+bool lytLocalTimeOf(std::time_t time, std::tm& local)
 {
     return _localtime64_s(&local, &time) == 0;
 }

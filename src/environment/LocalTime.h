@@ -4,4 +4,4 @@
 #include <ctime>
 
 // False when the time cannot be given as a date; `local` is then of no use.
-[[nodiscard]] bool LocalTimeOf(std::time_t time, std::tm& local);
+[[nodiscard]] bool lytLocalTimeOf(std::time_t time, std::tm& local);

@@ -57,7 +57,7 @@ CString lytLogNameOf(const CString& docName)
 CString lytLogBannerLine(const char* word, std::time_t time)
 {
     std::tm local = {};
-    if (!LocalTimeOf(time, local))
+    if (!lytLocalTimeOf(time, local))
         AfxThrowInvalidArgException();
     return word + CString("Date ") + Formatted("%x", local) + "           Time " + Formatted("%X", local) + "\n";
 }

@@ -5,7 +5,8 @@
 
 #include <string>
 
-CString ReadProfileText(const char* section, const char* key, const char* defaultText, int size, const char* fileName)
+CString lytReadProfileText(const char* section, const char* key, const char* defaultText, int size,
+                           const char* fileName)
 {
     if (!FileNameFits(fileName))
         return CString(defaultText).Left(size - 1);
@@ -14,7 +15,7 @@ CString ReadProfileText(const char* section, const char* key, const char* defaul
     return value.c_str();
 }
 
-int ReadProfileSection(const char* section, char* buffer, int size, const char* fileName)
+int lytReadProfileSection(const char* section, char* buffer, int size, const char* fileName)
 {
     if (!FileNameFits(fileName))
     {

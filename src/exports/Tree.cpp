@@ -22,7 +22,7 @@ bool FindSymbol(const CString& text, CString& key)
     const ClytNode* node = lytFindNode(lytSymbolNodes.IsEmpty() ? read : lytSymbolNodes, 'S', text);
     if (node == nullptr)
         return false;
-    key = node->m_szKey;
+    key = node->key;
     return true;
 }
 

@@ -1,7 +1,7 @@
 // A dialog as its controls see it.
 #pragma once
 
-#include "base/Counted.h"
+#include "base/ClytCounted.h"
 #include "environment/ClytException.h"
 #include "model/ClytControl.h"
 
@@ -31,13 +31,13 @@ public:
     // when a rule has failed since the command of the user began; the failure has then been reported once.
     virtual bool RunRules() = 0;
     // Commands that arrive while the result lives run no rules.
-    [[nodiscard]] Counted PauseRules() { return Counted(pausedRules); }
+    [[nodiscard]] ClytCounted PauseRules() { return ClytCounted(pausedRules); }
     // What happens while the result lives belongs to one command of the user.
-    [[nodiscard]] Counted BeginCommand()
+    [[nodiscard]] ClytCounted BeginCommand()
     {
         if (openCommands == 0)
             OnCommandBegun();
-        return Counted(openCommands);
+        return ClytCounted(openCommands);
     }
     // Shows a numbered error of a control. For one command of the user the rules show one message, whether they failed or
     // not, and a scan shows the same message of a control once: both may reach the same place many times.

@@ -7,16 +7,16 @@
 class CurrentMessage
 {
 public:
-    explicit CurrentMessage(const MSG& message) : m_previous(current) { current = &message; }
+    explicit CurrentMessage(const MSG& message) : m_previous(m_current) { m_current = &message; }
     CurrentMessage(const CurrentMessage&) = delete;
     CurrentMessage& operator=(const CurrentMessage&) = delete;
-    ~CurrentMessage() { current = m_previous; }
+    ~CurrentMessage() { m_current = m_previous; }
 
     // Only while a message is being handled.
-    static const MSG& Get() { return *current; }
+    static const MSG& Get() { return *m_current; }
 
 private:
-    static inline const MSG* current = nullptr;
+    static inline const MSG* m_current = nullptr;
 
     const MSG* m_previous; // further down the stack
 };

@@ -9,26 +9,26 @@ class UnwoundLink
 {
 public:
     UnwoundLink(void (*destroy)(void* object), void* object) noexcept
-        : m_outer(std::exchange(innermost, this)), m_destroy(destroy), m_object(object)
+        : m_outer(std::exchange(m_innermost, this)), m_destroy(destroy), m_object(object)
     {
     }
     UnwoundLink(const UnwoundLink&) = delete;
     UnwoundLink& operator=(const UnwoundLink&) = delete;
-    ~UnwoundLink() { innermost = m_outer; }
+    ~UnwoundLink() { m_innermost = m_outer; }
 
-    static const UnwoundLink* Innermost() noexcept { return innermost; }
+    static const UnwoundLink* Innermost() noexcept { return m_innermost; }
     // Destroys the objects inside of `outer`, whose frames are about to be left without their destructors.
     static void DestroyWithin(const UnwoundLink* outer) noexcept
     {
-        while (innermost != nullptr && innermost != outer)
+        while (m_innermost != nullptr && m_innermost != outer)
         {
-            const UnwoundLink* const link = std::exchange(innermost, innermost->m_outer);
+            const UnwoundLink* const link = std::exchange(m_innermost, m_innermost->m_outer);
             link->m_destroy(link->m_object);
         }
     }
 
 private:
-    static inline const UnwoundLink* innermost = nullptr;
+    static inline const UnwoundLink* m_innermost = nullptr;
 
     const UnwoundLink* m_outer; // lives longer
     void (*m_destroy)(void* object);

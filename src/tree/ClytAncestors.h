@@ -15,19 +15,19 @@ public:
     // a greater one are dropped: they are parents no longer.
     const ClytNode* FindAbove(int level)
     {
-        while (!m_path.empty() && m_path.back().level >= level)
-            m_path.pop_back();
-        return m_path.empty() ? nullptr : m_path.back().node;
+        while (!path.empty() && path.back().level >= level)
+            path.pop_back();
+        return path.empty() ? nullptr : path.back().node;
     }
     // The item under which an entry of this level belongs; null is the root. It is read from the parent's node
     // at this moment: a parent that is not shown sends its entries to the root.
     HTREEITEM lytFindParentItem(int level)
     {
         const ClytNode* parent = FindAbove(level);
-        return parent != nullptr ? parent->m_hItem : nullptr;
+        return parent != nullptr ? parent->item : nullptr;
     }
     // Every node of the walk is added, shown or not, once its parent has been looked up.
-    void Add(int level, const ClytNode* node) { m_path.push_back({level, node}); }
+    void Add(int level, const ClytNode* node) { path.push_back({level, node}); }
 
 private:
     struct Step
@@ -35,5 +35,5 @@ private:
         int level;
         const ClytNode* node; // the list of the walk owns it
     };
-    std::vector<Step> m_path;
+    std::vector<Step> path;
 };

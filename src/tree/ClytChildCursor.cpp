@@ -8,14 +8,14 @@ ClytChildCursor lytChildCursor;
 
 bool ClytChildCursor::Start(const ClytNodeList& nodes, const char* key)
 {
-    for (POSITION position = nodes.GetHeadPosition(); position != nullptr;)
+    for (POSITION next = nodes.GetHeadPosition(); next != nullptr;)
     {
-        if (std::strcmp(nodes.GetNext(position)->m_szKey, key) != 0)
+        if (std::strcmp(nodes.GetNext(next)->key, key) != 0)
             continue;
-        if (position == nullptr)
+        if (next == nullptr)
             return false;
-        if (nodes.GetAt(position)->m_cType == 'S')
-            m_position = position;
+        if (nodes.GetAt(next)->type == 'S')
+            position = next;
         return true;
     }
     return false;
@@ -23,24 +23,24 @@ bool ClytChildCursor::Start(const ClytNodeList& nodes, const char* key)
 
 bool ClytChildCursor::Read(const ClytNodeList& nodes, CString& text, CString& path)
 {
-    if (m_position == nullptr)
+    if (position == nullptr)
         return false;
 
-    const ClytNode& node = *nodes.GetAt(m_position);
-    if (!m_levelKnown)
+    const ClytNode& node = *nodes.GetAt(position);
+    if (!levelKnown)
     {
-        m_level = node.m_nLevel;
-        m_levelKnown = true;
+        level = node.level;
+        levelKnown = true;
     }
-    if (node.m_nLevel != m_level)
+    if (node.level != level)
         return false;
 
     char label[lytShownLabelSize] = {};
-    lytExpandLabel(label, node.m_szLabel);
+    lytExpandLabel(label, node.label);
     text = label;
-    path = node.m_szKey;
+    path = node.key;
     path += '\\';
-    path += node.m_szLabel;
-    nodes.GetNext(m_position);
+    path += node.label;
+    nodes.GetNext(position);
     return true;
 }

@@ -13,14 +13,14 @@ public:
     // node of another level, where the cursor then stays.
     [[nodiscard]] bool Read(const ClytNodeList& nodes, CString& text, CString& path);
     // The nodes are about to be deleted: nothing is left to read.
-    void Forget() { m_position = nullptr; }
+    void Forget() { position = nullptr; }
 
 private:
-    POSITION m_position = nullptr;
+    POSITION position = nullptr;
     // The level of the very first node that was read in this process. It is never set again, so that children of a group
     // at another depth end their walk at once.
-    int m_level = 0;
-    bool m_levelKnown = false;
+    int level = 0;
+    bool levelKnown = false;
 };
 
 // The walk over `lytSymbolNodes`.

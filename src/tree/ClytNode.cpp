@@ -6,7 +6,7 @@
 void lytRestoreCurrentNode(ClytNodeList& nodes)
 {
     for (ClytNode& node : nodes)
-        node.m_nCurrent = node.m_nInitial == 1 ? 1 : 0;
+        node.current = node.initial == 1 ? 1 : 0;
 }
 
 void lytRestoreTreeChoice()

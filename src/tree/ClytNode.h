@@ -15,16 +15,16 @@ using HTREEITEM = _TREEITEM*;
 class ClytNode : public CObject
 {
 public:
-    ClytNode(HTREEITEM item, int level) : m_hItem(item), m_nLevel(level) {}
+    ClytNode(HTREEITEM nodeItem, int nodeLevel) : item(nodeItem), level(nodeLevel) {}
 
-    HTREEITEM m_hItem; // null when held but not shown; stale when no dialog is open
-    int m_nLevel;
-    char m_szLabel[LYT_TREE_TEXT_SIZE] = {}; // with its "##" marks
-    char m_szKey[LYT_TREE_TEXT_SIZE] = {};
-    char m_cType = '\0';   // 'H', 'G' or 'S'
-    int m_nCurrent = 0;    // 1 on the node that was last confirmed
-    UINT m_nItemState = 0; // what the control reported when a dialog was last confirmed
-    int m_nInitial = 0;    // 1 on the node that was selected when a dialog opened
+    HTREEITEM item; // null when held but not shown; stale when no dialog is open
+    int level;
+    char label[LYT_TREE_TEXT_SIZE] = {}; // with its "##" marks
+    char key[LYT_TREE_TEXT_SIZE] = {};
+    char type = '\0';   // 'H', 'G' or 'S'
+    int current = 0;    // 1 on the node that was last confirmed
+    UINT itemState = 0; // what the control reported when a dialog was last confirmed
+    int initial = 0;    // 1 on the node that was selected when a dialog opened
 };
 
 using ClytNodeList = ClytOwnedList<ClytNode>;

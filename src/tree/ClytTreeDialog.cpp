@@ -64,10 +64,10 @@ END_MESSAGE_MAP()
 
 ClytTreeDialog::ClytTreeDialog(const CString& request)
     : CDialog(IDD_TREE),
-      m_strStart(request.Mid(1)),
-      m_cKind(request[0] == 'P' ? 'G' : request[0]),
-      m_bPara(request[0] == 'P'),
-      m_nodes(m_bPara ? lytParaNodes : lytSymbolNodes)
+      startKey(request.Mid(1)),
+      kind(request[0] == 'P' ? 'G' : request[0]),
+      isPara(request[0] == 'P'),
+      nodes(isPara ? lytParaNodes : lytSymbolNodes)
 {
 }
 
@@ -76,13 +76,13 @@ BOOL ClytTreeDialog::OnInitDialog()
     CDialog::OnInitDialog();
     TakeSize();
     SetTexts();
-    m_ImageList.Create(16, 16, 0, 0, 8);
-    m_treeCtrl.m_hWnd = ::GetDlgItem(m_hWnd, IDC_TREE);
+    imageList.Create(16, 16, 0, 0, 8);
+    treeCtrl.m_hWnd = ::GetDlgItem(m_hWnd, IDC_TREE);
     {
         const WaitCursor waiting;
         HTREEITEM selection = nullptr;
         {
-            const ClytRedrawPause pause(m_treeCtrl);
+            const ClytRedrawPause pause(treeCtrl);
             LoadImages();
             FillTree();
             selection = ExpandTree();
@@ -117,43 +117,43 @@ void ClytTreeDialog::LoadImages()
 {
     // In the order of the pictures' numbers.
     for (const int icon : {IDI_HEADING, IDI_GROUP, IDI_SYMBOL})
-        m_ImageList.Add(LoadIconW(AfxGetResourceHandle(), MAKEINTRESOURCEW(icon)));
-    m_treeCtrl.SetImageList(&m_ImageList, TVSIL_NORMAL);
+        imageList.Add(LoadIconW(AfxGetResourceHandle(), MAKEINTRESOURCEW(icon)));
+    treeCtrl.SetImageList(&imageList, TVSIL_NORMAL);
 }
 
 void ClytTreeDialog::FillTree()
 {
-    ControlItems items(m_treeCtrl);
-    if (!m_nodes.IsEmpty())
+    ControlItems items(treeCtrl);
+    if (!nodes.IsEmpty())
     {
-        lytFillFromList(m_nodes, items, m_cKind);
+        lytFillFromList(nodes, items, kind);
         return;
     }
     ClytTreeSource source;
-    if (!lytGetTreeSource(m_bPara ? 'P' : 'S', source))
+    if (!lytGetTreeSource(isPara ? 'P' : 'S', source))
         return;
     try
     {
-        lytFillFromSource(m_nodes, source, &items, m_cKind);
+        lytFillFromSource(nodes, source, &items, kind);
     }
     catch (...)
     {
         // Nothing could be done with entries that have no node.
-        m_treeCtrl.DeleteAllItems();
+        treeCtrl.DeleteAllItems();
         throw;
     }
 }
 
 HTREEITEM ClytTreeDialog::ExpandTree()
 {
-    if (!m_strStart.IsEmpty())
+    if (!startKey.IsEmpty())
     {
-        const ClytNode* start = lytFindNode(m_nodes, m_cKind, m_strStart);
+        const ClytNode* start = lytFindNode(nodes, kind, startKey);
         if (start != nullptr)
-            m_strSelectKey = start->m_szKey;
+            selectKey = start->key;
     }
-    ControlItems items(m_treeCtrl);
-    return lytExpandNodes(m_nodes, {ReadNumber("TreeLevels"), lytTreeOpened == 0 && !m_bPara, m_strSelectKey}, items);
+    ControlItems items(treeCtrl);
+    return lytExpandNodes(nodes, {ReadNumber("TreeLevels"), lytTreeOpened == 0 && !isPara, selectKey}, items);
 }
 
 void ClytTreeDialog::SelectItem(HTREEITEM item)
@@ -161,18 +161,18 @@ void ClytTreeDialog::SelectItem(HTREEITEM item)
     if (item == nullptr)
         return;
     // Each selection scrolls its item into view, so this detour brings two siblings above into view as well.
-    m_treeCtrl.SelectItem(item);
-    m_treeCtrl.SelectItem(m_treeCtrl.GetPrevSiblingItem(m_treeCtrl.GetPrevSiblingItem(item)));
-    m_treeCtrl.SelectItem(item);
+    treeCtrl.SelectItem(item);
+    treeCtrl.SelectItem(treeCtrl.GetPrevSiblingItem(treeCtrl.GetPrevSiblingItem(item)));
+    treeCtrl.SelectItem(item);
 }
 
 void ClytTreeDialog::MarkInitialNode()
 {
-    if (m_bPara || lytTreeConfirmCount != 0)
+    if (isPara || lytTreeConfirmCount != 0)
         return;
     const ClytNode* initial =
-        m_cKind == 'G' ? lytFindCurrentNode(m_nodes) : lytFindNodeByItem(m_nodes, m_treeCtrl.GetSelectedItem());
-    lytMarkInitialNode(m_nodes, initial);
+        kind == 'G' ? lytFindCurrentNode(nodes) : lytFindNodeByItem(nodes, treeCtrl.GetSelectedItem());
+    lytMarkInitialNode(nodes, initial);
 }
 
 void ClytTreeDialog::OnOK()
@@ -180,7 +180,7 @@ void ClytTreeDialog::OnOK()
     // A choice that is refused below counts and is remembered all the same.
     CountConfirmation();
     StoreSize();
-    const ClytNode* chosen = lytFindNodeByItem(m_nodes, m_treeCtrl.GetSelectedItem());
+    const ClytNode* chosen = lytFindNodeByItem(nodes, treeCtrl.GetSelectedItem());
     StoreItemStates();
     if (chosen == nullptr)
     {
@@ -188,22 +188,22 @@ void ClytTreeDialog::OnOK()
         return;
     }
 
-    lytMarkCurrentNode(m_nodes, chosen);
-    if (m_cKind != 'W' && chosen->m_cType != m_cKind)
+    lytMarkCurrentNode(nodes, chosen);
+    if (kind != 'W' && chosen->type != kind)
     {
         lytReport(lytError("ChoiceRefused"));
         return;
     }
-    m_strResult = m_cKind == 'W' ? lytWizardChoice(*chosen) : chosen->m_szKey;
-    if (!m_bPara)
+    choice = kind == 'W' ? lytWizardChoice(*chosen) : chosen->key;
+    if (!isPara)
         ++lytTreeOpened;
     CDialog::OnOK();
 }
 
 void ClytTreeDialog::CountConfirmation() const
 {
-    if (!m_bPara)
-        lytTreeConfirmCount = m_cKind == 'W' ? -1 : lytTreeConfirmCount + 1;
+    if (!isPara)
+        lytTreeConfirmCount = kind == 'W' ? -1 : lytTreeConfirmCount + 1;
 }
 
 void ClytTreeDialog::StoreSize() const
@@ -216,11 +216,11 @@ void ClytTreeDialog::StoreSize() const
 
 void ClytTreeDialog::StoreItemStates()
 {
-    for (ClytNode& node : m_nodes)
-        node.m_nItemState = m_treeCtrl.GetItemState(node.m_hItem, TVIS_EXPANDED);
+    for (ClytNode& node : nodes)
+        node.itemState = treeCtrl.GetItemState(node.item, TVIS_EXPANDED);
 }
 
-void ClytTreeDialog::OnSize(UINT kind, int width, int height)
+void ClytTreeDialog::OnSize(UINT sizeKind, int width, int height)
 {
     // The row of buttons is off centre on purpose.
     if (CWnd* tree = GetDlgItem(IDC_TREE))
@@ -229,7 +229,7 @@ void ClytTreeDialog::OnSize(UINT kind, int width, int height)
         ok->SetWindowPos(nullptr, width / 2 - 120, height - 40, 0, 0, SWP_NOZORDER | SWP_NOSIZE);
     if (CWnd* cancel = GetDlgItem(IDCANCEL))
         cancel->SetWindowPos(nullptr, width / 2 + 17, height - 40, 0, 0, SWP_NOZORDER | SWP_NOSIZE);
-    CDialog::OnSize(kind, width, height);
+    CDialog::OnSize(sizeKind, width, height);
 }
 
 void ClytTreeDialog::OnItemExpanding(NMHDR* /*header*/, LRESULT* result)
@@ -240,7 +240,7 @@ void ClytTreeDialog::OnItemExpanding(NMHDR* /*header*/, LRESULT* result)
 
 void ClytTreeDialog::OnDoubleClick(NMHDR* /*header*/, LRESULT* result)
 {
-    if (!m_treeCtrl.ItemHasChildren(m_treeCtrl.GetSelectedItem()))
+    if (!treeCtrl.ItemHasChildren(treeCtrl.GetSelectedItem()))
         OnOK();
     *result = 0;
 }

@@ -21,13 +21,13 @@ public:
     explicit ClytTreeDialog(const CString& request);
 
     // The key of the entry picked; in kind W, its type, key and label.
-    const CString& GetResult() const { return m_strResult; }
+    const CString& GetResult() const { return choice; }
 
 protected:
     BOOL OnInitDialog() override;
     void OnOK() override;
 
-    afx_msg void OnSize(UINT kind, int width, int height);
+    afx_msg void OnSize(UINT sizeKind, int width, int height);
     afx_msg void OnItemExpanding(NMHDR* header, LRESULT* result);
     afx_msg void OnDoubleClick(NMHDR* header, LRESULT* result);
     DECLARE_MESSAGE_MAP()
@@ -45,14 +45,14 @@ private:
     void StoreItemStates();
 
     CTreeCtrl
-        m_treeCtrl; // holds the handle of control 1000 without joining it: a fill sends it a message for each record
-    CImageList m_ImageList;
-    CString m_strResult;
-    CString m_strSelectKey;
-    CString m_strStart;
-    char m_cKind;
-    bool m_bPara;
-    ClytNodeList& m_nodes; // lives as long as the process
+        treeCtrl; // holds the handle of control 1000 without joining it: a fill sends it a message for each record
+    CImageList imageList;
+    CString choice;
+    CString selectKey;
+    CString startKey;
+    char kind;
+    bool isPara;
+    ClytNodeList& nodes; // lives as long as the process
 };
 
 // Shows the browser. What the user has picked, when he confirmed it.

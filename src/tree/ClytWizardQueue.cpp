@@ -8,18 +8,18 @@ CString ClytWizardQueue::Begin(const CString& result)
     const int brace = result.Find('{', rest);
     const int list = brace < 0 ? rest : brace + 1;
 
-    m_queue = result.Mid(list);
-    m_pending = true;
+    queue = result.Mid(list);
+    pending = true;
     return result.Left(list);
 }
 
 std::optional<CString> ClytWizardQueue::Deliver()
 {
-    const int mark = m_queue.Find('|');
-    CString item = mark < 0 ? m_queue : m_queue.Left(mark + 1);
-    m_queue = mark < 0 ? CString() : m_queue.Mid(mark + 1);
-    m_pending = !m_queue.IsEmpty();
-    if (mark >= 0 && !m_pending)
+    const int mark = queue.Find('|');
+    CString item = mark < 0 ? queue : queue.Left(mark + 1);
+    queue = mark < 0 ? CString() : queue.Mid(mark + 1);
+    pending = !queue.IsEmpty();
+    if (mark >= 0 && !pending)
         return std::nullopt;
     return item;
 }

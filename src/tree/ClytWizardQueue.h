@@ -9,7 +9,7 @@ class ClytWizardQueue
 {
 public:
     // Whether texts are being delivered.
-    bool IsPending() const { return m_pending; }
+    bool IsPending() const { return pending; }
 
     // Takes a group dialog's result apart: what follows "/LIST" and the next "{" goes into the queue; what stands
     // before it, brace included, is the first text, which is returned. Without "/LIST" the brace is sought in the whole
@@ -21,8 +21,8 @@ public:
     std::optional<CString> Deliver();
 
 private:
-    CString m_queue; // undelivered texts, each but the last ended by "|"
-    bool m_pending = false;
+    CString queue; // undelivered texts, each but the last ended by "|"
+    bool pending = false;
 };
 
 extern ClytWizardQueue lytWizardQueue;

@@ -11,7 +11,7 @@ constexpr UINT openSelectedState = 98;
 
 bool WasLeftOpen(const ClytNode& node)
 {
-    return node.m_nItemState == openState || node.m_nItemState == openSelectedState;
+    return node.itemState == openState || node.itemState == openSelectedState;
 }
 
 } // namespace
@@ -25,13 +25,13 @@ HTREEITEM lytExpandNodes(const ClytNodeList& nodes, const ClytExpansion& expansi
     HTREEITEM pending = expansion.byLevels && expansion.selectKey.IsEmpty() ? items.GetRootItem() : nullptr;
     for (const ClytNode& node : nodes)
     {
-        if (expansion.byLevels ? node.m_nLevel < levels - 1 : WasLeftOpen(node))
-            items.ExpandItem(node.m_hItem);
+        if (expansion.byLevels ? node.level < levels - 1 : WasLeftOpen(node))
+            items.ExpandItem(node.item);
 
         // A later entry with the key overrides an earlier one.
-        const bool wanted = !expansion.selectKey.IsEmpty() && expansion.selectKey == node.m_szKey;
-        if (wanted || (pending == nullptr && node.m_nCurrent == 1))
-            pending = node.m_hItem;
+        const bool wanted = !expansion.selectKey.IsEmpty() && expansion.selectKey == node.key;
+        if (wanted || (pending == nullptr && node.current == 1))
+            pending = node.item;
     }
     return pending;
 }

@@ -50,16 +50,16 @@ void CopyField(Field& target, const Field& field)
 std::unique_ptr<ClytNode> NodeOf(const lytTreeRecord& record, const EntryType& type)
 {
     auto node = std::make_unique<ClytNode>(nullptr, record.nLevel);
-    CopyField(node->m_szKey, record.szKey);
-    CopyField(node->m_szLabel, record.szLabel);
-    node->m_cType = type.letter;
+    CopyField(node->key, record.szKey);
+    CopyField(node->label, record.szLabel);
+    node->type = type.letter;
     return node;
 }
 
 HTREEITEM Show(const ClytNode& node, HTREEITEM parent, ClytTreeItems& items, int image)
 {
     char label[lytShownLabelSize] = {};
-    lytExpandLabel(label, node.m_szLabel);
+    lytExpandLabel(label, node.label);
     return items.InsertItem(parent, label, image);
 }
 
@@ -112,14 +112,14 @@ void lytFillFromSource(ClytNodeList& nodes, const ClytTreeSource& source, ClytTr
             break;
         type = &TypeOf(record.nType, *type);
         ClytNode& node = run.AddTail(NodeOf(record, *type));
-        const HTREEITEM parent = ancestors.lytFindParentItem(node.m_nLevel);
-        ancestors.Add(node.m_nLevel, &node);
+        const HTREEITEM parent = ancestors.lytFindParentItem(node.level);
+        ancestors.Add(node.level, &node);
 
         // Here the number decides, not the type that was taken over: a group by inheritance is shown from the second
         // opening on.
         const bool shown = kind != 'G' || record.nType == LYT_TREE_HEADING || record.nType == LYT_TREE_GROUP;
         if (items != nullptr && shown)
-            node.m_hItem = Show(node, parent, *items, type->image);
+            node.item = Show(node, parent, *items, type->image);
     }
     Replace(nodes, run);
 }
@@ -129,10 +129,10 @@ void lytFillFromList(ClytNodeList& nodes, ClytTreeItems& items, char kind)
     ClytAncestors ancestors;
     for (ClytNode& node : nodes)
     {
-        const HTREEITEM parent = ancestors.lytFindParentItem(node.m_nLevel);
-        ancestors.Add(node.m_nLevel, &node);
+        const HTREEITEM parent = ancestors.lytFindParentItem(node.level);
+        ancestors.Add(node.level, &node);
 
-        const bool shown = kind != 'G' || node.m_cType == 'G' || node.m_cType == 'H';
-        node.m_hItem = shown ? Show(node, parent, items, ImageOf(node.m_cType)) : nullptr;
+        const bool shown = kind != 'G' || node.type == 'G' || node.type == 'H';
+        node.item = shown ? Show(node, parent, items, ImageOf(node.type)) : nullptr;
     }
 }

@@ -30,12 +30,12 @@ const ClytNode* lytFindNodeByItem(const ClytNodeList& nodes, HTREEITEM item)
 {
     if (item == nullptr)
         return nullptr;
-    return FindFirst(nodes, [item](const ClytNode& node) { return node.m_hItem == item; });
+    return FindFirst(nodes, [item](const ClytNode& node) { return node.item == item; });
 }
 
 const ClytNode* lytFindCurrentNode(const ClytNodeList& nodes)
 {
-    return FindFirst(nodes, [](const ClytNode& node) { return node.m_nCurrent == 1; });
+    return FindFirst(nodes, [](const ClytNode& node) { return node.current == 1; });
 }
 
 const ClytNode* lytFindNode(const ClytNodeList& nodes, char kind, const char* text)
@@ -44,12 +44,11 @@ const ClytNode* lytFindNode(const ClytNodeList& nodes, char kind, const char* te
     ClytAncestors nearest; // for each node above: where a climb from it ends
     for (const ClytNode& node : nodes)
     {
-        const ClytNode* above = nearest.FindAbove(node.m_nLevel);
-        const ClytNode* climbed = node.m_cType == kind ? &node : above;
-        nearest.Add(node.m_nLevel, climbed);
+        const ClytNode* above = nearest.FindAbove(node.level);
+        const ClytNode* climbed = node.type == kind ? &node : above;
+        nearest.Add(node.level, climbed);
 
-        const bool named =
-            kind == 'G' ? std::strcmp(text, node.m_szKey) == 0 : std::strncmp(text, node.m_szKey, length) == 0;
+        const bool named = kind == 'G' ? std::strcmp(text, node.key) == 0 : std::strncmp(text, node.key, length) == 0;
         if (named && climbed != nullptr)
             return climbed;
     }
@@ -58,22 +57,22 @@ const ClytNode* lytFindNode(const ClytNodeList& nodes, char kind, const char* te
 
 void lytMarkCurrentNode(ClytNodeList& nodes, const ClytNode* current)
 {
-    Mark(nodes, &ClytNode::m_nCurrent, current);
+    Mark(nodes, &ClytNode::current, current);
 }
 
 void lytMarkInitialNode(ClytNodeList& nodes, const ClytNode* initial)
 {
-    Mark(nodes, &ClytNode::m_nInitial, initial);
+    Mark(nodes, &ClytNode::initial, initial);
 }
 
 CString lytWizardChoice(const ClytNode& node)
 {
     // A heading has no key to be inserted by.
-    CString choice(node.m_cType);
+    CString choice(node.type);
     choice += '/';
-    if (node.m_cType != 'H')
-        choice += node.m_szKey;
+    if (node.type != 'H')
+        choice += node.key;
     choice += '/';
-    choice += node.m_szLabel;
+    choice += node.label;
     return choice;
 }

@@ -1,6 +1,6 @@
 #include "liveform/LiveForm.h"
 
-#include "base/Counted.h"
+#include "base/ClytCounted.h"
 #include "liveform/UserActs.h"
 #include "robot/WindowRobot.h"
 
@@ -95,7 +95,7 @@ std::string LiveForm::DefaultButtonFor(const CString& name) const
 
 void LiveForm::RunDependencies()
 {
-    const Counted run(m_openRuns);
+    const ClytCounted run(m_openRuns);
     ++runCount;
     deepestRun = std::max(deepestRun, m_openRuns);
     ClytDialog::RunDependencies();

@@ -20,7 +20,7 @@ bool IsSelfOrParent(const CString& name)
 CString FileDateText(const std::tm& time)
 {
     std::tm shown = time;
-    if ((time.tm_year < 0 && !LocalTimeOf(0, shown)) || time.tm_year > lastYear)
+    if ((time.tm_year < 0 && !lytLocalTimeOf(0, shown)) || time.tm_year > lastYear)
         return "";
     char text[128] = "";
     const size_t length = std::strftime(text, sizeof text, "%c", &shown);

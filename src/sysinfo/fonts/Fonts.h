@@ -9,14 +9,14 @@
 class ClytINISection;
 
 // One font that the platform has under a name asked for.
-struct lytFontEntry
+struct FontEntry
 {
     CString fullName;
     unsigned char charset = 0;
 };
 
 // Lists the fonts of a name, in the order of the platform.
-using ListFonts = std::function<std::vector<lytFontEntry>(const CString& name)>;
+using ListFonts = std::function<std::vector<FontEntry>(const CString& name)>;
 
 // "<unknown>" for a number that names no character set.
 const char* lytCharsetName(unsigned char charset);

@@ -42,7 +42,7 @@ CString Narrow(const WCHAR* text, size_t room)
 
 struct Enumeration
 {
-    std::vector<lytFontEntry> entries;
+    std::vector<FontEntry> entries;
     CallbackFailure failure;
 };
 
@@ -57,7 +57,7 @@ int CALLBACK KeepFont(const LOGFONTW* font, const TEXTMETRICW* /*metric*/, DWORD
     return enumeration.failure.Run(keep) ? 1 : 0;
 }
 
-std::vector<lytFontEntry> EnumerateFonts(const CString& name)
+std::vector<FontEntry> EnumerateFonts(const CString& name)
 {
     LOGFONTW wanted = {};
     wanted.lfCharSet = DEFAULT_CHARSET;

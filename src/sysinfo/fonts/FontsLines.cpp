@@ -8,7 +8,7 @@ namespace
 {
 
 // Names in the order of their bytes, a shorter one ahead of its continuations.
-using lytFontMap = std::map<CString, std::vector<lytFontEntry>>;
+using FontMap = std::map<CString, std::vector<FontEntry>>;
 
 CString TableLine(const char* family, const char* name, const char* charset)
 {
@@ -23,10 +23,10 @@ CString Rule(const CString& heading)
 }
 
 // The fonts of one name. Equal lines in a row are shown once: fonts that differ in nothing that the table shows.
-void AddEntryLines(const std::vector<lytFontEntry>& entries, CStringList& lines)
+void AddEntryLines(const std::vector<FontEntry>& entries, CStringList& lines)
 {
     CString last;
-    for (const lytFontEntry& entry : entries)
+    for (const FontEntry& entry : entries)
     {
         const CString line = TableLine("", entry.fullName, lytCharsetName(entry.charset));
         if (line == last)
@@ -36,7 +36,7 @@ void AddEntryLines(const std::vector<lytFontEntry>& entries, CStringList& lines)
     }
 }
 
-void AddTable(const lytFontMap& fonts, CStringList& lines)
+void AddTable(const FontMap& fonts, CStringList& lines)
 {
     const CString heading = TableLine("Font Family", "Font Name", "Character set");
     const CString rule = Rule(heading);
@@ -97,7 +97,7 @@ void AddFontLines(const CString& iniFile, const ClytINISection* section, const L
         return;
     }
 
-    lytFontMap fonts;
+    FontMap fonts;
     for (const ClytINIStruct& entry : *section)
     {
         lines.AddTail("  " + entry.key + "=" + entry.value);

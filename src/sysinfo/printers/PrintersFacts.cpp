@@ -25,21 +25,21 @@ public:
     {
         BYTE probe = 0;
         DWORD size = 0;
-        count = 0;
-        EnumPrintersA(flags, nullptr, level, &probe, sizeof probe, &size, &count);
-        block.resize(std::max<size_t>(size, sizeof probe));
-        return EnumPrintersA(flags, nullptr, level, block.data(), size, &size, &count) != FALSE;
+        m_count = 0;
+        EnumPrintersA(flags, nullptr, level, &probe, sizeof probe, &size, &m_count);
+        m_block.resize(std::max<size_t>(size, sizeof probe));
+        return EnumPrintersA(flags, nullptr, level, m_block.data(), size, &size, &m_count) != FALSE;
     }
 
     template <class Record>
     std::span<const Record> As() const
     {
-        return {static_cast<const Record*>(static_cast<const void*>(block.data())), count};
+        return {static_cast<const Record*>(static_cast<const void*>(m_block.data())), m_count};
     }
 
 private:
-    std::vector<BYTE> block;
-    DWORD count = 0;
+    std::vector<BYTE> m_block;
+    DWORD m_count = 0;
 };
 
 // The text of a system error, without its line end.

@@ -40,14 +40,14 @@ TEST_F(FileName, FitsUpToTheLengthThatThePlatformCounts)
 
 TEST_F(FileName, BeyondThatLengthIsAMissingConfigurationFile)
 {
-    ASSERT_EQ(ReadProfileText("Section", "Key", "none", 75, fileName.c_str()), "Value");
+    ASSERT_EQ(lytReadProfileText("Section", "Key", "none", 75, fileName.c_str()), "Value");
     for (const std::string& name : TooLongNames(fileName))
     {
         SCOPED_TRACE(name.size());
-        EXPECT_EQ(ReadProfileText("Section", "Key", "none", 75, name.c_str()), "none");
-        EXPECT_EQ(ReadProfileText("Section", "Key", "none", 3, name.c_str()), "no");
+        EXPECT_EQ(lytReadProfileText("Section", "Key", "none", 75, name.c_str()), "none");
+        EXPECT_EQ(lytReadProfileText("Section", "Key", "none", 3, name.c_str()), "no");
         char lines[20] = "untouched";
-        EXPECT_EQ(ReadProfileSection("Section", lines, sizeof lines, name.c_str()), 0);
+        EXPECT_EQ(lytReadProfileSection("Section", lines, sizeof lines, name.c_str()), 0);
         EXPECT_STREQ(lines, "");
     }
 }

@@ -1,6 +1,6 @@
 #include "Form.h"
 
-#include "base/Counted.h"
+#include "base/ClytCounted.h"
 #include "support/DataFunction.h"
 #include "support/Dice.h"
 
@@ -62,7 +62,7 @@ public:
     void Enter(int field, const std::string& text)
     {
         texts[field] = text;
-        const Counted run(runs);
+        const ClytCounted run(runs);
         deepestRun = std::max(deepestRun, runs);
         for (Rule& rule : rules)
         {

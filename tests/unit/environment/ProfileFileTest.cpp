@@ -21,7 +21,7 @@ constexpr const char* defaultText = "default";
 std::string ReadText(const std::string& content, const char* section, const char* key, int size = 75)
 {
     const TestFolder folder;
-    return ReadProfileText(section, key, defaultText, size, folder.Write("test.ini", content).c_str()).GetString();
+    return lytReadProfileText(section, key, defaultText, size, folder.Write("test.ini", content).c_str()).GetString();
 }
 
 // The value that the text after `k=` reads as.
@@ -48,7 +48,7 @@ Section ReadSection(const std::string& content, const char* section = "s", int s
     constexpr size_t guardLength = 16;
     const TestFolder folder;
     std::string buffer(static_cast<size_t>(size) + guardLength, '#');
-    const int count = ReadProfileSection(section, buffer.data(), size, folder.Write("test.ini", content).c_str());
+    const int count = lytReadProfileSection(section, buffer.data(), size, folder.Write("test.ini", content).c_str());
     EXPECT_EQ(buffer.substr(static_cast<size_t>(size)), std::string(guardLength, '#'));
 
     const size_t end = buffer.find("\0\0"s);
@@ -209,10 +209,10 @@ TEST(ProfileText, GivesTheDefaultWhenSomethingIsMissing)
     EXPECT_EQ(ReadText("", "s", "k"), defaultText);
     EXPECT_EQ(ReadText("[s]", "s", "k"), defaultText);
     EXPECT_EQ(ReadText("[t]\r\nk=v\r\n", "s", "k"), defaultText);
-    EXPECT_EQ(ReadProfileText("s", "k", "no file", 75, (path + "\\none.ini").c_str()), "no file");
-    EXPECT_EQ(ReadProfileText("s", "k", "no folder", 75, (path + "\\none\\none.ini").c_str()), "no folder");
-    EXPECT_EQ(ReadProfileText("s", "k", "a folder", 75, path.c_str()), "a folder");
-    EXPECT_EQ(ReadProfileText("s", "k", "no name", 75, ""), "no name");
+    EXPECT_EQ(lytReadProfileText("s", "k", "no file", 75, (path + "\\none.ini").c_str()), "no file");
+    EXPECT_EQ(lytReadProfileText("s", "k", "no folder", 75, (path + "\\none\\none.ini").c_str()), "no folder");
+    EXPECT_EQ(lytReadProfileText("s", "k", "a folder", 75, path.c_str()), "a folder");
+    EXPECT_EQ(lytReadProfileText("s", "k", "no name", 75, ""), "no name");
 }
 
 TEST(ProfileText, TakesBlanksOffTheEndOfADefaultAndItsQuotes)
@@ -230,8 +230,8 @@ TEST(ProfileText, TakesBlanksOffTheEndOfADefaultAndItsQuotes)
     for (const auto& c : cases)
     {
         SCOPED_TRACE(c.given);
-        EXPECT_EQ(ReadProfileText("s", "k", c.given, 75, file.c_str()), c.read);
-        EXPECT_EQ(ReadProfileText("s", "empty", c.given, 75, file.c_str()), "");
+        EXPECT_EQ(lytReadProfileText("s", "k", c.given, 75, file.c_str()), c.read);
+        EXPECT_EQ(lytReadProfileText("s", "empty", c.given, 75, file.c_str()), "");
     }
 }
 
@@ -365,9 +365,9 @@ TEST(ProfileSection, IsEmptyWhenSomethingIsMissing)
 {
     char buffer[] = "#####";
     const TestFolder folder;
-    EXPECT_EQ(ReadProfileSection("s", buffer, 3, (folder.Path() + "\\none.ini").c_str()), 0);
+    EXPECT_EQ(lytReadProfileSection("s", buffer, 3, (folder.Path() + "\\none.ini").c_str()), 0);
     EXPECT_STREQ(buffer, "");
-    EXPECT_EQ(ReadProfileSection("s", buffer, 3, folder.Path().c_str()), 0);
+    EXPECT_EQ(lytReadProfileSection("s", buffer, 3, folder.Path().c_str()), 0);
     EXPECT_EQ(ReadSection(""), (Section{0, ""}));
     EXPECT_EQ(ReadSection("[s]\r\n"), (Section{0, ""}));
     EXPECT_EQ(ReadSection("[t]\r\na=1\r\n"), (Section{0, ""}));

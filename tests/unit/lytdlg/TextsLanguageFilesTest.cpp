@@ -66,8 +66,9 @@ TEST(LanguageFiles, FindWhatTheLibraryFinds)
             for (const char* key : {"k", "K", " k ", "", "a", "\xDC"})
             {
                 const std::string text = language->Text("Test", section, key);
-                EXPECT_EQ(text,
-                          ReadProfileText(section, key, "no value present", 200, language.File().c_str()).GetString())
+                EXPECT_EQ(
+                    text,
+                    lytReadProfileText(section, key, "no value present", 200, language.File().c_str()).GetString())
                     << section << "/" << key;
                 EXPECT_EQ(language->Has("Test", section, key), text != "no value present") << section << "/" << key;
             }

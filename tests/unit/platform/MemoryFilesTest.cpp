@@ -56,8 +56,8 @@ TEST_F(MemoryFile, StaysOpenWhenItIsPutAgainOrRemoved)
 
 TEST_F(MemoryFile, IsAProfileFile)
 {
-    EXPECT_EQ(ReadProfileText("a", "key", "", 100, name), "value");
-    EXPECT_EQ(ReadProfileText("a", "key", "none", 100, "memory:\\other"), "none");
+    EXPECT_EQ(lytReadProfileText("a", "key", "", 100, name), "value");
+    EXPECT_EQ(lytReadProfileText("a", "key", "none", 100, "memory:\\other"), "none");
 }
 
 TEST_F(MemoryFile, IsWrittenAtItsEnd)

@@ -107,7 +107,7 @@ TEST(FileListing, WordsDatesAsTheRuntimeDoes)
     for (const int year : {1900, 1969, 2026, 9999})
         EXPECT_EQ(FileDateText(Date(year)), Format(Date(year)).c_str());
     std::tm zero = {};
-    ASSERT_TRUE(LocalTimeOf(0, zero));
+    ASSERT_TRUE(lytLocalTimeOf(0, zero));
     for (const int year : {1899, 1601, 0})
         EXPECT_EQ(FileDateText(Date(year)), Format(zero).c_str()) << "the time value 0 stands for " << year;
     for (const int year : {10000, 30827})

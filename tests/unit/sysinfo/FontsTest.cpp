@@ -59,7 +59,7 @@ protected:
     }
 
     ClytINISection section{"", ""};
-    std::vector<lytFontEntry> installed;
+    std::vector<FontEntry> installed;
     Texts asked;
 };
 
@@ -69,7 +69,7 @@ TEST_F(Fonts, SectionThatCannotBeReadEndsThePart)
 {
     CStringList lines;
     AddFontLines(
-        "C:\\lyt.ini", nullptr, [](const CString&) { return std::vector<lytFontEntry>(); }, lines);
+        "C:\\lyt.ini", nullptr, [](const CString&) { return std::vector<FontEntry>(); }, lines);
     EXPECT_EQ(TextsOf(lines), (Texts{"Fonts Information from C:\\lyt.ini", "Section is EMPTY or not found!"}));
 }
 

@@ -117,15 +117,15 @@ const ClytNode* SearchByWalkingBack(const ClytNodeList& nodes, char kind, const 
 {
     for (int match = 0; match < nodes.GetCount(); ++match)
     {
-        const std::string key = NodeAt(nodes, match).m_szKey;
+        const std::string key = NodeAt(nodes, match).key;
         if (kind == 'G' ? key != text : !key.starts_with(text))
             continue;
         for (int place = match; place >= 0;)
         {
             const ClytNode* node = &NodeAt(nodes, place);
-            if (node->m_cType == kind)
+            if (node->type == kind)
                 return node;
-            while (place >= 0 && NodeAt(nodes, place).m_nLevel >= node->m_nLevel)
+            while (place >= 0 && NodeAt(nodes, place).level >= node->level)
                 --place;
         }
     }
@@ -238,19 +238,18 @@ TEST_F(Nodes, TakeTypeAndTextsOfTheirRecords)
           Record(0, 4, "", "")});
     // A number that is no type's takes over the type before, which is a heading at first.
     EXPECT_EQ(items.images, "011122");
-    EXPECT_EQ(NodeAt(nodes, 0).m_nLevel, -7);
-    EXPECT_STREQ(NodeAt(nodes, 0).m_szLabel, "a##b");
+    EXPECT_EQ(NodeAt(nodes, 0).level, -7);
+    EXPECT_STREQ(NodeAt(nodes, 0).label, "a##b");
     // A text without an end is empty.
-    EXPECT_STREQ(NodeAt(nodes, 1).m_szLabel, "");
-    EXPECT_STREQ(NodeAt(nodes, 1).m_szKey, "k");
-    EXPECT_STREQ(NodeAt(nodes, 2).m_szLabel, "l");
-    EXPECT_STREQ(NodeAt(nodes, 2).m_szKey, "");
-    EXPECT_EQ(NodeAt(nodes, 4).m_szLabel + std::string(NodeAt(nodes, 4).m_szKey),
-              std::string(99, 'x') + std::string(99, 'y'));
+    EXPECT_STREQ(NodeAt(nodes, 1).label, "");
+    EXPECT_STREQ(NodeAt(nodes, 1).key, "k");
+    EXPECT_STREQ(NodeAt(nodes, 2).label, "l");
+    EXPECT_STREQ(NodeAt(nodes, 2).key, "");
+    EXPECT_EQ(NodeAt(nodes, 4).label + std::string(NodeAt(nodes, 4).key), std::string(99, 'x') + std::string(99, 'y'));
     for (POSITION place = nodes.GetHeadPosition(); place != nullptr;)
     {
         const ClytNode& node = *nodes.GetNext(place);
-        EXPECT_TRUE(node.m_nCurrent == 0 && node.m_nItemState == 0 && node.m_nInitial == 0);
+        EXPECT_TRUE(node.current == 0 && node.itemState == 0 && node.initial == 0);
     }
 }
 
@@ -277,7 +276,7 @@ TEST_F(Nodes, AreOpenedByTheirLevelOrByTheExactStateThatTheyWereLeftIn)
     EXPECT_EQ(opened(INT_MAX, true), "123");
     for (UINT state = 0; state < 256; ++state)
     {
-        nodes.GetAt(nodes.FindIndex(1))->m_nItemState = state;
+        nodes.GetAt(nodes.FindIndex(1))->itemState = state;
         EXPECT_EQ(opened(9, false), state == 96 || state == 98 ? "2" : "") << state;
     }
 }

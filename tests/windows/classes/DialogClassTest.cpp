@@ -15,8 +15,8 @@ protected:
     static ClytNode& AddNode(int current, int initial)
     {
         ClytNode& node = lytSymbolNodes.AddTail(std::make_unique<ClytNode>(nullptr, 1));
-        node.m_nCurrent = current;
-        node.m_nInitial = initial;
+        node.current = current;
+        node.initial = initial;
         return node;
     }
 };
@@ -56,8 +56,8 @@ TEST_F(DialogClass, CancelGivesTheTreeItsPlaceBack)
     lytTreeConfirmCount = 3;
     dialog.SendMessage(WM_COMMAND, IDCANCEL);
     EXPECT_EQ(lytTreeConfirmCount, 0);
-    EXPECT_EQ(confirmed.m_nCurrent, 0);
-    EXPECT_EQ(first.m_nCurrent, 1);
+    EXPECT_EQ(confirmed.current, 0);
+    EXPECT_EQ(first.current, 1);
 }
 
 TEST_F(DialogClass, CancelAfterAConfirmationInTheWizardLeavesTheTree)
@@ -67,8 +67,8 @@ TEST_F(DialogClass, CancelAfterAConfirmationInTheWizardLeavesTheTree)
     lytTreeConfirmCount = -1;
     dialog.SendMessage(WM_COMMAND, IDCANCEL);
     EXPECT_EQ(lytTreeConfirmCount, -1);
-    EXPECT_EQ(confirmed.m_nCurrent, 1);
-    EXPECT_EQ(first.m_nCurrent, 0);
+    EXPECT_EQ(confirmed.current, 1);
+    EXPECT_EQ(first.current, 0);
 }
 
 TEST_F(DialogClass, IsBuiltWithoutTouchingItsDescription)
