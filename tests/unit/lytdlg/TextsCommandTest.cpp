@@ -36,6 +36,12 @@ std::string LibraryTexts()
     return texts;
 }
 
+// How many texts there are with so many of the dialog.
+std::string Count(size_t own)
+{
+    return std::to_string(lytdlg::LibraryTexts().size() + own);
+}
+
 // A folder with a dialog and texts for it.
 class DialogFolder : public TestFolder
 {
@@ -43,8 +49,8 @@ public:
     DialogFolder(const DescriptionText& dialog, const std::string& english, const std::string& german)
     {
         Write("a.dlg", dialog());
-        Write("lang/English.nls", LibraryTexts() + english);
-        Write("lang/German.nls", LibraryTexts() + german);
+        Write("lang/English.nls", english + LibraryTexts());
+        Write("lang/German.nls", german + LibraryTexts());
     }
 
     // The lines of the output that are not about the library.
@@ -108,10 +114,10 @@ TEST(Texts, ShowEachKeyWithItsPlacesAndWhatIsMissing)
     dialog.layout = "Text 1,2,3,4,\"Label\",.A\nText 1,2,3,4,\"label\",.B\n";
     const DialogFolder folder(dialog, "[S]\nTitle=T\nLabel=L\n", "[S]\nTitle=T\n");
     EXPECT_EQ(folder.Lines(1), "SECTION       KEY           English  German   USED BY\n"
-                               "S             TITLE         line 41  line 41  a.dlg:3\n"
-                               "S             Label         line 42  missing  a.dlg:4, a.dlg:5\n"
-                               "\n"
-                               "38 texts, 1 missing\n");
+                               "S             TITLE         line 2   line 2   a.dlg:3\n"
+                               "S             Label         line 3   missing  a.dlg:4, a.dlg:5\n"
+                               "\n" +
+                                   Count(2) + " texts, 1 missing\n");
 }
 
 TEST(Texts, TellWhatIsWrongWithAText)
@@ -123,12 +129,12 @@ TEST(Texts, TellWhatIsWrongWithAText)
         dialog, "[S]\nTITLE=It's\nLabel=It's\nUnused=a & b %\nSame=x\nLong=" + tooLong + "\nSame=y\nNothing\n[s]\nA=\n",
         "[S]\nTITLE=Es\nLabel=Es\nUnused=a\\n\nSame=x\nLong=x\nNothing=\n");
     EXPECT_EQ(folder.Lines(1), "SECTION       KEY           English  German   USED BY\n"
-                               "S             TITLE         line 41  line 41  a.dlg:3\n"
-                               "S             Label         line 42  line 42  a.dlg:4\n"
-                               "S             Unused        line 43  line 43  -\n"
-                               "S             Same          line 44  line 44  -\n"
-                               "S             Long          line 45  line 45  -\n"
-                               "S             Nothing       missing  line 46  -\n"
+                               "S             TITLE         line 2   line 2   a.dlg:3\n"
+                               "S             Label         line 3   line 3   a.dlg:4\n"
+                               "S             Unused        line 4   line 4   -\n"
+                               "S             Same          line 5   line 5   -\n"
+                               "S             Long          line 6   line 6   -\n"
+                               "S             Nothing       missing  line 7   -\n"
                                "s             A             -        -        -\n"
                                "\n"
                                "[S] TITLE: different apostrophes: English 1, German 0\n"
@@ -139,15 +145,15 @@ TEST(Texts, TellWhatIsWrongWithAText)
                                "[S] Unused: different line ends (\\n): English 0, German 1\n"
                                "[S] Unused: different ampersands: English 1, German 0\n"
                                "[S] Same: unused\n"
-                               "[S] Same: never read in English, line 46: its key or section stands there twice\n"
+                               "[S] Same: never read in English, line 7: its key or section stands there twice\n"
                                "[S] Long: unused\n"
                                "[S] Long: cut in English: 75 bytes, 74 are shown\n"
                                "[S] Nothing: unused\n"
-                               "[S] Nothing: no = in English, line 47\n"
+                               "[S] Nothing: no = in English, line 8\n"
                                "[s] A: unused\n"
-                               "[s] A: never read in English, line 49: its key or section stands there twice\n"
-                               "\n"
-                               "43 texts, 1 missing\n");
+                               "[s] A: never read in English, line 10: its key or section stands there twice\n"
+                               "\n" +
+                                   Count(7) + " texts, 1 missing\n");
 }
 
 TEST(Texts, AreShownInUtf8)
@@ -164,14 +170,14 @@ TEST(Texts, AreGivenAsJsonToo)
     const json told = json::parse(run.output);
     EXPECT_EQ(told.at("missing"), 2);
     EXPECT_EQ(told.at("texts").front(), json::parse(R"({"section": "Buttons", "key": "001", "uses": [{"library": true}],
-        "texts": [{"language": "English", "line": 2, "text": "x"}, {"language": "German", "line": 2, "text": "x"}],
+        "texts": [{"language": "English", "line": 4, "text": "x"}, {"language": "German", "line": 4, "text": "x"}],
         "remarks": []})"));
-    EXPECT_EQ(told.at("texts").at(36), json::parse(R"({"section": "S", "key": "TITLE",
+    EXPECT_EQ(told.at("texts").at(lytdlg::LibraryTexts().size()), json::parse(R"({"section": "S", "key": "TITLE",
         "uses": [{"file": "a.dlg", "line": 3}],
-        "texts": [{"language": "English", "line": 41, "text": "\"a\" \\n"}, {"language": "German", "missing": true}],
+        "texts": [{"language": "English", "line": 2, "text": "\"a\" \\n"}, {"language": "German", "missing": true}],
         "remarks": []})"));
     EXPECT_EQ(told.at("texts").back(), json::parse(R"({"section": "S", "key": "TITLE2", "uses": [],
-        "texts": [{"language": "English", "missing": true}, {"language": "German", "line": 41, "text": "x"}],
+        "texts": [{"language": "English", "missing": true}, {"language": "German", "line": 2, "text": "x"}],
         "remarks": ["unused"]})"));
 }
 

@@ -2,6 +2,7 @@
 #include "DoctorFolder.h"
 #include "SourceNames.h"
 
+#include "environment/ErrorTable.h"
 #include "lytdlg/doctor/Checks.h"
 
 namespace
@@ -46,9 +47,10 @@ TEST(DoctorOnDialogs, TellsOfASectionOfTheLibraryAsOneThing)
     const DoctorFolder folder;
     folder.Replace("dialogs/lang/English.nls", "[Dialog_Error]", "[Dialog_Errors]");
     EXPECT_EQ(folder.Findings(),
-              "wrong    texts          dialogs/lang/English.nls: the section [Dialog_Error] is missing, with 33 texts "
-              "of the library\n"
-              "                        hint: copy the section from a language file of the samples\n");
+              "wrong    texts          dialogs/lang/English.nls: the section [Dialog_Error] is missing, with " +
+                  std::to_string(std::size(lytErrors)) +
+                  " texts of the library\n"
+                  "                        hint: copy the section from a language file of the samples\n");
 }
 
 TEST(DoctorOnDialogs, TellsOfTextsThatDoNotShowWhatTheyShould)
