@@ -117,7 +117,7 @@ size_t Activation::LineOfHandler()
     throw MacroError(syntaxError, "there is no label " + label);
 }
 
-std::shared_ptr<Variable> Activation::Find(const std::string& name)
+std::shared_ptr<Variable> Activation::Find(const std::string& name) const
 {
     const auto local = m_locals.find(name);
     if (local != m_locals.end())
@@ -126,15 +126,10 @@ std::shared_ptr<Variable> Activation::Find(const std::string& name)
     return variable != m_interpreter.m_variables.end() ? variable->second : nullptr;
 }
 
-std::optional<Value> Activation::FindConstant(const std::string& name)
+std::optional<Value> Activation::FindConstant(const std::string& name) const
 {
     const auto found = m_constants.find(name);
     return found != m_constants.end() ? found->second : m_interpreter.FindConstant(name);
-}
-
-Value Activation::Call(const std::string& name, const Arguments& arguments)
-{
-    return m_interpreter.Call(name, arguments);
 }
 
 Activation::Flow Activation::RunLines(size_t first, size_t last)

@@ -6,18 +6,21 @@
 namespace macros
 {
 
-class Activation : public Scope
+class Activation
 {
 public:
     Activation(Interpreter& interpreter, const Procedure& procedure, const Arguments& arguments);
 
     Value Run();
 
-    std::shared_ptr<Variable> Find(const std::string& name) override;
-    Value Call(const std::string& name, const Arguments& arguments) override;
-    std::optional<Value> FindConstant(const std::string& name) override;
-    long long LastError() override { return m_interpreter.m_libraries.LastError(); }
-    std::string Description() override { return m_caught; }
+    // The variable of that name, or null.
+    std::shared_ptr<Variable> Find(const std::string& name) const;
+    // Raises MacroError when there is no function or procedure of that name.
+    Value Call(const std::string& name, const Arguments& arguments) { return m_interpreter.Call(name, arguments); }
+    std::optional<Value> FindConstant(const std::string& name) const;
+    long long LastError() const { return m_interpreter.m_libraries.LastError(); }
+    // The text of the error that was caught last.
+    const std::string& Description() const { return m_caught; }
 
 private:
     enum class Flow

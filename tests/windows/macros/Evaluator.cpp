@@ -1,5 +1,7 @@
 #include "Evaluator.h"
 
+#include "Activation.h"
+
 namespace macros
 {
 

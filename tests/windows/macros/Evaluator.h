@@ -4,30 +4,16 @@
 #include "LibraryCall.h"
 #include "Source.h"
 
-#include <optional>
-
 namespace macros
 {
 
-// What expressions see of the procedure that they are in, and of its module.
-class Scope
-{
-public:
-    virtual ~Scope() = default;
-    // The variable of that name, or null.
-    virtual std::shared_ptr<Variable> Find(const std::string& name) = 0;
-    // Raises MacroError when there is no function or procedure of that name.
-    virtual Value Call(const std::string& name, const Arguments& arguments) = 0;
-    virtual std::optional<Value> FindConstant(const std::string& name) = 0;
-    virtual long long LastError() = 0;
-    // The text of the error that was caught last.
-    virtual std::string Description() { return ""; }
-};
+class Activation;
 
 class Evaluator
 {
 public:
-    Evaluator(Scope& scope, const Tokens& tokens, size_t place = 0) : m_scope(scope), m_tokens(tokens), m_place(place)
+    Evaluator(Activation& scope, const Tokens& tokens, size_t place = 0)
+        : m_scope(scope), m_tokens(tokens), m_place(place)
     {
     }
 
@@ -54,7 +40,7 @@ private:
     Arguments ArgumentsInBrackets();
     std::shared_ptr<Variable> Argument();
 
-    Scope& m_scope;
+    Activation& m_scope; // the procedure that the expression is in
     const Tokens& m_tokens;
     size_t m_place;
 };

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cwctype>
 #include <iterator>
+#include <map>
 
 namespace macros
 {
@@ -27,54 +28,9 @@ size_t CountAt(const Arguments& arguments, size_t index)
     return static_cast<size_t>(count);
 }
 
-Value Length(const Arguments& arguments)
-{
-    return static_cast<long long>(TextAt(arguments, 0).size());
-}
-
-Value Left(const Arguments& arguments)
-{
-    return TextFrom(TextAt(arguments, 0).substr(0, CountAt(arguments, 1)));
-}
-
-Value Right(const Arguments& arguments)
-{
-    const std::wstring& text = TextAt(arguments, 0);
-    return TextFrom(text.substr(text.size() - std::min(text.size(), CountAt(arguments, 1))));
-}
-
-Value Middle(const Arguments& arguments)
-{
-    const std::wstring& text = TextAt(arguments, 0);
-    return TextFrom(text.substr(std::min(text.size(), CountAt(arguments, 1) - 1)));
-}
-
-Value Position(const Arguments& arguments)
-{
-    const size_t place = TextAt(arguments, 0).find(TextAt(arguments, 1));
-    return place == std::wstring::npos ? 0LL : static_cast<long long>(place) + 1;
-}
-
-Value Repeated(const Arguments& arguments)
-{
-    return TextFrom(std::wstring(CountAt(arguments, 0), TextAt(arguments, 1).at(0)));
-}
-
-Value Blanks(const Arguments& arguments)
-{
-    return TextFrom(std::wstring(CountAt(arguments, 0), L' '));
-}
-
 Value Character(const Arguments& arguments)
 {
     return TextFrom(std::wstring(1, static_cast<wchar_t>(CountAt(arguments, 0))));
-}
-
-Value InSmallLetters(const Arguments& arguments)
-{
-    std::wstring text = TextAt(arguments, 0);
-    std::ranges::transform(text, text.begin(), [](wchar_t c) { return static_cast<wchar_t>(std::towlower(c)); });
-    return TextFrom(text);
 }
 
 // One character for each byte, with either direction.
@@ -91,67 +47,76 @@ Value Converted(const Arguments& arguments)
     return TextFrom(Wide(bytes));
 }
 
-Value InDigits(const Arguments& arguments)
-{
-    return TextFrom(std::to_wstring(NumberIn(arguments.at(0)->value)));
-}
-
-Value NumberOf(const Arguments& arguments)
-{
-    return static_cast<long long>(std::wcstoll(TextAt(arguments, 0).c_str(), nullptr, 10));
-}
-
-// The address of the characters of a variable, which a function may write to.
-Value AddressOfText(const Arguments& arguments)
-{
-    Text& text = std::get<Text>(arguments.at(0)->value);
-    return text.isSet ? reinterpret_cast<long long>(text.characters.data()) : 0LL;
-}
-
 } // namespace
 
 std::optional<Value> CallFunction(const std::string& name, const Arguments& arguments)
 {
-    static const struct
-    {
-        const char* name;
-        Value (*call)(const Arguments& arguments);
-    } functions[] = {
-        {"len", Length},           {"left", Left},         {"right", Right},
-        {"mid", Middle},           {"instr", Position},    {"string", Repeated},
-        {"space", Blanks},         {"chr", Character},     {"chrw", Character},
-        {"lcase", InSmallLetters}, {"cstr", InDigits},     {"val", NumberOf},
-        {"strptr", AddressOfText}, {"strconv", Converted},
+    static const std::map<std::string, Value (*)(const Arguments&)> functions = {
+        {"len", [](const Arguments& of) -> Value { return static_cast<long long>(TextAt(of, 0).size()); }},
+        {"left", [](const Arguments& of) -> Value { return TextFrom(TextAt(of, 0).substr(0, CountAt(of, 1))); }},
+        {"right",
+         [](const Arguments& of) -> Value
+         {
+             const std::wstring& text = TextAt(of, 0);
+             return TextFrom(text.substr(text.size() - std::min(text.size(), CountAt(of, 1))));
+         }},
+        {"mid",
+         [](const Arguments& of) -> Value
+         {
+             const std::wstring& text = TextAt(of, 0);
+             return TextFrom(text.substr(std::min(text.size(), CountAt(of, 1) - 1)));
+         }},
+        {"instr",
+         [](const Arguments& of) -> Value
+         {
+             const size_t place = TextAt(of, 0).find(TextAt(of, 1));
+             return place == std::wstring::npos ? 0LL : static_cast<long long>(place) + 1;
+         }},
+        {"string",
+         [](const Arguments& of) -> Value { return TextFrom(std::wstring(CountAt(of, 0), TextAt(of, 1).at(0))); }},
+        {"space", [](const Arguments& of) -> Value { return TextFrom(std::wstring(CountAt(of, 0), L' ')); }},
+        {"chr", Character},
+        {"chrw", Character},
+        {"lcase",
+         [](const Arguments& of) -> Value
+         {
+             std::wstring text = TextAt(of, 0);
+             std::ranges::transform(text, text.begin(),
+                                    [](wchar_t c) { return static_cast<wchar_t>(std::towlower(c)); });
+             return TextFrom(text);
+         }},
+        {"cstr", [](const Arguments& of) -> Value { return TextFrom(std::to_wstring(NumberIn(of.at(0)->value))); }},
+        {"val",
+         [](const Arguments& of) -> Value
+         { return static_cast<long long>(std::wcstoll(TextAt(of, 0).c_str(), nullptr, 10)); }},
+        // The address of the characters of a variable, which a function may write to.
+        {"strptr",
+         [](const Arguments& of) -> Value
+         {
+             Text& text = std::get<Text>(of.at(0)->value);
+             return text.isSet ? reinterpret_cast<long long>(text.characters.data()) : 0LL;
+         }},
+        {"strconv", Converted},
     };
-    for (const auto& function : functions)
-    {
-        if (name == function.name)
-            return function.call(arguments);
-    }
-    return std::nullopt;
+    const auto function = functions.find(name);
+    return function != functions.end() ? std::optional(function->second(arguments)) : std::nullopt;
 }
 
 std::optional<Value> ConstantOf(const std::string& name)
 {
-    if (name == "true")
-        return yes;
-    if (name == "false")
-        return no;
-    if (name == "vbnullchar")
-        return TextFrom(std::wstring(1, L'\0'));
-    if (name == "vbnullstring")
-        return Text();
-    if (name == "vbcr")
-        return TextFrom(L"\r");
-    if (name == "vbfromunicode")
-        return toBytes;
-    if (name == "vbunicode")
-        return fromBytes;
-    if (name == "vbcrlf")
-        return TextFrom(L"\r\n");
-    if (name == "vbobjecterror")
-        return -2147221504LL;
-    return std::nullopt;
+    static const std::map<std::string, Value> constants = {
+        {"true", yes},
+        {"false", no},
+        {"vbnullchar", TextFrom(std::wstring(1, L'\0'))},
+        {"vbnullstring", Text()},
+        {"vbcr", TextFrom(L"\r")},
+        {"vbcrlf", TextFrom(L"\r\n")},
+        {"vbfromunicode", toBytes},
+        {"vbunicode", fromBytes},
+        {"vbobjecterror", -2147221504LL},
+    };
+    const auto constant = constants.find(name);
+    return constant != constants.end() ? std::optional(constant->second) : std::nullopt;
 }
 
 } // namespace macros

@@ -6,46 +6,21 @@
 namespace macros
 {
 
-namespace
-{
-
-// Constants are computed before any procedure runs, from those above them.
-class ConstantScope : public Scope
-{
-public:
-    explicit ConstantScope(const std::map<std::string, Value>& constants) : m_constants(constants) {}
-
-    std::shared_ptr<Variable> Find(const std::string&) override { return nullptr; }
-    Value Call(const std::string& name, const Arguments&) override
-    {
-        throw MacroError(syntaxError, name + " is no constant");
-    }
-    std::optional<Value> FindConstant(const std::string& name) override
-    {
-        const auto found = m_constants.find(name);
-        return found != m_constants.end() ? found->second : ConstantOf(name);
-    }
-    long long LastError() override { return 0; }
-
-private:
-    const std::map<std::string, Value>& m_constants;
-};
-
-} // namespace
-
 Interpreter::Interpreter(const std::string& source, bool is64Bit) : m_module(ReadModule(source, is64Bit))
 {
     for (const auto& [name, variable] : m_module.variables)
         m_variables[name] = std::make_shared<Variable>(variable);
+    // Each from those above it, before any procedure runs.
+    const Procedure none;
+    Activation scope(*this, none, {});
     for (const Constant& constant : m_module.constants)
-    {
-        ConstantScope scope(m_constants);
         m_constants[constant.name] = Evaluator(scope, constant.value).Evaluate();
-    }
 }
 
 Value Interpreter::Call(const std::string& name, const Arguments& arguments)
 {
+    if (m_constants.size() < m_module.constants.size())
+        throw MacroError(syntaxError, name + " is no constant");
     if (std::optional<Value> result = CallFunction(name, arguments))
         return *result;
     const auto declaration = m_module.declarations.find(name);

@@ -5,6 +5,7 @@
 #include "Evaluator.h"
 #include "Module.h"
 
+#include <optional>
 #include <set>
 
 namespace macros

@@ -1,5 +1,6 @@
 #include "MacroFixture.h"
 
+#include "dialogs/DialogFixture.h"
 #include "tree/TreeWindow.h"
 
 #include <fstream>
@@ -32,19 +33,6 @@ std::string FolderOfPrograms()
     return ProgramFolder() + "\\..";
 }
 
-// A dialog with one field, which takes the input and gives the result.
-void WriteDialog(const TestFolder& folder, const std::string& name)
-{
-    folder.Write("dialogs/" + name + ".dlg", "$VERSION 1\n$LAYOUT Titles\n"
-                                             "Begin Dialog Box 200, 100, \"" +
-                                                 name +
-                                                 "\", .Main\nTextBox 10, 10, 100, 19, .Key\n"
-                                                 "OKButton 10, 40, 60, 20, .Ok\nCancelButton 80, 40, 60, 20, .Cancel\n"
-                                                 "End Dialog\n$VALUES\n$DEPENDANCES\n$EVALUATION, x\n"
-                                                 "$INPUT, parent\nStart: (999, End = Key\n"
-                                                 "$OUTPUT, parent\n(\"%s\", Key)\n$END\n");
-}
-
 } // namespace
 
 std::string ReadFileBeside(const std::string& name)
@@ -61,10 +49,12 @@ Value Given(const std::string& text)
 MacroTest::MacroTest()
 {
     CopyLibrary("library");
-    std::string titles = "[Titles]\n";
+    std::string titles = "[TEXTS]\n";
     for (const char* name : {"lytInSym", "lytInPhr", "lytCdGrp", "lytRpGrp", "lytWzGrp", "lytWzPhr", "lytWzSym"})
     {
-        WriteDialog(folder, name);
+        Description description;
+        description.begin = "Begin Dialog Box 300, 200, \"" + std::string(name) + "\", .Main\n";
+        folder.Write("dialogs/" + std::string(name) + ".dlg", description.Text());
         titles += std::string(name) + "=" + name + "\n";
     }
     folder.Write("dialogs/lang/English.nls", titles +
