@@ -2,7 +2,7 @@
 
 #include "controls/TypeWords.h"
 #include "dialog/ClytDialog.h"
-#include "lytdlg/judge/DescriptionText.h"
+#include "dlgfile/Sections.h"
 #include "model/ClytWords.h"
 
 #include <cstdio>
@@ -68,8 +68,8 @@ std::string Dictionary()
 {
     std::string words = WordsOf<ClytState>() + WordsOf<ClytOption>() + WordsOf<ClytAction>() + WordsOf<ClytKeyword>() +
                         WordsOf<ClytFillAction>() + WordsOf<ClytValueWord>() + Quoted(lytStartName);
-    for (const lytdlg::Section section : lytdlg::allSections)
-        words += Quoted(lytdlg::WordOf(section));
+    for (const char* word : lytSectionWords)
+        words += Quoted(word);
     for (const ClytType& type : lytTypes)
         words += Quoted(type.word);
     for (const char* word : furtherWords)

@@ -6,11 +6,8 @@
 // ClytDialog.cpp the life of the window.
 #pragma once
 
-#include "dlgfile/ClytDialogFile.h"
-#include "model/ClytControlDep.h"
-#include "model/ClytDialogOutput.h"
+#include "dlgfile/ReadAll.h"
 #include "model/ClytForm.h"
-#include "model/ClytInputPart.h"
 
 #include <afxwin.h>
 
@@ -23,8 +20,6 @@ extern int lytControlsReady;
 // 0 while a dialog scans its first input, then 1. A construction that fails in between leaves it at 0.
 extern int lytInputApplied;
 
-// The name of the input part and of the output group that belong to the dialog as a whole.
-inline constexpr const char* lytParentName = "parent";
 // The statement at which an input part begins.
 inline constexpr const char* lytStartName = "Start";
 
@@ -106,21 +101,13 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
+    class Reading;
     class Run;
 
     void OpenFile();
     void CloseFile();
-    void ReadHeader();
-    void ReadControls();
-    void CreateLayoutControl(const ClytControlStatement& statement);
-    void ReadValues();
-    void ReadDependencies();
     void CollectBaselineControls();
     void CreateControlWindows();
-    void ReadEvaluations();
-    void ReadInputs();
-    void ReadOutputGroups();
-    void TakeHeaderWords(CStringList& words);
     static void TakeScale();
     // Gives the catalogue its place before the last confirmation back.
     static void RestoreTree();

@@ -1,4 +1,4 @@
-// The reading of a description: each section in its turn, each statement turned into a control or a rule at once.
+// The construction of a dialog: each statement of its description is turned into a control or a rule as it is read.
 #include "dialog/ClytDialog.h"
 
 #include "controls/ClytControlTypes.h"
@@ -9,18 +9,60 @@
 
 #include <set>
 
+// Turns the statements into the records of the dialog.
+class ClytDialog::Reading : public ClytDescriptionVisitor
+{
+public:
+    explicit Reading(ClytDialog& owner) : dialog(owner) {}
+
+    void LinesBegin(ClytLineKind kind)
+    {
+        if (kind == ClytLineKind::Output)
+            groupHeader = dialog.file.GetStatementPlace();
+    }
+    void LayoutHeader(const CString& /*version*/, CStringList& words)
+    {
+        while (!words.IsEmpty())
+            dialog.sectionList.AddTail(words.RemoveHead());
+    }
+    void DialogHeader(bool isRead, int width, int height, const CString& title, const CString& /*lastText*/);
+    void Control(const ClytControlStatement& statement);
+    void Value(const CString& name, const CString& keyword, const CStringList& values);
+    void Dependency(std::unique_ptr<ClytControlDep>& rule);
+    void EvaluationHeader(const CStringList& words);
+    void Evaluation(ClytControlEval& statement);
+    void InputPart(const CString& name, std::unique_ptr<ClytInputPart> part);
+    void Output(const CString& nextName, std::unique_ptr<ClytDialogOutput>& rule);
+    // A group is stored under its name when the next header or the end comes. A header that is the last line thus gives
+    // the group before it a second name.
+    void StoreGroup()
+    {
+        if (group != nullptr)
+            dialog.outputMap.SetAt(groupName, group);
+    }
+
+private:
+    // The text of a key in the first of the text sections, and nothing without a key or a section.
+    CString TextOf(const CString& key, const CString& argument = CString()) const
+    {
+        const bool isKey = !key.IsEmpty() && !dialog.sectionList.IsEmpty();
+        return isKey ? lytEnvironment.GetText(dialog.GetTextSection(), key, argument) : CString();
+    }
+
+    ClytDialog& dialog;
+    ClytOutput* group = nullptr; // owned by the dialog
+    CString groupName = lytParentName;
+    ClytSpan groupHeader;
+    bool isGroupDue = true;
+};
+
 void ClytDialog::ReadDescription()
 {
     const ClytCounted inCommand = BeginCommand();
     OpenFile();
-    ReadHeader();
-    ReadControls();
-    ReadValues();
-    ReadDependencies();
-    CreateControlWindows();
-    ReadEvaluations();
-    ReadInputs();
-    ReadOutputGroups();
+    Reading reading(*this);
+    lytReadAll(file, reading);
+    reading.StoreGroup();
     lytInputApplied = 0;
     ApplyInput(lytParentName);
     lytInputApplied = 1;
@@ -47,49 +89,23 @@ void ClytDialog::CloseFile()
     }
 }
 
-// The words of a section's header after the first.
-void ClytDialog::TakeHeaderWords(CStringList& words)
+void ClytDialog::Reading::DialogHeader(bool isRead, int width, int height, const CString& title,
+                                       const CString& /*lastText*/)
 {
-    words.RemoveAll();
-    if (file.TakeTokens(words) == 0)
-        lytRaise(lytError("HeaderForm"));
-    words.RemoveHead();
-}
-
-void ClytDialog::ReadHeader()
-{
-    CString version;
-    file.ReadVersionHeader(version);
-    TakeHeaderWords(sectionList);
-
-    int width = 0;
-    int height = 0;
-    CString title;
-    CString lastText;
-    if (file.ReadDialogHeader(width, height, title, lastText) == 0)
+    if (!isRead)
         lytRaise(lytError("DialogForm"));
-    const bool isKey = !title.IsEmpty() && !sectionList.IsEmpty();
-    const CString windowCaption = isKey ? lytEnvironment.GetText(GetTextSection(), title) : CString();
-    Resize(width, height);
-    SetWindowText(windowCaption);
-    CenterWindow();
+    const CString windowCaption = TextOf(title);
+    dialog.Resize(width, height);
+    dialog.SetWindowText(windowCaption);
+    dialog.CenterWindow();
 }
 
-void ClytDialog::ReadControls()
+void ClytDialog::Reading::Control(const ClytControlStatement& statement)
 {
-    ClytControlStatement statement;
-    while (file.ReadControlStatement(statement) != 0)
-    {
-        if (!statement.type.IsEmpty())
-            CreateLayoutControl(statement);
-    }
-}
-
-void ClytDialog::CreateLayoutControl(const ClytControlStatement& statement)
-{
+    if (statement.type.IsEmpty())
+        return;
     // The argument is one NUL, so a label with an apostrophe is shown up to and including it.
-    const bool isKey = !statement.text.IsEmpty() && !sectionList.IsEmpty();
-    const CString label = isKey ? lytEnvironment.GetText(GetTextSection(), statement.text, CString('\0')) : CString();
+    const CString label = TextOf(statement.text, CString('\0'));
     auto made = lytMakeControl({statement.type,
                                 statement.name,
                                 {lytScaled(statement.x, lytScaleX), lytScaled(statement.y, lytScaleY)},
@@ -100,49 +116,33 @@ void ClytDialog::CreateLayoutControl(const ClytControlStatement& statement)
         lytTell(&ClytObserver::PassedOver, ClytPassedOver::LayoutStatement, statement.type, statement.span);
         return;
     }
-    ClytControl& control = controlList.AddTail(std::move(made));
-    controlMap.SetAt(statement.name, &control);
-    ControlMade(control, statement);
+    ClytControl& control = dialog.controlList.AddTail(std::move(made));
+    dialog.controlMap.SetAt(statement.name, &control);
+    dialog.ControlMade(control, statement);
 }
 
-void ClytDialog::ReadValues()
+void ClytDialog::Reading::Value(const CString& name, const CString& keyword, const CStringList& values)
 {
-    CString name;
-    CString keyword;
-    CStringList values;
-    while (file.ReadValueStatement(name, keyword, values) != 0)
-    {
-        ClytControl* control = FindControl(name);
-        // A line without a statement has an empty name, which is that of the last nameless control.
-        if (values.IsEmpty())
-            continue;
-        if (control != nullptr)
-            control->TakeStatement(values, keyword, file.GetStatementPlace());
-        else
-            lytTell(&ClytObserver::PassedOver, ClytPassedOver::ValueStatement, name, file.GetStatementPlace());
-    }
+    // A line without a statement has an empty name, which is that of the last nameless control.
+    if (values.IsEmpty())
+        return;
+    if (ClytControl* control = dialog.FindControl(name))
+        control->TakeStatement(values, keyword, dialog.file.GetStatementPlace());
+    else
+        lytTell(&ClytObserver::PassedOver, ClytPassedOver::ValueStatement, name, dialog.file.GetStatementPlace());
 }
 
 // A rule that names an unknown control is not stored, and what was read of it stays: the next stored rule inherits its
 // conditions. Descriptions in use rely on that.
-void ClytDialog::ReadDependencies()
+void ClytDialog::Reading::Dependency(std::unique_ptr<ClytControlDep>& rule)
 {
-    auto rule = std::make_unique<ClytControlDep>();
-    while (file.ReadDependencyStatement(*rule) == 1)
-    {
-        if (rule->controlName.IsEmpty())
-            continue;
-        if (FindControl(rule->controlName) == nullptr)
-        {
-            // The name stays in the record, so an empty line that follows finds it again.
-            if (rule->span.line == file.GetLinePlace().line)
-                lytTell(&ClytObserver::PassedOver, ClytPassedOver::DependencyRule, rule->controlName, rule->span);
-            continue;
-        }
-        dependencyList.AddTail(std::move(rule)).Bind(controlMap);
-        rule = std::make_unique<ClytControlDep>();
-    }
-    CollectBaselineControls();
+    if (rule->controlName.IsEmpty())
+        return;
+    if (dialog.FindControl(rule->controlName) != nullptr)
+        dialog.dependencyList.AddTail(std::move(rule)).Bind(dialog.controlMap);
+    // The name stays in the record, so an empty line that follows finds it again.
+    else if (rule->span.line == dialog.file.GetLinePlace().line)
+        lytTell(&ClytObserver::PassedOver, ClytPassedOver::DependencyRule, rule->controlName, rule->span);
 }
 
 // Other rules never ask whether a control changed, and many rules ask the same control.
@@ -170,75 +170,50 @@ void ClytDialog::CreateControlWindows()
     lytControlsReady = 1;
 }
 
-void ClytDialog::ReadEvaluations()
+void ClytDialog::Reading::EvaluationHeader(const CStringList& words)
 {
-    CStringList words;
-    TakeHeaderWords(words);
+    dialog.CollectBaselineControls();
+    dialog.CreateControlWindows();
     if (words.IsEmpty())
         lytRaise(lytError("HeaderForm"));
-
-    while (true)
-    {
-        ClytCtrlValList own;
-        ClytCtrlValList other;
-        CString messageKey;
-        if (file.ReadEvaluationStatement(own, other, messageKey) == 0)
-            return;
-        ClytControl* control = FindControl(own.GetName());
-        if (own.GetValues().IsEmpty())
-            continue;
-        other.Bind(controlMap);
-        if (control != nullptr)
-            control->SetEvaluation(own, other, messageKey);
-        else
-            lytTell(&ClytObserver::PassedOver, ClytPassedOver::Evaluation, own.GetName(), own.GetSpan());
-    }
 }
 
-void ClytDialog::ReadInputs()
+void ClytDialog::Reading::Evaluation(ClytControlEval& statement)
 {
-    CString name;
-    while (file.ReadInputHeader(name) != 0)
-    {
-        ClytInputPart& part = inputList.AddTail(std::make_unique<ClytInputPart>());
-        inputMap.SetAt(name.IsEmpty() ? CString(lytParentName) : name, &part);
-        file.ReadInputPart(part);
-        part.Bind(controlMap);
-    }
+    const ClytCtrlValList& own = statement.ownValues;
+    if (own.GetValues().IsEmpty())
+        return;
+    statement.otherValues.Bind(dialog.controlMap);
+    if (ClytControl* control = dialog.FindControl(own.GetName()))
+        control->SetEvaluation(own, statement.otherValues, statement.messageKey);
+    else
+        lytTell(&ClytObserver::PassedOver, ClytPassedOver::Evaluation, own.GetName(), own.GetSpan());
 }
 
-// A group is stored under its name when the next header or the end comes. A header that is the last line thus gives the
-// group before it a second name, and what a rule without a format holds goes to the next one, even across a header.
-void ClytDialog::ReadOutputGroups()
+void ClytDialog::Reading::InputPart(const CString& name, std::unique_ptr<ClytInputPart> part)
 {
-    CString name = lytParentName;
-    ClytSpan header = file.GetStatementPlace();
-    CString nextName;
-    auto rule = std::make_unique<ClytDialogOutput>();
-    ClytOutput* group = nullptr;
-    bool isGroupDue = true;
-    while (file.ReadOutputStatement(nextName, *rule) != 0)
+    part->Bind(dialog.controlMap);
+    dialog.inputMap.SetAt(name, part.get());
+    dialog.inputList.AddTail(std::move(part));
+}
+
+// What a rule without a format holds goes to the next one, even across a header.
+void ClytDialog::Reading::Output(const CString& nextName, std::unique_ptr<ClytDialogOutput>& rule)
+{
+    if (nextName.IsEmpty() && rule->format.IsEmpty())
+        return;
+    if (isGroupDue)
     {
-        if (nextName.IsEmpty() && rule->format.IsEmpty())
-            continue;
-        if (isGroupDue)
-        {
-            group = &outputList.AddTail(std::make_unique<ClytOutput>());
-            group->span = header;
-        }
-        isGroupDue = !nextName.IsEmpty();
-        if (isGroupDue)
-        {
-            outputMap.SetAt(name, group);
-            name = std::exchange(nextName, CString());
-            header = file.GetStatementPlace();
-        }
-        else
-        {
-            group->rules.AddTail(std::move(rule)).Bind(controlMap);
-            rule = std::make_unique<ClytDialogOutput>();
-        }
+        group = &dialog.outputList.AddTail(std::make_unique<ClytOutput>());
+        group->span = groupHeader;
     }
-    if (group != nullptr)
-        outputMap.SetAt(name, group);
+    isGroupDue = !nextName.IsEmpty();
+    if (isGroupDue)
+    {
+        StoreGroup();
+        groupName = nextName;
+        groupHeader = dialog.file.GetStatementPlace();
+    }
+    else
+        group->rules.AddTail(std::move(rule)).Bind(dialog.controlMap);
 }

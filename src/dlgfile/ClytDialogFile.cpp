@@ -41,19 +41,20 @@ int ClytDialogFile::TakeTokens(CStringList& texts)
     return 1;
 }
 
-bool ClytDialogFile::ReadTokens(const DelimiterSet& delimiters)
+bool ClytDialogFile::ReadTokens(ClytLineKind kind)
 {
     char line[lineSize + 1];
     if (ReadString(line, lineSize) == nullptr)
         return false;
-    Tokenize(line, delimiters);
+    Tokenize(line, lytFormOf(kind).delimiters);
     return true;
 }
 
-int ClytDialogFile::ReadSectionLine(POSITION& token, const char* terminator, const DelimiterSet& delimiters)
+int ClytDialogFile::ReadSectionLine(POSITION& token, ClytLineKind kind)
 {
+    const char* const terminator = lytWordOf(lytFormOf(kind).end);
     token = nullptr;
-    if (!ReadTokens(delimiters))
+    if (!ReadTokens(kind))
     {
         tokens.RemoveAll();
         Tell(lytError("EndTooSoon"), EndOfLine(), terminator);

@@ -8,6 +8,7 @@
 #pragma once
 
 #include "dlgfile/ClytLineSource.h"
+#include "dlgfile/Sections.h"
 #include "dlgfile/Tokenize.h"
 #include "environment/ErrorSink.h"
 #include "model/ClytCtrlValList.h"
@@ -79,10 +80,10 @@ private:
     template <class READ>
     int ReadStatement(READ read);
 
-    [[nodiscard]] bool ReadTokens(const DelimiterSet& delimiters);
-    // The position stands on the first token, after the terminator on the second, or is null. The end of the file is
-    // told.
-    int ReadSectionLine(POSITION& token, const char* terminator, const DelimiterSet& delimiters);
+    [[nodiscard]] bool ReadTokens(ClytLineKind kind);
+    // The position is that of the first token, after the word of the next section that of the second, or null. The end
+    // of the file is reported.
+    int ReadSectionLine(POSITION& token, ClytLineKind kind);
 
     // The next token; where there is none it is the class library's failure, or that of a statement of wrong form.
     const ClytToken& Next(POSITION& token);

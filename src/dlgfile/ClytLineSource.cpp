@@ -20,7 +20,7 @@ ClytLineSource::ClytLineSource(const char* defineList)
 // with `>` switches it on. They do not nest, and they count in stretches that are switched off, too.
 char* ClytLineSource::ReadString(char* buffer, UINT count)
 {
-    while (ReadAnyLine(buffer, count))
+    while (TakeLine(buffer, count, linePlace))
     {
         if (*buffer == '<')
         {
@@ -45,15 +45,14 @@ CString ClytLineSource::DefineOf(const char* line)
     return {name, static_cast<int>(std::strcspn(name, " \t;\n\r"))};
 }
 
-bool ClytLineSource::ReadAnyLine(char* buffer, UINT count)
+bool ClytLineSource::TakeLine(char* buffer, UINT count, ClytSpan& place)
 {
-    const int distance = TakeLine(buffer, count);
-    if (distance == 0)
+    if (CStdioFile::ReadString(buffer, count) == nullptr)
         return false;
-    linePlace.column = isLineOpen ? linePlace.column + linePlace.length : 0;
-    linePlace.line += isLineOpen ? 0 : distance;
+    place.column = isLineOpen ? place.column + place.length : 0;
+    place.line += isLineOpen ? 0 : 1;
     const size_t length = std::strlen(buffer);
     isLineOpen = length == 0 || buffer[length - 1] != '\n';
-    linePlace.length = static_cast<int>(length) - (isLineOpen ? 0 : 1);
+    place.length = static_cast<int>(length) - (isLineOpen ? 0 : 1);
     return true;
 }

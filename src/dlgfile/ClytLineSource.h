@@ -25,14 +25,11 @@ public:
     ClytSpan PlaceInLine(int column, int length) const { return {linePlace.line, linePlace.column + column, length}; }
 
 protected:
-    // Takes the next line or piece of one, at most `count` characters and a NUL; gives by how many lines its number is
-    // above that of the line before, 0 at the end. Here the text is the file.
-    virtual int TakeLine(char* buffer, UINT count) { return CStdioFile::ReadString(buffer, count) != nullptr ? 1 : 0; }
+    // Takes the next line or piece of one, switched off or not, at most `count` characters and a NUL, and turns the place
+    // of the line before into its own. False at the end. Here the text is the file.
+    virtual bool TakeLine(char* buffer, UINT count, ClytSpan& place);
 
 private:
-    // Reads a line or a piece of one, whether it is switched off or not.
-    bool ReadAnyLine(char* buffer, UINT count);
-
     CMapStringToPtr defines;
     bool lineActive = true;
     int lineNumber = 0;

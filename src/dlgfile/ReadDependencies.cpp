@@ -4,7 +4,6 @@
 //     name / state word = condition, ...        condition: control [ (value, ...) ]
 #include "dlgfile/ClytDialogFile.h"
 
-#include "dlgfile/SectionDelimiters.h"
 #include "model/ClytControlDep.h"
 
 int ClytDialogFile::ReadDependencyStatement(ClytControlDep& rule)
@@ -13,7 +12,7 @@ int ClytDialogFile::ReadDependencyStatement(ClytControlDep& rule)
         [&]
         {
             POSITION token = nullptr;
-            if (ReadSectionLine(token, "$EVALUATION", lytDependencyDelimiters) == 0)
+            if (ReadSectionLine(token, ClytLineKind::Dependencies) == 0)
                 return 0;
             if (token != nullptr)
                 ReadDependency(token, rule);

@@ -6,7 +6,6 @@
 //     name = NULL any-delimiter message key
 #include "dlgfile/ClytDialogFile.h"
 
-#include "dlgfile/SectionDelimiters.h"
 #include "model/ClytCtrlValList.h"
 #include "model/ClytWords.h"
 
@@ -16,7 +15,7 @@ int ClytDialogFile::ReadEvaluationStatement(ClytCtrlValList& own, ClytCtrlValLis
         [&]
         {
             POSITION token = nullptr;
-            if (ReadSectionLine(token, "$INPUT", lytEvaluationDelimiters) == 0)
+            if (ReadSectionLine(token, ClytLineKind::Evaluation) == 0)
                 return 0;
             if (token != nullptr)
                 ReadEvaluation(token, own, other, messageKey);

@@ -9,14 +9,13 @@
 #include "dlgfile/ClytDialogFile.h"
 
 #include "base/Words.h"
-#include "dlgfile/SectionDelimiters.h"
 #include "environment/ClytException.h"
 #include "model/ClytInputPart.h"
 
 namespace
 {
 
-constexpr const char* terminator = "$OUTPUT";
+constexpr const char* terminator = lytWordOf(ClytSection::Output);
 
 // Failures of the class library while a part is read are told as the program's own.
 template <class Read>
@@ -54,7 +53,7 @@ int ClytDialogFile::ReadInputHeader(CString& name)
     return ReadStatement(
         [&]
         {
-            ReadSectionLine(token, terminator, lytFirstInputDelimiters);
+            ReadSectionLine(token, ClytLineKind::FirstInput);
             return 1;
         });
 }
@@ -88,7 +87,7 @@ int ClytDialogFile::ReadInputStatement(ClytDialogInput& statement)
             if (token == nullptr)
                 return ReadInputLine();
             const CString& word = tokens.GetHead().GetText();
-            if (lytSameWord(word, "$INPUT") || lytSameWord(word, terminator))
+            if (lytSameWord(word, lytWordOf(ClytSection::Input)) || lytSameWord(word, terminator))
                 return 0;
             ReadInput(token, statement);
             return ReadInputLine();
@@ -115,7 +114,7 @@ void ClytDialogFile::ReadInput(POSITION token, ClytDialogInput& statement)
 int ClytDialogFile::ReadInputLine()
 {
     POSITION token = nullptr;
-    return ReadSectionLine(token, terminator, lytInputDelimiters);
+    return ReadSectionLine(token, ClytLineKind::Input);
 }
 
 void ClytDialogFile::ReadInputConditions(POSITION token, ClytDialogInput& statement)

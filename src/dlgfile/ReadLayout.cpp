@@ -12,12 +12,13 @@
 #include "dlgfile/ClytDialogFile.h"
 
 #include "base/Words.h"
-#include "dlgfile/SectionDelimiters.h"
 
 namespace
 {
 
 constexpr int dialogWords = 7;
+constexpr const char* versionWord = lytWordOf(ClytSection::Head);
+constexpr const char* layoutWord = lytWordOf(ClytSection::Layout);
 
 bool IsName(const CString& operand)
 {
@@ -43,7 +44,7 @@ int ClytDialogFile::ReadHeaderStatement(CString& version, bool& isVersionSeen)
         return 0;
     }
     const CString& word = tokens.GetHead().GetText();
-    const bool isVersion = lytSameWord(word, "$VERSION");
+    const bool isVersion = lytSameWord(word, versionWord);
     if (isVersion)
     {
         isVersionSeen = true;
@@ -51,7 +52,7 @@ int ClytDialogFile::ReadHeaderStatement(CString& version, bool& isVersionSeen)
             FailStatement(GetLinePlace());
         version = tokens.GetTail().GetText();
     }
-    if (!lytSameWord(isVersion ? version : word, "$LAYOUT"))
+    if (!lytSameWord(isVersion ? version : word, layoutWord))
         return 1;
     if (!isVersionSeen)
         Tell(lytError("VersionMissing"), GetLinePlace());
@@ -65,11 +66,11 @@ bool ClytDialogFile::ReadHeaderLine()
     char line[lineSize + 1];
     while (ReadString(line, lineSize) != nullptr)
     {
-        const char* openQuote = lytTokenize(line, lytHeaderDelimiters, tokens);
+        const char* openQuote = lytTokenize(line, lytFormOf(ClytLineKind::Header).delimiters, tokens);
         if (tokens.IsEmpty())
             continue;
         const CString& word = tokens.GetHead().GetText();
-        if (!lytSameWord(word, "$VERSION") && !lytSameWord(word, "$LAYOUT"))
+        if (!lytSameWord(word, versionWord) && !lytSameWord(word, layoutWord))
             continue;
         if (openQuote != nullptr)
             FailQuote(line, openQuote);
@@ -86,7 +87,7 @@ int ClytDialogFile::ReadDialogHeader(int& width, int& height, CString& title, CS
         {
             do
             {
-                if (!ReadTokens(lytDialogDelimiters))
+                if (!ReadTokens(ClytLineKind::Dialog))
                 {
                     Tell(lytError("DialogMissing"), EndOfLine());
                     return 0;
@@ -118,7 +119,7 @@ int ClytDialogFile::ReadControlStatement(ClytControlStatement& statement)
     return ReadStatement(
         [&]
         {
-            if (!ReadTokens(lytControlDelimiters))
+            if (!ReadTokens(ClytLineKind::Controls))
             {
                 Tell(lytError("ControlsOpen"), EndOfLine());
                 return 0;
@@ -127,7 +128,7 @@ int ClytDialogFile::ReadControlStatement(ClytControlStatement& statement)
             if (token == nullptr)
                 return 1;
             const CString& word = Next(token).GetText();
-            if (lytSameWord(word, "$VALUES"))
+            if (lytSameWord(word, lytWordOf(ClytSection::Values)))
                 return 0;
             if (lytSameWord(word, "End"))
                 Next(token);

@@ -10,7 +10,6 @@
 //            word ()              all values of a control with blanks between them
 #include "dlgfile/ClytDialogFile.h"
 
-#include "dlgfile/SectionDelimiters.h"
 #include "model/ClytDialogOutput.h"
 #include "model/ClytWords.h"
 
@@ -20,7 +19,7 @@ int ClytDialogFile::ReadOutputStatement(CString& groupName, ClytDialogOutput& ru
         [&]
         {
             POSITION token = nullptr;
-            if (ReadSectionLine(token, "$END", lytOutputDelimiters) == 0)
+            if (ReadSectionLine(token, ClytLineKind::Output) == 0)
                 return 0;
             if (token != nullptr)
                 ReadOutput(token, groupName, rule);
@@ -34,7 +33,7 @@ void ClytDialogFile::ReadOutput(POSITION token, CString& groupName, ClytDialogOu
     while (true)
     {
         const ClytToken& first = NextOrFail(token);
-        if (lytSameWord(first.GetText(), "$OUTPUT"))
+        if (lytSameWord(first.GetText(), lytWordOf(ClytSection::Output)))
         {
             groupName = NextOrFail(token).GetText();
             return;

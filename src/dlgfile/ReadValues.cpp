@@ -6,8 +6,6 @@
 // `=`, `:`, commas and round brackets all separate alike.
 #include "dlgfile/ClytDialogFile.h"
 
-#include "dlgfile/SectionDelimiters.h"
-
 int ClytDialogFile::ReadValueStatement(CString& name, CString& keyword, CStringList& values)
 {
     name.Empty();
@@ -18,7 +16,7 @@ int ClytDialogFile::ReadValueStatement(CString& name, CString& keyword, CStringL
         [&]
         {
             POSITION token = nullptr;
-            if (ReadSectionLine(token, "$DEPENDANCES", lytValueDelimiters) == 0)
+            if (ReadSectionLine(token, ClytLineKind::Values) == 0)
                 return 0;
             if (token == nullptr)
                 return 1;

@@ -1,9 +1,6 @@
 #include "support/DescriptionRecords.h"
 
-#include "dlgfile/ClytDialogFile.h"
-#include "model/ClytControlDep.h"
-#include "model/ClytDialogOutput.h"
-#include "model/ClytInputPart.h"
+#include "dlgfile/ReadAll.h"
 
 namespace
 {
@@ -96,11 +93,10 @@ private:
     std::string& m_heard;
 };
 
-// Reads every section in turn, as a dialog does.
-class Reading
+class Records : public ClytDescriptionVisitor
 {
 public:
-    Reading(const std::string& fileName, const std::string& defines) : m_sink(m_heard), m_file(defines.c_str(), m_sink)
+    Records(const std::string& fileName, const std::string& defines) : m_sink(m_heard), m_file(defines.c_str(), m_sink)
     {
         if (m_file.Open(fileName.c_str(), CFile::modeRead) == 0)
             throw std::runtime_error("cannot open " + fileName);
@@ -108,15 +104,42 @@ public:
 
     std::string All()
     {
-        ReadHead();
-        ReadControls();
-        ReadValues();
-        ReadDependencies();
-        ReadEvaluations();
-        ReadInputs();
-        ReadOutputs();
+        lytReadAll(m_file, *this);
         m_file.Close();
         return m_heard;
+    }
+
+    void LayoutHeader(const CString& version, const CStringList& words) { Keep("version", version, words); }
+    void DialogHeader(bool isRead, int width, int height, const CString& title, const CString& lastText)
+    {
+        Keep("dialog", isRead ? 1 : 0, width, height, title, lastText);
+    }
+    void Control(const ClytControlStatement& control)
+    {
+        Keep("control", control.type, control.x, control.y, control.width, control.height, control.text, control.name);
+    }
+    void Value(const CString& name, const CString& keyword, const CStringList& values)
+    {
+        Keep("value", name, keyword, values);
+    }
+    void Dependency(std::unique_ptr<ClytControlDep>& rule)
+    {
+        Keep("dependency", rule->controlName, rule->stateWord.GetText(), rule->conditions);
+        rule.reset();
+    }
+    void EvaluationHeader(const CStringList& words) { Keep("header", words); }
+    void Evaluation(const ClytControlEval& statement)
+    {
+        Keep("evaluation", statement.ownValues, statement.otherValues, statement.messageKey);
+    }
+    void InputPart(const CString& name, const std::unique_ptr<ClytInputPart>& part)
+    {
+        Keep("part", name, part->GetStatements());
+    }
+    void Output(const CString& group, std::unique_ptr<ClytDialogOutput>& rule)
+    {
+        Keep("output", group, rule->conditions, rule->format, rule->items);
+        rule.reset();
     }
 
 private:
@@ -129,86 +152,6 @@ private:
         m_heard += record.Line();
     }
 
-    void ReadHead()
-    {
-        CString version;
-        CStringList words;
-        const int hasLayout = m_file.ReadVersionHeader(version);
-        m_file.TakeTokens(words);
-        Keep("version", hasLayout, version, words);
-        int width = 0;
-        int height = 0;
-        CString title;
-        CString lastText;
-        const int isDialog = m_file.ReadDialogHeader(width, height, title, lastText);
-        Keep("dialog", isDialog, width, height, title, lastText);
-    }
-
-    void ReadControls()
-    {
-        ClytControlStatement control;
-        while (m_file.ReadControlStatement(control) != 0)
-            Keep("control", control.type, control.x, control.y, control.width, control.height, control.text,
-                 control.name);
-    }
-
-    void ReadValues()
-    {
-        CString name;
-        CString keyword;
-        CStringList values;
-        while (m_file.ReadValueStatement(name, keyword, values) != 0)
-            Keep("value", name, keyword, values);
-    }
-
-    void ReadDependencies()
-    {
-        for (int more = 1; more != 0;)
-        {
-            ClytControlDep rule;
-            more = m_file.ReadDependencyStatement(rule);
-            Keep("dependency", rule.controlName, rule.stateWord.GetText(), rule.conditions);
-        }
-    }
-
-    void ReadEvaluations()
-    {
-        CStringList words;
-        m_file.TakeTokens(words);
-        Keep("header", words);
-        for (int more = 1; more != 0;)
-        {
-            ClytCtrlValList own;
-            ClytCtrlValList other;
-            CString key;
-            more = m_file.ReadEvaluationStatement(own, other, key);
-            Keep("evaluation", own, other, key);
-        }
-    }
-
-    void ReadInputs()
-    {
-        CString name;
-        while (m_file.ReadInputHeader(name) != 0)
-        {
-            ClytInputPart part;
-            m_file.ReadInputPart(part);
-            Keep("part", name, part.GetStatements());
-        }
-        Keep("group", name);
-    }
-
-    void ReadOutputs()
-    {
-        CString name;
-        for (int more = 1; more != 0;)
-        {
-            ClytDialogOutput rule;
-            more = m_file.ReadOutputStatement(name, rule);
-            Keep("output", name, rule.conditions, rule.format, rule.items);
-        }
-    }
-
     std::string m_heard;
     RecordingSink m_sink;
     ClytDialogFile m_file;
@@ -218,5 +161,5 @@ private:
 
 std::string RecordsOf(const std::string& fileName, const std::string& defines)
 {
-    return Reading(fileName, defines).All();
+    return Records(fileName, defines).All();
 }

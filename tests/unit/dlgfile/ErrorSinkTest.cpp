@@ -1,9 +1,7 @@
 // All mistakes of a description in one reading, each with its place.
 #include "Description.h"
 
-#include "model/ClytControlDep.h"
-#include "model/ClytDialogOutput.h"
-#include "model/ClytInputPart.h"
+#include "dlgfile/ReadAll.h"
 
 namespace
 {
@@ -40,18 +38,11 @@ public:
     ClytDialogFile& File() { return m_file; }
     const std::string& Told() const { return m_sink.told; }
 
-    // Reads every section in turn, as a dialog does.
+    // The failures of the whole description.
     std::string ToldOfAll()
     {
-        ReadHead();
-        while (m_file.ReadControlStatement(control) != 0)
-            continue;
-        ReadRules();
-        CString name;
-        while (m_file.ReadInputHeader(name) != 0)
-            m_file.ReadInputPart(part);
-        while (m_file.ReadOutputStatement(name, output) != 0)
-            continue;
+        ClytDescriptionVisitor nobody;
+        lytReadAll(m_file, nobody);
         return Told();
     }
 
@@ -60,32 +51,6 @@ public:
     ClytDialogOutput output;
 
 private:
-    void ReadHead()
-    {
-        CString text;
-        CStringList words;
-        int number = 0;
-        m_file.ReadVersionHeader(text);
-        m_file.TakeTokens(words);
-        // A reading continues after a failure that was reported.
-        static_cast<void>(m_file.ReadDialogHeader(number, number, text, text));
-    }
-
-    void ReadRules()
-    {
-        CString text;
-        CStringList words;
-        while (m_file.ReadValueStatement(text, text, words) != 0)
-            continue;
-        ClytControlDep rule;
-        while (m_file.ReadDependencyStatement(rule) != 0)
-            continue;
-        ClytCtrlValList own;
-        ClytCtrlValList other;
-        while (m_file.ReadEvaluationStatement(own, other, text) != 0)
-            continue;
-    }
-
     TestFolder m_folder;
     KeepingSink m_sink;
     ClytDialogFile m_file;

@@ -238,9 +238,10 @@ TEST(Errors, AreListedForThoseWhoWriteTheTexts)
 // Elsewhere the section comes from a dialog, a failure or a caller, and that of the buttons stands before a key of a table.
 TEST(Texts, OfTheLibraryAreAskedForInNoOtherWay)
 {
-    EXPECT_EQ(NamedInSources("", "lytEnvironment\\.GetText\\((?!\"\\w+\", \"\\w+\"\\))([^,]*),"),
-              (std::set<std::string>{"GetTextSection()", "this->dialog->GetTextSection()", "dialog->GetTextSection()",
-                                     "lytErrorSection", "section", "CString(section)", "lytButtonSection"}));
+    EXPECT_EQ(
+        NamedInSources("", "lytEnvironment\\.GetText\\((?!\"\\w+\", \"\\w+\"\\))([^,]*),"),
+        (std::set<std::string>{"dialog.GetTextSection()", "this->dialog->GetTextSection()", "dialog->GetTextSection()",
+                               "lytErrorSection", "section", "CString(section)", "lytButtonSection"}));
 }
 
 TEST(TextsCommand, SaysWhatToWriteWhenItIsNotUnderstood)

@@ -118,7 +118,7 @@ private:
     // Fills of a part that ask a control's library.
     void DrawFills(const InputPart& part)
     {
-        const auto& statements = part.part.GetStatements();
+        const auto& statements = part.part->GetStatements();
         for (POSITION place = statements.GetHeadPosition(); place != nullptr;)
         {
             const ClytDialogInput& statement = *statements.GetNext(place);

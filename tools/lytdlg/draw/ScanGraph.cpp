@@ -70,7 +70,7 @@ class PartGraph
 {
 public:
     PartGraph(Dot& dot, const Description& description, const InputPart& lines, size_t number)
-        : m_dot(dot), m_description(description), m_part(lines.part), m_prefix("part " + std::to_string(number) + " ")
+        : m_dot(dot), m_description(description), m_part(*lines.part), m_prefix("part " + std::to_string(number) + " ")
     {
         dot.BeginCluster(std::to_string(number), "part " + Shown(lines.name.c_str()));
         FindReached(m_part.Find(lytStartName));

@@ -15,27 +15,6 @@ namespace lytdlg
 namespace
 {
 
-// The words of a header after its first.
-std::vector<std::string> HeaderWords(ClytDialogFile& file)
-{
-    CStringList words;
-    file.TakeTokens(words);
-    std::vector<std::string> strings = Strings(words);
-    if (!strings.empty())
-        strings.erase(strings.begin());
-    return strings;
-}
-
-// The lines of some sections, in their order in the file, without the header that opens the last section's first part:
-// its word comes from the reader.
-std::vector<const SourceLine*> Body(const DescriptionText& text, Section section)
-{
-    std::vector<const SourceLine*> lines = text.LinesWithMarksOf(section);
-    if (!lines.empty() && lines.front()->isHeader)
-        lines.erase(lines.begin());
-    return lines;
-}
-
 ClytControlStatement RefusedControl(const DescriptionText& text, int line)
 {
     ClytControlStatement statement;
@@ -78,15 +57,112 @@ bool IsDialogLine(const DescriptionText& text, int line)
 
 } // namespace
 
+// Keeps the statements as they are read.
+class Description::Reading : public ClytDescriptionVisitor
+{
+public:
+    explicit Reading(Description& target) : m_target(target), m_file(target.text, target.mistakes) {}
+    void Read() { lytReadAll(m_file, *this); }
+
+    void LinesBegin(ClytLineKind kind)
+    {
+        m_file.BeginSectionBefore(lytFormOf(kind).end);
+        m_mistakes = m_target.mistakes.size();
+        if (kind == ClytLineKind::Output && HasLines(Section::Output))
+            AddGroup(lytParentName, m_target.PlaceOf(m_target.text.LinesWithMarksOf(Section::Output).front()->number));
+    }
+
+    void LayoutHeader(const CString& /*version*/, const CStringList& words) { m_target.layoutWords = Strings(words); }
+
+    void DialogHeader(bool isRead, int width, int height, const CString& title, const CString& /*lastText*/)
+    {
+        m_target.hasDialogHeader = isRead;
+        m_target.width = width;
+        m_target.height = height;
+        m_target.title = title.GetString();
+        m_target.dialogHeader = m_file.GetLinePlace();
+        // When the section ends before it, the line that follows counts.
+        const std::vector<const SourceLine*> lines = m_target.text.LinesWithMarksOf(Section::Layout);
+        const int below = lines.empty() ? 1 : lines.back()->number + 1;
+        m_target.dialogHeader.line = std::min(m_target.dialogHeader.line, below);
+        // The line that should have been the dialog's is a control.
+        const bool isMissing = IsRefused() && m_target.mistakes.back().number == lytError("DialogMissing");
+        if (isMissing && !IsDialogLine(m_target.text, m_target.dialogHeader.line))
+            m_file.TakeLineAgain();
+    }
+
+    void Control(const ClytControlStatement& statement)
+    {
+        if (IsRefused())
+            m_target.controls.push_back(RefusedControl(m_target.text, m_target.mistakes.back().place.line));
+        else if (!statement.type.IsEmpty())
+            m_target.controls.push_back(statement);
+    }
+
+    void Value(const CString& name, const CString& keyword, const CStringList& values)
+    {
+        if (!values.IsEmpty())
+            m_target.values.push_back({name.GetString(), keyword.GetString(), Strings(values), m_file.GetLinePlace()});
+    }
+
+    void Dependency(std::unique_ptr<ClytControlDep>& rule)
+    {
+        std::unique_ptr<ClytControlDep> read = std::move(rule);
+        if (!IsRefused() && !read->controlName.IsEmpty())
+            m_target.rules.AddTail(std::move(read));
+    }
+
+    void EvaluationHeader(const CStringList& words) { m_target.evaluationWords = Strings(words); }
+
+    void Evaluation(const ClytControlEval& read)
+    {
+        if (read.ownValues.GetValues().IsEmpty())
+            return;
+        EvaluationStatement& statement = m_target.evaluations.emplace_back();
+        statement.own.CopyFrom(read.ownValues);
+        statement.other.CopyFrom(read.otherValues);
+        statement.messageKey = read.messageKey.GetString();
+        statement.span = m_file.GetLinePlace();
+    }
+
+    void InputPart(const CString& name, std::unique_ptr<ClytInputPart> part)
+    {
+        const ClytSpan header = part->span;
+        if (HasLines(Section::Input))
+            m_target.inputs.push_back({name.GetString(), header, std::move(part)});
+    }
+
+    void Output(const CString& group, std::unique_ptr<ClytDialogOutput>& rule)
+    {
+        if (IsRefused())
+            rule.reset();
+        else if (!group.IsEmpty())
+            AddGroup(group.GetString(), m_file.GetLinePlace());
+        else if (!rule->format.IsEmpty())
+            m_target.outputs.back().rules.AddTail(std::move(rule));
+    }
+
+private:
+    bool HasLines(Section section) const { return !m_target.text.LinesWithMarksOf(section).empty(); }
+    // Whether the reader refuses the statement that was read last.
+    bool IsRefused() { return std::exchange(m_mistakes, m_target.mistakes.size()) != m_target.mistakes.size(); }
+
+    void AddGroup(const std::string& name, const ClytSpan& header)
+    {
+        OutputGroup& group = m_target.outputs.emplace_back();
+        group.name = name;
+        group.header = header;
+    }
+
+    Description& m_target;
+    SectionReader m_file;
+    size_t m_mistakes = 0; // known when the present statement began
+};
+
 Description::Description(std::string filePath, const std::string& bytes, const std::vector<std::string>& defines)
     : path(std::move(filePath)), text(bytes, defines)
 {
-    ReadLayout();
-    ReadValues();
-    ReadDependencies();
-    ReadEvaluations();
-    ReadInputs();
-    ReadOutputs();
+    Reading(*this).Read();
     m_index = std::make_unique<DescriptionIndex>(*this);
 }
 
@@ -125,169 +201,6 @@ bool Description::IsQuoted(const ClytSpan& place) const
     const std::string& line = text.Line(place.line).text;
     const auto before = static_cast<size_t>(place.column) - 1;
     return place.column > 0 && before < line.size() && line[before] == '"';
-}
-
-void Description::ReadLayout()
-{
-    const std::vector<const SourceLine*> layout = text.LinesWithMarksOf(Section::Layout);
-    const bool hasHeader = text.HeaderOf(Section::Layout) != nullptr;
-    std::vector<const SourceLine*> lines = hasHeader ? text.LinesWithMarksOf(Section::Head) : layout;
-    if (hasHeader)
-        lines.insert(lines.end(), layout.begin(), layout.end());
-    SectionReader file(text, lines, WordOf(Section::Values), mistakes);
-
-    CString version;
-    if (hasHeader && file.ReadVersionHeader(version) == 0)
-        return;
-    layoutWords = HeaderWords(file);
-    CString caption;
-    CString lastText;
-    const size_t mistakesBefore = mistakes.size();
-    hasDialogHeader = file.ReadDialogHeader(width, height, caption, lastText) != 0;
-    title = caption.GetString();
-    dialogHeader = file.GetLinePlace();
-    // When the section ends before it, the line that follows counts.
-    dialogHeader.line = std::min(dialogHeader.line, lines.empty() ? 1 : lines.back()->number + 1);
-    if (mistakes.size() == mistakesBefore || mistakes.back().number != lytError("DialogMissing") ||
-        IsDialogLine(text, dialogHeader.line))
-    {
-        ReadControls(file);
-        return;
-    }
-    // The line that should have been the dialog's is a control.
-    const auto first = std::ranges::find(lines, dialogHeader.line, &SourceLine::number);
-    SectionReader rest(text, {first, lines.end()}, WordOf(Section::Values), mistakes);
-    ReadControls(rest);
-}
-
-void Description::ReadControls(ClytDialogFile& file)
-{
-    ClytControlStatement statement;
-    size_t mistakesBefore = mistakes.size();
-    while (file.ReadControlStatement(statement) != 0)
-    {
-        const bool isRefused = mistakes.size() != mistakesBefore;
-        mistakesBefore = mistakes.size();
-        if (isRefused)
-            statement = RefusedControl(text, mistakes.back().place.line);
-        if (isRefused || !statement.type.IsEmpty())
-            controls.push_back(statement);
-    }
-}
-
-void Description::ReadValues()
-{
-    SectionReader file(text, Body(text, Section::Values), WordOf(Section::Dependencies), mistakes);
-    CString name;
-    CString keyword;
-    CStringList list;
-    while (file.ReadValueStatement(name, keyword, list) != 0)
-    {
-        if (!list.IsEmpty())
-            values.push_back({name.GetString(), keyword.GetString(), Strings(list), file.GetLinePlace()});
-    }
-}
-
-void Description::ReadDependencies()
-{
-    // The last line is the header of the next section: its words come from the reader.
-    std::vector<const SourceLine*> lines = Body(text, Section::Dependencies);
-    if (const SourceLine* header = text.HeaderOf(Section::Evaluation))
-        lines.push_back(header);
-    SectionReader file(text, lines, WordOf(Section::Evaluation), mistakes);
-    auto rule = std::make_unique<ClytControlDep>();
-    size_t mistakesBefore = mistakes.size();
-    while (file.ReadDependencyStatement(*rule) == 1)
-    {
-        const bool isRead = !rule->controlName.IsEmpty() && mistakes.size() == mistakesBefore;
-        mistakesBefore = mistakes.size();
-        if (isRead)
-        {
-            rules.AddTail(std::move(rule));
-        }
-        rule = std::make_unique<ClytControlDep>();
-    }
-    evaluationWords = HeaderWords(file);
-}
-
-void Description::ReadEvaluations()
-{
-    SectionReader file(text, Body(text, Section::Evaluation), WordOf(Section::Input), mistakes);
-    while (true)
-    {
-        EvaluationStatement& statement = evaluations.emplace_back();
-        CString key;
-        const int goesOn = file.ReadEvaluationStatement(statement.own, statement.other, key);
-        statement.messageKey = key.GetString();
-        statement.span = file.GetLinePlace();
-        if (goesOn == 0 || statement.own.GetValues().IsEmpty())
-            evaluations.pop_back();
-        if (goesOn == 0)
-            return;
-    }
-}
-
-void Description::ReadInputs()
-{
-    // A reader of parts finds the header of the first in its token list, where the section before has left it.
-    std::vector<const SourceLine*> lines = text.LinesWithMarksOf(Section::Input);
-    if (lines.empty())
-        return;
-    SourceLine header;
-    header.text = std::string(WordOf(Section::Input)) + ", parent";
-    header.number = lines.front()->number - 1;
-    if (!lines.front()->isHeader)
-        lines.insert(lines.begin(), &header);
-    SectionReader file(text, lines, WordOf(Section::Output), mistakes);
-    ClytCtrlValList own;
-    ClytCtrlValList other;
-    CString word;
-    while (file.ReadEvaluationStatement(own, other, word) != 0)
-        continue;
-    ClytSpan place = file.GetLinePlace();
-    while (file.ReadInputHeader(word) != 0)
-    {
-        InputPart& part = inputs.emplace_back();
-        part.name = word.IsEmpty() ? "parent" : word.GetString();
-        part.header = place;
-        file.ReadInputPart(part.part);
-        place = file.GetLinePlace();
-    }
-}
-
-void Description::ReadOutputs()
-{
-    std::vector<const SourceLine*> lines = text.LinesWithMarksOf(Section::Output);
-    if (lines.empty())
-        return;
-    OutputGroup* group = &outputs.emplace_back();
-    group->name = "parent";
-    group->header = PlaceOf(lines.front()->number);
-    if (lines.front()->isHeader)
-        lines.erase(lines.begin());
-    SectionReader file(text, lines, WordOf(Section::End), mistakes);
-    CString nextName;
-    auto rule = std::make_unique<ClytDialogOutput>();
-    size_t mistakesBefore = mistakes.size();
-    while (file.ReadOutputStatement(nextName, *rule) != 0)
-    {
-        if (mistakes.size() != mistakesBefore)
-        {
-            mistakesBefore = mistakes.size();
-            rule = std::make_unique<ClytDialogOutput>();
-        }
-        else if (!nextName.IsEmpty())
-        {
-            group = &outputs.emplace_back();
-            group->name = std::exchange(nextName, CString()).GetString();
-            group->header = file.GetLinePlace();
-        }
-        else if (!rule->format.IsEmpty())
-        {
-            group->rules.AddTail(std::move(rule));
-            rule = std::make_unique<ClytDialogOutput>();
-        }
-    }
 }
 
 } // namespace lytdlg

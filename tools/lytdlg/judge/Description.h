@@ -1,12 +1,9 @@
-// A description read whole by the library's own readers, each section by itself and each statement on its own: the
-// records with their places, and every mistake that a reader tells.
+// A description read whole by the library's own reader: the records with their places, and every mistake that the reader
+// reports.
 #pragma once
 
-#include "dlgfile/ClytDialogFile.h"
+#include "dlgfile/ReadAll.h"
 #include "lytdlg/judge/DescriptionText.h"
-#include "model/ClytControlDep.h"
-#include "model/ClytDialogOutput.h"
-#include "model/ClytInputPart.h"
 
 #include <list>
 #include <memory>
@@ -16,11 +13,10 @@ namespace lytdlg
 
 class DescriptionIndex;
 
-// What a reader tells of a line that it refuses.
+// What the reader reports of a line that it refuses.
 struct Mistake
 {
     std::string number; // of the library's message; empty when the line ends too early in a place without a number
-    std::string argument;
     ClytSpan place;
 };
 
@@ -44,7 +40,7 @@ struct InputPart
 {
     std::string name;
     ClytSpan header;
-    ClytInputPart part;
+    std::unique_ptr<ClytInputPart> part;
 };
 
 struct OutputGroup
@@ -96,13 +92,7 @@ public:
     bool IsQuoted(const ClytSpan& place) const;
 
 private:
-    void ReadLayout();
-    void ReadControls(ClytDialogFile& file);
-    void ReadValues();
-    void ReadDependencies();
-    void ReadEvaluations();
-    void ReadInputs();
-    void ReadOutputs();
+    class Reading;
 
     std::unique_ptr<const DescriptionIndex> m_index; // of all that was read
 };

@@ -113,7 +113,7 @@ void DescriptionIndex::TakeFills()
     {
         m_partNames.push_back(input.name);
         m_parts.insert(input.name);
-        for (const ClytDialogInput* statement : Records(input.part.GetStatements()))
+        for (const ClytDialogInput* statement : Records(input.part->GetStatements()))
         {
             for (const ClytConditionFill* rule : Records(statement->scanRule.rules))
             {

@@ -17,8 +17,6 @@ namespace lytdlg
 namespace
 {
 
-constexpr const char* sectionWords[] = {"$VERSION",    "$LAYOUT", "$VALUES", "$DEPENDANCES",
-                                        "$EVALUATION", "$INPUT",  "$OUTPUT", "$END"};
 std::string Upper(std::string text)
 {
     std::ranges::transform(text, text.begin(), [](unsigned char ch) { return static_cast<char>(std::toupper(ch)); });
@@ -72,7 +70,7 @@ std::optional<Section> MeantBy(const HeaderWord& word, Section present)
     if (!hasSign && present == Section::Head)
         return std::nullopt;
     first = (hasSign ? "" : "$") + Upper(first);
-    static const std::vector<std::string> known(std::begin(sectionWords), std::end(sectionWords));
+    static const std::vector<std::string> known(std::begin(lytSectionWords), std::end(lytSectionWords));
     const auto place = std::ranges::find(known, commandline::Nearest(first, known));
     if (place == known.end())
         return std::nullopt;
@@ -85,7 +83,7 @@ std::string CorrectHeader(const HeaderWord& word, Section section)
     const size_t blank = word.text.find_first_of(" \t");
     const std::string name = blank != std::string::npos ? word.text.substr(blank + 1) : word.next;
     const char* const separator = section <= Section::Layout ? " " : ", ";
-    return WordOf(section) + (name.empty() ? "" : separator + name);
+    return lytWordOf(section) + (name.empty() ? "" : separator + name);
 }
 
 // What a line of any section begins with.
@@ -130,24 +128,26 @@ class SwitchedLines : public ClytLineSource
 {
 public:
     SwitchedLines(std::vector<const SourceLine*> lines, const std::string& defineList)
-        : ClytLineSource(defineList.c_str()), m_lines(std::move(lines), {})
+        : ClytLineSource(defineList.c_str())
     {
+        m_lines.GoTo(std::move(lines));
     }
     std::vector<SwitchMark> TakeMarks() { return std::move(m_marks); }
 
 protected:
-    int TakeLine(char* buffer, UINT count) override
+    bool TakeLine(char* buffer, UINT count, ClytSpan& place) override
     {
-        const int distance = m_lines.Take(buffer, count);
-        if (distance != 0 && (*buffer == '<' || *buffer == '>'))
+        if (!m_lines.Take(buffer, count, place))
+            return false;
+        if (*buffer == '<' || *buffer == '>')
         {
             SwitchMark& mark = m_marks.emplace_back();
             mark.isOpening = *buffer == '<';
             mark.isInverted = mark.isOpening && IsInverted(buffer);
             mark.define = mark.isOpening ? DefineOf(buffer).GetString() : "";
-            mark.place = {m_lines.Number(), m_lines.Column(), static_cast<int>(std::strcspn(buffer, "\n"))};
+            mark.place = place;
         }
-        return distance;
+        return true;
     }
 
 private:
@@ -157,25 +157,12 @@ private:
 
 } // namespace
 
-const char* WordOf(Section section)
-{
-    return sectionWords[static_cast<size_t>(section)];
-}
-
 const DelimiterSet& DelimitersOf(Section section)
 {
+    using enum ClytLineKind;
+    static constexpr ClytLineKind kinds[] = {Header, Controls, Values, Dependencies, Evaluation, Input, Output};
     static constexpr DelimiterSet endsNothing("\n");
-    switch (section)
-    {
-    case Section::Head: return lytHeaderDelimiters;
-    case Section::Layout: return lytControlDelimiters;
-    case Section::Values: return lytValueDelimiters;
-    case Section::Dependencies: return lytDependencyDelimiters;
-    case Section::Evaluation: return lytEvaluationDelimiters;
-    case Section::Input: return lytInputDelimiters;
-    case Section::Output: return lytOutputDelimiters;
-    default: return endsNothing;
-    }
+    return section == Section::End ? endsNothing : lytFormOf(kinds[static_cast<size_t>(section)]).delimiters;
 }
 
 DescriptionText::DescriptionText(std::string bytes, std::vector<std::string> defines)
@@ -258,11 +245,8 @@ void DescriptionText::ApplyDefines()
     while (reader.ReadString(buffer, ClytDialogFile::lineSize) != nullptr)
     {
         const ClytSpan& place = reader.GetLinePlace();
-        if (place.column != 0)
-            continue;
-        SourceLine& line = m_lines[static_cast<size_t>(place.line - 1)];
-        line.isRead = true;
-        line.counted = reader.GetLineNumber();
+        if (place.column == 0)
+            m_lines[static_cast<size_t>(place.line - 1)].isRead = true;
     }
     m_marks = reader.TakeMarks();
     std::unordered_set<std::string> names;
@@ -278,9 +262,9 @@ void DescriptionText::FindSections()
     for (const SourceLine& line : m_lines)
     {
         const auto found =
-            line.isRead ? std::ranges::find(sectionWords, RoughHeaderWord(line.text)) : std::end(sectionWords);
-        if (found != std::end(sectionWords))
-            m_lastHeaders[allSections[found - std::begin(sectionWords)]] = line.number;
+            line.isRead ? std::ranges::find(lytSectionWords, RoughHeaderWord(line.text)) : std::end(lytSectionWords);
+        if (found != std::end(lytSectionWords))
+            m_lastHeaders[allSections[found - std::begin(lytSectionWords)]] = line.number;
     }
     GoThroughSections({});
     const std::vector<Section> missing = SectionsWithoutHeader();
@@ -368,7 +352,7 @@ Section DescriptionText::Opened(SourceLine& line, Section present)
     for (const Section section : allSections)
     {
         const bool isFreeText = present == Section::Head && section > Section::Layout && HasBelow(Section::Layout, 0);
-        if (word.text != WordOf(section) || isFreeText || (section == Section::Head && present != Section::Head))
+        if (word.text != lytWordOf(section) || isFreeText || (section == Section::Head && present != Section::Head))
             continue;
         line.isStray = section != Section::Head && IsStray(section, present, line.number);
         line.isHeader = !line.isStray;

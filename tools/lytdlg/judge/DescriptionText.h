@@ -16,8 +16,6 @@ inline constexpr char endOfText = 0x1A;
 inline constexpr Section allSections[] = {Section::Head,       Section::Layout, Section::Values, Section::Dependencies,
                                           Section::Evaluation, Section::Input,  Section::Output, Section::End};
 
-// The word that opens a section; "$VERSION" for the head, which must hold that word.
-const char* WordOf(Section section);
 // The characters that end a word in the statements of a section.
 const DelimiterSet& DelimitersOf(Section section);
 

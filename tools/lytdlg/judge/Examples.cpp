@@ -115,7 +115,7 @@ std::string SectionOf(const std::string& line)
         return "";
     std::vector<std::string> known;
     for (const Section section : allSections)
-        known.emplace_back(WordOf(section));
+        known.emplace_back(lytWordOf(section));
     return MeantWord(word, known);
 }
 

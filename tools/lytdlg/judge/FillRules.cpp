@@ -154,7 +154,7 @@ void ApplyFillRules(const Case& judged)
 {
     for (const InputPart& part : judged.description.inputs)
     {
-        for (const ClytDialogInput* statement : Records(part.part.GetStatements()))
+        for (const ClytDialogInput* statement : Records(part.part->GetStatements()))
         {
             if (judged.description.IsRefused(statement->span.line))
                 continue;

@@ -76,12 +76,12 @@ void JudgeParts(const Case& judged)
 
 void JudgeStart(const Case& judged, const InputPart& part)
 {
-    const std::vector<std::string> names = StatementNames(part.part);
-    if (names.empty() || part.part.Find(lytStartName) != nullptr)
+    const std::vector<std::string> names = StatementNames(*part.part);
+    if (names.empty() || part.part->Find(lytStartName) != nullptr)
         return;
     const auto meant =
         std::ranges::find_if(names, [](const std::string& name) { return !MeantOr(name, {lytStartName}, "").empty(); });
-    const ClytSpan place = meant != names.end() ? part.part.Find(meant->c_str())->span : part.header;
+    const ClytSpan place = meant != names.end() ? part.part->Find(meant->c_str())->span : part.header;
     judged.findings.Add("scan-start", judged.description.PlaceOf(place.line, meant != names.end() ? *meant : ""),
                         "the part " + InQuotes(part.name) + " has no statement \"Start\", so its run ends at once",
                         meant != names.end() ? "did you mean \"Start\"?" : "call the first statement \"Start\"");
@@ -95,12 +95,12 @@ ClytSpan NamePlace(const ClytDialogInput& statement)
 // Whether a target is misspelt: it may be the one that leads to what nothing else does.
 bool HasMisspeltTarget(const Case& judged, const InputPart& part)
 {
-    const std::vector<std::string> known = StatementNames(part.part);
-    for (const ClytDialogInput* statement : Records(part.part.GetStatements()))
+    const std::vector<std::string> known = StatementNames(*part.part);
+    for (const ClytDialogInput* statement : Records(part.part->GetStatements()))
     {
         for (const ScanTarget& next : TargetsOf(judged.description, *statement))
         {
-            if (!IsTarget(part.part, next.name) && !MeantWord(next.name, known).empty())
+            if (!IsTarget(*part.part, next.name) && !MeantWord(next.name, known).empty())
                 return true;
         }
     }
@@ -109,11 +109,11 @@ bool HasMisspeltTarget(const Case& judged, const InputPart& part)
 
 void JudgeReached(const Case& judged, const InputPart& part)
 {
-    const std::set<const ClytDialogInput*> reached = Reached(judged.description, part.part);
+    const std::set<const ClytDialogInput*> reached = Reached(judged.description, *part.part);
     const bool isMisspelt = HasMisspeltTarget(judged, part);
-    for (const ClytDialogInput* statement : Records(part.part.GetStatements()))
+    for (const ClytDialogInput* statement : Records(part.part->GetStatements()))
     {
-        const ClytDialogInput* found = part.part.Find(statement->name);
+        const ClytDialogInput* found = part.part->Find(statement->name);
         const std::string name = InQuotes(statement->name.GetString());
         if (found != statement)
             judged.findings.Add("scan-twice", NamePlace(*statement),
@@ -130,7 +130,7 @@ void JudgeTargets(const Case& judged, const InputPart& part, const ClytDialogInp
 {
     for (const ScanTarget& next : TargetsOf(judged.description, statement))
     {
-        if (IsTarget(part.part, next.name))
+        if (IsTarget(*part.part, next.name))
             continue;
         if (next.name.empty())
             judged.findings.Add("scan-target", NamePlace(statement),
@@ -157,7 +157,7 @@ std::string WayOf(const ScanCircle& found)
 
 void JudgeCircles(const Case& judged, const InputPart& part)
 {
-    for (const ScanCircle& found : CirclesOf(judged.description, part.part))
+    for (const ScanCircle& found : CirclesOf(judged.description, *part.part))
     {
         const RuleName rule = found.hasConditions ? RuleName("scan-circle-condition") : RuleName("scan-circle");
         const std::string when = found.hasConditions ? ", when the controls hold what leads there"
@@ -236,9 +236,9 @@ void JudgePaths(const Case& judged, const InputPart& part)
 {
     JudgeReached(judged, part);
     JudgeCircles(judged, part);
-    std::vector<std::string> known = StatementNames(part.part);
+    std::vector<std::string> known = StatementNames(*part.part);
     known.emplace_back("End");
-    for (const ClytDialogInput* statement : Records(part.part.GetStatements()))
+    for (const ClytDialogInput* statement : Records(part.part->GetStatements()))
         JudgeTargets(judged, part, *statement, known);
 }
 

@@ -8,38 +8,55 @@ namespace lytdlg
 namespace
 {
 
-int LastRead(const std::vector<const SourceLine*>& lines)
+SourceLine MadeLine(const char* text)
 {
-    int last = 0;
-    for (const SourceLine* line : lines)
-        last = line->isRead ? line->number : last;
-    return last;
+    SourceLine line;
+    line.text = text;
+    return line;
+}
+
+// The header that a section should have.
+const SourceLine* MadeHeader(Section section)
+{
+    static const std::vector<SourceLine> headers = []
+    {
+        std::vector<SourceLine> made;
+        for (const char* word : lytSectionWords)
+            made.push_back(MadeLine(word));
+        made.front().text += " 1";
+        return made;
+    }();
+    return &headers[static_cast<size_t>(section)];
 }
 
 } // namespace
 
-// The end word is read also where a mark has switched off what is above it.
-SectionReader::SectionReader(const DescriptionText& text, std::vector<const SourceLine*> sectionLines,
-                             const char* endWord, std::vector<Mistake>& mistakes)
-    : ClytDialogFile(Joined(text.Defines(), ",").c_str(), m_sink),
-      m_sink(mistakes, LastRead(sectionLines)),
-      m_lines(std::move(sectionLines), {">", endWord})
+SectionReader::SectionReader(const DescriptionText& text, std::vector<Mistake>& mistakes)
+    : ClytDialogFile(Joined(text.Defines(), ",").c_str(), m_sink), m_text(text), m_sink(mistakes)
 {
 }
 
-ClytSpan SectionReader::Sink::InFile(const ClytSpan& place) const
+void SectionReader::BeginSectionBefore(Section end)
 {
-    return place.line <= lastLine ? place : ClytSpan{lastLine, 0, 0};
-}
-
-void SectionReader::Sink::Tell(std::unique_ptr<ClytException> failure, const ClytSpan& place)
-{
-    mistakes.push_back({failure->GetNumber().GetString(), failure->GetArgument().GetString(), InFile(place)});
-}
-
-void SectionReader::Sink::TellShortLine(const ClytSpan& place)
-{
-    mistakes.push_back({"", "", InFile(place)});
+    if (m_end == end)
+        return;
+    m_end = end;
+    const auto section = static_cast<Section>(static_cast<int>(end) - 1);
+    std::vector<const SourceLine*> lines = m_text.LinesWithMarksOf(section);
+    const std::vector<const SourceLine*> next = m_text.LinesWithMarksOf(end);
+    const bool hasHeader = !next.empty() && next.front()->isHeader;
+    if (section == Section::Head && !hasHeader)
+        lines = {MadeHeader(section)};
+    else if (section != Section::Head && !lines.empty() && lines.front()->isHeader)
+        lines.erase(lines.begin());
+    // The header is read also where a mark has switched off what is above it. Where the reader refuses it, the one that
+    // should be there ends the section.
+    static const SourceLine switchOn = MadeLine(">");
+    lines.push_back(&switchOn);
+    if (hasHeader)
+        lines.push_back(next.front());
+    lines.push_back(MadeHeader(end));
+    m_lines.GoTo(std::move(lines));
 }
 
 } // namespace lytdlg

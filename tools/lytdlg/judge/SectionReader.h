@@ -1,4 +1,5 @@
-// The library's reader over the lines of one section.
+// The library's reader over a description whose sections are read each by itself, in their order: at the end of each comes
+// the header of the next one, whether the file has it or not.
 #pragma once
 
 #include "lytdlg/judge/Description.h"
@@ -9,32 +10,35 @@ namespace lytdlg
 class SectionReader : public ClytDialogFile
 {
 public:
-    // Delivers the lines and then the word that ends their section, whether the file has it or not. The mistakes, with
-    // their places in the file, go to the list.
-    SectionReader(const DescriptionText& text, std::vector<const SourceLine*> sectionLines, const char* endWord,
-                  std::vector<Mistake>& mistakes);
+    // The mistakes, with their places in the file, go to the list. Text and list outlive the reader.
+    SectionReader(const DescriptionText& text, std::vector<Mistake>& mistakes);
+
+    // Goes to the section that ends with the header of another one, unless it is there already.
+    void BeginSectionBefore(Section end);
+    void TakeLineAgain() { m_lines.TakeAgain(); }
 
 protected:
-    int TakeLine(char* buffer, UINT count) override { return m_lines.Take(buffer, count); }
+    bool TakeLine(char* buffer, UINT count, ClytSpan& place) override { return m_lines.Take(buffer, count, place); }
 
 private:
     class Sink : public ErrorSink
     {
     public:
-        Sink(std::vector<Mistake>& target, int last) : mistakes(target), lastLine(last) {}
-        void Tell(std::unique_ptr<ClytException> failure, const ClytSpan& place) override;
-        void TellShortLine(const ClytSpan& place) override;
+        explicit Sink(std::vector<Mistake>& target) : mistakes(target) {}
+        void Tell(std::unique_ptr<ClytException> failure, const ClytSpan& place) override
+        {
+            mistakes.push_back({failure->GetNumber().GetString(), place});
+        }
+        void TellShortLine(const ClytSpan& place) override { mistakes.push_back({"", place}); }
 
     private:
-        // A mistake after the last line, at the word that ends the section, counts as one of that line.
-        ClytSpan InFile(const ClytSpan& place) const;
-
         std::vector<Mistake>& mistakes;
-        int lastLine;
     };
 
+    const DescriptionText& m_text;
     Sink m_sink;
-    SourceLines m_lines; // of the description, which outlives its readers
+    SourceLines m_lines;
+    Section m_end = Section::Head;
 };
 
 } // namespace lytdlg

@@ -25,7 +25,7 @@ void JudgeFalseHeaders(const Case& judged)
         // Free text may be above the version.
         if (header.section == Section::Head && judged.description.text.HeaderOf(Section::Head) != nullptr)
             continue;
-        const std::string word = WordOf(header.section);
+        const std::string word = lytWordOf(header.section);
         const bool isBlank = header.word.starts_with(word + " ");
         const bool isTab = header.word.starts_with(word + "\t");
         Finding& finding =
@@ -90,7 +90,7 @@ void JudgeMissing(const Case& judged)
         int count = 0;
         for (Section each = section; !HasHeader(text, each); each = static_cast<Section>(static_cast<int>(each) + 1))
         {
-            names += (count++ == 0 ? "\"" : "\", \"") + std::string(WordOf(each));
+            names += (count++ == 0 ? "\"" : "\", \"") + std::string(lytWordOf(each));
             if (each == Section::End)
                 break;
         }
@@ -108,7 +108,7 @@ void AddStray(const Case& judged, const SourceLine& line)
     const bool isValue = line.section == Section::Values && words.size() > 1;
     const ClytSpan place = judged.description.PlaceOf(line.number);
     const std::string message = "the header \"" + words.front().text + "\" stands inside the section " +
-                                std::string(WordOf(line.section)) + " and opens nothing";
+                                std::string(lytWordOf(line.section)) + " and opens nothing";
     if (isValue)
         judged.findings.Add("header-in-values", place, message, "delete the line");
     else
@@ -146,7 +146,8 @@ void JudgeOrder(const Case& judged)
         if (skipped != last.end())
             judged.findings
                 .Add("section-order", judged.description.PlaceOf(line.number),
-                     std::string("\"") + WordOf(line.section) + "\" stands before \"" + WordOf(skipped->first) + "\"",
+                     std::string("\"") + lytWordOf(line.section) + "\" stands before \"" + lytWordOf(skipped->first) +
+                         "\"",
                      "move the section to its place")
                 .number = NumberWithin(above);
         else
@@ -192,13 +193,15 @@ void JudgeHeaderWords(const Case& judged)
     const bool hasTexts =
         !description.title.empty() || std::ranges::any_of(description.controls, [](const ClytControlStatement& control)
                                                           { return !control.text.IsEmpty(); });
+    const auto lacksWord = [&](const SourceLine* header, const std::vector<std::string>& words)
+    { return header != nullptr && words.empty() && !description.IsRefused(header->number); };
     const SourceLine* layout = description.text.HeaderOf(Section::Layout);
-    if (layout != nullptr && description.layoutWords.empty() && hasTexts)
+    if (lacksWord(layout, description.layoutWords) && hasTexts)
         judged.findings.Add("layout-without-texts", description.PlaceOf(layout->number),
                             "$LAYOUT names no text section, and so title and captions stay empty",
                             "name the section of the language file, as in \"$LAYOUT Symbol\"");
     const SourceLine* evaluation = description.text.HeaderOf(Section::Evaluation);
-    if (evaluation != nullptr && description.evaluationWords.empty())
+    if (lacksWord(evaluation, description.evaluationWords))
         judged.findings
             .Add("evaluation-without-word", description.PlaceOf(evaluation->number), "a word must follow $EVALUATION",
                  "any word will do: write \"$EVALUATION, x\"")

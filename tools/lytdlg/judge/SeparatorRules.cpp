@@ -110,7 +110,7 @@ void ApplySeparatorRules(const Case& judged)
 {
     for (const InputPart& part : judged.description.inputs)
     {
-        for (const ClytDialogInput* statement : Records(part.part.GetStatements()))
+        for (const ClytDialogInput* statement : Records(part.part->GetStatements()))
         {
             if (judged.description.IsRefused(statement->span.line))
                 continue;

@@ -2,46 +2,39 @@
 
 #include <algorithm>
 #include <string_view>
-#include <utility>
 
 namespace lytdlg
 {
 
-SourceLines::SourceLines(std::vector<const SourceLine*> lines, std::vector<std::string> end)
-    : m_lines(std::move(lines)), m_end(std::move(end))
+void SourceLines::GoTo(std::vector<const SourceLine*> lines)
 {
+    if (m_next.column != 0)
+        lines.insert(lines.begin(), m_lines[m_next.line]);
+    m_next.line = 0;
+    m_lines = std::move(lines);
 }
 
-const std::string& SourceLines::Present() const
+bool SourceLines::Take(char* buffer, unsigned count, ClytSpan& place)
 {
-    if (m_line >= m_lines.size())
-        return m_end[m_line - m_lines.size()];
-    const SourceLine& line = *m_lines[m_line];
-    return line.meant.empty() ? line.text : line.meant;
-}
-
-int SourceLines::Take(char* buffer, unsigned count)
-{
-    if (m_line >= m_lines.size() + m_end.size())
-        return 0;
+    if (m_next.line >= m_lines.size())
+        return false;
+    m_taken = m_next;
+    const SourceLine& line = *m_lines[m_taken.line];
+    const size_t column = m_taken.column;
     // A NUL byte ends what is read of the line. One further on is met when its piece is read.
-    const std::string_view whole = Present();
-    const size_t end = whole.substr(m_column, count).find('\0');
-    const std::string_view line = whole.substr(0, end != std::string::npos ? m_column + end : whole.size());
-    const size_t length = std::min<size_t>(line.size() + 1 - m_column, count);
-    for (size_t index = 0; index < length; ++index)
-        buffer[index] = m_column + index < line.size() ? line[m_column + index] : '\n';
-    buffer[length] = '\0';
-    m_pieceColumn = static_cast<int>(m_column);
-    m_column += length;
-    const int number = m_line < m_lines.size() ? m_lines[m_line]->number : m_number + (m_pieceColumn == 0 ? 1 : 0);
-    if (m_column > line.size())
-    {
-        ++m_line;
-        m_column = 0;
-    }
-    // A further piece of a line does not count as a line.
-    return std::max(1, number - std::exchange(m_number, number));
+    const std::string_view whole = line.meant.empty() ? line.text : line.meant;
+    const size_t end = whole.substr(column, count).find('\0');
+    const std::string_view text = whole.substr(0, end != std::string_view::npos ? column + end : whole.size());
+    const std::string_view piece = text.substr(column, count);
+    const bool isLast = piece.size() < count;
+    char* after = std::copy(piece.begin(), piece.end(), buffer);
+    if (isLast)
+        *after++ = '\n';
+    *after = '\0';
+    const int missing = column == 0 ? place.line + 1 : place.line;
+    place = {line.number != 0 ? line.number : missing, static_cast<int>(column), static_cast<int>(piece.size())};
+    m_next = isLast ? Position{m_taken.line + 1, 0} : Position{m_taken.line, column + piece.size()};
+    return true;
 }
 
 } // namespace lytdlg

@@ -1,13 +1,10 @@
 #include "lytdlg/text/DescriptionLines.h"
 
 #include "base/Words.h"
-#include "dlgfile/ClytDialogFile.h"
+#include "dlgfile/ReadAll.h"
 #include "environment/ClytException.h"
 #include "lytdlg/judge/DescriptionText.h"
 #include "lytdlg/text/Paths.h"
-#include "model/ClytControlDep.h"
-#include "model/ClytDialogOutput.h"
-#include "model/ClytInputPart.h"
 
 #include <algorithm>
 #include <array>
@@ -108,8 +105,8 @@ private:
     NumberedLines& m_lines;
 };
 
-// Reads every section in turn, as a dialog does, and notes what each line is read as.
-class NotingFile final : public ClytDialogFile
+// Notes what each line is read as.
+class NotingFile final : public ClytDialogFile, public ClytDescriptionVisitor
 {
 public:
     NotingFile(NumberedLines& numberedLines, const std::string& choice, ErrorSink& sink)
@@ -122,76 +119,14 @@ public:
         char* line = ClytDialogFile::ReadString(buffer, count);
         if (line != nullptr)
             m_lines.At(GetLinePlace().line,
-                       [&](DescriptionLine& read) { read.sections.set(static_cast<size_t>(m_section)); });
+                       [&](DescriptionLine& read) { read.kinds.set(static_cast<size_t>(m_kind)); });
         return line;
     }
-
-    void ReadAll()
-    {
-        ReadHead();
-        ReadRules();
-        ReadInputs();
-        m_section = LineSection::Output;
-        CString name;
-        for (int more = 1; more != 0;)
-        {
-            ClytDialogOutput rule;
-            more = ReadOutputStatement(name, rule);
-        }
-    }
+    void LinesBegin(ClytLineKind kind) { m_kind = kind; }
 
 private:
-    void ReadHead()
-    {
-        CString text;
-        int number = 0;
-        m_section = LineSection::Header;
-        ReadVersionHeader(text);
-        m_section = LineSection::Dialog;
-        static_cast<void>(ReadDialogHeader(number, number, text, text)); // what follows is read in any case
-        m_section = LineSection::Controls;
-        ClytControlStatement control;
-        while (ReadControlStatement(control) != 0)
-            continue;
-    }
-
-    void ReadRules()
-    {
-        CString text;
-        CStringList words;
-        m_section = LineSection::Values;
-        while (ReadValueStatement(text, text, words) != 0)
-            continue;
-        m_section = LineSection::Dependencies;
-        for (int more = 1; more != 0;)
-        {
-            ClytControlDep rule;
-            more = ReadDependencyStatement(rule);
-        }
-        m_section = LineSection::Evaluation;
-        for (int more = 1; more != 0;)
-        {
-            ClytCtrlValList own;
-            ClytCtrlValList other;
-            more = ReadEvaluationStatement(own, other, text);
-        }
-    }
-
-    void ReadInputs()
-    {
-        CString name;
-        m_section = LineSection::FirstInput;
-        while (ReadInputHeader(name) != 0)
-        {
-            m_section = LineSection::Input;
-            ClytInputPart part;
-            ReadInputPart(part);
-            m_section = LineSection::FirstInput;
-        }
-    }
-
     NumberedLines& m_lines;
-    LineSection m_section = LineSection::Header;
+    ClytLineKind m_kind = ClytLineKind::Header;
 };
 
 void ReadUnder(const std::string& choice, const std::filesystem::path& fileName, NumberedLines& lines)
@@ -199,7 +134,7 @@ void ReadUnder(const std::string& choice, const std::filesystem::path& fileName,
     RefusalSink sink(lines);
     NotingFile file(lines, choice, sink);
     OpenDescription(file, fileName);
-    file.ReadAll();
+    lytReadAll(file, file);
     file.Close();
 }
 

@@ -1,6 +1,8 @@
-// The lines of a description as a text, each with the sections whose readers read it: asked of the library's own readers,
+// The lines of a description as a text, each with what it is read as: asked of the library's own readers,
 // once for each choice of the defines that the file names.
 #pragma once
+
+#include "dlgfile/Sections.h"
 
 #include <afx.h>
 
@@ -13,27 +15,14 @@
 namespace lytdlg
 {
 
-// What a line is read as; the words of each are cut by delimiters of their own.
-enum class LineSection
-{
-    Header, // up to the layout line
-    Dialog, // up to the line of the dialog itself
-    Controls,
-    Values,
-    Dependencies,
-    Evaluation,
-    FirstInput, // the line after a header of an input part
-    Input,
-    Output
-};
-using Sections = std::bitset<9>;
+using LineKinds = std::bitset<std::size(lytLineForms)>;
 
 struct DescriptionLine
 {
     std::string text;
     std::string end; // as the file has it; empty for a last line without one
-    // Empty for a line that no reader reads: after the end of the description, or a mark of a define.
-    Sections sections;
+    // What it is read as; nothing for a line that no reader reads: after the end of the description, or a mark of a define.
+    LineKinds kinds;
     bool isRefused = false; // by a reader, under some choice of the defines
     bool isPlain = false;   // arrives in one piece, and its only control characters are tabs
 };

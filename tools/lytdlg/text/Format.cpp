@@ -38,19 +38,19 @@ struct Line
     }
 };
 
-LineSection FirstOf(const Sections& sections)
+ClytLineKind FirstOf(const LineKinds& kinds)
 {
-    size_t section = 0;
-    while (!sections[section])
-        ++section;
-    return static_cast<LineSection>(section);
+    size_t kind = 0;
+    while (!kinds[kind])
+        ++kind;
+    return static_cast<ClytLineKind>(kind);
 }
 
 // A line with words.
-void JudgeStatement(Line& line, const Statement& statement, LineSection section)
+void JudgeStatement(Line& line, const Statement& statement, ClytLineKind kind)
 {
-    const std::optional<std::string> code = LaidOut(statement, section);
-    line.isHeading = IsHeading(statement, section);
+    const std::optional<std::string> code = LaidOut(statement, kind);
+    line.isHeading = IsHeading(statement, kind);
     line.isKept = line.source->isRefused || !code;
     line.code = code.value_or("");
 }
@@ -60,19 +60,19 @@ Line Judged(const DescriptionLine& source)
 {
     Line line;
     line.source = &source;
-    if (source.sections.none() || !source.isPlain)
+    if (source.kinds.none() || !source.isPlain)
         return line;
-    const LineSection section = FirstOf(source.sections);
-    const std::optional<Statement> statement = CutStatement(source.text, section);
+    const ClytLineKind kind = FirstOf(source.kinds);
+    const std::optional<Statement> statement = CutStatement(source.text, kind);
     if (!statement)
         return line;
     line.comment = statement->comment;
     line.oldColumn = statement->commentColumn;
     line.isBlank = statement->words.empty() && line.comment.empty();
     if (statement->words.empty())
-        line.isKept = section == LineSection::Header;
+        line.isKept = kind == ClytLineKind::Header;
     else
-        JudgeStatement(line, *statement, section);
+        JudgeStatement(line, *statement, kind);
     return line;
 }
 
@@ -138,9 +138,9 @@ void PlaceComments(std::vector<Line>& lines)
 
 bool IsReadAlike(const DescriptionLine& source, const std::string& text)
 {
-    for (size_t section = 0; section < source.sections.size(); ++section)
+    for (size_t kind = 0; kind < source.kinds.size(); ++kind)
     {
-        if (source.sections[section] && !ReadsAlike(source.text, text, static_cast<LineSection>(section)))
+        if (source.kinds[kind] && !ReadsAlike(source.text, text, static_cast<ClytLineKind>(kind)))
             return false;
     }
     // These would be marks of a define, and no line at all.

@@ -1,12 +1,7 @@
 #include "lytdlg/text/Statement.h"
 
 #include "base/Words.h"
-#include "dlgfile/SectionDelimiters.h"
 #include "dlgfile/Tokenize.h"
-
-#include <algorithm>
-#include <array>
-#include <cstring>
 
 namespace lytdlg
 {
@@ -62,34 +57,26 @@ private:
     Statement m_statement;
 };
 
-// In these sections the readers look at the words alone.
-bool IgnoresDelimiters(LineSection section)
+// In these lines the readers look at the words alone.
+bool IgnoresDelimiters(ClytLineKind kind)
 {
-    return section <= LineSection::Controls;
+    return kind <= ClytLineKind::Controls;
 }
 
-bool IsSameToken(const ClytToken& left, const ClytToken& right, LineSection section)
+bool IsSameToken(const ClytToken& left, const ClytToken& right, ClytLineKind kind)
 {
     return left.GetText() == right.GetText() &&
-           (IgnoresDelimiters(section) || left.GetDelimiter() == right.GetDelimiter());
+           (IgnoresDelimiters(kind) || left.GetDelimiter() == right.GetDelimiter());
 }
 
 } // namespace
 
-const DelimiterSet& DelimitersOf(LineSection section)
-{
-    static constexpr std::array sets = {&lytHeaderDelimiters,     &lytDialogDelimiters,     &lytControlDelimiters,
-                                        &lytValueDelimiters,      &lytDependencyDelimiters, &lytEvaluationDelimiters,
-                                        &lytFirstInputDelimiters, &lytInputDelimiters,      &lytOutputDelimiters};
-    return *sets.at(static_cast<size_t>(section));
-}
-
-std::optional<Statement> CutStatement(const std::string& line, LineSection section)
+std::optional<Statement> CutStatement(const std::string& line, ClytLineKind kind)
 {
     ClytTokenList tokens;
-    if (lytTokenize(line.c_str(), DelimitersOf(section), tokens) != nullptr)
+    if (lytTokenize(line.c_str(), lytFormOf(kind).delimiters, tokens) != nullptr)
         return std::nullopt;
-    Cutter cutter(line.c_str(), DelimitersOf(section));
+    Cutter cutter(line.c_str(), lytFormOf(kind).delimiters);
     for (POSITION place = tokens.GetHeadPosition(); place != nullptr;)
     {
         if (!cutter.Take(tokens.GetNext(place)))
@@ -98,18 +85,18 @@ std::optional<Statement> CutStatement(const std::string& line, LineSection secti
     return cutter.Finish();
 }
 
-bool ReadsAlike(const std::string& left, const std::string& right, LineSection section)
+bool ReadsAlike(const std::string& left, const std::string& right, ClytLineKind kind)
 {
     ClytTokenList ofLeft;
     ClytTokenList ofRight;
-    const bool isLeftOpen = lytTokenize(left.c_str(), DelimitersOf(section), ofLeft) != nullptr;
-    const bool isRightOpen = lytTokenize(right.c_str(), DelimitersOf(section), ofRight) != nullptr;
+    const bool isLeftOpen = lytTokenize(left.c_str(), lytFormOf(kind).delimiters, ofLeft) != nullptr;
+    const bool isRightOpen = lytTokenize(right.c_str(), lytFormOf(kind).delimiters, ofRight) != nullptr;
     if (isLeftOpen || isRightOpen || ofLeft.GetCount() != ofRight.GetCount())
         return false;
     POSITION inRight = ofRight.GetHeadPosition();
     for (POSITION inLeft = ofLeft.GetHeadPosition(); inLeft != nullptr;)
     {
-        if (!IsSameToken(ofLeft.GetNext(inLeft), ofRight.GetNext(inRight), section))
+        if (!IsSameToken(ofLeft.GetNext(inLeft), ofRight.GetNext(inRight), kind))
             return false;
     }
     return true;

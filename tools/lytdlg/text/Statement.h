@@ -29,18 +29,16 @@ struct Statement
     size_t commentColumn = 0;
 };
 
-const DelimiterSet& DelimitersOf(LineSection section);
-
 // Cuts a line into its words. Nothing where a quote stays open, and where there is something that no reader sees.
-std::optional<Statement> CutStatement(const std::string& line, LineSection section);
+std::optional<Statement> CutStatement(const std::string& line, ClytLineKind kind);
 
 // The statement without its comment, indented. Nothing where the section has no form for it.
-std::optional<std::string> LaidOut(const Statement& statement, LineSection section);
+std::optional<std::string> LaidOut(const Statement& statement, ClytLineKind kind);
 
 // True when the readers of the section find the same in both lines.
-bool ReadsAlike(const std::string& left, const std::string& right, LineSection section);
+bool ReadsAlike(const std::string& left, const std::string& right, ClytLineKind kind);
 
 // True for the line of a section, or of the dialog itself and its end: it begins at the margin.
-bool IsHeading(const Statement& statement, LineSection section);
+bool IsHeading(const Statement& statement, ClytLineKind kind);
 
 } // namespace lytdlg

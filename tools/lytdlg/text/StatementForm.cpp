@@ -12,7 +12,6 @@
 #include "model/ClytWords.h"
 
 #include <algorithm>
-#include <array>
 
 namespace lytdlg
 {
@@ -24,9 +23,6 @@ constexpr const char* indentation = "    ";
 // Where the first number of a control ends, counted from its type word, and how much further each other one does.
 constexpr size_t firstNumberEnd = 13;
 constexpr size_t numberWidth = 5;
-
-constexpr std::array headings = {"$VERSION",    "$LAYOUT", "$VALUES", "$DEPENDANCES",
-                                 "$EVALUATION", "$INPUT",  "$OUTPUT", "$END"};
 
 std::string InQuotes(const Word& word)
 {
@@ -94,7 +90,8 @@ std::optional<std::string> ControlForm(const std::vector<Word>& words)
 
 std::optional<std::string> HeadForm(const std::vector<Word>& words)
 {
-    const bool isHeading = words[0].text == "$VERSION" || words[0].text == "$LAYOUT";
+    const bool isHeading =
+        words[0].text == lytWordOf(ClytSection::Head) || words[0].text == lytWordOf(ClytSection::Layout);
     if (!isHeading || words.size() > 2)
         return std::nullopt;
     return words[0].text + (words.size() == 2 ? " " + Unquoted(words[1]) : "");
@@ -110,16 +107,16 @@ std::optional<std::string> DialogForm(const std::vector<Word>& words)
     return code;
 }
 
-std::optional<std::string> LayoutForm(const Statement& statement, LineSection section)
+std::optional<std::string> LayoutForm(const Statement& statement, ClytLineKind kind)
 {
     const std::vector<Word>& words = statement.words;
     if (std::ranges::any_of(words, IsMissing))
         return std::nullopt;
-    if (section == LineSection::Header)
+    if (kind == ClytLineKind::Header)
         return HeadForm(words);
-    if (section == LineSection::Dialog)
+    if (kind == ClytLineKind::Dialog)
         return DialogForm(words);
-    if (!IsHeading(statement, section))
+    if (!IsHeading(statement, kind))
         return ControlForm(words);
     const bool isEnd = words[0].text == "End";
     if (words.size() != (isEnd ? 2U : 1U))
@@ -164,13 +161,13 @@ std::vector<size_t> OutputTexts(const std::vector<Word>& words)
     return texts;
 }
 
-std::vector<size_t> QuotedTexts(const std::vector<Word>& words, LineSection section)
+std::vector<size_t> QuotedTexts(const std::vector<Word>& words, ClytLineKind kind)
 {
-    switch (section)
+    switch (kind)
     {
-    case LineSection::FirstInput:
-    case LineSection::Input: return ScanSeparators(words);
-    case LineSection::Output: return OutputTexts(words);
+    case ClytLineKind::FirstInput:
+    case ClytLineKind::Input: return ScanSeparators(words);
+    case ClytLineKind::Output: return OutputTexts(words);
     default: return {};
     }
 }
@@ -192,9 +189,9 @@ const char* SpacedDelimiter(char delimiter)
     }
 }
 
-std::optional<std::string> RuleForm(const std::vector<Word>& words, LineSection section)
+std::optional<std::string> RuleForm(const std::vector<Word>& words, ClytLineKind kind)
 {
-    const std::vector<size_t> quoted = QuotedTexts(words, section);
+    const std::vector<size_t> quoted = QuotedTexts(words, kind);
     std::string code;
     for (size_t i = 0; i < words.size(); ++i)
     {
@@ -212,18 +209,18 @@ std::optional<std::string> RuleForm(const std::vector<Word>& words, LineSection 
 
 } // namespace
 
-bool IsHeading(const Statement& statement, LineSection section)
+bool IsHeading(const Statement& statement, ClytLineKind kind)
 {
     const std::string& word = statement.words.front().text;
-    return section <= LineSection::Dialog || (section == LineSection::Controls && word == "End") ||
-           std::ranges::find(headings, word) != headings.end();
+    return kind <= ClytLineKind::Dialog || (kind == ClytLineKind::Controls && word == "End") ||
+           std::ranges::find(lytSectionWords, word) != std::end(lytSectionWords);
 }
 
-std::optional<std::string> LaidOut(const Statement& statement, LineSection section)
+std::optional<std::string> LaidOut(const Statement& statement, ClytLineKind kind)
 {
     const std::optional<std::string> code =
-        section <= LineSection::Controls ? LayoutForm(statement, section) : RuleForm(statement.words, section);
-    if (!code || IsHeading(statement, section))
+        kind <= ClytLineKind::Controls ? LayoutForm(statement, kind) : RuleForm(statement.words, kind);
+    if (!code || IsHeading(statement, kind))
         return code;
     return indentation + *code;
 }

@@ -1,6 +1,6 @@
 #include "lytdlg/try/DialogFacts.h"
 
-#include "dialog/ClytDialog.h"
+#include "dlgfile/ReadAll.h"
 
 #include <algorithm>
 
@@ -10,103 +10,49 @@ namespace lytdlg
 namespace
 {
 
-// Reads the sections in their order.
-class FactReader
+void ReadAll(const std::string& name, ClytDialogFile& file, auto& visitor)
+{
+    if (file.Open(name.c_str(), CFile::modeRead) == 0)
+        lytRaise(lytError("OpeningFailed"), CString(), name.c_str());
+    lytReadAll(file, visitor);
+}
+
+class FactReader : public ClytDescriptionVisitor
 {
 public:
-    FactReader(const std::string& name, const std::string& defines, DialogFacts& target,
-               ErrorSink& errors = lytRaisingSink())
-        : m_file(defines.c_str(), errors), m_facts(target)
+    FactReader(const ClytDialogFile& file, DialogFacts& target) : m_file(file), m_facts(target)
     {
-        if (m_file.Open(name.c_str(), CFile::modeRead) == 0)
-            lytRaise(lytError("OpeningFailed"), CString(), name.c_str());
+        m_facts.groups.emplace_back(lytParentName);
     }
 
-    void Read()
+    void Control(const ClytControlStatement& statement)
     {
-        CString text;
-        m_file.ReadVersionHeader(text);
-        PassHeader();
-        int length = 0;
-        static_cast<void>(m_file.ReadDialogHeader(length, length, text, text)); // what follows is read in any case
-        ReadControls();
-        ReadValues();
-        for (ClytControlDep rule; m_file.ReadDependencyStatement(rule) == 1;)
-            rule.conditions.RemoveAll();
-        PassHeader();
-        ReadEvaluations();
-        ReadParts();
-        ReadGroups();
+        if (!statement.type.IsEmpty())
+            m_facts.controls.push_back({statement.name.GetString(), statement.type.GetString(), statement.span.line});
+    }
+
+    void Value(const CString& name, const CString& keyword, const CStringList& values)
+    {
+        ValueFact fact{name.GetString(), keyword.GetString(), {}, m_file.GetLinePlace().line};
+        for (POSITION place = values.GetHeadPosition(); place != nullptr;)
+            fact.values.emplace_back(values.GetNext(place).GetString());
+        if (!fact.values.empty())
+            m_facts.values.push_back(std::move(fact));
+    }
+
+    void InputPart(const CString& name, const std::unique_ptr<ClytInputPart>& /*part*/)
+    {
+        m_facts.parts.emplace_back(name.GetString());
+    }
+
+    void Output(const CString& group, const std::unique_ptr<ClytDialogOutput>& /*rule*/)
+    {
+        if (!group.IsEmpty() && group != lytParentName)
+            m_facts.groups.emplace_back(group.GetString());
     }
 
 private:
-    void PassHeader()
-    {
-        CStringList words;
-        m_file.TakeTokens(words);
-    }
-
-    void ReadControls()
-    {
-        ClytControlStatement statement;
-        while (m_file.ReadControlStatement(statement) != 0)
-        {
-            if (!statement.type.IsEmpty())
-                m_facts.controls.push_back(
-                    {statement.name.GetString(), statement.type.GetString(), statement.span.line});
-        }
-    }
-
-    void ReadValues()
-    {
-        CString name;
-        CString keyword;
-        CStringList values;
-        while (m_file.ReadValueStatement(name, keyword, values) != 0)
-        {
-            ValueFact fact{name.GetString(), keyword.GetString(), {}, m_file.GetLinePlace().line};
-            for (POSITION place = values.GetHeadPosition(); place != nullptr;)
-                fact.values.emplace_back(values.GetNext(place).GetString());
-            if (!fact.values.empty())
-                m_facts.values.push_back(std::move(fact));
-        }
-    }
-
-    void ReadEvaluations()
-    {
-        while (true)
-        {
-            ClytCtrlValList own;
-            ClytCtrlValList other;
-            CString messageKey;
-            if (m_file.ReadEvaluationStatement(own, other, messageKey) == 0)
-                return;
-        }
-    }
-
-    void ReadParts()
-    {
-        CString name;
-        while (m_file.ReadInputHeader(name) != 0)
-        {
-            m_facts.parts.emplace_back(name.IsEmpty() ? lytParentName : name.GetString());
-            ClytInputPart part;
-            m_file.ReadInputPart(part);
-        }
-    }
-
-    void ReadGroups()
-    {
-        m_facts.groups.emplace_back(lytParentName);
-        CString name;
-        for (ClytDialogOutput rule; m_file.ReadOutputStatement(name, rule) != 0; name.Empty())
-        {
-            if (!name.IsEmpty() && name != lytParentName)
-                m_facts.groups.emplace_back(name.GetString());
-        }
-    }
-
-    ClytDialogFile m_file;
+    const ClytDialogFile& m_file;
     DialogFacts& m_facts;
 };
 
@@ -137,8 +83,9 @@ int RefusedLine(const std::string& file, const std::string& defines)
     PlaceSink sink;
     try
     {
-        DialogFacts ignored;
-        FactReader(file, defines, ignored, sink).Read();
+        ClytDialogFile reader(defines.c_str(), sink);
+        ClytDescriptionVisitor nobody;
+        ReadAll(file, reader, nobody);
     }
     catch (CException* e)
     {
@@ -149,7 +96,9 @@ int RefusedLine(const std::string& file, const std::string& defines)
 
 DialogFacts::DialogFacts(const std::string& file, const std::string& defines)
 {
-    FactReader(file, defines, *this).Read();
+    ClytDialogFile reader(defines.c_str());
+    FactReader visitor(reader, *this);
+    ReadAll(file, reader, visitor);
 }
 
 const ValueFact* DialogFacts::OptionOf(const std::string& control, const std::string& word) const
