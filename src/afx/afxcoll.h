@@ -24,9 +24,9 @@ public:
 
     POSITION AddTail(TYPE element)
     {
-        const auto node = m_nodes.insert(m_nodes.end(), Node{std::move(element), {}});
-        node->self = node;
-        return Place(*node);
+        Node& node = m_nodes.emplace_back(std::move(element));
+        node.self = std::prev(m_nodes.end());
+        return Place(node);
     }
 
     const TYPE& GetHead() const { return Checked(GetHeadPosition())->element; }
@@ -69,6 +69,8 @@ protected:
 private:
     struct Node
     {
+        explicit Node(TYPE&& content) : element(std::move(content)) {}
+
         TYPE element;
         typename std::list<Node>::const_iterator self;
     };

@@ -31,7 +31,7 @@ public:
     void Dependency(std::unique_ptr<ClytControlDep>& rule);
     void EvaluationHeader(const CStringList& words);
     void Evaluation(ClytControlEval& statement);
-    void InputPart(const CString& name, std::unique_ptr<ClytInputPart> part);
+    void InputPart(const CString& name, std::unique_ptr<ClytInputPart>& part);
     void Output(const CString& nextName, std::unique_ptr<ClytDialogOutput>& rule);
     // A group is stored under its name when the next header or the end comes. A header that is the last line thus gives
     // the group before it a second name.
@@ -190,7 +190,7 @@ void ClytDialog::Reading::Evaluation(ClytControlEval& statement)
         lytTell(&ClytObserver::PassedOver, ClytPassedOver::Evaluation, own.GetName(), own.GetSpan());
 }
 
-void ClytDialog::Reading::InputPart(const CString& name, std::unique_ptr<ClytInputPart> part)
+void ClytDialog::Reading::InputPart(const CString& name, std::unique_ptr<ClytInputPart>& part)
 {
     part->Bind(dialog.controlMap);
     dialog.inputMap.SetAt(name, part.get());

@@ -41,20 +41,32 @@ int ClytDialogFile::TakeTokens(CStringList& texts)
     return 1;
 }
 
+// The set is made once for a run of lines: sets ready for all kinds would be as large as a reader's code.
+void ClytDialogFile::SetKind(ClytLineKind kind)
+{
+    const ClytLineForm* next = &lytFormOf(kind);
+    if (next == lineForm)
+        return;
+    lineForm = next;
+    lineDelimiters = DelimiterSet(lineForm->delimiters);
+}
+
 bool ClytDialogFile::ReadTokens(ClytLineKind kind)
 {
+    SetKind(kind);
     char line[lineSize + 1];
     if (ReadString(line, lineSize) == nullptr)
         return false;
-    Tokenize(line, lytFormOf(kind).delimiters);
+    Tokenize(line, lineDelimiters);
     return true;
 }
 
 int ClytDialogFile::ReadSectionLine(POSITION& token, ClytLineKind kind)
 {
-    const char* const terminator = lytWordOf(lytFormOf(kind).end);
     token = nullptr;
-    if (!ReadTokens(kind))
+    const bool isRead = ReadTokens(kind);
+    const char* const terminator = lytWordOf(lineForm->end);
+    if (!isRead)
     {
         tokens.RemoveAll();
         Tell(lytError("EndTooSoon"), EndOfLine(), terminator);

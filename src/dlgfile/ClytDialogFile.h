@@ -80,6 +80,8 @@ private:
     template <class READ>
     int ReadStatement(READ read);
 
+    // The lines that follow are of that kind.
+    void SetKind(ClytLineKind kind);
     [[nodiscard]] bool ReadTokens(ClytLineKind kind);
     // The position is that of the first token, after the word of the next section that of the second, or null. The end
     // of the file is reported.
@@ -127,9 +129,11 @@ private:
     CString ReadItemAction(POSITION& token);
 
     ErrorSink& errors;
-    ClytSpan partPlace;                   // of the last header of an input part
-    ClytTokenList tokens;                 // of the present line; the next section's reader may start from them
-    const ClytToken* lastTaken = nullptr; // from the list; null before the first of a line
+    const ClytLineForm* lineForm = nullptr; // of the present line
+    DelimiterSet lineDelimiters{""};        // of that form
+    ClytSpan partPlace;                     // of the last header of an input part
+    ClytTokenList tokens;                   // of the present line; the next section's reader may start from them
+    const ClytToken* lastTaken = nullptr;   // from the list; null before the first of a line
 };
 
 template <class READ>

@@ -31,7 +31,7 @@ public:
     void Dependency(std::unique_ptr<ClytControlDep>& /*rule*/) {}
     void EvaluationHeader(CStringList& /*words*/) {}
     void Evaluation(ClytControlEval& /*statement*/) {}
-    void InputPart(const CString& /*name*/, std::unique_ptr<ClytInputPart> /*part*/) {}
+    void InputPart(const CString& /*name*/, std::unique_ptr<ClytInputPart>& /*part*/) {}
     // The group is that of a header; any other statement has none, and adds to a rule that was not taken.
     void Output(const CString& /*group*/, std::unique_ptr<ClytDialogOutput>& /*rule*/) {}
 };
@@ -132,7 +132,9 @@ private:
             visitor.LinesBegin(ClytLineKind::Input);
             auto part = std::make_unique<ClytInputPart>();
             file.ReadInputPart(*part);
-            visitor.InputPart(name.IsEmpty() ? CString(lytParentName) : name, std::move(part));
+            if (name.IsEmpty())
+                name = lytParentName;
+            visitor.InputPart(name, part);
             visitor.LinesBegin(ClytLineKind::FirstInput);
         }
     }

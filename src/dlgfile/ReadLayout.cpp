@@ -63,10 +63,11 @@ int ClytDialogFile::ReadHeaderStatement(CString& version, bool& isVersionSeen)
 // headers, so a quote without its partner counts on their own lines only.
 bool ClytDialogFile::ReadHeaderLine()
 {
+    SetKind(ClytLineKind::Header);
     char line[lineSize + 1];
     while (ReadString(line, lineSize) != nullptr)
     {
-        const char* openQuote = lytTokenize(line, lytFormOf(ClytLineKind::Header).delimiters, tokens);
+        const char* openQuote = lytTokenize(line, lineDelimiters, tokens);
         if (tokens.IsEmpty())
             continue;
         const CString& word = tokens.GetHead().GetText();

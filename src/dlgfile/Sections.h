@@ -1,7 +1,7 @@
 // The sections of a description in their order, and how the lines of each are cut.
 #pragma once
 
-#include "base/DelimiterSet.h"
+#include <cstddef>
 
 // Each section opens with its word, except the head: that is all above the layout, and must hold its word.
 enum class ClytSection
@@ -42,16 +42,16 @@ enum class ClytLineKind
 // start where a header is found, so a header's words are cut as those of the section before it.
 struct ClytLineForm
 {
-    DelimiterSet delimiters;
+    const char* delimiters;
     ClytSection end;
 };
 
 inline constexpr ClytLineForm lytLineForms[] = {
-    {DelimiterSet(" ,\t\n();:"), ClytSection::Layout},    {DelimiterSet(" ,\t\n();"), ClytSection::Values},
-    {DelimiterSet(" ,\t\n;"), ClytSection::Values},       {DelimiterSet("=,\t\n();:"), ClytSection::Dependencies},
-    {DelimiterSet("=,\t\n()/"), ClytSection::Evaluation}, {DelimiterSet("=,\t\n():;"), ClytSection::Input},
-    {DelimiterSet("=,\n():"), ClytSection::Output},       {DelimiterSet("=,\t\n():;"), ClytSection::Output},
-    {DelimiterSet("=,\n():<>"), ClytSection::End},
+    {" ,\t\n();:", ClytSection::Layout},    {" ,\t\n();", ClytSection::Values},
+    {" ,\t\n;", ClytSection::Values},       {"=,\t\n();:", ClytSection::Dependencies},
+    {"=,\t\n()/", ClytSection::Evaluation}, {"=,\t\n():;", ClytSection::Input},
+    {"=,\n():", ClytSection::Output},       {"=,\t\n():;", ClytSection::Output},
+    {"=,\n():<>", ClytSection::End},
 };
 
 constexpr const ClytLineForm& lytFormOf(ClytLineKind kind)

@@ -3,6 +3,17 @@
 #include "model/ClytControl.h"
 #include "model/ClytWords.h"
 
+ClytCtrlValList::ClytCtrlValList(const CString& name, const ClytSpan& place)
+{
+    SetName(name, place);
+}
+
+void ClytCtrlValList::SetName(const CString& name, const ClytSpan& place)
+{
+    controlName = name;
+    span = place;
+}
+
 void ClytCtrlValList::CopyFrom(const ClytCtrlValList& other)
 {
     if (this == &other)

@@ -12,15 +12,11 @@ using ClytControlMap = CTypedPtrMap<CMapStringToPtr, CString, ClytControl*>;
 class ClytCtrlValList : public CObject
 {
 public:
-    ClytCtrlValList() = default;
-    explicit ClytCtrlValList(CString name, const ClytSpan& place = {}) : controlName(std::move(name)), span(place) {}
+    // Conditions are made at many places: the compiler would repeat it at each of them.
+    explicit ClytCtrlValList(const CString& name = {}, const ClytSpan& place = {});
 
     const CString& GetName() const { return controlName; }
-    void SetName(CString name, const ClytSpan& place = {})
-    {
-        controlName = std::move(name);
-        span = place;
-    }
+    void SetName(const CString& name, const ClytSpan& place = {});
     // Where the name is in the description.
     const ClytSpan& GetSpan() const { return span; }
     CStringList& GetValues() { return values; }

@@ -125,7 +125,7 @@ public:
         statement.span = m_file.GetLinePlace();
     }
 
-    void InputPart(const CString& name, std::unique_ptr<ClytInputPart> part)
+    void InputPart(const CString& name, std::unique_ptr<ClytInputPart>& part)
     {
         const ClytSpan header = part->span;
         if (HasLines(Section::Input))

@@ -157,12 +157,11 @@ private:
 
 } // namespace
 
-const DelimiterSet& DelimitersOf(Section section)
+DelimiterSet DelimitersOf(Section section)
 {
     using enum ClytLineKind;
     static constexpr ClytLineKind kinds[] = {Header, Controls, Values, Dependencies, Evaluation, Input, Output};
-    static constexpr DelimiterSet endsNothing("\n");
-    return section == Section::End ? endsNothing : lytFormOf(kinds[static_cast<size_t>(section)]).delimiters;
+    return DelimiterSet(section == Section::End ? "\n" : lytFormOf(kinds[static_cast<size_t>(section)]).delimiters);
 }
 
 DescriptionText::DescriptionText(std::string bytes, std::vector<std::string> defines)

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "base/ClytSpan.h"
+#include "base/DelimiterSet.h"
 #include "lytdlg/judge/SourceLines.h"
 
 #include <map>
@@ -17,7 +18,7 @@ inline constexpr Section allSections[] = {Section::Head,       Section::Layout, 
                                           Section::Evaluation, Section::Input,  Section::Output, Section::End};
 
 // The characters that end a word in the statements of a section.
-const DelimiterSet& DelimitersOf(Section section);
+DelimiterSet DelimitersOf(Section section);
 
 // A line that was meant as a header but is not one: its word is misspelt or continues after a blank.
 struct FalseHeader

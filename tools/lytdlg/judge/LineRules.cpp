@@ -54,7 +54,7 @@ void JudgeTabs(const Case& judged, const SourceLine& line)
     if (!IsInStatements(line) || line.section == Section::Layout || line.text.find('\t') == std::string::npos)
         return;
     const std::string text = line.text.substr(0, EndOfStatement(line));
-    const DelimiterSet& delimiters = DelimitersOf(line.section);
+    const DelimiterSet delimiters = DelimitersOf(line.section);
     bool isInQuotes = false;
     for (size_t place = 0; place < text.size(); ++place)
     {

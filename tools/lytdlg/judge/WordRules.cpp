@@ -27,7 +27,7 @@ size_t EndOfQuotes(const std::string& text, size_t begin)
 void JudgeQuotes(const Case& judged, const SourceLine& line)
 {
     const std::string& text = line.text;
-    const DelimiterSet& delimiters = DelimitersOf(line.section);
+    const DelimiterSet delimiters = DelimitersOf(line.section);
     size_t begin = text.find_first_not_of(" \t");
     while (begin != std::string::npos && text[begin] != ';')
     {

@@ -73,10 +73,11 @@ bool IsSameToken(const ClytToken& left, const ClytToken& right, ClytLineKind kin
 
 std::optional<Statement> CutStatement(const std::string& line, ClytLineKind kind)
 {
+    const DelimiterSet delimiters(lytFormOf(kind).delimiters);
     ClytTokenList tokens;
-    if (lytTokenize(line.c_str(), lytFormOf(kind).delimiters, tokens) != nullptr)
+    if (lytTokenize(line.c_str(), delimiters, tokens) != nullptr)
         return std::nullopt;
-    Cutter cutter(line.c_str(), lytFormOf(kind).delimiters);
+    Cutter cutter(line.c_str(), delimiters);
     for (POSITION place = tokens.GetHeadPosition(); place != nullptr;)
     {
         if (!cutter.Take(tokens.GetNext(place)))
@@ -87,10 +88,11 @@ std::optional<Statement> CutStatement(const std::string& line, ClytLineKind kind
 
 bool ReadsAlike(const std::string& left, const std::string& right, ClytLineKind kind)
 {
+    const DelimiterSet delimiters(lytFormOf(kind).delimiters);
     ClytTokenList ofLeft;
     ClytTokenList ofRight;
-    const bool isLeftOpen = lytTokenize(left.c_str(), lytFormOf(kind).delimiters, ofLeft) != nullptr;
-    const bool isRightOpen = lytTokenize(right.c_str(), lytFormOf(kind).delimiters, ofRight) != nullptr;
+    const bool isLeftOpen = lytTokenize(left.c_str(), delimiters, ofLeft) != nullptr;
+    const bool isRightOpen = lytTokenize(right.c_str(), delimiters, ofRight) != nullptr;
     if (isLeftOpen || isRightOpen || ofLeft.GetCount() != ofRight.GetCount())
         return false;
     POSITION inRight = ofRight.GetHeadPosition();
