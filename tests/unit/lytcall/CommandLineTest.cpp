@@ -1,89 +1,73 @@
 #include "lytcall/Commands.h"
+#include "support/Cases.h"
 
-#include <gtest/gtest.h>
+#include <sstream>
 
 using lytcall::Request;
 
 namespace
 {
 
-Request ReadCommandLine(const std::vector<std::string>& words)
+// The words of the line are separated by blanks.
+Request RequestOf(const std::string& line)
 {
-    return commandline::ReadCommandLine(lytcall::TheProgram(), words);
+    std::istringstream words(line);
+    return ReadCommandLine(lytcall::TheProgram(), {std::istream_iterator<std::string>(words), {}});
 }
 
-std::string Mistake(const std::vector<std::string>& words)
+// The command, its operands in brackets and its options in their order; or what is wrong.
+std::string ReadLine(const std::string& line)
 {
     try
     {
-        ReadCommandLine(words);
+        const Request request = RequestOf(line);
+        std::string text = request.command;
+        for (const std::string& operand : request.operands)
+            text += " [" + operand + "]";
+        for (const auto& [option, value] : request.InOrder())
+            text += " " + option + "=" + value;
+        return text;
     }
     catch (const commandline::UsageError& error)
     {
         return error.what();
     }
-    return "read without complaint";
 }
 
 } // namespace
 
-TEST(CommandLine, TellsCommandOperandsAndOptionsApart)
+TEST(CommandLine, IsACommandWithOperandsAndOptions)
 {
-    const Request request = ReadCommandLine({"group", "--kind", "0", "a(b)", "--define", "X", "--define", "Y"});
-    EXPECT_EQ(request.command, "group");
-    EXPECT_EQ(request.operands, std::vector<std::string>{"a(b)"});
-    EXPECT_EQ(request.Number("--kind", 1), 0);
-    EXPECT_EQ(request.Texts("--define"), (std::vector<std::string>{"X", "Y"}));
+    ExpectEach(ReadLine, {
+                             {"group --kind 0 a(b) --define X", "group [a(b)] --kind=0 --define=X"},
+                             {"--define X group --kind 0 --define Y", "group --define=X --kind=0 --define=Y"},
+                             {"find -- --key", "find [--key]"},
+                             {"", "help"},
+                             {"--help", "help"},
+                             {"group a b --help", "help [group]"},
+                             {"--version", "version"},
+                             {"--version --help", "version"},
+                             {"symbl", "there is no command \"symbl\"; did you mean \"symbol\"?"},
+                             {"doc --scrpt x", "there is no option --scrpt; did you mean \"--script\"?"},
+                             {"doc --script", "option --script needs FILE after it"},
+                             {"doc --size big", "option --size needs a number and not \"big\""},
+                             {"find", "something is missing after \"find\"; write: lytcall find KEY"},
+                             {"find a b", "\"b\" is one word too many; write: lytcall find KEY"},
+                         });
+}
+
+TEST(CommandLine, GivesTheValuesOfItsOptions)
+{
+    const Request request = RequestOf("doc --size 1 --size -2 --define X --define Y");
+    EXPECT_EQ(request.Number("--size", 0), -2) << "the last counts";
+    EXPECT_EQ(request.Number("--kind", 7), 7);
     EXPECT_EQ(request.Text("--script", "none"), "none");
-    EXPECT_EQ(request.Number("--size", 7), 7);
+    EXPECT_EQ(request.Texts("--define"), (std::vector<std::string>{"X", "Y"}));
 }
 
-TEST(CommandLine, KeepsTheOrderOfOptions)
+TEST(CommandLine, IsExplainedByVersionAndHelp)
 {
-    std::string order;
-    const Request request = ReadCommandLine({"--define", "X", "group", "--kind", "0", "--define", "Y"});
-    for (const auto& [option, value] : request.InOrder())
-        order += option + " " + value + ";";
-    EXPECT_EQ(order, "--define X;--kind 0;--define Y;");
-}
-
-TEST(CommandLine, TheLastOfTwoValuesCounts)
-{
-    EXPECT_EQ(ReadCommandLine({"doc", "--size", "1", "--size", "-2"}).Number("--size", 0), -2);
-}
-
-TEST(CommandLine, OptionsEndAtTwoHyphens)
-{
-    const Request request = ReadCommandLine({"find", "--", "--key"});
-    EXPECT_EQ(request.operands, std::vector<std::string>{"--key"});
-}
-
-TEST(CommandLine, NothingAndHelpAskForHelp)
-{
-    EXPECT_EQ(ReadCommandLine({}).command, "help");
-    EXPECT_EQ(ReadCommandLine({"--help"}).command, "help");
-    EXPECT_EQ(ReadCommandLine({"group", "a", "b", "--help"}).command, "help");
-}
-
-TEST(CommandLine, VersionIsAskedForAlone)
-{
-    EXPECT_EQ(ReadCommandLine({"--version"}).command, "version");
-    EXPECT_EQ(ReadCommandLine({"--version", "--help"}).command, "version");
     EXPECT_EQ(commandline::VersionText(lytcall::TheProgram()), std::string("lytcall ") + LYT_VERSION + "\n");
-}
-
-TEST(CommandLine, MistakesTellTheWayOut)
-{
-    EXPECT_EQ(Mistake({"symbl"}), "there is no command \"symbl\"; did you mean \"symbol\"?");
-    EXPECT_EQ(Mistake({"doc", "--scrpt", "x"}), "there is no option --scrpt; did you mean \"--script\"?");
-    EXPECT_EQ(Mistake({"doc", "--script"}), "option --script needs FILE after it");
-    EXPECT_EQ(Mistake({"doc", "--size", "big"}), "option --size needs a number and not \"big\"");
-    EXPECT_EQ(Mistake({"find"}), "something is missing after \"find\"; write: lytcall find KEY");
-    EXPECT_EQ(Mistake({"find", "a", "b"}), "\"b\" is one word too many; write: lytcall find KEY");
-}
-
-TEST(CommandLine, HelpNamesEveryCommandAndOption)
-{
     const std::string help = commandline::HelpText(lytcall::TheProgram());
     for (const commandline::CommandForm& form : lytcall::TheProgram().commands)
         EXPECT_NE(help.find(form.word), std::string::npos) << form.word;

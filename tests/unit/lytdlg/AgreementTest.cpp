@@ -11,12 +11,13 @@
 #include <algorithm>
 #include <set>
 
+namespace lytdlg
+{
+
 namespace
 {
 
-using namespace lytdlg;
-
-struct Verdict
+struct Judged
 {
     std::optional<Refusal> refusal;
     Findings findings;
@@ -25,11 +26,11 @@ struct Verdict
     bool hasError = false;
 };
 
-Verdict VerdictOn(const std::string& bytes)
+Judged VerdictOn(const std::string& bytes)
 {
     static const Surroundings surroundings = SurroundingsOf("", {});
     const Description description("mutation.dlg", bytes, {});
-    Verdict verdict;
+    Judged verdict;
     verdict.refusal = RefusalOf(description);
     verdict.findings = Judge(description, surroundings);
     for (const Finding& finding : verdict.findings.All())
@@ -45,7 +46,7 @@ Verdict VerdictOn(const std::string& bytes)
     return verdict;
 }
 
-bool HasNumberAtItsLine(const Verdict& verdict)
+bool HasNumberAtItsLine(const Judged& verdict)
 {
     return std::ranges::any_of(verdict.findings.All(),
                                [&](const Finding& finding)
@@ -70,7 +71,7 @@ void ForEachMutation(Act act)
 
 void ExpectAgreement(const std::string& bytes)
 {
-    const Verdict verdict = VerdictOn(bytes);
+    const Judged verdict = VerdictOn(bytes);
     if (!verdict.refusal)
         EXPECT_FALSE(verdict.hasError) << verdict.text << bytes;
     else
@@ -83,7 +84,7 @@ TEST(Agreement, OnSamplesIsThatAllOfThemOpen)
 {
     for (const std::string& bytes : SampleDescriptions())
     {
-        const Verdict verdict = VerdictOn(bytes);
+        const Judged verdict = VerdictOn(bytes);
         EXPECT_FALSE(verdict.refusal.has_value()) << bytes;
         EXPECT_FALSE(verdict.hasError) << verdict.text;
     }
@@ -108,7 +109,7 @@ TEST(Agreement, OnMutationsNeedsTheTrialByTheLibraryRarely)
     ForEachMutation(
         [&](const std::string& bytes)
         {
-            const Verdict verdict = VerdictOn(bytes);
+            const Judged verdict = VerdictOn(bytes);
             refused += verdict.refusal ? 1 : 0;
             foreseen += verdict.refusal && verdict.isForeseen ? 1 : 0;
         });
@@ -128,3 +129,5 @@ TEST(Precision, HasNeitherErrorsNorWarningsForSamples)
             EXPECT_EQ(finding.rule->level, Level::Note) << TextOf(finding, description, false);
     }
 }
+
+} // namespace lytdlg

@@ -263,28 +263,6 @@ TEST_F(CheckReport, DoesNotSilenceAnError)
     EXPECT_NE(told.find("error section-misspelt"), std::string::npos) << told;
 }
 
-TEST_F(CheckReport, MistakesOfTheCommandLineTellTheWayOut)
-{
-    static const struct
-    {
-        std::vector<std::string> words;
-        const char* told;
-    } cases[] = {
-        {{"check"}, "something is missing after \"check\"; write: lytdlg check PATH..."},
-        {{"check", "x", "--format", "jsn"}, "there is no format \"jsn\"; did you mean \"json\"?"},
-        {{"check", "--explain", "section-ordr"}, "there is no rule \"section-ordr\"; did you mean \"section-order\"?"},
-        {{"check", "missing.dlg"},
-         "there is no file or folder missing.dlg; name descriptions, their folder, or - for the standard input"},
-    };
-    for (const auto& c : cases)
-    {
-        testing::internal::CaptureStderr();
-        EXPECT_EQ(lytdlg::Run(c.words), 2);
-        EXPECT_EQ(testing::internal::GetCapturedStderr(),
-                  std::string("lytdlg: ") + c.told + "\n`lytdlg --help` lists commands and options.\n");
-    }
-}
-
 // What `lytdlg check --explain` prints of the rule.
 std::string Explained(const char* rule)
 {

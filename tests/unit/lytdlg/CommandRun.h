@@ -6,7 +6,6 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <cstdio>
 #include <ostream>
 
 struct CommandRun
@@ -35,12 +34,3 @@ inline std::ostream& operator<<(std::ostream& out, const CommandRun& run)
 {
     return out << "exit code " << run.code << "\noutput:\n" << run.output << "errors:\n" << run.errors;
 }
-
-// The standard input comes from a file; nothing is left of it afterwards.
-struct StandardInput
-{
-    explicit StandardInput(const std::string& fileName)
-    {
-        EXPECT_NE(std::freopen(fileName.c_str(), "r", stdin), nullptr);
-    }
-};

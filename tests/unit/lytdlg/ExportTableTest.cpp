@@ -6,10 +6,11 @@
 
 #include <gtest/gtest.h>
 
-namespace
+namespace lytdlg
 {
 
-using namespace lytdlg;
+namespace
+{
 
 std::string NamesIn(std::string_view bytes)
 {
@@ -83,3 +84,5 @@ TEST(ExportTable, ReadsNoMoreThanAFairTableHolds)
     std::string endless = LibraryFile({std::string(400, 'x')});
     EXPECT_EQ(NamesIn(endless), "");
 }
+
+} // namespace lytdlg

@@ -7,7 +7,8 @@
 #include <algorithm>
 #include <fstream>
 
-using namespace lytdlg;
+namespace lytdlg
+{
 
 namespace
 {
@@ -123,3 +124,5 @@ TEST(Rules, ArePrintedAsTheirPageHasThem)
     }
     EXPECT_TRUE(RulePage().ends_with(page));
 }
+
+} // namespace lytdlg

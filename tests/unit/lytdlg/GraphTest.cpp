@@ -2,8 +2,6 @@
 #include "DrawnFolder.h"
 #include "WellFormed.h"
 
-#include <array>
-
 namespace
 {
 
@@ -34,73 +32,6 @@ protected:
 };
 
 } // namespace
-
-TEST_F(Graph, OfRulesHasAnEdgeForEachControlThatARuleAsks)
-{
-    EXPECT_EQ(GraphOf("rules", Linked()()), R"dot(  "control L" [label="L\nListBox, line 5"];
-  "control A" [label="A\nTextBox, line 4"];
-  "control A" -> "control L" [label="ACTIVE (NOTNULL, x)\nline 13"];
-  "control None" [label="None\nno such control", color="red", fontcolor="red", style="dashed"];
-  "control A" -> "control None" [label="VISIBLE (1)\nline 14", color="red", fontcolor="red", style="dashed"];
-  "control A" -> "control L" [label="FILL (1)\nline 15, from line 14", color="red", fontcolor="red", style="dashed"];
-  "control A" -> "control L" [label="FILL\nline 15"];
-  "control B" [label="B\nPushButton, line 6"];
-  "always in line 16" [label="always", shape="plaintext"];
-  "always in line 16" -> "control B" [label="ACTIVE\nline 16"];
-)dot");
-    EXPECT_EQ(exitCode, 0);
-    EXPECT_EQ(told, "");
-}
-
-TEST_F(Graph, OfTheScanHasItsStatesWithTheirFillsAndWaysOn)
-{
-    EXPECT_EQ(GraphOf("scan", Linked()()), R"dot(  subgraph "cluster 1" {
-    label="part parent";
-    "part 1 Start 19" [label="Start\nline 19\n= A\n(x) = L (CONCAT, '|')"];
-    "part 1 Start 19" -> "part 1 Next 20" [label="';'"];
-    "part 1 End" [label="End", shape="doublecircle"];
-    "part 1 Start 19" -> "part 1 End" [label="'Rest', end of the text"];
-    "part 1 Next 20" [label="Next\nline 20"];
-    "part 1 Next 20" -> "part 1 Start 19" [label="if A(1, 2)"];
-    "part 1 Gone" [label="Gone\nno such statement", color="red", fontcolor="red", style="dashed"];
-    "part 1 Next 20" -> "part 1 Gone" [label="else"];
-    "part 1 Lost 21" [label="Lost\nline 21\n= Who: no such control\nnever reached", color="red", fontcolor="red", style="dashed"];
-    "part 1 Lost 21" -> "part 1 Start 19" [label="3 characters", style="dashed"];
-  }
-)dot");
-}
-
-TEST_F(Graph, OfGroupsTellsWhoUsesThem)
-{
-    EXPECT_EQ(GraphOf("groups", Linked()()), R"dot(  "dialog" [label="the dialog", shape="ellipse"];
-  "part parent" [label="part parent\nline 18", shape="tab"];
-  "dialog" -> "part parent" [label="its input"];
-  "group parent" [label="group parent\nline 23", shape="note"];
-  "dialog" -> "group parent" [label="its result"];
-  "control L" [label="L\nListBox, line 5"];
-  "library data" [label="data", shape="component"];
-  "control L" -> "library data" [label="FILLEDBY Open\nline 9"];
-  "group lists" [label="group lists\nline 26", shape="note"];
-  "control L" -> "group lists" [label="hands over\nline 9"];
-  "control B" [label="B\nPushButton, line 6"];
-  "control L" -> "control B" [label="DBLCLICK\nline 10"];
-  "file other.dlg" [label="other.dlg\nno such file", shape="folder", color="red", fontcolor="red", style="dashed"];
-  "control B" -> "file other.dlg" [label="DIALOG\nline 11", color="red", fontcolor="red", style="dashed"];
-  "group out" [label="group out\nno such group", shape="note", color="red", fontcolor="red", style="dashed"];
-  "control B" -> "group out" [label="hands over\nline 11", color="red", fontcolor="red", style="dashed"];
-  "part back" [label="part back\nno such part", shape="tab", color="red", fontcolor="red", style="dashed"];
-  "control B" -> "part back" [label="takes apart\nline 11", color="red", fontcolor="red", style="dashed"];
-  "group unused" [label="group unused\nline 28", shape="note", style="dashed"];
-)dot");
-}
-
-TEST_F(Graph, IsPrintedWithoutAFileAndOfTheRulesUnlessToldOtherwise)
-{
-    const std::string graph = Draw("graph", Linked()(), "graph.dot", {"--of", "rules"});
-    Run({"graph", folder.File("test.dlg")});
-    EXPECT_EQ(printed, graph);
-    EXPECT_NE(printed, "");
-}
 
 TEST_F(Graph, LeavesOutWhatTheLibraryCannotRead)
 {
@@ -144,21 +75,5 @@ TEST_F(Graph, IsThereForEverySample)
             // Nothing in a sample is unknown or never reached.
             EXPECT_EQ(printed.find("red"), printed.find("reached")) << printed;
         }
-    }
-}
-
-TEST_F(Graph, TellsWhatACommandLineShouldBe)
-{
-    const std::string dialog = folder.Write("test.dlg", Linked()());
-    const std::array<std::pair<std::vector<std::string>, const char*>, 3> cases = {{
-        {{"graph", dialog, "--of", "all"}, "lytdlg: there is no graph of \"all\"; use one of: rules, scan, groups\n"},
-        {{"graph", dialog, "-o", "x.png"}, "lytdlg: \"x.png\" is no kind of graph; the name ends in .dot or .svg\n"},
-        {{"graph", "none.dlg"}, "lytdlg: there is no dialog \"none.dlg\"; name a .dlg file with its folder\n"},
-    }};
-    for (const auto& [words, message] : cases)
-    {
-        Run(words);
-        EXPECT_EQ(told, std::string(message) + "`lytdlg --help` lists commands and options.\n");
-        EXPECT_EQ(exitCode, 2);
     }
 }

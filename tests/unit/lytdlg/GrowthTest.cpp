@@ -8,7 +8,8 @@
 #include <map>
 #include <sstream>
 
-using namespace lytdlg;
+namespace lytdlg
+{
 
 namespace
 {
@@ -125,3 +126,5 @@ TEST(Growth, OfADescriptionIsThatOfItsJudgement)
         EXPECT_LE(size, size_t{2000} * LYT_GROWN);
     }
 }
+
+} // namespace lytdlg

@@ -213,15 +213,3 @@ TEST(New, TellsWhatIsWrongWithAName)
     EXPECT_EQ(lytdlg::FaultOfName(std::string(40, 'a')), "");
     EXPECT_EQ(lytdlg::FaultOfName(std::string(41, 'a')), "use 40 letters at most");
 }
-
-TEST(New, SaysWhatToWriteWhenItIsNotUnderstood)
-{
-    EXPECT_EQ(CommandRun({"new", "a/b"}),
-              CommandRun(2, "",
-                         std::string("lytdlg: \"a/b\" is no name for a dialog; use letters from A to Z, digits, - and "
-                                     "_, with a letter first\n") +
-                             hint));
-    EXPECT_EQ(
-        CommandRun({"new", "a", "-o", "nowhere"}),
-        CommandRun(2, "", std::string("lytdlg: there is no folder nowhere; name the folder of the dialogs\n") + hint));
-}

@@ -31,72 +31,6 @@ using Preview = Drawn;
 
 } // namespace
 
-TEST_F(Preview, DrawsWindowAndControlsPixelForPixel)
-{
-    EXPECT_EQ(Draw("preview", SmallDialog()(), "small.svg"), R"(<?xml version="1.0" encoding="UTF-8"?>
-<svg xmlns="http://www.w3.org/2000/svg" width="155" height="135" viewBox="0 0 155 135" font-family="Tahoma, &#39;DejaVu Sans Condensed&#39;, &#39;Liberation Sans&#39;, sans-serif" font-size="10.6">
-  <title>A &amp; B &lt;1&gt;</title>
-  <rect x="0.5" y="0.5" width="154" height="134" fill="#f4f4f4" stroke="#696969"/>
-  <rect x="3" y="3" width="149" height="18" fill="#3399ff"/>
-  <svg x="3" y="3" width="149" height="18">
-    <text x="2" y="13" fill="#000000" font-weight="bold">A &amp; B &lt;1&gt;</text>
-    <rect x="133.5" y="2.5" width="13" height="13" fill="#ffffff" stroke="#aeaeae"/>
-    <path d="M136.5 5.5L143.5 12.5" stroke="#000000"/>
-    <path d="M136.5 12.5L143.5 5.5" stroke="#000000"/>
-  </svg>
-  <svg x="3" y="22" width="149" height="110">
-    <g id="control-1">
-      <title>NameLabel: Text</title>
-      <svg x="7" y="10" width="37" height="13">
-        <text x="0 8 14 22 28" y="11" fill="#000000">Name:</text>
-        <rect x="0" y="12" width="8" height="1" fill="#000000"/>
-      </svg>
-    </g>
-    <g id="control-2">
-      <title>Name: TextBox</title>
-      <svg x="45" y="10" width="45" height="20">
-        <rect x="0.5" y="0.5" width="44" height="19" fill="#ffffff" stroke="#aeaeae"/>
-        <path d="M2.5 2.5L42.5 2.5" stroke="#696969"/>
-        <path d="M2.5 2.5L2.5 17.5" stroke="#696969"/>
-        <path d="M2.5 17.5L42.5 17.5" stroke="#e3e3e3"/>
-        <path d="M42.5 2.5L42.5 17.5" stroke="#e3e3e3"/>
-        <svg x="3" y="3" width="39" height="14">
-          <text x="1 7 13" y="11" fill="#000000">abc</text>
-          <rect x="1" y="0" width="18" height="13" fill="#3399ff"/>
-          <text x="1 7 13" y="11" fill="#ffffff">abc</text>
-        </svg>
-      </svg>
-    </g>
-    <g id="control-3">
-      <title>Mark: CheckBox</title>
-      <svg x="7" y="43" width="84" height="13">
-        <rect x="0.5" y="0.5" width="12" height="12" fill="#ffffff" stroke="#aeaeae" rx="2"/>
-        <path d="M3 6l3 3l5 -6" fill="none" stroke="#000000" stroke-width="2"/>
-        <text x="17 28 30 33 39 42 48 51 59 65 68" y="11" fill="#000000">With &amp; more</text>
-      </svg>
-    </g>
-    <g id="control-5">
-      <title>Ok: OKButton</title>
-      <svg x="7" y="64" width="45" height="23">
-        <rect x="0.5" y="0.5" width="44" height="22" fill="#ffffff" stroke="#3399ff" rx="2"/>
-        <text x="15 23" y="16" fill="#000000">OK</text>
-        <rect x="15" y="17" width="8" height="1" fill="#000000"/>
-      </svg>
-    </g>
-  </svg>
-</svg>
-)");
-    EXPECT_EQ(exitCode, 0);
-}
-
-TEST_F(Preview, PrintsTheDrawingWithoutAFile)
-{
-    const std::string drawing = Draw("preview", SmallDialog()(), "small.svg");
-    Run({"preview", folder.File("test.dlg")});
-    EXPECT_EQ(printed, drawing);
-    EXPECT_NE(printed, "");
-}
-
 TEST_F(Preview, ShowsHiddenControlsInOutlineWithTheNames)
 {
     const std::string plain = Draw("preview", SmallDialog()(), "small.svg");
@@ -177,36 +111,6 @@ TEST_F(Preview, IsWellFormedWhateverTheTexts)
         EXPECT_EQ(MistakeOfXml(drawing), "");
         EXPECT_NE(drawing, "");
     }
-}
-
-TEST_F(Preview, TellsWhatACommandLineShouldBe)
-{
-    const std::string dialog = folder.Write("test.dlg", SmallDialog()());
-    const struct
-    {
-        std::vector<std::string> words;
-        const char* message;
-    } cases[] = {
-        {{"preview", dialog, "-o", "x.png"}, "lytdlg: \"x.png\" is no kind of picture; the name ends in .svg\n"},
-        {{"preview", "none.dlg"}, "lytdlg: there is no dialog \"none.dlg\"; name a .dlg file with its folder\n"},
-    };
-    for (const auto& c : cases)
-    {
-        Run(c.words);
-        EXPECT_EQ(told, std::string(c.message) + "`lytdlg --help` lists commands and options.\n");
-        EXPECT_EQ(exitCode, 2);
-    }
-}
-
-TEST_F(Preview, TellsOfAFileThatCannotBeWritten)
-{
-    Draw("preview", SmallDialog()(), "small.svg");
-    Run({"preview", folder.File("test.dlg"), "-o", "no-such-folder/x.svg"});
-    EXPECT_EQ(
-        told,
-        "lytdlg: no-such-folder/x.svg cannot be written (No such file or directory); make its folder first, or choose "
-        "another\n");
-    EXPECT_EQ(exitCode, 1);
 }
 
 TEST(Markup, EscapesWhatItCannotHold)

@@ -18,7 +18,6 @@
 namespace
 {
 
-namespace fs = std::filesystem;
 using nlohmann::json;
 
 // The texts that the library asks for by itself, all there.
@@ -242,18 +241,4 @@ TEST(Texts, OfTheLibraryAreAskedForInNoOtherWay)
         NamedInSources("", "lytEnvironment\\.GetText\\((?!\"\\w+\", \"\\w+\"\\))([^,]*),"),
         (std::set<std::string>{"dialog.GetTextSection()", "this->dialog->GetTextSection()", "dialog->GetTextSection()",
                                "lytErrorSection", "section", "CString(section)", "lytButtonSection"}));
-}
-
-TEST(TextsCommand, SaysWhatToWriteWhenItIsNotUnderstood)
-{
-    const TestFolder folder;
-    const std::string hint = "`lytdlg --help` lists commands and options.\n";
-    EXPECT_EQ(CommandRun({"texts", "none"}),
-              CommandRun(2, "", "lytdlg: there is no folder none; name the folder of the dialogs\n" + hint));
-    EXPECT_EQ(CommandRun({"texts", folder.Path(), "--format", "jso"}),
-              CommandRun(2, "", "lytdlg: there is no format \"jso\"; did you mean \"json\"?\n" + hint));
-    EXPECT_EQ(CommandRun({"texts", folder.Path()}),
-              CommandRun(1, "",
-                         "lytdlg: there is no language file (*.nls) in " + (fs::path(folder.Path()) / "lang").string() +
-                             "; name the folder of the dialogs, which holds the folder lang\n"));
 }

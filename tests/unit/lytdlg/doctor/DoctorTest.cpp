@@ -159,19 +159,6 @@ TEST(Doctor, GivesAVerdictAsJsonThatNotesDoNotChange)
     EXPECT_EQ(json::parse(run.output).at("verdict"), "good");
 }
 
-TEST(Doctor, SaysWhatToWriteWhenItIsNotUnderstood)
-{
-    const DoctorFolder folder;
-    const std::string help = "`lytdlg --help` lists commands and options.\n";
-    EXPECT_EQ(
-        CommandRun({"doctor"}),
-        CommandRun(2, "", "lytdlg: something is missing after \"doctor\"; write: lytdlg doctor FOLDER...\n" + help));
-    EXPECT_EQ(CommandRun({"doctor", "nowhere"}),
-              CommandRun(2, "", "lytdlg: there is no folder nowhere; name the folders of the deployment\n" + help));
-    EXPECT_EQ(CommandRun({"doctor", folder.Path(), "--format", "jsn"}),
-              CommandRun(2, "", "lytdlg: there is no format \"jsn\"; did you mean \"json\"?\n" + help));
-}
-
 TEST(Doctor, ComparesTheLibraryWithTheChecksumsThatWereHandedOutWithIt)
 {
     EXPECT_EQ(lytdlg::ChecksumOf("abc"), "ba7816bf8f01cfea414140de5dae2223b00361a396177a9cb410ff61f20015ad");
