@@ -119,17 +119,6 @@ TEST_F(Construction, ScalesWithinTheRangeOfAnInteger)
     EXPECT_EQ(lytScaled(lytScaled(INT_MAX, 1.0818F), 1.0818F), INT_MAX);
 }
 
-TEST_F(Construction, IgnoresAnUnknownTypeWordAndStatementsThatNameIt)
-{
-    text.layout = "Gadget 1, 2, 3, 4, .A\nTextBox 1, 2, 3, 4, .B\ntextbox 1, 2, 3, 4, .C\n";
-    text.values = "A = x\nB = y\n";
-    text.dependencies = "A/ACTIVE = B(1)\n";
-    text.evaluation = "A = NULL: EMPTY\n";
-    const LiveForm& opened = Open();
-    EXPECT_EQ(Names(opened), "B ");
-    EXPECT_EQ(opened.Value("B"), "y");
-}
-
 TEST_F(Construction, KeepsTwoControlsOfOneNameAndFindsTheLater)
 {
     for (const char* name : {"A", ""})
@@ -177,56 +166,6 @@ TEST_F(Construction, GivesNamelessControlsNoneOfTheEmptyLines)
     EXPECT_EQ(Messages(), "please fill in;");
 }
 
-TEST_F(Construction, KeepsTheOkButtonUnderItsNameWithoutGivingItOne)
-{
-    text.layout = "OKButton 1, 2, 3, 4, .Ok\n";
-    text.output = "(\"%s\", Ok)\n";
-    LiveForm& opened = Open();
-    EXPECT_EQ(opened.FindControl("Ok")->GetName(), "");
-    EXPECT_EQ(Compose(), "Ok");
-    EXPECT_TRUE(opened.Confirm());
-}
-
-TEST_F(Construction, LetsARuleInheritTheConditionsOfOneThatIsNotStored)
-{
-    text.layout = "TextBox 1, 2, 3, 4, .A\nTextBox 1, 2, 3, 4, .B\nTextBox 1, 2, 3, 4, .C\n";
-    text.values = "A = 1\n";
-    // The rule on the unknown control goes, and its false condition joins the rule on C.
-    text.dependencies = "B/ACTIVE = A(1)\nUnknown/ACTIVE = A(2)\n\nC/ACTIVE = A(1)\nB/VISIBLE = A(1)\n";
-    const LiveForm& opened = Open();
-    EXPECT_TRUE(opened.IsEnabled("B"));
-    EXPECT_FALSE(opened.IsEnabled("C"));
-    EXPECT_TRUE(opened.IsShown("B"));
-}
-
-TEST_F(Construction, ReplacesAnEarlierEvaluationOfTheSameControl)
-{
-    text.layout = "TextBox 1, 2, 3, 4, .A\n";
-    text.evaluation = "A = x: CLASH\nA = NULL: EMPTY\n";
-    text.output = "(\"%s\", A)\n";
-    LiveForm& opened = Open();
-    EXPECT_FALSE(opened.Confirm());
-    EXPECT_EQ(Messages(), "please fill in;");
-    opened.Enter("A", "x");
-    EXPECT_TRUE(opened.Confirm());
-}
-
-TEST_F(Construction, StartsEachEvaluationStatementAfresh)
-{
-    text.layout = "TextBox 1, 2, 3, 4, .A\nTextBox 1, 2, 3, 4, .B\n";
-    text.evaluation = "A(x) = B(y): CLASH\nB(z)\n";
-    text.output = "(\"%s%s\", A, B)\n";
-    LiveForm& opened = Open();
-    opened.Enter("A", "x");
-    opened.Enter("B", "y");
-    EXPECT_FALSE(opened.Confirm());
-    EXPECT_EQ(Messages(), "do not do that;");
-    opened.Enter("B", "z");
-    // The second control of this rule is unknown, so it fails, and there is no key for its message.
-    EXPECT_FALSE(opened.Confirm());
-    EXPECT_EQ(Messages(), "no value present;");
-}
-
 TEST_F(Construction, RaisesAFileThatCannotBeOpened)
 {
     const std::string missing = folder.Path() + "/missing.dlg";
@@ -270,18 +209,4 @@ TEST_F(Construction, WithoutAParentPartRaisesItsNameWhenTheInputIsApplied)
     EXPECT_EQ(lytInputApplied, 0);
     Open();
     EXPECT_EQ(lytInputApplied, 1);
-}
-
-TEST_F(Construction, RunsTheLaterOfTwoPartsOfOneName)
-{
-    text.layout = "TextBox 1, 2, 3, 4, .A\n";
-    text.input =
-        "Start: (\";\", End, Rest, End = A = first\n$INPUT, parent\nStart: (\";\", End, Rest, End = A = second\n"
-        "$INPUT, other\nStart: (\";\", End, Rest, End = A = third\n";
-    LiveForm& opened = Open("x");
-    EXPECT_EQ(opened.Value("A"), "second");
-    EXPECT_EQ(opened.GetInputMap().GetCount(), 2);
-    EXPECT_EQ(opened.RunInput("other", ""), 1);
-    EXPECT_EQ(opened.Value("A"), "third");
-    EXPECT_EQ(opened.RunInput("missing", ""), 0);
 }

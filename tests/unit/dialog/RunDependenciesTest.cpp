@@ -134,16 +134,6 @@ protected:
 
 } // namespace
 
-TEST_F(Rules, RunOnceAtTheEndOfTheConstruction)
-{
-    text.values = "A = x\n";
-    text.dependencies = "B/ACTIVE = A(NULL)\nC/VISIBLE = A(x)\n";
-    const LiveForm& opened = Open();
-    EXPECT_FALSE(opened.IsEnabled("B"));
-    EXPECT_TRUE(opened.IsShown("C"));
-    EXPECT_EQ(opened.runCount, 0);
-}
-
 TEST_F(Rules, SwitchBothWaysAtEveryCommand)
 {
     text.dependencies = "B/ACTIVE = A(NOTNULL)\nC/VISIBLE = A(x,y)\n";
@@ -161,25 +151,6 @@ TEST_F(Rules, SwitchBothWaysAtEveryCommand)
     EXPECT_EQ(lytCommandSeen, 1);
 }
 
-TEST_F(Rules, WithoutConditionsSwitchOnInEveryRun)
-{
-    text.values = "B = INACTIVE\n";
-    text.dependencies = "B/ACTIVE =\n";
-    LiveForm& opened = Open();
-    EXPECT_TRUE(opened.IsEnabled("B"));
-    opened.FindControl("B")->SetState("ACTIVE", 0);
-    opened.Command();
-    EXPECT_TRUE(opened.IsEnabled("B"));
-}
-
-TEST_F(Rules, OnADefaultButtonChangeNothing)
-{
-    text.dependencies = "Ok/ACTIVE = A(NOTNULL)\nOk/VISIBLE = A(NOTNULL)\n";
-    const LiveForm& opened = Open();
-    EXPECT_TRUE(opened.IsEnabled("Ok"));
-    EXPECT_TRUE(opened.IsShown("Ok"));
-}
-
 TEST_F(Rules, RunInOnePassInFileOrder)
 {
     // The first rule sees the disabled C at the next command only; the last one in the same pass.
@@ -191,41 +162,6 @@ TEST_F(Rules, RunInOnePassInFileOrder)
     EXPECT_FALSE(opened.IsEnabled("M"));
     opened.Command();
     EXPECT_FALSE(opened.IsEnabled("A"));
-}
-
-TEST_F(Rules, ClearAControlWhenAnotherChanged)
-{
-    text.values = "B = text\n";
-    text.dependencies = "B/CLEAR = A\n";
-    LiveForm& opened = Open();
-    EXPECT_EQ(opened.Value("B"), "text");
-    opened.Command();
-    EXPECT_EQ(opened.Value("B"), "text");
-    opened.Enter("A", "x");
-    EXPECT_EQ(opened.Value("B"), "");
-    opened.Enter("B", "again");
-    EXPECT_EQ(opened.Value("B"), "again");
-}
-
-TEST_F(Rules, SeeAChangeInAllRulesOfARun)
-{
-    text.values = "B = b\nC = c\n";
-    text.dependencies = "B/CLEAR = A\nC/CLEAR = A\n";
-    LiveForm& opened = Open();
-    opened.Enter("A", "x");
-    EXPECT_EQ(opened.Value("B"), "");
-    // The run nested in the clearing of B took A's new text as its baseline, after it had cleared C.
-    EXPECT_EQ(opened.Value("C"), "");
-}
-
-TEST_F(Rules, NeverFillAfterAnUnknownControl)
-{
-    text.values = filledB + "\n";
-    text.dependencies = "B/FILL = Unknown, A\n";
-    const DataFunction library([](const CString&) { return CString("filled"); });
-    LiveForm& opened = Open();
-    opened.Enter("A", "x");
-    EXPECT_EQ(opened.Value("B"), "");
 }
 
 TEST_F(Rules, AreNotEnteredAgainWhileTheyAreCarriedOut)
@@ -425,15 +361,6 @@ TEST_F(Rules, NameTheButtonThatHasTheReturnKey)
     EXPECT_EQ(opened.DefaultButtonFor("C"), "Ok");
     EXPECT_EQ(opened.DefaultButtonFor("L"), "");
     EXPECT_EQ(opened.DefaultButtonFor(""), "");
-}
-
-TEST_F(Rules, ThatGiveTheReturnKeyNeitherHideNorDisableTheButton)
-{
-    text.dependencies = "P/DEFBUTTON = A(x)\n";
-    LiveForm& opened = Open();
-    opened.Command();
-    EXPECT_TRUE(opened.IsShown("P"));
-    EXPECT_TRUE(opened.IsEnabled("P"));
 }
 
 TEST_F(Rules, MayNameAButtonForAWindowThatIsNoControl)
