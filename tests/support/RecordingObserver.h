@@ -21,7 +21,7 @@ public:
     ~RecordingObserver() { lytObserver = nullptr; }
 
     // What was heard since the last look.
-    std::string TakeHeard() { return std::exchange(heard, {}); }
+    std::string TakeHeard() { return std::exchange(m_heard, {}); }
 
     void PassedOver(ClytPassedOver what, const CString& name, const ClytSpan& place) override
     {
@@ -73,8 +73,8 @@ private:
     template <class... Parts>
     void Hear(const Parts&... parts)
     {
-        ((heard += parts), ...);
-        heard += '\n';
+        ((m_heard += parts), ...);
+        m_heard += '\n';
     }
     static std::string Shown(const ClytControlDep& rule)
     {
@@ -87,5 +87,5 @@ private:
         return names.at(static_cast<size_t>(result));
     }
 
-    std::string heard;
+    std::string m_heard;
 };

@@ -87,60 +87,61 @@ std::string HelpLines(const std::vector<OptionForm>& forms)
 class Reader
 {
 public:
-    Reader(const ProgramForm& form, const std::vector<std::string>& commandWords) : program(form), words(commandWords)
+    Reader(const ProgramForm& form, const std::vector<std::string>& commandWords)
+        : m_program(form), m_words(commandWords)
     {
     }
 
     Request Read()
     {
-        while (next < words.size())
+        while (m_next < m_words.size())
         {
-            const std::string& word = words[next++];
-            if (!optionsEnded && word == "--")
-                optionsEnded = true;
-            else if (!optionsEnded && IsOption(word))
+            const std::string& word = m_words[m_next++];
+            if (!m_optionsEnded && word == "--")
+                m_optionsEnded = true;
+            else if (!m_optionsEnded && IsOption(word))
                 TakeOption(word);
-            else if (request.command.empty())
-                request.command = word;
+            else if (m_request.command.empty())
+                m_request.command = word;
             else
-                request.operands.push_back(word);
+                m_request.operands.push_back(word);
         }
-        if (request.Has(versionOption.word))
+        if (m_request.Has(versionOption.word))
             return VersionRequest();
-        if (request.command.empty() || request.Has("--help"))
+        if (m_request.command.empty() || m_request.Has("--help"))
             return HelpRequest();
         CheckOptions();
         CheckOperands();
-        return std::move(request);
+        return std::move(m_request);
     }
 
 private:
     // An option of one letter is one only where the table has it: an operand may begin with a hyphen.
     bool IsOption(const std::string& word) const
     {
-        return word.starts_with("--") || Find(program.options, word) != nullptr ||
-               std::ranges::any_of(program.commands,
+        return word.starts_with("--") || Find(m_program.options, word) != nullptr ||
+               std::ranges::any_of(m_program.commands,
                                    [&](const CommandForm& form) { return Find(form.options, word) != nullptr; });
     }
 
     void TakeOption(const std::string& word)
     {
-        const OptionForm& form = OptionOf(program, request.command, word);
-        if (form.value != nullptr && next == words.size())
+        const OptionForm& form = OptionOf(m_program, m_request.command, word);
+        if (form.value != nullptr && m_next == m_words.size())
             throw UsageError("option " + word + " needs " + form.value + " after it");
-        const std::string value = form.value != nullptr ? words[next++] : "";
+        const std::string value = form.value != nullptr ? m_words[m_next++] : "";
         if (form.number && !IsNumber(value))
             throw UsageError("option " + word + " needs a number and not \"" + value + "\"");
-        request.Add(word, value);
-        taken.push_back(word);
+        m_request.Add(word, value);
+        m_taken.push_back(word);
     }
 
     Request HelpRequest() const
     {
         Request help;
         help.command = "help";
-        if (!request.command.empty() && request.command != help.command)
-            help.operands.push_back(request.command);
+        if (!m_request.command.empty() && m_request.command != help.command)
+            help.operands.push_back(m_request.command);
         return help;
     }
 
@@ -153,26 +154,26 @@ private:
 
     void CheckOptions() const
     {
-        for (const std::string& word : taken)
-            OptionOf(program, request.command, word);
+        for (const std::string& word : m_taken)
+            OptionOf(m_program, m_request.command, word);
     }
 
     void CheckOperands() const
     {
-        const CommandForm& form = CommandOf(program, request.command);
-        const std::string shape = std::string("write: ") + program.name + " " + form.word + " " + form.operands;
-        if (request.operands.size() < form.least)
-            throw UsageError("something is missing after \"" + request.command + "\"; " + shape);
-        if (request.operands.size() > form.most)
-            throw UsageError("\"" + request.operands[form.most] + "\" is one word too many; " + shape);
+        const CommandForm& form = CommandOf(m_program, m_request.command);
+        const std::string shape = std::string("write: ") + m_program.name + " " + form.word + " " + form.operands;
+        if (m_request.operands.size() < form.least)
+            throw UsageError("something is missing after \"" + m_request.command + "\"; " + shape);
+        if (m_request.operands.size() > form.most)
+            throw UsageError("\"" + m_request.operands[form.most] + "\" is one word too many; " + shape);
     }
 
-    const ProgramForm& program;
-    const std::vector<std::string>& words;
-    size_t next = 0;
-    bool optionsEnded = false;
-    Request request;
-    std::vector<std::string> taken;
+    const ProgramForm& m_program;
+    const std::vector<std::string>& m_words;
+    size_t m_next = 0;
+    bool m_optionsEnded = false;
+    Request m_request;
+    std::vector<std::string> m_taken;
 };
 
 // The number of letters to change, add, drop or swap with their neighbour.

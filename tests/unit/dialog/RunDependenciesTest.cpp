@@ -42,19 +42,19 @@ class UnlimitedNesting
 {
 public:
     // A chain through all fields in a separate order, each with one more field that sets it off.
-    UnlimitedNesting(int fields, unsigned seed) : texts(fields), saved(fields)
+    UnlimitedNesting(int fields, unsigned seed) : texts(fields), m_saved(fields)
     {
         Dice dice(seed);
         for (int index = 1; index < fields; ++index)
-            rules.push_back({.target = index, .sources = {index - 1, static_cast<int>(dice.Below(fields))}});
-        for (size_t index = rules.size(); index > 1; --index)
-            std::swap(rules[index - 1], rules[dice.Below(index)]);
+            m_rules.push_back({.target = index, .sources = {index - 1, static_cast<int>(dice.Below(fields))}});
+        for (size_t index = m_rules.size(); index > 1; --index)
+            std::swap(m_rules[index - 1], m_rules[dice.Below(index)]);
     }
 
     std::string Description() const
     {
         std::string lines;
-        for (const Rule& rule : rules)
+        for (const Rule& rule : m_rules)
             lines += FieldName(rule.target) + "/FILL = " + FieldName(rule.sources[0]) + ", " +
                      FieldName(rule.sources[1]) + "\n";
         return lines;
@@ -62,20 +62,20 @@ public:
     void Enter(int field, const std::string& text)
     {
         texts[field] = text;
-        const ClytCounted run(runs);
-        deepestRun = std::max(deepestRun, runs);
-        for (Rule& rule : rules)
+        const ClytCounted run(m_runs);
+        deepestRun = std::max(deepestRun, m_runs);
+        for (Rule& rule : m_rules)
         {
             if (rule.isActing || !(HasChanged(rule.sources[0]) || HasChanged(rule.sources[1])))
                 continue;
             rule.isActing = true;
-            Enter(rule.target, std::to_string(++fills));
+            Enter(rule.target, std::to_string(++m_fills));
             rule.isActing = false;
         }
-        for (const Rule& rule : rules)
+        for (const Rule& rule : m_rules)
         {
             for (const int source : rule.sources)
-                saved[source] = texts[source];
+                m_saved[source] = texts[source];
         }
     }
 
@@ -89,12 +89,12 @@ private:
         std::array<int, 2> sources;
         bool isActing = false;
     };
-    bool HasChanged(int field) const { return texts[field] != saved[field]; }
+    bool HasChanged(int field) const { return texts[field] != m_saved[field]; }
 
-    std::vector<Rule> rules;
-    std::vector<std::string> saved;
-    int runs = 0;
-    int fills = 0;
+    std::vector<Rule> m_rules;
+    std::vector<std::string> m_saved;
+    int m_runs = 0;
+    int m_fills = 0;
 };
 
 class Rules : public FormTest

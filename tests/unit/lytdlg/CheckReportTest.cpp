@@ -34,26 +34,26 @@ protected:
     CheckReport()
     {
         const std::string texts = "[Buttons]\n001=&OK\n002=&Cancel\n[Box]\nTitle=Box\n";
-        m_folder.Write("lang/English.nls", texts);
+        folder.Write("lang/English.nls", texts);
     }
 
     // What the command prints for the description, the folder's path left out.
     std::string Check(const std::string& description, std::vector<std::string> options = {})
     {
-        const std::string path = m_folder.Write("box.dlg", description);
+        const std::string path = folder.Write("box.dlg", description);
         options.insert(options.begin(), {"check", path});
         testing::internal::CaptureStdout();
-        m_exit = lytdlg::Run(options);
+        exitCode = lytdlg::Run(options);
         std::string text = testing::internal::GetCapturedStdout();
-        for (size_t at = text.find(m_folder.Path()); at != std::string::npos; at = text.find(m_folder.Path()))
-            text.erase(at, m_folder.Path().size() + 1);
+        for (size_t at = text.find(folder.Path()); at != std::string::npos; at = text.find(folder.Path()))
+            text.erase(at, folder.Path().size() + 1);
         return text;
     }
 
     // With the separator of this machine, as paths are told.
-    const std::string m_lang = (std::filesystem::path("lang") / "").string();
-    TestFolder m_folder;
-    int m_exit = -1;
+    const std::string lang = (std::filesystem::path("lang") / "").string();
+    TestFolder folder;
+    int exitCode = -1;
 };
 
 constexpr const char* misspelt = "$EVALUATION x";
@@ -68,7 +68,7 @@ TEST_F(CheckReport, TellsPlaceLevelRuleMessageAndTheWayOut)
               "    ^~~~~~~~~~~~~\n"
               "    hint: a blank does not end the word; write \"$EVALUATION, x\"\n"
               "1 description judged: 1 error, 0 warnings, 0 notes\n");
-    EXPECT_EQ(m_exit, 1);
+    EXPECT_EQ(exitCode, 1);
 }
 
 // A tab is as wide as the terminal likes, and the description is not in UTF-8.
@@ -95,7 +95,7 @@ TEST_F(CheckReport, NamesTheHeaderThatIsMissingAboveAFurtherOne)
 // It hides the first section from the library.
 TEST_F(CheckReport, TellsOfAByteOrderMarkInALanguageFile)
 {
-    m_folder.Write("lang/English.nls", "\xEF\xBB\xBF[Box]\nTitle=Box\n[Buttons]\n001=&OK\n002=&Cancel\n");
+    folder.Write("lang/English.nls", "\xEF\xBB\xBF[Box]\nTitle=Box\n[Buttons]\n001=&OK\n002=&Cancel\n");
     const std::string told = Check(sound);
     const std::string wayOut = "save the file in code page 1252, which editors call ANSI or Windows-1252\n";
     for (const std::string& part : {"box.dlg:2:9: warning text-section: English.nls has no section [Box]\n"
@@ -115,13 +115,13 @@ TEST_F(CheckReport, TellsOfAByteOrderMarkInALanguageFile)
 
 TEST_F(CheckReport, TellsOfLinesOfALanguageFileThatAreNothing)
 {
-    m_folder.Write("lang/English.nls", "[Buttons]\n001=&OK\n002=&Cancel\n// texts\n[Box]\nTitle=Box\n[Open\n");
-    EXPECT_EQ(Check(sound), m_lang +
+    folder.Write("lang/English.nls", "[Buttons]\n001=&OK\n002=&Cancel\n// texts\n[Box]\nTitle=Box\n[Open\n");
+    EXPECT_EQ(Check(sound), lang +
                                 "English.nls:4:1: warning text-form: this line has no equals sign\n"
                                 "    // texts\n"
                                 "    ^~~~~~~~\n"
                                 "    hint: write KEY=TEXT, or a semicolon before a comment\n" +
-                                m_lang +
+                                lang +
                                 "English.nls:7:1: warning text-form: the bracket of this section is not closed\n"
                                 "    [Open\n"
                                 "    ^~~~~\n"
@@ -132,15 +132,15 @@ TEST_F(CheckReport, TellsOfLinesOfALanguageFileThatAreNothing)
 TEST_F(CheckReport, TellsOfMessagesThatDifferBetweenLanguages)
 {
     const std::string texts = "[Buttons]\n001=&OK\n002=&Cancel\n[Box]\nTitle=Box\n[Dialog_Error]\n";
-    m_folder.Write("lang/English.nls", texts + "207=No ''.\n208=No room.\n");
-    m_folder.Write("lang/German.nls", texts + "207=Nein.\n");
-    EXPECT_EQ(Check(sound), m_lang +
+    folder.Write("lang/English.nls", texts + "207=No ''.\n208=No room.\n");
+    folder.Write("lang/German.nls", texts + "207=Nein.\n");
+    EXPECT_EQ(Check(sound), lang +
                                 "English.nls:8:1: warning message-differs: German.nls has no text \"208\" in "
                                 "[Dialog_Error]\n"
                                 "    208=No room.\n"
                                 "    ^~~\n"
                                 "    hint: add it there\n" +
-                                m_lang +
+                                lang +
                                 "German.nls:7:1: warning message-differs: the marks '' differ from those in "
                                 "English.nls, line 7\n"
                                 "    207=Nein.\n"
@@ -152,26 +152,26 @@ TEST_F(CheckReport, TellsOfMessagesThatDifferBetweenLanguages)
 // Those of [MsgBox] belong to all dialogs of the folder, and are told with the first of them.
 TEST_F(CheckReport, TellsOfAMessageThatNoCheckOfTheFolderNames)
 {
-    m_folder.Write("lang/English.nls", "[Buttons]\n001=&OK\n002=&Cancel\n[Box]\nTitle=Box\n[MsgBox]\nLost=x\nFar=x\n");
+    folder.Write("lang/English.nls", "[Buttons]\n001=&OK\n002=&Cancel\n[Box]\nTitle=Box\n[MsgBox]\nLost=x\nFar=x\n");
     const std::string otherChecks = With("$EVALUATION, x\n", "$EVALUATION, x\n    Field = NULL: Far\n");
-    m_folder.Write("other.dlg", otherChecks);
+    folder.Write("other.dlg", otherChecks);
     const std::string lost = "English.nls:7:1: note text-unused: no dialog of the folder uses the text \"Lost\"\n";
     const std::string told = Check(sound);
     EXPECT_NE(told.find(lost), std::string::npos) << told;
     EXPECT_NE(told.find("0 errors, 0 warnings, 1 note\n"), std::string::npos) << told;
     // What a line names that cannot be read is not known.
     const std::string refused = With("$EVALUATION, x\n", "$EVALUATION, x\n    Field = NULL Lost\n");
-    m_folder.Write("other.dlg", refused);
+    folder.Write("other.dlg", refused);
     EXPECT_EQ(Check(sound), "1 description judged: 0 errors, 0 warnings, 0 notes\n");
-    m_folder.Write("other.dlg", otherChecks);
-    m_folder.Write("a.dlg", otherChecks);
+    folder.Write("other.dlg", otherChecks);
+    folder.Write("a.dlg", otherChecks);
     EXPECT_EQ(Check(sound), "1 description judged: 0 errors, 0 warnings, 0 notes\n");
 }
 
 TEST_F(CheckReport, OfASoundDescriptionIsOneLine)
 {
     EXPECT_EQ(Check(sound), "1 description judged: 0 errors, 0 warnings, 0 notes\n");
-    EXPECT_EQ(m_exit, 0);
+    EXPECT_EQ(exitCode, 0);
 }
 
 TEST_F(CheckReport, GivesJsonThatAProgramReads)
@@ -224,17 +224,17 @@ TEST_F(CheckReport, IsTheSameAfterAByteThatIsNoText)
 
 TEST_F(CheckReport, PassesOverWhatIsKnown)
 {
-    const std::string known = m_folder.File("known.txt");
+    const std::string known = folder.File("known.txt");
     const std::string description = With("$EVALUATION, x", misspelt);
     Check(description, {"--write-baseline", known});
-    EXPECT_EQ(m_exit, 0);
+    EXPECT_EQ(exitCode, 0);
     EXPECT_EQ(Check(description, {"--baseline", known}), "1 description judged: 0 errors, 0 warnings, 0 notes\n");
-    EXPECT_EQ(m_exit, 0);
+    EXPECT_EQ(exitCode, 0);
     // Lines above the known one change its number only.
     EXPECT_EQ(Check("; one more\n" + description, {"--baseline", known}),
               "1 description judged: 0 errors, 0 warnings, 0 notes\n");
     Check(With("$EVALUATION, x", "$EVALUATION y"), {"--baseline", known});
-    EXPECT_EQ(m_exit, 1);
+    EXPECT_EQ(exitCode, 1);
 }
 
 TEST_F(CheckReport, TellsOfRemarksThatSilenceNothing)

@@ -12,6 +12,7 @@
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
 
+#include <algorithm>
 #include <map>
 #include <set>
 
@@ -218,6 +219,34 @@ TEST(Errors, MeetTheUserAsTheirTableSays)
     reported.merge(NamedInSources("", ("\\bReport\\([^;]*: " + name).c_str()));
     EXPECT_EQ(reported, ways[ClytErrorWay::Reported]);
     EXPECT_EQ(NamedInSources("", ("\\bClytPrefix(?:::OfKey)?\\(" + name).c_str()), ways[ClytErrorWay::Above]);
+}
+
+// Arguments and prefixes are as long as they usually are; a caught message may have any length.
+TEST(Errors, FitTheirBoxInTheLanguagesOfTheSamples)
+{
+    static const std::map<std::string, std::string> arguments = {
+        {"", ""},         {"control", "FindingsList"},  {"file", "C:\\Inspection\\dialogs\\lytInSym.dlg"},
+        {"line", "1234"}, {"library", "partsdata.dll"}, {"list", "FindingsList"},
+        {"size", "1024"}, {"word", "$DEPENDANCES"},     {"log", "C:\\Inspection\\house.log"}};
+    static const std::map<std::string, std::string> above = {{lytError("FunctionMissing"), lytError("ActionFailed")},
+                                                             {lytError("BracketOpen"), lytError("ListText")},
+                                                             {lytError("ActionUnknown"), lytError("RuleWrong")}};
+    const lytdlg::LanguageFiles samples(LYT_SOURCE_FOLDER "/samples/dialogs");
+    for (const std::string& language : samples.Languages())
+    {
+        for (const ClytErrorRow& error : lytErrors)
+        {
+            const std::string text = samples.Text(language, lytErrorSection, error.number);
+            const std::string& argument = arguments.at(error.argument);
+            SCOPED_TRACE(language + ": " + text);
+            EXPECT_EQ(std::ranges::count(text, '\''), argument.empty() ? 0 : 2);
+            EXPECT_EQ(text.find("''") != std::string::npos, !argument.empty());
+            const auto prefix = above.find(error.number);
+            const size_t prefixSize =
+                prefix == above.end() ? 0 : samples.Text(language, lytErrorSection, prefix->second).size() + 1;
+            EXPECT_LE(prefixSize + text.size() + argument.size(), lytdlg::longestLanguageText);
+        }
+    }
 }
 
 TEST(Errors, AreListedForThoseWhoWriteTheTexts)

@@ -19,8 +19,8 @@ namespace
 class LibraryFile : public testing::Test
 {
 protected:
-    HMODULE m_module = GetModuleHandleA("lyt64.dll");
-    const Image image{m_module};
+    HMODULE library = GetModuleHandleA("lyt64.dll");
+    const Image image{library};
 };
 
 // Where the call goes whose first byte is at a place of the code.
@@ -89,7 +89,7 @@ TEST_F(LibraryFile, CarriesNoTimeOfItsBuild)
 TEST_F(LibraryFile, HasAVersionRecord)
 {
     char path[MAX_PATH] = "";
-    GetModuleFileNameA(m_module, path, sizeof path);
+    GetModuleFileNameA(library, path, sizeof path);
     std::vector<char> block(GetFileVersionInfoSizeA(path, nullptr));
     ASSERT_TRUE(GetFileVersionInfoA(path, 0, static_cast<DWORD>(block.size()), block.data()));
     for (const auto& [name, text] : {std::pair("OriginalFilename", "lyt64.dll"), std::pair("InternalName", "lyt64"),
@@ -106,10 +106,10 @@ TEST_F(LibraryFile, HasAVersionRecord)
 
 TEST_F(LibraryFile, TellsTheSameVersionInItsManifest)
 {
-    HRSRC found = FindResourceA(m_module, MAKEINTRESOURCEA(2), MAKEINTRESOURCEA(24));
+    HRSRC found = FindResourceA(library, MAKEINTRESOURCEA(2), MAKEINTRESOURCEA(24));
     ASSERT_NE(found, nullptr);
-    const auto* text = static_cast<const char*>(LockResource(LoadResource(m_module, found)));
-    const std::string manifest(text, SizeofResource(m_module, found));
+    const auto* text = static_cast<const char*>(LockResource(LoadResource(library, found)));
+    const std::string manifest(text, SizeofResource(library, found));
     EXPECT_NE(manifest.find("name=\"lyt64\" version=\"" LYT_VERSION ".0\""), std::string::npos);
 }
 

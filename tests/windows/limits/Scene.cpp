@@ -2,7 +2,7 @@
 
 #include "Observation.h"
 
-Scene* Scene::current = nullptr;
+Scene* Scene::m_current = nullptr;
 const std::string Scene::everyAnswer =
     "lytGetTextForKey 1\nlytGetTextFromIniFile 1\nlytListFromIniStart 1\nlytListFromIniNext 1\n"
     "lytSystemInfoInit 1\nlytSystemInfoRead 1\nlytGetInitializationPath 1\nlytGetCurrentDocName 1\n";
@@ -19,7 +19,7 @@ std::string LibraryFile()
 
 Scene::Scene() : m_library(LibraryFile())
 {
-    current = this;
+    m_current = this;
     folder.Write("lyt.ini", "[global]\r\nCurrent Language=Test\r\nTreeWidth=300\r\nTreeHeight=300\r\n"
                             "[lists]\r\nlist=a,b\r\n[LogLevel]\r\nlevel=2\r\n");
     folder.Write("lang/Test.nls", SharedTexts() + "[Label]\r\nTreeDlgLabel=Catalogue\r\n"
@@ -38,7 +38,7 @@ Scene::~Scene()
         *reinterpret_cast<decltype(&Acts)>(reinterpret_cast<void*>(GetProcAddress(partner, "Acts")))() = {};
         FreeLibrary(partner);
     }
-    current = nullptr;
+    m_current = nullptr;
 }
 
 HostileActs& Scene::Partner(const std::string& library)

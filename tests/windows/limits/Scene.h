@@ -17,7 +17,7 @@ public:
     ~Scene();
 
     // The one that is open.
-    static Scene& Current() { return *current; }
+    static Scene& Current() { return *m_current; }
 
     template <class Function>
     Function* Get(const char* name) const
@@ -77,7 +77,7 @@ private:
         return *this;
     }
 
-    static Scene* current;
+    static Scene* m_current;
 
     FreshLibrary m_library;
     std::vector<HMODULE> m_partners;

@@ -13,7 +13,7 @@ constexpr UINT hungCode = 3;
 
 } // namespace
 
-std::atomic<unsigned> Watch::current = 0;
+std::atomic<unsigned> Watch::m_current = 0;
 
 Watch::Watch()
     : m_began(GetTickCount64()),
@@ -33,7 +33,7 @@ Watch::~Watch()
 
 void Watch::Begin(unsigned number)
 {
-    current = number;
+    m_current = number;
     m_began = GetTickCount64();
 }
 
@@ -44,7 +44,7 @@ DWORD WINAPI Watch::Run(void* watch)
     {
         if (GetTickCount64() - self->m_began < commandline::Patience(limit))
             continue;
-        std::printf("case %u does not come back\n", current.load());
+        std::printf("case %u does not come back\n", m_current.load());
         TerminateProcess(GetCurrentProcess(), hungCode);
     }
     return 0;
@@ -52,7 +52,7 @@ DWORD WINAPI Watch::Run(void* watch)
 
 LONG WINAPI Watch::TellCrash(EXCEPTION_POINTERS* crash)
 {
-    std::printf("case %u crashes: exception %08lx at %p\n", current.load(), crash->ExceptionRecord->ExceptionCode,
+    std::printf("case %u crashes: exception %08lx at %p\n", m_current.load(), crash->ExceptionRecord->ExceptionCode,
                 crash->ExceptionRecord->ExceptionAddress);
     return EXCEPTION_EXECUTE_HANDLER;
 }

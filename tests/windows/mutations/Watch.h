@@ -20,7 +20,7 @@ private:
     static DWORD WINAPI Run(void* watch);
     static LONG WINAPI TellCrash(EXCEPTION_POINTERS* crash);
 
-    static std::atomic<unsigned> current;
+    static std::atomic<unsigned> m_current;
     std::atomic<ULONGLONG> m_began;
     HANDLE m_end;
     HANDLE m_thread;

@@ -24,15 +24,15 @@ private:
     class Sink : public ErrorSink
     {
     public:
-        explicit Sink(std::vector<Mistake>& target) : mistakes(target) {}
+        explicit Sink(std::vector<Mistake>& target) : m_mistakes(target) {}
         void Tell(std::unique_ptr<ClytException> failure, const ClytSpan& place) override
         {
-            mistakes.push_back({failure->GetNumber().GetString(), place});
+            m_mistakes.push_back({failure->GetNumber().GetString(), place});
         }
-        void TellShortLine(const ClytSpan& place) override { mistakes.push_back({"", place}); }
+        void TellShortLine(const ClytSpan& place) override { m_mistakes.push_back({"", place}); }
 
     private:
-        std::vector<Mistake>& mistakes;
+        std::vector<Mistake>& m_mistakes;
     };
 
     const DescriptionText& m_text;
