@@ -16,14 +16,6 @@ protected:
 
 } // namespace
 
-TEST_F(PlainControlClass, EditWithTheDefaultFillFillsItselfWhenItIsCreated)
-{
-    SetOption(edit, "FILLEDBY", {"nasty", "EchoText"});
-    SetOption(edit, "", {"FILL"});
-    edit.CreateControl(&dialog);
-    EXPECT_STREQ(edit.GetValue(), "<> 255");
-}
-
 TEST_F(PlainControlClass, EditFillsForAnyActionWordButClear)
 {
     SetOption(edit, "FILLEDBY", {"nasty", "EchoText"});
@@ -36,48 +28,6 @@ TEST_F(PlainControlClass, EditFillsForAnyActionWordButClear)
     }
     edit.DoAction("CLEAR");
     EXPECT_STREQ(edit.GetValue(), "");
-}
-
-TEST_F(PlainControlClass, EditTakesNoMoreThanTheBufferOfALibraryThatWritesNoEnd)
-{
-    SetOption(edit, "FILLEDBY", {"nasty", "FullText"});
-    edit.CreateControl(&dialog);
-    edit.FillByLibrary();
-    EXPECT_STREQ(edit.GetValue(), CString('T', 255));
-}
-
-TEST_F(PlainControlClass, EditBecomesEmptyByALibraryThatWritesNothing)
-{
-    SetOption(edit, "FILLEDBY", {"nasty", "SilentText"});
-    SetOption(edit, "", {"default"});
-    edit.CreateControl(&dialog);
-    edit.FillByLibrary();
-    EXPECT_STREQ(edit.GetValue(), "");
-}
-
-TEST_F(PlainControlClass, EditKeepsItsTextWithoutLibraryFunctionOrRule)
-{
-    edit.CreateControl(&dialog);
-    edit.SetValue("kept");
-    edit.FillByLibrary();
-    SetOption(edit, "FILLEDBY", {"nasty"});
-    edit.FillByLibrary();
-    SetOption(edit, "FILLEDBY", {"nasty", "NoSuchFunction"});
-    edit.FillByLibrary();
-    SetOption(edit, "FILLEDBY", {"nasty", "EchoText", "", "NoSuchRule"});
-    edit.FillByLibrary();
-    EXPECT_STREQ(edit.GetValue(), "kept");
-    EXPECT_EQ(TakeMessages(), Texts{});
-}
-
-TEST_F(PlainControlClass, FilledByThatEndsEarlyLeavesTheLaterFields)
-{
-    SetOption(edit, "FILLEDBY", {"elsewhere", "EchoText", "ignored", "NoSuchRule"});
-    SetOption(edit, "FILLEDBY", {"nasty"});
-    edit.CreateControl(&dialog);
-    edit.SetValue("kept");
-    edit.FillByLibrary();
-    EXPECT_STREQ(edit.GetValue(), "kept") << "the rule of the first statement is still asked for";
 }
 
 TEST_F(PlainControlClass, FillLeavesTheArrowCursorOnEveryWayOut)
