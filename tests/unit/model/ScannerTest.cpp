@@ -1,11 +1,11 @@
 // A scanner passes over plain text without a close look at it. What it cuts is compared with a walk that looks at every
 // character.
 #include "model/ClytScanner.h"
+#include "support/Dice.h"
 
 #include <gtest/gtest.h>
 
 #include <map>
-#include <random>
 #include <string>
 #include <vector>
 
@@ -94,35 +94,23 @@ private:
     std::map<char, int> m_pieceDepth;
 };
 
-class Generator
+std::string RandomText(Dice& dice, size_t longest)
 {
-public:
-    explicit Generator(unsigned seed) : m_random(seed) {}
+    static const std::string characters = "abR(({[)]})\"\"-;>\x01\x80\xFF ";
+    std::string text;
+    for (size_t length = dice.Below(longest + 1); length > 0; --length)
+        text += dice.Of(characters);
+    return text;
+}
 
-    size_t Below(size_t limit) { return m_random() % limit; }
-    std::string Text(size_t longest)
-    {
-        static const std::string characters = "abR(({[)]})\"\"-;>\x01\x80\xFF ";
-        std::string text;
-        for (size_t length = Below(longest + 1); length > 0; --length)
-            text += characters[Below(characters.size())];
-        return text;
-    }
-    std::vector<Entry> Entries()
-    {
-        static const std::vector<std::string> usual = {"-", "->", "--", ";", "(", ")", "((", "\"", "\"a", "Rest", "Re"};
-        std::vector<Entry> entries;
-        for (size_t count = 1 + Below(4); count > 0; --count)
-        {
-            const std::string target = "to" + std::to_string(count);
-            entries.push_back({Below(4) == 0 ? Text(3) : usual[Below(usual.size())], target});
-        }
-        return entries;
-    }
-
-private:
-    std::mt19937 m_random;
-};
+std::vector<Entry> RandomEntries(Dice& dice)
+{
+    static const std::vector<std::string> usual = {"-", "->", "--", ";", "(", ")", "((", "\"", "\"a", "Rest", "Re"};
+    std::vector<Entry> entries;
+    for (size_t count = 1 + dice.Below(4); count > 0; --count)
+        entries.push_back({dice.Is(4) ? RandomText(dice, 3) : dice.Of(usual), "to" + std::to_string(count)});
+    return entries;
+}
 
 // What several cuts in a row give.
 std::string Cuts(const std::string& text, const std::vector<std::vector<Entry>>& statements)
@@ -187,13 +175,13 @@ TEST(Scanner, CutsAtSeparatorsOfAnyFirstCharacter)
 
 TEST(Scanner, CutsAsAWalkOverEveryCharacterDoes)
 {
-    Generator generator(1);
+    Dice dice(1);
     for (int round = 0; round < 20000; ++round)
     {
-        const std::string text = generator.Text(24);
-        std::vector<std::vector<Entry>> statements(1 + generator.Below(4));
+        const std::string text = RandomText(dice, 24);
+        std::vector<std::vector<Entry>> statements(1 + dice.Below(4));
         for (std::vector<Entry>& entries : statements)
-            entries = generator.Entries();
+            entries = RandomEntries(dice);
         ASSERT_EQ(Cuts(text, statements), PlainCuts(text, statements)) << "of " << text;
     }
 }
