@@ -103,12 +103,11 @@ Entered EnterInWindow(const CWnd& window, ClytControl& control, const CString& i
 
 ClytControl* FocusedControl(const ClytForm& form)
 {
-    for (POSITION place = form.GetControlList().GetHeadPosition(); place != nullptr;)
+    for (ClytControl& control : form.GetControlList())
     {
-        ClytControl* control = form.GetControlList().GetNext(place);
-        const auto* window = dynamic_cast<const CWnd*>(control);
+        const auto* window = dynamic_cast<const CWnd*>(&control);
         if (window != nullptr && window->m_hWnd != nullptr && HasFocus(*window))
-            return control;
+            return &control;
     }
     return nullptr;
 }
@@ -132,8 +131,8 @@ std::vector<ClytControl*> OptionsOf(const ClytControl& control)
     std::vector<ClytControl*> options;
     if (const auto* group = dynamic_cast<const ClytOptionGroup*>(&control))
     {
-        for (POSITION place = group->GetButtons().GetHeadPosition(); place != nullptr;)
-            options.push_back(group->GetButtons().GetNext(place));
+        for (ClytRadioButtonControl& button : group->GetButtons())
+            options.push_back(&button);
     }
     return options;
 }

@@ -57,8 +57,8 @@ std::string ClientSize(const LiveForm& form)
 std::string Names(const ClytDialog& form)
 {
     std::string names;
-    for (POSITION place = form.GetControlList().GetHeadPosition(); place != nullptr;)
-        names += std::string(form.GetControlList().GetNext(place)->GetName().GetString()) + " ";
+    for (const ClytControl& control : form.GetControlList())
+        names += std::string(control.GetName().GetString()) + " ";
     return names;
 }
 

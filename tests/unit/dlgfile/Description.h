@@ -8,6 +8,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <string>
 
 class Description : public ClytDialogFile
@@ -42,13 +43,9 @@ inline std::string Shown(const ClytTokenList& tokens)
 inline std::string Joined(const CStringList& texts, const std::string& between = "|")
 {
     std::string joined;
-    for (POSITION place = texts.GetHeadPosition(); place != nullptr;)
-    {
-        joined += texts.GetNext(place).GetString();
-        if (place != nullptr)
-            joined += between;
-    }
-    return joined;
+    for (const CString& text : texts)
+        joined += between + text.GetString();
+    return joined.substr(std::min(joined.size(), between.size()));
 }
 
 // A condition as it is written: name(value,value).
@@ -61,8 +58,8 @@ inline std::string Shown(const ClytCtrlValList& condition)
 inline std::string Shown(const ClytConditions& conditions)
 {
     std::string shown;
-    for (POSITION place = conditions.GetHeadPosition(); place != nullptr;)
-        shown += (shown.empty() ? "" : " ") + Shown(*conditions.GetNext(place));
+    for (const ClytCtrlValList& condition : conditions)
+        shown += (shown.empty() ? "" : " ") + Shown(condition);
     return shown;
 }
 

@@ -127,11 +127,8 @@ std::string Shown(const ClytScan& scan)
     std::string shown;
     if (scan.GetLength() != 0 || !scan.GetTarget().name.IsEmpty())
         shown += "[" + std::to_string(scan.GetLength()) + ">" + scan.GetTarget().name.GetString() + "]";
-    for (POSITION place = scan.GetSeparators().GetHeadPosition(); place != nullptr;)
-    {
-        const ClytSeparator& separator = *scan.GetSeparators().GetNext(place);
+    for (const ClytSeparator& separator : scan.GetSeparators())
         shown += "['" + std::string(separator.text.GetString()) + "'>" + separator.target.name.GetString() + "]";
-    }
     return shown;
 }
 
@@ -152,9 +149,8 @@ std::string Shown(const ClytControlFill& fill)
 std::string Shown(const ClytDialogInput& statement)
 {
     std::string shown = std::string(statement.name.GetString()) + ":" + Shown(statement.scanRule.scan);
-    for (POSITION place = statement.scanRule.rules.GetHeadPosition(); place != nullptr;)
+    for (const ClytConditionFill& rule : statement.scanRule.rules)
     {
-        const ClytConditionFill& rule = *statement.scanRule.rules.GetNext(place);
         shown += rule.values.IsEmpty() ? " " : " (" + Joined(rule.values, ",") + ")";
         shown += Shown(*rule.fills.GetHead());
     }
@@ -185,8 +181,8 @@ std::string Parts(const std::string& section)
             ClytInputPart part;
             file.ReadInputPart(part);
             shown += "{" + std::string(name.GetString()) + "}";
-            for (POSITION place = part.GetStatements().GetHeadPosition(); place != nullptr;)
-                shown += Shown(*part.GetStatements().GetNext(place)) + "\n";
+            for (const ClytDialogInput& one : part.GetStatements())
+                shown += Shown(one) + "\n";
         }
         return shown;
     };

@@ -1,7 +1,7 @@
 // The lines of a list, for comparison as a whole.
 #pragma once
 
-#include <afxcoll.h>
+#include "base/Iteration.h"
 
 #include <string>
 #include <vector>
@@ -11,7 +11,7 @@ using Texts = std::vector<std::string>;
 inline Texts TextsOf(const CStringList& lines)
 {
     Texts texts;
-    for (POSITION place = lines.GetHeadPosition(); place != nullptr;)
-        texts.emplace_back(lines.GetNext(place).GetString());
+    for (const CString& line : lines)
+        texts.emplace_back(line.GetString());
     return texts;
 }

@@ -246,11 +246,8 @@ TEST_F(Nodes, TakeTypeAndTextsOfTheirRecords)
     EXPECT_STREQ(NodeAt(nodes, 2).label, "l");
     EXPECT_STREQ(NodeAt(nodes, 2).key, "");
     EXPECT_EQ(NodeAt(nodes, 4).label + std::string(NodeAt(nodes, 4).key), std::string(99, 'x') + std::string(99, 'y'));
-    for (POSITION place = nodes.GetHeadPosition(); place != nullptr;)
-    {
-        const ClytNode& node = *nodes.GetNext(place);
+    for (const ClytNode& node : nodes)
         EXPECT_TRUE(node.current == 0 && node.itemState == 0 && node.initial == 0);
-    }
 }
 
 TEST_F(Nodes, EndWhenTheirSourceDoesNot)

@@ -1,5 +1,6 @@
 #include "ProbeFixture.h"
 
+#include "base/Iteration.h"
 #include "environment/ClytEnvironment.h"
 
 ProbeFixture::ProbeFixture()
@@ -16,8 +17,8 @@ ProbeFixture::Texts ProbeFixture::TakeLines()
 {
     Texts texts;
     const CStringList& lines = lytEnvironment.lytReportLines.GetLines();
-    for (POSITION place = lines.GetHeadPosition(); place != nullptr;)
-        texts.emplace_back(lines.GetNext(place).GetString());
+    for (const CString& line : lines)
+        texts.emplace_back(line.GetString());
     lytEnvironment.lytReportLines.RemoveAll();
     return texts;
 }

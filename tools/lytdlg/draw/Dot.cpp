@@ -101,11 +101,8 @@ std::string Shown(const CString& text)
 std::string ValuesText(const CStringList& values)
 {
     std::string text;
-    for (POSITION place = values.GetHeadPosition(); place != nullptr;)
-    {
-        const CString& value = values.GetNext(place);
+    for (const CString& value : values)
         text += (text.empty() ? "(" : ", ") + (value.IsEmpty() ? std::string("\"\"") : Shown(value));
-    }
     return text.empty() ? text : text + ")";
 }
 

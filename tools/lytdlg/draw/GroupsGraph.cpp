@@ -118,20 +118,17 @@ private:
     // Fills of a part that ask a control's library.
     void DrawFills(const InputPart& part)
     {
-        const auto& statements = part.part->GetStatements();
-        for (POSITION place = statements.GetHeadPosition(); place != nullptr;)
+        for (const ClytDialogInput& statement : part.part->GetStatements())
         {
-            const ClytDialogInput& statement = *statements.GetNext(place);
-            for (POSITION at = statement.scanRule.rules.GetHeadPosition(); at != nullptr;)
-                DrawFills(part, *statement.scanRule.rules.GetNext(at));
+            for (const ClytConditionFill& rule : statement.scanRule.rules)
+                DrawFills(part, rule);
         }
     }
 
     void DrawFills(const InputPart& part, const ClytConditionFill& rule)
     {
-        for (POSITION place = rule.fills.GetHeadPosition(); place != nullptr;)
+        for (const ClytControlFill& fill : rule.fills)
         {
-            const ClytControlFill& fill = *rule.fills.GetNext(place);
             if (fill.action.GetMeaning() != ClytFillAction::Fill)
                 continue;
             const std::string name = fill.controlName.GetString();
@@ -193,11 +190,8 @@ private:
         {
             if (group.name != name)
                 continue;
-            for (POSITION place = group.rules.GetHeadPosition(); place != nullptr;)
-            {
-                const bool isFirst = place == group.rules.GetHeadPosition();
-                label += (isFirst ? "\nline " : ", ") + std::to_string(group.rules.GetNext(place)->span.line);
-            }
+            for (const ClytDialogOutput& rule : group.rules)
+                label += (&rule == group.rules.GetHead() ? "\nline " : ", ") + std::to_string(rule.span.line);
         }
         Attributes looks = Looks({{"shape", "note"}}, HasGroup(name));
         looks.insert(looks.end(), more.begin(), more.end());

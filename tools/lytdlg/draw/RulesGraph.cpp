@@ -26,12 +26,11 @@ public:
             DrawEdge(*condition, target, word, LineText(rule.span) + ", from " + LineText(line), true);
         if (!isDropped)
             m_inherited.clear();
-        for (POSITION place = rule.conditions.GetHeadPosition(); place != nullptr;)
+        for (const ClytCtrlValList& condition : rule.conditions)
         {
-            const ClytCtrlValList* condition = rule.conditions.GetNext(place);
-            DrawEdge(*condition, target, word, LineText(rule.span), isDropped || !IsKnown(condition->GetName()));
+            DrawEdge(condition, target, word, LineText(rule.span), isDropped || !IsKnown(condition.GetName()));
             if (isDropped)
-                m_inherited.emplace_back(condition, rule.span);
+                m_inherited.emplace_back(&condition, rule.span);
         }
     }
 
@@ -66,8 +65,8 @@ std::string RulesGraph(const std::string& title, const Description& description)
 {
     Dot dot(title + ": dependency rules");
     RuleEdges edges(dot, description);
-    for (POSITION place = description.rules.GetHeadPosition(); place != nullptr;)
-        edges.Draw(*description.rules.GetNext(place));
+    for (const ClytControlDep& rule : description.rules)
+        edges.Draw(rule);
     return dot.Finish();
 }
 

@@ -28,9 +28,8 @@ std::vector<WayOn> CutsOf(const ClytScan& scan)
         return {{std::to_string(scan.GetLength()) + (scan.GetLength() == 1 ? " character" : " characters"),
                  scan.GetTarget().name}};
     std::vector<WayOn> ways;
-    for (POSITION place = scan.GetSeparators().GetHeadPosition(); place != nullptr;)
+    for (const ClytSeparator& separator : scan.GetSeparators())
     {
-        const ClytSeparator& separator = *scan.GetSeparators().GetNext(place);
         const bool isRest = separator.text == "Rest";
         ways.push_back({isRest ? "'Rest', end of the text" : QuotedText(separator.text), separator.target.name});
     }
@@ -42,9 +41,8 @@ std::vector<WayOn> JumpsOf(const Description& description, const ClytDialogInput
     if (statement.conditions.IsEmpty())
         return {{"always", statement.falseTarget.name}};
     WayOn held{"", statement.trueTarget.name};
-    for (POSITION place = statement.conditions.GetHeadPosition(); place != nullptr;)
+    for (const ClytCtrlValList& condition : statement.conditions)
     {
-        const ClytCtrlValList& condition = *statement.conditions.GetNext(place);
         held.label +=
             (held.label.empty() ? "if " : "\nor ") + Shown(condition.GetName()) + ValuesText(condition.GetValues());
         held.isUnknown = held.isUnknown || description.FindControl(condition.GetName().GetString()) == nullptr;
@@ -74,8 +72,8 @@ public:
     {
         dot.BeginCluster(std::to_string(number), "part " + Shown(lines.name.c_str()));
         FindReached(m_part.Find(lytStartName));
-        for (POSITION place = m_part.GetStatements().GetHeadPosition(); place != nullptr;)
-            Draw(*m_part.GetStatements().GetNext(place));
+        for (const ClytDialogInput& statement : m_part.GetStatements())
+            Draw(statement);
         if (m_part.Find(lytStartName) == nullptr)
             NodeOf(lytStartName);
         dot.EndCluster();
@@ -143,13 +141,10 @@ private:
     std::string FillsOf(const ClytDialogInput& statement, bool& isKnown) const
     {
         std::string text;
-        const auto& rules = statement.scanRule.rules;
-        for (POSITION place = rules.GetHeadPosition(); place != nullptr;)
+        for (const ClytConditionFill& rule : statement.scanRule.rules)
         {
-            const ClytConditionFill& rule = *rules.GetNext(place);
-            for (POSITION at = rule.fills.GetHeadPosition(); at != nullptr;)
+            for (const ClytControlFill& fill : rule.fills)
             {
-                const ClytControlFill& fill = *rule.fills.GetNext(at);
                 const bool isControl = m_description.FindControl(fill.controlName.GetString()) != nullptr;
                 isKnown = isKnown && isControl;
                 text += "\n" + ValuesText(rule.values) + (rule.values.IsEmpty() ? "= " : " = ") + FillText(fill) +

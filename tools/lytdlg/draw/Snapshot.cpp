@@ -148,9 +148,8 @@ SeenDialog See(const TrialDialog& dialog)
     MeasureFont(dialog, seen);
 
     int tabNumber = 0;
-    for (POSITION place = dialog.GetControlList().GetHeadPosition(); place != nullptr;)
+    for (const ClytControl& control : dialog.GetControlList())
     {
-        const ClytControl& control = *dialog.GetControlList().GetNext(place);
         SeenControl& one = seen.controls.emplace_back();
         one.type = dialog.TypeOf(control);
         one.name = dialog.NameOf(control);

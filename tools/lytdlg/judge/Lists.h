@@ -12,8 +12,8 @@ namespace lytdlg
 inline std::vector<std::string> Strings(const CStringList& list)
 {
     std::vector<std::string> strings;
-    for (POSITION place = list.GetHeadPosition(); place != nullptr;)
-        strings.emplace_back(list.GetNext(place).GetString());
+    for (const CString& text : list)
+        strings.emplace_back(text.GetString());
     return strings;
 }
 
@@ -22,8 +22,8 @@ template <class T>
 std::vector<const T*> Records(const ClytOwnedList<T>& list)
 {
     std::vector<const T*> records;
-    for (POSITION place = list.GetHeadPosition(); place != nullptr;)
-        records.push_back(list.GetNext(place));
+    for (const T& record : list)
+        records.push_back(&record);
     return records;
 }
 

@@ -106,8 +106,8 @@ const ControlState* DialogState::Find(const std::string& name) const
 DialogState LookAt(const TrialDialog& dialog)
 {
     DialogState state{robot::TextOf(dialog.m_hWnd), {}};
-    for (POSITION place = dialog.GetControlList().GetHeadPosition(); place != nullptr;)
-        state.controls.push_back(LookAt(dialog, *dialog.GetControlList().GetNext(place)));
+    for (ClytControl& control : dialog.GetControlList())
+        state.controls.push_back(LookAt(dialog, control));
     return state;
 }
 

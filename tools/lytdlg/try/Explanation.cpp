@@ -64,12 +64,11 @@ private:
 
     static ClytControl* GroupOf(const TrialDialog& form, ClytControl& subject)
     {
-        for (POSITION place = form.GetControlList().GetHeadPosition(); place != nullptr;)
+        for (ClytControl& group : form.GetControlList())
         {
-            ClytControl* group = form.GetControlList().GetNext(place);
-            const std::vector<ClytControl*> options = OptionsOf(*group);
+            const std::vector<ClytControl*> options = OptionsOf(group);
             if (std::ranges::find(options, &subject) != options.end())
-                return group;
+                return &group;
         }
         return nullptr;
     }

@@ -30,8 +30,8 @@ std::string Name(const CString& name)
 std::string Listed(const CStringList& values)
 {
     std::string text;
-    for (POSITION place = values.GetHeadPosition(); place != nullptr;)
-        text += (text.empty() ? "" : ", ") + Name(values.GetNext(place));
+    for (const CString& value : values)
+        text += (text.empty() ? "" : ", ") + Name(value);
     return text;
 }
 
@@ -161,9 +161,8 @@ std::string Recorder::SeparatorOf(const ClytDialogInput& statement, const CStrin
     if (scan.GetLength() != 0)
         return piece.GetLength() < scan.GetLength() ? "to the end of the text" : "by its length";
     const std::string consumed(m_rest, rest);
-    for (POSITION place = scan.GetSeparators().GetHeadPosition(); place != nullptr;)
+    for (const ClytSeparator& separator : scan.GetSeparators())
     {
-        const ClytSeparator& separator = *scan.GetSeparators().GetNext(place);
         const bool isAtEnd = *rest == '\0' && consumed == piece.GetString() && !separator.text.IsEmpty();
         if (!isAtEnd && separator.target.name == nextStatement && consumed.ends_with(separator.text.GetString()))
             return separator.text.IsEmpty() ? "by the empty separator" : "at " + QuotedUtf8(separator.text);
@@ -187,11 +186,8 @@ void Recorder::Jumped(const ClytDialogInput& statement, const CString& nextState
 {
     m_steps.push_back({&statement, statement.name.GetString(), nextStatement.GetString()});
     std::string clauses;
-    for (POSITION place = statement.conditions.GetHeadPosition(); place != nullptr;)
-    {
-        const ClytCtrlValList& condition = *statement.conditions.GetNext(place);
+    for (const ClytCtrlValList& condition : statement.conditions)
         clauses += ClauseOf(condition, lytTest(condition, ClytRuleKind::Input)) + "; ";
-    }
     Trace("  " + LineText(statement.span) + " " + Name(statement.name) + ": " + clauses + "on to " +
           Name(nextStatement));
 }

@@ -186,11 +186,10 @@ ClytControl* TargetOf(const TrialDialog& dialog, const Step& act)
     if (ClytControl* named = dialog.FindControl(commandline::ToAnsi(act.target.Written()).c_str()))
         return named;
     HWND window = script::FindControl(dialog.m_hWnd, act.target);
-    for (POSITION place = dialog.GetControlList().GetHeadPosition(); window != nullptr && place != nullptr;)
+    for (ClytControl& control : dialog.GetControlList())
     {
-        ClytControl* control = dialog.GetControlList().GetNext(place);
-        if (WindowOf(*control) == window)
-            return control;
+        if (window != nullptr && WindowOf(control) == window)
+            return &control;
     }
     return nullptr;
 }

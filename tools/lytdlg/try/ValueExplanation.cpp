@@ -58,8 +58,8 @@ private:
             ClytInputPart* part = nullptr;
             if (!form.GetInputMap().Lookup(name.c_str(), part))
                 continue;
-            for (POSITION place = part->GetStatements().GetHeadPosition(); place != nullptr;)
-                statements.push_back(part->GetStatements().GetNext(place));
+            for (const ClytDialogInput& statement : part->GetStatements())
+                statements.push_back(&statement);
         }
         return statements;
     }
@@ -150,9 +150,8 @@ private:
         std::vector<WrittenFill> fills;
         for (const ClytDialogInput* statement : m_statements)
         {
-            const auto& rules = statement->scanRule.rules;
-            for (POSITION place = rules.GetHeadPosition(); place != nullptr;)
-                AddFills(*statement, *rules.GetNext(place), fills);
+            for (const ClytConditionFill& rule : statement->scanRule.rules)
+                AddFills(*statement, rule, fills);
         }
         return fills;
     }
@@ -160,9 +159,8 @@ private:
     void AddFills(const ClytDialogInput& statement, const ClytConditionFill& rule,
                   std::vector<WrittenFill>& fills) const
     {
-        for (POSITION place = rule.fills.GetHeadPosition(); place != nullptr;)
+        for (const ClytControlFill& fill : rule.fills)
         {
-            const ClytControlFill& fill = *rule.fills.GetNext(place);
             if (m_state.name == fill.controlName.GetString())
                 fills.push_back({statement.name.GetString(), fill.span.line});
         }
