@@ -149,24 +149,25 @@ void ClytDialog::Reading::Dependency(std::unique_ptr<ClytControlDep>& rule)
 void ClytDialog::CollectBaselineControls()
 {
     std::set<const ClytControl*> collected;
-    for (POSITION place = dependencyList.GetHeadPosition(); place != nullptr;)
+    for (const ClytControlDep& rule : dependencyList)
     {
-        const ClytControlDep& rule = *dependencyList.GetNext(place);
-        for (POSITION at = rule.IsEventRule() ? rule.conditions.GetHeadPosition() : nullptr; at != nullptr;)
+        if (!rule.IsEventRule())
+            continue;
+        for (const ClytCtrlValList& condition : rule.conditions)
         {
-            ClytControl* control = rule.conditions.GetNext(at)->GetControl();
+            ClytControl* control = condition.GetControl();
             if (control != nullptr && collected.insert(control).second)
                 baselineControls.push_back(control);
         }
     }
 }
 
-// The windows come into being here, and not as their statements are read, so that what they send runs no rules.
+// The windows are created here, and not as their statements are read, so that what they send runs no rules.
 void ClytDialog::CreateControlWindows()
 {
     lytControlsReady = 0;
-    for (POSITION place = controlList.GetHeadPosition(); place != nullptr;)
-        controlList.GetNext(place)->CreateControl(this);
+    for (ClytControl& control : controlList)
+        control.CreateControl(this);
     lytControlsReady = 1;
 }
 

@@ -1,5 +1,6 @@
 #include "sysinfo/frame/Report.h"
 
+#include "base/Iteration.h"
 #include "environment/ClytEnvironment.h"
 
 #include <algorithm>
@@ -12,8 +13,8 @@ void AddReportLine(CString line)
 
 void AddReportLines(const CStringList& lines)
 {
-    for (POSITION place = lines.GetHeadPosition(); place != nullptr;)
-        AddReportLine(lines.GetNext(place));
+    for (const CString& line : lines)
+        AddReportLine(line);
 }
 
 int lytReadReportLine(int index, char* target, int size)
