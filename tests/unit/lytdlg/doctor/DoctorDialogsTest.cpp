@@ -42,17 +42,6 @@ TEST(DoctorOnDialogs, OnlyWarnsOfTextsInALanguageThatIsNotInUse)
     EXPECT_EQ(std::ranges::count(found, '\n'), 2) << found;
 }
 
-TEST(DoctorOnDialogs, TellsOfASectionOfTheLibraryAsOneThing)
-{
-    const DoctorFolder folder;
-    folder.Replace("dialogs/lang/English.nls", "[Dialog_Error]", "[Dialog_Errors]");
-    EXPECT_EQ(folder.Findings(),
-              "wrong    texts          dialogs/lang/English.nls: the section [Dialog_Error] is missing, with " +
-                  std::to_string(std::size(lytErrors)) +
-                  " texts of the library\n"
-                  "                        hint: copy the section from a language file of the samples\n");
-}
-
 TEST(DoctorOnDialogs, TellsOfTextsThatDoNotShowWhatTheyShould)
 {
     const DoctorFolder folder;
@@ -87,42 +76,6 @@ TEST(DoctorOnDialogs, JudgesDescriptionsAsCheckDoes)
               std::string::npos)
         << found;
     EXPECT_TRUE(found.starts_with("wrong    dialogs        dialogs/lytInSym.dlg:")) << found;
-}
-
-TEST(DoctorOnDialogs, LooksForTheDescriptionsThatTheLibraryOpens)
-{
-    const DoctorFolder folder;
-    folder.Remove("dialogs/lytWzPhr.dlg");
-    EXPECT_EQ(folder.Findings(),
-              "warning  dialogs        dialogs/lytWzPhr.dlg: is not there, so that the wizard's dialog of a phrase "
-              "does not open\n"
-              "                        hint: copy it from the samples and change it, unless no macro asks for it\n");
-    EXPECT_EQ(NamesOf(lytdlg::OpenedDescriptions()), NamedInSources("/exports", "\"(\\w+\\.dlg)\""));
-}
-
-TEST(DoctorOnDialogs, LooksForTheFolderOfTheDescriptions)
-{
-    const DoctorFolder folder;
-    folder.Remove("dialogs");
-    const std::string found = folder.Findings();
-    EXPECT_EQ(found,
-              "wrong    dialogs        there is no description (*.dlg) that can be read\n"
-              "                        hint: copy the descriptions there, or name their folder with --dialogs\n");
-}
-
-TEST(DoctorOnDialogs, TellsOfFilesThatAreMarkedAsDownloaded)
-{
-    const DoctorFolder folder;
-    // What a copy from a Windows disk leaves beside a file.
-    const std::string mark = "[ZoneTransfer]\r\nZoneId=";
-    folder.Write("dialogs/finding.dlg:Zone.Identifier", mark + "3\r\n");
-    folder.Write("dialogs/lytCdGrp.dlg:Zone.Identifier", mark + "4\r\n");
-    folder.Write("lyt64.dll:Zone.Identifier", mark + "1\r\n");
-    EXPECT_EQ(folder.Findings(),
-              "warning  marks          dialogs: 2 files are marked as downloaded, and Windows may refuse to use such a "
-              "file: finding.dlg, lytCdGrp.dlg\n"
-              "                        hint: unblock each in its properties, or all by the command Unblock-File of "
-              "PowerShell\n");
 }
 
 TEST(DoctorOnDialogs, TellsOfAPartnerThatIsMarkedAsDownloaded)
@@ -166,22 +119,6 @@ TEST(DoctorOnDialogs, TellsOfManyOfAKindInOneLine)
     EXPECT_LT(std::ranges::count(folder.Findings(), '\n'), 20) << folder.Findings();
 }
 
-TEST(DoctorOnDialogs, TellsOfAnEndingThatExplorerHides)
-{
-    const DoctorFolder folder;
-    for (const char* name :
-         {"dialogs/mine.dlg.txt", "dialogs/lang/English.nls.TXT", "init/lyt.ini.txt", "readme.txt", "a.dll.txt"})
-        folder.Write(name, "");
-    const std::string found = folder.Findings();
-    EXPECT_EQ(std::ranges::count(found, '\n'), 6) << found;
-    EXPECT_NE(
-        found.find("warning  names          dialogs/mine.dlg.txt: is not read, since its name ends with .txt, which "
-                   "Explorer may hide\n"
-                   "                        hint: rename it to mine.dlg\n"),
-        std::string::npos)
-        << found;
-}
-
 TEST(DoctorOnDialogs, TellsOfFilesWithLongerNamesThanTheLibraryOpens)
 {
     const DoctorFolder folder;
@@ -190,4 +127,9 @@ TEST(DoctorOnDialogs, TellsOfFilesWithLongerNamesThanTheLibraryOpens)
     EXPECT_TRUE(folder.Findings().starts_with("wrong    names          dialogs/" + name +
                                               ".dlg: has a longer name than the library can open, with its folders\n"))
         << folder.Findings();
+}
+
+TEST(DoctorOnDialogs, KnowsTheDescriptionsThatTheLibraryOpens)
+{
+    EXPECT_EQ(NamesOf(lytdlg::OpenedDescriptions()), NamedInSources("/exports", "\"(\\w+\\.dlg)\""));
 }

@@ -1,12 +1,98 @@
-// What `lytdlg doctor` says of the library and its host, and how it is asked and answers.
+// What `lytdlg doctor` finds in a deployment, and how it is asked and answers.
 #include "DoctorFolder.h"
 
+#include "commandline/Text.h"
 #include "lytdlg/doctor/Deployment.h"
 #include "lytdlg/text/LanguageFiles.h"
 
 #include <nlohmann/json.hpp>
 
+#include <fstream>
+#include <memory>
+#include <utility>
+
 using nlohmann::json;
+
+namespace
+{
+
+namespace fs = std::filesystem;
+
+// The words of a line, some of them in quotes; @ is the folder.
+std::vector<std::string> WordsOf(const std::string& line, const TestFolder& folder)
+{
+    std::vector<std::string> words;
+    size_t place = 0;
+    while ((place = line.find_first_not_of(' ', place)) != std::string::npos)
+    {
+        const size_t end = std::min(line.find(' ', place), line.size());
+        std::string& word = words.emplace_back(line, place, end - place);
+        if (line[place] == '"')
+            word = commandline::TakeQuoted(line, place).value_or("an open quote");
+        else
+            place = end;
+        if (const size_t at = word.find('@'); at != std::string::npos)
+            word.replace(at, 1, folder.Path());
+    }
+    return words;
+}
+
+void CarryOut(const std::vector<std::string>& words, const DoctorFolder& folder)
+{
+    const std::string& act = words.at(0);
+    const std::string& name = words.at(1);
+    if (act == "remove")
+        folder.Remove(name);
+    else if (act == "absent")
+        EXPECT_FALSE(folder.Has(name)) << name;
+    else if (act == "write")
+        folder.Write(name, words.at(2));
+    else if (act == "copy")
+        folder.Write(words.at(2), folder.Read(name));
+    else if (act == "replace")
+        folder.Replace(name, words.at(2), words.at(3));
+    else
+    {
+        const auto needs = std::ranges::find(words, "needs");
+        const auto needed = needs != words.end() ? needs + 1 : needs;
+        folder.Write(name, LibraryFile({words.begin() + 2, needs}, act == "library32" ? machine32 : machine64,
+                                       {needed, words.end()}));
+    }
+}
+
+} // namespace
+
+// Each line of doctor.cases changes a sound deployment, or asks doctor with options and has below it what doctor finds. An
+// empty line begins with another deployment.
+TEST(Doctor, FindsWhatIsWrong)
+{
+    std::ifstream file(LYT_SOURCE_FOLDER "/tests/unit/lytdlg/doctor/doctor.cases");
+    std::vector<std::string> lines;
+    for (std::string line; std::getline(file, line);)
+        lines.push_back(line);
+    lines.emplace_back();
+    auto folder = std::make_unique<DoctorFolder>();
+    std::string expected;
+    std::string found;
+    std::string asked;
+    for (const std::string& line : lines)
+    {
+        if (line.starts_with("wrong ") || line.starts_with("warning ") || line.starts_with(" "))
+        {
+            expected += line + "\n";
+            continue;
+        }
+        EXPECT_EQ(std::exchange(found, ""), std::exchange(expected, "")) << asked;
+        asked = line;
+        const std::vector<std::string> words = WordsOf(line, *folder);
+        if (words.empty())
+            folder = std::make_unique<DoctorFolder>();
+        else if (words.front() == "doctor")
+            found = folder->Findings({words.begin() + 1, words.end()});
+        else
+            CarryOut(words, *folder);
+    }
+}
 
 TEST(Doctor, FindsNothingWrongWithTheSamples)
 {
@@ -38,28 +124,6 @@ TEST(Doctor, FindsNothingWrongWithTheSamples)
                   "verdict: good\n");
 }
 
-TEST(Doctor, LooksForTheLibrary)
-{
-    const DoctorFolder folder;
-    folder.Remove("lyt64.dll");
-    EXPECT_EQ(folder.Findings(), "wrong    library        there is no lyt64.dll in the folders\n"
-                                 "                        hint: copy it there, or name it with --library\n");
-    EXPECT_EQ(folder.Findings({"--library", folder.File("word")}),
-              "wrong    library        word: cannot be read\n"
-              "                        hint: check the name, and give the users the right to read it\n");
-}
-
-TEST(Doctor, TellsOfALibraryThatA64BitProgramCannotLoad)
-{
-    const DoctorFolder folder;
-    folder.Write("lyt64.dll", LibraryFile(lytdlg::OwnFunctions(), machine32));
-    EXPECT_EQ(folder.Findings(), "wrong    library        lyt64.dll: is no 64-bit library\n"
-                                 "                        hint: copy the 64-bit lyt64.dll\n");
-    folder.Write("lyt64.dll", "a text");
-    EXPECT_EQ(folder.Findings(), "wrong    library        lyt64.dll: is no library, or is damaged\n"
-                                 "                        hint: copy it again\n");
-}
-
 TEST(Doctor, TellsOfFunctionsThatTheLibraryLacks)
 {
     const DoctorFolder folder;
@@ -70,47 +134,6 @@ TEST(Doctor, TellsOfFunctionsThatTheLibraryLacks)
               "wrong    library        lyt64.dll: lacks functions: lytWizard\n"
               "                        hint: it is another library, or of another version; copy the lyt64.dll that "
               "belongs to these tools\n");
-}
-
-TEST(Doctor, TellsOfASecondOneOfWhatThereShouldBeOneOf)
-{
-    const DoctorFolder folder;
-    folder.Write("old/lyt64.dll", folder.Read("lyt64.dll"));
-    folder.Write("old/init/lyt.ini", "");
-    folder.Write("old/dialogs/a.dlg", "");
-    EXPECT_EQ(
-        folder.Findings(),
-        "warning  library        old/lyt64.dll: is a second copy, and the macros may load either\n"
-        "                        hint: remove it, or name the one that is meant with --library\n"
-        "warning  configuration  old/init/lyt.ini: is a second one, and the macros may name the folder of either\n"
-        "                        hint: remove it, or name the folder that is meant with --init\n"
-        "warning  dialogs        old/dialogs: holds descriptions as well, and the macros may name either folder\n"
-        "                        hint: remove it, or name the folder that is meant with --dialogs\n");
-    EXPECT_EQ(folder.Findings({"--library", folder.File("lyt64.dll"), "--init", folder.File("init"), "--dialogs",
-                               folder.File("dialogs")}),
-              "");
-}
-
-TEST(Doctor, GoesThroughAFolderOnceThoughItIsNamedTwice)
-{
-    const DoctorFolder folder;
-    EXPECT_EQ(folder.Findings({folder.File("init"), folder.Path()}), "");
-}
-
-TEST(Doctor, TellsOfAHostThatCannotLoadTheLibrary)
-{
-    const DoctorFolder folder;
-    folder.Write("word/word.exe", LibraryFile({}, machine32));
-    EXPECT_EQ(folder.Findings(),
-              "wrong    host           word/word.exe: is a 32-bit program, which cannot load the library\n"
-              "                        hint: install the 64-bit edition of the word processor\n");
-    folder.Write("word/word.exe", "a text");
-    EXPECT_EQ(folder.Findings(),
-              "wrong    host           word/word.exe: is no program for Windows on this kind of processor\n"
-              "                        hint: name the word processor's program with --host\n");
-    folder.Remove("word/word.exe");
-    EXPECT_EQ(folder.Findings(), "wrong    host           word/word.exe: cannot be read\n"
-                                 "                        hint: name the word processor's program with --host\n");
 }
 
 // Also when its folder is none of those that are judged.
@@ -202,4 +225,52 @@ TEST(Doctor, RefusesAFolderWithALongerNameThanTheLibraryOpens)
     EXPECT_EQ(run.code, 2);
     EXPECT_NE(run.errors.find(" is longer than the 259 characters that Windows allows the library"), std::string::npos)
         << run;
+}
+
+TEST(Doctor, TriesWhetherTheLogCanBeWritten)
+{
+    const DoctorFolder folder;
+    folder.Replace("init/lyt.ini", "level=0", "level=2");
+    const std::string log = folder.Write("document/a.log", "what was logged before");
+    EXPECT_EQ(folder.Findings({"--document", folder.File("document/a.doc")}), "");
+    EXPECT_EQ(folder.Read("document/a.log"), "what was logged before");
+    fs::permissions(log, fs::perms::owner_read);
+    EXPECT_EQ(folder.Findings({"--document", folder.File("document/a.doc")}),
+              "wrong    log            document/a.log: cannot be written; such a failure (207) may end the word "
+              "processor\n"
+              "                        hint: let the users write it, or set level=0 in the section [LogLevel] of "
+              "lyt.ini\n");
+}
+
+// As the platform's own functions read such files.
+TEST(Doctor, ReadsFilesInUtf16)
+{
+    const DoctorFolder folder;
+    for (const char* file : {"init/lyt.ini", "dialogs/lang/English.nls", "dialogs/lang/German.nls"})
+    {
+        std::string wide = "\xFF\xFE";
+        for (const char ch : folder.Read(file))
+            wide += std::string{ch, '\0'};
+        folder.Write(file, wide);
+    }
+    EXPECT_EQ(folder.Findings(), "");
+}
+
+TEST(Doctor, TellsOfAByteOrderMarkThatHidesALine)
+{
+    const DoctorFolder folder;
+    folder.Write("init/lyt.ini", "\xEF\xBB\xBF[global]\nCurrent Language=English\nTreeWidth=1\nTreeHeight=1\n");
+    EXPECT_EQ(folder.Findings(),
+              "warning  configuration  init/lyt.ini:1:1: a byte order mark stands before the first line, and hides it\n"
+              "                        hint: save the file in code page 1252, which editors call ANSI or "
+              "Windows-1252\n"
+              "wrong    language       init/lyt.ini: no language is set, so that every text reads \"no value "
+              "present\"\n"
+              "                        hint: write Current Language=English in the section [global]\n"
+              "warning  configuration  init/lyt.ini: TreeWidth is no size, so that the catalogue opens as small as a "
+              "window can be\n"
+              "                        hint: write TreeWidth=500 in the section [global]\n"
+              "warning  configuration  init/lyt.ini: TreeHeight is no size, so that the catalogue opens as small as a "
+              "window can be\n"
+              "                        hint: write TreeHeight=500 in the section [global]\n");
 }
