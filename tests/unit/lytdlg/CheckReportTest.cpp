@@ -50,7 +50,7 @@ protected:
         return text;
     }
 
-    // With the separator of this machine, as paths are told.
+    // With the separator of this machine, as paths are printed.
     const std::string lang = (std::filesystem::path("lang") / "").string();
     TestFolder folder;
     int exitCode = -1;
@@ -149,7 +149,7 @@ TEST_F(CheckReport, TellsOfMessagesThatDifferBetweenLanguages)
                                 "1 description judged: 0 errors, 2 warnings, 0 notes\n");
 }
 
-// Those of [MsgBox] belong to all dialogs of the folder, and are told with the first of them.
+// The messages of [MsgBox] belong to all dialogs of the folder, and are reported with the first of them.
 TEST_F(CheckReport, TellsOfAMessageThatNoCheckOfTheFolderNames)
 {
     folder.Write("lang/English.nls", "[Buttons]\n001=&OK\n002=&Cancel\n[Box]\nTitle=Box\n[MsgBox]\nLost=x\nFar=x\n");

@@ -53,7 +53,7 @@ TEST(ExportTable, EndsWithTheFileWhereverThatIsCut)
     const std::string all = NamesIn(library);
     for (size_t length = 0; length < library.size(); ++length)
     {
-        // A block of its own size lets a memory checker see each byte beyond it.
+        // A block of the exact size lets a memory checker see each byte beyond it.
         const std::vector<char> cut(library.begin(), library.begin() + static_cast<std::ptrdiff_t>(length));
         const std::string names = NamesIn({cut.data(), cut.size()});
         EXPECT_TRUE(all.starts_with(names)) << length << ": " << names;

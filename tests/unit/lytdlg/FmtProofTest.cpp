@@ -1,4 +1,4 @@
-// Formatting changes nothing that is read, whatever the description.
+// Formatting changes nothing that is read of any description.
 #include "fuzz/frame/Samples.h"
 #include "lytdlg/text/TextFile.h"
 #include "support/FormattingProof.h"

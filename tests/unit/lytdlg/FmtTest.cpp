@@ -38,7 +38,7 @@ TEST(Fmt, LeavesALineThatItCannotReformatAsItIs)
     static constexpr const char* values[] = {
         "  Mark",         // refused
         "  A = \"open",   // refused
-        "A\t= b",         // a tab that makes a word of its own
+        "A\t= b",         // a tab that makes a separate word
         "A = b\t",        // and one that ends the line
         "A = \"b\" lost", // words that no reader sees
         "A = b \v",       // bytes that show nothing
@@ -71,7 +71,7 @@ TEST(Fmt, KeepsTheMarksOfDefinesInTheFirstColumn)
 {
     EXPECT_EQ(InSection(&DescriptionText::values, "<X ; one\n A=b\n>\n<!X\n A=c\n>  \n"),
               "<X ; one\n    A = b\n>\n<!X\n    A = c\n>  \n");
-    // A word that would stand there does not become one.
+    // A word that would be there does not become one.
     EXPECT_EQ(InSection(&DescriptionText::values, " <X=b\n >Y=b\n"), "    <X = b\n    >Y = b\n");
 }
 

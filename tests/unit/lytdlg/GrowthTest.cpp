@@ -1,5 +1,5 @@
 // Descriptions of thousands of statements are judged in time. Where each statement is compared with all others, one of these
-// takes minutes or hours, and the limit against hangs strikes; what is told grows no faster than the description.
+// takes minutes or hours, and the limit against hangs strikes; what is printed grows no faster than the description.
 #include "lytdlg/judge/Report.h"
 #include "support/TestFolder.h"
 
@@ -14,7 +14,7 @@ namespace lytdlg
 namespace
 {
 
-// Lines below the words of their sections. One that begins with `*` stands for as many as the test has, with the number of
+// Lines below the words of their sections. One that begins with `*` is there as often as the test says, with the number of
 // each for `#` and the next number for `@`.
 struct Growing
 {
@@ -72,7 +72,7 @@ std::string Repeated(const std::string& line)
     return text;
 }
 
-// What stands below the word of each section.
+// What is below the word of each section.
 std::map<std::string, std::string> SectionsOf(const Growing& growing)
 {
     std::map<std::string, std::string> sections;

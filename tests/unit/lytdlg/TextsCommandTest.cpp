@@ -263,7 +263,7 @@ TEST(Errors, AreListedForThoseWhoWriteTheTexts)
     EXPECT_NE(page.find(rows), std::string::npos) << rows;
 }
 
-// Elsewhere the section comes from a dialog, a failure or a caller, and that of the buttons stands before a key of a table.
+// Elsewhere the section comes from a dialog, a failure or a caller, and the section of the buttons comes before a key of a table.
 TEST(Texts, OfTheLibraryAreAskedForInNoOtherWay)
 {
     EXPECT_EQ(

@@ -11,7 +11,7 @@
 //
 // New controls come above OKButton (the part of the dialog from 500 to the right is free), new output rules above the ones
 // that are there, other lines below. Lines above the first header begin the file. {NUL} and {1A} are these bytes,
-// {LONG} for 400 blanks, {ABOVE} joins the line with the next one, and {CUT} is where the file ends.
+// {LONG} is 400 blanks, {ABOVE} joins the line with the next one, and {CUT} is where the file ends.
 #pragma once
 
 #include <string>

@@ -17,8 +17,10 @@ struct LineToken
 // Up to a quote that is not closed.
 std::vector<LineToken> TokensOf(const std::string& line, Section section);
 
-// The column is where the reader gave up: a word, or the end of the line.
+// What is wrong with the form of a statement, in words. The column is where the reader gave up: a word, or the end of the
+// line.
 std::string WhatIsWrong(const std::string& line, Section section, int column);
+// The forms that a statement of the section may have.
 std::string FormsOf(Section section);
 
 } // namespace lytdlg

@@ -12,8 +12,8 @@ namespace
 
 constexpr const char* wayOut = "write a comma before it, or delete it";
 
-// Where a word ends, its closing quote included. Without quotes it ends where it begins, and the end of the line is
-// for a quote that is not closed.
+// Where a word ends, its closing quote included. Without quotes it ends where it begins, and with a quote that is not
+// closed at the end of the line.
 size_t EndOfQuotes(const std::string& text, size_t begin)
 {
     if (text[begin] != '"')
