@@ -40,7 +40,7 @@ public:
     Listener& operator=(const Listener&) = delete;
     ~Listener() { lytObserver = nullptr; }
 
-    void ConditionTested(const ClytControlDep& /*rule*/, const ClytCtrlValList& /*condition*/,
+    void ConditionTested(ClytRuleKind /*kind*/, const ClytSpan& /*rule*/, const ClytCtrlValList& /*condition*/,
                          ClytTested /*result*/) override
     {
         ++m_count;
