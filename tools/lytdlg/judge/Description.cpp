@@ -55,13 +55,11 @@ bool IsDialogLine(const DescriptionText& text, int line)
                               (words.size() > 1 && commandline::IsClose(words[1].text, "Dialog")));
 }
 
-} // namespace
-
 // Keeps the statements as they are read.
-class Description::Reading : public ClytDescriptionVisitor
+class DescriptionReading : public ClytDescriptionVisitor
 {
 public:
-    explicit Reading(Description& target) : m_target(target), m_file(target.text, target.mistakes) {}
+    explicit DescriptionReading(Description& target) : m_target(target), m_file(target.text, target.mistakes) {}
     void Read() { lytReadAll(m_file, *this); }
 
     void LinesBegin(ClytLineKind kind)
@@ -159,10 +157,12 @@ private:
     size_t m_mistakes = 0; // known when the present statement began
 };
 
+} // namespace
+
 Description::Description(std::string filePath, const std::string& bytes, const std::vector<std::string>& defines)
     : path(std::move(filePath)), text(bytes, defines)
 {
-    Reading(*this).Read();
+    DescriptionReading(*this).Read();
     m_index = std::make_unique<DescriptionIndex>(*this);
 }
 

@@ -92,8 +92,6 @@ public:
     bool IsQuoted(const ClytSpan& place) const;
 
 private:
-    class Reading;
-
     std::unique_ptr<const DescriptionIndex> m_index; // of all that was read
 };
 
