@@ -2,7 +2,7 @@
 #include "dialog/ClytDialog.h"
 
 #include "base/ClytCounted.h"
-#include "base/Words.h"
+#include "dialog/FormatReader.h"
 #include "environment/ClytException.h"
 #include "environment/ProcessState.h"
 #include "model/ClytConditionTest.h"
@@ -18,54 +18,6 @@ constexpr int itemPlaces = 25;
 
 // What stands between the values of a list when the rule says nothing else.
 constexpr const char* listSeparator = "   ";
-
-// Reads a conversion of a format, what follows its `%`: "s", or a limit before it (".5s", "0.5s"). Anything else is
-// plain text.
-struct Conversion
-{
-    explicit Conversion(const CString& piece)
-    {
-        if (lytSameWord(piece, "s"))
-        {
-            takesItem = true;
-            return;
-        }
-        const int point = piece[0] == '0' && piece.GetLength() > 1 ? 1 : 0;
-        isLimited = piece[point] == '.';
-        takesItem = isLimited;
-        if (isLimited)
-            limit = lytNumberOf(piece.Mid(point + 1));
-    }
-
-    bool takesItem = false;
-    bool isLimited = false;
-    int limit = 0;
-};
-
-// Walks a format piece by piece. A conversion is one piece, every other character is one of its own.
-class FormatReader
-{
-public:
-    explicit FormatReader(const CString& format) : m_format(format) {}
-
-    bool IsAtEnd() const { return m_place >= m_format.GetLength(); }
-    bool IsBeforeQuote() const { return !IsAtEnd() && m_format[m_place] == '"'; }
-    CString TakePiece()
-    {
-        if (m_format[m_place] != '%')
-            return m_format.Mid(m_place++, 1);
-        const int end = m_format.Find('s', m_place);
-        if (end < 0)
-            AfxThrowInvalidArgException();
-        const CString piece = m_format.Mid(m_place + 1, end - m_place);
-        m_place = end + 1;
-        return piece;
-    }
-
-private:
-    const CString& m_format;
-    int m_place = 0;
-};
 
 // The room that a result needs, or more where the format limits an item or leaves it out.
 int LengthAtMost(const CString& format, const CStringArray& items)
@@ -171,8 +123,7 @@ int ClytDialog::ComposeResult()
     }
 }
 
-// In a format with any `%`, an ordinary `s` takes an item as `%s` does, and an ordinary point is a limit without its
-// `s`. Formats in use rely on the former.
+// A format without any `%` is the result as it is.
 CString ClytDialog::FormatOutput(const CString& format, const CStringArray& items)
 {
     if (format.Find('%') < 0)
@@ -180,17 +131,22 @@ CString ClytDialog::FormatOutput(const CString& format, const CStringArray& item
     CString text;
     text.Preallocate(LengthAtMost(format, items));
     int nextItem = 0;
-    FormatReader reader(format);
+    ClytFormatReader reader(format);
     while (!reader.IsAtEnd())
     {
-        const CString piece = reader.TakePiece();
-        const Conversion conversion(piece);
-        if (conversion.isLimited && piece.Find('s') < 0)
+        const ClytFormatPiece piece = reader.Take();
+        if (piece.kind == ClytFormatPiece::Kind::Failure)
             AfxThrowInvalidArgException();
-        const CString& put = conversion.takesItem ? items[nextItem++] : piece;
-        const int length = conversion.isLimited ? std::clamp(conversion.limit, 0, put.GetLength()) : put.GetLength();
+        const char* put = format.GetString() + piece.start;
+        int length = piece.length;
+        if (piece.kind == ClytFormatPiece::Kind::Item)
+        {
+            const CString& item = items[nextItem++];
+            put = item.GetString();
+            length = std::min(piece.limit, item.GetLength());
+        }
         // An item that is a lone backslash goes the same way.
-        const bool isEscape = length == 1 && put[0] == '\\' && reader.IsBeforeQuote();
+        const bool isEscape = length == 1 && *put == '\\' && reader.IsBeforeQuote();
         if (!isEscape)
             text.Append(put, length);
     }

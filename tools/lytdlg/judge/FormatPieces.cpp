@@ -1,8 +1,9 @@
 #include "lytdlg/judge/FormatPieces.h"
 
-#include "base/Words.h"
+#include "dialog/FormatReader.h"
 
 #include <algorithm>
+#include <optional>
 
 namespace lytdlg
 {
@@ -16,19 +17,21 @@ bool TakesItem(FormatPieceKind kind)
            kind == FormatPieceKind::LimitAndText;
 }
 
-// What comes between a `%` and the `s`: nothing, or a limit.
-FormatPieceKind KindOfConversion(const std::string& conversion)
+// Nothing for a letter of the text.
+std::optional<FormatPieceKind> MeaningOf(const ClytFormatPiece& piece)
 {
-    if (conversion.empty())
-        return FormatPieceKind::Item;
-    const size_t point = conversion.starts_with("0.") ? 1 : 0;
-    if (conversion[point] != '.')
-        return FormatPieceKind::NoConversion;
-    const char* rest = nullptr;
-    const int limit = lytNumberOf(conversion.c_str() + point + 1, &rest);
-    if (*rest != '\0')
-        return FormatPieceKind::LimitAndText;
-    return limit <= 0 ? FormatPieceKind::NoLimit : FormatPieceKind::Item;
+    using enum FormatPieceKind;
+    switch (piece.kind)
+    {
+    case ClytFormatPiece::Kind::Text: return piece.isConversion ? std::optional(NoConversion) : std::nullopt;
+    case ClytFormatPiece::Kind::Failure: return piece.isConversion ? OpenPercent : LonePoint;
+    default: break;
+    }
+    if (!piece.isConversion)
+        return LoneS;
+    if (piece.hasWaste)
+        return LimitAndText;
+    return piece.limit == 0 ? NoLimit : Item;
 }
 
 } // namespace
@@ -38,22 +41,15 @@ std::vector<FormatPiece> PiecesOf(const std::string& format)
     std::vector<FormatPiece> pieces;
     if (format.find('%') == std::string::npos)
         return pieces;
-    for (size_t place = 0; place < format.size(); ++place)
+    const CString text(format.c_str());
+    ClytFormatReader reader(text);
+    while (!reader.IsAtEnd())
     {
-        if (format[place] == 's')
-            pieces.push_back({FormatPieceKind::LoneS, place, 1});
-        else if (format[place] == '.')
-            pieces.push_back({FormatPieceKind::LonePoint, place, 1});
-        if (format[place] != '%')
-            continue;
-        const size_t end = format.find('s', place);
-        if (end == std::string::npos)
-        {
-            pieces.push_back({FormatPieceKind::OpenPercent, place, 1});
-            return pieces;
-        }
-        pieces.push_back({KindOfConversion(format.substr(place + 1, end - place - 1)), place, end + 1 - place});
-        place = end;
+        const ClytFormatPiece piece = reader.Take();
+        const size_t sign = piece.isConversion ? 1 : 0;
+        if (const std::optional<FormatPieceKind> kind = MeaningOf(piece))
+            pieces.push_back(
+                {*kind, static_cast<size_t>(piece.start) - sign, static_cast<size_t>(piece.length) + sign});
     }
     return pieces;
 }
