@@ -50,6 +50,8 @@ private:
     }
 
     ClytDialog& dialog;
+    // One NUL, so a label with an apostrophe is shown up to and including it.
+    const CString labelArgument = CString('\0');
     ClytOutput* group = nullptr; // owned by the dialog
     CString groupName = lytParentName;
     ClytSpan groupHeader;
@@ -104,8 +106,7 @@ void ClytDialog::Reading::Control(const ClytControlStatement& statement)
 {
     if (statement.type.IsEmpty())
         return;
-    // The argument is one NUL, so a label with an apostrophe is shown up to and including it.
-    const CString label = TextOf(statement.text, CString('\0'));
+    const CString label = TextOf(statement.text, labelArgument);
     auto made = lytMakeControl({statement.type,
                                 statement.name,
                                 {lytScaled(statement.x, lytScaleX), lytScaled(statement.y, lytScaleY)},

@@ -3,6 +3,8 @@
 #include "model/ClytControl.h"
 #include "model/ClytWords.h"
 
+ClytCtrlValList::ClytCtrlValList() = default;
+
 ClytCtrlValList::ClytCtrlValList(const CString& name, const ClytSpan& place)
 {
     SetName(name, place);

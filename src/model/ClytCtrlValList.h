@@ -12,8 +12,9 @@ using ClytControlMap = CTypedPtrMap<CMapStringToPtr, CString, ClytControl*>;
 class ClytCtrlValList : public CObject
 {
 public:
-    // Conditions are made at many places: the compiler would repeat it at each of them.
-    explicit ClytCtrlValList(const CString& name = {}, const ClytSpan& place = {});
+    // Conditions are made at many places: the compiler would repeat these at each of them.
+    ClytCtrlValList();
+    explicit ClytCtrlValList(const CString& name, const ClytSpan& place = {});
 
     const CString& GetName() const { return controlName; }
     void SetName(const CString& name, const ClytSpan& place = {});
