@@ -25,11 +25,11 @@ enum class ClytKind
 struct ClytType
 {
     const char* word;
-    ClytKind kind;
     const char* name;
     const char* captionKey = ""; // of its fixed caption, in the section of the buttons
-    bool hasCaption = false;     // the text of its statement shows on it
-    bool hasSize = false;        // its size comes from the statement, and not from its text
+    ClytKind kind = ClytKind::Unknown;
+    bool hasCaption = false; // the text of its statement shows on it
+    bool hasSize = false;    // its size comes from the statement, and not from its text
     bool hasValue = false;
     bool isFilled = false;   // a statement FILLEDBY gives it contents
     bool hasItems = false;   // a list of any sort
@@ -44,25 +44,25 @@ struct ClytType
 inline constexpr const char* lytButtonSection = "Buttons";
 
 inline constexpr ClytType lytTypes[] = {
-    {.word = "Text", .kind = ClytKind::Text, .name = "a text", .hasCaption = true},
+    {.word = "Text", .name = "a text", .kind = ClytKind::Text, .hasCaption = true},
     {.word = "TextBox",
-     .kind = ClytKind::Field,
      .name = "a field",
+     .kind = ClytKind::Field,
      .hasSize = true,
      .hasValue = true,
      .isFilled = true},
-    {.word = "GroupBox", .kind = ClytKind::Frame, .name = "a frame", .hasCaption = true, .hasSize = true},
+    {.word = "GroupBox", .name = "a frame", .kind = ClytKind::Frame, .hasCaption = true, .hasSize = true},
     {.word = "ListBox",
-     .kind = ClytKind::List,
      .name = "a list",
+     .kind = ClytKind::List,
      .hasSize = true,
      .hasValue = true,
      .isFilled = true,
      .hasItems = true,
      .isOpenList = true},
     {.word = "CheckListBox",
-     .kind = ClytKind::CheckList,
      .name = "a check list",
+     .kind = ClytKind::CheckList,
      .hasSize = true,
      .hasValue = true,
      .isFilled = true,
@@ -70,55 +70,55 @@ inline constexpr ClytType lytTypes[] = {
      .isOpenList = true,
      .hasMarks = true},
     {.word = "DropListBox",
-     .kind = ClytKind::DropList,
      .name = "a drop-down list",
+     .kind = ClytKind::DropList,
      .hasSize = true,
      .hasValue = true,
      .isFilled = true,
      .hasItems = true},
     {.word = "ComboBox",
-     .kind = ClytKind::Combo,
      .name = "a combo box",
+     .kind = ClytKind::Combo,
      .hasSize = true,
      .hasValue = true,
      .isFilled = true,
      .hasItems = true},
     {.word = "CheckBox",
-     .kind = ClytKind::CheckBox,
      .name = "a check box",
+     .kind = ClytKind::CheckBox,
      .hasCaption = true,
      .hasValue = true,
      .isChecked = true},
-    {.word = "OptionGroup", .kind = ClytKind::OptionGroup, .name = "an option group", .hasValue = true},
+    {.word = "OptionGroup", .name = "an option group", .kind = ClytKind::OptionGroup, .hasValue = true},
     {.word = "OptionButton",
-     .kind = ClytKind::Option,
      .name = "an option",
+     .kind = ClytKind::Option,
      .hasCaption = true,
      .hasValue = true,
      .isChecked = true},
     {.word = "PushButton",
-     .kind = ClytKind::Button,
      .name = "a button",
+     .kind = ClytKind::Button,
      .hasCaption = true,
      .hasSize = true,
      .isButton = true},
     {.word = "OKButton",
-     .kind = ClytKind::Ok,
      .name = "the OK button",
      .captionKey = "001",
+     .kind = ClytKind::Ok,
      .hasSize = true,
      .isButton = true,
      .isDefault = true},
     {.word = "CancelButton",
-     .kind = ClytKind::Cancel,
      .name = "the Cancel button",
      .captionKey = "002",
+     .kind = ClytKind::Cancel,
      .hasSize = true,
      .isButton = true,
      .isDefault = true},
 };
 
-inline constexpr ClytType lytUnknownType = {.word = "", .kind = ClytKind::Unknown, .name = "a control"};
+inline constexpr ClytType lytUnknownType = {.word = "", .name = "a control"};
 
 constexpr const ClytType& lytTypeOf(ClytKind kind)
 {

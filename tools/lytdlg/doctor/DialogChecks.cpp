@@ -2,6 +2,7 @@
 
 #include "commandline/Text.h"
 #include "lytdlg/judge/Judge.h"
+#include "lytdlg/text/Paths.h"
 #include "lytdlg/text/TextFile.h"
 
 #include <algorithm>
