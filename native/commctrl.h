@@ -88,6 +88,7 @@ enum : UINT
     TVN_SELCHANGEDA = static_cast<UINT>(-402),
     TVN_ITEMEXPANDINGA = static_cast<UINT>(-405),
     TVN_ITEMEXPANDEDA = static_cast<UINT>(-406),
+    TVN_DELETEITEMA = static_cast<UINT>(-409),
     TVN_KEYDOWN = static_cast<UINT>(-412),
 };
 

@@ -28,7 +28,7 @@ protected:
     void OnOK() override;
 
     afx_msg void OnSize(UINT sizeKind, int width, int height);
-    afx_msg void OnItemExpanding(NMHDR* header, LRESULT* result);
+    afx_msg void OnItemChange(NMHDR* header, LRESULT* result);
     afx_msg void OnDoubleClick(NMHDR* header, LRESULT* result);
     DECLARE_MESSAGE_MAP()
 
