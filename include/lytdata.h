@@ -39,7 +39,7 @@
 typedef void lytDataStart(const char* parameter);
 
 /* Delivers one item: the text to show and the value that the control gives back. Nonzero with an item, 0 after the
- * last; a listing ends after 1,000,000 items, whatever the function says. The buffers are empty at the first call and are
+ * last; a listing ends after 1,000,000 items, even if the function has more. The buffers are empty at the first call and are
  * not cleared between calls: a buffer that is left alone repeats the item before it. */
 typedef int lytDataNext(char* display, int size, char* value, int valueSize);
 

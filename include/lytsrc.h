@@ -12,12 +12,12 @@
  *
  *   1. lytTreeStart("") makes a new run of records ready. Nonzero: it is; 0: there is nothing to read.
  *   2. lytTreeNext(&record) fills the record and returns nonzero, again and again; it returns 0 after the last one,
- *      and what then stands in the record is not looked at.
+ *      and what is then in the record is not looked at.
  *
  * Nothing tells the source that reading has ended. A start call may come at any time, even in the middle of a run, and
  * begins again. All calls come from the one thread that called lyt64; records and texts need not outlive a call. A
  * catalogue is read once and then kept until FreeGlobalObject (lytGetSymbolfromTree without a kept catalogue reads it
- * through each time). A run ends after 1,000,000 records, whatever the source says. A source may call lyt64 from inside
+ * through each time). A run ends after 1,000,000 records, even if the source has more. A source may call lyt64 from inside
  * a call: FreeGlobalObject then drops what is kept, and not the run that is being read.
  *
  * The functions must not raise. If one does all the same, what was read of the run is dropped and the catalogue stays as

@@ -1,6 +1,6 @@
 // A window in memory: what it is, and the procedure of its class.
 //
-// Windows belong to the desktop (Desktop.h); pointers between them are cleared when a window dies, and whoever keeps a
+// Windows belong to the desktop (Desktop.h); pointers between them are cleared when a window dies, and code that keeps a
 // window across a message keeps its handle, which is never given out again.
 #pragma once
 

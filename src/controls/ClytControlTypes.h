@@ -15,5 +15,5 @@ struct ClytControlRequest
     const CString& label;
 };
 
-// Null for a word that stands for no control.
+// Null for a word that names no control.
 [[nodiscard]] std::unique_ptr<ClytControl> lytMakeControl(const ClytControlRequest& request);

@@ -16,7 +16,7 @@ namespace
 // The places that a rule has for its items.
 constexpr int itemPlaces = 25;
 
-// What stands between the values of a list when the rule says nothing else.
+// What separates the values of a list when the rule says nothing else.
 constexpr const char* listSeparator = "   ";
 
 // The room that a result needs, or more where the format limits an item or leaves it out.

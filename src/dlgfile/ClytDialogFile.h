@@ -2,7 +2,7 @@
 // kind of statement. It keeps no tree: a statement goes to the dialog as soon as it is read, and the dialog pulls the
 // next one.
 //
-// Readers return 1 to go on and 0 at the word that ends their section. A statement of wrong form is 212 with the number
+// Readers return 1 to continue and 0 at the word that ends their section. A statement of wrong form is 212 with the number
 // of its line. Failures go to the error sink. After one that returns, the line counts as one without a statement, and a
 // file that ends too early as the end of its section; what was read of the statement stays in the caller's record.
 #pragma once
@@ -42,15 +42,15 @@ public:
     // What a read of a line is given; a buffer for it has room for a NUL.
     static constexpr UINT lineSize = 399;
 
-    // The define list is a text of names joined by commas; null stands for none. The sink outlives the reader.
+    // The define list is a text of names joined by commas; null means none. The sink outlives the reader.
     explicit ClytDialogFile(const char* defineList, ErrorSink& errorSink = lytRaisingSink());
 
     // Cuts a line into the tokens of the present line. A quote that is not closed is 210.
     void Tokenize(const char* line, const DelimiterSet& delimiters);
     const ClytTokenList& GetTokens() const { return tokens; }
-    // Where a token of the present line stands in the file.
+    // The place of a token of the present line in the file.
     ClytSpan PlaceOf(const ClytToken& token) const;
-    // Where the statement of the present line stands: from its first token to the end of the line.
+    // The place of the present line's statement: from its first token to the end of the line.
     ClytSpan GetStatementPlace() const;
 
     // Appends the texts of the present line's tokens and deletes the tokens; 0 when there are none.
@@ -72,7 +72,7 @@ public:
     [[nodiscard]] int ReadOutputStatement(CString& groupName, ClytDialogOutput& rule);
 
 private:
-    // What is thrown once a failure has been told and the sink wants to hear of more; it ends the statement.
+    // Thrown once a failure has been reported and the sink wants to hear of more; it ends the statement.
     struct Abandoned
     {
     };

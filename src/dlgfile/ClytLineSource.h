@@ -8,16 +8,16 @@
 class ClytLineSource : public CStdioFile
 {
 public:
-    // The define list is a text of names joined by commas; null stands for none.
+    // The define list is a text of names joined by commas; null means none.
     explicit ClytLineSource(const char* defineList);
 
     // Delivers the next line that the defines leave in, at most `count` characters and a NUL; null at the end of the
-    // file. A longer line arrives in pieces, each a line of its own.
+    // file. A longer line arrives in pieces, each a separate line.
     char* ReadString(char* buffer, UINT count) override;
 
     // The number of the present line that messages tell: lines that are switched off do not count, pieces do.
     int GetLineNumber() const { return lineNumber; }
-    // Where the present line stands in the file, and a part of it that begins at a column of the line as delivered.
+    // The place of the present line in the file, and of a part of it that begins at a column of the line as delivered.
     const ClytSpan& GetLinePlace() const { return linePlace; }
     // What a line that begins with `<` tells: the define that it names, and whether `<!` turns it round.
     static CString DefineOf(const char* line);

@@ -15,7 +15,7 @@ public:
     {
     }
 
-    // Takes the text that stands between two places of the line.
+    // Takes the text between two places of the line.
     void Set(const char* line, const char* start, const char* end, char endedBy)
     {
         text.Empty();
@@ -28,7 +28,7 @@ public:
     // Where the text begins in the line, in bytes from 0.
     int GetColumn() const { return column; }
     char GetDelimiter() const { return delimiter; }
-    // Nothing before the delimiter, such as what stands between two delimiters in a row.
+    // Nothing before the delimiter, such as the text between two delimiters in a row.
     bool IsBare(char endedBy) const { return delimiter == endedBy && text.IsEmpty(); }
 
 private:
@@ -37,7 +37,7 @@ private:
     char delimiter = '\0';
 };
 
-// The tokens of a line. Those of the line before serve again, so that a line costs no allocation of its own. A POSITION
+// The tokens of a line. Those of the line before serve again, so that a line costs no further allocation. A POSITION
 // stays valid until the list is changed.
 class ClytTokenList
 {

@@ -2,8 +2,8 @@
 //
 //     $INPUT, part
 //     name : ( scan list = fill rule, ...                   cut a piece off and put it into controls
-//     name : control (value, ...), ... = target, target     go on by what the controls hold
-//     name : word = target                                  go on there; the word is ignored
+//     name : control (value, ...), ... = target, target     continue by what the controls hold
+//     name : word = target                                  continue there; the word is ignored
 //
 // A reader finds its line in the token list and leaves the next one there.
 #include "dlgfile/ClytDialogFile.h"
@@ -17,7 +17,7 @@ namespace
 
 constexpr const char* terminator = lytWordOf(ClytSection::Output);
 
-// Failures of the class library while a part is read are told as the program's own.
+// Failures of the class library while a part is read are reported as the program's own.
 template <class Read>
 void ReadGuarded(Read read)
 {

@@ -59,7 +59,7 @@ int ClytDialogFile::ReadHeaderStatement(CString& version, bool& isVersionSeen)
     return 0;
 }
 
-// Reads up to a line that begins with a header's word; false at the end of the file. Free text may stand above the
+// Reads up to a line that begins with a header's word; false at the end of the file. Free text may be above the
 // headers, so a quote without its partner counts on their own lines only.
 bool ClytDialogFile::ReadHeaderLine()
 {

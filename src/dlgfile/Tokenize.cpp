@@ -68,7 +68,7 @@ const char* lytTokenize(const char* line, const DelimiterSet& delimiters, ClytTo
             if (textEnd == nullptr)
                 return start - 1;
         }
-        // What stands between a closing quote and the delimiter is dropped.
+        // Text between a closing quote and the delimiter is dropped.
         const char* end = delimiters.FindIn(textEnd != nullptr ? textEnd + 1 : start);
         AddTrimmed(tokens, line, start, textEnd != nullptr ? textEnd : end, DelimiterAt(end));
         // A `;` is left standing, and so ends the line.

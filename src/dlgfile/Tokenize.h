@@ -4,7 +4,7 @@
 #include "base/DelimiterSet.h"
 #include "dlgfile/ClytToken.h"
 
-// Replaces the tokens by those of the line. Null, or the quote that is not closed; the tokens before it stand in the list
+// Replaces the tokens by those of the line. Null, or the quote that is not closed; the tokens before it are in the list
 // then.
 [[nodiscard]] const char* lytTokenize(const char* line, const DelimiterSet& delimiters, ClytTokenList& tokens);
 
