@@ -35,10 +35,11 @@ const ClytDialogOutput* ClytDialog::SelectRule(const ClytOutput& group)
     const ClytDialogOutput* chosen = nullptr;
     for (const ClytDialogOutput& rule : group.rules)
     {
-        if (!HoldsForOutput(rule))
-            continue;
-        chosen = &rule;
-        break;
+        if (HoldsForOutput(rule))
+        {
+            chosen = &rule;
+            break;
+        }
     }
     lytTell(&ClytObserver::OutputChosen, chosen);
     return chosen;

@@ -7,18 +7,18 @@
 ClytFormatPiece ClytFormatReader::Take()
 {
     ClytFormatPiece piece;
-    piece.isConversion = m_format[m_place] == '%';
-    piece.start = piece.isConversion ? m_place + 1 : m_place;
+    piece.isConversion = format[place] == '%';
+    piece.start = piece.isConversion ? place + 1 : place;
     if (piece.isConversion)
-        piece.length = m_format.Find('s', m_place) - m_place;
+        piece.length = format.Find('s', place) - place;
     if (piece.length < 0)
     {
         piece.kind = ClytFormatPiece::Kind::Failure;
         piece.length = 0;
-        m_place = m_format.GetLength();
+        place = format.GetLength();
         return piece;
     }
-    m_place = piece.start + piece.length;
+    place = piece.start + piece.length;
     ReadMeaning(piece);
     return piece;
 }
@@ -27,7 +27,7 @@ ClytFormatPiece ClytFormatReader::Take()
 // limit without its `s`. Formats in use rely on the former.
 void ClytFormatReader::ReadMeaning(ClytFormatPiece& piece) const
 {
-    const char* const text = m_format.GetString() + piece.start;
+    const char* const text = format.GetString() + piece.start;
     const char* const last = text + piece.length - 1;
     const char* const point = *text == '0' && text < last ? text + 1 : text;
     if (*point == '.')

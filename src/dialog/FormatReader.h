@@ -26,16 +26,16 @@ struct ClytFormatPiece
 class ClytFormatReader
 {
 public:
-    explicit ClytFormatReader(const CString& format) : m_format(format) {}
+    explicit ClytFormatReader(const CString& text) : format(text) {}
 
-    bool IsAtEnd() const { return m_place >= m_format.GetLength(); }
-    bool IsBeforeQuote() const { return !IsAtEnd() && m_format[m_place] == '"'; }
+    bool IsAtEnd() const { return place >= format.GetLength(); }
+    bool IsBeforeQuote() const { return !IsAtEnd() && format[place] == '"'; }
     // There is one. Nothing follows a `%` without its `s`.
     ClytFormatPiece Take();
 
 private:
     void ReadMeaning(ClytFormatPiece& piece) const;
 
-    const CString& m_format;
-    int m_place = 0;
+    const CString& format;
+    int place = 0;
 };
