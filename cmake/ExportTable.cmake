@@ -1,5 +1,5 @@
-# lyt_export_table(TARGET DEFINITION.def) makes the exports of the DLL, those of the report apart, known to windows in
-# memory under the DLL's name.
+# lyt_export_table(TARGET DEFINITION.def) makes the exports of the DLL, without those of the report, known to windows
+# in memory under the DLL's name.
 function(lyt_export_table target definition)
   file(STRINGS ${definition} lines)
   set(functions "")

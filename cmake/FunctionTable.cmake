@@ -1,5 +1,5 @@
 # lyt_function_table(TARGET LIBRARY NAME[=FUNCTION]...) makes functions that are compiled into the target known to windows
-# in memory as those of a library, so that a program that loads the library by name finds them.
+# in memory as functions of a library, so that a program that loads the library by name finds them.
 function(lyt_function_table target library)
   set(functions "")
   set(additions "")

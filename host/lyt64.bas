@@ -276,7 +276,7 @@ Public Function LytPickPara(ByVal selectedKey As String, ByRef choice As String)
     LytPickPara = True
 End Function
 
-' The first symbol whose key begins so. False when there is none; the key is then as it was.
+' The first symbol whose key begins so. False without one; the key is then as it was.
 Public Function LytFindSymbol(ByVal beginning As String, ByRef symbolKey As String) As Boolean
     Dim buffer As String, bytes As Long, answer As Long
     EnterCall
@@ -568,7 +568,7 @@ Private Function DiagnosisOfError(ByVal filePath As String, ByVal errorNumber As
         DiagnosisOfError = Diagnosis(filePath, "Windows denies access to the file.", _
             "Ask the administrator for the right to read and execute it.")
     Case 126, 127
-        DiagnosisOfError = Diagnosis(filePath, "A library that it needs is missing; it needs only those of Windows.", _
+        DiagnosisOfError = Diagnosis(filePath, "A library that it needs is missing; it needs only libraries of Windows.", _
             "Ask the administrator to repair Windows.")
     Case Else
         DiagnosisOfError = Diagnosis(filePath, "Windows refuses to load it, with error " & CStr(errorNumber) & ".", _

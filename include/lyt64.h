@@ -103,9 +103,9 @@ extern "C"
     int __stdcall lytOpenTreeView(const char* request, char* target, int size);
     int __stdcall lytOpenTreeViewPara(const char* request, char* target, int size);
 
-    /* Copies the key of the first symbol whose key begins with the text. Returns 1, or 0 when there is none or the text
-     * is empty, with the target as it was. Shows nothing; reads the catalogue for this call unless a dialog has read
-     * it. */
+    /* Copies the key of the first symbol whose key begins with the text. Returns 1, or 0 without such a symbol or when
+     * the text is empty, with the target as it was. Shows nothing; reads the catalogue for this call unless a dialog
+     * has read it. */
     int __stdcall lytGetSymbolfromTree(const char* text, char* target, int size);
 
     /* Walk over the symbols below a group of the symbol tree, once a dialog has read it: one start, then reads until 0.
@@ -129,7 +129,7 @@ extern "C"
     int __stdcall lytGetTextFromIniFile(const char* path, char* buffer, int size);
 
     /* Starts a list: the value of lyt.ini named by "section/key", cut at its commas. Returns 1 when there is one. A key
-     * that is not there is a list of the one item "Entry not found"; a path without "/" is none. */
+     * that is not there is a list of the one item "Entry not found"; a path without "/" gives no list. */
     int __stdcall lytListFromIniStart(const char* path);
 
     /* Copies the next item to both buffers and returns 1, or returns 0 at the end of the list and writes nothing.

@@ -15,7 +15,7 @@
  *   2. The parameter is the text that the named output rule composes, never null; without a rule it is empty. It
  *      belongs to the caller and is gone after the call.
  *   3. A buffer holds LYT_DATA_SIZE bytes, of which LYT_DATA_SIZE - 1 are for characters; that number, and nothing else,
- *      is what a function receives as `size`. Whatever a function writes there, the caller makes the last byte a NUL.
+ *      is what a function receives as `size`. The caller always makes the last byte of the buffer a NUL.
  *   4. Functions are called on the thread that runs the dialog, one at a time. They must not raise:
  *      an exception ends the fill or the action with a message, and so does a fault such as an access violation.
  *   5. All controls of one kind share the library that the first of them loaded, for the life of the process: let one

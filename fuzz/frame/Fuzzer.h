@@ -1,4 +1,4 @@
-// What a fuzzer is. A fuzzer reads and writes memory only; each input comes to its end, and leaves nothing behind that
+// What a fuzzer is. A fuzzer reads and writes memory only; each input comes to its end, and changes nothing that
 // another one would notice. Inputs are texts: a few lines first, and after them what fills the rest.
 #pragma once
 

@@ -32,13 +32,13 @@ public:
     void PlaceTabStop();
 
     void CreateControl(ClytForm* owner) override;
-    // The value preselects the button whose own value it is, so the statement comes after those of the buttons.
+    // The value preselects the button whose own value it is, so the statement comes after the buttons' statements.
     void SetOption(const CStringList& values, const CString& keyword) override;
     void SaveState() override { savedValue = GetValue(); }
     // A control without a window gets no focus.
     void SetControlFocus() override { SetFocus(); }
     void SetValue(const CString& value) override;
-    // The value of the first checked button; empty when there is none.
+    // The value of the first checked button, or empty.
     CString GetValue() override;
     int IsChanged() override { return GetValue() == savedValue ? 0 : 1; }
     // Any state word, also one that hides the group, decides whether it counts as active.

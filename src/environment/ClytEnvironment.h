@@ -27,11 +27,11 @@ public:
 
     // The full name of `lyt.ini`.
     CString GetIniFileName() const;
-    // The current language of `lyt.ini`, at most 74 bytes; the sentinel when there is none.
+    // The current language of `lyt.ini`, at most 74 bytes, or the sentinel.
     CString GetLanguage() const;
     // The full name of that language's file, whether it exists or not.
     CString GetLanguageFileName() const;
-    // The log level as text; "0" when there is none.
+    // The log level as text, or "0".
     CString GetLogLevel() const;
     // A display text of the language file, at most 74 bytes before the argument is put after its first apostrophe.
     CString GetText(const char* section, const char* key, const CString& argument) const;

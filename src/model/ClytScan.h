@@ -14,7 +14,7 @@ public:
     const char* FindStop(const char* rest) const { return stops.FindIn(rest); }
     // The separator at the start of the rest, the first in file order that fits, or null.
     const ClytSeparator* FindSeparator(const char* rest) const;
-    // The statement after the first separator of that text; empty when there is none.
+    // The statement after the first separator of that text, or empty.
     const ClytTarget& TargetOf(const char* separatorText) const;
 
     // Lets `bind` find the statements of all targets.

@@ -11,7 +11,7 @@
 class ClytAncestors
 {
 public:
-    // What was added for the nearest earlier node with a smaller level; null when there is none. Nodes of that level or
+    // What was added for the nearest earlier node with a smaller level, or null. Nodes of that level or
     // a greater one are dropped: they are parents no longer.
     const ClytNode* FindAbove(int level)
     {

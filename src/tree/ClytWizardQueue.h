@@ -11,7 +11,7 @@ public:
     // Whether texts are being delivered.
     bool IsPending() const { return pending; }
 
-    // Takes a group dialog's result apart: what follows "/LIST" and the next "{" goes into the queue; what stands
+    // Takes a group dialog's result apart: what follows "/LIST" and the next "{" goes into the queue; what comes
     // before it, brace included, is the first text, which is returned. Without "/LIST" the brace is sought in the whole
     // result, and without a brace the queue gets all that was searched.
     CString Begin(const CString& result);

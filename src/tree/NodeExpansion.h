@@ -10,9 +10,9 @@ struct ClytExpansion
     // The opening by levels, until the symbol tree was confirmed for the first time; afterwards, and in the para tree,
     // branches are as the last confirmation left them.
     bool byLevels = false;
-    // The key of the entry to select; empty when there is none.
+    // The key of the entry to select, or empty.
     CString selectKey;
 };
 
-// Expands branches and returns the item to select, null when there is none.
+// Expands branches and returns the item to select, or null.
 HTREEITEM lytExpandNodes(const ClytNodeList& nodes, const ClytExpansion& expansion, ClytTreeItems& items);

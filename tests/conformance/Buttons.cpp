@@ -65,7 +65,7 @@ void Options()
                       fourth.SetCheck(1);
                   });
         stage.Look(look);
-        stage.Act("click one behind them", [&] { robot::Click(third.m_hWnd); });
+        stage.Act("click one after them", [&] { robot::Click(third.m_hWnd); });
         stage.Act("arrow on", [] { robot::PressKey(VK_DOWN); });
         stage.Act("arrow round", [] { robot::PressKey(VK_DOWN); });
         stage.Look(look);

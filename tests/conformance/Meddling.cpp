@@ -64,7 +64,7 @@ public:
     {
         for (size_t acts = 4 + m_dice.Below(12); acts > 0; --acts)
             m_stage.Act("act", [this] { Act(); });
-        // Whatever is up comes down.
+        // All that is up comes down.
         for (int time = 0; time < 3; ++time)
             m_stage.Act("close",
                         [this]

@@ -10,7 +10,7 @@ class Dice
 public:
     explicit Dice(unsigned number) : m_engine(number) {}
 
-    // The engine's numbers are the same everywhere; those of the distributions are not.
+    // The engine's numbers are the same everywhere; the numbers of the distributions are not.
     size_t Below(size_t end) { return m_engine() % end; }
     bool Is(size_t oneIn) { return Below(oneIn) == 0; }
     template <class LIST>

@@ -98,7 +98,7 @@ bool GuardedHeap::Reserve()
     return arena != nullptr;
 }
 
-// The page after those of a block is never given out.
+// The page after a block is never given out.
 size_t GuardedHeap::TakePages(size_t pages)
 {
     if (!freeBlocks[pages].IsEmpty())

@@ -16,7 +16,7 @@ inline const OtherEnding otherEndings[] = {
     {"its destruction", [](HWND dialog) { DestroyWindow(dialog); }, false},
 };
 
-// Takes the quit message off the queue of the thread; false when there is none.
+// Takes the quit message off the queue of the thread; false without one.
 inline bool TakeQuit()
 {
     MSG message{};

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-// The acts are those of robot::ActingUser, the last of them the one that leaves the dialogs.
+// The acts are acts of robot::ActingUser; the last one leaves the dialogs.
 struct Case
 {
     std::string description;

@@ -91,7 +91,7 @@ bool Campaign::Run(unsigned from, unsigned count, bool shrinks)
     unsigned failures = 0;
     for (unsigned number = from; number < from + count; ++number)
     {
-        // Stands in the output when a case ends the process, or does not end.
+        // Is seen in the output when a case ends the process, or does not end.
         std::printf("case %u", number);
         std::fflush(stdout);
         const Case made = CaseOf(number, m_samples);

@@ -21,8 +21,8 @@ std::string ReadStandardInput();
 // To the standard output, after all that has been printed there.
 void WriteBytes(const std::string& bytes);
 
-// The words are in UTF-8. The first is the program, which is looked for as a shell does. Gives its exit code; -1 when there
-// is none.
+// The words are in UTF-8. The first is the program, which is looked for as a shell does. Gives its exit code, or -1
+// without one.
 int RunProgram(const std::vector<std::string>& words);
 
 // A word as a command line of Windows holds it; there only.

@@ -39,7 +39,7 @@ public:
     std::string DefaultButtonFor(const CString& name) const;
 
     int runCount = 0;   // runs of the rules since the construction
-    int deepestRun = 0; // how many of them stood one inside the other at most
+    int deepestRun = 0; // how many of them were one inside the other at most
 
     void RunDependencies() override;
     // Only a modal run shows a nested dialog.

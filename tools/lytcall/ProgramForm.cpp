@@ -35,7 +35,7 @@ const commandline::ProgramForm& TheProgram()
             {"--init", "FOLDER", false, "the folder of lyt.ini (default: the samples)"},
             {"--document", "FILE", false, "the name of the document (default: inspection.doc in the temporary folder)"},
             {"--define", "WORD", false, "switch a stretch of the descriptions on; may be given more than once"},
-            {"--language", "NAME", false, "speak this language, whatever lyt.ini says"},
+            {"--language", "NAME", false, "speak this language and not that of lyt.ini"},
             {"--kind", "N", true, "the kind of a group (default 1)"},
             {"--size", "N", true, "the size of the buffer (default 1024)"},
             {"--second-size", "N", true, "the size of the second buffer of group and child (default 1024)"},

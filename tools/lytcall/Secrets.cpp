@@ -17,7 +17,7 @@ constexpr const char* removed = "REMOVED";
 bool IsSecret(std::string name)
 {
     std::ranges::transform(name, name.begin(), [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
-    // The roots of the registry have names of their own.
+    // The roots of the registry have known names.
     return !name.starts_with("hkey_") &&
            std::ranges::any_of(std::initializer_list<std::string_view>{"key", "pass", "licen", "serial", "owner"},
                                [&](std::string_view stem) { return name.find(stem) != std::string::npos; });

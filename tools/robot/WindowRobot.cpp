@@ -244,6 +244,18 @@ int SelectedItemOf(HWND list)
     return static_cast<int>(SendMessageA(list, IsCombo(list) ? CB_GETCURSEL : LB_GETCURSEL, 0, 0));
 }
 
+std::string LabelOf(HWND tree, HTREEITEM item)
+{
+    char label[512] = "";
+    TVITEMA request = {};
+    request.mask = TVIF_TEXT;
+    request.hItem = item;
+    request.pszText = label;
+    request.cchTextMax = sizeof label;
+    SendMessageA(tree, TVM_GETITEMA, 0, reinterpret_cast<LPARAM>(&request));
+    return label;
+}
+
 Robot::Robot(UINT limitInMilliseconds)
     : m_timer(SetTimer(nullptr, 0, tickMilliseconds, Tick)),
       m_deadline(GetTickCount64() + commandline::Patience(limitInMilliseconds)),

@@ -7,6 +7,8 @@
 
 #include <windows.h>
 
+#include <commctrl.h>
+
 #include <deque>
 #include <functional>
 #include <string>
@@ -36,10 +38,10 @@ void AnswerBox(HWND box, int most = mostBoxesOfAct);
 
 // The children of a dialog in the order of their creation.
 std::vector<HWND> ChildrenOf(HWND dialog);
-// The n-th (from 0) child, or the n-th child of a class (compared without case); null when there is none.
+// The n-th (from 0) child, or the n-th child of a class (compared without case), or null.
 HWND ChildAt(HWND dialog, size_t index);
 HWND ChildOfClass(HWND dialog, const std::string& windowClass, size_t index = 0);
-// The first child with that window text; null when there is none.
+// The first child with that window text, or null.
 HWND ChildWithText(HWND dialog, const std::string& text);
 
 void Focus(HWND control);
@@ -65,6 +67,7 @@ void ReplaceText(HWND edit, const std::string& text);
 void SelectItem(HWND list, int index);
 std::vector<std::string> ItemsOf(HWND list);
 int SelectedItemOf(HWND list);
+std::string LabelOf(HWND tree, HTREEITEM item);
 
 class Robot
 {

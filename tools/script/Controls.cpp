@@ -107,23 +107,11 @@ HTREEITEM Next(HWND tree, UINT relation, HTREEITEM item)
     return reinterpret_cast<HTREEITEM>(SendMessageA(tree, TVM_GETNEXTITEM, relation, reinterpret_cast<LPARAM>(item)));
 }
 
-std::string LabelOf(HWND tree, HTREEITEM item)
-{
-    char label[512] = "";
-    TVITEMA record = {};
-    record.mask = TVIF_TEXT;
-    record.hItem = item;
-    record.pszText = label;
-    record.cchTextMax = sizeof label;
-    SendMessageA(tree, TVM_GETITEMA, 0, reinterpret_cast<LPARAM>(&record));
-    return label;
-}
-
 std::string TreeItemPath(HWND tree, HTREEITEM item)
 {
     std::string path;
     for (; item != nullptr; item = Next(tree, TVGN_PARENT, item))
-        path = LabelOf(tree, item) + (path.empty() ? "" : "/" + path);
+        path = robot::LabelOf(tree, item) + (path.empty() ? "" : "/" + path);
     return path;
 }
 
@@ -137,7 +125,7 @@ std::vector<std::string> VisibleTreeItems(HWND tree)
         for (HTREEITEM parent = Next(tree, TVGN_PARENT, item); parent != nullptr;
              parent = Next(tree, TVGN_PARENT, parent))
             indent += "  ";
-        items.push_back(indent + LabelOf(tree, item));
+        items.push_back(indent + robot::LabelOf(tree, item));
     }
     return items;
 }
@@ -179,7 +167,7 @@ HTREEITEM FindTreeItem(HWND tree, const std::string& path)
     std::string rest = path;
     while (item != nullptr)
     {
-        const std::string label = LabelOf(tree, item);
+        const std::string label = robot::LabelOf(tree, item);
         if (rest == label)
             return item;
         if (rest.starts_with(label + "/") && Next(tree, TVGN_CHILD, item) != nullptr)

@@ -30,7 +30,7 @@ std::vector<std::string> DescribeControls(HWND dialog);
 // The item of a tree that the labels on the way to it name, such as "Roof/Tiles/North side"; null for none.
 HTREEITEM FindTreeItem(HWND tree, const std::string& path);
 
-// The place of an item in client coordinates of its list or tree, scrolled into view; false when there is none.
+// The place of an item in client coordinates of its list or tree, scrolled into view; false without it.
 bool ItemPlace(HWND control, const std::string& item, RECT& place);
 // The index of a list's or combo box's item, or -1.
 int ItemIndex(HWND list, const std::string& item);

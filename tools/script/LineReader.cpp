@@ -59,7 +59,7 @@ std::string LineReader::Word(const std::string& what)
         return Quoted();
     m_next = std::min(m_text.find_first_of(" \t\r=:,", m_next), m_text.size());
     if (m_next == m_start)
-        Fail("'" + m_text.substr(m_start, 1) + "' stands where " + what + " should be; take it away");
+        Fail("'" + m_text.substr(m_start, 1) + "' is not " + what + "; delete it");
     return m_text.substr(m_start, m_next - m_start);
 }
 

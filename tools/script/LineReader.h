@@ -35,7 +35,7 @@ public:
     // Takes the character if it comes next.
     bool Takes(char ch);
     void Expect(char ch, const std::string& wayOut);
-    // A bare word, or a text in quotes with \" \\ \n \r \t. Fails where there is none.
+    // A bare word, or a text in quotes with \" \\ \n \r \t. Fails without one.
     std::string Word(const std::string& what);
     // Everything up to the next blank.
     std::string PlainWord();

@@ -68,7 +68,7 @@ std::string ReadText(const StepForm& form, LineReader& line)
     if (std::string_view(form.arguments).find('=') != std::string_view::npos)
         line.Expect('=', "write: " + Written(form));
     const std::string word = line.PlainWord();
-    line.Fail("the text " + word + " stands without quotes; write \"" + word + "\"");
+    line.Fail("the text " + word + " has no quotes; write \"" + word + "\"");
 }
 
 // A text as well, unless it is a word without quotes.
@@ -173,7 +173,7 @@ Step ReadStep(const StepForm& form, LineReader& line, Player player)
             step.arguments.push_back(ReadArgument(*shape, line));
     }
     if (!line.IsAtEnd())
-        line.FailAt(line.NextColumn(), "nothing may stand here; write the step as: " + Written(form));
+        line.FailAt(line.NextColumn(), "nothing may follow here; write the step as: " + Written(form));
     return step;
 }
 
@@ -216,16 +216,16 @@ std::string Help()
         text += left + form.meaning + "\n";
     }
     text += "\nA CONTROL is one of\n"
-            "  \"CAPTION\"   the button with that caption, or the field behind the label with it\n"
+            "  \"CAPTION\"   the button with that caption, or the field after the label with it\n"
             "  edit2       the second edit field; so with";
     for (const std::string& word : typeWords)
         text += " " + word;
     return text + "\n  #5          the fifth control of the window, counted as the description lists them\n"
                   "  focus       the control with the focus\n"
                   "  Digits      its name in the description, for lytdlg alone\n\n"
-                  "Texts stand in quotes, or after a '=' in quotes or without; \\\" \\\\ \\n \\t stand for themselves, "
-                  "a line\n"
-                  "feed and a tab, and \\x1B for the character of that number.\n";
+                  "Texts are in quotes, or after a '=' in quotes or without; \\\" \\\\ \\n \\t mean a quote, a "
+                  "backslash, a\n"
+                  "line feed and a tab, and \\x1B the character of that number.\n";
 }
 
 } // namespace script

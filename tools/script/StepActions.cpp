@@ -366,7 +366,7 @@ const std::vector<StepForm>& StepForms()
          CanBeSet, Set},
         {"focus", "c", "CONTROL", "move the focus there", true, IsUsable, MoveFocus},
         {"type", "ct", "CONTROL \"TEXT\"", "type in place of what the field holds", true, IsUsable, Type},
-        {"append", "ct", "CONTROL \"TEXT\"", "type behind what the field holds", true, IsUsable, Append},
+        {"append", "ct", "CONTROL \"TEXT\"", "type after what the field holds", true, IsUsable, Append},
         {"enter", "t", "\"TEXT\"", "type where the focus is; what is selected there is replaced", true, HasDialog,
          Enter},
         {"key", "k?n", "KEY [TIMES]", "press a key, where the focus is; alt+X is an access key", true, HasDialog,

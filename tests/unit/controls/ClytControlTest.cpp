@@ -90,7 +90,7 @@ TEST_F(BaseControl, FailsByItsEvaluationOnAForbiddenPairOfValues)
         {{"w", "x"}, {"y"}, "x", "y", 0},
         {{"w", "x"}, {"y"}, "x", "z", 1},
         {{"w", "x"}, {"y"}, "v", "y", 1},
-        // NULL stands for an empty value; as the first it asks for the control's own alone.
+        // NULL means an empty value; as the first it asks for the control's own value alone.
         {{"x", "NULL"}, {"NULL"}, "", "", 0},
         {{"NULL", "x"}, {"y"}, "x", "y", 1},
         {{"NULL", "x"}, {"y"}, "", "z", 0},

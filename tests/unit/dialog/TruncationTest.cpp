@@ -1,4 +1,4 @@
-// Whatever of a description is there, reading it ends in a failure of a known kind or in a dialog.
+// However early a description ends, reading it gives a failure of a known kind or a dialog.
 #include "Form.h"
 
 #include <filesystem>

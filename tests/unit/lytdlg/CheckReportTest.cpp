@@ -103,7 +103,7 @@ TEST_F(CheckReport, TellsOfAByteOrderMarkInALanguageFile)
                                     "            ^~~\n"
                                     "    hint: a byte order mark hides it; " +
                                         wayOut,
-                                    "English.nls:1:1: warning text-byte-order-mark: a byte order mark stands before "
+                                    "English.nls:1:1: warning text-byte-order-mark: a byte order mark comes before "
                                     "the first line, and hides it\n"
                                     "    \u00EF\u00BB\u00BF[Box]\n"
                                     "    ^\n"

@@ -70,7 +70,7 @@ bool OpensTheDialog(const std::string& command)
     return std::ranges::find(commands, command) != std::end(commands);
 }
 
-// The first control character, with the text after it; empty when there is none.
+// The first control character, with the text after it, or empty.
 std::string ControlCharacterOf(const std::string& printed)
 {
     for (size_t place = 0; place < printed.size(); ++place)

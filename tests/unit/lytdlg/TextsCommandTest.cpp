@@ -145,13 +145,13 @@ TEST(Texts, TellWhatIsWrongWithAText)
                                "[S] Unused: different line ends (\\n): English 0, German 1\n"
                                "[S] Unused: different ampersands: English 1, German 0\n"
                                "[S] Same: unused\n"
-                               "[S] Same: never read in English, line 7: its key or section stands there twice\n"
+                               "[S] Same: never read in English, line 7: its key or section is there twice\n"
                                "[S] Long: unused\n"
                                "[S] Long: cut in English: 75 bytes, 74 are shown\n"
                                "[S] Nothing: unused\n"
                                "[S] Nothing: no = in English, line 8\n"
                                "[s] A: unused\n"
-                               "[s] A: never read in English, line 10: its key or section stands there twice\n"
+                               "[s] A: never read in English, line 10: its key or section is there twice\n"
                                "\n" +
                                    Count(7) + " texts, 1 missing\n");
 }

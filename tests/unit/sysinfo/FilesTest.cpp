@@ -109,7 +109,7 @@ TEST(FileListing, WordsDatesAsTheRuntimeDoes)
     std::tm zero = {};
     ASSERT_TRUE(lytLocalTimeOf(0, zero));
     for (const int year : {1899, 1601, 0})
-        EXPECT_EQ(FileDateText(Date(year)), Format(zero).c_str()) << "the time value 0 stands for " << year;
+        EXPECT_EQ(FileDateText(Date(year)), Format(zero).c_str()) << "the time value 0 means " << year;
     for (const int year : {10000, 30827})
         EXPECT_EQ(FileDateText(Date(year)), "") << "the runtime refuses " << year;
 }

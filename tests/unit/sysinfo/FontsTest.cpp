@@ -38,7 +38,7 @@ protected:
         section.back().key = key;
         section.back().value = value;
     }
-    // The lines after the head of the table, which is after those of the keys.
+    // The lines after the head of the table, which is after the lines of the keys.
     Texts Table()
     {
         CStringList lines;

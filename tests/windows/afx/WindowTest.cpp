@@ -198,7 +198,7 @@ TEST(Window, LeavesAWindowAsItFoundIt)
     const LONG_PTR procedure = ::GetWindowLongPtrA(handle, GWLP_WNDPROC);
     CEdit edit;
     EXPECT_TRUE(edit.SubclassWindow(handle));
-    EXPECT_FALSE(edit.SubclassWindow(handle)) << "an object stands over one window";
+    EXPECT_FALSE(edit.SubclassWindow(handle)) << "an object belongs to one window";
     EXPECT_EQ(edit.UnsubclassWindow(), handle);
     EXPECT_EQ(::GetWindowLongPtrA(handle, GWLP_WNDPROC), procedure);
     EXPECT_EQ(edit.UnsubclassWindow(), nullptr);
@@ -212,7 +212,7 @@ TEST(Window, LeavesAProcedureThatStandsOnTopOfOurs)
     ASSERT_TRUE(edit.SubclassWindow(handle));
     PutOnTop(handle);
     EXPECT_EQ(edit.UnsubclassWindow(), handle);
-    EXPECT_EQ(::SendMessageA(handle, questionMessage, 0, 0), 77) << "what stands on top stays there";
+    EXPECT_EQ(::SendMessageA(handle, questionMessage, 0, 0), 77) << "what is on top stays there";
     ::SendMessageA(handle, WM_CHAR, '!', 1);
     char text[16] = "";
     ::GetWindowTextA(handle, text, sizeof text);

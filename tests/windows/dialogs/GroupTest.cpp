@@ -58,7 +58,7 @@ TEST_F(Group, SplitsTheKeyAndJoinsItAgain)
         // The head is put back on a change only.
         {0, 2, "xBNGy(a)", "(a)/1b", "(a)", "1b", "(a)"},
         {0, 1, "xBNGy(a)", "(z)/1b", "xBNGy(z)", "1b", "(a)"},
-        // Three bytes of the key go over those of the second text, unless either is short.
+        // Three bytes of the key replace three of the second text, unless either is short.
         {1, 1, "KEY01abc(x)", "(y)/123456789", "KEY01abc(y)", "12345abc9", "(x)"},
         {1, 1, "K(x)", "(y)/123456789", "K(y)", "123456789", "(x)"},
         {1, 1, "KEY01abc(x)", "(y)/1", "KEY01abc(y)", "1", "(x)", 40, 7},

@@ -20,7 +20,7 @@ protected:
 
 } // namespace
 
-// Stands first: only a fresh process has seen no initialisation.
+// Comes first: only a fresh process has seen no initialisation.
 TEST_F(EnvironmentExports, DocNameIsEmptyBeforeAnyInitialisation)
 {
     GuardedBuffer buffer(20, "old");

@@ -1,4 +1,4 @@
-// Whatever an export shows or calls, and however it ends, the host has its cursor, focus, window and current folder again.
+// After every export the host has its cursor, focus, window and current folder again, also when the export failed.
 #include "dialogs/DialogFixture.h"
 #include "support/Image.h"
 
@@ -243,7 +243,7 @@ void Provide(const std::string& partner)
 
 } // namespace
 
-// Stands first: a process that has no companion yet gets it by any call.
+// Comes first: a process that has no companion yet gets it by any call.
 TEST_F(HostState, IsKeptFromACompanionThatMeddles)
 {
     ASSERT_EQ(GetModuleHandleA("lyt"), nullptr);

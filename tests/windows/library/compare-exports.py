@@ -1,7 +1,7 @@
 #!/usr/bin/python3
 """compare-exports.py LIBRARY.dll IMPORT-LIBRARY...: compares the table of exports with what was built and written.
 
-Read here by means of their own: the export table of the DLL, the symbols of the import libraries, the prototypes of the
+Read here without the project's other scripts: the export table of the DLL, the symbols of the import libraries, the prototypes of the
 header, the declarations of the module for macros. Prints each difference, and ends with 1 when there is one.
 """
 
@@ -41,7 +41,7 @@ class Image:
         """The address of each exported name."""
         directory = self._place(self._export_rva)
         function_count, count, functions, names, ordinals = struct.unpack_from("<20x5I", self._bytes, directory)
-        assert function_count == count, "an export has no name of its own"
+        assert function_count == count, "an export has no separate name"
         found = {}
         for index in range(count):
             start = self._place(self._number("<I", self._place(names) + 4 * index))

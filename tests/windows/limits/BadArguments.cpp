@@ -84,7 +84,7 @@ Observation LikeTheLargest(const BadCall& call)
     return call.WithValue(call.function.arguments[call.argument].huge.same);
 }
 
-// A bad value of a kind, and with what its call is compared. Numbers have wordings of their own.
+// A bad value of a kind, and with what its call is compared. Numbers have separate wordings.
 struct BadValue
 {
     Kind kind;

@@ -262,7 +262,7 @@ void NoLibraryAtAll(Scene& scene)
 
 constexpr Limit partnerRows[] = {
     {"text of a field", "calls every function of the library",
-     "each works as at any time; its windows stand above the dialog", CallingText},
+     "each works as at any time; its windows are above the dialog", CallingText},
     {"text of an action", "the same", "the same", CallingAction},
     {"items of a list", "the same", "the same", CallingItem},
     {"catalogue that is being shown", "the same", "the same; what the outer run delivers is the catalogue",

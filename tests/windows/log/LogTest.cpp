@@ -1,4 +1,4 @@
-// Whatever happens to the programs that write it, the log holds whole blocks, and a message that is not in it was refused
+// The log holds whole blocks, also when a program that writes it is ended, and a message that is not in it was refused
 // with a number.
 #include "LogBlocks.h"
 

@@ -45,7 +45,7 @@ void Pause()
     WaitForSingleObject(OpenEventOf("lyt-log-go"), commandline::Patience(limit));
 }
 
-// Stands before every operation.
+// Called before every operation.
 void Reach()
 {
     if (at == At::refuse || --operationsLeft != 0)

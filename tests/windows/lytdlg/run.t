@@ -92,7 +92,7 @@ A dialog is opened, worked and ended: states, the order of the acts, endings.
   result = "S1:length(3,m)"
 
   $ cat >acts.script <<'END'
-  > # What a user does; the same words stand in case files.
+  > # What a user does; case files have the same words.
   > set Name = length
   > set Digits = "1"
   > 

@@ -21,7 +21,7 @@ The samples are without a flaw, and their texts are there, fit and underline a l
   155 texts, 0 missing
 
   $ cat >differing.case <<'END'
-  > # Expectations that are not met, to be told and brought up to date.
+  > # Expectations that are not met, to be reported and brought up to date.
   > dialog: samples/dialogs/lytInSym.dlg
   > case: values and states
   > input: S1:area(2,m2)
@@ -75,9 +75,9 @@ The samples are without a flaw, and their texts are there, fit and underline a l
       expected: expect confirmed
       got:      expect cancelled
   differing.case:23: an act that cannot be carried out
-      cannot go on: differing.case:23:1: error: Unit is disabled, so no user can reach it; `lytdlg why` tells the reason
+      cannot continue: differing.case:23:1: error: Unit is disabled, so no user can reach it; `lytdlg why` tells the reason
   differing.case:25: a name that is not there
-      cannot go on: differing.case:25:8: error: the dialog has no control "Nmae"; did you mean "Name"?
+      cannot continue: differing.case:25:8: error: the dialog has no control "Nmae"; did you mean "Name"?
   1 passed, 4 failed
   [1]
 
@@ -127,7 +127,7 @@ Line ends stay as they are.
   > expect Name = ?
   > ok
   > expect result = ? # a comment is part of a text without quotes
-  > expect confirmed # and goes on after any other
+  > expect confirmed # and continues after any other
   > END
   $ lytdlg test --update short.case
   short.case:4: line ends stay
@@ -145,7 +145,7 @@ Line ends stay as they are.
   expect Name = "area"~
   ok~
   expect result = "S1:area(2)" # a comment is part of a text without quotes~
-  expect confirmed # and goes on after any other~
+  expect confirmed # and continues after any other~
 
   $ cat >refused.case <<'END'
   > dialog: dialogs/broken.dlg

@@ -1,5 +1,5 @@
 // The macros of docs/macros.md, as the page has them but for the word processor's objects, which become variables, and for
-// its folders, which become those of the test.
+// its folders, which become folders of the test.
 #include "MacroFixture.h"
 
 namespace

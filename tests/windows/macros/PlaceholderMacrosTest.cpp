@@ -82,7 +82,7 @@ TEST_F(PlaceholderMacros, TakeBothTextsOfAGroupOver)
     Answer("lytCdGrp", "(b)/1rest");
     EXPECT_EQ(NumberOf("lyteditgroup", {0LL, Given("F-001BNG(a)"), Given("before")}), changed);
     EXPECT_EQ(TextAt(1), "F-001BNG(b)");
-    EXPECT_EQ(TextAt(2), "1restBNG") << "three bytes of the key stand in the second text";
+    EXPECT_EQ(TextAt(2), "1restBNG") << "three bytes of the key are in the second text";
 }
 
 TEST_F(PlaceholderMacros, KeepTheTextsOfAGroupThatDidNotChange)

@@ -27,7 +27,7 @@ const commandline::ProgramForm& TheProgram()
         "mutations",
         "mutations changes descriptions, language files and catalogues, and lets the library show them.",
         {
-            {"run", "", 0, 0, "play cases; each ends in a numbered message or a dialog, or is told and counted"},
+            {"run", "", 0, 0, "play cases; each ends in a numbered message or a dialog, or is reported and counted"},
             {"show", "NUMBER", 1, 1, "print the text that the case of this number puts in place of a file"},
             {"help", "", 0, 0, "this text"},
         },
@@ -38,7 +38,7 @@ const commandline::ProgramForm& TheProgram()
             {"--timed", nullptr, false, "a case that takes the processor for more than a second has failed"},
             {"--help", nullptr, false, "print this text"},
         },
-        "\"run --from N --count 1\" plays the case N alone, with the seed of the run that told it.\n",
+        "\"run --from N --count 1\" plays the case N alone, with the seed of the run that reported it.\n",
     };
     return form;
 }
@@ -148,7 +148,7 @@ void Campaign::CompareHoldings(int from, int end)
         Take(number);
     growth = GrowthSinceLastLook();
     if (!growth.empty())
-        Fail("left behind by the cases " + std::to_string(from) + " to " + std::to_string(end - 1) + ":\n" + growth);
+        Fail("not released by the cases " + std::to_string(from) + " to " + std::to_string(end - 1) + ":\n" + growth);
 }
 
 std::string Campaign::GrowthSinceLastLook()

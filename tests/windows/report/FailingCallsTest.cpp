@@ -12,7 +12,7 @@ namespace
 int failing = 0;
 int calls = 0;
 
-// Stands in place of a function of the platform.
+// Takes the place of a function of the platform.
 template <auto function, intptr_t failure>
 struct Failing;
 

@@ -17,7 +17,7 @@ protected:
 
 } // namespace
 
-// Stands first: only a fresh process has gathered no report.
+// Comes first: only a fresh process has gathered no report.
 TEST_F(ReportStore, GivesNothingBeforeAnyReport)
 {
     char line[16] = "untouched";

@@ -55,7 +55,7 @@ protected:
     decltype(lytSystemInfoRead)* readLine = Call<decltype(lytSystemInfoRead)>("lytSystemInfoRead");
 };
 
-// The place of the first line that begins so; the number of lines when there is none.
+// The place of the first line that begins so; the number of lines without one.
 size_t FindLine(const Texts& lines, const std::string& beginning);
 bool HasLine(const Texts& lines, const std::string& beginning);
 // The first line that begins so.

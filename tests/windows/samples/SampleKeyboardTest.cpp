@@ -76,7 +76,7 @@ std::vector<std::string> TabStopsFromFocus(HWND dialog, bool back)
     return names;
 }
 
-// The letter that a caption underlines; NUL when there is none.
+// The letter that a caption underlines, or NUL.
 char LetterOf(const std::string& caption)
 {
     const size_t mark = caption.find('&');

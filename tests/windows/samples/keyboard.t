@@ -158,7 +158,7 @@ Every dialog worked from the keyboard alone.
   > items list3
   > key alt+s
   > expect "Show all parts" checked
-  > # Findings: Return opens the chosen one in a dialog of its own; a severe one needs a place.
+  > # Findings: Return opens the chosen one in a separate dialog; a severe one needs a place.
   > key alt+f
   > expect list4 focused
   > key home

@@ -23,7 +23,7 @@ What lytcall itself says.
   > END
   $ lytcall symbol --script mistake.steps
   key = "S1:area(2,kWh/(m2a))=\"n. a.\""
-  lytcall: mistake.steps:2:14: error: the text volume stands without quotes; write "volume"
+  lytcall: mistake.steps:2:14: error: the text volume has no quotes; write "volume"
   [2]
 
   $ cat >failure.steps <<'END'

@@ -286,7 +286,7 @@ Forms of a placeholder, and what comes back when nothing is changed.
   > press ok
   > message
   > answer
-  > # The first item stands for no typical finding: chosen again, it leaves the wording alone.
+  > # The first item means no typical finding: chosen again, it leaves the wording alone.
   > select list "Leak"
   > expect "Wording:" "Leaking pipe"
   > type "Wording:" "Leaking tap"
@@ -399,7 +399,7 @@ Forms of a placeholder, and what comes back when nothing is changed.
   [1]
 
   $ cat >group-short-buffer.steps <<'END'
-  > # The text does not fit: that is told after the dialog.
+  > # The text does not fit: a message says so after the dialog.
   > window
   > press ok
   > message

@@ -16,7 +16,7 @@ public:
     // Counts.
     Holdings();
 
-    // A line for each kind of which there is more, or fewer, than before; empty when there is none. Of the heap only
+    // A line for each kind of which there is more, or fewer, than before; empty without any. Of the heap only
     // growth counts, and only when half of the rounds in between can have lost a block, or fifty of many: some blocks
     // more or less are the state of caches.
     std::string GrowthSince(const Holdings& before, int rounds) const;

@@ -43,7 +43,7 @@ BOOL CALLBACK CountWithChildren(HWND window, LPARAM count)
     return CountWindow(window, count);
 }
 
-// Those of this thread, and the windows of this process that only take messages.
+// The windows of this thread, and the windows of this process that only take messages.
 size_t Windows()
 {
     size_t count = 0;

@@ -32,7 +32,7 @@ public:
         const IMAGE_OPTIONAL_HEADER64& header = Headers().OptionalHeader;
         return {At<char>(header.BaseOfCode), header.SizeOfCode};
     }
-    // The offset of a table, such as that of the exports; 0 when there is none.
+    // The offset of a table, such as that of the exports, or 0.
     DWORD Directory(int which) const { return Headers().OptionalHeader.DataDirectory[which].VirtualAddress; }
     const IMAGE_EXPORT_DIRECTORY& Exports() const
     {

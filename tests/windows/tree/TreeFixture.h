@@ -22,7 +22,7 @@ protected:
 
     // As a host does at its start; the constructor does it as well.
     void Initialise();
-    // Makes a data source reachable. Until then there is none.
+    // Makes a data source reachable. Until then it is missing.
     void UseSource(const std::string& variant = "complete");
     // The data library of the tests, as a description names it.
     static std::string NastyLibrary();
@@ -46,7 +46,7 @@ protected:
     };
     // Opens the browser, lets one action work it, which must end it; messages are confirmed.
     Answer Open(const std::string& request, const std::function<void(const TreeWindow&)>& act);
-    // The same with an action after each message; null is none.
+    // The same with an action after each message; null does nothing.
     Answer Open(const std::string& request, const std::vector<std::function<void(const TreeWindow&)>>& acts);
     // Opens the browser and looks only.
     Lines ItemsShown(const std::string& request);

@@ -39,18 +39,6 @@ void TreeWindow::Collect(HTREEITEM item, int depth, std::vector<HTREEITEM>& item
     }
 }
 
-std::string TreeWindow::LabelOf(HTREEITEM item) const
-{
-    char text[300] = "";
-    TVITEMA request = {};
-    request.hItem = item;
-    request.mask = TVIF_TEXT;
-    request.pszText = text;
-    request.cchTextMax = sizeof text;
-    SendMessageA(m_tree, TVM_GETITEMA, 0, Parameter(&request));
-    return text;
-}
-
 std::vector<std::string> TreeWindow::Items() const
 {
     std::vector<HTREEITEM> items;
@@ -61,7 +49,7 @@ std::vector<std::string> TreeWindow::Items() const
     {
         const TVITEMA images = Request(items[index], TVIF_IMAGE | TVIF_SELECTEDIMAGE);
         std::string line(static_cast<size_t>(2 * depths[index]), ' ');
-        line += LabelOf(items[index]) + " [" + std::to_string(images.iImage) + "]";
+        line += robot::LabelOf(m_tree, items[index]) + " [" + std::to_string(images.iImage) + "]";
         if (images.iSelectedImage != images.iImage)
             line += " selected [" + std::to_string(images.iSelectedImage) + "]";
         lines.push_back(line);
@@ -78,7 +66,7 @@ std::vector<std::string> TreeWindow::OpenItems() const
     for (HTREEITEM item : items)
     {
         if ((Request(item, TVIF_STATE).state & TVIS_EXPANDED) != 0)
-            open.push_back(LabelOf(item));
+            open.push_back(robot::LabelOf(m_tree, item));
     }
     return open;
 }
@@ -90,7 +78,7 @@ HTREEITEM TreeWindow::Find(const std::string& label) const
     Collect(Next(nullptr, TVGN_ROOT), 0, items, depths);
     for (HTREEITEM item : items)
     {
-        if (LabelOf(item) == label)
+        if (robot::LabelOf(m_tree, item) == label)
             return item;
     }
     return nullptr;
@@ -114,12 +102,12 @@ void TreeWindow::SetState(const std::string& label, UINT state) const
 std::string TreeWindow::Selected() const
 {
     HTREEITEM item = Next(nullptr, TVGN_CARET);
-    return item != nullptr ? LabelOf(item) : "";
+    return item != nullptr ? robot::LabelOf(m_tree, item) : "";
 }
 
 std::string TreeWindow::FirstVisible() const
 {
-    return LabelOf(Next(nullptr, TVGN_FIRSTVISIBLE));
+    return robot::LabelOf(m_tree, Next(nullptr, TVGN_FIRSTVISIBLE));
 }
 
 void TreeWindow::Select(const std::string& label) const

@@ -22,7 +22,6 @@ public:
     std::vector<std::string> OpenItems() const;
     // The first item with the label; null without one.
     HTREEITEM Find(const std::string& label) const;
-    std::string LabelOf(HTREEITEM item) const;
     UINT StateOf(const std::string& label) const;
     void SetState(const std::string& label, UINT state) const;
     // The label of the selected item; empty without one.

@@ -101,7 +101,7 @@ void JudgeConfiguration(const Deployment& deployment, const Configuration& confi
                        aboutConfiguration,
                        file.string(),
                        {1, 0, 1},
-                       "a byte order mark stands before the first line, and hides it",
+                       "a byte order mark comes before the first line, and hides it",
                        saveAsAnsi});
     JudgeRegisteredFolder(file, diagnosis);
     JudgeLanguage(deployment, configuration, diagnosis);

@@ -16,7 +16,7 @@ namespace lytdlg
 // What a deployment has one of, and what else was found under its name.
 struct Piece
 {
-    std::filesystem::path chosen; // empty when there is none
+    std::filesystem::path chosen; // empty when nothing was found
     std::vector<std::filesystem::path> others;
 };
 
@@ -44,7 +44,7 @@ Deployment FindDeployment(const Request& request);
 std::string VersionOf(const std::string& bytes);
 // The SHA-256 of the bytes, in small hexadecimal digits; empty when the system does not compute it.
 std::string ChecksumOf(const std::string& bytes);
-// The sum that the file SHA256SUMS of that folder has for a file; nothing when there is none.
+// The sum that the file SHA256SUMS of that folder has for a file.
 std::optional<std::string> ListedChecksumOf(const std::filesystem::path& sums, const std::filesystem::path& file);
 
 // As bytes; a source for each kind of system.

@@ -62,7 +62,7 @@ Command DoctorCommand()
           {"--define", "WORD", false, "read the lines that this define switches on; may be given more than once"},
           {"--host", "FILE", false, "the word processor's program (default on Windows: the one that is registered)"},
           {"--partners", "FOLDER", false,
-           "a folder that Windows searches for libraries after that of the host, in place of those of this machine; "
+           "a folder that Windows searches for libraries after that of the host, in place of this machine's folders; "
            "may be given more than once"}}},
         Doctor};
 }

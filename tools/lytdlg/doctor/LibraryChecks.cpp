@@ -106,8 +106,8 @@ void JudgeHost(const Host& host, Diagnosis& diagnosis)
         diagnosis.Add(Verdict::Wrong, aboutHost, host.program, "is a 32-bit program, which cannot load the library",
                       "install the 64-bit edition of the word processor");
     else if (!host.isKnown)
-        diagnosis.Add(Verdict::Note, aboutHost, host.program, "stands for the word processor, since none is registered",
-                      name);
+        diagnosis.Add(Verdict::Note, aboutHost, host.program,
+                      "is taken for the word processor, since none is registered", name);
     else
         diagnosis.Add(Verdict::Good, aboutHost, host.program, "64-bit");
 }

@@ -90,7 +90,7 @@ public:
     {
     }
 
-    // Gives the copy that is loaded; empty when there is none.
+    // Gives the copy that is loaded, or an empty path.
     fs::path Judge()
     {
         const std::vector<FoundCopy> copies = CopiesOf(m_wanted.name, m_deployment.search);
@@ -112,8 +112,8 @@ private:
         if (quoted != m_deployment.search.end() && !HasFolder(m_wanted.name))
         {
             m_diagnosis.Add(m_wanted.whenMissing, aboutPartners, FileIn(quoted->folder, m_fileName),
-                            std::string("is not found by Windows, since quotes stand round ") + quoted->name + "; " +
-                                m_wanted.consequence,
+                            std::string("is not found by Windows, since there are quotes round ") + quoted->name +
+                                "; " + m_wanted.consequence,
                             "take the quotes away there");
             return;
         }

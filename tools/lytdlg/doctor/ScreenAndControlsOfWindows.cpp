@@ -104,7 +104,7 @@ void JudgeControls(const std::filesystem::path& library, Diagnosis& diagnosis)
         diagnosis.Add(Verdict::Good, aboutControls, {}, "common controls version 6, as the library asks for them");
     else
         diagnosis.Add(Verdict::Warning, aboutControls, library,
-                      "does not get common controls version 6, so that dialogs look as those of older programs do",
+                      "does not get common controls version 6, so that dialogs look like dialogs of older programs",
                       "copy lyt64.dll again; if that does not help, repair Windows, whose files for version 6 are "
                       "missing");
 }

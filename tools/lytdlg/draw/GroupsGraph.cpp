@@ -19,7 +19,7 @@ using commandline::ToUtf8;
 namespace
 {
 
-// The value in that place, from 0; empty when there is none.
+// The value in that place, from 0, or an empty text.
 std::string ValueAt(const ValueStatement& statement, size_t index)
 {
     return index < statement.values.size() ? statement.values[index] : "";

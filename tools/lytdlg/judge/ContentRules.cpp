@@ -24,7 +24,7 @@ void JudgeItems(const Case& judged)
         if (!isNew)
             judged.findings.Add("item-twice", statement.PlaceOfValue(),
                                 "the item of line " + std::to_string(first->second) + " has the same value",
-                                "give each item a value of its own");
+                                "give each item a different value");
         const std::string section = judged.description.TextSection();
         const auto isKey = [&](const LanguageFile& file)
         { return file.Find(section, value.values.front()) != nullptr; };
@@ -60,7 +60,7 @@ void JudgeOptions(const Case& judged, const std::string& group)
         if (!isNew)
             judged.findings.Add("option-twice", PlacedValue(judged, *own).PlaceOfValue(),
                                 "the option of line " + std::to_string(first->second) + " has the same value",
-                                "give each option a value of its own");
+                                "give each option a different value");
     }
     for (const ClytControlStatement* option : valueless)
     {

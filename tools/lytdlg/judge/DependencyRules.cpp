@@ -23,7 +23,7 @@ struct Judged
 {
     const Case& judged;
     const ClytControlDep& rule;
-    const ClytControlDep* next; // that is kept; null when there is none
+    const ClytControlDep* next; // that is kept, or null
     const Kind kind;
 
     std::string Name() const { return rule.controlName.GetString(); }

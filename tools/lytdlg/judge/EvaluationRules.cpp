@@ -33,7 +33,7 @@ void JudgeNames(const Case& judged, const EvaluationStatement& statement)
     const std::string other = statement.other.GetName().GetString();
     if (!other.empty() && description.FindControl(other) == nullptr && !BeginsWithNull(statement))
         judged.findings.Add("evaluation-second", statement.other.GetSpan(),
-                            "there is no control " + InQuotes(other) + ": the check refuses whatever the user does",
+                            "there is no control " + InQuotes(other) + ": the check always refuses",
                             MeantOr(other, names, "name a control of $LAYOUT"));
 }
 

@@ -56,7 +56,7 @@ void AddPiece(const Case& judged, const FormatPiece& piece, const ClytSpan& plac
         break;
     case FormatPieceKind::LimitAndText:
         findings.Add("format-conversion", place,
-                     "after its limit " + InQuotes(text) + " goes on to the next s, and that part is lost",
+                     "after its limit " + InQuotes(text) + " continues to the next s, and that part is lost",
                      "write %.5s for the first five characters");
         break;
     default: break;

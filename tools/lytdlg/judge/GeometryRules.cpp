@@ -293,7 +293,7 @@ void JudgeTabOrder(const Case& judged, const Screen& screen)
             judged.findings.Add("geometry-tab", control.control->span,
                                 "the Tab key goes back from " + NameOf(*before->control) + " in line " +
                                     std::to_string(before->control->span.line) + " to " + NameOf(*control.control),
-                                "let the statements stand in the order of reading");
+                                "write the statements in the order of reading");
         before = &control;
     }
 }

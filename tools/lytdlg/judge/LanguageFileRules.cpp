@@ -57,7 +57,7 @@ void JudgeByteOrderMark(const Case& judged)
         if (!file.HasByteOrderMark() || !IsFirstOfFolder(judged))
             continue;
         AddIn(judged, "text-byte-order-mark", file, {1, 0, 1}, file.FirstLine(),
-              "a byte order mark stands before the first line, and hides it", saveAsAnsi);
+              "a byte order mark comes before the first line, and hides it", saveAsAnsi);
     }
 }
 
@@ -119,7 +119,7 @@ std::unordered_set<std::string> TextsInFolder(const Case& judged)
     return used;
 }
 
-// Told for the first dialog of the folder that has the section.
+// Reported for the first dialog of the folder that has the section.
 void JudgeUnused(const Case& judged)
 {
     const std::string name = judged.description.TextSection();

@@ -185,7 +185,7 @@ void JudgeNames(const Case& judged)
             judged.findings.Add(
                 "name-twice", judged.description.PlaceOf(control.span.line, "." + name, control.span.column),
                 "a control of line " + std::to_string(first->second) + " has the name " + InQuotes(name),
-                "give each control a name of its own");
+                "give each control a different name");
     }
 }
 

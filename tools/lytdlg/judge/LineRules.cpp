@@ -82,7 +82,7 @@ void JudgeLength(const Case& judged, const SourceLine& line)
     constexpr size_t limit = ClytDialogFile::lineSize;
     if (IsInStatements(line) && line.text.size() > limit)
         AddAt(judged, "line-length", line.number, limit, line.text.size() - limit,
-              "what stands after character " + std::to_string(limit) + " is read as a line of its own",
+              "what follows character " + std::to_string(limit) + " is read as a separate line",
               "a line may have " + std::to_string(limit) + " characters; shorten it");
 }
 
@@ -103,7 +103,7 @@ void JudgeBytes(const Case& judged, const SourceLine& line)
         if (size == 0 && StandsForNothing(line.text[place]))
         {
             AddAt(judged, "control-byte", line.number, place, 1,
-                  "the byte " + HexOf(line.text[place]) + " stands for no character",
+                  "the byte " + HexOf(line.text[place]) + " is not a character",
                   line.text[place] == '\0' ? "delete it: it ends the line" : "delete it");
             return;
         }
@@ -117,7 +117,7 @@ void JudgeFile(const Case& judged)
     const bool isAtVersion = !text.Lines().empty() && text.Lines().front().isHeader;
     if (text.HasByteOrderMark() && isAtVersion)
     {
-        AddAt(judged, "byte-order-mark", 1, 0, 1, "a byte order mark stands before the first word",
+        AddAt(judged, "byte-order-mark", 1, 0, 1, "a byte order mark comes before the first word",
               "save the file in code page 1252, or begin it with a comment");
         judged.findings.All().back().number = lytError("VersionMissing");
     }

@@ -39,7 +39,7 @@ void JudgeFirst(const Case& judged)
     const std::vector<LineToken> words = TokensOf(header->text, Section::Input);
     if (words.size() > 1 && !words[1].text.empty() && words[1].text != lytParentName)
         judged.findings.Add("output-first", judged.description.PlaceOf(header->number, words[1].text),
-                            "the first group is the result of the dialog, whatever its name",
+                            "the first group is always the result of the dialog, under any name",
                             "write \"$OUTPUT, parent\", and put other groups after it");
 }
 
@@ -57,7 +57,7 @@ void JudgeOutputGroups(const Case& judged)
             judged.findings.Add("output-twice", place,
                                 "the group " + InQuotes(group.name) + " in line " + std::to_string(later->header.line) +
                                     " takes the place of this one",
-                                "give each group a name of its own");
+                                "give each group a different name");
         else if (!used.contains(group.name))
             judged.findings.Add("output-unused", place, "nothing uses the group " + InQuotes(group.name),
                                 "name it in a FILLEDBY, DIALOG or ACTION, or delete it");

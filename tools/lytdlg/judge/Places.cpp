@@ -71,7 +71,7 @@ private:
         return WidthOf(caption);
     }
 
-    // The texts that the library cannot find are none here: they have a finding of their own.
+    // A text that the library cannot find counts as empty here: it has a separate finding.
     std::string CaptionOf(const ClytControlStatement& control, Kind kind) const
     {
         const bool isFixed = lytTypeOf(kind).isDefault;

@@ -27,7 +27,7 @@ struct PlacedControl
 struct Screen
 {
     int pixelsPerInch = 0;
-    std::string language;                // empty when there is none
+    std::string language;                // empty without a language file
     CSize client;                        // of the dialog
     std::vector<PlacedControl> controls; // in the order of the file
 };

@@ -14,7 +14,7 @@ struct ScanTarget
     ClytSpan place;
 };
 
-// Where the statement may go on, in the order of its line.
+// What may run after the statement, in the order of its line.
 std::vector<ScanTarget> TargetsOf(const Description& description, const ClytDialogInput& statement);
 // The statements that a run of the part may come to.
 std::set<const ClytDialogInput*> Reached(const Description& description, const ClytInputPart& part);

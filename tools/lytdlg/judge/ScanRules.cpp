@@ -65,7 +65,7 @@ void JudgeParts(const Case& judged)
             judged.findings.Add("scan-part-twice", place,
                                 "the part " + InQuotes(part.name) + " in line " + std::to_string(later->header.line) +
                                     " takes the place of this one",
-                                "give each part a name of its own");
+                                "give each part a different name");
         else if (!used.contains(part.name) && hasParent)
             judged.findings.Add("scan-part-unused", place, "no button runs the part " + InQuotes(part.name),
                                 "name it in a button's DIALOG or ACTION, or delete it");
@@ -118,7 +118,7 @@ void JudgeReached(const Case& judged, const InputPart& part)
         if (found != statement)
             judged.findings.Add("scan-twice", NamePlace(*statement),
                                 "the statement " + name + " in line " + LineOf(*found) + " takes the place of this one",
-                                "give each statement of a part a name of its own");
+                                "give each statement of a part a different name");
         else if (!reached.empty() && !reached.contains(statement) && !isMisspelt)
             judged.findings.Add("scan-unreached", NamePlace(*statement), "no statement leads to " + name,
                                 "name it as a target, or delete it");
@@ -134,7 +134,7 @@ void JudgeTargets(const Case& judged, const InputPart& part, const ClytDialogInp
             continue;
         if (next.name.empty())
             judged.findings.Add("scan-target", NamePlace(statement),
-                                "the statement names none to go on with, and so the run ends",
+                                "the statement names no next statement, and so the run ends",
                                 "write End where the run is to end");
         else
             judged.findings.Add("scan-target", next.place,

@@ -107,7 +107,7 @@ void AddStray(const Case& judged, const SourceLine& line)
     const std::vector<LineToken> words = TokensOf(line.text, line.section);
     const bool isValue = line.section == Section::Values && words.size() > 1;
     const ClytSpan place = judged.description.PlaceOf(line.number);
-    const std::string message = "the header \"" + words.front().text + "\" stands inside the section " +
+    const std::string message = "the header \"" + words.front().text + "\" is inside the section " +
                                 std::string(lytWordOf(line.section)) + " and opens nothing";
     if (isValue)
         judged.findings.Add("header-in-values", place, message, "delete the line");
@@ -146,7 +146,7 @@ void JudgeOrder(const Case& judged)
         if (skipped != last.end())
             judged.findings
                 .Add("section-order", judged.description.PlaceOf(line.number),
-                     std::string("\"") + lytWordOf(line.section) + "\" stands before \"" + lytWordOf(skipped->first) +
+                     std::string("\"") + lytWordOf(line.section) + "\" comes before \"" + lytWordOf(skipped->first) +
                          "\"",
                      "move the section to its place")
                 .number = NumberWithin(above);
@@ -179,7 +179,7 @@ void JudgeDialogLine(const Case& judged)
     }
     else if (!description.hasDialogHeader)
         AddDialogLine(judged, description.PlaceOf(line, words[1].text, words[1].column), lytError("DialogForm"),
-                      "\"" + words[1].text + "\" stands where \"Dialog\" must stand");
+                      "\"" + words[1].text + "\" is used where \"Dialog\" is required");
     else if (std::ranges::any_of(description.mistakes, [&](const Mistake& mistake)
                                  { return mistake.place.line == line && mistake.number == lytError("LineForm"); }))
         AddDialogLine(judged, place, lytError("LineForm"),

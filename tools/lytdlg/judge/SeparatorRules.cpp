@@ -31,7 +31,7 @@ void JudgeSeparators(const Case& judged, const ClytScan& scan)
         const std::string earlier = (*before)->text.GetString();
         if (earlier == text)
             judged.findings.Add("scan-separator", separators[index]->span,
-                                "the separator " + InQuotes(text) + " stands here twice", "delete one of them");
+                                "the separator " + InQuotes(text) + " is here twice", "delete one of them");
         else if (earlier.empty())
             judged.findings.Add("scan-separator", separators[index]->span,
                                 "the empty separator before " + InQuotes(text) + " fits everywhere",
@@ -96,7 +96,7 @@ void JudgeEnds(const Case& judged, const ClytScanRule& rule)
         if (text != "Rest")
             judged.findings.Add("scan-dropped", separator->span,
                                 "what follows " + InQuotes(text) + " in the text is dropped",
-                                "go on with another statement; a piece that takes all is (999, End");
+                                "continue with another statement; a piece that takes all is (999, End");
         else if (separators.size() > 1)
             judged.findings.Add("scan-rest", separator->span,
                                 "\"Rest\" cuts a text that holds these letters, and is not needed here",

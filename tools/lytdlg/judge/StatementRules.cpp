@@ -24,7 +24,7 @@ RuleName RuleOf(Section section)
     }
 }
 
-// Headers, the line of the dialog, and marks that are indented, have rules of their own.
+// Headers, the line of the dialog, and marks that are indented, have separate rules.
 bool IsStatement(const Description& description, const SourceLine& line)
 {
     const size_t start = line.text.find_first_not_of(" \t");

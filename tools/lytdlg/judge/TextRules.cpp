@@ -120,7 +120,7 @@ void JudgeBytes(const Case& judged, const LanguageFile& file, const LanguageKey&
             continue;
         AddIn(judged, "text-bytes", file, key.place, key.line,
               isUtf8 ? "the text was saved as UTF-8, and shows odd characters"
-                     : "the byte " + HexOf(key.text[place]) + " of the text stands for no character",
+                     : "the byte " + HexOf(key.text[place]) + " of the text is not a character",
               saveAsAnsi);
         return;
     }
@@ -135,7 +135,7 @@ void JudgeTwice(const Case& judged, const std::unordered_set<std::string>& used)
             const LanguageKey* found = key.isReached ? nullptr : file.Find(key.section, key.name);
             if (found != nullptr && used.contains(TextId(key.section, key.name)))
                 AddIn(judged, "text-twice", file, key.place, key.line,
-                      "the text stands in line " + std::to_string(found->place.line) + " already, and that one counts",
+                      "the text is already in line " + std::to_string(found->place.line) + ", and that one counts",
                       "take one of them away");
         }
     }

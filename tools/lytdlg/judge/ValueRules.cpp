@@ -67,7 +67,7 @@ void JudgeWords(const PlacedValue& statement)
                                             : lytTypeOf(statement.kind).hasItems ? listWords
                                             : statement.kind == Kind::Field      ? fieldWords
                                                                                  : noWords;
-    const std::string hint = isOption           ? "write an option in a statement of its own, and no other word in it"
+    const std::string hint = isOption           ? "write an option in a separate statement, with no other word"
                              : isKnownElsewhere ? "delete the word"
                                                 : MeantOr(value.keyword, known, "delete the word");
     statement.judged.findings.Add("keyword-unknown", statement.PlaceOfKeyword(),
@@ -112,8 +112,7 @@ void JudgeColon(const PlacedValue& statement)
     const SourceLine& line = statement.judged.description.text.Line(statement.value.span.line);
     const std::vector<LineToken> words = TokensOf(line.text, Section::Values);
     if (!words.empty() && words.front().delimiter != ':')
-        statement.judged.findings.Add("value-colon", statement.PlaceOfName(),
-                                      "no colon stands after " + statement.Name(),
+        statement.judged.findings.Add("value-colon", statement.PlaceOfName(), "no colon follows " + statement.Name(),
                                       "write \"" + statement.value.name + ": " + statement.value.keyword + " = ...\"");
 }
 

@@ -71,7 +71,7 @@ void JudgeJump(const Case& judged, const SourceLine& line)
     const bool isJump = words.size() > 3 && words[0].delimiter == ':' && words[1].delimiter == '=';
     if (isJump)
         judged.findings.Add("word-dropped", {line.number, words[3].column, static_cast<int>(words[3].text.size())},
-                            "without values in brackets this is no condition: the run always goes on at \"" +
+                            "without values in brackets this is no condition: the run always continues at \"" +
                                 words[2].text + "\", and what follows is passed over",
                             "write CONTROL(VALUE) = NAME, OTHER, or delete it");
 }

@@ -10,7 +10,7 @@
 namespace lytdlg
 {
 
-// Stands for a description on the standard input.
+// Means a description on the standard input.
 inline constexpr const char* standardInput = "-";
 
 // The descriptions that an operand means: all of a folder in the order of their names, a file, or the standard

@@ -76,7 +76,7 @@ Line Judged(const DescriptionLine& source)
     return line;
 }
 
-// Lines whose comments belong together: statements with comments, and comments alone that go on below them.
+// Lines whose comments belong together: statements with comments, and comments alone that continue below them.
 class Run
 {
 public:

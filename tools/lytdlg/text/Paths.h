@@ -19,7 +19,7 @@ inline std::filesystem::path PathOf(const std::string& name)
 // The words of the command line after the program's name, given what `main` is given.
 std::vector<std::string> CommandLineWords(int count, char** words);
 
-// A file of a folder, by its name in UTF-8; empty when there is none. Case does not count.
+// A file of a folder, by its name in UTF-8, or an empty path. Case does not count.
 std::filesystem::path FileIn(const std::filesystem::path& folder, const std::string& name);
 
 // The name as the library opens it. A UsageError when it holds a letter that the library's code page does not have.

@@ -2,7 +2,7 @@
 //
 //     $HEADER word
 //     Begin Dialog Box 444, 196, "Title", .Main
-//         TextBox   190,  24, 226,  19, "Text", .Name       numbers end in columns of their own, where they fit
+//         TextBox   190,  24, 226,  19, "Text", .Name       numbers are right-aligned in columns, where they fit
 //         name: ("separator", target = fill, fill(WORD)
 //
 // Elsewhere a word keeps the quotes that it has: whether a value reads better with them is its author's choice.

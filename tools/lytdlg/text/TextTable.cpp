@@ -69,7 +69,7 @@ TextRow& TextTable::RowOf(const std::string& section, const std::string& key)
 
 void TextTable::AddUse(const ShownText& text, const std::string& fileName)
 {
-    // Those of the two buttons are the library's own.
+    // The texts of the two buttons belong to the library.
     if (text.role != TextRole::Button)
         RowOf(text.section, text.key).uses.push_back({fileName, text.place.line, text.role == TextRole::Caption});
 }
@@ -81,7 +81,7 @@ void TextTable::AddKeys(const LanguageFile& file)
         TextRow& row = RowOf(key.section, key.name);
         if (!key.isReached)
             row.remarks.push_back("never read in " + file.Language() + ", line " + std::to_string(key.place.line) +
-                                  ": its key or section stands there twice");
+                                  ": its key or section is there twice");
         else if (!key.hasText)
             row.remarks.push_back("no = in " + file.Language() + ", line " + std::to_string(key.place.line));
     }

@@ -20,11 +20,11 @@ std::vector<script::Step> ActsOf(const commandline::Request& request);
 // the dialog does not have, and ActError for what a user could not do.
 void TakeAct(TrialDialog* dialog, const script::Step& act);
 
-// The control that an act is about, by its name or as its window shows it; null when there is none.
+// The control that an act is about, by its name or as its window shows it, or null.
 ClytControl* TargetOf(const TrialDialog& dialog, const script::Step& act);
-// The control of that name; raises UsageError when there is none.
+// The control of that name; raises UsageError without one.
 ClytControl& ControlNamed(const TrialDialog& dialog, const std::string& name, const std::string& place = "");
-// What is seen of the control of that name; raises UsageError when there is none.
+// What is seen of the control of that name; raises UsageError without one.
 const ControlState& StateNamed(const DialogState& dialog, const std::string& name, const std::string& place);
 
 } // namespace lytdlg

@@ -15,7 +15,7 @@ struct Difference
     int line = 0;              // of the case file
     std::string expected = {}; // empty where nothing was
     std::string got = {};
-    bool isStop = false; // the case could not go on, for the reason that was got
+    bool isStop = false; // the case could not continue, for the reason that was got
 };
 
 // What would make the case agree with what was seen.

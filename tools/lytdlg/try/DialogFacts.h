@@ -38,7 +38,7 @@ struct DialogFacts
     // Reads a description that the library takes; raises what the library raises for any other.
     DialogFacts(const std::string& file, const std::string& defines);
 
-    // The last statement that gives the control this option word; null when there is none.
+    // The last statement that gives the control this option word, or null.
     const ValueFact* OptionOf(const std::string& control, const std::string& word) const;
     // The statement of that keyword, such as FILLEDBY.
     const ValueFact* StatementOf(const std::string& control, const std::string& keyword) const;

@@ -1,4 +1,4 @@
-// Stands for the data libraries that a description names: controls that were given items get these, all others what their
+// Takes the place of the data libraries that a description names: controls that were given items get these, all others what their
 // library delivers, if there is one. The catalogue that buttons open is the one inside this program.
 #pragma once
 

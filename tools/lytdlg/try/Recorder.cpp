@@ -136,7 +136,7 @@ void Recorder::Missed(ClytMissing what, const CString& name, const ClytControl* 
                                   "input statement",
                                   "library",
                                   "library function"};
-    // The end of the text where no statement was to go on.
+    // The end of the text where no statement was to follow.
     if (what == ClytMissing::InputStatement && name.IsEmpty())
         return;
     const std::string text = std::string("there is no ") + whats.at(static_cast<size_t>(what)) + " " +

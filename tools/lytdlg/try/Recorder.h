@@ -35,7 +35,7 @@ struct ScanStep
 {
     const ClytDialogInput* statement = nullptr;
     std::string name;
-    std::string next; // the statement that went on
+    std::string next; // the statement that follows
 };
 
 struct FillRecord

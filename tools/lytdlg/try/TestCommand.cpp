@@ -51,7 +51,7 @@ void Print(const GoldenCase& one, const Difference& difference)
     PrintLine(one.file + ":" + std::to_string(difference.line) + ": " + one.name);
     if (difference.isStop)
     {
-        PrintLine("    cannot go on: " + difference.got);
+        PrintLine("    cannot continue: " + difference.got);
         return;
     }
     PrintLine("    expected: " + (difference.expected.empty() ? "nothing more" : difference.expected));
@@ -69,7 +69,7 @@ void Update(const std::string& file, const std::string& content, const CaseUpdat
     PrintLine(file + ": brought up to date");
 }
 
-// A case that could not go on is not brought up to date.
+// A case that could not continue is not brought up to date.
 int& PlaceFor(const CaseResult& result, bool isUpdate, Count& count)
 {
     if (result.differences.empty())

@@ -40,8 +40,8 @@ std::string ReadUtf8File(const std::string& name);
 class TrialEnvironment
 {
 public:
-    // Without a folder, lyt.ini is looked for beside the dialogs, in the folder `init` beside theirs, and above them; where
-    // there is none, and for another language, one is made for the time.
+    // Without a folder, lyt.ini is looked for beside the dialogs, in the folder `init` beside theirs, and above them.
+    // Without one, and for another language, one is made for the time.
     explicit TrialEnvironment(const Setup& setup);
     TrialEnvironment(const TrialEnvironment&) = delete;
     TrialEnvironment& operator=(const TrialEnvironment&) = delete;

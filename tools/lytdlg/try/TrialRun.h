@@ -16,7 +16,7 @@ struct TrialRun
     {
     }
 
-    // The acts, and then a look at the dialog on top; there is none when the dialog was not opened. Raises ActError when
+    // The acts, and then a look at the dialog on top, unless the dialog was not opened. Raises ActError when
     // the acts leave no described dialog on top.
     using Look = std::function<void(TrialDialog& dialog)>;
     const Outcome& Run(const std::vector<script::Step>& acts, const Look& look = {});

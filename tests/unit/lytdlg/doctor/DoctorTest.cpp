@@ -136,7 +136,7 @@ TEST(Doctor, TellsOfFunctionsThatTheLibraryLacks)
               "belongs to these tools\n");
 }
 
-// Also when its folder is none of those that are judged.
+// Also when its folder is not judged.
 TEST(Doctor, CountsWhatItFound)
 {
     const DoctorFolder folder;
@@ -261,7 +261,7 @@ TEST(Doctor, TellsOfAByteOrderMarkThatHidesALine)
     const DoctorFolder folder;
     folder.Write("init/lyt.ini", "\xEF\xBB\xBF[global]\nCurrent Language=English\nTreeWidth=1\nTreeHeight=1\n");
     EXPECT_EQ(folder.Findings(),
-              "warning  configuration  init/lyt.ini:1:1: a byte order mark stands before the first line, and hides it\n"
+              "warning  configuration  init/lyt.ini:1:1: a byte order mark comes before the first line, and hides it\n"
               "                        hint: save the file in code page 1252, which editors call ANSI or "
               "Windows-1252\n"
               "wrong    language       init/lyt.ini: no language is set, so that every text reads \"no value "
