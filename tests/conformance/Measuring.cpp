@@ -54,9 +54,7 @@ void Measuring()
     const CEdit& edit = stage.Edit(9);
     const CButton& push = stage.Button(10, "Push");
     const CListBox& list = stage.List(11);
-    const CListBox& checks = stage.Add<CCheckListBox>(
-        12, "ListBox", "", WS_VSCROLL | WS_HSCROLL | WS_TABSTOP | LBS_OWNERDRAWFIXED | LBS_HASSTRINGS, 60,
-        WS_EX_CLIENTEDGE);
+    const CListBox& checks = stage.CheckList(12);
     const CComboBox& drop = stage.Combo(13, CBS_DROPDOWNLIST);
     const CComboBox& combo = stage.Combo(14, CBS_DROPDOWN | CBS_AUTOHSCROLL);
     const CTreeCtrl& tree = stage.Tree(15);

@@ -2,7 +2,6 @@
 // shows, disables and enables controls, moves the focus and the marks, tells messages and opens a dialog inside.
 #include "Stage.h"
 
-#include "res/resource.h"
 #include "support/Dice.h"
 
 namespace
@@ -10,26 +9,6 @@ namespace
 
 constexpr int firstId = 10;
 constexpr int lastId = 20;
-
-class Within : public Recorded<CDialog>
-{
-public:
-    Within() : Recorded(IDD_PROPERTIES) {}
-
-protected:
-    BOOL OnInitDialog() override
-    {
-        CDialog::OnInitDialog();
-        m_edit.CreateEx(WS_EX_CLIENTEDGE, "Edit", "", WS_CHILD | WS_VISIBLE | WS_TABSTOP, CRect(5, 5, 90, 25), this,
-                        firstId);
-        m_ok.Create("OK", WS_VISIBLE | WS_TABSTOP | BS_DEFPUSHBUTTON, CRect(5, 30, 90, 50), this, IDOK);
-        return TRUE;
-    }
-
-private:
-    Recorded<CEdit> m_edit;
-    Recorded<CButton> m_ok;
-};
 
 class Meddling
 {
@@ -49,15 +28,8 @@ public:
         m_stage.Button(lastId, "&Tell");
         m_stage.Ok();
         m_stage.Cancel();
-        m_stage.onCommand = [](int id, int code)
-        {
-            if (code != BN_CLICKED)
-                return;
-            if (id == 19)
-                Within().DoModal();
-            else if (id == lastId)
-                ::AfxMessageBox("told");
-        };
+        m_stage.onClick[19] = [] { Inner(firstId).DoModal(); };
+        m_stage.onClick[lastId] = [] { ::AfxMessageBox("told"); };
     }
 
     void Run()

@@ -2,8 +2,10 @@
 
 #include "res/resource.h"
 
+#include <algorithm>
 #include <cstdarg>
 #include <cstdio>
+#include <stdexcept>
 
 namespace
 {
@@ -138,7 +140,18 @@ RecordedMessage::~RecordedMessage()
         --depth;
 }
 
-Stage::Stage(const char* title) : Recorded(IDD_PROPERTIES), m_title(title) {}
+Inner::Inner(int editId) : Recorded(IDD_PROPERTIES), m_editId(editId) {}
+
+BOOL Inner::OnInitDialog()
+{
+    CDialog::OnInitDialog();
+    m_edit.CreateEx(WS_EX_CLIENTEDGE, "Edit", "inner", WS_CHILD | WS_VISIBLE | WS_TABSTOP, CRect(5, 5, 90, 25), this,
+                    static_cast<UINT>(m_editId));
+    m_ok.Create("OK", WS_VISIBLE | WS_TABSTOP | BS_DEFPUSHBUTTON, CRect(5, 30, 90, 50), this, IDOK);
+    return onOpen ? static_cast<BOOL>(onOpen(m_hWnd)) : TRUE;
+}
+
+Stage::Stage(std::string title) : Recorded(IDD_PROPERTIES), m_title(std::move(title)) {}
 
 CButton& Stage::Button(int id, const std::string& text, DWORD style)
 {
@@ -160,9 +173,16 @@ CEdit& Stage::Edit(int id)
     return Add<CEdit>(id, "Edit", "", WS_BORDER | WS_TABSTOP | ES_AUTOHSCROLL, 20, WS_EX_CLIENTEDGE);
 }
 
-CListBox& Stage::List(int id, DWORD style)
+CListBox& Stage::List(int id)
 {
-    return Add<CListBox>(id, "ListBox", "", style | WS_TABSTOP | WS_VSCROLL, 60, WS_EX_CLIENTEDGE);
+    return Add<CListBox>(id, "ListBox", "", LBS_STANDARD | WS_TABSTOP | WS_VSCROLL, 60, WS_EX_CLIENTEDGE);
+}
+
+CCheckListBox& Stage::CheckList(int id)
+{
+    return Add<CCheckListBox>(id, "ListBox", "",
+                              WS_VSCROLL | WS_HSCROLL | WS_TABSTOP | LBS_OWNERDRAWFIXED | LBS_HASSTRINGS, 60,
+                              WS_EX_CLIENTEDGE);
 }
 
 CComboBox& Stage::Combo(int id, DWORD style)
@@ -183,6 +203,29 @@ CTreeCtrl& Stage::Tree(int id)
                           120);
 }
 
+CWnd& Stage::Control(int id)
+{
+    const auto added = std::ranges::find(m_controls, id, &Added::id);
+    if (added == m_controls.end())
+        throw std::runtime_error("no control " + std::to_string(id) + " in " + m_title);
+    return *added->window;
+}
+
+std::string Stage::NameOf(HTREEITEM item) const
+{
+    if (item == nullptr)
+        return "none";
+    const auto found = std::ranges::find(items, item, [](const auto& named) { return named.second; });
+    return found != items.end() ? found->first : "unknown";
+}
+
+HTREEITEM Stage::ItemNamed(const std::string& name) const
+{
+    if (name == "none")
+        return nullptr;
+    return name == "root" ? TVI_ROOT : items.at(name);
+}
+
 void Stage::Act(const std::string& title, std::function<void()> act)
 {
     Look(
@@ -191,7 +234,7 @@ void Stage::Act(const std::string& title, std::function<void()> act)
             PrintLine("# " + title);
             act();
         });
-    Look([] { PrintLine("= focus " + FocusName()); });
+    Look([] { PrintLine("= focus " + WindowName(::GetFocus())); });
 }
 
 void Stage::Look(std::function<void()> look)
@@ -203,7 +246,9 @@ void Stage::Look(std::function<void()> look)
 void Stage::Run()
 {
     PrintLine("");
-    PrintLine(std::string("## ") + m_title);
+    PrintLine("## " + m_title);
+    for (const std::string& note : m_notes)
+        PrintLine(note);
     Look([this] { EndDialog(7); });
     const INT_PTR result = DoModal();
     const char* const end = m_robot.Done() ? "done" : m_robot.HasGivenUp() ? "given up" : "before its acts did";
@@ -213,10 +258,10 @@ void Stage::Run()
 BOOL Stage::OnInitDialog()
 {
     CDialog::OnInitDialog();
-    SetWindowText(m_title);
+    SetWindowText(m_title.c_str());
     SetWindowPos(nullptr, 0, 0, 500, 600, SWP_NOZORDER);
     int top = 5;
-    for (Control& control : m_controls)
+    for (Added& control : m_controls)
     {
         const CRect place(10, top, 210, top + control.height);
         top += control.height + 5;
@@ -231,14 +276,10 @@ BOOL Stage::OnInitDialog()
 
 BOOL Stage::OnCommand(WPARAM wParam, LPARAM lParam)
 {
-    if (onCommand)
-        onCommand(LOWORD(wParam), HIWORD(wParam));
+    const auto click = onClick.find(LOWORD(wParam));
+    if (HIWORD(wParam) == BN_CLICKED && click != onClick.end())
+        click->second();
     return CDialog::OnCommand(wParam, lParam);
-}
-
-std::string FocusName()
-{
-    return WindowName(::GetFocus());
 }
 
 void Strike(UINT key)

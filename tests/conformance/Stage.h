@@ -1,4 +1,4 @@
-// A dialog on which a chapter of the conformance program acts, and the record of the messages of its windows.
+// A dialog on which the conformance program acts, and the record of the messages of its windows.
 //
 // Every message that matters is printed when it arrives, indented under the message inside which it was sent; so the
 // record shows the order and what was absent, and not results alone.
@@ -11,6 +11,7 @@
 #include <cstdint>
 #include <functional>
 #include <list>
+#include <map>
 #include <memory>
 #include <string>
 
@@ -66,7 +67,7 @@ class Stage : public Recorded<CDialog>
 {
 public:
     // The title is the window's.
-    explicit Stage(const char* title);
+    explicit Stage(std::string title);
 
     // Adds a control; it is made, in this order, when the dialog opens.
     template <class WINDOW>
@@ -82,11 +83,20 @@ public:
     CButton& Ok();
     CButton& Cancel();
     CEdit& Edit(int id);
-    CListBox& List(int id, DWORD style = LBS_STANDARD);
+    CListBox& List(int id);
+    CCheckListBox& CheckList(int id);
     CComboBox& Combo(int id, DWORD style);
     CStatic& Static(int id, const std::string& text);
     CTreeCtrl& Tree(int id);
 
+    // One that was added.
+    CWnd& Control(int id);
+    // The name of an item of a tree, and the item of a name. "none" is no item; the topmost ones are below "root".
+    std::string NameOf(HTREEITEM item) const;
+    HTREEITEM ItemNamed(const std::string& name) const;
+
+    // Prints a line when the dialog opens, below its title.
+    void Note(const std::string& line) { m_notes.push_back(line); }
     // Acts when everything that the act before led to has been handled.
     void Act(const std::string& title, std::function<void()> act);
     // An act on the topmost dialog.
@@ -95,9 +105,12 @@ public:
     void Run();
 
     // What a button's command does beyond the record.
-    std::function<void(int id, int code)> onCommand;
+    std::map<int, std::function<void()>> onClick;
     // What happens when the controls are there and the dialog is not shown yet.
     std::function<void()> onOpen;
+    // The items of trees by their names, and their pictures.
+    std::map<std::string, HTREEITEM, std::less<>> items;
+    CImageList pictures;
 
 protected:
     BOOL OnInitDialog() override;
@@ -106,7 +119,7 @@ protected:
     void OnCancel() override {}
 
 private:
-    struct Control
+    struct Added
     {
         std::unique_ptr<CWnd> window;
         int id;
@@ -117,25 +130,33 @@ private:
         DWORD exStyle;
     };
 
-    const char* m_title;
-    std::list<Control> m_controls;
+    std::string m_title;
+    std::list<std::string> m_notes;
+    std::list<Added> m_controls;
     robot::Robot m_robot{120000};
 };
 
-// The window that has the focus, as the record names it.
-std::string FocusName();
+// A dialog with a field and a button, which closes it.
+class Inner : public Recorded<CDialog>
+{
+public:
+    explicit Inner(int editId);
+
+    // What happens while it opens; false when it is not to have the focus.
+    std::function<bool(HWND dialog)> onOpen;
+
+protected:
+    BOOL OnInitDialog() override;
+
+private:
+    int m_editId;
+    Recorded<CEdit> m_edit;
+    Recorded<CButton> m_ok;
+};
+
 // A key of the keyboard, down and up.
 void Strike(UINT key);
 
-// The chapters.
-void Buttons();
-void Edits();
-void Lists();
-void Combos();
-void Trees();
-void Dialogs();
-void Endings();
-void Keys();
 void Measuring();
 // Of the sequences from one number to before another; a shown one prints every act and state.
 void Generated(unsigned begin, unsigned end, bool isShown);
