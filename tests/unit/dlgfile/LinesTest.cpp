@@ -1,4 +1,5 @@
 #include "Description.h"
+#include "Readings.h"
 
 namespace
 {
@@ -38,33 +39,7 @@ class LongLines : public WithErrorTexts
 
 TEST(Defines, SwitchStretchesOnAndOff)
 {
-    ExpectEach(Lines, {
-                          {"X\n<X\na\n>\n<!X\nb\n>\nc\n", "a\nc\n"},
-                          {"none\n<X\na\n>\n<!X\nb\n>\nc\n", "b\nc\n"},
-                          {"\n<X\na\n>\n<!X\nb\n>\nc\n", "b\nc\n"},
-                          // The list is cut at its commas, and nothing is trimmed.
-                          {"X,Y\n<X\nx\n<Y\ny\n< Z\nempty\n", "x\ny\n"},
-                          {" X,Y \n<X\nx\n<Y\ny\n< Z\nempty\n", ""},
-                          {"X,\n<X\nx\n<Y\ny\n< Z\nempty\n", "x\nempty\n"},
-                          {",,\n<X\nx\n<Y\ny\n< Z\nempty\n", "empty\n"},
-                          // A name ends at a blank, a semicolon or a carriage return.
-                          {"X\n<X ; comment\na\n>\n", "a\n"},
-                          {"X\n<X; comment\na\n>\n", "a\n"},
-                          {"X\n<X\tY\na\n>\n", "a\n"},
-                          {"X\n<XY\na\n>\n", ""},
-                          {"X\n<!X ; comment\na\n>\n", ""},
-                          {"X\n<x\na\n>\n", ""},
-                          {"X\n<X\rmore\na\n>\n", "a\n"},
-                          {"none\n<!X\rmore\na\n>\n", "a\n"},
-                          // A marker line may have any text after its first character, which is in column one.
-                          {"none\n<No\na\n> end of No\nb\n", "b\n"},
-                          {"none\n<No\na\n>No\nb\n", "b\n"},
-                          {"none\na\n>; note\nb\n", "a\nb\n"},
-                          {"X\n <No\na\n >\n", " <No\na\n >\n"},
-                          // Stretches do not nest.
-                          {"X\n<No\na\n<X\nb\n>\nc\n>\nd\n", "b\nc\nd\n"},
-                          {"none\n<No\na\nb", ""},
-                      });
+    ExpectReadings(Lines, "Lines");
 }
 
 TEST_F(LongLines, ArriveInPiecesOf399Characters)

@@ -1,4 +1,5 @@
 #include "Description.h"
+#include "Readings.h"
 
 namespace
 {
@@ -59,36 +60,11 @@ using TokenizeGrouped = Tokenize;
 
 TEST_F(Tokenize, CutsALineAtItsDelimiters)
 {
-    ExpectEach(Tokens, {
-                           {"A(1,2): B\n", "[A]([1],[2])[]:[B]/"},
-                           {"a,,b\n", "[a],[],[b]/"},
-                           {"a ,b\n", "[a] [],[b]/"},
-                           {"(a)\n", "[]([a])"},
-                           {"Ctrl HIDDEN\n", "[Ctrl] [HIDDEN]/"},
-                           // A semicolon that delimits ends the line, unless it is in quotes.
-                           {"a;b,c\n", "[a];"},
-                           {"a ; b,c\n", "[a] "},
-                           {"\"a;b\",c\n", "[a;b],[c]/"},
-                           // No backslash is dropped, and a quote after one or two of them closes nothing.
-                           {"\"a\\\"b\",\n", "[a\\\"b],"},
-                           {"\"a\\\\\",b\"c,d\n", "[a\\\\\",b],[d]/"},
-                           {"\"  a  \",\n", "[a],"},
-                           {"\" \t \",\n", "[],"},
-                           {"\"\",a\n", "[],[a]/"},
-                           // What is between a closing quote and the delimiter goes.
-                           {"\"a\"bcd,e\n", "[a],[e]/"},
-                           // A last token without a delimiter ends like a line.
-                           {"a,b", "[a],[b]/"},
-                           {"a,\"b\"", "[a],[b]/"},
-                           {"a,\"b\"c", "[a],[b]/"},
-                       });
+    ExpectReadings(Tokens, "Tokens");
     EXPECT_EQ(TokensBy(valueDelimiters, "A=B\n"), "[A]=[B]/");
     EXPECT_EQ(TokensBy(valueDelimiters, "Ctrl HIDDEN\n"), "[Ctrl HIDDEN]/");
     EXPECT_EQ(TokensBy(valueDelimiters, "a\"b,c\"\n"), "[a\"b],[c\"]/");
-    ExpectEach(OutputTokens, {{"a<b>c\n", "[a]<[b]>[c]/"}, {"a;b,c;\n", "[a;b],[c;]/"}, {"a,;b\n", "[a],"}});
-    ExpectAll(Tokens, "", {"", "\n", "   \n", " \t\v\f\r\n", "; note\n", "   ; a, b\n", ";"});
-    ExpectAll(OutputTokens, "", {"", "\n", "   \n", " \t\v\f\r\n", "; note\n", "   ; a, b\n", ";"});
-    ExpectAll(Tokens, "210 ''", {"\"a\n", "a,\"\n", "\"a\\\"\n", "\"", "\"a\\\\\",b\n"});
+    ExpectReadings(OutputTokens, "OutputTokens");
 }
 
 TEST_F(Tokenize, KeepsNothingOfALongerLineBefore)
@@ -111,23 +87,7 @@ TEST_F(Tokenize, KeepsNothingOfALongerLineBefore)
 
 TEST_F(TokenizeGrouped, KeepsAGroupInBracketsTogether)
 {
-    ExpectEach(Groups, {
-                           {"a,b\n", "[a],[b]/"},
-                           {"a,,b\n", "[a],[],[b]/"},
-                           {"a,\n", "[a],[]/"},
-                           {"  a , b \n", "[a ],[ b ]/"},
-                           {";a,\"b,c\"\n", "[;a],[\"b],[c\"]/"},
-                           {"x(a,b),c\n", "[x(a,b)])[c]/"},
-                           {"x(a(b,c),d) ,e\n", "[x(a(b,c),d)])[e]/"},
-                           {" (a)y \n", "[(a)y])"},
-                           // The text after a group ends at the next bracket.
-                           {"x(a)y(b),c\n", "[x(a)y])[b)],[c]/"},
-                           {"\n", ""},
-                           {"", ""},
-                           {"a,b", "[a],[b]/"},
-                           {"x(a)y", "[x(a)y])"},
-                       });
+    ExpectReadings(Groups, "Groups");
     // A comma ends a group also where it is no delimiter.
-    ExpectEach(GroupsBySlash, {{"a/b,c\n", "[a]/[b,c]/"}, {"x(a),b/c\n", "[x(a)])[b]/[c]/"}});
-    ExpectAll(Groups, "242 ''\n241 ''", {"a(b,c\n", "(\n", "a((b)\n"});
+    ExpectReadings(GroupsBySlash, "GroupsBySlash");
 }
