@@ -12,7 +12,7 @@ set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE ONLY)
 
-# Static, so that no compiler runtime has to lie beside our modules; no time stamp, so that one source gives one file.
+# Static, so that no compiler runtime has to be beside our modules; no time stamp, so that one source gives one file.
 set(lyt_link "-static -Wl,--dynamicbase,--nxcompat,--high-entropy-va,--no-insert-timestamp")
 set(CMAKE_EXE_LINKER_FLAGS_INIT "${lyt_link}")
 set(CMAKE_SHARED_LINKER_FLAGS_INIT "${lyt_link}")

@@ -50,7 +50,7 @@ void Run(const std::string& input)
     const int size = lines.Number(-1, mostBytes);
     const int otherSize = lines.Number(-1, mostBytes);
     const int level = lines.Number();
-    // The log of a document without a dot in its name would lie outside the stage.
+    // The log of a document without a dot in its name would be outside the stage.
     const std::string name = lines.Line();
     const std::string document = std::string(stageFolder) + "/" + name.substr(0, name.find('\0')) + ".doc";
     const std::string path = lines.Line();

@@ -59,16 +59,16 @@ extern "C"
     /* One entry. lyt64 owns it and the source fills it. Texts are in the ANSI code page. */
     typedef struct lytTreeRecord
     {
-        int32_t nLevel;                   /* the depth; a smaller number lies nearer the root */
+        int32_t nLevel;                   /* the depth; a smaller number is nearer the root */
         int32_t nType;                    /* LYT_TREE_HEADING, LYT_TREE_GROUP or LYT_TREE_SYMBOL */
         char szLabel[LYT_TREE_TEXT_SIZE]; /* what is shown; each "##" shows as three blanks */
         char szKey[LYT_TREE_TEXT_SIZE];   /* what the entry is looked up by and returned as */
     } lytTreeRecord;
 
-    static_assert(offsetof(lytTreeRecord, nLevel) == 0, "nLevel lies at 0");
-    static_assert(offsetof(lytTreeRecord, nType) == 4, "nType lies at 4");
-    static_assert(offsetof(lytTreeRecord, szLabel) == 8, "szLabel lies at 8");
-    static_assert(offsetof(lytTreeRecord, szKey) == 108, "szKey lies at 108");
+    static_assert(offsetof(lytTreeRecord, nLevel) == 0, "nLevel is at 0");
+    static_assert(offsetof(lytTreeRecord, nType) == 4, "nType is at 4");
+    static_assert(offsetof(lytTreeRecord, szLabel) == 8, "szLabel is at 8");
+    static_assert(offsetof(lytTreeRecord, szKey) == 108, "szKey is at 108");
     static_assert(sizeof(lytTreeRecord) == 208, "a record has 208 bytes");
 
     typedef int32_t (*lytTreeStartFunction)(const char* selection);

@@ -13,7 +13,7 @@ public:
     LRESULT Handle(UINT message, WPARAM wParam, LPARAM lParam) override;
     // Whole items only.
     SIZE Adjusted(SIZE wanted) const override;
-    // Without the scroll bar, which lies beside it.
+    // Without the scroll bar, which is beside it.
     SIZE ClientSize() const override;
 
 private:

@@ -47,7 +47,7 @@ public:
     // The root where no such item is.
     size_t FirstChild(size_t item) const;
     size_t Sibling(size_t item, int step) const;
-    // How deep an item lies; 0 for one without a parent.
+    // How deep an item is; 0 for one without a parent.
     int LevelOf(size_t item) const;
 
     size_t CountRows() const { return m_items[root].rows.Total(); }

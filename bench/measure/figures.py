@@ -4,7 +4,7 @@ import statistics
 
 
 def spread(values):
-    """The median, and between which two values the middle half lies."""
+    """The median, and between which two values the middle half is."""
     ordered = sorted(values)
     low, high = ordered[len(ordered) // 4], ordered[-1 - len(ordered) // 4]
     return {"median": statistics.median(ordered), "low": low, "high": high, "count": len(ordered)}
@@ -45,7 +45,7 @@ def run_ratios(here, there):
 
 
 def slope(sizes, values):
-    """The exponent e of the power size**e that lies nearest to the values."""
+    """The exponent e of the power size**e that is nearest to the values."""
     xs = [math.log(size) for size in sizes]
     ys = [math.log(max(value, 0.1)) for value in values]
     middle_x, middle_y = statistics.mean(xs), statistics.mean(ys)

@@ -1,4 +1,4 @@
-"""Measures everything and writes docs/benchmarks.md; usage.txt tells how it is called."""
+"""Measures everything and writes docs/benchmarks.md; usage.txt says how it is called."""
 import argparse
 import datetime
 import json

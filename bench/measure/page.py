@@ -13,7 +13,7 @@ USAGE = pathlib.Path(__file__).with_name("usage.txt")
 HEAD = """# How fast it is
 
 `./measure` has written this page. Do not edit it: titles, aims and reasons are in `bench/works.toml`. `./measure --page`
-writes it anew from the figures of the last whole measurement, which are in `docs/benchmarks/figures.json`.
+writes it again from the figures of the last whole measurement, which are in `docs/benchmarks/figures.json`.
 
 ## How to read it
 
@@ -145,7 +145,7 @@ def profile_section(works, profile):
         return ""
     words = ["## Where the time goes\n\n"
              "Counted in instructions by a profiler, each function with all that it calls. Functions of the platform in memory are\n"
-             "among them and are not in the DLL: `GetPrivateProfileStringA`, for instance, which reads its file anew each time.\n"
+             "among them and are not in the DLL: `GetPrivateProfileStringA`, for instance, which reads its file again each time.\n"
              "Functions that the compiler has put into their callers do not appear.\n"]
     for name, rows in profile.items():
         listing = [[f"{share:.0f} %", f"`{function}`"] for share, function in rows]

@@ -15,7 +15,7 @@ LIMIT = 600
 
 
 class Tree:
-    """A folder with the sources; what it builds lies in its own folder `build`."""
+    """A folder with the sources; what it builds is in its own folder `build`."""
 
     def __init__(self, name, folder):
         self.name = name
@@ -31,7 +31,7 @@ class Tree:
                     done = subprocess.run(command, cwd=self.folder, stdout=output, stderr=subprocess.STDOUT, check=False)
                     if done.returncode != 0:
                         print("\n".join(log.read_text(encoding="utf-8").splitlines()[-30:]))
-                        sys.exit(f"measure: {self.name} does not build; all of it lies in {log.relative_to(ROOT)}")
+                        sys.exit(f"measure: {self.name} does not build; all of it is in {log.relative_to(ROOT)}")
 
     def program(self, ground):
         folder = self.folder / "build" / ground

@@ -40,7 +40,7 @@ Function* Find(HMODULE library, const char* name)
     return reinterpret_cast<Function*>(reinterpret_cast<void*>(GetProcAddress(library, name)));
 }
 
-// By its path, for a source that lies beside this program would be found first.
+// By its path, for a source that is beside this program would be found first.
 HMODULE SourceLibrary()
 {
     static const HMODULE source = LoadLibraryA((ProgramFolder() + "\\tree-tests\\complete\\lytsrc.dll").c_str());

@@ -1,4 +1,4 @@
-// A data library for description files: lists and single texts out of lytdata.txt, which lies beside the library.
+// A data library for description files: lists and single texts out of lytdata.txt, which is beside the library.
 //
 //     OpenList, NextItem    the items of the list that the parameter names; without one, of the first list
 //     OpenMarked, NextItem  of a list, the items that a text marks with an X: the parameter is `Xroof|-walls/list`, as
@@ -7,7 +7,7 @@
 //     LookUp                the value of one item: the parameter is `list/item`
 //     Remember              an action: keeps the parameter, so that the list `remembered` offers it
 //
-// The file is read anew by each call but the Next functions, so that it can be edited while a dialog is open.
+// The file is read again by each call but the Next functions, so that it can be edited while a dialog is open.
 #include "lytdata.h"
 
 #include <windows.h>

@@ -1,4 +1,4 @@
-// A data source for the catalogue: serves both trees out of lytsrc.txt, which lies beside the library.
+// A data source for the catalogue: serves both trees out of lytsrc.txt, which is beside the library.
 #include <lytsrc.h>
 
 #include <windows.h>

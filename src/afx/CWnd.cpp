@@ -11,7 +11,7 @@
 namespace
 {
 
-// The window lives on without its object: our procedure stays in the chain of procedures and hands everything to the one below.
+// The window stays without its object: our procedure stays in the chain of procedures and hands everything to the one below.
 LRESULT PassBelow(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept
 {
     const WNDPROC below = CHandleMap::Get().FindBelow(window);

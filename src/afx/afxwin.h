@@ -2,7 +2,7 @@
 //
 // A CWnd belongs to one window. It joins that window by replacing its window procedure, so that every message passes
 // the message map of its class first and then, unless a handler ended it, the procedure that was there before. No
-// exception leaves that way: what a handler raises is reported to the user, and the window lives on.
+// exception leaves that way: what a handler raises is reported to the user, and the window stays.
 #pragma once
 
 #include <afx.h>

@@ -1,7 +1,7 @@
 // What the entry of the library asks of the pieces that replace the tool chain's.
 #pragma once
 
-// Gives the value between a function's buffers and its return address, anew for this load. Nothing that is protected may
+// Gives the value between a function's buffers and its return address, a new one for each load. Nothing that is protected may
 // be running.
 void SeedStackGuard();
 

@@ -89,7 +89,7 @@ class Page(unittest.TestCase):
     def test_in_docs_is_that_of_its_figures(self):
         docs = ROOT / "docs"
         words = page.make(works.load(), json.loads(read(docs / "benchmarks" / "figures.json")))
-        self.assertEqual(words, read(docs / "benchmarks.md"), "./measure --page writes it anew")
+        self.assertEqual(words, read(docs / "benchmarks.md"), "./measure --page writes it again")
 
 
 class SideBySide(unittest.TestCase):

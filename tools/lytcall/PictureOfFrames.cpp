@@ -25,7 +25,7 @@ public:
     int Height() const { return m_area.bottom - m_area.top; }
     const std::vector<uint8_t>& Pixels() const { return m_pixels; }
 
-    // What lies outside is left out.
+    // What is outside is left out.
     void DrawFrame(const RECT& place)
     {
         for (int x = place.left; x < place.right; ++x)

@@ -33,7 +33,7 @@ struct HardwareFacts
 
 HardwareFacts ReadHardwareFacts();
 
-// The roots of the two directories, only one when both lie on one drive.
+// The roots of the two directories, only one when both are on one drive.
 std::vector<CString> DiskRoots(const CString& windowsDirectory, const CString& installDirectory);
 
 void AddHardwareLines(const HardwareFacts& facts, CStringList& lines);

@@ -38,7 +38,7 @@ TEST_F(Graph, LeavesOutWhatTheLibraryCannotRead)
     DescriptionText text = Linked();
     text.dependencies += "wrong\n";
     EXPECT_NE(GraphOf("rules", text()), "");
-    EXPECT_EQ(told, "lytdlg: test.dlg:17: left out: the library refuses it (212); `lytdlg check` tells more\n");
+    EXPECT_EQ(told, "lytdlg: test.dlg:17: left out: the library refuses it (212); `lytdlg check` says more\n");
     EXPECT_EQ(exitCode, 1);
 }
 

@@ -10,7 +10,7 @@ Each mistake has one outcome, and the process lives, unless its row says otherwi
 ## Bad arguments
 
 *Refused* means: the result is 0, no buffer is written, no window is shown, and nothing else happens. A buffer must have the
-room that its size promises, and one byte more where [exports.md](exports.md) says so: the library cannot see what lies
+room that its size promises, and one byte more where [exports.md](exports.md) says so: the library cannot see what is
 there. What is no pointer at all ends the process, as does a text without an end.
 
 )";

@@ -75,5 +75,5 @@ TEST(LimitsPage, ListsEveryLimit)
         std::ofstream(LYT_LIMITS_PAGE, std::ios::binary) << page;
     std::ostringstream written;
     written << std::ifstream(LYT_LIMITS_PAGE, std::ios::binary).rdbuf();
-    EXPECT_EQ(written.str(), page) << "LYT_UPDATE=1 ctest --preset windows -R limits-tests writes it anew";
+    EXPECT_EQ(written.str(), page) << "LYT_UPDATE=1 ctest --preset windows -R limits-tests writes it again";
 }

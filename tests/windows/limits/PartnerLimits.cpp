@@ -283,7 +283,7 @@ constexpr Limit partnerRows[] = {
      "as one that is missing: a field stays as it was and a list is emptied, without a message; an action shows "
      "message 233",
      OtherMachine},
-    {"catalogue", "the same", "as one that is missing: it has no entries, and no message tells so",
+    {"catalogue", "the same", "as one that is missing: it has no entries, and no message says so",
      CatalogueOfOtherMachine},
     {"resource library", "the same", "as one that is missing: the report leaves its version blank",
      ResourcesOfOtherMachine},

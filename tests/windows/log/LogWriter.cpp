@@ -2,7 +2,7 @@
 //
 //     log-writer FOLDER COUNT LETTER LENGTH [stop|pause|refuse N]
 //
-// The document is doc.rtf in the folder, in which lyt.ini lies; each message is the letter, repeated. `stop` ends the
+// The document is doc.rtf in the folder, in which lyt.ini is; each message is the letter, repeated. `stop` ends the
 // process before the N-th operation of the C runtime on a file; `pause` sets the event lyt-log-paused there and waits for
 // lyt-log-go; `refuse` answers the N-th closing of a file with a failure. Every exception that leaves a call is printed.
 #include "lyt64.h"

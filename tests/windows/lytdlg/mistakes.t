@@ -23,7 +23,7 @@ Mistakes in a command line.
   [2]
 
   $ lytdlg run samples/dialogs/lytInSym.dlg --set Digits= --set Unit=m
-  lytdlg: Unit is disabled, so no user can reach it; `lytdlg why` tells the reason
+  lytdlg: Unit is disabled, so no user can reach it; `lytdlg why` gives the reason
   [1]
 
   $ lytdlg run dialogs/elsewhere.dlg --set Field=abc

@@ -75,7 +75,7 @@ The samples are without a flaw, and their texts are there, fit and underline a l
       expected: expect confirmed
       got:      expect cancelled
   differing.case:23: an act that cannot be carried out
-      cannot continue: differing.case:23:1: error: Unit is disabled, so no user can reach it; `lytdlg why` tells the reason
+      cannot continue: differing.case:23:1: error: Unit is disabled, so no user can reach it; `lytdlg why` gives the reason
   differing.case:25: a name that is not there
       cannot continue: differing.case:25:8: error: the dialog has no control "Nmae"; did you mean "Name"?
   1 passed, 4 failed

@@ -11,7 +11,7 @@ drive=$("$build/wine-run.sh" --prefix)/drive_c
 samples=$here/../../../samples
 deployment_page=$here/../../../docs/deployment.md
 
-# unix PATH: where a path of drive C: lies.
+# unix PATH: where a path of drive C: is.
 unix() { printf '%s\n' "$1" | sed "s,^C:,$drive,"'; s,\\,/,g; s,/Windows,/windows,; s,/System32,/system32,'; }
 
 # copies_of NAME: where files of that name, which may hold *, come from.

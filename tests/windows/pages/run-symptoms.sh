@@ -17,7 +17,7 @@ bad=0
 . "$here/rows.sh"
 
 # spoil RIGHT WRONG: one file of the copy holds the right line, and then the wrong one. Files are in code page 1252; a
-# mistake that lies in the encoding puts the line as the page has it.
+# mistake that is in the encoding puts the line as the page has it.
 spoil() {
     for file in lyt.ini dialogs/lytInSym.dlg dialogs/lang/English.nls; do
         old=$1 new=$2 awk '

@@ -40,7 +40,7 @@ TEST_F(LogFile, GetsAMessageUpToItsLevel)
     for (const auto& c : cases)
     {
         SCOPED_TRACE(testing::Message() << c.level << " " << c.messageLevel);
-        // The level is read anew for each message.
+        // The level is read again for each message.
         SetLevel(c.level);
         writeToLog("text", c.messageLevel);
         EXPECT_EQ(fs::remove(folder.Path() + "/doc.log"), c.isWritten);

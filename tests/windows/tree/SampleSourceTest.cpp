@@ -6,7 +6,7 @@
 class SampleSource : public TreeTest
 {
 protected:
-    // It lies beside the DLL.
+    // It is beside the DLL.
     SampleSource() { SetDllDirectoryA((ProgramFolder() + "\\..").c_str()); }
 
     static size_t DepthOf(const std::string& line) { return line.find_first_not_of(' ') / 2; }

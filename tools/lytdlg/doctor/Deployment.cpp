@@ -84,7 +84,7 @@ private:
     std::set<fs::path> m_seen;
 };
 
-// The one that lies least deep comes first.
+// The one that is least deep comes first.
 bool IsPathBefore(const fs::path& left, const fs::path& right)
 {
     const auto depthOf = [](const fs::path& path) { return std::distance(path.begin(), path.end()); };

@@ -44,7 +44,7 @@ void JudgeChecksum(const Deployment& deployment, const std::string& bytes, Diagn
     {
         const std::optional<std::string> listed = ListedChecksumOf(sums, file);
         if (listed && !IsSameName(*listed, own))
-            diagnosis.Add(Verdict::Wrong, aboutLibrary, file, "is not the file that " + sums.string() + " tells of",
+            diagnosis.Add(Verdict::Wrong, aboutLibrary, file, "is not the file that " + sums.string() + " names",
                           "it is damaged, or of another version; copy it again");
     }
 }

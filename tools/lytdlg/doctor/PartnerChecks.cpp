@@ -123,7 +123,7 @@ private:
         const std::string where = HasFolder(m_wanted.name) ? "is not in the folder that the description names"
                                                            : "is in none of the folders that Windows searches";
         m_diagnosis.Add({m_wanted.whenMissing, aboutPartners, m_wanted.path, m_wanted.place,
-                         m_fileName + " " + where + (isHere ? ", but lies in " + own->parent_path().string() : "") +
+                         m_fileName + " " + where + (isHere ? ", but is in " + own->parent_path().string() : "") +
                              "; " + m_wanted.consequence,
                          HasFolder(m_wanted.name) ? "copy it there"
                                                   : "copy it to the folder of the word processor's program, or add its "
@@ -250,7 +250,7 @@ void JudgePlanted(const Deployment& deployment, const std::vector<WantedLibrary>
         const fs::path file = FileIn(folder, name);
         if (!file.empty() && std::ranges::none_of(deployment.search, isSearched))
             diagnosis.Add(Verdict::Warning, aboutPartners, file,
-                          "lies in the current folder or in that of the document, from where Windows may load it",
+                          "is in the current folder or in that of the document, from where Windows may load it",
                           "remove it, unless you know who put it there, and keep partners in folders that users cannot "
                           "write");
     };

@@ -31,7 +31,7 @@ ExitCode TellMistakes(const Description& description)
     for (const Mistake& mistake : description.mistakes)
         TellError(description.path + ":" + std::to_string(mistake.place.line) + ": left out: the library refuses it (" +
                   (mistake.number.empty() ? "the line ends too early" : mistake.number) +
-                  "); `lytdlg check` tells more");
+                  "); `lytdlg check` says more");
     return description.mistakes.empty() ? good : found;
 }
 

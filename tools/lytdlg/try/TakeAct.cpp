@@ -45,7 +45,7 @@ void CheckReach(ClytControl& control, const Step& act)
     if (isEnabled && IsSeen(control))
         return;
     throw ActError(act.place + act.target.Written() + (isEnabled ? " is hidden" : " is disabled") +
-                   ", so no user can reach it; `lytdlg why` tells the reason");
+                   ", so no user can reach it; `lytdlg why` gives the reason");
 }
 
 // The values that a control offers; none where it takes any text.

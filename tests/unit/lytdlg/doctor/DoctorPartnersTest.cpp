@@ -85,7 +85,7 @@ TEST(DoctorOnPartners, LooksForLibrariesThatSomebodyHasPutBesideTheDocument)
         documents.Write(planted, LibraryFile({}));
         EXPECT_EQ(folder.Findings({"--document", documents.File("a.doc")}),
                   "warning  partners       " + documents.File(planted) +
-                      ": lies in the current folder or in that of the document, from where Windows may load it\n"
+                      ": is in the current folder or in that of the document, from where Windows may load it\n"
                       "                        hint: remove it, unless you know who put it there, and keep partners in "
                       "folders that users cannot write\n");
         std::filesystem::remove(documents.File(planted));

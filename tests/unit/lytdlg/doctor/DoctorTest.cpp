@@ -194,7 +194,7 @@ TEST(Doctor, ComparesTheLibraryWithTheChecksumsThatWereHandedOutWithIt)
         EXPECT_EQ(folder.Findings(), "") << good;
     }
     folder.Write("SHA256SUMS", "12  lytsrc.dll\n" + std::string(64, '0') + "  ./lyt64.dll\n");
-    EXPECT_EQ(folder.Findings(), "wrong    library        lyt64.dll: is not the file that SHA256SUMS tells of\n"
+    EXPECT_EQ(folder.Findings(), "wrong    library        lyt64.dll: is not the file that SHA256SUMS names\n"
                                  "                        hint: it is damaged, or of another version; copy it again\n");
 }
 
