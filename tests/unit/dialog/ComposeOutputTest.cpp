@@ -1,6 +1,6 @@
 #include "Form.h"
 
-#include "support/Cases.h"
+#include "unit/Readings.h"
 
 namespace
 {
@@ -100,27 +100,13 @@ TEST_F(Output, LeavesOtherFailuresOfTheConfirmationAsTheyAre)
 TEST_F(Output, TakesTheValuesOfControlsAndOtherWordsAsTheyAre)
 {
     text.values = "A = INACTIVE\nA = text\nL: one = 1\nL: two = 2\n";
-    static const struct
-    {
-        const char* rule;
-        const char* composed;
-    } cases[] = {
-        {"(\"%s/%s/%s\", A, word, B)", "text/word/"},
-        {"(\"%s|%s|%s\", word)", "word||"},
-        {"(\"%s\", L(\"/\"))", "one/two"},
-        // Three blanks: one between the items, one before them and one after.
-        {"(\"%s\", L())", " one two "},
-        {"(\"%s\", L(\"+[]\"))", "[one+two]"},
-        {"(\"%s\", Word(\"/\"))", "Word"},
-        {"(\"<%s>\", \"\")", "<>"},
-        {"(\"<%s>\", \"\"())", "<>"},
-    };
-    for (const auto& c : cases)
-    {
-        text.output = std::string(c.rule) + "\n";
-        Open();
-        EXPECT_EQ(Compose(), c.composed) << c.rule;
-    }
+    ExpectReadings("dialog/output.cases", "Rules",
+                   [this](const std::string& rule)
+                   {
+                       text.output = rule + "\n";
+                       Open();
+                       return Compose();
+                   });
 }
 
 TEST_F(Output, ReportsAButtonEachTimeItIsTaken)
@@ -249,27 +235,7 @@ TEST_F(Output, KeepsTheItemsOfARuleWithoutAFormatAlsoAcrossAHeader)
 
 TEST(Format, TakesAnItemForEachConversionAndEachLetterS)
 {
-    ExpectEach(FormattedItems, {{"plain. s \\n text", "plain. s \\n text"},
-                                {"a\\nb", "a\\nb"},
-                                {"", ""},
-                                {"%s-%s", "a-abcd"},
-                                {"is %s", "ia abcd"},
-                                {"%s%.2s", "aab"},
-                                {"%s%0.2s", "aab"},
-                                {"%s%.9s", "aabcd"},
-                                {"%.s|%.xs|%.-1s", "||"},
-                                {"%s%.99999999999s", "aabcd"},
-                                // Any other conversion is its text.
-                                {"%5s", "5s"},
-                                {"%5s%s", "5sa"},
-                                {"%%s%s", "%sa"},
-                                {"%d%s", "d%s"},
-                                {"0%s", "0a"},
-                                // A backslash before a quote goes.
-                                {"\\\"%s\\\"", "\"a\""},
-                                {"\\%s", "\\a"}});
-    // A conversion without its letter, and a lone point beside one.
-    ExpectAll(FormattedItems, missingArgument, {"100%", "%s %d", "No. %s", "%s."});
+    ExpectReadings("dialog/output.cases", "Format", FormattedItems);
     EXPECT_EQ(Formatted("%s\"", {"\\"}), "\"");
     EXPECT_EQ(Formatted("%s\"", {"a\\"}), "a\\\"");
     // Escapes are expanded in the finished text.
@@ -286,14 +252,5 @@ TEST(Format, TakesAnItemForEachConversionAndEachLetterS)
 
 TEST(Escapes, BecomeALineFeedOrTabAndABlankButAtTheVeryEnd)
 {
-    ExpectEach(Expanded, {{"a\\nb", "a\n b"},
-                          {"a\\tb", "a\t b"},
-                          {"\\n\\tx", "\n \t x"},
-                          {"a\\\\nb", "a\\\n b"},
-                          {"a\\xb", "a\\xb"},
-                          {"ab\\n", "ab\\n"},
-                          {"a\\nb\\n", "a\n b\\n"},
-                          {"\\n", "\\n"},
-                          {"\\", "\\"},
-                          {"", ""}});
+    ExpectReadings("dialog/output.cases", "Escapes", Expanded);
 }

@@ -1,5 +1,6 @@
 #include "Description.h"
-#include "Readings.h"
+
+#include "unit/Readings.h"
 
 namespace
 {
@@ -39,7 +40,7 @@ class LongLines : public WithErrorTexts
 
 TEST(Defines, SwitchStretchesOnAndOff)
 {
-    ExpectReadings(Lines, "Lines");
+    ExpectReadings("dlgfile/readings.cases", "Lines", Lines);
 }
 
 TEST_F(LongLines, ArriveInPiecesOf399Characters)

@@ -1,10 +1,10 @@
 // Each kind of statement: the forms that it has, and the messages of those that it has not.
 #include "Description.h"
-#include "Readings.h"
 
 #include "model/ClytControlDep.h"
 #include "model/ClytDialogOutput.h"
 #include "model/ClytInputPart.h"
+#include "unit/Readings.h"
 
 namespace
 {
@@ -249,7 +249,7 @@ using Statement = WithErrorTexts;
 
 TEST_P(EachStatement, HasTheFormsOfTheTable)
 {
-    ExpectReadings(GetParam().read, GetParam().name);
+    ExpectReadings("dlgfile/readings.cases", GetParam().name, GetParam().read);
 }
 
 TEST_F(Statement, OfAnInputIsFoundByTheLaterOfTwoNames)

@@ -1,5 +1,6 @@
 #include "Description.h"
-#include "Readings.h"
+
+#include "unit/Readings.h"
 
 namespace
 {
@@ -60,11 +61,11 @@ using TokenizeGrouped = Tokenize;
 
 TEST_F(Tokenize, CutsALineAtItsDelimiters)
 {
-    ExpectReadings(Tokens, "Tokens");
+    ExpectReadings("dlgfile/readings.cases", "Tokens", Tokens);
     EXPECT_EQ(TokensBy(valueDelimiters, "A=B\n"), "[A]=[B]/");
     EXPECT_EQ(TokensBy(valueDelimiters, "Ctrl HIDDEN\n"), "[Ctrl HIDDEN]/");
     EXPECT_EQ(TokensBy(valueDelimiters, "a\"b,c\"\n"), "[a\"b],[c\"]/");
-    ExpectReadings(OutputTokens, "OutputTokens");
+    ExpectReadings("dlgfile/readings.cases", "OutputTokens", OutputTokens);
 }
 
 TEST_F(Tokenize, KeepsNothingOfALongerLineBefore)
@@ -87,7 +88,7 @@ TEST_F(Tokenize, KeepsNothingOfALongerLineBefore)
 
 TEST_F(TokenizeGrouped, KeepsAGroupInBracketsTogether)
 {
-    ExpectReadings(Groups, "Groups");
+    ExpectReadings("dlgfile/readings.cases", "Groups", Groups);
     // A comma ends a group also where it is no delimiter.
-    ExpectReadings(GroupsBySlash, "GroupsBySlash");
+    ExpectReadings("dlgfile/readings.cases", "GroupsBySlash", GroupsBySlash);
 }

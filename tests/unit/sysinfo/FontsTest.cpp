@@ -4,8 +4,7 @@
 #include "environment/ClytINISection.h"
 
 #include "Lines.h"
-
-#include <gtest/gtest.h>
+#include "unit/Readings.h"
 
 namespace
 {
@@ -108,22 +107,11 @@ TEST_F(Fonts, HaveALineForEachCharacterSetInTheOrderFoundWithoutLikeLinesInARow)
 
 TEST(CharsetName, NamesEachCharacterSet)
 {
-    static const struct
-    {
-        int charset;
-        const char* name;
-    } named[] = {{0, "ANSI_CHARSET"},      {1, "DEFAULT_CHARSET"},    {2, "SYMBOL_CHARSET"},
-                 {77, "MAC_CHARSET"},      {128, "SHIFTJIS_CHARSET"}, {129, "HANGUL_CHARSET"},
-                 {130, "JOHAB_CHARSET"},   {134, "GB2312_CHARSET"},   {136, "CHINESEBIG5_CHARSET"},
-                 {161, "GREEK_CHARSET"},   {162, "TURKISH_CHARSET"},  {163, "VIETNAMESE_CHARSET"},
-                 {177, "HEBREW_CHARSET"},  {178, "ARABIC_CHARSET"},   {186, "BALTIC_CHARSET"},
-                 {204, "RUSSIAN_CHARSET"}, {222, "THAI_CHARSET"},     {238, "EASTEUROPE_CHARSET"},
-                 {255, "OEM_CHARSET"}};
     Texts names(256, "<unknown>");
-    for (const auto& n : named)
-        names[static_cast<size_t>(n.charset)] = n.name;
-    for (int charset = 0; charset < 256; ++charset)
-        EXPECT_EQ(lytCharsetName(static_cast<unsigned char>(charset)), names[static_cast<size_t>(charset)]) << charset;
+    for (const TextCase& named : ReadingsOf("sysinfo/names.cases", "Charset"))
+        names[std::stoul(named.given)] = named.made;
+    for (size_t charset = 0; charset < names.size(); ++charset)
+        EXPECT_EQ(lytCharsetName(static_cast<unsigned char>(charset)), names[charset]) << charset;
 }
 
 TEST(Locale, ListsEachValueInOrderUnderItsLabel)
@@ -159,28 +147,11 @@ TEST(Locale, ListsEachValueInOrderUnderItsLabel)
 
 TEST(LanguageGroups, TellForEachGroupWhetherItIsInstalled)
 {
-    static const char* const names[] = {"WESTERN_EUROPE",
-                                        "CENTRAL_EUROPE",
-                                        "BALTIC",
-                                        "GREEK",
-                                        "CYRILLIC",
-                                        "TURKISH",
-                                        "JAPANESE",
-                                        "KOREAN",
-                                        "TRADITIONAL_CHINESE",
-                                        "SIMPLIFIED_CHINESE",
-                                        "THAI",
-                                        "HEBREW",
-                                        "ARABIC",
-                                        "VIETNAMESE",
-                                        "INDIC",
-                                        "GEORGIAN",
-                                        "ARMENIAN"};
     Texts expected = {"Windows installed languages:"};
-    for (unsigned group = 1; group <= std::size(names); ++group)
-        expected.push_back(
-            "Language " + std::string(names[group - 1]) +
-            (group % 3 == 0 ? " not installed in Windows, see ZVK note 939928" : " is installed in Windows"));
+    for (const TextCase& group : ReadingsOf("sysinfo/names.cases", "LanguageGroup"))
+        expected.push_back("Language " + group.made +
+                           (std::stoi(group.given) % 3 == 0 ? " not installed in Windows, see ZVK note 939928"
+                                                            : " is installed in Windows"));
     CStringList lines;
     AddLanguageGroupLines({}, lines);
     EXPECT_EQ(lines.GetCount(), 0) << "where the system does not know them";

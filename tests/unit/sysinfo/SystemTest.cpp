@@ -4,10 +4,10 @@
 #include "sysinfo/system/WindowsName.h"
 
 #include "Lines.h"
-
-#include <gtest/gtest.h>
+#include "unit/Readings.h"
 
 #include <climits>
+#include <sstream>
 
 namespace
 {
@@ -63,6 +63,21 @@ std::string NameOf(const WindowsFacts& facts)
     if (!line.starts_with(head) || !line.ends_with(tail))
         return "unexpected: " + line;
     return line.substr(head.size(), line.size() - head.size() - tail.size());
+}
+
+// Of a release whose numbers are given.
+std::string NameOfRelease(const std::string& text)
+{
+    std::istringstream words(text);
+    unsigned major = 0;
+    unsigned minor = 0;
+    unsigned productType = 0;
+    unsigned suite = 0;
+    unsigned architecture = 0;
+    words >> major >> minor >> productType >> suite >> architecture;
+    WindowsFacts facts = Release(major, minor, productType, suite, architecture);
+    facts.isServerR2 = text.ends_with(" R2");
+    return NameOf(facts);
 }
 
 } // namespace
@@ -146,44 +161,7 @@ TEST(KernelVersion, TakesItsNumbersByTheFirstSeparatorOfTheText)
 
 TEST(WindowsName, NamesEachRelease)
 {
-    static const struct
-    {
-        unsigned major;
-        unsigned minor;
-        unsigned productType;
-        unsigned suite;
-        unsigned architecture;
-        const char* name;
-    } releases[] = {
-        {5, 0, workstation, 0, intel, "Windows 2000 Professional"},
-        {5, 0, workstation, 128, intel, "Windows 2000 Professional"},
-        {5, 0, server, 128 | 2, intel, "Windows 2000 Datacenter Server"},
-        {5, 0, server, 2, intel, "Windows 2000 Advanced Server"},
-        {5, 0, server, 0, intel, "Windows 2000 Server"},
-        {5, 0, 2, 0, intel, "Windows 2000 Server"},
-        {5, 1, workstation, 512, intel, "Windows XP Home Edition"},
-        {5, 1, workstation, 0, intel, "Windows XP Professional"},
-        {5, 1, server, 512, intel, "Windows XP Home Edition"},
-        {5, 3, workstation, 0, intel, "Windows Version 5.3 "},
-        {5, 10, server, 0, intel, "Windows Version 5.10 "},
-        {6, 0, workstation, 0, amd64, "Windows Vista  Version 6.0.0 "},
-        {6, 0, server, 0, amd64, "Windows Server 2008  Version 6.0.0 "},
-        {6, 1, workstation, 0, amd64, "Windows 7  Version 6.1.0 "},
-        {6, 1, server, 0, amd64, "Windows Server 2008 R2  Version 6.1.0 "},
-        {6, 2, workstation, 0, amd64, "Windows 8  Version 6.2.0 "},
-        {6, 2, server, 0, amd64, "Windows Server 2012  Version 6.2.0 "},
-        {6, 3, workstation, 0, amd64, "Windows 8.1  Version 6.3.0 "},
-        {6, 3, server, 0, amd64, "Windows Server 2012 R2  Version 6.3.0 "},
-        {6, 4, workstation, 0, amd64, "Windows  Version 6.4.0 "},
-        {6, 4, server, 0, amd64, "Windows  Version 6.4.0 "},
-        {7, 0, workstation, 0, amd64, "Windows Version 7.0.0 "},
-        {9, 9, server, 0, amd64, "Windows Version 9.9.0 "},
-        {11, 2, workstation, 0, amd64, "Windows Version 11.2.0 "},
-        // Without a name in the registry there are three blanks.
-        {10, 0, workstation, 0, amd64, "Windows   Version 10.0.0 "},
-    };
-    for (const auto& r : releases)
-        EXPECT_EQ(NameOf(Release(r.major, r.minor, r.productType, r.suite, r.architecture)), r.name);
+    ExpectReadings("sysinfo/names.cases", "Release", NameOfRelease);
     EXPECT_EQ(WindowsNameLine(WindowsFacts()), "Microsoft Windows   Version 10.0.0  (build 0), 32-bit (Kernel ) ")
         << "when the version cannot be read";
     WindowsFacts old = Release(4, 10, workstation);
@@ -191,43 +169,6 @@ TEST(WindowsName, NamesEachRelease)
     old.major = 5;
     old.platform = 1;
     EXPECT_EQ(WindowsNameLine(old), "");
-}
-
-TEST(WindowsName, NamesEachServer2003)
-{
-    static const struct
-    {
-        bool isR2;
-        unsigned productType;
-        unsigned suite;
-        unsigned architecture;
-        const char* name;
-    } releases[] = {
-        {true, server, 8192, intel, "Windows Server 2003 R2, Standard Edition"},
-        {true, workstation, 0, amd64, "Windows Server 2003 R2, "},
-        {false, server, 8192 | 32768, intel, "Windows Storage Server 2003Standard Edition"},
-        {false, workstation, 8192, amd64, "Windows Storage Server 2003"},
-        {false, server, 32768, intel, "Windows Home ServerStandard Edition"},
-        {false, workstation, 0, amd64, "Windows XP Professional x64 Edition"},
-        {false, workstation, 0, intel, "Windows Server 2003, "},
-        {false, server, 128 | 2, amd64, "Windows Server 2003, Datacenter x64 Edition"},
-        {false, server, 2, amd64, "Windows Server 2003, Enterprise x64 Edition"},
-        {false, server, 0, amd64, "Windows Server 2003, Standard x64 Edition"},
-        {false, server, 16384, amd64, "Windows Server 2003, Standard x64 Edition"},
-        {false, server, 1024, amd64, "Windows Server 2003, Standard x64 Edition"},
-        {false, server, 16384 | 128, intel, "Windows Server 2003, Compute Cluster Edition"},
-        {false, server, 128 | 2, intel, "Windows Server 2003, Datacenter Edition"},
-        {false, server, 2 | 1024, intel, "Windows Server 2003, Enterprise Edition"},
-        {false, server, 1024, intel, "Windows Server 2003, Web Edition"},
-        {false, server, 0, intel, "Windows Server 2003, Standard Edition"},
-        {false, server, 0, itanium, "Windows Server 2003, Standard Edition"},
-    };
-    for (const auto& r : releases)
-    {
-        WindowsFacts facts = Release(5, 2, r.productType, r.suite, r.architecture);
-        facts.isServerR2 = r.isR2;
-        EXPECT_EQ(NameOf(facts), r.name);
-    }
 }
 
 TEST(WindowsName, ComesFromTheRegistryFromVersion10On)
@@ -265,37 +206,9 @@ TEST(WindowsName, IsFollowedByEditionServicePackBuildWidthAndKernel)
 
 TEST(WindowsName, NamesEachEdition)
 {
-    static const struct
-    {
-        std::vector<unsigned> editions;
-        const char* name;
-    } named[] = {
-        {{1, 28, 71}, "Ultimate Edition"},
-        {{2, 67}, "Home Basic Edition"},
-        {{3, 26, 68}, "Home Premium Edition"},
-        {{4, 10, 27, 70, 125, 126}, "Enterprise Edition"},
-        {{6, 16}, "Business Edition"},
-        {{7}, "Standard Edition"},
-        {{8}, "Datacenter Edition"},
-        {{9}, "Small Business Server"},
-        {{11, 47, 66}, "Starter Edition"},
-        {{12}, "Datacenter Edition (core installation)"},
-        {{13}, "Standard Edition (core installation)"},
-        {{14}, "Enterprise Edition (core installation)"},
-        {{15}, "Enterprise Edition for Itanium-based Systems"},
-        {{17}, "Web Server Edition"},
-        {{18}, "Cluster Server Edition"},
-        {{25}, "Small Business Server Premium Edition"},
-        {{29}, "Web Server Edition (core installation)"},
-        {{48, 49, 69}, "Professional"},
-        {{98, 101}, "Home Edition"},
-    };
     std::vector<std::string> names(300);
-    for (const auto& n : named)
-    {
-        for (const unsigned edition : n.editions)
-            names[edition] = n.name;
-    }
+    for (const TextCase& named : ReadingsOf("sysinfo/names.cases", "Edition"))
+        names[std::stoul(named.given)] = named.made;
     for (unsigned edition = 0; edition < names.size(); ++edition)
     {
         WindowsFacts facts = Release(6, 1, workstation);

@@ -7,7 +7,7 @@
 #include "sysinfo/word/WordDirectories.h"
 #include "sysinfo/word/WordVersions.h"
 
-#include "support/Cases.h"
+#include "unit/Readings.h"
 
 #include <climits>
 
@@ -102,28 +102,16 @@ TEST(EnabledLanguages, AreShownByTheTagOfTheirIdentifierBelowVersion16)
 
 TEST(LanguageTags, KnowTheseIdentifiersAndNoOther)
 {
-    static const struct
-    {
-        int locale;
-        const char* tag;
-    } known[] = {
-        {1025, "ar-sa"}, {1026, "bg-bg"}, {1028, "zh-tw"},      {1029, "cs-cz"}, {1030, "da-dk"}, {1031, "de-de"},
-        {1032, "el-gr"}, {1033, "en-us"}, {1035, "fi-fi"},      {1036, "fr-fr"}, {1037, "he-il"}, {1038, "hu-hu"},
-        {1040, "it-it"}, {1041, "ja-jp"}, {1042, "ko-kr"},      {1043, "nl-nl"}, {1044, "nb-no"}, {1045, "pl-pl"},
-        {1046, "pt-br"}, {1048, "ro-ro"}, {1049, "ru-ru"},      {1050, "hr-hr"}, {1051, "sk-sk"}, {1053, "sv-se"},
-        {1054, "th-th"}, {1055, "tr-tr"}, {1057, "id-id"},      {1058, "uk-ua"}, {1060, "sl-si"}, {1061, "et-ee"},
-        {1062, "lv-lv"}, {1063, "lt-lt"}, {1066, "vi-vn"},      {1081, "hi-in"}, {1086, "ms-my"}, {1087, "kk-kz"},
-        {2052, "zh-cn"}, {2070, "pt-pt"}, {2074, "sr-latn-cs"}, {3082, "es-es"},
-    };
     CString tag = "kept";
     EXPECT_FALSE(FindLanguageTag(1027, tag));
     EXPECT_EQ(tag, "kept");
-    for (const auto& each : known)
+    const std::vector<TextCase> known = ReadingsOf("sysinfo/names.cases", "LanguageTag");
+    for (const TextCase& each : known)
     {
-        EXPECT_TRUE(FindLanguageTag(each.locale, tag)) << each.locale;
-        EXPECT_EQ(tag, each.tag);
+        EXPECT_TRUE(FindLanguageTag(std::stoi(each.given), tag)) << each.given;
+        EXPECT_EQ(tag, each.made.c_str());
     }
-    EXPECT_EQ(lytLanguageTags.GetCount(), static_cast<int>(std::size(known)));
+    EXPECT_EQ(lytLanguageTags.GetCount(), static_cast<int>(known.size()));
 }
 
 TEST(MacroSecurity, IsALevelOrATrustedLocationOrFixedWords)
