@@ -2,6 +2,9 @@
 
 #include "Activation.h"
 
+#include <algorithm>
+#include <compare>
+
 namespace macros
 {
 
@@ -15,16 +18,11 @@ Type TypeOfValue(const Value& value)
     return std::holds_alternative<Object>(value) ? Type::Objects : Type::Numbers;
 }
 
-// -1, 0 or 1.
-int Compare(const Value& left, const Value& right)
+std::strong_ordering Order(const Value& left, const Value& right)
 {
     if (std::holds_alternative<Text>(left))
-    {
-        const int order = TextIn(left).characters.compare(TextIn(right).characters);
-        return (order > 0 ? 1 : 0) - (order < 0 ? 1 : 0);
-    }
-    const long long difference = NumberIn(left) - NumberIn(right);
-    return (difference > 0 ? 1 : 0) - (difference < 0 ? 1 : 0);
+        return TextIn(left).characters <=> TextIn(right).characters;
+    return NumberIn(left) <=> NumberIn(right);
 }
 
 Value Truth(bool is)
@@ -32,13 +30,38 @@ Value Truth(bool is)
     return is ? yes : no;
 }
 
+struct Operation
+{
+    const char* sign;
+    Value (*apply)(const Value& left, const Value& right);
+};
+
+// From the one that binds least. Both sides are evaluated in any case.
+const std::vector<std::vector<Operation>> operations = {
+    {{"or", [](const Value& left, const Value& right) -> Value { return NumberIn(left) | NumberIn(right); }}},
+    {{"and", [](const Value& left, const Value& right) -> Value { return NumberIn(left) & NumberIn(right); }}},
+    {{"=", [](const Value& left, const Value& right) { return Truth(Order(left, right) == 0); }},
+     {"<>", [](const Value& left, const Value& right) { return Truth(Order(left, right) != 0); }},
+     {"<=", [](const Value& left, const Value& right) { return Truth(Order(left, right) <= 0); }},
+     {">=", [](const Value& left, const Value& right) { return Truth(Order(left, right) >= 0); }},
+     {"<", [](const Value& left, const Value& right) { return Truth(Order(left, right) < 0); }},
+     {">", [](const Value& left, const Value& right) { return Truth(Order(left, right) > 0); }}},
+    {{"&",
+      [](const Value& left, const Value& right) -> Value
+      { return TextFrom(TextIn(left).characters + TextIn(right).characters); }}},
+    {{"+", [](const Value& left, const Value& right) -> Value { return NumberIn(left) + NumberIn(right); }},
+     {"-", [](const Value& left, const Value& right) -> Value { return NumberIn(left) - NumberIn(right); }}},
+    {{"*", [](const Value& left, const Value& right) -> Value { return NumberIn(left) * NumberIn(right); }}},
+};
+constexpr size_t levelOfComparisons = 2;
+
 } // namespace
 
 Value Evaluator::Evaluate()
 {
-    Value value = Or();
+    Value value = Joined(0);
     if (!AtEnd())
-        throw MacroError(syntaxError, "\"" + m_tokens[m_place].text + "\" is not expected here");
+        throw MacroError(syntaxError, "\"" + Take().text + "\" is not expected here");
     return value;
 }
 
@@ -54,126 +77,39 @@ Arguments Evaluator::EvaluateArguments()
     return arguments;
 }
 
-bool Evaluator::Skip(const char* word)
+Value Evaluator::Joined(size_t level)
 {
-    const bool is = !AtEnd() && m_tokens[m_place].Is(word);
-    m_place += is ? 1 : 0;
-    return is;
-}
-
-std::string Evaluator::TakeName()
-{
-    if (AtEnd() || m_tokens[m_place].kind != TokenKind::Name)
-        throw MacroError(syntaxError, "a name is missing");
-    return m_tokens[m_place++].text;
-}
-
-// Both sides are evaluated in any case.
-Value Evaluator::Or()
-{
-    Value value = And();
-    while (Skip("or"))
-    {
-        const long long right = NumberIn(And());
-        value = NumberIn(value) | right;
-    }
-    return value;
-}
-
-Value Evaluator::And()
-{
-    Value value = Not();
-    while (Skip("and"))
-    {
-        const long long right = NumberIn(Not());
-        value = NumberIn(value) & right;
-    }
-    return value;
-}
-
-Value Evaluator::Not()
-{
-    return Skip("not") ? Value(~NumberIn(Not())) : Comparison();
-}
-
-Value Evaluator::Comparison()
-{
-    static const struct
-    {
-        const char* sign;
-        bool (*holds)(int order);
-    } comparisons[] = {
-        {"=", [](int order) { return order == 0; }},  {"<>", [](int order) { return order != 0; }},
-        {"<=", [](int order) { return order <= 0; }}, {">=", [](int order) { return order >= 0; }},
-        {"<", [](int order) { return order < 0; }},   {">", [](int order) { return order > 0; }},
-    };
-    Value value = Joined();
-    for (const auto& comparison : comparisons)
-    {
-        if (Skip(comparison.sign))
-            return Truth(comparison.holds(Compare(value, Joined())));
-    }
-    return value;
-}
-
-Value Evaluator::Joined()
-{
-    Value value = Sum();
-    while (Skip("&"))
-    {
-        const std::wstring right = TextIn(Sum()).characters;
-        value = TextFrom(TextIn(value).characters + right);
-    }
-    return value;
-}
-
-Value Evaluator::Sum()
-{
-    Value value = Product();
+    if (level == levelOfComparisons && Skip("not"))
+        return ~NumberIn(Joined(level));
+    if (level == operations.size())
+        return Skip("-") ? Value(-NumberIn(Joined(level))) : Single();
+    Value value = Joined(level + 1);
+    const auto isNext = [this](const Operation& operation) { return Skip(operation.sign); };
     for (;;)
     {
-        if (Skip("+"))
-            value = NumberIn(value) + NumberIn(Product());
-        else if (Skip("-"))
-            value = NumberIn(value) - NumberIn(Product());
-        else
+        const auto operation = std::ranges::find_if(operations[level], isNext);
+        if (operation == operations[level].end())
             return value;
+        value = operation->apply(value, Joined(level + 1));
     }
-}
-
-Value Evaluator::Product()
-{
-    Value value = Negated();
-    while (Skip("*"))
-        value = NumberIn(value) * NumberIn(Negated());
-    return value;
-}
-
-Value Evaluator::Negated()
-{
-    return Skip("-") ? Value(-NumberIn(Negated())) : Single();
 }
 
 Value Evaluator::Single()
 {
     if (Skip("("))
     {
-        Value value = Or();
-        if (!Skip(")"))
-            throw MacroError(syntaxError, "a bracket is not closed");
+        Value value = Joined(0);
+        Expect(")");
         return value;
     }
-    if (AtEnd())
-        throw MacroError(syntaxError, "an expression is missing");
-    const Token& token = m_tokens[m_place];
-    if (token.kind == TokenKind::Name)
-        return Named(TakeName());
-    ++m_place;
-    if (token.kind == TokenKind::Text)
-        return TextFrom(Wide(token.text));
-    if (token.kind == TokenKind::Number)
-        return token.number;
-    throw MacroError(syntaxError, "\"" + token.text + "\" begins no expression");
+    const Token& token = Take();
+    switch (token.kind)
+    {
+    case TokenKind::Name: return Named(token.text);
+    case TokenKind::Text: return TextFrom(Wide(token.text));
+    case TokenKind::Number: return token.number;
+    default: throw MacroError(syntaxError, "\"" + token.text + "\" begins no expression");
+    }
 }
 
 Value Evaluator::Named(const std::string& name)
@@ -189,7 +125,7 @@ Value Evaluator::Named(const std::string& name)
         throw MacroError(syntaxError, "Err has no such member here");
     }
     // A function's own name is its result, and a call when arguments follow.
-    const bool hasArguments = !AtEnd() && m_tokens[m_place].Is("(");
+    const bool hasArguments = Sees("(");
     const std::shared_ptr<Variable> variable = m_scope.Find(name);
     if (variable != nullptr && !hasArguments)
         return Skip(".") ? Member(variable->value) : variable->value;
@@ -219,7 +155,7 @@ Arguments Evaluator::ArgumentsInBrackets()
     while (!Skip(")"))
     {
         arguments.push_back(Argument());
-        if (!Skip(",") && (AtEnd() || !m_tokens[m_place].Is(")")))
+        if (!Skip(",") && !Sees(")"))
             throw MacroError(syntaxError, "a bracket is not closed");
     }
     return arguments;
@@ -228,18 +164,17 @@ Arguments Evaluator::ArgumentsInBrackets()
 // A name alone is passed as the variable that it is; anything else as its value.
 std::shared_ptr<Variable> Evaluator::Argument()
 {
-    const Token& first = m_tokens[m_place];
-    const bool isAlone =
-        m_place + 1 >= m_tokens.size() || m_tokens[m_place + 1].Is(",") || m_tokens[m_place + 1].Is(")");
+    const Token& first = (*m_tokens)[m_place];
+    const bool isAlone = m_place + 1 == m_tokens->size() || Sees(",", 1) || Sees(")", 1);
     if (first.kind == TokenKind::Name && isAlone)
     {
         if (std::shared_ptr<Variable> variable = m_scope.Find(first.text))
         {
-            ++m_place;
+            Take();
             return variable;
         }
     }
-    Value value = Or();
+    Value value = Joined(0);
     return std::make_shared<Variable>(Variable{TypeOfValue(value), std::move(value)});
 }
 

@@ -9,13 +9,10 @@ namespace macros
 
 class Activation;
 
-class Evaluator
+class Evaluator : private Cursor
 {
 public:
-    Evaluator(Activation& scope, const Tokens& tokens, size_t place = 0)
-        : m_scope(scope), m_tokens(tokens), m_place(place)
-    {
-    }
+    Evaluator(Activation& scope, const Tokens& tokens, size_t place = 0) : Cursor(tokens, place), m_scope(scope) {}
 
     // The value of all tokens that are left.
     Value Evaluate();
@@ -23,17 +20,8 @@ public:
     Arguments EvaluateArguments();
 
 private:
-    bool AtEnd() const { return m_place >= m_tokens.size(); }
-    bool Skip(const char* word);
-    std::string TakeName();
-    Value Or();
-    Value And();
-    Value Not();
-    Value Comparison();
-    Value Joined();
-    Value Sum();
-    Value Product();
-    Value Negated();
+    // What the operations of a level, and those that bind closer, join.
+    Value Joined(size_t level);
     Value Single();
     Value Named(const std::string& name);
     Value Member(const Value& object);
@@ -41,8 +29,6 @@ private:
     std::shared_ptr<Variable> Argument();
 
     Activation& m_scope; // the procedure that the expression is in
-    const Tokens& m_tokens;
-    size_t m_place;
 };
 
 } // namespace macros

@@ -1,5 +1,6 @@
 #include "Module.h"
 
+#include <algorithm>
 #include <optional>
 #include <set>
 
@@ -28,9 +29,9 @@ public:
 
     Module Read()
     {
-        for (m_index = 0; m_index < m_lines.size(); ++m_index)
+        for (size_t index = 0; index < m_lines.size(); index = m_index + 1)
         {
-            m_place = 0;
+            GoTo(index);
             try
             {
                 ReadDeclaration();
@@ -47,69 +48,55 @@ public:
 
 private:
     const Line& Current() const { return m_lines[std::min(m_index, m_lines.size() - 1)]; }
-    bool AtEnd() const { return m_place >= Current().tokens.size(); }
-
-    bool Skip(const char* word)
+    void GoTo(size_t index)
     {
-        const bool is = !AtEnd() && Current().tokens[m_place].Is(word);
-        m_place += is ? 1 : 0;
-        return is;
+        m_index = index;
+        m_line = Cursor(Current().tokens);
     }
+    std::string TakeName() { return m_line.Take(TokenKind::Name).text; }
 
-    void Expect(const char* word)
-    {
-        if (!Skip(word))
-            throw MacroError(syntaxError, std::string("\"") + word + "\" is missing");
-    }
-
-    std::string Take(TokenKind kind)
-    {
-        if (AtEnd() || Current().tokens[m_place].kind != kind)
-            throw MacroError(syntaxError, "a name or a text is missing");
-        return Current().tokens[m_place++].text;
-    }
-
-    Tokens TakeUntil(const std::set<std::string>& ends)
+    // Up to one of the signs, or to the end.
+    Tokens TakeUntil(const std::set<std::string>& signs)
     {
         Tokens taken;
-        while (!AtEnd() &&
-               (Current().tokens[m_place].kind == TokenKind::Text || !ends.contains(Current().tokens[m_place].text)))
-            taken.push_back(Current().tokens[m_place++]);
+        while (!m_line.AtEnd() &&
+               std::ranges::none_of(signs, [&](const std::string& sign) { return m_line.Sees(sign.c_str()); }))
+            taken.push_back(m_line.Take());
         return taken;
     }
 
     void ReadDeclaration()
     {
-        if (Skip("attribute"))
+        if (m_line.Skip("attribute"))
             return;
-        if (Skip("option"))
+        if (m_line.Skip("option"))
             return ReadOption();
-        const bool isProcedure = Current().tokens[m_place].Is("function") || Current().tokens[m_place].Is("sub");
-        if (!isProcedure && !Skip("public"))
-            Expect("private");
-        if (Skip("declare"))
+        const bool isProcedure = m_line.Sees("function") || m_line.Sees("sub");
+        if (!isProcedure && !m_line.Skip("public"))
+            m_line.Expect("private");
+        if (m_line.Skip("declare"))
             ReadLibraryFunction();
-        else if (Skip("const"))
+        else if (m_line.Skip("const"))
             ReadConstant();
-        else if (Skip("enum"))
+        else if (m_line.Skip("enum"))
             ReadEnumeration();
-        else if (Current().tokens[m_place].Is("function") || Current().tokens[m_place].Is("sub"))
+        else if (m_line.Sees("function") || m_line.Sees("sub"))
             ReadProcedure();
         else
             ReadVariable();
-        if (!AtEnd())
+        if (!m_line.AtEnd())
             throw MacroError(syntaxError, "there is more on the line than the declaration");
     }
 
     void ReadOption()
     {
-        if (Skip("private"))
+        if (m_line.Skip("private"))
         {
-            Expect("module");
+            m_line.Expect("module");
             m_module.isPrivate = true;
             return;
         }
-        Expect("explicit");
+        m_line.Expect("explicit");
         m_isExplicit = true;
     }
 
@@ -122,38 +109,40 @@ private:
     Signature ReadHead()
     {
         Signature head;
-        head.isFunction = Skip("function");
+        head.isFunction = m_line.Skip("function");
         if (!head.isFunction)
-            Expect("sub");
-        head.name = Take(TokenKind::Name);
+            m_line.Expect("sub");
+        const Token& name = m_line.Take(TokenKind::Name);
+        head.name = name.text;
+        head.written = name.written;
         Note(head.name);
         return head;
     }
 
     void ReadParameters(Signature& head)
     {
-        Expect("(");
-        while (!Skip(")"))
+        m_line.Expect("(");
+        while (!m_line.Skip(")"))
         {
             Parameter parameter;
-            parameter.isOptional = Skip("optional");
-            parameter.isByRef = Skip("byref");
+            parameter.isOptional = m_line.Skip("optional");
+            parameter.isByRef = m_line.Skip("byref");
             if (!parameter.isByRef)
-                Expect("byval");
-            parameter.name = Take(TokenKind::Name);
-            Expect("as");
-            const std::string type = Take(TokenKind::Name);
+                m_line.Expect("byval");
+            parameter.name = TakeName();
+            m_line.Expect("as");
+            const std::string type = TakeName();
             parameter.type = TypeOf(type);
             parameter.isPointer = type == "longptr";
-            if (Skip("="))
+            if (m_line.Skip("="))
                 parameter.otherwise = TakeUntil({",", ")"});
             head.parameters.push_back(parameter);
-            Skip(",");
+            m_line.Skip(",");
         }
         if (!head.isFunction)
             return;
-        Expect("as");
-        const std::string type = Take(TokenKind::Name);
+        m_line.Expect("as");
+        const std::string type = TakeName();
         head.result = TypeOf(type);
         head.isResultPointer = type == "longptr";
     }
@@ -162,61 +151,55 @@ private:
     {
         if (!m_module.procedures.empty())
             throw MacroError(syntaxError, "declarations come before procedures");
-        Expect("ptrsafe");
+        m_line.Expect("ptrsafe");
         Declaration declaration;
         declaration.signature = ReadHead();
-        declaration.function = NameAsWritten(declaration.signature.name);
-        Expect("lib");
-        declaration.library = Take(TokenKind::Text);
-        if (Skip("alias"))
-            declaration.function = Take(TokenKind::Text);
+        declaration.function = declaration.signature.written;
+        m_line.Expect("lib");
+        declaration.library = m_line.Take(TokenKind::Text).text;
+        if (m_line.Skip("alias"))
+            declaration.function = m_line.Take(TokenKind::Text).text;
         ReadParameters(declaration.signature);
         m_module.declarations[declaration.signature.name] = declaration;
     }
 
-    // Libraries tell small letters from capitals.
-    std::string NameAsWritten(const std::string& name) const
-    {
-        return m_place > 0 ? Current().tokens[m_place - 1].written : name;
-    }
-
     void ReadConstant()
     {
-        Constant constant{Take(TokenKind::Name), {}};
-        Note(constant.name);
-        Expect("as");
-        TypeOf(Take(TokenKind::Name));
-        Expect("=");
-        constant.value = TakeUntil({});
-        m_module.constants.push_back(constant);
+        const std::string name = TakeName();
+        m_line.Expect("as");
+        TypeOf(TakeName());
+        ReadValue(name);
+    }
+
+    void ReadValue(const std::string& name)
+    {
+        Note(name);
+        m_line.Expect("=");
+        m_module.constants.push_back({name, TakeUntil({})});
     }
 
     void ReadEnumeration()
     {
-        Note(Take(TokenKind::Name));
-        for (++m_index; m_index < m_lines.size(); ++m_index)
+        Note(TakeName());
+        while (m_index + 1 < m_lines.size())
         {
-            m_place = 0;
-            if (Skip("end"))
+            GoTo(m_index + 1);
+            if (m_line.Skip("end"))
             {
-                Expect("enum");
+                m_line.Expect("enum");
                 return;
             }
-            Constant member{Take(TokenKind::Name), {}};
-            Note(member.name);
-            Expect("=");
-            member.value = TakeUntil({});
-            m_module.constants.push_back(member);
+            ReadValue(TakeName());
         }
         throw MacroError(syntaxError, "an enumeration does not end");
     }
 
     void ReadVariable()
     {
-        const std::string name = Take(TokenKind::Name);
+        const std::string name = TakeName();
         Note(name);
-        Expect("as");
-        const Type type = TypeOf(Take(TokenKind::Name));
+        m_line.Expect("as");
+        const Type type = TypeOf(TakeName());
         m_module.variables[name] = {type, InitialValue(type)};
     }
 
@@ -226,12 +209,12 @@ private:
         procedure.signature = ReadHead();
         ReadParameters(procedure.signature);
         const char* word = procedure.signature.isFunction ? "function" : "sub";
-        for (++m_index; m_index < m_lines.size(); ++m_index)
+        while (m_index + 1 < m_lines.size())
         {
-            const Tokens& tokens = Current().tokens;
-            if (tokens.size() == 2 && tokens[0].Is("end") && tokens[1].Is(word))
+            GoTo(m_index + 1);
+            if (m_line.Sees("end") && m_line.Sees(word, 1))
             {
-                m_place = tokens.size();
+                m_line = Cursor(Current().tokens, 2);
                 m_module.procedures[procedure.signature.name] = procedure;
                 return;
             }
@@ -240,9 +223,10 @@ private:
         throw MacroError(syntaxError, procedure.signature.name + " does not end");
     }
 
+    const Tokens m_none;
     std::vector<Line> m_lines;
     size_t m_index = 0;
-    size_t m_place = 0;
+    Cursor m_line{m_none};
     Module m_module;
     std::set<std::string> m_names;
     bool m_isExplicit = false;

@@ -25,6 +25,7 @@ struct Parameter
 struct Signature
 {
     std::string name;
+    std::string written; // libraries tell small letters from capitals
     std::vector<Parameter> parameters;
     bool isFunction = false;
     Type result = Type::Numbers;

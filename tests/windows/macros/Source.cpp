@@ -2,7 +2,9 @@
 
 #include "Value.h"
 
+#include <algorithm>
 #include <cctype>
+#include <regex>
 #include <sstream>
 
 namespace macros
@@ -15,101 +17,40 @@ namespace
 constexpr size_t longestLine = 1023;
 constexpr int mostContinuations = 24;
 
-bool IsNameCharacter(char c)
+// What a quotation marks: two marks are one.
+std::string Unquoted(const std::string& quoted)
 {
-    return std::isalnum(static_cast<unsigned char>(c)) != 0 || c == '_';
+    return std::regex_replace(quoted, std::regex("\"\""), "\"");
 }
 
-// Cuts one line into tokens.
-class Cutter
+std::string InSmallLetters(std::string name)
 {
-public:
-    explicit Cutter(const std::string& line) : m_line(line) {}
+    std::ranges::transform(name, name.begin(), [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
+    return name;
+}
 
-    Tokens Cut()
+Tokens Cut(const std::string& line)
+{
+    // A text, a number of either base, a name, a comment up to the end, or a sign.
+    static const std::regex pattern("\"((?:[^\"]|\"\")*)\"|&H([0-9A-F]+)|(\\d+)|(\\w+)\\$?|'.*|<>|<=|>=|[^ ]");
+    Tokens tokens;
+    for (auto match = std::sregex_iterator(line.begin(), line.end(), pattern); match != std::sregex_iterator(); ++match)
     {
-        Tokens tokens;
-        while (Skip())
-            tokens.push_back(Next());
-        return tokens;
-    }
-
-private:
-    bool Skip()
-    {
-        while (m_place < m_line.size() && m_line[m_place] == ' ')
-            ++m_place;
-        return m_place < m_line.size() && m_line[m_place] != '\'';
-    }
-
-    Token Next()
-    {
-        const char first = m_line[m_place];
-        if (first == '"')
-            return Quoted();
-        if (std::isdigit(static_cast<unsigned char>(first)) != 0)
-            return Number(10);
-        if (m_line.compare(m_place, 2, "&H") == 0)
-        {
-            m_place += 2;
-            return Number(16);
-        }
-        return IsNameCharacter(first) ? Name() : Symbol();
-    }
-
-    Token Quoted()
-    {
-        Token token{TokenKind::Text, "", 0};
-        for (++m_place; m_place < m_line.size(); ++m_place)
-        {
-            if (m_line[m_place] != '"')
-                token.text += m_line[m_place];
-            else if (m_line.compare(m_place, 2, "\"\"") == 0)
-                token.text += m_line[m_place++];
-            else
-                break;
-        }
-        if (m_place++ >= m_line.size())
+        const std::smatch& found = *match;
+        if (found[1].matched)
+            tokens.push_back({TokenKind::Text, Unquoted(found[1])});
+        else if (found[2].matched || found[3].matched)
+            tokens.push_back({TokenKind::Number, "",
+                              std::stoll(found[2].str() + found[3].str(), nullptr, found[2].matched ? 16 : 10)});
+        else if (found[4].matched)
+            tokens.push_back({TokenKind::Name, InSmallLetters(found[4]), 0, found[4]});
+        else if (found.str() == "\"")
             throw MacroError(syntaxError, "a quotation mark is not closed");
-        return token;
+        else if (found.str().front() != '\'')
+            tokens.push_back({TokenKind::Symbol, found.str()});
     }
-
-    Token Number(int base)
-    {
-        size_t length = 0;
-        const long long number = std::stoll(m_line.substr(m_place), &length, base);
-        m_place += length;
-        return {TokenKind::Number, "", number};
-    }
-
-    Token Name()
-    {
-        Token token{TokenKind::Name, "", 0};
-        for (; m_place < m_line.size() && IsNameCharacter(m_line[m_place]); ++m_place)
-        {
-            token.written += m_line[m_place];
-            token.text += static_cast<char>(std::tolower(static_cast<unsigned char>(m_line[m_place])));
-        }
-        if (m_place < m_line.size() && m_line[m_place] == '$')
-            ++m_place;
-        return token;
-    }
-
-    Token Symbol()
-    {
-        for (const char* pair : {"<>", "<=", ">="})
-        {
-            if (m_line.compare(m_place, 2, pair) != 0)
-                continue;
-            m_place += 2;
-            return {TokenKind::Symbol, pair, 0};
-        }
-        return {TokenKind::Symbol, std::string(1, m_line[m_place++]), 0};
-    }
-
-    std::string m_line;
-    size_t m_place = 0;
-};
+    return tokens;
+}
 
 // Which stretches between #If and #End If are compiled.
 class Conditions
@@ -133,15 +74,7 @@ public:
         return true;
     }
 
-    bool IsOn() const
-    {
-        for (const bool on : m_on)
-        {
-            if (!on)
-                return false;
-        }
-        return true;
-    }
+    bool IsOn() const { return std::ranges::find(m_on, false) == m_on.end(); }
 
     bool IsClosed() const { return m_on.empty(); }
 
@@ -150,23 +83,18 @@ private:
     std::vector<bool> m_on;
 };
 
-bool IsContinued(const std::string& line)
-{
-    return line.size() > 1 && line.compare(line.size() - 2, 2, " _") == 0;
-}
-
 // One line of the language, from as many of the file as it is continued on.
 std::string ReadLogicalLine(std::istringstream& file, std::string line, int& number)
 {
     int continuations = 0;
-    while (IsContinued(line))
+    while (line.ends_with(" _"))
     {
         line.pop_back();
         std::string next;
         if (!std::getline(file, next) || ++continuations > mostContinuations)
             throw MacroError(syntaxError, "the line is continued too often");
         ++number;
-        if (!next.empty() && next.back() == '\r')
+        if (next.ends_with('\r'))
             next.pop_back();
         line += next;
     }
@@ -174,6 +102,34 @@ std::string ReadLogicalLine(std::istringstream& file, std::string line, int& num
 }
 
 } // namespace
+
+bool Cursor::Skip(const char* word)
+{
+    const bool is = Sees(word);
+    m_place += is ? 1 : 0;
+    return is;
+}
+
+void Cursor::Expect(const char* word)
+{
+    if (!Skip(word))
+        throw MacroError(syntaxError, std::string("\"") + word + "\" is missing");
+}
+
+const Token& Cursor::Take()
+{
+    if (AtEnd())
+        throw MacroError(syntaxError, "the line ends too early");
+    return (*m_tokens)[m_place++];
+}
+
+const Token& Cursor::Take(TokenKind kind)
+{
+    const Token& token = Take();
+    if (token.kind != kind)
+        throw MacroError(syntaxError, "\"" + token.text + "\" is not expected here");
+    return token;
+}
 
 std::vector<Line> ReadLines(const std::string& source, bool is64Bit)
 {
@@ -184,11 +140,11 @@ std::vector<Line> ReadLines(const std::string& source, bool is64Bit)
     for (std::string line; std::getline(file, line);)
     {
         Line read{++number, {}};
-        if (!line.empty() && line.back() == '\r')
+        if (line.ends_with('\r'))
             line.pop_back();
         if (line.size() > longestLine)
             throw MacroError(syntaxError, "line " + std::to_string(number) + " is too long");
-        read.tokens = Cutter(ReadLogicalLine(file, line, number)).Cut();
+        read.tokens = Cut(ReadLogicalLine(file, line, number));
         if (!conditions.Take(read.tokens) && conditions.IsOn() && !read.tokens.empty())
             lines.push_back(read);
     }

@@ -18,7 +18,7 @@ enum class TokenKind
 struct Token
 {
     TokenKind kind = TokenKind::Symbol;
-    std::string text;
+    std::string text = {};
     long long number = 0;
     std::string written = {}; // a name as it is written
 
@@ -26,6 +26,29 @@ struct Token
 };
 
 using Tokens = std::vector<Token>;
+
+// Goes through the tokens of a line.
+class Cursor
+{
+public:
+    explicit Cursor(const Tokens& tokens, size_t place = 0) : m_tokens(&tokens), m_place(place) {}
+
+    bool AtEnd() const { return m_place >= m_tokens->size(); }
+    // Whether the next one, or one after it, is that word.
+    bool Sees(const char* word, size_t ahead = 0) const
+    {
+        return m_place + ahead < m_tokens->size() && (*m_tokens)[m_place + ahead].Is(word);
+    }
+    bool Skip(const char* word);
+    // These raise MacroError for any other token.
+    void Expect(const char* word);
+    const Token& Take();
+    const Token& Take(TokenKind kind);
+
+protected:
+    const Tokens* m_tokens;
+    size_t m_place;
+};
 
 struct Line
 {
