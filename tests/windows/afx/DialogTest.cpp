@@ -29,19 +29,6 @@ TEST(Dialog, ReturnReachesOkWithoutAnyButton)
     EXPECT_EQ(dialog.record, (Record{"init", "ok"}));
 }
 
-TEST(Dialog, EscapeAndTheFrameCancel)
-{
-    const std::pair<UINT, WPARAM> ways[] = {{WM_KEYDOWN, VK_ESCAPE}, {WM_CLOSE, 0}};
-    for (const auto& [message, key] : ways)
-    {
-        ScriptedDialog dialog(emptyTemplate);
-        robot::Robot robot;
-        robot.On("Empty", [post = message, code = key](HWND window) { PostMessageA(window, post, code, 0); });
-        EXPECT_EQ(dialog.DoModal(), IDCANCEL);
-        EXPECT_EQ(dialog.record, (Record{"init", "cancel"}));
-    }
-}
-
 TEST(Dialog, EndedWhileItInitialisesIsNeverSeen)
 {
     ScriptedDialog dialog(emptyTemplate);
@@ -99,25 +86,6 @@ TEST(Dialog, SpeaksAnsi)
     dialog.unicode = true;
     dialog.DoModal();
     EXPECT_FALSE(dialog.unicode);
-}
-
-TEST(Dialog, BelongsToTheActiveWindowAndGivesItBack)
-{
-    RecordingWindow owner;
-    owner.ShowWindow(SW_SHOW);
-    ::SetActiveWindow(owner.m_hWnd);
-    ScriptedDialog dialog(filledTemplate);
-    robot::Robot robot;
-    robot.On("Filled",
-             [&](HWND window)
-             {
-                 EXPECT_EQ(::GetWindow(window, GW_OWNER), owner.m_hWnd);
-                 EXPECT_FALSE(::IsWindowEnabled(owner.m_hWnd));
-                 robot::Press(::GetDlgItem(window, IDCANCEL));
-             });
-    EXPECT_EQ(dialog.DoModal(), IDCANCEL);
-    EXPECT_TRUE(::IsWindowEnabled(owner.m_hWnd));
-    EXPECT_EQ(::GetActiveWindow(), owner.m_hWnd);
 }
 
 TEST(Dialog, CentersOverItsOwnerWithinTheWorkArea)
