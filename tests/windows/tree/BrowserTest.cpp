@@ -57,30 +57,6 @@ TEST_F(Browser, PlacesTheControlsWhenItOpens)
          });
 }
 
-TEST_F(Browser, TextsComeFromTheLanguageFile)
-{
-    Open("S",
-         [](const TreeWindow& tree)
-         {
-             EXPECT_EQ(robot::TextOf(tree.Dialog()), "Catalogue");
-             EXPECT_EQ(robot::TextOf(GetDlgItem(tree.Dialog(), IDOK)), "Fine");
-             EXPECT_EQ(robot::TextOf(GetDlgItem(tree.Dialog(), IDCANCEL)), "Stop");
-             tree.Cancel();
-         });
-}
-
-TEST_F(Browser, TextsThatAreMissingReadSo)
-{
-    folder.Write("dialogs/lang/English.nls", "[Other]\n");
-    Open("S",
-         [](const TreeWindow& tree)
-         {
-             EXPECT_EQ(robot::TextOf(tree.Dialog()), "no value present");
-             EXPECT_EQ(robot::TextOf(GetDlgItem(tree.Dialog(), IDOK)), "no value present");
-             tree.Cancel();
-         });
-}
-
 TEST_F(Browser, ControlsStandInTheirOrderWithTheFocusOnOk)
 {
     Open("S",

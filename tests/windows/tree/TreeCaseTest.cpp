@@ -10,7 +10,7 @@
 //     release, initialise
 //
 //     tree REQUEST: ACT, ACT | ACT      opens the browser; a bar is a message, which is confirmed; `none |` is one before it
-//     items, open, selected, size REQUEST    opens the browser to look, and cancels it
+//     items, open, selected, captions, size REQUEST    opens the browser to look, and cancels it
 //     find TEXT                         the symbol whose key the text begins
 //     children KEY, read                the walk over the symbols below a group
 //     wizard, wizard SIZE               one call of the wizard that shows nothing
@@ -20,7 +20,7 @@
 //     during STEP; STEP                 the steps are done while a property dialog is open, which is then cancelled
 //
 // Acts in the browser: pick LABEL, select LABEL, nothing, ok, cancel, key RETURN, double LABEL, expand LABEL, collapse LABEL,
-// mark LABEL, resize WIDTH HEIGHT, state LABEL; items, open, selected and size look.
+// mark LABEL, resize WIDTH HEIGHT, state LABEL; items, open, selected, captions and size look.
 #include "TreeFixture.h"
 
 #include "cases/CaseFile.h"
@@ -131,6 +131,13 @@ void TreeCase::Carry(const TreeWindow& tree, std::string act)
         {"items", [](const TreeWindow& at, const std::string&)
          { return at.Items() == houseShown ? "all" : Joined(at.Items(), "\n"); }},
         {"open", [](const TreeWindow& at, const std::string&) { return Joined(at.OpenItems(), ", "); }},
+        {"captions",
+         [](const TreeWindow& at, const std::string&)
+         {
+             return Joined({robot::TextOf(at.Dialog()), robot::TextOf(GetDlgItem(at.Dialog(), IDOK)),
+                            robot::TextOf(GetDlgItem(at.Dialog(), IDCANCEL))},
+                           ", ");
+         }},
         {"selected", [](const TreeWindow& at, const std::string&) { return at.Selected(); }},
         {"size", [](const TreeWindow& at, const std::string&)
          { return std::to_string(at.Size().cx) + " x " + std::to_string(at.Size().cy); }},
