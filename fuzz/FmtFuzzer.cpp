@@ -1,7 +1,7 @@
 // Formatted twice a description changes no more, and formatting changes nothing that is read of it.
 #include "fuzz/frame/Fuzzer.h"
 #include "fuzz/frame/Samples.h"
-#include "support/FormattingProof.h"
+#include "unit/lytdlg/FormattingProof.h"
 
 #include <cstdio>
 #include <cstdlib>

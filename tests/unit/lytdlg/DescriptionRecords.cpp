@@ -1,4 +1,4 @@
-#include "support/DescriptionRecords.h"
+#include "DescriptionRecords.h"
 
 #include "dlgfile/ReadAll.h"
 

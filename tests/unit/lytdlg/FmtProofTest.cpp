@@ -1,7 +1,7 @@
 // Formatting changes nothing that is read of any description.
+#include "FormattingProof.h"
 #include "fuzz/frame/Samples.h"
 #include "lytdlg/text/TextFile.h"
-#include "support/FormattingProof.h"
 #include "support/Mutations.h"
 
 #include <algorithm>

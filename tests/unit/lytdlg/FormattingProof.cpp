@@ -1,8 +1,8 @@
-#include "support/FormattingProof.h"
+#include "FormattingProof.h"
 
+#include "DescriptionRecords.h"
 #include "lytdlg/text/DescriptionLines.h"
 #include "lytdlg/text/Paths.h"
-#include "support/DescriptionRecords.h"
 
 #include <algorithm>
 
