@@ -79,54 +79,54 @@ int ClytDialogFile::ReadSectionLine(POSITION& token, ClytLineKind kind)
     return 0;
 }
 
-const ClytToken& ClytDialogFile::Next(POSITION& token)
+const ClytToken& ClytDialogFile::Next(POSITION& token, ClytDue due)
 {
     if (token == nullptr)
     {
-        errors.TellShortLine(EndOfLine());
+        errors.TellShortLine(EndOfLine(), due);
         throw Abandoned();
     }
     lastTaken = &tokens.GetNext(token);
     return *lastTaken;
 }
 
-const ClytToken& ClytDialogFile::NextOrFail(POSITION& token)
+const ClytToken& ClytDialogFile::NextOrFail(POSITION& token, ClytDue due)
 {
     if (token == nullptr)
-        FailStatement(EndOfLine());
+        FailStatement(EndOfLine(), due);
     return Next(token);
 }
 
-void ClytDialogFile::Tell(const char* number, const ClytSpan& place, const CString& argument)
+void ClytDialogFile::Tell(const char* number, const ClytSpan& place, const CString& argument, ClytDue due)
 {
-    errors.Tell(std::make_unique<ClytException>(lytErrorSection, number, CString(), argument), place);
+    errors.Tell(std::make_unique<ClytException>(lytErrorSection, number, CString(), argument), place, due);
 }
 
-void ClytDialogFile::FailStatement()
+void ClytDialogFile::Expect(bool isThere, ClytDue due)
 {
-    FailStatement(lastTaken != nullptr ? PlaceOf(*lastTaken) : GetLinePlace());
+    if (!isThere)
+        FailStatement(lastTaken != nullptr ? PlaceOf(*lastTaken) : GetLinePlace(), due);
 }
 
-void ClytDialogFile::FailStatement(const ClytSpan& place)
+void ClytDialogFile::FailStatement(const ClytSpan& place, ClytDue due)
 {
     CString number;
     number.Format("%d", GetLineNumber());
-    Tell(lytError("LineForm"), place, number);
+    Tell(lytError("LineForm"), place, number, due);
     throw Abandoned();
 }
 
 // The values of a condition whose `(` has been taken, up to the `)`. A line that ends inside the list is the class
-// library's failure, any other delimiter between the values is the caller's to report.
-bool ClytDialogFile::ReadValueList(POSITION& token, CStringList& values)
+// library's failure.
+void ClytDialogFile::ReadValueList(POSITION& token, CStringList& values)
 {
-    while (true)
+    char end = ',';
+    while (end != ')')
     {
-        const ClytToken& value = Next(token);
+        Expect(end == ',', ClytDue::ListSeparator);
+        const ClytToken& value = Next(token, ClytDue::ListSeparator);
         values.AddTail(value.GetText());
-        if (value.GetDelimiter() == ')')
-            return true;
-        if (value.GetDelimiter() != ',')
-            return false;
+        end = value.GetDelimiter();
     }
 }
 

@@ -8,9 +8,9 @@
 #pragma once
 
 #include "dlgfile/ClytLineSource.h"
+#include "dlgfile/ErrorSink.h"
 #include "dlgfile/Sections.h"
 #include "dlgfile/Tokenize.h"
-#include "environment/ErrorSink.h"
 #include "model/ClytCtrlValList.h"
 
 class ClytConditionFill;
@@ -88,16 +88,17 @@ private:
     int ReadSectionLine(POSITION& token, ClytLineKind kind);
 
     // The next token; where there is none it is the class library's failure, or that of a statement of wrong form.
-    const ClytToken& Next(POSITION& token);
-    const ClytToken& NextOrFail(POSITION& token);
-    void Tell(const char* number, const ClytSpan& place, const CString& argument = CString());
-    // Tells that the present statement is of wrong form, at the token taken last or at the place given.
-    [[noreturn]] void FailStatement();
-    [[noreturn]] void FailStatement(const ClytSpan& place);
+    const ClytToken& Next(POSITION& token, ClytDue due = ClytDue::Token);
+    const ClytToken& NextOrFail(POSITION& token, ClytDue due);
+    void Tell(const char* number, const ClytSpan& place, const CString& argument = CString(),
+              ClytDue due = ClytDue::Token);
+    // The present statement is of wrong form at the token taken last, unless what was due is there.
+    void Expect(bool isThere, ClytDue due);
+    [[noreturn]] void FailStatement(const ClytSpan& place, ClytDue due);
     [[noreturn]] void FailQuote(const char* line, const char* openQuote);
     // Where the present line ends.
     ClytSpan EndOfLine() const;
-    [[nodiscard]] bool ReadValueList(POSITION& token, CStringList& values);
+    void ReadValueList(POSITION& token, CStringList& values);
 
     int ReadHeaderStatement(CString& version, bool& isVersionSeen);
     [[nodiscard]] bool ReadHeaderLine();
@@ -116,7 +117,7 @@ private:
     void ReadInput(POSITION token, ClytDialogInput& statement);
     int ReadInputLine();
     void ReadInputConditions(POSITION token, ClytDialogInput& statement);
-    void ReadTargets(POSITION token, ClytDialogInput& statement);
+    void ReadTargets(POSITION token, ClytDialogInput& statement, ClytDue due);
     void ReadScanRule(POSITION token, ClytScanRule& rule);
     char ReadScanList(POSITION& token, ClytScan& scan);
     void ReadConditionFill(POSITION& token, ClytConditionFill& rule);

@@ -23,13 +23,11 @@ int ClytDialogFile::ReadDependencyStatement(ClytControlDep& rule)
 void ClytDialogFile::ReadDependency(POSITION token, ClytControlDep& rule)
 {
     const ClytToken& name = Next(token);
-    if (name.GetDelimiter() != '/')
-        FailStatement();
+    Expect(name.GetDelimiter() == '/', ClytDue::StateSign);
     rule.span = GetStatementPlace();
     rule.controlName = name.GetText();
-    const ClytToken& word = Next(token);
-    if (word.GetDelimiter() != '=')
-        FailStatement();
+    const ClytToken& word = Next(token, ClytDue::StateWord);
+    Expect(word.GetDelimiter() == '=', ClytDue::ConditionsSign);
     rule.stateWord = word.GetText();
     while (token != nullptr)
         ReadDependencyCondition(token, rule.conditions);
@@ -41,13 +39,11 @@ void ClytDialogFile::ReadDependencyCondition(POSITION& token, ClytConditions& co
     ClytCtrlValList& condition = conditions.AddTail(std::make_unique<ClytCtrlValList>(end->GetText(), PlaceOf(*end)));
     if (end->GetDelimiter() == '(')
     {
-        if (!ReadValueList(token, condition.GetValues()))
-            FailStatement();
+        ReadValueList(token, condition.GetValues());
         if (token == nullptr)
             return;
         // This is the empty token after the `)`. Only its delimiter counts, so a word in this place is passed over.
         end = &Next(token);
     }
-    if (end->GetDelimiter() != ',' && end->GetDelimiter() != '\n')
-        FailStatement();
+    Expect(end->GetDelimiter() == ',' || end->GetDelimiter() == '\n', ClytDue::ConditionEnd);
 }

@@ -27,39 +27,33 @@ void ClytDialogFile::ReadEvaluation(POSITION token, ClytCtrlValList& own, ClytCt
 {
     const ClytToken& name = Next(token);
     own.SetName(name.GetText(), PlaceOf(name));
-    switch (name.GetDelimiter())
-    {
-    case '(': ReadForbiddenPair(token, own, other, messageKey); break;
-    case '=': ReadForbiddenValue(token, own, messageKey); break;
-    default: FailStatement();
-    }
+    const bool isPair = name.GetDelimiter() == '(';
+    Expect(isPair || name.GetDelimiter() == '=', ClytDue::EvaluationSign);
+    if (isPair)
+        ReadForbiddenPair(token, own, other, messageKey);
+    else
+        ReadForbiddenValue(token, own, messageKey);
 }
 
 void ClytDialogFile::ReadForbiddenPair(POSITION token, ClytCtrlValList& own, ClytCtrlValList& other,
                                        CString& messageKey)
 {
-    if (!ReadValueList(token, own.GetValues()))
-        FailStatement();
+    ReadValueList(token, own.GetValues());
     if (token == nullptr)
         return;
-    if (Next(token).GetDelimiter() != '=')
-        FailStatement();
-    const ClytToken& name = NextOrFail(token);
-    if (name.GetDelimiter() != '(')
-        FailStatement();
+    Expect(Next(token).GetDelimiter() == '=', ClytDue::OtherSign);
+    const ClytToken& name = NextOrFail(token, ClytDue::OtherControl);
+    Expect(name.GetDelimiter() == '(', ClytDue::OtherControl);
     other.SetName(name.GetText(), PlaceOf(name));
-    if (!ReadValueList(token, other.GetValues()))
-        FailStatement();
-    if (NextOrFail(token).GetDelimiter() != ':')
-        FailStatement();
-    messageKey = NextOrFail(token).GetText();
+    ReadValueList(token, other.GetValues());
+    Expect(NextOrFail(token, ClytDue::MessageAfterList).GetDelimiter() == ':', ClytDue::MessageAfterList);
+    messageKey = NextOrFail(token, ClytDue::MessageAfterList).GetText();
 }
 
 void ClytDialogFile::ReadForbiddenValue(POSITION token, ClytCtrlValList& own, CString& messageKey)
 {
-    const ClytToken& value = NextOrFail(token);
-    if (value.GetDelimiter() != ':' && !lytMeans<ClytValueWord::Null>(value.GetText()))
-        FailStatement();
+    const ClytToken& value = NextOrFail(token, ClytDue::ValueAfterSign);
+    Expect(value.GetDelimiter() == ':' || lytMeans<ClytValueWord::Null>(value.GetText()), ClytDue::MessageAfterValue);
     own.GetValues().AddTail(value.GetText());
-    messageKey = NextOrFail(token).GetText();
+    messageKey = NextOrFail(token, ClytDue::MessageAfterValue).GetText();
 }

@@ -97,16 +97,15 @@ int ClytDialogFile::ReadInputStatement(ClytDialogInput& statement)
 void ClytDialogFile::ReadInput(POSITION token, ClytDialogInput& statement)
 {
     const ClytToken& name = Next(token);
-    if (name.GetDelimiter() != ':')
-        FailStatement();
+    Expect(name.GetDelimiter() == ':', ClytDue::StatementSign);
     statement.name = name.GetText();
     statement.span = GetStatementPlace();
     POSITION form = token;
-    const ClytToken& first = NextOrFail(form);
+    const ClytToken& first = NextOrFail(form, ClytDue::InputStatement);
     if (first.IsBare('('))
         ReadScanRule(form, statement.scanRule);
     else if (first.GetDelimiter() == '=')
-        ReadTargets(token, statement);
+        ReadTargets(token, statement, ClytDue::Target);
     else
         ReadInputConditions(token, statement);
 }
@@ -122,25 +121,26 @@ void ClytDialogFile::ReadInputConditions(POSITION token, ClytDialogInput& statem
     char end = '\0';
     while (end != '=')
     {
-        const ClytToken& control = NextOrFail(token);
+        const ClytToken& control = NextOrFail(token, ClytDue::TargetsSign);
         if (control.GetText().IsEmpty())
             continue;
         ClytCtrlValList& condition =
             statement.conditions.AddTail(std::make_unique<ClytCtrlValList>(control.GetText(), PlaceOf(control)));
         end = control.GetDelimiter();
+        const ClytDue due = end == '(' ? ClytDue::ListSeparator : ClytDue::TargetsSign;
         while (end != ')')
         {
-            const ClytToken& value = NextOrFail(token);
+            const ClytToken& value = NextOrFail(token, due);
             condition.GetValues().AddTail(value.GetText());
             end = value.GetDelimiter();
         }
-        end = NextOrFail(token).GetDelimiter();
+        end = NextOrFail(token, ClytDue::TargetsSign).GetDelimiter();
     }
-    ReadTargets(token, statement);
+    ReadTargets(token, statement, ClytDue::Targets);
 }
 
-void ClytDialogFile::ReadTargets(POSITION token, ClytDialogInput& statement)
+void ClytDialogFile::ReadTargets(POSITION token, ClytDialogInput& statement, ClytDue due)
 {
-    statement.trueTarget.name = NextOrFail(token).GetText();
-    statement.falseTarget.name = NextOrFail(token).GetText();
+    statement.trueTarget.name = NextOrFail(token, due).GetText();
+    statement.falseTarget.name = NextOrFail(token, due).GetText();
 }

@@ -49,7 +49,7 @@ int ClytDialogFile::ReadHeaderStatement(CString& version, bool& isVersionSeen)
     {
         isVersionSeen = true;
         if (tokens.GetCount() != 2)
-            FailStatement(GetLinePlace());
+            FailStatement(GetLinePlace(), tokens.GetCount() == 1 ? ClytDue::VersionWord : ClytDue::EndOfHeader);
         version = tokens.GetTail().GetText();
     }
     if (!lytSameWord(isVersion ? version : word, layoutWord))
@@ -102,7 +102,7 @@ int ClytDialogFile::ReadDialogHeader(int& width, int& height, CString& title, CS
                 return 0;
             }
             if (tokens.GetCount() != dialogWords)
-                FailStatement(GetLinePlace());
+                FailStatement(GetLinePlace(), ClytDue::Token);
             if (!lytSameWord(Next(token).GetText(), "Dialog"))
                 return 0;
             Next(token);
@@ -132,7 +132,7 @@ int ClytDialogFile::ReadControlStatement(ClytControlStatement& statement)
             if (lytSameWord(word, lytWordOf(ClytSection::Values)))
                 return 0;
             if (lytSameWord(word, "End"))
-                Next(token);
+                Next(token, ClytDue::DialogWord);
             else if (!word.IsEmpty())
                 ReadControl(word, token, statement);
             return 1;
@@ -149,7 +149,7 @@ void ClytDialogFile::ReadControl(const CString& type, POSITION token, ClytContro
 
 void ClytDialogFile::ReadControlOperands(POSITION token, ClytControlStatement& statement)
 {
-    const CString& first = NextOrFail(token).GetText();
+    const CString& first = NextOrFail(token, ClytDue::Operands).GetText();
     if (IsName(first))
     {
         statement.name = TakeName(first);
@@ -158,9 +158,8 @@ void ClytDialogFile::ReadControlOperands(POSITION token, ClytControlStatement& s
     statement.x = lytNumberOf(first);
     for (int* number : {&statement.y, &statement.width, &statement.height})
     {
-        const CString& operand = NextOrFail(token).GetText();
-        if (IsName(operand))
-            FailStatement();
+        const CString& operand = NextOrFail(token, ClytDue::Number).GetText();
+        Expect(!IsName(operand), ClytDue::Number);
         *number = lytNumberOf(operand);
     }
     if (token == nullptr)
@@ -179,7 +178,6 @@ void ClytDialogFile::ReadControlOperands(POSITION token, ClytControlStatement& s
 // The first character goes without being looked at, so a name in the last place that lacks its point is cut.
 CString ClytDialogFile::TakeName(const CString& operand)
 {
-    if (operand == ".")
-        FailStatement();
+    Expect(operand != ".", ClytDue::Name);
     return operand.Mid(1);
 }

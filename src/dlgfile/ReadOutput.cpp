@@ -32,22 +32,21 @@ void ClytDialogFile::ReadOutput(POSITION token, CString& groupName, ClytDialogOu
     bool isRightSide = tokens.GetAt(token).IsBare('(');
     while (true)
     {
-        const ClytToken& first = NextOrFail(token);
+        const ClytToken& first = NextOrFail(token, isRightSide ? ClytDue::Format : ClytDue::FormatSign);
         if (lytSameWord(first.GetText(), lytWordOf(ClytSection::Output)))
         {
-            groupName = NextOrFail(token).GetText();
+            groupName = NextOrFail(token, ClytDue::Token).GetText();
             return;
         }
         if (isRightSide)
         {
-            if (first.GetDelimiter() != '(')
-                FailStatement();
+            Expect(first.GetDelimiter() == '(', ClytDue::Format);
             break;
         }
         isRightSide = ReadOutputCondition(first, token, rule.conditions);
     }
     rule.span = GetStatementPlace();
-    rule.format = NextOrFail(token).GetText();
+    rule.format = NextOrFail(token, ClytDue::ListSeparator).GetText();
     while (token != nullptr)
         ReadOutputItem(token, rule);
 }
@@ -58,17 +57,15 @@ bool ClytDialogFile::ReadOutputCondition(const ClytToken& control, POSITION& tok
     auto condition = std::make_unique<ClytCtrlValList>(control.GetText(), PlaceOf(control));
     if (control.GetDelimiter() == '(')
     {
-        if (!ReadValueList(token, condition->GetValues()))
-            FailStatement();
+        ReadValueList(token, condition->GetValues());
         conditions.AddTail(std::move(condition));
-        const char end = NextOrFail(token).GetDelimiter();
-        if (end != ',' && end != '=')
-            FailStatement();
+        const char end = NextOrFail(token, ClytDue::FormatSign).GetDelimiter();
+        Expect(end == ',' || end == '=', ClytDue::FormatSign);
         return end == '=';
     }
     const bool isBareName = control.GetDelimiter() == ',' || control.GetDelimiter() == '=';
-    if (!isBareName || control.GetText().IsEmpty())
-        FailStatement();
+    Expect(!control.GetText().IsEmpty(), ClytDue::ControlName);
+    Expect(isBareName, ClytDue::FormatSign);
     conditions.AddTail(std::move(condition));
     return true;
 }
@@ -77,13 +74,10 @@ void ClytDialogFile::ReadOutputItem(POSITION& token, ClytDialogOutput& rule)
 {
     const ClytToken& item = Next(token);
     CString action;
-    switch (item.GetDelimiter())
-    {
-    case ',':
-    case ')': break;
-    case '(': action = ReadItemAction(token); break;
-    default: FailStatement();
-    }
+    if (item.GetDelimiter() == '(')
+        action = ReadItemAction(token);
+    else
+        Expect(item.GetDelimiter() == ',' || item.GetDelimiter() == ')', ClytDue::ListSeparator);
     rule.items.push_back({item.GetText(), action, PlaceOf(item)});
 }
 
@@ -95,11 +89,11 @@ CString ClytDialogFile::ReadItemAction(POSITION& token)
     char end = '\0';
     while (end != ')')
     {
-        const ClytToken& text = Next(token);
+        const ClytToken& text = Next(token, ClytDue::ListSeparator);
         end = text.GetDelimiter();
         if (end == ',' || end == ')')
             action += text.GetText();
     }
-    Next(token);
+    Next(token, ClytDue::ListSeparator);
     return action.IsEmpty() ? CString(lytTextOf(ClytFillAction::Concat)) : action;
 }

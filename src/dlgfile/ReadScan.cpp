@@ -28,10 +28,10 @@ void ClytDialogFile::ReadScanRule(POSITION token, ClytScanRule& rule)
 // that ended the list.
 char ClytDialogFile::ReadScanList(POSITION& token, ClytScan& scan)
 {
-    const ClytToken* inHand = &NextOrFail(token);
+    const ClytToken* inHand = &NextOrFail(token, ClytDue::Piece);
     while (inHand->GetDelimiter() != ')')
     {
-        const ClytToken& target = NextOrFail(token);
+        const ClytToken& target = NextOrFail(token, ClytDue::PieceTarget);
         const int length = lytNumberOf(inHand->GetText());
         if (length != 0)
             scan.SetFixedLength(length, target.GetText(), PlaceOf(*inHand));
@@ -40,8 +40,7 @@ char ClytDialogFile::ReadScanList(POSITION& token, ClytScan& scan)
         if (target.GetDelimiter() == '=')
             return '=';
         inHand = token != nullptr ? &Next(token) : &target;
-        if (inHand->GetDelimiter() != ')' && token == nullptr)
-            FailStatement();
+        Expect(inHand->GetDelimiter() == ')' || token != nullptr, ClytDue::PieceTarget);
     }
     return ')';
 }
@@ -55,12 +54,11 @@ void ClytDialogFile::ReadConditionFill(POSITION& token, ClytConditionFill& rule)
         char end = ',';
         while (end == ',')
         {
-            const ClytToken& value = NextOrFail(token);
+            const ClytToken& value = NextOrFail(token, ClytDue::ListSeparator);
             rule.values.AddTail(value.GetText());
             end = value.GetDelimiter();
         }
-        if (end != ')')
-            FailStatement();
+        Expect(end == ')', ClytDue::ListSeparator);
         if (token != nullptr && tokens.GetAt(token).IsBare(','))
             Next(token);
     }
@@ -69,41 +67,37 @@ void ClytDialogFile::ReadConditionFill(POSITION& token, ClytConditionFill& rule)
 
 void ClytDialogFile::ReadControlFill(POSITION& token, ClytControlFill& fill)
 {
-    const ClytToken* end = &NextOrFail(token);
+    const ClytToken* end = &NextOrFail(token, ClytDue::ControlName);
     fill.controlName = end->GetText();
     fill.span = PlaceOf(*end);
-    if (fill.controlName.IsEmpty())
-        FailStatement();
+    Expect(!fill.controlName.IsEmpty(), ClytDue::ControlName);
     if (end->GetDelimiter() == '(')
     {
         ReadFillAction(token, fill);
         if (token == nullptr)
             return;
         end = &Next(token);
-        if (!end->GetText().IsEmpty())
-            FailStatement();
+        Expect(end->GetText().IsEmpty(), ClytDue::FillEnd);
     }
     else if (end->GetDelimiter() == '=')
     {
-        end = &NextOrFail(token);
+        end = &NextOrFail(token, ClytDue::ValueAfterSign);
         fill.value = end->GetText();
     }
     const bool isLast = token == nullptr && std::strchr("\t\n;", end->GetDelimiter()) != nullptr;
-    if (end->GetDelimiter() != ',' && !isLast)
-        FailStatement();
+    Expect(end->GetDelimiter() == ',' || isLast, ClytDue::FillEnd);
 }
 
 void ClytDialogFile::ReadFillAction(POSITION& token, ClytControlFill& fill)
 {
-    const ClytToken* last = &NextOrFail(token);
+    const ClytToken* last = &NextOrFail(token, ClytDue::ListSeparator);
     fill.action = last->GetText();
     for (CString& operand : fill.operands)
     {
         if (last->GetDelimiter() != ',')
             break;
-        last = &NextOrFail(token);
+        last = &NextOrFail(token, ClytDue::ListSeparator);
         operand = last->GetText();
     }
-    if (last->GetDelimiter() != ')')
-        FailStatement();
+    Expect(last->GetDelimiter() == ')', ClytDue::ListSeparator);
 }

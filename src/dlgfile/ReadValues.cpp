@@ -20,8 +20,7 @@ int ClytDialogFile::ReadValueStatement(CString& name, CString& keyword, CStringL
                 return 0;
             if (token == nullptr)
                 return 1;
-            if (tokens.GetCount() == 1)
-                FailStatement();
+            Expect(tokens.GetCount() != 1, ClytDue::Value);
 
             name = Next(token).GetText();
             if (tokens.GetCount() > 2)

@@ -15,11 +15,11 @@ std::string Shown(const ClytSpan& place)
 class KeepingSink final : public ErrorSink
 {
 public:
-    void Tell(std::unique_ptr<ClytException> failure, const ClytSpan& place) override
+    void Tell(std::unique_ptr<ClytException> failure, const ClytSpan& place, ClytDue /*due*/) override
     {
         told += Shown(place) + " " + failure->GetNumber().GetString() + " " + failure->GetArgument().GetString() + "\n";
     }
-    void TellShortLine(const ClytSpan& place) override { told += Shown(place) + " short\n"; }
+    void TellShortLine(const ClytSpan& place, ClytDue /*due*/) override { told += Shown(place) + " short\n"; }
 
     std::string told;
 };

@@ -78,7 +78,7 @@ class RecordingSink final : public ErrorSink
 public:
     explicit RecordingSink(std::string& heard) : m_heard(heard) {}
 
-    void Tell(std::unique_ptr<ClytException> failure, const ClytSpan& place) override
+    void Tell(std::unique_ptr<ClytException> failure, const ClytSpan& place, ClytDue /*due*/) override
     {
         m_heard += Record("failure")
                        .Add(failure->GetNumber())
@@ -87,7 +87,10 @@ public:
                        .Add(place.line)
                        .Line();
     }
-    void TellShortLine(const ClytSpan& place) override { m_heard += Record("short").Add(place.line).Line(); }
+    void TellShortLine(const ClytSpan& place, ClytDue /*due*/) override
+    {
+        m_heard += Record("short").Add(place.line).Line();
+    }
 
 private:
     std::string& m_heard;

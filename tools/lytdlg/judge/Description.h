@@ -18,6 +18,7 @@ struct Mistake
 {
     std::string number; // of the library's message; empty when the line ends too early in a place without a number
     ClytSpan place;
+    ClytDue due = ClytDue::Token;
 };
 
 struct ValueStatement

@@ -25,11 +25,11 @@ private:
     {
     public:
         explicit Sink(std::vector<Mistake>& target) : m_mistakes(target) {}
-        void Tell(std::unique_ptr<ClytException> failure, const ClytSpan& place) override
+        void Tell(std::unique_ptr<ClytException> failure, const ClytSpan& place, ClytDue due) override
         {
-            m_mistakes.push_back({failure->GetNumber().GetString(), place});
+            m_mistakes.push_back({failure->GetNumber().GetString(), place, due});
         }
-        void TellShortLine(const ClytSpan& place) override { m_mistakes.push_back({"", place}); }
+        void TellShortLine(const ClytSpan& place, ClytDue due) override { m_mistakes.push_back({"", place, due}); }
 
     private:
         std::vector<Mistake>& m_mistakes;

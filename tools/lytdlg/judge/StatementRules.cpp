@@ -10,19 +10,23 @@ namespace lytdlg
 namespace
 {
 
-RuleName RuleOf(Section section)
+// The rule that the form of a section's statements has, and the forms that they may have.
+struct FormRule
 {
-    switch (section)
-    {
-    case Section::Head: return "version-form";
-    case Section::Layout: return "control-form";
-    case Section::Values: return "value-form";
-    case Section::Dependencies: return "rule-form";
-    case Section::Evaluation: return "check-form";
-    case Section::Input: return "scan-form";
-    default: return "output-form";
-    }
-}
+    RuleName rule;
+    const char* forms;
+};
+
+const FormRule formRules[] = {
+    {"version-form", "write \"$VERSION 1\""},
+    {"control-form", "write TYPE LEFT, TOP, WIDTH, HEIGHT, \"TEXT\", .NAME, or OptionGroup .NAME"},
+    {"value-form", "write NAME = VALUE, or NAME: KEYWORD = VALUE"},
+    {"rule-form", "write NAME/STATE = CONTROL(VALUE, VALUE), CONTROL"},
+    {"check-form", "write NAME = VALUE: MESSAGE, or NAME(VALUE, VALUE) = CONTROL(VALUE, VALUE): MESSAGE"},
+    {"scan-form",
+     "write NAME: (\"SEPARATOR\", NEXT = CONTROL, or NAME: CONTROL(VALUE) = NEXT, OTHER, or NAME: x = NEXT"},
+    {"output-form", "write (\"FORMAT\", ITEM, ITEM), with conditions CONTROL(VALUE), CONTROL(VALUE) = before it"},
+};
 
 // Headers, the line of the dialog, and marks that are indented, have separate rules.
 bool IsStatement(const Description& description, const SourceLine& line)
@@ -47,9 +51,10 @@ void AddMistake(const Case& judged, const Mistake& mistake)
     const bool isOfForm = mistake.number == lytError("LineForm") || mistake.number.empty();
     if (!isOfForm || !IsStatement(description, line))
         return;
+    const FormRule& form = formRules[static_cast<size_t>(line.section)];
     Finding& finding =
-        judged.findings.Add(RuleOf(line.section), description.PlaceOf(line.number),
-                            WhatIsWrong(line.text, line.section, mistake.place.column), FormsOf(line.section));
+        judged.findings.Add(form.rule, description.PlaceOf(line.number),
+                            WhatIsWrong(line.text, line.section, mistake.place.column, mistake.due), form.forms);
     if (mistake.place.column >= finding.place.column)
         finding.place = mistake.place;
     finding.number =

@@ -1,6 +1,7 @@
 // The words of a statement, and what is wrong with its form.
 #pragma once
 
+#include "dlgfile/ErrorSink.h"
 #include "lytdlg/judge/DescriptionText.h"
 
 namespace lytdlg
@@ -19,8 +20,6 @@ std::vector<LineToken> TokensOf(const std::string& line, Section section);
 
 // What is wrong with the form of a statement, in words. The column is where the reader gave up: a word, or the end of the
 // line.
-std::string WhatIsWrong(const std::string& line, Section section, int column);
-// The forms that a statement of the section may have.
-std::string FormsOf(Section section);
+std::string WhatIsWrong(const std::string& line, Section section, int column, ClytDue due);
 
 } // namespace lytdlg

@@ -89,14 +89,14 @@ public:
     explicit RefusalSink(NumberedLines& numberedLines) : m_lines(numberedLines) {}
 
     // That the file ends where more was due is no fault of its last line.
-    void Tell(std::unique_ptr<ClytException> failure, const ClytSpan& place) override
+    void Tell(std::unique_ptr<ClytException> failure, const ClytSpan& place, ClytDue due) override
     {
         const bool isOfEnd = std::ranges::any_of(ofEndOfFile, [&](const char* number)
                                                  { return lytSameWord(failure->GetNumber(), number); });
         if (!isOfEnd || place.length != 0)
-            TellShortLine(place);
+            TellShortLine(place, due);
     }
-    void TellShortLine(const ClytSpan& place) override
+    void TellShortLine(const ClytSpan& place, ClytDue /*due*/) override
     {
         m_lines.At(place.line, [](DescriptionLine& line) { line.isRefused = true; });
     }

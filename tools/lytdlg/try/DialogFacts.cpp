@@ -60,15 +60,15 @@ private:
 class PlaceSink final : public ErrorSink
 {
 public:
-    void Tell(std::unique_ptr<ClytException> failure, const ClytSpan& place) override
+    void Tell(std::unique_ptr<ClytException> failure, const ClytSpan& place, ClytDue due) override
     {
         m_line = place.line;
-        lytRaisingSink().Tell(std::move(failure), place);
+        lytRaisingSink().Tell(std::move(failure), place, due);
     }
-    void TellShortLine(const ClytSpan& place) override
+    void TellShortLine(const ClytSpan& place, ClytDue due) override
     {
         m_line = place.line;
-        lytRaisingSink().TellShortLine(place);
+        lytRaisingSink().TellShortLine(place, due);
     }
     int Line() const { return m_line; }
 
