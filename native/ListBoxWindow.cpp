@@ -157,8 +157,8 @@ int ListBoxWindow::VisibleItems() const
 LRESULT ListBoxWindow::ItemRect(int index, RECT& rect) const
 {
     rect = {};
-    // An empty list, too, knows where an item before the first would be.
-    if (index != -1 && !m_items.Has(index))
+    // An empty list, too, knows where its first item would be, and one before it.
+    if (index != -1 && index != 0 && !m_items.Has(index))
         return LB_ERR;
     const int top = (index - m_top) * m_itemHeight;
     const SIZE client = ClientSize();

@@ -3,6 +3,7 @@
 #include "res/resource.h"
 
 #include <algorithm>
+#include <cstring>
 #include <map>
 #include <stdexcept>
 #include <vector>
@@ -158,17 +159,61 @@ void PrintRelativesInTree(Words& words)
     Print("before none: %s", words.On().NameOf(tree.GetPrevSiblingItem(nullptr)).c_str());
 }
 
-void PrintPlace(Words& words)
+void PrintSize(Words& words)
+{
+    const CWnd& window = *CWnd::FromHandle(words.Handle());
+    CRect outer;
+    CRect inner;
+    window.GetWindowRect(&outer);
+    window.GetClientRect(&inner);
+    Print("%d by %d, client %d by %d", outer.Width(), outer.Height(), inner.Width(), inner.Height());
+}
+
+void PrintCorner(Words& words)
 {
     CWnd& window = words.Window();
     CRect place;
-    CRect client;
     CRect dialog;
     window.GetWindowRect(&place);
     window.GetParent()->GetWindowRect(&dialog);
-    window.GetClientRect(&client);
-    Print("%ld %ld, %d by %d, client %d by %d", static_cast<long>(place.left - dialog.left),
-          static_cast<long>(place.top - dialog.top), place.Width(), place.Height(), client.Width(), client.Height());
+    Print("%ld %ld", static_cast<long>(place.left - dialog.left), static_cast<long>(place.top - dialog.top));
+}
+
+// What texts measure in the font of the window, at the resolution of the screen.
+void PrintTextSizes(Words& words)
+{
+    static constexpr const char* texts[] = {"",
+                                            " ",
+                                            "OK",
+                                            "Cancel",
+                                            "Hello World, AVAToTe",
+                                            "iiiWWW",
+                                            "0123456789",
+                                            "a&b && c",
+                                            "\xC4\xD6\xDC\xE4\xF6\xFC\xDF",
+                                            "The quick brown fox jumps over the lazy dog.",
+                                            "kWh/(m2a)",
+                                            "tab\tand\xA0more"};
+    const CWnd& window = words.Window();
+    const CClientDC device(&window);
+    const HGDIOBJ before = device.SelectObject(reinterpret_cast<HGDIOBJ>(window.SendMessage(WM_GETFONT)));
+    TEXTMETRICA metrics{};
+    ::GetTextMetricsA(device.m_hDC, &metrics);
+    Print("%d dots per inch, height %d", device.GetDeviceCaps(LOGPIXELSX), static_cast<int>(metrics.tmHeight));
+    for (int index = 0; const char* text : texts)
+    {
+        const CSize size = device.GetTextExtent(text, static_cast<int>(std::strlen(text)));
+        Print("text %d: %d by %d", index++, static_cast<int>(size.cx), static_cast<int>(size.cy));
+    }
+    device.SelectObject(before);
+}
+
+void PrintMulDiv(Words& words)
+{
+    const int number = words.Number();
+    const int numerator = words.Number();
+    const int denominator = words.Number();
+    Print("%d * %d / %d = %d", number, numerator, denominator, MulDiv(number, numerator, denominator));
 }
 
 void PrintRelatives(Words& words)
@@ -278,6 +323,13 @@ void Replace(Words& words)
     robot::ReplaceText(edit, words.Rest());
 }
 
+void Resize(Words& words)
+{
+    const CWnd& window = words.Window();
+    const int width = words.Number();
+    window.SetWindowPos(nullptr, 0, 0, width, words.Number(), SWP_NOZORDER | SWP_NOMOVE);
+}
+
 void MoveTo(Words& words)
 {
     const CWnd& window = words.Window();
@@ -349,6 +401,7 @@ const std::map<std::string, void (*)(Words& words), std::less<>> deeds = {
     {"focus", [](Words& words) { ::SetFocus(words.Handle()); }},
     {"group", [](Words& words) { words.Window().ModifyStyle(0, WS_GROUP); }},
     {"move", MoveTo},
+    {"resize", Resize},
     {"set-text", [](Words& words) { words.Window().SetWindowText(words.Rest().c_str()); }},
     {"set-no-text", [](Words& words) { words.Window().SetWindowText(nullptr); }},
     {"select", SelectText},
@@ -374,7 +427,10 @@ const std::map<std::string, void (*)(Words& words), std::less<>> deeds = {
     // What is printed.
     {"state", PrintStates},
     {"text", [](Words& words) { Print("'%s'", TextOf(words.Window()).c_str()); }},
-    {"place", PrintPlace},
+    {"corner", PrintCorner},
+    {"size", PrintSize},
+    {"text-sizes", PrintTextSizes},
+    {"mul-div", PrintMulDiv},
     {"relatives", PrintRelatives},
     {"item-place", PrintItemPlace},
     {"tree-place", PrintTreePlace},
@@ -472,6 +528,8 @@ HWND Words::Handle()
         return ::GetFocus();
     if (word == "none")
         return nullptr;
+    if (word == "field")
+        return ::GetWindow(Handle(), GW_CHILD);
     return word == "dialog" ? m_stage.m_hWnd : ::GetDlgItem(m_stage.m_hWnd, std::stoi(word));
 }
 

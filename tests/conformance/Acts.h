@@ -16,7 +16,7 @@ public:
     int Number();
     // All that is left.
     std::string Rest();
-    // A window by its number, or "dialog", "top" (the topmost dialog), "focus" or "none".
+    // A window by its number, or "dialog", "top" (the topmost dialog), "focus", "none", or "field" and a combo box's number.
     HWND Handle();
     CWnd& Window() { return m_stage.Control(Number()); }
     template <class WINDOW>

@@ -157,7 +157,6 @@ private:
 // A key of the keyboard, down and up.
 void Strike(UINT key);
 
-void Measuring();
 // Of the sequences from one number to before another; a shown one prints every act and state.
 void Generated(unsigned begin, unsigned end, bool isShown);
 void Meddled(unsigned begin, unsigned end, bool isShown);
