@@ -1,11 +1,9 @@
 // One process that runs for long: after a thousand times of each thing it holds no more than it did
 // when everything was warm.
 //
-// The tests are in the order in which they have to run: the library can only be loaded and unloaded before anything
-// keeps it, and the catalogue's tests take it away after each.
+// The tests are in the order in which they have to run: the catalogue's take the library away after each.
 #include "cases/CaseRun.h"
 #include "report/ReportTest.h"
-#include "support/FreshLibrary.h"
 #include "support/Holdings.h"
 #include "support/Leaks.h"
 #include "tree/TreeFixture.h"
@@ -71,18 +69,6 @@ protected:
 };
 
 } // namespace
-
-TEST(LongRunOfLoads, HoldsNothingMore)
-{
-    ASSERT_FALSE(FreshLibrary::IsLoaded());
-    RunLong(200,
-            []
-            {
-                const FreshLibrary library;
-                char text[75] = "";
-                library.Get<decltype(lytGetTextForKey)>("lytGetTextForKey")("Buttons", "001", "", text, sizeof text);
-            });
-}
 
 TEST_F(LongRunOfForms, WithEveryControlHoldsNothingMore)
 {

@@ -43,14 +43,6 @@ protected:
 
 } // namespace
 
-TEST_F(Hardware, NameLineStandsAfterTheProgramKind)
-{
-    const Texts lines = Report();
-    ASSERT_GT(lines.size(), 2U);
-    EXPECT_TRUE(lines[1].starts_with("Microsoft Windows ")) << lines[1];
-    EXPECT_TRUE(lines[2].starts_with("Number Of Processors : ")) << lines[2];
-}
-
 TEST_F(Hardware, NamesTheReleaseThatThePlatformTells)
 {
     OSVERSIONINFOEXA version = {};

@@ -45,15 +45,6 @@ TEST_F(SearchPath, ListsTheResourceLibrariesOfEachDirectory)
                      Lower(installed) + "\\LytRes1.dll"}));
 }
 
-TEST_F(SearchPath, ConfigurationFileThatIsThereAddsNoLine)
-{
-    WriteIni("[paths]\r\nGUI-HOME=C:\\gui\r\n");
-    const Texts lines = Report();
-    EXPECT_FALSE(HasLine(lines, "Error: "));
-    EXPECT_FALSE(HasLine(lines, "Internal Error"));
-    EXPECT_TRUE(HasLine(lines, "GUI-HOME                       : C:\\gui"));
-}
-
 TEST_F(SearchPath, ConfigurationFileThatIsMissingIsTold)
 {
     const Texts lines = Report();
