@@ -32,7 +32,7 @@ std::string Description(int fields)
     return text();
 }
 
-std::string ContentOf(const std::string& name)
+std::string TextOf(const std::string& name)
 {
     std::ifstream file(name, std::ios::binary);
     return {std::istreambuf_iterator<char>(file), {}};
@@ -64,10 +64,10 @@ void MeasureCheck(const BenchMeter& meter)
         {"ours",
          [&]
          {
-             const lytdlg::Description description(name, ContentOf(name), {});
+             const lytdlg::Description description(name, TextOf(name), {});
              Discard(lytdlg::Judge(description, lytdlg::SurroundingsOf(folder.Path(), {})).All().data());
          }},
-        {"reading", [&] { lytdlg::Description(name, ContentOf(name), {}); }},
+        {"reading", [&] { lytdlg::Description(name, TextOf(name), {}); }},
     });
 }
 
@@ -77,7 +77,7 @@ void MeasureFmt(const BenchMeter& meter)
     const std::string name = folder.Write("grown.dlg", Description(meter.Size()));
     const std::string target = folder.File("copy.dlg");
     meter.Compare({
-        {"ours", [&] { Discard(lytdlg::FormattedDescription(name, ContentOf(name)).size()); }},
+        {"ours", [&] { Discard(lytdlg::FormattedDescription(name, TextOf(name)).size()); }},
         {"copy", [&] { CopyLines(name, target); }},
     });
 }

@@ -47,7 +47,7 @@ public:
         }
         for (const std::string& line : lines.acts)
         {
-            m_stage.Act(line, [this, act = ReadActs(m_stage, line)] { act(); });
+            m_stage.Act(line, ReadActs(m_stage, line));
             for (const auto& look : m_looks)
                 m_stage.Look(look);
         }

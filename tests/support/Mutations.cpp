@@ -100,7 +100,7 @@ void CutEnd(std::string& text, Dice& dice)
     text.resize(text.size() - std::min(text.size(), dice.Is(3) ? dice.Below(text.size() + 1) : 1));
 }
 
-std::string Words(Dice& dice)
+std::string StatementOf(Dice& dice)
 {
     static const std::vector<std::string> words = {"A",    "Name",     "28",    "\"Text\"", ".Name", "\"%s\"",
                                                    "NULL", "End",      "\"|\"", "\" ; \"",  "\"\"",  "a b",
@@ -136,7 +136,7 @@ std::string Mutations::Generated(unsigned number)
                                 "$OUTPUT,p", "$OUTPUT , q", "$END"})
     {
         for (size_t count = dice.Below(7); count > 0; --count)
-            text += dice.Is(9) ? dice.Of(pieces) + "\n" : Words(dice) + (dice.Is(20) ? "\r\n" : "\n");
+            text += dice.Is(9) ? dice.Of(pieces) + "\n" : StatementOf(dice) + (dice.Is(20) ? "\r\n" : "\n");
         (text += heading) += "\n";
     }
     return text;

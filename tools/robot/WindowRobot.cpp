@@ -15,7 +15,7 @@ namespace
 constexpr UINT tickMilliseconds = 5;
 constexpr int messageTextId = 0xFFFF;
 
-Robot* current = nullptr;
+Robot* driven = nullptr;
 int boxesOfAct = 0;
 HWND answeredBox = nullptr;
 
@@ -259,7 +259,7 @@ std::string LabelOf(HWND tree, HTREEITEM item)
 Robot::Robot(UINT limitInMilliseconds)
     : m_timer(SetTimer(nullptr, 0, tickMilliseconds, Tick)),
       m_deadline(GetTickCount64() + commandline::Patience(limitInMilliseconds)),
-      m_previous(std::exchange(current, this))
+      m_previous(std::exchange(driven, this))
 {
     BeginAct();
 }
@@ -267,7 +267,7 @@ Robot::Robot(UINT limitInMilliseconds)
 Robot::~Robot()
 {
     KillTimer(nullptr, m_timer);
-    current = m_previous;
+    driven = m_previous;
 }
 
 Robot& Robot::On(const std::string& caption, std::function<void(HWND)> act)
@@ -312,7 +312,7 @@ Robot& Robot::AnswerAll(int most)
 
 void Robot::Tick(HWND /*window*/, UINT /*message*/, UINT_PTR /*timer*/, DWORD /*time*/)
 {
-    Robot* const robot = current;
+    Robot* const robot = driven;
     if (robot == nullptr)
         return;
     // The platform called this, and nothing may be raised through it.

@@ -10,7 +10,7 @@ namespace
 // From this version on the values are named by tags.
 constexpr int firstWithTags = 16;
 
-CString DataText(const RegistryValue& value)
+CString LanguageText(const RegistryValue& value)
 {
     if (value.type != registryNumber)
         return TextOf(value);
@@ -38,5 +38,5 @@ CString EnabledLanguageLine(int n, const RegistryValue& value)
     CString language = value.name;
     if (n < firstWithTags)
         FindLanguageTag(lytNumberOf(value.name), language);
-    return language + "=" + DataText(value);
+    return language + "=" + LanguageText(value);
 }

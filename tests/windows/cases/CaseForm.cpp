@@ -18,7 +18,7 @@ bool IsShort(const std::string& line)
     return line.find(',') == std::string::npos && !line.starts_with("OptionGroup");
 }
 
-std::string NameOf(const std::string& line)
+std::string NameIn(const std::string& line)
 {
     return line.substr(line.find_last_of(IsShort(line) ? ' ' : '.') + 1);
 }
@@ -70,7 +70,7 @@ std::string CaseForm::Dialog::Text(const std::string& title) const
         const std::string place = std::to_string(8 + row / rowsPerColumn * columnWidth) + ", " +
                                   std::to_string(6 + row % rowsPerColumn * rowHeight) + ", 130, " +
                                   std::to_string(HeightOf(type) * rowHeight - 4);
-        description.controls += type + " " + place + ", \"" + NameOf(line) + "\", ." + NameOf(line) + "\n";
+        description.controls += type + " " + place + ", \"" + NameIn(line) + "\", ." + NameIn(line) + "\n";
         row += HeightOf(type);
     }
     const int width = (row / rowsPerColumn + 1) * columnWidth + 10;
@@ -127,7 +127,7 @@ void CaseForm::Write(const TestFolder& folder) const
         folder.Write((name.empty() ? "lytInSym" : name) + ".dlg", dialog.Text(name.empty() ? "Title" : name));
         texts.emplace(name, name);
         for (const std::string& line : dialog.Layout())
-            texts.emplace(NameOf(line), NameOf(line));
+            texts.emplace(NameIn(line), NameIn(line));
     }
     std::string lines = "[TEXTS]\r\n";
     for (const auto& [key, text] : texts)
@@ -145,7 +145,7 @@ HWND CaseForm::Window(HWND dialog, const std::string& name) const
     size_t place = 0;
     for (const std::string& line : described->second.Layout())
     {
-        if (NameOf(line) == name)
+        if (NameIn(line) == name)
             return robot::ChildAt(dialog, place);
         place += HasWindow(line) ? 1 : 0;
     }
@@ -169,7 +169,7 @@ bool CaseForm::Has(const std::string& name) const
     {
         for (const std::string& line : dialog.Layout())
         {
-            if (NameOf(line) == name)
+            if (NameIn(line) == name)
                 return true;
         }
     }

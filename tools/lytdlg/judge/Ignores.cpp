@@ -9,7 +9,7 @@ namespace lytdlg
 namespace
 {
 
-constexpr const char* mark = "; lytdlg: ignore";
+constexpr const char* remarkBegin = "; lytdlg: ignore";
 
 struct Remark
 {
@@ -23,10 +23,10 @@ std::vector<Remark> RemarksOf(const DescriptionText& text)
     std::vector<Remark> remarks;
     for (const SourceLine& line : text.Lines())
     {
-        const size_t start = line.text.find(mark);
+        const size_t start = line.text.find(remarkBegin);
         if (start == std::string::npos)
             continue;
-        const std::string rest = line.text.substr(start + std::string(mark).size());
+        const std::string rest = line.text.substr(start + std::string(remarkBegin).size());
         const size_t word = std::min(rest.find_first_not_of(' '), rest.size());
         const size_t end = std::min(rest.find(' ', word), rest.size());
         Remark& remark = remarks.emplace_back();

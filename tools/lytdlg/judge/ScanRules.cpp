@@ -175,13 +175,11 @@ void JudgeCircles(const Case& judged, const InputPart& part)
 // The next line of the section that is read; null after its last.
 const SourceLine* LineAfter(const DescriptionText& text, int number)
 {
-    for (auto index = static_cast<size_t>(number); index < text.Lines().size(); ++index)
-    {
-        const SourceLine& line = text.Lines()[index];
-        if (line.isRead && !line.isStray && line.section == Section::Input)
-            return &line;
-    }
-    return nullptr;
+    const std::vector<SourceLine>& lines = text.Lines();
+    const auto next = std::find_if(lines.begin() + number, lines.end(),
+                                   [](const SourceLine& line)
+                                   { return line.isRead && !line.isStray && line.section == Section::Input; });
+    return next != lines.end() ? &*next : nullptr;
 }
 
 // Where a tab or a `;` comes after a word and outside quotes; npos without one.
