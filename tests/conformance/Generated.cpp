@@ -302,19 +302,16 @@ private:
         const std::string text = m_isPlain ? m_dice.Of(plain) : m_dice.Of(any);
         Tell("replace by " + text);
         const bool isCombo = IsClass(child, "ComboBox") && GetWindow(child, GW_CHILD) != nullptr;
-        if (IsClass(child, "Edit") || (isCombo && !m_isPlain))
+        if (IsClass(child, "Edit") || isCombo)
             robot::ReplaceText(child, text);
     }
-    // A free text in a combo box does not come back: set by a scan, it is beside the choice, which counts.
-    bool MayType() const { return !m_isPlain || IsClass(GetParent(GetFocus()), "#32770"); }
     void StrikeKey(HWND /*dialog*/)
     {
         static constexpr UINT keys[] = {VK_TAB,  VK_TAB, VK_DOWN,  VK_UP,    VK_LEFT,   VK_RIGHT,
                                         VK_HOME, VK_END, VK_SPACE, VK_SPACE, VK_RETURN, VK_ESCAPE};
         const UINT key = m_dice.Of(keys);
         Tell("key " + std::to_string(key));
-        if (key != VK_SPACE || MayType())
-            robot::PressKey(key);
+        robot::PressKey(key);
     }
     void TypeLetters(HWND /*dialog*/)
     {
@@ -322,8 +319,7 @@ private:
         static constexpr const char* any[] = {";", "(b", ")", " ", "\\n"};
         const std::string text = m_isPlain ? m_dice.Of(plain) : m_dice.Of(any);
         Tell("type " + text);
-        if (MayType())
-            robot::TypeText(text);
+        robot::TypeText(text);
     }
     void StrikeMnemonic(HWND /*dialog*/)
     {

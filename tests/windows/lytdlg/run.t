@@ -147,7 +147,7 @@ A dialog is opened, worked and ended: states, the order of the acts, endings.
     StandardLabel  Text         enabled  shown  text "Stan&dard:"
     Standard       TextBox      enabled  shown  ""
     InspectorLabel Text         enabled  shown  text "&Inspector:"
-    Inspector      ComboBox     enabled  shown  "Office" of "" ("(not named)"), "Team North", "Team South", "Office" ("Outside office")
+    Inspector      ComboBox     enabled  shown  "Office" of "" ("(not named)"), "Team North", "Team South", "Office" ("Outside office"), "Office"
     -              GroupBox     enabled  shown  text "Options"
     Pictures       CheckBox     enabled  shown  "P"
     Costs          CheckBox     enabled  shown  "C"

@@ -46,7 +46,7 @@ Texts are taken apart and composed.
   $ lytdlg scan dialogs/why.dlg --input 'K:a|b|c'
   line 42 Start: Kind takes "K"
   line 44 First: Twice takes "a|b|c"
-  line 44 First: Short takes "a|b|c"
+  line 44 First: Short takes "a|b|c", but nothing is chosen in it
   the scan ended at the end of the text
 
   $ lytdlg compose samples/dialogs/lytInSym.dlg --input 'S1:area(2,m2)' --set Missing=none

@@ -88,3 +88,40 @@ Each way to be hidden, disabled or empty.
   not opened
   error 212 in line 7 = "Line '4' of the description has the wrong form. Correct it."
   [1]
+
+A text that an input puts into a combo box beside its items is lost. Every command gives the value that the library has.
+
+  $ sed 's/Inspector(ADD), Inspector/Inspector/' samples/dialogs/lytRpGrp.dlg >samples/dialogs/lost.dlg
+  $ cat >lost.case <<'END'
+  > dialog: samples/dialogs/lost.dlg
+  > case: an own name
+  > input: (F;R;roofing;Z. Zorn;;;--;;;)
+  > expect Inspector = "Z. Zorn"
+  > END
+
+  $ lytdlg check samples/dialogs/lost.dlg | sed -n 1,4p
+  samples/dialogs/lost.dlg:135:40: warning scan-combo: a text that is no item of "Inspector" shows in its field, and is lost
+          Inspector: (";", Rooms, ")", End = Inspector  ; any name is an item by then
+                                             ^~~~~~~~~
+      hint: write Inspector(ADD), Inspector, or make it a DropListBox
+
+  $ lytdlg run samples/dialogs/lost.dlg --input '(F;R;roofing;Z. Zorn;;;--;;;)' | grep 'Inspector '
+    Inspector      ComboBox     enabled  shown  "" of "" ("(not named)"), "Team North", "Team South", "Office" ("Outside office"); the field shows "Z. Zorn", which is no item and gets lost
+
+  $ lytdlg why samples/dialogs/lost.dlg Inspector --input '(F;R;roofing;Z. Zorn;;;--;;;)'
+  Inspector is shown and enabled; its value is "".
+  The scan came to it in line 135 (statement Inspector): it takes "Z. Zorn".
+  Now the field shows "Z. Zorn", which is no item and gets lost.
+
+  $ lytdlg scan samples/dialogs/lost.dlg --input '(F;R;roofing;Z. Zorn;;;--;;;)' | grep Inspector
+  line 135 Inspector: Inspector takes "Z. Zorn", but its value is ""
+
+  $ lytdlg preview samples/dialogs/lost.dlg --input '(F;R;roofing;Z. Zorn;;;--;;;)' -o lost.svg
+  lytdlg: samples/dialogs/lost.dlg: Inspector has the value ""; the field shows "Z. Zorn", which is no item and gets lost
+
+  $ lytdlg test lost.case
+  lost.case:4: an own name
+      expected: expect Inspector = "Z. Zorn"
+      got:      expect Inspector = ""
+  0 passed, 1 failed
+  [1]

@@ -4,6 +4,7 @@
 #include "lytdlg/draw/Snapshot.h"
 #include "lytdlg/draw/SvgPen.h"
 #include "lytdlg/text/TextFile.h"
+#include "lytdlg/try/ControlState.h"
 #include "lytdlg/try/TrialRun.h"
 
 #include <algorithm>
@@ -12,11 +13,23 @@
 namespace lytdlg
 {
 
+using commandline::Quoted;
 using commandline::ToUtf8;
 using commandline::UsageError;
 
 namespace
 {
+
+// The drawing shows what the window shows, which is not always the value.
+void TellLostTexts(const std::string& dialog, const DialogState& state)
+{
+    for (const ControlState& control : state.controls)
+    {
+        if (!control.lostText.empty())
+            TellError(dialog + ": " + ToUtf8(control.name) + " has the value " + Quoted(ToUtf8(*control.value)) + "; " +
+                      DescribeLostText(control));
+    }
+}
 
 // Opens the dialog as a call does, looks at it, and closes it again.
 ExitCode Preview(const Request& request)
@@ -28,9 +41,12 @@ ExitCode Preview(const Request& request)
     const Resolution resolution(request.Number("--dpi", PixelsPerInch()));
     const SvgStyle style = {request.Has("--names"), request.Has("--tabs")};
     TrialRun run(SetupOf(request), false);
-    const Outcome& outcome =
-        run.Run({}, [&](const TrialDialog& open)
-                { WriteOut(target, "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n" + DrawSvg(See(open), style)); });
+    const auto draw = [&](const TrialDialog& open)
+    {
+        WriteOut(target, "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n" + DrawSvg(See(open), style));
+        TellLostTexts(dialog, LookAt(open));
+    };
+    const Outcome& outcome = run.Run({}, draw);
     if (outcome.ending == Ending::NotOpened)
     {
         TellError(dialog +

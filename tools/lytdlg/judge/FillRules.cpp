@@ -99,7 +99,31 @@ void JudgeFixedValue(const Case& judged, const ClytControlFill& fill, const Clyt
                         MeantOr(value, known, "give it one of the values that $VALUES names"));
 }
 
-void JudgeFill(const Case& judged, const InputPart& part, const ClytControlFill& fill)
+bool HasItems(const Description& description, const std::string& name)
+{
+    return !StatementsOf(description, name, Role::Item).empty() || description.Index().FactsOf(name).getsItemsFromInput;
+}
+
+// A combo box with items keeps its choice when it is given a text that none of them has.
+void JudgeOwnText(const Case& judged, const ClytControlFill& fill, bool isAddedBefore)
+{
+    const Description& description = judged.description;
+    const std::string name = fill.controlName.GetString();
+    const bool isValue = fill.action.GetText().IsEmpty() && !lytMeans<ClytValueWord::Fill>(fill.value);
+    if (!isValue || !HasItems(description, name))
+        return;
+    if (fill.value.IsEmpty() && !isAddedBefore)
+        judged.findings.Add("scan-combo", fill.span,
+                            "a text that is no item of " + InQuotes(name) + " shows in its field, and is lost",
+                            "write " + name + "(ADD), " + name + ", or make it a DropListBox");
+    else if (!fill.value.IsEmpty() && !description.Index().FactsOf(name).getsItemsFromInput &&
+             !description.Index().FactsOf(name).places.contains(fill.value.GetString()))
+        judged.findings.Add("scan-combo", fill.span,
+                            InQuotes(fill.value.GetString()) + " is no item of " + InQuotes(name) + ", and is lost",
+                            "give it one of the values that $VALUES names");
+}
+
+void JudgeFill(const Case& judged, const InputPart& part, const ClytControlFill& fill, bool isAddedBefore)
 {
     const std::string name = fill.controlName.GetString();
     const ClytControlStatement* control = judged.description.FindControl(name);
@@ -115,15 +139,23 @@ void JudgeFill(const Case& judged, const InputPart& part, const ClytControlFill&
     JudgeFixedValue(judged, fill, *control);
     if (lytTypeOf(kind).isOpenList && fill.action.GetText().IsEmpty())
         JudgeChoice(judged, part, fill);
+    if (kind == Kind::Combo)
+        JudgeOwnText(judged, fill, isAddedBefore);
 }
 
 void JudgeFills(const Case& judged, const InputPart& part, const ClytScanRule& rule)
 {
     const ClytConditionFill* before = nullptr; // a condition that takes the next fill along
+    std::set<std::string> added;               // the controls that have the piece as an item by then
     for (const ClytConditionFill* present : Records(rule.rules))
     {
         for (const ClytControlFill* fill : Records(present->fills))
-            JudgeFill(judged, part, *fill);
+        {
+            const std::string name = fill->controlName.GetString();
+            JudgeFill(judged, part, *fill, added.contains(name));
+            if (fill->action.GetMeaning() == ClytFillAction::Add)
+                added.insert(name);
+        }
         const bool isConditional = !present->values.IsEmpty();
         if (before != nullptr && (isConditional || TakesPiece(*present->fills.GetHead())))
             judged.findings.Add("scan-pair", present->span,

@@ -67,6 +67,17 @@ std::vector<ItemState> ItemsOf(const ClytControl& control)
     return items;
 }
 
+// A text that an input puts into the field of a combo box leaves the choice as it was; one that is typed does not.
+std::string LostTextOf(const ClytControl& control, const std::vector<ItemState>& items)
+{
+    const auto* combo = dynamic_cast<const CComboBox*>(&control);
+    const int chosen = combo != nullptr ? combo->GetCurSel() : CB_ERR;
+    if (chosen == CB_ERR)
+        return "";
+    const std::string shown = robot::TextOf(combo->m_hWnd);
+    return shown == items.at(static_cast<size_t>(chosen)).shown ? "" : shown;
+}
+
 std::string States(const ControlState& state)
 {
     return Padded(state.isEnabled ? "enabled" : "disabled", stateWidth) +
@@ -76,7 +87,8 @@ std::string States(const ControlState& state)
 std::string DescribeContent(const ControlState& state)
 {
     if (lytTypeOf(state.type).hasItems)
-        return (state.value ? Quoted(ToUtf8(*state.value)) : "nothing chosen") + DescribeItems(state);
+        return (state.value ? Quoted(ToUtf8(*state.value)) : "nothing chosen") + DescribeItems(state) +
+               (state.lostText.empty() ? "" : "; " + DescribeLostText(state));
     if (state.value)
         return Quoted(ToUtf8(*state.value)) + (state.isChosen ? " chosen" : "");
     return state.caption.empty() ? "" : "text " + Quoted(ToUtf8(state.caption));
@@ -118,7 +130,10 @@ ControlState LookAt(const TrialDialog& dialog, ClytControl& control)
     state.value = ValueOf(control);
     const auto& window = dynamic_cast<const CWnd&>(control);
     if (type.hasItems)
+    {
         state.items = ItemsOf(control);
+        state.lostText = LostTextOf(control, state.items);
+    }
     else if (!type.hasValue)
         state.caption = robot::TextOf(window.m_hWnd);
     if (const auto* button = dynamic_cast<const CButton*>(&window); button != nullptr && type.kind == ClytKind::Option)
@@ -148,6 +163,11 @@ std::string Describe(const DialogState& state)
     for (const ControlState& control : state.controls)
         text += Describe(control, nameWidth);
     return text;
+}
+
+std::string DescribeLostText(const ControlState& state)
+{
+    return "the field shows " + Quoted(ToUtf8(state.lostText)) + ", which is no item and gets lost";
 }
 
 std::string DescribeItems(const ControlState& state)

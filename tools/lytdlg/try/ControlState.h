@@ -28,6 +28,7 @@ struct ControlState
     std::string caption = {};              // of a control that has no value but a text
     bool isChosen = false;                 // an option button
     std::vector<ItemState> items = {};
+    std::string lostText = {}; // that an input has put into a combo box's field beside the choice, which counts
 };
 
 struct DialogState
@@ -49,5 +50,7 @@ std::optional<std::string> ValueOf(ClytControl& control);
 // A line for each control, in UTF-8: name, type, states, value or text, items.
 std::string Describe(const DialogState& state);
 std::string DescribeItems(const ControlState& state);
+// Of a control that has one.
+std::string DescribeLostText(const ControlState& state);
 
 } // namespace lytdlg

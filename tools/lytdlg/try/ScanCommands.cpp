@@ -1,10 +1,13 @@
 #include "lytdlg/Commands.h"
 
 #include "commandline/Text.h"
+#include "controls/TypeWords.h"
+#include "lytdlg/try/ControlState.h"
 #include "lytdlg/try/TrialRun.h"
 
 #include <algorithm>
 #include <cstdio>
+#include <span>
 
 namespace lytdlg
 {
@@ -19,11 +22,30 @@ namespace
 
 constexpr commandline::OptionForm traceOption = {"--trace", nullptr, false, "print each step"};
 
-void PrintFills(const Recorder& recorder)
+// What a list or an option group holds when it does not take the last value that it was given.
+std::string KeptValue(std::span<const FillRecord> fills, const DialogState& state)
 {
-    for (const FillRecord& fill : recorder.Fills())
+    const FillRecord& fill = fills.front();
+    const ControlState* control = state.Find(fill.control);
+    if (control == nullptr || !fill.action.empty() || fill.value.empty() || control->value == fill.value)
+        return "";
+    const ClytType& type = lytTypeOf(control->type);
+    const bool isLast =
+        std::ranges::none_of(fills.subspan(1), [&](const FillRecord& later) { return later.control == fill.control; });
+    if (!isLast || !(type.hasItems || type.kind == ClytKind::OptionGroup))
+        return "";
+    return control->value ? ", but its value is " + Quoted(ToUtf8(*control->value)) : ", but nothing is chosen in it";
+}
+
+void PrintFills(const Recorder& recorder, const DialogState& state)
+{
+    std::span<const FillRecord> fills = recorder.Fills();
+    for (; !fills.empty(); fills = fills.subspan(1))
+    {
+        const FillRecord& fill = fills.front();
         PrintLine("line " + std::to_string(fill.line) + " " + ToUtf8(fill.statement + ": " + fill.control) + " " +
-                  fill.text);
+                  fill.text + KeptValue(fills, state));
+    }
     const std::string end = recorder.Steps().empty() ? "Start" : recorder.Steps().back().next;
     if (end == "End" || end.empty())
         std::printf("the scan ended at %s\n", end.empty() ? "the end of the text" : "End");
@@ -43,19 +65,22 @@ ExitCode Scan(const Request& request)
     if (!isParent)
         setup.input.clear();
     TrialRun run(setup, request.Has("--trace"));
+    DialogState state;
     const auto scan = [&](TrialDialog& dialog)
     {
-        if (isParent)
-            return;
-        CheckKnown("input part", part, FactsOf(dialog).parts);
-        run.recorder.ForgetScan();
-        run.events.clear();
-        dialog.RunInput(part.c_str(), text.c_str());
+        if (!isParent)
+        {
+            CheckKnown("input part", part, FactsOf(dialog).parts);
+            run.recorder.ForgetScan();
+            run.events.clear();
+            dialog.RunInput(part.c_str(), text.c_str());
+        }
+        state = LookAt(dialog);
     };
     if (run.Run({}, scan).ending == Ending::NotOpened)
         return static_cast<ExitCode>(run.PrintFailure());
     run.PrintEvents();
-    PrintFills(run.recorder);
+    PrintFills(run.recorder, state);
     return good;
 }
 

@@ -39,6 +39,8 @@ public:
     std::vector<std::string> Explain()
     {
         TellFills();
+        if (!m_state.lostText.empty())
+            Tell("Now " + DescribeLostText(m_state) + ".");
         TellEvents();
         TellLibrary();
         TellChoice();
