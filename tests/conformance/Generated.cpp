@@ -51,7 +51,6 @@ struct Loss
 
 constexpr Loss losses[] = {
     {"lytInPhr", "^P1\\{date\\}", "this phrase brings its texts along"},
-    {"lytCdGrp", "^\\([^<>=]+\\)", "without a sign all is the field"},
     {"lytRpGrp", "[;|]-[a-z]", "a part without its mark is not listed again"},
     {"lytRpGrp", "[P-]C;", "an empty rate leaves the preset one"},
 };

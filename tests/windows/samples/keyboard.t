@@ -79,7 +79,8 @@ Every dialog worked from the keyboard alone.
   > enter "35"
   > key alt+o
   > expect "Comparison:" focused
-  > enter "<"
+  > key up
+  > expect "Comparison:" "is below"
   > key alt+r
   > enter "large rooms only"
   > key tab
