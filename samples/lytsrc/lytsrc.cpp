@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cstdio>
 #include <iterator>
+#include <map>
 #include <memory>
 #include <string>
 #include <vector>
@@ -66,26 +67,24 @@ void CopyText(char (&target)[LYT_TREE_TEXT_SIZE], const std::string& text)
     text.copy(target, sizeof target - 1);
 }
 
-// `kind key = label`, indented by its level.
-lytTreeRecord RecordOf(const std::string& line)
+struct Line
 {
-    const size_t indentation = line.find_first_not_of(' ');
-    const size_t separator = std::min(line.find('='), line.size());
-    const std::string head = Trimmed(line.substr(0, separator));
-    const size_t blank = std::min(head.find(' '), head.size());
+    size_t indentation;
+    std::string head;
+    std::string text; // after the equals sign
+};
 
-    lytTreeRecord record = {};
-    record.nLevel = static_cast<int32_t>(indentation / 2);
-    record.nType = KindOf(head.substr(0, blank));
-    CopyText(record.szKey, Trimmed(head.substr(blank)));
-    CopyText(record.szLabel, Trimmed(line.substr(std::min(separator + 1, line.size()))));
-    return record;
+Line LineOf(const std::string& line)
+{
+    const size_t separator = std::min(line.find('='), line.size());
+    return {line.find_first_not_of(' '), Trimmed(line.substr(0, separator)),
+            Trimmed(line.substr(std::min(separator + 1, line.size())))};
 }
 
-// The records below `[section]`, up to the next section.
-std::vector<lytTreeRecord> ReadSection(const std::string& section)
+// The lines below `[section]`, up to the next section.
+std::vector<Line> ReadSection(const std::string& section)
 {
-    std::vector<lytTreeRecord> records;
+    std::vector<Line> lines;
     const std::unique_ptr<FILE, int (*)(FILE*)> file(fopen(CatalogueFileName().c_str(), "r"), fclose);
     char line[1024] = "";
     bool wanted = false;
@@ -97,14 +96,53 @@ std::vector<lytTreeRecord> ReadSection(const std::string& section)
         if (text.front() == '[')
             wanted = text == "[" + section + "]";
         else if (wanted)
-            records.push_back(RecordOf(line));
+            lines.push_back(LineOf(line));
     }
-    return records;
+    return lines;
+}
+
+// That of lyt.ini, which the library that reads the catalogue knows; empty without that library.
+std::string Language()
+{
+    using TextFromIniFile = int32_t(__stdcall*)(const char* path, char* buffer, int32_t size);
+    HMODULE library = GetModuleHandleA("lyt64.dll");
+    FARPROC function = library != nullptr ? GetProcAddress(library, "lytGetTextFromIniFile") : nullptr;
+    char language[100] = "";
+    if (function != nullptr)
+        reinterpret_cast<TextFromIniFile>(reinterpret_cast<void*>(function))("global/Current Language", language,
+                                                                             sizeof language - 1);
+    return language;
+}
+
+// What each label is called in the language, unless it stays as it is.
+std::map<std::string, std::string> ReadNames()
+{
+    std::map<std::string, std::string> names;
+    for (const Line& line : ReadSection(Language()))
+        names.emplace(line.head, line.text);
+    return names;
+}
+
+// `kind key = label`, indented by its level.
+lytTreeRecord RecordOf(const Line& line, const std::map<std::string, std::string>& names)
+{
+    const size_t blank = std::min(line.head.find(' '), line.head.size());
+    const auto name = names.find(line.text);
+
+    lytTreeRecord record = {};
+    record.nLevel = static_cast<int32_t>(line.indentation / 2);
+    record.nType = KindOf(line.head.substr(0, blank));
+    CopyText(record.szKey, Trimmed(line.head.substr(blank)));
+    CopyText(record.szLabel, name != names.end() ? name->second : line.text);
+    return record;
 }
 
 int32_t Start(Run& run, const char* section)
 {
-    run = {ReadSection(section), 0};
+    const std::map<std::string, std::string> names = ReadNames();
+    run = {};
+    for (const Line& line : ReadSection(section))
+        run.records.push_back(RecordOf(line, names));
     return run.records.empty() ? 0 : 1;
 }
 
