@@ -87,7 +87,7 @@ private:
     // of the file is reported.
     int ReadSectionLine(POSITION& token, ClytLineKind kind);
 
-    // The next token; where there is none it is the class library's failure, or that of a statement of wrong form.
+    // The next token. At the end of the line the class library's failure is raised, or that of a statement of wrong form.
     const ClytToken& Next(POSITION& token, ClytDue due = ClytDue::Token);
     const ClytToken& NextOrFail(POSITION& token, ClytDue due);
     void Tell(const char* number, const ClytSpan& place, const CString& argument = CString(),

@@ -37,7 +37,7 @@ private:
     char delimiter = '\0';
 };
 
-// The tokens of a line. Those of the line before serve again, so that a line costs no further allocation. A POSITION
+// The tokens of a line. They are used again for the next line, so that a line costs no further allocation. A POSITION
 // stays valid until the list is changed.
 class ClytTokenList
 {

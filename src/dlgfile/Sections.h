@@ -39,7 +39,7 @@ enum class ClytLineKind
 };
 
 // What separates the words of a line, and the section whose header ends the lines of that kind. Readers of other sections
-// start where a header is found, so a header's words are cut as those of the section before it.
+// start where a header is found, so a header's words are cut as the words of the section before it.
 struct ClytLineForm
 {
     const char* delimiters;

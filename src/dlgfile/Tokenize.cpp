@@ -71,7 +71,7 @@ const char* lytTokenize(const char* line, const DelimiterSet& delimiters, ClytTo
         // Text between a closing quote and the delimiter is dropped.
         const char* end = delimiters.FindIn(textEnd != nullptr ? textEnd + 1 : start);
         AddTrimmed(tokens, line, start, textEnd != nullptr ? textEnd : end, DelimiterAt(end));
-        // A `;` is left standing, and so ends the line.
+        // A `;` is left in place, and so ends the line.
         start = SkipSpace(*end != '\0' && *end != ';' ? end + 1 : end);
     }
     return nullptr;

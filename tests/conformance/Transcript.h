@@ -9,6 +9,6 @@
 
 #include <string>
 
-// Works the stages, or the one with that title, and prints the transcript anew. Raises std::runtime_error for what it
+// Works the stages, or the one with that title, and prints the transcript again. Raises std::runtime_error for what it
 // does not know.
 void WorkTranscript(const std::string& path, const std::string& title);

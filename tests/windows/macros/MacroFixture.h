@@ -39,7 +39,7 @@ protected:
     Lines ItemsAt(size_t index) const;
     static Lines ItemsIn(const Value& collection);
 
-    // In the next dialog with that title types the text, unless there is none, and presses the button.
+    // In the next dialog with that title types the text, if one is given, and presses the button.
     void Answer(const std::string& title, const std::optional<std::string>& text, int button = IDOK);
     void Pick(const std::string& label, int button = IDOK);
 

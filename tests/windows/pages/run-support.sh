@@ -74,5 +74,5 @@ while read -r words; do
 done <commands
 sed '/^Lines that differ/,$d' told | grep '^  ' | grep -v -e 'C:\\users' -e 'NAME:' && complain "two reports differ"
 grep -q '"blocks"' "$set/documents/bad.json" || complain "no report in JSON"
-grep -q '^USERNAME:USER' "$set/documents/bad.txt" || complain "the user's name is told"
+grep -q '^USERNAME:USER' "$set/documents/bad.txt" || complain "the user's name is in the report"
 exit $bad

@@ -30,7 +30,7 @@ END
 user=$(sed -n 's/^USERNAME://p' first.txt)
 machine=$(sed -n 's/^COMPUTERNAME://p' first.txt)
 report listed --redact --out redacted.txt >>told || complain "no report without names"
-grep -q '^USERNAME:USER$' redacted.txt || complain "the user's name is told"
-grep -q '^COMPUTERNAME:MACHINE$' redacted.txt || complain "the machine's name is told"
+grep -q '^USERNAME:USER$' redacted.txt || complain "the user's name is in the report"
+grep -q '^COMPUTERNAME:MACHINE$' redacted.txt || complain "the machine's name is in the report"
 grep -iw -e "$user" -e "$machine" redacted.txt && complain "a name is left"
 exit $bad

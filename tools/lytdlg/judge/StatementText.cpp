@@ -60,7 +60,7 @@ std::string WrongInBrackets(const RefusedStatement& at)
 {
     if (at.isAtEnd || at.delimiter == '\n' || at.delimiter == ',')
         return "the brackets" + at.afterOpen + " are not closed by \")\"";
-    return at.Sign() + " stands in the brackets" + at.afterOpen + ", where commas separate";
+    return at.Sign() + " is in the brackets" + at.afterOpen + ", where commas separate";
 }
 
 std::string Missing(ClytDue due, const RefusedStatement& at)
@@ -82,7 +82,7 @@ std::string Missing(ClytDue due, const RefusedStatement& at)
     case ClytDue::StateWord: return "a state word is missing" + at.after;
     case ClytDue::ConditionsSign: return "\"=\" is missing" + at.afterWord;
     case ClytDue::ListSeparator: return WrongInBrackets(at);
-    case ClytDue::ConditionEnd: return at.Sign() + " stands where a comma separates conditions";
+    case ClytDue::ConditionEnd: return at.Sign() + " is used where a comma separates conditions";
     case ClytDue::EvaluationSign: return "\"=\" or \"(\" is missing" + at.afterWord;
     case ClytDue::ValueAfterSign: return "a value is missing after \"=\"";
     case ClytDue::OtherSign: return "\"=\" must follow the values of " + at.first;
@@ -93,11 +93,11 @@ std::string Missing(ClytDue due, const RefusedStatement& at)
     case ClytDue::InputStatement: return "what the statement does is missing" + at.after;
     case ClytDue::Piece: return "no length or separator follows \"(\"";
     case ClytDue::PieceTarget:
-        return "each length or separator needs the statement that goes on, and \"=\" or \")\" after the last";
+        return "each length or separator needs the next statement, and \"=\" or \")\" after the last";
     case ClytDue::ControlName:
         return at.isAtEnd ? "a control is missing after \"=\"" : "the name of a control is missing before " + at.Sign();
-    case ClytDue::FillEnd: return at.Sign() + at.after + " stands where a comma separates fills";
-    case ClytDue::Target: return "the statement that goes on is missing after \"=\"";
+    case ClytDue::FillEnd: return at.Sign() + at.after + " is used where a comma separates fills";
+    case ClytDue::Target: return "the next statement is missing after \"=\"";
     case ClytDue::Targets: return "two statements must follow \"=\": one when the condition holds, one when not";
     case ClytDue::TargetsSign: return "\"=\" with two statements, one for each case, is missing";
     case ClytDue::Format:
