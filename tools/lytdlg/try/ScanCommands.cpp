@@ -4,6 +4,7 @@
 #include "controls/TypeWords.h"
 #include "lytdlg/try/ControlState.h"
 #include "lytdlg/try/TrialRun.h"
+#include "model/ClytWords.h"
 
 #include <algorithm>
 #include <cstdio>
@@ -27,7 +28,9 @@ std::string KeptValue(std::span<const FillRecord> fills, const DialogState& stat
 {
     const FillRecord& fill = fills.front();
     const ControlState* control = state.Find(fill.control);
-    if (control == nullptr || !fill.action.empty() || fill.value.empty() || control->value == fill.value)
+    const bool isValue =
+        fill.action.empty() && !fill.value.empty() && !lytMeans<ClytValueWord::Fill>(fill.value.c_str());
+    if (control == nullptr || !isValue || control->value == fill.value)
         return "";
     const ClytType& type = lytTypeOf(control->type);
     const bool isLast =
