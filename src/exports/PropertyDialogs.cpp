@@ -6,6 +6,7 @@
 #include "environment/ClytException.h"
 #include "environment/ProcessState.h"
 #include "exports/ExportFrame.h"
+#include "exports/NamedDialogs.h"
 
 #include <algorithm>
 
@@ -19,21 +20,17 @@ enum Outcome
     unchanged = 2
 };
 
-// The place of the placeholder's kind in a key that is long enough to have one.
-constexpr int kindBegin = 5;
-constexpr int kindEnd = 8;
-
 // The input key is empty afterwards, even if a dialog inside this one has left something in it.
-std::optional<CString> ShowOver(const char* description, const CString& key)
+std::optional<CString> ShowOver(ClytNamed which, const CString& key)
 {
-    std::optional<CString> result = ClytDialog::Show(description, key);
+    std::optional<CString> result = ClytDialog::Show(lytNamed(which).description, key);
     lytInputKey.Empty();
     return result;
 }
 
-int EditPlaceholder(const char* description, const CString& key, char* buffer, int size)
+int EditPlaceholder(ClytNamed which, const CString& key, char* buffer, int size)
 {
-    const std::optional<CString> result = ShowOver(description, key);
+    const std::optional<CString> result = ShowOver(which, key);
     if (!result)
         return nothing;
     if (!result->IsEmpty())
@@ -80,7 +77,7 @@ private:
 // Writes both parts of a result; false, after the message, when the first does not fit.
 bool WriteParts(const CString& result, char* first, int firstSize, char* second, int secondSize)
 {
-    const int mark = result.Find(")/1");
+    const int mark = result.Find(lytGroupMark);
     const CString left = mark >= 0 ? result.Left(mark + 1) : CString();
     CopyText(first, firstSize, left);
     if (left.GetLength() > firstSize)
@@ -109,8 +106,9 @@ Outcome GroupKey::HandOut(const CString& result, char* first, int firstSize, cha
         return changed;
     // A changed key gets back the part that was kept from the dialog.
     CopyText(first, firstSize, m_head + tail);
-    if (IsUsable(second, secondSize) && secondSize >= kindEnd && m_key.GetLength() >= kindEnd)
-        std::copy_n(m_key.GetString() + kindBegin, kindEnd - kindBegin, second + kindBegin);
+    if (IsUsable(second, secondSize) && secondSize >= lytKeptLettersEnd && m_key.GetLength() >= lytKeptLettersEnd)
+        std::copy(m_key.GetString() + lytKeptLettersBegin, m_key.GetString() + lytKeptLettersEnd,
+                  second + lytKeptLettersBegin);
     return changed;
 }
 
@@ -119,13 +117,13 @@ Outcome GroupKey::HandOut(const CString& result, char* first, int firstSize, cha
 int __stdcall lytSymbolPropertyDialog(const char* key, char* result, int size)
 {
     LYT_EXPORT_FRAME(nothing);
-    return IsUsable(result, size) ? EditPlaceholder("lytInSym.dlg", key, result, size) : nothing;
+    return IsUsable(result, size) ? EditPlaceholder(ClytNamed::Symbol, key, result, size) : nothing;
 }
 
 int __stdcall lytPhrasePropertyDialog(const char* key, char* result, int size)
 {
     LYT_EXPORT_FRAME(nothing);
-    return IsUsable(result, size) ? EditPlaceholder("lytInPhr.dlg", key, result, size) : nothing;
+    return IsUsable(result, size) ? EditPlaceholder(ClytNamed::Phrase, key, result, size) : nothing;
 }
 
 int __stdcall lytGroupPropertyDialog(int kind, const char* key, char* first, int firstSize, char* second,
@@ -136,7 +134,7 @@ int __stdcall lytGroupPropertyDialog(int kind, const char* key, char* first, int
         return nothing;
     const GroupKey groupKey(kind, key);
     // With an empty key the dialog scans what an earlier one has left.
-    const std::optional<CString> result = ShowOver(kind == 0 ? "lytCdGrp.dlg" : "lytRpGrp.dlg",
+    const std::optional<CString> result = ShowOver(kind == 0 ? ClytNamed::Condition : ClytNamed::Repetition,
                                                    groupKey.Input().IsEmpty() ? lytInputKey : groupKey.Input());
     return result ? groupKey.HandOut(*result, first, firstSize, second, secondSize) : nothing;
 }

@@ -4,6 +4,7 @@
 #include "dialog/ClytDialog.h"
 #include "environment/ProcessState.h"
 #include "exports/ExportFrame.h"
+#include "exports/NamedDialogs.h"
 #include "system/ModernControls.h"
 #include "tree/ClytTreeDialog.h"
 #include "tree/ClytWizardQueue.h"
@@ -27,15 +28,14 @@ constexpr int longestChoice = 254;
 struct Step
 {
     char type;
-    int inputBegin; // the number of `/` before what the dialog scans
-    const char* description;
+    ClytNamed dialog;
     int result;
 };
 
 constexpr Step steps[] = {
-    {'G', 1, "lytWzGrp.dlg", moreToCome},
-    {'H', 2, "lytWzPhr.dlg", phraseText},
-    {'S', 1, "lytWzSym.dlg", symbolText},
+    {'G', ClytNamed::WizardGroup, moreToCome},
+    {'H', ClytNamed::WizardPhrase, phraseText},
+    {'S', ClytNamed::WizardSymbol, symbolText},
 };
 
 // What follows the first (the second, and so on) `/`; the whole text without one.
@@ -63,10 +63,12 @@ int AskNext(char* buffer, int size)
     if (step == std::end(steps))
         return nothingOrLast;
 
-    const CString input = After(*choice, step->inputBegin);
+    // A choice is its type, key and label, with a `/` between them.
+    const ClytNamedDialog& dialog = lytNamed(step->dialog);
+    const CString input = After(*choice, dialog.handed == ClytHanded::Label ? 2 : 1);
     if (step->result == moreToCome)
         lytWizardGroup = input.Left(input.Find('/'));
-    const std::optional<CString> result = ClytDialog::Show(step->description, input);
+    const std::optional<CString> result = ClytDialog::Show(dialog.description, input);
     if (!result)
         return nothingOrLast;
     CopyText(buffer, size, step->result == moreToCome ? lytWizardQueue.Begin(*result) : *result);

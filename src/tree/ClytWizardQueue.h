@@ -5,6 +5,11 @@
 
 #include <optional>
 
+// The list of texts begins at the brace after this mark.
+inline constexpr const char* lytListMark = "/LIST";
+inline constexpr char lytListBegin = '{';
+inline constexpr char lytListSeparator = '|';
+
 class ClytWizardQueue
 {
 public:

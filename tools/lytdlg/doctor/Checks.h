@@ -38,12 +38,4 @@ void AddUnreadable(Verdict verdict, const char* about, const std::filesystem::pa
 // The descriptions of the deployment that can be read, in the order of their names.
 std::list<Description> ReadDescriptions(const Deployment& deployment);
 
-// The descriptions that functions of the library open by their names.
-struct OpenedDescription
-{
-    const char* name;
-    const char* purpose; // what does not open without it
-};
-const std::vector<OpenedDescription>& OpenedDescriptions();
-
 } // namespace lytdlg

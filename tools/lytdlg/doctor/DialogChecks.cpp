@@ -1,6 +1,7 @@
 #include "lytdlg/doctor/Checks.h"
 
 #include "commandline/Text.h"
+#include "exports/NamedDialogs.h"
 #include "lytdlg/judge/Judge.h"
 #include "lytdlg/text/Paths.h"
 #include "lytdlg/text/TextFile.h"
@@ -19,10 +20,10 @@ constexpr const char* aboutDialogs = "dialogs";
 
 void JudgeOpened(const std::filesystem::path& folder, Diagnosis& diagnosis)
 {
-    for (const OpenedDescription& opened : OpenedDescriptions())
+    for (const ClytNamedDialog& opened : lytNamedDialogs)
     {
-        if (FileIn(folder, opened.name).empty())
-            diagnosis.Add(Verdict::Warning, aboutDialogs, folder / opened.name,
+        if (FileIn(folder, opened.description).empty())
+            diagnosis.Add(Verdict::Warning, aboutDialogs, folder / opened.description,
                           std::string("is not there, so that ") + opened.purpose + " does not open",
                           "copy it from the samples and change it, unless no macro asks for it");
     }
@@ -58,20 +59,6 @@ void JudgeDescription(const Description& description, const Surroundings& surrou
 }
 
 } // namespace
-
-const std::vector<OpenedDescription>& OpenedDescriptions()
-{
-    static const std::vector<OpenedDescription> opened = {
-        {"lytInSym.dlg", "the dialog of a symbol"},
-        {"lytInPhr.dlg", "the dialog of a phrase"},
-        {"lytCdGrp.dlg", "the dialog of a group on a condition"},
-        {"lytRpGrp.dlg", "the dialog of a repeated group"},
-        {"lytWzGrp.dlg", "the wizard's dialog of a group"},
-        {"lytWzPhr.dlg", "the wizard's dialog of a phrase"},
-        {"lytWzSym.dlg", "the wizard's dialog of a symbol"},
-    };
-    return opened;
-}
 
 std::list<Description> ReadDescriptions(const Deployment& deployment)
 {

@@ -2,7 +2,6 @@
 
 #include "commandline/CommandLine.h"
 #include "environment/ErrorTable.h"
-#include "lytdlg/doctor/Checks.h"
 #include "lytdlg/text/LanguageFiles.h"
 #include "lytdlg/text/NewDialogTexts.h"
 #include "lytdlg/text/Paths.h"
@@ -155,7 +154,7 @@ Change CaseOf(const fs::path& folder, const std::string& name, const std::vector
     const bool hasEnglish = std::ranges::find(languages, "English") != languages.end();
     const std::string language = hasEnglish || languages.empty() ? "English" : languages.front();
     const fs::path place = hasCases ? folder / ".." / "cases" : folder;
-    return {(place / (name + ".case")).lexically_normal(), Named(NewCase(prefix, language), name), {}};
+    return {(place / (name + ".case")).lexically_normal(), Named(NewCase(name, prefix, language), name), {}};
 }
 
 } // namespace
@@ -170,12 +169,6 @@ std::string FaultOfName(const std::string& name)
         return "use " + std::to_string(longestNewName) + " letters at most";
     if (IsAmong(name, devices))
         return "Windows keeps this name for a device; choose another";
-    if (std::ranges::any_of(OpenedDescriptions(),
-                            [&](const OpenedDescription& opened) { return IsSameName(name + ".dlg", opened.name); }))
-        return "the macros open the dialog of this name with the key of a placeholder, which a new dialog would not "
-               "keep; "
-               "begin with a copy of the sample " +
-               name + ".dlg and its texts, or choose another name";
     if (IsAmong(name, librarySections))
         return "the library has a section of texts with this name for itself; choose another";
     return {};
@@ -186,7 +179,7 @@ std::vector<MadeFile> MakeDialog(const fs::path& folder, const std::string& name
     const FolderLock others(folder);
     std::vector<Change> changes = TextChanges(folder, name);
     changes.push_back(CaseOf(folder, name, LanguageFiles(folder).Languages()));
-    changes.push_back({folder / (name + ".dlg"), Named(NewDescription(), name), {}});
+    changes.push_back({folder / (name + ".dlg"), Named(NewDescription(name), name), {}});
     std::vector<MadeFile> made;
     for (const Change& change : changes)
     {

@@ -7,10 +7,10 @@
 namespace lytdlg
 {
 
-// Each `@` is the name of the dialog.
-std::string NewDescription();
+// Each `@` is the name of the dialog. One that an export opens takes what that hands over, and answers in its form.
+std::string NewDescription(const std::string& name);
 // `prefix` leads from the case to the dialog.
-std::string NewCase(const std::string& prefix, const std::string& language);
+std::string NewCase(const std::string& name, const std::string& prefix, const std::string& language);
 
 // The languages that a new folder gets.
 const std::vector<std::string>& KnownLanguages();

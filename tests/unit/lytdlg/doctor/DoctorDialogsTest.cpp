@@ -3,23 +3,9 @@
 #include "SourceNames.h"
 
 #include "environment/ErrorTable.h"
-#include "lytdlg/doctor/Checks.h"
-
-namespace
-{
+#include "exports/NamedDialogs.h"
 
 namespace fs = std::filesystem;
-
-template <class Named>
-std::set<std::string> NamesOf(const std::vector<Named>& all)
-{
-    std::set<std::string> names;
-    for (const Named& each : all)
-        names.insert(each.name);
-    return names;
-}
-
-} // namespace
 
 TEST(DoctorOnDialogs, LooksForTheTextsThatTheLibraryAsksForByItself)
 {
@@ -131,5 +117,11 @@ TEST(DoctorOnDialogs, TellsOfFilesWithLongerNamesThanTheLibraryOpens)
 
 TEST(DoctorOnDialogs, KnowsTheDescriptionsThatTheLibraryOpens)
 {
-    EXPECT_EQ(NamesOf(lytdlg::OpenedDescriptions()), NamedInSources("/exports", "\"(\\w+\\.dlg)\""));
+    std::set<std::string> known;
+    for (const ClytNamedDialog& opened : lytNamedDialogs)
+    {
+        EXPECT_EQ(&lytNamed(opened.which), &opened);
+        known.insert(opened.description);
+    }
+    EXPECT_EQ(known, NamedInSources("/exports", "\"(\\w+\\.dlg)\""));
 }
