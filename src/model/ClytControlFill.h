@@ -12,6 +12,8 @@ public:
     void Bind(const ClytControlMap& controls);
     // An unknown control is passed over.
     void Apply(const CString& piece) const;
+    // Null for an unknown control.
+    ClytControl* GetControl() const { return control; }
 
     CString controlName;
     ClytSpan span;                   // of the control name

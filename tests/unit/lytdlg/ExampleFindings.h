@@ -37,7 +37,8 @@ struct Found
 inline Found FindIn(const std::string& example, const std::vector<std::string>& partners = {})
 {
     const std::string folder = ExampleFolder().Path();
-    Findings findings = Judge(Description("", ExampleDescription(example), {}), SurroundingsOf(folder, partners));
+    Findings findings =
+        Judge(Description(ExampleName(example), ExampleDescription(example), {}), SurroundingsOf(folder, partners));
     Found found;
     for (const Finding& finding : findings.All())
     {

@@ -46,8 +46,54 @@ Texts are taken apart and composed.
   $ lytdlg scan dialogs/why.dlg --input 'K:a|b|c'
   line 42 Start: Kind takes "K"
   line 44 First: Twice takes "a|b|c"
-  line 44 First: Short takes "a|b|c", but nothing is chosen in it
+  line 44 First: Short has no value "a|b|c", and nothing is chosen in it
   the scan ended at the end of the text
+
+A piece that a control does not take is no success.
+
+  $ cat >pieces.dlg <<'END'
+  > $VERSION 1
+  > $LAYOUT Pieces
+  > Begin Dialog Box 400, 200, "Title", .Main
+  >     OptionGroup .Severity
+  >     OptionButton 16, 12, 80, 12, "Slight", .Slight
+  >     OptionButton 116, 12, 80, 12, "Severe", .Severe
+  >     DropListBox 16, 40, 100, 80, .Unit
+  >     ComboBox 216, 40, 100, 80, .Inspector
+  >     CheckListBox 16, 80, 100, 80, .Parts
+  >     OKButton 16, 170, 112, 22, .Ok
+  > End Dialog
+  > $VALUES
+  >     Slight = slight
+  >     Severe = severe
+  >     Unit: Metre = m
+  >     Inspector: Team = Team
+  > $DEPENDANCES
+  > $EVALUATION, x
+  > $INPUT, parent
+  >     Start: (";", Unit = Severity
+  >     Unit: (";", Inspector = Unit
+  >     Inspector: (";", Parts = Inspector
+  >     Parts: (99, End = Parts(ADD)
+  > $OUTPUT, parent
+  >     ("%s;%s", Severity, Unit)
+  > $END
+  > END
+  $ lytdlg scan pieces.dlg --input 'severe;m;Team;roof'
+  line 20 Start: Severity takes "severe"
+  line 21 Unit: Unit takes "m"
+  line 22 Inspector: Inspector takes "Team"
+  line 23 Parts: Parts is a check list, and does not take the item "roof"
+  the scan ended at End
+  $ lytdlg scan pieces.dlg --input ' severe;km;Zorn;roof'
+  line 20 Start: Severity has no value " severe", and its value is ""
+  line 21 Unit: Unit has no value "km", and its value is "m"
+  line 22 Inspector: Inspector takes "Zorn", but its value is "Team"
+  line 23 Parts: Parts is a check list, and does not take the item "roof"
+  the scan ended at End
+  $ lytdlg why pieces.dlg Severity --input ' severe;km;Zorn;roof'
+  Severity is shown and enabled; it is empty.
+  The scan came to it in line 20 (statement Start): it has no value " severe".
 
   $ lytdlg compose samples/dialogs/lytInSym.dlg --input 'S1:area(2,m2)' --set Missing=none
   result = "S1:area(2,m2)=\"none\""

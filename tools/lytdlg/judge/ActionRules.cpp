@@ -48,15 +48,39 @@ void JudgeGroup(const ActionLine& statement, size_t index)
     const std::string name = statement.Value(index);
     if (!name.empty() && !HasGroup(statement.Of(), name))
         statement.Add("action-group", index, "no output group is called " + InQuotes(name),
-                      MeantOr(name, GroupNames(statement.Of()), "add \"$OUTPUT, " + name + "\" with its rules"));
+                      HasPart(statement.Of(), name)
+                          ? InQuotes(name) + " is an input part; name the output group that composes the text"
+                          : MeantOr(name, GroupNames(statement.Of()), "add \"$OUTPUT, " + name + "\" with its rules"));
 }
 
 void JudgePart(const ActionLine& statement, size_t index)
 {
     const std::string name = statement.Value(index);
     if (!name.empty() && !HasPart(statement.Of(), name))
-        statement.Add("action-part", index, "no input part is called " + InQuotes(name),
-                      MeantOr(name, PartNames(statement.Of()), "add \"$INPUT, " + name + "\" with its statements"));
+        statement.Add(
+            "action-part", index, "no input part is called " + InQuotes(name),
+            HasGroup(statement.Of(), name)
+                ? InQuotes(name) + " is an output group; name the input part that takes the answer"
+                : MeantOr(name, PartNames(statement.Of()), "add \"$INPUT, " + name + "\" with its statements"));
+}
+
+// The places of the two words, of which each is only what the other should be.
+void JudgePartAndGroup(const ActionLine& statement, size_t part, size_t group, const char* order)
+{
+    const std::string partName = statement.Value(part);
+    const std::string groupName = statement.Value(group);
+    const bool isSwapped = !HasPart(statement.Of(), partName) && HasGroup(statement.Of(), partName) &&
+                           !HasGroup(statement.Of(), groupName) && HasPart(statement.Of(), groupName);
+    if (isSwapped)
+    {
+        statement.Add("action-swapped", std::min(part, group),
+                      InQuotes(partName) + " is an output group and " + InQuotes(groupName) +
+                          " an input part: the two are swapped",
+                      statement.value.keyword + " takes " + order);
+        return;
+    }
+    JudgePart(statement, part);
+    JudgeGroup(statement, group);
 }
 
 void JudgeDialogFile(const ActionLine& statement)
@@ -87,16 +111,15 @@ void JudgeDialog(const ActionLine& statement)
     JudgeDialogFile(statement);
     if (!HasWords(statement, 3, "DIALOG = FILE, PART, GROUP"))
         return;
-    JudgePart(statement, 1);
-    JudgeGroup(statement, statement.value.values.size() - 1);
+    JudgePartAndGroup(statement, 1, statement.value.values.size() - 1,
+                      "the input part first, and the output group after it");
 }
 
 void JudgeCall(const ActionLine& statement)
 {
     if (!HasWords(statement, 4, "ACTION = LIBRARY, FUNCTION, GROUP, PART"))
         return;
-    JudgeGroup(statement, 2);
-    JudgePart(statement, 3);
+    JudgePartAndGroup(statement, 3, 2, "the output group first, and the input part after it");
 }
 
 void JudgeAdd(const ActionLine& statement)
@@ -104,16 +127,21 @@ void JudgeAdd(const ActionLine& statement)
     if (!HasWords(statement, 2, "ADD = FROM, TO"))
         return;
     JudgeTarget(statement, 0, &ClytType::isOpenList, "a list or a check list");
-    JudgeTarget(statement, statement.value.values.size() - 1, &ClytType::hasItems, "a list");
+    JudgeTarget(statement, statement.value.values.size() - 1, &ClytType::takesItems, "a list that is no check list");
 }
 
 void JudgeMove(const ActionLine& statement)
 {
+    const std::string name = statement.Value(0);
     JudgeTarget(statement, 0, &ClytType::hasItems, "a list");
-    if (KindOfControl(statement.Of(), statement.Value(0)) == Kind::List)
-        statement.Add("action-order", 0,
-                      InQuotes(statement.Value(0)) + " is a plain list, which then shows one order and answers another",
-                      "make it a CheckListBox");
+    // The types whose items are kept in two orders are those that take them one by one.
+    if (!lytTypeOf(KindOfControl(statement.Of(), name)).takesItems)
+        return;
+    const ControlFacts& facts = statement.Of().Index().FactsOf(name);
+    statement.Add("action-order", 0, InQuotes(name) + " is no check list, and then shows one order and answers another",
+                  facts.getsItemsFromInput || facts.getsItemsFromButton
+                      ? "delete the button: a check list keeps its order, but takes no items from the input or a button"
+                      : "make it a CheckListBox");
 }
 
 void JudgeFill(const ActionLine& statement)
@@ -168,13 +196,18 @@ void JudgeButton(const Case& judged, const ClytControlStatement& control)
 
 void JudgeSource(const ActionLine& statement)
 {
-    const size_t needed = statement.kind == Kind::Field ? 2 : 3;
-    if (statement.value.values.size() < needed)
+    const bool isField = statement.kind == Kind::Field;
+    const std::string form = std::string("write FILLEDBY, LIBRARY, FUNCTION") + (isField ? "" : ", NEXT");
+    const std::string third = statement.Value(2);
+    if (statement.value.values.size() < (isField ? 2 : 3))
         statement.judged.findings.Add("source-words", statement.Of().PlaceOf(statement.value.span.line),
-                                      "FILLEDBY needs the library and the names of its functions",
-                                      statement.kind == Kind::Field ? "write FILLEDBY, LIBRARY, FUNCTION"
-                                                                    : "write FILLEDBY, LIBRARY, FUNCTION, NEXT");
-    JudgeGroup(statement, 3);
+                                      "FILLEDBY needs the library and the names of its functions", form);
+    // The group is the fourth word.
+    else if (HasGroup(statement.Of(), third) && !HasGroup(statement.Of(), statement.Value(3)))
+        statement.Add("source-words", 2, "a word is missing before the output group " + InQuotes(third),
+                      form + (isField ? ", x, " : ", ") + third);
+    else
+        JudgeGroup(statement, 3);
 }
 
 void JudgeDoubleClick(const ActionLine& statement)

@@ -7,6 +7,20 @@
 namespace lytdlg
 {
 
+namespace
+{
+
+// Whether the items of a list come from the fill.
+bool AddsItems(const ControlFacts& facts, const ClytControlFill& fill)
+{
+    const ClytFillAction action = fill.action.GetMeaning();
+    if (action == ClytFillAction::Add)
+        return facts.control != nullptr && lytTypeOf(KindOf(*facts.control)).takesItems;
+    return action == ClytFillAction::Modify || action == ClytFillAction::Concat;
+}
+
+} // namespace
+
 DescriptionIndex::DescriptionIndex(const Description& description) : m_description(description)
 {
     for (const Mistake& mistake : description.mistakes)
@@ -91,9 +105,15 @@ void DescriptionIndex::TakeAction(const ValueStatement& statement)
     {
     case ClytAction::Visible: m_facts[statement.values.front()].isHidden = true; break;
     case ClytAction::Active: m_facts[statement.values.front()].isDisabled = true; break;
-    case ClytAction::Add: m_facts[statement.values.back()].getsItemsFromButton = true; break;
+    case ClytAction::Add: TakeAdding(statement.values.back()); break;
     default: break;
     }
+}
+
+void DescriptionIndex::TakeAdding(const std::string& target)
+{
+    ControlFacts& facts = m_facts[target];
+    facts.getsItemsFromButton = facts.control != nullptr && lytTypeOf(KindOf(*facts.control)).takesItems;
 }
 
 void DescriptionIndex::TakeRules()
@@ -121,7 +141,7 @@ void DescriptionIndex::TakeFills()
                 {
                     ControlFacts& facts = m_facts[fill->controlName.GetString()];
                     facts.isFilled = true;
-                    facts.getsItemsFromInput = facts.getsItemsFromInput || AddsItems(*fill);
+                    facts.getsItemsFromInput = facts.getsItemsFromInput || AddsItems(facts, *fill);
                 }
             }
         }
@@ -134,14 +154,21 @@ void DescriptionIndex::TakeOutputs()
     {
         m_groupNames.push_back(group.name);
         m_groups.insert(group.name);
-        if (group.name != lytParentName)
-            continue;
         for (const ClytDialogOutput* rule : Records(group.rules))
         {
             for (const ClytOutputItem& item : rule->items)
-                m_resultItems.insert(item.text.GetString());
+                TakeItem(group, item);
         }
     }
+}
+
+void DescriptionIndex::TakeItem(const OutputGroup& group, const ClytOutputItem& item)
+{
+    const std::string text = item.text.GetString();
+    if (group.name == lytParentName)
+        m_resultItems.insert(text);
+    if (!item.action.IsEmpty())
+        m_listed.insert(text);
 }
 
 // Names that a statement for an unknown control was meant for, and the words of lines that are refused.
@@ -166,15 +193,10 @@ std::unordered_set<std::string> DescriptionIndex::NamesMeantElsewhere() const
     return names;
 }
 
-bool AddsItems(const ClytControlFill& fill)
-{
-    const ClytFillAction action = fill.action.GetMeaning();
-    return action == ClytFillAction::Add || action == ClytFillAction::Modify || action == ClytFillAction::Concat;
-}
-
 bool TakesPiece(const ClytControlFill& fill)
 {
-    return AddsItems(fill) || (fill.action.GetMeaning() == ClytFillAction::Other && fill.value.IsEmpty());
+    const ClytFillAction action = fill.action.GetMeaning();
+    return action == ClytFillAction::Other ? fill.value.IsEmpty() : action != ClytFillAction::Fill;
 }
 
 } // namespace lytdlg

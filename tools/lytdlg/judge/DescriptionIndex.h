@@ -46,6 +46,8 @@ public:
     bool HasPart(const std::string& name) const { return m_parts.contains(name); }
     // Among the items of the rules that compose the result.
     bool IsItemOfResult(const std::string& text) const { return m_resultItems.contains(text); }
+    // Whether all its items go into some text.
+    bool IsListed(const std::string& name) const { return m_listed.contains(name); }
     bool HasCheck(const std::string& name) const { return m_checked.contains(name); }
     bool IsMeantElsewhere(const std::string& name) const;
     const std::optional<std::set<std::string>>& PossibleValuesOf(const ClytControlStatement& control) const;
@@ -54,9 +56,11 @@ private:
     void TakeControls();
     void TakeValues();
     void TakeAction(const ValueStatement& statement);
+    void TakeAdding(const std::string& target);
     void TakeRules();
     void TakeFills();
     void TakeOutputs();
+    void TakeItem(const OutputGroup& group, const ClytOutputItem& item);
     std::unordered_set<std::string> NamesMeantElsewhere() const;
 
     const Description& m_description;
@@ -70,12 +74,12 @@ private:
     std::unordered_set<std::string> m_groups;
     std::unordered_set<std::string> m_parts;
     std::unordered_set<std::string> m_resultItems;
+    std::unordered_set<std::string> m_listed;
     std::unordered_set<std::string> m_checked;
     mutable std::optional<std::unordered_set<std::string>> m_meantElsewhere; // looked up when it is asked for
     mutable std::unordered_map<const ClytControlStatement*, std::optional<std::set<std::string>>> m_possibleValues;
 };
 
-bool AddsItems(const ClytControlFill& fill);
 // Whether the piece of the input goes into the control.
 bool TakesPiece(const ClytControlFill& fill);
 

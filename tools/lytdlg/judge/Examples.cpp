@@ -244,6 +244,12 @@ std::string ExampleDescription(const std::string& lines)
     return text;
 }
 
+std::string ExampleName(const std::string& lines)
+{
+    const std::string first = lines.substr(0, lines.find('\n'));
+    return first.starts_with("; ") && first.ends_with(".dlg") ? first.substr(2) : "";
+}
+
 const std::vector<ExampleFile>& ExampleFiles()
 {
     static const std::string english =

@@ -10,8 +10,9 @@
 //     Begin ...           takes the place of the line that begins so; a statement of $INPUT that of the same name
 //
 // New controls come above OKButton (the part of the dialog from 500 to the right is free), new output rules above the ones
-// that are there, other lines below. Lines above the first header begin the file. {NUL} and {1A} are these bytes,
-// {LONG} is 400 blanks, {ABOVE} joins the line with the next one, and {CUT} is where the file ends.
+// that are there, other lines below. Lines above the first header begin the file; a first one such as `; lytRpGrp.dlg` is
+// the file's name. {NUL} and {1A} are these bytes, {LONG} is 400 blanks, {ABOVE} joins the line with the next one, and
+// {CUT} is where the file ends.
 #pragma once
 
 #include <string>
@@ -21,6 +22,8 @@ namespace lytdlg
 {
 
 std::string ExampleDescription(const std::string& lines);
+// Empty where nothing depends on the name of the file.
+std::string ExampleName(const std::string& lines);
 
 struct ExampleFile
 {

@@ -28,6 +28,8 @@ void ApplyFillRules(const Case& judged);
 void ApplyOutputGroupRules(const Case& judged);
 void ApplyOutputRules(const Case& judged);
 void ApplyFormatRules(const Case& judged);
+// What the calls hand over that open a dialog by its name, and look for in its answer.
+void ApplyNamedRules(const Case& judged);
 // Language files, the texts that the description shows, the letters that lead to a control, and the places of controls.
 void ApplyLanguageFileRules(const Case& judged);
 void ApplyTextRules(const Case& judged);

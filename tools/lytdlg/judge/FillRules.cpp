@@ -11,12 +11,15 @@ namespace lytdlg
 namespace
 {
 
+// The way out for a check list, which the input cannot fill.
+constexpr const char* makeItAList = "make it a ListBox, or let a library fill it with FILLEDBY and FILL";
+
 bool TakesAction(Kind kind, ClytFillAction word)
 {
     switch (word)
     {
     case ClytFillAction::Fill: return lytTypeOf(kind).isFilled;
-    case ClytFillAction::Add:
+    case ClytFillAction::Add: return lytTypeOf(kind).takesItems;
     case ClytFillAction::Modify: return lytTypeOf(kind).hasItems;
     case ClytFillAction::Concat: return lytTypeOf(kind).isOpenList;
     default: return lytTypeOf(kind).hasValue;
@@ -42,13 +45,20 @@ void JudgeAction(const Case& judged, const ClytControlFill& fill, Kind kind)
                 .number = lytError("ValueNotTaken");
         else
             judged.findings.Add("scan-action-idle", place, word + " does nothing on a " + type,
-                                kind == Kind::Combo || kind == Kind::DropList ? "use ADD, or a ListBox or CheckListBox"
+                                kind == Kind::Combo || kind == Kind::DropList ? "use ADD, or a ListBox"
+                                : kind == Kind::CheckList                     ? makeItAList
                                                                               : "name a list");
     }
     const std::string operands = (fill.operands[0] + fill.operands[1] + fill.operands[2]).GetString();
     if (fill.action.GetMeaning() == ClytFillAction::Concat && operands.size() > 2)
         judged.findings.Add("scan-concat", place, "with more than two characters after it, CONCAT adds nothing",
                             "name one or two separators");
+    if (fill.action.GetMeaning() == ClytFillAction::Concat && lytTypeOf(kind).hasMarks &&
+        description.Index().IsListed(name))
+        judged.findings.Add("scan-concat-marks", place,
+                            "a check list gets the items of CONCAT in reverse order and all marked, and their marks "
+                            "become part of them",
+                            makeItAList);
     if (fill.action.GetMeaning() == ClytFillAction::Fill && TakesAction(kind, ClytFillAction::Fill) &&
         LastStatementOf(description, name, Role::Source) == nullptr)
         judged.findings
@@ -69,7 +79,9 @@ void JudgeChoice(const Case& judged, const InputPart& part, const ClytControlFil
     const auto chosen = places.find(fill.value.GetString());
     if (items.empty())
         judged.findings.Add("scan-list-empty", fill.span, "the list " + InQuotes(name) + " has no items to choose from",
-                            "add the piece with ADD or CONCAT, or give the list items");
+                            KindOfControl(judged.description, name) == Kind::CheckList
+                                ? makeItAList
+                                : "add the piece with ADD or CONCAT");
     else if (fill.value.IsEmpty() || chosen == places.end() || items.size() - chosen->second <= 2)
         judged.findings.Add("scan-list", fill.span,
                             "an input cannot choose the last two items of " + InQuotes(name) +

@@ -11,12 +11,6 @@ namespace lytdlg
 namespace
 {
 
-bool TakesItem(FormatPieceKind kind)
-{
-    return kind == FormatPieceKind::Item || kind == FormatPieceKind::LoneS || kind == FormatPieceKind::NoLimit ||
-           kind == FormatPieceKind::LimitAndText;
-}
-
 // Nothing for a letter of the text.
 std::optional<FormatPieceKind> MeaningOf(const ClytFormatPiece& piece)
 {
@@ -35,6 +29,12 @@ std::optional<FormatPieceKind> MeaningOf(const ClytFormatPiece& piece)
 }
 
 } // namespace
+
+bool TakesItem(FormatPieceKind kind)
+{
+    return kind == FormatPieceKind::Item || kind == FormatPieceKind::LoneS || kind == FormatPieceKind::NoLimit ||
+           kind == FormatPieceKind::LimitAndText;
+}
 
 std::vector<FormatPiece> PiecesOf(const std::string& format)
 {

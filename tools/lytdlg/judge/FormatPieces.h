@@ -25,6 +25,8 @@ struct FormatPiece
     size_t length = 0;
 };
 
+bool TakesItem(FormatPieceKind kind);
+
 // The pieces of a format that are more than a letter of the text; none in a format without a `%`.
 std::vector<FormatPiece> PiecesOf(const std::string& format);
 // How many items the format takes.

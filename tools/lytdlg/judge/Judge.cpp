@@ -13,11 +13,11 @@ namespace
 
 // In the order of the sections. The library comes last: it looks whether a finding explains its failure.
 constexpr void (*families[])(const Case& judged) = {
-    ApplySectionRules,     ApplyLineRules,       ApplyMarkRules,    ApplyStatementRules,    ApplyWordRules,
-    ApplyLayoutRules,      ApplyValueRules,      ApplyContentRules, ApplyActionRules,       ApplyDependencyRules,
-    ApplyConditionRules,   ApplyEvaluationRules, ApplyScanRules,    ApplySeparatorRules,    ApplyFillRules,
-    ApplyOutputGroupRules, ApplyOutputRules,     ApplyFormatRules,  ApplyLanguageFileRules, ApplyTextRules,
-    ApplyMnemonicRules,    ApplyGeometryRules,   ApplyPartnerRules, ApplyLibraryVerdict};
+    ApplySectionRules,     ApplyLineRules,       ApplyMarkRules,     ApplyStatementRules, ApplyWordRules,
+    ApplyLayoutRules,      ApplyValueRules,      ApplyContentRules,  ApplyActionRules,    ApplyDependencyRules,
+    ApplyConditionRules,   ApplyEvaluationRules, ApplyScanRules,     ApplySeparatorRules, ApplyFillRules,
+    ApplyOutputGroupRules, ApplyOutputRules,     ApplyFormatRules,   ApplyNamedRules,     ApplyLanguageFileRules,
+    ApplyTextRules,        ApplyMnemonicRules,   ApplyGeometryRules, ApplyPartnerRules,   ApplyLibraryVerdict};
 
 // A rule that tells of what a section does not say.
 struct Lack

@@ -4,6 +4,7 @@
 #include "lytdlg/judge/Names.h"
 #include "lytdlg/judge/StatementText.h"
 
+#include <algorithm>
 #include <set>
 #include <unordered_map>
 
@@ -20,12 +21,15 @@ std::set<std::string> UsedGroups(const Description& description)
     {
         const std::vector<std::string>& values = statement.values;
         const auto meaning = lytMeaningOf<ClytAction>(statement.keyword.c_str());
-        if (lytMeaningOf<ClytKeyword>(statement.keyword.c_str()) == ClytKeyword::FilledBy && values.size() > 3)
-            used.insert(values[3]);
+        // The fourth word, or the third where one before it is missing: that is reported there.
+        if (lytMeaningOf<ClytKeyword>(statement.keyword.c_str()) == ClytKeyword::FilledBy)
+            used.insert(values.begin() + static_cast<std::ptrdiff_t>(std::min<size_t>(values.size(), 2)),
+                        values.begin() + static_cast<std::ptrdiff_t>(std::min<size_t>(values.size(), 4)));
+        // One that is in the place of the other is reported there.
         else if (meaning == ClytAction::Action && values.size() > 2)
-            used.insert(values[2]);
+            used.insert(values.begin() + 2, values.end());
         else if (meaning == ClytAction::Dialog)
-            used.insert(values.back());
+            used.insert(values.begin() + 1, values.end());
     }
     return used;
 }

@@ -41,10 +41,11 @@ std::set<std::string> UsedParts(const Description& description)
     for (const ValueStatement& statement : description.values)
     {
         const auto meaning = lytMeaningOf<ClytAction>(statement.keyword.c_str());
+        // The group that is named with it may be in its place: that is reported there.
         if (meaning == ClytAction::Dialog && statement.values.size() > 1)
-            used.insert(statement.values[1]);
+            used.insert(statement.values.begin() + 1, statement.values.end());
         else if (meaning == ClytAction::Action && statement.values.size() > 3)
-            used.insert(statement.values[3]);
+            used.insert(statement.values.begin() + 2, statement.values.end());
     }
     return used;
 }

@@ -1,5 +1,6 @@
 #include "lytdlg/judge/Families.h"
 
+#include "lytdlg/judge/Names.h"
 #include "lytdlg/judge/StatementText.h"
 
 #include <algorithm>
@@ -24,6 +25,37 @@ size_t EndOfQuotes(const std::string& text, size_t begin)
     return end != std::string::npos ? end + 1 : text.size();
 }
 
+// The way out for a blank that a text in quotes loses; `before` is the line up to the quote.
+std::string WayOutOfBlank(Section section, std::string before, const std::string& read, bool isAtEnd)
+{
+    before.erase(before.find_last_not_of(" \t") + 1);
+    const bool isOperand = before.ends_with(",") && before.find(lytTextOf(ClytFillAction::Concat)) != std::string::npos;
+    if (section != Section::Input || before.ends_with("=") || isOperand)
+        return "leave it out, or put another sign there";
+    if (read.empty())
+        return "a text cannot be cut at blanks: choose another sign";
+    return "write " + InQuotes(read) +
+           (isAtEnd ? ", and let a statement (1, NEXT) cut off the blank after it"
+                    : "; the blank then ends the piece before it");
+}
+
+void JudgeBlanks(const Case& judged, const SourceLine& line, size_t begin, size_t end)
+{
+    const std::string text = line.text.substr(begin, end - begin);
+    const size_t first = std::min(text.find_first_not_of(" \t"), text.size());
+    const size_t last = text.find_last_not_of(" \t") + 1;
+    const std::string read = first < last ? text.substr(first, last - first) : "";
+    if (line.section == Section::Layout || read == text)
+        return;
+    const bool isAtEnd = !read.empty() && last < text.size();
+    const size_t place = isAtEnd ? begin + last : begin;
+    judged.findings.Add("blank-dropped",
+                        {line.number, static_cast<int>(place), static_cast<int>(isAtEnd ? text.size() - last : first)},
+                        std::string("the blank at the ") + (isAtEnd ? "end" : "beginning") +
+                            " of a text in quotes is dropped, which is read as " + InQuotes(read),
+                        WayOutOfBlank(line.section, line.text.substr(0, begin - 1), read, isAtEnd));
+}
+
 void JudgeQuotes(const Case& judged, const SourceLine& line)
 {
     const std::string& text = line.text;
@@ -43,6 +75,8 @@ void JudgeQuotes(const Case& judged, const SourceLine& line)
                                 {line.number, static_cast<int>(rest), static_cast<int>(last + 1 - rest)},
                                 "what follows the closing quote is passed over", wayOut);
         }
+        if (end > begin + 1)
+            JudgeBlanks(judged, line, begin + 1, end - 1);
         begin = next < text.size() && text[next] != ';' ? text.find_first_not_of(" \t", next + 1) : std::string::npos;
     }
 }

@@ -154,6 +154,24 @@ std::optional<std::string> ValueOf(ClytControl& control)
     return control.GetValue().GetString();
 }
 
+bool TakesValue(const ClytControl& control, const CString& value)
+{
+    const auto isValue = [&](ClytControl* option) { return option->GetValue() == value; };
+    if (dynamic_cast<const ClytOptionGroup*>(&control) != nullptr)
+        return std::ranges::any_of(OptionsOf(control), isValue);
+    const auto* combo = dynamic_cast<const CComboBox*>(&control);
+    const bool takesAny = combo != nullptr && (combo->GetStyle() & CBS_DROPDOWNLIST) != CBS_DROPDOWNLIST;
+    const CStringArray* values = ItemValuesOf(control);
+    if (values == nullptr || takesAny)
+        return true;
+    for (int index = 0; index < values->GetCount(); ++index)
+    {
+        if (values->GetAt(index) == value)
+            return true;
+    }
+    return false;
+}
+
 std::string Describe(const DialogState& state)
 {
     std::string text = "dialog " + Quoted(ToUtf8(state.title)) + "\n";

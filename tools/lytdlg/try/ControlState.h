@@ -47,6 +47,9 @@ ControlState LookAt(const TrialDialog& dialog, ClytControl& control);
 // The value of a control, without the side effects that asking a list without a choice has; nothing without a value.
 std::optional<std::string> ValueOf(ClytControl& control);
 
+// Whether a value can be given to it: it has it among its options or items, or takes any.
+bool TakesValue(const ClytControl& control, const CString& value);
+
 // A line for each control, in UTF-8: name, type, states, value or text, items.
 std::string Describe(const DialogState& state);
 std::string DescribeItems(const ControlState& state);

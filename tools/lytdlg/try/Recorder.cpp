@@ -70,16 +70,23 @@ std::string Joined(const std::vector<TestedCondition>& conditions)
 // What becomes of a piece in a control.
 std::string TextOf(const ClytControlFill& fill, const CString& piece)
 {
+    const ClytControl& control = *fill.GetControl();
     switch (fill.action.GetMeaning())
     {
     case ClytFillAction::Fill: return "is filled by its library";
-    case ClytFillAction::Add: return "takes the item " + QuotedUtf8(piece);
+    case ClytFillAction::Add:
+        return dynamic_cast<const CCheckListBox*>(&control) != nullptr
+                   ? "is a check list, and does not take the item " + QuotedUtf8(piece)
+                   : "takes the item " + QuotedUtf8(piece);
     case ClytFillAction::Modify: return "takes " + QuotedUtf8(piece) + " in place of the chosen item";
     case ClytFillAction::Concat: return "takes the items of " + QuotedUtf8(piece);
     case ClytFillAction::Other: break;
     }
     const CString& value = fill.value.IsEmpty() ? piece : fill.value;
-    return value.IsEmpty() ? "is handed an empty text" : "takes " + QuotedUtf8(value);
+    if (value.IsEmpty())
+        return "is handed an empty text";
+    const bool isFilled = lytMeans<ClytValueWord::Fill>(value) && dynamic_cast<const CComboBox*>(&control) != nullptr;
+    return (isFilled || TakesValue(control, value) ? "takes " : "has no value ") + QuotedUtf8(value);
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 
 #include "commandline/Text.h"
 #include "controls/TypeWords.h"
+#include "exports/NamedDialogs.h"
 #include "lytdlg/try/ControlState.h"
 #include "lytdlg/try/TrialRun.h"
 #include "model/ClytWords.h"
@@ -37,7 +38,8 @@ std::string KeptValue(std::span<const FillRecord> fills, const DialogState& stat
         std::ranges::none_of(fills.subspan(1), [&](const FillRecord& later) { return later.control == fill.control; });
     if (!isLast || !(type.hasItems || type.kind == ClytKind::OptionGroup))
         return "";
-    return control->value ? ", but its value is " + Quoted(ToUtf8(*control->value)) : ", but nothing is chosen in it";
+    const std::string link = fill.text.starts_with("takes") ? ", but " : ", and ";
+    return link + (control->value ? "its value is " + Quoted(ToUtf8(*control->value)) : "nothing is chosen in it");
 }
 
 void PrintFills(const Recorder& recorder, const DialogState& state)
@@ -121,7 +123,7 @@ ExitCode Compose(const Request& request)
 // What follows this mark in the result of a group's dialog is for the macros.
 std::string PlaceholderOf(const std::string& result)
 {
-    const size_t mark = result.find(")/1");
+    const size_t mark = result.find(lytGroupMark);
     return mark != std::string::npos ? result.substr(0, mark + 1) : result;
 }
 

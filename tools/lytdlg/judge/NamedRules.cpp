@@ -1,0 +1,261 @@
+// What the calls that open the named dialogs hand over, and what they look for in the answer.
+#include "lytdlg/judge/Families.h"
+
+#include "dialog/ClytDialog.h"
+#include "lytdlg/judge/DescriptionIndex.h"
+#include "lytdlg/judge/FormatPieces.h"
+#include "lytdlg/judge/Lists.h"
+#include "lytdlg/judge/Names.h"
+#include "lytdlg/text/NamedDialog.h"
+#include "tree/ClytWizardQueue.h"
+
+#include <algorithm>
+
+namespace lytdlg
+{
+
+namespace
+{
+
+// In the place of a value that is not known before the dialog runs.
+constexpr char someValue = '\x01';
+
+// What a rule of the output composes: the letters that it writes, and values.
+struct Answer
+{
+    std::string text;
+    std::vector<const ClytOutputItem*> values; // in the order of their places
+};
+
+void AddItem(const Description& description, const ClytOutputItem& item, Answer& answer)
+{
+    if (description.FindControl(item.text.GetString()) == nullptr)
+    {
+        answer.text += item.text.GetString();
+        return;
+    }
+    // Of the separators of a list the second comes before the items and the third after them.
+    const std::string separators = item.action.GetString();
+    const bool hasEnds = !lytMeans<ClytFillAction::Concat>(item.action);
+    answer.text += hasEnds ? separators.substr(std::min<size_t>(separators.size(), 1), 1) : "";
+    answer.text += someValue;
+    answer.text += hasEnds ? separators.substr(std::min<size_t>(separators.size(), 2), 1) : "";
+    answer.values.push_back(&item);
+}
+
+Answer AnswerOf(const Description& description, const ClytDialogOutput& rule)
+{
+    const std::string format = rule.format.GetString();
+    Answer answer;
+    size_t place = 0;
+    size_t taken = 0;
+    for (const FormatPiece& piece : PiecesOf(format))
+    {
+        if (!TakesItem(piece.kind))
+            continue;
+        answer.text += format.substr(place, piece.start - place);
+        place = piece.start + piece.length;
+        if (taken < rule.items.size())
+            AddItem(description, rule.items[taken++], answer);
+    }
+    answer.text += format.substr(place);
+    return answer;
+}
+
+// A rule of the result, as the call takes it.
+struct AnsweringRule
+{
+    const Case& judged;
+    const ClytNamedDialog& named;
+    const ClytDialogOutput& rule;
+    Answer answer;
+
+    void Add(RuleName id, std::string message, std::string hint) const
+    {
+        judged.findings.Add(id, judged.description.PlaceOf(rule.span.line), std::move(message), std::move(hint));
+    }
+};
+
+// ---- The answer of a group
+
+// The place of the mark that ends the bracket, of which a value may hold a part; npos without it.
+size_t FindMark(const std::string& text)
+{
+    const std::string mark = lytGroupMark;
+    for (size_t place = 0; place < text.size(); ++place)
+    {
+        if (text.compare(place, mark.size(), mark) == 0)
+            return place;
+        // The bracket, or what follows it, comes from a value.
+        const bool hasBracket = text[place] == ')' || text[place] == someValue;
+        const std::string rest = text.substr(place + 1, 2);
+        if (hasBracket && (rest == mark.substr(1) || (text[place] == ')' && rest.starts_with(someValue)) ||
+                           (text[place] == ')' && rest == std::string("/") + someValue)))
+            return place;
+    }
+    return std::string::npos;
+}
+
+// The three letters of the key take the place of what is there.
+void JudgeKeptLetters(const AnsweringRule& given, size_t second)
+{
+    const std::string text = given.answer.text.substr(second);
+    for (int index = 0; index < std::min(static_cast<int>(text.size()), lytKeptLettersEnd); ++index)
+    {
+        const char ch = text[static_cast<size_t>(index)];
+        const bool isLost = index >= lytKeptLettersBegin && ch != ' ';
+        if (ch != someValue && !isLost)
+            continue;
+        given.Add("macro-loss", "three letters of the key take the place of the sixth to eighth letter after the \"/\"",
+                  "keep these places free: \")/1REPT   ;\" and then what is to be kept");
+        return;
+    }
+}
+
+void JudgeGroupAnswer(const AnsweringRule& given)
+{
+    const std::string& text = given.answer.text;
+    const size_t mark = FindMark(text);
+    const size_t bracket = text.find('(');
+    if (mark == std::string::npos)
+        given.Add("macro-answer",
+                  std::string("the macros look for \"") + lytGroupMark +
+                      "\" in the answer, and without it the placeholder loses its bracket",
+                  "end the bracket with \")/1\" and the text for the macros");
+    else if (bracket > mark && text.front() != someValue)
+        given.Add("macro-answer",
+                  "the macros look for \"(\" in the answer, and without it the placeholder loses its bracket",
+                  "begin the answer with \"(\"");
+    // A group on a condition may be handed the whole key.
+    else if (bracket != 0 && bracket < mark && given.named.which == ClytNamed::Repetition)
+        given.Add("macro-loss", "what comes before the \"(\" is lost: the document keeps the head of the placeholder",
+                  "begin the answer with \"(\"");
+    if (mark != std::string::npos && text.substr(mark + 1, 2) == lytGroupMark + 1)
+        JudgeKeptLetters(given, mark + 2);
+}
+
+// ---- The answer of a group of the wizard
+
+void JudgeJoint(const AnsweringRule& given, const ClytOutputItem& list)
+{
+    const bool isBlank = lytMeans<ClytFillAction::Concat>(list.action);
+    if (list.action.IsEmpty() || (!isBlank && list.action[0] == lytListSeparator))
+        return;
+    given.judged.findings.Add("macro-loss", list.span,
+                              "these texts are joined by " + InQuotes(isBlank ? " " : std::string(1, list.action[0])) +
+                                  ", and are inserted as one",
+                              "join them with \"|\": " + std::string(list.text.GetString()) + "(\"|\")");
+}
+
+void JudgeTextsAnswer(const AnsweringRule& given)
+{
+    const std::string& text = given.answer.text;
+    const size_t mark = text.find(lytListMark);
+    const size_t brace = mark != std::string::npos ? text.find(lytListBegin, mark) : mark;
+    if (brace == std::string::npos)
+    {
+        given.Add("macro-answer",
+                  std::string("the wizard looks for \"") + lytListMark +
+                      "\" and \"{\" in the answer, and cuts it there",
+                  "write \"/LIST{\" between the head of the group and the texts to insert");
+        return;
+    }
+    const auto before = std::count(text.begin(), text.begin() + static_cast<std::ptrdiff_t>(brace), someValue);
+    for (auto value = given.answer.values.begin() + before; value != given.answer.values.end(); ++value)
+        JudgeJoint(given, **value);
+    if (text.back() == lytListSeparator)
+        given.Add("macro-loss", "the last text is lost when the list ends in \"|\"", "leave out the last \"|\"");
+    else if (text.back() == '}')
+        given.Add("macro-loss", "the \"}\" becomes a part of the last text to insert", "leave out the \"}\"");
+}
+
+// ---- What is handed over
+
+// The fill of `Start` that takes the first piece; null where none does, and where `Start` asks for a control.
+const ClytControlFill* FirstTaken(const ClytDialogInput& start)
+{
+    for (const ClytConditionFill* rule : Records(start.scanRule.rules))
+    {
+        for (const ClytControlFill* fill : Records(rule->fills))
+        {
+            if (TakesPiece(*fill))
+                return fill;
+        }
+    }
+    return nullptr;
+}
+
+bool CutsAt(const ClytDialogInput& statement, char sign)
+{
+    return std::ranges::any_of(Records(statement.scanRule.scan.GetSeparators()), [&](const ClytSeparator* separator)
+                               { return separator->text.IsEmpty() || separator->text[0] == sign; });
+}
+
+// Whether `Start` hands more than what comes before the sign to a control.
+const ClytControlFill* TakenWith(const ClytInputPart& part, char sign)
+{
+    constexpr int longEnough = 2;
+    const ClytDialogInput* start = part.Find(lytStartName);
+    if (start == nullptr || !start->conditions.IsEmpty() || CutsAt(*start, sign))
+        return nullptr;
+    const int length = start->scanRule.scan.GetLength();
+    return sign == '(' || length == 0 || length >= longEnough ? FirstTaken(*start) : nullptr;
+}
+
+void JudgeBracketInput(const Case& judged, const ClytInputPart& part, bool isWritten)
+{
+    const ClytControlFill* fill = TakenWith(part, '(');
+    if (fill != nullptr && isWritten)
+        judged.findings.Add("macro-input", fill->span,
+                            "the bracket that is handed over goes into " + InQuotes(fill->controlName.GetString()) +
+                                ", and the answer writes another",
+                            "begin with a statement that cuts it off: Start: (\"(\", NEXT)");
+}
+
+void JudgeEntryInput(const Case& judged, const ClytInputPart& part)
+{
+    const auto cuts = [](const ClytDialogInput* statement) { return CutsAt(*statement, '/'); };
+    const ClytControlFill* fill = TakenWith(part, '/');
+    if (fill != nullptr && std::ranges::none_of(Records(part.GetStatements()), cuts))
+        judged.findings.Add("macro-input", fill->span,
+                            "key and label are handed over with a \"/\" between them, and go into " +
+                                InQuotes(fill->controlName.GetString()) + " together",
+                            "cut between them: Start: (\"/\", NEXT = " + std::string(fill->controlName.GetString()));
+}
+
+} // namespace
+
+void ApplyNamedRules(const Case& judged)
+{
+    const ClytNamedDialog* named = NamedDialogOf(judged.description.path);
+    if (named == nullptr)
+        return;
+    bool writesBracket = false;
+    for (const OutputGroup& group : judged.description.outputs)
+    {
+        if (group.name != lytParentName)
+            continue;
+        for (const ClytDialogOutput* rule : Records(group.rules))
+        {
+            const AnsweringRule given{judged, *named, *rule, AnswerOf(judged.description, *rule)};
+            if (given.answer.text.empty() || judged.description.IsRefused(rule->span.line))
+                continue;
+            writesBracket = writesBracket || given.answer.text.front() == '(';
+            if (named->cut == ClytCut::AtMark)
+                JudgeGroupAnswer(given);
+            else if (named->cut == ClytCut::IntoTexts)
+                JudgeTextsAnswer(given);
+        }
+    }
+    for (const InputPart& part : judged.description.inputs)
+    {
+        if (part.name != lytParentName)
+            continue;
+        if (named->handed == ClytHanded::Bracket)
+            JudgeBracketInput(judged, *part.part, writesBracket);
+        else if (named->handed == ClytHanded::Entry)
+            JudgeEntryInput(judged, *part.part);
+    }
+}
+
+} // namespace lytdlg
