@@ -69,6 +69,9 @@ struct AnsweringRule
     const ClytNamedDialog& named;
     const ClytDialogOutput& rule;
     Answer answer;
+    // The input cuts the brackets off, so that no value holds them.
+    bool dropsBegin = false;
+    bool dropsEnd = false;
 
     void Add(RuleName id, std::string message, std::string hint) const
     {
@@ -76,24 +79,62 @@ struct AnsweringRule
     }
 };
 
+bool CutsAt(const ClytDialogInput& statement, char sign)
+{
+    return std::ranges::any_of(Records(statement.scanRule.scan.GetSeparators()), [&](const ClytSeparator* separator)
+                               { return separator->text.IsEmpty() || separator->text[0] == sign; });
+}
+
+bool CutsAt(const Description& description, char sign)
+{
+    const auto cuts = [&](const ClytDialogInput* statement) { return CutsAt(*statement, sign); };
+    return std::ranges::any_of(
+        description.inputs, [&](const InputPart& part)
+        { return part.name == lytParentName && std::ranges::any_of(Records(part.part->GetStatements()), cuts); });
+}
+
 // ---- The answer of a group
 
-// The place of the mark that ends the bracket, of which a value may hold a part; npos without it.
-size_t FindMark(const std::string& text)
+// Whether a value may begin so: a field does with what $VALUES gives it.
+bool MayBeginWith(const Description& description, const ClytOutputItem& value, const std::string& text)
 {
+    const std::string name = value.text.GetString();
+    const ClytControlStatement& control = *description.FindControl(name);
+    const auto begins = [&](const std::string& known) { return known.starts_with(text); };
+    if (const std::optional<std::set<std::string>>& known = description.Index().PossibleValuesOf(control))
+        return std::ranges::any_of(*known, begins);
+    const ValueStatement* first = LastStatementOf(description, name, Role::Default);
+    return KindOf(control) != Kind::Field || (first != nullptr && begins(first->values.front()));
+}
+
+// Whether the mark is at the place, with what values hold of it. The bracket may be in one that the input has left it in.
+bool HasMark(const AnsweringRule& given, size_t place)
+{
+    const std::string& text = given.answer.text;
+    if (text[place] != ')' && !(text[place] == someValue && !given.dropsEnd))
+        return false;
+    auto value = given.answer.values.begin() +
+                 std::count(text.begin(), text.begin() + static_cast<std::ptrdiff_t>(place) + 1, someValue);
     const std::string mark = lytGroupMark;
-    for (size_t place = 0; place < text.size(); ++place)
+    for (size_t index = 1; index < mark.size(); ++index)
     {
-        if (text.compare(place, mark.size(), mark) == 0)
-            return place;
-        // The bracket, or what follows it, comes from a value.
-        const bool hasBracket = text[place] == ')' || text[place] == someValue;
-        const std::string rest = text.substr(place + 1, 2);
-        if (hasBracket && (rest == mark.substr(1) || (text[place] == ')' && rest.starts_with(someValue)) ||
-                           (text[place] == ')' && rest == std::string("/") + someValue)))
-            return place;
+        if (place + index >= text.size())
+            return false;
+        const char ch = text[place + index];
+        if (ch == someValue)
+            return MayBeginWith(given.judged.description, **value, mark.substr(index));
+        if (ch != mark[index])
+            return false;
     }
-    return std::string::npos;
+    return true;
+}
+
+size_t FindMark(const AnsweringRule& given)
+{
+    size_t place = 0;
+    while (place < given.answer.text.size() && !HasMark(given, place))
+        ++place;
+    return place < given.answer.text.size() ? place : std::string::npos;
 }
 
 // The three letters of the key take the place of what is there.
@@ -115,14 +156,14 @@ void JudgeKeptLetters(const AnsweringRule& given, size_t second)
 void JudgeGroupAnswer(const AnsweringRule& given)
 {
     const std::string& text = given.answer.text;
-    const size_t mark = FindMark(text);
+    const size_t mark = FindMark(given);
     const size_t bracket = text.find('(');
     if (mark == std::string::npos)
         given.Add("macro-answer",
                   std::string("the macros look for \"") + lytGroupMark +
                       "\" in the answer, and without it the placeholder loses its bracket",
                   "end the bracket with \")/1\" and the text for the macros");
-    else if (bracket > mark && text.front() != someValue)
+    else if (bracket > mark && (given.dropsBegin || text.front() != someValue))
         given.Add("macro-answer",
                   "the macros look for \"(\" in the answer, and without it the placeholder loses its bracket",
                   "begin the answer with \"(\"");
@@ -185,12 +226,6 @@ const ClytControlFill* FirstTaken(const ClytDialogInput& start)
     return nullptr;
 }
 
-bool CutsAt(const ClytDialogInput& statement, char sign)
-{
-    return std::ranges::any_of(Records(statement.scanRule.scan.GetSeparators()), [&](const ClytSeparator* separator)
-                               { return separator->text.IsEmpty() || separator->text[0] == sign; });
-}
-
 // Whether `Start` hands more than what comes before the sign to a control.
 const ClytControlFill* TakenWith(const ClytInputPart& part, char sign)
 {
@@ -214,13 +249,37 @@ void JudgeBracketInput(const Case& judged, const ClytInputPart& part, bool isWri
 
 void JudgeEntryInput(const Case& judged, const ClytInputPart& part)
 {
-    const auto cuts = [](const ClytDialogInput* statement) { return CutsAt(*statement, '/'); };
     const ClytControlFill* fill = TakenWith(part, '/');
-    if (fill != nullptr && std::ranges::none_of(Records(part.GetStatements()), cuts))
+    if (fill != nullptr && !CutsAt(judged.description, '/'))
         judged.findings.Add("macro-input", fill->span,
                             "key and label are handed over with a \"/\" between them, and go into " +
                                 InQuotes(fill->controlName.GetString()) + " together",
                             "cut between them: Start: (\"/\", NEXT = " + std::string(fill->controlName.GetString()));
+}
+
+void JudgeLabelInput(const Case& judged, const ClytInputPart& part)
+{
+    const ClytDialogInput* start = part.Find(lytStartName);
+    if (start == nullptr)
+        return;
+    for (const ClytSeparator* separator : Records(start->scanRule.scan.GetSeparators()))
+    {
+        if (separator->text == "/")
+            judged.findings.Add("macro-input", separator->span,
+                                "the label of a heading is handed over without a key before it",
+                                "take the whole text: Start: (999, End = CONTROL");
+    }
+}
+
+void JudgeInput(const Case& judged, const ClytNamedDialog& named, const ClytInputPart& part, bool writesBracket)
+{
+    switch (named.handed)
+    {
+    case ClytHanded::Key: break;
+    case ClytHanded::Bracket: JudgeBracketInput(judged, part, writesBracket); break;
+    case ClytHanded::Entry: JudgeEntryInput(judged, part); break;
+    case ClytHanded::Label: JudgeLabelInput(judged, part); break;
+    }
 }
 
 } // namespace
@@ -237,7 +296,12 @@ void ApplyNamedRules(const Case& judged)
             continue;
         for (const ClytDialogOutput* rule : Records(group.rules))
         {
-            const AnsweringRule given{judged, *named, *rule, AnswerOf(judged.description, *rule)};
+            const AnsweringRule given{judged,
+                                      *named,
+                                      *rule,
+                                      AnswerOf(judged.description, *rule),
+                                      CutsAt(judged.description, '('),
+                                      CutsAt(judged.description, ')')};
             if (given.answer.text.empty() || judged.description.IsRefused(rule->span.line))
                 continue;
             writesBracket = writesBracket || given.answer.text.front() == '(';
@@ -249,12 +313,8 @@ void ApplyNamedRules(const Case& judged)
     }
     for (const InputPart& part : judged.description.inputs)
     {
-        if (part.name != lytParentName)
-            continue;
-        if (named->handed == ClytHanded::Bracket)
-            JudgeBracketInput(judged, *part.part, writesBracket);
-        else if (named->handed == ClytHanded::Entry)
-            JudgeEntryInput(judged, *part.part);
+        if (part.name == lytParentName)
+            JudgeInput(judged, *named, *part.part, writesBracket);
     }
 }
 
