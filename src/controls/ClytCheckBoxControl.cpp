@@ -29,10 +29,17 @@ void ClytCheckBoxControl::SetOption(const CStringList& values, const CString& ke
         defaultValue = value;
 }
 
-void ClytCheckBoxControl::SetValue(const CString& value)
+std::optional<int> ClytCheckBoxControl::StateOf(const CString& value) const
 {
     if (value == onValue || lytMeans<ClytValueWord::On>(value))
-        SetCheck(BST_CHECKED);
-    else if (value == offValue || lytMeans<ClytValueWord::Off>(value))
-        SetCheck(BST_UNCHECKED);
+        return BST_CHECKED;
+    if (value == offValue || lytMeans<ClytValueWord::Off>(value))
+        return BST_UNCHECKED;
+    return std::nullopt;
+}
+
+void ClytCheckBoxControl::SetValue(const CString& value)
+{
+    if (const std::optional<int> state = StateOf(value))
+        SetCheck(*state);
 }

@@ -3,6 +3,8 @@
 
 #include "controls/ClytWindowControl.h"
 
+#include <optional>
+
 class ClytCheckBoxControl : public ClytWindowControl<CButton>
 {
 public:
@@ -12,7 +14,9 @@ public:
     void SetOption(const CStringList& values, const CString& keyword) override;
     void SaveState() override { savedState = GetCheck(); }
     void SetControlFocus() override { SetFocus(); }
-    // Takes its own two texts and the words "ON" and "OFF"; any other value changes nothing.
+    // The state of one of its own two texts, or of the words "ON" and "OFF"; nothing for any other value.
+    std::optional<int> StateOf(const CString& value) const;
+    // A value without a state changes nothing.
     void SetValue(const CString& value) override;
     CString GetValue() override { return GetCheck() == BST_CHECKED ? onValue : offValue; }
     int IsChanged() override { return GetCheck() != savedState ? 1 : 0; }

@@ -61,6 +61,8 @@ A piece that a control does not take is no success.
   >     DropListBox 16, 40, 100, 80, .Unit
   >     ComboBox 216, 40, 100, 80, .Inspector
   >     CheckListBox 16, 80, 100, 80, .Parts
+  >     CheckBox 216, 80, 100, 12, "Pictures", .Pictures
+  >     ListBox 216, 100, 100, 60, .Rooms
   >     OKButton 16, 170, 112, 22, .Ok
   > End Dialog
   > $VALUES
@@ -68,32 +70,44 @@ A piece that a control does not take is no success.
   >     Severe = severe
   >     Unit: Metre = m
   >     Inspector: Team = Team
+  >     Pictures: ON = P
+  >     Pictures: OFF = -
+  >     Pictures = P
+  >     Rooms: Hall = hall
+  >     Rooms: Bath = bath
+  >     Rooms: Attic = attic
   > $DEPENDANCES
   > $EVALUATION, x
   > $INPUT, parent
   >     Start: (";", Unit = Severity
   >     Unit: (";", Inspector = Unit
   >     Inspector: (";", Parts = Inspector
-  >     Parts: (99, End = Parts(ADD)
+  >     Parts: (";", Pictures = Parts(ADD)
+  >     Pictures: (";", Rooms = Pictures
+  >     Rooms: (99, End = Rooms
   > $OUTPUT, parent
   >     ("%s;%s", Severity, Unit)
   > $END
   > END
-  $ lytdlg scan pieces.dlg --input 'severe;m;Team;roof'
-  line 20 Start: Severity takes "severe"
-  line 21 Unit: Unit takes "m"
-  line 22 Inspector: Inspector takes "Team"
-  line 23 Parts: Parts is a check list, and does not take the item "roof"
+  $ lytdlg scan pieces.dlg --input 'severe;m;Team;roof;-;hall'
+  line 28 Start: Severity takes "severe"
+  line 29 Unit: Unit takes "m"
+  line 30 Inspector: Inspector takes "Team"
+  line 31 Parts: Parts is a check list, and does not take the item "roof"
+  line 32 Pictures: Pictures takes "-"
+  line 33 Rooms: Rooms takes "hall"
   the scan ended at End
-  $ lytdlg scan pieces.dlg --input ' severe;km;Zorn;roof'
-  line 20 Start: Severity has no value " severe", and its value is ""
-  line 21 Unit: Unit has no value "km", and its value is "m"
-  line 22 Inspector: Inspector takes "Zorn", but its value is "Team"
-  line 23 Parts: Parts is a check list, and does not take the item "roof"
+  $ lytdlg scan pieces.dlg --input ' severe;km;Zorn;roof;x;attic'
+  line 28 Start: Severity has no value " severe", and its value is ""
+  line 29 Unit: Unit has no value "km", and its value is "m"
+  line 30 Inspector: Inspector takes "Zorn", but its value is "Team"
+  line 31 Parts: Parts is a check list, and does not take the item "roof"
+  line 32 Pictures: Pictures has no value "x"
+  line 33 Rooms: Rooms cannot be given "attic", one of its last two items, and nothing is chosen in it
   the scan ended at End
-  $ lytdlg why pieces.dlg Severity --input ' severe;km;Zorn;roof'
+  $ lytdlg why pieces.dlg Severity --input ' severe;km;Zorn;roof;x;attic'
   Severity is shown and enabled; it is empty.
-  The scan came to it in line 20 (statement Start): it has no value " severe".
+  The scan came to it in line 28 (statement Start): it has no value " severe".
 
   $ lytdlg compose samples/dialogs/lytInSym.dlg --input 'S1:area(2,m2)' --set Missing=none
   result = "S1:area(2,m2)=\"none\""

@@ -154,22 +154,24 @@ std::optional<std::string> ValueOf(ClytControl& control)
     return control.GetValue().GetString();
 }
 
-bool TakesValue(const ClytControl& control, const CString& value)
+Taking TakingOf(const ClytControl& control, const CString& value)
 {
+    const auto takenIf = [](bool isKnown) { return isKnown ? Taking::Taken : Taking::Unknown; };
     const auto isValue = [&](ClytControl* option) { return option->GetValue() == value; };
     if (dynamic_cast<const ClytOptionGroup*>(&control) != nullptr)
-        return std::ranges::any_of(OptionsOf(control), isValue);
-    const auto* combo = dynamic_cast<const CComboBox*>(&control);
-    const bool takesAny = combo != nullptr && (combo->GetStyle() & CBS_DROPDOWNLIST) != CBS_DROPDOWNLIST;
+        return takenIf(std::ranges::any_of(OptionsOf(control), isValue));
+    if (const auto* box = dynamic_cast<const ClytCheckBoxControl*>(&control))
+        return takenIf(box->StateOf(value).has_value());
     const CStringArray* values = ItemValuesOf(control);
-    if (values == nullptr || takesAny)
-        return true;
-    for (int index = 0; index < values->GetCount(); ++index)
-    {
-        if (values->GetAt(index) == value)
-            return true;
-    }
-    return false;
+    const auto* combo = dynamic_cast<const CComboBox*>(&control);
+    if (values == nullptr || (combo != nullptr && (combo->GetStyle() & CBS_DROPDOWNLIST) != CBS_DROPDOWNLIST))
+        return Taking::Taken;
+    int index = 0;
+    while (index < values->GetCount() && values->GetAt(index) != value)
+        ++index;
+    // The search in a list ends two items before the last, and finds a single one all the same.
+    const bool isLate = combo == nullptr && values->GetCount() > 1 && index + 2 >= values->GetCount();
+    return index < values->GetCount() && isLate ? Taking::OutOfReach : takenIf(index < values->GetCount());
 }
 
 std::string Describe(const DialogState& state)

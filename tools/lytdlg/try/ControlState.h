@@ -47,8 +47,14 @@ ControlState LookAt(const TrialDialog& dialog, ClytControl& control);
 // The value of a control, without the side effects that asking a list without a choice has; nothing without a value.
 std::optional<std::string> ValueOf(ClytControl& control);
 
-// Whether a value can be given to it: it has it among its options or items, or takes any.
-bool TakesValue(const ClytControl& control, const CString& value);
+// What becomes of a value that an input gives to a control.
+enum class Taking
+{
+    Taken,
+    Unknown,   // it is none of its options, items or states
+    OutOfReach // an item that an input cannot choose
+};
+Taking TakingOf(const ClytControl& control, const CString& value);
 
 // A line for each control, in UTF-8: name, type, states, value or text, items.
 std::string Describe(const DialogState& state);

@@ -86,7 +86,13 @@ std::string TextOf(const ClytControlFill& fill, const CString& piece)
     if (value.IsEmpty())
         return "is handed an empty text";
     const bool isFilled = lytMeans<ClytValueWord::Fill>(value) && dynamic_cast<const CComboBox*>(&control) != nullptr;
-    return (isFilled || TakesValue(control, value) ? "takes " : "has no value ") + QuotedUtf8(value);
+    switch (isFilled ? Taking::Taken : TakingOf(control, value))
+    {
+    case Taking::Taken: break;
+    case Taking::Unknown: return "has no value " + QuotedUtf8(value);
+    case Taking::OutOfReach: return "cannot be given " + QuotedUtf8(value) + ", one of its last two items";
+    }
+    return "takes " + QuotedUtf8(value);
 }
 
 } // namespace
