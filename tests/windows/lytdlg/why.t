@@ -66,8 +66,7 @@ Each way to be hidden, disabled or empty.
 
   $ lytdlg why dialogs/why.dlg Short --input 'K:2;'
   Short is shown and enabled; nothing is chosen in it.
-  The scan came to it in line 44 (statement First): it takes "2".
-  An input cannot choose one of the last two items of a list, and "2" is one of them.
+  The scan came to it in line 44 (statement First): it cannot be given "2", one of its last two items.
 
   $ lytdlg why dialogs/why.dlg Rooms
   Rooms is shown and enabled; nothing is chosen in it.

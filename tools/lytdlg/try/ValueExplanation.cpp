@@ -43,7 +43,6 @@ public:
             Tell("Now " + DescribeLostText(m_state) + ".");
         TellEvents();
         TellLibrary();
-        TellChoice();
         return std::move(m_lines);
     }
 
@@ -71,36 +70,10 @@ private:
         return std::ranges::find(statements, statement) != statements.end();
     }
 
-    void TellChoice()
-    {
-        if (!lytTypeOf(m_state.type).hasItems || m_state.value || m_state.items.empty())
-            return;
-        const FillRecord* last = LastFill();
-        if (last != nullptr && IsAmongLastTwo(last->value))
-            Tell("An input cannot choose one of the last two items of a list, and " + Quoted(ToUtf8(last->value)) +
-                 " is one of them.");
-    }
-
     // A dialog below or above this one may have a control of the same name.
     bool IsAboutThis(const FillRecord& fill) const
     {
         return fill.control == m_state.name && Has(m_allStatements, fill.source);
-    }
-
-    const FillRecord* LastFill() const
-    {
-        const auto& fills = m_recorder.Fills();
-        const auto found =
-            std::find_if(fills.rbegin(), fills.rend(), [&](const FillRecord& fill) { return IsAboutThis(fill); });
-        return found != fills.rend() ? &*found : nullptr;
-    }
-
-    bool IsAmongLastTwo(const std::string& value) const
-    {
-        const std::vector<ItemState>& items = m_state.items;
-        const size_t first = items.size() > 2 ? items.size() - 2 : 0;
-        return std::any_of(items.begin() + static_cast<std::ptrdiff_t>(first), items.end(),
-                           [&](const ItemState& item) { return item.value == value; });
     }
 
     void TellFills()
