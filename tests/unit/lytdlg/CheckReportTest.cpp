@@ -97,7 +97,8 @@ TEST_F(CheckReport, TellsOfAByteOrderMarkInALanguageFile)
 {
     folder.Write("lang/English.nls", "\xEF\xBB\xBF[Box]\nTitle=Box\n[Buttons]\n001=&OK\n002=&Cancel\n");
     const std::string told = Check(sound);
-    const std::string wayOut = "save the file in code page 1252, which editors call ANSI or Windows-1252\n";
+    const std::string wayOut = "save the file in code page 1252, which editors call ANSI or Windows-1252, or let "
+                               "`lytdlg texts FOLDER --encode` convert it\n";
     for (const std::string& part : {"box.dlg:2:9: warning text-section: English.nls has no section [Box]\n"
                                     "    $LAYOUT Box\n"
                                     "            ^~~\n"
@@ -187,6 +188,58 @@ TEST_F(CheckReport, GivesJsonThatAProgramReads)
     EXPECT_EQ(finding["length"], 13);
     EXPECT_EQ(finding["level"], "error");
     EXPECT_EQ(finding["rule"], "section-misspelt");
+}
+
+TEST_F(CheckReport, GivesALineForEachFindingAsCompilersDo)
+{
+    EXPECT_EQ(Check(With("$EVALUATION, x", misspelt), {"--format", "gcc"}),
+              "box.dlg:10:1: error: \"$EVALUATION x\" opens no section; a blank does not end the word; write "
+              "\"$EVALUATION, x\" [section-misspelt]\n");
+    EXPECT_EQ(exitCode, 1);
+}
+
+TEST_F(CheckReport, LeavesOutWhatIsLessGrave)
+{
+    const std::string description = With("    OKButton 10, 60, 100, 22, .Ok\n", "");
+    EXPECT_NE(Check(description).find("0 errors, 0 warnings, 1 note\n"), std::string::npos);
+    const std::string nothing = "1 description judged: 0 errors, 0 warnings, 0 notes\n";
+    EXPECT_EQ(Check(description, {"--level", "warning"}), nothing);
+    EXPECT_EQ(Check(With("Begin Dialog Box 300", "Begin Dialog Box 150"), {"--level", "error"}), nothing);
+    EXPECT_EQ(exitCode, 0);
+}
+
+// One note for a dialog and rule, and one finding for the encoding of a file.
+TEST_F(CheckReport, FoldsWhatIsOftenTheSame)
+{
+    const std::string unused =
+        Check(With("(\"%s\", Field)", "(\"%s\", Field, Field)\n; x\n$OUTPUT, a\n(\"%s\", Field, Field)"));
+    EXPECT_NE(unused.find("format-surplus: the format does not take \"Field\", and no check asks for it; and 1 more in "
+                          "line 17\n"),
+              std::string::npos)
+        << unused;
+    const std::string letters = Check(With("$VALUES\n", "$VALUES\nField = \xC3\x9F\n; x\nOther = \xC3\x9F\n"));
+    EXPECT_NE(
+        letters.find("box.dlg:9:9: warning utf-8: the library reads this letter as 2 characters; and 1 more in line "
+                     "11\n"),
+        std::string::npos)
+        << letters;
+    const json told = json::parse(
+        Check(With("$VALUES\n", "$VALUES\nField = \xC3\x9F\n; x\n; y\nOk = \xC3\x9F\n"), {"--format", "json"}));
+    EXPECT_EQ(told["findings"][0]["more"][0]["line"], 12);
+}
+
+TEST_F(CheckReport, NamesUtf16)
+{
+    std::string wide = "\xFF\xFE";
+    for (const char ch : sound)
+        wide += std::string{ch, '\0'};
+    const std::string told = Check(wide);
+    EXPECT_NE(
+        told.find("box.dlg:1:1: error utf-16: the file was saved as UTF-16, which the library cannot read (message "
+                  "213)\n"),
+        std::string::npos)
+        << told;
+    EXPECT_NE(told.find("1 error, 0 warnings, 0 notes\n"), std::string::npos) << told;
 }
 
 // What the published schema requires of a log, a run, a tool, a rule and a result.
@@ -285,4 +338,15 @@ TEST_F(CheckReport, PrintsExamplesInUtf8)
     EXPECT_TRUE(told.ends_with("Wrong:\n\n    $VALUES\n    Unit = Stra\u00C3\u0178e\n\n"
                                "Right:\n\n    $VALUES\n    Unit = Stra\u00DFe\n"))
         << told;
+}
+
+TEST_F(CheckReport, SearchesFoldersBelow)
+{
+    folder.Write("deep/er/box.dlg", sound);
+    folder.Write("deep/er/lang/English.nls", "[Buttons]\n001=&OK\n002=&Cancel\n[Box]\nTitle=Box\n");
+    folder.Write(".hidden/box.dlg", sound);
+    folder.Write("box.dlg", sound);
+    testing::internal::CaptureStdout();
+    EXPECT_EQ(lytdlg::Run({"check", folder.Path()}), 0);
+    EXPECT_EQ(testing::internal::GetCapturedStdout(), "2 descriptions judged: 0 errors, 0 warnings, 0 notes\n");
 }

@@ -271,3 +271,25 @@ TEST(Texts, OfTheLibraryAreAskedForInNoOtherWay)
         (std::set<std::string>{"dialog.GetTextSection()", "this->dialog->GetTextSection()", "dialog->GetTextSection()",
                                "lytErrorSection", "section", "CString(section)", "lytButtonSection"}));
 }
+
+TEST(TextsEncode, ConvertsWhatWasSavedInAnotherEncoding)
+{
+    const TestFolder folder;
+    std::string wide = "\xFF\xFE";
+    for (const char ch : std::string("[A]\r\nB=\xFC\r\n"))
+        wide += std::string{ch, '\0'};
+    const std::string plain = folder.Write("lang/Danish.nls", "[A]\nB=\xF8\n");
+    const std::string utf8 = folder.Write("lang/German.nls", "\xEF\xBB\xBF[A]\r\nB=\xC3\xBC\r\n");
+    const std::string russian = folder.Write("lang/Russian.nls", "[A]\nB=\xD0\x96\n");
+    const std::string unicode = folder.Write("lang/Wide.nls", wide);
+    const std::string dialog = folder.Write("a.dlg", wide.substr(2));
+    const CommandRun run({"texts", folder.Path(), "--encode"});
+    EXPECT_EQ(run.code, 1);
+    EXPECT_EQ(run.output, utf8 + ": converted into the code page\n" + dialog + ": converted into the code page\n");
+    EXPECT_EQ(run.errors,
+              "lytdlg: " + russian + ": line 2 has a letter that the code page does not have; it stays as it is\n");
+    EXPECT_EQ(lytdlg::ReadWholeFile(utf8), "[A]\r\nB=\xFC\r\n");
+    EXPECT_EQ(lytdlg::ReadWholeFile(dialog), "[A]\r\nB=\xFC\r\n");
+    EXPECT_EQ(lytdlg::ReadWholeFile(unicode), wide);
+    EXPECT_EQ(lytdlg::ReadWholeFile(plain), "[A]\nB=\xF8\n");
+}

@@ -18,6 +18,26 @@ Mistakes in the command lines of the other commands.
   lytdlg: there is no file or folder missing.dlg; name descriptions, their folder, or - for the standard input
   `lytdlg --help` lists commands and options.
   [2]
+  $ sed 's/Severity: /Severty: /' samples/dialogs/finding.dlg >wrong.dlg
+  $ lytdlg check - --format gcc --as samples/dialogs/finding.dlg <wrong.dlg
+  samples/dialogs/finding.dlg:60:18: warning: no statement is called "BeforeSeverity", and so the run ends; did you mean "BeforeSeverty"? [scan-target]
+  samples/dialogs/finding.dlg:61:24: warning: no statement is called "Severity", and so the run ends; did you mean "Severty"? [scan-target]
+  [1]
+  $ lytdlg check - --fix --dry-run --as samples/dialogs/finding.dlg <wrong.dlg
+  --- samples/dialogs/finding.dlg
+  +++ samples/dialogs/finding.dlg
+  @@ -57,8 +57,8 @@
+   
+   $INPUT, parent
+       ; There is a blank after each semicolon.
+  -    Start: (";", BeforeSeverity = Wording
+  -    BeforeSeverty: (1, Severity)
+  +    Start: (";", BeforeSeverty = Wording
+  +    BeforeSeverty: (1, Severty)
+       Severty: (";", BeforePlace = Severity
+       BeforePlace: (1, Place)
+       Place: (255, End = Place(ADD), Place        ; any place is an item by then
+  1 description judged: 0 errors, 0 warnings, 0 notes
   $ mkdir empty; lytdlg fmt empty
   lytdlg: the folder empty holds no description (*.dlg); name the one that does
   `lytdlg --help` lists commands and options.

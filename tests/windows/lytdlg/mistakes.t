@@ -12,6 +12,37 @@ Mistakes in a command line.
   `lytdlg --help` lists commands and options.
   [2]
 
+  $ echo high >items.txt
+  $ lytdlg run samples/dialogs/finding.dlg --items Severty=items.txt
+  lytdlg: no dialog has a control "Severty" that items could go to; did you mean "Severity"?
+  `lytdlg --help` lists commands and options.
+  [2]
+
+  $ lytdlg check - --fix <samples/dialogs/finding.dlg
+  lytdlg: the standard input cannot be mended where it is; name the file, or add --dry-run to see what would change
+  `lytdlg --help` lists commands and options.
+  [2]
+
+  $ lytdlg check samples/dialogs --as other.dlg
+  lytdlg: --as names what the standard input holds; write - as well
+  `lytdlg --help` lists commands and options.
+  [2]
+
+  $ lytdlg check samples/dialogs --dry-run
+  lytdlg: --dry-run shows what --fix would change; write --fix as well
+  `lytdlg --help` lists commands and options.
+  [2]
+
+  $ lytdlg check samples/dialogs --level notes
+  lytdlg: there is no level "notes"; did you mean "note"?
+  `lytdlg --help` lists commands and options.
+  [2]
+
+  $ lytdlg check - --watch <samples/dialogs/finding.dlg
+  lytdlg: the standard input cannot be watched; name files or their folder
+  `lytdlg --help` lists commands and options.
+  [2]
+
   $ lytdlg run samples/dialogs/lytRpGrp.dlg --set Costs=yes
   lytdlg: Costs does not offer "yes"; use one of: "-", "C"
   `lytdlg --help` lists commands and options.

@@ -452,3 +452,10 @@ Names of files with letters beyond ASCII.
   1 description judged: 0 errors, 0 warnings, 0 notes
 
   $ lytdlg fmt --check Größe/é.dlg
+
+An item is chosen by its value or by what it shows.
+
+  $ lytdlg run samples/dialogs/lytRpGrp.dlg --language English --set 'Order=Trade' | grep ' Order '
+    Order          DropListBox  enabled  shown  "T" of "R" ("Room"), "T" ("Trade"), "S" ("Severity")
+  $ lytdlg run samples/dialogs/lytRpGrp.dlg --language English --set Order=S | grep ' Order '
+    Order          DropListBox  enabled  shown  "S" of "R" ("Room"), "T" ("Trade"), "S" ("Severity")

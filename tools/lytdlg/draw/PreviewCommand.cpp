@@ -4,6 +4,7 @@
 #include "lytdlg/draw/Snapshot.h"
 #include "lytdlg/draw/SvgPen.h"
 #include "lytdlg/text/TextFile.h"
+#include "lytdlg/text/Watch.h"
 #include "lytdlg/try/ControlState.h"
 #include "lytdlg/try/TrialRun.h"
 
@@ -32,7 +33,7 @@ void TellLostTexts(const std::string& dialog, const DialogState& state)
 }
 
 // Opens the dialog as a call does, looks at it, and closes it again.
-ExitCode Preview(const Request& request)
+ExitCode DrawDialog(const Request& request)
 {
     const std::string dialog = request.Operand(0, "");
     const std::string target = request.Text("-o", "");
@@ -58,6 +59,11 @@ ExitCode Preview(const Request& request)
     return run.events.empty() ? good : found;
 }
 
+ExitCode Preview(const Request& request)
+{
+    return DoWatching(request, DrawDialog);
+}
+
 } // namespace
 
 Command PreviewCommand()
@@ -67,7 +73,8 @@ Command PreviewCommand()
         {"--dpi", "96|120", true, "the resolution of the screen (as it is; on Linux 96)"},
         {"--names", nullptr, false, "the names of the controls, and hidden ones in outline"},
         {"--tabs", nullptr, false, "the order of the Tab key"},
-        {"--input", "TEXT", false, "the text that the dialog takes apart (none)"}};
+        {"--input", "TEXT", false, "the text that the dialog takes apart (none)"},
+        watchOption};
     std::ranges::copy(SetupOptions(), std::back_inserter(options));
     return {{"preview", "DIALOG", 1, 1, "draw a dialog as it would appear on the screen", options}, Preview};
 }

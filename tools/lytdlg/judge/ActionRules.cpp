@@ -24,6 +24,10 @@ struct ActionLine : PlacedValue
     {
         judged.findings.Add(rule, PlaceOfValue(index), std::move(message), std::move(hint));
     }
+    void Add(RuleName rule, size_t index, std::string message, const UnknownWord& word) const
+    {
+        AddUnknown(judged, rule, PlaceOfValue(index), std::move(message), word);
+    }
 };
 
 using Takes = std::function<bool(const ClytType&)>;
@@ -35,7 +39,7 @@ void JudgeTarget(const ActionLine& statement, size_t index, const Takes& takes, 
     const Kind kind = KindOfControl(statement.Of(), name);
     if (statement.Of().FindControl(name) == nullptr)
         statement.Add("action-target", index, "no control is called " + InQuotes(name) + "; a press does nothing",
-                      MeantOr(name, ControlNames(statement.Of()), "use the name of a control"));
+                      UnknownWord{name, ControlNames(statement.Of()), "use the name of a control"});
     else if (kind != Kind::Unknown && !takes(lytTypeOf(kind)))
         statement.Add("action-kind", index,
                       InQuotes(name) + " is " + lytTypeOf(kind).name + ", and " + statement.value.keyword +
@@ -46,22 +50,29 @@ void JudgeTarget(const ActionLine& statement, size_t index, const Takes& takes, 
 void JudgeGroup(const ActionLine& statement, size_t index)
 {
     const std::string name = statement.Value(index);
-    if (!name.empty() && !HasGroup(statement.Of(), name))
-        statement.Add("action-group", index, "no output group is called " + InQuotes(name),
-                      HasPart(statement.Of(), name)
-                          ? InQuotes(name) + " is an input part; name the output group that composes the text"
-                          : MeantOr(name, GroupNames(statement.Of()), "add \"$OUTPUT, " + name + "\" with its rules"));
+    if (name.empty() || HasGroup(statement.Of(), name))
+        return;
+    const std::string message = "no output group is called " + InQuotes(name);
+    if (HasPart(statement.Of(), name))
+        statement.Add("action-group", index, message,
+                      InQuotes(name) + " is an input part; name the output group that composes the text");
+    else
+        statement.Add("action-group", index, message,
+                      UnknownWord{name, GroupNames(statement.Of()), "add \"$OUTPUT, " + name + "\" with its rules"});
 }
 
 void JudgePart(const ActionLine& statement, size_t index)
 {
     const std::string name = statement.Value(index);
-    if (!name.empty() && !HasPart(statement.Of(), name))
-        statement.Add(
-            "action-part", index, "no input part is called " + InQuotes(name),
-            HasGroup(statement.Of(), name)
-                ? InQuotes(name) + " is an output group; name the input part that takes the answer"
-                : MeantOr(name, PartNames(statement.Of()), "add \"$INPUT, " + name + "\" with its statements"));
+    if (name.empty() || HasPart(statement.Of(), name))
+        return;
+    const std::string message = "no input part is called " + InQuotes(name);
+    if (HasGroup(statement.Of(), name))
+        statement.Add("action-part", index, message,
+                      InQuotes(name) + " is an output group; name the input part that takes the answer");
+    else
+        statement.Add("action-part", index, message,
+                      UnknownWord{name, PartNames(statement.Of()), "add \"$INPUT, " + name + "\" with its statements"});
 }
 
 // The places of the two words, of which each is only what the other should be.
@@ -73,10 +84,16 @@ void JudgePartAndGroup(const ActionLine& statement, size_t part, size_t group, c
                            !HasGroup(statement.Of(), groupName) && HasPart(statement.Of(), groupName);
     if (isSwapped)
     {
-        statement.Add("action-swapped", std::min(part, group),
-                      InQuotes(partName) + " is an output group and " + InQuotes(groupName) +
-                          " an input part: the two are swapped",
-                      statement.value.keyword + " takes " + order);
+        const ClytSpan first = statement.PlaceOfValue(std::min(part, group));
+        const ClytSpan second = statement.PlaceOfValue(std::max(part, group));
+        Finding& finding =
+            statement.judged.findings.Add("action-swapped", first,
+                                          InQuotes(partName) + " is an output group and " + InQuotes(groupName) +
+                                              " an input part: the two are swapped",
+                                          statement.value.keyword + " takes " + order);
+        if (!statement.Of().IsQuoted(first) && !statement.Of().IsQuoted(second))
+            finding.FixSafely({first.line, first.column, second.column + second.length - first.column},
+                              part < group ? groupName + ", " + partName : partName + ", " + groupName);
         return;
     }
     JudgePart(statement, part);
@@ -93,7 +110,7 @@ void JudgeDialogFile(const ActionLine& statement)
     const auto isSame = [&](const std::string& known) { return IsSameName(known, name); };
     if (std::ranges::none_of(names, isSame))
         statement.Add("dialog-missing", 0, "the folder of the description has no file " + InQuotes(name + ".dlg"),
-                      MeantOr(name, names, "write the name of a description, without its extension"));
+                      UnknownWord{name, names, "write the name of a description, without its extension"});
 }
 
 bool HasWords(const ActionLine& statement, size_t count, const char* form)
@@ -172,12 +189,11 @@ void JudgeAction(const ActionLine& statement)
     default:
         if (IsMeantAsOption(statement.value))
             break;
-        statement.judged.findings.Add(
-            "action-unknown",
-            statement.Of().PlaceOf(statement.value.span.line, word.empty() ? statement.Value(0) : word),
-            word.empty() ? "this statement names no action" : InQuotes(word) + " is no action of a button",
-            MeantOr(word, WordsOf<ClytAction>(),
-                    "use VISIBLE, ACTIVE, ADD, DELETE, UP, DOWN, ACTION, REJECT, FILL or DIALOG"));
+        AddUnknown(statement.judged, "action-unknown",
+                   statement.Of().PlaceOf(statement.value.span.line, word.empty() ? statement.Value(0) : word),
+                   word.empty() ? "this statement names no action" : InQuotes(word) + " is no action of a button",
+                   {word, WordsOf<ClytAction>(),
+                    "use VISIBLE, ACTIVE, ADD, DELETE, UP, DOWN, ACTION, REJECT, FILL or DIALOG"});
     }
 }
 
@@ -221,7 +237,7 @@ void JudgeDoubleClick(const ActionLine& statement)
                   control == nullptr
                       ? "no control is called " + InQuotes(name)
                       : InQuotes(name) + " is " + lytTypeOf(kind).name + ", and a double click does nothing to it",
-                  MeantOr(name, statement.Of().Index().ButtonNames(), "name a push button, or OK"));
+                  UnknownWord{name, statement.Of().Index().ButtonNames(), "name a push button, or OK"});
 }
 
 } // namespace

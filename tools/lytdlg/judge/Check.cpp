@@ -1,15 +1,22 @@
 // The command that judges descriptions.
 #include "commandline/CommandLine.h"
+#include "commandline/Text.h"
 #include "lytdlg/Commands.h"
 #include "lytdlg/judge/Baseline.h"
+#include "lytdlg/judge/Fixes.h"
 #include "lytdlg/judge/Report.h"
 #include "lytdlg/text/DescriptionPaths.h"
+#include "lytdlg/text/Diff.h"
 #include "lytdlg/text/Paths.h"
+#include "lytdlg/text/TextFile.h"
+#include "lytdlg/text/Watch.h"
 
 #include <algorithm>
 #include <cstdint>
 #include <cstdio>
+#include <map>
 #include <optional>
+#include <tuple>
 
 namespace lytdlg
 {
@@ -25,25 +32,63 @@ std::string FolderOf(const std::string& path)
     return folder.empty() ? "." : folder;
 }
 
+// What a word after an option means.
+template <class MEANING>
+MEANING MeaningOf(const std::string& word, const std::vector<std::pair<std::string, MEANING>>& meanings,
+                  const std::string& what)
+{
+    std::vector<std::string> known;
+    for (const auto& [text, meaning] : meanings)
+    {
+        if (text == word)
+            return meaning;
+        known.push_back(text);
+    }
+    throw commandline::UsageError("there is no " + what + " \"" + word + "\"; " + commandline::Suggestion(word, known));
+}
+
 std::unique_ptr<Report> ReportFor(const std::string& format)
 {
     static const std::vector<std::pair<std::string, std::unique_ptr<Report> (*)()>> formats = {
-        {"text", MakeTextReport}, {"json", MakeJsonReport}, {"sarif", MakeSarifReport}};
-    std::vector<std::string> known;
-    for (const auto& [word, make] : formats)
-    {
-        if (format == word)
-            return make();
-        known.push_back(word);
-    }
-    throw commandline::UsageError("there is no format \"" + format + "\"; " + commandline::Suggestion(format, known));
+        {"text", MakeTextReport}, {"gcc", MakeGccReport}, {"json", MakeJsonReport}, {"sarif", MakeSarifReport}};
+    return MeaningOf(format, formats, "format")();
+}
+
+Level LevelOf(const std::string& word)
+{
+    static const std::vector<std::pair<std::string, Level>> levels = {
+        {"error", Level::Error}, {"warning", Level::Warning}, {"note", Level::Note}};
+    return MeaningOf(word, levels, "level");
+}
+
+Fixing FixingOf(const Request& request)
+{
+    const Fixing fixing = request.Has("--fix=all") ? Fixing::All
+                          : request.Has("--fix")   ? Fixing::Safe
+                                                   : Fixing::Nothing;
+    const bool isTrial = request.Has("--dry-run");
+    const std::string format = request.Text("--format", "text");
+    if (isTrial && fixing == Fixing::Nothing)
+        throw commandline::UsageError("--dry-run shows what --fix would change; write --fix as well");
+    if (isTrial && format != "text")
+        throw commandline::UsageError("--dry-run shows a text; leave --format " + format + " out");
+    const auto isInput = [](const std::string& operand) { return operand == standardInput; };
+    if (fixing != Fixing::Nothing && !isTrial && std::ranges::any_of(request.operands, isInput))
+        throw commandline::UsageError("the standard input cannot be mended where it is; name the file, or add "
+                                      "--dry-run to see what would change");
+    return fixing;
 }
 
 // One run of the command: where its findings go.
 class Checker
 {
 public:
-    explicit Checker(const Request& asked) : m_request(asked), m_report(ReportFor(asked.Text("--format", "text")))
+    explicit Checker(const Request& asked)
+        : m_request(asked),
+          m_report(ReportFor(asked.Text("--format", "text"))),
+          m_level(LevelOf(asked.Text("--level", "note"))),
+          m_fixing(FixingOf(asked)),
+          m_shared(m_fixing)
     {
         if (asked.Has("--baseline"))
             m_known = Baseline(asked.Text("--baseline", ""));
@@ -51,16 +96,28 @@ public:
 
     void JudgeAt(const std::string& path)
     {
-        const Description description(path, ReadDescription(path), m_request.Texts("--define"));
-        Findings findings = Judge(description, SurroundingsIn(FolderOf(path)));
+        const std::string name = path == standardInput ? m_request.Text("--as", standardInput) : path;
+        const Surroundings& surroundings = SurroundingsIn(FolderOf(name));
+        const std::string bytes = ReadDescription(path);
+        const std::vector<std::string> defines = m_request.Texts("--define");
+        const MendedText mended = MendDescription(Description(name, bytes, defines), surroundings, m_fixing);
+        Keep(name, bytes, mended);
+        const Description description(name, mended.text, defines);
+        Findings findings = Judge(description, surroundings);
+        m_shared.TakeFrom(findings);
+        findings.Remove([&](const Finding& finding)
+                        { return finding.rule->level > m_level || IsToldAgain(finding, description.path); });
         m_found.Add(description, findings);
         m_known.Subtract(description, findings);
+        findings.Fold();
         m_report->Add(description, findings);
         Count(findings);
     }
 
     ExitCode End()
     {
+        for (const auto& [path, mended] : m_shared.Mended())
+            Keep(path, ReadWholeFile(PathOf(path)).value_or(""), mended);
         m_report->End(m_counts);
         if (!m_request.Has("--write-baseline"))
             return m_counts.errors + m_counts.warnings == 0 ? good : found;
@@ -69,6 +126,34 @@ public:
     }
 
 private:
+    // Shows or writes what was mended.
+    void Keep(const std::string& path, const std::string& before, const MendedText& mended)
+    {
+        if (mended.text == before)
+            return;
+        if (m_request.Has("--dry-run"))
+        {
+            std::fputs(DiffOf(path, before, mended.text).c_str(), stdout);
+            return;
+        }
+        ReplaceWholeFile(PathOf(path), before, mended.text);
+        const std::string told =
+            path + ": " + std::to_string(mended.count) + (mended.count == 1 ? " finding" : " findings") + " mended";
+        m_request.Text("--format", "text") == "text" ? commandline::PrintLine(told) : TellError(told);
+    }
+
+    // A language file belongs to all descriptions of its folder, and its encoding to all its lines.
+    bool IsToldAgain(const Finding& finding, const std::string& description)
+    {
+        if (finding.path.empty())
+            return false;
+        const bool isOfFile = IsOfEncoding(*finding.rule);
+        const ClytSpan place = isOfFile ? ClytSpan() : finding.place;
+        const auto [told, isNew] = m_told.try_emplace(
+            {finding.path, place.line, place.column, finding.rule, isOfFile ? "" : finding.message}, description);
+        return !isNew && !(isOfFile && told->second == description);
+    }
+
     // Kept from one description of a folder to the next.
     const Surroundings& SurroundingsIn(const std::string& folder)
     {
@@ -94,6 +179,11 @@ private:
     const Request& m_request; // of the caller
     std::optional<Surroundings> m_surroundings;
     std::unique_ptr<Report> m_report;
+    const Level m_level;
+    const Fixing m_fixing;
+    SharedFixes m_shared;
+    // What was found in language files, and for which description.
+    std::map<std::tuple<std::string, int, int, const Rule*, std::string>, std::string> m_told;
     Baseline m_known;
     Baseline m_found;
     Counts m_counts;
@@ -114,14 +204,10 @@ ExitCode Explain(const std::string& id)
     return good;
 }
 
-ExitCode Check(const Request& request)
+ExitCode JudgeAll(const Request& request)
 {
-    if (request.Has("--rules"))
-        return ListRules(request.Text("--format", "text"));
-    if (request.Has("--explain"))
-        return Explain(request.Text("--explain", ""));
-    if (request.operands.empty())
-        throw commandline::UsageError("something is missing after \"check\"; write: lytdlg check PATH...");
+    if (request.Has("--as") && std::ranges::find(request.operands, standardInput) == request.operands.end())
+        throw commandline::UsageError("--as names what the standard input holds; write - as well");
     Checker checker(request);
     const auto judge = [&](const std::string& path)
     {
@@ -130,6 +216,17 @@ ExitCode Check(const Request& request)
     };
     const ExitCode reading = ForEachDescription(request.operands, judge);
     return std::max(reading, checker.End());
+}
+
+ExitCode Check(const Request& request)
+{
+    if (request.Has("--rules"))
+        return ListRules(request.Text("--format", "text"));
+    if (request.Has("--explain"))
+        return Explain(request.Text("--explain", ""));
+    if (request.operands.empty())
+        throw commandline::UsageError("something is missing after \"check\"; write: lytdlg check PATH...");
+    return DoWatching(request, JudgeAll);
 }
 
 } // namespace
@@ -141,7 +238,14 @@ Command CheckCommand()
              0,
              SIZE_MAX,
              "judge descriptions (files, folders, - for standard input): all that is wrong with them",
-             {{"--format", "FORMAT", false, "text (default), json, or sarif (version 2.1.0)"},
+             {{"--format", "FORMAT", false,
+               "text (default), gcc (a line for each finding), json, or sarif (version 2.1.0)"},
+              {"--level", "LEVEL", false, "only errors, or warnings as well, or notes as well (default)"},
+              {"--as", "FILE", false, "the file that the standard input is to be: its folder has the language files"},
+              {"--fix", nullptr, false, "mend what can be mended without a change of what works"},
+              {"--fix=all", nullptr, false, "mend all that one replacement mends"},
+              {"--dry-run", nullptr, false, "only show what --fix would change"},
+              watchOption,
               {"--define", "WORD", false, "read the lines that this define switches on; may be given more than once"},
               {"--partners", "FOLDER", false, "a folder that holds partner libraries; may be given more than once"},
               {"--baseline", "FILE", false, "pass over the findings that this file tells as known"},

@@ -41,11 +41,10 @@ bool MayHaveNoChoice(const Description& description, const std::string& name, Ki
 void JudgeUnknown(const Condition& condition)
 {
     const Description& description = condition.judged.description;
-    condition.judged.findings.Add(
-        "condition-unknown", condition.list.GetSpan(),
-        "no control is called " + InQuotes(condition.Name()) +
-            (condition.rule.IsEventRule() ? "; the rule looks no further" : "; the condition is passed over"),
-        MeantOr(condition.Name(), ControlNames(description), "use the name of a control"));
+    AddUnknown(condition.judged, "condition-unknown", condition.list.GetSpan(),
+               "no control is called " + InQuotes(condition.Name()) +
+                   (condition.rule.IsEventRule() ? "; the rule looks no further" : "; the condition is passed over"),
+               {condition.Name(), ControlNames(description), "use the name of a control"});
 }
 
 // True when the control cannot be asked for a value.

@@ -93,9 +93,9 @@ void JudgeGroupDefaults(const Case& judged, const std::string& group)
         const std::string& begin = value->values.front();
         const auto own = owners.find(begin);
         if (own == owners.end())
-            judged.findings.Add("default-unknown", statement.PlaceOfValue(),
-                                "no option of " + statement.Name() + " has the value " + InQuotes(begin),
-                                MeantOr(begin, values, "use the value of one of its options"));
+            AddUnknown(judged, "default-unknown", statement.PlaceOfValue(),
+                       "no option of " + statement.Name() + " has the value " + InQuotes(begin),
+                       {begin, values, "use the value of one of its options"});
         else if (own->second->span.line > value->span.line)
             judged.findings.Add("default-early", statement.PlaceOfValue(),
                                 "the option gets this value in line " + std::to_string(own->second->span.line) +
@@ -116,10 +116,9 @@ void JudgeCheckBox(const Case& judged, const std::string& name)
     if (begin != nullptr && !text.empty() && text != textOf(on) && text != textOf(off))
     {
         const PlacedValue statement(judged, *begin);
-        judged.findings
-            .Add("check-default", statement.PlaceOfValue(),
-                 InQuotes(text) + " is neither the ON nor the OFF text of " + InQuotes(name),
-                 MeantOr(text, {textOf(on), textOf(off)}, "use one of the two texts"))
+        AddUnknown(judged, "check-default", statement.PlaceOfValue(),
+                   InQuotes(text) + " is neither the ON nor the OFF text of " + InQuotes(name),
+                   {text, {textOf(on), textOf(off)}, "use one of the two texts"})
             .number = lytError("BoxText");
     }
     const ClytControlStatement& control = *description.FindControl(name);

@@ -37,9 +37,9 @@ struct Judged
         return Of().PlaceOf(rule.span.line, rule.stateWord.GetText().GetString(),
                             rule.span.column + rule.controlName.GetLength());
     }
-    void Add(RuleName found, const ClytSpan& place, std::string message, std::string hint) const
+    Finding& Add(RuleName found, const ClytSpan& place, std::string message, std::string hint) const
     {
-        judged.findings.Add(found, place, std::move(message), std::move(hint));
+        return judged.findings.Add(found, place, std::move(message), std::move(hint));
     }
 };
 
@@ -48,18 +48,23 @@ void JudgeControl(const Judged& each)
     const std::string carried =
         each.next != nullptr ? ", and its conditions go to the rule of line " + std::to_string(each.next->span.line)
                              : ", and does nothing";
-    each.Add("rule-control-unknown", each.PlaceOfName(),
-             "no control is called " + InQuotes(each.Name()) + "; the rule is dropped" + carried,
-             MeantOr(each.Name(), ControlNames(each.Of()), "use the name of a control"));
+    AddUnknown(each.judged, "rule-control-unknown", each.PlaceOfName(),
+               "no control is called " + InQuotes(each.Name()) + "; the rule is dropped" + carried,
+               {each.Name(), ControlNames(each.Of()), "use the name of a control"});
 }
 
 void JudgeWord(const Judged& each)
 {
     const std::string word = each.rule.stateWord.GetText().GetString();
     if (each.rule.stateWord.GetMeaning() == ClytState::Other)
-        each.Add("state-unknown", each.PlaceOfWord(),
-                 InQuotes(word) + " is no state; the rule shows and hides the control",
-                 MeantOr(word, WordsOf<ClytState>(), "use VISIBLE, ACTIVE, CLEAR, FILL or DEFBUTTON"));
+    {
+        Finding& finding = AddUnknown(each.judged, "state-unknown", each.PlaceOfWord(),
+                                      InQuotes(word) + " is no state; the rule shows and hides the control",
+                                      {word, WordsOf<ClytState>(), "use VISIBLE, ACTIVE, CLEAR, FILL or DEFBUTTON"});
+        // Until then the rule does what VISIBLE does.
+        if (finding.fix)
+            finding.fix->isSafe = finding.fix->isSafe && lytMeans<ClytState::Visible>(finding.fix->text.c_str());
+    }
     if (lytTypeOf(each.kind).isDefault && IsStateRule(each.rule))
         each.Add("state-on-ok", each.PlaceOfName(),
                  std::string(lytTypeOf(each.kind).name) + " has no states; the rule does nothing",
@@ -89,9 +94,15 @@ void JudgeEvent(const Judged& each)
                  "add " + InQuotes(each.Name() + " = FILLEDBY, LIBRARY, FUNCTION, NEXT") + " to $VALUES");
     for (const ClytCtrlValList* condition : Records(each.rule.conditions))
     {
-        if (!condition->GetValues().IsEmpty())
-            each.Add("event-values", condition->GetSpan(), word + " does not look at the values in brackets",
-                     "name the control alone");
+        if (condition->GetValues().IsEmpty())
+            continue;
+        Finding& finding = each.Add("event-values", condition->GetSpan(),
+                                    word + " does not look at the values in brackets", "name the control alone");
+        const std::string& line = each.Of().text.Line(finding.place.line).text;
+        const size_t open = line.find('(', static_cast<size_t>(finding.place.column));
+        const size_t close = line.find(')', open);
+        if (close != std::string::npos && line.substr(open, close - open).find('"') == std::string::npos)
+            finding.FixSafely({finding.place.line, static_cast<int>(open), static_cast<int>(close + 1 - open)}, "");
     }
 }
 

@@ -27,14 +27,14 @@ void JudgeNames(const Case& judged, const EvaluationStatement& statement)
     const std::vector<std::string>& names = ControlNames(description);
     const std::string own = statement.own.GetName().GetString();
     if (description.FindControl(own) == nullptr)
-        judged.findings.Add("evaluation-control", statement.own.GetSpan(),
-                            "there is no control " + InQuotes(own) + ", and so no check",
-                            MeantOr(own, names, "name a control of $LAYOUT"));
+        AddUnknown(judged, "evaluation-control", statement.own.GetSpan(),
+                   "there is no control " + InQuotes(own) + ", and so no check",
+                   {own, names, "name a control of $LAYOUT"});
     const std::string other = statement.other.GetName().GetString();
     if (!other.empty() && description.FindControl(other) == nullptr && !BeginsWithNull(statement))
-        judged.findings.Add("evaluation-second", statement.other.GetSpan(),
-                            "there is no control " + InQuotes(other) + ": the check always refuses",
-                            MeantOr(other, names, "name a control of $LAYOUT"));
+        AddUnknown(judged, "evaluation-second", statement.other.GetSpan(),
+                   "there is no control " + InQuotes(other) + ": the check always refuses",
+                   {other, names, "name a control of $LAYOUT"});
 }
 
 void JudgeForm(const Case& judged, const EvaluationStatement& statement)

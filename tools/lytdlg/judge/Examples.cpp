@@ -239,6 +239,7 @@ std::string ExampleDescription(const std::string& lines)
     Replace(text, "{ABOVE}\n", "");
     Replace(text, "{NUL}", std::string(1, '\0'));
     Replace(text, "{1A}", "\x1A");
+    Replace(text, "{A0}", "\xA0");
     Replace(text, "{LONG}", std::string(400, ' '));
     text.erase(std::min(text.find("{CUT}"), text.size()));
     return text;

@@ -11,7 +11,7 @@
 //
 // New controls come above OKButton (the part of the dialog from 500 to the right is free), new output rules above the ones
 // that are there, other lines below. Lines above the first header begin the file; a first one such as `; lytRpGrp.dlg` is
-// the file's name. {NUL} and {1A} are these bytes, {LONG} is 400 blanks, {ABOVE} joins the line with the next one, and
+// the file's name. {NUL}, {1A} and {A0} are these bytes, {LONG} is 400 blanks, {ABOVE} joins the line with the next one, and
 // {CUT} is where the file ends.
 #pragma once
 

@@ -33,9 +33,9 @@ void JudgeAction(const Case& judged, const ClytControlFill& fill, Kind kind)
     const std::string name = fill.controlName.GetString();
     const ClytSpan place = description.PlaceOf(fill.span.line, word, fill.span.column + fill.span.length);
     if (fill.action.GetMeaning() == ClytFillAction::Other && !word.empty())
-        judged.findings.Add("scan-action", place,
-                            InQuotes(word) + " is no action: the piece becomes the value of " + InQuotes(name),
-                            MeantOr(word, WordsOf<ClytFillAction>(), "the actions are FILL, ADD, MODIFY and CONCAT"));
+        AddUnknown(judged, "scan-action", place,
+                   InQuotes(word) + " is no action: the piece becomes the value of " + InQuotes(name),
+                   {word, WordsOf<ClytFillAction>(), "the actions are FILL, ADD, MODIFY and CONCAT"});
     else if (!TakesAction(kind, fill.action.GetMeaning()))
     {
         const std::string type = description.FindControl(name)->type.GetString();
@@ -105,10 +105,10 @@ void JudgeFixedValue(const Case& judged, const ClytControlFill& fill, const Clyt
     std::erase(known, "");
     if (KindOf(control) == Kind::CheckBox)
         known.insert(known.end(), {"ON", "OFF"});
-    judged.findings.Add("scan-value",
-                        judged.description.PlaceOf(fill.span.line, value, fill.span.column + fill.span.length),
-                        InQuotes(fill.controlName.GetString()) + " has no value " + InQuotes(value),
-                        MeantOr(value, known, "give it one of the values that $VALUES names"));
+    AddUnknown(judged, "scan-value",
+               judged.description.PlaceOf(fill.span.line, value, fill.span.column + fill.span.length),
+               InQuotes(fill.controlName.GetString()) + " has no value " + InQuotes(value),
+               {value, known, "give it one of the values that $VALUES names"});
 }
 
 bool HasItems(const Description& description, const std::string& name)
@@ -141,9 +141,9 @@ void JudgeFill(const Case& judged, const InputPart& part, const ClytControlFill&
     const ClytControlStatement* control = judged.description.FindControl(name);
     // What a comment in the first line made of a name is reported there.
     if (control == nullptr && name.find_first_of("\t;") == std::string::npos)
-        judged.findings.Add("scan-fill", fill.span,
-                            "there is no control " + InQuotes(name) + ", and so the piece is lost",
-                            MeantOr(name, ControlNames(judged.description), "name a control of $LAYOUT"));
+        AddUnknown(judged, "scan-fill", fill.span,
+                   "there is no control " + InQuotes(name) + ", and so the piece is lost",
+                   {name, ControlNames(judged.description), "name a control of $LAYOUT"});
     if (control == nullptr || KindOf(*control) == Kind::Unknown)
         return;
     const Kind kind = KindOf(*control);
@@ -184,9 +184,9 @@ void JudgeConditions(const Case& judged, const ClytDialogInput& statement)
     {
         const std::string name = asked->GetName().GetString();
         if (judged.description.FindControl(name) == nullptr)
-            judged.findings.Add("scan-condition", asked->GetSpan(),
-                                "there is no control " + InQuotes(name) + ", and so it never holds",
-                                MeantOr(name, ControlNames(judged.description), "name a control of $LAYOUT"));
+            AddUnknown(judged, "scan-condition", asked->GetSpan(),
+                       "there is no control " + InQuotes(name) + ", and so it never holds",
+                       {name, ControlNames(judged.description), "name a control of $LAYOUT"});
         JudgeValues(judged, "scan-condition-value", *asked, ValueWords::None);
         JudgeReadControl(judged, "scan-condition-valueless", name, asked->GetSpan());
     }

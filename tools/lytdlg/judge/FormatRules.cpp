@@ -34,8 +34,10 @@ void AddPiece(const Case& judged, const FormatPiece& piece, const ClytSpan& plac
     switch (piece.kind)
     {
     case FormatPieceKind::LoneS:
-        findings.Add("format-letter-s", place, "in a format with %, this s takes an item",
-                     "write a capital S, or put the word among the items");
+        findings
+            .Add("format-letter-s", place, "in a format with %, this s takes an item",
+                 "write a capital S, or put the word among the items")
+            .FixPerhaps(place, "S");
         break;
     case FormatPieceKind::LonePoint:
         findings.Add("format-point", place, "in a format with %, a lone point makes the composition fail",
@@ -49,6 +51,9 @@ void AddPiece(const Case& judged, const FormatPiece& piece, const ClytSpan& plac
         findings.Add("format-conversion", place,
                      InQuotes(text) + " is no conversion: it goes into the text without the %",
                      "write %s, or %.5s for the first five characters");
+        // A number without its point is the limit, and one letter is what another language takes.
+        if (text.size() == 2 || text.find_first_not_of("0123456789", 1) == text.size() - 1)
+            findings.All().back().FixPerhaps(place, text.size() == 2 ? "%s" : "%." + text.substr(1));
         break;
     case FormatPieceKind::NoLimit:
         findings.Add("format-conversion", place, InQuotes(text) + " takes an item and leaves nothing of it",

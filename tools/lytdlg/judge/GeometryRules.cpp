@@ -1,11 +1,9 @@
 #include "lytdlg/judge/Families.h"
 
-#include "lytdlg/judge/Places.h"
+#include "lytdlg/judge/Names.h"
+#include "lytdlg/judge/Sightings.h"
 
 #include <algorithm>
-#include <deque>
-#include <limits>
-#include <numeric>
 #include <set>
 #include <unordered_map>
 
@@ -18,195 +16,6 @@ namespace
 // In layout units, as docs/descriptions.md has them.
 constexpr int rowHeight = 15;
 constexpr int listFrame = 4;
-
-std::string NameOf(const ClytControlStatement& control)
-{
-    const CString& name = control.name.IsEmpty() ? control.text : control.name;
-    return name.IsEmpty() ? "the " + std::string(control.type.GetString()) : InQuotes(name.GetString());
-}
-
-// Where a rule found something about a control.
-struct Sighting
-{
-    const ClytControlStatement* control = nullptr;
-    const Screen* first = nullptr;
-    size_t count = 0;
-    int pixels = 0; // on the first screen
-};
-
-class Sightings
-{
-public:
-    void Add(const Screen& screen, const ClytControlStatement* control, int pixels = 0)
-    {
-        const auto [place, isNew] = m_places.try_emplace(control, m_sightings.size());
-        if (isNew)
-            m_sightings.push_back({control, &screen, 1, pixels});
-        else
-            ++m_sightings[place->second].count;
-    }
-    const std::vector<Sighting>& All() const { return m_sightings; }
-
-private:
-    std::vector<Sighting> m_sightings;
-    std::unordered_map<const ClytControlStatement*, size_t> m_places;
-};
-
-// What is so at each resolution and in each language needs no more words.
-std::string Where(const Sighting& sighting, const std::vector<Screen>& screens)
-{
-    if (sighting.count == screens.size())
-        return "";
-    const std::string language =
-        sighting.first->language.empty() ? "" : " with the texts of " + sighting.first->language + ".nls";
-    return " at " + std::to_string(sighting.first->pixelsPerInch) + " dots per inch" + language;
-}
-
-bool IsEmpty(const CRect& place)
-{
-    return place.right <= place.left || place.bottom <= place.top;
-}
-
-bool Touch(const CRect& left, const CRect& right)
-{
-    return left.left < right.right && right.left < left.right && left.top < right.bottom && right.top < left.bottom;
-}
-
-bool Holds(const CRect& frame, const CRect& place)
-{
-    return frame.left <= place.left && frame.top <= place.top && place.right <= frame.right &&
-           place.bottom <= frame.bottom;
-}
-
-bool Cover(const PlacedControl& left, const PlacedControl& right)
-{
-    const bool areFrames = left.kind == Kind::Frame || right.kind == Kind::Frame;
-    const bool areSeen = !IsEmpty(left.place) && !IsEmpty(right.place) && !(left.mayBeHidden && right.mayBeHidden);
-    if (!areSeen || !Touch(left.place, right.place))
-        return false;
-    return !areFrames || !(Holds(left.place, right.place) || Holds(right.place, left.place));
-}
-
-// No screen has room for more controls side by side: a control is compared with as many at its height.
-constexpr size_t mostCompared = 1000;
-
-// The controls before one in the file that overlap with it.
-class Overlaps
-{
-public:
-    void Add(size_t before)
-    {
-        ++m_count;
-        m_first.insert(before);
-        if (m_first.size() > mostTold)
-            m_first.erase(std::prev(m_first.end()));
-    }
-    // The same control on another screen.
-    void Merge(const Overlaps& other)
-    {
-        const size_t most = std::max(m_count, other.m_count);
-        for (const size_t before : other.m_first)
-            Add(before);
-        m_count = std::max(most, m_first.size());
-    }
-    // In their order, not more than a few.
-    const std::set<size_t>& First() const { return m_first; }
-    size_t CountOfOthers() const { return m_count - m_first.size(); }
-
-private:
-    static constexpr size_t mostTold = 3;
-
-    std::set<size_t> m_first;
-    size_t m_count = 0;
-};
-
-// Sorted by their upper edges, a control meets only those above it that reach down to it.
-std::vector<Overlaps> OverlapsOn(const Screen& screen)
-{
-    const std::vector<PlacedControl>& controls = screen.controls;
-    std::vector<size_t> order(controls.size());
-    std::iota(order.begin(), order.end(), size_t{0});
-    std::ranges::stable_sort(order, {}, [&](size_t control) { return controls[control].place.top; });
-    std::vector<Overlaps> found(controls.size());
-    std::deque<size_t> above;
-    for (const size_t control : order)
-    {
-        std::erase_if(above, [&](size_t other) { return controls[other].place.bottom <= controls[control].place.top; });
-        for (const size_t other : above)
-        {
-            if (Cover(controls[other], controls[control]))
-                found[std::max(control, other)].Add(std::min(control, other));
-        }
-        above.push_back(control);
-        if (above.size() > mostCompared)
-            above.pop_front();
-    }
-    return found;
-}
-
-Sighting SightingOf(const std::vector<Screen>& screens, size_t before, size_t control)
-{
-    Sighting sighting = {screens.front().controls[control].control};
-    for (const Screen& screen : screens)
-    {
-        if (!Cover(screen.controls[before], screen.controls[control]))
-            continue;
-        sighting.first = sighting.count++ == 0 ? &screen : sighting.first;
-    }
-    return sighting;
-}
-
-// Each screen has the same controls in the same order.
-void JudgeOverlap(const Case& judged, const std::vector<Screen>& screens)
-{
-    std::vector<Overlaps> overlaps(screens.front().controls.size());
-    for (const Screen& screen : screens)
-    {
-        const std::vector<Overlaps> found = OverlapsOn(screen);
-        for (size_t control = 0; control < found.size(); ++control)
-            overlaps[control].Merge(found[control]);
-    }
-    for (size_t control = 0; control < overlaps.size(); ++control)
-    {
-        const ClytControlStatement& own = *screens.front().controls[control].control;
-        for (const size_t other : overlaps[control].First())
-        {
-            const ClytControlStatement& before = *screens.front().controls[other].control;
-            judged.findings.Add("geometry-overlap", own.span,
-                                NameOf(own) + " and " + NameOf(before) + " in line " +
-                                    std::to_string(before.span.line) + " overlap" +
-                                    Where(SightingOf(screens, other, control), screens),
-                                "move one of them, or make it smaller");
-        }
-        if (const size_t others = overlaps[control].CountOfOthers(); others != 0)
-            judged.findings.Add("geometry-overlap", own.span,
-                                "and " + std::to_string(others) + (others == 1 ? " more overlaps" : " more overlap") +
-                                    " with " + NameOf(own),
-                                "move it, or make it smaller");
-    }
-}
-
-void JudgeOutside(const Case& judged, const std::vector<Screen>& screens)
-{
-    Sightings seen;
-    for (const Screen& screen : screens)
-    {
-        for (const PlacedControl& control : screen.controls)
-        {
-            // Numbers that no dialog has are reported where they are.
-            constexpr int least = std::numeric_limits<int>::min();
-            const bool isFair = control.control->x > least && control.control->y > least;
-            const bool isWithin = control.place.left >= 0 && control.place.top >= 0 &&
-                                  control.place.right <= screen.client.cx && control.place.bottom <= screen.client.cy;
-            if (isFair && !isWithin)
-                seen.Add(screen, control.control);
-        }
-    }
-    for (const Sighting& sighting : seen.All())
-        judged.findings.Add("geometry-outside", sighting.control->span,
-                            NameOf(*sighting.control) + " goes beyond the dialog" + Where(sighting, screens),
-                            "move it, or make the dialog larger");
-}
 
 // What the frame of a button, or of a group with the start of its line, leaves for the text.
 int RoomOf(const PlacedControl& control)
@@ -237,8 +46,9 @@ void JudgeClipped(const Case& judged, const std::vector<Screen>& screens)
     }
     for (const Sighting& sighting : seen.All())
         judged.findings.Add("geometry-clipped", sighting.control->span,
-                            "the caption of " + NameOf(*sighting.control) + " is " + std::to_string(sighting.pixels) +
-                                (sighting.pixels == 1 ? " pixel" : " pixels") + " too wide" + Where(sighting, screens),
+                            "the caption of " + ShownNameOf(*sighting.control) + " is " +
+                                std::to_string(sighting.pixels) + (sighting.pixels == 1 ? " pixel" : " pixels") +
+                                " too wide" + WhereOf(sighting, screens),
                             "make the control wider, or the text shorter");
 }
 
@@ -271,30 +81,51 @@ const PlacedControl* FrameOf(const std::vector<const PlacedControl*>& frames, co
     return smallest;
 }
 
-// Up in the same column, or to the left in the same row.
-bool GoesBack(const CRect& from, const CRect& to)
+// Of two controls between which the Tab key goes back the one that is in a wrong place: without it the key goes on.
+bool IsEarlierOneWrong(const std::vector<const PlacedControl*>& order, size_t later)
 {
-    const bool isAbove = to.bottom <= from.top;
-    const bool isSameRow = to.top < from.bottom && from.top < to.bottom;
-    return (isAbove && to.left < from.right) || (isSameRow && to.right <= from.left);
+    const auto isBack = [&](size_t from, size_t to) { return GoesBack(order[from]->place, order[to]->place); };
+    const bool isRightWithoutLater = later + 1 == order.size() || !isBack(later - 1, later + 1);
+    const bool isRightWithoutEarlier = later < 2 || !isBack(later - 2, later);
+    return !isRightWithoutLater && isRightWithoutEarlier;
+}
+
+void AddTabOrder(const Case& judged, const Screen& screen, const std::vector<const PlacedControl*>& order, size_t later)
+{
+    const bool isEarlier = IsEarlierOneWrong(order, later);
+    const PlacedControl& from = *order[later - 1];
+    const PlacedControl& to = *order[later];
+    const auto lineOf = [](const PlacedControl& control)
+    { return " in line " + std::to_string(control.control->span.line); };
+    const PlacedControl& wrong = isEarlier ? from : to;
+    Finding& finding = judged.findings.Add("geometry-tab", wrong.control->span,
+                                           "the Tab key goes back from " + ShownNameOf(*from.control) +
+                                               (isEarlier ? "" : lineOf(from)) + " to " + ShownNameOf(*to.control) +
+                                               (isEarlier ? lineOf(to) : ""),
+                                           "write the statements in the order of reading");
+    const size_t place = isEarlier ? later - 1 : later;
+    const std::optional<SwappedNumbers> swapped = SwappedNumbersOf(screen, wrong);
+    const bool isAfter = swapped && (place == 0 || !GoesBack(order[place - 1]->place, swapped->placed.place));
+    const bool isBefore =
+        swapped && (place + 1 == order.size() || !GoesBack(swapped->placed.place, order[place + 1]->place));
+    if (isAfter && isBefore)
+        AddSwapped(judged, *wrong.control, *swapped, finding);
 }
 
 void JudgeTabOrder(const Case& judged, const Screen& screen)
 {
     const std::vector<const PlacedControl*> frames = FramesOf(screen);
-    const PlacedControl* before = nullptr;
+    std::vector<const PlacedControl*> order;
     for (const PlacedControl& control : screen.controls)
     {
-        if (!TakesFocus(control))
-            continue;
-        const bool isTold = before != nullptr && GoesBack(before->place, control.place) &&
-                            FrameOf(frames, *before) == FrameOf(frames, control);
-        if (isTold)
-            judged.findings.Add("geometry-tab", control.control->span,
-                                "the Tab key goes back from " + NameOf(*before->control) + " in line " +
-                                    std::to_string(before->control->span.line) + " to " + NameOf(*control.control),
-                                "write the statements in the order of reading");
-        before = &control;
+        if (TakesFocus(control))
+            order.push_back(&control);
+    }
+    for (size_t later = 1; later < order.size(); ++later)
+    {
+        if (GoesBack(order[later - 1]->place, order[later]->place) &&
+            FrameOf(frames, *order[later - 1]) == FrameOf(frames, *order[later]))
+            AddTabOrder(judged, screen, order, later);
     }
 }
 
@@ -339,7 +170,7 @@ void JudgeFrames(const Case& judged, const Screen& screen)
             if (held != 0 && held != std::ssize(options))
                 judged.findings.Add("geometry-frame", frame->control->span,
                                     "the frame holds " + std::to_string(held) + " of the " +
-                                        std::to_string(options.size()) + " options of " + NameOf(group),
+                                        std::to_string(options.size()) + " options of " + ShownNameOf(group),
                                     "let it hold all of them");
         }
     }

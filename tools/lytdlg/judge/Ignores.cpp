@@ -1,5 +1,7 @@
 #include "lytdlg/judge/Families.h"
 
+#include "commandline/CommandLine.h"
+
 #include <algorithm>
 #include <map>
 
@@ -58,6 +60,24 @@ void Silence(const std::vector<Remark>& remarks, Findings& findings, Silenced& s
         });
 }
 
+ClytSpan WithBlanksBefore(const DescriptionText& text, ClytSpan place)
+{
+    const std::string& line = text.Line(place.line).text;
+    const size_t end = line.find_last_not_of(" \t", static_cast<size_t>(place.column) - 1);
+    const int start = place.column == 0 || end == std::string::npos ? 0 : static_cast<int>(end) + 1;
+    return {place.line, start, place.length + place.column - start};
+}
+
+void FixRule(const Description& description, const Remark& remark, Finding& finding)
+{
+    const std::string meant = commandline::Nearest(remark.rule, {ruleNames.begin(), ruleNames.end()});
+    if (remark.rule.empty() || meant.empty())
+        return;
+    const ClytSpan place = description.PlaceOf(remark.place.line, remark.rule, remark.place.column);
+    if (place.length == static_cast<int>(remark.rule.size()))
+        finding.FixPerhaps(place, meant);
+}
+
 } // namespace
 
 void ApplyIgnores(const Description& description, Findings& findings)
@@ -68,14 +88,16 @@ void ApplyIgnores(const Description& description, Findings& findings)
     for (const Remark& remark : remarks)
     {
         if (FindRule(remark.rule) == nullptr)
-            findings.Add("ignore-unknown", remark.place, "there is no rule \"" + remark.rule + "\"",
-                         HintForRule(remark.rule));
+            FixRule(description, remark,
+                    findings.Add("ignore-unknown", remark.place, "there is no rule \"" + remark.rule + "\"",
+                                 HintForRule(remark.rule)));
         else if (!remark.hasReason)
             findings.Add("ignore-without-reason", remark.place, "the remark gives no reason",
                          "write why after \"" + remark.rule + "\"");
         else if (silenced[{remark.place.line, remark.rule}] == 0)
-            findings.Add("ignore-unused", remark.place, "\"" + remark.rule + "\" finds nothing here",
-                         "delete the remark");
+            findings
+                .Add("ignore-unused", remark.place, "\"" + remark.rule + "\" finds nothing here", "delete the remark")
+                .FixSafely(WithBlanksBefore(description.text, remark.place), "");
     }
 }
 

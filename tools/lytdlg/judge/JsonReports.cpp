@@ -29,6 +29,14 @@ public:
                          {"hint", commandline::ToUtf8(finding.hint)}};
             if (!finding.number.empty())
                 told["number"] = finding.number;
+            AddFix(finding, told);
+            for (const Finding& other : finding.more)
+            {
+                Json also = PlaceOf(other.place);
+                also["message"] = commandline::ToUtf8(other.message);
+                AddFix(other, also);
+                told["more"].push_back(std::move(also));
+            }
             m_findings.push_back(std::move(told));
         }
     }
@@ -43,6 +51,20 @@ public:
     }
 
 private:
+    static Json PlaceOf(const ClytSpan& place)
+    {
+        return {{"line", place.line}, {"column", place.column + 1}, {"length", place.length}};
+    }
+
+    static void AddFix(const Finding& finding, Json& told)
+    {
+        if (!finding.fix)
+            return;
+        told["fix"] = PlaceOf(finding.fix->place);
+        told["fix"]["text"] = commandline::ToUtf8(finding.fix->text);
+        told["fix"]["safe"] = finding.fix->isSafe;
+    }
+
     Json m_findings = Json::array();
 };
 
@@ -79,15 +101,32 @@ private:
 
     static Json ResultOf(const Finding& finding, const Description& description)
     {
-        const Json region = {{"startLine", std::max(1, finding.place.line)},
-                             {"startColumn", finding.place.column + 1},
-                             {"endColumn", finding.place.column + 1 + std::max(1, finding.place.length)}};
-        const Json place = {{"artifactLocation", {{"uri", UriOf(PathOf(finding, description))}}}, {"region", region}};
+        const Json file = {{"uri", UriOf(PathOf(finding, description))}};
+        const Json place = {{"artifactLocation", file},
+                            {"region", RegionOf(finding.place, std::max(1, finding.place.length))}};
         const std::string hint = finding.hint.empty() ? "" : "; " + finding.hint;
-        return {{"ruleId", finding.rule->id},
-                {"level", WordOf(finding.rule->level)},
-                {"message", {{"text", commandline::ToUtf8(finding.message + hint)}}},
-                {"locations", Json::array({{{"physicalLocation", place}}})}};
+        Json result = {{"ruleId", finding.rule->id},
+                       {"level", WordOf(finding.rule->level)},
+                       {"message", {{"text", commandline::ToUtf8(WholeMessageOf(finding) + hint)}}},
+                       {"locations", Json::array({{{"physicalLocation", place}}})}};
+        if (finding.fix)
+            result["fixes"] = Json::array({FixOf(*finding.fix, file)});
+        return result;
+    }
+
+    static Json RegionOf(const ClytSpan& place, int length)
+    {
+        return {{"startLine", std::max(1, place.line)},
+                {"startColumn", place.column + 1},
+                {"endColumn", place.column + 1 + length}};
+    }
+
+    static Json FixOf(const Fix& fix, const Json& file)
+    {
+        const Json replacement = {{"deletedRegion", RegionOf(fix.place, fix.place.length)},
+                                  {"insertedContent", {{"text", commandline::ToUtf8(fix.text)}}}};
+        const Json change = {{"artifactLocation", file}, {"replacements", Json::array({replacement})}};
+        return {{"artifactChanges", Json::array({change})}};
     }
 
     // A relative reference, or that of a file; what is no plain letter of an address is written in numbers.

@@ -1,9 +1,13 @@
 #include "lytdlg/judge/Judge.h"
 
+#include "environment/ClytException.h"
 #include "lytdlg/judge/Families.h"
+#include "lytdlg/text/Encoding.h"
 #include "lytdlg/text/Paths.h"
+#include "lytdlg/text/Words.h"
 
 #include <algorithm>
+#include <set>
 
 namespace lytdlg
 {
@@ -51,6 +55,20 @@ void RemoveWhatIsNotKnown(const DescriptionText& text, Findings& findings)
     }
 }
 
+// A word with a no-break space beside it is another word.
+void RemoveWhatFollows(Findings& findings)
+{
+    const Rule* const cause = &RuleName("no-break-space").Get();
+    std::set<int> lines;
+    for (const Finding& finding : findings.All())
+    {
+        if (finding.rule == cause)
+            lines.insert(finding.place.line);
+    }
+    findings.Remove([&](const Finding& finding)
+                    { return finding.rule != cause && finding.path.empty() && lines.contains(finding.place.line); });
+}
+
 } // namespace
 
 Surroundings SurroundingsOf(const std::string& folder, const std::vector<std::string>& partners)
@@ -58,12 +76,18 @@ Surroundings SurroundingsOf(const std::string& folder, const std::vector<std::st
     return {folder, std::make_shared<PartnerLibraries>(partners), LanguageFiles(PathOf(folder)), FolderTexts(folder)};
 }
 
-void AddIn(const Case& judged, RuleName rule, const LanguageFile& file, const ClytSpan& place, const std::string& line,
-           const std::string& message, const std::string& hint)
+Finding& AddIn(const Case& judged, RuleName rule, const LanguageFile& file, const ClytSpan& place,
+               const std::string& line, const std::string& message, const std::string& hint)
 {
     Finding& finding = judged.findings.Add(rule, place, message, hint);
     finding.path = file.FileName();
     finding.line = line;
+    return finding;
+}
+
+ClytSpan WholeLineOf(const LanguageKey& key)
+{
+    return {key.place.line, 0, static_cast<int>(key.line.size())};
 }
 
 const std::string& PathOf(const Finding& finding, const Description& description)
@@ -79,9 +103,17 @@ const std::string& LineOf(const Finding& finding, const Description& description
 Findings Judge(const Description& description, const Surroundings& surroundings)
 {
     Findings findings;
+    // Nothing in it is what the library would read.
+    if (IsUtf16(description.text.Bytes()))
+    {
+        findings.Add("utf-16", {1, 0, 2}, "the file was saved as UTF-16, which the library cannot read", encodeAsAnsi)
+            .number = lytError("VersionMissing");
+        return findings;
+    }
     for (const auto apply : families)
         apply({description, surroundings, findings});
     RemoveWhatIsNotKnown(description.text, findings);
+    RemoveWhatFollows(findings);
     ApplyIgnores(description, findings);
     findings.Sort();
     return findings;

@@ -32,8 +32,10 @@ struct Case
 };
 
 // Adds a finding in a language file. The line is the whole one that the place is in.
-void AddIn(const Case& judged, RuleName rule, const LanguageFile& file, const ClytSpan& place, const std::string& line,
-           const std::string& message, const std::string& hint);
+Finding& AddIn(const Case& judged, RuleName rule, const LanguageFile& file, const ClytSpan& place,
+               const std::string& line, const std::string& message, const std::string& hint);
+// All of the line that holds a key.
+ClytSpan WholeLineOf(const LanguageKey& key);
 
 // The file that a finding is in, and its line there.
 const std::string& PathOf(const Finding& finding, const Description& description);

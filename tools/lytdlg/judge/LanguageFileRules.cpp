@@ -31,10 +31,13 @@ void JudgeSection(const Case& judged)
             known.push_back(key.section);
         const bool isHiddenByMark =
             file.HasByteOrderMark() && file.FirstLine().find("[" + name + "]") != std::string::npos;
-        judged.findings.Add("text-section", description.PlaceOf(header->number, name),
-                            file.Language() + ".nls has no section [" + name + "]",
-                            isHiddenByMark ? "a byte order mark hides it; " + std::string(saveAsAnsi)
-                                           : MeantOr(name, known, "add it, with all texts"));
+        Finding& finding =
+            judged.findings.Add("text-section", description.PlaceOf(header->number, name),
+                                file.Language() + ".nls has no section [" + name + "]",
+                                isHiddenByMark ? "a byte order mark hides it; " + std::string(encodeAsAnsi)
+                                               : MeantOr(name, known, "add it, with all texts"));
+        if (!isHiddenByMark)
+            FixWord(judged, finding, {name, known, ""});
     }
 }
 
@@ -54,10 +57,9 @@ void JudgeByteOrderMark(const Case& judged)
 {
     for (const LanguageFile& file : judged.surroundings.texts.Files())
     {
-        if (!file.HasByteOrderMark() || !IsFirstOfFolder(judged))
-            continue;
-        AddIn(judged, "text-byte-order-mark", file, {1, 0, 1}, file.FirstLine(),
-              "a byte order mark comes before the first line, and hides it", saveAsAnsi);
+        if (file.HasByteOrderMark())
+            AddIn(judged, "text-byte-order-mark", file, {1, 0, 1}, file.FirstLine(),
+                  "a byte order mark comes before the first line, and hides it", encodeAsAnsi);
     }
 }
 
@@ -69,10 +71,15 @@ void JudgeForm(const Case& judged)
         {
             const bool isOpenSection = key.name.starts_with('[');
             const bool isTold = key.place.line == 1 && file.HasByteOrderMark();
-            if (!key.hasText && !isTold)
+            if (key.hasText || isTold)
+                continue;
+            Finding& finding =
                 AddIn(judged, "text-form", file, key.place, key.line,
                       isOpenSection ? "the bracket of this section is not closed" : "this line has no equals sign",
                       isOpenSection ? "write [NAME]" : "write KEY=TEXT, or a semicolon before a comment");
+            const ClytSpan& name = key.place;
+            isOpenSection ? finding.FixPerhaps({name.line, name.column + name.length, 0}, "]")
+                          : finding.FixPerhaps({name.line, name.column, 0}, "; ");
         }
     }
 }
@@ -140,7 +147,8 @@ void JudgeUnused(const Case& judged)
                                      (isFirst && IsSameName(key.section, messageSection));
             if (key.isReached && key.hasText && isOfSection && !used.contains(TextId(key.section, key.name)))
                 AddIn(judged, "text-unused", file, key.place, key.line,
-                      "no dialog of the folder uses the text " + InQuotes(key.name), "delete it");
+                      "no dialog of the folder uses the text " + InQuotes(key.name), "delete it")
+                    .FixPerhaps(WholeLineOf(key), "");
         }
     }
 }

@@ -33,10 +33,9 @@ struct LayoutLine
 void JudgeType(const LayoutLine& statement)
 {
     if (statement.kind == Kind::Unknown)
-        statement.judged.findings.Add(
-            "type-unknown", PlaceOf(statement.control, statement.words[0]),
-            InQuotes(statement.words[0].text) + " is no type of control, and makes none",
-            MeantOr(statement.words[0].text, TypeWords(), "use one of: " + Joined(TypeWords())));
+        AddUnknown(statement.judged, "type-unknown", PlaceOf(statement.control, statement.words[0]),
+                   InQuotes(statement.words[0].text) + " is no type of control, and makes none",
+                   {statement.words[0].text, TypeWords(), "use one of: " + Joined(TypeWords())});
 }
 
 bool IsInQuotes(const LayoutLine& statement, const LineToken& word)
@@ -72,8 +71,15 @@ void JudgeNamePoint(const LayoutLine& statement)
     const bool isShort = words.size() > 1 && words[1].text.starts_with('.');
     const size_t last = isShort ? 1 : words.size() > 5 && words[5].text.starts_with('.') ? 5 : 6;
     if (words.size() > last + 1)
-        statement.judged.findings.Add("control-surplus", PlaceOf(statement.control, words[last + 1]),
-                                      "nothing is read after the name", "delete the words");
+    {
+        const LineToken& name = words[last];
+        const LineToken& end = words.back();
+        const int from = name.column + static_cast<int>(name.text.size());
+        statement.judged.findings
+            .Add("control-surplus", PlaceOf(statement.control, words[last + 1]), "nothing is read after the name",
+                 "delete the words")
+            .FixSafely({statement.control.span.line, from, end.column + static_cast<int>(end.text.size()) - from}, "");
+    }
     const bool isNameAsText = words.size() == 6 && !statement.control.text.IsEmpty() &&
                               !lytTypeOf(statement.kind).hasCaption && statement.kind != Kind::Unknown &&
                               !IsInQuotes(statement, words[5]);
@@ -83,12 +89,14 @@ void JudgeNamePoint(const LayoutLine& statement)
     if (name == nullptr || name->text.empty())
         return;
     const std::string taken = statement.control.name.GetString();
-    statement.judged.findings.Add("name-without-point", PlaceOf(statement.control, *name),
-                                  isNameAsText
-                                      ? InQuotes(name->text) + " is taken for a text, which " +
-                                            lytTypeOf(statement.kind).name + " does not show"
-                                      : "the control is called " + InQuotes(taken) + ", without its first letter",
-                                  "write \"." + name->text + "\"");
+    const ClytSpan place = PlaceOf(statement.control, *name);
+    statement.judged.findings
+        .Add("name-without-point", place,
+             isNameAsText ? InQuotes(name->text) + " is taken for a text, which " + lytTypeOf(statement.kind).name +
+                                " does not show"
+                          : "the control is called " + InQuotes(taken) + ", without its first letter",
+             "write \"." + name->text + "\"")
+        .FixSafely({place.line, place.column, 0}, ".");
 }
 
 void JudgeNumber(const Case& judged, int line, const LineToken& word, const char* what)
@@ -99,9 +107,13 @@ void JudgeNumber(const Case& judged, int line, const LineToken& word, const char
     const bool isCut = word.text != std::to_string(number) &&
                        (number == std::numeric_limits<int>::max() || number == std::numeric_limits<int>::min());
     if (word.text.empty() || *rest != '\0')
-        judged.findings.Add("number-wrong", place,
-                            InQuotes(word.text) + " counts as " + std::to_string(number) + " for the " + what,
-                            "write a whole number");
+    {
+        Finding& finding = judged.findings.Add(
+            "number-wrong", place, InQuotes(word.text) + " counts as " + std::to_string(number) + " for the " + what,
+            "write a whole number");
+        if (std::isdigit(static_cast<unsigned char>(word.text[0])) != 0 && !judged.description.IsQuoted(place))
+            finding.FixSafely(place, std::to_string(number));
+    }
     else if (isCut)
         judged.findings.Add("number-range", place,
                             "the " + std::string(what) + " " + word.text + " counts as " + std::to_string(number),

@@ -1,6 +1,7 @@
 #include "lytdlg/judge/Families.h"
 
 #include "dlgfile/ClytDialogFile.h"
+#include "lytdlg/judge/StatementText.h"
 #include "lytdlg/text/Words.h"
 
 #include <algorithm>
@@ -16,36 +17,18 @@ bool IsInStatements(const SourceLine& line)
     return line.isRead && line.section != Section::Head && line.section != Section::End;
 }
 
-// Where a comment begins, which is where a word could begin; the end of the line without one. Quotes hold no comment.
-size_t EndOfStatement(const SourceLine& line)
+Finding& AddAt(const Case& judged, RuleName rule, int line, size_t column, size_t size, std::string message,
+               std::string hint)
 {
-    const std::string& text = line.text;
-    bool isWordBegin = true;
-    for (size_t place = 0; place < text.size(); ++place)
-    {
-        const char ch = text[place];
-        if (isWordBegin && ch == ';')
-            return place;
-        if (isWordBegin && ch == '"')
-        {
-            place = text.find('"', place + 1);
-            while (place != std::string::npos && text[place - 1] == '\\')
-                place = text.find('"', place + 1);
-            if (place == std::string::npos)
-                return text.size();
-        }
-        isWordBegin = DelimitersOf(line.section).Contains(ch) || (isWordBegin && (ch == ' ' || ch == '\t'));
-        if (ch == ';' && isWordBegin)
-            return place;
-    }
-    return text.size();
+    return judged.findings.Add(rule, {line, static_cast<int>(column), static_cast<int>(size)}, std::move(message),
+                               std::move(hint));
 }
 
-void AddAt(const Case& judged, RuleName rule, int line, size_t column, size_t size, std::string message,
-           std::string hint)
+// Between two words a tab is a comma; before a sign it makes one more word, which is empty.
+const char* TabInstead(const std::string& text, size_t after, const DelimiterSet& delimiters, bool separates)
 {
-    judged.findings.Add(rule, {line, static_cast<int>(column), static_cast<int>(size)}, std::move(message),
-                        std::move(hint));
+    const bool isBeforeWord = after != std::string::npos && !delimiters.Contains(text[after]);
+    return separates && isBeforeWord ? ", " : " ";
 }
 
 // A tab harms that ends a word, unless nothing follows it. Blanks and tabs are alike in the layout.
@@ -72,7 +55,8 @@ void JudgeTabs(const Case& judged, const SourceLine& line)
         const bool separates = line.section != Section::Output;
         AddAt(judged, "tab", line.number, place, 1,
               separates ? "this tab ends the word before it, as a comma does" : "this tab does not separate words",
-              "write blanks in place of tabs");
+              "write blanks in place of tabs")
+            .FixSafely({line.number, static_cast<int>(place), 1}, TabInstead(text, after, delimiters, separates));
         return;
     }
 }
@@ -86,25 +70,51 @@ void JudgeLength(const Case& judged, const SourceLine& line)
               "a line may have " + std::to_string(limit) + " characters; shorten it");
 }
 
+// Outside quotes it is a letter of the word beside it. Within a word of a value it may be meant.
+void JudgeNoBreakSpace(const Case& judged, const SourceLine& line)
+{
+    constexpr char noBreakSpace = '\xA0';
+    const size_t end = IsInStatements(line) ? EndOfStatement(line) : 0;
+    bool isInQuotes = false;
+    for (size_t place = 0; place < end; ++place)
+    {
+        const std::string& text = line.text;
+        isInQuotes = isInQuotes != (text[place] == '"' && (place == 0 || text[place - 1] != '\\'));
+        if (text[place] != noBreakSpace || isInQuotes)
+            continue;
+        const auto isLetter = [&](size_t at)
+        { return at < end && text[at] != ' ' && text[at] != '\t' && !DelimitersOf(line.section).Contains(text[at]); };
+        const bool isWithinWord = place > 0 && isLetter(place - 1) && isLetter(place + 1);
+        const bool isUtf8 = place > 0 && SequenceLength(text, place - 1) != 0;
+        if (isUtf8 || (isWithinWord && line.section != Section::Layout))
+            continue;
+        AddAt(judged, "no-break-space", line.number, place, 1, "this is a no-break space, and a letter for the library",
+              "write a blank in its place")
+            .FixSafely({line.number, static_cast<int>(place), 1}, " ");
+        return;
+    }
+}
+
 // A comment may hold what it likes, but for the byte that ends the line.
 void JudgeBytes(const Case& judged, const SourceLine& line)
 {
     if (!IsInStatements(line))
         return;
     const size_t end = EndOfStatement(line);
-    bool isUtf8Told = false;
+    bool isUtf8Told = judged.description.text.HasByteOrderMark();
     for (size_t place = 0; place < end; ++place)
     {
         const size_t size = SequenceLength(line.text, place);
         if (size != 0 && !isUtf8Told)
             AddAt(judged, "utf-8", line.number, place, size,
-                  "the library reads this letter as " + std::to_string(size) + " characters", saveAsAnsi);
+                  "the library reads this letter as " + std::to_string(size) + " characters", encodeAsAnsi);
         isUtf8Told = isUtf8Told || size != 0;
         if (size == 0 && StandsForNothing(line.text[place]))
         {
             AddAt(judged, "control-byte", line.number, place, 1,
                   "the byte " + HexOf(line.text[place]) + " is not a character",
-                  line.text[place] == '\0' ? "delete it: it ends the line" : "delete it");
+                  line.text[place] == '\0' ? "delete it: it ends the line" : "delete it")
+                .FixPerhaps({line.number, static_cast<int>(place), 1}, "");
             return;
         }
         place += size != 0 ? size - 1 : 0;
@@ -123,7 +133,7 @@ void JudgeFile(const Case& judged)
     }
     else if (text.HasByteOrderMark())
         AddAt(judged, "byte-order-mark-above", 1, 0, 1,
-              "the file begins with a byte order mark, and so was saved as UTF-8", saveAsAnsi);
+              "the file begins with a byte order mark, and so was saved as UTF-8", encodeAsAnsi);
     if (text.HasTextAfterEndMark())
         judged.findings.Add("end-mark", judged.description.PlaceOf(static_cast<int>(text.Lines().size())),
                             "a Ctrl-Z ends the file here, and text follows it", "delete the byte 1A");
@@ -136,8 +146,10 @@ void JudgeAfterEnd(const Case& judged)
         const size_t start = line->text.find_first_not_of(" \t");
         if (line->isHeader || start == std::string::npos || line->text[start] == ';')
             continue;
-        judged.findings.Add("after-end", judged.description.PlaceOf(line->number), "nothing after $END is read",
-                            "move it above $END, or make a comment of it");
+        judged.findings
+            .Add("after-end", judged.description.PlaceOf(line->number), "nothing after $END is read",
+                 "move it above $END, or make a comment of it")
+            .FixSafely({line->number, static_cast<int>(start), 0}, "; ");
         return;
     }
 }
@@ -151,6 +163,7 @@ void ApplyLineRules(const Case& judged)
         JudgeTabs(judged, line);
         JudgeLength(judged, line);
         JudgeBytes(judged, line);
+        JudgeNoBreakSpace(judged, line);
     }
     JudgeFile(judged);
     JudgeAfterEnd(judged);

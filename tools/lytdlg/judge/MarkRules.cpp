@@ -40,8 +40,9 @@ private:
     {
         const ClytSpan place = PlaceOf(mark);
         if (mark.define.empty())
-            m_judged.findings.Add("mark-nameless", place, "the name of the define is missing",
-                                  "write it right after the mark, without a blank");
+            FixNameless(m_judged.findings.Add("mark-nameless", place, "the name of the define is missing",
+                                              "write it right after the mark, without a blank"),
+                        mark);
         else if (!mark.isInverted && SectionOf(mark) != Section::End &&
                  !m_judged.description.text.IsDefined(mark.define) && m_switchedOff.insert(mark.define).second)
             m_judged.findings.Add("define-off", place,
@@ -55,10 +56,25 @@ private:
         m_open = &mark;
     }
 
+    // The blanks between the mark and the name go.
+    void FixNameless(Finding& finding, const SwitchMark& mark) const
+    {
+        const std::string& line = m_judged.description.text.Line(mark.place.line).text;
+        const auto sign = static_cast<size_t>(mark.place.column + (mark.isInverted ? 2 : 1));
+        const size_t name = line.find_first_not_of(" \t", sign);
+        if (name != std::string::npos && line[name] != ';')
+            finding.FixPerhaps({mark.place.line, static_cast<int>(sign), static_cast<int>(name - sign)}, "");
+    }
+
     void Close(const SwitchMark& mark)
     {
         if (m_open == nullptr && SectionOf(mark) != Section::Head)
-            m_judged.findings.Add("mark-unopened", PlaceOf(mark), "this mark ends nothing", "delete it");
+        {
+            Finding& finding =
+                m_judged.findings.Add("mark-unopened", PlaceOf(mark), "this mark ends nothing", "delete it");
+            if (mark.place.column == 0)
+                finding.FixSafely(PlaceOf(mark), "");
+        }
         m_open = nullptr;
     }
 
@@ -67,16 +83,29 @@ private:
     std::set<std::string> m_switchedOff; // reported once each
 };
 
+// Whether a mark above the line is not ended yet.
+bool IsOpenAt(const DescriptionText& text, int line)
+{
+    bool isOpen = false;
+    for (const SwitchMark& mark : text.Marks())
+        isOpen = mark.place.line < line ? mark.isOpening : isOpen;
+    return isOpen;
+}
+
 void JudgeIndented(const Case& judged, const SourceLine& line)
 {
     const size_t start = line.text.find_first_not_of(" \t");
     const bool isIndented =
         start != std::string::npos && start > 0 && (line.text[start] == '<' || line.text[start] == '>');
-    if (isIndented && judged.description.IsRefused(line.number))
-        judged.findings
-            .Add("mark-indented", {line.number, static_cast<int>(start), 1}, "this mark is read as a statement",
-                 "begin the line with it, without blanks")
-            .number = lytError("LineForm");
+    if (!isIndented || !judged.description.IsRefused(line.number))
+        return;
+    Finding& finding =
+        judged.findings.Add("mark-indented", {line.number, static_cast<int>(start), 1},
+                            "this mark is read as a statement", "begin the line with it, without blanks");
+    finding.number = lytError("LineForm");
+    const bool isStray = line.text[start] == '>' && !IsOpenAt(judged.description.text, line.number);
+    isStray ? finding.FixSafely(judged.description.PlaceOf(line.number), "")
+            : finding.FixSafely({line.number, 0, static_cast<int>(start)}, "");
 }
 
 } // namespace

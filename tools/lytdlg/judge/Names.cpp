@@ -5,6 +5,8 @@
 #include "lytdlg/text/LanguageFiles.h"
 
 #include <algorithm>
+#include <cctype>
+#include <iterator>
 
 namespace lytdlg
 {
@@ -59,6 +61,13 @@ constexpr Synonym synonyms[] = {
     {"DropDownListBox", lytTypeOf(Kind::DropList).word},
     {"CheckedListBox", lytTypeOf(Kind::CheckList).word},
 };
+
+std::string DigitsOf(const std::string& text)
+{
+    std::string digits;
+    std::ranges::copy_if(text, std::back_inserter(digits), [](unsigned char ch) { return std::isdigit(ch) != 0; });
+    return digits;
+}
 
 } // namespace
 
@@ -128,9 +137,56 @@ std::string MeantOr(const std::string& word, const std::vector<std::string>& kno
     return meant.empty() ? otherwise : "did you mean " + InQuotes(meant) + "?";
 }
 
+bool IsSurelyMeant(const std::string& word, const std::string& meant, const std::vector<std::string>& known)
+{
+    const auto isOther = [&](const std::string& candidate) { return candidate != meant; };
+    const auto isSame = [&](const std::string& candidate) { return IsSameName(candidate, word); };
+    if (isSame(meant))
+        return std::ranges::none_of(known, [&](const std::string& each) { return isOther(each) && isSame(each); });
+    // The names of one kind may differ in their numbers only.
+    return commandline::IsClose(word, meant) && DigitsOf(word) == DigitsOf(meant) &&
+           std::ranges::none_of(known, [&](const std::string& each)
+                                { return isOther(each) && commandline::IsClose(word, each); });
+}
+
+void FixWord(const Case& judged, Finding& finding, const UnknownWord& word)
+{
+    const std::string meant = MeantWord(word.text, word.known);
+    const std::string& line = judged.description.text.Line(finding.place.line).text;
+    const auto column = static_cast<size_t>(finding.place.column);
+    const auto length = static_cast<size_t>(finding.place.length);
+    const size_t at = std::min(line.find(word.text, column), line.size());
+    if (meant.empty() || at + word.text.size() > column + length || line.compare(at, word.text.size(), word.text) != 0)
+        return;
+    finding.fix = {{finding.place.line, static_cast<int>(at), static_cast<int>(word.text.size())},
+                   meant,
+                   IsSurelyMeant(word.text, meant, word.known)};
+}
+
+Finding& AddUnknown(const Case& judged, RuleName rule, const ClytSpan& place, std::string message,
+                    const UnknownWord& word)
+{
+    Finding& finding =
+        judged.findings.Add(rule, place, std::move(message), MeantOr(word.text, word.known, word.otherwise));
+    FixWord(judged, finding, word);
+    return finding;
+}
+
 std::string InQuotes(const std::string& text)
 {
     return "\"" + text + "\"";
+}
+
+bool IsNamedWhereSwitchedOff(const Description& description, const std::string& word)
+{
+    const auto hasWord = [&](const SourceLine& line)
+    {
+        const bool isMark = line.text.starts_with('<') || line.text.starts_with('>');
+        return !line.isRead && !isMark && !word.empty() &&
+               description.PlaceOf(line.number, word).length == static_cast<int>(word.size()) &&
+               line.text.find(word) != std::string::npos;
+    };
+    return std::ranges::any_of(description.text.Lines(), hasWord);
 }
 
 Kind KindOf(const ClytControlStatement& control)

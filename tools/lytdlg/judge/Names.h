@@ -2,7 +2,7 @@
 #pragma once
 
 #include "controls/TypeWords.h"
-#include "lytdlg/judge/Description.h"
+#include "lytdlg/judge/Judge.h"
 #include "model/ClytWords.h"
 
 namespace lytdlg
@@ -40,7 +40,26 @@ std::string MeantWord(const std::string& word, const std::vector<std::string>& k
 // "did you mean ...?", or else the other text.
 std::string MeantOr(const std::string& word, const std::vector<std::string>& known, const std::string& otherwise);
 
+// A word that is not known, those that are, and a way out where none of them was meant.
+struct UnknownWord
+{
+    const std::string& text;
+    const std::vector<std::string>& known;
+    std::string otherwise;
+};
+
+// Whether only the one known word can have been meant.
+bool IsSurelyMeant(const std::string& word, const std::string& meant, const std::vector<std::string>& known);
+// Puts the known word that was meant in the place of the other one, if that is what is there.
+void FixWord(const Case& judged, Finding& finding, const UnknownWord& word);
+// Adds a finding with the known word that was meant.
+Finding& AddUnknown(const Case& judged, RuleName rule, const ClytSpan& place, std::string message,
+                    const UnknownWord& word);
+
 std::string InQuotes(const std::string& text);
+
+// Whether a line that a define switches off has the word: what nothing else uses may be used there.
+bool IsNamedWhereSwitchedOff(const Description& description, const std::string& word);
 
 Kind KindOf(const ClytControlStatement& control);
 // The group that an option belongs to; null without one.

@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <set>
 #include <unordered_map>
+#include <utility>
 
 namespace lytdlg
 {
@@ -42,33 +43,35 @@ void JudgeFirst(const Case& judged)
         return;
     const std::vector<LineToken> words = TokensOf(header->text, Section::Input);
     if (words.size() > 1 && !words[1].text.empty() && words[1].text != lytParentName)
-        judged.findings.Add("output-first", judged.description.PlaceOf(header->number, words[1].text),
-                            "the first group is always the result of the dialog, under any name",
-                            "write \"$OUTPUT, parent\", and put other groups after it");
+    {
+        const ClytSpan place = judged.description.PlaceOf(header->number, words[1].text);
+        judged.findings
+            .Add("output-first", place, "the first group is always the result of the dialog, under any name",
+                 "write \"$OUTPUT, parent\", and put other groups after it")
+            .FixSafely(place, lytParentName);
+    }
 }
 
 void JudgeOutputGroups(const Case& judged)
 {
     const std::set<std::string> used = UsedGroups(judged.description);
-    std::unordered_map<std::string, const OutputGroup*> last;
-    for (const OutputGroup& group : judged.description.outputs)
-        last[group.name] = &group;
+    std::unordered_map<std::string, const OutputGroup*> met;
     for (const OutputGroup& group : judged.description.outputs)
     {
         const ClytSpan place = judged.description.PlaceOf(group.header.line);
-        const OutputGroup* later = last[group.name];
-        if (later != &group)
+        const OutputGroup* before = std::exchange(met[group.name], &group);
+        if (before != nullptr)
             judged.findings.Add("output-twice", place,
-                                "the group " + InQuotes(group.name) + " in line " + std::to_string(later->header.line) +
-                                    " takes the place of this one",
+                                "this group takes the place of the group " + InQuotes(group.name) + " in line " +
+                                    std::to_string(before->header.line),
                                 "give each group a different name");
-        else if (!used.contains(group.name))
+        else if (!used.contains(group.name) && !IsNamedWhereSwitchedOff(judged.description, group.name))
             judged.findings.Add("output-unused", place, "nothing uses the group " + InQuotes(group.name),
                                 "name it in a FILLEDBY, DIALOG or ACTION, or delete it");
         else if (group.rules.IsEmpty() && group.name == lytParentName)
             judged.findings.Add("output-parent", place, "there is no rule for the dialog's result, and OK does nothing",
                                 "add a rule, as (\"%s\", Name)");
-        else if (group.rules.IsEmpty())
+        else if (group.rules.IsEmpty() && used.contains(group.name))
             judged.findings.Add("output-empty", place, "the group " + InQuotes(group.name) + " has no rule",
                                 "add one, as (\"%s\", Name)");
     }

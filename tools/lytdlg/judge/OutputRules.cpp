@@ -155,9 +155,8 @@ void JudgeConditions(const Case& judged, const ClytDialogOutput& rule)
     {
         const std::string name = asked->GetName().GetString();
         if (judged.description.FindControl(name) == nullptr)
-            judged.findings
-                .Add("output-condition", asked->GetSpan(), "there is no control " + InQuotes(name),
-                     MeantOr(name, ControlNames(judged.description), "name a control of $LAYOUT"))
+            AddUnknown(judged, "output-condition", asked->GetSpan(), "there is no control " + InQuotes(name),
+                       {name, ControlNames(judged.description), "name a control of $LAYOUT"})
                 .number = lytError("OutputControl");
         JudgeValues(judged, "output-condition-value", *asked, ValueWords::Null);
         if (!asked->GetValues().IsEmpty())
@@ -168,15 +167,20 @@ void JudgeConditions(const Case& judged, const ClytDialogOutput& rule)
 void JudgeUnknownItem(const Case& judged, const ClytOutputItem& given)
 {
     const std::string name = given.text.GetString();
-    const std::string hint = MeantOr(name, ControlNames(judged.description), "");
-    if (!given.action.IsEmpty())
+    const std::vector<std::string>& known = ControlNames(judged.description);
+    const std::string hint = MeantOr(name, known, "");
+    const bool isList = !given.action.IsEmpty();
+    if (!isList && (hint.empty() || judged.description.IsQuoted(given.span)))
+        return;
+    Finding& finding =
         judged.findings.Add("output-item", given.span,
-                            "there is no list " + InQuotes(name) + ": the word itself goes into the text",
-                            hint.empty() ? "name a list of $LAYOUT" : hint);
-    else if (!hint.empty() && !judged.description.IsQuoted(given.span))
-        judged.findings.Add("output-item", given.span,
-                            "there is no control " + InQuotes(name) + ": the word itself goes into the text",
-                            hint + " Put a text in quotes");
+                            "there is no " + std::string(isList ? "list " : "control ") + InQuotes(name) +
+                                ": the word itself goes into the text",
+                            hint.empty() ? "name a list of $LAYOUT" : hint + (isList ? "" : " Put a text in quotes"));
+    FixWord(judged, finding, {name, known, ""});
+    // The word may be meant as the text that it is.
+    if (finding.fix)
+        finding.fix->isSafe = false;
 }
 
 void JudgeAllItems(const Case& judged, const ClytOutputItem& given, const ClytControlStatement& control)

@@ -19,11 +19,11 @@ void JudgeFunctions(const Case& judged, const PartnerCall& call, const ExportTab
     {
         if (std::ranges::find(table.names, name) != table.names.end())
             continue;
-        judged.findings
-            .Add("partner-function", PlaceOf(judged.description, call, name),
-                 LibraryFileName(call.library) + " has no function " + InQuotes(name),
-                 HintForFunction(name, table.names, "name one of its functions"))
-            .number = call.isAction ? lytError("FunctionMissing") : "";
+        Finding& finding = judged.findings.Add("partner-function", PlaceOf(judged.description, call, name),
+                                               LibraryFileName(call.library) + " has no function " + InQuotes(name),
+                                               HintForFunction(name, table.names, "name one of its functions"));
+        finding.number = call.isAction ? lytError("FunctionMissing") : "";
+        FixWord(judged, finding, {name, table.names, ""});
     }
 }
 

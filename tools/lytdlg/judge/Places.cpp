@@ -117,6 +117,16 @@ private:
 
 } // namespace
 
+bool IsSizedByText(Kind kind)
+{
+    return kind == Kind::Text || kind == Kind::CheckBox || kind == Kind::Option;
+}
+
+const ClytResolution& ResolutionOf(const Screen& screen)
+{
+    return *std::ranges::find(lytResolutions, screen.pixelsPerInch, &ClytResolution::pixelsPerInch);
+}
+
 std::vector<Screen> ScreensOf(const Description& description, const LanguageFiles& texts)
 {
     std::vector<Screen> screens;

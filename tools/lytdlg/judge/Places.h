@@ -32,6 +32,11 @@ struct Screen
     std::vector<PlacedControl> controls; // in the order of the file
 };
 
+// A control that is as large as its text, on any screen.
+bool IsSizedByText(Kind kind);
+// The factors of a screen.
+const ClytResolution& ResolutionOf(const Screen& screen);
+
 // The dialog at each resolution, in each language.
 std::vector<Screen> ScreensOf(const Description& description, const LanguageFiles& texts);
 

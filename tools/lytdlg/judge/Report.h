@@ -28,6 +28,8 @@ public:
 
 // Prints to standard output as it goes, with colours on a terminal.
 std::unique_ptr<Report> MakeTextReport();
+// A line for each finding, in the form that editors know from compilers.
+std::unique_ptr<Report> MakeGccReport();
 // Print once all is known.
 std::unique_ptr<Report> MakeJsonReport();
 std::unique_ptr<Report> MakeSarifReport();

@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <unordered_map>
+#include <utility>
 
 namespace lytdlg
 {
@@ -55,19 +56,17 @@ void JudgeParts(const Case& judged)
     const std::set<std::string> used = UsedParts(judged.description);
     const auto& parts = judged.description.inputs;
     const bool hasParent = HasPart(judged.description, lytParentName);
-    std::unordered_map<std::string, const InputPart*> last;
-    for (const InputPart& part : parts)
-        last[part.name] = &part;
+    std::unordered_map<std::string, const InputPart*> met;
     for (const InputPart& part : parts)
     {
         const ClytSpan place = judged.description.PlaceOf(part.header.line);
-        const InputPart* later = last[part.name];
-        if (later != &part)
+        const InputPart* before = std::exchange(met[part.name], &part);
+        if (before != nullptr)
             judged.findings.Add("scan-part-twice", place,
-                                "the part " + InQuotes(part.name) + " in line " + std::to_string(later->header.line) +
-                                    " takes the place of this one",
+                                "this part takes the place of the part " + InQuotes(part.name) + " in line " +
+                                    std::to_string(before->header.line),
                                 "give each part a different name");
-        else if (!used.contains(part.name) && hasParent)
+        else if (!used.contains(part.name) && hasParent && !IsNamedWhereSwitchedOff(judged.description, part.name))
             judged.findings.Add("scan-part-unused", place, "no button runs the part " + InQuotes(part.name),
                                 "name it in a button's DIALOG or ACTION, or delete it");
     }
@@ -83,9 +82,12 @@ void JudgeStart(const Case& judged, const InputPart& part)
     const auto meant =
         std::ranges::find_if(names, [](const std::string& name) { return !MeantOr(name, {lytStartName}, "").empty(); });
     const ClytSpan place = meant != names.end() ? part.part->Find(meant->c_str())->span : part.header;
-    judged.findings.Add("scan-start", judged.description.PlaceOf(place.line, meant != names.end() ? *meant : ""),
-                        "the part " + InQuotes(part.name) + " has no statement \"Start\", so its run ends at once",
-                        meant != names.end() ? "did you mean \"Start\"?" : "call the first statement \"Start\"");
+    Finding& finding =
+        judged.findings.Add("scan-start", judged.description.PlaceOf(place.line, meant != names.end() ? *meant : ""),
+                            "the part " + InQuotes(part.name) + " has no statement \"Start\", so its run ends at once",
+                            meant != names.end() ? "did you mean \"Start\"?" : "call the first statement \"Start\"");
+    if (meant != names.end())
+        FixWord(judged, finding, {*meant, {lytStartName}, ""});
 }
 
 ClytSpan NamePlace(const ClytDialogInput& statement)
@@ -112,15 +114,17 @@ void JudgeReached(const Case& judged, const InputPart& part)
 {
     const std::set<const ClytDialogInput*> reached = Reached(judged.description, *part.part);
     const bool isMisspelt = HasMisspeltTarget(judged, part);
+    std::unordered_map<std::string, const ClytDialogInput*> met;
     for (const ClytDialogInput* statement : Records(part.part->GetStatements()))
     {
-        const ClytDialogInput* found = part.part->Find(statement->name);
         const std::string name = InQuotes(statement->name.GetString());
-        if (found != statement)
+        const ClytDialogInput* before = std::exchange(met[statement->name.GetString()], statement);
+        if (before != nullptr)
             judged.findings.Add("scan-twice", NamePlace(*statement),
-                                "the statement " + name + " in line " + LineOf(*found) + " takes the place of this one",
+                                "this statement takes the place of " + name + " in line " + LineOf(*before),
                                 "give each statement of a part a different name");
-        else if (!reached.empty() && !reached.contains(statement) && !isMisspelt)
+        else if (part.part->Find(statement->name) == statement && !reached.empty() && !reached.contains(statement) &&
+                 !isMisspelt && !IsNamedWhereSwitchedOff(judged.description, statement->name.GetString()))
             judged.findings.Add("scan-unreached", NamePlace(*statement), "no statement leads to " + name,
                                 "name it as a target, or delete it");
     }
@@ -138,9 +142,9 @@ void JudgeTargets(const Case& judged, const InputPart& part, const ClytDialogInp
                                 "the statement names no next statement, and so the run ends",
                                 "write End where the run is to end");
         else
-            judged.findings.Add("scan-target", next.place,
-                                "no statement is called " + InQuotes(next.name) + ", and so the run ends",
-                                MeantOr(next.name, known, "write End where the run is to end"));
+            AddUnknown(judged, "scan-target", next.place,
+                       "no statement is called " + InQuotes(next.name) + ", and so the run ends",
+                       {next.name, known, "write End where the run is to end"});
     }
 }
 

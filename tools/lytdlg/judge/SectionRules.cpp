@@ -33,6 +33,7 @@ void JudgeFalseHeaders(const Case& judged)
                                 (isBlank || isTab ? std::string(isBlank ? "a blank" : "a tab") +
                                                         " does not end the word; write \"" + header.meant + "\""
                                                   : "did you mean \"" + header.meant + "\"?"));
+        finding.FixSafely(judged.description.PlaceOf(header.place.line), header.meant);
         finding.number = header.present != Section::Head     ? NumberWithin(header.present)
                          : header.section == Section::Layout ? lytError("LayoutMissing")
                                                              : lytError("VersionMissing");
@@ -74,6 +75,43 @@ std::string NumberOfMissing(const DescriptionText& text, Section section)
     return section == Section::Values ? lytError("ControlsOpen") : lytError("EndTooSoon");
 }
 
+// The header as it is when it stands for a section with nothing special about it; the layout needs the name of its texts.
+std::string PlainHeader(Section section)
+{
+    switch (section)
+    {
+    case Section::Head: return "$VERSION 1";
+    case Section::Evaluation: return "$EVALUATION, x";
+    case Section::Input: return "$INPUT, parent";
+    case Section::Output: return "$OUTPUT, parent";
+    case Section::Layout: return "";
+    default: return lytWordOf(section);
+    }
+}
+
+// Where the section ends that has no header is known when another one follows it, or the end of the file.
+void FixMissing(const DescriptionText& text, Section first, Finding& finding)
+{
+    std::string headers;
+    Section section = first;
+    for (; !HasHeader(text, section); section = static_cast<Section>(static_cast<int>(section) + 1))
+    {
+        if (PlainHeader(section).empty())
+            return;
+        headers += PlainHeader(section) + "\n";
+        if (section == Section::End)
+            break;
+    }
+    const bool isAbove =
+        std::ranges::any_of(text.Lines(), [&](const SourceLine& line) { return line.isRead && line.section >= first; });
+    const std::string& line = text.Line(finding.place.line).text;
+    if (isAbove)
+        finding.FixPerhaps({finding.place.line, 0, 0}, headers);
+    else
+        finding.FixSafely({finding.place.line, static_cast<int>(line.size()), 0},
+                          "\n" + headers.substr(0, headers.size() - 1));
+}
+
 // Sections that are missing side by side have one finding.
 void JudgeMissing(const Case& judged)
 {
@@ -94,11 +132,12 @@ void JudgeMissing(const Case& judged)
             if (each == Section::End)
                 break;
         }
-        judged.findings
-            .Add("section-missing", judged.description.PlaceOf(LineAfter(text, section)),
-                 count == 1 ? "the line " + names + "\" is missing" : "the lines " + names + "\" are missing",
-                 "every section must be there, also when it is empty")
-            .number = NumberOfMissing(text, section);
+        Finding& finding = judged.findings.Add("section-missing", judged.description.PlaceOf(LineAfter(text, section)),
+                                               count == 1 ? "the line " + names + "\" is missing"
+                                                          : "the lines " + names + "\" are missing",
+                                               "every section must be there, also when it is empty");
+        finding.number = NumberOfMissing(text, section);
+        FixMissing(text, section, finding);
     }
 }
 
@@ -110,9 +149,10 @@ void AddStray(const Case& judged, const SourceLine& line)
     const std::string message = "the header \"" + words.front().text + "\" is inside the section " +
                                 std::string(lytWordOf(line.section)) + " and opens nothing";
     if (isValue)
-        judged.findings.Add("header-in-values", place, message, "delete the line");
+        judged.findings.Add("header-in-values", place, message, "delete the line").FixSafely(place, "");
     else
         judged.findings.Add("section-order", place, message, "delete the line, or move the section to its place")
+            .FixPerhaps(place, "")
             .number = lytError("LineForm");
 }
 
@@ -155,11 +195,25 @@ void JudgeOrder(const Case& judged)
     }
 }
 
-void AddDialogLine(const Case& judged, const ClytSpan& place, const char* number, std::string message)
+Finding& AddDialogLine(const Case& judged, const ClytSpan& place, const char* number, std::string message)
 {
-    judged.findings
-        .Add("dialog-header", place, std::move(message), "write: Begin Dialog Box WIDTH, HEIGHT, \"TITLE\", .NAME")
-        .number = number;
+    Finding& finding = judged.findings.Add("dialog-header", place, std::move(message),
+                                           "write: Begin Dialog Box WIDTH, HEIGHT, \"TITLE\", .NAME");
+    finding.number = number;
+    return finding;
+}
+
+// The words that begin the dialog, as far as they are there.
+void FixDialogWords(const Description& description, const std::vector<LineToken>& words, Finding& finding)
+{
+    const size_t size = words.size();
+    const bool isBox = size > 2 && commandline::IsClose(words[2].text, "Box");
+    const bool isMeant = size > 1 && commandline::IsClose(words[0].text, "Begin") &&
+                         commandline::IsClose(words[1].text, "Dialog") && size == (isBox ? 7 : 6);
+    const int line = description.dialogHeader.line;
+    const int end = isMeant ? isBox ? words[3].column : words[2].column : 0;
+    if (isMeant)
+        finding.FixSafely({line, words[0].column, end - words[0].column}, "Begin Dialog Box ");
 }
 
 void JudgeDialogLine(const Case& judged)
@@ -173,18 +227,22 @@ void JudgeDialogLine(const Case& judged)
     if (words.empty() || words[0].text != "Begin")
     {
         const bool isMeant = !words.empty() && commandline::IsClose(words[0].text, "Begin");
-        AddDialogLine(judged, place, lytError("DialogMissing"),
-                      isMeant ? "\"" + words[0].text + "\" does not begin a dialog"
-                              : "the line \"Begin Dialog\" is missing before this one");
+        FixDialogWords(description, words,
+                       AddDialogLine(judged, place, lytError("DialogMissing"),
+                                     isMeant ? "\"" + words[0].text + "\" does not begin a dialog"
+                                             : "the line \"Begin Dialog\" is missing before this one"));
     }
     else if (!description.hasDialogHeader)
-        AddDialogLine(judged, description.PlaceOf(line, words[1].text, words[1].column), lytError("DialogForm"),
-                      "\"" + words[1].text + "\" is used where \"Dialog\" is required");
+        FixDialogWords(description, words,
+                       AddDialogLine(judged, description.PlaceOf(line, words[1].text, words[1].column),
+                                     lytError("DialogForm"),
+                                     "\"" + words[1].text + "\" is used where \"Dialog\" is required"));
     else if (std::ranges::any_of(description.mistakes, [&](const Mistake& mistake)
                                  { return mistake.place.line == line && mistake.number == lytError("LineForm"); }))
-        AddDialogLine(judged, place, lytError("LineForm"),
-                      "the line has " + std::to_string(words.size()) + (words.size() == 1 ? " word" : " words") +
-                          ", and not seven");
+        FixDialogWords(description, words,
+                       AddDialogLine(judged, place, lytError("LineForm"),
+                                     "the line has " + std::to_string(words.size()) +
+                                         (words.size() == 1 ? " word" : " words") + ", and not seven"));
 }
 
 void JudgeHeaderWords(const Case& judged)
@@ -205,6 +263,7 @@ void JudgeHeaderWords(const Case& judged)
         judged.findings
             .Add("evaluation-without-word", description.PlaceOf(evaluation->number), "a word must follow $EVALUATION",
                  "any word will do: write \"$EVALUATION, x\"")
+            .FixSafely({evaluation->number, 0, static_cast<int>(evaluation->text.size())}, "$EVALUATION, x")
             .number = lytError("HeaderForm");
 }
 
@@ -218,11 +277,13 @@ void JudgeParent(const Case& judged)
                                             { return commandline::IsClose(part.name, "parent"); });
     const InputPart& part = meant != description.inputs.end() ? *meant : description.inputs.front();
     const ClytSpan place = description.PlaceOf(part.header.line, part.name, static_cast<int>(sizeof "$INPUT") - 1);
-    judged.findings
-        .Add("input-parent", place, "no input part is named \"parent\", and so the dialog does not open",
-             meant != description.inputs.end() ? "did you mean \"parent\"?"
-                                               : "add \"$INPUT, parent\" with the statements that begin")
-        .number = lytError("EndTooSoon");
+    Finding& finding = judged.findings.Add(
+        "input-parent", place, "no input part is named \"parent\", and so the dialog does not open",
+        meant != description.inputs.end() ? "did you mean \"parent\"?"
+                                          : "add \"$INPUT, parent\" with the statements that begin");
+    finding.number = lytError("EndTooSoon");
+    if (meant != description.inputs.end() && place.length == static_cast<int>(part.name.size()))
+        finding.FixSafely(place, "parent");
 }
 
 } // namespace

@@ -1,6 +1,10 @@
 #include "lytdlg/judge/Families.h"
 
 #include "lytdlg/judge/StatementText.h"
+#include "lytdlg/text/Words.h"
+
+#include <algorithm>
+#include <iterator>
 
 #include <set>
 
@@ -38,13 +42,107 @@ bool IsStatement(const Description& description, const SourceLine& line)
            !isMark;
 }
 
+// The sign that a blank was written for; empty where none is missing.
+std::string MissingSign(ClytDue due)
+{
+    switch (due)
+    {
+    case ClytDue::Value:
+    case ClytDue::ConditionsSign:
+    case ClytDue::EvaluationSign: return " =";
+    case ClytDue::StateSign: return "/";
+    case ClytDue::StatementSign: return ":";
+    default: return "";
+    }
+}
+
+void FixForm(const Description& description, const SourceLine& line, const Mistake& mistake, Finding& finding)
+{
+    if (line.section == Section::Head)
+    {
+        finding.FixSafely({line.number, 0, static_cast<int>(line.text.size())}, "$VERSION 1");
+        return;
+    }
+    const std::string sign = MissingSign(mistake.due);
+    const std::vector<LineToken> words = TokensOf(line.text, line.section);
+    if (sign.empty() || words.empty())
+        return;
+    const auto refused =
+        std::ranges::find_if(words, [&](const LineToken& word) { return word.column >= mistake.place.column; });
+    const LineToken& word = refused == words.end() ? words.back() : *refused;
+    const size_t blank = word.text.find(' ');
+    const ClytSpan place = {line.number, word.column, static_cast<int>(word.text.size())};
+    if (blank != std::string::npos && !description.IsQuoted(place))
+        finding.FixSafely({line.number, word.column + static_cast<int>(blank), sign == " =" ? 0 : 1}, sign);
+}
+
+// Where a `;` that was meant as a sign begins a comment; npos without one. A comment is mostly set off by blanks.
+size_t MeantSemicolon(const SourceLine& line)
+{
+    const size_t place = EndOfStatement(line);
+    const size_t before = place < line.text.size() ? line.text.find_last_not_of(" \t", place - 1) : std::string::npos;
+    if (before == std::string::npos || place == 0)
+        return std::string::npos;
+    const size_t after = line.text.find_first_not_of(" \t", place + 1);
+    const bool isAfterSign = std::string_view("(,=").find(line.text[before]) != std::string_view::npos;
+    const bool isBeforeSign =
+        after == place + 1 && std::string_view("(),=").find(line.text[after]) != std::string_view::npos;
+    return isAfterSign || isBeforeSign ? place : std::string::npos;
+}
+
+// Whether a statement was meant to continue in the next line: where it ends, or by what that line begins with.
+bool MeansToContinue(const Description& description, const SourceLine& line)
+{
+    const SourceLine& next = description.text.Line(line.number + 1);
+    const std::string text = Trimmed(line.text.substr(0, EndOfStatement(line)));
+    const std::string below = Trimmed(next.text);
+    const bool isStatement =
+        !text.empty() && !line.isHeader && !below.empty() && next.section == line.section && !next.isHeader;
+    return isStatement && (text.back() == ',' || std::string_view("),=").find(below.front()) != std::string_view::npos);
+}
+
+// A format in the line below its conditions is a whole rule there.
+bool HasFormatBelow(const Description& description, const SourceLine& line)
+{
+    const SourceLine& next = description.text.Line(line.number + 1);
+    return line.section == Section::Output && next.section == line.section && !next.isHeader &&
+           Trimmed(line.text.substr(0, EndOfStatement(line))).ends_with('=') && Trimmed(next.text).starts_with('(');
+}
+
+// Says why the statement ends where it does.
+void AddReasonOfEnd(const Description& description, const SourceLine& line, Finding& finding)
+{
+    const size_t sign = MeantSemicolon(line);
+    if (sign != std::string::npos)
+    {
+        finding.message += "; the `;` begins a comment";
+        finding.hint = "write the sign in quotes, as \";\"";
+        finding.FixSafely({line.number, static_cast<int>(sign), 1}, "\";\"");
+    }
+    else if (MeansToContinue(description, line) || HasFormatBelow(description, line))
+    {
+        finding.message += "; a line cannot continue in the next one";
+        finding.hint = "write the whole statement in one line";
+    }
+}
+
+bool IsAtEnd(const SourceLine& line, const Mistake& mistake)
+{
+    const std::vector<LineToken> words = TokensOf(line.text, line.section);
+    const auto isRefused = [&](const LineToken& word) { return word.column >= mistake.place.column; };
+    const auto refused = std::ranges::find_if(words, isRefused);
+    return refused == words.end() || std::next(refused) == words.end();
+}
+
 void AddMistake(const Case& judged, const Mistake& mistake)
 {
     const Description& description = judged.description;
     const SourceLine& line = description.text.Line(mistake.place.line);
     if (mistake.number == lytError("QuoteOpen"))
     {
+        const ClytSpan whole = description.PlaceOf(line.number);
         judged.findings.Add("quote-open", mistake.place, "the quote is not closed", "write a quote after the text")
+            .FixPerhaps({line.number, whole.column + whole.length, 0}, "\"")
             .number = lytError("QuoteOpen");
         return;
     }
@@ -57,6 +155,11 @@ void AddMistake(const Case& judged, const Mistake& mistake)
                             WhatIsWrong(line.text, line.section, mistake.place.column, mistake.due), form.forms);
     if (mistake.place.column >= finding.place.column)
         finding.place = mistake.place;
+    FixForm(description, line, mistake, finding);
+    if (MeansToContinue(description, description.text.Line(line.number - 1)))
+        finding.message += "; the line above cannot continue here";
+    else if (IsAtEnd(line, mistake))
+        AddReasonOfEnd(description, line, finding);
     finding.number =
         mistake.number.empty() && line.section == Section::Input ? lytError("ReadingFailed") : mistake.number;
 }
@@ -69,7 +172,9 @@ void ApplyStatementRules(const Case& judged)
     std::set<int> told;
     for (const Mistake& mistake : judged.description.mistakes)
     {
-        if (told.insert(mistake.place.line).second)
+        const SourceLine& above = judged.description.text.Line(mistake.place.line - 1);
+        const bool isContinued = told.contains(above.number) && MeansToContinue(judged.description, above);
+        if (told.insert(mistake.place.line).second && !isContinued)
             AddMistake(judged, mistake);
     }
 }

@@ -132,4 +132,28 @@ std::vector<LineToken> TokensOf(const std::string& line, Section section)
     return words;
 }
 
+size_t EndOfStatement(const SourceLine& line)
+{
+    const std::string& text = line.text;
+    bool isWordBegin = true;
+    for (size_t place = 0; place < text.size(); ++place)
+    {
+        const char ch = text[place];
+        if (isWordBegin && ch == ';')
+            return place;
+        if (isWordBegin && ch == '"')
+        {
+            place = text.find('"', place + 1);
+            while (place != std::string::npos && text[place - 1] == '\\')
+                place = text.find('"', place + 1);
+            if (place == std::string::npos)
+                return text.size();
+        }
+        isWordBegin = DelimitersOf(line.section).Contains(ch) || (isWordBegin && (ch == ' ' || ch == '\t'));
+        if (ch == ';' && isWordBegin)
+            return place;
+    }
+    return text.size();
+}
+
 } // namespace lytdlg

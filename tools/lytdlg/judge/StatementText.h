@@ -18,6 +18,9 @@ struct LineToken
 // Up to a quote that is not closed.
 std::vector<LineToken> TokensOf(const std::string& line, Section section);
 
+// Where a comment begins, which is where a word could begin; the end of the line without one. Quotes hold no comment.
+size_t EndOfStatement(const SourceLine& line);
+
 // What is wrong with the form of a statement, in words. The column is where the reader gave up: a word, or the end of the
 // line.
 std::string WhatIsWrong(const std::string& line, Section section, int column, ClytDue due);

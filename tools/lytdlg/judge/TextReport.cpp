@@ -57,11 +57,33 @@ private:
     const bool m_isColoured = commandline::IsTerminal(stdout);
 };
 
+class GccReport : public Report
+{
+public:
+    void Add(const Description& description, const Findings& findings) override
+    {
+        for (const Finding& finding : findings.All())
+        {
+            const std::string hint = finding.hint.empty() ? "" : "; " + finding.hint;
+            std::printf("%s:%d:%d: %s: %s [%s]\n", commandline::Printable(PathOf(finding, description)).c_str(),
+                        std::max(1, finding.place.line), finding.place.column + 1, WordOf(finding.rule->level),
+                        Shown(WholeMessageOf(finding) + hint).c_str(), finding.rule->id.c_str());
+        }
+    }
+
+    void End(const Counts& /*counts*/) override {}
+};
+
 } // namespace
 
 std::unique_ptr<Report> MakeTextReport()
 {
     return std::make_unique<TextReport>();
+}
+
+std::unique_ptr<Report> MakeGccReport()
+{
+    return std::make_unique<GccReport>();
 }
 
 std::string TextOf(const Finding& finding, const Description& description, bool isColoured)
@@ -71,7 +93,7 @@ std::string TextOf(const Finding& finding, const Description& description, bool 
     const std::string number = finding.number.empty() ? "" : " (message " + finding.number + ")";
     std::string text = commandline::Printable(PathOf(finding, description)) + ":" + std::to_string(finding.place.line) +
                        ":" + std::to_string(finding.place.column + 1) + ": " + colour + WordOf(finding.rule->level) +
-                       plain + " " + finding.rule->id + ": " + Shown(finding.message) + number + "\n";
+                       plain + " " + finding.rule->id + ": " + Shown(WholeMessageOf(finding)) + number + "\n";
     if (finding.place.line > 0)
     {
         const std::string& line = LineOf(finding, description);

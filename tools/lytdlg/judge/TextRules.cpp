@@ -41,19 +41,25 @@ void JudgeMissing(const Case& judged, const ShownText& use, KeyNames& names)
 {
     std::vector<std::string> lacking;
     std::string hint;
+    const std::vector<std::string>* known = nullptr; // where the hint comes from
     for (const LanguageFile& file : judged.surroundings.texts.Files())
     {
         const bool isSectionTold = use.section == judged.description.TextSection() && !file.HasSection(use.section);
         if (isSectionTold || file.Find(use.section, use.key) != nullptr)
             continue;
         lacking.push_back(file.Language() + ".nls");
-        if (hint.empty())
-            hint = MeantOr(use.key, names.In(file.Language(), use.section), "");
+        if (!hint.empty())
+            continue;
+        known = &names.In(file.Language(), use.section);
+        hint = MeantOr(use.key, *known, "");
     }
-    if (!lacking.empty())
-        judged.findings.Add("text-missing", use.place,
-                            Joined(lacking) + ": no text " + InQuotes(use.key) + " in [" + use.section + "]",
-                            hint.empty() ? "add it there" : hint);
+    if (lacking.empty())
+        return;
+    Finding& finding = judged.findings.Add(
+        "text-missing", use.place, Joined(lacking) + ": no text " + InQuotes(use.key) + " in [" + use.section + "]",
+        hint.empty() ? "add it there" : hint);
+    if (!hint.empty())
+        FixWord(judged, finding, {use.key, *known, ""});
 }
 
 bool IsCaptionOrButton(TextRole role)
@@ -75,6 +81,14 @@ std::string StrayMark(const std::string& text)
     return letters > 1 ? "the caption underlines more than one letter" : "";
 }
 
+// Puts something in the place of a mark of the text that is there once.
+void FixMark(Finding& finding, const LanguageKey& key, const std::string& mark, const std::string& by)
+{
+    const size_t at = key.line.find(mark, key.line.find('='));
+    if (CountOf(key.text, mark) == 1 && at != std::string::npos)
+        finding.FixPerhaps({key.place.line, static_cast<int>(at), static_cast<int>(mark.size())}, by);
+}
+
 void JudgeText(const Case& judged, const ShownText& use, const LanguageFile& file, const LanguageKey& key)
 {
     const bool isCaption = use.role == TextRole::Caption;
@@ -90,11 +104,15 @@ void JudgeText(const Case& judged, const ShownText& use, const LanguageFile& fil
               "write it without an apostrophe");
     const std::string strayMark = IsCaptionOrButton(use.role) ? StrayMark(key.text) : "";
     if (!strayMark.empty())
-        AddIn(judged, "caption-ampersand", file, key.place, key.line, strayMark, "write && for an ampersand itself");
+        FixMark(AddIn(judged, "caption-ampersand", file, key.place, key.line, strayMark,
+                      "write && for an ampersand itself"),
+                key, "& ", "&& ");
     if (isShownAsItIs && key.text.find('&') != std::string::npos)
-        AddIn(judged, "text-ampersand", file, key.place, key.line,
-              std::string("a ") + (use.role == TextRole::Title ? "title" : "list item") + " shows the & as it is",
-              "leave it out");
+        FixMark(
+            AddIn(judged, "text-ampersand", file, key.place, key.line,
+                  std::string("a ") + (use.role == TextRole::Title ? "title" : "list item") + " shows the & as it is",
+                  "leave it out"),
+            key, "&", "");
 }
 
 // An item may be empty where it is so in every language.
@@ -115,13 +133,13 @@ void JudgeBytes(const Case& judged, const LanguageFile& file, const LanguageKey&
 {
     for (size_t place = 0; place < key.text.size(); ++place)
     {
-        const bool isUtf8 = SequenceLength(key.text, place) != 0;
+        const bool isUtf8 = SequenceLength(key.text, place) != 0 && !file.HasByteOrderMark();
         if (!isUtf8 && !StandsForNothing(key.text[place]))
             continue;
         AddIn(judged, "text-bytes", file, key.place, key.line,
               isUtf8 ? "the text was saved as UTF-8, and shows odd characters"
                      : "the byte " + HexOf(key.text[place]) + " of the text is not a character",
-              saveAsAnsi);
+              encodeAsAnsi);
         return;
     }
 }
@@ -136,7 +154,8 @@ void JudgeTwice(const Case& judged, const std::unordered_set<std::string>& used)
             if (found != nullptr && used.contains(TextId(key.section, key.name)))
                 AddIn(judged, "text-twice", file, key.place, key.line,
                       "the text is already in line " + std::to_string(found->place.line) + ", and that one counts",
-                      "take one of them away");
+                      "take one of them away")
+                    .FixSafely(WholeLineOf(key), "");
         }
     }
 }

@@ -18,11 +18,18 @@ void JudgeUnknown(const PlacedValue& statement)
     const std::string& name = statement.value.name;
     const std::string first = name.substr(0, name.find(' '));
     const bool isBlank = first != name && description.FindControl(first) != nullptr;
-    statement.judged.findings.Add("value-control-unknown", statement.PlaceOfName(),
-                                  "no control is called " + InQuotes(name) + "; the statement is passed over",
-                                  isBlank
-                                      ? "a blank does not separate: write " + InQuotes(first + ":") + " before the rest"
-                                      : MeantOr(name, ControlNames(description), "use the name of a control"));
+    const std::string message = "no control is called " + InQuotes(name) + "; the statement is passed over";
+    if (!isBlank)
+    {
+        AddUnknown(statement.judged, "value-control-unknown", statement.PlaceOfName(), message,
+                   {name, ControlNames(description), "use the name of a control"});
+        return;
+    }
+    const ClytSpan place = statement.PlaceOfName();
+    statement.judged.findings
+        .Add("value-control-unknown", place, message,
+             "a blank does not separate: write " + InQuotes(first + ":") + " before the rest")
+        .FixSafely({place.line, place.column + static_cast<int>(first.size()), 0}, ":");
 }
 
 // A list takes any word before its value for the key of a text.
@@ -31,18 +38,22 @@ void JudgeWords(const PlacedValue& statement)
     const ValueStatement& value = statement.value;
     if (IsMeantAsOption(value))
     {
-        statement.judged.findings.Add("option-word", statement.PlaceOfValue(),
+        Finding& finding = AddUnknown(statement.judged, "option-word", statement.PlaceOfValue(),
                                       InQuotes(value.values.front()) + " is taken for a value",
-                                      MeantOr(value.values.front(), WordsOf<ClytOption>(), ""));
+                                      {value.values.front(), WordsOf<ClytOption>(), ""});
+        if (finding.fix)
+            finding.fix->isSafe = false;
         return;
     }
     if (statement.role == Role::Nothing)
     {
-        statement.judged.findings.Add("value-unused", statement.PlaceOfName(),
-                                      std::string(lytTypeOf(statement.kind).name) + " makes nothing of this statement",
-                                      lytTypeOf(statement.kind).isDefault
-                                          ? "it takes no statements; delete it"
-                                          : "it takes HIDDEN, INVISIBLE, DISPLAYONLY and INACTIVE");
+        const bool takesNone = lytTypeOf(statement.kind).isDefault;
+        Finding& finding = statement.judged.findings.Add(
+            "value-unused", statement.PlaceOfName(),
+            std::string(lytTypeOf(statement.kind).name) + " makes nothing of this statement",
+            takesNone ? "it takes no statements; delete it" : "it takes HIDDEN, INVISIBLE, DISPLAYONLY and INACTIVE");
+        if (takesNone)
+            finding.FixSafely(statement.judged.description.PlaceOf(value.span.line), "");
         return;
     }
     if (statement.role == Role::Item && value.keyword.empty())
@@ -70,9 +81,14 @@ void JudgeWords(const PlacedValue& statement)
     const std::string hint = isOption           ? "write an option in a separate statement, with no other word"
                              : isKnownElsewhere ? "delete the word"
                                                 : MeantOr(value.keyword, known, "delete the word");
-    statement.judged.findings.Add("keyword-unknown", statement.PlaceOfKeyword(),
-                                  InQuotes(value.keyword) + " means nothing to " + lytTypeOf(statement.kind).name,
-                                  hint);
+    Finding& finding = statement.judged.findings.Add(
+        "keyword-unknown", statement.PlaceOfKeyword(),
+        InQuotes(value.keyword) + " means nothing to " + lytTypeOf(statement.kind).name, hint);
+    if (!isOption && !isKnownElsewhere)
+        FixWord(statement.judged, finding, {value.keyword, known, ""});
+    // The word beside it is the value, or the key of an item.
+    if (finding.fix)
+        finding.fix->isSafe = false;
 }
 
 // Statements of a role of which the last one counts.
@@ -96,9 +112,10 @@ void JudgeValuesTwice(const Case& judged)
             continue;
         const ValueStatement*& before = last[{value.name, statement.role}];
         if (before != nullptr)
-            judged.findings.Add("value-twice", judged.description.PlaceOf(before->span.line),
-                                "line " + std::to_string(value.span.line) + " undoes this statement",
-                                "delete one of the two");
+            judged.findings
+                .Add("value-twice", judged.description.PlaceOf(before->span.line),
+                     "line " + std::to_string(value.span.line) + " undoes this statement", "delete one of the two")
+                .FixSafely(judged.description.PlaceOf(before->span.line), "");
         before = &value;
     }
 }
@@ -111,9 +128,17 @@ void JudgeColon(const PlacedValue& statement)
         return;
     const SourceLine& line = statement.judged.description.text.Line(statement.value.span.line);
     const std::vector<LineToken> words = TokensOf(line.text, Section::Values);
-    if (!words.empty() && words.front().delimiter != ':')
-        statement.judged.findings.Add("value-colon", statement.PlaceOfName(), "no colon follows " + statement.Name(),
+    if (words.empty() || words.front().delimiter == ':')
+        return;
+    const ClytSpan place = statement.PlaceOfName();
+    Finding& finding =
+        statement.judged.findings.Add("value-colon", place, "no colon follows " + statement.Name(),
                                       "write \"" + statement.value.name + ": " + statement.value.keyword + " = ...\"");
+    const size_t sign = line.text.find(words.front().delimiter, static_cast<size_t>(place.column + place.length));
+    if (sign != std::string::npos)
+        finding.FixSafely({place.line, static_cast<int>(line.text.find_last_not_of(" \t", sign - 1)) + 1,
+                           static_cast<int>(sign - line.text.find_last_not_of(" \t", sign - 1))},
+                          ":");
 }
 
 void JudgeStatement(const PlacedValue& statement)

@@ -71,14 +71,23 @@ void JudgeQuotes(const Case& judged, const SourceLine& line)
         if (end != begin && rest < next && text[rest] != ';')
         {
             const size_t last = text.find_last_not_of(" \t", next - 1);
-            judged.findings.Add("word-dropped",
-                                {line.number, static_cast<int>(rest), static_cast<int>(last + 1 - rest)},
-                                "what follows the closing quote is passed over", wayOut);
+            judged.findings
+                .Add("word-dropped", {line.number, static_cast<int>(rest), static_cast<int>(last + 1 - rest)},
+                     "what follows the closing quote is passed over", wayOut)
+                .FixPerhaps({line.number, static_cast<int>(end), static_cast<int>(rest - end)}, ", ");
         }
         if (end > begin + 1)
             JudgeBlanks(judged, line, begin + 1, end - 1);
         begin = next < text.size() && text[next] != ';' ? text.find_first_not_of(" \t", next + 1) : std::string::npos;
     }
+}
+
+// From the closing bracket before a word to the word, or to its quote.
+ClytSpan GapBefore(const std::string& text, int column, int line)
+{
+    const size_t bracket = text.rfind(')', static_cast<size_t>(column));
+    const size_t begin = std::min(text.find_first_not_of(" \t", bracket + 1), text.size());
+    return {line, static_cast<int>(bracket + 1), static_cast<int>(begin - bracket - 1)};
 }
 
 // In the other sections a closing bracket ends the statement, or a word may follow it.
@@ -91,8 +100,10 @@ void JudgeBrackets(const Case& judged, const SourceLine& line)
     {
         const LineToken& word = words[index];
         if (words[index - 1].delimiter == ')' && !word.text.empty())
-            judged.findings.Add("word-dropped", {line.number, word.column, static_cast<int>(word.text.size())},
-                                "what follows the closing bracket is passed over", wayOut);
+            judged.findings
+                .Add("word-dropped", {line.number, word.column, static_cast<int>(word.text.size())},
+                     "what follows the closing bracket is passed over", wayOut)
+                .FixPerhaps(GapBefore(line.text, word.column, line.number), ", ");
     }
 }
 

@@ -27,7 +27,7 @@ std::vector<std::string> DescriptionsAt(const std::string& operand)
         throw commandline::UsageError(operand +
                                       " is neither a file nor a folder; read it as - from the standard input");
     std::vector<std::string> names;
-    for (const fs::path& file : FilesIn(PathOf(operand), ".dlg"))
+    for (const fs::path& file : FilesBelow(PathOf(operand), {".dlg"}))
         names.push_back(file.string());
     if (names.empty())
         throw commandline::UsageError("the folder " + operand +

@@ -13,8 +13,8 @@ namespace lytdlg
 // Means a description on the standard input.
 inline constexpr const char* standardInput = "-";
 
-// The descriptions that an operand means: all of a folder in the order of their names, a file, or the standard
-// input. A UsageError when there are none.
+// The descriptions that an operand means: all of a folder and of those in it, in the order of their names, a file, or the
+// standard input. A UsageError when there are none.
 std::vector<std::string> DescriptionsAt(const std::string& operand);
 
 // The files that such a name means. Throws std::runtime_error when it cannot be read.

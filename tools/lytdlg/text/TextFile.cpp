@@ -92,6 +92,11 @@ void Put(const fs::path& target, const std::string& content, const CHECK& checkA
         throw std::runtime_error(FailureToWrite(target, failure));
 }
 
+bool HasExtension(const fs::path& name, const std::string& extension)
+{
+    return CString(name.extension().string().c_str()).CompareNoCase(extension.c_str()) == 0;
+}
+
 // Of a control character that JSON allows in a text.
 std::string EscapeOf(char ch)
 {
@@ -171,9 +176,27 @@ std::vector<fs::path> FilesIn(const fs::path& folder, const std::string& extensi
     std::error_code failure;
     for (fs::directory_iterator entry(folder, failure), end; !failure && entry != end; entry.increment(failure))
     {
-        const std::string own = entry->path().extension().string();
         std::error_code ignored;
-        if (CString(own.c_str()).CompareNoCase(extension.c_str()) == 0 && entry->is_regular_file(ignored))
+        if (HasExtension(entry->path(), extension) && entry->is_regular_file(ignored))
+            files.push_back(entry->path());
+    }
+    std::ranges::sort(files);
+    return files;
+}
+
+std::vector<fs::path> FilesBelow(const fs::path& folder, const std::vector<std::string>& extensions)
+{
+    const auto isWanted = [&](const fs::path& name)
+    { return std::ranges::any_of(extensions, [&](const std::string& each) { return HasExtension(name, each); }); };
+    std::vector<fs::path> files;
+    std::error_code failure;
+    fs::recursive_directory_iterator entry(folder, fs::directory_options::skip_permission_denied, failure);
+    for (const fs::recursive_directory_iterator end; !failure && entry != end; entry.increment(failure))
+    {
+        std::error_code ignored;
+        if (entry->is_directory(ignored) && entry->path().filename().string().starts_with('.'))
+            entry.disable_recursion_pending();
+        else if (isWanted(entry->path()) && entry->is_regular_file(ignored))
             files.push_back(entry->path());
     }
     std::ranges::sort(files);

@@ -34,6 +34,10 @@ std::string FailureToWrite(const std::filesystem::path& name, const std::error_c
 // The files of a folder with an extension, in the order of their names. Case does not count, and a folder that is not there
 // has none.
 std::vector<std::filesystem::path> FilesIn(const std::filesystem::path& folder, const std::string& extension);
+// The files of a folder and of all folders in it with one of the extensions. Folders whose names begin with a point are left
+// out.
+std::vector<std::filesystem::path> FilesBelow(const std::filesystem::path& folder,
+                                              const std::vector<std::string>& extensions);
 
 // Whether the file bears the mark that it is not to be changed, whoever asks.
 bool IsWriteProtected(const std::filesystem::path& name);

@@ -2,6 +2,7 @@
 
 #include "commandline/CommandLine.h"
 #include "commandline/Text.h"
+#include "lytdlg/text/Encoding.h"
 #include "lytdlg/text/Paths.h"
 #include "lytdlg/text/TextFile.h"
 #include "lytdlg/text/TextTable.h"
@@ -10,6 +11,8 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <iterator>
+#include <stdexcept>
 
 namespace lytdlg
 {
@@ -127,6 +130,44 @@ void PrintAsJson(const TextTable& texts)
     PrintJson({{"missing", texts.CountMissing()}, {"texts", rows}});
 }
 
+// Windows itself converts a language file in UTF-16, with its mark.
+bool IsReadAsItIs(const std::filesystem::path& file, const std::string& content)
+{
+    return ExtensionOf(file.string()) == ".nls" && content.starts_with("\xFF\xFE");
+}
+
+bool Encode(const std::filesystem::path& file)
+{
+    const std::optional<std::string> content = ReadWholeFile(file);
+    if (!content)
+    {
+        TellError("cannot read " + file.string() + "; check its rights");
+        return false;
+    }
+    try
+    {
+        const std::string converted = IsReadAsItIs(file, *content) ? *content : InCodePage(*content);
+        if (converted == *content)
+            return true;
+        ReplaceWholeFile(file, *content, converted);
+        commandline::PrintLine(file.string() + ": converted into the code page");
+        return true;
+    }
+    catch (const std::runtime_error& failure)
+    {
+        TellError(file.string() + ": " + failure.what() + "; it stays as it is");
+        return false;
+    }
+}
+
+ExitCode EncodeAll(const std::filesystem::path& folder)
+{
+    std::vector<std::filesystem::path> files = FilesIn(folder / "lang", ".nls");
+    std::ranges::move(FilesIn(folder, ".dlg"), std::back_inserter(files));
+    const auto failed = std::ranges::count_if(files, [](const auto& file) { return !Encode(file); });
+    return failed == 0 ? good : found;
+}
+
 ExitCode Texts(const Request& request)
 {
     const std::string format = request.Text("--format", "text");
@@ -138,6 +179,8 @@ ExitCode Texts(const Request& request)
     std::error_code ignored;
     if (!std::filesystem::is_directory(PathOf(folder), ignored))
         throw commandline::UsageError("there is no folder " + folder + "; name the folder of the dialogs");
+    if (request.Has("--encode"))
+        return EncodeAll(PathOf(folder));
     const TextTable texts(PathOf(folder));
     format == "json" ? PrintAsJson(texts) : PrintForReading(texts);
     return texts.CountMissing() != 0 ? found : good;
@@ -152,7 +195,9 @@ Command TextsCommand()
              1,
              1,
              "compare the language files with each other and with the dialogs; 1 when a text is missing",
-             {{"--format", "FORMAT", false, "text (as without it) or json"}}},
+             {{"--format", "FORMAT", false, "text (as without it) or json"},
+              {"--encode", nullptr, false,
+               "convert language files and dialogs from UTF-8 or UTF-16 into the code page of the library"}}},
             Texts};
 }
 

@@ -18,6 +18,10 @@ std::string LineText(const ClytSpan& place);
 
 // What is wrong with bytes that do not belong into a text in code page 1252: the way out.
 inline constexpr const char* saveAsAnsi = "save the file in code page 1252, which editors call ANSI or Windows-1252";
+// The same of a description or a language file.
+inline constexpr const char* encodeAsAnsi =
+    "save the file in code page 1252, which editors call ANSI or Windows-1252, or let `lytdlg texts FOLDER --encode` "
+    "convert it";
 
 // How many bytes of a UTF-8 sequence begin at a place; 0 when none does.
 size_t SequenceLength(const std::string& text, size_t place);

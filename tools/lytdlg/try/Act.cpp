@@ -37,7 +37,8 @@ Step ActOf(const commandline::OptionForm& option, const std::string& given)
 const std::vector<commandline::OptionForm>& ActOptions()
 {
     static const std::vector<commandline::OptionForm> options = {
-        {"--set", nameAndValue, false, "type, choose or mark: field, list, combo, check box, option group"},
+        {"--set", nameAndValue, false,
+         "type, choose or mark: field, list, combo, check box, option group; a value or a shown text"},
         {"--press", "NAME", false, "press a button"},
         {"--doubleclick", "NAME", false, "double-click the chosen item of a list"},
         {"--mark", nameAndValue, false, "mark the item of a check list that has this value"},

@@ -77,9 +77,30 @@ std::vector<std::string> OfferedBy(const TrialDialog& dialog, ClytControl& contr
                    " has it, where the keys would land; --trace shows the rules that run on the way");
 }
 
+// The value of the item or option that shows a text, where the text is no value itself.
+std::string ValueOfShown(const TrialDialog& dialog, ClytControl& control, const std::string& text)
+{
+    const std::vector<std::string> values = OfferedBy(dialog, control);
+    if (std::ranges::find(values, text) != values.end())
+        return text;
+    const std::vector<ItemState> items = LookAt(dialog, control).items;
+    const auto item = std::ranges::find(items, text, &ItemState::shown);
+    if (item != items.end())
+        return item->value;
+    for (ClytControl* option : OptionsOf(control))
+    {
+        std::string caption = robot::TextOf(dynamic_cast<const CWnd&>(*option).m_hWnd);
+        std::erase(caption, '&');
+        if (caption == text)
+            return option->GetValue().GetString();
+    }
+    return text;
+}
+
 void EnterValue(const TrialDialog& dialog, ClytControl& control, const Step& act)
 {
-    const Entered entered = EnterAsUser(control, commandline::ToAnsi(act.Argument()).c_str());
+    const std::string value = ValueOfShown(dialog, control, commandline::ToAnsi(act.Argument()));
+    const Entered entered = EnterAsUser(control, value.c_str());
     if (entered == Entered::NotFocused)
         FailNotFocused(dialog, act);
     if (entered != Entered::Done)

@@ -3,6 +3,7 @@
 #include "commandline/Text.h"
 #include "lytdlg/text/Paths.h"
 #include "lytdlg/text/TextFile.h"
+#include "lytdlg/text/Watch.h"
 #include "lytdlg/try/CaseRun.h"
 
 #include <algorithm>
@@ -95,7 +96,7 @@ void TestFile(const std::string& file, bool isUpdate, Count& count)
         Update(file, content, all);
 }
 
-ExitCode Test(const Request& request)
+ExitCode TestAll(const Request& request)
 {
     Count count;
     for (const std::string& operand : request.operands)
@@ -124,6 +125,11 @@ ExitCode Test(const Request& request)
     return count.failed == 0 ? good : found;
 }
 
+ExitCode Test(const Request& request)
+{
+    return DoWatching(request, TestAll);
+}
+
 } // namespace
 
 Command TestCommand()
@@ -134,7 +140,8 @@ Command TestCommand()
              1,
              many,
              "carry out golden cases, NAME.case, and tell what differs",
-             {{"--update", nullptr, false, "write what was seen into the files in place of what was expected"}}},
+             {{"--update", nullptr, false, "write what was seen into the files in place of what was expected"},
+              watchOption}},
             Test};
 }
 

@@ -4,6 +4,7 @@
 #include "commandline/Text.h"
 #include "environment/ClytEnvironment.h"
 #include "environment/ProcessState.h"
+#include "lytdlg/judge/Names.h"
 #include "lytdlg/text/LanguageFiles.h"
 #include "lytdlg/text/Paths.h"
 #include "lytdlg/text/TextFile.h"
@@ -12,6 +13,7 @@
 
 #include <windows.h>
 
+#include <algorithm>
 #include <filesystem>
 
 namespace lytdlg
@@ -41,6 +43,28 @@ std::string LanguageOf(const fs::path& dialogs)
 {
     const std::vector<std::string> languages = LanguagesIn(dialogs);
     return languages.size() == 1 ? languages.front() : "English";
+}
+
+std::vector<std::string> ControlsOf(const fs::path& file, const std::vector<std::string>& defines)
+{
+    return ControlNames(Description(file.string(), ReadWholeFile(file).value_or(""), defines));
+}
+
+// A button may open any other dialog of the folder.
+void CheckItems(const Setup& setup, const fs::path& file)
+{
+    const std::vector<std::string> own =
+        setup.items.empty() ? std::vector<std::string>() : ControlsOf(file, setup.defines);
+    for (const ItemsOption& items : setup.items)
+    {
+        const auto isIn = [&](const std::vector<std::string>& names)
+        { return std::ranges::find(names, items.control) != names.end(); };
+        const auto isInDialog = [&](const fs::path& other) { return isIn(ControlsOf(other, setup.defines)); };
+        if (!isIn(own) && std::ranges::none_of(FilesIn(file.parent_path(), ".dlg"), isInDialog))
+            throw UsageError("no dialog has a control \"" + commandline::ToUtf8(items.control) +
+                             "\" that items could go to; " +
+                             commandline::ToUtf8(commandline::Suggestion(items.control, own)));
+    }
 }
 
 } // namespace
@@ -91,6 +115,7 @@ TrialEnvironment::TrialEnvironment(const Setup& setup)
     const fs::path file = fs::absolute(PathOf(setup.dialog)).lexically_normal();
     if (!fs::is_regular_file(file))
         throw UsageError("there is no dialog \"" + setup.dialog + "\"; name a .dlg file with its folder");
+    CheckItems(setup, file);
     const fs::path dialogs = file.parent_path();
     m_descriptionFile = NameForLibrary(dialogs) + "\\" + NameForLibrary(file.filename());
     std::string init = setup.initFolder.empty() ? InitFolderNear(dialogs)
