@@ -104,11 +104,29 @@ TEST(Fixes, MendTheWrongExamples)
 
 TEST(Fixes, AreTheRightExampleWhereItDiffersByAWord)
 {
-    for (const char* id : {"section-misspelt", "section-missing", "dialog-header",         "evaluation-without-word",
-                           "input-parent",     "type-unknown",    "value-control-unknown", "value-form",
-                           "rule-form",        "dialog-missing",  "condition-unknown",     "scan-target",
-                           "scan-fill",        "scan-condition",  "scan-action",           "output-condition",
-                           "output-item",      "text-section",    "control-surplus",       "word-dropped"})
+    for (const char* id : {"section-misspelt",
+                           "section-missing",
+                           "dialog-header",
+                           "evaluation-without-word",
+                           "input-parent",
+                           "type-unknown",
+                           "value-control-unknown",
+                           "value-form",
+                           "rule-form",
+                           "dialog-missing",
+                           "condition-unknown",
+                           "scan-target",
+                           "scan-fill",
+                           "scan-condition",
+                           "scan-action",
+                           "output-condition",
+                           "output-item",
+                           "text-section",
+                           "control-surplus",
+                           "word-dropped",
+                           "macro-input",
+                           "macro-answer",
+                           "macro-loss"})
         EXPECT_EQ(FixedExample(FindRule(id)->wrong, Fixing::All), ExampleDescription(FindRule(id)->right)) << id;
 }
 

@@ -73,9 +73,9 @@ struct AnsweringRule
     bool dropsBegin = false;
     bool dropsEnd = false;
 
-    void Add(RuleName id, std::string message, std::string hint) const
+    Finding& Add(RuleName id, std::string message, std::string hint) const
     {
-        judged.findings.Add(id, judged.description.PlaceOf(rule.span.line), std::move(message), std::move(hint));
+        return judged.findings.Add(id, judged.description.PlaceOf(rule.span.line), std::move(message), std::move(hint));
     }
 };
 
@@ -129,6 +129,16 @@ bool HasMark(const AnsweringRule& given, size_t place)
     return true;
 }
 
+void FixLackingMark(const AnsweringRule& given, Finding& finding)
+{
+    const std::string format = given.rule.format.GetString();
+    const std::string quoted = InQuotes(format);
+    const ClytSpan place = given.judged.description.PlaceOf(given.rule.span.line, quoted, given.rule.span.column);
+    if (format.ends_with(lytGroupMark[0]) && place.length == static_cast<int>(quoted.size()))
+        finding.FixPerhaps({place.line, place.column + place.length - 1, 0},
+                           given.named.which == ClytNamed::Condition ? "/1COND" : "/1REPT");
+}
+
 size_t FindMark(const AnsweringRule& given)
 {
     size_t place = 0;
@@ -159,10 +169,10 @@ void JudgeGroupAnswer(const AnsweringRule& given)
     const size_t mark = FindMark(given);
     const size_t bracket = text.find('(');
     if (mark == std::string::npos)
-        given.Add("macro-answer",
-                  std::string("the macros look for \"") + lytGroupMark +
-                      "\" in the answer, and without it the placeholder loses its bracket",
-                  "end the bracket with \")/1\" and the text for the macros");
+        FixLackingMark(given, given.Add("macro-answer",
+                                        std::string("the macros look for \"") + lytGroupMark +
+                                            "\" in the answer, and without it the placeholder loses its bracket",
+                                        "end the bracket with \")/1\" and the text for the macros"));
     else if (bracket > mark && (given.dropsBegin || text.front() != someValue))
         given.Add("macro-answer",
                   "the macros look for \"(\" in the answer, and without it the placeholder loses its bracket",
@@ -182,10 +192,15 @@ void JudgeJoint(const AnsweringRule& given, const ClytOutputItem& list)
     const bool isBlank = lytMeans<ClytFillAction::Concat>(list.action);
     if (list.action.IsEmpty() || (!isBlank && list.action[0] == lytListSeparator))
         return;
-    given.judged.findings.Add("macro-loss", list.span,
-                              "these texts are joined by " + InQuotes(isBlank ? " " : std::string(1, list.action[0])) +
-                                  ", and are inserted as one",
-                              "join them with \"|\": " + std::string(list.text.GetString()) + "(\"|\")");
+    Finding& finding = given.judged.findings.Add(
+        "macro-loss", list.span,
+        "these texts are joined by " + InQuotes(isBlank ? " " : std::string(1, list.action[0])) +
+            ", and are inserted as one",
+        "join them with \"|\": " + std::string(list.text.GetString()) + "(\"|\")");
+    const std::string quoted = InQuotes(list.action.GetString());
+    const ClytSpan place = given.judged.description.PlaceOf(list.span.line, quoted, list.span.column);
+    if (place.length == static_cast<int>(quoted.size()))
+        finding.FixPerhaps({place.line, place.column + 1, 1}, std::string(1, lytListSeparator));
 }
 
 void JudgeTextsAnswer(const AnsweringRule& given)
@@ -250,11 +265,16 @@ void JudgeBracketInput(const Case& judged, const ClytInputPart& part, bool isWri
 void JudgeEntryInput(const Case& judged, const ClytInputPart& part)
 {
     const ClytControlFill* fill = TakenWith(part, '/');
-    if (fill != nullptr && !CutsAt(judged.description, '/'))
-        judged.findings.Add("macro-input", fill->span,
-                            "key and label are handed over with a \"/\" between them, and go into " +
-                                InQuotes(fill->controlName.GetString()) + " together",
-                            "cut between them: Start: (\"/\", NEXT = " + std::string(fill->controlName.GetString()));
+    if (fill == nullptr || CutsAt(judged.description, '/'))
+        return;
+    const std::string name = fill->controlName.GetString();
+    Finding& finding = judged.findings.Add("macro-input", fill->span,
+                                           "key and label are handed over with a \"/\" between them, and go into " +
+                                               InQuotes(name) + " together",
+                                           "cut between them: Start: (\"/\", NEXT = " + name);
+    const auto separators = Records(part.Find(lytStartName)->scanRule.scan.GetSeparators());
+    if (separators.size() == 1)
+        finding.FixPerhaps(separators.front()->span, "/");
 }
 
 void JudgeLabelInput(const Case& judged, const ClytInputPart& part)
