@@ -112,13 +112,27 @@ void AddTabOrder(const Case& judged, const Screen& screen, const std::vector<con
         AddSwapped(judged, *wrong.control, *swapped, finding);
 }
 
+// The lines of the controls that are in a wrong place by another rule: what follows from that needs no more words.
+std::set<int> LinesOfMisplaced(const Findings& findings)
+{
+    const std::set<const Rule*> rules = {&RuleName("geometry-overlap").Get(), &RuleName("geometry-outside").Get()};
+    std::set<int> lines;
+    for (const Finding& finding : findings.All())
+    {
+        if (rules.contains(finding.rule))
+            lines.insert(finding.place.line);
+    }
+    return lines;
+}
+
 void JudgeTabOrder(const Case& judged, const Screen& screen)
 {
+    const std::set<int> misplaced = LinesOfMisplaced(judged.findings);
     const std::vector<const PlacedControl*> frames = FramesOf(screen);
     std::vector<const PlacedControl*> order;
     for (const PlacedControl& control : screen.controls)
     {
-        if (TakesFocus(control))
+        if (TakesFocus(control) && !misplaced.contains(control.control->span.line))
             order.push_back(&control);
     }
     for (size_t later = 1; later < order.size(); ++later)
@@ -153,12 +167,16 @@ void JudgeFrames(const Case& judged, const Screen& screen)
         places.emplace(control.control, control.place);
     const std::vector<const PlacedControl*> frames = FramesOf(screen);
     std::set<CString> groups;
+    const std::set<int> misplaced = LinesOfMisplaced(judged.findings);
     for (const ClytControlStatement& group : judged.description.controls)
     {
         if (KindOf(group) != Kind::OptionGroup || !groups.insert(group.name).second)
             continue;
         const std::vector<const ClytControlStatement*>& options =
             OptionButtonsOf(judged.description, group.name.GetString());
+        if (std::ranges::any_of(options, [&](const ClytControlStatement* option)
+                                { return misplaced.contains(option->span.line); }))
+            continue;
         for (const PlacedControl* frame : frames)
         {
             const auto isHeld = [&](const ClytControlStatement* option)
