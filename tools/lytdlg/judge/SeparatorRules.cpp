@@ -82,6 +82,19 @@ bool IsPieceTaken(const ClytScanRule& rule)
                                [](const ClytConditionFill* fills) { return TakesPiece(*fills->fills.GetHead()); });
 }
 
+// The word and the statement after it go, with the comma before them.
+void FixRest(const Description& description, Finding& finding)
+{
+    const std::string& line = description.text.Line(finding.place.line).text;
+    const size_t comma = line.rfind(',', static_cast<size_t>(finding.place.column));
+    const size_t target = line.find(',', static_cast<size_t>(finding.place.column));
+    const size_t end = target != std::string::npos ? line.find_first_of(",=)", target + 1) : target;
+    if (comma == std::string::npos || end == std::string::npos)
+        return;
+    const size_t last = line.find_last_not_of(" \t", end - 1) + 1;
+    finding.FixPerhaps({finding.place.line, static_cast<int>(comma), static_cast<int>(last - comma)}, "");
+}
+
 void JudgeEnds(const Case& judged, const ClytScanRule& rule)
 {
     const ClytScan& scan = rule.scan;
@@ -98,9 +111,10 @@ void JudgeEnds(const Case& judged, const ClytScanRule& rule)
                                 "what follows " + InQuotes(text) + " in the text is dropped",
                                 "continue with another statement; a piece that takes all is (999, End");
         else if (separators.size() > 1)
-            judged.findings.Add("scan-rest", separator->span,
-                                "\"Rest\" cuts a text that holds these letters, and is not needed here",
-                                "leave it out: the end of the text ends the piece, and the run");
+            FixRest(judged.description,
+                    judged.findings.Add("scan-rest", separator->span,
+                                        "\"Rest\" cuts a text that holds these letters, and is not needed here",
+                                        "leave it out: the end of the text ends the piece, and the run"));
     }
 }
 

@@ -56,6 +56,23 @@ std::string MissingSign(ClytDue due)
     }
 }
 
+// Another sign where only a comma separates.
+void FixComma(const SourceLine& line, const LineToken& word, Finding& finding)
+{
+    const size_t sign = line.text.find(word.delimiter, static_cast<size_t>(word.column) + word.text.size());
+    if (sign != std::string::npos)
+        finding.FixSafely({line.number, static_cast<int>(sign), 1}, ",");
+}
+
+// The format begins with a bracket and a quote, and nothing before it ends the conditions.
+void FixFormatSign(const SourceLine& line, Finding& finding)
+{
+    const size_t format = line.text.find("(\"");
+    if (format != std::string::npos && line.text.find('=') > format &&
+        line.text.find("(\"", format + 1) > line.text.size())
+        finding.FixSafely({line.number, static_cast<int>(format), 0}, "= ");
+}
+
 void FixForm(const Description& description, const SourceLine& line, const Mistake& mistake, Finding& finding)
 {
     if (line.section == Section::Head)
@@ -63,13 +80,19 @@ void FixForm(const Description& description, const SourceLine& line, const Mista
         finding.FixSafely({line.number, 0, static_cast<int>(line.text.size())}, "$VERSION 1");
         return;
     }
-    const std::string sign = MissingSign(mistake.due);
     const std::vector<LineToken> words = TokensOf(line.text, line.section);
-    if (sign.empty() || words.empty())
+    if (words.empty())
         return;
     const auto refused =
         std::ranges::find_if(words, [&](const LineToken& word) { return word.column >= mistake.place.column; });
     const LineToken& word = refused == words.end() ? words.back() : *refused;
+    if (mistake.due == ClytDue::FillEnd || mistake.due == ClytDue::ConditionEnd)
+        FixComma(line, word, finding);
+    if (mistake.due == ClytDue::FormatSign || mistake.due == ClytDue::Format)
+        FixFormatSign(line, finding);
+    const std::string sign = MissingSign(mistake.due);
+    if (sign.empty())
+        return;
     const size_t blank = word.text.find(' ');
     const ClytSpan place = {line.number, word.column, static_cast<int>(word.text.size())};
     if (blank != std::string::npos && !description.IsQuoted(place))
