@@ -1,12 +1,13 @@
 #include "lytdlg/judge/Judge.h"
 
 #include "commandline/Text.h"
-#include "environment/ClytEnvironment.h"
 #include "environment/ProcessState.h"
 #include "liveform/LiveForm.h"
 #include "lytdlg/judge/Families.h"
+#include "lytdlg/judge/WithoutTexts.h"
 #include "lytdlg/text/Paths.h"
 #include "lytdlg/text/Words.h"
+#include "lytdlg/try/Listener.h"
 #include "robot/WindowRobot.h"
 
 #include <algorithm>
@@ -17,29 +18,6 @@ namespace lytdlg
 
 namespace
 {
-
-// Looks for texts where none are, since each one would be looked up in a file.
-class WithoutTexts
-{
-public:
-    explicit WithoutTexts(const std::string& folder)
-        : m_dialogPath(lytEnvironment.GetDialogPath()), m_initPath(lytEnvironment.GetInitPath())
-    {
-        lytEnvironment.SetDialogPath(folder.c_str());
-        lytEnvironment.SetInitPath(folder.c_str());
-    }
-    WithoutTexts(const WithoutTexts&) = delete;
-    WithoutTexts& operator=(const WithoutTexts&) = delete;
-    ~WithoutTexts()
-    {
-        lytEnvironment.SetDialogPath(m_dialogPath);
-        lytEnvironment.SetInitPath(m_initPath);
-    }
-
-private:
-    const CString m_dialogPath;
-    const CString m_initPath;
-};
 
 // The library takes what follows a line with a NUL byte for the rest of it.
 int LineInFile(const DescriptionText& text, int line)
@@ -88,6 +66,9 @@ std::optional<Refusal> RefusalOf(const Description& description)
 {
     const FileForLibrary file(description.text.Bytes());
     const WithoutTexts noTexts(NameForLibrary(file.Name().parent_path() / "none"));
+    // A list is given more items than it can lose; no library of another maker is loaded for a judgement.
+    ItemsLibrary items([](const ClytControl&) { return std::vector<std::string>{"a", "b", "c", "d"}; });
+    const Listener listener(items);
     robot::Robot user;
     user.AnswerAll(std::numeric_limits<int>::max());
     lytInputKey.Empty();

@@ -24,14 +24,14 @@ constexpr const char* indentation = "    ";
 constexpr size_t firstNumberEnd = 13;
 constexpr size_t numberWidth = 5;
 
-std::string InQuotes(const Word& word)
+std::string WordInQuotes(const Word& word)
 {
     return '"' + word.text + '"';
 }
 
 std::string AsWritten(const Word& word)
 {
-    return word.isQuoted ? InQuotes(word) : word.text;
+    return word.isQuoted ? WordInQuotes(word) : word.text;
 }
 
 bool NeedsNoQuotes(char ch)
@@ -82,10 +82,10 @@ std::optional<std::string> ControlForm(const std::vector<Word>& words)
     if (words.size() == 5)
         return numbers;
     if (words.size() == 6)
-        return numbers + " " + (IsName(words[5]) ? Unquoted(words[5]) : InQuotes(words[5]));
+        return numbers + " " + (IsName(words[5]) ? Unquoted(words[5]) : WordInQuotes(words[5]));
     if (IsName(words[5]) || !IsName(words[6]))
         return std::nullopt;
-    return numbers + " " + InQuotes(words[5]) + ", " + Unquoted(words[6]);
+    return numbers + " " + WordInQuotes(words[5]) + ", " + Unquoted(words[6]);
 }
 
 std::optional<std::string> HeadForm(const std::vector<Word>& words)
@@ -103,7 +103,7 @@ std::optional<std::string> DialogForm(const std::vector<Word>& words)
         return std::nullopt;
     std::string code;
     for (size_t i = 0; i < words.size(); ++i)
-        code += (i == 5 ? InQuotes(words[i]) : Unquoted(words[i])) + (i < 3 ? " " : i < 6 ? ", " : "");
+        code += (i == 5 ? WordInQuotes(words[i]) : Unquoted(words[i])) + (i < 3 ? " " : i < 6 ? ", " : "");
     return code;
 }
 
@@ -200,7 +200,7 @@ std::optional<std::string> RuleForm(const std::vector<Word>& words, ClytLineKind
         // Where a tab or a `;` does not separate, it is a slip that its author is to see as it was.
         if (delimiter == nullptr || (!word.isQuoted && word.text.find_first_of("\t;") != std::string::npos))
             return std::nullopt;
-        code += std::ranges::binary_search(quoted, i) ? InQuotes(word) : AsWritten(word);
+        code += std::ranges::binary_search(quoted, i) ? WordInQuotes(word) : AsWritten(word);
         code += delimiter;
     }
     code.erase(code.find_last_not_of(' ') + 1);

@@ -122,6 +122,12 @@ ItemsFile::ItemsFile(const std::string& name)
     }
 }
 
+ItemsFile::ItemsFile(const std::vector<std::string>& items)
+{
+    for (const std::string& item : items)
+        m_others.push_back({item, item, item});
+}
+
 const std::vector<LibraryItem>& ItemsFile::For(const std::string& parameter) const
 {
     const auto found = m_sections.find(parameter);
@@ -136,6 +142,11 @@ ItemsLibrary::ItemsLibrary(const std::vector<ItemsOption>& options)
     lytOwnLibraries = this;
 }
 
+ItemsLibrary::ItemsLibrary(Invent inventor) : ItemsLibrary(std::vector<ItemsOption>())
+{
+    m_invent = std::move(inventor);
+}
+
 ItemsLibrary::~ItemsLibrary()
 {
     lytOwnLibraries = nullptr;
@@ -144,11 +155,19 @@ ItemsLibrary::~ItemsLibrary()
 
 void ItemsLibrary::Asked(const ClytControl& control)
 {
-    const auto found = m_files.find(control.GetName().GetString());
     m_used.insert(control.GetName().GetString());
-    m_asking = found != m_files.end() ? &found->second : nullptr;
+    m_asking = ItemsFor(control);
     const bool isField = dynamic_cast<const ClytEditControl*>(&control) != nullptr;
     m_wanted = m_asking == nullptr ? Role::None : isField ? Role::Text : Role::Start;
+}
+
+const ItemsFile* ItemsLibrary::ItemsFor(const ClytControl& control)
+{
+    const std::string name = control.GetName().GetString();
+    if (m_invent)
+        return &m_files.insert_or_assign(name, ItemsFile(m_invent(control))).first->second;
+    const auto found = m_files.find(name);
+    return found != m_files.end() ? &found->second : nullptr;
 }
 
 std::vector<std::string> ItemsLibrary::Unused() const
@@ -167,7 +186,7 @@ HMODULE ItemsLibrary::Load(const char* name)
     const std::string plain = PlainName(name);
     KnownLibrary& library = KnownLibraries()[plain];
     const ClytErrorBoxesOff noBoxes;
-    if (library.real == nullptr && plain != ownName)
+    if (library.real == nullptr && plain != ownName && !m_invent)
         library.real = ::LoadLibraryA(name);
     const bool isThere = library.real != nullptr || m_wanted != Role::None || plain == ownName;
     return isThere ? HandleOf(library) : nullptr;

@@ -6,6 +6,7 @@
 #include "lytdlg/try/TrialEnvironment.h"
 #include "model/ClytObserver.h"
 
+#include <functional>
 #include <map>
 #include <set>
 #include <string>
@@ -27,6 +28,8 @@ class ItemsFile
 {
 public:
     explicit ItemsFile(const std::string& name);
+    // The same items for any parameter; each is its text and its value.
+    explicit ItemsFile(const std::vector<std::string>& items);
     const std::vector<LibraryItem>& For(const std::string& parameter) const;
 
 private:
@@ -39,6 +42,9 @@ class ItemsLibrary : public ClytOwnLibraries
 {
 public:
     explicit ItemsLibrary(const std::vector<ItemsOption>& options);
+    // What a control is given is made up, and no library of another maker is loaded.
+    using Invent = std::function<std::vector<std::string>(const ClytControl& control)>;
+    explicit ItemsLibrary(Invent inventor);
     ItemsLibrary(const ItemsLibrary&) = delete;
     ItemsLibrary& operator=(const ItemsLibrary&) = delete;
     ~ItemsLibrary();
@@ -65,6 +71,9 @@ private:
         Text
     };
 
+    const ItemsFile* ItemsFor(const ClytControl& control);
+
+    Invent m_invent;                          // empty where the items are those of files
     std::map<std::string, ItemsFile> m_files; // by control
     std::set<std::string> m_used;
     const ItemsFile* m_asking = nullptr; // of the control that is being filled
