@@ -39,6 +39,8 @@ void ApplyGeometryRules(const Case& judged);
 void ApplyPartnerRules(const Case& judged);
 // The last word is the library's: what it refuses is a finding, unless one that is there says why.
 void ApplyLibraryVerdict(const Case& judged);
+// The dialog is tried: texts go out and come back, and rules are looked at for what they lock.
+void ApplyTrialRules(const Case& judged);
 
 // Remarks at the end of a line silence a rule there:
 //

@@ -1,6 +1,8 @@
 #include "lytdlg/judge/FolderTexts.h"
 
 #include "commandline/Text.h"
+#include "lytdlg/judge/ControlValues.h"
+#include "lytdlg/text/LanguageFiles.h"
 #include "lytdlg/text/Paths.h"
 #include "lytdlg/text/TextFile.h"
 
@@ -48,6 +50,12 @@ DescriptionTexts TextsOf(std::string fileName, const std::string& bytes)
         const Description description("", bytes, defines);
         texts.isWhole = texts.isWhole && description.mistakes.empty();
         texts.sections.insert(description.TextSection());
+        for (const ValueStatement& statement : description.values)
+        {
+            if (RoleOf(description, statement) == Role::Action &&
+                lytMeaningOf<ClytAction>(statement.keyword.c_str()) == ClytAction::Dialog)
+                texts.opens.insert(FoldedName(statement.values.front()));
+        }
         for (ShownText& use : TextUsesOf(description))
         {
             use.control = nullptr;
@@ -97,6 +105,12 @@ std::string FolderTexts::FirstOf(const std::string& section) const
     const auto first =
         std::ranges::find_if(All(), [&](const DescriptionTexts& texts) { return texts.sections.contains(section); });
     return first != All().end() ? first->fileName : "";
+}
+
+bool FolderTexts::Open(const std::string& dialog) const
+{
+    return std::ranges::any_of(All(),
+                               [&](const DescriptionTexts& texts) { return texts.opens.contains(FoldedName(dialog)); });
 }
 
 } // namespace lytdlg

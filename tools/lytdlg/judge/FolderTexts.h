@@ -20,6 +20,7 @@ struct DescriptionTexts
     bool isWhole = true; // false when a line is refused: what it would show is not known
     std::set<std::string> sections;
     std::vector<ShownText> uses; // in the order of the file, without their controls
+    std::set<std::string> opens; // the names of the dialogs that its buttons open, folded
 };
 
 DescriptionTexts TextsOf(std::string fileName, const std::string& bytes);
@@ -36,6 +37,8 @@ public:
     const std::vector<DescriptionTexts>& All() const;
     // The name of the first file that has the section; empty when none has.
     std::string FirstOf(const std::string& section) const;
+    // Whether one of them opens the dialog of that name.
+    bool Open(const std::string& dialog) const;
 
 private:
     const std::vector<std::filesystem::path>& Files() const;

@@ -15,13 +15,15 @@ namespace lytdlg
 namespace
 {
 
-// In the order of the sections. The library comes last: it looks whether a finding explains its failure.
+// In the order of the sections. The library comes after them: it looks whether a finding explains its failure. Only what
+// opens is tried, and not where a rule has said already what is wrong.
 constexpr void (*families[])(const Case& judged) = {
     ApplySectionRules,     ApplyLineRules,       ApplyMarkRules,     ApplyStatementRules, ApplyWordRules,
     ApplyLayoutRules,      ApplyValueRules,      ApplyContentRules,  ApplyActionRules,    ApplyDependencyRules,
     ApplyConditionRules,   ApplyEvaluationRules, ApplyScanRules,     ApplySeparatorRules, ApplyFillRules,
     ApplyOutputGroupRules, ApplyOutputRules,     ApplyFormatRules,   ApplyNamedRules,     ApplyLanguageFileRules,
-    ApplyTextRules,        ApplyMnemonicRules,   ApplyGeometryRules, ApplyPartnerRules,   ApplyLibraryVerdict};
+    ApplyTextRules,        ApplyMnemonicRules,   ApplyGeometryRules, ApplyPartnerRules,   ApplyLibraryVerdict,
+    ApplyTrialRules};
 
 // A rule that tells of what a section does not say.
 struct Lack

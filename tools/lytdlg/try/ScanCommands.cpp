@@ -3,6 +3,8 @@
 #include "commandline/Text.h"
 #include "controls/TypeWords.h"
 #include "exports/NamedDialogs.h"
+#include "lytdlg/text/DescriptionPaths.h"
+#include "lytdlg/trip/GeneratedTrips.h"
 #include "lytdlg/try/ControlState.h"
 #include "lytdlg/try/TrialRun.h"
 #include "model/ClytWords.h"
@@ -144,10 +146,43 @@ std::string RoundOf(const Setup& setup, const std::string& text)
     return result == text ? "" : "comes back as " + Quoted(ToUtf8(result));
 }
 
+std::string DifferenceOf(const GeneratedTrip& trip)
+{
+    if (trip.again != trip.text)
+        return trip.again.empty() ? " does not come back" : " comes back as " + Quoted(ToUtf8(trip.again));
+    return trip.lost.empty() ? "" : " comes back with another value of " + ToUtf8(trip.lost);
+}
+
+ExitCode RoundtripOfGenerated(const Request& request)
+{
+    const std::string file = request.Operand(0, "");
+    const Description description(file, ReadDescription(file), request.Texts("--define"));
+    if (!description.mistakes.empty())
+        throw commandline::UsageError("the library refuses this description; `lytdlg check` tells why");
+    const GeneratedTrips generated = GenerateTrips(description);
+    size_t differences = 0;
+    for (const GeneratedTrip& trip : generated.trips)
+    {
+        const std::string difference = DifferenceOf(trip);
+        if (difference.empty())
+            continue;
+        ++differences;
+        PrintLine((trip.typed.empty() ? "" : ToUtf8(trip.typed) + ": ") + Quoted(ToUtf8(trip.text)) + difference);
+    }
+    std::printf("%zu of %zu generated texts come back as they are\n", generated.trips.size() - differences,
+                generated.trips.size());
+    for (const std::string& reason : generated.notTried)
+        PrintLine("not tried: " + ToUtf8(reason));
+    return differences == 0 ? good : found;
+}
+
 ExitCode Roundtrip(const Request& request)
 {
+    if (request.Has("--generate"))
+        return RoundtripOfGenerated(request);
     if (!request.Has("--inputs"))
-        throw commandline::UsageError("option --inputs FILE is missing; name a file with an input a line");
+        throw commandline::UsageError(
+            "option --inputs FILE is missing; name a file with an input a line, or write --generate");
     Setup setup = SetupOf(request);
     int number = 0;
     int count = 0;
@@ -196,7 +231,8 @@ Command ComposeCommand()
 Command RoundtripCommand()
 {
     return {{"roundtrip", "DIALOG", 1, 1, "take texts apart and compose them again, and print those that change",
-             SetupOptionsAnd({{"--inputs", "FILE", false, "a text a line; lines that begin with '#' are comments"}})},
+             SetupOptionsAnd({{"--inputs", "FILE", false, "a text a line; lines that begin with '#' are comments"},
+                              {"--generate", nullptr, false, "texts of all choices, and of what may be typed"}})},
             Roundtrip};
 }
 

@@ -1,0 +1,166 @@
+// Slips of meaning, each one replacement in a dialog that is right, are found at their line; and dialogs that use every
+// feature as it is meant are not complained of.
+#include "lytdlg/judge/Judge.h"
+#include "lytdlg/judge/Report.h"
+#include "lytdlg/text/Paths.h"
+#include "lytdlg/text/TextFile.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+
+namespace lytdlg
+{
+
+namespace
+{
+
+// A case of slips.cases.
+struct Slip
+{
+    std::string dialog;
+    std::string line;
+    std::string by;
+    bool isDeleted = true;
+    std::vector<std::string> rules; // one of them finds it; none for a change that does no harm
+    std::string at;                 // another line that the finding is in
+    int number = 0;
+};
+
+void TakeRules(const std::string& text, Slip& slip)
+{
+    const size_t sign = text.find('@');
+    slip.at = sign != std::string::npos ? text.substr(sign + 2) : "";
+    std::istringstream rules(text.substr(0, sign));
+    for (std::string rule; rules >> rule;)
+        slip.rules.push_back(rule);
+}
+
+std::vector<Slip> ReadSlips()
+{
+    std::ifstream file(LYT_SOURCE_FOLDER "/tests/unit/lytdlg/slips.cases");
+    std::vector<Slip> slips;
+    std::string dialog;
+    int number = 0;
+    for (std::string line; std::getline(file, line);)
+    {
+        ++number;
+        if (line.starts_with("dialog: "))
+            dialog = line.substr(8);
+        else if (line.starts_with("- "))
+            slips.push_back({dialog, line.substr(2), "", true, {}, "", number});
+        else if (line.starts_with("+ "))
+        {
+            slips.back().by = line.substr(2);
+            slips.back().isDeleted = false;
+        }
+        else if (line.starts_with("="))
+            TakeRules(line.substr(1), slips.back());
+    }
+    return slips;
+}
+
+std::string FolderOf(const std::string& dialog)
+{
+    const std::string own = LYT_SOURCE_FOLDER "/tests/unit/lytdlg/slips";
+    return std::filesystem::exists(own + "/" + dialog) ? own : LYT_SOURCE_FOLDER "/samples/dialogs";
+}
+
+std::vector<std::string> LinesOfFile(const std::string& path)
+{
+    std::vector<std::string> lines;
+    std::istringstream text(ReadWholeFile(PathOf(path)).value());
+    for (std::string line; std::getline(text, line);)
+        lines.push_back(line.ends_with('\r') ? line.substr(0, line.size() - 1) : line);
+    return lines;
+}
+
+auto Find(std::vector<std::string>& lines, const std::string& wanted)
+{
+    return std::ranges::find_if(lines, [&](const std::string& line)
+                                { return line.substr(std::min(line.find_first_not_of(' '), line.size())) == wanted; });
+}
+
+// The dialog with the slip, and the line in which it is to be found.
+std::string SlippedText(const Slip& slip, int& expected)
+{
+    std::vector<std::string> lines = LinesOfFile(FolderOf(slip.dialog) + "/" + slip.dialog);
+    auto line = Find(lines, slip.line);
+    if (line == lines.end())
+        return "";
+    if (slip.isDeleted)
+        line = lines.erase(line);
+    else
+        *line = "    " + slip.by;
+    if (!slip.at.empty())
+        line = Find(lines, slip.at);
+    expected = static_cast<int>(line - lines.begin()) + 1;
+    std::string text;
+    for (const std::string& each : lines)
+        text += each + "\r\n";
+    return text;
+}
+
+// All that is said of errors and warnings.
+std::string SaidOf(const Findings& findings, const Description& description)
+{
+    std::string said;
+    for (const Finding& finding : findings.All())
+        said += finding.rule->level == Level::Note ? "" : TextOf(finding, description, false);
+    return said;
+}
+
+const Surroundings& SurroundingsIn(const std::string& folder)
+{
+    static std::map<std::string, Surroundings> known;
+    return known.try_emplace(folder, SurroundingsOf(folder, {})).first->second;
+}
+
+bool IsOfTrial(const Finding& finding)
+{
+    return finding.rule->id.starts_with("trip-") || finding.rule->id.starts_with("lock-");
+}
+
+} // namespace
+
+TEST(Slips, OfMeaningAreFoundAtTheirLine)
+{
+    for (const Slip& slip : ReadSlips())
+    {
+        SCOPED_TRACE(slip.number);
+        int line = 0;
+        const std::string folder = FolderOf(slip.dialog);
+        const Description description(folder + "/" + slip.dialog, SlippedText(slip, line), {});
+        ASSERT_NE(line, 0) << slip.line;
+        const Findings findings = Judge(description, SurroundingsIn(folder));
+        const auto isExpected = [&](const Finding& finding)
+        {
+            return finding.place.line == line && std::ranges::find(slip.rules, finding.rule->id) != slip.rules.end() &&
+                   !finding.hint.empty();
+        };
+        const auto isElsewhere = [&](const Finding& finding) { return IsOfTrial(finding) && !isExpected(finding); };
+        EXPECT_EQ(std::ranges::any_of(findings.All(), isExpected), !slip.rules.empty())
+            << line << "\n"
+            << SaidOf(findings, description);
+        EXPECT_TRUE(std::ranges::none_of(findings.All(), isElsewhere)) << SaidOf(findings, description);
+    }
+}
+
+TEST(Slips, AreNotFoundInDialogsWithoutAny)
+{
+    for (const char* folder :
+         {"/tests/unit/lytdlg/slips", "/samples/dialogs", "/tests/unit/lytdlg/sound", "/tests/unit/lytdlg/sound/named"})
+    {
+        const std::string path = LYT_SOURCE_FOLDER + std::string(folder);
+        for (const auto& file : FilesIn(path, ".dlg"))
+        {
+            const Description description(file.string(), ReadWholeFile(file).value(), {});
+            EXPECT_EQ(SaidOf(Judge(description, SurroundingsIn(path)), description), "") << file;
+        }
+    }
+}
+
+} // namespace lytdlg

@@ -1,0 +1,110 @@
+#include "lytdlg/trip/Journey.h"
+
+#include "dialog/ClytDialog.h"
+
+namespace lytdlg
+{
+
+namespace
+{
+
+// The macros of a group see the dialog's text from the first bracket to this mark.
+constexpr const char* groupMark = ")/1";
+
+bool IsOfGroup(const Description& description)
+{
+    const std::string name = PlainNameOf(description.path);
+    return name == "lytcdgrp" || name == "lytrpgrp";
+}
+
+} // namespace
+
+void Journey::Make()
+{
+    for (const TripState& state : StatesOf(m_plan))
+        Try(state);
+    for (size_t index = 0; index < m_plan.Controls().size(); ++index)
+        TryLong(index);
+}
+
+void Journey::Try(const TripState& state)
+{
+    const std::unique_ptr<TripForm> form = m_stage.Open(m_plan, "");
+    if (form == nullptr)
+        return;
+    TripLook& look = m_looks.emplace_back();
+    look.opened = ReachedIn(*form);
+    form->Enter(state);
+    look.reached = ReachedIn(*form);
+    const std::optional<TripText> out = form->Compose(lytParentName);
+    if (!out)
+        return;
+    look.refusing = out->refusing;
+    look.line = out->line;
+    if (m_plan.ComesBack() && out->line != 0 && out->refusing.empty())
+        GoThere(*form, *out, look.reached);
+}
+
+void Journey::GoThere(TripForm& form, const TripText& out, const std::set<std::string>& reached)
+{
+    Trip trip;
+    trip.out = out;
+    trip.text = ComingBack(out.text, trip.begin);
+    trip.before = form.Values();
+    trip.reached = reached;
+    const std::unique_ptr<TripForm> fresh = m_stage.Open(m_plan, trip.text);
+    if (fresh == nullptr)
+    {
+        if (!m_stage.LastCuts().empty())
+            m_traveller.WasRefused(trip, m_stage.LastCuts().back());
+        return;
+    }
+    trip.after = fresh->Values();
+    trip.cuts = fresh->Cuts();
+    trip.rest = fresh->Rest();
+    const std::optional<TripText> again = fresh->Compose(lytParentName);
+    size_t ignored = 0;
+    if (again)
+    {
+        trip.again = ComingBack(again->text, ignored);
+        trip.againLine = again->line;
+    }
+    m_traveller.CameBack(trip);
+}
+
+std::set<std::string> Journey::ReachedIn(TripForm& form) const
+{
+    std::set<std::string> reached;
+    for (const TripControl& control : m_plan.Controls())
+    {
+        if (form.IsReached(control.name))
+            reached.insert(control.name);
+    }
+    return reached;
+}
+
+std::string Journey::ComingBack(const std::string& text, size_t& begin) const
+{
+    const size_t mark = text.find(groupMark);
+    const size_t bracket = text.find('(');
+    begin = IsOfGroup(m_plan.Of()) && bracket != std::string::npos ? bracket : 0;
+    return text.substr(begin, mark != std::string::npos && mark + 1 > begin ? mark + 1 - begin : std::string::npos);
+}
+
+// A text that is longer than the input has room for.
+void Journey::TryLong(size_t index)
+{
+    constexpr int longest = 60; // a longer one means all that is there
+    const TripControl& control = m_plan.Controls()[index];
+    const int room = control.cutLength;
+    if (!control.isEntered || control.mark.empty() || room <= 0 || room >= longest || !m_plan.ComesBack())
+        return;
+    TripState state = FullState(m_plan);
+    std::string longer = control.mark;
+    while (longer.size() < static_cast<size_t>(room) + 3)
+        longer += control.mark;
+    state[index] = {TripWish::Kind::Value, longer};
+    Try(state);
+}
+
+} // namespace lytdlg

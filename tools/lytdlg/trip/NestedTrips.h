@@ -1,0 +1,13 @@
+// The way from a dialog to one that its button opens, and back.
+#pragma once
+
+#include "lytdlg/trip/TripLoss.h"
+
+namespace lytdlg
+{
+
+void TryNested(TripTeller& teller, TripStage& stage, const TripPlan& plan);
+// Whether a dialog of the folder takes what this one answers apart, and hands it back in the form that this one reads.
+bool ReturnsThroughCaller(const Case& judged, TripStage& stage, const TripPlan& plan);
+
+} // namespace lytdlg

@@ -1,0 +1,110 @@
+#include "lytdlg/trip/TripTeller.h"
+
+#include <algorithm>
+
+namespace lytdlg
+{
+
+TripTeller::TripTeller(const Case& whole) : m_judged(whole)
+{
+    for (const Finding& finding : whole.findings.All())
+    {
+        if (finding.path.empty() && finding.rule->level != Level::Note)
+            m_warned.insert(finding.place.line);
+        m_isLeftOut = m_isLeftOut || finding.rule->id == "scan-unreached";
+        m_isOfOtherForm = m_isOfOtherForm || finding.rule->id.starts_with("macro-");
+    }
+}
+
+void TripTeller::Tell(RuleName rule, const ClytSpan& place, int otherLine, std::string message, std::string hint)
+{
+    m_losses.push_back({rule, {place, std::move(message), std::move(hint)}, otherLine, m_outputLine, m_way});
+}
+
+void TripTeller::Add(const Loss& loss)
+{
+    const std::string& id = loss.rule.Get().id;
+    if (m_warned.contains(loss.side.place.line) || m_warned.contains(loss.otherLine) ||
+        !m_told.insert(loss.side.place.line).second ||
+        (id.starts_with("trip-") && (m_isOfOtherForm || (m_isLeftOut && id != "trip-end"))))
+        return;
+    m_judged.findings.Add(loss.rule, loss.side.place, loss.side.message, loss.side.hint);
+}
+
+std::set<int> TripTeller::Blamed() const
+{
+    std::set<int> lines;
+    for (const Loss& loss : m_losses)
+        lines.insert(loss.side.place.line);
+    return lines;
+}
+
+// Takes away what follows from other losses: a statement that other rules get along with, when their rule is to blame; and
+// what comes after a statement that is.
+void TripTeller::RemoveConsequences()
+{
+    std::set<int> blamed = Blamed();
+    std::set<int> dropping; // rules that leave an item out
+    for (const Loss& loss : m_losses)
+    {
+        if (loss.rule.Get().id == "trip-dropped")
+            dropping.insert(loss.side.place.line);
+    }
+    std::erase_if(m_losses,
+                  [&](const Loss& loss)
+                  {
+                      const int line = loss.side.place.line;
+                      return line != loss.outputLine && (dropping.contains(loss.outputLine) ||
+                                                         (blamed.contains(loss.outputLine) && m_fits.contains(line)));
+                  });
+    blamed = Blamed();
+    std::erase_if(m_losses,
+                  [&](const Loss& loss)
+                  {
+                      const auto end = std::ranges::find(loss.way, loss.side.place.line);
+                      return std::any_of(loss.way.begin(), end, [&](int line) { return blamed.contains(line); });
+                  });
+}
+
+void TripTeller::TellMisfit(RuleName rule, TripSide output, TripSide input, bool isInputLikely,
+                            const std::vector<std::string>& separators)
+{
+    if (m_unfit[input.place.line].insert(output.place.line).second)
+        m_misfits.push_back(
+            {rule, std::move(output), std::move(input), isInputLikely, separators, m_outputLine, m_way});
+}
+
+bool TripTeller::HasFit(const Misfit& misfit) const
+{
+    const auto fits = m_fits.find(misfit.input.place.line);
+    return fits != m_fits.end() &&
+           std::ranges::all_of(misfit.separators, [&](const std::string& separator)
+                               { return separator == "Rest" || fits->second.contains(separator); });
+}
+
+bool TripTeller::IsInputWrong(const Misfit& misfit) const
+{
+    return m_unfit.at(misfit.input.place.line).size() > 1 || (misfit.isInputLikely && !HasFit(misfit));
+}
+
+void TripTeller::AddFindings()
+{
+    for (const Misfit& misfit : m_misfits)
+    {
+        const bool isInput = IsInputWrong(misfit);
+        m_losses.push_back({misfit.rule, isInput ? misfit.input : misfit.output,
+                            isInput ? misfit.output.place.line : misfit.input.place.line, misfit.outputLine,
+                            misfit.way});
+    }
+    RemoveConsequences();
+    std::ranges::for_each(m_losses, [&](const Loss& loss) { Add(loss); });
+    Forget();
+}
+
+void TripTeller::Forget()
+{
+    m_misfits.clear();
+    m_losses.clear();
+}
+
+} // namespace lytdlg

@@ -1,0 +1,87 @@
+// What trials of a dialog find, and which side of a loss is to blame.
+#pragma once
+
+#include "lytdlg/judge/Judge.h"
+
+#include <map>
+#include <set>
+
+namespace lytdlg
+{
+
+// One side of a loss: a line of the output, or one of the input.
+struct TripSide
+{
+    ClytSpan place;
+    std::string message;
+    std::string hint;
+};
+
+// Collects what trials find, and adds it at their end: of a rule and a line once, and nothing about a line that other rules
+// warn of already.
+class TripTeller
+{
+public:
+    explicit TripTeller(const Case& whole);
+
+    // What is reported from here on is of a text that the rule of a line has written, and that came back through statements.
+    void BeginTrip(int outputLine, std::vector<int> way)
+    {
+        m_outputLine = outputLine;
+        m_way = std::move(way);
+    }
+    // The place, and the other line that the loss comes about by; 0 for none.
+    void Tell(RuleName rule, const ClytSpan& place, int otherLine, std::string message, std::string hint);
+    // The two sides do not fit each other. A statement of the input that does not fit several rules of the output is the one
+    // that is wrong; otherwise the rule is, unless the caller finds the input likelier and no rule fits that.
+    // Where separators do not fit, a statement is right when each of its separators fits some rule.
+    void TellMisfit(RuleName rule, TripSide output, TripSide input, bool isInputLikely,
+                    const std::vector<std::string>& separators = {});
+    // A text has come back through the statement, which cut it at that separator.
+    void TellFit(int inputLine, const std::string& separator) { m_fits[inputLine].insert(separator); }
+    bool HasFindings() const { return !m_losses.empty() || !m_misfits.empty(); }
+    // What was collected counts no more.
+    void Forget();
+    void AddFindings();
+    const Case& Judged() const { return m_judged; }
+
+private:
+    struct Misfit
+    {
+        RuleName rule;
+        TripSide output;
+        TripSide input;
+        bool isInputLikely = false;
+        std::vector<std::string> separators;
+        int outputLine = 0;
+        std::vector<int> way;
+    };
+    struct Loss
+    {
+        RuleName rule;
+        TripSide side;
+        int otherLine = 0;
+        int outputLine = 0;
+        std::vector<int> way;
+    };
+
+    void Add(const Loss& loss);
+    std::set<int> Blamed() const;
+    void RemoveConsequences();
+    bool HasFit(const Misfit& misfit) const;
+    bool IsInputWrong(const Misfit& misfit) const;
+
+    const Case& m_judged;
+    std::set<int> m_warned;
+    std::set<int> m_told;
+    bool m_isLeftOut = false;     // a statement that nothing leads to explains most losses
+    bool m_isOfOtherForm = false; // an answer that the macros do not understand explains all
+    int m_outputLine = 0;
+    std::vector<int> m_way;
+    std::vector<Loss> m_losses;
+    std::vector<Misfit> m_misfits;
+    std::map<int, std::set<int>> m_unfit;        // by the line of the input, those of the output
+    std::map<int, std::set<std::string>> m_fits; // by the line of the input, the separators
+};
+
+} // namespace lytdlg
