@@ -438,8 +438,10 @@ private:
     std::string GapAfter(const TripItem& item) const
     {
         const TripItem* next = &item == &m_trip.out.items.back() ? nullptr : &item + 1;
-        const size_t end = next != nullptr ? Begin(*next) : m_trip.text.size();
-        return m_trip.text.substr(End(item), end > End(item) ? end - End(item) : 0);
+        // What comes before the bracket of a group does not come back.
+        const size_t begin = item.end < m_trip.begin ? 0 : std::min(End(item), m_trip.text.size());
+        const size_t end = next != nullptr && next->begin >= m_trip.begin ? Begin(*next) : m_trip.text.size();
+        return m_trip.text.substr(begin, end > begin ? end - begin : 0);
     }
 
     void TellTooLong(const TripItem& item, const TripCut& cut)
