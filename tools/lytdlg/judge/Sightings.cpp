@@ -1,5 +1,6 @@
 #include "lytdlg/judge/Sightings.h"
 
+#include "controls/ClytWindowControl.h"
 #include "lytdlg/judge/Names.h"
 #include "lytdlg/judge/StatementText.h"
 
@@ -97,12 +98,12 @@ std::optional<SwappedNumbers> SwappedNumbersOf(const Screen& screen, const Place
     PlacedControl moved = control;
     const float x = ResolutionOf(screen).x;
     const float y = ResolutionOf(screen).y;
-    const int left = lytScaled(own.y, x);
-    const int top = lytScaled(own.x, y);
-    moved.place = {left, top, left + control.place.Width(), top + control.place.Height()};
-    turned.place.right = turned.place.left + lytScaled(own.height, x);
+    moved.place =
+        lytLayoutRect({lytScaled(own.y, x), lytScaled(own.x, y)}, {control.place.Width(), control.place.Height()});
     const bool isShut = control.kind == Kind::Combo || control.kind == Kind::DropList;
-    turned.place.bottom = turned.place.top + lytScaled(isShut ? std::min(own.width, fieldHeight) : own.width, y);
+    const int turnedHeight = isShut ? std::min(own.width, fieldHeight) : own.width;
+    turned.place = lytLayoutRect({static_cast<int>(control.place.left), static_cast<int>(control.place.top)},
+                                 {lytScaled(own.height, x), lytScaled(turnedHeight, y)});
     // Few controls are higher than wide.
     if (!IsSizedByText(control.kind) && own.height > own.width && IsRoomFor(screen, control, turned))
         return SwappedNumbers{"width and height", 3, {own.height, own.width}, turned};
