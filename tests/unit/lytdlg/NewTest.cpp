@@ -113,8 +113,8 @@ TEST(New, LeavesNothingToFormatAndNoTextMissing)
     for (const std::string& file : files)
     {
         NewIn(folder, file.substr(0, file.find('.')));
-        const std::string description = folder.Read(file.c_str());
-        EXPECT_EQ(lytdlg::FormattedDescription(folder.File(file.c_str()), description), description);
+        const std::string description = folder.Read(file);
+        EXPECT_EQ(lytdlg::FormattedDescription(folder.File(file), description), description);
     }
     const lytdlg::TextTable texts(folder.Path());
     EXPECT_EQ(texts.CountMissing(), 0U);

@@ -60,7 +60,7 @@ private:
     void FixNameless(Finding& finding, const SwitchMark& mark) const
     {
         const std::string& line = m_judged.description.text.Line(mark.place.line).text;
-        const auto sign = static_cast<size_t>(mark.place.column + (mark.isInverted ? 2 : 1));
+        const size_t sign = static_cast<size_t>(mark.place.column) + (mark.isInverted ? 2 : 1);
         const size_t name = line.find_first_not_of(" \t", sign);
         if (name != std::string::npos && line[name] != ';')
             finding.FixPerhaps({mark.place.line, static_cast<int>(sign), static_cast<int>(name - sign)}, "");

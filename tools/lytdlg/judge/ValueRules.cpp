@@ -134,7 +134,8 @@ void JudgeColon(const PlacedValue& statement)
     Finding& finding =
         statement.judged.findings.Add("value-colon", place, "no colon follows " + statement.Name(),
                                       "write \"" + statement.value.name + ": " + statement.value.keyword + " = ...\"");
-    const size_t sign = line.text.find(words.front().delimiter, static_cast<size_t>(place.column + place.length));
+    const size_t end = static_cast<size_t>(place.column) + static_cast<size_t>(place.length);
+    const size_t sign = line.text.find(words.front().delimiter, end);
     if (sign != std::string::npos)
         finding.FixSafely({place.line, static_cast<int>(line.text.find_last_not_of(" \t", sign - 1)) + 1,
                            static_cast<int>(sign - line.text.find_last_not_of(" \t", sign - 1))},
