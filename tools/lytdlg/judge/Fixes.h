@@ -36,7 +36,7 @@ class SharedFixes
 public:
     explicit SharedFixes(Fixing fixing) : m_fixing(fixing) {}
 
-    // Takes the findings that it mends away from those of a description.
+    // Removes the findings that it mends from the findings of a description.
     void TakeFrom(Findings& findings);
     // Each file with its fixes in it.
     std::map<std::string, MendedText> Mended() const;

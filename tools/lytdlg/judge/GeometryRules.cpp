@@ -81,7 +81,7 @@ const PlacedControl* FrameOf(const std::vector<const PlacedControl*>& frames, co
     return smallest;
 }
 
-// Of two controls between which the Tab key goes back the one that is in a wrong place: without it the key goes on.
+// Of two controls between which the Tab key goes back the one that is in a wrong place: without it the key moves forward.
 bool IsEarlierOneWrong(const std::vector<const PlacedControl*>& order, size_t later)
 {
     const auto isBack = [&](size_t from, size_t to) { return GoesBack(order[from]->place, order[to]->place); };

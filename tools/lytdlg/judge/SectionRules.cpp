@@ -75,7 +75,7 @@ std::string NumberOfMissing(const DescriptionText& text, Section section)
     return section == Section::Values ? lytError("ControlsOpen") : lytError("EndTooSoon");
 }
 
-// The header as it is when it stands for a section with nothing special about it; the layout needs the name of its texts.
+// The header as it is when it begins a section with nothing special about it; the layout needs the name of its texts.
 std::string PlainHeader(Section section)
 {
     switch (section)

@@ -100,7 +100,7 @@ std::vector<std::string> NotTriedOf(const TripPlan& plan, const std::vector<Trip
         if (control.isListed && control.kind == Kind::CheckList)
             reasons.push_back("the marks of " + InQuotes(control.name) + ", which its library lists");
         else if (control.kind == Kind::Combo && control.mark.empty())
-            reasons.push_back("a text in " + InQuotes(control.name) + " that is none of its items");
+            reasons.push_back("a text in " + InQuotes(control.name) + " that is not an item");
         if (control.isEntered && std::ranges::none_of(looks, isReached))
             reasons.push_back("values of " + InQuotes(control.name) + ", which no trial has reached");
     }

@@ -5,20 +5,6 @@
 namespace lytdlg
 {
 
-namespace
-{
-
-// The macros of a group see the dialog's text from the first bracket to this mark.
-constexpr const char* groupMark = ")/1";
-
-bool IsOfGroup(const Description& description)
-{
-    const std::string name = PlainNameOf(description.path);
-    return name == "lytcdgrp" || name == "lytrpgrp";
-}
-
-} // namespace
-
 void Journey::Make()
 {
     for (const TripState& state : StatesOf(m_plan))
@@ -83,21 +69,22 @@ std::set<std::string> Journey::ReachedIn(TripForm& form) const
     return reached;
 }
 
+// The macros of a group see the dialog's text from the first bracket to the mark.
 std::string Journey::ComingBack(const std::string& text, size_t& begin) const
 {
-    const size_t mark = text.find(groupMark);
+    const size_t mark = text.find(lytGroupMark);
     const size_t bracket = text.find('(');
-    begin = IsOfGroup(m_plan.Of()) && bracket != std::string::npos ? bracket : 0;
+    const bool isOfGroup = m_plan.Named() != nullptr && m_plan.Named()->cut == ClytCut::AtMark;
+    begin = isOfGroup && bracket != std::string::npos ? bracket : 0;
     return text.substr(begin, mark != std::string::npos && mark + 1 > begin ? mark + 1 - begin : std::string::npos);
 }
 
 // A text that is longer than the input has room for.
 void Journey::TryLong(size_t index)
 {
-    constexpr int longest = 60; // a longer one means all that is there
     const TripControl& control = m_plan.Controls()[index];
     const int room = control.cutLength;
-    if (!control.isEntered || control.mark.empty() || room <= 0 || room >= longest || !m_plan.ComesBack())
+    if (!control.isEntered || control.mark.empty() || room <= 0 || room >= tripLongest || !m_plan.ComesBack())
         return;
     TripState state = FullState(m_plan);
     std::string longer = control.mark;

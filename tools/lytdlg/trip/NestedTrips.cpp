@@ -80,11 +80,12 @@ public:
     // The wizard's text is a placeholder, which another dialog opens later.
     void TryWizard()
     {
-        const std::string name = PlainNameOf(Of().path);
-        if (name != "lytwzsym" && name != "lytwzphr")
+        const ClytNamedDialog* named = m_plan.Named();
+        if (named == nullptr || (named->which != ClytNamed::WizardSymbol && named->which != ClytNamed::WizardPhrase))
             return;
-        const std::string reader = name == "lytwzsym" ? "lytInSym" : "lytInPhr";
-        WithDialog(reader, [&](const TripPlan& other) { TryPlaceholder(other, reader + ".dlg"); });
+        const bool isOfSymbol = named->which == ClytNamed::WizardSymbol;
+        const std::string reader = lytNamed(isOfSymbol ? ClytNamed::Symbol : ClytNamed::Phrase).description;
+        WithDialog(reader.substr(0, reader.find('.')), [&](const TripPlan& other) { TryPlaceholder(other, reader); });
     }
 
 private:

@@ -15,8 +15,6 @@ namespace lytdlg
 namespace
 {
 
-constexpr int longestCode = 60; // a longer length means all that is left
-
 std::string NumberedLine(int line)
 {
     return "line " + std::to_string(line);
@@ -324,7 +322,7 @@ private:
         const std::string limit = std::to_string(item.end - item.begin);
         const auto taker =
             std::ranges::find_if(m_trip.cuts, [&](const TripCut& cut)
-                                 { return cut.length > 0 && cut.length < longestCode && Takes(cut, item.name); });
+                                 { return cut.length > 0 && cut.length < tripLongest && Takes(cut, item.name); });
         if (!control.mark.empty() && taker != m_trip.cuts.end())
         {
             const std::string length = std::to_string(taker->length);
@@ -446,7 +444,7 @@ private:
 
     void TellTooLong(const TripItem& item, const TripCut& cut)
     {
-        if (cut.length > 0 && cut.length < longestCode)
+        if (cut.length > 0 && cut.length < tripLongest)
             TellLength(item, cut);
         else
             TellNotSeparated(item, cut);

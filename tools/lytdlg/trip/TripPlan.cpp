@@ -24,16 +24,6 @@ constexpr size_t longestName = 12;
 constexpr size_t fewestOfName = 3; // letters of a name that stand for it
 constexpr size_t mostAsked = 6;
 constexpr size_t itemsOfList = 3;
-constexpr int longestLimit = 60; // a larger one is never reached by what is entered
-
-// The dialogs that the macros open: those whose text comes back into them, and those of the wizard.
-constexpr const char* comingBack[] = {"lytinsym", "lytinphr", "lytcdgrp", "lytrpgrp"};
-constexpr const char* ofWizard[] = {"lytwzsym", "lytwzphr", "lytwzgrp"};
-
-bool IsAmong(const std::string& name, const auto& names)
-{
-    return std::ranges::any_of(names, [&](const char* each) { return name == each; });
-}
 
 } // namespace
 
@@ -65,6 +55,11 @@ TripPlan::TripPlan(const Description& description, bool isNested) : m_descriptio
     TakeWords();
     TakeControls();
     m_comesBack = IsMeantToComeBack(isNested);
+}
+
+const ClytNamedDialog* TripPlan::Named() const
+{
+    return NamedDialogOf(PlainNameOf(m_description.path) + ".dlg");
 }
 
 const TripControl* TripPlan::Find(const std::string& name) const
@@ -100,7 +95,7 @@ void TripPlan::TakeInput()
         m_filled.clear();
         m_pieces = 0;
         const std::set<const ClytDialogInput*> reached = Reached(m_description, *part.part);
-        m_takesWhole = reached.size() == 1 && (*reached.begin())->scanRule.scan.GetLength() >= longestLimit;
+        m_takesWhole = reached.size() == 1 && (*reached.begin())->scanRule.scan.GetLength() >= tripLongest;
         for (const ClytDialogInput* statement : reached)
         {
             std::set<std::string> taking;
@@ -314,7 +309,7 @@ void TripPlan::GiveValues(TripControl& control)
     size_t length = markLength;
     if (control.cutLength > 0 && static_cast<size_t>(control.cutLength) < longestName)
         length = static_cast<size_t>(control.cutLength);
-    else if (control.limit >= static_cast<int>(markLength) && control.limit < longestLimit)
+    else if (control.limit >= static_cast<int>(markLength) && control.limit < tripLongest)
         length = static_cast<size_t>(control.limit) + 2;
     const bool isFree = control.kind == Kind::Field || (control.kind == Kind::Combo && items.empty());
     const bool isOpenList = lytTypeOf(control.kind).isOpenList;
@@ -386,8 +381,9 @@ bool TripPlan::IsFound(const std::string& name) const
 // that another one opens may answer something else than it is given.
 bool TripPlan::IsMeantToComeBack(bool isNested) const
 {
-    const std::string name = PlainNameOf(m_description.path);
-    if (IsAmong(name, ofWizard))
+    const ClytNamedDialog* named = Named();
+    // The wizard hands over entries of the catalogue, and is answered with texts.
+    if (named != nullptr && (named->handed == ClytHanded::Entry || named->handed == ClytHanded::Label))
         return false;
     size_t put = 0;
     size_t both = 0;
@@ -399,7 +395,7 @@ bool TripPlan::IsMeantToComeBack(bool isNested) const
         both += IsPut(control.name) && isRead ? 1 : 0;
     }
     const size_t read = std::max(both, m_pieces);
-    if (IsAmong(name, comingBack))
+    if (named != nullptr)
         return 2 * read >= put;
     // What takes any text whole reads none in particular.
     return both > 0 && !m_takesWhole && (isNested ? read >= put : 3 * read >= 2 * put);

@@ -3,12 +3,16 @@
 
 #include "lytdlg/judge/Description.h"
 #include "lytdlg/judge/Names.h"
+#include "lytdlg/text/NamedDialog.h"
 
 #include <map>
 #include <set>
 
 namespace lytdlg
 {
+
+// A longer fixed length means all that is left, and a longer limit is never reached by what is entered.
+inline constexpr int tripLongest = 60;
 
 struct TripControl
 {
@@ -39,8 +43,7 @@ struct TripTaker
 class TripPlan
 {
 public:
-    // The description outlives the plan.
-    // Other dialogs of the folder may open it.
+    // The description outlives the plan. A dialog that another one opens is nested.
     TripPlan(const Description& description, bool isNested);
 
     const Description& Of() const { return m_description; }
@@ -53,8 +56,10 @@ public:
     bool IsFilled(const std::string& name) const { return m_filled.contains(name); }
     // Whether a rule of the result puts the control into the text.
     bool IsPut(const std::string& name) const { return m_put.contains(name); }
+    // Which of the dialogs that the library opens by name it is; null for any other.
+    const ClytNamedDialog* Named() const;
     // Whether a text of the dialog is meant to come back into it: the input takes about as many pieces apart as the output
-    // puts together. The dialogs that the macros open are known by their names.
+    // puts together.
     bool ComesBack() const { return m_comesBack; }
     // Whether marks could be made: there are letters that no separator holds.
     bool HasMarks() const { return m_hasMarks; }
