@@ -49,6 +49,12 @@ fi
 if [ ! -f "$dir/.ready-$mode" ]; then
     rm -rf "$dir"
     cp -a "$new" "$dir"
+    touch "$dir/.ready-$mode"
+fi
+export WINEPREFIX="$dir"
+# A run that was broken off leaves what its tests laid into the registry. A server that runs has others at work.
+if quiet timeout 1 wineserver -w; then
+    cp "$new"/*.reg "$dir"
     driver=x11
     [ "$mode" != null ] || driver=null
     # Without a window manager each closed dialog would wait two seconds for one; with one, it gives windows the keyboard.
@@ -56,7 +62,5 @@ if [ ! -f "$dir/.ready-$mode" ]; then
     [ "$mode" != screen ] || managed=Y
     sed -i -e "s/^\"Graphics\"=.*/\"Graphics\"=\"$driver\"/" -e "s/^\"Managed\"=.*/\"Managed\"=\"$managed\"/" \
         -e "s/^\"LogPixels\"=.*/\"LogPixels\"=dword:$(printf %08x "$dpi")/" "$dir/user.reg"
-    touch "$dir/.ready-$mode"
 fi
-export WINEPREFIX="$dir"
 quiet wineserver -p600 || true
