@@ -1,15 +1,4 @@
-# Writes the checksums of all that was installed, for `sha256sum --check SHA256SUMS`.
+# Lists what was installed: what it is made of, and its checksums.
 set(folder $ENV{DESTDIR}${CMAKE_INSTALL_PREFIX})
-set(names "")
-foreach(file IN LISTS CMAKE_INSTALL_MANIFEST_FILES)
-  file(RELATIVE_PATH name ${CMAKE_INSTALL_PREFIX} ${file})
-  list(APPEND names ${name})
-endforeach()
-list(SORT names)
-set(sums "")
-foreach(name IN LISTS names)
-  file(SHA256 ${folder}/${name} sum)
-  string(APPEND sums "${sum}  ${name}\n")
-endforeach()
-file(WRITE ${folder}/SHA256SUMS "${sums}")
-list(APPEND CMAKE_INSTALL_MANIFEST_FILES ${CMAKE_INSTALL_PREFIX}/SHA256SUMS)
+execute_process(COMMAND ${lyt_make_sums} ${folder} ${lyt_version} COMMAND_ERROR_IS_FATAL ANY)
+list(APPEND CMAKE_INSTALL_MANIFEST_FILES ${CMAKE_INSTALL_PREFIX}/lyt64.cdx.json ${CMAKE_INSTALL_PREFIX}/SHA256SUMS)

@@ -27,7 +27,7 @@ endif()
 set(lyt_not_handed_out "\\.\\./tests/[^)\n]*|(architecture|benchmarks|contributing|reliability)\\.md")
 foreach(page
     README accessibility acts deployment descriptions exports first-dialog from-other-languages glossary limits lytcall lytdlg
-    lytdlg-rules macros partners report support symptoms)
+    lytdlg-rules macros partners report support symptoms versions)
   set(source ${CMAKE_SOURCE_DIR}/docs/${page}.md)
   file(READ ${source} text)
   string(REGEX REPLACE "\\[([^]\n]*)\\]\\((${lyt_not_handed_out})\\)" "\\1" text "${text}")
@@ -39,8 +39,13 @@ install(FILES
   docs/catalogue-96.png docs/form-120.png docs/preview-form.svg docs/preview-symbol.svg docs/window-symbol.png
   DESTINATION docs)
 configure_file(docs/package.md.in ${CMAKE_BINARY_DIR}/package/README.md @ONLY)
-install(FILES ${CMAKE_BINARY_DIR}/package/README.md DESTINATION .)
+install(FILES ${CMAKE_BINARY_DIR}/package/README.md CHANGELOG.md LICENSE SECURITY.md DESTINATION .)
+# The terms of what is inside our programs, as the packages bring them that it was taken from.
+foreach(package gcc-mingw-w64-x86-64-posix-runtime mingw-w64-x86-64-dev nlohmann-json3-dev)
+  install(FILES /usr/share/doc/${package}/copyright DESTINATION licences RENAME ${package}.txt)
+endforeach()
 
+install(CODE "set(lyt_make_sums ${CMAKE_SOURCE_DIR}/scripts/make-sums)\nset(lyt_version ${PROJECT_VERSION})")
 install(SCRIPT cmake/Checksums.cmake)
 
 # The generator for zips takes the files in the order in which the file system tells them, and notes who owns them, so that

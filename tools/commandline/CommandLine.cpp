@@ -242,9 +242,11 @@ bool AsksDoctorForJson(const std::vector<std::string>& words)
 
 const OptionForm versionOption = {"--version", nullptr, false, "print the version"};
 
+const char* const projectVersion = LYT_VERSION;
+
 std::string VersionText(const ProgramForm& program)
 {
-    return std::string(program.name) + " " + LYT_VERSION + "\n";
+    return std::string(program.name) + " " + projectVersion + "\n";
 }
 
 std::string HelpText(const ProgramForm& program)

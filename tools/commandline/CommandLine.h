@@ -79,6 +79,8 @@ bool AsksDoctorForJson(const std::vector<std::string>& words);
 // What help prints: for the program, or for the command of that name.
 std::string HelpText(const ProgramForm& program);
 std::string HelpText(const ProgramForm& program, const std::string& command);
+// The version of the project, such as 1.0.0.
+extern const char* const projectVersion;
 // What `--version` prints, for every program that has this option: its name and the version of the project.
 extern const OptionForm versionOption;
 std::string VersionText(const ProgramForm& program);

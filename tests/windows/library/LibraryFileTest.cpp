@@ -2,6 +2,7 @@
 #include "BuiltFile.h"
 #include "CallerInC.h"
 #include "support/Image.h"
+#include "support/Library.h"
 #include "support/Modules.h"
 
 #include <gtest/gtest.h>
@@ -86,15 +87,24 @@ TEST_F(LibraryFile, CarriesNoTimeOfItsBuild)
     EXPECT_EQ(image.Headers().FileHeader.TimeDateStamp, 0U);
 }
 
-TEST_F(LibraryFile, HasAVersionRecord)
+class HandedOutFile : public testing::TestWithParam<const char*>
 {
-    char path[MAX_PATH] = "";
-    GetModuleFileNameA(library, path, sizeof path);
-    std::vector<char> block(GetFileVersionInfoSizeA(path, nullptr));
-    ASSERT_TRUE(GetFileVersionInfoA(path, 0, static_cast<DWORD>(block.size()), block.data()));
-    for (const auto& [name, text] : {std::pair("OriginalFilename", "lyt64.dll"), std::pair("InternalName", "lyt64"),
-                                     std::pair("ProductName", "lyt64"), std::pair("ProductVersion", LYT_VERSION),
-                                     std::pair("FileVersion", LYT_VERSION ".0")})
+};
+
+INSTANTIATE_TEST_SUITE_P(, HandedOutFile,
+                         testing::Values("lyt64.dll", "lytdata.dll", "lytsrc.dll", "lytcall.exe", "lytdlg.exe"));
+
+TEST_P(HandedOutFile, HasAVersionRecord)
+{
+    const std::string file = GetParam();
+    const std::string path = ProgramFolder() + "\\" + file;
+    std::vector<char> block(GetFileVersionInfoSizeA(path.c_str(), nullptr));
+    ASSERT_TRUE(GetFileVersionInfoA(path.c_str(), 0, static_cast<DWORD>(block.size()), block.data()));
+    const std::string stem = file.substr(0, file.find('.'));
+    for (const auto& [name, text] :
+         {std::pair("OriginalFilename", file.c_str()), std::pair("InternalName", stem.c_str()),
+          std::pair("ProductName", "lyt64"), std::pair("ProductVersion", LYT_VERSION),
+          std::pair("FileVersion", LYT_VERSION ".0")})
     {
         void* value = nullptr;
         UINT length = 0;

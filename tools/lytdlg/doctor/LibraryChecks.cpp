@@ -1,6 +1,7 @@
 #include "lytdlg/doctor/Checks.h"
 #include "lytdlg/doctor/Deployment.h"
 
+#include "commandline/CommandLine.h"
 #include "lytdlg/judge/ExportTable.h"
 #include "lytdlg/judge/PartnerCalls.h"
 #include "lytdlg/text/TextFile.h"
@@ -40,6 +41,10 @@ void JudgeChecksum(const Deployment& deployment, const std::string& bytes, Diagn
     const std::string version = VersionOf(bytes);
     diagnosis.Add(Verdict::Good, aboutLibrary, file,
                   (version.empty() ? "without a version" : "version " + version) + ", SHA-256 " + own);
+    if (!version.empty() && version != std::string(commandline::projectVersion) + ".0")
+        diagnosis.Add(Verdict::Warning, aboutLibrary, file,
+                      std::string("is of another version than these tools, which are ") + commandline::projectVersion,
+                      "after an upgrade or a way back, copy library and tools from one package");
     for (const std::filesystem::path& sums : deployment.checksums)
     {
         const std::optional<std::string> listed = ListedChecksumOf(sums, file);

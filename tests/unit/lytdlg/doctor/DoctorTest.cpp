@@ -1,6 +1,7 @@
 // What `lytdlg doctor` finds in a deployment, and how it is asked and answers.
 #include "DoctorFolder.h"
 
+#include "commandline/CommandLine.h"
 #include "commandline/Text.h"
 #include "lytdlg/doctor/Deployment.h"
 #include "lytdlg/text/LanguageFiles.h"
@@ -204,6 +205,14 @@ TEST(Doctor, KnowsTheVersionOfTheLibraryByItsRecord)
     EXPECT_EQ(lytdlg::VersionOf("before " + record + " after"), "1.2.3.260");
     EXPECT_EQ(lytdlg::VersionOf(record.substr(0, 15)), "");
     EXPECT_EQ(lytdlg::VersionOf(""), "");
+
+    const DoctorFolder folder;
+    folder.Write("lyt64.dll", folder.Read("lyt64.dll") + record);
+    EXPECT_EQ(folder.Findings(),
+              std::string("warning  library        lyt64.dll: is of another version than these tools, which are ") +
+                  commandline::projectVersion +
+                  "\n                        hint: after an upgrade or a way back, copy library and tools from one "
+                  "package\n");
 }
 
 TEST(Doctor, TellsProgramsWhyNothingWasJudged)
