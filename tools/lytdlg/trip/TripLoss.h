@@ -9,7 +9,4 @@ namespace lytdlg
 
 void TellLosses(TripTeller& teller, const TripPlan& plan, const Trip& trip);
 
-// A text in quotes, and not too long.
-std::string Excerpt(const std::string& text);
-
 } // namespace lytdlg

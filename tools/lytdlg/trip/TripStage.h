@@ -5,6 +5,7 @@
 #include "lytdlg/text/Paths.h"
 #include "lytdlg/trip/TripPlan.h"
 
+#include <algorithm>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -75,6 +76,14 @@ struct TripCut
     int length = 0;  // that it is cut by; 0 for separators
     std::vector<std::string> separators;
     std::vector<TripFill> fills;
+
+    bool TakesAny() const { return std::ranges::any_of(fills, &TripFill::takesPiece); }
+    // Whether the control takes the piece.
+    bool Takes(const std::string& control) const
+    {
+        return std::ranges::any_of(fills,
+                                   [&](const TripFill& fill) { return fill.takesPiece && fill.control == control; });
+    }
 };
 
 // The values of the controls of a plan, by name; a list that collects has its items a line each.

@@ -107,4 +107,19 @@ void TripTeller::Forget()
     m_losses.clear();
 }
 
+std::string Excerpt(const std::string& text)
+{
+    constexpr size_t longest = 60;
+    std::string shown = text;
+    while (!shown.empty() && shown.back() == '\n')
+        shown.pop_back();
+    std::ranges::replace(shown, '\n', '|');
+    return InQuotes(shown.size() <= longest ? shown : shown.substr(0, longest) + "...");
+}
+
+std::string NumberedLine(int line)
+{
+    return "line " + std::to_string(line);
+}
+
 } // namespace lytdlg

@@ -84,4 +84,9 @@ private:
     std::map<int, std::set<std::string>> m_fits; // by the line of the input, the separators
 };
 
+// A text in quotes, and not too long.
+std::string Excerpt(const std::string& text);
+// A line, as a sentence has it.
+std::string NumberedLine(int line);
+
 } // namespace lytdlg

@@ -1,0 +1,141 @@
+#include "lytdlg/trip/AstrayPieces.h"
+
+#include "dialog/ClytDialog.h"
+#include "lytdlg/trip/TripEvidence.h"
+
+#include <algorithm>
+
+namespace lytdlg
+{
+
+bool AstrayPieces::TellGiven(const TripItem& item)
+{
+    for (const TripCut& cut : m_trip.cuts)
+    {
+        for (const TripFill& fill : cut.fills)
+        {
+            if (fill.control != item.name || fill.takesPiece)
+                continue;
+            m_teller.Tell("trip-control", fill.span, m_trip.out.line,
+                          "the text has " + Excerpt(item.value) + " for " + InQuotes(item.name) +
+                              ", and this puts another one into it: " + m_compared.ComesBack(item.name),
+                          "give it the value that the input has found");
+            return true;
+        }
+    }
+    return false;
+}
+
+const TripFill* AstrayPieces::LastFillOf(const std::string& name, const TripCut*& of) const
+{
+    const TripFill* last = nullptr;
+    for (const TripCut& cut : m_trip.cuts)
+    {
+        for (const TripFill& fill : cut.fills)
+        {
+            if (fill.control != name || !fill.takesPiece)
+                continue;
+            last = &fill;
+            of = &cut;
+        }
+    }
+    return last;
+}
+
+void AstrayPieces::TellAstray(const TripItem& item, const TripCut& cut)
+{
+    const auto taker = std::ranges::find_if(cut.fills, &TripFill::takesPiece);
+    if (taker == cut.fills.end())
+        TellAstrayTo(item, cut.span, "nowhere", "put it into " + InQuotes(item.name) + ": = " + item.name);
+    else if (cut.Takes(item.name))
+        TellNotKept(item, cut);
+    else if (IsSwapped(item, *taker))
+        TellSwapped(item, cut, *taker);
+    else
+        TellAstrayTo(item, taker->span, "into " + InQuotes(taker->control), "write " + InQuotes(item.name) + " here");
+}
+
+void AstrayPieces::TellAstrayTo(const TripItem& item, const ClytSpan& reader, const std::string& where,
+                                const std::string& hint)
+{
+    m_teller.TellMisfit("trip-control",
+                        {item.span,
+                         "this rule writes " + InQuotes(item.name) + ", and " + NumberedLine(reader.line) +
+                             " puts the piece " + where + ": " + m_compared.ComesBack(item.name),
+                         "write the items in the order in which the input reads them"},
+                        {reader,
+                         NumberedLine(m_trip.out.line) + " writes " + InQuotes(item.name) +
+                             " here, and the piece goes " + where + ": " + m_compared.ComesBack(item.name),
+                         hint},
+                        true);
+}
+
+// The piece of the other control goes somewhere else in turn, and some piece comes here.
+bool AstrayPieces::IsSwapped(const TripItem& item, const TripFill& taker) const
+{
+    const TripItem* other = m_compared.ItemOf(taker.control);
+    if (other == nullptr || m_compared.Plan().TakersOf(item.name).empty())
+        return false;
+    const TripCut* cut = m_compared.CutAt(*other);
+    return cut != nullptr && !cut->Takes(taker.control);
+}
+
+// Statements often have the names of what they take.
+void AstrayPieces::TellSwapped(const TripItem& item, const TripCut& cut, const TripFill& taker)
+{
+    m_teller.TellMisfit("trip-swapped",
+                        {item.span,
+                         "this rule writes " + InQuotes(item.name) + " where " + NumberedLine(taker.span.line) +
+                             " reads " + InQuotes(taker.control) + ": " + m_compared.ComesBack(item.name),
+                         "write " + InQuotes(taker.control) + " here, in the order in which the input reads them"},
+                        {taker.span,
+                         NumberedLine(m_trip.out.line) + " writes " + InQuotes(item.name) + " here, and this reads " +
+                             InQuotes(taker.control) + ": " + m_compared.ComesBack(item.name),
+                         "write " + InQuotes(item.name) + " here"},
+                        cut.statement == item.name && cut.statement != taker.control);
+}
+
+void AstrayPieces::TellNotKept(const TripItem& item, const TripCut& cut)
+{
+    const TripCut* lastCut = nullptr;
+    const TripFill* last = LastFillOf(item.name, lastCut);
+    if (lastCut != &cut && lastCut->piece != cut.piece)
+        m_teller.Tell("trip-control", last->span, cut.span.line,
+                      "this puts " + Excerpt(lastCut->piece) + " into " + InQuotes(item.name) +
+                          ", which has its piece from " + NumberedLine(cut.span.line) + " already",
+                      "name the control that this piece is of");
+    else if (last->isConcat && !item.separators.empty())
+        TellList(item, *last);
+    else
+        m_teller.Tell("trip-changed", last->span, m_trip.out.line,
+                      "the piece " + Excerpt(cut.piece) + " goes into " + InQuotes(item.name) +
+                          ", which does not keep it: " + m_compared.ComesBack(item.name),
+                      "use a control that takes the value back");
+}
+
+void AstrayPieces::TellList(const TripItem& item, const TripFill& fill)
+{
+    const bool isBlank = lytMeans<ClytFillAction::Concat>(item.separators.c_str());
+    const std::string joined = isBlank ? " " : item.separators.substr(0, 1);
+    const bool isOther = fill.separators.find(joined) == std::string::npos || item.separators.size() > 1;
+    const bool isInputWrong =
+        IsSplitAnywhere(m_compared.Of(), joined[0]) && !IsJoinedAnywhere(m_compared.Of(), fill.separators);
+    if (!isOther)
+        m_teller.Tell("trip-list", fill.span, item.span.line,
+                      "the items of " + InQuotes(item.name) + " do not come back as they were: " +
+                          Excerpt(m_trip.text) + " goes out again as " + Excerpt(m_trip.again),
+                      "use a ListBox without items in $VALUES");
+    else
+        m_teller.TellMisfit("trip-list",
+                            {item.span,
+                             "this joins the items with " + InQuotes(item.separators) + ", and " +
+                                 NumberedLine(fill.span.line) + " takes them apart at " + InQuotes(fill.separators),
+                             "write " + item.name + "(\"" + fill.separators.substr(0, 1) + "\")"},
+                            {fill.span,
+                             "this takes the items apart at " + InQuotes(fill.separators) + ", and " +
+                                 NumberedLine(item.span.line) + " joins them with " + InQuotes(item.separators),
+                             "write " + InQuotes(joined) + " here"},
+                            isInputWrong);
+}
+
+} // namespace lytdlg

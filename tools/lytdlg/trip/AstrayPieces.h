@@ -1,0 +1,35 @@
+// Tells of pieces that are cut well and go into another control, or into one that does not keep them.
+#pragma once
+
+#include "lytdlg/trip/TripComparison.h"
+#include "lytdlg/trip/TripTeller.h"
+
+namespace lytdlg
+{
+
+class AstrayPieces
+{
+public:
+    AstrayPieces(TripTeller& teller, const TripComparison& compared)
+        : m_teller(teller), m_compared(compared), m_trip(compared.Made())
+    {
+    }
+
+    // The input knows the value by its separator, and then puts a fixed text into the control. False when it does not.
+    bool TellGiven(const TripItem& item);
+    void TellAstray(const TripItem& item, const TripCut& cut);
+
+private:
+    void TellAstrayTo(const TripItem& item, const ClytSpan& reader, const std::string& where, const std::string& hint);
+    bool IsSwapped(const TripItem& item, const TripFill& taker) const;
+    void TellSwapped(const TripItem& item, const TripCut& cut, const TripFill& taker);
+    const TripFill* LastFillOf(const std::string& name, const TripCut*& of) const;
+    void TellNotKept(const TripItem& item, const TripCut& cut);
+    void TellList(const TripItem& item, const TripFill& fill);
+
+    TripTeller& m_teller; // of the caller, as the others are
+    const TripComparison& m_compared;
+    const Trip& m_trip;
+};
+
+} // namespace lytdlg
