@@ -45,32 +45,51 @@ const Language& LanguageOf(const std::string& name)
     return found != newDialogLanguages.end() ? *found : newDialogLanguages.front();
 }
 
-// What a new dialog makes of a text: the comment that says so, its input and output, and the texts of its case.
-struct TextForm
+// What a dialog is handed, with a value and without one, and the input that takes it apart. In these texts and those of
+// answers <Name> and <Value> are what the fields hold.
+struct Handed
 {
-    const char* about;
-    const char* input;
-    const char* output;
+    ClytHanded what;
     const char* withValue;
     const char* alone;
-    const char* resultWithValue;
-    const char* resultAlone;
-    bool hasValue = true;    // the text brings a value
-    bool isComposed = false; // the result is another text
+    const char* input;
 };
 
-constexpr const char* cutAtSign = "    ; What comes before the sign is the name; all that follows is the value.\n"
-                                  "    Start: (\"=\", Value = Name\n"
-                                  "    Value: (999, End = Value\n";
-constexpr const char* joinedBySign = "    Value(NULL) = (\"%s\", Name)\n"
-                                     "    (\"%s=%s\", Name, Value)\n";
-constexpr const char* cutInBracket = "    ; The outer brackets are dropped.\n"
-                                     "    Start: (\"(\", Name)\n"
-                                     "    Name: (\"=\", Value, \")\", End = Name\n"
-                                     "    Value: (\")\", End = Value\n";
-constexpr const char* cutAtSlash = "    ; What comes before the slash is the key; all that follows is the label.\n"
-                                   "    Start: (\"/\", Value = Name\n"
-                                   "    Value: (999, End = Value\n";
+constexpr Handed handedTexts[] = {
+    {ClytHanded::Key, "<Name>=<Value>", "<Name>",
+     "    ; What comes before the sign is the name; all that follows is the value.\n"
+     "    Start: (\"=\", Value = Name\n"
+     "    Value: (999, End = Value\n"},
+    {ClytHanded::Bracket, "(<Name>=<Value>)", "(<Name>)",
+     "    ; The outer brackets are dropped.\n"
+     "    Start: (\"(\", Name)\n"
+     "    Name: (\"=\", Value, \")\", End = Name\n"
+     "    Value: (\")\", End = Value\n"},
+    {ClytHanded::Entry, "<Name>/<Value>", "<Name>/",
+     "    ; What comes before the slash is the key; all that follows is the label.\n"
+     "    Start: (\"/\", Value = Name\n"
+     "    Value: (999, End = Value\n"},
+    {ClytHanded::Label, "<Name>", "<Name>",
+     "    ; All of the text is the name.\n"
+     "    Start: (999, End = Name\n"},
+};
+
+// The answer of a dialog, with a value and without one, and the comment that describes it.
+struct Answer
+{
+    const char* about;
+    const char* withValue;
+    const char* alone;
+};
+
+constexpr Answer plainAnswer = {"; It takes a text apart, and puts it together again:\n"
+                                ";     area=20\n"
+                                "; that is a name and a value. A text without = is a name alone.\n",
+                                "<Name>=<Value>", "<Name>"};
+
+constexpr const char* aboutKey = "; The macros hand it the key of a placeholder, and take its answer for the new key:\n"
+                                 ";     area=20\n"
+                                 "; that is a name and a value. A key without = is a name alone.\n";
 
 constexpr const char* aboutGroup =
     "; The document keeps the head of the placeholder; the dialog sees and answers its bracket:\n"
@@ -78,101 +97,75 @@ constexpr const char* aboutGroup =
     "; that is a name and a value. Without = it is a name alone. After the bracket the answer continues with the text\n"
     "; for the macros, which begins with 1 and gets three letters of the placeholder as its sixth to eighth.\n";
 
-constexpr TextForm plainForm = {.about = "; It takes a text apart, and puts it together again:\n"
-                                         ";     area=20\n"
-                                         "; that is a name and a value. A text without = is a name alone.\n",
-                                .input = cutAtSign,
-                                .output = joinedBySign,
-                                .withValue = "area=20",
-                                .alone = "area",
-                                .resultWithValue = "area=20",
-                                .resultAlone = "area"};
-
-constexpr TextForm keyForm = {
-    .about = "; The macros hand it the key of a placeholder, and take its answer for the new key:\n"
-             ";     area=20\n"
-             "; that is a name and a value. A key without = is a name alone.\n",
-    .input = cutAtSign,
-    .output = joinedBySign,
-    .withValue = "area=20",
-    .alone = "area",
-    .resultWithValue = "area=20",
-    .resultAlone = "area"};
-
 constexpr struct
 {
     ClytNamed which;
-    TextForm form;
-} namedForms[] = {
-    {ClytNamed::Symbol, keyForm},
-    {ClytNamed::Phrase, keyForm},
-    {ClytNamed::Condition,
-     {.about = aboutGroup,
-      .input = cutInBracket,
-      .output = "    Value(NULL) = (\"(%s)/1COND\", Name)\n"
-                "    (\"(%s=%s)/1COND\", Name, Value)\n",
-      .withValue = "(area=20)",
-      .alone = "(area)",
-      .resultWithValue = "(area=20)/1COND",
-      .resultAlone = "(area)/1COND"}},
-    {ClytNamed::Repetition,
-     {.about = aboutGroup,
-      .input = cutInBracket,
-      .output = "    Value(NULL) = (\"(%s)/1REPT\", Name)\n"
-                "    (\"(%s=%s)/1REPT\", Name, Value)\n",
-      .withValue = "(area=20)",
-      .alone = "(area)",
-      .resultWithValue = "(area=20)/1REPT",
-      .resultAlone = "(area)/1REPT"}},
+    Answer answer;
+} namedAnswers[] = {
+    {ClytNamed::Symbol, {aboutKey, "<Name>=<Value>", "<Name>"}},
+    {ClytNamed::Phrase, {aboutKey, "<Name>=<Value>", "<Name>"}},
+    {ClytNamed::Condition, {aboutGroup, "(<Name>=<Value>)/1COND", "(<Name>)/1COND"}},
+    {ClytNamed::Repetition, {aboutGroup, "(<Name>=<Value>)/1REPT", "(<Name>)/1REPT"}},
     {ClytNamed::WizardGroup,
-     {.about = "; The wizard hands it the key and the label of a group, with a slash between them. It answers the head "
-               "of the\n"
-               "; group and, after /LIST and an opening brace, the texts to insert one by one, with | between them; "
-               "here the\n"
-               "; key alone:\n"
-               ";     G1:area(20)/LIST{area\n",
-      .input = cutAtSlash,
-      .output = "    Value(NULL) = (\"G1:%s/LIST{%s\", Name, Name)\n"
-                "    (\"G1:%s(%s)/LIST{%s\", Name, Value, Name)\n",
-      .withValue = "area/20",
-      .alone = "area/",
-      .resultWithValue = "G1:area(20)/LIST{area",
-      .resultAlone = "G1:area/LIST{area",
-      .isComposed = true}},
+     {"; The wizard hands it the key and the label of a group, with a slash between them. It answers the head of the\n"
+      "; group and, after /LIST and an opening brace, the texts to insert one by one, with | between them; here the\n"
+      "; key alone:\n"
+      ";     G1:area(20)/LIST{area\n",
+      "G1:<Name>(<Value>)/LIST{<Name>", "G1:<Name>/LIST{<Name>"}},
     {ClytNamed::WizardPhrase,
-     {.about = "; The wizard hands it the label of a heading. It answers the placeholder to insert:\n"
-               ";     P1{area}20\n"
-               "; that is the label and a value.\n",
-      .input = "    ; All of the text is the name.\n"
-               "    Start: (999, End = Name\n",
-      .output = "    Value(NULL) = (\"P1{%s}\", Name)\n"
-                "    (\"P1{%s}%s\", Name, Value)\n",
-      .withValue = "area",
-      .alone = "area",
-      .resultWithValue = "P1{area}20",
-      .resultAlone = "P1{area}",
-      .hasValue = false,
-      .isComposed = true}},
+     {"; The wizard hands it the label of a heading. It answers the placeholder to insert:\n"
+      ";     P1{area}20\n"
+      "; that is the label and a value.\n",
+      "P1{<Name>}<Value>", "P1{<Name>}"}},
     {ClytNamed::WizardSymbol,
-     {.about = "; The wizard hands it the key and the label of a symbol, with a slash between them. It answers the\n"
-               "; placeholder to insert:\n"
-               ";     S1:area=20\n",
-      .input = cutAtSlash,
-      .output = "    Value(NULL) = (\"S1:%s\", Name)\n"
-                "    (\"S1:%s=%s\", Name, Value)\n",
-      .withValue = "area/20",
-      .alone = "area/",
-      .resultWithValue = "S1:area=20",
-      .resultAlone = "S1:area",
-      .isComposed = true}},
+     {"; The wizard hands it the key and the label of a symbol, with a slash between them. It answers the\n"
+      "; placeholder to insert:\n"
+      ";     S1:area=20\n",
+      "S1:<Name>=<Value>", "S1:<Name>"}},
 };
 
-const TextForm& FormOf(const std::string& name)
+const Handed& HandedTo(const std::string& name)
+{
+    const ClytNamedDialog* named = NamedDialogOf(name + ".dlg");
+    return *std::ranges::find(handedTexts, named != nullptr ? named->handed : ClytHanded::Key, &Handed::what);
+}
+
+const Answer& AnswerOf(const std::string& name)
 {
     const ClytNamedDialog* named = NamedDialogOf(name + ".dlg");
     if (named == nullptr)
-        return plainForm;
-    return std::ranges::find_if(namedForms, [&](const auto& each) { return each.which == named->which; })->form;
+        return plainAnswer;
+    return std::ranges::find_if(namedAnswers, [&](const auto& each) { return each.which == named->which; })->answer;
+}
+
+// Puts what `make` makes of a field in the place of each field of a text.
+template <class MAKE>
+std::string WithFields(std::string text, MAKE make)
+{
+    for (size_t begin = text.find('<'); begin != std::string::npos; begin = text.find('<', begin))
+    {
+        const size_t end = text.find('>', begin);
+        text.replace(begin, end + 1 - begin, make(text.substr(begin + 1, end - begin - 1)));
+    }
+    return text;
+}
+
+std::string Filled(const char* text)
+{
+    return WithFields(text, [](const std::string& field) { return field == "Name" ? "area" : "20"; });
+}
+
+// The output that composes a text.
+std::string Composing(const char* text)
+{
+    std::string items;
+    const std::string format = WithFields(text,
+                                          [&](const std::string& field)
+                                          {
+                                              items += ", " + field;
+                                              return "%s";
+                                          });
+    return "(\"" + format + "\"" + items + ")\n";
 }
 
 bool IsOfLibrary(const LanguageKey& key)
@@ -184,8 +177,8 @@ bool IsOfLibrary(const LanguageKey& key)
 
 std::string NewDescription(const std::string& name)
 {
-    const TextForm& form = FormOf(name);
-    return std::string("; @.dlg: say here what the dialog is for.\n;\n") + form.about +
+    const Answer& answer = AnswerOf(name);
+    return std::string("; @.dlg: say here what the dialog is for.\n;\n") + answer.about +
            "\n"
            "$VERSION 1\n"
            "$LAYOUT @\n"
@@ -210,24 +203,28 @@ std::string NewDescription(const std::string& name)
            "    Name = NULL: @NameMissing\n"
            "\n"
            "$INPUT, parent\n" +
-           form.input +
+           HandedTo(name).input +
            "\n"
-           "$OUTPUT, parent\n" +
-           form.output + "$END\n";
+           "$OUTPUT, parent\n"
+           "    Value(NULL) = " +
+           Composing(answer.alone) + "    " + Composing(answer.withValue) + "$END\n";
 }
 
 std::string NewCase(const std::string& name, const std::string& prefix, const std::string& language)
 {
     const Language& spoken = LanguageOf(language);
-    const TextForm& form = FormOf(name);
+    const Handed& handed = HandedTo(name);
+    const Answer& answer = AnswerOf(name);
+    const bool isOfWizard = handed.what == ClytHanded::Entry || handed.what == ClytHanded::Label;
     return "# What @.dlg makes of a text.\ndialog: " + prefix + "@.dlg\nlanguage: " + language +
            "\n\n"
            "case: a name with a value " +
-           (form.isComposed ? "is composed" : "comes back as it is") + "\ninput: " + form.withValue +
+           (isOfWizard ? "is composed" : "comes back as it is") + "\ninput: " + Filled(handed.withValue) +
            "\nexpect title = \"" + spoken.title + "\"\nexpect Name = \"area\"\n" +
-           (form.hasValue ? "expect Value = \"20\"\n" : "set Value = 20\n") + "ok\nexpect result = \"" +
-           form.resultWithValue + "\"\n\ncase: a name alone has no value\ninput: " + form.alone +
-           "\nexpect Value = \"\"\nok\nexpect result = \"" + form.resultAlone +
+           (handed.what == ClytHanded::Label ? "set Value = 20\n" : "expect Value = \"20\"\n") +
+           "ok\nexpect result = \"" + Filled(answer.withValue) +
+           "\"\n\ncase: a name alone has no value\ninput: " + Filled(handed.alone) +
+           "\nexpect Value = \"\"\nok\nexpect result = \"" + Filled(answer.alone) +
            "\"\n\n"
            "case: a name is needed, for a value and at all\n"
            "expect Value disabled\n"
