@@ -14,7 +14,7 @@ public:
     void SetOption(const CStringList& values, const CString& keyword) override;
     void SaveState() override { savedState = GetCheck(); }
     void SetControlFocus() override { SetFocus(); }
-    // The state of one of its own two texts, or of the words "ON" and "OFF"; nothing for any other value.
+    // The state for the text of either state, or for the words "ON" and "OFF"; nothing for any other value.
     std::optional<int> StateOf(const CString& value) const;
     // A value without a state changes nothing.
     void SetValue(const CString& value) override;
