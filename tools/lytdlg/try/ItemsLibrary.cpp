@@ -22,7 +22,8 @@ ItemsLibrary* current = nullptr;
 // the process, and so do these.
 struct KnownLibrary
 {
-    HMODULE real = nullptr; // null when there is no such file
+    std::string name;       // that loads it
+    HMODULE real = nullptr; // null when there is no such file, or nobody wanted it yet
 };
 
 std::map<std::string, KnownLibrary>& KnownLibraries()
@@ -56,6 +57,14 @@ std::string PlainName(const char* library)
 HMODULE HandleOf(KnownLibrary& library)
 {
     return reinterpret_cast<HMODULE>(&library);
+}
+
+HMODULE RealOf(KnownLibrary& library)
+{
+    const ClytErrorBoxesOff noBoxes;
+    if (library.real == nullptr)
+        library.real = ::LoadLibraryA(library.name.c_str());
+    return library.real;
 }
 
 template <class FUNCTION>
@@ -185,10 +194,8 @@ HMODULE ItemsLibrary::Load(const char* name)
 {
     const std::string plain = PlainName(name);
     KnownLibrary& library = KnownLibraries()[plain];
-    const ClytErrorBoxesOff noBoxes;
-    if (library.real == nullptr && plain != ownName && !m_invent)
-        library.real = ::LoadLibraryA(name);
-    const bool isThere = library.real != nullptr || m_wanted != Role::None || plain == ownName;
+    library.name = name;
+    const bool isThere = m_wanted != Role::None || plain == ownName || (!m_invent && RealOf(library) != nullptr);
     return isThere ? HandleOf(library) : nullptr;
 }
 
@@ -214,7 +221,9 @@ FARPROC ItemsLibrary::Find(HMODULE library, const char* function)
         return nullptr;
     if (known->first == ownName)
         return OwnFunctionNamed(function);
-    return known->second.real != nullptr ? ::GetProcAddress(known->second.real, function) : nullptr;
+    // The control may have loaded it while all items were made up.
+    const HMODULE real = m_invent ? nullptr : RealOf(known->second);
+    return real != nullptr ? ::GetProcAddress(real, function) : nullptr;
 }
 
 void ItemsLibrary::Start(const std::string& parameter)
