@@ -1,6 +1,7 @@
 #include "dlgfile/ClytLineSource.h"
 
 #include <cstring>
+#include <string_view>
 
 ClytLineSource::ClytLineSource(const char* defineList)
 {
@@ -47,12 +48,13 @@ CString ClytLineSource::DefineOf(const char* line)
 
 bool ClytLineSource::TakeLine(char* buffer, UINT count, ClytSpan& place)
 {
+    // A NUL byte in the file ends the text of its line, and not the line: the last NUL in the buffer is the reader's own.
+    std::memset(buffer, ' ', count + 1);
     if (CStdioFile::ReadString(buffer, count) == nullptr)
         return false;
-    place.column = isLineOpen ? place.column + place.length : 0;
-    place.line += isLineOpen ? 0 : 1;
-    const size_t length = std::strlen(buffer);
-    isLineOpen = length == 0 || buffer[length - 1] != '\n';
-    place.length = static_cast<int>(length) - (isLineOpen ? 0 : 1);
+    const size_t text = std::strcspn(buffer, "\n");
+    const size_t end = buffer[text] == '\n' ? text + 1 : std::string_view(buffer, count + 1).rfind('\0');
+    place = {place.line + (nextColumn == 0 ? 1 : 0), nextColumn, static_cast<int>(text)};
+    nextColumn = buffer[end - 1] == '\n' ? 0 : nextColumn + static_cast<int>(end);
     return true;
 }

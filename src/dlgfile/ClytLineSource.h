@@ -34,5 +34,5 @@ private:
     bool lineActive = true;
     int lineNumber = 0;
     ClytSpan linePlace;
-    bool isLineOpen = false; // the last read ended inside a line
+    int nextColumn = 0; // where the next read begins; beyond 0 when the last one ended inside a line
 };

@@ -169,6 +169,18 @@ TEST_F(CheckReport, TellsOfAMessageThatNoCheckOfTheFolderNames)
     EXPECT_EQ(Check(sound), "1 description judged: 0 errors, 0 warnings, 0 notes\n");
 }
 
+// Texts of one dialog's section are reported with the first dialog that shows the section, wherever it is in the folder.
+TEST_F(CheckReport, TellsOfATextThatNoDialogOfItsSectionShows)
+{
+    folder.Write("lang/English.nls",
+                 "[Buttons]\n001=&OK\n002=&Cancel\n[Box]\nTitle=Box\nOld=x\n[Other]\nTitle=Other\n");
+    folder.Write("a.dlg", With("$LAYOUT Box", "$LAYOUT Other"));
+    const std::string told = Check(sound);
+    EXPECT_NE(told.find("English.nls:6:1: note text-unused: no dialog of the folder uses the text \"Old\"\n"),
+              std::string::npos)
+        << told;
+}
+
 TEST_F(CheckReport, OfASoundDescriptionIsOneLine)
 {
     EXPECT_EQ(Check(sound), "1 description judged: 0 errors, 0 warnings, 0 notes\n");

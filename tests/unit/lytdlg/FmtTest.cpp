@@ -93,9 +93,9 @@ TEST(Fmt, KeepsALastLineOfBlanks)
 TEST(Fmt, LeavesNulsLoneReturnsAndAllAfterAnEndOfTextAsTheyAre)
 {
     const std::string head = "$VERSION 1\n$LAYOUT\nBegin Dialog Box 1, 2, \"T\", .M\n$VALUES\n";
-    for (const std::string& lines : {"  A=b\0\n  A=c\n"s, "  A=b\r\r\n"s, "  A=b\x1A\n  A=c\n"s, " A=b \x7F\n"s})
+    for (const std::string& lines : {"  A=b\0\n"s, "  A=b\r\r\n"s, "  A=b\x1A\n  A=c\n"s, " A=b \x7F\n"s})
         EXPECT_EQ(Formatted(head + lines), head + lines);
-    EXPECT_EQ(Formatted(head + "  A=b\0\n  A=c\n  A=d\n"s), head + "  A=b\0\n  A=c\n    A = d\n"s);
+    EXPECT_EQ(Formatted(head + "  A=b\0\n  A=c\n"s), head + "  A=b\0\n    A = c\n"s);
 }
 
 TEST(Fmt, RefusesToChooseAmongMoreThanEightDefines)

@@ -19,14 +19,6 @@ namespace lytdlg
 namespace
 {
 
-// The library takes what follows a line with a NUL byte for the rest of it.
-int LineInFile(const DescriptionText& text, int line)
-{
-    for (const SourceLine& each : text.Lines())
-        line += each.number < line && each.text.find('\0') != std::string::npos ? 1 : 0;
-    return line;
-}
-
 Refusal RefusalOf(const CException& failure, int line)
 {
     const auto* own = dynamic_cast<const ClytException*>(&failure);
@@ -81,7 +73,7 @@ std::optional<Refusal> RefusalOf(const Description& description)
     catch (CException* e)
     {
         const ClytCaught failure(e);
-        return RefusalOf(*failure, LineInFile(description.text, form.GetReadPlace().line));
+        return RefusalOf(*failure, form.GetReadPlace().line);
     }
 }
 

@@ -1,6 +1,7 @@
 #include "lytdlg/judge/SourceLines.h"
 
 #include <algorithm>
+#include <cstring>
 #include <string_view>
 
 namespace lytdlg
@@ -21,18 +22,16 @@ bool SourceLines::Take(char* buffer, unsigned count, ClytSpan& place)
     m_taken = m_next;
     const SourceLine& line = *m_lines[m_taken.line];
     const size_t column = m_taken.column;
-    // A NUL byte ends what is read of the line. One further on is met when its piece is read.
-    const std::string_view whole = line.meant.empty() ? line.text : line.meant;
-    const size_t end = whole.substr(column, count).find('\0');
-    const std::string_view text = whole.substr(0, end != std::string_view::npos ? column + end : whole.size());
-    const std::string_view piece = text.substr(column, count);
+    const std::string& whole = line.meant.empty() ? line.text : line.meant;
+    const std::string_view piece = std::string_view(whole).substr(column, count);
     const bool isLast = piece.size() < count;
     char* after = std::copy(piece.begin(), piece.end(), buffer);
     if (isLast)
         *after++ = '\n';
     *after = '\0';
     const int missing = column == 0 ? place.line + 1 : place.line;
-    place = {line.number != 0 ? line.number : missing, static_cast<int>(column), static_cast<int>(piece.size())};
+    place = {line.number != 0 ? line.number : missing, static_cast<int>(column),
+             static_cast<int>(std::strcspn(buffer, "\n"))};
     m_next = isLast ? Position{m_taken.line + 1, 0} : Position{m_taken.line, column + piece.size()};
     return true;
 }

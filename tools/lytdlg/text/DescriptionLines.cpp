@@ -21,34 +21,6 @@ constexpr std::array ofEndOfFile = {lytError("LayoutMissing"), lytError("DialogM
 // Each one more doubles the readings.
 constexpr size_t mostDefines = 8;
 
-// The lines as their reader numbers them. The part of a line before an end of text has a number beyond them.
-class NumberedLines
-{
-public:
-    explicit NumberedLines(std::vector<DescriptionLine>& lines);
-
-    template <class ACT>
-    void At(int number, ACT act)
-    {
-        if (static_cast<size_t>(number) < m_lines.size())
-            std::ranges::for_each(m_lines[static_cast<size_t>(number)], [&](DescriptionLine* line) { act(*line); });
-    }
-
-private:
-    std::vector<std::vector<DescriptionLine*>> m_lines;
-};
-
-bool IsControlCharacter(char ch)
-{
-    return (ch >= 0 && ch < ' ' && ch != '\t') || ch == 0x7F;
-}
-
-// A line that ends in a NUL, for its reader, lacks its line end: what follows has its number still.
-bool LooksOpen(const std::string& text)
-{
-    return text.find('\0', text.size() / pieceSize * pieceSize) != std::string::npos;
-}
-
 DescriptionLines Split(const std::string& content)
 {
     DescriptionLines split;
@@ -70,23 +42,17 @@ DescriptionLines Split(const std::string& content)
     return split;
 }
 
-NumberedLines::NumberedLines(std::vector<DescriptionLine>& lines) : m_lines(1)
+// The line with a number. The part of a line before an end of text has a number beyond them, and none is returned.
+DescriptionLine* LineOf(std::vector<DescriptionLine>& lines, int number)
 {
-    bool isOpen = false;
-    for (DescriptionLine& line : lines)
-    {
-        line.isPlain = !isOpen && line.text.size() < pieceSize && std::ranges::none_of(line.text, IsControlCharacter);
-        if (!isOpen)
-            m_lines.emplace_back();
-        m_lines.back().push_back(&line);
-        isOpen = LooksOpen(line.text);
-    }
+    const size_t index = static_cast<size_t>(number) - 1;
+    return index < lines.size() ? &lines[index] : nullptr;
 }
 
 class RefusalSink final : public ErrorSink
 {
 public:
-    explicit RefusalSink(NumberedLines& numberedLines) : m_lines(numberedLines) {}
+    explicit RefusalSink(std::vector<DescriptionLine>& lines) : m_lines(lines) {}
 
     // That the file ends where more was due is no fault of its last line.
     void Tell(std::unique_ptr<ClytException> failure, const ClytSpan& place, ClytDue due) override
@@ -98,38 +64,39 @@ public:
     }
     void TellShortLine(const ClytSpan& place, ClytDue /*due*/) override
     {
-        m_lines.At(place.line, [](DescriptionLine& line) { line.isRefused = true; });
+        if (DescriptionLine* line = LineOf(m_lines, place.line))
+            line->isRefused = true;
     }
 
 private:
-    NumberedLines& m_lines;
+    std::vector<DescriptionLine>& m_lines;
 };
 
 // Notes what each line is read as.
 class NotingFile final : public ClytDialogFile, public ClytDescriptionVisitor
 {
 public:
-    NotingFile(NumberedLines& numberedLines, const std::string& choice, ErrorSink& sink)
-        : ClytDialogFile(choice.c_str(), sink), m_lines(numberedLines)
+    NotingFile(std::vector<DescriptionLine>& lines, const std::string& choice, ErrorSink& sink)
+        : ClytDialogFile(choice.c_str(), sink), m_lines(lines)
     {
     }
 
     char* ReadString(char* buffer, UINT count) override
     {
-        char* line = ClytDialogFile::ReadString(buffer, count);
+        char* text = ClytDialogFile::ReadString(buffer, count);
+        DescriptionLine* line = text != nullptr ? LineOf(m_lines, GetLinePlace().line) : nullptr;
         if (line != nullptr)
-            m_lines.At(GetLinePlace().line,
-                       [&](DescriptionLine& read) { read.kinds.set(static_cast<size_t>(m_kind)); });
-        return line;
+            line->kinds.set(static_cast<size_t>(m_kind));
+        return text;
     }
     void LinesBegin(ClytLineKind kind) { m_kind = kind; }
 
 private:
-    NumberedLines& m_lines;
+    std::vector<DescriptionLine>& m_lines;
     ClytLineKind m_kind = ClytLineKind::Header;
 };
 
-void ReadUnder(const std::string& choice, const std::filesystem::path& fileName, NumberedLines& lines)
+void ReadUnder(const std::string& choice, const std::filesystem::path& fileName, std::vector<DescriptionLine>& lines)
 {
     RefusalSink sink(lines);
     NotingFile file(lines, choice, sink);
@@ -191,9 +158,8 @@ DescriptionLines ReadDescriptionLines(const std::filesystem::path& fileName, con
     if (defines.size() > mostDefines)
         throw TooManyDefines("asks for " + std::to_string(defines.size()) + " defines, and no more than " +
                              std::to_string(mostDefines) + " can be tried in every choice");
-    NumberedLines numbered(split.lines);
     for (const std::string& choice : ChoicesOf(defines))
-        ReadUnder(choice, fileName, numbered);
+        ReadUnder(choice, fileName, split.lines);
     return split;
 }
 

@@ -24,7 +24,6 @@ struct DescriptionLine
     // What it is read as; nothing for a line that no reader reads: after the end of the description, or a mark of a define.
     LineKinds kinds;
     bool isRefused = false; // by a reader, under some choice of the defines
-    bool isPlain = false;   // arrives in one piece, and its only control characters are tabs
 };
 
 struct DescriptionLines

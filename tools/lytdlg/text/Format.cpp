@@ -55,12 +55,23 @@ void JudgeStatement(Line& line, const Statement& statement, ClytLineKind kind)
     line.code = code.value_or("");
 }
 
+bool IsControlCharacter(char ch)
+{
+    return (ch >= 0 && ch < ' ' && ch != '\t') || ch == 0x7F;
+}
+
+// It arrives in one piece, and its only control characters are tabs.
+bool IsPlain(const std::string& text)
+{
+    return text.size() < ClytDialogFile::lineSize && std::ranges::none_of(text, IsControlCharacter);
+}
+
 // What is above the layout line is free text, headings apart.
 Line Judged(const DescriptionLine& source)
 {
     Line line;
     line.source = &source;
-    if (source.kinds.none() || !source.isPlain)
+    if (source.kinds.none() || !IsPlain(source.text))
         return line;
     const ClytLineKind kind = FirstOf(source.kinds);
     const std::optional<Statement> statement = CutStatement(source.text, kind);
