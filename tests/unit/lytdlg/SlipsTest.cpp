@@ -63,16 +63,21 @@ std::vector<Slip> ReadSlips()
     return slips;
 }
 
-std::string FolderOf(const std::string& dialog)
+std::filesystem::path FileOf(const std::string& dialog)
 {
-    const std::string own = LYT_SOURCE_FOLDER "/tests/unit/lytdlg/slips";
-    return std::filesystem::exists(own + "/" + dialog) ? own : LYT_SOURCE_FOLDER "/samples/dialogs";
+    std::filesystem::path file;
+    for (const char* folder : {"samples/dialogs", "tests/unit/lytdlg/sound", "tests/unit/lytdlg/slips"})
+    {
+        const std::filesystem::path there = PathOf(LYT_SOURCE_FOLDER) / folder / dialog;
+        file = std::filesystem::exists(there) ? there : file;
+    }
+    return file;
 }
 
-std::vector<std::string> LinesOfFile(const std::string& path)
+std::vector<std::string> LinesOfFile(const std::filesystem::path& path)
 {
     std::vector<std::string> lines;
-    std::istringstream text(ReadWholeFile(PathOf(path)).value());
+    std::istringstream text(ReadWholeFile(path).value());
     for (std::string line; std::getline(text, line);)
         lines.push_back(line.ends_with('\r') ? line.substr(0, line.size() - 1) : line);
     return lines;
@@ -87,7 +92,7 @@ auto Find(std::vector<std::string>& lines, const std::string& wanted)
 // The dialog with the slip, and the line in which it is to be found.
 std::string SlippedText(const Slip& slip, int& expected)
 {
-    std::vector<std::string> lines = LinesOfFile(FolderOf(slip.dialog) + "/" + slip.dialog);
+    std::vector<std::string> lines = LinesOfFile(FileOf(slip.dialog));
     auto line = Find(lines, slip.line);
     if (line == lines.end())
         return "";
@@ -119,6 +124,15 @@ const Surroundings& SurroundingsIn(const std::string& folder)
     return known.try_emplace(folder, SurroundingsOf(folder, {})).first->second;
 }
 
+std::vector<std::filesystem::path> SoundDialogs()
+{
+    std::vector<std::filesystem::path> files;
+    for (const char* folder : {"samples/dialogs", "tests/unit/lytdlg/slips", "tests/unit/lytdlg/sound",
+                               "tests/unit/lytdlg/sound/named", "tests/unit/lytdlg/sound/german"})
+        std::ranges::copy(FilesIn(PathOf(LYT_SOURCE_FOLDER) / folder, ".dlg"), std::back_inserter(files));
+    return files;
+}
+
 bool IsOfTrial(const Finding& finding)
 {
     return finding.rule->id.starts_with("trip-") || finding.rule->id.starts_with("lock-");
@@ -132,10 +146,10 @@ TEST(Slips, OfMeaningAreFoundAtTheirLine)
     {
         SCOPED_TRACE(slip.number);
         int line = 0;
-        const std::string folder = FolderOf(slip.dialog);
-        const Description description(folder + "/" + slip.dialog, SlippedText(slip, line), {});
+        const std::filesystem::path file = FileOf(slip.dialog);
+        const Description description(file.string(), SlippedText(slip, line), {});
         ASSERT_NE(line, 0) << slip.line;
-        const Findings findings = Judge(description, SurroundingsIn(folder));
+        const Findings findings = Judge(description, SurroundingsIn(file.parent_path().string()));
         const auto isExpected = [&](const Finding& finding)
         {
             return finding.place.line == line && std::ranges::find(slip.rules, finding.rule->id) != slip.rules.end() &&
@@ -151,16 +165,27 @@ TEST(Slips, OfMeaningAreFoundAtTheirLine)
 
 TEST(Slips, AreNotFoundInDialogsWithoutAny)
 {
-    for (const char* folder :
-         {"/tests/unit/lytdlg/slips", "/samples/dialogs", "/tests/unit/lytdlg/sound", "/tests/unit/lytdlg/sound/named"})
+    for (const std::filesystem::path& file : SoundDialogs())
     {
-        const std::string path = LYT_SOURCE_FOLDER + std::string(folder);
-        for (const auto& file : FilesIn(path, ".dlg"))
+        const Surroundings& surroundings = SurroundingsIn(file.parent_path().string());
+        for (const std::vector<std::string>& defines : {std::vector<std::string>(), {"WIDE"}})
         {
-            const Description description(file.string(), ReadWholeFile(file).value(), {});
-            EXPECT_EQ(SaidOf(Judge(description, SurroundingsIn(path)), description), "") << file;
+            const Description description(file.string(), ReadWholeFile(file).value(), defines);
+            EXPECT_EQ(SaidOf(Judge(description, surroundings), description), "") << file;
         }
     }
+}
+
+// The sound dialogs have all that a description can say.
+TEST(Slips, AreNotFoundInAnyFeature)
+{
+    std::string text;
+    for (const std::filesystem::path& file : SoundDialogs())
+        text += ReadWholeFile(file).value();
+    const std::vector<std::string> features =
+        LinesOfFile(PathOf(LYT_SOURCE_FOLDER "/tests/unit/lytdlg/sound/features"));
+    for (const std::string& feature : features)
+        EXPECT_TRUE(feature.starts_with('#') || text.find(feature) != std::string::npos) << feature;
 }
 
 } // namespace lytdlg

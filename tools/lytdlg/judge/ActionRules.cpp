@@ -158,7 +158,7 @@ void JudgeMove(const ActionLine& statement)
     statement.Add("action-order", 0, InQuotes(name) + " is no check list, and then shows one order and answers another",
                   facts.getsItemsFromInput || facts.getsItemsFromButton
                       ? "delete the button: a check list keeps its order, but takes no items from the input or a button"
-                      : "make it a CheckListBox");
+                      : "name a check list, or make it a CheckListBox");
 }
 
 void JudgeFill(const ActionLine& statement)

@@ -68,7 +68,7 @@ void JudgeWord(const Judged& each)
     if (lytTypeOf(each.kind).isDefault && IsStateRule(each.rule))
         each.Add("state-on-ok", each.PlaceOfName(),
                  std::string(lytTypeOf(each.kind).name) + " has no states; the rule does nothing",
-                 "refuse what must not be confirmed in $EVALUATION");
+                 "delete it, and refuse what must not be confirmed in $EVALUATION");
     if (each.rule.stateWord.GetMeaning() == ClytState::DefButton && each.kind != Kind::Button)
         each.Add("default-button", each.PlaceOfName(),
                  InQuotes(each.Name()) + " is " + lytTypeOf(each.kind).name + " and cannot be pressed",
@@ -134,7 +134,8 @@ void JudgeSelf(const Judged& each)
         const bool isHarmful = meaning == ClytState::Active || each.rule.IsEventRule();
         if (isHarmful && condition->GetName() == each.rule.controlName)
             each.Add("rule-on-itself", condition->GetSpan(), "the rule depends on the control that it acts on",
-                     "delete the condition, or name another control");
+                     each.rule.conditions.GetCount() == 1 ? "delete the rule, or name another control"
+                                                          : "delete the condition, or name another control");
     }
 }
 
@@ -151,7 +152,7 @@ void JudgeTwice(const Case& judged)
             judged.findings.Add("rule-twice", judged.description.PlaceOf(before->span.line),
                                 "the rule of line " + std::to_string(rule->span.line) +
                                     " sets the same state and decides",
-                                "write one rule with the conditions of both");
+                                "write one rule with the conditions of both, one with NOTNULL last");
         before = rule;
     }
 }

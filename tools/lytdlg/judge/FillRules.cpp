@@ -172,7 +172,7 @@ void JudgeFills(const Case& judged, const InputPart& part, const ClytScanRule& r
         if (before != nullptr && (isConditional || TakesPiece(*present->fills.GetHead())))
             judged.findings.Add("scan-pair", present->span,
                                 "this fill is skipped when the condition before it does not hold",
-                                isConditional ? "put an unconditional fill between the two, or use two statements"
+                                isConditional ? "put a fill with a fixed text between the two, or use two statements"
                                               : "put it before the condition");
         before = before == nullptr && isConditional ? present : nullptr;
     }

@@ -36,7 +36,7 @@ void AddPiece(const Case& judged, const FormatPiece& piece, const ClytSpan& plac
     case FormatPieceKind::LoneS:
         findings
             .Add("format-letter-s", place, "in a format with %, this s takes an item",
-                 "write a capital S, or put the word among the items")
+                 "write a capital S without an item for it, or put the word among the items")
             .FixPerhaps(place, "S");
         break;
     case FormatPieceKind::LonePoint:
@@ -50,19 +50,19 @@ void AddPiece(const Case& judged, const FormatPiece& piece, const ClytSpan& plac
     case FormatPieceKind::NoConversion:
         findings.Add("format-conversion", place,
                      InQuotes(text) + " is no conversion: it goes into the text without the %",
-                     "write %s, or %.5s for the first five characters");
+                     "write %s, or %.5s for the first five characters, and an item for it");
         // A number without its point is the limit, and one letter is what another language takes.
         if (text.size() == 2 || text.find_first_not_of("0123456789", 1) == text.size() - 1)
             findings.All().back().FixPerhaps(place, text.size() == 2 ? "%s" : "%." + text.substr(1));
         break;
     case FormatPieceKind::NoLimit:
         findings.Add("format-conversion", place, InQuotes(text) + " takes an item and leaves nothing of it",
-                     "write %s, or %.5s for the first five characters");
+                     "write %s, or %.5s for the first five characters, and an item for it");
         break;
     case FormatPieceKind::LimitAndText:
         findings.Add("format-conversion", place,
                      "after its limit " + InQuotes(text) + " continues to the next s, and that part is lost",
-                     "write %.5s for the first five characters");
+                     "write %.5s for the first five characters, and an item for it");
         break;
     default: break;
     }

@@ -68,14 +68,40 @@ ClytSpan WithBlanksBefore(const DescriptionText& text, ClytSpan place)
     return {place.line, start, place.length + place.column - start};
 }
 
-void FixRule(const Description& description, const Remark& remark, Finding& finding)
+bool Finds(const std::string& rule, const Remark& remark, const Findings& findings)
 {
-    const std::string meant = commandline::Nearest(remark.rule, {ruleNames.begin(), ruleNames.end()});
-    if (remark.rule.empty() || meant.empty())
-        return;
+    return std::ranges::any_of(
+        findings.All(), [&](const Finding& finding)
+        { return finding.path.empty() && finding.place.line == remark.place.line && finding.rule->id == rule; });
+}
+
+// A remark that would silence nothing once it is right is better deleted.
+void AddIdle(const Description& description, RuleName rule, const Remark& remark, std::string message,
+             Findings& findings)
+{
+    findings.Add(rule, remark.place, std::move(message), "delete the remark: there is nothing for it to silence")
+        .FixPerhaps(WithBlanksBefore(description.text, remark.place), "");
+}
+
+void JudgeUnknown(const Description& description, const Remark& remark, Findings& findings)
+{
+    const std::string message = "there is no rule \"" + remark.rule + "\"";
+    const std::string meant =
+        remark.rule.empty() ? "" : commandline::Nearest(remark.rule, {ruleNames.begin(), ruleNames.end()});
+    if (!meant.empty() && !Finds(meant, remark, findings))
+        return AddIdle(description, "ignore-unknown", remark, message, findings);
+    Finding& finding = findings.Add("ignore-unknown", remark.place, message, HintForRule(remark.rule));
     const ClytSpan place = description.PlaceOf(remark.place.line, remark.rule, remark.place.column);
-    if (place.length == static_cast<int>(remark.rule.size()))
+    if (!meant.empty() && place.length == static_cast<int>(remark.rule.size()))
         finding.FixPerhaps(place, meant);
+}
+
+void JudgeReasonless(const Description& description, const Remark& remark, Findings& findings)
+{
+    const std::string message = "the remark gives no reason";
+    if (!Finds(remark.rule, remark, findings))
+        return AddIdle(description, "ignore-without-reason", remark, message, findings);
+    findings.Add("ignore-without-reason", remark.place, message, "write why after \"" + remark.rule + "\"");
 }
 
 } // namespace
@@ -88,12 +114,9 @@ void ApplyIgnores(const Description& description, Findings& findings)
     for (const Remark& remark : remarks)
     {
         if (FindRule(remark.rule) == nullptr)
-            FixRule(description, remark,
-                    findings.Add("ignore-unknown", remark.place, "there is no rule \"" + remark.rule + "\"",
-                                 HintForRule(remark.rule)));
+            JudgeUnknown(description, remark, findings);
         else if (!remark.hasReason)
-            findings.Add("ignore-without-reason", remark.place, "the remark gives no reason",
-                         "write why after \"" + remark.rule + "\"");
+            JudgeReasonless(description, remark, findings);
         else if (silenced[{remark.place.line, remark.rule}] == 0)
             findings
                 .Add("ignore-unused", remark.place, "\"" + remark.rule + "\" finds nothing here", "delete the remark")

@@ -147,7 +147,7 @@ void JudgeUnused(const Case& judged)
                                      (isFirst && IsSameName(key.section, messageSection));
             if (key.isReached && key.hasText && isOfSection && !used.contains(TextId(key.section, key.name)))
                 AddIn(judged, "text-unused", file, key.place, key.line,
-                      "no dialog of the folder uses the text " + InQuotes(key.name), "delete it")
+                      "no dialog of the folder uses the text " + InQuotes(key.name), "use it, or delete it")
                     .FixPerhaps(WholeLineOf(key), "");
         }
     }

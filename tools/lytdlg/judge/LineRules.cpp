@@ -136,7 +136,8 @@ void JudgeFile(const Case& judged)
               "the file begins with a byte order mark, and so was saved as UTF-8", encodeAsAnsi);
     if (text.HasTextAfterEndMark())
         judged.findings.Add("end-mark", judged.description.PlaceOf(static_cast<int>(text.Lines().size())),
-                            "a Ctrl-Z ends the file here, and text follows it", "delete the byte 1A");
+                            "a Ctrl-Z ends the file here, and text follows it",
+                            "delete the byte 1A, and what follows $END");
 }
 
 void JudgeAfterEnd(const Case& judged)

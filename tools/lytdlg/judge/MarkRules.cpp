@@ -99,11 +99,11 @@ void JudgeIndented(const Case& judged, const SourceLine& line)
         start != std::string::npos && start > 0 && (line.text[start] == '<' || line.text[start] == '>');
     if (!isIndented || !judged.description.IsRefused(line.number))
         return;
-    Finding& finding =
-        judged.findings.Add("mark-indented", {line.number, static_cast<int>(start), 1},
-                            "this mark is read as a statement", "begin the line with it, without blanks");
-    finding.number = lytError("LineForm");
     const bool isStray = line.text[start] == '>' && !IsOpenAt(judged.description.text, line.number);
+    Finding& finding = judged.findings.Add(
+        "mark-indented", {line.number, static_cast<int>(start), 1}, "this mark is read as a statement",
+        isStray ? "delete it: it ends nothing" : "begin the line with it, without blanks");
+    finding.number = lytError("LineForm");
     isStray ? finding.FixSafely(judged.description.PlaceOf(line.number), "")
             : finding.FixSafely({line.number, 0, static_cast<int>(start)}, "");
 }

@@ -64,7 +64,7 @@ void JudgeOutputGroups(const Case& judged)
             judged.findings.Add("output-twice", place,
                                 "this group takes the place of the group " + InQuotes(group.name) + " in line " +
                                     std::to_string(before->header.line),
-                                "give each group a different name");
+                                "delete one of them, or give it another name that something uses");
         else if (!used.contains(group.name) && !IsNamedWhereSwitchedOff(judged.description, group.name))
             judged.findings.Add("output-unused", place, "nothing uses the group " + InQuotes(group.name),
                                 "name it in a FILLEDBY, DIALOG or ACTION, or delete it");

@@ -135,7 +135,8 @@ void JudgeOrder(const Case& judged, const OutputGroup& group)
             judged.findings.Add("output-unreached", judged.description.PlaceOf(rule->span.line),
                                 "the rule in line " + std::to_string(always->span.line) +
                                     " always holds, so this one is never used",
-                                "put it before that rule");
+                                rule->conditions.IsEmpty() ? "delete one of the two, or give that rule conditions"
+                                                           : "put it before that rule");
         else if (std::ranges::all_of(
                      Records(rule->conditions), [&](const ClytCtrlValList* asked)
                      { return !asked->GetValues().IsEmpty() && AlwaysHolds(judged.description, *asked); }))

@@ -65,7 +65,7 @@ void JudgeParts(const Case& judged)
             judged.findings.Add("scan-part-twice", place,
                                 "this part takes the place of the part " + InQuotes(part.name) + " in line " +
                                     std::to_string(before->header.line),
-                                "give each part a different name");
+                                "delete one of them, or give it another name that a button uses");
         else if (!used.contains(part.name) && hasParent && !IsNamedWhereSwitchedOff(judged.description, part.name))
             judged.findings.Add("scan-part-unused", place, "no button runs the part " + InQuotes(part.name),
                                 "name it in a button's DIALOG or ACTION, or delete it");
@@ -122,7 +122,7 @@ void JudgeReached(const Case& judged, const InputPart& part)
         if (before != nullptr)
             judged.findings.Add("scan-twice", NamePlace(*statement),
                                 "this statement takes the place of " + name + " in line " + LineOf(*before),
-                                "give each statement of a part a different name");
+                                "delete one of them, or give it another name that a statement leads to");
         else if (part.part->Find(statement->name) == statement && !reached.empty() && !reached.contains(statement) &&
                  !isMisspelt && !IsNamedWhereSwitchedOff(judged.description, statement->name.GetString()))
             judged.findings.Add("scan-unreached", NamePlace(*statement), "no statement leads to " + name,

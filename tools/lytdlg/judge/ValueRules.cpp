@@ -78,9 +78,11 @@ void JudgeWords(const PlacedValue& statement)
                                             : lytTypeOf(statement.kind).hasItems ? listWords
                                             : statement.kind == Kind::Field      ? fieldWords
                                                                                  : noWords;
+    const std::string without = isWordless ? "write " + InQuotes(value.name + " = " + value.values.front())
+                                           : std::string("delete the statement");
     const std::string hint = isOption           ? "write an option in a separate statement, with no other word"
-                             : isKnownElsewhere ? "delete the word"
-                                                : MeantOr(value.keyword, known, "delete the word");
+                             : isKnownElsewhere ? without
+                                                : MeantOr(value.keyword, known, without);
     Finding& finding = statement.judged.findings.Add(
         "keyword-unknown", statement.PlaceOfKeyword(),
         InQuotes(value.keyword) + " means nothing to " + lytTypeOf(statement.kind).name, hint);
