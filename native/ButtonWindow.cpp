@@ -33,13 +33,21 @@ LRESULT ButtonWindow::Handle(UINT message, WPARAM wParam, LPARAM lParam)
     case WM_LBUTTONUP: Release(!IsInside(lParam)); return 0;
     case WM_KEYDOWN:
         if (wParam == VK_SPACE)
-            Press();
+        {
+            // Unlike the mouse, the key is held before it has the capture.
+            m_isHeld = true;
+            Send(BM_SETSTATE, TRUE);
+            ::SetCapture(handle);
+        }
         return 0;
     case WM_KEYUP:
         if (wParam == VK_SPACE)
             Release(false);
         return 0;
-    case WM_CAPTURECHANGED: LoseCapture(); return 0;
+    case WM_CAPTURECHANGED:
+        if (reinterpret_cast<HWND>(lParam) != handle)
+            LoseCapture();
+        return 0;
     case WM_KILLFOCUS:
         if (::GetCapture() == handle)
             ::ReleaseCapture();

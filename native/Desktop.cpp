@@ -189,7 +189,7 @@ HWND SetCapture(HWND window)
 {
     Desktop& desktop = Desktop::Get();
     const HWND previous = std::exchange(desktop.capture, window);
-    if (previous != nullptr && previous != window)
+    if (previous != nullptr)
         SendMessageA(previous, WM_CAPTURECHANGED, 0, reinterpret_cast<LPARAM>(window));
     return previous;
 }
