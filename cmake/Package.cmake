@@ -45,8 +45,8 @@ foreach(package gcc-mingw-w64-x86-64-posix-runtime mingw-w64-x86-64-dev nlohmann
   install(FILES /usr/share/doc/${package}/copyright DESTINATION licences RENAME ${package}.txt)
 endforeach()
 
-install(CODE "set(lyt_make_sums ${CMAKE_SOURCE_DIR}/scripts/make-sums)\nset(lyt_version ${PROJECT_VERSION})")
-install(SCRIPT cmake/Checksums.cmake)
+install(CODE "set(lyt_scripts ${CMAKE_SOURCE_DIR}/scripts)\nset(lyt_version ${PROJECT_VERSION})")
+install(SCRIPT cmake/Completion.cmake)
 
 # The generator for zips takes the files in the order in which the file system tells them, and notes who owns them, so that
 # a script of ours makes the zip.

@@ -1,7 +1,7 @@
 #!/bin/sh
 # run-package.sh BUILD CMAKE CPACK VERSION: makes the package twice, which must give the same bytes, and looks at it: it
-# holds the files of package.contents and no others, its checksums and its list of contents hold, its pages link to what is
-# there, its tools tell the version and find nothing wrong with it, and a dialog opens from it. With LYT_UPDATE set it writes package.contents
+# holds the files of package.contents and no others, its checksums and its list of contents hold, its pages are there as HTML with a
+# search that finds each of their headings, its tools tell the version and find nothing wrong with it, and a dialog opens from it. With LYT_UPDATE set it writes package.contents
 # instead.
 set -u
 build=$1
@@ -40,11 +40,7 @@ grep -vx SHA256SUMS ../contents | diff -u - ../summed || complain "SHA256SUMS te
 "$cmake" --install "$build" --prefix "$folder/installed" >/dev/null || bad=1
 diff -r "$folder/installed" . || bad=1
 
-for page in *.md docs/*.md; do
-    for link in $(grep -o ']([^)#]*[)#]' "$page" | sed 's/^](//; s/[)#]$//' | grep -v '^[a-z]*:'); do
-        [ -e "$(dirname "$page")/$link" ] || complain "$page links to $link, which is not there"
-    done
-done
+"$here/check-pages.py" || complain "the pages are not all there as HTML"
 "$here/check-contents.py" "$version" || complain "lyt64.cdx.json does not list what is there"
 grep -q "^# lyt64 $version\$" README.md || complain "README.md tells another version"
 
