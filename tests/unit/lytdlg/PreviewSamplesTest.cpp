@@ -1,13 +1,11 @@
-// The drawings of the sample dialogs, laid over the windows themselves.
+// The drawings of the sample dialogs.
 #include "DrawnFolder.h"
 #include "WellFormed.h"
-#include "dialog/ClytDialog.h"
-#include "environment/ClytEnvironment.h"
-#include "lytdlg/try/TrialEnvironment.h"
-#include "robot/WindowRobot.h"
 
+#include <cstdlib>
 #include <fstream>
 #include <regex>
+#include <sstream>
 
 namespace
 {
@@ -16,59 +14,30 @@ const std::string samplesFolder = LYT_SOURCE_FOLDER "/samples/dialogs/";
 constexpr const char* sampleDialogs[] = {"finding",  "lytCdGrp", "lytInPhr", "lytInSym",
                                          "lytRpGrp", "lytWzGrp", "lytWzPhr", "lytWzSym"};
 
-using Places = std::vector<std::string>;
-
-std::string PlaceText(LONG left, LONG top, LONG width, LONG height)
+// The window and, a line each, the visible controls of a drawing: the place of each and, where it has a field or items, that of
+// their room.
+std::string PlacesOf(const std::string& svg)
 {
-    return std::to_string(left) + ", " + std::to_string(top) + ": " + std::to_string(width) + " by " +
-           std::to_string(height);
-}
-
-// The window itself with its visible children, in the order of their creation, as a call shows them.
-Places PlacesOfWindow(HWND dialog)
-{
-    RECT rect{};
-    GetWindowRect(dialog, &rect);
-    Places places = {PlaceText(0, 0, rect.right - rect.left, rect.bottom - rect.top)};
-    for (HWND child : robot::ChildrenOf(dialog))
-    {
-        if (IsWindowVisible(child) == FALSE)
-            continue;
-        rect = robot::PlaceOf(child);
-        places.push_back(PlaceText(rect.left, rect.top, rect.right - rect.left, rect.bottom - rect.top));
-    }
-    return places;
-}
-
-Places PlacesOfLiveDialog(const std::string& name, const std::string& language)
-{
-    const lytdlg::TrialEnvironment surroundings({.dialog = samplesFolder + name + ".dlg", .language = language});
-    Places places;
-    robot::Robot robot;
-    robot.On("",
-             [&](HWND window)
-             {
-                 places = PlacesOfWindow(window);
-                 robot::Press(GetDlgItem(window, IDCANCEL));
-             });
-    ClytDialog dialog(surroundings.DescriptionFile().c_str(), CString());
-    dialog.DoModal();
-    return places;
-}
-
-// The same, read from a drawing.
-Places PlacesOfDrawing(const std::string& svg)
-{
-    const std::regex root(R"re(<svg xmlns="[^"]*" width="(\d+)" height="(\d+)")re");
-    const std::regex control(
-        R"re(<g id="control-\d+">\s*<title>[^<]*</title>\s*<svg x="(-?\d+)" y="(-?\d+)" width="(\d+)" height="(\d+)">)re");
+    const std::regex title(" *<title>(.*)</title>");
+    const std::regex area(R"re( *<svg x="(-?\d+)" y="(-?\d+)" width="(\d+)" height="(\d+)">)re");
+    std::string places = "window:";
+    bool isDropList = false;
+    int areas = -1; // of the control; the window's bar is not counted
+    std::istringstream lines(svg);
     std::smatch match;
-    if (!std::regex_search(svg, match, root))
-        return {};
-    Places places = {PlaceText(0, 0, std::stoi(match[1]), std::stoi(match[2]))};
-    for (std::sregex_iterator found(svg.begin(), svg.end(), control); found != std::sregex_iterator(); ++found)
-        places.push_back(
-            PlaceText(std::stoi((*found)[1]), std::stoi((*found)[2]), std::stoi((*found)[3]), std::stoi((*found)[4])));
+    for (std::string line; std::getline(lines, line);)
+    {
+        if (std::regex_match(line, match, title) && areas > 0)
+        {
+            places += "\n" + match.str(1) + ":";
+            isDropList = match.str(1).ends_with("DropListBox");
+            areas = 0;
+        }
+        // What a list that drops down has inside is only the drawing's.
+        else if (std::regex_match(line, match, area) && ++areas > 0 && (areas == 1 || !isDropList))
+            places += (areas == 1 ? " " : ", ") + match.str(1) + ", " + match.str(2) + " " + match.str(3) + " by " +
+                      match.str(4);
+    }
     return places;
 }
 
@@ -94,17 +63,22 @@ protected:
 
 } // namespace
 
+// The windows of the library are compared with the same file, on either ground: sample-dialog-tests.
 TEST_F(PreviewOfSamples, HaveTheirControlsWhereTheWindowsHaveThem)
 {
-    for (const char* name : sampleDialogs)
+    for (const std::string dots : {"96", "120"})
     {
+        std::string places;
         for (const char* language : {"English", "German"})
         {
-            SCOPED_TRACE(std::string(name) + " in " + language);
-            const Places places = PlacesOfLiveDialog(name, language);
-            EXPECT_GT(places.size(), 5U);
-            EXPECT_EQ(PlacesOfDrawing(DrawSample(name, {"--language", language})), places);
+            for (const char* name : sampleDialogs)
+                places += std::string(name) + " in " + language + "\n" +
+                          PlacesOf(DrawSample(name, {"--language", language, "--dpi", dots})) + "\n\n";
         }
+        const std::string record = LYT_SOURCE_FOLDER "/tests/windows/samples/drawn-" + dots + ".txt";
+        if (std::getenv("LYT_UPDATE") != nullptr)
+            std::ofstream(record, std::ios::binary) << places;
+        EXPECT_EQ(places, FileText(record)) << "LYT_UPDATE=1 ctest --preset native -R lytdlg-tests writes it again";
     }
 }
 

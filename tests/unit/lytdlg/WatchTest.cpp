@@ -23,6 +23,24 @@ bool EndsAfter(lytdlg::Watch& watch, const std::function<void()>& act)
     return wait.wait_for(20s) == std::future_status::ready;
 }
 
+struct Enough
+{
+};
+
+const TestFolder* watchedFolder = nullptr;
+int timesDone = 0;
+
+// Changes a file each time, and fails in between.
+lytdlg::ExitCode ActThreeTimes(const lytdlg::Request& request)
+{
+    if (++timesDone == 3)
+        throw Enough();
+    watchedFolder->Write("a.dlg", std::string(static_cast<size_t>(timesDone), 'x'));
+    if (timesDone == 2)
+        throw std::runtime_error(request.operands.front() + " cannot be read");
+    return lytdlg::good;
+}
+
 } // namespace
 
 TEST(Watch, HearsOfFilesOfAFolderAndBelow)
@@ -65,4 +83,16 @@ TEST(Watch, MissesNothingBetweenTwoWaits)
     lytdlg::Watch watch({folder.Path()});
     folder.Write("a.dlg", "22");
     EXPECT_TRUE(EndsAfter(watch, [] {}));
+}
+
+// A file may be incomplete when it is read, and whole after the next change.
+TEST(Watch, DoesItAgainAfterEachChangeAndAfterAFailure)
+{
+    const TestFolder folder;
+    watchedFolder = &folder;
+    lytdlg::Request request;
+    request.operands = {folder.Path()};
+    request.Add("--watch", "");
+    EXPECT_THROW(lytdlg::DoWatching(request, ActThreeTimes), Enough);
+    EXPECT_EQ(timesDone, 3);
 }
