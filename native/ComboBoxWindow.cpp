@@ -39,9 +39,10 @@ void ComboBoxWindow::PlaceField() const
     Window* field = Desktop::Get().Find(m_edit);
     if (field == nullptr)
         return;
+    constexpr LONG margin = editMargin / 2;
     const SIZE size = ClientSize();
-    field->place = {editMargin / 2, editMargin / 2, size.cx - CurrentMetrics().scrollBarWidth - editMargin / 2,
-                    size.cy - editMargin / 2};
+    field->place = {margin, margin, std::max(margin, size.cx - CurrentMetrics().scrollBarWidth - margin),
+                    size.cy - margin};
 }
 
 SIZE ComboBoxWindow::Adjusted(SIZE wanted) const

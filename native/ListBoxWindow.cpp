@@ -13,10 +13,21 @@ int ListBoxWindow::LineHeightOfSystem()
     return LineHeight(nullptr);
 }
 
+// A list that may have a horizontal bar is created with one, and fits its height to whole items above it. Then the bar goes,
+// as there is nothing to scroll, and the list fits its height again.
+void ListBoxWindow::OnCreated()
+{
+    style &= ~DWORD{WS_HSCROLL};
+    Resize(Size());
+}
+
 SIZE ListBoxWindow::Adjusted(SIZE wanted) const
 {
-    const LONG frame = Frame().cy;
-    const LONG room = std::max<LONG>(0, wanted.cy - frame);
+    const LONG bar = CurrentMetrics().scrollBarWidth;
+    LONG frame = FrameOf(wanted).cy;
+    if (HasStyle(WS_HSCROLL) && wanted.cy - frame > bar)
+        frame += bar;
+    const LONG room = wanted.cy - frame;
     return {wanted.cx, room < m_itemHeight ? wanted.cy : room / m_itemHeight * m_itemHeight + frame};
 }
 
@@ -105,7 +116,7 @@ LRESULT ListBoxWindow::ChangeItems(UINT message, int index, const char* itemText
     }
     if (std::exchange(m_hadBar, HasBar()) != m_hadBar)
     {
-        place.bottom = place.top + Adjusted({0, place.bottom - place.top}).cy;
+        Resize(Size());
         m_top = std::min(m_top, LastTop());
     }
     return result;
@@ -147,6 +158,13 @@ int ListBoxWindow::ItemAt(LPARAM point) const
 {
     const int y = static_cast<short>(HIWORD(point));
     return y < 0 ? -1 : m_top + y / m_itemHeight;
+}
+
+// Where it would leave nothing, there is none.
+bool ListBoxWindow::HasBar() const
+{
+    return HasStyle(WS_VSCROLL) && m_items.Count() > VisibleItems() &&
+           Window::ClientSize().cx >= CurrentMetrics().scrollBarWidth;
 }
 
 int ListBoxWindow::VisibleItems() const

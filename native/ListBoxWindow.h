@@ -11,6 +11,7 @@ class ListBoxWindow : public Window
 {
 public:
     LRESULT Handle(UINT message, WPARAM wParam, LPARAM lParam) override;
+    void OnCreated() override;
     // Whole items only.
     SIZE Adjusted(SIZE wanted) const override;
     // Without the scroll bar, which is beside it.
@@ -23,7 +24,7 @@ private:
     bool IsOwnerDrawn() const { return HasStyle(LBS_OWNERDRAWFIXED); }
     int ItemAt(LPARAM point) const;
     int VisibleItems() const;
-    bool HasBar() const { return HasStyle(WS_VSCROLL) && m_items.Count() > VisibleItems(); }
+    bool HasBar() const;
     LRESULT ItemRect(int index, RECT& rect) const;
     LRESULT Select(int index);
     LRESULT Delete(int index);

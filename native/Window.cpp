@@ -68,11 +68,14 @@ void Window::Resize(SIZE wanted)
     place.bottom = place.top + size.cy;
 }
 
-SIZE Window::Frame() const
+// Where an edge would leave nothing, there is none.
+SIZE Window::FrameOf(SIZE whole) const
 {
-    const LONG edge = ((exStyle & WS_EX_CLIENTEDGE) != 0 ? 4 : 0) + (HasStyle(WS_BORDER) ? 2 : 0);
+    constexpr LONG edge = 4;
+    const LONG border = HasStyle(WS_BORDER) ? 2 : 0;
+    const bool hasEdge = (exStyle & WS_EX_CLIENTEDGE) != 0 && whole.cx - border > edge && whole.cy - border > edge;
     if (!HasStyle(WS_DLGFRAME))
-        return {edge, edge};
+        return hasEdge ? SIZE{border + edge, border + edge} : SIZE{border, border};
     const Metrics& metrics = CurrentMetrics();
     const LONG frame = HasStyle(WS_THICKFRAME) ? metrics.sizingFrame : metrics.fixedFrame;
     return {frame, frame + metrics.captionHeight};
@@ -80,9 +83,9 @@ SIZE Window::Frame() const
 
 SIZE Window::ClientSize() const
 {
+    const SIZE size = Size();
     const SIZE frame = Frame();
-    return {std::max<LONG>(0, place.right - place.left - frame.cx),
-            std::max<LONG>(0, place.bottom - place.top - frame.cy)};
+    return {std::max<LONG>(0, size.cx - frame.cx), std::max<LONG>(0, size.cy - frame.cy)};
 }
 
 RECT Window::ScreenPlace() const

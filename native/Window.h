@@ -45,8 +45,10 @@ public:
     // Visible and enabled itself; its parents do not matter.
     bool IsReady() const { return HasStyle(WS_VISIBLE) && !HasStyle(WS_DISABLED); }
     bool IsFocused() const;
-    // What the frame takes of the window's size.
-    SIZE Frame() const;
+    SIZE Size() const { return {place.right - place.left, place.bottom - place.top}; }
+    // What the frame takes of the window's size, or of another that it is given.
+    SIZE Frame() const { return FrameOf(Size()); }
+    SIZE FrameOf(SIZE whole) const;
     virtual SIZE ClientSize() const;
     // The window's place on the screen.
     RECT ScreenPlace() const;
