@@ -2,7 +2,9 @@
 #include "DrawnFolder.h"
 #include "WellFormed.h"
 
+#include <algorithm>
 #include <cstdlib>
+#include <filesystem>
 #include <fstream>
 #include <regex>
 #include <sstream>
@@ -10,9 +12,10 @@
 namespace
 {
 
-const std::string samplesFolder = LYT_SOURCE_FOLDER "/samples/dialogs/";
-constexpr const char* sampleDialogs[] = {"finding",  "lytCdGrp", "lytInPhr", "lytInSym",
-                                         "lytRpGrp", "lytWzGrp", "lytWzPhr", "lytWzSym"};
+const std::string drawnFolder = LYT_SOURCE_FOLDER "/tests/windows/samples/";
+// The last one has sizes that no sample has.
+constexpr const char* drawnDialogs[] = {"finding",  "lytCdGrp", "lytInPhr", "lytInSym", "lytRpGrp",
+                                        "lytWzGrp", "lytWzPhr", "lytWzSym", "sizes"};
 
 // The window and, a line each, the visible controls of a drawing: the place of each and, where it has a field or items, that of
 // their room.
@@ -41,6 +44,47 @@ std::string PlacesOf(const std::string& svg)
     return places;
 }
 
+struct Area
+{
+    int left = 0;
+    int top = 0;
+    int width = 0;
+    int height = 0;
+};
+
+// Pixels at a corner are not counted.
+bool Overlap(const Area& one, const Area& other)
+{
+    constexpr int corner = 6;
+    const int width = std::min(one.left + one.width, other.left + other.width) - std::max(one.left, other.left);
+    const int height = std::min(one.top + one.height, other.top + other.height) - std::max(one.top, other.top);
+    return width > 0 && height > 0 && width * height > corner;
+}
+
+std::vector<Area> AreasOf(const std::string& svg, const std::string& before, const std::string& after, int left = 0,
+                          int top = 0)
+{
+    const std::regex area(before + R"re( x="(-?\d+)" y="(-?\d+)" width="(\d+)" height="(\d+)")re" + after);
+    std::vector<Area> areas;
+    for (std::sregex_iterator found(svg.begin(), svg.end(), area); found != std::sregex_iterator(); ++found)
+        areas.push_back({std::stoi((*found)[1]) + left, std::stoi((*found)[2]) + top, std::stoi((*found)[3]),
+                         std::stoi((*found)[4])});
+    return areas;
+}
+
+// The names and numbers beside the dialog itself.
+std::vector<Area> NotesOf(const std::string& svg)
+{
+    return AreasOf(svg, "<rect", " fill=\"#ffffff\" fill-opacity");
+}
+
+// The controls that are nothing but a text, perhaps with a mark.
+std::vector<Area> PlacesOfTexts(const std::string& svg)
+{
+    const Area client = AreasOf(svg, "\n  <svg", "").at(1);
+    return AreasOf(svg, "(?:Text|CheckBox|OptionButton)</title>\\s*<svg", "", client.left, client.top);
+}
+
 std::string FileText(const std::string& name)
 {
     std::ifstream file(name, std::ios::binary);
@@ -50,10 +94,17 @@ std::string FileText(const std::string& name)
 class PreviewOfSamples : public Drawn
 {
 protected:
+    PreviewOfSamples()
+    {
+        std::filesystem::copy(LYT_SOURCE_FOLDER "/samples", folder.File("samples"),
+                              std::filesystem::copy_options::recursive);
+        folder.Write("samples/dialogs/sizes.dlg", FileText(drawnFolder + "sizes.dlg"));
+    }
+
     std::string DrawSample(const std::string& name, std::vector<std::string> options)
     {
         const std::string target = folder.File(name + ".svg");
-        options.insert(options.begin(), {"preview", samplesFolder + name + ".dlg", "-o", target});
+        options.insert(options.begin(), {"preview", folder.File("samples/dialogs/" + name + ".dlg"), "-o", target});
         Run(options);
         EXPECT_EQ(told, "");
         EXPECT_EQ(exitCode, 0);
@@ -71,14 +122,35 @@ TEST_F(PreviewOfSamples, HaveTheirControlsWhereTheWindowsHaveThem)
         std::string places;
         for (const char* language : {"English", "German"})
         {
-            for (const char* name : sampleDialogs)
+            for (const char* name : drawnDialogs)
                 places += std::string(name) + " in " + language + "\n" +
                           PlacesOf(DrawSample(name, {"--language", language, "--dpi", dots})) + "\n\n";
         }
-        const std::string record = LYT_SOURCE_FOLDER "/tests/windows/samples/drawn-" + dots + ".txt";
+        const std::string record = drawnFolder + "drawn-" + dots + ".txt";
         if (std::getenv("LYT_UPDATE") != nullptr)
             std::ofstream(record, std::ios::binary) << places;
         EXPECT_EQ(places, FileText(record)) << "LYT_UPDATE=1 ctest --preset native -R lytdlg-tests writes it again";
+    }
+}
+
+TEST_F(PreviewOfSamples, HaveNamesAndNumbersThatCoverNeitherTextsNorEachOther)
+{
+    for (const std::string dots : {"96", "120"})
+    {
+        for (const char* name : drawnDialogs)
+        {
+            const std::string svg = DrawSample(name, {"--names", "--tabs", "--dpi", dots});
+            const std::vector<Area> notes = NotesOf(svg);
+            EXPECT_GT(notes.size(), 10U) << name;
+            const std::vector<Area> read = PlacesOfTexts(svg);
+            for (size_t index = 0; index < notes.size(); ++index)
+            {
+                const auto covers = [&](const Area& other) { return Overlap(notes[index], other); };
+                EXPECT_TRUE(std::ranges::none_of(read, covers)) << name << " at " << dots << ", note " << index;
+                EXPECT_TRUE(std::none_of(notes.begin(), notes.begin() + static_cast<std::ptrdiff_t>(index), covers))
+                    << name << " at " << dots << ", note " << index;
+            }
+        }
     }
 }
 

@@ -126,7 +126,7 @@ A pixel is where the window has it.
   > END
   $ lytdlg preview small.dlg --language Test
   <?xml version="1.0" encoding="UTF-8"?>
-  <svg xmlns="http://www.w3.org/2000/svg" width="155" height="135" viewBox="0 0 155 135" font-family="Tahoma, &#39;DejaVu Sans Condensed&#39;, &#39;Liberation Sans&#39;, sans-serif" font-size="10.6">
+  <svg xmlns="http://www.w3.org/2000/svg" width="155" height="135" viewBox="0 0 155 135" font-family="Tahoma, &#39;DejaVu Sans Condensed&#39;, &#39;Liberation Sans&#39;, sans-serif" font-size="11">
     <title>A &amp; B &lt;1&gt;</title>
     <rect x="0.5" y="0.5" width="154" height="134" fill="#f4f4f4" stroke="#696969"/>
     <rect x="3" y="3" width="149" height="18" fill="#3399ff"/>

@@ -1,5 +1,7 @@
 #include "SampleDialog.h"
 
+#include <filesystem>
+
 void PrintTo(const Sample& sample, std::ostream* out)
 {
     *out << sample.file << " in " << sample.language;
@@ -20,7 +22,7 @@ std::vector<Sample> Samples()
 
 std::string NameOfSample(const testing::TestParamInfo<Sample>& sample)
 {
-    return std::string(sample.param.file) + "In" + sample.param.language;
+    return std::filesystem::path(sample.param.file).filename().string() + "In" + sample.param.language;
 }
 
 int SampleDialog::Open()

@@ -11,8 +11,9 @@ namespace
 {
 
 constexpr int markSize = 13; // of a check box, at 96 dots per inch
-constexpr int markGap = 4;   // between the mark and its text
-constexpr int arrowWidth = 17;
+// Between a mark and its text, and before the text of a group; they do not grow with the resolution.
+constexpr int markGap = 4;
+constexpr int groupIndent = 8;
 
 const char* TextColor(const SeenControl& control)
 {
@@ -27,6 +28,20 @@ const char* FieldColor(const SeenControl& control)
 int Middle(int outer, int inner)
 {
     return (outer - inner) / 2;
+}
+
+// The frame of a field or a list. It has an inner edge where it is wide enough.
+void DrawFrame(SvgPen& pen, const SeenControl& control)
+{
+    const int width = control.place.width;
+    const int height = control.place.height;
+    pen.Frame({0, 0, width, height}, FieldColor(control), color::edge);
+    if (control.inside.left < 3)
+        return;
+    pen.Line(2, 2, width - 3, 2, color::shadow);
+    pen.Line(2, 2, 2, height - 3, color::shadow);
+    pen.Line(2, height - 3, width - 3, height - 3, color::light);
+    pen.Line(width - 3, 2, width - 3, height - 3, color::light);
 }
 
 // The lines of a text that is broken between words where it is too wide.
@@ -70,18 +85,18 @@ void DrawLabel(SvgPen& pen, const SeenControl& control)
     }
 }
 
-// A line of text in a field, with what is selected while the field has the focus.
-void DrawFieldText(SvgPen& pen, const SeenControl& control, const Area& field)
+// A line of text in a field, with what is selected while the field has the focus. A field without a frame has no margin.
+void DrawFieldText(SvgPen& pen, const SeenControl& control, const Area& field, int margin)
 {
     pen.BeginClip(field);
-    const int top = field.height > pen.TextHeight() + 1 ? 1 : 0;
-    pen.Text(1, top, control.text, TextColor(control), field.width);
+    const int top = field.height > pen.TextHeight() + margin ? margin : 0;
+    pen.Text(margin, top, control.text, TextColor(control), field.width);
     const int length = static_cast<int>(control.text.size());
     const int from = std::clamp(control.selectedFrom, 0, length);
     const int to = std::clamp(control.selectedTo, 0, length);
     if (control.hasFocus && from < to)
     {
-        const int left = 1 + pen.WidthOf(control.text.substr(0, static_cast<size_t>(from)));
+        const int left = margin + pen.WidthOf(control.text.substr(0, static_cast<size_t>(from)));
         const std::string selected = control.text.substr(static_cast<size_t>(from), static_cast<size_t>(to - from));
         const int width = std::min(pen.WidthOf(selected), field.width);
         pen.Fill({left, top, width, pen.TextHeight()}, color::chosen);
@@ -92,18 +107,26 @@ void DrawFieldText(SvgPen& pen, const SeenControl& control, const Area& field)
 
 void DrawField(SvgPen& pen, const SeenControl& control)
 {
-    pen.SunkenFrame(control.place.width, control.place.height, FieldColor(control));
-    DrawFieldText(pen, control, control.inside);
+    DrawFrame(pen, control);
+    DrawFieldText(pen, control, control.inside, 1);
 }
 
-void DrawArrow(SvgPen& pen, const Area& button, const char* stroke)
+enum class Arrow
+{
+    Up,
+    Down
+};
+
+void DrawArrow(SvgPen& pen, const Area& button, Arrow arrow, const char* stroke)
 {
     pen.Frame(button, color::window, color::edge, {{"rx", 2}});
+    const bool isUp = arrow == Arrow::Up;
     const int x = button.left + Middle(button.width, 0);
-    const int y = button.top + Middle(button.height, 0);
-    pen.markup.Empty("path", {{"d", "M" + std::to_string(x - 3) + " " + std::to_string(y - 1) + "l3 3l3 -3"},
-                              {"fill", "none"},
-                              {"stroke", stroke}});
+    const int y = button.top + Middle(button.height, 0) + (isUp ? 1 : -1);
+    pen.markup.Empty("path",
+                     {{"d", "M" + std::to_string(x - 3) + " " + std::to_string(y) + (isUp ? "l3 -3l3 3" : "l3 3l3 -3")},
+                      {"fill", "none"},
+                      {"stroke", stroke}});
 }
 
 void DrawCombo(SvgPen& pen, const SeenControl& control)
@@ -112,10 +135,12 @@ void DrawCombo(SvgPen& pen, const SeenControl& control)
     const int height = control.place.height;
     pen.Frame({0, 0, width, height}, FieldColor(control), color::edge);
     const int arrow = pen.Scaled(arrowWidth);
-    DrawArrow(pen, {width - arrow - 2, 2, arrow, height - 4}, TextColor(control));
+    const Area button = {width - arrow - 2, 2, arrow, height - 4};
+    pen.KeepFree(button);
+    DrawArrow(pen, button, Arrow::Down, TextColor(control));
     if (control.field.width > 0)
     {
-        DrawFieldText(pen, control, control.field);
+        DrawFieldText(pen, control, control.field, 0);
         return;
     }
     const Area text = {3, 3, width - arrow - 6, height - 6};
@@ -129,6 +154,7 @@ void DrawCombo(SvgPen& pen, const SeenControl& control)
 
 void DrawMark(SvgPen& pen, const Area& box, bool isChecked, const SeenControl& control)
 {
+    pen.KeepFree(box);
     pen.Frame(box, FieldColor(control), color::edge, {{"rx", 2}});
     if (!isChecked)
         return;
@@ -144,22 +170,17 @@ void DrawMark(SvgPen& pen, const Area& box, bool isChecked, const SeenControl& c
 
 void DrawScrollBar(SvgPen& pen, const Area& bar, const SeenControl& control)
 {
+    pen.KeepFree(bar);
     pen.Fill(bar, color::light);
     const int count = static_cast<int>(control.items.size());
     const int shown = std::max(1, control.inside.height / std::max(1, control.firstItem.height));
-    const int room = std::max(0, bar.height - 2 * bar.width);
+    const int arrow = std::min(bar.width, bar.height / 2);
+    const int room = bar.height - 2 * arrow;
     const int thumb = std::min(room, std::max(8, room * shown / std::max(1, count)));
-    const int top = bar.top + bar.width + (room - thumb) * control.topItem / std::max(1, count - shown);
+    const int top = bar.top + arrow + (room - thumb) * control.topItem / std::max(1, count - shown);
     pen.Frame({bar.left, top, bar.width, thumb}, color::window, color::edge);
-    for (const bool isUpper : {true, false})
-    {
-        const int x = bar.left + bar.width / 2;
-        const int y = isUpper ? bar.top + bar.width / 2 + 1 : bar.top + bar.height - bar.width / 2 - 1;
-        pen.markup.Empty("path", {{"d", "M" + std::to_string(x - 3) + " " + std::to_string(y) +
-                                            (isUpper ? "l3 -3l3 3" : "l3 3l3 -3")},
-                                  {"fill", "none"},
-                                  {"stroke", color::text}});
-    }
+    DrawArrow(pen, {bar.left, bar.top, bar.width, arrow}, Arrow::Up, color::text);
+    DrawArrow(pen, {bar.left, bar.top + bar.height - arrow, bar.width, arrow}, Arrow::Down, color::text);
 }
 
 void DrawItem(SvgPen& pen, const SeenControl& control, size_t index, const Area& item)
@@ -184,7 +205,7 @@ void DrawItem(SvgPen& pen, const SeenControl& control, size_t index, const Area&
 
 void DrawList(SvgPen& pen, const SeenControl& control)
 {
-    pen.SunkenFrame(control.place.width, control.place.height, FieldColor(control));
+    DrawFrame(pen, control);
     if (control.items.empty() || control.firstItem.height <= 0)
         return;
     // On some platforms the inside ends where the scroll bar begins.
@@ -202,7 +223,7 @@ void DrawList(SvgPen& pen, const SeenControl& control)
 
 void DrawMarkedCaption(SvgPen& pen, const SeenControl& control, int mark)
 {
-    pen.TextOf(Caption(control.text), mark + pen.Scaled(markGap), Middle(control.place.height, pen.TextHeight()),
+    pen.TextOf(Caption(control.text), mark + markGap, Middle(control.place.height, pen.TextHeight()),
                TextColor(control), control.place.width);
 }
 
@@ -216,6 +237,7 @@ void DrawCheckBox(SvgPen& pen, const SeenControl& control)
 void DrawOption(SvgPen& pen, const SeenControl& control)
 {
     const int side = pen.Scaled(markSize);
+    pen.KeepFree({0, Middle(control.place.height, side), side, side});
     const std::string x = std::to_string(side / 2) + ".5";
     const std::string y = std::to_string(control.place.height / 2) + ".5";
     pen.markup.Empty("circle", {{"cx", x},
@@ -235,10 +257,9 @@ void DrawGroupFrame(SvgPen& pen, const SeenControl& control)
     pen.Frame({0, line, control.place.width, control.place.height - line}, "none", color::edge, {{"rx", 2}});
     if (caption.shown.empty())
         return;
-    const int left = pen.Scaled(8);
-    const int width = std::min(pen.WidthOf(caption.shown), control.place.width - 2 * left);
-    pen.Fill({left - 1, 0, width + 2, pen.TextHeight()}, color::face);
-    pen.TextOf(caption, left, 0, TextColor(control), left + width);
+    const int width = std::min(pen.WidthOf(caption.shown), control.place.width - 2 * groupIndent);
+    pen.Fill({groupIndent - 1, 0, width + 2, pen.TextHeight()}, color::face);
+    pen.TextOf(caption, groupIndent, 0, TextColor(control), groupIndent + width);
 }
 
 void DrawButton(SvgPen& pen, const SeenControl& control)

@@ -4,6 +4,7 @@
 #include "controls/TypeWords.h"
 
 #include <algorithm>
+#include <cstdlib>
 
 namespace lytdlg
 {
@@ -16,14 +17,11 @@ namespace
 constexpr int frameWidth = 3;
 constexpr int titleIndent = 2;
 // The dialog's font has eight points.
-constexpr int fontPoints = 8;
-constexpr int pointsPerInch = 72;
-
-// What a font has of a size in pixels, to one hundredth.
-std::string FontSize(int pixelsPerInch)
+int FontSize(int pixelsPerInch)
 {
-    const int hundredths = fontPoints * pixelsPerInch * 100 / pointsPerInch;
-    return std::to_string(hundredths / 100) + "." + std::to_string(hundredths % 100 / 10);
+    constexpr int points = 8;
+    constexpr int pointsPerInch = 72;
+    return (points * pixelsPerInch + pointsPerInch / 2) / pointsPerInch;
 }
 
 void DrawWindow(SvgPen& pen, const SeenDialog& dialog)
@@ -31,6 +29,7 @@ void DrawWindow(SvgPen& pen, const SeenDialog& dialog)
     pen.Frame({0, 0, dialog.width, dialog.height}, color::face, color::shadow);
     const int height = dialog.client.top - frameWidth - 1;
     const Area caption = {frameWidth, frameWidth, dialog.width - 2 * frameWidth, height};
+    pen.KeepFree(caption);
     pen.Fill(caption, color::chosen);
     const Area close = {caption.width - height + 2, 2, height - 4, height - 4};
     pen.BeginClip(caption);
@@ -46,25 +45,55 @@ void DrawWindow(SvgPen& pen, const SeenDialog& dialog)
     pen.EndClip();
 }
 
-// Nothing that is read is covered: a label has its name below, a box after its text, a button at its lower edge. Others
-// have room inside.
+// At the first place that covers nothing; else at that which covers the least, or near by.
+void DrawNote(SvgPen& pen, const std::vector<Spot>& places, const std::string& text, const char* fill)
+{
+    constexpr int weight = 20; // of a pixel that is covered, beside one of distance
+    const auto covered = [&](Spot place) { return pen.CoveredByNote(place, text); };
+    Spot best = *std::ranges::min_element(places, {}, covered);
+    int least = weight * covered(best);
+    constexpr int farthest = 3;
+    const int step = pen.NoteHeight();
+    for (int right = -farthest * 2 * step; right <= farthest * 2 * step; right += 2 * step)
+    {
+        for (int down = -farthest * step; down <= farthest * step; down += step)
+        {
+            const Spot shifted = {places.front().left + right, places.front().top + down};
+            // The farther away, the less clear is what it belongs to.
+            const int cost = weight * covered(shifted) + 2 * std::abs(right) + std::abs(down);
+            if (cost < least)
+            {
+                best = shifted;
+                least = cost;
+            }
+        }
+    }
+    pen.Note(best, text, fill);
+}
+
+// Where the text of a control ends at the right, at the latest.
+int EndOfRoom(const SvgPen& pen, const SeenControl& control)
+{
+    const ClytType& type = lytTypeOf(control.type);
+    if (type.isOpenList && !control.items.empty())
+        return control.inside.left + control.firstItem.width;
+    return control.place.width - (type.hasItems && !type.isOpenList ? pen.Scaled(arrowWidth) + 2 : 0);
+}
+
+// A label has its name below, a box after its text, a button at its lower edge; others have room inside.
 void DrawName(SvgPen& pen, const SeenControl& control)
 {
-    if (control.name.empty())
-        return;
     const Area& place = control.place;
-    const int right = place.left + place.width;
-    const int bottom = place.top + place.height;
     const ClytType& type = lytTypeOf(control.type);
-    const int inside = std::max(place.left + 2, right - pen.NoteWidth(control.name) - 2);
-    if (type.kind == ClytKind::Text)
-        pen.Note(place.left, bottom, control.name, color::name);
-    else if (type.isChecked)
-        pen.Note(right + 3, place.top + 1, control.name, color::name);
-    else if (type.isButton)
-        pen.Note(inside, bottom - pen.Scaled(4), control.name, color::name);
-    else
-        pen.Note(inside, place.top + 1, control.name, color::name);
+    const int bottom = place.top + place.height;
+    const int inside = std::max(2, EndOfRoom(pen, control) - pen.NoteWidth(control.name) - 2) + place.left;
+    const Spot below = {place.left, bottom};
+    const Spot after = {place.left + place.width + 3, place.top + 1};
+    const Spot atEdge = {inside, bottom - pen.Scaled(4)};
+    const Spot within = {inside, place.top + 1};
+    const Spot first = type.kind == ClytKind::Text ? below : type.isChecked ? after : type.isButton ? atEdge : within;
+    DrawNote(pen, {first, {inside, bottom - pen.NoteHeight() - 2}, atEdge, below, {inside, bottom}, after},
+             control.name, color::name);
 }
 
 // A number in brackets belongs to a control that the Tab key passes over in the dialog as it is.
@@ -72,7 +101,10 @@ void DrawTabNumber(SvgPen& pen, const SeenControl& control)
 {
     const std::string number = std::to_string(control.tabNumber);
     const std::string shown = control.isEnabled && control.isShown ? number : "(" + number + ")";
-    pen.Note(control.place.left - 2, control.place.top - 3, shown, color::tab);
+    const Area& place = control.place;
+    const Spot corner = {place.left - 2, place.top - 3};
+    const Spot before = {place.left - pen.NoteWidth(shown) - 2, place.top};
+    DrawNote(pen, {corner, before, {place.left + place.width + 2, place.top}}, shown, color::tab);
 }
 
 class Drawing
@@ -94,7 +126,9 @@ public:
         m_pen.BeginClip(m_dialog.client);
         ForEach([this](const SeenControl& control, size_t number) { Place(control, number); });
         m_pen.EndClip();
-        ForEach([this](const SeenControl& control, size_t /*number*/) { Annotate(control); });
+        // A name has more room to go to than a number.
+        ForEach([this](const SeenControl& control, size_t /*number*/) { Number(control); });
+        ForEach([this](const SeenControl& control, size_t /*number*/) { Name(control); });
         m_pen.markup.Close();
         return m_pen.markup.Text();
     }
@@ -131,12 +165,16 @@ private:
         m_pen.markup.Close();
     }
 
-    void Annotate(const SeenControl& control)
+    void Number(const SeenControl& control)
     {
-        if (m_style.showsNames)
-            DrawName(m_pen, control);
         if (m_style.showsTabs && control.tabNumber > 0)
             DrawTabNumber(m_pen, control);
+    }
+
+    void Name(const SeenControl& control)
+    {
+        if (m_style.showsNames && !control.name.empty())
+            DrawName(m_pen, control);
     }
 
     const SeenDialog& m_dialog;

@@ -26,6 +26,19 @@ std::string WithFixedBlanks(const std::string& utf8)
     return fixed;
 }
 
+Area Common(const Area& one, const Area& other)
+{
+    const int left = std::max(one.left, other.left);
+    const int top = std::max(one.top, other.top);
+    return {left, top, std::max(0, std::min(one.left + one.width, other.left + other.width) - left),
+            std::max(0, std::min(one.top + one.height, other.top + other.height) - top)};
+}
+
+int SizeOf(const Area& area)
+{
+    return area.width * area.height;
+}
+
 } // namespace
 
 Caption::Caption(const std::string& text)
@@ -42,6 +55,8 @@ Caption::Caption(const std::string& text)
         shown += text[place];
     }
 }
+
+SvgPen::SvgPen(const SeenDialog& dialog) : m_dialog(dialog), m_clips{{0, 0, {0, 0, dialog.width, dialog.height}}} {}
 
 void SvgPen::Fill(const Area& area, const char* fill)
 {
@@ -73,26 +88,31 @@ void SvgPen::Line(int fromX, int fromY, int toX, int toY, const char* stroke)
                           {"stroke", stroke}});
 }
 
-void SvgPen::SunkenFrame(int width, int height, const char* fill)
-{
-    Frame({0, 0, width, height}, fill, color::edge);
-    if (width < 6 || height < 6)
-        return;
-    Line(2, 2, width - 3, 2, color::shadow);
-    Line(2, 2, 2, height - 3, color::shadow);
-    Line(2, height - 3, width - 3, height - 3, color::light);
-    Line(width - 3, 2, width - 3, height - 3, color::light);
-}
-
 void SvgPen::BeginClip(const Area& area)
 {
     markup.Open(
         "svg",
         {{"x", area.left}, {"y", area.top}, {"width", std::max(0, area.width)}, {"height", std::max(0, area.height)}});
+    const Clip& outer = m_clips.back();
+    const Area place = {outer.left + area.left, outer.top + area.top, area.width, area.height};
+    m_clips.push_back({place.left, place.top, Common(outer.seen, place)});
+}
+
+void SvgPen::EndClip()
+{
+    markup.Close();
+    m_clips.pop_back();
+}
+
+void SvgPen::KeepFree(const Area& area)
+{
+    const Clip& clip = m_clips.back();
+    m_kept.push_back(Common(clip.seen, {clip.left + area.left, clip.top + area.top, area.width, area.height}));
 }
 
 void SvgPen::Text(int left, int top, const std::string& shown, const char* fill, int limit)
 {
+    const int begin = left;
     std::string places;
     std::string seen;
     for (const char ch : shown)
@@ -105,6 +125,7 @@ void SvgPen::Text(int left, int top, const std::string& shown, const char* fill,
     }
     if (seen.empty())
         return;
+    KeepFree({begin, top, std::min(left, limit) - begin, TextHeight()});
     const std::string utf8 = commandline::ToUtf8(seen);
     // In a code page with characters of two bytes only the first has a place that is known.
     if (CharacterCount(utf8) != seen.size())
@@ -124,22 +145,36 @@ void SvgPen::TextOf(const Caption& caption, int left, int top, const char* fill,
         Fill({from, BaselineOf(top) + 1, width, 1}, fill);
 }
 
-void SvgPen::Note(int left, int top, const std::string& text, const char* fill)
+Area SvgPen::NoteArea(Spot place, const std::string& text) const
 {
-    const int height = TextHeight() * 3 / 4;
-    const int width = NoteWidth(text);
-    markup.Empty("rect", {{"x", left - 1},
-                          {"y", top},
-                          {"width", width + 2},
-                          {"height", height + 1},
+    return {place.left - 1, place.top, NoteWidth(text) + 2, NoteHeight() + 1};
+}
+
+int SvgPen::CoveredByNote(Spot place, const std::string& text) const
+{
+    const Area area = NoteArea(place, text);
+    int covered = SizeOf(area) - SizeOf(Common(area, m_clips.front().seen));
+    for (const Area& kept : m_kept)
+        covered += SizeOf(Common(area, kept));
+    return covered;
+}
+
+void SvgPen::Note(Spot place, const std::string& text, const char* fill)
+{
+    const Area area = NoteArea(place, text);
+    KeepFree(area);
+    markup.Empty("rect", {{"x", area.left},
+                          {"y", area.top},
+                          {"width", area.width},
+                          {"height", area.height},
                           {"fill", color::window},
                           {"fill-opacity", "0.85"}});
     markup.Leaf("text",
-                {{"x", left},
-                 {"y", top + height - height / 5},
+                {{"x", place.left},
+                 {"y", place.top + NoteHeight() - NoteHeight() / 5},
                  {"fill", fill},
                  {"font-size", Scaled(8)},
-                 {"textLength", width},
+                 {"textLength", NoteWidth(text)},
                  {"lengthAdjust", "spacingAndGlyphs"}},
                 WithFixedBlanks(commandline::ToUtf8(text)));
 }

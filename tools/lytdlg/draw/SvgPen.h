@@ -22,6 +22,14 @@ inline constexpr const char* name = "#0050c8";
 inline constexpr const char* tab = "#c84800";
 } // namespace color
 
+inline constexpr int arrowWidth = 17; // of the button of a combo box, at 96 dots per inch
+
+struct Spot
+{
+    int left = 0;
+    int top = 0;
+};
+
 // A caption as it is shown: "&&" is an ampersand, and another "&" underlines the character after it.
 struct Caption
 {
@@ -34,7 +42,7 @@ struct Caption
 class SvgPen
 {
 public:
-    explicit SvgPen(const SeenDialog& dialog) : m_dialog(dialog) {}
+    explicit SvgPen(const SeenDialog& dialog);
 
     Markup markup;
 
@@ -42,27 +50,40 @@ public:
     // A line of one pixel just inside the area.
     void Frame(const Area& area, const char* fill, const char* stroke, const Attributes& more = {});
     void Line(int fromX, int fromY, int toX, int toY, const char* stroke);
-    // The frame of a field or a list.
-    void SunkenFrame(int width, int height, const char* fill);
     // What follows is seen inside the area only, and counts from its corner.
     void BeginClip(const Area& area);
-    void EndClip() { markup.Close(); }
+    void EndClip();
     // A text in the code page, from its top left corner; what begins right of `limit` is left out.
     void Text(int left, int top, const std::string& shown, const char* fill, int limit);
     void TextOf(const Caption& caption, int left, int top, const char* fill, int limit);
-    // A text that says something about a drawing, and not the dialog itself.
-    void Note(int left, int top, const std::string& text, const char* fill);
+    // No note is to cover the area. That of a text is kept free anyway.
+    void KeepFree(const Area& area);
+    // A text that says something about a drawing, and not the dialog itself, from its top left corner.
+    void Note(Spot place, const std::string& text, const char* fill);
+    // How much of what is kept free a note would cover there, and how much of it would be outside the window.
+    int CoveredByNote(Spot place, const std::string& text) const;
     int NoteWidth(const std::string& text) const { return m_dialog.WidthOf(text) * 3 / 4; }
+    int NoteHeight() const { return TextHeight() * 3 / 4; }
 
     // Lengths that grow with the resolution, given at 96 dots per inch.
-    int Scaled(int pixels96) const { return pixels96 * m_dialog.pixelsPerInch / 96; }
+    int Scaled(int pixels96) const { return (pixels96 * m_dialog.pixelsPerInch + 48) / 96; }
     int TextHeight() const { return m_dialog.textHeight; }
     int WidthOf(const std::string& shown) const { return m_dialog.WidthOf(shown); }
 
 private:
+    struct Clip
+    {
+        int left = 0; // of what is counted from, in the window
+        int top = 0;
+        Area seen; // in the window
+    };
+
     int BaselineOf(int top) const { return top + m_dialog.textHeight - m_dialog.textHeight / 5; }
+    Area NoteArea(Spot place, const std::string& text) const;
 
     const SeenDialog& m_dialog;
+    std::vector<Clip> m_clips;
+    std::vector<Area> m_kept; // in the window
 };
 
 struct SvgStyle
