@@ -16,6 +16,7 @@ namespace
 
 constexpr int frameWidth = 3;
 constexpr int titleIndent = 2;
+
 // The dialog's font has eight points.
 int FontSize(int pixelsPerInch)
 {

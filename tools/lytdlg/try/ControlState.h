@@ -51,7 +51,7 @@ std::optional<std::string> ValueOf(ClytControl& control);
 enum class Taking
 {
     Taken,
-    Unknown,   // it is none of its options, items or states
+    Unknown,   // it is not one of its options, items or states
     OutOfReach // an item that an input cannot choose
 };
 Taking TakingOf(const ClytControl& control, const CString& value);
