@@ -1,4 +1,4 @@
-// Tells of items that the output cuts off, and of those that the input cuts at another place than where they end.
+// Tells of items that the output cuts short, and of items that the input does not cut where they end.
 #pragma once
 
 #include "lytdlg/trip/TripComparison.h"
