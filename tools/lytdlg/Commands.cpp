@@ -40,7 +40,7 @@ const std::vector<Command>& Commands()
     static const std::vector<Command> commands = {
         CheckCommand(),   RunCommand(),   ScanCommand(),   ComposeCommand(), RoundtripCommand(),
         WhyCommand(),     TestCommand(),  FmtCommand(),    TextsCommand(),   NewCommand(),
-        PreviewCommand(), GraphCommand(), DoctorCommand(), HelpCommand(),
+        PreviewCommand(), GraphCommand(), DoctorCommand(), LspCommand(),     HelpCommand(),
     };
     return commands;
 }

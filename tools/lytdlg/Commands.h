@@ -35,6 +35,7 @@ Command NewCommand();
 Command PreviewCommand();
 Command GraphCommand();
 Command DoctorCommand();
+Command LspCommand();
 
 // Every command, in the order of the help.
 const std::vector<Command>& Commands();

@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <tuple>
+#include <utility>
 
 namespace lytdlg
 {
@@ -87,17 +88,33 @@ const std::vector<std::string>& FolderTexts::Names() const
 
 const std::vector<DescriptionTexts>& FolderTexts::All() const
 {
-    if (!m_all)
+    if (m_isAllRead)
+        return m_all;
+    std::vector<DescriptionTexts> known = std::exchange(m_all, {});
+    for (const std::filesystem::path& file : Files())
     {
-        m_all.emplace();
-        for (const std::filesystem::path& file : Files())
-        {
-            const std::optional<std::string> bytes = ReadWholeFile(file);
-            m_all->push_back(TextsOf(file.filename().string(), bytes.value_or("")));
-            m_all->back().isRead = bytes.has_value();
-        }
+        const std::string name = file.filename().string();
+        const auto found = std::ranges::find(known, name, &DescriptionTexts::fileName);
+        m_all.push_back(found != known.end() ? std::move(*found) : Read(file));
     }
-    return *m_all;
+    m_isAllRead = true;
+    return m_all;
+}
+
+DescriptionTexts FolderTexts::Read(const std::filesystem::path& file)
+{
+    const std::optional<std::string> bytes = ReadWholeFile(file);
+    DescriptionTexts texts = TextsOf(file.filename().string(), bytes.value_or(""));
+    texts.isRead = bytes.has_value();
+    return texts;
+}
+
+void FolderTexts::Forget(const std::string& fileName)
+{
+    m_files.reset();
+    m_names.reset();
+    m_isAllRead = false;
+    std::erase_if(m_all, [&](const DescriptionTexts& texts) { return texts.fileName == fileName; });
 }
 
 std::string FolderTexts::FirstOf(const std::string& section) const

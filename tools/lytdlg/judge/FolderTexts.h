@@ -39,14 +39,18 @@ public:
     std::string FirstOf(const std::string& section) const;
     // Whether one of them opens the dialog of that name.
     bool Open(const std::string& dialog) const;
+    // Reads that file anew when it is asked for the next time, be it there or not.
+    void Forget(const std::string& fileName);
 
 private:
     const std::vector<std::filesystem::path>& Files() const;
+    static DescriptionTexts Read(const std::filesystem::path& file);
 
     std::string m_folder;
     mutable std::optional<std::vector<std::filesystem::path>> m_files;
     mutable std::optional<std::vector<std::string>> m_names;
-    mutable std::optional<std::vector<DescriptionTexts>> m_all;
+    mutable std::vector<DescriptionTexts> m_all;
+    mutable bool m_isAllRead = false;
 };
 
 } // namespace lytdlg

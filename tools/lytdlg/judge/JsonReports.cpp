@@ -1,10 +1,9 @@
 #include "commandline/Text.h"
 #include "lytdlg/judge/Report.h"
 #include "lytdlg/text/TextFile.h"
+#include "lytdlg/text/Uri.h"
 
 #include <nlohmann/json.hpp>
-
-#include <cctype>
 
 namespace lytdlg
 {
@@ -127,25 +126,6 @@ private:
                                   {"insertedContent", {{"text", commandline::ToUtf8(fix.text)}}}};
         const Json change = {{"artifactLocation", file}, {"replacements", Json::array({replacement})}};
         return {{"artifactChanges", Json::array({change})}};
-    }
-
-    // A relative reference, or that of a file; what is no plain letter of an address is written in numbers.
-    static std::string UriOf(const std::string& path)
-    {
-        const std::string plain = "-._~/:";
-        std::string uri;
-        for (const char ch : path)
-        {
-            const auto byte = static_cast<unsigned char>(ch);
-            if (ch == '\\')
-                uri += '/';
-            else if ((byte < 0x80 && std::isalnum(byte) != 0) || plain.find(ch) != std::string::npos)
-                uri += ch;
-            else
-                uri += std::string("%") + "0123456789ABCDEF"[byte >> 4] + "0123456789ABCDEF"[byte & 15];
-        }
-        const bool hasDrive = uri.size() > 1 && uri[1] == ':';
-        return uri.starts_with('/') ? "file://" + uri : hasDrive ? "file:///" + uri : uri;
     }
 
     Json m_results = Json::array();

@@ -1,6 +1,7 @@
 #include "lytdlg/text/TextFile.h"
 
 #include "commandline/Program.h"
+#include "lytdlg/text/OpenTexts.h"
 #include "lytdlg/text/Paths.h"
 
 #include <nlohmann/json.hpp>
@@ -15,6 +16,7 @@
 #include <cstdio>
 #include <filesystem>
 #include <fstream>
+#include <iterator>
 #include <stdexcept>
 
 namespace lytdlg
@@ -109,6 +111,8 @@ std::string EscapeOf(char ch)
 
 std::optional<std::string> ReadWholeFile(const fs::path& name)
 {
+    if (const std::string* open = OpenTexts::Find(name))
+        return *open;
     std::error_code ignored;
     const fs::file_status status = fs::status(name, ignored);
     std::ifstream file;
@@ -180,7 +184,10 @@ std::vector<fs::path> FilesIn(const fs::path& folder, const std::string& extensi
         if (HasExtension(entry->path(), extension) && entry->is_regular_file(ignored))
             files.push_back(entry->path());
     }
+    std::ranges::copy_if(OpenTexts::NamesIn(folder), std::back_inserter(files),
+                         [&](const fs::path& name) { return HasExtension(name, extension); });
     std::ranges::sort(files);
+    files.erase(std::unique(files.begin(), files.end()), files.end());
     return files;
 }
 

@@ -1,0 +1,349 @@
+// What the language server answers, and that nothing ends it.
+#include "CommandRun.h"
+#include "ServerSession.h"
+
+#include "ExampleFindings.h"
+#include "lytdlg/judge/Rule.h"
+#include "lytdlg/serve/MessageStream.h"
+#include "lytdlg/text/Words.h"
+#include "support/TestFolder.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+namespace lytdlg
+{
+
+namespace
+{
+
+const std::string samples = LYT_SOURCE_FOLDER "/samples/dialogs/";
+
+std::string LineOf(const std::string& path, int line, int column, int length, const std::string& rule,
+                   const std::string& message)
+{
+    return PlainPath(path) + ":" + std::to_string(line) + ":" + std::to_string(column) + "+" + std::to_string(length) +
+           " " + rule + ": " + message + "\n";
+}
+
+// As `lytdlg check` prints them.
+std::string CheckedFindings(const std::string& path)
+{
+    std::string lines;
+    const Json report = Json::parse(CommandRun({"check", path, "--format", "json"}).output);
+    for (const Json& finding : report["findings"])
+    {
+        std::string message = finding["message"];
+        for (const Json& other : finding.value("more", Json::array()))
+            message += ", " + std::to_string(other["line"].get<int>());
+        if (finding.contains("number"))
+            message += " (message " + finding["number"].get<std::string>() + ")";
+        if (!finding["hint"].get<std::string>().empty())
+            message += "\nhint: " + finding["hint"].get<std::string>();
+        lines += LineOf(finding["path"], std::max(1, finding["line"].get<int>()), finding["column"], finding["length"],
+                        finding["rule"], message);
+    }
+    return lines;
+}
+
+std::string MessageOf(const Json& finding)
+{
+    std::string message = finding["message"];
+    const Json more = finding.value("relatedInformation", Json::array());
+    if (more.empty())
+        return message;
+    const size_t place = message.find("; and " + std::to_string(more.size()) + " more in line");
+    const size_t end = std::min(message.find_first_of("(\n", place), message.size());
+    std::string lines;
+    for (const Json& other : more)
+        lines += ", " + std::to_string(other["location"]["range"]["start"]["line"].get<int>() + 1);
+    return message.replace(place, end - place, lines);
+}
+
+std::string PublishedFindings(const ServerSession& session)
+{
+    std::string lines;
+    for (const Json& message : session.sent)
+    {
+        if (message.value("method", "") != "textDocument/publishDiagnostics")
+            continue;
+        const std::string file = PathOfUri(message["params"]["uri"]);
+        for (const Json& finding : message["params"]["diagnostics"])
+        {
+            const Json& begin = finding["range"]["start"];
+            const int column = begin["character"];
+            const int length = finding["range"]["end"]["character"].get<int>() - column;
+            lines +=
+                LineOf(file, begin["line"].get<int>() + 1, column + 1, length, finding["code"], MessageOf(finding));
+        }
+    }
+    return lines;
+}
+
+std::string SortedLines(const std::string& text)
+{
+    std::vector<std::string> lines = commandline::LinesOf(text);
+    std::ranges::sort(lines);
+    return Joined(lines, "\n");
+}
+
+void ExpectFindingsOfCheck(const std::string& path, const std::string& bytes)
+{
+    SCOPED_TRACE(path);
+    ServerSession session;
+    session.Open(path, bytes);
+    EXPECT_EQ(SortedLines(PublishedFindings(session)), SortedLines(CheckedFindings(path)));
+}
+
+int ErrorOf(const Json& answer)
+{
+    return answer.contains("error") ? answer["error"]["code"].get<int>() : 0;
+}
+
+} // namespace
+
+TEST(LanguageServer, FindsInSamplesWhatCheckFinds)
+{
+    for (const std::filesystem::path& file : FilesIn(samples, ".dlg"))
+        ExpectFindingsOfCheck(file.string(), ReadWholeFile(file).value());
+}
+
+TEST(LanguageServer, FindsInExamplesWhatCheckFinds)
+{
+    const TestFolder folder;
+    for (const ExampleFile& file : ExampleFiles())
+        folder.Write(file.name, file.content);
+    for (const Rule& rule : Rules())
+    {
+        const std::string name = ExampleName(rule.wrong).empty() ? "judged.dlg" : ExampleName(rule.wrong);
+        const std::string bytes = ExampleDescription(rule.wrong);
+        // An editor takes the mark of a file away, and reads UTF-8 as what it is.
+        if (rule.id != "utf-16" && rule.id != "byte-order-mark" && rule.id != "utf-8")
+            ExpectFindingsOfCheck(folder.Write(name, bytes), bytes);
+    }
+}
+
+TEST(LanguageServer, FollowsEachChangeOfTheText)
+{
+    const TestFolder folder;
+    const std::string path = folder.Write("a.dlg", "on the disk");
+    ServerSession session;
+    session.Open(path, ExampleDescription(""));
+    EXPECT_EQ(session.FindingsIn(path), Json::array());
+    Json change = ServerSession::Document(path);
+    change["contentChanges"] = {
+        {{"range", ServerSession::Range(0, 1, 0, 8)}, {"text", "\xC3\xA4\xF0\x9F\x98\x80VERSION"}},
+        {{"range", ServerSession::Range(0, 1, 0, 2)}, {"text", ""}},
+        {{"range", ServerSession::Range(0, 1, 0, 3)}, {"text", ""}},
+        {{"range", ServerSession::Range(0, 0, 0, 1)}, {"text", "$!"}}};
+    session.Tell("textDocument/didChange", change);
+    ASSERT_FALSE(session.FindingsIn(path).empty());
+    EXPECT_EQ(session.FindingsIn(path)[0]["range"], ServerSession::Range(0, 0, 0, 9));
+    change["contentChanges"] = {{{"text", commandline::ToUtf8(ExampleDescription(""))}}};
+    session.Tell("textDocument/didChange", change);
+    EXPECT_EQ(session.FindingsIn(path), Json::array());
+    session.Tell("textDocument/didChange",
+                 {{"textDocument", {{"uri", UriOf(path)}}}, {"contentChanges", {{{"text", "not a dialog"}}}}});
+    EXPECT_FALSE(session.FindingsIn(path).empty());
+    session.Tell("textDocument/didClose", ServerSession::Document(path));
+    EXPECT_EQ(session.FindingsIn(path), Json::array());
+    EXPECT_EQ(folder.Read("a.dlg"), "on the disk");
+}
+
+TEST(LanguageServer, JudgesNeighboursAgain)
+{
+    const TestFolder folder;
+    const std::string texts = folder.Write("lang/English.nls", "[Example]\n");
+    const std::string path = folder.Write("a.dlg", ExampleDescription(""));
+    ServerSession session;
+    session.Open(path, ExampleDescription(""));
+    EXPECT_FALSE(session.FindingsIn(path).empty());
+    for (const ExampleFile& file : ExampleFiles())
+    {
+        if (std::string(file.name) == "lang/English.nls")
+            session.Open(texts, file.content);
+    }
+    EXPECT_EQ(session.FindingsIn(path), Json::array());
+    session.Tell("textDocument/didClose", ServerSession::Document(texts));
+    EXPECT_FALSE(session.FindingsIn(path).empty());
+    for (const ExampleFile& file : ExampleFiles())
+        folder.Write(file.name, file.content);
+    session.Tell("workspace/didChangeWatchedFiles", {{"changes", Json::array()}});
+    EXPECT_EQ(session.FindingsIn(path), Json::array());
+}
+
+TEST(LanguageServer, OffersWhatMends)
+{
+    const TestFolder folder;
+    const std::string path = folder.File("a.dlg");
+    ServerSession session;
+    session.Open(path, ExampleDescription("$VALUES\nUnit = HIDEN\n"));
+    const Json& finding = session.FindingsIn(path)[0];
+    Json params = ServerSession::Document(path);
+    params["range"] = finding["range"];
+    params["context"] = {{"diagnostics", session.FindingsIn(path)}};
+    const Json actions = session.ResultOf("textDocument/codeAction", params);
+    ASSERT_EQ(actions.size(), 1U) << session.FindingsIn(path);
+    EXPECT_EQ(actions[0]["diagnostics"][0], finding);
+    EXPECT_EQ(actions[0]["edit"]["changes"][UriOf(path)][0]["newText"], "D");
+    params["range"] = ServerSession::Range(0, 0, 0, 0);
+    EXPECT_EQ(session.ResultOf("textDocument/codeAction", params), Json::array());
+}
+
+TEST(LanguageServer, MendsAllThatIsSafe)
+{
+    const TestFolder folder;
+    const std::string path = folder.File("a.dlg");
+    ServerSession session;
+    session.Open(path, ExampleDescription("$EVALUATION x"));
+    Json params = ServerSession::Document(path);
+    params["range"] = ServerSession::Range(0, 0, 0, 0);
+    params["context"] = {{"diagnostics", Json::array()}, {"only", {"source.fixAll"}}};
+    const Json actions = session.ResultOf("textDocument/codeAction", params);
+    ASSERT_EQ(actions.size(), 1U) << session.FindingsIn(path);
+    EXPECT_EQ(actions[0]["edit"]["changes"][UriOf(path)][0]["newText"], ",");
+}
+
+// A letter that the file cannot hold is not overwritten by its substitute.
+TEST(LanguageServer, FormatsWhatTheFileCanHold)
+{
+    const auto countEdits = [](const std::string& value)
+    {
+        ServerSession session;
+        const std::string path = TestFolder().File("a.dlg");
+        const std::string text = ExampleDescription("$VALUES\nUnit=" + value);
+        session.Tell("textDocument/didOpen", {{"textDocument", {{"uri", UriOf(path)}, {"text", text}}}});
+        return session.ResultOf("textDocument/formatting", ServerSession::Document(path)).size();
+    };
+    EXPECT_EQ(countEdits("m,x"), countEdits("\xE2\x99\xA5,x") + 1);
+}
+
+TEST(LanguageServer, OutlinesAndFolds)
+{
+    ServerSession session;
+    const std::string path = samples + "finding.dlg";
+    session.Open(path, ReadWholeFile(path).value());
+    std::string outline;
+    for (const Json& symbol : session.ResultOf("textDocument/documentSymbol", ServerSession::Document(path)))
+    {
+        outline += symbol["name"].get<std::string>() + " " + symbol["detail"].get<std::string>() + "\n";
+        for (const Json& inner : symbol.value("children", Json::array()))
+            outline += "    " + inner["name"].get<std::string>() + " " + inner["detail"].get<std::string>() + "\n";
+    }
+    EXPECT_EQ(outline, "$VERSION 1\n"
+                       "$LAYOUT Finding\n"
+                       "    Finding GroupBox\n"
+                       "    TypicalLabel Text\n"
+                       "    Typical ListBox\n"
+                       "    Advice Text\n"
+                       "    WordingLabel Text\n"
+                       "    Wording TextBox\n"
+                       "    SeverityLabel Text\n"
+                       "    Severity OptionGroup\n"
+                       "    Slight OptionButton\n"
+                       "    Medium OptionButton\n"
+                       "    Severe OptionButton\n"
+                       "    PlaceLabel Text\n"
+                       "    Place ComboBox\n"
+                       "    Hint PushButton\n"
+                       "    Ok OKButton\n"
+                       "    Cancel CancelButton\n"
+                       "$VALUES \n"
+                       "$DEPENDANCES \n"
+                       "$EVALUATION x\n"
+                       "    Wording WordingMissing\n"
+                       "    Severity PlaceMissing\n"
+                       "$INPUT parent\n"
+                       "    Start \n"
+                       "    BeforeSeverity \n"
+                       "    Severity \n"
+                       "    BeforePlace \n"
+                       "    Place \n"
+                       "$OUTPUT parent\n"
+                       "$OUTPUT wording\n"
+                       "$END \n");
+    std::string folds;
+    for (const Json& fold : session.ResultOf("textDocument/foldingRange", ServerSession::Document(path)))
+        folds += fold["startLine"].dump() + "-" + fold["endLine"].dump() + " ";
+    EXPECT_EQ(folds, "7-26 28-46 48-51 53-55 57-63 65-68 69-70 ");
+}
+
+TEST(LanguageServer, RefusesByTheProtocolsNumbers)
+{
+    ServerSession session;
+    EXPECT_EQ(ErrorOf(session.Ask("initialize", Json::object())), -32600);
+    EXPECT_EQ(ErrorOf(session.Ask("no/such", Json::object())), -32601);
+    EXPECT_EQ(ErrorOf(session.Ask("textDocument/formatting", Json::object())), -32602);
+    EXPECT_EQ(ErrorOf(session.Ask("textDocument/formatting", {{"textDocument", {{"uri", 7}}}})), -32602);
+    for (const auto& [text, code] :
+         std::initializer_list<std::pair<const char*, int>>{{"{\"id\":1,", -32700},
+                                                            {"\xFF\xFE", -32700},
+                                                            {"[]", -32600},
+                                                            {"{\"id\":{},\"method\":\"shutdown\"}", -32600},
+                                                            {"{\"id\":1}", -32600}})
+    {
+        session.Receive(text);
+        ASSERT_EQ(session.sent.size(), 1U) << text;
+        EXPECT_EQ(ErrorOf(session.sent[0]), code) << text;
+    }
+    for (const char* text :
+         {"{}", "{\"method\":\"$/progress\"}", "{\"method\":\"textDocument/didChange\",\"params\":3}",
+          "{\"method\":\"textDocument/didOpen\",\"params\":{\"textDocument\":[]}}", "{\"id\":1,\"result\":null}",
+          "{\"method\":\"$/cancelRequest\",\"params\":{\"id\":[]}}"})
+    {
+        session.Receive(text);
+        EXPECT_TRUE(session.sent.empty()) << text;
+    }
+    session.Receive(std::string(100000, '['));
+    EXPECT_EQ(ErrorOf(session.sent[0]), -32700);
+    EXPECT_EQ(session.ResultOf("shutdown", Json::object()), Json());
+    EXPECT_EQ(ErrorOf(session.Ask("textDocument/formatting", Json::object())), -32600);
+    EXPECT_FALSE(session.server.IsOver());
+    session.Tell("exit", Json::object());
+    EXPECT_TRUE(session.server.IsOver() && session.server.WasShutDown());
+}
+
+TEST(LanguageServer, AnswersNothingBeforeItIsInitialized)
+{
+    std::vector<Json> sent;
+    Server server([&](const Json& message) { sent.push_back(message); }, {}, {});
+    server.Receive("{\"id\":\"a\",\"method\":\"shutdown\"}");
+    server.Work();
+    ASSERT_EQ(sent.size(), 1U);
+    EXPECT_EQ(ErrorOf(sent[0]), -32002);
+    EXPECT_EQ(sent[0]["id"], "a");
+    server.Receive("{\"method\":\"exit\"}");
+    server.Work();
+    EXPECT_TRUE(server.IsOver() && !server.WasShutDown());
+}
+
+TEST(LanguageServer, LeavesOutWhatIsCancelledBeforeItsTurn)
+{
+    ServerSession session;
+    session.sent.clear();
+    session.server.Receive("{\"id\":7,\"method\":\"no/such\"}");
+    session.server.Receive("{\"method\":\"$/cancelRequest\",\"params\":{\"id\":7}}");
+    EXPECT_FALSE(session.server.HasWork());
+    ASSERT_EQ(session.sent.size(), 1U);
+    EXPECT_EQ(ErrorOf(session.sent[0]), -32800);
+}
+
+TEST(MessageStream, CutsMessagesOutOfBytes)
+{
+    MessageStream stream;
+    const auto take = [&](const std::string& bytes)
+    {
+        stream.Feed(bytes.data(), bytes.size());
+        return stream.Take().value_or("-");
+    };
+    EXPECT_EQ(take("Content-Le"), "-");
+    EXPECT_EQ(take("ngth: 3\r\nContent-Type: x\r\n\r\nab"), "-");
+    EXPECT_EQ(take("ccontent-length:2\r\n\r\nde"), "abc");
+    EXPECT_EQ(take(""), "de");
+    EXPECT_EQ(take("Wrong: 1\r\n\r\n" + WithHeader("f")), "f");
+    EXPECT_EQ(take("Content-Length: 99999999999999999999999\r\n\r\n" + WithHeader("g")), "g");
+    EXPECT_EQ(take(WithHeader("")), "");
+}
+
+} // namespace lytdlg

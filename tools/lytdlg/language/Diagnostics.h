@@ -1,0 +1,24 @@
+// The findings on the open descriptions, kept until they are judged again.
+#pragma once
+
+#include "lytdlg/language/Workspace.h"
+
+#include <set>
+
+namespace lytdlg
+{
+
+class Diagnostics
+{
+public:
+    // Judges an open text, which is read as long as it is open. Gives the files whose findings may be others now: itself, and
+    // language files.
+    std::set<std::string> Judge(const Workspace& workspace, const std::string& path);
+    // What was found in a file, as `lytdlg check` reports it. What several descriptions find in a language file is there once.
+    std::vector<Finding> Of(const std::string& path) const;
+
+private:
+    std::map<std::string, std::vector<Finding>> m_findings; // by the description that was judged
+};
+
+} // namespace lytdlg
