@@ -10,6 +10,7 @@
 #include "lytdlg/text/Paths.h"
 #include "lytdlg/text/TextFile.h"
 #include "lytdlg/text/Watch.h"
+#include "lytdlg/try/Against.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -226,7 +227,7 @@ ExitCode Check(const Request& request)
         return Explain(request.Text("--explain", ""));
     if (request.operands.empty())
         throw commandline::UsageError("something is missing after \"check\"; write: lytdlg check PATH...");
-    return DoWatching(request, JudgeAll);
+    return DoWatching(request, request.Has("--against") ? CompareWithVersion : JudgeAll);
 }
 
 } // namespace
@@ -250,6 +251,9 @@ Command CheckCommand()
               {"--partners", "FOLDER", false, "a folder that holds partner libraries; may be given more than once"},
               {"--baseline", "FILE", false, "pass over the findings that this file tells as known"},
               {"--write-baseline", "FILE", false, "write the findings to such a file, and end with 0"},
+              {"--against", "VERSION", false,
+               "compare what the dialogs make of texts with what that version made of them, which is beside them"},
+              {"--update", nullptr, false, "with --against, write down what this version makes of them"},
               {"--rules", nullptr, false, "list the rules; as a page with --format markdown"},
               {"--explain", "RULE", false, "explain a rule, with a wrong and a right example"}}},
             Check};
