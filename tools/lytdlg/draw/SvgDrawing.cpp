@@ -1,10 +1,6 @@
-#include "lytdlg/draw/SvgPen.h"
+#include "lytdlg/draw/Notes.h"
 
 #include "commandline/Text.h"
-#include "controls/TypeWords.h"
-
-#include <algorithm>
-#include <cstdlib>
 
 namespace lytdlg
 {
@@ -46,68 +42,6 @@ void DrawWindow(SvgPen& pen, const SeenDialog& dialog)
     pen.EndClip();
 }
 
-// At the first place that covers nothing; else at that which covers the least, or near by.
-void DrawNote(SvgPen& pen, const std::vector<Spot>& places, const std::string& text, const char* fill)
-{
-    constexpr int weight = 20; // of a pixel that is covered, beside one of distance
-    const auto covered = [&](Spot place) { return pen.CoveredByNote(place, text); };
-    Spot best = *std::ranges::min_element(places, {}, covered);
-    int least = weight * covered(best);
-    constexpr int farthest = 3;
-    const int step = pen.NoteHeight();
-    for (int right = -farthest * 2 * step; right <= farthest * 2 * step; right += 2 * step)
-    {
-        for (int down = -farthest * step; down <= farthest * step; down += step)
-        {
-            const Spot shifted = {places.front().left + right, places.front().top + down};
-            // The farther away, the less clear is what it belongs to.
-            const int cost = weight * covered(shifted) + 2 * std::abs(right) + std::abs(down);
-            if (cost < least)
-            {
-                best = shifted;
-                least = cost;
-            }
-        }
-    }
-    pen.Note(best, text, fill);
-}
-
-// Where the text of a control ends at the right, at the latest.
-int EndOfRoom(const SvgPen& pen, const SeenControl& control)
-{
-    const ClytType& type = lytTypeOf(control.type);
-    if (type.isOpenList && !control.items.empty())
-        return control.inside.left + control.firstItem.width;
-    return control.place.width - (type.hasItems && !type.isOpenList ? pen.Scaled(arrowWidth) + 2 : 0);
-}
-
-// A label has its name below, a box after its text, a button at its lower edge; others have room inside.
-void DrawName(SvgPen& pen, const SeenControl& control)
-{
-    const Area& place = control.place;
-    const ClytType& type = lytTypeOf(control.type);
-    const int bottom = place.top + place.height;
-    const int inside = std::max(2, EndOfRoom(pen, control) - pen.NoteWidth(control.name) - 2) + place.left;
-    const Spot below = {place.left, bottom};
-    const Spot after = {place.left + place.width + 3, place.top + 1};
-    const Spot atEdge = {inside, bottom - pen.Scaled(4)};
-    const Spot within = {inside, place.top + 1};
-    const Spot first = type.kind == ClytKind::Text ? below : type.isChecked ? after : type.isButton ? atEdge : within;
-    DrawNote(pen, {first, {inside, bottom - pen.NoteHeight() - 2}, atEdge, below, {inside, bottom}, after},
-             control.name, color::name);
-}
-
-// A number in brackets belongs to a control that the Tab key passes over in the dialog as it is.
-void DrawTabNumber(SvgPen& pen, const SeenControl& control)
-{
-    const std::string number = std::to_string(control.tabNumber);
-    const std::string shown = control.isEnabled && control.isShown ? number : "(" + number + ")";
-    const Area& place = control.place;
-    const Spot corner = {place.left - 2, place.top - 3};
-    const Spot before = {place.left - pen.NoteWidth(shown) - 2, place.top};
-    DrawNote(pen, {corner, before, {place.left + place.width + 2, place.top}}, shown, color::tab);
-}
-
 class Drawing
 {
 public:
@@ -127,9 +61,7 @@ public:
         m_pen.BeginClip(m_dialog.client);
         ForEach([this](const SeenControl& control, size_t number) { Place(control, number); });
         m_pen.EndClip();
-        // A name has more room to go to than a number.
-        ForEach([this](const SeenControl& control, size_t /*number*/) { Number(control); });
-        ForEach([this](const SeenControl& control, size_t /*number*/) { Name(control); });
+        Annotate();
         m_pen.markup.Close();
         return m_pen.markup.Text();
     }
@@ -166,16 +98,22 @@ private:
         m_pen.markup.Close();
     }
 
-    void Number(const SeenControl& control)
+    // A name has more room to go to than a number.
+    void Annotate()
     {
-        if (m_style.showsTabs && control.tabNumber > 0)
-            DrawTabNumber(m_pen, control);
-    }
-
-    void Name(const SeenControl& control)
-    {
-        if (m_style.showsNames && !control.name.empty())
-            DrawName(m_pen, control);
+        Notes notes(m_pen, m_dialog);
+        ForEach(
+            [&](const SeenControl& control, size_t /*number*/)
+            {
+                if (m_style.showsTabs && control.tabNumber > 0)
+                    notes.WriteTabNumber(control);
+            });
+        ForEach(
+            [&](const SeenControl& control, size_t /*number*/)
+            {
+                if (m_style.showsNames && !control.name.empty())
+                    notes.WriteName(control);
+            });
     }
 
     const SeenDialog& m_dialog;

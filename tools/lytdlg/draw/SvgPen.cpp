@@ -26,6 +26,8 @@ std::string WithFixedBlanks(const std::string& utf8)
     return fixed;
 }
 
+} // namespace
+
 Area Common(const Area& one, const Area& other)
 {
     const int left = std::max(one.left, other.left);
@@ -34,12 +36,18 @@ Area Common(const Area& one, const Area& other)
             std::max(0, std::min(one.top + one.height, other.top + other.height) - top)};
 }
 
+Area Around(const Area& one, const Area& other)
+{
+    const int left = std::min(one.left, other.left);
+    const int top = std::min(one.top, other.top);
+    return {left, top, std::max(one.left + one.width, other.left + other.width) - left,
+            std::max(one.top + one.height, other.top + other.height) - top};
+}
+
 int SizeOf(const Area& area)
 {
     return area.width * area.height;
 }
-
-} // namespace
 
 Caption::Caption(const std::string& text)
 {
@@ -148,15 +156,6 @@ void SvgPen::TextOf(const Caption& caption, int left, int top, const char* fill,
 Area SvgPen::NoteArea(Spot place, const std::string& text) const
 {
     return {place.left - 1, place.top, NoteWidth(text) + 2, NoteHeight() + 1};
-}
-
-int SvgPen::CoveredByNote(Spot place, const std::string& text) const
-{
-    const Area area = NoteArea(place, text);
-    int covered = SizeOf(area) - SizeOf(Common(area, m_clips.front().seen));
-    for (const Area& kept : m_kept)
-        covered += SizeOf(Common(area, kept));
-    return covered;
 }
 
 void SvgPen::Note(Spot place, const std::string& text, const char* fill)

@@ -24,6 +24,12 @@ inline constexpr const char* tab = "#c84800";
 
 inline constexpr int arrowWidth = 17; // of the button of a combo box, at 96 dots per inch
 
+// What two areas have in common, and what both are in.
+Area Common(const Area& one, const Area& other);
+Area Around(const Area& one, const Area& other);
+// In pixels.
+int SizeOf(const Area& area);
+
 struct Spot
 {
     int left = 0;
@@ -58,10 +64,12 @@ public:
     void TextOf(const Caption& caption, int left, int top, const char* fill, int limit);
     // No note is to cover the area. That of a text is kept free anyway.
     void KeepFree(const Area& area);
+    // Of the drawing so far, in the window.
+    const std::vector<Area>& KeptFree() const { return m_kept; }
     // A text that says something about a drawing, and not the dialog itself, from its top left corner.
     void Note(Spot place, const std::string& text, const char* fill);
-    // How much of what is kept free a note would cover there, and how much of it would be outside the window.
-    int CoveredByNote(Spot place, const std::string& text) const;
+    // What a note takes there.
+    Area NoteArea(Spot place, const std::string& text) const;
     int NoteWidth(const std::string& text) const { return m_dialog.WidthOf(text) * 3 / 4; }
     int NoteHeight() const { return TextHeight() * 3 / 4; }
 
@@ -79,11 +87,10 @@ private:
     };
 
     int BaselineOf(int top) const { return top + m_dialog.textHeight - m_dialog.textHeight / 5; }
-    Area NoteArea(Spot place, const std::string& text) const;
 
     const SeenDialog& m_dialog;
     std::vector<Clip> m_clips;
-    std::vector<Area> m_kept; // in the window
+    std::vector<Area> m_kept;
 };
 
 struct SvgStyle
