@@ -132,10 +132,20 @@ void JudgeDialog(const ActionLine& statement)
                       "the input part first, and the output group after it");
 }
 
+bool IsLibraryFile(const std::string& name)
+{
+    return IsSameName(name.substr(name.find_last_of('.') + 1), "dll");
+}
+
 void JudgeCall(const ActionLine& statement)
 {
     if (!HasWords(statement, 4, "ACTION = LIBRARY, FUNCTION, GROUP, PART"))
         return;
+    const std::string library = statement.Value(1);
+    if (IsLibraryFile(library) && !IsLibraryFile(statement.Value(0)))
+        statement.judged.findings.Add("action-swapped", statement.PlaceOfValue(0),
+                                      InQuotes(library) + " is the library, and belongs first",
+                                      "write " + library + ", " + statement.Value(0));
     JudgePartAndGroup(statement, 3, 2, "the output group first, and the input part after it");
 }
 

@@ -84,12 +84,21 @@ Role RoleOf(const Description& description, const ValueStatement& statement)
     return RoleOf(KindOfControl(description, statement.name), statement);
 }
 
+// A word that an option begins with, as DISPLAY.
+bool IsHalfAnOption(const std::string& word)
+{
+    constexpr size_t enough = 4;
+    return word.size() >= enough &&
+           std::ranges::any_of(WordsOf<ClytOption>(), [&](const std::string& option)
+                               { return option.size() > word.size() && option.starts_with(word); });
+}
+
 bool IsMeantAsOption(const ValueStatement& statement)
 {
     const std::string& word = statement.values.front();
     const std::string meant = statement.keyword.empty() ? MeantWord(word, WordsOf<ClytOption>()) : "";
     const bool isInCapitals = std::ranges::none_of(word, [](char ch) { return ch >= 'a' && ch <= 'z'; });
-    return !meant.empty() && meant != word && (IsSameName(meant, word) || isInCapitals);
+    return (!meant.empty() && meant != word && (IsSameName(meant, word) || isInCapitals)) || IsHalfAnOption(word);
 }
 
 bool HasOption(const Description& description, const std::string& name, ClytOption option)

@@ -67,6 +67,42 @@ void JudgeAction(const Case& judged, const ClytControlFill& fill, Kind kind)
             .number = lytTypeOf(kind).hasItems ? lytError("LibraryNotNamed") : "";
 }
 
+// Whether an input, a rule or a button asks the control's library.
+bool IsEverFilled(const Description& description, const std::string& name)
+{
+    const auto isFill = [&](const ClytDialogInput* statement)
+    {
+        return std::ranges::any_of(Records(statement->scanRule.rules),
+                                   [&](const ClytConditionFill* rule)
+                                   {
+                                       const ClytControlFill& fill = *rule->fills.GetHead();
+                                       return name == fill.controlName.GetString() &&
+                                              (fill.action.GetMeaning() == ClytFillAction::Fill ||
+                                               lytMeans<ClytValueWord::Fill>(fill.value));
+                                   });
+    };
+    const auto isPressed = [&](const ValueStatement& statement) {
+        return lytMeaningOf<ClytAction>(statement.keyword.c_str()) == ClytAction::Fill &&
+               statement.values.front() == name;
+    };
+    return std::ranges::any_of(description.inputs, [&](const InputPart& part)
+                               { return std::ranges::any_of(Records(part.part->GetStatements()), isFill); }) ||
+           std::ranges::any_of(
+               Records(description.rules), [&](const ClytControlDep* rule)
+               { return name == rule->controlName.GetString() && rule->stateWord.GetMeaning() == ClytState::Fill; }) ||
+           std::ranges::any_of(description.values, isPressed);
+}
+
+void JudgeUnfilled(const Case& judged, const ClytControlFill& fill, const ClytControlStatement& control)
+{
+    const std::string name = fill.controlName.GetString();
+    if (TakesPiece(fill) && fill.action.GetMeaning() == ClytFillAction::Other && KindOf(control) == Kind::DropList &&
+        LastStatementOf(judged.description, name, Role::Source) != nullptr && !IsEverFilled(judged.description, name))
+        judged.findings.Add("scan-unfilled", fill.span,
+                            InQuotes(name) + " has no items to choose from: nothing fills it by its library",
+                            "write " + name + "(FILL) among the fills of Start");
+}
+
 // An open list that has at that time the items of $VALUES alone: no button was pressed when the dialog opens.
 void JudgeChoice(const Case& judged, const InputPart& part, const ClytControlFill& fill)
 {
@@ -151,6 +187,8 @@ void JudgeFill(const Case& judged, const InputPart& part, const ClytControlFill&
     JudgeFixedValue(judged, fill, *control);
     if (lytTypeOf(kind).isOpenList && fill.action.GetText().IsEmpty())
         JudgeChoice(judged, part, fill);
+    if (part.name == lytParentName)
+        JudgeUnfilled(judged, fill, *control);
     if (kind == Kind::Combo)
         JudgeOwnText(judged, fill, isAddedBefore);
 }

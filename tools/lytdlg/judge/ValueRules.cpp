@@ -38,9 +38,10 @@ void JudgeWords(const PlacedValue& statement)
     const ValueStatement& value = statement.value;
     if (IsMeantAsOption(value))
     {
-        Finding& finding = AddUnknown(statement.judged, "option-word", statement.PlaceOfValue(),
-                                      InQuotes(value.values.front()) + " is taken for a value",
-                                      {value.values.front(), WordsOf<ClytOption>(), ""});
+        Finding& finding = AddUnknown(
+            statement.judged, "option-word", statement.PlaceOfValue(),
+            InQuotes(value.values.front()) + " is taken for a value",
+            {value.values.front(), WordsOf<ClytOption>(), "write HIDDEN, INVISIBLE, DISPLAYONLY or INACTIVE"});
         if (finding.fix)
             finding.fix->isSafe = false;
         return;

@@ -14,8 +14,14 @@ bool AstrayPieces::TellGiven(const TripItem& item)
     {
         for (const TripFill& fill : cut.fills)
         {
-            if (fill.control != item.name || fill.takesPiece)
+            if (fill.control != item.name || fill.takesPiece || fill.action == ClytFillAction::Fill)
                 continue;
+            const TripCut* before = m_compared.CutBefore(cut);
+            for (const std::string& target : before != nullptr ? before->targets : std::vector<std::string>())
+            {
+                if (target != cut.statement && GivesValue(m_compared.Plan(), target, item.name, item.value))
+                    return TellWay(item, before->span, cut.statement, target, TripBlame::Input);
+            }
             m_teller.Tell("trip-control", fill.span, m_trip.out.line,
                           "the text has " + Excerpt(item.value) + " for " + InQuotes(item.name) +
                               ", and this puts another one into it: " + m_compared.ComesBack(item.name),
@@ -24,6 +30,55 @@ bool AstrayPieces::TellGiven(const TripItem& item)
         }
     }
     return false;
+}
+
+// Whether the user could have entered it, when somebody enters it at all.
+bool AstrayPieces::IsHeld(const std::string& name) const
+{
+    return m_trip.reached.contains(name) || !m_compared.Plan().Find(name)->isEntered;
+}
+
+// Where the run took another way than that to the item: a jump, or a statement with several separators.
+bool AstrayPieces::TellWrongWay(const TripItem& item, const TripCut& cut)
+{
+    if (cut.Takes(item.name) || !IsHeld(item.name))
+        return false;
+    for (auto jump = cut.jumps.rbegin(); jump != cut.jumps.rend(); ++jump)
+    {
+        for (const std::string& target : jump->targets)
+        {
+            if (target != jump->next && LeadsTo(m_compared.Plan(), target, item.name))
+                return TellWay(item, jump->span, jump->next, target, TripBlame::Either);
+        }
+    }
+    const TripCut* before = m_compared.CutBefore(cut);
+    const auto taker = std::ranges::find_if(cut.fills, &TripFill::takesPiece);
+    const bool isSwapped = taker != cut.fills.end() && IsSwapped(item, *taker);
+    if (before == nullptr || !cut.jumps.empty() || before->targets.size() < 2 || isSwapped)
+        return false;
+    for (const std::string& target : before->targets)
+    {
+        if (target != cut.statement && LeadsTo(m_compared.Plan(), target, item.name))
+            return TellWay(item, before->span, cut.statement, target, TripBlame::Output);
+    }
+    return false;
+}
+
+bool AstrayPieces::TellWay(const TripItem& item, const ClytSpan& jump, const std::string& taken,
+                           const std::string& other, TripBlame blame)
+{
+    m_teller.TellMisfit("trip-control",
+                        {item.span,
+                         "this rule writes " + InQuotes(item.name) + ", and " + NumberedLine(jump.line) + " leads to " +
+                             InQuotes(taken) + ": " + m_compared.ComesBack(item.name),
+                         "write what is read there"},
+                        {jump,
+                         NumberedLine(m_trip.out.line) + " writes " + InQuotes(item.name) + ", and this leads to " +
+                             InQuotes(taken) + " where " + InQuotes(other) +
+                             " would read it: " + m_compared.ComesBack(item.name),
+                         "lead to " + InQuotes(other) + " for such a text"},
+                        blame);
+    return true;
 }
 
 const TripFill* AstrayPieces::LastFillOf(const std::string& name, const TripCut*& of) const
@@ -46,17 +101,29 @@ void AstrayPieces::TellAstray(const TripItem& item, const TripCut& cut)
 {
     const auto taker = std::ranges::find_if(cut.fills, &TripFill::takesPiece);
     if (taker == cut.fills.end())
-        TellAstrayTo(item, cut.span, "nowhere", "put it into " + InQuotes(item.name) + ": = " + item.name);
+        TellAstrayTo(item, cut.span, "nowhere", "put it into " + InQuotes(item.name) + ": = " + item.name,
+                     TripBlame::Input);
     else if (cut.Takes(item.name))
         TellNotKept(item, cut);
     else if (IsSwapped(item, *taker))
         TellSwapped(item, cut, *taker);
     else
-        TellAstrayTo(item, taker->span, "into " + InQuotes(taker->control), "write " + InQuotes(item.name) + " here");
+        TellAstrayTo(item, taker->span, "into " + InQuotes(taker->control), "write " + InQuotes(item.name) + " here",
+                     BlameFor(item, cut, *taker));
+}
+
+// A statement that has the name of what it takes, or of what the rule writes at another place, is likely to be right.
+TripBlame AstrayPieces::BlameFor(const TripItem& item, const TripCut& cut, const TripFill& taker) const
+{
+    const bool isMeant = cut.statement == taker.control && m_compared.ItemOf(taker.control) == nullptr;
+    if (cut.statement != item.name && m_compared.ItemOf(cut.statement) != nullptr && !cut.Takes(cut.statement))
+        return TripBlame::Output;
+    return isMeant && (!m_compared.Plan().IsFilled(item.name) || !IsHeld(item.name)) ? TripBlame::Output
+                                                                                     : TripBlame::Input;
 }
 
 void AstrayPieces::TellAstrayTo(const TripItem& item, const ClytSpan& reader, const std::string& where,
-                                const std::string& hint)
+                                const std::string& hint, TripBlame blame)
 {
     m_teller.TellMisfit("trip-control",
                         {item.span,
@@ -67,7 +134,7 @@ void AstrayPieces::TellAstrayTo(const TripItem& item, const ClytSpan& reader, co
                          NumberedLine(m_trip.out.line) + " writes " + InQuotes(item.name) +
                              " here, and the piece goes " + where + ": " + m_compared.ComesBack(item.name),
                          hint},
-                        true);
+                        blame);
 }
 
 // The piece of the other control goes somewhere else in turn, and some piece comes here.
@@ -92,7 +159,8 @@ void AstrayPieces::TellSwapped(const TripItem& item, const TripCut& cut, const T
                          NumberedLine(m_trip.out.line) + " writes " + InQuotes(item.name) + " here, and this reads " +
                              InQuotes(taker.control) + ": " + m_compared.ComesBack(item.name),
                          "write " + InQuotes(item.name) + " here"},
-                        cut.statement == item.name && cut.statement != taker.control);
+                        cut.statement == item.name && cut.statement != taker.control ? TripBlame::Input
+                                                                                     : TripBlame::Output);
 }
 
 void AstrayPieces::TellNotKept(const TripItem& item, const TripCut& cut)
@@ -104,7 +172,7 @@ void AstrayPieces::TellNotKept(const TripItem& item, const TripCut& cut)
                       "this puts " + Excerpt(lastCut->piece) + " into " + InQuotes(item.name) +
                           ", which has its piece from " + NumberedLine(cut.span.line) + " already",
                       "name the control that this piece is of");
-    else if (last->isConcat && !item.separators.empty())
+    else if (last->action == ClytFillAction::Concat && !item.separators.empty())
         TellList(item, *last);
     else
         m_teller.Tell("trip-changed", last->span, m_trip.out.line,
@@ -118,8 +186,8 @@ void AstrayPieces::TellList(const TripItem& item, const TripFill& fill)
     const bool isBlank = lytMeans<ClytFillAction::Concat>(item.separators.c_str());
     const std::string joined = isBlank ? " " : item.separators.substr(0, 1);
     const bool isOther = fill.separators.find(joined) == std::string::npos || item.separators.size() > 1;
-    const bool isInputWrong =
-        IsSplitAnywhere(m_compared.Of(), joined[0]) && !IsJoinedAnywhere(m_compared.Of(), fill.separators);
+    const bool isSplit = IsSplitAnywhere(m_compared.Of(), joined[0]);
+    const bool isJoined = IsJoinedAnywhere(m_compared.Of(), fill.separators);
     if (!isOther)
         m_teller.Tell("trip-list", fill.span, item.span.line,
                       "the items of " + InQuotes(item.name) + " do not come back as they were: " +
@@ -135,7 +203,9 @@ void AstrayPieces::TellList(const TripItem& item, const TripFill& fill)
                              "this takes the items apart at " + InQuotes(fill.separators) + ", and " +
                                  NumberedLine(item.span.line) + " joins them with " + InQuotes(item.separators),
                              "write " + InQuotes(joined) + " here"},
-                            isInputWrong);
+                            isSplit == isJoined ? TripBlame::Either
+                            : isSplit           ? TripBlame::Input
+                                                : TripBlame::Output);
 }
 
 } // namespace lytdlg

@@ -24,6 +24,10 @@ private:
     std::vector<const ClytCtrlValList*> ChoicesOf(const ClytDialogOutput& rule) const;
     bool IsForSame(const ClytCtrlValList& choice, const ClytDialogOutput& other) const;
     bool MayLeaveOut(const std::string& name) const;
+    bool IsReadNext(const std::string& name) const;
+    bool IsMisread(const std::string& name) const;
+    const ClytCtrlValList* LostChoice() const;
+    bool TellChoice();
     bool IsDropped(const TripControl& control) const;
 
     TripTeller& m_teller; // of the caller, as the others are

@@ -1,6 +1,9 @@
 #include "lytdlg/trip/Journey.h"
 
 #include "dialog/ClytDialog.h"
+#include "lytdlg/trip/TripEvidence.h"
+
+#include <algorithm>
 
 namespace lytdlg
 {
@@ -13,22 +16,60 @@ void Journey::Make()
         TryLong(index);
 }
 
+// What checks refuse is tried once more with other values.
 void Journey::Try(const TripState& state)
+{
+    const std::vector<std::string> refusing = TryOnce(state);
+    if (refusing.empty())
+        return;
+    const TripState allowed = AllowedBy(refusing, state);
+    if (allowed == state || std::ranges::find(m_allowed, allowed) != m_allowed.end())
+        return;
+    m_allowed.push_back(allowed);
+    TryOnce(allowed);
+}
+
+// With a value that its check does not ask for in each refusing control, or in the other one that the check asks.
+TripState Journey::AllowedBy(const std::vector<std::string>& refusing, TripState state) const
+{
+    const auto allow = [&](const ClytCtrlValList& asked)
+    {
+        const TripControl* control = m_plan.Find(asked.GetName().GetString());
+        if (control == nullptr || !control->isEntered || control->collects)
+            return false;
+        const auto isAllowed = [&](const std::string& value) { return asked.Contains(value.c_str()) == 0; };
+        const auto value = std::ranges::find_if(control->values, isAllowed);
+        if (value == control->values.end())
+            return false;
+        WishOf(m_plan, state, control->name) = {TripWish::Kind::Value, *value};
+        return true;
+    };
+    for (const std::string& name : refusing)
+    {
+        const EvaluationStatement* check = LastCheckOf(m_plan.Of(), name);
+        if (check != nullptr && !allow(check->own))
+            allow(check->other);
+    }
+    return state;
+}
+
+std::vector<std::string> Journey::TryOnce(const TripState& state)
 {
     const std::unique_ptr<TripForm> form = m_stage.Open(m_plan, "");
     if (form == nullptr)
-        return;
+        return {};
     TripLook& look = m_looks.emplace_back();
     look.opened = ReachedIn(*form);
     form->Enter(state);
     look.reached = ReachedIn(*form);
     const std::optional<TripText> out = form->Compose(lytParentName);
     if (!out)
-        return;
+        return {};
     look.refusing = out->refusing;
     look.line = out->line;
     if (m_plan.ComesBack() && out->line != 0 && out->refusing.empty())
         GoThere(*form, *out, look.reached);
+    return out->refusing;
 }
 
 void Journey::GoThere(TripForm& form, const TripText& out, const std::set<std::string>& reached)
@@ -48,6 +89,7 @@ void Journey::GoThere(TripForm& form, const TripText& out, const std::set<std::s
     trip.after = fresh->Values();
     trip.cuts = fresh->Cuts();
     trip.rest = fresh->Rest();
+    trip.lastJumps = fresh->LastJumps();
     const std::optional<TripText> again = fresh->Compose(lytParentName);
     size_t ignored = 0;
     if (again)

@@ -43,6 +43,9 @@ public:
     const std::vector<TripLook>& Looks() const { return m_looks; }
 
 private:
+    // The refusing controls; none when the text could go out.
+    std::vector<std::string> TryOnce(const TripState& state);
+    TripState AllowedBy(const std::vector<std::string>& refusing, TripState state) const;
     void GoThere(TripForm& form, const TripText& out, const std::set<std::string>& reached);
     std::set<std::string> ReachedIn(TripForm& form) const;
     std::string ComingBack(const std::string& text, size_t& begin) const;
@@ -52,6 +55,7 @@ private:
     const TripPlan& m_plan;
     Traveller& m_traveller;
     std::vector<TripLook> m_looks;
+    std::vector<TripState> m_allowed; // that were tried in the place of refused ones
 };
 
 } // namespace lytdlg

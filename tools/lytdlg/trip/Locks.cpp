@@ -4,7 +4,9 @@
 #include "lytdlg/judge/ControlValues.h"
 #include "lytdlg/judge/DescriptionIndex.h"
 #include "lytdlg/judge/Lists.h"
+#include "lytdlg/trip/TripEvidence.h"
 #include "lytdlg/trip/TripStates.h"
+#include "lytdlg/trip/Waits.h"
 
 #include <algorithm>
 
@@ -14,64 +16,17 @@ namespace lytdlg
 namespace
 {
 
-using StateRules = std::vector<const ClytControlDep*>;
-
-// The state rules of each control, and which controls they wait for.
-class Waits
-{
-public:
-    explicit Waits(const Description& description)
-    {
-        for (const ClytControlDep* rule : Records(description.rules))
-        {
-            const ClytState word = rule->stateWord.GetMeaning();
-            if (word == ClytState::Active || word == ClytState::Visible)
-                m_rules[rule->controlName.GetString()].push_back(rule);
-        }
-    }
-
-    const std::map<std::string, StateRules>& All() const { return m_rules; }
-
-    // The controls that a control waits for, also by way of others; and the circle through it, if there is one: those that
-    // wait for it in turn.
-    std::set<std::string> WaitedForBy(const std::string& name) const
-    {
-        std::set<std::string> waited;
-        std::vector<std::string> open = {name};
-        while (!open.empty())
-        {
-            const std::string next = open.back();
-            open.pop_back();
-            for (const std::string& asked : AskedBy(next))
-            {
-                if (waited.insert(asked).second)
-                    open.push_back(asked);
-            }
-        }
-        return waited;
-    }
-
-    std::vector<std::string> AskedBy(const std::string& name) const
-    {
-        std::vector<std::string> names;
-        const auto found = m_rules.find(name);
-        for (const ClytControlDep* rule : found != m_rules.end() ? found->second : StateRules())
-        {
-            for (const ClytCtrlValList* condition : Records(rule->conditions))
-                names.emplace_back(condition->GetName().GetString());
-        }
-        return names;
-    }
-
-private:
-    std::map<std::string, StateRules> m_rules;
-};
-
 class LockSearch
 {
 public:
-    LockSearch(TripTeller& findings, TripStage& trialStage, const TripPlan& tried, const std::vector<TripLook>& seen)
-        : m_teller(findings), m_stage(trialStage), m_plan(tried), m_looks(seen), m_waits(tried.Of())
+    LockSearch(TripTeller& findings, TripStage& trialStage, const TripPlan& tried, const std::vector<TripLook>& seen,
+               std::set<std::string> lockedBefore)
+        : m_teller(findings),
+          m_stage(trialStage),
+          m_plan(tried),
+          m_looks(seen),
+          m_waits(tried.Of()),
+          m_locked(std::move(lockedBefore))
     {
     }
 
@@ -308,17 +263,6 @@ private:
 
     // ---- Checks of what cannot be reached
 
-    const EvaluationStatement* CheckOf(const std::string& name) const
-    {
-        const EvaluationStatement* last = nullptr;
-        for (const EvaluationStatement& statement : Of().evaluations)
-        {
-            if (name == statement.own.GetName().GetString())
-                last = &statement;
-        }
-        return last;
-    }
-
     // The input, a default or a library may give a value to what no user reaches.
     bool IsGivenElsewhere(const std::string& name) const
     {
@@ -337,7 +281,7 @@ private:
     // The control that the refusal is about, when the user cannot give it a value; null when that is possible.
     const TripControl* Missing(const std::string& name, const TripLook& look) const
     {
-        const EvaluationStatement* check = CheckOf(name);
+        const EvaluationStatement* check = LastCheckOf(Of(), name);
         if (check == nullptr)
             return nullptr;
         const std::string other = check->other.GetName().GetString();
@@ -363,7 +307,7 @@ private:
             const TripControl& control = *Missing(look.refusing.front(), look);
             const bool isHidden = !control.isEntered;
             m_teller.Tell(
-                "lock-check", CheckOf(look.refusing.front())->own.GetSpan(), 0,
+                "lock-check", LastCheckOf(Of(), look.refusing.front())->own.GetSpan(), 0,
                 "this refuses OK while " + InQuotes(control.name) +
                     (isHidden ? " is out of the user's reach at all times"
                               : " is hidden or disabled, and the user cannot give it a value"),
@@ -390,9 +334,9 @@ private:
         {
             const auto refuses = [&](const TripLook& look)
             { return std::ranges::find(look.refusing, name) != look.refusing.end(); };
-            if (!std::ranges::all_of(m_looks, refuses) || CheckOf(name) == nullptr || !AreAllTried(name))
+            if (!std::ranges::all_of(m_looks, refuses) || LastCheckOf(Of(), name) == nullptr || !AreAllTried(name))
                 continue;
-            m_teller.Tell("lock-ok", CheckOf(name)->own.GetSpan(), 0,
+            m_teller.Tell("lock-ok", LastCheckOf(Of(), name)->own.GetSpan(), 0,
                           "OK is refused here with any value of " + InQuotes(name) + ": " +
                               std::to_string(m_looks.size()) + " trials have found no value that passes",
                           "leave at least one value that is allowed");
@@ -411,9 +355,10 @@ private:
 
 } // namespace
 
-void TellLocks(TripTeller& teller, TripStage& stage, const TripPlan& plan, const std::vector<TripLook>& looks)
+void TellLocks(TripTeller& teller, TripStage& stage, const TripPlan& plan, const std::vector<TripLook>& looks,
+               std::set<std::string> locked)
 {
-    LockSearch(teller, stage, plan, looks).Tell();
+    LockSearch(teller, stage, plan, looks, std::move(locked)).Tell();
 }
 
 } // namespace lytdlg

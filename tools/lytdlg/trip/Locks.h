@@ -7,6 +7,8 @@
 namespace lytdlg
 {
 
-void TellLocks(TripTeller& teller, TripStage& stage, const TripPlan& plan, const std::vector<TripLook>& looks);
+// Of the controls that are locked for a reason that has a finding nothing more is said.
+void TellLocks(TripTeller& teller, TripStage& stage, const TripPlan& plan, const std::vector<TripLook>& looks,
+               std::set<std::string> locked);
 
 } // namespace lytdlg

@@ -43,7 +43,7 @@ bool MiscutItems::TellCut(const TripItem& item)
                              "this takes " + length + " characters, and " + NumberedLine(item.span.line) +
                                  " writes at most " + limit + " of " + InQuotes(item.name),
                              "write " + limit + " here"},
-                            false);
+                            TripBlame::Output);
         return false;
     }
     m_teller.Tell("trip-cut", item.span, 0,
@@ -57,8 +57,8 @@ void MiscutItems::TellEnd(const TripItem& item)
 {
     if (m_trip.cuts.empty())
         return;
-    const TripCut& last = m_trip.cuts.back();
-    m_teller.Tell("trip-end", last.span, m_trip.out.line,
+    const ClytSpan& last = m_trip.lastJumps.empty() ? m_trip.cuts.back().span : m_trip.lastJumps.back().span;
+    m_teller.Tell("trip-end", last, m_trip.out.line,
                   "the input ends here, and leaves " + Excerpt(m_trip.rest) + " of " + Excerpt(m_trip.text) + ": " +
                       InQuotes(item.name) + " of " + NumberedLine(m_trip.out.line) + " is lost",
                   "go on with a statement for " + InQuotes(item.name));
@@ -70,7 +70,7 @@ void MiscutItems::TellLateBegin(const TripItem& item, const TripCut& cut)
         std::ranges::find_if(m_trip.out.items, [&](const TripItem& each)
                              { return each.begin >= m_trip.begin && m_compared.Begin(each) >= cut.begin; });
     if (first != m_trip.out.items.end() && m_compared.Begin(*first) == cut.begin && first->end > first->begin)
-        TellNotSeparated(*first, cut);
+        TellTooLong(*first, cut);
     else
         TellNotCutOff(first != m_trip.out.items.end() ? *first : item, cut);
 }
@@ -95,7 +95,7 @@ void MiscutItems::TellNotCutOff(const TripItem& item, const TripCut& cut)
                              (isAfterLength ? ", to the next piece: " : ", for a part of the piece: ") +
                              m_compared.ComesBack(item.name),
                          "cut " + Excerpt(written) + " off"},
-                        false);
+                        TripBlame::Output);
 }
 
 bool MiscutItems::TellIdleCut()
@@ -135,7 +135,7 @@ void MiscutItems::TellSkipped(const TripItem& item, const TripCut& cut)
                              " writes " + Excerpt(gap) + " before " + InQuotes(item.name) + ": " +
                              m_compared.ComesBack(item.name),
                          "pass over as many characters as the output writes"},
-                        std::ranges::count(gaps, gap) > 1);
+                        std::ranges::count(gaps, gap) > 1 ? TripBlame::Input : TripBlame::Output);
 }
 
 void MiscutItems::TellTooLong(const TripItem& item, const TripCut& cut)
@@ -162,7 +162,7 @@ void MiscutItems::TellLength(const TripItem& item, const TripCut& cut)
          control.mark.empty() || isShort ? "cut at a separator, and let " + NumberedLine(m_trip.out.line) + " write it"
                                          : "write %." + std::to_string(cut.length) + "s in " +
                                                NumberedLine(m_trip.out.line) + ", or cut at a separator"},
-        true);
+        TripBlame::Input);
 }
 
 std::string MiscutItems::GapAfter(const TripItem& item) const
@@ -188,7 +188,6 @@ size_t MiscutItems::ReadersOf(const std::string& gap) const
     return count;
 }
 
-// The one of the two that is alone with its separator is the one that is wrong.
 void MiscutItems::TellNotSeparated(const TripItem& item, const TripCut& cut)
 {
     const std::string gap = GapAfter(item);
@@ -207,9 +206,24 @@ void MiscutItems::TellNotSeparated(const TripItem& item, const TripCut& cut)
                          "this " + reads + ", and " + NumberedLine(m_trip.out.line) + " " + writes + " after " +
                              InQuotes(item.name) + ": " + comesBack,
                          "read what the output writes"},
-                        ClosesBracket(m_trip.text.substr(0, m_compared.End(item)), gap) ||
-                            (ReadersOf(gap) > 0 && !IsWrittenAnywhere(m_compared.Of(), cut.separators)),
-                        cut.separators);
+                        BlameFor(item, cut, gap), cut.separators);
+}
+
+// The one of the two that is alone with its separator is the one that is wrong. A bracket that ends the text as well is
+// beside the matter.
+TripBlame MiscutItems::BlameFor(const TripItem& item, const TripCut& cut, const std::string& gap) const
+{
+    std::vector<std::string> separators = cut.separators;
+    if (separators.size() > 1)
+        std::erase_if(separators, [](const std::string& each) { return each == ")" || each == "]" || each == "}"; });
+    const bool isRead = ReadersOf(gap) > 0;
+    const bool isWritten = IsWrittenAnywhere(m_compared.Of(), separators);
+    // A choice has values of a certain length, and what is entered has not.
+    if (gap.empty())
+        return m_compared.Plan().Find(item.name)->mark.empty() ? TripBlame::Either : TripBlame::Output;
+    if (ClosesBracket(m_trip.text.substr(0, m_compared.End(item)), gap) || (isRead && !isWritten))
+        return TripBlame::Input;
+    return isWritten && !isRead ? TripBlame::Output : TripBlame::Either;
 }
 
 // The statement that gives a control the value.

@@ -35,6 +35,7 @@ private:
     void TellNotSeparated(const TripItem& item, const TripCut& cut);
     std::string GapAfter(const TripItem& item) const;
     size_t ReadersOf(const std::string& gap) const;
+    TripBlame BlameFor(const TripItem& item, const TripCut& cut, const std::string& gap) const;
     const ValueStatement* StatementOf(const std::string& name, const std::string& value) const;
 
     TripTeller& m_teller; // of the caller, as the others are

@@ -2,6 +2,7 @@
 
 #include "dialog/ClytDialog.h"
 #include "lytdlg/judge/ControlValues.h"
+#include "lytdlg/judge/Lists.h"
 #include "lytdlg/text/TextFile.h"
 #include "lytdlg/trip/TripStates.h"
 
@@ -12,6 +13,9 @@ namespace lytdlg
 
 namespace
 {
+
+constexpr const char* entryHanded = "QKVZ/WJHB"; // a key and a label
+constexpr const char* longKey = "QKVZWJHBGDFYQKVZWJHBGDFY";
 
 // What a dialog has answered, and what it held then.
 struct Answer
@@ -55,7 +59,7 @@ public:
             const std::vector<std::string>& values = statement.values;
             if (!OpensDialog(statement) || PlainNameOf(values[0]) != PlainNameOf(nested.Of().path))
                 continue;
-            const std::optional<Answer> answer = AnswerOf(nested, "", 0);
+            const std::optional<Answer> answer = AnswerOf(nested, "", FullState(nested));
             const std::optional<TripText> handed = answer ? HandedAfter(*answer, values) : std::nullopt;
             const std::unique_ptr<TripForm> form =
                 handed && handed->line != 0 ? m_stage.Open(nested, handed->text) : std::unique_ptr<TripForm>();
@@ -73,7 +77,53 @@ public:
             const std::vector<std::string>& values = statement.values;
             if (!OpensDialog(statement) || !tried.insert(values[0] + "\n" + values[1] + "\n" + values.back()).second)
                 continue;
-            WithDialog(values[0], [&](const TripPlan& nested) { TryDialog(nested, values); });
+            WithDialog(values[0], [&](const TripPlan& nested) { TryDialog(nested, statement); });
+            TellModified(statement);
+        }
+    }
+
+    // The catalogue answers a key of any length.
+    void TryCatalogue()
+    {
+        for (const ValueStatement& statement : Of().values)
+        {
+            const std::vector<std::string>& values = statement.values;
+            if (RoleOf(Of(), statement) != Role::Action || values.size() < 4 || values[1] != "lytOpenTreeView" ||
+                lytMeaningOf<ClytAction>(statement.keyword.c_str()) != ClytAction::Action || !HasPart(Of(), values[3]))
+                continue;
+            const std::unique_ptr<TripForm> form = m_stage.Open(m_plan, "");
+            const auto cuts = form != nullptr ? form->Scan(values[3], longKey) : std::nullopt;
+            if (cuts && !cuts->empty() && !form->Rest().empty() && cuts->back().length > 0 &&
+                cuts->back().length < tripLongest)
+                m_teller.Tell("trip-answer", cuts->back().span, 0,
+                              "a key of the catalogue may have more than " + std::to_string(cuts->back().length) +
+                                  " characters, and this part leaves " + Excerpt(form->Rest()) + " of " +
+                                  Excerpt(longKey),
+                              "let it take more characters");
+        }
+    }
+
+    // What the catalogue hands over comes into one control each.
+    void TryEntry()
+    {
+        const ClytNamedDialog* named = m_plan.Named();
+        const std::unique_ptr<TripForm> form = named != nullptr && named->handed == ClytHanded::Entry
+                                                   ? m_stage.Open(m_plan, entryHanded)
+                                                   : std::unique_ptr<TripForm>();
+        std::map<std::string, int> taken;
+        for (const TripCut& cut : form != nullptr ? form->Cuts() : std::vector<TripCut>())
+        {
+            for (const TripFill& fill : cut.fills)
+            {
+                if (!fill.takesPiece || fill.action != ClytFillAction::Other || cut.piece.empty())
+                    continue;
+                const auto [first, isNew] = taken.try_emplace(fill.control, cut.span.line);
+                if (!isNew && first->second != cut.span.line)
+                    m_teller.Tell("trip-control", fill.span, first->second,
+                                  "this puts " + Excerpt(cut.piece) + " into " + InQuotes(fill.control) +
+                                      ", which has its piece from " + NumberedLine(first->second) + " already",
+                                  "name the control that this piece is of");
+            }
         }
     }
 
@@ -114,39 +164,130 @@ private:
     }
 
     // Filled as it is when it is confirmed; nothing when no filling passes.
-    std::optional<Answer> AnswerOf(const TripPlan& plan, const std::string& input, size_t turn)
+    std::optional<Answer> AnswerOf(const TripPlan& plan, const std::string& input, const TripState& state)
     {
         const std::unique_ptr<TripForm> form = m_stage.Open(plan, input);
         if (form == nullptr)
             return std::nullopt;
-        form->Enter(FullState(plan, turn));
+        form->Enter(state);
         const std::optional<TripText> text = form->Compose(lytParentName);
         if (!text || text->line == 0 || !text->refusing.empty() || text->text.empty())
             return std::nullopt;
         return Answer{*text, form->Values()};
     }
 
-    void TryDialog(const TripPlan& nested, const std::vector<std::string>& words)
+    void TryDialog(const TripPlan& nested, const ValueStatement& button)
     {
         constexpr size_t turns = 3;
+        m_together.clear();
+        m_apart.clear();
         for (size_t turn = 0; turn < turns; ++turn)
         {
-            if (const std::optional<Answer> answer = AnswerOf(nested, "", turn))
-                TryAnswer(nested, *answer, words);
+            if (const std::optional<Answer> answer = AnswerOf(nested, "", FullState(nested, turn)))
+                TryAnswer(nested, *answer, button.values, false);
         }
+        if (const std::optional<Answer> answer = AnswerOf(nested, "", LongState(nested)))
+            TryAnswer(nested, *answer, button.values, true);
+        const bool isOwnInput = button.values[1] == lytParentName;
+        TellTogether(button.values[0] + ".dlg", isOwnInput ? Of().PlaceOf(button.span.line) : ClytSpan());
     }
 
-    void TryAnswer(const TripPlan& nested, const Answer& answer, const std::vector<std::string>& words)
+    // Fields hold more than a few words.
+    static TripState LongState(const TripPlan& plan)
+    {
+        constexpr size_t longText = 24;
+        TripState state = FullState(plan);
+        for (const TripControl& control : plan.Controls())
+        {
+            std::string text = control.mark;
+            while (!text.empty() && text.size() < longText)
+                text += control.mark;
+            if (control.isEntered && !text.empty() && control.limit == 0 && control.cutLength == 0)
+                WishOf(plan, state, control.name) = {TripWish::Kind::Value, text};
+        }
+        return state;
+    }
+
+    void TryAnswer(const TripPlan& nested, const Answer& answer, const std::vector<std::string>& words, bool isLong)
     {
         const std::unique_ptr<TripForm> form = m_stage.Open(m_plan, "");
         if (form == nullptr)
             return;
         form->Enter(FullState(m_plan));
         const std::optional<std::vector<TripCut>> cuts = form->Scan(words[1], answer.text.text);
-        if (!cuts || cuts->empty() || !TellArrival(*cuts, form->Rest(), answer, words[0]))
+        if (!cuts || cuts->empty())
+            return;
+        NoteTogether(*cuts, answer);
+        const bool hasRoom =
+            isLong && std::ranges::any_of(*cuts, [](const TripCut& cut) { return cut.length >= tripLongest; });
+        if (hasRoom || !TellArrival(*cuts, form->Rest(), answer, words[0]) || isLong)
             return;
         if (const std::optional<TripText> handed = form->Compose(words.back()); handed && handed->line != 0)
             TellReturn(nested, answer, *handed, words[0]);
+    }
+
+    // Which statements find their separators in an answer, and which take several items of it together instead.
+    void NoteTogether(const std::vector<TripCut>& cuts, const Answer& answer)
+    {
+        for (const TripCut& cut : cuts)
+        {
+            const auto isInside = [&](const TripItem& item)
+            { return item.begin < item.end && item.begin >= cut.begin && item.end <= cut.end; };
+            const auto isMark = [](const std::string& separator) { return !separator.empty() && separator != "Rest"; };
+            if (cut.next > cut.end)
+                m_apart.insert(cut.span.line);
+            else if (std::ranges::count_if(answer.text.items, isInside) > 1 &&
+                     std::ranges::any_of(cut.separators, isMark))
+                m_together.try_emplace(cut.span.line, cut, answer.text.text);
+        }
+    }
+
+    void TellTogether(const std::string& answering, const ClytSpan& place)
+    {
+        for (const auto& [line, found] : m_together)
+        {
+            const auto& [cut, text] = found;
+            if (!m_apart.contains(line))
+                m_teller.Tell("trip-answer", place.line != 0 ? place : cut.span, 0,
+                              InQuotes(answering) + " answers " + Excerpt(text) + ", in which " + NumberedLine(line) +
+                                  " does not find " + InQuotes(cut.separators.front()) +
+                                  ": several items come in one piece",
+                              place.line != 0 ? "name the part that takes the answer apart"
+                                              : "cut at what that dialog writes between its items");
+        }
+    }
+
+    // A part puts the answer in the place of an item, and that item is not handed over.
+    void TellModified(const ValueStatement& button)
+    {
+        const auto part = std::ranges::find(Of().inputs, button.values[1], &InputPart::name);
+        const auto group = std::ranges::find(Of().outputs, button.values.back(), &OutputGroup::name);
+        if (part == Of().inputs.end() || group == Of().outputs.end())
+            return;
+        std::string list;
+        for (const ClytDialogInput* statement : Records(part->part->GetStatements()))
+        {
+            for (const ClytConditionFill* rule : Records(statement->scanRule.rules))
+            {
+                const ClytControlFill& fill = *rule->fills.GetHead();
+                list = fill.action.GetMeaning() == ClytFillAction::Modify ? fill.controlName.GetString() : list;
+            }
+        }
+        const ClytDialogOutput* other = nullptr;
+        for (const ClytDialogOutput* rule : Records(group->rules))
+        {
+            for (const ClytOutputItem& item : rule->items)
+            {
+                if (list == item.text.GetString())
+                    return;
+                other = m_plan.Find(item.text.GetString()) != nullptr ? rule : other;
+            }
+        }
+        if (!list.empty() && other != nullptr)
+            m_teller.Tell("trip-answer", Of().PlaceOf(other->span.line), 0,
+                          "the answer takes the place of the item that is chosen in " + InQuotes(list) +
+                              ", and this hands another control over",
+                          "write " + InQuotes(list) + " here");
     }
 
     // False when something of the answer does not arrive.
@@ -203,7 +344,8 @@ private:
         {
             const TripControl* control = nested.Find(item.name);
             if (control == nullptr || !control->isTaken || !control->isEntered || item.IsCut() ||
-                answer.values.at(item.name) == after.at(item.name) || IsLostByItself(nested, answer, item.name))
+                answer.values.at(item.name) == after.at(item.name) ||
+                IsLostByItself(nested, answer, handed.text, item.name))
                 continue;
             m_teller.Tell("trip-answer", Of().PlaceOf(handed.line), 0,
                           InQuotes(dialog + ".dlg") + " answers " + Excerpt(answer.text.text) + " and is handed " +
@@ -215,9 +357,10 @@ private:
     }
 
     // A dialog that does not read its own text has separate findings.
-    bool IsLostByItself(const TripPlan& nested, const Answer& answer, const std::string& name)
+    bool IsLostByItself(const TripPlan& nested, const Answer& answer, const std::string& handed,
+                        const std::string& name)
     {
-        if (!nested.ComesBack())
+        if (!nested.ComesBack() || handed != answer.text.text)
             return false;
         const std::unique_ptr<TripForm> form = m_stage.Open(nested, answer.text.text);
         return form == nullptr || form->Values().at(name) != answer.values.at(name);
@@ -235,14 +378,17 @@ private:
     void TryPlaceholder(const TripPlan& reader, const std::string& file)
     {
         constexpr size_t turns = 3;
+        ClytSpan place;
         for (size_t turn = 0; turn < turns; ++turn)
         {
-            const std::optional<Answer> answer = AnswerOf(m_plan, "QKVZ/WJHB", turn);
+            const std::optional<Answer> answer = AnswerOf(m_plan, entryHanded, FullState(m_plan, turn));
             const std::unique_ptr<TripForm> form =
                 answer ? m_stage.Open(reader, answer->text.text) : std::unique_ptr<TripForm>();
             const std::optional<TripText> again = form != nullptr ? form->Compose(lytParentName) : std::nullopt;
             if (!again || again->line == 0)
                 continue;
+            NoteTogether(form->Cuts(), *answer);
+            place = Of().PlaceOf(answer->text.line);
             for (const TripItem& item : answer->text.items)
             {
                 const std::string put = answer->text.text.substr(item.begin, item.end - item.begin);
@@ -256,11 +402,27 @@ private:
                 return;
             }
         }
+        TellPlaceholderTogether(file, place);
+    }
+
+    void TellPlaceholderTogether(const std::string& file, const ClytSpan& place)
+    {
+        for (const auto& [line, found] : m_together)
+        {
+            if (!m_apart.contains(line))
+                m_teller.Tell("trip-answer", place, 0,
+                              InQuotes(file) + " reads this placeholder, and does not find " +
+                                  InQuotes(found.first.separators.front()) + " in " + Excerpt(found.second) +
+                                  ": several items come in one piece",
+                              "write it in the form that " + InQuotes(file) + " reads");
+        }
     }
 
     TripTeller& m_teller; // of the caller, as the others are
     TripStage& m_stage;
     const TripPlan& m_plan;
+    std::map<int, std::pair<TripCut, std::string>> m_together; // statements that take items together, and of which text
+    std::set<int> m_apart;                                     // statements that have found a separator
 };
 
 } // namespace
@@ -287,6 +449,8 @@ void TryNested(TripTeller& teller, TripStage& stage, const TripPlan& plan)
 {
     NestedTrip trip(teller, stage, plan);
     trip.TryButtons();
+    trip.TryCatalogue();
+    trip.TryEntry();
     trip.TryWizard();
 }
 

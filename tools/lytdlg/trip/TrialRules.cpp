@@ -1,8 +1,10 @@
 // The trial of a description: texts go out of the dialog and come back into a fresh one, and its rules are tried for what
 // locks the user out.
 #include "lytdlg/judge/Families.h"
+#include "lytdlg/trip/CollectingLists.h"
 #include "lytdlg/trip/Locks.h"
 #include "lytdlg/trip/NestedTrips.h"
+#include "lytdlg/trip/Reach.h"
 #include "lytdlg/trip/TripLoss.h"
 
 #include <algorithm>
@@ -59,8 +61,11 @@ void ApplyTrialRules(const Case& judged)
     // A dialog that others open need not read what it writes itself.
     if (isNested && teller.HasFindings() && ReturnsThroughCaller(judged, stage, plan))
         teller.Forget();
+    const OutOfReach outOfReach = TellReach(teller, stage, plan, journey.Looks());
+    teller.ForgetDropped(outOfReach.certain);
     teller.AddFindings();
-    TellLocks(teller, stage, plan, journey.Looks());
+    TellLocks(teller, stage, plan, journey.Looks(), outOfReach.controls);
+    TellCollectingLists(teller, description);
     TryNested(teller, stage, plan);
     teller.AddFindings();
 }

@@ -15,6 +15,7 @@ struct Trip
     TripValues after;
     std::set<std::string> reached; // by the user, when the text went out
     std::vector<TripCut> cuts;
+    std::vector<TripJump> lastJumps;
     std::string rest;
     std::string again; // the text that goes out the next time
     int againLine = 0; // of its rule

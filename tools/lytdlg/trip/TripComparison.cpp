@@ -28,7 +28,8 @@ bool IsCutByLimit(const TripItem& item)
 bool TripComparison::IsTried(const std::string& name) const
 {
     const TripControl* control = m_plan.Find(name);
-    return control != nullptr && !IsOfLibrary(*control) && (control->isEntered || control->isTaken);
+    return control != nullptr && !IsOfLibrary(*control) &&
+           (control->isEntered || control->isTaken || (control->isAnswered && !control->isListed));
 }
 
 bool TripComparison::IsChanged() const

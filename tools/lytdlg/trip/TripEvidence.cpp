@@ -2,8 +2,8 @@
 
 #include "dialog/ClytDialog.h"
 #include "dialog/FormatReader.h"
+#include "lytdlg/judge/DescriptionIndex.h"
 #include "lytdlg/judge/Lists.h"
-#include "lytdlg/trip/TripPlan.h"
 
 #include <algorithm>
 
@@ -38,6 +38,17 @@ bool IsSplitBy(const ClytDialogInput& statement, char separator)
 }
 
 } // namespace
+
+const EvaluationStatement* LastCheckOf(const Description& description, const std::string& name)
+{
+    const EvaluationStatement* last = nullptr;
+    for (const EvaluationStatement& statement : description.evaluations)
+    {
+        if (name == statement.own.GetName().GetString())
+            last = &statement;
+    }
+    return last;
+}
 
 std::vector<const ClytDialogOutput*> RulesOfResult(const Description& description)
 {
@@ -106,6 +117,40 @@ bool HasLargerLimit(const Description& description, const std::string& item, siz
         }
     }
     return false;
+}
+
+bool LeadsTo(const TripPlan& plan, const std::string& statement, const std::string& control)
+{
+    const auto parent = std::ranges::find(plan.Of().inputs, lytParentName, &InputPart::name);
+    std::vector<std::string> open = {statement};
+    std::set<std::string> seen;
+    while (!open.empty() && parent != plan.Of().inputs.end())
+    {
+        const std::string name = open.back();
+        open.pop_back();
+        const ClytDialogInput* present = seen.insert(name).second ? parent->part->Find(name.c_str()) : nullptr;
+        if (present == nullptr)
+            continue;
+        if (std::ranges::any_of(plan.TakersOf(control),
+                                [&](const TripTaker& taker) { return taker.statement == present; }))
+            return true;
+        if (present->scanRule.scan.HasScan() == 0)
+            open.insert(open.end(), {present->trueTarget.name.GetString(), present->falseTarget.name.GetString()});
+    }
+    return false;
+}
+
+bool GivesValue(const TripPlan& plan, const std::string& statement, const std::string& control,
+                const std::string& value)
+{
+    const auto parent = std::ranges::find(plan.Of().inputs, lytParentName, &InputPart::name);
+    const ClytDialogInput* present = parent != plan.Of().inputs.end() ? parent->part->Find(statement.c_str()) : nullptr;
+    const auto gives = [&](const ClytConditionFill* rule)
+    {
+        const ClytControlFill& fill = *rule->fills.GetHead();
+        return control == fill.controlName.GetString() && !TakesPiece(fill) && value == fill.value.GetString();
+    };
+    return present != nullptr && std::ranges::any_of(Records(present->scanRule.rules), gives);
 }
 
 bool ClosesBracket(const std::string& before, const std::string& gap)

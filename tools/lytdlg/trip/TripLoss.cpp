@@ -2,6 +2,7 @@
 
 #include "lytdlg/trip/AstrayPieces.h"
 #include "lytdlg/trip/DroppedControls.h"
+#include "lytdlg/trip/LibraryMarks.h"
 #include "lytdlg/trip/MiscutItems.h"
 
 #include <algorithm>
@@ -56,6 +57,8 @@ private:
     {
         for (const TripCut& cut : m_trip.cuts)
         {
+            for (const TripJump& jump : cut.jumps)
+                m_teller.TellFit(jump.span.line, "");
             const bool isCut =
                 cut.length > 0 ? cut.end - cut.begin == static_cast<size_t>(cut.length) : cut.next > cut.end;
             const auto isItem = [&](const TripItem& item)
@@ -89,6 +92,11 @@ private:
         if (m_compared.IsBadCut(item))
             return m_miscut.TellCut(item);
         const TripCut* cut = m_compared.CutAt(item);
+        const auto isGiven = [&](const TripFill& fill) { return fill.control == item.name; };
+        if (cut != nullptr && m_astray.TellWrongWay(item, *cut))
+            return false;
+        if (cut != nullptr && !cut->TakesAny() && std::ranges::any_of(cut->fills, isGiven) && m_astray.TellGiven(item))
+            return true;
         if (cut == nullptr && !m_astray.TellGiven(item))
             m_miscut.TellEnd(item);
         else if (cut == nullptr)
@@ -123,9 +131,15 @@ void TellLosses(TripTeller& teller, const TripPlan& plan, const Trip& trip)
 {
     std::vector<int> way;
     for (const TripCut& cut : trip.cuts)
+    {
+        for (const TripJump& jump : cut.jumps)
+            way.push_back(jump.span.line);
         way.push_back(cut.span.line);
+    }
     teller.BeginTrip(trip.out.line, std::move(way));
-    LossSearch(teller, TripComparison(plan, trip)).Tell();
+    const TripComparison compared(plan, trip);
+    LossSearch(teller, compared).Tell();
+    TellLibraryMarks(teller, compared);
     teller.BeginTrip(0, {});
 }
 

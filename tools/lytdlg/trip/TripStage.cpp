@@ -15,6 +15,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <utility>
 
 namespace lytdlg
 {
@@ -37,6 +38,7 @@ public:
     {
         m_text = text;
         m_cuts.clear();
+        m_jumps.clear();
         m_place = 0;
     }
     void Cut(const ClytDialogInput& statement, const CString& piece, const char* rest,
@@ -52,9 +54,23 @@ public:
         cut.end = isPlain ? cut.begin + cut.piece.size() : std::min(cut.next, cut.begin + cut.piece.size() + 2);
         cut.length = statement.scanRule.scan.GetLength();
         for (const ClytSeparator* separator : Records(statement.scanRule.scan.GetSeparators()))
+        {
             cut.separators.emplace_back(separator->text.GetString());
+            cut.targets.emplace_back(separator->target.name.GetString());
+        }
+        if (cut.length > 0)
+            cut.targets.emplace_back(statement.scanRule.scan.GetTarget().name.GetString());
+        cut.jumps = std::exchange(m_jumps, {});
         m_place = cut.next;
         m_rest = rest;
+    }
+    void Jumped(const ClytDialogInput& statement, const CString& nextStatement) override
+    {
+        TripJump& jump = m_jumps.emplace_back();
+        jump.span = statement.span;
+        jump.next = nextStatement.GetString();
+        for (const ClytTarget* target : {&statement.trueTarget, &statement.falseTarget})
+            jump.targets.emplace_back(target->name.GetString());
     }
     void Filled(const ClytControlFill& fill, const CString& /*piece*/) override
     {
@@ -62,17 +78,19 @@ public:
         heard.control = fill.controlName.GetString();
         heard.span = fill.span;
         heard.takesPiece = TakesPiece(fill);
-        heard.isConcat = fill.action.GetMeaning() == ClytFillAction::Concat;
+        heard.action = fill.action.GetMeaning();
         heard.separators = (fill.operands[0] + fill.operands[1] + fill.operands[2]).GetString();
     }
     const std::vector<TripCut>& Cuts() const { return m_cuts; }
     const std::string& Rest() const { return m_rest; }
+    const std::vector<TripJump>& LastJumps() const { return m_jumps; }
 
 private:
     const char* m_text = "";
     size_t m_place = 0;
     std::string m_rest;
     std::vector<TripCut> m_cuts;
+    std::vector<TripJump> m_jumps; // since the last cut
 };
 
 namespace
@@ -147,6 +165,7 @@ public:
         lytInputKey.Empty();
         m_cuts = m_listener.Cuts();
         m_rest = m_listener.Rest();
+        m_lastJumps = m_listener.LastJumps();
         return isOpen && m_form.RunRules();
     }
 
@@ -205,6 +224,7 @@ public:
 
     const std::vector<TripCut>& Cuts() const override { return m_cuts; }
     const std::string& Rest() const override { return m_rest; }
+    const std::vector<TripJump>& LastJumps() const override { return m_lastJumps; }
     bool RunRules() override { return m_form.RunRules(); }
 
 private:
@@ -347,6 +367,7 @@ private:
     TripListener& m_listener;
     FormOffScreen m_form;
     std::vector<TripCut> m_cuts;
+    std::vector<TripJump> m_lastJumps;
     std::string m_rest;
 };
 

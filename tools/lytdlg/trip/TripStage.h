@@ -61,7 +61,15 @@ struct TripFill
     ClytSpan span;
     std::string separators; // of CONCAT
     bool takesPiece = false;
-    bool isConcat = false;
+    ClytFillAction action = ClytFillAction::Other;
+};
+
+// A statement that only says where the run continues.
+struct TripJump
+{
+    ClytSpan span;
+    std::vector<std::string> targets;
+    std::string next; // of the targets, the one that was taken
 };
 
 // A piece that a statement of the input cut off.
@@ -75,6 +83,8 @@ struct TripCut
     size_t next = 0; // where the next one begins
     int length = 0;  // that it is cut by; 0 for separators
     std::vector<std::string> separators;
+    std::vector<std::string> targets; // where the run may continue
+    std::vector<TripJump> jumps;      // that led to the statement
     std::vector<TripFill> fills;
 
     bool TakesAny() const { return std::ranges::any_of(fills, &TripFill::takesPiece); }
@@ -106,6 +116,8 @@ public:
     virtual const std::vector<TripCut>& Cuts() const = 0;
     // What is left of that text.
     virtual const std::string& Rest() const = 0;
+    // The jumps after the last cut of that text.
+    virtual const std::vector<TripJump>& LastJumps() const = 0;
     // False when a rule fails.
     virtual bool RunRules() = 0;
 };

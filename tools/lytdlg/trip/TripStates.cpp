@@ -39,7 +39,8 @@ TripWish FullWish(const TripControl& control, size_t turn)
         return {TripWish::Kind::Items, "", (control.values.size() + turn) % (control.values.size() + 1)};
     // Nobody but the input fills it.
     if (!control.isEntered)
-        return control.isTaken ? TripWish{TripWish::Kind::Value, control.values.front()} : TripWish();
+        return control.isTaken || control.isAnswered ? TripWish{TripWish::Kind::Value, control.values.front()}
+                                                     : TripWish();
     return {TripWish::Kind::Value, control.values[turn % control.values.size()]};
 }
 

@@ -21,6 +21,18 @@ void TripTeller::Tell(RuleName rule, const ClytSpan& place, int otherLine, std::
     m_losses.push_back({rule, {place, std::move(message), std::move(hint)}, otherLine, m_outputLine, m_way});
 }
 
+void TripTeller::TellDropped(const std::string& control, const ClytSpan& place, int otherLine, std::string message,
+                             std::string hint)
+{
+    Tell("trip-dropped", place, otherLine, std::move(message), std::move(hint));
+    m_losses.back().dropped = control;
+}
+
+void TripTeller::ForgetDropped(const std::set<std::string>& controls)
+{
+    std::erase_if(m_losses, [&](const Loss& loss) { return controls.contains(loss.dropped); });
+}
+
 void TripTeller::Add(const Loss& loss)
 {
     const std::string& id = loss.rule.Get().id;
@@ -54,24 +66,27 @@ void TripTeller::RemoveConsequences()
                   [&](const Loss& loss)
                   {
                       const int line = loss.side.place.line;
-                      return line != loss.outputLine && (dropping.contains(loss.outputLine) ||
-                                                         (blamed.contains(loss.outputLine) && m_fits.contains(line)));
+                      return !loss.isEither && line != loss.outputLine &&
+                             (dropping.contains(loss.outputLine) ||
+                              (blamed.contains(loss.outputLine) && m_fits.contains(line)));
                   });
     blamed = Blamed();
     std::erase_if(m_losses,
                   [&](const Loss& loss)
                   {
                       const auto end = std::ranges::find(loss.way, loss.side.place.line);
-                      return std::any_of(loss.way.begin(), end, [&](int line) { return blamed.contains(line); });
+                      return std::any_of(loss.way.begin(), end,
+                                         [&](int line) {
+                                             return blamed.contains(line) && !(loss.isEither && line == loss.otherLine);
+                                         });
                   });
 }
 
-void TripTeller::TellMisfit(RuleName rule, TripSide output, TripSide input, bool isInputLikely,
+void TripTeller::TellMisfit(RuleName rule, TripSide output, TripSide input, TripBlame blame,
                             const std::vector<std::string>& separators)
 {
     if (m_unfit[input.place.line].insert(output.place.line).second)
-        m_misfits.push_back(
-            {rule, std::move(output), std::move(input), isInputLikely, separators, m_outputLine, m_way});
+        m_misfits.push_back({rule, std::move(output), std::move(input), blame, separators, m_outputLine, m_way});
 }
 
 bool TripTeller::HasFit(const Misfit& misfit) const
@@ -82,19 +97,33 @@ bool TripTeller::HasFit(const Misfit& misfit) const
                                { return separator == "Rest" || fits->second.contains(separator); });
 }
 
-bool TripTeller::IsInputWrong(const Misfit& misfit) const
+TripBlame TripTeller::BlameOf(const Misfit& misfit) const
 {
-    return m_unfit.at(misfit.input.place.line).size() > 1 || (misfit.isInputLikely && !HasFit(misfit));
+    if (m_unfit.at(misfit.input.place.line).size() > 1)
+        return TripBlame::Input;
+    // A list may be taken apart wrongly where its piece ends well.
+    if (misfit.rule.Get().id == "trip-list")
+        return misfit.blame;
+    const bool fitsInPart = misfit.blame == TripBlame::Either && m_fits.contains(misfit.input.place.line);
+    return fitsInPart || HasFit(misfit) ? TripBlame::Output : misfit.blame;
+}
+
+void TripTeller::AddSide(const Misfit& misfit, bool isInput, bool isEither)
+{
+    m_losses.push_back({misfit.rule, isInput ? misfit.input : misfit.output,
+                        isInput ? misfit.output.place.line : misfit.input.place.line, misfit.outputLine, misfit.way,
+                        isEither});
 }
 
 void TripTeller::AddFindings()
 {
     for (const Misfit& misfit : m_misfits)
     {
-        const bool isInput = IsInputWrong(misfit);
-        m_losses.push_back({misfit.rule, isInput ? misfit.input : misfit.output,
-                            isInput ? misfit.output.place.line : misfit.input.place.line, misfit.outputLine,
-                            misfit.way});
+        const TripBlame blame = BlameOf(misfit);
+        if (blame != TripBlame::Input)
+            AddSide(misfit, false, blame == TripBlame::Either);
+        if (blame != TripBlame::Output)
+            AddSide(misfit, true, blame == TripBlame::Either);
     }
     RemoveConsequences();
     std::ranges::for_each(m_losses, [&](const Loss& loss) { Add(loss); });

@@ -17,6 +17,14 @@ struct TripSide
     std::string hint;
 };
 
+// Which side of a misfit is likely to be wrong.
+enum class TripBlame
+{
+    Output,
+    Input,
+    Either
+};
+
 // Collects what trials find, and adds it at their end: of a rule and a line once, and nothing about a line that other rules
 // warn of already.
 class TripTeller
@@ -32,10 +40,16 @@ public:
     }
     // The place, and the other line that the loss comes about by; 0 for none.
     void Tell(RuleName rule, const ClytSpan& place, int otherLine, std::string message, std::string hint);
+    // A rule does not write a control.
+    void TellDropped(const std::string& control, const ClytSpan& place, int otherLine, std::string message,
+                     std::string hint);
+    // The controls have findings that explain why rules do not write them.
+    void ForgetDropped(const std::set<std::string>& controls);
     // The two sides do not fit each other. A statement of the input that does not fit several rules of the output is the one
-    // that is wrong; otherwise the rule is, unless the caller finds the input likelier and no rule fits that.
+    // that is wrong, and one that fits another rule is right. For any other the caller says which side is likely; when it is
+    // either, both are reported.
     // Where separators do not fit, a statement is right when each of its separators fits some rule.
-    void TellMisfit(RuleName rule, TripSide output, TripSide input, bool isInputLikely,
+    void TellMisfit(RuleName rule, TripSide output, TripSide input, TripBlame blame,
                     const std::vector<std::string>& separators = {});
     // A text has come back through the statement, which cut it at that separator.
     void TellFit(int inputLine, const std::string& separator) { m_fits[inputLine].insert(separator); }
@@ -51,7 +65,7 @@ private:
         RuleName rule;
         TripSide output;
         TripSide input;
-        bool isInputLikely = false;
+        TripBlame blame = TripBlame::Output;
         std::vector<std::string> separators;
         int outputLine = 0;
         std::vector<int> way;
@@ -63,13 +77,16 @@ private:
         int otherLine = 0;
         int outputLine = 0;
         std::vector<int> way;
+        bool isEither = false;    // the other line has a finding as well
+        std::string dropped = {}; // the control that the rule does not write
     };
 
     void Add(const Loss& loss);
     std::set<int> Blamed() const;
     void RemoveConsequences();
     bool HasFit(const Misfit& misfit) const;
-    bool IsInputWrong(const Misfit& misfit) const;
+    TripBlame BlameOf(const Misfit& misfit) const;
+    void AddSide(const Misfit& misfit, bool isInput, bool isEither);
 
     const Case& m_judged;
     std::set<int> m_warned;
