@@ -1,6 +1,7 @@
 #include "lytdlg/serve/Server.h"
 
 #include "commandline/CommandLine.h"
+#include "commandline/Text.h"
 #include "lytdlg/text/Uri.h"
 
 #include <afx.h>
