@@ -15,7 +15,5 @@ cmake_path(GET lyt_runtime PARENT_PATH lyt_runtime)
 set(CMAKE_CXX_FLAGS_INIT
   "-stdlib++-isystem ${lyt_runtime}/include/c++ -stdlib++-isystem ${lyt_runtime}/include/c++/${lyt_target}")
 foreach(kind EXE SHARED MODULE)
-  string(APPEND CMAKE_${kind}_LINKER_FLAGS_INIT " -fuse-ld=lld -B${lyt_runtime} -L${lyt_runtime}")
+  string(APPEND CMAKE_${kind}_LINKER_FLAGS_INIT " -fuse-ld=lld -B${lyt_runtime} -L${lyt_runtime} -lwinpthread")
 endforeach()
-set(CMAKE_CXX_STANDARD_LIBRARIES_INIT "-lwinpthread")
-set(CMAKE_C_STANDARD_LIBRARIES_INIT "-lwinpthread")

@@ -37,6 +37,20 @@ sha256sum --check --quiet --strict SHA256SUMS || bad=1
 sed 's/^[^ ]*  //' SHA256SUMS >../summed
 grep -vx SHA256SUMS ../contents | diff -u - ../summed || complain "SHA256SUMS tells of other files"
 
+# Signed, the library works as before and has another sum; without its signature it is the same file again.
+cp lyt64.dll ../unsigned.dll
+openssl req -x509 -newkey rsa:2048 -nodes -keyout ../key.pem -out ../certificate.pem -subj /CN=lyt64 -days 1 2>../signing &&
+    osslsigncode sign -certs ../certificate.pem -key ../key.pem -in ../unsigned.dll -out ../signed.dll >>../signing &&
+    osslsigncode remove-signature -in ../signed.dll -out ../again.dll >>../signing &&
+    cmp ../unsigned.dll ../again.dll || { cat ../signing; complain "the library cannot be signed, or not without a trace"; }
+cp ../signed.dll lyt64.dll
+sha256sum --check --quiet SHA256SUMS >../checked 2>&1 && complain "a signature does not change the sum"
+"$here/../../../scripts/make-sums" . "$version"
+sha256sum --check --quiet --strict SHA256SUMS || complain "make-sums does not write the sums again"
+"$build/wine-run.sh" ./lytcall.exe text Buttons 001 >../call || { cat ../call; complain "the signed library does not work"; }
+cp ../unsigned.dll lyt64.dll
+"$here/../../../scripts/make-sums" . "$version"
+
 "$cmake" --install "$build" --prefix "$folder/installed" >/dev/null || bad=1
 diff -r "$folder/installed" . || bad=1
 
