@@ -25,6 +25,10 @@ class Outcome:
             self.limit, self.value = aim["ratio"], self.ratio["median"]
             self.ours, self.other = time_text(ours), time_text(measured["series"][self.rival]["median"])
             self.aim_text = f"{self.limit:.2f} × the rival"
+        elif "ms" in aim:
+            self.limit, self.value = aim["ms"], ours / 1e6
+            self.ours, self.other = time_text(ours), ""
+            self.aim_text = f"{digits(self.limit)} ms"
         else:
             self.limit, self.value = aim["kb"], ours
             self.ours, self.other = f"{digits(ours)} KB", ""

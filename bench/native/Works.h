@@ -31,3 +31,7 @@ void MeasureCheck(const BenchMeter& meter);
 // Brought into its form, and drawn; its lines copied.
 void MeasureFmt(const BenchMeter& meter);
 void MeasurePreview(const BenchMeter& meter);
+// What the language server does for a description of so many lines, and over so many dialogs.
+void MeasureEditorChange(const BenchMeter& meter);
+void MeasureEditorCompletion(const BenchMeter& meter);
+void MeasureEditorRename(const BenchMeter& meter);

@@ -20,5 +20,8 @@ int main(int argc, char** argv)
                           {"check", {10, 100, 1000}, MeasureCheck},
                           {"fmt", {10, 100, 1000}, MeasureFmt},
                           {"preview", {10, 100, 1000}, MeasurePreview},
+                          {"editor-change", {100, 500}, MeasureEditorChange},
+                          {"editor-completion", {100, 500}, MeasureEditorCompletion},
+                          {"editor-rename", {10, 100}, MeasureEditorRename},
                       });
 }

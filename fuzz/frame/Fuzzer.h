@@ -23,6 +23,7 @@ extern const Fuzzer descriptionFuzzer;
 extern const Fuzzer fmtFuzzer;
 extern const Fuzzer formatFuzzer;
 extern const Fuzzer groupsFuzzer;
+extern const Fuzzer lspFuzzer;
 extern const Fuzzer profileFuzzer;
 extern const Fuzzer propertyFuzzer;
 extern const Fuzzer reportFuzzer;

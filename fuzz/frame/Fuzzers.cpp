@@ -6,7 +6,7 @@ namespace
 {
 
 constexpr const Fuzzer* fuzzers[] = {
-    &checkFuzzer,    &descriptionFuzzer, &fmtFuzzer,  &formatFuzzer, &groupsFuzzer, &profileFuzzer,
+    &checkFuzzer,    &descriptionFuzzer, &fmtFuzzer,  &formatFuzzer, &groupsFuzzer, &profileFuzzer, &lspFuzzer,
     &propertyFuzzer, &reportFuzzer,      &scanFuzzer, &sizesFuzzer,  &treeFuzzer,   &wizardFuzzer,
 };
 

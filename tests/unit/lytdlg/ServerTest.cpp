@@ -329,6 +329,93 @@ TEST(LanguageServer, LeavesOutWhatIsCancelledBeforeItsTurn)
     EXPECT_EQ(ErrorOf(session.sent[0]), -32800);
 }
 
+// Each request about a place of a sample, as an editor sends it.
+TEST(LanguageServer, AnswersAboutPlaces)
+{
+    ServerSession session;
+    const std::string path = samples + "lytRpGrp.dlg";
+    session.Open(path, ReadWholeFile(path).value());
+    Json place = ServerSession::Document(path);
+    const auto at = [&](int line, int character) -> const Json&
+    {
+        place["position"] = {{"line", line - 1}, {"character", character}};
+        return place;
+    };
+    place["context"] = {{"includeDeclaration", true}};
+    place["newName"] = "Chambers";
+    const Json rooms = session.ResultOf("textDocument/references", at(44, 52));
+    EXPECT_EQ(rooms.size(), 2U);
+    EXPECT_EQ(session.ResultOf("textDocument/documentHighlight", at(44, 52)).size(), 2U);
+    EXPECT_EQ(session.ResultOf("textDocument/rename", at(44, 52))["changes"][UriOf(path)].size(), 2U);
+    EXPECT_EQ(session.ResultOf("textDocument/prepareRename", at(44, 52))["placeholder"], "RoomsLabel");
+    EXPECT_EQ(ErrorOf(session.Ask("textDocument/prepareRename", at(44, 5))), -32803);
+    EXPECT_EQ(session.ResultOf("textDocument/definition", at(44, 52))[0]["range"], rooms[0]["range"]);
+    EXPECT_EQ(session.ResultOf("textDocument/definition", at(44, 38)).size(), 2U);
+    EXPECT_NE(session.ResultOf("textDocument/hover", at(44, 38))["contents"]["value"].get<std::string>().find(
+                  "German: Gew\xC3\xA4hlte R\xC3\xA4ume"),
+              std::string::npos);
+    EXPECT_EQ(session.ResultOf("textDocument/hover", at(1, 0)), Json());
+    EXPECT_FALSE(session.ResultOf("textDocument/completion", at(97, 4)).empty());
+    EXPECT_EQ(session.ResultOf("textDocument/completion", at(100000, 4)), Json::array());
+    EXPECT_EQ(session.ResultOf("textDocument/completion", at(-1, -1)), Json::array());
+    EXPECT_EQ(session.ResultOf("textDocument/documentLink", place).size(), 2U);
+    EXPECT_EQ(session.ResultOf("textDocument/semanticTokens/full", place)["data"].size() % 5, 0U);
+    place["range"] = ServerSession::Range(43, 0, 43, 99);
+    EXPECT_EQ(session.ResultOf("textDocument/inlayHint", place)[0]["label"], "Chosen rooms");
+    const Json lenses = session.ResultOf("textDocument/codeLens", place);
+    EXPECT_EQ(lenses[0]["command"]["command"], "lytdlg.run");
+    EXPECT_EQ(session.ResultOf("codeLens/resolve", lenses[1])["command"]["title"], "14 cases passed");
+}
+
+TEST(LanguageServer, AsksOfOtherTextsNothing)
+{
+    ServerSession session;
+    const std::string path = samples + "lang/English.nls";
+    session.Open(path, ReadWholeFile(path).value());
+    Json place = ServerSession::Document(path);
+    place["position"] = {{"line", 1}, {"character", 1}};
+    place["range"] = ServerSession::Range(0, 0, 99, 0);
+    place["context"] = {{"includeDeclaration", true}};
+    for (const char* method : {"textDocument/completion", "textDocument/definition", "textDocument/references",
+                               "textDocument/documentHighlight", "textDocument/documentLink", "textDocument/inlayHint",
+                               "textDocument/codeLens", "textDocument/formatting", "textDocument/documentSymbol",
+                               "textDocument/foldingRange"})
+        EXPECT_EQ(session.ResultOf(method, place), Json::array()) << method;
+    EXPECT_EQ(session.ResultOf("textDocument/hover", place), Json());
+}
+
+// A dialog that is open in the editor is drawn as it is there, after what a user has done.
+TEST(LanguageServer, DrawsADialogAfterActs)
+{
+    const TestFolder folder;
+    for (const ExampleFile& file : ExampleFiles())
+        folder.Write(file.name, file.content);
+    const std::string path = folder.File("drawn.dlg");
+    ServerSession session;
+    session.Open(path, ExampleDescription(""));
+    Json params = ServerSession::Document(path);
+    params["input"] = "b;a";
+    params["acts"] = {"set Name = \xC3\xA4"};
+    const Json drawn = session.ResultOf("lytdlg/draw", params);
+    EXPECT_EQ(drawn["outcome"], "open");
+    EXPECT_TRUE(drawn["svg"].get<std::string>().starts_with("<svg"));
+    EXPECT_FALSE(drawn.contains("result"));
+    const Json& name = drawn["controls"][1];
+    EXPECT_EQ(name["target"], "Name");
+    EXPECT_EQ(name["type"], "TextBox");
+    EXPECT_EQ(name["value"], "\xC3\xA4");
+    EXPECT_EQ(drawn["controls"][3]["value"], "a");
+    EXPECT_TRUE(name["enabled"] && name["shown"] && name["place"]["width"] > 0);
+    params["acts"] = {"set Name = x", "ok"};
+    EXPECT_EQ(session.ResultOf("lytdlg/draw", params)["result"], "x;a;hall place;;s;-");
+    params["acts"] = {"set Nothing = x"};
+    EXPECT_EQ(ErrorOf(session.Ask("lytdlg/draw", params)), -32803);
+    session.Tell("textDocument/didChange",
+                 {{"textDocument", {{"uri", UriOf(path)}}}, {"contentChanges", {{{"text", "$VERSION 1\n"}}}}});
+    EXPECT_EQ(ErrorOf(session.Ask("lytdlg/draw", params)), -32803);
+    EXPECT_FALSE(folder.Has("drawn.dlg"));
+}
+
 TEST(MessageStream, CutsMessagesOutOfBytes)
 {
     MessageStream stream;

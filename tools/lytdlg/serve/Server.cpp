@@ -23,7 +23,8 @@ enum ProtocolError
     invalidParams = -32602,
     internalError = -32603,
     serverNotInitialized = -32002,
-    requestCancelled = -32800
+    requestCancelled = -32800,
+    requestFailed = -32803
 };
 
 struct Refused
@@ -50,6 +51,16 @@ std::string TextIn(const Json& message, const char* field)
     return found != message.end() && found->is_string() ? found->get<std::string>() : "";
 }
 
+// Whether the client tells of an ability.
+bool Can(const Json& params, const char* ability)
+{
+    const Json none = Json::object();
+    const auto capabilities = params.find("capabilities");
+    const Json& all = capabilities != params.end() && capabilities->is_object() ? *capabilities : none;
+    const Json::json_pointer place(ability);
+    return all.contains(place) && all.at(place) == true;
+}
+
 std::string WordsOfFailure(CException* failure)
 {
     CString message;
@@ -65,25 +76,37 @@ struct Server::Method
 {
     const char* name;
     Json (Server::*answer)(const Json& params);
-    bool isRequest;
 };
 
 const std::vector<Server::Method>& Server::Methods()
 {
     static const std::vector<Method> methods = {
-        {"initialize", &Server::Initialize, true},
-        {"initialized", &Server::Initialized, false},
-        {"shutdown", &Server::ShutDown, true},
-        {"exit", &Server::Exit, false},
-        {"textDocument/didOpen", &Server::DidOpen, false},
-        {"textDocument/didChange", &Server::DidChange, false},
-        {"textDocument/didClose", &Server::DidClose, false},
-        {"textDocument/didSave", &Server::DidSave, false},
-        {"workspace/didChangeWatchedFiles", &Server::DidChangeFiles, false},
-        {"textDocument/codeAction", &Server::CodeActions, true},
-        {"textDocument/formatting", &Server::Formatting, true},
-        {"textDocument/documentSymbol", &Server::DocumentSymbols, true},
-        {"textDocument/foldingRange", &Server::Folds, true},
+        {"initialize", &Server::Initialize},
+        {"initialized", &Server::Initialized},
+        {"shutdown", &Server::ShutDown},
+        {"exit", &Server::Exit},
+        {"textDocument/didOpen", &Server::DidOpen},
+        {"textDocument/didChange", &Server::DidChange},
+        {"textDocument/didClose", &Server::DidClose},
+        {"textDocument/didSave", &Server::DidSave},
+        {"workspace/didChangeWatchedFiles", &Server::DidChangeFiles},
+        {"textDocument/codeAction", &Server::CodeActions},
+        {"textDocument/formatting", &Server::Formatting},
+        {"textDocument/documentSymbol", &Server::DocumentSymbols},
+        {"textDocument/foldingRange", &Server::Folds},
+        {"textDocument/completion", &Server::Completion},
+        {"textDocument/hover", &Server::Hover},
+        {"textDocument/definition", &Server::Definition},
+        {"textDocument/references", &Server::References},
+        {"textDocument/documentHighlight", &Server::Highlights},
+        {"textDocument/prepareRename", &Server::PrepareRename},
+        {"textDocument/rename", &Server::Rename},
+        {"textDocument/documentLink", &Server::Links},
+        {"textDocument/semanticTokens/full", &Server::Tokens},
+        {"textDocument/inlayHint", &Server::Hints},
+        {"textDocument/codeLens", &Server::Lenses},
+        {"codeLens/resolve", &Server::ResolvedLens},
+        {"lytdlg/draw", &Server::Draw},
     };
     return methods;
 }
@@ -159,6 +182,10 @@ void Server::Answer(const Json& message)
     {
         refuse(invalidParams, failure.what());
     }
+    catch (const std::runtime_error& failure)
+    {
+        refuse(requestFailed, failure.what());
+    }
     catch (const std::exception& failure)
     {
         refuse(internalError, failure.what());
@@ -200,10 +227,8 @@ Json Server::Initialize(const Json& params)
 {
     if (m_state != State::New)
         throw Refused{invalidRequest, "\"initialize\" comes once"};
-    constexpr const char* canWatch = "/capabilities/workspace/didChangeWatchedFiles/dynamicRegistration";
-    const Json& asked = params;
-    const Json flag = asked.value(Json::json_pointer(canWatch), Json(false));
-    m_canWatchFiles = flag.is_boolean() && flag.get<bool>();
+    m_canWatchFiles = Can(params, "/workspace/didChangeWatchedFiles/dynamicRegistration");
+    m_takesSnippets = Can(params, "/textDocument/completion/completionItem/snippetSupport");
     m_workspace = std::make_unique<Workspace>(m_partners, m_defines);
     m_state = State::Ready;
     constexpr int byRanges = 2;
@@ -215,7 +240,17 @@ Json Server::Initialize(const Json& params)
               {"codeActionProvider", actions},
               {"documentFormattingProvider", true},
               {"documentSymbolProvider", true},
-              {"foldingRangeProvider", true}}},
+              {"foldingRangeProvider", true},
+              {"completionProvider", {{"triggerCharacters", {"$", "/", "=", ":", "(", ",", ".", "\""}}}},
+              {"hoverProvider", true},
+              {"definitionProvider", true},
+              {"referencesProvider", true},
+              {"documentHighlightProvider", true},
+              {"renameProvider", {{"prepareProvider", true}}},
+              {"documentLinkProvider", Json::object()},
+              {"semanticTokensProvider", {{"legend", TokenLegend()}, {"full", true}}},
+              {"inlayHintProvider", true},
+              {"codeLensProvider", {{"resolveProvider", true}}}}},
             {"serverInfo", {{"name", "lytdlg"}, {"version", commandline::projectVersion}}}};
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "lytdlg/language/Diagnostics.h"
+#include "lytdlg/language/Navigation.h"
 #include "lytdlg/serve/ProtocolJson.h"
 
 #include <deque>
@@ -56,6 +57,19 @@ private:
     Json Formatting(const Json& params);
     Json DocumentSymbols(const Json& params);
     Json Folds(const Json& params);
+    Json Completion(const Json& params);
+    Json Hover(const Json& params);
+    Json Definition(const Json& params);
+    Json References(const Json& params);
+    Json Highlights(const Json& params);
+    Json PrepareRename(const Json& params);
+    Json Rename(const Json& params);
+    Json Links(const Json& params);
+    Json Tokens(const Json& params);
+    Json Hints(const Json& params);
+    Json Lenses(const Json& params);
+    Json ResolvedLens(const Json& params);
+    Json Draw(const Json& params);
 
     // All open texts that the change of one concerns, itself first.
     void WillJudge(const std::string& path);
@@ -65,13 +79,19 @@ private:
     static std::string PathIn(const Json& params);
     std::string UriFor(const std::string& path) const;
     Json WorkspaceEdit(const EditsByPath& edits) const;
+    // Of the description that a request is about, or one without lines.
+    const Description& DescriptionIn(const Json& params) const;
+    NamedWord WordIn(const Json& params) const;
+    Json LocationOf(const std::string& path, const ClytSpan& place) const;
 
     const Send m_send;
     const std::vector<std::string> m_partners;
     const std::vector<std::string> m_defines;
     State m_state = State::New;
     bool m_isOver = false;
-    bool m_canWatchFiles = false; // the client, for the server
+    // What the client can do.
+    bool m_canWatchFiles = false;
+    bool m_takesSnippets = false;
     std::deque<Json> m_waiting;
     std::deque<std::string> m_unjudged; // paths
     std::unique_ptr<Workspace> m_workspace;

@@ -6,7 +6,7 @@
 #include "environment/ProcessState.h"
 #include "lytdlg/judge/Names.h"
 #include "lytdlg/text/LanguageFiles.h"
-#include "lytdlg/text/Paths.h"
+#include "lytdlg/text/OpenTexts.h"
 #include "lytdlg/text/TextFile.h"
 #include "script/LineReader.h"
 #include "tree/ClytNode.h"
@@ -113,11 +113,15 @@ TrialEnvironment::TrialEnvironment(const Setup& setup)
 {
     // In full: a configuration file without a folder is looked for in that of the system.
     const fs::path file = fs::absolute(PathOf(setup.dialog)).lexically_normal();
-    if (!fs::is_regular_file(file))
+    const std::string* open = OpenTexts::Find(file);
+    if (open == nullptr && !fs::is_regular_file(file))
         throw UsageError("there is no dialog \"" + setup.dialog + "\"; name a .dlg file with its folder");
     CheckItems(setup, file);
     const fs::path dialogs = file.parent_path();
-    m_descriptionFile = NameForLibrary(dialogs) + "\\" + NameForLibrary(file.filename());
+    if (open != nullptr)
+        m_openText.emplace(*open);
+    m_descriptionFile = open != nullptr ? NameForLibrary(m_openText->Name())
+                                        : NameForLibrary(dialogs) + "\\" + NameForLibrary(file.filename());
     std::string init = setup.initFolder.empty() ? InitFolderNear(dialogs)
                                                 : fs::absolute(PathOf(setup.initFolder)).lexically_normal().string();
     if (!setup.initFolder.empty() && !fs::exists(PathOf(init) / iniFile))

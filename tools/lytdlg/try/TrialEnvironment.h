@@ -2,7 +2,9 @@
 #pragma once
 
 #include "commandline/CommandLine.h"
+#include "lytdlg/text/Paths.h"
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -54,7 +56,8 @@ private:
     void MakeIniFile(const std::string& source, const std::string& language);
 
     std::string m_descriptionFile;
-    std::string m_ownFolder; // holds another lyt.ini
+    std::optional<FileForLibrary> m_openText; // of an editor, in place of the file
+    std::string m_ownFolder;                  // holds another lyt.ini
 };
 
 } // namespace lytdlg
