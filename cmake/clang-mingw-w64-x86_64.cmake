@@ -14,6 +14,7 @@ execute_process(
 cmake_path(GET lyt_runtime PARENT_PATH lyt_runtime)
 set(CMAKE_CXX_FLAGS_INIT
   "-stdlib++-isystem ${lyt_runtime}/include/c++ -stdlib++-isystem ${lyt_runtime}/include/c++/${lyt_target}")
+# The comparison of types is inline in the headers and a function of libstdc++ as well, which lld takes for a mistake.
 foreach(kind EXE SHARED MODULE)
-  string(APPEND CMAKE_${kind}_LINKER_FLAGS_INIT " -fuse-ld=lld -B${lyt_runtime} -L${lyt_runtime} -lwinpthread")
+  string(APPEND CMAKE_${kind}_LINKER_FLAGS_INIT " -fuse-ld=lld -B${lyt_runtime} -L${lyt_runtime} -lwinpthread -Wl,--allow-multiple-definition")
 endforeach()
