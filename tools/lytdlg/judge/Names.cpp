@@ -172,6 +172,14 @@ Finding& AddUnknown(const Case& judged, RuleName rule, const ClytSpan& place, st
     return finding;
 }
 
+bool LacksWords(ClytAction action, size_t words)
+{
+    constexpr size_t wordsOfDialog = 3;
+    constexpr size_t wordsOfCall = 4;
+    return (action == ClytAction::Dialog && words < wordsOfDialog) ||
+           (action == ClytAction::Action && words < wordsOfCall);
+}
+
 std::string InQuotes(const std::string& text)
 {
     return "\"" + text + "\"";

@@ -56,6 +56,9 @@ void FixWord(const Case& judged, Finding& finding, const UnknownWord& word);
 Finding& AddUnknown(const Case& judged, RuleName rule, const ClytSpan& place, std::string message,
                     const UnknownWord& word);
 
+// Whether DIALOG or ACTION has fewer words than it needs.
+bool LacksWords(ClytAction action, size_t words);
+
 std::string InQuotes(const std::string& text);
 
 // Whether a line that a define switches off has the word: what nothing else uses may be used there.

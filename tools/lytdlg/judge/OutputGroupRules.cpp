@@ -31,6 +31,9 @@ std::set<std::string> UsedGroups(const Description& description)
             used.insert(values.begin() + 2, values.end());
         else if (meaning == ClytAction::Dialog)
             used.insert(values.begin() + 1, values.end());
+        // Where words are missing, it may be any of them.
+        if (LacksWords(meaning, values.size()))
+            std::ranges::copy(GroupNames(description), std::inserter(used, used.end()));
     }
     return used;
 }

@@ -47,6 +47,9 @@ std::set<std::string> UsedParts(const Description& description)
             used.insert(statement.values.begin() + 1, statement.values.end());
         else if (meaning == ClytAction::Action && statement.values.size() > 3)
             used.insert(statement.values.begin() + 2, statement.values.end());
+        // Where words are missing, it may be any of them.
+        if (LacksWords(meaning, statement.values.size()))
+            std::ranges::copy(PartNames(description), std::inserter(used, used.end()));
     }
     return used;
 }

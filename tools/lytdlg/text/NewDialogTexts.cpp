@@ -87,15 +87,17 @@ constexpr Answer plainAnswer = {"; It takes a text apart, and puts it together a
                                 "; that is a name and a value. A text without = is a name alone.\n",
                                 "<Name>=<Value>", "<Name>"};
 
-constexpr const char* aboutKey = "; The macros hand it the key of a placeholder, and take its answer for the new key:\n"
-                                 ";     area=20\n"
-                                 "; that is a name and a value. A key without = is a name alone.\n";
+constexpr const char* aboutKey =
+    "; The macros hand it the key of a placeholder, and take its answer for the new key:\n"
+    ";     area=20\n"
+    "; that is a name and a value. A key without = is a name alone. Quotes around a piece are dropped.\n";
 
 constexpr const char* aboutGroup =
     "; The document keeps the head of the placeholder; the dialog sees and answers its bracket:\n"
     ";     (area=20)\n"
-    "; that is a name and a value. Without = it is a name alone. After the bracket the answer continues with the text\n"
-    "; for the macros, which begins with 1 and gets three letters of the placeholder as its sixth to eighth.\n";
+    "; that is a name and a value. Without = it is a name alone. Quotes around a piece are dropped. After the bracket\n"
+    "; the answer continues with the text for the macros, which begins with 1 and gets three letters of the\n"
+    "; placeholder as its sixth to eighth.\n";
 
 constexpr struct
 {

@@ -54,7 +54,12 @@ bool AstrayPieces::TellWrongWay(const TripItem& item, const TripCut& cut)
     const TripCut* before = m_compared.CutBefore(cut);
     const auto taker = std::ranges::find_if(cut.fills, &TripFill::takesPiece);
     const bool isSwapped = taker != cut.fills.end() && IsSwapped(item, *taker);
-    if (before == nullptr || !cut.jumps.empty() || before->targets.size() < 2 || isSwapped)
+    if (before == nullptr || !cut.jumps.empty() || isSwapped)
+        return false;
+    if (taker != cut.fills.end() && IsSkipped(item, taker->control))
+        return TellWay(item, before->span, cut.statement,
+                       m_compared.Plan().TakersOf(item.name).front().statement->name.GetString(), TripBlame::Input);
+    if (before->targets.size() < 2)
         return false;
     for (const std::string& target : before->targets)
     {
@@ -62,6 +67,15 @@ bool AstrayPieces::TellWrongWay(const TripItem& item, const TripCut& cut)
             return TellWay(item, before->span, cut.statement, target, TripBlame::Output);
     }
     return false;
+}
+
+// Whether the run has come to the statement of a later item, and to none that takes this one.
+bool AstrayPieces::IsSkipped(const TripItem& item, const std::string& taken) const
+{
+    const TripItem* later = m_compared.ItemOf(taken);
+    const std::vector<TripTaker>& takers = m_compared.Plan().TakersOf(item.name);
+    return later != nullptr && later > &item && takers.size() == 1 && takers.front().isAlone &&
+           std::ranges::none_of(m_trip.cuts, [&](const TripCut& each) { return each.Takes(item.name); });
 }
 
 bool AstrayPieces::TellWay(const TripItem& item, const ClytSpan& jump, const std::string& taken,
@@ -167,11 +181,19 @@ void AstrayPieces::TellNotKept(const TripItem& item, const TripCut& cut)
 {
     const TripCut* lastCut = nullptr;
     const TripFill* last = LastFillOf(item.name, lastCut);
+    const auto isThere = [&](const TripItem& each)
+    { return each.begin >= m_trip.begin && m_compared.Begin(each) == lastCut->begin && each.name != item.name; };
+    const auto meant = std::ranges::find_if(m_trip.out.items, isThere);
+    const std::string name = meant != m_trip.out.items.end() ? meant->name : "";
     if (lastCut != &cut && lastCut->piece != cut.piece)
-        m_teller.Tell("trip-control", last->span, cut.span.line,
-                      "this puts " + Excerpt(lastCut->piece) + " into " + InQuotes(item.name) +
-                          ", which has its piece from " + NumberedLine(cut.span.line) + " already",
-                      "name the control that this piece is of");
+        m_teller.Tell("trip-control",
+                      {last->span,
+                       "this puts " + Excerpt(lastCut->piece) + " into " + InQuotes(item.name) +
+                           ", which has its piece from " + NumberedLine(cut.span.line) + " already",
+                       name.empty() ? "name the control that this piece is of" : "write " + InQuotes(name) + " here",
+                       {last->span.line, last->span.column, static_cast<int>(item.name.size())},
+                       name},
+                      cut.span.line);
     else if (last->action == ClytFillAction::Concat && !item.separators.empty())
         TellList(item, *last);
     else
@@ -198,7 +220,10 @@ void AstrayPieces::TellList(const TripItem& item, const TripFill& fill)
                             {item.span,
                              "this joins the items with " + InQuotes(item.separators) + ", and " +
                                  NumberedLine(fill.span.line) + " takes them apart at " + InQuotes(fill.separators),
-                             "write " + item.name + "(\"" + fill.separators.substr(0, 1) + "\")"},
+                             "write " + item.name + "(\"" + fill.separators.substr(0, 1) + "\")",
+                             m_compared.Of().PlaceOf(item.span.line, item.separators,
+                                                     item.span.column + static_cast<int>(item.name.size())),
+                             item.separators.size() == 1 ? fill.separators.substr(0, 1) : ""},
                             {fill.span,
                              "this takes the items apart at " + InQuotes(fill.separators) + ", and " +
                                  NumberedLine(item.span.line) + " joins them with " + InQuotes(item.separators),

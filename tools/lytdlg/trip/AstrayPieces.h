@@ -22,6 +22,7 @@ public:
     void TellAstray(const TripItem& item, const TripCut& cut);
 
 private:
+    bool IsSkipped(const TripItem& item, const std::string& taken) const;
     bool IsHeld(const std::string& name) const;
     bool TellWay(const TripItem& item, const ClytSpan& jump, const std::string& taken, const std::string& other,
                  TripBlame blame);

@@ -128,12 +128,19 @@ void Journey::TryLong(size_t index)
     const int room = control.cutLength;
     if (!control.isEntered || control.mark.empty() || room <= 0 || room >= tripLongest || !m_plan.ComesBack())
         return;
-    TripState state = FullState(m_plan);
     std::string longer = control.mark;
     while (longer.size() < static_cast<size_t>(room) + 3)
         longer += control.mark;
-    state[index] = {TripWish::Kind::Value, longer};
-    Try(state);
+    // Until it is within reach.
+    constexpr size_t turns = 3;
+    for (size_t turn = 0; turn < turns; ++turn)
+    {
+        TripState state = FullState(m_plan, turn);
+        state[index] = {TripWish::Kind::Value, longer};
+        Try(state);
+        if (m_looks.empty() || m_looks.back().reached.contains(control.name))
+            return;
+    }
 }
 
 } // namespace lytdlg

@@ -46,10 +46,13 @@ bool MiscutItems::TellCut(const TripItem& item)
                             TripBlame::Output);
         return false;
     }
-    m_teller.Tell("trip-cut", item.span, 0,
-                  "of " + InQuotes(item.name) + " only " + Excerpt(m_compared.Put(item)) + " goes out, not " +
-                      Excerpt(item.value),
-                  "write %s in place of %." + limit + "s, or a larger limit");
+    m_teller.Tell("trip-cut",
+                  {item.span,
+                   "of " + InQuotes(item.name) + " only " + Excerpt(m_compared.Put(item)) + " goes out, not " +
+                       Excerpt(item.value),
+                   "write %s in place of %." + limit + "s, or a larger limit", m_compared.PlaceOfConversion(item),
+                   "%s"},
+                  0);
     return true;
 }
 
@@ -95,7 +98,7 @@ void MiscutItems::TellNotCutOff(const TripItem& item, const TripCut& cut)
                              (isAfterLength ? ", to the next piece: " : ", for a part of the piece: ") +
                              m_compared.ComesBack(item.name),
                          "cut " + Excerpt(written) + " off"},
-                        TripBlame::Output);
+                        isAfterLength && !before->TakesAny() ? TripBlame::Either : TripBlame::Output);
 }
 
 bool MiscutItems::TellIdleCut()
@@ -201,7 +204,9 @@ void MiscutItems::TellNotSeparated(const TripItem& item, const TripCut& cut)
                              NumberedLine(cut.span.line) + " " + reads + ": " + comesBack,
                          read.empty() ? "let the input cut the piece where it ends"
                                       : "write " + read + " after " + InQuotes(item.name) + ", or read " +
-                                            Excerpt(gap) + " in " + NumberedLine(cut.span.line)},
+                                            Excerpt(gap) + " in " + NumberedLine(cut.span.line),
+                         gap.size() == 1 ? m_compared.PlaceAfterConversion(item) : ClytSpan(),
+                         cut.separators.size() == 1 ? cut.separators.front() : ""},
                         {cut.span,
                          "this " + reads + ", and " + NumberedLine(m_trip.out.line) + " " + writes + " after " +
                              InQuotes(item.name) + ": " + comesBack,
@@ -220,7 +225,7 @@ TripBlame MiscutItems::BlameFor(const TripItem& item, const TripCut& cut, const 
     const bool isWritten = IsWrittenAnywhere(m_compared.Of(), separators);
     // A choice has values of a certain length, and what is entered has not.
     if (gap.empty())
-        return m_compared.Plan().Find(item.name)->mark.empty() ? TripBlame::Either : TripBlame::Output;
+        return m_compared.Plan().Find(item.name)->mark.empty() ? TripBlame::Both : TripBlame::Output;
     if (ClosesBracket(m_trip.text.substr(0, m_compared.End(item)), gap) || (isRead && !isWritten))
         return TripBlame::Input;
     return isWritten && !isRead ? TripBlame::Output : TripBlame::Either;

@@ -38,7 +38,8 @@ void WithDialogOf(const Case& judged, TripStage& stage, const std::string& name,
     const Description description(name + ".dlg", *bytes, judged.description.text.Defines());
     if (!description.mistakes.empty())
         return;
-    const TripPlan plan(description, true);
+    constexpr size_t otherMarks = 1000;
+    const TripPlan plan(description, true, otherMarks);
     act(plan);
     stage.Close(plan);
 }
@@ -110,21 +111,29 @@ public:
         const std::unique_ptr<TripForm> form = named != nullptr && named->handed == ClytHanded::Entry
                                                    ? m_stage.Open(m_plan, entryHanded)
                                                    : std::unique_ptr<TripForm>();
-        std::map<std::string, int> taken;
+        std::map<std::string, ClytSpan> taken;
         for (const TripCut& cut : form != nullptr ? form->Cuts() : std::vector<TripCut>())
         {
             for (const TripFill& fill : cut.fills)
             {
                 if (!fill.takesPiece || fill.action != ClytFillAction::Other || cut.piece.empty())
                     continue;
-                const auto [first, isNew] = taken.try_emplace(fill.control, cut.span.line);
-                if (!isNew && first->second != cut.span.line)
-                    m_teller.Tell("trip-control", fill.span, first->second,
-                                  "this puts " + Excerpt(cut.piece) + " into " + InQuotes(fill.control) +
-                                      ", which has its piece from " + NumberedLine(first->second) + " already",
-                                  "name the control that this piece is of");
+                const auto [first, isNew] = taken.try_emplace(fill.control, fill.span);
+                if (!isNew && first->second.line != fill.span.line)
+                {
+                    TellTwice(first->second, fill.span.line, fill.control);
+                    TellTwice(fill.span, first->second.line, fill.control);
+                }
             }
         }
+    }
+
+    void TellTwice(const ClytSpan& place, int otherLine, const std::string& control)
+    {
+        m_teller.Tell("trip-control", place, otherLine,
+                      "this and " + NumberedLine(otherLine) + " put what is handed over into " + InQuotes(control) +
+                          ": the later piece takes the place of the earlier one",
+                      "name the control that this piece is of");
     }
 
     // The wizard's text is a placeholder, which another dialog opens later.
@@ -223,7 +232,7 @@ private:
         if (hasRoom || !TellArrival(*cuts, form->Rest(), answer, words[0]) || isLong)
             return;
         if (const std::optional<TripText> handed = form->Compose(words.back()); handed && handed->line != 0)
-            TellReturn(nested, answer, *handed, words[0]);
+            TellReturn(nested, answer, *handed, *cuts, words[0]);
     }
 
     // Which statements find their separators in an answer, and which take several items of it together instead.
@@ -331,7 +340,8 @@ private:
     }
 
     // What comes from the dialog and is handed back to it must be what it was.
-    void TellReturn(const TripPlan& nested, const Answer& answer, const TripText& handed, const std::string& dialog)
+    void TellReturn(const TripPlan& nested, const Answer& answer, const TripText& handed,
+                    const std::vector<TripCut>& cuts, const std::string& dialog)
     {
         const auto isHanded = [&](const TripItem& item) { return IsMarkIn(nested, answer, item, handed.text); };
         if (std::ranges::none_of(answer.text.items, isHanded))
@@ -347,6 +357,14 @@ private:
                 answer.values.at(item.name) == after.at(item.name) ||
                 IsLostByItself(nested, answer, handed.text, item.name))
                 continue;
+            if (const TripFill* fill = AstrayIn(cuts, item, handed))
+            {
+                m_teller.Tell("trip-answer", fill->span, 0,
+                              InQuotes(item.name) + " of " + InQuotes(dialog + ".dlg") + " comes into " +
+                                  InQuotes(fill->control) + ", which is not handed back to it",
+                              "name the control that is handed over for it");
+                return;
+            }
             m_teller.Tell("trip-answer", Of().PlaceOf(handed.line), 0,
                           InQuotes(dialog + ".dlg") + " answers " + Excerpt(answer.text.text) + " and is handed " +
                               Excerpt(handed.text) + " by this rule: " + InQuotes(item.name) + " comes back as " +
@@ -354,6 +372,21 @@ private:
                           "hand it the text in the form in which it answers");
             return;
         }
+    }
+
+    // The fill that gives the item to a control that is not handed back; null when there is none.
+    const TripFill* AstrayIn(const std::vector<TripCut>& cuts, const TripItem& item, const TripText& handed) const
+    {
+        for (const TripCut& cut : cuts)
+        {
+            for (const TripFill& fill : cut.fills)
+            {
+                if (cut.begin <= item.begin && item.end <= cut.end && fill.takesPiece &&
+                    std::ranges::find(handed.items, fill.control, &TripItem::name) == handed.items.end())
+                    return &fill;
+            }
+        }
+        return nullptr;
     }
 
     // A dialog that does not read its own text has separate findings.

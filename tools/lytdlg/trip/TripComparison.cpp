@@ -1,5 +1,7 @@
 #include "lytdlg/trip/TripComparison.h"
 
+#include "dialog/ClytDialog.h"
+#include "lytdlg/judge/FormatPieces.h"
 #include "lytdlg/trip/TripEvidence.h"
 #include "lytdlg/trip/TripTeller.h"
 
@@ -14,6 +16,12 @@ namespace
 bool IsOfLibrary(const TripControl& control)
 {
     return control.isListed && control.kind == Kind::CheckList;
+}
+
+// A list with something in it may have a character before its items, and one after them.
+bool HasBrackets(const TripItem& item)
+{
+    return !lytMeans<ClytFillAction::Concat>(item.separators.c_str()) && item.end > item.begin + 2;
 }
 
 // The items of a list can be cut as well, by its separators.
@@ -67,6 +75,42 @@ std::string TripComparison::ComesBack(const std::string& name) const
 bool TripComparison::IsBack(const TripItem& item) const
 {
     return item.end <= m_trip.begin + m_trip.text.size() && item.begin >= m_trip.begin && IsTried(item.name);
+}
+
+size_t TripComparison::Begin(const TripItem& item) const
+{
+    const bool isInBrackets = HasBrackets(item) && item.separators.size() > 1;
+    return item.begin - m_trip.begin + (isInBrackets ? 1 : 0);
+}
+
+size_t TripComparison::End(const TripItem& item) const
+{
+    const bool isInBrackets = HasBrackets(item) && item.separators.size() > 2;
+    return item.end - m_trip.begin - (isInBrackets ? 1 : 0);
+}
+
+ClytSpan TripComparison::PlaceOfConversion(const TripItem& item) const
+{
+    for (const ClytDialogOutput* rule : RulesOfResult(Of()))
+    {
+        const std::string format = rule->format.GetString();
+        const ClytSpan place = Of().PlaceOf(rule->span.line, InQuotes(format), rule->span.column);
+        if (rule->span.line != m_trip.out.line || place.length != static_cast<int>(format.size()) + 2)
+            continue;
+        std::ptrdiff_t left = &item - m_trip.out.items.data();
+        for (const FormatPiece& piece : PiecesOf(format))
+        {
+            if (TakesItem(piece.kind) && left-- == 0)
+                return {place.line, place.column + 1 + static_cast<int>(piece.start), static_cast<int>(piece.length)};
+        }
+    }
+    return {};
+}
+
+ClytSpan TripComparison::PlaceAfterConversion(const TripItem& item) const
+{
+    const ClytSpan place = PlaceOfConversion(item);
+    return place.line == 0 ? place : ClytSpan{place.line, place.column + place.length, 1};
 }
 
 const TripCut* TripComparison::CutAt(const TripItem& item) const

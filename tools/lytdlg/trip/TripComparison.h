@@ -31,9 +31,12 @@ public:
     const TripItem* ItemOf(const std::string& name) const;
     // What goes out of the item.
     std::string Put(const TripItem& item) const { return m_trip.out.text.substr(item.begin, item.end - item.begin); }
-    // Its place in what comes back.
-    size_t Begin(const TripItem& item) const { return item.begin - m_trip.begin; }
-    size_t End(const TripItem& item) const { return item.end - m_trip.begin; }
+    // Its place in what comes back, without the brackets that a list may be put in.
+    size_t Begin(const TripItem& item) const;
+    size_t End(const TripItem& item) const;
+    // Where the format takes the item, and the character after that; no place where the line has it otherwise.
+    ClytSpan PlaceOfConversion(const TripItem& item) const;
+    ClytSpan PlaceAfterConversion(const TripItem& item) const;
 
     // The cut in which the item begins; null when the scan ended before it.
     const TripCut* CutAt(const TripItem& item) const;

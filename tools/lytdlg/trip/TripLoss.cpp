@@ -38,7 +38,7 @@ public:
         bool isTold = false;
         for (const TripItem& item : m_trip.out.items)
         {
-            if (!m_compared.IsBack(item) || !m_compared.IsLost(item))
+            if (!m_compared.IsBack(item) || (!m_compared.IsLost(item) && !IsTornByChance(item)))
                 continue;
             isTold = true;
             if (!TellItem(item))
@@ -76,6 +76,14 @@ private:
     bool IsLongByChance(const TripItem& item, const TripCut& cut) const
     {
         return !m_compared.Plan().Find(item.name)->mark.empty() && item.limit > cut.length;
+    }
+
+    // Its control holds the value all the same, and the pieces after it go astray.
+    bool IsTornByChance(const TripItem& item) const
+    {
+        const TripCut* cut = m_compared.CutAt(item);
+        return cut != nullptr && cut->length == 0 && cut->begin == m_compared.Begin(item) &&
+               cut->end < m_compared.End(item) && item.separators.empty() && !item.IsCut() && cut->Takes(item.name);
     }
 
     bool HasLoss() const

@@ -47,7 +47,8 @@ std::string PlainNameOf(const std::string& path)
     return CString(name.substr(0, name.find_last_of('.')).c_str()).MakeLower().GetString();
 }
 
-TripPlan::TripPlan(const Description& description, bool isNested) : m_description(description)
+TripPlan::TripPlan(const Description& description, bool isNested, size_t firstMark)
+    : m_description(description), m_marks(firstMark), m_isOfNames(firstMark == 0)
 {
     TakeInput();
     TakeOutput();
@@ -233,7 +234,7 @@ std::string TripPlan::MarkFor(const std::string& name, size_t length)
     const size_t size = length == 0 ? mark.size() : length;
     const bool isKnown = mark.size() < fewestOfName || m_words.find("\"" + mark) != std::string::npos ||
                          m_words.find(" " + mark) != std::string::npos;
-    if (isKnown || size < fewestOfName || !m_beginnings.insert(mark.substr(0, fewestOfName)).second)
+    if (!m_isOfNames || isKnown || size < fewestOfName || !m_beginnings.insert(mark.substr(0, fewestOfName)).second)
         return NextMark(length == 0 ? markLength : length);
     while (mark.size() < size)
         mark += mark;

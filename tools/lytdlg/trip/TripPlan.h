@@ -43,8 +43,9 @@ struct TripTaker
 class TripPlan
 {
 public:
-    // The description outlives the plan. A dialog that another one opens is nested.
-    TripPlan(const Description& description, bool isNested);
+    // The description outlives the plan. A dialog that another one opens is nested. The marks of two plans differ when they
+    // begin at different numbers; from 0 on they are of names.
+    TripPlan(const Description& description, bool isNested, size_t firstMark = 0);
 
     const Description& Of() const { return m_description; }
     const std::vector<TripControl>& Controls() const { return m_controls; }
@@ -100,6 +101,7 @@ private:
     std::string m_words;                // of the description, in small letters
     std::set<std::string> m_beginnings; // of marks
     size_t m_marks = 0;
+    bool m_isOfNames = true;
     size_t m_pieces = 0;       // that the input takes
     bool m_takesWhole = false; // the input is one statement, which takes all there is
     bool m_hasMarks = false;

@@ -18,7 +18,12 @@ TripTeller::TripTeller(const Case& whole) : m_judged(whole)
 
 void TripTeller::Tell(RuleName rule, const ClytSpan& place, int otherLine, std::string message, std::string hint)
 {
-    m_losses.push_back({rule, {place, std::move(message), std::move(hint)}, otherLine, m_outputLine, m_way});
+    Tell(rule, {place, std::move(message), std::move(hint)}, otherLine);
+}
+
+void TripTeller::Tell(RuleName rule, TripSide side, int otherLine)
+{
+    m_losses.push_back({rule, std::move(side), otherLine, m_outputLine, m_way});
 }
 
 void TripTeller::TellDropped(const std::string& control, const ClytSpan& place, int otherLine, std::string message,
@@ -40,7 +45,9 @@ void TripTeller::Add(const Loss& loss)
         !m_told.insert(loss.side.place.line).second ||
         (id.starts_with("trip-") && (m_isOfOtherForm || (m_isLeftOut && id != "trip-end"))))
         return;
-    m_judged.findings.Add(loss.rule, loss.side.place, loss.side.message, loss.side.hint);
+    Finding& finding = m_judged.findings.Add(loss.rule, loss.side.place, loss.side.message, loss.side.hint);
+    if (!loss.side.fixed.empty() && loss.side.fixPlace.line != 0)
+        finding.FixPerhaps(loss.side.fixPlace, loss.side.fixed);
 }
 
 std::set<int> TripTeller::Blamed() const
@@ -97,6 +104,13 @@ bool TripTeller::HasFit(const Misfit& misfit) const
                                { return separator == "Rest" || fits->second.contains(separator); });
 }
 
+bool TripTeller::FitsOtherRule(const Misfit& misfit) const
+{
+    const auto rules = m_fitting.find(misfit.input.place.line);
+    return rules != m_fitting.end() &&
+           std::ranges::any_of(rules->second, [&](int line) { return line != misfit.outputLine; });
+}
+
 TripBlame TripTeller::BlameOf(const Misfit& misfit) const
 {
     if (m_unfit.at(misfit.input.place.line).size() > 1)
@@ -104,6 +118,8 @@ TripBlame TripTeller::BlameOf(const Misfit& misfit) const
     // A list may be taken apart wrongly where its piece ends well.
     if (misfit.rule.Get().id == "trip-list")
         return misfit.blame;
+    if (misfit.blame == TripBlame::Both)
+        return FitsOtherRule(misfit) ? TripBlame::Output : TripBlame::Both;
     const bool fitsInPart = misfit.blame == TripBlame::Either && m_fits.contains(misfit.input.place.line);
     return fitsInPart || HasFit(misfit) ? TripBlame::Output : misfit.blame;
 }
@@ -113,6 +129,9 @@ void TripTeller::AddSide(const Misfit& misfit, bool isInput, bool isEither)
     m_losses.push_back({misfit.rule, isInput ? misfit.input : misfit.output,
                         isInput ? misfit.output.place.line : misfit.input.place.line, misfit.outputLine, misfit.way,
                         isEither});
+    // Only one of the two is mended.
+    if (isEither && isInput)
+        m_losses.back().side.fixed.clear();
 }
 
 void TripTeller::AddFindings()
@@ -120,10 +139,11 @@ void TripTeller::AddFindings()
     for (const Misfit& misfit : m_misfits)
     {
         const TripBlame blame = BlameOf(misfit);
+        const bool isEither = blame == TripBlame::Either || blame == TripBlame::Both;
         if (blame != TripBlame::Input)
-            AddSide(misfit, false, blame == TripBlame::Either);
+            AddSide(misfit, false, isEither);
         if (blame != TripBlame::Output)
-            AddSide(misfit, true, blame == TripBlame::Either);
+            AddSide(misfit, true, isEither);
     }
     RemoveConsequences();
     std::ranges::for_each(m_losses, [&](const Loss& loss) { Add(loss); });

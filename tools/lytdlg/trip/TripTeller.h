@@ -15,6 +15,8 @@ struct TripSide
     ClytSpan place;
     std::string message;
     std::string hint;
+    ClytSpan fixPlace = {}; // where the one text that mends it goes
+    std::string fixed = {}; // empty where it takes more than that
 };
 
 // Which side of a misfit is likely to be wrong.
@@ -22,7 +24,8 @@ enum class TripBlame
 {
     Output,
     Input,
-    Either
+    Either,
+    Both // either, also where another text of the rule has come back
 };
 
 // Collects what trials find, and adds it at their end: of a rule and a line once, and nothing about a line that other rules
@@ -40,6 +43,7 @@ public:
     }
     // The place, and the other line that the loss comes about by; 0 for none.
     void Tell(RuleName rule, const ClytSpan& place, int otherLine, std::string message, std::string hint);
+    void Tell(RuleName rule, TripSide side, int otherLine);
     // A rule does not write a control.
     void TellDropped(const std::string& control, const ClytSpan& place, int otherLine, std::string message,
                      std::string hint);
@@ -52,7 +56,11 @@ public:
     void TellMisfit(RuleName rule, TripSide output, TripSide input, TripBlame blame,
                     const std::vector<std::string>& separators = {});
     // A text has come back through the statement, which cut it at that separator.
-    void TellFit(int inputLine, const std::string& separator) { m_fits[inputLine].insert(separator); }
+    void TellFit(int inputLine, const std::string& separator)
+    {
+        m_fits[inputLine].insert(separator);
+        m_fitting[inputLine].insert(m_outputLine);
+    }
     bool HasFindings() const { return !m_losses.empty() || !m_misfits.empty(); }
     // What was collected counts no more.
     void Forget();
@@ -85,6 +93,7 @@ private:
     std::set<int> Blamed() const;
     void RemoveConsequences();
     bool HasFit(const Misfit& misfit) const;
+    bool FitsOtherRule(const Misfit& misfit) const;
     TripBlame BlameOf(const Misfit& misfit) const;
     void AddSide(const Misfit& misfit, bool isInput, bool isEither);
 
@@ -99,6 +108,7 @@ private:
     std::vector<Misfit> m_misfits;
     std::map<int, std::set<int>> m_unfit;        // by the line of the input, those of the output
     std::map<int, std::set<std::string>> m_fits; // by the line of the input, the separators
+    std::map<int, std::set<int>> m_fitting;      // and the lines of the rules
 };
 
 // A text in quotes, and not too long.
