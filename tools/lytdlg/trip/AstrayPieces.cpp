@@ -43,12 +43,12 @@ bool AstrayPieces::TellWrongWay(const TripItem& item, const TripCut& cut)
 {
     if (cut.Takes(item.name) || !IsHeld(item.name))
         return false;
-    for (auto jump = cut.jumps.rbegin(); jump != cut.jumps.rend(); ++jump)
+    for (const TripJump& jump : cut.jumps)
     {
-        for (const std::string& target : jump->targets)
+        for (const std::string& target : jump.targets)
         {
-            if (target != jump->next && LeadsTo(m_compared.Plan(), target, item.name))
-                return TellWay(item, jump->span, jump->next, target, TripBlame::Either);
+            if (target != jump.next && LeadsTo(m_compared.Plan(), target, item.name))
+                return TellWay(item, jump.span, jump.next, target, TripBlame::Either);
         }
     }
     const TripCut* before = m_compared.CutBefore(cut);
