@@ -3,6 +3,7 @@
 #include "CommandRun.h"
 
 #include "commandline/CommandLine.h"
+#include "commandline/Text.h"
 #include "lytdlg/judge/Examples.h"
 #include "lytdlg/judge/Rule.h"
 #include "support/TestFolder.h"
@@ -66,8 +67,11 @@ TEST(Against, EveryVersionTheCorpusMakesTheSameOfItsTexts)
         const std::string other = name.substr(6, name.size() - 11);
         const CommandRun run = CheckAgainst(other, folder.Path());
         EXPECT_EQ(run.code, 0) << run;
-        // The version that is being made knows all of them.
-        EXPECT_TRUE(other != version || run.output.find("is not compared") == std::string::npos) << run;
+        // A dialog that is newer, or was changed, is named and passed over. Most are neither.
+        const auto isOver = [](const std::string& line) { return line.ends_with("is not compared"); };
+        const std::vector<std::string> lines = commandline::LinesOf(run.output);
+        constexpr std::ptrdiff_t most = 100;
+        EXPECT_LT(std::ranges::count_if(lines, isOver), most) << run;
     }
 }
 
