@@ -7,7 +7,6 @@
 #include "lytdlg/text/Words.h"
 
 #include <algorithm>
-#include <cstring>
 
 namespace lytdlg
 {
@@ -101,8 +100,9 @@ protected:
             return false;
         const std::string& line = m_lines[m_next++];
         const size_t length = std::min<size_t>(line.size(), count - 1);
-        std::memcpy(buffer, line.data(), length);
-        std::memcpy(buffer + length, "\n", 2);
+        char* const end = std::copy_n(line.begin(), length, buffer);
+        end[0] = '\n';
+        end[1] = '\0';
         place = {m_line.number, 0, static_cast<int>(length)};
         return true;
     }
@@ -442,35 +442,35 @@ ClytSpan PlaceIn(const SourceLine& line, const LineToken& token)
 
 } // namespace
 
-NamedWord WordAt(const Description& description, int number, int column)
+NamedWord WordAt(const Description& description, int line, int column)
 {
-    const SourceLine& line = description.text.Line(number);
-    const size_t length = line.text.size();
-    if (number < 1 || column < 0 || static_cast<size_t>(column) > length || length >= ClytDialogFile::lineSize ||
-        static_cast<size_t>(column) > EndOfStatement(line))
+    const SourceLine& whole = description.text.Line(line);
+    const size_t length = whole.text.size();
+    if (line < 1 || column < 0 || static_cast<size_t>(column) > length || length >= ClytDialogFile::lineSize ||
+        static_cast<size_t>(column) > EndOfStatement(whole))
         return {};
-    const std::vector<LineToken> tokens = TokensIn(line);
+    const std::vector<LineToken> tokens = TokensIn(whole);
     for (size_t index = 0; index < tokens.size(); ++index)
     {
-        const ClytSpan place = PlaceIn(line, tokens[index]);
+        const ClytSpan place = PlaceIn(whole, tokens[index]);
         if (place.column <= column && column <= place.column + place.length)
-            return ReadWord(description, line, place, index);
+            return ReadWord(description, whole, place, index);
     }
-    return ReadWord(description, line, {number, column, 0}, tokens.size());
+    return ReadWord(description, whole, {line, column, 0}, tokens.size());
 }
 
-std::vector<NamedWord> WordsIn(const Description& description, int number)
+std::vector<NamedWord> WordsIn(const Description& description, int line)
 {
-    const SourceLine& line = description.text.Line(number);
+    const SourceLine& whole = description.text.Line(line);
     std::vector<NamedWord> words;
-    if (line.text.size() >= ClytDialogFile::lineSize)
+    if (whole.text.size() >= ClytDialogFile::lineSize)
         return words;
-    const std::vector<LineToken> tokens = TokensIn(line);
+    const std::vector<LineToken> tokens = TokensIn(whole);
     for (size_t index = 0; index < tokens.size(); ++index)
     {
         if (tokens[index].text.empty())
             continue;
-        NamedWord word = ReadWord(description, line, PlaceIn(line, tokens[index]), index);
+        NamedWord word = ReadWord(description, whole, PlaceIn(whole, tokens[index]), index);
         if (word.meaning == Meaning::Item && description.FindControl(word.text) != nullptr)
             word.meaning = Meaning::Control;
         if (word.meaning != Meaning::Nothing && word.meaning != Meaning::Item)

@@ -17,8 +17,8 @@ std::string PlainPath(const std::string& path)
     return PathOf(path).lexically_normal().generic_string();
 }
 
-Workspace::Workspace(const std::vector<std::string>& partners, std::vector<std::string> defines)
-    : m_partners(partners), m_defines(std::move(defines))
+Workspace::Workspace(std::vector<std::string> partners, std::vector<std::string> defines)
+    : m_partners(std::move(partners)), m_defines(std::move(defines))
 {
 }
 

@@ -23,7 +23,7 @@ class Workspace
 {
 public:
     // Partner libraries are looked for in the folders; the defines switch lines of descriptions.
-    Workspace(const std::vector<std::string>& partners, std::vector<std::string> defines);
+    Workspace(std::vector<std::string> partners, std::vector<std::string> defines);
 
     void Open(const std::string& path, const std::string& utf8);
     // The text must be open.
