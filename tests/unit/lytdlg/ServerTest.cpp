@@ -416,6 +416,45 @@ TEST(LanguageServer, DrawsADialogAfterActs)
     EXPECT_FALSE(folder.Has("drawn.dlg"));
 }
 
+TEST(LanguageServer, ExplainsTheWordsOfTheLanguage)
+{
+    ServerSession session;
+    const std::string path = TestFolder().File("a.dlg");
+    session.Open(path, ExampleDescription("$VALUES\nAdd: FILL = AllRooms\n"));
+    const auto explained = [&](int line, int character)
+    {
+        Json place = ServerSession::Document(path);
+        place["position"] = {{"line", line - 1}, {"character", character}};
+        return session.ResultOf("textDocument/hover", place)["contents"]["value"].get<std::string>();
+    };
+    EXPECT_NE(explained(4, 5).find("- `Text` | fixed text, as large as its text | none |"), std::string::npos);
+    EXPECT_NE(explained(45, 6).find("- `B: FILL = Values` | fills a list by its library |"), std::string::npos);
+    EXPECT_NE(explained(46, 3).find("Rate/VISIBLE = Costs(C)"), std::string::npos);
+}
+
+TEST(LanguageServer, JudgesAFolderAndTellsHowFarItIs)
+{
+    const TestFolder folder;
+    folder.Write("a.dlg", "");
+    folder.Write("in/b.dlg", "");
+    ServerSession session;
+    session.Ask("workspace/executeCommand",
+                {{"command", checkFolderCommand}, {"arguments", {UriOf(folder.Path())}}, {"workDoneToken", "t"}});
+    std::string kinds;
+    for (const Json& message : session.sent)
+    {
+        if (message.value("method", "") == "$/progress")
+            kinds += message["params"]["value"]["kind"].get<std::string>() + " ";
+    }
+    EXPECT_EQ(kinds, "begin report report end ");
+    const Json before = session.FindingsIn(folder.File("in/b.dlg"));
+    EXPECT_FALSE(before.empty());
+    folder.Write("in/b.dlg", ExampleDescription(""));
+    session.Tell("workspace/didChangeWatchedFiles", {{"changes", Json::array()}});
+    EXPECT_NE(session.FindingsIn(folder.File("in/b.dlg")), before);
+    EXPECT_EQ(ErrorOf(session.Ask("workspace/executeCommand", {{"command", "other"}})), -32803);
+}
+
 TEST(MessageStream, CutsMessagesOutOfBytes)
 {
     MessageStream stream;

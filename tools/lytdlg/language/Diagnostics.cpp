@@ -27,7 +27,8 @@ std::set<std::string> Diagnostics::Judge(const Workspace& workspace, const std::
     };
     note();
     kept.clear();
-    if (workspace.Find(path) != nullptr && KindOfText(path) == TextKind::Description)
+    const bool isJudged = workspace.Find(path) != nullptr || m_included.contains(path);
+    if (isJudged && KindOfText(path) == TextKind::Description)
     {
         Findings findings = lytdlg::Judge(workspace.DescriptionAt(path), workspace.SurroundingsAt(path));
         findings.Fold();

@@ -262,9 +262,6 @@ std::string ExplanationOf(const Workspace& workspace, const std::string& path, c
     const Description& description = workspace.DescriptionAt(path);
     const LanguageFiles& files = workspace.SurroundingsAt(path).texts;
     std::string text;
-    if (word.meaning == Meaning::TypeWord)
-        return lytTypeOf(word.text).kind != ClytKind::Unknown ? "**" + word.text + "**: " + lytTypeOf(word.text).name
-                                                              : "";
     if (word.meaning == Meaning::Control)
         text = AboutControl(description, word);
     else if (IsText(word.meaning) && word.meaning != Meaning::TextSection)

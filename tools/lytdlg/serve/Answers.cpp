@@ -1,5 +1,6 @@
 // The answers about a place of a description.
 #include "commandline/Text.h"
+#include "lytdlg/language/LanguageHelp.h"
 #include "lytdlg/serve/Server.h"
 #include "lytdlg/text/Paths.h"
 #include "lytdlg/text/TextFile.h"
@@ -93,8 +94,10 @@ Json Server::Hover(const Json& params)
     const std::string path = PathIn(params);
     const TextPosition position = PositionFrom(params.at("position"));
     const NamedWord word = WordIn(params);
-    std::string text =
-        word.meaning != Meaning::Nothing ? commandline::ToUtf8(ExplanationOf(*m_workspace, path, word)) : "";
+    const Section section = DescriptionIn(params).text.Line(word.place.line).section;
+    std::string text = HelpOn(word, section);
+    if (text.empty())
+        text = commandline::ToUtf8(ExplanationOf(*m_workspace, path, word));
     for (const Finding& finding : m_diagnostics.Of(path))
     {
         const TextRange range = RangeOf(finding.place);
@@ -245,6 +248,30 @@ Json Server::Draw(const Json& params)
             "the library refuses the dialog: " +
             commandline::ToUtf8(drawn.outcome.failureNumber + ": " + drawn.outcome.failureMessage));
     return JsonOf(drawn);
+}
+
+// Reports how far it is, if the client asks for that.
+Json Server::ExecuteCommand(const Json& params)
+{
+    if (params.at("command") != checkFolderCommand)
+        throw std::runtime_error(std::string("there is no such command; write ") + checkFolderCommand);
+    const std::string folder = PlainPath(PathOfUri(params.at("arguments").at(0).get<std::string>()));
+    const std::vector<std::filesystem::path> files = FilesBelow(PathOf(folder), {".dlg"});
+    const auto report = [&](Json value)
+    {
+        if (params.contains("workDoneToken"))
+            Notify("$/progress", {{"token", params["workDoneToken"]}, {"value", std::move(value)}});
+    };
+    report({{"kind", "begin"}, {"title", "check"}, {"percentage", 0}});
+    for (size_t index = 0; index < files.size(); ++index)
+    {
+        const std::string path = PlainPath(files[index].string());
+        m_diagnostics.Include(path);
+        JudgeText(path);
+        report({{"kind", "report"}, {"message", path}, {"percentage", (index + 1) * 100 / files.size()}});
+    }
+    report({{"kind", "end"}});
+    return {};
 }
 
 } // namespace lytdlg

@@ -107,6 +107,7 @@ const std::vector<Server::Method>& Server::Methods()
         {"textDocument/codeLens", &Server::Lenses},
         {"codeLens/resolve", &Server::ResolvedLens},
         {"lytdlg/draw", &Server::Draw},
+        {"workspace/executeCommand", &Server::ExecuteCommand},
     };
     return methods;
 }
@@ -150,7 +151,9 @@ void Server::Work()
 {
     if (m_waiting.empty())
     {
-        JudgeNext();
+        const std::string path = std::move(m_unjudged.front());
+        m_unjudged.pop_front();
+        JudgeText(path);
         return;
     }
     const Json message = std::move(m_waiting.front());
@@ -250,7 +253,8 @@ Json Server::Initialize(const Json& params)
               {"documentLinkProvider", Json::object()},
               {"semanticTokensProvider", {{"legend", TokenLegend()}, {"full", true}}},
               {"inlayHintProvider", true},
-              {"codeLensProvider", {{"resolveProvider", true}}}}},
+              {"codeLensProvider", {{"resolveProvider", true}}},
+              {"executeCommandProvider", {{"commands", {checkFolderCommand}}, {"workDoneProgress", true}}}}},
             {"serverInfo", {{"name", "lytdlg"}, {"version", commandline::projectVersion}}}};
 }
 
@@ -346,12 +350,12 @@ void Server::WillJudgeAll()
 {
     const std::vector<std::string> paths = m_workspace->OpenPaths();
     m_unjudged.assign(paths.begin(), paths.end());
+    std::ranges::copy_if(m_diagnostics.Included(), std::back_inserter(m_unjudged),
+                         [&](const std::string& path) { return m_workspace->Find(path) == nullptr; });
 }
 
-void Server::JudgeNext()
+void Server::JudgeText(const std::string& path)
 {
-    const std::string path = std::move(m_unjudged.front());
-    m_unjudged.pop_front();
     for (const std::string& concerned : m_diagnostics.Judge(*m_workspace, path))
         Publish(concerned, m_diagnostics.Of(concerned));
     if (m_workspace->Find(path) == nullptr)

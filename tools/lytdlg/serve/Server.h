@@ -1,3 +1,6 @@
+// The command that judges every description of a folder, whose address is its argument.
+inline constexpr const char* checkFolderCommand = "lytdlg.checkFolder";
+
 // The language server: takes messages of the protocol and sends others. It writes no file, and no message ends it but "exit".
 #pragma once
 
@@ -70,11 +73,12 @@ private:
     Json Lenses(const Json& params);
     Json ResolvedLens(const Json& params);
     Json Draw(const Json& params);
+    Json ExecuteCommand(const Json& params);
 
     // All open texts that the change of one concerns, itself first.
     void WillJudge(const std::string& path);
     void WillJudgeAll();
-    void JudgeNext();
+    void JudgeText(const std::string& path);
     void Publish(const std::string& path, const std::vector<Finding>& findings);
     static std::string PathIn(const Json& params);
     std::string UriFor(const std::string& path) const;
