@@ -181,6 +181,8 @@ void AstrayPieces::TellNotKept(const TripItem& item, const TripCut& cut)
 {
     const TripCut* lastCut = nullptr;
     const TripFill* last = LastFillOf(item.name, lastCut);
+    if (last == nullptr || lastCut == nullptr)
+        return;
     const auto isThere = [&](const TripItem& each)
     { return each.begin >= m_trip.begin && m_compared.Begin(each) == lastCut->begin && each.name != item.name; };
     const auto meant = std::ranges::find_if(m_trip.out.items, isThere);

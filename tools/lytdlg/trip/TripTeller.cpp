@@ -1,5 +1,7 @@
 #include "lytdlg/trip/TripTeller.h"
 
+#include "lytdlg/judge/Names.h"
+
 #include <algorithm>
 
 namespace lytdlg
