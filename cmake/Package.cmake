@@ -26,7 +26,7 @@ endif()
 # Pages for those who use the library. What is not handed out cannot be linked to.
 set(lyt_not_handed_out "\\.\\./tests/[^)\n]*|(architecture|benchmarks|contributing|reliability|selftest)\\.md")
 foreach(page
-    README accessibility acts deployment descriptions exports first-dialog from-other-languages glossary limits lytcall lytdlg
+    README accessibility acts deployment descriptions editors exports first-dialog from-other-languages glossary limits lytcall lytdlg
     lytdlg-rules macros partners report support symptoms versions)
   set(source ${CMAKE_SOURCE_DIR}/docs/${page}.md)
   file(READ ${source} text)

@@ -14,7 +14,7 @@ A session of an editor with the language server, byte for byte.
   >   message '{"jsonrpc":"2.0","id":3,"method":"shutdown"}'
   >   message '{"jsonrpc":"2.0","method":"exit"}'
   > } >session
-  $ lytdlg lsp <session | tr -d '\r' | sed -e 's/}Content/}\nContent/g' | grep -v -e '^Content' -e '^$' | cut -c1-60
+  $ WINE_INPUT=session lytdlg lsp <session | tr -d '\r' | sed -e 's/}Content/}\nContent/g' | grep -v -e '^Content' -e '^$' | cut -c1-60
   {"jsonrpc":"2.0","id":null,"error":{"code":-32700,"message":
   {"jsonrpc":"2.0","id":1,"result":{"capabilities":{"positionE
   {"jsonrpc":"2.0","id":2,"result":[{"startLine":1,"endLine":3

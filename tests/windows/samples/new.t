@@ -89,9 +89,9 @@ What the wizard composes goes into the dialogs of the placeholder.
   window = "Catalogue of the inspection"
   window = "Properties of lytWzPhr"
   result = 3 (a phrase)
-  text = "P1{Roof}c"
-  $ new phrase 'P1{Roof}c' --script ok.steps
-  key = "P1{Roof}c"
+  text = "P1{Roof}=c"
+  $ new phrase 'P1{Roof}=c' --script ok.steps
+  key = "P1{Roof}=c"
   window = "Properties of lytInPhr"
   result = 2 (unchanged)
-  text = "P1{Roof}c"
+  text = "P1{Roof}=c"

@@ -116,9 +116,9 @@ constexpr struct
       "G1:<Name>(<Value>)/LIST{<Name>", "G1:<Name>/LIST{<Name>"}},
     {ClytNamed::WizardPhrase,
      {"; The wizard hands it the label of a heading. It answers the placeholder to insert:\n"
-      ";     P1{area}20\n"
+      ";     P1{area}=20\n"
       "; that is the label and a value.\n",
-      "P1{<Name>}<Value>", "P1{<Name>}"}},
+      "P1{<Name>}=<Value>", "P1{<Name>}"}},
     {ClytNamed::WizardSymbol,
      {"; The wizard hands it the key and the label of a symbol, with a slash between them. It answers the\n"
       "; placeholder to insert:\n"
