@@ -15,7 +15,7 @@ struct TextPosition
     int line = 0;
     int character = 0;
 
-    auto operator<=>(const TextPosition&) const = default;
+    auto operator<=>(const TextPosition&) const = default; // NOLINT(modernize-use-nullptr): the compiler writes a 0
 };
 
 struct TextRange
