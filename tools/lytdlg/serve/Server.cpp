@@ -199,16 +199,16 @@ void Server::Answer(const Json& message)
     }
 }
 
-Json Server::ResultOf(const std::string& name, const Json& params)
+Json Server::ResultOf(const std::string& method, const Json& params)
 {
-    const auto method = std::ranges::find_if(Methods(), [&](const Method& known) { return name == known.name; });
-    if (m_state == State::New && name != "initialize" && name != "exit")
+    const auto known = std::ranges::find(Methods(), method, &Method::name);
+    if (m_state == State::New && method != "initialize" && method != "exit")
         throw Refused{serverNotInitialized, "the first request must be \"initialize\""};
-    if (m_state == State::ShutDown && name != "exit")
+    if (m_state == State::ShutDown && method != "exit")
         throw Refused{invalidRequest, "after \"shutdown\" comes only \"exit\""};
-    if (method == Methods().end())
-        throw Refused{methodNotFound, "there is no method \"" + name + "\""};
-    return (this->*method->answer)(params);
+    if (known == Methods().end())
+        throw Refused{methodNotFound, "there is no method \"" + method + "\""};
+    return (this->*known->answer)(params);
 }
 
 void Server::Reply(const Json& id, const Json& result)
