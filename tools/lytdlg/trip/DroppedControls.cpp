@@ -90,7 +90,7 @@ bool DroppedControls::IsReadNext(const std::string& name) const
            (std::ranges::any_of(m_trip.cuts, takes) || std::ranges::any_of(m_trip.cuts.back().targets, leadsThere));
 }
 
-// Whether the control stands in the text as a fixed word, and its piece has something of an item as well.
+// Whether the control is in the text as a fixed word, and its piece has something of an item as well.
 bool DroppedControls::IsMisread(const std::string& name) const
 {
     return std::ranges::any_of(m_trip.cuts,

@@ -21,7 +21,7 @@ namespace
 constexpr size_t markLength = 6;
 constexpr size_t fewestLetters = 8;
 constexpr size_t longestName = 12;
-constexpr size_t fewestOfName = 3; // letters of a name that stand for it
+constexpr size_t fewestOfName = 3; // letters of a name that are enough to name it
 constexpr size_t mostAsked = 6;
 constexpr size_t itemsOfList = 3;
 
@@ -179,7 +179,7 @@ void TripPlan::TakeOutput()
     }
 }
 
-// No letter of a mark may end a piece, or stand between the items of a list.
+// No letter of a mark may end a piece, or separate the items of a list.
 void TripPlan::ChooseLetters()
 {
     std::string taken = "XR";
