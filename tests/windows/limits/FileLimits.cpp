@@ -169,7 +169,7 @@ constexpr Limit fileRows[] = {
      "description",
      FolderThatIsTooLong},
     {"current folder", "a library `lyt.dll`, which no folder before it has",
-     "it is loaded, and its code runs; [deployment.md](deployment.md#libraries-that-somebody-has-planted) has the way "
+     "it is loaded, and its code runs; [deployment.md](deployment.md#planted-libraries) has the way "
      "out",
      PlantedLibrary},
 };
