@@ -280,4 +280,14 @@ Proposals ProposalsAt(const Description& description, const Surroundings& surrou
     return Proposer(description, surroundings, line, column).Make();
 }
 
+void RemoveSnippets(Proposals& proposals)
+{
+    std::erase_if(proposals.all, [](const Proposal& proposal) { return proposal.kind == ProposalKind::Snippet; });
+    for (Proposal& proposal : proposals.all)
+    {
+        if (std::exchange(proposal.isSnippet, false))
+            proposal.insert = proposal.label;
+    }
+}
+
 } // namespace lytdlg

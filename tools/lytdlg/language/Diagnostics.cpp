@@ -16,7 +16,40 @@ bool AreOneFinding(const Finding& left, const Finding& right)
 
 } // namespace
 
-std::set<std::string> Diagnostics::Judge(const Workspace& workspace, const std::string& path)
+void Diagnostics::WillJudge(const std::string& path)
+{
+    std::erase(m_waiting, path);
+    m_waiting.push_front(path);
+    for (const std::string& other : m_workspace.OpenPaths())
+    {
+        const bool isNeighbour = Workspace::DialogFolderOf(other) == Workspace::DialogFolderOf(path);
+        if (isNeighbour && std::ranges::find(m_waiting, other) == m_waiting.end())
+            m_waiting.push_back(other);
+    }
+}
+
+void Diagnostics::WillJudgeAll()
+{
+    const std::vector<std::string> paths = m_workspace.OpenPaths();
+    m_waiting.assign(paths.begin(), paths.end());
+    std::ranges::copy_if(m_included, std::back_inserter(m_waiting),
+                         [&](const std::string& path) { return m_workspace.Find(path) == nullptr; });
+}
+
+std::set<std::string> Diagnostics::JudgeNext()
+{
+    const std::string path = std::move(m_waiting.front());
+    m_waiting.pop_front();
+    return Judge(path);
+}
+
+std::set<std::string> Diagnostics::Include(const std::string& path)
+{
+    m_included.insert(path);
+    return Judge(path);
+}
+
+std::set<std::string> Diagnostics::Judge(const std::string& path)
 {
     std::set<std::string> concerned = {path};
     std::vector<Finding>& kept = m_findings[path];
@@ -27,10 +60,10 @@ std::set<std::string> Diagnostics::Judge(const Workspace& workspace, const std::
     };
     note();
     kept.clear();
-    const bool isJudged = workspace.Find(path) != nullptr || m_included.contains(path);
+    const bool isJudged = m_workspace.Find(path) != nullptr || m_included.contains(path);
     if (isJudged && KindOfText(path) == TextKind::Description)
     {
-        Findings findings = lytdlg::Judge(workspace.DescriptionAt(path), workspace.SurroundingsAt(path));
+        Findings findings = lytdlg::Judge(m_workspace.DescriptionAt(path), m_workspace.SurroundingsAt(path));
         findings.Fold();
         kept = std::move(findings.All());
         for (Finding& finding : kept)

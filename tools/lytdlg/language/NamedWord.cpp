@@ -479,6 +479,14 @@ std::vector<NamedWord> WordsIn(const Description& description, int line)
     return words;
 }
 
+std::vector<NamedWord> AllWordsIn(const Description& description)
+{
+    std::vector<NamedWord> words;
+    for (const SourceLine& line : description.text.Lines())
+        std::ranges::move(WordsIn(description, line.number), std::back_inserter(words));
+    return words;
+}
+
 bool IsSame(const NamedWord& left, const NamedWord& right)
 {
     if (left.meaning != right.meaning)

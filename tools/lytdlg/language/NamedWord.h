@@ -45,6 +45,7 @@ struct NamedWord
 NamedWord WordAt(const Description& description, int line, int column);
 // The words of a line that name something.
 std::vector<NamedWord> WordsIn(const Description& description, int line);
+std::vector<NamedWord> AllWordsIn(const Description& description);
 // The words of the whole description that name the same.
 std::vector<NamedWord> WordsLike(const Description& description, const NamedWord& word);
 

@@ -7,12 +7,13 @@
 namespace lytdlg
 {
 
+// By the numbers that editors have for symbols.
 enum class SymbolKind
 {
-    Header,
-    Control,
-    Statement, // of the input
-    Check
+    Header = 3,    // as a namespace
+    Statement = 6, // of the input; as a method
+    Control = 8,   // as a field
+    Check = 24     // as an event
 };
 
 struct Symbol

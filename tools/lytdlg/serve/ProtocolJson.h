@@ -4,6 +4,7 @@
 #include "lytdlg/language/Completion.h"
 #include "lytdlg/language/DrawnTrial.h"
 #include "lytdlg/language/Edits.h"
+#include "lytdlg/language/Hints.h"
 #include "lytdlg/language/Outline.h"
 
 #include <nlohmann/json.hpp>
@@ -13,21 +14,21 @@ namespace lytdlg
 
 using Json = nlohmann::ordered_json;
 
-// Raise a Json::exception where something else is there.
-TextPosition PositionFrom(const Json& json);
-TextRange RangeFrom(const Json& json);
-
-Json JsonOf(const TextRange& range);
-Json JsonOf(const TextEdit& edit);
-Json JsonOf(const std::vector<TextEdit>& edits);
+// The JSON library calls these by their names. What is read raises a Json::exception where something else is there.
+void from_json(const Json& json, TextPosition& position);
+void from_json(const Json& json, TextRange& range);
+void to_json(Json& json, const TextPosition& position);
+void to_json(Json& json, const TextRange& range);
+void to_json(Json& json, const TextEdit& edit);
+void to_json(Json& json, const Symbol& symbol);
+void to_json(Json& json, const Fold& fold);
+void to_json(Json& json, const Hint& hint);
+void to_json(Json& json, const Proposals& proposals);
+void to_json(Json& json, const DrawnTrial& drawn);
 Json JsonOf(const Finding& finding, const std::string& uri);
-Json JsonOf(const Symbol& symbol);
-Json JsonOf(const Fold& fold);
-Json JsonOf(const Proposal& proposal, const TextRange& range);
-Json JsonOf(const DrawnTrial& drawn);
 
-// The kinds of words that an editor colours, and the words of a description in five numbers each.
+// The kinds of words that an editor colours, and words in five numbers each.
 Json TokenLegend();
-Json TokensOf(const Description& description);
+Json TokensOf(const std::vector<NamedWord>& words);
 
 } // namespace lytdlg

@@ -1,0 +1,61 @@
+#include "lytdlg/language/Hints.h"
+
+#include "commandline/Text.h"
+#include "lytdlg/language/Navigation.h"
+#include "lytdlg/text/Paths.h"
+#include "lytdlg/try/CaseRun.h"
+
+#include <algorithm>
+
+namespace lytdlg
+{
+
+std::vector<Link> LinksOf(const Workspace& workspace, const std::string& path)
+{
+    const Description& description = workspace.DescriptionAt(path);
+    std::vector<Link> links;
+    for (const ValueStatement& statement : description.values)
+    {
+        if (lytMeaningOf<ClytAction>(statement.keyword.c_str()) != ClytAction::Dialog)
+            continue;
+        for (const NamedWord& word : WordsIn(description, statement.span.line))
+        {
+            const std::filesystem::path file =
+                word.meaning == Meaning::Dialog
+                    ? FileIn(PathOf(path).parent_path(), commandline::ToUtf8(word.text) + ".dlg")
+                    : std::filesystem::path();
+            if (!file.empty())
+                links.push_back({word.place, PlainPath(file.string())});
+        }
+    }
+    return links;
+}
+
+std::vector<Hint> HintsOf(const Workspace& workspace, const std::string& path, const TextRange& range)
+{
+    const Description& description = workspace.DescriptionAt(path);
+    const LanguageFiles& files = workspace.SurroundingsAt(path).texts;
+    std::vector<Hint> hints;
+    for (const ShownText& shown : TextUsesOf(description))
+    {
+        const TextRange place = RangeOf(shown.place);
+        const std::vector<LanguageText> texts =
+            TextsOfKey(files, {Meaning::TextKey, shown.key, {}, false, shown.section});
+        if (shown.role == TextRole::Button || place.begin < range.begin || range.end < place.begin || texts.empty())
+            continue;
+        const int quote = description.IsQuoted(shown.place) ? 1 : 0;
+        hints.push_back({{place.end.line, place.end.character + quote}, texts.front().text});
+    }
+    return hints;
+}
+
+std::string VerdictOfCases(const Workspace& workspace, const std::string& path)
+{
+    const std::vector<GoldenCase> cases = CasesOf(workspace, path);
+    const auto hasPassed = [](const GoldenCase& one) { return RunCase(one).differences.empty(); };
+    const auto passed = static_cast<size_t>(std::ranges::count_if(cases, hasPassed));
+    const std::string all = std::to_string(cases.size()) + (cases.size() == 1 ? " case" : " cases");
+    return passed == cases.size() ? all + " passed" : std::to_string(passed) + " of " + all + " passed";
+}
+
+} // namespace lytdlg
