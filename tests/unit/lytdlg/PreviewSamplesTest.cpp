@@ -1,6 +1,7 @@
 // The drawings of the sample dialogs.
 #include "DrawnFolder.h"
 #include "WellFormed.h"
+#include "lytdlg/draw/Snapshot.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -11,6 +12,8 @@
 
 namespace
 {
+
+using lytdlg::Area;
 
 const std::string drawnFolder = LYT_SOURCE_FOLDER "/tests/windows/samples/";
 // The last one has sizes that no sample has.
@@ -43,14 +46,6 @@ std::string PlacesOf(const std::string& svg)
     }
     return places;
 }
-
-struct Area
-{
-    int left = 0;
-    int top = 0;
-    int width = 0;
-    int height = 0;
-};
 
 // Pixels at a corner are not counted.
 bool Overlap(const Area& one, const Area& other)

@@ -30,10 +30,8 @@ std::vector<LetteredCaption> CaptionsOf(const Description& description, const La
     std::vector<LetteredCaption> captions;
     for (const ShownText& use : uses)
     {
-        const bool isCaption =
-            use.role == TextRole::Caption || use.role == TextRole::Alternate || use.role == TextRole::Button;
         const LanguageKey* key = file.Find(use.section, use.key);
-        if (isCaption && key != nullptr && !key->text.empty() && !IsHidden(description, *use.control))
+        if (IsCaptionOrButton(use.role) && key != nullptr && !key->text.empty() && !IsHidden(description, *use.control))
             captions.push_back({&use, MnemonicOf(key->text)});
     }
     return captions;

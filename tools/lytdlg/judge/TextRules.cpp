@@ -62,11 +62,6 @@ void JudgeMissing(const Case& judged, const ShownText& use, KeyNames& names)
         FixWord(judged, finding, {use.key, *known, ""});
 }
 
-bool IsCaptionOrButton(TextRole role)
-{
-    return role == TextRole::Caption || role == TextRole::Alternate || role == TextRole::Button;
-}
-
 // What is wrong with the marks of a caption; empty when each is right.
 std::string StrayMark(const std::string& text)
 {

@@ -25,6 +25,12 @@ struct ShownText
     const ClytControlStatement* control = nullptr; // of the description; null for the title and for messages
 };
 
+// Whether the user reads the text as the caption of a control, which may underline a letter.
+constexpr bool IsCaptionOrButton(TextRole role)
+{
+    return role == TextRole::Caption || role == TextRole::Alternate || role == TextRole::Button;
+}
+
 // In the order of the file. Without a text section a dialog has only its messages and the texts of OK and Cancel.
 std::vector<ShownText> TextUsesOf(const Description& description);
 
