@@ -1,28 +1,27 @@
 /* lytsrc.h: what a catalogue's data source implements.
  *
- * The tree browser of lyt64 shows a catalogue that it does not own: headings, groups under them, symbols under the
- * groups. The catalogue comes from a library of your making, named lytsrc.dll and placed where Windows finds it by
- * its bare name: beside the host program or in a folder of PATH, for instance. Windows does not look beside lyt64.dll.
+ * The tree browser of lyt64 shows a catalogue: headings, groups under them, symbols under the groups. You provide it
+ * in a library named lytsrc.dll, in a folder where Windows finds it by its bare name: beside the host program or in a
+ * folder of PATH, for instance. Windows does not look beside lyt64.dll.
  *
- * The library exports the four functions below, in C and under undecorated names. There are two catalogues, the symbol
- * tree and the para tree, and a pair of functions for each; a library may leave out a pair, and that catalogue is then
- * empty.
+ * The library exports the four functions below, as C functions with undecorated names. There are two catalogues, the
+ * symbol tree and the para tree, and a pair of functions for each. A catalogue without its pair is empty.
  *
  * How a catalogue is read:
  *
- *   1. lytTreeStart("") makes a new run of records ready. Nonzero: it is; 0: there is nothing to read.
- *   2. lytTreeNext(&record) fills the record and returns nonzero, again and again; it returns 0 after the last one,
- *      and what is then in the record is not looked at.
+ *   1. lytTreeStart("") prepares a new run of records. It returns 0 when there is nothing to read, else nonzero.
+ *   2. lytTreeNext(&record) is called repeatedly. It fills the record and returns nonzero; after the last record it
+ *      returns 0, and the record is ignored.
  *
- * Nothing tells the source that reading has ended. A start call may come at any time, even in the middle of a run, and
- * begins again. All calls come from the one thread that called lyt64; records and texts need not outlive a call. A
- * catalogue is read once and then kept until FreeGlobalObject (lytGetSymbolfromTree without a kept catalogue reads it
- * through each time). A run ends after 1,000,000 records, even if the source has more. A source may call lyt64 from inside
- * a call: FreeGlobalObject then drops what is kept, and not the run that is being read.
+ * The source is not notified when reading ends. A start call may come at any time, even in the middle of a run, and
+ * begins again. All calls come from the thread that called lyt64; records and texts need not outlive a call. A
+ * catalogue is read once and then kept until FreeGlobalObject. lytGetSymbolfromTree reads it each time while none is
+ * kept. A run ends after 1,000,000 records, even if the source has more. A source may call lyt64 from inside a call:
+ * FreeGlobalObject then drops the kept catalogue, but not the run that is being read.
  *
- * The functions must not raise. If one does all the same, what was read of the run is dropped and the catalogue stays as
+ * The functions must not raise exceptions. If one does, the records of the run are dropped and the catalogue stays as
  * it was before, so that the next use starts a new run. The browser shows the failure and stays empty;
- * lytGetSymbolfromTree lets the exception through to its caller.
+ * lytGetSymbolfromTree passes the exception to its caller.
  *
  * The order of the records is the order on the screen, depth first: an entry follows the entry it belongs to, and
  * comes before the next one of that entry's level. Its parent is the nearest record before it with a smaller nLevel;
@@ -42,7 +41,7 @@ extern "C"
 {
 #endif
 
-    /* Kinds of an entry. Any other number takes over the kind of the record before it (of a heading, at the first). */
+    /* Kinds of an entry. Any other number means the kind of the record before it, or a heading in the first record. */
     enum
     {
         LYT_TREE_HEADING = 1,
@@ -62,7 +61,7 @@ extern "C"
         int32_t nLevel;                   /* the depth; a smaller number is nearer the root */
         int32_t nType;                    /* LYT_TREE_HEADING, LYT_TREE_GROUP or LYT_TREE_SYMBOL */
         char szLabel[LYT_TREE_TEXT_SIZE]; /* what is shown; each "##" shows as three blanks */
-        char szKey[LYT_TREE_TEXT_SIZE];   /* what the entry is looked up by and returned as */
+        char szKey[LYT_TREE_TEXT_SIZE];   /* what searches look for, and what a choice returns */
     } lytTreeRecord;
 
     static_assert(offsetof(lytTreeRecord, nLevel) == 0, "nLevel is at 0");
@@ -74,7 +73,7 @@ extern "C"
     typedef int32_t (*lytTreeStartFunction)(const char* selection);
     typedef int32_t (*lytTreeNextFunction)(lytTreeRecord* record);
 
-    /* The symbol tree. The selection text is for later use: lyt64 passes an empty one. */
+    /* The symbol tree. The selection text is reserved: lyt64 passes an empty one. */
     int32_t lytTreeStart(const char* selection);
     int32_t lytTreeNext(lytTreeRecord* record);
     /* The para tree. */

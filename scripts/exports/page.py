@@ -78,7 +78,7 @@ def write(table: Table) -> str:
         _filled(
             f"The {len(table.functions)} functions of `{table.library}.dll`. This page is written by "
             "`scripts/make-exports` from `src/exports/exports.toml`, as are the header `include/lyt64.h` and the "
-            "declarations in `host/lyt64.bas`, where each argument has `the` before its name. [macros.md](macros.md) tells how macros call them without buffers."
+            "declarations in `host/lyt64.bas`, where each argument has `the` before its name. Macros call them without buffers, by the module that [macros.md](macros.md) describes."
         ),
         "## Conventions",
         _bullets(table, table.conventions),

@@ -264,34 +264,33 @@ void RaisingVersion(Scene& scene)
 }
 
 constexpr Limit answerRows[] = {
-    {"text of a field or an action", "fills all 256 bytes, gives any number",
-     "the text is the first 255 bytes; the number is not looked at", FilledText},
-    {"items of a list", "fill all 256 bytes of both buffers, give any number but 0",
-     "the texts are the first 255 bytes; the listing continues", FilledItems},
+    {"text of a field or an action", "fills all 256 bytes, returns any number",
+     "the text is the first 255 bytes; the number is ignored", FilledText},
+    {"items of a list", "fill all 256 bytes of both buffers, return any number except 0",
+     "the texts are the first 255 bytes; the list continues", FilledItems},
     {"record of the catalogue", "label or key without a NUL in its 100 bytes", "it is empty", FilledRecord},
     {"record of the catalogue", "an unknown type, a level of any size",
-     "the type of the record before, a heading at first; the level counts as it is", OddRecord},
+     "it has the type of the record before, or is a heading if it is the first; any level is valid", OddRecord},
     {"version of the resource library", "fills 400 bytes", "it is the first 399", FilledVersion},
     {"text of a field", "raises a C++ exception of the same tool chain",
-     "a message names library and function, and says what it says; the field is as it was, and the dialog continues",
+     "a message shows library, function and the text of the exception; the field is as it was, and the dialog "
+     "continues",
      RaisingText},
     {"text of an action", "the same", "the same, and nothing is scanned", RaisingAction},
     {"items of a list", "the same", "the same; the items before it stay in the list", RaisingItem},
     {"text of a field that a rule fills", "the same",
-     "one message for each command of the user, and a typed letter is two; OK is not carried out, Cancel ends the "
-     "dialog",
+     "one message for each command of the user, and two for a typed letter; OK does nothing, Cancel ends the dialog",
      RaisingRule},
     {"record of the catalogue", "the same while it is shown",
-     "a message as above; the catalogue is empty, and is read again by the next call", RaisingRecord},
+     "a message as above; the catalogue is empty, and the next call reads it again", RaisingRecord},
     {"record of the catalogue", "the same in `lytGetSymbolfromTree`",
-     "the exception reaches the caller, whose process may end; the library works on", RaisingLookup},
+     "the exception reaches the caller, whose process may end; the library continues to work", RaisingLookup},
     {"version of the resource library", "the same", "the report shows no version", RaisingVersion},
     {"text of a field or an action", "raises any other exception, an access violation for instance",
      "the same as with a C++ exception; the message gives its number", ForeignText},
-    {"text of a field", "raises what is no `std::exception`", "the same; the message says that it is unknown",
-     NamelessText},
-    {"text of a field", "writes a text for a debugger", "as any other function: the system handles that itself",
-     TalkingText},
+    {"text of a field", "raises something other than a `std::exception`",
+     "the same; the message says that it is unknown", NamelessText},
+    {"text of a field", "writes a text for a debugger", "nothing special: the system handles that itself", TalkingText},
     {"start or item of a list", "the same", "the same", ForeignItem},
     {"record of the catalogue", "the same", "the same", ForeignRecord},
     {"version of the resource library", "the same", "the report shows no version", ForeignVersion},
@@ -301,11 +300,9 @@ constexpr Limit answerRows[] = {
 
 const LimitTable answerLimits = {
     "What partner libraries give",
-    "A listing or a catalogue that does not end counts as ended after 1,000,000 items or records. A function that does "
-    "not\n"
-    "come back cannot be stopped: the call does not come back either. A partner that writes beyond its buffer or calls "
-    "itself\n"
-    "for ever ends the process.",
+    "An endless list or catalogue is cut after 1,000,000 items or records. A function that does not return cannot be\n"
+    "stopped: the call does not return either. A partner that writes beyond its buffer, or calls itself without end,\n"
+    "ends the process.",
     "what",
     answerRows,
 };

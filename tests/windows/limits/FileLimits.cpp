@@ -157,20 +157,20 @@ void PlantedLibrary(Scene& scene)
 }
 
 constexpr Limit fileRows[] = {
-    {"`lyt.ini`, language file", "10 MB of lines", "read as any other, and the last section found", LongFiles},
-    {"`lyt.ini`, language file", "a value of 10 MB", "1,023 and 74 characters of it are used", LongValue},
+    {"`lyt.ini`, language file", "10 MB of lines", "read as usual; the last section is found", LongFiles},
+    {"`lyt.ini`, language file", "a value of 10 MB",
+     "its first 1,023 (`lyt.ini`) or 74 characters (language file) are used", LongValue},
     {"`lyt.ini`, language file", "10 MB without a line end", "nothing is found in it", NoLineEnds},
     {"`lyt.ini`, language file", "NULs in a value", "the value ends before the first", Nuls},
-    {"`lyt.ini`, language file", "UTF-16 with its mark", "read as the platform reads such a file", Utf16},
+    {"`lyt.ini`, language file", "UTF-16 with a byte order mark", "read as Windows reads such a file", Utf16},
     {"`lyt.ini`, language file", "a folder of that name", "nothing is found", Folders},
-    {"folder of the dialogs", "a name of 240 characters", "used as any other", LongFolder},
+    {"folder of the dialogs", "a name of 240 characters", "used as usual", LongFolder},
     {"folder of the dialogs", "a name of 255 characters",
-     "what the platform does not open is missing: \"no value present\" in place of texts, or message 207 for the "
+     "files that Windows cannot open count as missing: \"no value present\" in place of texts, or message 207 for the "
      "description",
      FolderThatIsTooLong},
-    {"current folder", "a library `lyt.dll`, which no folder before it has",
-     "it is loaded, and its code runs; [deployment.md](deployment.md#planted-libraries) has the way "
-     "out",
+    {"current folder", "contains a `lyt.dll`, and no folder searched earlier does",
+     "it is loaded, and its code runs; [deployment.md](deployment.md#planted-libraries) says how to prevent that",
      PlantedLibrary},
 };
 
@@ -178,7 +178,7 @@ constexpr Limit fileRows[] = {
 
 const LimitTable fileLimits = {
     "Files and folders",
-    "Wrong descriptions have their own page, [symptoms.md](symptoms.md).",
+    "For mistakes in descriptions see [symptoms.md](symptoms.md).",
     "what",
     fileRows,
 };

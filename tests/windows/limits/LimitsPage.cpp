@@ -5,13 +5,14 @@ namespace
 
 const char* const head = R"(# What happens when somebody breaks the rules
 
-Each mistake has one outcome, and the process lives, unless its row says otherwise. Every row is carried out by a test.
+Each mistake has one outcome, and the process continues, unless its row says otherwise. A test tries every row. *The same* refers to
+the row above.
 
 ## Bad arguments
 
-*Refused* means: the result is 0, no buffer is written, no window is shown, and nothing else happens. A buffer must have the
-room that its size promises, and one byte more where [exports.md](exports.md) says so: the library cannot see what is
-there. What is no pointer at all ends the process, as does a text without an end.
+*Refused* means: the result is 0, no buffer is written, no window is shown, and nothing else happens. A buffer must really have its
+stated size, and one byte more where [exports.md](exports.md) says so: the library cannot check that. An invalid pointer ends the
+process, and so does a text without an end.
 
 )";
 

@@ -240,31 +240,31 @@ void LoadWithoutSlots(Scene& scene)
 
 constexpr Limit momentRows[] = {
     {"any function", "is called on another thread while a dialog is up",
-     "refused: it gives 0, or nothing, and does nothing; the dialog continues", CallBesideADialog},
+     "refused: it returns 0, if anything, and does nothing; the dialog continues", CallBesideADialog},
     {"any function", "the same while the catalogue is up", "the same", CallBesideABrowser},
     {"any function", "the same while a message is up", "the same", CallBesideAMessage},
-    {"any function", "is called on another thread with no window up", "it works as on the first",
+    {"any function", "is called on another thread while no window is open", "it works as on the first thread",
      CallOnAnotherThreadBetweenDialogs},
     {"any function", "is called on the same thread while a dialog is up, by a timer for instance",
-     "it works as at any time; its windows are above the dialog", CallAboveADialog},
+     "it works as usual; its windows are above the dialog", CallAboveADialog},
     {"host", "posts a quit message while a dialog is up",
      "the dialog is cancelled, and the message waits for the host's own loop", QuitBelowADialog},
     {"host", "the same while the catalogue is up", "the same", QuitBelowABrowser},
     {"host", "the same while a dialog is above another", "the same; both are cancelled", QuitBelowANestedDialog},
     {"`FreeGlobalObject`", "is called while a dialog is up",
-     "the dialog continues with what it has read, and gives its result; what it looks up from then on is not found",
+     "the dialog continues with what it has read, and returns its result; nothing that it looks up later is found",
      ReleaseBelowADialog},
     {"`FreeGlobalObject`", "is called while the catalogue is up",
      "its entries are gone: OK is refused with message 222, Cancel ends it", ReleaseBelowABrowser},
     {"thread of the host", "ends while a dialog is up",
-     "the other threads are not refused any more, and every function works; memory of the call is lost",
+     "calls on other threads are no longer refused, and every function works; the memory of the call is lost",
      EndBelowADialog},
     {"thread of the host", "is terminated while a dialog is up", "the same", KillBelowADialog},
     {"`LoadLibrary`", "finds all fiber-local slots of the process taken",
-     "the library takes a thread-local one, and works", LoadWithoutFiberSlots},
+     "the library uses a thread-local slot, and works", LoadWithoutFiberSlots},
     {"`LoadLibrary`", "finds all thread-local slots taken, too",
-     "refused: it gives null, and a later one works when there is a slot again", LoadWithoutSlots},
-    {"any function", "is called when all slots have been taken since `LoadLibrary`", "it works as at any time",
+     "refused: it returns null; it works again when a slot is free", LoadWithoutSlots},
+    {"any function", "is called when all slots were taken after `LoadLibrary`", "it works as usual",
      UseWithoutFiberSlots},
 };
 
@@ -272,9 +272,11 @@ constexpr Limit momentRows[] = {
 
 const LimitTable momentLimits = {
     "Calls at the wrong time",
-    "Calls come from one thread, one at a time. This is what happens otherwise. The host must not free the library\n"
-    "while a call is under way: the call's code is gone when it continues, and the process ends. The macros'\n"
-    "`LytStop` refuses while a call of theirs is running.",
+    "Calls should come from one thread, one at a time. This is what happens otherwise. The host must not free the "
+    "library\n"
+    "while a call is under way: the code of the call would be gone, and the process would end. `LytStop` of the "
+    "macros\n"
+    "refuses to do so.",
     "what",
     momentRows,
 };
