@@ -66,8 +66,8 @@ extern "C"
     /* These functions show the dialog for the kind of a placeholder, with the key scanned into its controls, until the
      * user closes it.
      *
-     * They return 1 when the placeholder changed, 2 when it did not, and 0 when there is no result: the user cancelled,
-     * or a message said why the dialog could not be shown. After a 0 the buffers are as they were. */
+     * They return 1 when the placeholder changed, and 2 when it did not. They return 0 when the user cancelled, or when
+     * the dialog could not be shown and a message said why. After a 0 the buffers are as they were. */
 
     /* The descriptions are lytInSym.dlg and lytInPhr.dlg. The placeholder counts as changed when the buffer then holds
      * anything but the key. An empty result leaves the buffer as it was. A result that is longer than the size leaves

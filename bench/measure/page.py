@@ -1,6 +1,4 @@
 """docs/benchmarks.md."""
-import pathlib
-
 from figures import growth, run_ratios, summarise, time_text
 from works import outcomes
 
@@ -8,26 +6,24 @@ from works import outcomes
 STEEP = 1.1
 ALARM = "**steeper than linear**"
 
-USAGE = pathlib.Path(__file__).with_name("usage.txt")
-
 HEAD = """# How fast it is
 
-`./measure` has written this page. Do not edit it: titles, aims and reasons are in `bench/works.toml`. `./measure --page`
-writes it again from the figures of the last whole measurement, which are in `docs/benchmarks/figures.json`.
+`./measure` writes this page. Do not edit it: titles, aims and reasons are in `bench/works.toml`. `./measure --page` writes it
+again from the figures of the last whole measurement, which are in `docs/benchmarks/figures.json`; `./measure --help` says more.
 
 ## How to read it
 
-Each piece of work is done in turn with its rival, the same work done otherwise, in the same program and the same run. So
-what else the machine does falls on both, and their ratio is worth more than the times. A time is the median of all rounds,
-a ratio the median of the rounds' ratios. The brackets hold the middle half of them. Where the brackets are far apart the
-machine was not quiet, and a ratio close to its aim says little.
+Each piece of work alternates with its rivals, which do the same work in another way, in the same program and the same run. Other
+load on the machine affects both, so that their ratio is more reliable than the times. A time is the median of all rounds, and a
+ratio the median of the rounds' ratios. The brackets contain the middle half of the ratios. Where they are far apart the machine was
+busy, and a ratio close to its aim means little.
 
-A rival *by hand* calls the platform as the library does. It reads what the library has to read: each text and the language
-it is in, the level of the log. It looks for the companion library as often, and throws away what it need not keep.
+A rival *by hand* calls Windows as the library does. It reads what the library has to read: each text and the language it is in, and
+the level of the log. It looks for the companion library, `lyt.dll`, as often. It keeps only what it needs.
 
-Works that are measured *natively* are done by our code over windows in memory, and their time is the processor's. All
-others are done by the DLL under Wine, and their time is the clock's. There a call of the platform costs other than on
-Windows. The ratios hold better than the times.
+*Natively* means that the library's code runs over windows in memory, and that processor time is measured. All other works are done
+by the DLL under Wine, in clock time. There the calls of Windows cost more or less than on a real Windows, so the ratios mean more
+than the times.
 """
 
 
@@ -94,8 +90,8 @@ def rivals_section(works, summary):
                 how = brackets(one["ratios"][series]) + " ×" if kind == "rivals" else f"{100 * other / ours:.0f} % of it"
                 rows.append([title(work), place, time_text(ours), f"*{series}*: {words}", time_text(other), how])
     return ("## The rivals, and what the library has to do\n\n"
-            "Each rival at the largest size that it is measured in, with the ratio to it. Below it are the parts that the library\n"
-            "has to do and that the rivals do as well, with their share of its time.\n\n" +
+            "Each rival at the largest size that was measured, with the ratio to it. Rows with a share in percent are parts of the\n"
+            "library's work that the rivals do as well.\n\n" +
             table(["work", ":size", ":time", "beside it", ":its time", ":the library"], rows))
 
 
@@ -132,11 +128,10 @@ def growth_section(works, summary):
             steep.append(work["title"])
         rows += added
     words = ("## Growth\n\n"
-             "Each work in three sizes, each ten times the one before, and the exponent of the power of the size that fits its\n"
-             "times best: 1 is linear, 0 constant. The exponent of the last step alone shows growth that a constant beginning\n"
-             "hides from the fit. What is steeper than linear and just as steep in the rival is the platform's, or the\n"
-             "emulator's, and not the library's.\n\n")
-    words += f'Steeper than linear without a rival that is so as well: {", ".join(steep) or "nothing"}.\n\n'
+             "Each work in three sizes, each ten times the one before, and the exponent of the size that fits its times best: 1 is\n"
+             "linear, 0 constant. The exponent of the last step alone shows growth that a constant share hides from the fit. Growth\n"
+             "that is just as steep in a rival comes from the platform, not from the library.\n\n")
+    words += f'Steeper than linear, and steeper than every rival: {", ".join(steep) or "nothing"}.\n\n'
     return words + table(["work", "", ":sizes", ":times", ":exponent", ":last step", "growth"], rows)
 
 
@@ -144,9 +139,9 @@ def profile_section(works, profile):
     if not profile:
         return ""
     words = ["## Where the time goes\n\n"
-             "Counted in instructions by a profiler, each function with all that it calls. Functions of the platform in memory are\n"
-             "among them and are not in the DLL: `GetPrivateProfileStringA`, for instance, which reads its file again each time.\n"
-             "Functions that the compiler has put into their callers do not appear.\n"]
+             "Instructions counted by a profiler, each function with all that it calls. Functions of windows in memory are among them,\n"
+             "which are not in the DLL: `GetPrivateProfileStringA`, for instance, which reads its file again each time. Inlined\n"
+             "functions do not appear.\n"]
     for name, rows in profile.items():
         listing = [[f"{share:.0f} %", f"`{function}`"] for share, function in rows]
         words.append(f'**{works[name]["title"]}**\n\n' + table([":share", "function"], listing))
@@ -157,9 +152,8 @@ def make(works, figures):
     """The text of the page."""
     summary = figures["works"]
     found = outcomes(works, summary)
-    usage = "".join(f"    {line}\n" if line.strip() else "\n" for line in USAGE.read_text(encoding="utf-8").splitlines())
-    sections = [HEAD, "## How to measure\n\n" + usage, machine_section(figures), aims_section(found), reasons_section(found),
-                rivals_section(works, summary), growth_section(works, summary), profile_section(works, figures["profile"])]
+    sections = [HEAD, machine_section(figures), aims_section(found), reasons_section(found), rivals_section(works, summary),
+                growth_section(works, summary), profile_section(works, figures["profile"])]
     return "\n".join(section for section in sections if section)
 
 
