@@ -1,6 +1,6 @@
 #include <afx.h>
 
-#include "system/FileNameLength.h"
+#include "system/NameLength.h"
 #include "system/StdioStream.h"
 
 #include <cerrno>
@@ -23,7 +23,7 @@ BOOL CStdioFile::Open(const char* fileName, UINT flags, CFileException* error)
 {
     SetFilePath(fileName);
     errno = 0;
-    if (FileNameFits(fileName))
+    if (NameFits(fileName))
         m_pStream.reset(OpenStream(fileName, flags));
     else
         errno = ENOENT;

@@ -1,6 +1,6 @@
 #include "base/PartnerLibrary.h"
 
-#include "system/FileNameLength.h"
+#include "system/NameLength.h"
 
 namespace
 {
@@ -14,7 +14,7 @@ bool IsOwn(HMODULE library)
 
 HMODULE lytLoadLibrary(const char* name)
 {
-    if (*name == '\0' || !FileNameFits(name))
+    if (*name == '\0' || !NameFits(name))
         return nullptr;
     if (HMODULE own = lytOwnLibraries != nullptr ? lytOwnLibraries->Load(name) : nullptr)
         return own;

@@ -1,6 +1,6 @@
 #include "environment/ProfileFile.h"
 
-#include "system/FileNameLength.h"
+#include "system/NameLength.h"
 #include <afxwin.h>
 
 #include <string>
@@ -8,7 +8,7 @@
 CString lytReadProfileText(const char* section, const char* key, const char* defaultText, int size,
                            const char* fileName)
 {
-    if (!FileNameFits(fileName))
+    if (!NameFits(fileName) || !NameFits(section) || !NameFits(key))
         return CString(defaultText).Left(size - 1);
     std::string value(static_cast<size_t>(size), '\0');
     ::GetPrivateProfileStringA(section, key, defaultText, value.data(), static_cast<DWORD>(size), fileName);
@@ -17,7 +17,7 @@ CString lytReadProfileText(const char* section, const char* key, const char* def
 
 int lytReadProfileSection(const char* section, char* buffer, int size, const char* fileName)
 {
-    if (!FileNameFits(fileName))
+    if (!NameFits(fileName) || !NameFits(section))
     {
         buffer[0] = buffer[1] = '\0';
         return 0;

@@ -3,7 +3,7 @@
 
 #include "sysinfo/frame/FactHandles.h"
 
-#include "system/FileNameLength.h"
+#include "system/NameLength.h"
 #include <afx.h>
 
 #include <cerrno>
@@ -12,13 +12,13 @@
 // Begins a search and gives the first file found; no open search when no file matches.
 inline ClytSearchHandle lytFindFirst(const CString& pattern, WIN32_FIND_DATAA& found)
 {
-    return FileNameFits(pattern) ? ClytSearchHandle(FindFirstFileA(pattern, &found)) : ClytSearchHandle();
+    return NameFits(pattern) ? ClytSearchHandle(FindFirstFileA(pattern, &found)) : ClytSearchHandle();
 }
 
 // 0 when the file may be used in the mode of the runtime's own function, else the runtime's number of the error.
 inline int lytAccessError(const CString& fileName, int mode)
 {
-    if (!FileNameFits(fileName))
+    if (!NameFits(fileName))
         return ENOENT;
     return _access(fileName, mode) == 0 ? 0 : errno;
 }

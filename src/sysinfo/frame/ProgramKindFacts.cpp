@@ -3,7 +3,7 @@
 #include "sysinfo/frame/FileSearch.h"
 #include "sysinfo/frame/Probes.h"
 
-#include "system/FileNameLength.h"
+#include "system/NameLength.h"
 
 static_assert(lytBinary64 == SCS_64BIT_BINARY);
 
@@ -25,7 +25,7 @@ CString HostFile()
 std::optional<unsigned> BinaryKindOf(const CString& fileName)
 {
     DWORD kind = 0;
-    if (!FileNameFits(fileName) || !GetBinaryTypeA(fileName, &kind))
+    if (!NameFits(fileName) || !GetBinaryTypeA(fileName, &kind))
         return {};
     return kind;
 }

@@ -1,4 +1,4 @@
-#include "system/FileNameLength.h"
+#include "system/NameLength.h"
 
 #include <afx.h>
 
@@ -16,14 +16,14 @@ namespace
 // that very file.
 std::vector<std::string> TooLongNames(const std::string& fileName)
 {
-    return {fileName + std::string(32'768 - fileName.size(), 'x'), std::string(40'000, 'x'),
+    return {fileName + std::string(32'767 - fileName.size(), 'x'), std::string(40'000, 'x'),
             fileName + std::string(32'768, 'x'), fileName + std::string(65'536, 'x')};
 }
 
-class FileName : public testing::Test
+class NameLength : public testing::Test
 {
 protected:
-    FileName() { folder.Write("values.ini", "[Section]\nKey=Value\n"); }
+    NameLength() { folder.Write("values.ini", "[Section]\nKey=Value\n"); }
 
     TestFolder folder;
     std::string fileName = folder.Path() + "\\values.ini";
@@ -31,14 +31,14 @@ protected:
 
 } // namespace
 
-TEST_F(FileName, FitsUpToTheLengthThatThePlatformCounts)
+TEST_F(NameLength, FitsUpToTheLengthThatThePlatformCounts)
 {
-    EXPECT_TRUE(FileNameFits(""));
-    EXPECT_TRUE(FileNameFits(std::string(32'767, 'x').c_str()));
-    EXPECT_FALSE(FileNameFits(std::string(32'768, 'x').c_str()));
+    EXPECT_TRUE(NameFits(""));
+    EXPECT_TRUE(NameFits(std::string(32'766, 'x').c_str()));
+    EXPECT_FALSE(NameFits(std::string(32'767, 'x').c_str()));
 }
 
-TEST_F(FileName, BeyondThatLengthIsAMissingConfigurationFile)
+TEST_F(NameLength, BeyondThatLengthIsAMissingConfigurationFile)
 {
     ASSERT_EQ(lytReadProfileText("Section", "Key", "none", 75, fileName.c_str()), "Value");
     for (const std::string& name : TooLongNames(fileName))
@@ -52,7 +52,23 @@ TEST_F(FileName, BeyondThatLengthIsAMissingConfigurationFile)
     }
 }
 
-TEST_F(FileName, BeyondThatLengthIsNotFoundWhenOpened)
+// The platform would take a name of 65,537 bytes for its first byte alone, and a shorter one for what its memory holds.
+TEST_F(NameLength, BeyondThatLengthIsAMissingSectionOrKey)
+{
+    for (const size_t length : {32'767, 65'535, 65'536, 65'537, 100'000})
+    {
+        SCOPED_TRACE(length);
+        const std::string name(length, 'x');
+        folder.Write("values.ini", "[x]\nKey=Value\nx=Value\n[" + name + "]\nKey=Value\nx=Value\n" + name + "=Value\n");
+        EXPECT_EQ(lytReadProfileText(name.c_str(), "Key", "none", 75, fileName.c_str()), "none");
+        EXPECT_EQ(lytReadProfileText("x", name.c_str(), "none", 75, fileName.c_str()), "none");
+        char lines[20] = "untouched";
+        EXPECT_EQ(lytReadProfileSection(name.c_str(), lines, sizeof lines, fileName.c_str()), 0);
+        EXPECT_STREQ(lines, "");
+    }
+}
+
+TEST_F(NameLength, BeyondThatLengthIsNotFoundWhenOpened)
 {
     for (const std::string& name : TooLongNames(fileName))
     {
