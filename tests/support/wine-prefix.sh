@@ -52,8 +52,10 @@ if [ ! -f "$dir/.ready-$mode" ]; then
     touch "$dir/.ready-$mode"
 fi
 export WINEPREFIX="$dir"
-# A run that was broken off leaves what its tests laid into the registry. A server that runs has others at work.
-if quiet timeout 1 wineserver -w; then
+# A run that was broken off leaves what its tests laid into the registry. A server that runs has others at work, and so may one
+# that wine-run.sh is about to start.
+exec 9>>"$dir/.in-use"
+if flock -n 9 && quiet timeout 1 wineserver -w; then
     cp "$new"/*.reg "$dir"
     driver=x11
     [ "$mode" != null ] || driver=null
@@ -63,4 +65,4 @@ if quiet timeout 1 wineserver -w; then
     sed -i -e "s/^\"Graphics\"=.*/\"Graphics\"=\"$driver\"/" -e "s/^\"Managed\"=.*/\"Managed\"=\"$managed\"/" \
         -e "s/^\"LogPixels\"=.*/\"LogPixels\"=dword:$(printf %08x "$dpi")/" "$dir/user.reg"
 fi
-quiet wineserver -p600 || true
+quiet wineserver -p600 9>&- || true
