@@ -2,6 +2,13 @@
 # at their first call. A library that most calls never need then costs nothing when the DLL is loaded.
 find_program(LYT_DLLTOOL NAMES llvm-dlltool llvm-dlltool-14)
 function(lyt_delay_load target library)
+  if(MSVC)
+    cmake_path(GET library STEM name)
+    add_library(${target} INTERFACE IMPORTED GLOBAL)
+    target_link_options(${target} INTERFACE /DELAYLOAD:${library})
+    target_link_libraries(${target} INTERFACE ${name} delayimp)
+    return()
+  endif()
   list(JOIN ARGN "\n" functions)
   set(definition ${CMAKE_CURRENT_BINARY_DIR}/${target}.def)
   set(archive ${CMAKE_CURRENT_BINARY_DIR}/lib${target}.a)

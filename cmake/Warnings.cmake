@@ -7,6 +7,8 @@ if(MSVC)
   target_compile_options(lyt_options INTERFACE /W4 /WX /permissive- /utf-8 /Zc:__cplusplus /GS /guard:cf)
   target_link_options(lyt_options INTERFACE /guard:cf /DYNAMICBASE /HIGHENTROPYVA /Brepro)
   target_link_options(lyt_handed_out INTERFACE /OPT:REF)
+  set(lyt_small /O1)
+  set(lyt_built_soon /Od)
 else()
   target_compile_options(lyt_options INTERFACE
     -Werror -Wall -Wextra -Wpedantic -Wshadow
@@ -17,6 +19,9 @@ else()
     -ffile-prefix-map=${CMAKE_SOURCE_DIR}=. -fstack-protector-strong -ffunction-sections -fdata-sections)
   target_link_options(lyt_options INTERFACE -fstack-protector-strong)
   target_link_options(lyt_handed_out INTERFACE -s -Wl,--gc-sections)
+  # A function that holds an array and could not be guarded is an error.
+  set(lyt_small -Os -Wstack-protector)
+  set(lyt_built_soon -O0)
 endif()
 
 # The conversion of a floating-point number that no integer holds is not counted among the undefined behaviour.

@@ -12,9 +12,10 @@ execute_process(
   COMMAND ${lyt_target}-g++-posix -print-file-name=libgcc.a
   OUTPUT_VARIABLE lyt_runtime OUTPUT_STRIP_TRAILING_WHITESPACE COMMAND_ERROR_IS_FATAL ANY)
 cmake_path(GET lyt_runtime PARENT_PATH lyt_runtime)
+# libstdc++ was made with two settings that its own compiler knows for this target: where types are compared, and how the
+# variables of a thread are reached.
 set(CMAKE_CXX_FLAGS_INIT
-  "-stdlib++-isystem ${lyt_runtime}/include/c++ -stdlib++-isystem ${lyt_runtime}/include/c++/${lyt_target}")
-# The comparison of types is inline in the headers and a function of libstdc++ as well, which lld takes for a mistake.
+  "-stdlib++-isystem ${lyt_runtime}/include/c++ -stdlib++-isystem ${lyt_runtime}/include/c++/${lyt_target} -D__GXX_TYPEINFO_EQUALITY_INLINE=0 -femulated-tls")
 foreach(kind EXE SHARED MODULE)
-  string(APPEND CMAKE_${kind}_LINKER_FLAGS_INIT " -fuse-ld=lld -B${lyt_runtime} -L${lyt_runtime} -lwinpthread -Wl,--allow-multiple-definition")
+  string(APPEND CMAKE_${kind}_LINKER_FLAGS_INIT " -fuse-ld=lld -B${lyt_runtime} -L${lyt_runtime} -lwinpthread")
 endforeach()

@@ -69,7 +69,7 @@ TEST_F(LibraryFile, ChecksItsStackInHundredsOfFunctions)
     const size_t failure = code.find(std::string_view("\xB9\x02\x00\x00\x00\xCD\x29", 7)); // mov ecx, 2; int 0x29
     ASSERT_NE(failure, std::string_view::npos);
     size_t calls = 0;
-    for (size_t place = code.find('\xE8'); place < failure; place = code.find('\xE8', place + 1))
+    for (size_t place = code.find('\xE8'); place != std::string_view::npos; place = code.find('\xE8', place + 1))
         calls += CallTarget(code, place) == failure ? 1 : 0;
     EXPECT_GT(calls, 200U);
 }

@@ -41,13 +41,17 @@ class Image:
         """The address of each exported name."""
         directory = self._place(self._export_rva)
         function_count, count, functions, names, ordinals = struct.unpack_from("<20x5I", self._bytes, directory)
-        assert function_count == count, "an export has no separate name"
         found = {}
+        named = set()
         for index in range(count):
             start = self._place(self._number("<I", self._place(names) + 4 * index))
             name = self._bytes[start : self._bytes.index(b"\0", start)].decode("ascii")
             ordinal = self._number("<H", self._place(ordinals) + 2 * index)
             found[name] = self._number("<I", self._place(functions) + 4 * ordinal)
+            named.add(ordinal)
+        # A linker may begin with an entry that is not used.
+        used = {entry for entry in range(function_count) if self._number("<I", self._place(functions) + 4 * entry) != 0}
+        assert len(named) == count and named == used, "an export has no separate name"
         return found
 
 

@@ -131,7 +131,7 @@ void LaidDownMachine::LayWordProcessors()
 
 void LaidDownMachine::LayHardware()
 {
-    constexpr const char* processorKey = "HARDWARE\\DESCRIPTION\\System\\CentralProcessor\\0";
-    registry.SetText(HKEY_LOCAL_MACHINE, processorKey, "ProcessorNameString", "Some CPU");
-    registry.SetNumber(HKEY_LOCAL_MACHINE, processorKey, "~MHz", 2000);
+    constexpr const char* processor = "HARDWARE\\DESCRIPTION\\System\\CentralProcessor\\0";
+    registry.SetText(HKEY_LOCAL_MACHINE, processor, "ProcessorNameString", "Some CPU");
+    registry.SetNumber(HKEY_LOCAL_MACHINE, processor, "~MHz", 2000);
 }
