@@ -1,6 +1,9 @@
-// What loading the library brings into a process.
+// What loading the library brings into a process, and what it does to the file.
+#include "support/FreshLibrary.h"
 #include "support/Image.h"
+#include "support/Library.h"
 #include "support/Modules.h"
+#include "support/TestFolder.h"
 
 #include <gtest/gtest.h>
 
@@ -92,4 +95,23 @@ TEST(Loading, BringsInNothingBeyondTheImportsOfTheFile)
     for (const std::string& name : watch.Names())
         EXPECT_TRUE(expected.contains(name)) << name;
     FreeLibrary(library);
+}
+
+// In this way an administrator replaces a library that is in use.
+TEST(Loading, LetsTheFileBeRenamedThoughNotReplaced)
+{
+    const TestFolder folder;
+    const std::string built = ProgramFolder() + "\\lyt64.dll";
+    const std::string file = folder.Path() + "\\lyt64.dll";
+    const std::string aside = folder.Path() + "\\lyt64-1.0.0.old";
+    ASSERT_TRUE(CopyFileA(built.c_str(), file.c_str(), TRUE));
+    {
+        const FreshLibrary library(file);
+        EXPECT_FALSE(CopyFileA(built.c_str(), file.c_str(), FALSE));
+        EXPECT_FALSE(DeleteFileA(file.c_str()));
+        EXPECT_TRUE(MoveFileA(file.c_str(), aside.c_str()));
+        EXPECT_TRUE(CopyFileA(built.c_str(), file.c_str(), TRUE));
+        EXPECT_FALSE(DeleteFileA(aside.c_str()));
+    }
+    EXPECT_TRUE(DeleteFileA(aside.c_str()));
 }
