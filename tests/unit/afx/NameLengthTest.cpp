@@ -2,6 +2,7 @@
 
 #include <afx.h>
 
+#include "base/PartnerLibrary.h"
 #include "environment/ProfileFile.h"
 #include "support/TestFolder.h"
 
@@ -78,4 +79,10 @@ TEST_F(NameLength, BeyondThatLengthIsNotFoundWhenOpened)
         EXPECT_FALSE(file.Open(name.c_str(), CFile::modeRead | CFile::typeText, &error));
         EXPECT_EQ(error.m_cause, CFileException::fileNotFound);
     }
+}
+
+TEST_F(NameLength, BeyondThatLengthIsAMissingLibrary)
+{
+    for (const std::string& name : TooLongNames(fileName))
+        EXPECT_EQ(lytLoadLibrary(name.c_str()), nullptr) << name.size();
 }
