@@ -3,7 +3,11 @@
 #include "controls/TypeWords.h"
 #include "lytdlg/try/TrialDialog.h"
 #include "robot/WindowRobot.h"
+#include "script/Controls.h"
 
+#include <commctrl.h>
+
+#include <algorithm>
 #include <numeric>
 
 namespace lytdlg
@@ -115,10 +119,10 @@ void ReadWindow(HWND window, HWND dialog, SeenControl& control)
 }
 
 // The system's fonts of this kind have no kerning: a text is as wide as its characters together.
-void MeasureFont(const TrialDialog& dialog, SeenDialog& seen)
+void MeasureFont(HWND dialog, SeenDialog& seen)
 {
-    const CClientDC device(&dialog);
-    device.SelectObject(reinterpret_cast<HGDIOBJ>(dialog.SendMessage(WM_GETFONT)));
+    const CClientDC device(CWnd::FromHandle(dialog));
+    device.SelectObject(reinterpret_cast<HGDIOBJ>(SendMessageA(dialog, WM_GETFONT, 0, 0)));
     for (size_t code = 0; code < seen.advances.size(); ++code)
     {
         const char character = static_cast<char>(code);
@@ -127,6 +131,58 @@ void MeasureFont(const TrialDialog& dialog, SeenDialog& seen)
         seen.textHeight = extent.cy;
     }
     seen.pixelsPerInch = device.GetDeviceCaps(LOGPIXELSX);
+}
+
+SeenDialog SeeFrame(HWND dialog)
+{
+    SeenDialog seen;
+    seen.title = robot::TextOf(dialog);
+    const Area window = WindowArea(dialog, {0, 0});
+    seen.width = window.width;
+    seen.height = window.height;
+    seen.client = ClientArea(dialog);
+    MeasureFont(dialog, seen);
+    return seen;
+}
+
+// The word of the layout for what scripts call a control.
+std::string LayoutTypeOf(HWND control)
+{
+    constexpr std::pair<const char*, const char*> types[] = {
+        {"edit", "TextBox"},   {"text", "Text"},           {"button", "PushButton"},
+        {"check", "CheckBox"}, {"option", "OptionButton"}, {"list", "ListBox"},
+        {"combo", "ComboBox"}, {"group", "GroupBox"},      {"tree", "Tree"}};
+    const std::string type = script::TypeOf(control);
+    const auto known = std::ranges::find(types, type, &std::pair<const char*, const char*>::first);
+    return known != std::end(types) ? known->second : type;
+}
+
+HTREEITEM NextNode(HWND tree, UINT relation, HTREEITEM item)
+{
+    return reinterpret_cast<HTREEITEM>(Ask(tree, TVM_GETNEXTITEM, relation, reinterpret_cast<LPARAM>(item)));
+}
+
+void ReadTree(HWND tree, SeenControl& control)
+{
+    const HTREEITEM chosen = NextNode(tree, TVGN_CARET, nullptr);
+    for (HTREEITEM item = NextNode(tree, TVGN_ROOT, nullptr); item != nullptr;
+         item = NextNode(tree, TVGN_NEXTVISIBLE, item))
+    {
+        TVITEMA node = {};
+        node.mask = TVIF_CHILDREN | TVIF_STATE;
+        node.stateMask = TVIS_EXPANDED;
+        node.hItem = item;
+        Ask(tree, TVM_GETITEMA, 0, reinterpret_cast<LPARAM>(&node));
+        const std::string text = robot::LabelOf(tree, item);
+        SeenNode seen = {text, text, 0, (node.state & TVIS_EXPANDED) != 0, node.cChildren != 0, item == chosen};
+        for (HTREEITEM parent = NextNode(tree, TVGN_PARENT, item); parent != nullptr;
+             parent = NextNode(tree, TVGN_PARENT, parent))
+        {
+            seen.path = robot::LabelOf(tree, parent) + "/" + seen.path;
+            ++seen.level;
+        }
+        control.nodes.push_back(std::move(seen));
+    }
 }
 
 } // namespace
@@ -139,25 +195,36 @@ int SeenDialog::WidthOf(const std::string& shown) const
 
 SeenDialog See(const TrialDialog& dialog)
 {
-    SeenDialog seen;
-    seen.title = robot::TextOf(dialog.m_hWnd);
-    const Area window = WindowArea(dialog.m_hWnd, {0, 0});
-    seen.width = window.width;
-    seen.height = window.height;
-    seen.client = ClientArea(dialog.m_hWnd);
-    MeasureFont(dialog, seen);
-
+    SeenDialog seen = SeeFrame(dialog.m_hWnd);
     int tabNumber = 0;
     for (const ClytControl& control : dialog.GetControlList())
     {
         SeenControl& one = seen.controls.emplace_back();
         one.type = dialog.TypeOf(control);
         one.name = dialog.NameOf(control);
+        one.line = dialog.LineOf(control);
         const auto* child = dynamic_cast<const CWnd*>(&control);
         if (child == nullptr || child->m_hWnd == nullptr)
             continue;
         ReadWindow(child->m_hWnd, dialog.m_hWnd, one);
         if (HasStyle(child->m_hWnd, WS_TABSTOP))
+            one.tabNumber = ++tabNumber;
+    }
+    return seen;
+}
+
+SeenDialog See(HWND window)
+{
+    SeenDialog seen = SeeFrame(window);
+    int tabNumber = 0;
+    for (HWND child : robot::ChildrenOf(window))
+    {
+        SeenControl& one = seen.controls.emplace_back();
+        one.type = LayoutTypeOf(child);
+        ReadWindow(child, window, one);
+        if (one.type == "Tree")
+            ReadTree(child, one);
+        if (HasStyle(child, WS_TABSTOP))
             one.tabNumber = ++tabNumber;
     }
     return seen;

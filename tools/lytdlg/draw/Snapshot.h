@@ -1,6 +1,8 @@
 // What is seen of a dialog at one moment: a record of the window and of each control, with all that a drawing of it needs.
 #pragma once
 
+#include <windows.h>
+
 #include <array>
 #include <string>
 #include <vector>
@@ -27,11 +29,23 @@ struct SeenItem
     bool isMarked = false;
 };
 
+// An item of a tree that no closed branch hides.
+struct SeenNode
+{
+    std::string text;
+    std::string path; // as an act names it
+    int level = 0;
+    bool isOpen = false;
+    bool hasInner = false;
+    bool isChosen = false;
+};
+
 // Texts are in the library's code page; captions have the marks of their access keys.
 struct SeenControl
 {
     std::string type; // the word of the layout
     std::string name;
+    int line = 0; // of its statement
     std::string text;
     Area place;  // in the window
     Area inside; // in the control: what its frame leaves
@@ -44,6 +58,7 @@ struct SeenControl
     bool hasFocus = false;
     int tabNumber = 0; // from 1, in the order of the Tab key; 0 for a control that it never reaches
     std::vector<SeenItem> items;
+    std::vector<SeenNode> nodes;
     int chosen = -1;
     int topItem = 0;
     Area firstItem;       // in the inside: the place of the top item
@@ -67,6 +82,9 @@ struct SeenDialog
 
 // Looks at an open dialog, and changes nothing of it.
 SeenDialog See(const TrialDialog& dialog);
+// The same of a window without a description, such as the catalogue. Its controls have the types of the layout that look
+// like them; a tree is a "Tree".
+SeenDialog See(HWND window);
 
 // Holds for as long as it lives.
 // The resolution of the screen that dialogs are opened on.

@@ -99,7 +99,8 @@ void CheckIsFree(const fs::path& file)
     }
 }
 
-// Puts lines at the end of a section, and the section at the end of the file when it is not there.
+} // namespace
+
 std::string WithKeys(const std::string& content, const std::string& section, const std::string& lines)
 {
     const std::string end = content.find("\r\n") != std::string::npos ? "\r\n" : "\n";
@@ -118,6 +119,9 @@ std::string WithKeys(const std::string& content, const std::string& section, con
     const bool isOpen = !content.substr(0, place).ends_with('\n');
     return content.substr(0, place) + (isOpen ? end : "") + added + content.substr(place);
 }
+
+namespace
+{
 
 std::string WithTexts(const std::string& content, const std::string& language, const std::string& name)
 {

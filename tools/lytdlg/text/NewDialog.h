@@ -1,4 +1,4 @@
-// A small complete dialog to begin with: its description, its texts in every language, and a test case.
+// A small complete dialog to begin with: its description, its texts in every language, and a golden case.
 #pragma once
 
 #include <filesystem>
@@ -17,6 +17,10 @@ struct MadeFile
 
 // Empty for a name that a dialog can have, else what is wrong with it and the way out.
 std::string FaultOfName(const std::string& name);
+
+// The content of a language file with lines at the end of a section, and the section at the end of the file when it is not
+// there.
+std::string WithKeys(const std::string& content, const std::string& section, const std::string& lines);
 
 // Makes the dialog in a folder of dialogs. The case goes to the folder `cases` beside that folder where there is one, else
 // beside the dialog. Throws commandline::UsageError where a file or a section of that name is there already, and

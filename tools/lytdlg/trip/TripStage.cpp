@@ -2,7 +2,6 @@
 
 #include "commandline/CommandLine.h"
 #include "controls/ClytItemControl.h"
-#include "dialog/FormatReader.h"
 #include "environment/ProcessState.h"
 #include "liveform/LiveForm.h"
 #include "liveform/UserActs.h"
@@ -305,61 +304,19 @@ private:
             for (const ClytOutputItem& item : rule->items)
                 composed.items.push_back(Take(item, composed.refusing));
         }
-        Place(rule->format, composed);
+        const std::string placed = PlacedItems(rule->format, composed.items);
         CString text;
         if (m_form.ComposeOutput(output, text, 0) == 0)
             return std::nullopt;
-        CString placed(composed.text.c_str());
-        if (rule->format.Find('%') >= 0)
-            ClytDialog::ExpandEscapes(placed);
         composed.text = text.GetString();
-        return placed == text ? std::optional(composed) : std::nullopt;
+        return placed == composed.text ? std::optional(composed) : std::nullopt;
     }
 
     static TripItem Take(const ClytOutputItem& item, std::vector<std::string>& refusing)
     {
-        constexpr const char* blanks = "   ";
-        TripItem taken{item.text.GetString(), item.span, item.text.GetString(), item.action.GetString()};
-        if (item.control == nullptr || item.control->GetName().IsEmpty())
-            return taken;
-        if (item.control->Evaluate() == 0)
-            refusing.push_back(taken.name);
-        if (item.action.IsEmpty())
-        {
-            taken.value = ValueOf(*item.control).value_or("");
-            return taken;
-        }
-        CString values;
-        item.control->GetAllValues(values,
-                                   lytMeans<ClytFillAction::Concat>(item.action) ? CString(blanks) : item.action);
-        taken.value = values.GetString();
-        return taken;
-    }
-
-    // Puts the items into the format; those that it does not take are at the end of the text, with nothing of them there.
-    static void Place(const CString& format, TripText& composed)
-    {
-        size_t next = 0;
-        if (format.Find('%') < 0)
-            composed.text = format.GetString();
-        ClytFormatReader reader(format);
-        while (format.Find('%') >= 0 && !reader.IsAtEnd())
-        {
-            const ClytFormatPiece piece = reader.Take();
-            if (piece.kind == ClytFormatPiece::Kind::Item && next < composed.items.size())
-            {
-                TripItem& item = composed.items[next++];
-                item.limit = piece.limit;
-                item.begin = composed.text.size();
-                composed.text += item.value.substr(0, static_cast<size_t>(piece.limit));
-                item.end = composed.text.size();
-                continue;
-            }
-            const std::string put(format.GetString() + piece.start, static_cast<size_t>(piece.length));
-            if (piece.kind == ClytFormatPiece::Kind::Text && !(put == "\\" && reader.IsBeforeQuote()))
-                composed.text += put;
-        }
-        composed.items.resize(std::min(composed.items.size(), next));
+        if (item.control != nullptr && !item.control->GetName().IsEmpty() && item.control->Evaluate() == 0)
+            refusing.emplace_back(item.text.GetString());
+        return TakenItem(item);
     }
 
     const TripPlan& m_plan; // of the caller, as the others are

@@ -3,6 +3,7 @@
 
 #include "lytdlg/judge/WithoutTexts.h"
 #include "lytdlg/text/Paths.h"
+#include "lytdlg/trip/TripItem.h"
 #include "lytdlg/trip/TripPlan.h"
 
 #include <algorithm>
@@ -32,20 +33,6 @@ struct TripWish
 
 // A wish for each control of the plan, in its order.
 using TripState = std::vector<TripWish>;
-
-// An item of an output rule, and where it is in the text.
-struct TripItem
-{
-    std::string name;
-    ClytSpan span;
-    std::string value; // the whole of it
-    std::string separators;
-    size_t begin = 0;
-    size_t end = 0;
-    int limit = 0; // how many characters of it the format puts at most
-
-    bool IsCut() const { return end - begin < value.size(); }
-};
 
 struct TripText
 {

@@ -38,40 +38,7 @@ public:
     {
     }
 
-    void Read(const LineReader& line)
-    {
-        KeepMistake([&] { ReadLine(line); });
-    }
-
-    CaseText Take()
-    {
-        std::vector<GoldenCase>& cases = m_text.cases;
-        if (cases.empty())
-            cases.push_back(m_common);
-        for (const GoldenCase& one : cases)
-        {
-            if (one.setup.dialog.empty())
-                KeepMistake(
-                    [&] { LineReader(m_file, one.line, "").Fail("the case names no dialog; write dialog: FILE.dlg"); });
-        }
-        return std::move(m_text);
-    }
-
-private:
-    template <class READ>
-    void KeepMistake(const READ& read)
-    {
-        try
-        {
-            read();
-        }
-        catch (const script::FileError& mistake)
-        {
-            m_text.mistakes.push_back(mistake);
-        }
-    }
-
-    void ReadLine(LineReader line)
+    void Read(LineReader line)
     {
         if (line.IsAtEnd())
             return;
@@ -81,35 +48,34 @@ private:
         else if (word == "expect")
             AddExpectation(line);
         else if (const script::StepForm* form = FindForm(word, script::Player::OfDescriptions))
-            AddAct(*form, line);
+            Steps().push_back({line.Number(), true, ReadStep(*form, line, script::Player::OfDescriptions), {}});
         else
             ReadHeader(word, line);
     }
 
-    void AddAct(const script::StepForm& form, LineReader& line)
+    std::vector<GoldenCase> TakeCases()
     {
-        const size_t column = line.NextColumn();
-        const script::Step act = ReadStep(form, line, script::Player::OfDescriptions);
-        if (act.target.kind == script::TargetKind::Name)
-            AddControl(act.target.name, line, column);
-        Steps().push_back({line.Number(), true, act, {}});
+        if (m_cases.empty())
+            m_cases.push_back(m_common);
+        for (const GoldenCase& one : m_cases)
+        {
+            if (one.setup.dialog.empty())
+                LineReader(m_file, one.line, "").Fail("the case names no dialog; write dialog: FILE.dlg");
+        }
+        return std::move(m_cases);
     }
 
-    void AddControl(const std::string& name, const LineReader& line, size_t column)
-    {
-        m_text.names.push_back({false, name, Current().setup.dialog, line.Number(), column - 1});
-    }
-
+private:
     void BeginCase(LineReader& line)
     {
         line.Expect(':', "write: case: what it shows");
         GoldenCase begun = m_common;
         begun.name = line.Text();
         begun.line = line.Number();
-        m_text.cases.push_back(std::move(begun));
+        m_cases.push_back(std::move(begun));
     }
 
-    GoldenCase& Current() { return m_text.cases.empty() ? m_common : m_text.cases.back(); }
+    GoldenCase& Current() { return m_cases.empty() ? m_common : m_cases.back(); }
     std::vector<CaseStep>& Steps() { return Current().steps; }
 
     // A path as the case file sees it.
@@ -124,10 +90,9 @@ private:
         Setup& setup = Current().setup;
         if (word == "items")
         {
-            const std::string control = line.Word("the name of a list");
-            AddControl(control, line, line.Column());
+            const std::string control = AsAnsi(line.Word("the name of a list"));
             line.Expect('=', "write: items LIST = FILE");
-            setup.items.push_back({AsAnsi(control), Resolved(line.Text())});
+            setup.items.push_back({control, Resolved(line.Text())});
             return;
         }
         if (!Has(headerWords, word))
@@ -135,11 +100,7 @@ private:
         line.Expect(':', "write: " + word + ": text");
         const std::string text = line.Text();
         if (word == "dialog")
-        {
             setup.dialog = Resolved(text);
-            m_text.names.push_back({true, PathOf(text).stem().string(), setup.dialog, line.Number(),
-                                    line.Column() - 1 + text.find_last_of("/\\") + 1});
-        }
         else if (word == "input")
             setup.input = AsAnsi(text);
         else if (word == "define")
@@ -152,12 +113,15 @@ private:
 
     [[noreturn]] static void FailUnknown(const std::string& word, size_t column, const LineReader& line)
     {
-        line.FailAt(column, "there is no word \"" + word + "\"; " + commandline::Suggestion(word, CaseWords()));
+        std::vector<std::string> known = headerWords;
+        known.emplace_back("expect");
+        std::ranges::copy(script::ActWords(), std::back_inserter(known));
+        line.FailAt(column, "there is no word \"" + word + "\"; " + commandline::Suggestion(word, known));
     }
 
     void AddExpectation(LineReader& line) { Steps().push_back({line.Number(), false, {}, ReadExpectation(line)}); }
 
-    Expectation ReadExpectation(LineReader& line)
+    static Expectation ReadExpectation(LineReader& line)
     {
         const std::string word = line.Word("what is expected");
         if (word == "message")
@@ -171,7 +135,6 @@ private:
         }
         if (line.IsAtEnd() || word == "not")
             return ReadEnding(word, line);
-        AddControl(word, line, line.Column());
         Expectation expectation{ExpectationKind::Value, AsAnsi(word), "", line.Place()};
         ReadOfControl(line, expectation);
         return expectation;
@@ -219,34 +182,18 @@ private:
 
     std::string m_file;
     GoldenCase m_common;
-    CaseText m_text;
+    std::vector<GoldenCase> m_cases;
 };
 
 } // namespace
 
-CaseText ReadCaseText(const std::string& file, const std::vector<std::string>& lines)
+std::vector<GoldenCase> ReadCases(const std::string& file, const std::vector<std::string>& lines)
 {
     CaseReader reader(file);
     int number = 0;
     for (const std::string& line : lines)
         reader.Read(LineReader(file, ++number, line));
-    return reader.Take();
-}
-
-std::vector<GoldenCase> ReadCases(const std::string& file, const std::vector<std::string>& lines)
-{
-    CaseText text = ReadCaseText(file, lines);
-    if (!text.mistakes.empty())
-        throw script::FileError(text.mistakes.front());
-    return std::move(text.cases);
-}
-
-std::vector<std::string> CaseWords()
-{
-    std::vector<std::string> words = headerWords;
-    words.emplace_back("expect");
-    std::ranges::copy(script::ActWords(), std::back_inserter(words));
-    return words;
+    return reader.TakeCases();
 }
 
 std::string Describe(const Expectation& expectation)

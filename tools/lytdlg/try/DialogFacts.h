@@ -47,10 +47,24 @@ struct DialogFacts
 // The line of the file that the library refuses while it reads the description; 0 when it reads it to the end.
 int RefusedLine(const std::string& file, const std::string& defines);
 
-// Why a control of an open dialog is hidden, disabled or empty, or that it is not, in plain sentences: a line each, in UTF-8.
-std::vector<std::string> Explain(const TrialDialog& dialog, ClytControl& control, const Recorder& recorder);
+struct Sentence
+{
+    std::string text; // in UTF-8
+    int line = 0;     // of the statement that it is about; 0 for none
+};
+
+// Why a control of an open dialog is hidden, disabled or empty, or that it is not, in plain sentences.
+std::vector<Sentence> Explain(const TrialDialog& dialog, ClytControl& control, const Recorder& recorder);
 // The part of it that is about the value: what filled and emptied the control, or why nothing did.
-std::vector<std::string> ExplainValue(const TrialDialog& dialog, ClytControl& control, const Recorder& recorder);
+std::vector<Sentence> ExplainValue(const TrialDialog& dialog, ClytControl& control, const Recorder& recorder);
+
+// A rule that was tried for a control, as it came out last.
+struct TriedRule
+{
+    RuleRecord record;
+    bool decides = false; // the control is shown or enabled as the rule has it
+};
+std::vector<TriedRule> RulesAbout(const TrialDialog& dialog, ClytControl& control, const Recorder& recorder);
 
 std::string InLine(int line);
 

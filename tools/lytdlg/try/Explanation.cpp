@@ -48,19 +48,34 @@ public:
     {
     }
 
-    std::vector<std::string> Explain()
+    std::vector<Sentence> Explain()
     {
         TellState();
         TellSide(shownSide, m_state.isShown);
         TellSide(enabledSide, m_state.isEnabled);
         // An option takes what its group is given.
         if (lytTypeOf(m_state.type).hasValue && m_group == nullptr)
-            std::ranges::move(ExplainValue(m_dialog, m_control, m_recorder), std::back_inserter(m_lines));
-        return std::move(m_lines);
+            std::ranges::move(ExplainValue(m_dialog, m_control, m_recorder), std::back_inserter(m_sentences));
+        return std::move(m_sentences);
+    }
+
+    std::vector<TriedRule> Rules() const
+    {
+        const RuleRecord* shown = LastRule(shownSide);
+        const RuleRecord* enabled = LastRule(enabledSide);
+        std::vector<TriedRule> rules;
+        for (const RuleRecord& rule : m_recorder.Rules())
+        {
+            if (!IsAboutThis(rule))
+                continue;
+            std::erase_if(rules, [&](const TriedRule& before) { return before.record.line == rule.line; });
+            rules.push_back({rule, &rule == shown || &rule == enabled});
+        }
+        return rules;
     }
 
 private:
-    void Tell(const std::string& sentence) { m_lines.push_back(sentence); }
+    void Tell(const std::string& sentence, int line = 0) { m_sentences.push_back({sentence, line}); }
 
     static ClytControl* GroupOf(const TrialDialog& form, ClytControl& subject)
     {
@@ -125,14 +140,16 @@ private:
         if (rule != nullptr)
             TellRule(*rule, isKept ? side.kept : side.lost);
         else if (!isKept && option != nullptr)
-            Tell(std::string("It is ") + side.lost + " by " + Shown(*option) + ", and no rule changes that.");
+            Tell(std::string("It is ") + side.lost + " by " + Shown(*option) + ", and no rule changes that.",
+                 option->line);
         else if (!isKept && button != nullptr)
             Tell(std::string("It is ") + side.lost + " by the button " + ToUtf8(button->name) + InLine(button->line) +
-                 ".");
+                     ".",
+                 button->line);
         else if (!isKept)
             Tell(std::string("It is ") + side.lost + ", and no rule or statement about it says so.");
         if (option != nullptr && (rule != nullptr || isKept))
-            Tell(std::string("It begins ") + side.lost + " by " + Shown(*option) + ".");
+            Tell(std::string("It begins ") + side.lost + " by " + Shown(*option) + ".", option->line);
     }
 
     std::string Shown(const ValueFact& option) const
@@ -147,7 +164,7 @@ private:
         for (const TestedCondition& condition : rule.conditions)
             reasons += (reasons.empty() ? ": " : "; ") + condition.text;
         const std::string ofGroup = rule.target != &m_control ? " of its group " + ToUtf8(rule.control) : "";
-        Tell(std::string("It is ") + state + " by the rule" + ofGroup + InLine(rule.line) + reasons + ".");
+        Tell(std::string("It is ") + state + " by the rule" + ofGroup + InLine(rule.line) + reasons + ".", rule.line);
     }
 
     const ValueFact* ButtonFor(const Side& side) const
@@ -164,14 +181,19 @@ private:
     DialogFacts m_facts;
     ControlState m_state;
     ClytControl* m_group; // that an option belongs to; null for other controls
-    std::vector<std::string> m_lines;
+    std::vector<Sentence> m_sentences;
 };
 
 } // namespace
 
-std::vector<std::string> Explain(const TrialDialog& dialog, ClytControl& control, const Recorder& recorder)
+std::vector<Sentence> Explain(const TrialDialog& dialog, ClytControl& control, const Recorder& recorder)
 {
     return Explainer(dialog, control, recorder).Explain();
+}
+
+std::vector<TriedRule> RulesAbout(const TrialDialog& dialog, ClytControl& control, const Recorder& recorder)
+{
+    return Explainer(dialog, control, recorder).Rules();
 }
 
 } // namespace lytdlg

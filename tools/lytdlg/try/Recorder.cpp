@@ -161,6 +161,8 @@ void Recorder::Missed(ClytMissing what, const CString& name, const ClytControl* 
 
 void Recorder::ScanBegan(const char* text)
 {
+    ++m_scans;
+    m_scanned = text;
     m_rest = text;
     m_restText = ToUtf8(text);
     Trace("scan of " + Quoted(m_restText));
@@ -187,9 +189,13 @@ void Recorder::Cut(const ClytDialogInput& statement, const CString& piece, const
                    const CString& nextStatement)
 {
     const std::string separator = SeparatorOf(statement, piece, rest, nextStatement);
+    const size_t within = std::string(m_rest, rest).find(piece.GetString());
+    const size_t begin = static_cast<size_t>(m_rest - m_scanned) + (within != std::string::npos ? within : 0);
+    const auto restAt = static_cast<size_t>(rest - m_scanned);
     m_rest = rest;
     m_restText = ToUtf8(rest);
-    m_steps.push_back({&statement, statement.name.GetString(), nextStatement.GetString()});
+    m_steps.push_back({&statement, statement.name.GetString(), nextStatement.GetString(), statement.span.line, m_scans,
+                       begin, std::min(begin + static_cast<size_t>(piece.GetLength()), restAt), restAt});
     Trace("  " + LineText(statement.span) + " " + Name(statement.name) + ": cut " + QuotedUtf8(piece) + " " +
           separator + ", rest " + Quoted(m_restText) +
           (nextStatement.IsEmpty() ? ", the end" : ", on to " + Name(nextStatement)));
@@ -197,7 +203,9 @@ void Recorder::Cut(const ClytDialogInput& statement, const CString& piece, const
 
 void Recorder::Jumped(const ClytDialogInput& statement, const CString& nextStatement)
 {
-    m_steps.push_back({&statement, statement.name.GetString(), nextStatement.GetString()});
+    const auto place = static_cast<size_t>(m_rest - m_scanned);
+    m_steps.push_back({&statement, statement.name.GetString(), nextStatement.GetString(), statement.span.line, m_scans,
+                       place, place, place});
     std::string clauses;
     for (const ClytCtrlValList& condition : statement.conditions)
         clauses += ClauseOf(condition, lytTest(condition, ClytRuleKind::Input)) + "; ";
@@ -210,7 +218,7 @@ void Recorder::Filled(const ClytControlFill& fill, const CString& piece)
     const bool ownValue = fill.action.GetMeaning() == ClytFillAction::Other && !fill.value.IsEmpty();
     m_fills.push_back({fill.controlName.GetString(), fill.span.line, TextOf(fill, piece),
                        (ownValue ? fill.value : piece).GetString(), fill.action.GetText().GetString(),
-                       m_steps.back().name, m_steps.back().statement});
+                       m_steps.back().name, m_steps.back().statement, m_steps.size() - 1});
     Trace("    " + LineText(fill.span) + " " + Name(fill.controlName) + " " + m_fills.back().text);
 }
 

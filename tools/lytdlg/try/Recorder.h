@@ -35,7 +35,12 @@ struct ScanStep
 {
     const ClytDialogInput* statement = nullptr;
     std::string name;
-    std::string next; // the statement that follows
+    std::string next;  // the statement that follows
+    int line = 0;      // of the statement
+    int scan = 0;      // counted from 1
+    size_t begin = 0;  // of the piece, in the text of the scan
+    size_t end = 0;    // of the piece
+    size_t restAt = 0; // after what ended it
 };
 
 struct FillRecord
@@ -47,6 +52,7 @@ struct FillRecord
     std::string action; // its word; empty when it sets the value
     std::string statement;
     const ClytDialogInput* source = nullptr; // for comparing
+    size_t step = 0;                         // the one whose piece it was
 };
 
 struct OutputRecord
@@ -107,10 +113,12 @@ private:
     std::vector<TestedCondition> m_tested; // of the rule whose test is in progress
     OutputRecord m_output;
     OutputRecord m_nextOutput;
-    size_t m_runBegin = 0;        // where the outermost run begins in the log
-    size_t m_runEnd = 0;          // where the last one ended
-    std::vector<Event> m_lastRun; // what it came to
-    const char* m_rest = nullptr; // of the scan in progress
+    int m_scans = 0;
+    const char* m_scanned = nullptr; // the text of the scan in progress
+    size_t m_runBegin = 0;           // where the outermost run begins in the log
+    size_t m_runEnd = 0;             // where the last one ended
+    std::vector<Event> m_lastRun;    // what it came to
+    const char* m_rest = nullptr;    // of the scan in progress
     std::string m_restText;
     int m_depth = 0;
 };

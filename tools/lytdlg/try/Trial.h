@@ -42,9 +42,6 @@ struct Outcome
     std::vector<DialogState> states = {}; // of the dialogs as they were seen last, the outermost first
 };
 
-// The file's name without its folder, in UTF-8.
-std::string NameOf(const TrialDialog& dialog);
-
 class Trial : private TrialWatcher
 {
 public:
@@ -68,6 +65,8 @@ public:
     const DialogState& State();
     // The described dialog on top; null when none is open.
     TrialDialog* Top() const;
+    // The described dialogs, the outermost first.
+    const std::vector<TrialDialog*>& Open() const { return m_open; }
 
 private:
     void Opening(TrialDialog& dialog) override;

@@ -34,6 +34,7 @@ void TrialDialog::ControlMade(const ClytControl& control, const ClytControlState
 {
     m_types[&control] = statement.type.GetString();
     m_names[&control] = statement.name.GetString();
+    m_lines[&control] = statement.span.line;
 }
 
 void TrialDialog::ShowFailure(CException& failure)

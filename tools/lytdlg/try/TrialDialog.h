@@ -39,6 +39,8 @@ public:
     const std::string& TypeOf(const ClytControl& control) const { return m_types.at(&control); }
     // The name in the layout, which OK and Cancel do not know of themselves.
     const std::string& NameOf(const ClytControl& control) const { return m_names.at(&control); }
+    // The line of its statement.
+    int LineOf(const ClytControl& control) const { return m_lines.at(&control); }
     // Between the last act and the end of the window.
     bool IsEnding() const { return m_isEnding; }
     // Ends the dialog without a result, as closing it does, but past what rules and tree make of that.
@@ -53,6 +55,7 @@ private:
     TrialWatcher& m_watcher;
     std::map<const ClytControl*, std::string> m_types;
     std::map<const ClytControl*, std::string> m_names;
+    std::map<const ClytControl*, int> m_lines;
     bool m_isEnding = false;
 };
 

@@ -36,18 +36,18 @@ public:
     {
     }
 
-    std::vector<std::string> Explain()
+    std::vector<Sentence> Explain()
     {
         TellFills();
         if (!m_state.lostText.empty())
             Tell("Now " + DescribeLostText(m_state) + ".");
         TellEvents();
         TellLibrary();
-        return std::move(m_lines);
+        return std::move(m_sentences);
     }
 
 private:
-    void Tell(const std::string& sentence) { m_lines.push_back(sentence); }
+    void Tell(const std::string& sentence, int line = 0) { m_sentences.push_back({sentence, line}); }
 
     using Statements = std::vector<const ClytDialogInput*>;
 
@@ -86,7 +86,8 @@ private:
             const bool isEmptyText =
                 lytTypeOf(m_state.type).kind == ClytKind::Field && fill.action.empty() && fill.value.empty();
             Tell("The scan came to it" + InLine(fill.line) + " (statement " + ToUtf8(fill.statement) + "): it " +
-                 fill.text + (isEmptyText ? ", which changes nothing." : "."));
+                     fill.text + (isEmptyText ? ", which changes nothing." : "."),
+                 fill.line);
             isFilled = true;
         }
         if (isFilled)
@@ -110,14 +111,14 @@ private:
                 continue;
             if (step.name == fill.statement)
             {
-                Tell(place + "a condition before the fill did not hold for its piece.");
+                Tell(place + "a condition before the fill did not hold for its piece.", fill.line);
                 return;
             }
             way += (way.empty() ? "" : ", ") + ToUtf8(step.name);
             next = step.next;
         }
         const std::string end = next.empty() ? "ended with the text." : "on to " + ToUtf8(next) + ".";
-        Tell(place + "the scan did not come there. It went through " + way + " and " + end);
+        Tell(place + "the scan did not come there. It went through " + way + " and " + end, fill.line);
     }
 
     std::vector<WrittenFill> WrittenFills() const
@@ -147,7 +148,8 @@ private:
         {
             if (rule.isEvent && rule.isOn && rule.target == &m_control)
                 Tell(std::string("It was ") + (rule.word == "CLEAR" ? "emptied" : "filled") + " by the rule" +
-                     InLine(rule.line) + ": " + rule.conditions.back().text + ".");
+                         InLine(rule.line) + ": " + rule.conditions.back().text + ".",
+                     rule.line);
         }
     }
 
@@ -160,9 +162,9 @@ private:
             "the library " + ToUtf8(source->values.front()) + " of line " + std::to_string(source->line);
         const auto asked = m_recorder.Asked().find(m_state.name);
         if (asked == m_recorder.Asked().end())
-            Tell("Nothing has asked " + library + ": fill it by an input statement, a rule or a button.");
+            Tell("Nothing has asked " + library + ": fill it by an input statement, a rule or a button.", source->line);
         else
-            Tell("It has asked " + library + (asked->second.empty() ? "." : ": " + asked->second + "."));
+            Tell("It has asked " + library + (asked->second.empty() ? "." : ": " + asked->second + "."), source->line);
     }
 
     const ClytControl& m_control;
@@ -171,12 +173,12 @@ private:
     ControlState m_state;
     Statements m_statements;    // of the part that runs when the dialog opens
     Statements m_allStatements; // of every part
-    std::vector<std::string> m_lines;
+    std::vector<Sentence> m_sentences;
 };
 
 } // namespace
 
-std::vector<std::string> ExplainValue(const TrialDialog& dialog, ClytControl& control, const Recorder& recorder)
+std::vector<Sentence> ExplainValue(const TrialDialog& dialog, ClytControl& control, const Recorder& recorder)
 {
     return ValueExplainer(dialog, control, recorder).Explain();
 }

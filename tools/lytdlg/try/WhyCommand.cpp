@@ -14,14 +14,14 @@ namespace
 ExitCode Why(const Request& request)
 {
     TrialRun run(SetupOf(request), false);
-    std::vector<std::string> lines;
+    std::vector<Sentence> sentences;
     const auto explain = [&](const TrialDialog& dialog)
-    { lines = Explain(dialog, ControlNamed(dialog, commandline::AsAnsi(request.Operand(1, ""))), run.recorder); };
+    { sentences = Explain(dialog, ControlNamed(dialog, commandline::AsAnsi(request.Operand(1, ""))), run.recorder); };
     if (run.Run(ActsOf(request), explain).ending == Ending::NotOpened)
         return static_cast<ExitCode>(run.PrintFailure());
     run.PrintEvents();
-    for (const std::string& line : lines)
-        commandline::PrintLine(line);
+    for (const Sentence& sentence : sentences)
+        commandline::PrintLine(sentence.text);
     return good;
 }
 
@@ -29,7 +29,7 @@ ExitCode Why(const Request& request)
 
 Command WhyCommand()
 {
-    return {{"why", "DIALOG CONTROL", 2, 2, "explain why a control is hidden, disabled or empty", TrialOptions()}, Why};
+    return {{"why", "DIALOG CONTROL", 2, 2, "tell why a control is hidden, disabled or empty", TrialOptions()}, Why};
 }
 
 } // namespace lytdlg
