@@ -276,7 +276,7 @@ const LimitTable momentLimits = {
     "library\n"
     "while a call is under way: the code of the call would be gone, and the process would end. `LytStop` of the "
     "macros\n"
-    "raises an error then.",
+    "refuses to do so.",
     "what",
     momentRows,
 };

@@ -1,7 +1,8 @@
-// What can be written at a place of a text.
+// What can be written at a place of a description.
 #pragma once
 
-#include "lytdlg/language/FileWords.h"
+#include "lytdlg/language/NamedWord.h"
+#include "lytdlg/language/Workspace.h"
 
 namespace lytdlg
 {
@@ -33,8 +34,8 @@ struct Proposals
     std::vector<Proposal> all = {};
 };
 
-// What can be written at a place of a text.
-Proposals ProposalsAt(const Workspace& workspace, const std::string& path, const TextPosition& position);
+// The line counts from 1, the column from 0.
+Proposals ProposalsAt(const Description& description, const Surroundings& surroundings, int line, int column);
 
 // For an editor that cannot fill places in a text.
 void RemoveSnippets(Proposals& proposals);

@@ -12,7 +12,6 @@ enum class TextKind
 {
     Description,
     Texts, // a language file
-    Cases,
     Other
 };
 

@@ -91,10 +91,11 @@ Json JsonOf(const Finding& finding, const std::string& uri)
 Json TokenLegend()
 {
     // In the order of the meanings.
-    return {{"tokenTypes", {"comment",   "keyword", "type",       "string",   "string",   "string",   "variable",
-                            "keyword",   "keyword", "enumMember", "keyword",  "keyword",  "function", "namespace",
-                            "namespace", "class",   "class",      "function", "variable", "keyword"}},
-            {"tokenModifiers", {"declaration"}}};
+    return {
+        {"tokenTypes",
+         {"comment", "keyword", "type", "string", "string", "string", "variable", "keyword", "keyword", "enumMember",
+          "keyword", "keyword", "function", "namespace", "namespace", "class", "class", "function", "variable"}},
+        {"tokenModifiers", {"declaration"}}};
 }
 
 Json TokensOf(const std::vector<NamedWord>& words)

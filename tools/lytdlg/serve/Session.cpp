@@ -1,6 +1,5 @@
 #include "lytdlg/serve/Session.h"
 
-#include "commandline/Text.h"
 #include "lytdlg/text/Uri.h"
 
 namespace lytdlg
@@ -35,18 +34,16 @@ std::string Session::UriFor(const std::string& path) const
     return open != uris.end() ? open->second : UriOf(path);
 }
 
+const Description& Session::DescriptionIn(const Json& params) const
+{
+    static const Description none("", "", {});
+    const std::string path = PathIn(params);
+    return KindOfText(path) == TextKind::Description ? workspace.DescriptionAt(path) : none;
+}
+
 std::string PathIn(const Json& params)
 {
     return PlainPath(PathOfUri(params.at("textDocument").at("uri").get<std::string>()));
-}
-
-Setup SetupIn(const Session& session, const Json& params)
-{
-    Setup setup{PathIn(params)};
-    setup.input = commandline::ToAnsi(params.value("input", ""));
-    setup.language = commandline::ToAnsi(params.value("language", ""));
-    setup.defines = session.defines;
-    return setup;
 }
 
 } // namespace lytdlg

@@ -27,6 +27,8 @@ struct Session
     // Whether the client tells of an ability, such as "/workspace/applyEdit".
     bool Can(const char* ability) const;
     std::string UriFor(const std::string& path) const;
+    // Of the description that a request is about, or one without lines.
+    const Description& DescriptionIn(const Json& params) const;
 
     const std::function<void(const Json& message)> send;
     const std::vector<std::string> defines;
@@ -38,9 +40,9 @@ struct Session
     bool isOver = false;
 };
 
-// What a request is about: the path of its text, and what it tries that dialog with.
+Json WorkspaceEdit(const Session& session, const EditsByPath& edits);
+// The path of the text that a request is about.
 std::string PathIn(const Json& params);
-Setup SetupIn(const Session& session, const Json& params);
 
 // A method of the protocol, what answers it, and what the client is promised about it.
 struct Method
