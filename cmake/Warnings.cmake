@@ -10,14 +10,18 @@ if(MSVC)
   set(lyt_small /O1)
   set(lyt_built_soon /Od)
 else()
+  # In WebAssembly a return address is out of reach anyway.
+  if(NOT EMSCRIPTEN)
+    set(guard -fstack-protector-strong)
+  endif()
   target_compile_options(lyt_options INTERFACE
     -Werror -Wall -Wextra -Wpedantic -Wshadow
     # What converts a sign is left out, as GCC does by itself.
     $<$<COMPILE_LANGUAGE:CXX>:-Wconversion> $<$<COMPILE_LANG_AND_ID:CXX,Clang>:-Wno-sign-conversion>
     # GCC 12 sees overlapping copies inside std::string where there are none.
     $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>
-    -ffile-prefix-map=${CMAKE_SOURCE_DIR}=. -fstack-protector-strong -ffunction-sections -fdata-sections)
-  target_link_options(lyt_options INTERFACE -fstack-protector-strong)
+    -ffile-prefix-map=${CMAKE_SOURCE_DIR}=. ${guard} -ffunction-sections -fdata-sections)
+  target_link_options(lyt_options INTERFACE ${guard})
   target_link_options(lyt_handed_out INTERFACE -s -Wl,--gc-sections)
   # A function that holds an array and could not be guarded is an error.
   set(lyt_small -Os -Wstack-protector)

@@ -69,7 +69,7 @@ bool TakeTypedKey(MSG& message)
     const UINT down = isSystem ? WM_SYSKEYDOWN : WM_KEYDOWN;
     const UINT up = isSystem ? WM_SYSKEYUP : WM_KEYUP;
     const HWND receiver = desktop.focus != nullptr ? desktop.focus : desktop.active;
-    message = {receiver, key.isUp ? up : down, key.code, key.isUp ? LPARAM{0xC0000001} : LPARAM{1}, 0, {}};
+    message = {receiver, key.isUp ? up : down, key.code, key.isUp ? static_cast<LPARAM>(0xC0000001) : LPARAM{1}, 0, {}};
     return true;
 }
 

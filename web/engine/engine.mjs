@@ -1,0 +1,64 @@
+// The engine as a page sees it: files in memory, and messages of the protocol.
+
+// Where the program would be: the sample libraries look there for their texts, lytdata.txt and lytsrc.txt.
+export const programFolder = "/lytdlg";
+
+// Opens the module that lytengine.mjs makes, with the bytes of lytengine.wasm.
+export async function openEngine(createModule, wasmBinary) {
+  const module = await createModule({ wasmBinary });
+  module.FS.mkdirTree(programFolder);
+  module.FS.symlink(`${programFolder}/lytdlg`, "/proc/self/exe");
+  return new Engine(module);
+}
+
+class Engine {
+  #module;
+
+  constructor(module) {
+    this.#module = module;
+  }
+
+  // Gives the messages that the server sends, in their order.
+  take(message) {
+    const text = JSON.stringify(message);
+    const size = this.#module.lengthBytesUTF8(text) + 1;
+    const place = this.#module._malloc(size);
+    try {
+      this.#module.stringToUTF8(text, place, size);
+      return JSON.parse(this.#module.UTF8ToString(this.#module._lytengine_take(place)));
+    } finally {
+      this.#module._free(place);
+    }
+  }
+
+  write(path, bytes) {
+    this.#module.FS.mkdirTree(path.slice(0, path.lastIndexOf("/")));
+    this.#module.FS.writeFile(path, bytes);
+  }
+
+  read(path) {
+    return this.#module.FS.readFile(path);
+  }
+
+  remove(path) {
+    this.#module.FS.unlink(path);
+  }
+
+  // The files below a folder, by their whole paths.
+  list(folder) {
+    const { FS } = this.#module;
+    const paths = [];
+    for (const name of FS.readdir(folder)) {
+      const path = `${folder === "/" ? "" : folder}/${name}`;
+      if (name === "." || name === "..") continue;
+      if (FS.isDir(FS.stat(path).mode)) paths.push(...this.list(path));
+      else paths.push(path);
+    }
+    return paths;
+  }
+
+  // Bytes that the module has taken from the browser.
+  get memory() {
+    return this.#module.HEAPU8.length;
+  }
+}
