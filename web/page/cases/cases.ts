@@ -1,0 +1,100 @@
+// The cases of the dialog: all are carried out at each change, and what was just tried becomes one with a click.
+import type { Bench } from "../bench";
+import { ask, find, make, say } from "../dom";
+import type { CaseResult, Range, WorkspaceEdit } from "../engine/contract";
+import { pathOf, uriOf } from "../files/files";
+import type { Panels } from "../panels";
+
+export class CasesPanel {
+  private readonly page = find("page-cases");
+  private readonly tab = find("tab-cases");
+  private timer = 0;
+  private newest = 0;
+
+  constructor(private readonly bench: Bench, panels: Panels) {
+    bench.files.changed.on(() => this.later());
+    bench.turned.on(() => this.later());
+    panels.shown.on((name) => name === "cases" && void this.run());
+  }
+
+  private later(): void {
+    window.clearTimeout(this.timer);
+    this.timer = window.setTimeout(() => void this.run(), 250);
+  }
+
+  private async run(): Promise<void> {
+    const own = ++this.newest;
+    const { bench } = this;
+    if (!bench.dialog) {
+      return;
+    }
+    const answer = await bench.client
+      .ask<{ cases: CaseResult[] }>("lytdlg/cases", { textDocument: { uri: uriOf(bench.dialog) } })
+      .catch((failure: Error) => failure);
+    if (own === this.newest) {
+      this.show(answer);
+    }
+  }
+
+  private show(answer: { cases: CaseResult[] } | Error): void {
+    const add = make("button", { type: "button", class: "tool", id: "new-case" }, "New case from the acts");
+    add.addEventListener("click", () => void this.add());
+    if (answer instanceof Error) {
+      this.page.replaceChildren(add, make("p", { class: "warning" }, answer.message));
+      return;
+    }
+    const { cases } = answer;
+    const failed = cases.filter((each) => !each.passed).length;
+    this.tab.textContent = failed > 0 ? `Cases: ${failed} failed` : cases.length > 0 ? `Cases ✓ ${cases.length}` : "Cases";
+    this.tab.classList.toggle("warning", failed > 0);
+    const rows = cases.map((each) => this.row(each));
+    const counts = make("span", { class: "hint", id: "case-count" }, ` ${cases.length - failed} passed, ${failed} failed`);
+    this.page.replaceChildren(make("div", {}, add, counts), make("ul", { class: "cases" }, ...rows));
+  }
+
+  private row(each: CaseResult): HTMLElement {
+    const play = make("button", { type: "button", class: "tool", title: "Open the dialog as this case leaves it" }, "Play");
+    play.addEventListener("click", () => {
+      if (this.bench.languages.includes(each.language)) {
+        this.bench.language = each.language;
+      }
+      this.bench.begin(each.input, [...each.acts]);
+    });
+    const name = this.linked(each.name, each.uri, each.range);
+    const differences = each.differences.map(({ range, expected, got }) =>
+      make(
+        "li",
+        {},
+        this.linked(`line ${range.start.line + 1}`, each.uri, range),
+        make("div", {}, "expected: ", make("code", {}, expected || "nothing")),
+        make("div", {}, "got: ", make("code", {}, got || "nothing")),
+      ),
+    );
+    const state = make("span", { class: each.passed ? "holds" : "fails" }, each.passed ? "✓ passed" : "✗ failed");
+    return make("li", {}, play, " ", state, " ", name, make("ul", {}, ...differences));
+  }
+
+  private linked(text: string, uri: string, range: Range): HTMLElement {
+    const link = make("button", { type: "button", class: "link" }, text);
+    link.addEventListener("click", () => {
+      this.bench.files.show(pathOf(uri));
+      this.bench.lit.send({ path: pathOf(uri), range });
+    });
+    return link;
+  }
+
+  private async add(): Promise<void> {
+    const answer = await ask("New case", [{ name: "What it shows", value: "a new case" }]);
+    const name = answer?.[0]?.trim();
+    if (!name) {
+      return;
+    }
+    try {
+      const edit = await this.bench.client.ask<WorkspaceEdit>("lytdlg/newCase", { ...this.bench.trial, name });
+      this.bench.files.apply(edit);
+      say(`The case is in ${Object.keys(edit.changes).map(pathOf).join(", ")}.`);
+    } catch (failure) {
+      say((failure as Error).message, true);
+    }
+  }
+}

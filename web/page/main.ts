@@ -1,0 +1,151 @@
+// Puts the parts of the page together.
+import { Bench } from "./bench";
+import { CasesPanel } from "./cases/cases";
+import { Design } from "./design/design";
+import { showActs } from "./dialog/acts";
+import { Stage } from "./dialog/stage";
+import { showTools } from "./dialog/tools";
+import { find, say } from "./dom";
+import { Client, startEngine } from "./engine/client";
+import { Mirror } from "./engine/mirror";
+import { unpacked } from "./files/codepage";
+import { bytesOf, Files, isDescription } from "./files/files";
+import { Disk, download } from "./files/folder";
+import { keepAlways, readKept, restore, stateOf } from "./files/keep";
+import { addFile, showTabs } from "./files/tabs";
+import { Panels } from "./panels";
+import { hashOf, stateIn } from "./share/link";
+import { zipOf } from "./share/zip";
+import { Editor } from "./text/editor";
+import { WayPanel } from "./way/way";
+import { WhyPanel } from "./why/why";
+
+type Samples = Record<string, string>;
+
+// The first input of the cases of each description, which shows the most.
+function firstInputs(bench: Bench): void {
+  for (const path of bench.files.paths.filter(isDescription)) {
+    const name = path.slice(path.lastIndexOf("/"));
+    const cases = bench.files.paths.filter((each) => each.endsWith(".case")).map((each) => bench.files.textOf(each));
+    const own = cases.find((text) => text.split("\n").some((line) => line.startsWith("dialog:") && line.trim().endsWith(name)));
+    const input = /^input: ?(.+)$/m.exec(own ?? "")?.[1];
+    if (input !== undefined && !bench.scenes.has(path)) {
+      bench.scenes.set(path, { input, acts: [], undone: [] });
+    }
+  }
+}
+
+function begin(bench: Bench, preferred: string): void {
+  bench.scenes.clear();
+  bench.dialog = "";
+  firstInputs(bench);
+  const descriptions = bench.files.paths.filter(isDescription);
+  bench.files.show(descriptions.find((path) => path === preferred) ?? descriptions[0] ?? bench.files.paths[0] ?? "");
+  if (!bench.languages.includes(bench.language)) {
+    bench.language = bench.languages[0] ?? "";
+    bench.turn();
+  }
+}
+
+function openSamples(bench: Bench, samples: Samples): void {
+  bench.files.clear();
+  Object.entries(samples).forEach(([path, text]) => bench.files.put(path, unpacked(text), unpacked(text)));
+  begin(bench, "dialogs/lytInSym.dlg");
+}
+
+function moveSplitter(): void {
+  const splitter = find("splitter");
+  const grid = find("splitter").parentElement as HTMLElement;
+  const setWidth = (width: number) => {
+    const share = Math.min(Math.max(width / grid.clientWidth, 0.2), 0.7);
+    grid.style.gridTemplateColumns = `${share * 100}fr 6px ${(1 - share) * 100}fr`;
+  };
+  splitter.addEventListener("pointerdown", (event) => splitter.setPointerCapture(event.pointerId));
+  splitter.addEventListener("pointermove", (event) => splitter.hasPointerCapture(event.pointerId) && setWidth(event.clientX));
+  splitter.addEventListener("keydown", (event) => {
+    const step = { ArrowLeft: -20, ArrowRight: 20 }[event.key];
+    if (step) {
+      setWidth(splitter.offsetLeft + step);
+    }
+  });
+}
+
+async function start(): Promise<void> {
+  const samples = JSON.parse(find("sample-files").textContent ?? "") as Samples;
+  const thread = JSON.parse(find("thread").textContent ?? "") as string;
+  const engine = await startEngine(thread, find("module").textContent ?? "");
+  engine.onFailure = (reason) => say(`The engine does not work: ${reason}`, true);
+  const client = new Client(engine);
+  const partners = JSON.parse(find("partner-files").textContent ?? "") as Samples;
+  Object.entries(partners).forEach(([path, text]) => client.write(path, unpacked(text)));
+  const files = new Files();
+  const bench = new Bench(files, client);
+  const editor = new Editor(bench);
+  new Mirror(client, files);
+  const stage = new Stage(bench);
+  const panels = new Panels(["acts", "why", "way", "cases"]);
+  const failing = (work: () => Promise<unknown>) => () => {
+    work().catch((failure: Error) => failure.name !== "AbortError" && say(failure.message, true));
+  };
+
+  showTabs(bench);
+  showTools(bench, stage);
+  showActs(bench);
+  new WhyPanel(bench, panels, editor, stage);
+  new WayPanel(bench, panels, editor, stage);
+  new CasesPanel(bench, panels);
+  new Design(bench, editor, stage);
+  moveSplitter();
+
+  const disk = new Disk(files, () => begin(bench, ""));
+  const save = failing(async () => say(`${await disk.save()} files saved.`));
+  find("open").addEventListener("click", failing(() => disk.openFolder()));
+  find("save").addEventListener("click", save);
+  find("new-file").addEventListener("click", failing(() => addFile(bench)));
+  find("samples").addEventListener("click", () => openSamples(bench, samples));
+  find("format").addEventListener("click", () => editor.format());
+  find("search").addEventListener("click", () => editor.search());
+  find("zip").addEventListener("click", failing(async () => {
+    const all = files.paths.map((path) => ({ path, bytes: bytesOf(files.get(path)!) }));
+    download("dialogs.zip", await zipOf(all));
+  }));
+  find("link").addEventListener("click", failing(async () => {
+    window.location.hash = await hashOf(stateOf(bench, samples));
+    await navigator.clipboard?.writeText(window.location.href).catch(() => undefined);
+    say("The address of the page is the link; it holds the texts and the acts.");
+  }));
+  document.addEventListener("keydown", (event) => {
+    if ((event.ctrlKey || event.metaKey) && event.key === "s") {
+      event.preventDefault();
+      save();
+    }
+  });
+  document.addEventListener("dragover", (event) => {
+    if (event.dataTransfer?.types.includes("Files")) {
+      event.preventDefault();
+      document.body.classList.add("dragging");
+    }
+  });
+  document.addEventListener("dragleave", () => document.body.classList.remove("dragging"));
+  document.addEventListener("drop", (event) => {
+    document.body.classList.remove("dragging");
+    if (event.dataTransfer?.types.includes("Files")) {
+      event.preventDefault();
+      failing(() => disk.drop(event))();
+    }
+  });
+
+  const capabilities = { textDocument: { completion: { completionItem: { snippetSupport: true } } } };
+  void client.ask("initialize", { processId: null, rootUri: null, capabilities });
+  client.tell("initialized", {});
+  const kept = (await stateIn(window.location.hash)) ?? readKept();
+  if (kept && Object.keys(kept.files).length > 0) {
+    restore(bench, kept, samples);
+  } else {
+    openSamples(bench, samples);
+  }
+  keepAlways(bench, samples);
+  document.body.dataset["ready"] = "yes";
+}
+
+void start();

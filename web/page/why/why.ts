@@ -1,0 +1,93 @@
+// Why a control is as it is: its rules, which of them hold, and what would have to change. Their lines light up in the text.
+import type { Bench } from "../bench";
+import type { Stage } from "../dialog/stage";
+import { find, make } from "../dom";
+import type { Range, Why } from "../engine/contract";
+import type { Panels } from "../panels";
+import type { Editor } from "../text/editor";
+
+export class WhyPanel {
+  private readonly page = find("page-why");
+  private newest = 0;
+
+  constructor(
+    private readonly bench: Bench,
+    private readonly panels: Panels,
+    private readonly editor: Editor,
+    private readonly stage: Stage,
+  ) {
+    bench.asked.on(() => {
+      bench.files.show(bench.topPath);
+      panels.show("why");
+    });
+    panels.shown.on((name) => (name === "why" ? void this.tell() : this.mark(undefined)));
+    bench.drawn.on(({ isNewest }) => isNewest && panels.current === "why" && void this.tell());
+  }
+
+  private mark(target: string | undefined): void {
+    this.stage.element.querySelectorAll(".found").forEach((element) => element.classList.remove("found"));
+    if (target !== undefined) {
+      this.stage.elementOf(target)?.classList.add("found");
+    }
+  }
+
+  private async tell(): Promise<void> {
+    const { bench } = this;
+    const own = ++this.newest;
+    const target = bench.chosen;
+    const choice = this.choice(target);
+    if (target === undefined || !bench.find(target)) {
+      this.page.replaceChildren(choice, make("p", { class: "hint" }, "Alt+click on a control, or F1 in it, tells why it is as it is."));
+      return;
+    }
+    const why = await bench.client.ask<Why>("lytdlg/why", { ...bench.trial, target }).catch((failure: Error) => failure);
+    if (own !== this.newest || this.panels.current !== "why") {
+      return;
+    }
+    this.mark(target);
+    if (why instanceof Error) {
+      this.page.replaceChildren(choice, make("p", { class: "warning" }, why.message));
+      return;
+    }
+    const sentences = why.sentences.map(({ text, range }) => make("li", {}, this.linked(text, range)));
+    const rules = why.rules.map((rule) => {
+      const conditions = rule.conditions.map(({ text, holds }) =>
+        make("li", { class: holds ? "holds" : "fails" }, `${holds ? "✓" : "✗"} ${text}`, holds ? "" : make("em", {}, " would have to change")),
+      );
+      const head = this.linked(`${rule.word}, line ${rule.range.start.line + 1}: ${rule.holds ? "holds" : "does not hold"}`, rule.range);
+      const label = rule.decides ? make("span", { class: "decides" }, "decides") : "";
+      return make("li", {}, head, " ", label, make("ul", {}, ...conditions));
+    });
+    this.page.replaceChildren(choice, make("ul", { class: "sentences" }, ...sentences), make("ul", { class: "rules" }, ...rules));
+    const lines = [...why.sentences.map(({ range }) => range), ...why.rules.map(({ range }) => range)].filter((range) => range !== null);
+    const source = bench.find(target)?.source;
+    const ownLine: Range[] = source ? [{ start: { line: source.line, character: 0 }, end: { line: source.line, character: 0 } }] : [];
+    this.editor.light(bench.topPath, [...lines, ...ownLine]);
+  }
+
+  // For those who do not click: any control of the dialog, hidden ones too.
+  private choice(target: string | undefined): HTMLElement {
+    const controls = this.bench.top?.controls ?? [];
+    const options = controls.map(({ target: name, type }) => new Option(`${name} (${type})`, name, false, name === target));
+    const list = make("select", { class: "tool", "aria-label": "Control" }, new Option("choose a control", ""), ...options);
+    list.addEventListener("change", () => {
+      this.bench.chosen = list.value || undefined;
+      void this.tell();
+    });
+    return make("div", {}, "Why is ", list, " so?");
+  }
+
+  private linked(text: string, range: Range | null): Node | string {
+    if (!range) {
+      return text;
+    }
+    const link = make("button", { type: "button", class: "link" }, text);
+    link.addEventListener("click", () => {
+      const path = this.bench.topPath;
+      this.bench.files.show(path);
+      this.bench.lit.send({ path, range });
+    });
+    return link;
+  }
+}
+
