@@ -124,7 +124,8 @@ TEST_F(FileListing, ShowsTheLow32BitsOfALargeSizeAndAllOfManyFiles)
     std::error_code failure;
     fs::resize_file(path, 4'294'967'296ULL + 5, failure);
     ASSERT_FALSE(failure) << failure.message();
-    EXPECT_EQ(Lines("large.bin"), (Texts{FileLine("large.bin", "5")}));
+    const Texts expected = {FileLine("large.bin", "5")};
+    EXPECT_EQ(Lines("large.bin"), expected);
     for (int i = 0; i < 300; ++i)
         folder.Write("file" + std::to_string(i) + ".txt", "");
     EXPECT_EQ(Lines("*.txt").size(), 300U);
