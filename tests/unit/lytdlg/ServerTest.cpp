@@ -11,6 +11,7 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <fstream>
 
 namespace lytdlg
 {
@@ -94,6 +95,13 @@ void ExpectFindingsOfCheck(const std::string& path, const std::string& bytes)
     ServerSession session;
     session.Open(path, bytes);
     EXPECT_EQ(SortedLines(PublishedFindings(session)), SortedLines(CheckedFindings(path)));
+}
+
+// Whatever an editor has open.
+std::string ReadWholeFileOnDisk(const std::filesystem::path& file)
+{
+    std::ifstream stream(file, std::ios::binary);
+    return {std::istreambuf_iterator<char>(stream), {}};
 }
 
 int ErrorOf(const Json& answer)
@@ -414,6 +422,90 @@ TEST(LanguageServer, DrawsADialogAfterActs)
                  {{"textDocument", {{"uri", UriOf(path)}}}, {"contentChanges", {{{"text", "$VERSION 1\n"}}}}});
     EXPECT_EQ(ErrorOf(session.Ask("lytdlg/draw", params)), -32803);
     EXPECT_FALSE(folder.Has("drawn.dlg"));
+}
+
+// Texts that are open count as they are in the editor: the other dialog, the language file and lyt.ini.
+TEST(LanguageServer, DrawsWhatIsNotSaved)
+{
+    const TestFolder folder;
+    for (const ExampleFile& file : ExampleFiles())
+        folder.Write(file.name, file.content);
+    const std::string path = folder.File("drawn.dlg");
+    ServerSession session;
+    session.Open(path, ExampleDescription("$VALUES\nAdd: DIALOG = inner, parent, parent\n"));
+    session.Open(folder.File("inner.dlg"), ExampleDescription("$VALUES\nName = HIDDEN\n"));
+    Json params = ServerSession::Document(path);
+    const auto drawn = [&] { return session.ResultOf("lytdlg/draw", params)["controls"]; };
+    session.Open(folder.File("lang/German.nls"), "[Example]\nName=Nicht gesichert\n");
+    EXPECT_EQ(drawn()[0]["text"], "&Name:");
+    session.Open(folder.File("lyt.ini"), "[global]\nCurrent Language=German\n");
+    EXPECT_EQ(drawn()[0]["text"], "Nicht gesichert");
+    params["acts"] = {"press Add"};
+    EXPECT_EQ(drawn()[1]["target"], "Name");
+    EXPECT_EQ(drawn()[1]["shown"], false);
+    EXPECT_FALSE(folder.Has("inner.dlg"));
+    session.Tell("textDocument/didClose", ServerSession::Document(folder.File("lyt.ini")));
+    params["acts"] = Json::array();
+    EXPECT_EQ(drawn()[0]["text"], "&Name:");
+}
+
+// An author completes the libraries of the folders that the server was given.
+TEST(LanguageServer, OffersTheLibrariesThatAreThere)
+{
+    const TestFolder folder;
+    folder.Write("ours.dll", "");
+    const Workspace workspace({folder.Path()}, {});
+    std::string offered;
+    const std::string text = ExampleDescription("$VALUES\nAdd: ACTION = ");
+    const std::string path = folder.Write("a.dlg", text);
+    for (const Proposal& proposal : ProposalsAt(workspace, path, PositionAt(text, text.find("ACTION = ") + 9)).all)
+        offered += proposal.label + " ";
+    EXPECT_EQ(offered, "lyt64.dll ours ");
+}
+
+TEST(LanguageServer, WritesNoFileWhateverItIsTold)
+{
+    const TestFolder folder;
+    for (const ExampleFile& file : ExampleFiles())
+        folder.Write(file.name, file.content);
+    folder.Write("a.case", "dialog: a.dlg\nset Name = x\n");
+    const std::string path = folder.Write("a.dlg", ExampleDescription("$VALUES\nUnit=HIDEN\n"));
+    const auto contents = [&]
+    {
+        std::map<std::string, std::string> found;
+        for (const auto& entry : std::filesystem::recursive_directory_iterator(folder.Path()))
+        {
+            if (entry.is_regular_file())
+                found[entry.path().string()] = ReadWholeFileOnDisk(entry.path());
+        }
+        return found;
+    };
+    const auto before = contents();
+    const Json abilities = {{"workspace", {{"workspaceEdit", {{"resourceOperations", {"rename"}}}}}}};
+    ServerSession session(abilities);
+    session.Open(path, ExampleDescription("$VALUES\nUnit = HIDEN\nAdd: DIALOG = other, parent, parent\n"));
+    session.Open(folder.File("lang/English.nls"), "[Example]\nName=other\n");
+    Json params = ServerSession::Document(path);
+    params["range"] = ServerSession::Range(0, 0, 99, 0);
+    params["context"] = {
+        {"diagnostics", session.FindingsIn(path)}, {"only", {"source.fixAll"}}, {"includeDeclaration", true}};
+    params["newName"] = "Other";
+    params["command"] = checkFolderCommand;
+    params["arguments"] = {UriOf(folder.Path())};
+    params["data"] = UriOf(path);
+    params["acts"] = {"press Add"};
+    for (const Method& method : Methods())
+    {
+        const std::string name = method.name;
+        for (const int line : {4, 45, 46, 50})
+        {
+            params["position"] = {{"line", line}, {"character", 14}};
+            // What ends the session, and what opens and changes, is told elsewhere.
+            if (name != "exit" && name != "shutdown" && !name.starts_with("textDocument/did"))
+                session.Ask(method.name, params);
+            EXPECT_EQ(contents(), before) << name;
+        }
+    }
 }
 
 TEST(LanguageServer, ExplainsTheWordsOfTheLanguage)

@@ -38,6 +38,21 @@ private:
     std::shared_ptr<const void> m_file; // keeps the file there
 };
 
+// A folder of files that nobody but the library opens; it is gone with its owner. Natively it is held in memory.
+class FolderForLibrary
+{
+public:
+    FolderForLibrary();
+
+    const std::filesystem::path& Name() const { return m_name; }
+    // A name may lead into a folder in it.
+    void Put(const std::filesystem::path& name, const std::string& content);
+
+private:
+    std::filesystem::path m_name;
+    std::vector<std::shared_ptr<const void>> m_files; // keep the files there
+};
+
 // Keeps other runs of this program out of a folder; they wait. The system gives it free when the process ends in any way.
 class FolderLock
 {

@@ -21,6 +21,12 @@ std::string NextName()
     return std::string(platform::memoryFolder) + "/lytdlg/" + std::to_string(++count);
 }
 
+std::shared_ptr<const void> MemoryFile(const std::filesystem::path& name, const std::string& content)
+{
+    platform::PutMemoryFile(name.c_str(), content);
+    return {nullptr, [name](const void*) { platform::RemoveMemoryFile(name.c_str()); }};
+}
+
 } // namespace
 
 std::vector<std::string> CommandLineWords(int count, char** words)
@@ -44,10 +50,13 @@ std::string NameForLibrary(const std::filesystem::path& path)
     return path.string();
 }
 
-FileForLibrary::FileForLibrary(const std::string& content)
-    : m_name(NextName()), m_file(nullptr, [name = m_name](const void*) { platform::RemoveMemoryFile(name.c_str()); })
+FileForLibrary::FileForLibrary(const std::string& content) : m_name(NextName()), m_file(MemoryFile(m_name, content)) {}
+
+FolderForLibrary::FolderForLibrary() : m_name(NextName()) {}
+
+void FolderForLibrary::Put(const std::filesystem::path& name, const std::string& content)
 {
-    platform::PutMemoryFile(m_name.c_str(), content);
+    m_files.push_back(MemoryFile(m_name / name, content));
 }
 
 FolderLock::FolderLock(const std::filesystem::path& folder)

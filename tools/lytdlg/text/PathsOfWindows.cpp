@@ -82,6 +82,25 @@ FileForLibrary::FileForLibrary(const std::string& content)
     m_file = std::move(file);
 }
 
+FolderForLibrary::FolderForLibrary()
+{
+    static int count = 0;
+    const std::string number = std::to_string(GetCurrentProcessId()) + "-" + std::to_string(++count);
+    m_name = std::filesystem::temp_directory_path() / ("lytdlg-texts-" + number);
+    const auto remove = [folder = m_name](const void*)
+    {
+        std::error_code ignored;
+        std::filesystem::remove_all(folder, ignored);
+    };
+    m_files.emplace_back(nullptr, remove);
+}
+
+void FolderForLibrary::Put(const std::filesystem::path& name, const std::string& content)
+{
+    std::filesystem::create_directories((m_name / name).parent_path());
+    WriteWholeFile(m_name / name, content);
+}
+
 // A folder itself cannot be locked: nobody could list it. One lock for all folders costs a wait that nobody notices.
 FolderLock::FolderLock(const std::filesystem::path& /*folder*/)
 {

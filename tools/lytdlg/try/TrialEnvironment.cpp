@@ -4,6 +4,7 @@
 #include "commandline/Text.h"
 #include "environment/ClytEnvironment.h"
 #include "environment/ProcessState.h"
+#include "exports/NamedDialogs.h"
 #include "lytdlg/judge/Names.h"
 #include "lytdlg/text/LanguageFiles.h"
 #include "lytdlg/text/OpenTexts.h"
@@ -15,6 +16,7 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <set>
 
 namespace lytdlg
 {
@@ -27,15 +29,33 @@ namespace
 
 constexpr const char* iniFile = "lyt.ini";
 
+// On the disk or in an editor.
+bool IsThere(const fs::path& file)
+{
+    return ReadWholeFile(file).has_value();
+}
+
 // Where lyt.ini is near a folder of dialogs; empty without one.
-std::string InitFolderNear(const fs::path& dialogs)
+fs::path InitFolderNear(const fs::path& dialogs)
 {
     for (const fs::path& folder : {dialogs, dialogs.parent_path() / "init", dialogs.parent_path()})
     {
-        if (fs::exists(folder / iniFile))
-            return folder.string();
+        if (IsThere(folder / iniFile))
+            return folder;
     }
-    return "";
+    return {};
+}
+
+// The names of the dialogs that a description opens.
+std::vector<std::string> OpenedBy(const Description& description)
+{
+    std::vector<std::string> names;
+    for (const ValueStatement& statement : description.values)
+    {
+        if (lytMeaningOf<ClytAction>(statement.keyword.c_str()) == ClytAction::Dialog && !statement.values.empty())
+            names.push_back(commandline::ToUtf8(statement.values.front()) + ".dlg");
+    }
+    return names;
 }
 
 // English, unless there is one other language alone.
@@ -113,29 +133,28 @@ TrialEnvironment::TrialEnvironment(const Setup& setup)
 {
     // In full: a configuration file without a folder is looked for in that of the system.
     const fs::path file = fs::absolute(PathOf(setup.dialog)).lexically_normal();
-    const std::string* open = OpenTexts::Find(file);
-    if (open == nullptr && !fs::is_regular_file(file))
+    if (OpenTexts::Find(file) == nullptr && !fs::is_regular_file(file))
         throw UsageError("there is no dialog \"" + setup.dialog + "\"; name a .dlg file with its folder");
     CheckItems(setup, file);
     const fs::path dialogs = file.parent_path();
-    if (open != nullptr)
-        m_openText.emplace(*open);
-    m_descriptionFile = open != nullptr ? NameForLibrary(m_openText->Name())
-                                        : NameForLibrary(dialogs) + "\\" + NameForLibrary(file.filename());
-    std::string init = setup.initFolder.empty() ? InitFolderNear(dialogs)
-                                                : fs::absolute(PathOf(setup.initFolder)).lexically_normal().string();
-    if (!setup.initFolder.empty() && !fs::exists(PathOf(init) / iniFile))
+    fs::path init =
+        setup.initFolder.empty() ? InitFolderNear(dialogs) : fs::absolute(PathOf(setup.initFolder)).lexically_normal();
+    if (!setup.initFolder.empty() && !IsThere(init / iniFile))
         throw UsageError("there is no lyt.ini in \"" + setup.initFolder + "\"; check the folder after --init");
-    if (!setup.language.empty() && !fs::exists(dialogs / "lang" / PathOf(commandline::ToUtf8(setup.language) + ".nls")))
+    if (!setup.language.empty() && !IsThere(dialogs / "lang" / PathOf(commandline::ToUtf8(setup.language) + ".nls")))
         throw UsageError("there is no lang/" + commandline::ToUtf8(setup.language) + ".nls beside the dialog; " +
                          commandline::Suggestion(commandline::ToUtf8(setup.language), LanguagesIn(dialogs)));
-    if (init.empty() || !setup.language.empty())
+    if (init.empty() || !setup.language.empty() || OpenTexts::Find(init / iniFile) != nullptr)
     {
-        MakeIniFile(init, setup.language.empty() ? LanguageOf(dialogs) : setup.language);
-        init = m_ownFolder;
+        MakeIniFile(init, init.empty() && setup.language.empty() ? LanguageOf(dialogs) : setup.language);
+        init = PathOf(m_ownFolder);
     }
-    lytEnvironment.SetDialogPath(NameForLibrary(dialogs).c_str());
-    lytEnvironment.SetInitPath(NameForLibrary(PathOf(init)).c_str());
+    if (!OpenTexts::NamesIn(dialogs).empty() || !OpenTexts::NamesIn(dialogs / "lang").empty())
+        TakeOpenTexts(file, setup.defines);
+    const std::string folder = NameForLibrary(m_openTexts ? m_openTexts->Name() : dialogs);
+    m_descriptionFile = folder + "\\" + NameForLibrary(file.filename());
+    lytEnvironment.SetDialogPath(folder.c_str());
+    lytEnvironment.SetInitPath(NameForLibrary(init).c_str());
     lytEnvironment.ClearDialogDefine();
     for (const std::string& define : setup.defines)
         lytEnvironment.AddDialogDefine(define.c_str());
@@ -153,15 +172,38 @@ TrialEnvironment::~TrialEnvironment()
         fs::remove_all(PathOf(m_ownFolder), ignored);
 }
 
-void TrialEnvironment::MakeIniFile(const std::string& source, const std::string& language)
+// The description with all that it may open, and the language files.
+void TrialEnvironment::TakeOpenTexts(const fs::path& file, const std::vector<std::string>& defines)
+{
+    const fs::path dialogs = file.parent_path();
+    m_openTexts.emplace();
+    std::vector<std::string> waiting = {file.filename().string()};
+    for (const ClytNamedDialog& named : lytNamedDialogs)
+        waiting.emplace_back(named.description);
+    std::set<std::string> taken;
+    while (!waiting.empty())
+    {
+        const std::string name = waiting.back();
+        waiting.pop_back();
+        const fs::path source = FileIn(dialogs, name);
+        const std::optional<std::string> content = ReadWholeFile(source.empty() ? dialogs / PathOf(name) : source);
+        if (!content || !taken.insert(name).second)
+            continue;
+        m_openTexts->Put(PathOf(name), *content);
+        std::ranges::move(OpenedBy(Description(name, *content, defines)), std::back_inserter(waiting));
+    }
+    for (const fs::path& texts : FilesIn(dialogs / "lang", ".nls"))
+        m_openTexts->Put(fs::path("lang") / texts.filename(), ReadWholeFile(texts).value_or(""));
+}
+
+void TrialEnvironment::MakeIniFile(const fs::path& source, const std::string& language)
 {
     m_ownFolder = (fs::temp_directory_path() / ("lytdlg-" + std::to_string(GetCurrentProcessId()))).string();
     fs::create_directories(PathOf(m_ownFolder));
     const std::string copy = NameForLibrary(PathOf(m_ownFolder)) + "\\" + iniFile;
-    std::error_code ignored;
     if (!source.empty())
-        fs::copy_file(PathOf(source) / iniFile, PathOf(m_ownFolder) / iniFile, ignored);
-    if (!WritePrivateProfileStringA("global", "Current Language", language.c_str(), copy.c_str()))
+        WriteWholeFile(PathOf(m_ownFolder) / iniFile, ReadWholeFile(source / iniFile).value_or(""));
+    if (!language.empty() && !WritePrivateProfileStringA("global", "Current Language", language.c_str(), copy.c_str()))
         throw std::runtime_error(m_ownFolder + " cannot be written; make the temporary folder writable");
 }
 

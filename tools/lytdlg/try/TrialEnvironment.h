@@ -53,11 +53,12 @@ public:
     const std::string& DescriptionFile() const { return m_descriptionFile; }
 
 private:
-    void MakeIniFile(const std::string& source, const std::string& language);
+    void TakeOpenTexts(const std::filesystem::path& file, const std::vector<std::string>& defines);
+    void MakeIniFile(const std::filesystem::path& source, const std::string& language);
 
     std::string m_descriptionFile;
-    std::optional<FileForLibrary> m_openText; // of an editor, in place of the file
-    std::string m_ownFolder;                  // holds another lyt.ini
+    std::optional<FolderForLibrary> m_openTexts; // of an editor, in place of the folder of the dialogs
+    std::string m_ownFolder;                     // holds another lyt.ini
 };
 
 } // namespace lytdlg
