@@ -36,9 +36,9 @@ function samples() {
   return Object.fromEntries(texts.map((name) => [name, fs.readFileSync(path.join(folder, name), "latin1")]));
 }
 
-// What the sample libraries give out, by the names under which they look for it.
+// What the sample libraries give out, by their names beside the program.
 function partners() {
-  return Object.fromEntries(["lytdata", "lytsrc"].map((name) => [`/${name}.txt`, fs.readFileSync(path.join(here, `../../samples/${name}/${name}.txt`), "latin1")]));
+  return Object.fromEntries(["lytdata", "lytsrc"].map((name) => [`${name}.txt`, fs.readFileSync(path.join(here, `../../samples/${name}/${name}.txt`), "latin1")]));
 }
 
 const hash = (text) => `'sha256-${createHash("sha256").update(text).digest("base64")}'`;

@@ -1,4 +1,5 @@
 // Puts the parts of the page together.
+import { programFolder } from "../engine/engine.mjs";
 import { Bench } from "./bench";
 import { CasesPanel } from "./cases/cases";
 import { Design } from "./design/design";
@@ -77,11 +78,12 @@ async function start(): Promise<void> {
   engine.onFailure = (reason) => say(`The engine does not work: ${reason}`, true);
   const client = new Client(engine);
   const partners = JSON.parse(find("partner-files").textContent ?? "") as Samples;
-  Object.entries(partners).forEach(([path, text]) => client.write(path, unpacked(text)));
+  Object.entries(partners).forEach(([path, text]) => client.write(`${programFolder}/${path}`, unpacked(text)));
   const files = new Files();
+  // First, so that the engine knows a change before anything is asked about it.
+  new Mirror(client, files);
   const bench = new Bench(files, client);
   const editor = new Editor(bench);
-  new Mirror(client, files);
   const stage = new Stage(bench);
   const panels = new Panels(["acts", "why", "way", "cases"]);
   const failing = (work: () => Promise<unknown>) => () => {

@@ -1,6 +1,6 @@
 // The cases of the dialog: all are carried out at each change, and what was just tried becomes one with a click.
 import type { Bench } from "../bench";
-import { ask, find, make, say } from "../dom";
+import { ask, button, find, make, say } from "../dom";
 import type { CaseResult, Range, WorkspaceEdit } from "../engine/contract";
 import { pathOf, uriOf } from "../files/files";
 import type { Panels } from "../panels";
@@ -8,10 +8,16 @@ import type { Panels } from "../panels";
 export class CasesPanel {
   private readonly page = find("page-cases");
   private readonly tab = find("tab-cases");
+  private readonly counts = make("span", { class: "hint", id: "case-count" });
+  private readonly list = make("ul", { class: "cases" });
   private timer = 0;
   private newest = 0;
 
   constructor(private readonly bench: Bench, panels: Panels) {
+    const add = button("New case from the acts", "The input, the acts and what came of them", () => void this.add());
+    add.className = "tool";
+    add.id = "new-case";
+    this.page.append(make("div", {}, add, " ", this.counts), this.list);
     bench.files.changed.on(() => this.later());
     bench.turned.on(() => this.later());
     panels.shown.on((name) => name === "cases" && void this.run());
@@ -32,24 +38,22 @@ export class CasesPanel {
       .ask<{ cases: CaseResult[] }>("lytdlg/cases", { textDocument: { uri: uriOf(bench.dialog) } })
       .catch((failure: Error) => failure);
     if (own === this.newest) {
+      this.page.dataset["dialog"] = bench.dialog;
       this.show(answer);
     }
   }
 
   private show(answer: { cases: CaseResult[] } | Error): void {
-    const add = make("button", { type: "button", class: "tool", id: "new-case" }, "New case from the acts");
-    add.addEventListener("click", () => void this.add());
     if (answer instanceof Error) {
-      this.page.replaceChildren(add, make("p", { class: "warning" }, answer.message));
+      this.list.replaceChildren(make("li", { class: "warning" }, answer.message));
       return;
     }
     const { cases } = answer;
     const failed = cases.filter((each) => !each.passed).length;
     this.tab.textContent = failed > 0 ? `Cases: ${failed} failed` : cases.length > 0 ? `Cases ✓ ${cases.length}` : "Cases";
     this.tab.classList.toggle("warning", failed > 0);
-    const rows = cases.map((each) => this.row(each));
-    const counts = make("span", { class: "hint", id: "case-count" }, ` ${cases.length - failed} passed, ${failed} failed`);
-    this.page.replaceChildren(make("div", {}, add, counts), make("ul", { class: "cases" }, ...rows));
+    this.counts.textContent = `${cases.length - failed} passed, ${failed} failed`;
+    this.list.replaceChildren(...cases.map((each) => this.row(each)));
   }
 
   private row(each: CaseResult): HTMLElement {

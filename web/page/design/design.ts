@@ -4,7 +4,7 @@ import { redo, undo } from "@codemirror/commands";
 import type { Bench } from "../bench";
 import type { Stage } from "../dialog/stage";
 import { ask, button, find, make, say } from "../dom";
-import type { Area, Control, DialogWindow, WorkspaceEdit } from "../engine/contract";
+import { lineOf, type Area, type Control, type DialogWindow, type WorkspaceEdit } from "../engine/contract";
 import { uriOf } from "../files/files";
 import type { Editor } from "../text/editor";
 import { arrangements, grid, moved, sized, type Guide } from "./geometry";
@@ -48,6 +48,8 @@ export class Design {
     bench.drawn.on(({ isNewest }) => isNewest && this.isOn && this.show());
     bench.failed.on(() => this.overlay.remove());
     this.overlay.addEventListener("pointerdown", (event) => this.begin(event));
+    // The focus is where the handler puts it.
+    this.overlay.addEventListener("mousedown", (event) => event.preventDefault());
     this.overlay.addEventListener("pointermove", (event) => this.move(event));
     this.overlay.addEventListener("pointerup", (event) => void this.end(event));
     this.overlay.addEventListener("keydown", (event) => this.key(event));
@@ -153,9 +155,8 @@ export class Design {
     }
     const source = this.bench.find(target)?.source;
     if (source) {
-      const range = { start: { line: source.line, character: 0 }, end: { line: source.line, character: 0 } };
       this.bench.files.show(this.bench.topPath);
-      this.editor.light(this.bench.topPath, [range], true);
+      this.editor.light(this.bench.topPath, [source.line], true);
     }
     this.show();
   }
@@ -273,7 +274,7 @@ export class Design {
       return;
     }
     const places = [...areas].map(([target, area]) => ({
-      line: this.bench.find(target)!.source!.line,
+      line: lineOf(this.bench.find(target)),
       x: area.x - window.client.x,
       y: area.y - window.client.y,
       width: area.width,
@@ -332,7 +333,7 @@ export class Design {
   }
 
   private async remove(): Promise<void> {
-    const lines = this.selected.map((target) => this.bench.find(target)!.source!.line);
+    const lines = this.selected.map((target) => lineOf(this.bench.find(target)));
     if (lines.length > 0) {
       await this.change("lytdlg/removeControls", { lines });
     }

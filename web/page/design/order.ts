@@ -1,8 +1,8 @@
 // The order of the Tab key: a number that is dragged onto another takes its place. A label goes with what it labels.
-import type { Control } from "../engine/contract";
+import { lineOf, type Control } from "../engine/contract";
 
 // The lines of the statements in their new order.
-export function reordered(controls: Control[], from: string, to: string): number[] | undefined {
+export function reordered(controls: Control[], from: string, to: string): (number | undefined)[] | undefined {
   const units: Control[][] = [];
   for (const control of controls) {
     const last = units.at(-1)?.at(-1);
@@ -20,5 +20,5 @@ export function reordered(controls: Control[], from: string, to: string): number
   }
   const [unit] = units.splice(source, 1);
   units.splice(goal, 0, unit!);
-  return units.flat().map((control) => control.source!.line);
+  return units.flat().map(lineOf);
 }

@@ -65,7 +65,7 @@ export interface Item {
 }
 
 export interface Source {
-  line: number;
+  line: Range;
   text: Range | null;
   name: Range | null;
 }
@@ -90,6 +90,11 @@ export interface Control {
   tab: number;
   group: string | null;
   source: Source | null;
+}
+
+// Of its statement; nothing for a control of a window without a description.
+export function lineOf(control: Control | undefined): number | undefined {
+  return control?.source?.line.start.line;
 }
 
 export interface DialogWindow {

@@ -7,7 +7,7 @@ import { EditorState, StateEffect, StateField, type Extension, type StateEffectT
 import { Decoration, drawSelection, EditorView, highlightActiveLine, highlightActiveLineGutter, keymap, lineNumbers, type DecorationSet } from "@codemirror/view";
 import type { Bench } from "../bench";
 import { find, say } from "../dom";
-import type { Control, Range } from "../engine/contract";
+import { lineOf, type Range } from "../engine/contract";
 import { positionOf, spanOf } from "../engine/places";
 import { isDescription, isLanguageFile, uriOf } from "../files/files";
 import { Findings } from "./findings";
@@ -112,14 +112,15 @@ export class Editor {
     }
   }
 
+  // The first of the ranges comes into view.
   light(path: string, ranges: Range[], scrolls = false): void {
     if (path !== this.bench.files.active) {
       return;
     }
     const { doc } = this.view.state;
-    const from = [...new Set(ranges.map((range) => doc.lineAt(spanOf(doc, range).from).from))].sort((one, two) => one - two);
+    const from = [...new Set(ranges.map((range) => doc.lineAt(spanOf(doc, range).from).from))];
     const first = from[0];
-    const effects: StateEffect<unknown>[] = [setLit.of(from)];
+    const effects: StateEffect<unknown>[] = [setLit.of(from.sort((one, two) => one - two))];
     if (scrolls && first !== undefined) {
       effects.push(EditorView.scrollIntoView(first, { y: "center" }));
     }
@@ -137,8 +138,7 @@ export class Editor {
     const text = doc.line(line + 1).text;
     const words = text.match(/\w+/g) ?? [];
     const controls = bench.top?.controls ?? [];
-    const isOfLine = (control: Control) => control.source?.line === line;
-    const found = controls.find(isOfLine) ?? controls.find((control) => words[0] === control.target);
+    const found = controls.find((control) => lineOf(control) === line) ?? controls.find((control) => words[0] === control.target);
     find("stage").querySelectorAll(".found").forEach((element) => element.classList.remove("found"));
     if (found) {
       const element = [...find("stage").querySelectorAll<HTMLElement>("[data-target]")].filter((each) => each.dataset["target"] === found.target).at(-1);

@@ -8,6 +8,8 @@ import type { Editor } from "../text/editor";
 
 export class WhyPanel {
   private readonly page = find("page-why");
+  private readonly list = make("select", { class: "tool", "aria-label": "Control" });
+  private readonly answer = make("div");
   private newest = 0;
 
   constructor(
@@ -16,6 +18,11 @@ export class WhyPanel {
     private readonly editor: Editor,
     private readonly stage: Stage,
   ) {
+    this.page.append(make("div", {}, "Why is ", this.list, " so?"), this.answer);
+    this.list.addEventListener("change", () => {
+      bench.chosen = this.list.value || undefined;
+      void this.tell();
+    });
     bench.asked.on(() => {
       bench.files.show(bench.topPath);
       panels.show("why");
@@ -33,20 +40,20 @@ export class WhyPanel {
 
   private async tell(): Promise<void> {
     const { bench } = this;
-    const own = ++this.newest;
+    const turn = ++this.newest;
     const target = bench.chosen;
-    const choice = this.choice(target);
+    this.offer(target);
     if (target === undefined || !bench.find(target)) {
-      this.page.replaceChildren(choice, make("p", { class: "hint" }, "Alt+click on a control, or F1 in it, tells why it is as it is."));
+      this.answer.replaceChildren(make("p", { class: "hint" }, "Alt+click on a control, or F1 in it, tells why it is as it is."));
       return;
     }
     const why = await bench.client.ask<Why>("lytdlg/why", { ...bench.trial, target }).catch((failure: Error) => failure);
-    if (own !== this.newest || this.panels.current !== "why") {
+    if (turn !== this.newest || this.panels.current !== "why") {
       return;
     }
     this.mark(target);
     if (why instanceof Error) {
-      this.page.replaceChildren(choice, make("p", { class: "warning" }, why.message));
+      this.answer.replaceChildren(make("p", { class: "warning" }, why.message));
       return;
     }
     const sentences = why.sentences.map(({ text, range }) => make("li", {}, this.linked(text, range)));
@@ -58,23 +65,18 @@ export class WhyPanel {
       const label = rule.decides ? make("span", { class: "decides" }, "decides") : "";
       return make("li", {}, head, " ", label, make("ul", {}, ...conditions));
     });
-    this.page.replaceChildren(choice, make("ul", { class: "sentences" }, ...sentences), make("ul", { class: "rules" }, ...rules));
-    const lines = [...why.sentences.map(({ range }) => range), ...why.rules.map(({ range }) => range)].filter((range) => range !== null);
+    this.answer.replaceChildren(make("ul", { class: "sentences" }, ...sentences), make("ul", { class: "rules" }, ...rules));
+    const told = [...why.rules.filter((rule) => rule.decides), ...why.rules, ...why.sentences].map(({ range }) => range);
     const source = bench.find(target)?.source;
-    const ownLine: Range[] = source ? [{ start: { line: source.line, character: 0 }, end: { line: source.line, character: 0 } }] : [];
-    this.editor.light(bench.topPath, [...lines, ...ownLine]);
+    const own = source ? [source.line] : [];
+    this.editor.light(bench.topPath, [...told.filter((range) => range !== null), ...own], true);
   }
 
   // For those who do not click: any control of the dialog, hidden ones too.
-  private choice(target: string | undefined): HTMLElement {
+  private offer(target: string | undefined): void {
     const controls = this.bench.top?.controls ?? [];
     const options = controls.map(({ target: name, type }) => new Option(`${name} (${type})`, name, false, name === target));
-    const list = make("select", { class: "tool", "aria-label": "Control" }, new Option("choose a control", ""), ...options);
-    list.addEventListener("change", () => {
-      this.bench.chosen = list.value || undefined;
-      void this.tell();
-    });
-    return make("div", {}, "Why is ", list, " so?");
+    this.list.replaceChildren(new Option("choose a control", ""), ...options);
   }
 
   private linked(text: string, range: Range | null): Node | string {
