@@ -126,7 +126,7 @@ void ButtonWindow::SetCheck(UINT check)
         UncheckOthers();
 }
 
-// The platform passes over options that cannot be used. It begins with the one before, and continues after this one.
+// The platform skips options that cannot be used. It begins with the one before, and continues after this one.
 void ButtonWindow::UncheckOthers() const
 {
     std::vector<Window*> members = OthersOfGroup();

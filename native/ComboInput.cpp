@@ -122,7 +122,7 @@ void ComboBoxWindow::TakeCharacter(WPARAM character)
         Choose(found);
 }
 
-// The user chooses with a closed list at once; with an open one the choice is made when it closes. The edit field follows
+// With a closed list the user chooses immediately; with an open one the choice is made when it closes. The edit field follows
 // the notification.
 void ComboBoxWindow::Choose(int index)
 {

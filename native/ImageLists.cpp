@@ -1,4 +1,4 @@
-// Lists of pictures: how large they are and how many; the pictures themselves are not looked at.
+// Lists of pictures: how large they are and how many; the pictures themselves do not matter.
 #include "FaultPlan.h"
 
 #include <commctrl.h>

@@ -101,7 +101,7 @@ void RunUntilEnd(const DialogWindow& dialog)
     }
 }
 
-// A dialog that ends while it opens takes the focus all the same.
+// A dialog that ends while it opens still takes the focus.
 void Open(DialogWindow& dialog, LPARAM parameter)
 {
     if (SendMessageA(dialog.handle, WM_INITDIALOG, 0, parameter) != FALSE)

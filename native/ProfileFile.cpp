@@ -71,7 +71,7 @@ bool SameName(std::string_view left, std::string_view right)
 }
 
 // Empty for a file that cannot be read, a folder among them. A language file is read for each text that a dialog shows,
-// so it is read at once and without a stream.
+// so it is read in one piece and without a stream.
 std::string ReadWholeFile(const char* fileName)
 {
     const std::string path = NativePath(fileName);

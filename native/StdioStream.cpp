@@ -1,5 +1,5 @@
 // Text streams as the Windows runtime has them: CR LF is one line end, Ctrl-Z ends a text that is read, `\` separates
-// folders and a folder is no file.
+// folders and a folder is not a file.
 #include "system/StdioStream.h"
 
 #include "native/FaultPlan.h"

@@ -47,7 +47,7 @@ LRESULT TreeWindow::Insert(const TVINSERTSTRUCTA& insert)
     return TreeItems::HandleOf(m_items.Insert(under, insert.item.pszText, insert.item.iImage));
 }
 
-// Nobody asks for a message for each item that is deleted, so all go at once.
+// Nobody asks for a message for each item that is deleted, so all go together.
 LRESULT TreeWindow::DeleteAll()
 {
     m_items.Clear();

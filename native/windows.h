@@ -603,7 +603,7 @@ BOOL RemoveDirectoryA(LPCSTR folder);
 BOOL CopyFileA(LPCSTR from, LPCSTR to, BOOL keepExisting);
 BOOL DeleteFileA(LPCSTR file);
 #define MOVEFILE_REPLACE_EXISTING 0x1
-// Replaces a file that exists; the flags are not looked at.
+// Replaces a file that exists; the flags are ignored.
 BOOL MoveFileExA(LPCSTR from, LPCSTR to, DWORD flags);
 
 // Texts in code page 1252, UTF-8 and wide characters. The terminal of this machine reads UTF-8.

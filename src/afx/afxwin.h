@@ -116,9 +116,9 @@ private:
 // nothing crosses a window procedure.
 LRESULT AfxCallWndProc(CWnd& window, UINT message, WPARAM wParam, LPARAM lParam) noexcept;
 // Called inside a catch block: shows the user the exception that is being handled, of any type. A report that fails in
-// its turn is given up: nobody is left to see it.
+// its turn is dropped: nobody could see it.
 void ReportCurrentFailure() noexcept;
-// The same without a word.
+// The same without a message.
 void DropCurrentFailure() noexcept;
 
 // A modal dialog over a template of the resources.
@@ -271,7 +271,7 @@ public:
     void ResetContent() const { SendMessage(CB_RESETCONTENT); }
 };
 
-// The device context of a window's client area, or of the screen; given back at the end, with the object selected last
+// The device context of a window's client area, or of the screen; released at the end, with the object selected last
 // put back first.
 class CClientDC
 {

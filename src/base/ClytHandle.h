@@ -1,4 +1,4 @@
-// Owners of what the platform hands out and wants back.
+// Owners of handles that must be closed.
 #pragma once
 
 #include <afxwin.h>
@@ -40,7 +40,7 @@ public:
 
     bool IsOpen() const noexcept { return owned != KIND::None(); }
     Handle Get() const noexcept { return owned; }
-    // Hands the handle over to the caller, who closes it.
+    // Passes the handle to the caller, who closes it.
     [[nodiscard]] Handle Release() noexcept { return std::exchange(owned, KIND::None()); }
     // Closes the handle and takes over another.
     void Reset(Handle handle = KIND::None()) noexcept

@@ -13,7 +13,7 @@ class ClytOwnedList : public CTypedPtrList<BASE_CLASS, T*>
 public:
     ~ClytOwnedList() override { RemoveAll(); }
 
-    // Takes the record over and gives it back as a reference that lives as long as the list holds it.
+    // Takes the record over and returns it as a reference that lives as long as the list holds it.
     T& AddTail(std::unique_ptr<T> record)
     {
         T& added = *record;

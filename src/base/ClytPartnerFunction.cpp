@@ -4,7 +4,7 @@
 
 #include <stdexcept>
 
-// An exception is made of its library's code: it ends here, where the library is certain to be there.
+// An exception may use its library's code: it ends here, while the library is certainly loaded.
 void ClytPartnerCall::Run(void (*run)(void* step), void* step) const
 {
     try

@@ -6,7 +6,7 @@
 // A run of records or items that has not ended by then counts as ended, so that no library can hang its caller.
 inline constexpr int lytLongestRun = 1'000'000;
 
-// While it lives, the system shows no box on this thread for a file that is no library or for a drive without
+// While it lives, the system shows no box on this thread for a file that is not a library or for a drive without
 // a disk. What else the host has set stays in force, and its mode is back at the end.
 class ClytErrorBoxesOff
 {
@@ -41,7 +41,7 @@ inline ClytOwnLibraries* lytOwnLibraries = nullptr;
 // shows no message, for any file of that name.
 [[nodiscard]] HMODULE lytLoadLibrary(const char* name);
 
-// False for a library that somebody has taken out of the process since it was loaded: its functions are gone, too.
+// False for a library that somebody has unloaded since it was loaded: its functions are gone, too.
 [[nodiscard]] bool lytIsLoaded(HMODULE library);
 
 FARPROC lytFunctionAddress(HMODULE library, const char* name);

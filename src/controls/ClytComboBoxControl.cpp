@@ -132,7 +132,7 @@ void ClytComboBoxControl::TakeSource(const CStringList& values)
 void ClytComboBoxControl::AppendItem(CString& result, int index) const
 {
     const CString& display = displayStrings.GetAt(index);
-    // Unlike in a list box, a text that is no key is not taken as it is.
+    // Unlike in a list box, a text that is not a key is not taken literally.
     result += valueStrings.GetAt(index).IsEmpty() ? display : TextOf(display);
 }
 

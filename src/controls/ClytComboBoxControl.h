@@ -14,7 +14,7 @@ public:
     void SetValue(const CString& value) override;
     // Without a selection the value is the text of the window.
     CString GetValue() override;
-    // Answers the index that is selected then, -1 in an emptied list.
+    // Returns the index that is selected then, -1 in an emptied list.
     int DeleteCurrentItem() override;
     // Position 0 means the end. Every added item selects the first item of the list.
     void AddItem(const CString& value, const CString& display, int hasValue, int place) override;

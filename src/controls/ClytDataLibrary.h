@@ -46,8 +46,8 @@ private:
     ClytDataText value;
 };
 
-// The values of a "FILLEDBY" statement. Where only one field is filled there is no next function, and that value is not
-// looked at.
+// The values of a "FILLEDBY" statement. Where only one field is filled there is no next function, and that value is
+// ignored.
 struct ClytListSource
 {
     // A statement that is cut short leaves the later values as they were.
@@ -60,14 +60,14 @@ struct ClytListSource
     ClytSpan span;         // of the statement
 };
 
-// The library that all controls of one class share. The first that loads stays, and later names are not looked at, unless
-// somebody has taken it out of the process.
+// The library that all controls of one class share. The first that loads stays, and later names are ignored, unless
+// somebody has unloaded it.
 class ClytDataLibrary
 {
 public:
     // False when there is no library yet and this one cannot be loaded. The place is that of the statement that names it.
     [[nodiscard]] bool Load(const CString& name, const ClytSpan& place = {});
-    // Tells of a function that the library does not have.
+    // Reports a function that the library does not have.
     template <class FUNCTION>
     [[nodiscard]] ClytPartnerFunction<FUNCTION> Find(const CString& name, const ClytSpan& place = {}) const
     {

@@ -116,7 +116,7 @@ int ClytItemControl<WINDOW>::AddListed(CString value, CString display, int /*ind
     return 0;
 }
 
-// A listing that breaks off leaves a selection, too. Without one, the next fill would not empty what this one has added.
+// A list that a failure cuts short gets a selection, too. Without one, the next fill would not empty what this one has added.
 template <class WINDOW>
 void ClytItemControl<WINDOW>::AddItems(ClytDataListing& listing)
 {
@@ -146,7 +146,7 @@ void ClytItemControl<WINDOW>::PutItem(CString value, CString display, int place)
 {
     constexpr int atTheEnd = -1;
     ShowItem(display, place != 0 ? place : atTheEnd);
-    // The arrays grow at their end wherever the window shows the item: after an insertion elsewhere the two part.
+    // The arrays grow at their end wherever the window shows the item: after an insertion elsewhere the two get out of step.
     valueStrings.Add(std::move(value));
     displayStrings.Add(std::move(display));
 }
@@ -196,7 +196,7 @@ void ClytItemControl<WINDOW>::ChangePlaces(int current, int other)
     const CString otherValue = valueStrings.GetAt(other);
 
     // An item that is added at position 0 goes to the end, and the arrays add at their end at any position. So the
-    // order that the user sees and the order of the values part, which descriptions in use have come to expect.
+    // order that the user sees and the order of the values get out of step, which descriptions in use rely on.
     this->DeleteCurrentItem();
     this->AddItem(otherValue, otherDisplay, 1, current);
     this->SetCurSel(other);

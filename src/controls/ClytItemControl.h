@@ -34,7 +34,7 @@ public:
 protected:
     // Takes a "FILLEDBY" statement.
     virtual void TakeSource(const CStringList& values) { source.TakeStatement(values, this->StatementSpan()); }
-    // Takes a statement that is the class's own; false when it is an item.
+    // Takes a statement that only this class knows; false when it is an item.
     virtual bool TakeOwnStatement(const CStringList& /*values*/, const CString& /*keyword*/) { return false; }
     // Appends an item as GetAllValues delivers it.
     virtual void AppendItem(CString& result, int index) const = 0;
@@ -42,7 +42,7 @@ protected:
     virtual bool ComposeParameter(CString& parameter);
     // Adds what comes before the items of a library.
     virtual void AddHeadItem() {}
-    // Adds an item of a library, counted from 0; answers which item is selected then.
+    // Adds an item of a library, counted from 0; returns which item is selected then.
     virtual int AddListed(CString value, CString display, int index);
 
     // The text of a key in the dialog's text section.
@@ -50,12 +50,12 @@ protected:
 
     // Puts an item at the end of the arrays and at a place in the window, where 0 means the end, too.
     void PutItem(CString value, CString display, int place);
-    // Looks at what the window answers to a text that was added. One that it has no room for raises std::bad_alloc: every
+    // Checks the window's result for a text that was added. One that it has no room for raises std::bad_alloc: every
     // later item would be at the place of another's value.
     static void ExpectRoom(LRESULT answer);
     // Inserts a text in the window.
     void ShowItem(const CString& text, int place);
-    // Takes an item off and selects the one in its place, the last one, or none; answers what the window answers.
+    // Takes an item off and selects the one in its place, the last one, or none; returns what the window returns.
     int RemoveItem(int index);
     // Empties the list if an item is selected: deleting the selected item selects another, until none is left.
     void EmptyFromSelection();

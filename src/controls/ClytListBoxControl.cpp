@@ -51,7 +51,7 @@ void ClytListBoxControl::AppendItem(CString& result, int index) const
 {
     const CString& display = displayStrings.GetAt(index);
     const CString text = valueStrings.GetAt(index).IsEmpty() ? display : TextOf(display);
-    // A text that is no key is taken as it is.
+    // A text that is not a key is taken literally.
     result += text == lytNoValue ? display : text;
 }
 

@@ -16,7 +16,7 @@ public:
     // Without a selection the texts are empty, and the focus moves to the list.
     CString GetValue() override { return SelectedOf(this->valueStrings); }
     CString GetDisplayValue() override { return SelectedOf(this->displayStrings); }
-    // Answers the number of items left.
+    // Returns the number of items left.
     int DeleteCurrentItem() override;
 
 protected:

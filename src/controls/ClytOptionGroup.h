@@ -1,4 +1,4 @@
-// The named control that represents a group of option buttons: rules and output speak to it, and it answers for its
+// The named control that represents a group of option buttons: rules and output use it in place of its
 // buttons. It has no window.
 #pragma once
 

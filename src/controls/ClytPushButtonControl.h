@@ -58,11 +58,11 @@ private:
     void FocusNextControl() const;
 
     int armed = 0;
-    bool passesOverReturn = false; // the focus came here under a Return that was pressed elsewhere
+    bool passesOverReturn = false; // got the focus while a Return that was pressed elsewhere is down
 };
 
-// Arms and clicks a button that a double click or a key means. A control that is no button has no action to run; the
-// rules run all the same.
+// Arms and clicks a button that a double click or a key means. A control that is not a button has no action to run; the
+// rules still run.
 void lytClickControl(ClytControl& target, ClytForm& dialog);
 // The Return key, on a button or by a default-button rule: it acts once for each command that reached the dialog.
 void lytGiveReturnKey(ClytControl& target, ClytForm& dialog);

@@ -49,7 +49,7 @@ void ClytRadioButtonControl::Check(bool isChecked)
 }
 
 // A click checks the button by this message, before its command runs the rules. The platform then unchecks the others of
-// the group, but passes over those that are hidden or disabled, and the group would give the value of one of them.
+// the group, but skips those that are hidden or disabled, and the group would give the value of one of them.
 LRESULT ClytRadioButtonControl::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
 {
     const LRESULT result = ClytWindowControl::WindowProc(message, wParam, lParam);

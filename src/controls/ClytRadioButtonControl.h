@@ -41,5 +41,5 @@ private:
     int preselected = 0;
     int firstOfGroup;
     int ownChecks = 0;                // in progress: what the program sets is not the user's choice
-    ClytOptionGroup* group = nullptr; // parts with its buttons before it dies
+    ClytOptionGroup* group = nullptr; // releases its buttons before it is destroyed
 };

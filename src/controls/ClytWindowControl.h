@@ -36,7 +36,7 @@ public:
     int IsVisible() override { return this->IsWindowVisible() ? 1 : 0; }
 
 protected:
-    // `create` makes the window at the rectangle and under the parent that it is given, and answers false when it cannot:
+    // `create` makes the window at the rectangle and under the parent that it is given, and returns false when it cannot:
     // that raises 202. The option flags come after it, where each class wants them.
     template <class CREATE>
     void CreateCommon(ClytForm* owner, ClytFit fit, CREATE create)

@@ -204,7 +204,7 @@ std::optional<CString> ClytDialog::ShowNested(const CString& description, const 
     return Show(description, input);
 }
 
-// A quit message or a partner that ends the dialog cancels it past OnCancel.
+// A quit message or a partner that ends the dialog cancels it without OnCancel.
 INT_PTR ClytDialog::DoModal()
 {
     const INT_PTR ending = CDialog::DoModal();

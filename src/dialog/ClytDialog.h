@@ -33,10 +33,10 @@ public:
     // a message was shown). There is a result only after 1.
     ClytDialog(CString descriptionFile, const CString& defineList);
 
-    // Shows the description of that name from the dialog folder over an input text. Its result, when the user confirmed
-    // it.
+    // Shows the dialog of that name from the dialog folder, with an input text. Returns its result when the user
+    // confirmed it.
     static std::optional<CString> Show(const CString& description, const CString& input);
-    // The same of a dialog that has been made. The input key is left as the dialog leaves it.
+    // The same for a dialog that has been made. The input key is left as the dialog leaves it.
     std::optional<CString> Ask(const CString& input);
     INT_PTR DoModal() override;
     CDialog& GetWindow() override { return *this; }
@@ -91,8 +91,8 @@ protected:
     void ReadDescription();
     // False after the message of a failure was shown.
     bool TryReadDescription();
-    // The rule that gives Return in the named control to a button, or null. An empty name is that of a window that is
-    // no control.
+    // The rule that gives Return in the named control to a button, or null. An empty name means a window that
+    // is not a control.
     const ClytControlDep* FindDefaultButtonRule(const CString& focusName) const;
     // What OK does before the window ends: composes the result, with evaluations. 0 when the dialog is to stay open. A
     // failure of the program's own is raised again as 246.
@@ -109,7 +109,7 @@ private:
     void CollectBaselineControls();
     void CreateControlWindows();
     static void TakeScale();
-    // Gives the catalogue its place before the last confirmation back.
+    // Restores the place in the catalogue from before the last confirmation.
     static void RestoreTree();
     // Sizes the window so that its client area has the scaled size.
     void Resize(int width, int height);
@@ -147,7 +147,7 @@ private:
     CStringList sectionList; // the words of the layout header, the text section first
     CString result;
     CString fileName;
-    // What became of the rules since the user gave his latest command.
+    // The outcome of the rules since the latest command of the user.
     struct Command
     {
         int number = 0;

@@ -18,7 +18,7 @@ struct ClytFormatPiece
     bool isConversion = false; // a `%` comes right before it
     int start = 0;             // in the format
     int length = 1;
-    int limit = std::numeric_limits<int>::max(); // how much of the item is put at most
+    int limit = std::numeric_limits<int>::max(); // the most characters that are taken of the item
     bool hasWaste = false;                       // there is more between the limit and the `s`
 };
 

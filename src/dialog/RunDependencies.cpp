@@ -103,7 +103,7 @@ bool ClytDialog::RunRules()
     return !command.hasFailed;
 }
 
-// The message takes the focus and gives it back, which is another command. The rules would fail in it again, without end:
+// The message takes the focus and returns it, which is another command. The rules would fail in it again, without end:
 // so none run until the message is closed.
 void ClytDialog::TellRuleFailure() noexcept
 {

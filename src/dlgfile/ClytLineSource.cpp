@@ -18,7 +18,7 @@ ClytLineSource::ClytLineSource(const char* defineList)
 }
 
 // A line that begins with `<` switches what follows on or off by a define (`<!` the other way round), one that begins
-// with `>` switches it on. They do not nest, and they count in stretches that are switched off, too.
+// with `>` switches it on. They do not nest, and they count in lines that are switched off, too.
 char* ClytLineSource::ReadString(char* buffer, UINT count)
 {
     while (TakeLine(buffer, count, linePlace))

@@ -1,4 +1,4 @@
-// Reads a description from its first line to its last, section after section, and hands each statement to a visitor.
+// Reads a description from its first line to its last, section after section, and passes each statement to a visitor.
 #pragma once
 
 #include "dlgfile/ClytDialogFile.h"
@@ -20,7 +20,7 @@ public:
     void LinesBegin(ClytLineKind /*kind*/) {}
     // The words of a header are those after its first.
     void LayoutHeader(const CString& /*version*/, CStringList& /*words*/) {}
-    // Not read is a line that begins something else.
+    // A line that begins something else is not read.
     void DialogHeader(bool /*isRead*/, int /*width*/, int /*height*/, const CString& /*title*/,
                       const CString& /*lastText*/)
     {

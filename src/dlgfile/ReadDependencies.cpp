@@ -42,7 +42,7 @@ void ClytDialogFile::ReadDependencyCondition(POSITION& token, ClytConditions& co
         ReadValueList(token, condition.GetValues());
         if (token == nullptr)
             return;
-        // This is the empty token after the `)`. Only its delimiter counts, so a word in this place is passed over.
+        // This is the empty token after the `)`. Only its delimiter counts, so a word in this place is ignored.
         end = &Next(token);
     }
     Expect(end->GetDelimiter() == ',' || end->GetDelimiter() == '\n', ClytDue::ConditionEnd);

@@ -139,7 +139,7 @@ int ClytDialogFile::ReadControlStatement(ClytControlStatement& statement)
         });
 }
 
-// The type word comes last: a statement that fails is no control.
+// The type word comes last: a statement that fails makes no control.
 void ClytDialogFile::ReadControl(const CString& type, POSITION token, ClytControlStatement& statement)
 {
     statement.span = GetStatementPlace();
@@ -175,7 +175,7 @@ void ClytDialogFile::ReadControlOperands(POSITION token, ClytControlStatement& s
         statement.name = TakeName(Next(token).GetText());
 }
 
-// The first character goes without being looked at, so a name in the last place that lacks its point is cut.
+// The first character is removed unchecked, so a name in the last place that lacks its point is cut.
 CString ClytDialogFile::TakeName(const CString& operand)
 {
     Expect(operand != ".", ClytDue::Name);

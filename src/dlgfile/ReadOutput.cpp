@@ -82,7 +82,7 @@ void ClytDialogFile::ReadOutputItem(POSITION& token, ClytDialogOutput& rule)
 }
 
 // A line that ends inside the brackets or right after them is the class library's failure. The token after them is
-// passed over, with any text.
+// ignored, with any text.
 CString ClytDialogFile::ReadItemAction(POSITION& token)
 {
     CString action;

@@ -1,5 +1,5 @@
 // The lines of the report, in order, until a reader has come past its end. Readers name a line by its index; the place
-// found last is kept, so that a walk from line to line costs one step for each. Lines are removed all at once, so the
+// found last is kept, so that a walk from line to line costs one step for each. All lines are removed together, so the
 // kept place never outlives its line.
 #pragma once
 

@@ -24,6 +24,6 @@ void lytWriteToLog(const char* message, int messageLevel);
 // without a dot.
 CString lytLogNameOf(const CString& docName);
 
-// A banner's line for a time, "START...  " or "END...    " in front. A time that is no date raises the
+// A banner's line for a time, "START...  " or "END...    " in front. A time that is not a date raises the
 // invalid-argument exception; a date or time that cannot be formatted is left out.
 CString lytLogBannerLine(const char* word, std::time_t time);

@@ -41,7 +41,7 @@ private:
     QuietFrame m_frame;
 };
 
-// While one thread has windows up, a call from another would change what they work on: it gives `refusal`, and does nothing.
+// While one thread has windows up, a call from another would change what they work on: it returns `refusal`, and does nothing.
 #define LYT_REFUSE_OTHER_THREADS(refusal)                                                                              \
     if (ModalWindows::AreElsewhere())                                                                                  \
     return refusal
@@ -55,7 +55,7 @@ private:
     LYT_REFUSE_OTHER_THREADS(refusal);                                                                                 \
     const QuietFrame exportFrame
 
-// False for a null buffer or a size below 1: the export answers 0 and does nothing.
+// False for a null buffer or a size below 1: the export returns 0 and does nothing.
 bool IsUsable(const char* buffer, int size);
 
 // Copies a text with its NUL. One that does not fit leaves the buffer empty, as the runtime's own copy does before it
@@ -66,7 +66,7 @@ void CopyText(char* buffer, int size, const char* text);
 // leave room for it.
 void CopyTextMarkingEnd(char* buffer, int size, const char* text);
 
-// Copies a text out and answers 1 when the buffer then holds one, else 0.
+// Copies a text out and returns 1 when the buffer then holds one, else 0.
 int CopyOut(char* buffer, int size, const char* text);
 
 // The text in a caller's buffer, up to its NUL and never beyond its size.

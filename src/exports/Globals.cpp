@@ -9,7 +9,7 @@
 #include <afxtempl.h>
 #include <afxwin.h>
 
-// It adds nothing to its base; the class library wants one in each module.
+// It adds nothing to its base; the class library needs one in each module.
 class CLytDlg32App : public CWinApp
 {
 };

@@ -1,4 +1,4 @@
-// The descriptions that the exports open by their names: what such a dialog is handed, and how its result is cut.
+// The descriptions that the exports open by their names: what such a dialog receives, and how its result is cut.
 #pragma once
 
 enum class ClytNamed

@@ -13,7 +13,7 @@
 namespace
 {
 
-// Copies a text out and answers 1 unless the buffer then holds the sentinel of the language texts.
+// Copies a text out and returns 1 unless the buffer then holds the sentinel of the language texts.
 int CopyUnlessSentinel(char* buffer, int size, const char* text)
 {
     CopyText(buffer, size, text);

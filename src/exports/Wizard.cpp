@@ -1,4 +1,4 @@
-// The export that leads through the choice of a new placeholder.
+// The export that guides the user to a new placeholder.
 #include "lyt64.h"
 
 #include "dialog/ClytDialog.h"

@@ -1,6 +1,6 @@
 // The one interface through which dialog, rules and composition speak to a control. A control's value is always a text.
 //
-// The base class answers an operation that a control does not offer, some with a message to the user. Controls with a
+// The base class handles an operation that a control does not offer, some with a message to the user. Controls with a
 // window derive from a window class first and from ClytControl second.
 #pragma once
 
@@ -80,7 +80,7 @@ public:
     int HasValueIn(const CStringList& values);
 
 protected:
-    // Takes an option word and answers 1, or answers 0 for any other word.
+    // Takes an option word and returns 1, or returns 0 for any other word.
     int TakeCommonOption(const CString& word);
     // Shows a numbered error; the operation continues.
     void Report(const char* number, const ClytPrefix& prefix = {}, const CString& argument = CString()) const;

@@ -10,7 +10,7 @@ class ClytControlFill : public CObject
 {
 public:
     void Bind(const ClytControlMap& controls);
-    // An unknown control is passed over.
+    // An unknown control is ignored.
     void Apply(const CString& piece) const;
     // Null for an unknown control.
     ClytControl* GetControl() const { return control; }

@@ -1,4 +1,4 @@
-// Listens to what a dialog does silently: what it passes over, how it scans its input, runs its rules and chooses its
+// Is notified of what a dialog does silently: what it ignores, how it scans its input, runs its rules and chooses its
 // output, and which names it cannot find. The library has no listener, and each report then costs the test of a pointer.
 // A tool sets one while it works.
 #pragma once
@@ -14,7 +14,7 @@ class ClytCtrlValList;
 class ClytDialogInput;
 class ClytDialogOutput;
 
-// What of a description is passed over because a word or name in it is unknown.
+// What is ignored in a description because a word or name in it is unknown.
 enum class ClytPassedOver
 {
     LayoutStatement, // its type word names no control
@@ -37,10 +37,10 @@ enum class ClytRuleKind
 enum class ClytTested
 {
     Holds,
-    UnknownControl, // a state rule passes the condition over, an event rule ends with it, an output rule raises 245
+    UnknownControl, // a state rule ignores the condition, an event rule ends with it, an output rule raises 245
     Inactive,
     NotListed,
-    HasContent, // "NOTNULL" decided: the rule holds, and later conditions are not looked at
+    HasContent, // "NOTNULL" decided: the rule holds, and later conditions are ignored
     IsEmpty,    // "NOTNULL" decided: the rule does not hold
     Changed,
     Unchanged
@@ -67,7 +67,7 @@ enum class ClytMissing
     LibraryFunction
 };
 
-// A listener overrides what it wants to hear. It throws nothing and leaves the dialog as it is.
+// A listener overrides the reports that it wants. It throws nothing and does not change the dialog.
 class ClytObserver
 {
 public:
@@ -115,7 +115,7 @@ protected:
 
 inline ClytObserver* lytObserver = nullptr; // outlives what it listens to
 
-// Tells the listener, if there is one.
+// Notifies the listener, if there is one.
 template <class... PARAMETERS, class... ARGUMENTS>
 void lytTell(void (ClytObserver::*what)(PARAMETERS...), const ARGUMENTS&... arguments)
 {

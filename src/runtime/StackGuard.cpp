@@ -1,6 +1,6 @@
 // The toolchain's own guard asks the system for random bytes while the library is being loaded, and the system loads
-// further libraries for that, inside the loader's lock. This one takes its place. What it mixes is at hand and differs
-// from load to load: an attacker who could ask for all of it is inside the process already.
+// further libraries for that, inside the loader's lock. This one takes its place. Its sources are in the process and differ
+// from load to load: an attacker who could read all of them is inside the process already.
 //
 // Without it the library is linked with the toolchain's, and loads further libraries: leave this source out of the
 // target, and the call of SeedStackGuard, and run `ctest --preset windows -R load-tests`.
@@ -56,7 +56,7 @@ __attribute__((no_stack_protector)) void SeedStackGuard()
                                   static_cast<uint64_t>(reinterpret_cast<uintptr_t>(&SeedStackGuard))})
         seed = Mixed(seed + source);
 
-    // The lowest byte is a NUL, which ends a text that runs on into the guard.
+    // The lowest byte is a NUL, which ends a text that continues into the guard.
     constexpr uint64_t lowestByte = 0xFF;
     __stack_chk_guard = static_cast<uintptr_t>(seed & ~lowestByte);
 }

@@ -1,5 +1,5 @@
 // The runtime's handler for an exception that nobody catches writes its type's name to a console that no host has, and
-// brings a demangler of 45 KB for it. This one takes its place.
+// includes a demangler of 45 KB for it. This one takes its place.
 //
 // Without it the library is that much larger: leave this source out of the target and look at the size of the file.
 #include <cstdlib>

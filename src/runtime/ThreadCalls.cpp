@@ -96,7 +96,7 @@ extern "C"
 
     int pthread_setspecific(pthread_key_t key, const void* value)
     {
-        // The platform only hands the value back.
+        // The platform only returns the value.
         auto* const given = const_cast<void*>(value);
         return (isFiberLocal ? FlsSetValue(key, given) : TlsSetValue(key, given)) != FALSE ? 0 : ENOMEM;
     }

@@ -1,7 +1,7 @@
 // Case in code page 1252, in which every text of the library is.
 #pragma once
 
-// Code page 1252 has three pairs of letters and one lone partner outside the Latin-1 block.
+// Code page 1252 has three pairs of letters and one letter without a partner outside the Latin-1 block.
 inline unsigned char ToLower1252(unsigned char ch)
 {
     if ((ch >= 'A' && ch <= 'Z') || (ch >= 0xC0 && ch <= 0xDE && ch != 0xD7))

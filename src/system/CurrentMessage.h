@@ -1,9 +1,9 @@
-// The message that is being handled: a handler hands it on as it came.
+// The message that is being handled: a handler passes it on unchanged.
 #pragma once
 
 #include <windows.h>
 
-// In force while the object lives. A message sent meanwhile takes its place and gives it back.
+// In force while the object lives. A message sent meanwhile takes its place and then restores it.
 class CurrentMessage
 {
 public:

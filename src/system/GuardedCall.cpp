@@ -46,7 +46,7 @@ namespace
 {
 
 constexpr size_t guardedWithin = 32;
-// Sets a code apart from no exception: it may be any number, 0 too.
+// Distinguishes a code from no exception: it may be any number, even 0.
 constexpr ULONG64 raised = 1ULL << 32;
 
 // What the system raises and handles itself, such as the text for a debugger, never comes as far as here.

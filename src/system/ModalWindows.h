@@ -15,7 +15,7 @@ public:
 
     // False when another thread has windows up: this one must not show any.
     bool AreAllowed() const noexcept { return m_areAllowed; }
-    // True when they are up, and belong to another thread than the one that asks.
+    // True when they are up, and belong to another thread than the caller's.
     static bool AreElsewhere() noexcept;
 
     // What else ends with the last run. It is called in the thread of the runs, or in another one after that thread has

@@ -1,4 +1,4 @@
-// What CStdioFile asks of the platform: text translation and sharing differ, so each platform has its own file.
+// What CStdioFile needs from the platform: text translation and sharing differ, so each platform has its own file.
 #pragma once
 
 #include <cstdio>

@@ -1,7 +1,7 @@
 // The nodes above the present place of a walk from head to tail, so that finding a parent costs no walk back.
 //
-// It holds every node that can still be a parent: root first, levels rising. What is added for a node is the walk's own
-// choice: the node itself, or what it found there.
+// It holds every node that can still be a parent: root first, levels rising. The walk chooses what it
+// adds for a node: the node itself, or what it found there.
 #pragma once
 
 #include "tree/ClytNode.h"
@@ -12,7 +12,7 @@ class ClytAncestors
 {
 public:
     // What was added for the nearest earlier node with a smaller level, or null. Nodes of that level or
-    // a greater one are dropped: they are parents no longer.
+    // a greater one are dropped: they can no longer be parents.
     const ClytNode* FindAbove(int level)
     {
         while (!path.empty() && path.back().level >= level)

@@ -18,7 +18,7 @@ public:
 private:
     POSITION position = nullptr;
     // The level of the very first node that was read in this process. It is never set again, so that children of a group
-    // at another depth end their walk at once.
+    // at another depth end their walk immediately.
     int level = 0;
     bool levelKnown = false;
 };

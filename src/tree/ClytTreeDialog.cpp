@@ -178,7 +178,7 @@ void ClytTreeDialog::MarkInitialNode()
 
 void ClytTreeDialog::OnOK()
 {
-    // A choice that is refused below counts and is remembered all the same.
+    // A choice that is refused below still counts and is remembered.
     CountConfirmation();
     StoreSize();
     const ClytNode* chosen = lytFindNodeByItem(nodes, treeCtrl.GetSelectedItem());

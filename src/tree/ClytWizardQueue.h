@@ -21,7 +21,7 @@ public:
     // result, and without a brace the queue gets all that was searched.
     CString Begin(const CString& result);
 
-    // Hands out the next text. The delivery ends with the last one; there is no last one when the queue ends in "|": the
+    // Delivers the next text. The delivery ends with the last one; there is no last one when the queue ends in "|": the
     // text before that mark is lost.
     std::optional<CString> Deliver();
 

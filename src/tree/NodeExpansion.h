@@ -5,7 +5,7 @@
 
 struct ClytExpansion
 {
-    // "TreeLevels" of the configuration; 0, which a text that is no number also reads as, means 2.
+    // "TreeLevels" of the configuration; 0, as which a text that is not a number is read, means 2.
     int treeLevels = 0;
     // The opening by levels, until the symbol tree was confirmed for the first time; afterwards, and in the para tree,
     // branches are as the last confirmation left them.

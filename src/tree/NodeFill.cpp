@@ -24,7 +24,7 @@ constexpr EntryType entryTypes[] = {
 };
 
 // An unknown number takes over the type of the entry before: sources leave it out for entries
-// that follow their like.
+// that follow one of the same type.
 const EntryType& TypeOf(int number, const EntryType& before)
 {
     const auto* const type = std::ranges::find(entryTypes, number, &EntryType::number);

@@ -1,4 +1,4 @@
-// Finds nodes of a catalogue, and words what is reported of the one that was chosen.
+// Finds nodes of a catalogue, and words the result for the one that was chosen.
 #pragma once
 
 #include "tree/ClytNode.h"

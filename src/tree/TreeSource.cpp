@@ -3,8 +3,8 @@
 namespace
 {
 
-// Stays loaded for the life of the process. A library that is missing, or that somebody has taken out of the process, is
-// looked for again at each use.
+// Stays loaded for the life of the process. A library that is missing, or that somebody has unloaded, is looked for
+// again at each use.
 HMODULE lytSourceLibrary = nullptr;
 
 constexpr const char* lytSourceName = "lytsrc";

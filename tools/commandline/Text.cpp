@@ -31,7 +31,7 @@ std::string Convert(const std::string& text, UINT from, UINT to)
 
 constexpr const char* replacement = "\xEF\xBF\xBD";
 
-// Also a byte that is no UTF-8, and the two last characters of the first plane, which no file format has a place for.
+// Also a byte that is not UTF-8, and the two last characters of the first plane, which no file format has a place for.
 bool IsControl(const std::string& character)
 {
     const auto first = static_cast<unsigned char>(character[0]);
@@ -41,7 +41,7 @@ bool IsControl(const std::string& character)
     return isSecondRange || character == "\xEF\xBF\xBE" || character == "\xEF\xBF\xBF";
 }
 
-// A byte that is no UTF-8 counts as one.
+// A byte that is not UTF-8 counts as one.
 std::vector<std::string> CharactersOf(const std::string& utf8)
 {
     std::vector<std::string> characters;

@@ -19,7 +19,7 @@ std::vector<std::string> LinesOf(const std::string& text);
 // The length of the UTF-8 character that begins there; 0 when none does.
 size_t LengthOfCharacter(const std::string& utf8, size_t place);
 // A text from outside as it may be printed in a line: a line end is a blank, and any other control character but a tab, like
-// a byte that is no UTF-8, is the replacement character.
+// a byte that is not UTF-8, is the replacement character.
 std::string Printable(const std::string& utf8);
 // The same of a text in the library's code page.
 std::string Shown(const std::string& ansi);

@@ -17,7 +17,7 @@ struct FileCloser
 
 using OwnedFile = std::unique_ptr<FILE, FileCloser>;
 
-// Nothing for a file that cannot be read, nor for a thing that is no file: a device or a pipe may have no end.
+// Nothing for a file that cannot be read, nor for one that is not a real file: a device or a pipe may have no end.
 std::optional<std::string> ReadWholeFile(const std::string& name);
 // Writes beside the file and renames: what was there stays until all is written. False, and nothing changed, when that fails.
 bool WriteWholeFile(const std::string& name, const std::string& content);

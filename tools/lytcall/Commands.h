@@ -24,7 +24,7 @@ bool CompareSavedReports(const Request& request);
 // Prints a saved report without its names, or writes it where --out says; false when the operand names no file. It needs no
 // library either.
 bool RedactSavedReport(const Request& request);
-// Lets lytdlg judge a deployment, by the same words, and gives its exit code. Raises CallError when it cannot be run.
+// Lets lytdlg check a deployment, with the same words, and returns its exit code. Raises CallError when it cannot be run.
 int RunDoctor(const std::vector<std::string>& words);
 
 } // namespace lytcall

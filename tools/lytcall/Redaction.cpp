@@ -179,7 +179,7 @@ private:
         }
     }
 
-    // The whole name of a server begins with that of the machine. What follows is no name when it is as short as "com".
+    // The whole name of a server begins with that of the machine. What follows is not a name when it is as short as "com".
     void NoteServer(const std::string& host)
     {
         constexpr size_t longestEnding = 4;
@@ -225,7 +225,7 @@ private:
             Note(authority.substr(0, at), "CREDENTIALS");
             place += at + 1;
         }
-        // A drive is no server.
+        // A drive is not a server.
         if (const std::string host = NameAt(small, place); host.size() > 1 || small[place + host.size()] != ':')
             NoteServer(host);
     }

@@ -30,7 +30,7 @@ std::string JsonOf(const std::vector<ReportBlock>& blocks);
 // Why nothing was judged, as the verdict on a deployment.
 std::string JsonOfRefusal(const std::string& reason);
 
-// The lines of the report, in UTF-8; nothing when the bytes of the file are no report.
+// The lines of the report, in UTF-8; nothing when the bytes of the file are not a report.
 std::optional<ReportLines> ReadSavedReport(const std::string& bytes);
 
 struct ReportDifference

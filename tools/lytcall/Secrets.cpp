@@ -62,7 +62,7 @@ std::string WithoutSecretArguments(std::string line)
 std::string WithoutSecrets(const std::string& line)
 {
     const std::string label = LabelOf(line);
-    // The size after the name of a file is no secret.
+    // The size after the name of a file is not a secret.
     if (label.ends_with(" Size") || !HasSecretPart(label))
         return WithoutSecretArguments(line);
     const size_t value = line.find_first_not_of(' ', label.size() + 1);

@@ -1,6 +1,6 @@
 // A user who acts on the window in front, while a call under test shows its windows.
 //
-// Acts are words divided by blanks: a letter, a character that says whom or what, and for some a text.
+// Acts are words separated by blanks: a letter, a character that says whom or what, and for some a text.
 //
 //     cN, dN    click, double-click a child of the window; `cN,Y` does so at a place from its top
 //     fN        move the focus to a child

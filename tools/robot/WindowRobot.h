@@ -30,7 +30,7 @@ RECT PlaceOf(HWND child);
 bool IsMessageBox(HWND window);
 std::string MessageTextOf(HWND box);
 
-// Whoever answers message boxes as they come would not notice that they never end. So each act of a user begins here, and
+// Code that answers message boxes as they come would not notice that they never end. So each act of a user begins here, and
 // the boxes that it leads to are answered here: more of them than an act sends commands raise a std::runtime_error.
 inline constexpr int mostBoxesOfAct = 5;
 void BeginAct();

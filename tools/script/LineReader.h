@@ -16,7 +16,7 @@ public:
     using UsageError::UsageError;
 };
 
-// What a script or a case file holds, in UTF-8. A text that is no UTF-8 counts as one in the code page of the dialogs.
+// What a script or a case file holds, in UTF-8. A text that is not UTF-8 counts as one in the code page of the dialogs.
 std::string ScriptText(std::string content);
 
 class LineReader

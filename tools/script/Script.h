@@ -99,8 +99,8 @@ const std::vector<std::string>& KeyWords();
 // Who takes the steps.
 enum class Player
 {
-    OfWindows,     // whoever sees a window alone: a control has no name
-    OfDescriptions // whoever knows its description, too, and takes acts only
+    OfWindows,     // for programs that see only windows: a control has no name
+    OfDescriptions // for programs that also know the description, and take acts only
 };
 
 // Reads what follows the word of a step; raises FileError at a mistake. Null for a word that the player does not have.

@@ -8,7 +8,7 @@
 // What the platform calls a 64-bit program.
 inline constexpr unsigned lytBinary64 = 6;
 
-// What the platform takes the file for; nothing when it is no program.
+// What the platform takes the file for; nothing when it is not a program.
 std::optional<unsigned> BinaryKindOf(const CString& fileName);
 
 // What follows the name of a program of that kind; empty when the kind is not known.

@@ -19,7 +19,7 @@ RegistryKey::RegistryKey(HKEY root, const char* name, REGSAM rights)
 
 LSTATUS RegistryKey::Read(const char* valueName, DWORD& size, CString& text) const
 {
-    // Data need not end with a NUL, and only its reported size is looked at.
+    // Data need not end with a NUL, and only its reported size counts.
     std::string data(size, '\0');
     const LSTATUS result = RegQueryValueExA(m_key.Get(), valueName, nullptr, nullptr,
                                             static_cast<BYTE*>(static_cast<void*>(data.data())), &size);

@@ -13,7 +13,7 @@
 #include <afxcoll.h>
 #include <afxmt.h>
 
-// Keeps two reports from being gathered at once.
+// Keeps two reports from being gathered at the same time.
 extern CCriticalSection lytReportLock;
 
 // Gathers the report, with `directory` as the directory to examine, in place of what the store held. Returns 1.

@@ -37,7 +37,7 @@ unsigned ReadArchitecture()
     return system.wProcessorArchitecture;
 }
 
-// The call's own result is not looked at: a number that came back names the edition.
+// The result of the call is ignored: a number that came back names the edition.
 unsigned ReadEdition(const WindowsFacts& facts)
 {
     DWORD edition = 0;

@@ -1,4 +1,4 @@
-// What a deployment is judged by, a source for each kind of thing. Each observes what it looked at, good or not.
+// The checks of a deployment, a source for each kind of thing. Each reports what it observed, good or bad.
 #pragma once
 
 #include "lytdlg/doctor/Configuration.h"

@@ -23,7 +23,7 @@ public:
     std::vector<const LanguageKey*> KeysOf(const std::string& section) const;
     // Empty when none is set.
     std::string Language() const { return ValueOf("global", "Current Language"); }
-    // As the library counts it: what is no number is 0.
+    // As the library reads it: a text that is not a number is 0.
     int LogLevel() const;
     // 0 without the key.
     int NumberOf(const std::string& section, const std::string& key) const;

@@ -37,7 +37,7 @@ struct Deployment
 };
 
 // Looks in the folders that are the operands, and three folders deep below them; options name what is elsewhere, or which of
-// several is meant. A UsageError for an operand that is no folder.
+// several is meant. A UsageError for an operand that is not a folder.
 Deployment FindDeployment(const Request& request);
 
 // As a version record of the platform holds it, such as 1.2.0.0; empty for bytes without one.

@@ -1,4 +1,4 @@
-// What there is to say about a deployment: an observation for each thing looked at, good or not, with the way out.
+// The findings about a deployment: an observation for each thing that was checked, good or bad, with a hint.
 #pragma once
 
 #include "base/ClytSpan.h"

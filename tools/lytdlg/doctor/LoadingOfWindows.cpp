@@ -85,7 +85,7 @@ void JudgeReading(const Deployment& deployment, const Configuration& configurati
 
 } // namespace
 
-// Of a file that is no library for this program there is a finding already.
+// A file that is not a library for this program has a finding already.
 void JudgeLoading(const Deployment& deployment, const Configuration& configuration, Diagnosis& diagnosis)
 {
     const std::filesystem::path& file = deployment.library.chosen;

@@ -236,7 +236,7 @@ private:
     ExportTable m_table;
 };
 
-// Whoever hands out a document can put a library beside it, and Windows loads one from the current folder that no folder
+// Somebody who provides a document can put a library beside it, and Windows loads one from the current folder that no folder
 // before has. Of partners in the current folder there is a finding already.
 void JudgePlanted(const Deployment& deployment, const std::vector<WantedLibrary>& wanted, Diagnosis& diagnosis)
 {

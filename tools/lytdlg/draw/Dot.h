@@ -30,17 +30,17 @@ private:
     size_t m_depth = 1;
 };
 
-// How what is wrong or never happens is drawn.
+// How mistakes and things that never happen are drawn.
 const Attributes& UnknownLook();
 const Attributes& UnusedLook();
 
 std::string Shown(const CString& text);
 // The values of a list, in brackets with commas; nothing for an empty list.
 std::string ValuesText(const CStringList& values);
-// The node of a control, red when there is no such control; gives the identifier of the node.
+// The node of a control, red when there is no such control; returns the identifier of the node.
 std::string ControlNode(Dot& dot, const Description& description, const CString& name);
 
-// Graphs of a description: its dependency rules, the states of its scan, and who uses its output groups.
+// Graphs of a description: its dependency rules, the states of its scan, and what uses its output groups.
 // `title` is in UTF-8.
 std::string RulesGraph(const std::string& title, const Description& description);
 std::string ScanGraph(const std::string& title, const Description& description);

@@ -25,7 +25,7 @@ std::string GraphOf(const std::string& kind, const Description& description)
                           : GroupsGraph(title, description, file.parent_path().string());
 }
 
-// What the library cannot read is no part of the graph.
+// What the library cannot read is not part of the graph.
 ExitCode TellMistakes(const Description& description)
 {
     for (const Mistake& mistake : description.mistakes)

@@ -13,7 +13,7 @@ public:
     Notes(SvgPen& pen, const SeenDialog& dialog) : m_pen(pen), m_dialog(dialog) {}
 
     void WriteName(const SeenControl& control);
-    // In brackets where the Tab key passes over the control in the dialog as it is.
+    // In brackets where the Tab key skips the control in the dialog as it is.
     void WriteTabNumber(const SeenControl& control);
 
 private:

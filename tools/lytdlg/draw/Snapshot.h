@@ -80,7 +80,7 @@ struct SeenDialog
     std::vector<SeenControl> controls;
 };
 
-// Looks at an open dialog, and changes nothing of it.
+// Reads an open dialog without changing it.
 SeenDialog See(const TrialDialog& dialog);
 // The same of a window without a description, such as the catalogue. Its controls have the types of the layout that look
 // like them; a tree is a "Tree".

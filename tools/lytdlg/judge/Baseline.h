@@ -1,4 +1,4 @@
-// Findings that are known: a file of them, a line each, that a later check passes over. A line number would not survive the
+// Findings that are known: a file of them, a line each, that a later check omits. A line number would not survive the
 // next change of the description, so a finding is known by its rule, its file and the text of its line.
 #pragma once
 

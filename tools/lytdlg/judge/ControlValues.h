@@ -13,7 +13,7 @@ namespace lytdlg
 // What a control makes of a statement.
 enum class Role
 {
-    Nothing, // it is passed over
+    Nothing, // it is ignored
     Option,  // HIDDEN and its like
     Default, // what the control begins with
     On,      // of a check box

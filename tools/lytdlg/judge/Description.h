@@ -69,7 +69,7 @@ public:
     int height = 0;
     std::string title;
     ClytSpan dialogHeader;
-    // With an empty type word for a statement that the reader refuses: its name is known all the same.
+    // With an empty type word for a statement that the reader refuses: its name is still known.
     std::vector<ClytControlStatement> controls;
     std::vector<ValueStatement> values;
     ClytOwnedList<ClytControlDep> rules;

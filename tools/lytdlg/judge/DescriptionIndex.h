@@ -1,5 +1,5 @@
-// What the rules ask of a description for each of its statements, looked up once: so a judgement takes time in proportion
-// to the length of the description, of any content.
+// What the rules need to know for each statement of a description, looked up once, so that a check takes time in
+// proportion to the length of the description.
 #pragma once
 
 #include "lytdlg/judge/ControlValues.h"

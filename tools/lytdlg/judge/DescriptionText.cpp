@@ -32,7 +32,7 @@ struct HeaderWord
     std::string next;     // the word after it
 };
 
-// Cheaper than a look at the words: most lines are none.
+// Cheaper than to compare the words: most lines are not headers.
 bool MayHoldHeader(const std::string& line)
 {
     const size_t start = line.find_first_not_of(" \t");

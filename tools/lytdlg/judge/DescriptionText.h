@@ -66,9 +66,9 @@ public:
     bool EndsWithLineEnd() const { return m_endsWithLineEnd; }
     // What comes after a Ctrl-Z, which ends the text, is not read.
     bool HasEndMark() const { return m_hasEndMark; }
-    // Whether more than blanks come after it.
+    // Whether anything but blanks comes after it.
     bool HasTextAfterEndMark() const { return m_hasTextAfterEndMark; }
-    // The mark that some editors put before a text in UTF-8. The library takes it for letters; it is not in the lines.
+    // The mark that some editors put before a text in UTF-8. The library takes it for text; it is not in the lines.
     bool HasByteOrderMark() const { return m_hasByteOrderMark; }
 
 private:

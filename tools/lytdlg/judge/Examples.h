@@ -1,6 +1,6 @@
-// What the rules show as wrong and right, as a whole description.
+// The wrong and right examples of the rules, as whole descriptions.
 //
-// An example is a few lines, put into a small description against which nothing can be said:
+// An example is a few lines, put into a small description without findings:
 //
 //     $VALUES             the word of a section: the lines below it go there
 //     Mark = HIDDEN

@@ -1,4 +1,5 @@
-// The functions that a library file offers, and the libraries that it needs, read from its tables without loading it. Nothing of the file is trusted.
+// The functions that a library file exports, and the libraries that it needs, read from its tables without loading it.
+// Nothing in the file is trusted.
 #pragma once
 
 #include <string>
@@ -10,7 +11,7 @@ namespace lytdlg
 
 enum class LibraryForm
 {
-    NoLibrary, // not a library, or damaged, as one is whose copying broke off
+    NoLibrary, // not a library, or damaged, such as a file that was copied in part
     OtherBits, // a library that a 64-bit program cannot load
     Library
 };

@@ -28,7 +28,7 @@ void ApplyFillRules(const Case& judged);
 void ApplyOutputGroupRules(const Case& judged);
 void ApplyOutputRules(const Case& judged);
 void ApplyFormatRules(const Case& judged);
-// What the calls hand over that open a dialog by its name, and look for in its answer.
+// What the calls that open a dialog by its name pass to it, and look for in its answer.
 void ApplyNamedRules(const Case& judged);
 // Language files, the texts that the description shows, the letters that lead to a control, and the places of controls.
 void ApplyLanguageFileRules(const Case& judged);
@@ -39,14 +39,14 @@ void ApplyGeometryRules(const Case& judged);
 void ApplyPartnerRules(const Case& judged);
 // The last word is the library's: what it refuses is a finding, unless one that is there says why.
 void ApplyLibraryVerdict(const Case& judged);
-// The dialog is tried: texts go out and come back, and rules are looked at for what they lock.
+// The dialog is tried: texts are composed and read back, and rules are examined for what they lock.
 void ApplyTrialRules(const Case& judged);
 
 // Remarks at the end of a line silence a rule there:
 //
 //     Rate = 60   ; lytdlg: ignore value-not-in-list the list is filled later
 //
-// A reason must follow the rule's name. Errors are not silenced, since the library refuses the file all the same. Takes
+// A reason must follow the rule's name. Errors are not silenced, since the library still refuses the file. Takes
 // away what the remarks silence, and adds what is wrong with the remarks themselves.
 void ApplyIgnores(const Description& description, Findings& findings);
 

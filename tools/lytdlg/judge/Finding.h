@@ -1,4 +1,4 @@
-// What there is to say about a place of a description, and who collects it.
+// What a rule reports about a place of a description, and what collects it.
 #pragma once
 
 #include "base/ClytSpan.h"
@@ -11,7 +11,7 @@
 namespace lytdlg
 {
 
-// What mends a finding: a text in place of another one, in the file that the finding is in.
+// What fixes a finding: a text in place of another one, in the file that the finding is in.
 struct Fix
 {
     ClytSpan place;   // when nothing takes the place of all that a line holds, the line goes with it
@@ -57,7 +57,7 @@ public:
     std::vector<Finding>& All() { return m_findings; }
     // Makes one finding of the notes of a rule on a file, and of all that comes from its encoding. They are sorted.
     void Fold();
-    // By place, and at one place the graver first; what was said twice of a place stays once.
+    // By place, and at one place the graver first; what was reported twice for a place stays once.
     void Sort();
 
 private:

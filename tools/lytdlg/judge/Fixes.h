@@ -1,4 +1,4 @@
-// Mends what is found, with the texts that the findings themselves propose.
+// Fixes what is found, with the texts that the findings themselves propose.
 #pragma once
 
 #include "lytdlg/judge/Judge.h"
@@ -26,8 +26,8 @@ struct MendedText
     size_t count = 0; // of the fixes in it
 };
 
-// The description mended as far as its findings allow. A fix that does not help, or that leads to another finding, is not
-// taken.
+// The description fixed as far as its findings allow. A fix that does not help, or that leads to another finding, is not
+// made.
 MendedText MendDescription(const Description& description, const Surroundings& surroundings, Fixing fixing);
 
 // Fixes in files that several descriptions share, each taken once.
@@ -36,7 +36,7 @@ class SharedFixes
 public:
     explicit SharedFixes(Fixing fixing) : m_fixing(fixing) {}
 
-    // Removes the findings that it mends from the findings of a description.
+    // Removes the findings that it fixes from the findings of a description.
     void TakeFrom(Findings& findings);
     // Each file with its fixes in it.
     std::map<std::string, MendedText> Mended() const;

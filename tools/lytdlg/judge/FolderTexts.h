@@ -1,4 +1,4 @@
-// The descriptions of a folder and the texts that they show. Read when it is first asked for, and then kept: whoever judges
+// The descriptions of a folder and the texts that they show. Read at its first use, and then kept: code that judges
 // a whole folder asks for each of its descriptions.
 #pragma once
 

@@ -1,4 +1,4 @@
-// Judges a description by every rule there is.
+// Checks a description by all rules.
 #pragma once
 
 #include "lytdlg/judge/Description.h"
@@ -53,7 +53,7 @@ struct Refusal
     int line = 0;
 };
 
-// Constructs the dialog, without texts and with an empty input; nothing when the library takes it. Messages on the way
+// Constructs the dialog, without texts and with an empty input; nothing when the library accepts it. Messages on the way
 // are answered.
 std::optional<Refusal> RefusalOf(const Description& description);
 

@@ -21,7 +21,7 @@ struct LoadSurroundings
 struct LoadFailure
 {
     std::string reason;
-    std::string hint; // the way out
+    std::string hint; // what to do
 };
 
 // Nothing for a library that can be loaded. Elsewhere than on Windows only those are missed that come with a compiler.
@@ -34,7 +34,7 @@ std::string ReasonOfLoadError(unsigned long error);
 // The folders with the libraries of the platform itself; none where they are not known.
 std::vector<std::filesystem::path> PlatformFolders();
 
-// The first word for the separate process, and what that does with all its words; gives its exit code.
+// The first word for the separate process, and what that does with all its words; returns its exit code.
 inline constexpr const char* loadTrialWord = "--try-to-load";
 int CarryOutLoadTrial(const std::vector<std::string>& words);
 

@@ -1,4 +1,4 @@
-// What the calls that open the named dialogs hand over, and what they look for in the answer.
+// What the calls that open the named dialogs pass to them, and what they look for in the answer.
 #include "lytdlg/judge/Families.h"
 
 #include "dialog/ClytDialog.h"

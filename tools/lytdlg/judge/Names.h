@@ -32,7 +32,7 @@ std::vector<std::string> WordsOf()
     return words;
 }
 
-// Among more words than these no search is made: a help for each of many wrong words would take minutes.
+// Among more words than these no search is made: suggestions for many wrong words would take minutes.
 inline constexpr size_t mostCandidates = 500;
 // The known word that was meant: one that differs in upper and lower case only, or in a few letters. Empty when there is
 // none.
@@ -40,7 +40,7 @@ std::string MeantWord(const std::string& word, const std::vector<std::string>& k
 // "did you mean ...?", or else the other text.
 std::string MeantOr(const std::string& word, const std::vector<std::string>& known, const std::string& otherwise);
 
-// A word that is not known, those that are, and a way out where none of them was meant.
+// An unknown word, the known words, and a hint for when none of them was meant.
 struct UnknownWord
 {
     const std::string& text;

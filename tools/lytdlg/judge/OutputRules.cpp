@@ -91,7 +91,7 @@ private:
         return {withoutValue, values.empty() ? Key{name, Asks::Anything, ""} : Key{name, Asks::Value, values.front()}};
     }
 
-    // Where more rules than these ask for one value, the others are passed over.
+    // Where more rules than these ask for one value, the others are ignored.
     const ClytDialogOutput* FirstAt(const Key& key, const ClytDialogOutput& rule) const
     {
         constexpr size_t mostAsked = 100;

@@ -1,4 +1,4 @@
-// The rules that descriptions are judged by. Their words and examples are on the page docs/lytdlg-rules.md, which is part of
+// The rules of `check`. Their words and examples are on the page docs/lytdlg-rules.md, which is part of
 // the program; the sources call them by name.
 #pragma once
 
@@ -13,7 +13,7 @@ namespace lytdlg
 enum class Level
 {
     Error,   // the library refuses the file, or the dialog
-    Warning, // it is passed over, or data gets lost or looks wrong
+    Warning, // it is ignored, or data gets lost or looks wrong
     Note     // it does no harm and no good
 };
 

@@ -16,7 +16,7 @@ struct SourceLine
 {
     std::string text;                // without its line end
     int number = 0;                  // in the file, from 1; 0 for a line that the file does not have
-    bool isRead = true;              // the defines leave it in, and it is no mark itself
+    bool isRead = true;              // the defines leave it in, and it is not a mark itself
     Section section = Section::Head; // in which it is; a header belongs to the section that it begins
     bool isHeader = false;           // it opens its section, or a further part of it
     bool isStray = false;            // a header that does not belong there, and opens nothing

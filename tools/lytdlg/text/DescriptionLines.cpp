@@ -54,7 +54,7 @@ class RefusalSink final : public ErrorSink
 public:
     explicit RefusalSink(std::vector<DescriptionLine>& lines) : m_lines(lines) {}
 
-    // That the file ends where more was due is no fault of its last line.
+    // When the file ends too early, its last line is not to blame.
     void Tell(std::unique_ptr<ClytException> failure, const ClytSpan& place, ClytDue due) override
     {
         const bool isOfEnd = std::ranges::any_of(ofEndOfFile, [&](const char* number)

@@ -1,4 +1,4 @@
-// The lines of a description as a text, each with what it is read as: asked of the library's own readers,
+// The lines of a description as a text, each with what it is read as according to the library's own readers,
 // once for each choice of the defines that the file names.
 #pragma once
 
@@ -50,7 +50,7 @@ std::vector<std::string> DefinesOf(const std::vector<DescriptionLine>& lines);
 // Every choice of these defines, as the lists that a reader takes.
 std::vector<std::string> ChoicesOf(const std::vector<std::string>& defines);
 
-// The content in its form. A line that is refused, or that would be read otherwise, stays as it is, byte for byte. The file
+// The content in its form. A line that is refused, or that would be read differently, stays as it is, byte for byte. The file
 // holds the content, for the library to read.
 std::string FormattedDescription(const std::filesystem::path& fileName, const std::string& content);
 

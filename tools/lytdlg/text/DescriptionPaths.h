@@ -20,8 +20,8 @@ std::vector<std::string> DescriptionsAt(const std::string& operand);
 // The files that such a name means. Throws std::runtime_error when it cannot be read.
 std::string ReadDescription(const std::string& name);
 
-// Does the same with every description that the operands name, and gives the worst exit code. What is raised for one
-// of them is reported, and the others still have their turn.
+// Does the same with every description that the operands name, and returns the worst exit code. What is raised for one
+// of them is reported, and the others are still processed.
 ExitCode ForEachDescription(const std::vector<std::string>& operands,
                             const std::function<ExitCode(const std::string& name)>& act);
 

@@ -49,7 +49,7 @@ public:
 
     const std::string& Language() const { return m_language; }
     const std::string& FileName() const { return m_fileName; }
-    // The library takes it for letters of the first line.
+    // The library takes it for a part of the first line.
     bool HasByteOrderMark() const;
     const std::string& FirstLine() const { return m_firstLine; }
     // Every line with a key, in the order of the file.
@@ -95,11 +95,11 @@ private:
     std::vector<LanguageFile> m_files;
 };
 
-// Two names of sections or keys that the library takes for one.
+// Two names of sections or keys that are the same to the library.
 bool IsSameName(std::string_view left, std::string_view right);
 // Equal for two such names.
 std::string FoldedName(std::string_view name);
-// Equal for two texts that the library takes for one.
+// Equal for two texts that are the same to the library.
 std::string TextId(std::string_view section, std::string_view key);
 
 struct LibraryText

@@ -8,14 +8,14 @@
 namespace lytdlg
 {
 
-// What became of a file.
+// What was done with a file.
 struct MadeFile
 {
     std::filesystem::path name;
     bool isNew = true; // else texts were added to it
 };
 
-// Empty for a name that a dialog can have, else what is wrong with it and the way out.
+// Empty for a name that a dialog can have, else what is wrong with it and what to do.
 std::string FaultOfName(const std::string& name);
 
 // The content of a language file with lines at the end of a section, and the section at the end of the file when it is not

@@ -45,7 +45,7 @@ const Language& LanguageOf(const std::string& name)
     return found != newDialogLanguages.end() ? *found : newDialogLanguages.front();
 }
 
-// What a dialog is handed, with a value and without one, and the input that takes it apart. In these texts and those of
+// What a dialog receives, with a value and without one, and the input that takes it apart. In these texts and those of
 // answers <Name> and <Value> are what the fields hold.
 struct Handed
 {

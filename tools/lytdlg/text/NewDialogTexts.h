@@ -7,18 +7,18 @@
 namespace lytdlg
 {
 
-// Each `@` is the name of the dialog. One that an export opens takes what that hands over, and answers in its form.
+// Each `@` is the name of the dialog. One that an export opens reads and returns texts in the form of that export.
 std::string NewDescription(const std::string& name);
 // `prefix` leads from the case to the dialog.
 std::string NewCase(const std::string& name, const std::string& prefix, const std::string& language);
 
 // The languages that a new folder gets.
 const std::vector<std::string>& KnownLanguages();
-// The head of a language file with what the library itself asks for.
+// The head of a language file with the texts that the library itself needs.
 std::string LibraryTextsOf(const std::string& language);
-// One of them, without its key; empty when it has none such.
+// One of them, without its key; empty when it has no such text.
 std::string LibraryTextIn(const std::string& language, const std::string& section, const std::string& key);
-// The lines for the section MsgBox, and for the dialog's own section. A language that is not known speaks English.
+// The lines for the section MsgBox, and for the dialog's own section. For an unknown language they are English.
 std::string NewMessages(const std::string& language);
 std::string NewTexts(const std::string& language);
 

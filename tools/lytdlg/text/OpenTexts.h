@@ -1,4 +1,4 @@
-// Texts that an editor holds and has perhaps not saved. While they are there, whoever reads a whole file or lists a folder
+// Texts that an editor holds and has perhaps not saved. While they are there, everything that reads a whole file or lists a folder
 // sees them in place of what is on the disk.
 #pragma once
 

@@ -53,7 +53,7 @@ private:
     std::vector<std::shared_ptr<const void>> m_files; // keep the files there
 };
 
-// Keeps other runs of this program out of a folder; they wait. The system gives it free when the process ends in any way.
+// Keeps other runs of this program out of a folder; they wait. The system releases it when the process ends in any way.
 class FolderLock
 {
 public:

@@ -71,7 +71,7 @@ std::string WithNumbers(const std::vector<Word>& words)
     return code;
 }
 
-// What a reader passes over, and what is in another word's place, has no form.
+// What a reader ignores, and what is in the place of another word, has no form.
 std::optional<std::string> ControlForm(const std::vector<Word>& words)
 {
     if (words.size() == 2 && IsName(words[1]))

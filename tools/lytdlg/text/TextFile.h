@@ -12,7 +12,7 @@
 namespace lytdlg
 {
 
-// Nothing for a file that cannot be read. A device or a pipe is no file: it may have no end.
+// Nothing for a file that cannot be read. A device or a pipe is not a file: it may have no end.
 std::optional<std::string> ReadWholeFile(const std::filesystem::path& name);
 
 // Every file is written beside its place and put there in one step, so that at no time it is half written. A file that is
@@ -28,7 +28,7 @@ void ReplaceWholeFile(const std::filesystem::path& name, const std::string& befo
 // Where no file is; makes its folder as well.
 void WriteNewFile(const std::filesystem::path& name, const std::string& content);
 
-// Why a file cannot be written, and the way out.
+// Why a file cannot be written, and what to do.
 std::string FailureToWrite(const std::filesystem::path& name, const std::error_code& reason);
 
 // The files of a folder with an extension, in the order of their names. Case does not count, and a folder that is not there
@@ -39,7 +39,7 @@ std::vector<std::filesystem::path> FilesIn(const std::filesystem::path& folder, 
 std::vector<std::filesystem::path> FilesBelow(const std::filesystem::path& folder,
                                               const std::vector<std::string>& extensions);
 
-// Whether the file bears the mark that it is not to be changed, whoever asks.
+// Whether the file is marked as write-protected for everybody.
 bool IsWriteProtected(const std::filesystem::path& name);
 
 // A file that is gone with its owner.
@@ -62,13 +62,13 @@ std::string ExtensionOf(const std::string& file);
 // Writes to standard output for an empty name. Throws std::runtime_error when the file cannot be written.
 void WriteOut(const std::string& file, const std::string& bytes);
 // Has another program make the file of a source: its words are -o, the file to write and the file to read. Throws
-// std::runtime_error with the way out when there is no such program.
+// std::runtime_error with a hint when there is no such program.
 void WriteByProgram(const std::string& file, std::vector<std::string> words, const std::string& source,
                     const char* wayOut);
 
 // In the order in which it is written.
 using Json = nlohmann::ordered_json;
-// To standard output. Texts are in UTF-8; bytes that are none, as a path may hold them, are replaced.
+// To standard output. Texts are in UTF-8; other bytes, which a path may contain, are replaced.
 void PrintJson(const Json& json);
 
 } // namespace lytdlg

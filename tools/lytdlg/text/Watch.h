@@ -1,4 +1,4 @@
-// Does something again whenever the files that it is about have changed.
+// Repeats something whenever its files have changed.
 #pragma once
 
 #include "lytdlg/Commands.h"
@@ -33,7 +33,7 @@ class Watch
 {
 public:
     explicit Watch(const std::vector<std::string>& operands);
-    // Returns when one of the files is another than at the last time, and no more are being written.
+    // Returns when one of the files has changed since the last time, and none is being written.
     void AwaitChange();
 
 private:
@@ -46,7 +46,7 @@ private:
     State m_seen;
 };
 
-// The option of a command that can be done again, and what it does then. It ends when it is interrupted.
+// The option of a command that can be repeated, and what it does then. It ends when it is interrupted.
 extern const commandline::OptionForm watchOption;
 ExitCode DoWatching(const Request& request, ExitCode (*act)(const Request& request));
 

@@ -1,4 +1,4 @@
-// Words of a list, marks in a text, the name of a line, and bytes that are no text.
+// Words of a list, marks in a text, the name of a line, and bytes that are not text.
 #pragma once
 
 #include "base/ClytSpan.h"
@@ -16,7 +16,7 @@ size_t CountOf(const std::string& text, const std::string& mark);
 std::string Trimmed(const std::string& text);
 std::string LineText(const ClytSpan& place);
 
-// What is wrong with bytes that do not belong into a text in code page 1252: the way out.
+// What is wrong with bytes that do not belong into a text in code page 1252: what to do.
 inline constexpr const char* saveAsAnsi = "save the file in code page 1252, which editors call ANSI or Windows-1252";
 // The same of a description or a language file.
 inline constexpr const char* encodeAsAnsi =
@@ -25,7 +25,7 @@ inline constexpr const char* encodeAsAnsi =
 
 // How many bytes of a UTF-8 sequence begin at a place; 0 when none does.
 size_t SequenceLength(const std::string& text, size_t place);
-// Whether a byte is no character of the code page; a tab is one.
+// Whether a byte is not a character of the code page; a tab is one.
 bool StandsForNothing(char ch);
 std::string HexOf(char ch);
 

@@ -1,4 +1,4 @@
-// Tells of pieces that are cut well and go into another control, or into one that does not keep them.
+// Reports pieces that are cut correctly but go into another control, or into one that does not keep them.
 #pragma once
 
 #include "lytdlg/trip/TripComparison.h"

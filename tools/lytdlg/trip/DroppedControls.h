@@ -1,4 +1,4 @@
-// Tells of controls that the input reads and the rule that held leaves out.
+// Reports controls that the input reads and the rule that held leaves out.
 #pragma once
 
 #include "lytdlg/trip/TripComparison.h"
@@ -16,7 +16,7 @@ public:
     }
 
     bool HasAny() const;
-    // False when it tells of none.
+    // False when it reports none.
     bool Tell();
 
 private:

@@ -16,7 +16,7 @@ struct TripLook
     int line = 0;                      // of the rule that gave a result; 0 for none
 };
 
-// Hears of the texts that went out.
+// Is notified of the texts that were composed.
 class Traveller
 {
 public:

@@ -7,7 +7,7 @@
 namespace lytdlg
 {
 
-// Of the controls that are locked for a reason that has a finding nothing more is said.
+// Controls that are locked for a reason that has a finding are not reported again.
 void TellLocks(TripTeller& teller, TripStage& stage, const TripPlan& plan, const std::vector<TripLook>& looks,
                std::set<std::string> locked);
 

@@ -1,4 +1,4 @@
-// Tells of items that the output cuts short, and of items that the input does not cut where they end.
+// Reports items that the output cuts short, and of items that the input does not cut where they end.
 #pragma once
 
 #include "lytdlg/trip/TripComparison.h"
@@ -18,7 +18,7 @@ public:
     // A limit of the output cuts the item off. True when the items after it may still be right.
     bool TellCut(const TripItem& item);
     // A separator that no statement cuts off makes an empty piece, and all others come one place too late. False when it
-    // tells of none.
+    // reports none.
     bool TellIdleCut();
     // The scan ended before the item.
     void TellEnd(const TripItem& item);

@@ -7,7 +7,7 @@ namespace lytdlg
 {
 
 void TryNested(TripTeller& teller, TripStage& stage, const TripPlan& plan);
-// Whether a dialog of the folder takes what this one answers apart, and hands it back in the form that this one reads.
+// Whether a dialog of the folder can read what this one returns, and returns it in the form that this one reads.
 bool ReturnsThroughCaller(const Case& judged, TripStage& stage, const TripPlan& plan);
 
 } // namespace lytdlg

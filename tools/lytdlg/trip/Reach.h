@@ -9,7 +9,7 @@ namespace lytdlg
 
 struct OutOfReach
 {
-    std::set<std::string> controls; // that it tells of
+    std::set<std::string> controls; // that it reports
     std::set<std::string> certain;  // of these, the ones that the input reads where the output writes them
 };
 

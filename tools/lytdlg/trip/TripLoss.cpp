@@ -78,7 +78,7 @@ private:
         return !m_compared.Plan().Find(item.name)->mark.empty() && item.limit > cut.length;
     }
 
-    // Its control holds the value all the same, and the pieces after it go astray.
+    // Its control still holds the value, and the pieces after it go into wrong controls.
     bool IsTornByChance(const TripItem& item) const
     {
         const TripCut* cut = m_compared.CutAt(item);

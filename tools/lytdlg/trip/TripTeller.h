@@ -15,7 +15,7 @@ struct TripSide
     ClytSpan place;
     std::string message;
     std::string hint;
-    ClytSpan fixPlace = {}; // where the one text that mends it goes
+    ClytSpan fixPlace = {}; // where the one text that fixes it goes
     std::string fixed = {}; // empty where it takes more than that
 };
 
@@ -28,8 +28,8 @@ enum class TripBlame
     Both // either, also where another text of the rule has come back
 };
 
-// Collects what trials find, and adds it at their end: of a rule and a line once, and nothing about a line that other rules
-// warn of already.
+// Collects what trials find, and adds it at their end: each rule once for a line, and nothing for a line about which other
+// rules warn already.
 class TripTeller
 {
 public:
@@ -62,7 +62,7 @@ public:
         m_fitting[inputLine].insert(m_outputLine);
     }
     bool HasFindings() const { return !m_losses.empty() || !m_misfits.empty(); }
-    // What was collected counts no more.
+    // Forgets what was collected.
     void Forget();
     void AddFindings();
     const Case& Judged() const { return m_judged; }

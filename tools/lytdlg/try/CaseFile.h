@@ -1,7 +1,7 @@
-// Golden cases as a person writes them: a dialog, what is done to it, and what is expected.
+// Test cases as a person writes them: a dialog, what is done to it, and what is expected.
 //
 //     # a comment
-//     dialog: ../dialogs/lytInSym.dlg        paths are seen from the file's folder
+//     dialog: ../dialogs/lytInSym.dlg        paths are relative to the file's folder
 //
 //     case: a unit needs decimal places
 //     input: S1:area(2,m2)
@@ -58,7 +58,7 @@ struct GoldenCase
     std::vector<CaseStep> steps;
 };
 
-// Raises script::FileError, with place and way out, at the first mistake.
+// Raises script::FileError, with place and hint, at the first mistake.
 std::vector<GoldenCase> ReadCases(const std::string& file, const std::vector<std::string>& lines);
 
 // An expectation as a line of a file has it.

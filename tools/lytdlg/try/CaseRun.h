@@ -1,4 +1,4 @@
-// Carries a case out and compares what comes of it to what is expected.
+// Runs a case and compares its outcome to what is expected.
 #pragma once
 
 #include "lytdlg/try/CaseFile.h"

@@ -169,7 +169,7 @@ Taking TakingOf(const ClytControl& control, const CString& value)
     int index = 0;
     while (index < values->GetCount() && values->GetAt(index) != value)
         ++index;
-    // The search in a list ends two items before the last, and finds a single one all the same.
+    // The search in a list ends two items before the last, but finds a single one.
     const bool isLate = combo == nullptr && values->GetCount() > 1 && index + 2 >= values->GetCount();
     return index < values->GetCount() && isLate ? Taking::OutOfReach : takenIf(index < values->GetCount());
 }

@@ -39,9 +39,9 @@ struct DialogState
     const ControlState* Find(const std::string& name) const;
 };
 
-// Looks at an open dialog, and changes nothing of it.
+// Reads an open dialog without changing it.
 DialogState LookAt(const TrialDialog& dialog);
-// The same of one control.
+// The same for one control.
 ControlState LookAt(const TrialDialog& dialog, ClytControl& control);
 
 // The value of a control, without the side effects that asking a list without a choice has; nothing without a value.

@@ -1,4 +1,4 @@
-// What a description says line by line, read once more for whoever explains a dialog.
+// What a description says line by line, read once more to explain a dialog.
 #pragma once
 
 #include "lytdlg/try/Recorder.h"

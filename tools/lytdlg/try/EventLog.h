@@ -11,7 +11,7 @@ enum class EventKind
 {
     Message, // the text of a message box, in the code page of the dialogs
     Dialog,  // a nested dialog was opened or closed
-    Trace    // what the dialog did without a word
+    Trace    // what the dialog did silently
 };
 
 struct Event

@@ -42,7 +42,7 @@ class ItemsLibrary : public ClytOwnLibraries
 {
 public:
     explicit ItemsLibrary(const std::vector<ItemsOption>& options);
-    // What a control is given is made up, and no library of another maker is loaded.
+    // What a control receives is invented, and no foreign library is loaded.
     using Invent = std::function<std::vector<std::string>(const ClytControl& control)>;
     explicit ItemsLibrary(Invent inventor);
     ItemsLibrary(const ItemsLibrary&) = delete;
@@ -57,7 +57,7 @@ public:
     bool Owns(HMODULE library) const override;
     FARPROC Find(HMODULE library, const char* function) override;
 
-    // What the functions that Find gives come to.
+    // What the functions that Find returns do.
     void Start(const std::string& parameter);
     const LibraryItem* Next();
     std::string TextFor(const std::string& parameter) const;

@@ -1,4 +1,4 @@
-// Hears what a dialog does without a word, for as long as it lives, and passes on which control asks its library.
+// Is notified of what a dialog does silently, as long as it lives, and reports which control asks its library.
 #pragma once
 
 #include "lytdlg/try/ItemsLibrary.h"

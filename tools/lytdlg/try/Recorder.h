@@ -23,7 +23,7 @@ struct RuleRecord
     std::string control;
     std::string word; // VISIBLE, ACTIVE, CLEAR, FILL or any other
     int line = 0;
-    std::vector<TestedCondition> conditions = {}; // those that were looked at
+    std::vector<TestedCondition> conditions = {}; // those that were tested
     bool isOn = false;                            // what a state rule set; whether an event rule acted
     bool isEvent = false;
     const ClytControl* target = nullptr; // gone with its dialog
@@ -85,9 +85,9 @@ public:
     void EventDecided(const ClytControlDep& rule, ClytEvent event) override;
     void OutputChosen(const ClytDialogOutput* rule) override;
 
-    // What is heard from now on is not traced.
+    // Later reports are not traced.
     void EndTrace() { m_log = nullptr; }
-    // What was heard of scans so far counts no more.
+    // Forgets what was reported about scans so far.
     void ForgetScan();
     const std::vector<RuleRecord>& Rules() const { return m_rules; }
     const std::vector<FillRecord>& Fills() const { return m_fills; }

@@ -77,7 +77,7 @@ std::vector<std::string> OfferedBy(const TrialDialog& dialog, ClytControl& contr
                    " has it, where the keys would land; --trace shows the rules that run on the way");
 }
 
-// The value of the item or option that shows a text, where the text is no value itself.
+// The value of the item or option that shows a text, where the text is not a value itself.
 std::string ValueOfShown(const TrialDialog& dialog, ClytControl& control, const std::string& text)
 {
     const std::vector<std::string> values = OfferedBy(dialog, control);

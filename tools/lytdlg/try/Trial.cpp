@@ -178,7 +178,7 @@ void Trial::Answer(HWND box)
     robot::Press(GetDlgItem(box, IDOK));
 }
 
-// One dialog a turn, the innermost first; a window that is no described dialog, such as the catalogue, is cancelled.
+// One dialog a turn, the innermost first; a window without a description, such as the catalogue, is cancelled.
 void Trial::LeaveAll()
 {
     if (!m_isLeaving && !m_open.empty())

@@ -1,4 +1,4 @@
-// Opens a dialog as the exports do, works it as a user does, one act after the other, and tells what came of it.
+// Opens a dialog as the exports do, operates it as a user does, act by act, and reports the outcome.
 #pragma once
 
 #include "lytdlg/try/Act.h"
@@ -14,7 +14,7 @@
 namespace lytdlg
 {
 
-// What a user cannot do, for a reason that the text tells.
+// What a user cannot do, for the reason in the text.
 class ActError : public std::runtime_error
 {
 public:

@@ -1,4 +1,4 @@
-// A described dialog as the library runs it, which tells who watches it what became of it.
+// A described dialog as the library runs it, which reports its outcome to a watcher.
 #pragma once
 
 #include "dialog/ClytDialog.h"
@@ -37,13 +37,13 @@ public:
     const std::string& DescriptionFile() const { return m_file; }
     // The type word of a control.
     const std::string& TypeOf(const ClytControl& control) const { return m_types.at(&control); }
-    // The name in the layout, which OK and Cancel do not know of themselves.
+    // The name in the layout, which OK and Cancel do not know themselves.
     const std::string& NameOf(const ClytControl& control) const { return m_names.at(&control); }
     // The line of its statement.
     int LineOf(const ClytControl& control) const { return m_lines.at(&control); }
     // Between the last act and the end of the window.
     bool IsEnding() const { return m_isEnding; }
-    // Ends the dialog without a result, as closing it does, but past what rules and tree make of that.
+    // Ends the dialog without a result, as closing it does, but without the effects on rules and tree.
     void Leave();
 
 protected:

@@ -35,7 +35,7 @@ Setup SetupOf(const commandline::Request& request);
 // "LIST=FILE".
 ItemsOption ItemsOptionOf(const std::string& text);
 
-// Reads a whole file; a text that is no UTF-8 counts as one in the code page of the dialogs, and comes as UTF-8 too.
+// Reads a whole file; a text that is not UTF-8 counts as one in the code page of the dialogs; it is returned as UTF-8, too.
 std::string ReadUtf8File(const std::string& name);
 
 // The library's environment while it lives.

@@ -1,4 +1,4 @@
-// One trial of a command, with all that hears of it.
+// One trial of a command, with everything that records it.
 #pragma once
 
 #include "lytdlg/try/DialogFacts.h"
@@ -10,7 +10,7 @@ namespace lytdlg
 
 struct TrialRun
 {
-    // With a trace, the log has what the dialog did without a word.
+    // With a trace, the log has what the dialog did silently.
     TrialRun(const Setup& setup, bool isTraced)
         : items(setup.items), recorder(items, isTraced ? &events : nullptr), trial(setup, events), traced(isTraced)
     {
@@ -22,7 +22,7 @@ struct TrialRun
     const Outcome& Run(const std::vector<script::Step>& acts, const Look& look = {});
     // Prints messages, nested dialogs and trace in their order.
     void PrintEvents() const;
-    // Prints why the dialog was not opened, and gives the exit code for it.
+    // Prints why the dialog was not opened, and returns the exit code for it.
     int PrintFailure() const;
 
     EventLog events;
