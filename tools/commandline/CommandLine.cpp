@@ -261,8 +261,9 @@ std::string HelpText(const ProgramForm& program)
 std::string HelpText(const ProgramForm& program, const std::string& command)
 {
     const CommandForm& form = CommandOf(program, command);
-    const std::string text = std::string("usage: ") + program.name + " " + form.word + " " + form.operands + "\n\n" +
-                             form.meaning + "\n\noptions:\n";
+    const std::string operands = *form.operands != '\0' ? std::string(" ") + form.operands : "";
+    const std::string text =
+        std::string("usage: ") + program.name + " " + form.word + operands + "\n\n" + form.meaning + "\n\noptions:\n";
     return text + HelpLines(form.options) + HelpLines(program.options);
 }
 

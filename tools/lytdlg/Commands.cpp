@@ -51,7 +51,7 @@ const commandline::ProgramForm& TheProgram()
     {
         commandline::ProgramForm made = {
             "lytdlg",
-            "lytdlg judges, tries, tests and draws dialog descriptions without the word processor.",
+            "lytdlg checks, runs, tests and draws dialogs without a word processor.",
             {},
             {{"--help", nullptr, false, "print this text, or after a command its options"}, commandline::versionOption},
             "The program ends with 0 when all is well, with 1 when there is something to look at (findings,\n"

@@ -276,7 +276,7 @@ const LimitTable momentLimits = {
     "library\n"
     "while a call is under way: the code of the call would be gone, and the process would end. `LytStop` of the "
     "macros\n"
-    "refuses to do so.",
+    "raises an error then.",
     "what",
     momentRows,
 };

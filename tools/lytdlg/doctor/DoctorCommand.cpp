@@ -53,16 +53,16 @@ Command DoctorCommand()
          "FOLDER...",
          1,
          SIZE_MAX,
-         "judge a deployment: the library, lyt.ini, texts, dialogs and partner libraries in these folders",
+         "check a deployment: the library, lyt.ini, texts, dialogs and partner libraries in these folders",
          {{"--format", "FORMAT", false, "text (default) or json"},
           {"--library", "FILE", false, "the library, when the folders hold several or none"},
           {"--init", "FOLDER", false, "the folder of lyt.ini, likewise"},
           {"--dialogs", "FOLDER", false, "the folder of the descriptions, likewise"},
-          {"--document", "FILE", false, "a document whose log is to be judged"},
+          {"--document", "FILE", false, "a document: check that its log can be written"},
           {"--define", "WORD", false, "read the lines that this define switches on; may be given more than once"},
           {"--host", "FILE", false, "the word processor's program (default on Windows: the one that is registered)"},
           {"--partners", "FOLDER", false,
-           "a folder that Windows searches for libraries after that of the host, in place of this machine's folders; "
+           "a folder that Windows searches after that of the host, in place of this machine's folders; "
            "may be given more than once"}}},
         Doctor};
 }

@@ -63,15 +63,16 @@ ExitCode Graph(const Request& request)
 
 Command GraphCommand()
 {
-    return {{"graph",
-             "DIALOG",
-             1,
-             1,
-             "draw what depends on what in a description, for Graphviz",
-             {{"--of", "WHAT", false, "rules (else taken), scan (the states of the input) or groups (who uses which)"},
-              {"-o", "FILE", false, "a .dot file, or an .svg file by Graphviz; else the graph is printed"},
-              {"--define", "WORD", false, "switch on the lines of a define; may be given again"}}},
-            Graph};
+    return {
+        {"graph",
+         "DIALOG",
+         1,
+         1,
+         "draw what depends on what in a description, for Graphviz",
+         {{"--of", "WHAT", false, "rules (default), scan (the statements of the input) or groups (what uses which)"},
+          {"-o", "FILE", false, "a .dot file, or an .svg file by Graphviz; else the graph is printed"},
+          {"--define", "WORD", false, "switch on the lines of a define; may be given again"}}},
+        Graph};
 }
 
 } // namespace lytdlg

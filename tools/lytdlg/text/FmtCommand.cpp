@@ -83,7 +83,7 @@ Command FmtCommand()
              "PATH...",
              1,
              1000,
-             "bring descriptions into their one form; - reads the standard input",
+             "make the spacing of descriptions uniform; - reads the standard input",
              {{"--check", nullptr, false, "only list the files that would change, and end with 1 if there are any"}}},
             Format};
 }

@@ -33,7 +33,7 @@ Command NewCommand()
              "NAME",
              1,
              1,
-             "begin a dialog: a description, its texts in every language and a golden case",
+             "begin a dialog: a description, its texts in every language and a test case",
              {{"-o", "FOLDER", false, "the folder of the dialogs (the current one)"}}},
             New};
 }

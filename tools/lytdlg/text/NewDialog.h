@@ -1,4 +1,4 @@
-// A small complete dialog to begin with: its description, its texts in every language, and a golden case.
+// A small complete dialog to begin with: its description, its texts in every language, and a test case.
 #pragma once
 
 #include <filesystem>

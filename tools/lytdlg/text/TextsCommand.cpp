@@ -195,7 +195,7 @@ Command TextsCommand()
              1,
              1,
              "compare the language files with each other and with the dialogs; 1 when a text is missing",
-             {{"--format", "FORMAT", false, "text (as without it) or json"},
+             {{"--format", "FORMAT", false, "text (default) or json"},
               {"--encode", nullptr, false,
                "convert language files and dialogs from UTF-8 or UTF-16 into the code page of the library"}}},
             Texts};

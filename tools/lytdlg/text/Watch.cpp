@@ -29,7 +29,7 @@ fs::path FolderOf(const fs::path& file)
 } // namespace
 
 const commandline::OptionForm watchOption = {"--watch", nullptr, false,
-                                             "do it again whenever a file of the folder changes, until Ctrl-C"};
+                                             "repeat whenever a file of the folder changes, until Ctrl-C"};
 
 Watch::Watch(const std::vector<std::string>& operands)
 {

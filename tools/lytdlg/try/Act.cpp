@@ -45,7 +45,7 @@ const std::vector<commandline::OptionForm>& ActOptions()
         {"--unmark", nameAndValue, false, "take the mark off again"},
         {"--ok", nullptr, false, "press OK of the dialog on top"},
         {"--cancel", nullptr, false, "press Cancel of the dialog on top"},
-        {scriptOption, "FILE", false, "the acts of a file, one a line: set NAME = VALUE, press NAME, ok"},
+        {scriptOption, "FILE", false, "acts from a file, one on each line: set NAME = VALUE, press NAME, ok"},
     };
     return options;
 }

@@ -231,8 +231,10 @@ Command ComposeCommand()
 Command RoundtripCommand()
 {
     return {{"roundtrip", "DIALOG", 1, 1, "take texts apart and compose them again, and print those that change",
-             SetupOptionsAnd({{"--inputs", "FILE", false, "a text a line; lines that begin with '#' are comments"},
-                              {"--generate", nullptr, false, "texts of all choices, and of what may be typed"}})},
+             SetupOptionsAnd({{"--inputs", "FILE", false,
+                               "a file with one text on each line; lines that begin with '#' are comments"},
+                              {"--generate", nullptr, false,
+                               "generated texts: all choices, and separators, quotes and brackets in each field"}})},
             Roundtrip};
 }
 

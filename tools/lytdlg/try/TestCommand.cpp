@@ -139,7 +139,7 @@ Command TestCommand()
              "FOLDER|FILE...",
              1,
              many,
-             "carry out golden cases, NAME.case, and tell what differs",
+             "run the test cases NAME.case, and print what differs",
              {{"--update", nullptr, false, "write what was seen into the files in place of what was expected"},
               watchOption}},
             Test};

@@ -95,7 +95,8 @@ const std::vector<commandline::OptionForm>& SetupOptions()
         {"--define", "WORD", false, "switch on the lines of a define; may be given again"},
         {"--language", "NAME", false, "the texts of lang/NAME.nls (as lyt.ini says)"},
         {"--init", "FOLDER", false, "where lyt.ini is (looked for near the dialogs)"},
-        {"--items", "LIST=FILE", false, "what a data library delivers to a list or field"},
+        {"--items", "LIST=FILE", false,
+         "a file with the items that a data library would deliver to this list or field"},
     };
     return options;
 }

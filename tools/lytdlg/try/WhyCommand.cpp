@@ -29,7 +29,7 @@ ExitCode Why(const Request& request)
 
 Command WhyCommand()
 {
-    return {{"why", "DIALOG CONTROL", 2, 2, "tell why a control is hidden, disabled or empty", TrialOptions()}, Why};
+    return {{"why", "DIALOG CONTROL", 2, 2, "explain why a control is hidden, disabled or empty", TrialOptions()}, Why};
 }
 
 } // namespace lytdlg
