@@ -58,7 +58,7 @@ TEST(Against, EveryVersionTheCorpusMakesTheSameOfItsTexts)
         EXPECT_EQ(CheckAgainst(version, folder.Path(), {"--update"}).code, 0);
         fs::copy_file(folder.File(name), records / name, fs::copy_options::overwrite_existing);
     }
-    ASSERT_TRUE(fs::exists(records / ("lyt64-" + version + ".json")));
+    EXPECT_TRUE(fs::exists(records / ("lyt64-" + version + ".json"))) << "LYT_UPDATE=1 in front writes it";
     for (const fs::directory_entry& record : fs::directory_iterator(records))
     {
         const std::string name = record.path().filename().string();

@@ -57,7 +57,8 @@ import pathlib, sys
 file = pathlib.Path(sys.argv[1])
 start = b"\xBD\x04\xEF\xFE\0\0\x01\0"
 record = file.read_bytes().index(start) + len(start)
-file.write_bytes(file.read_bytes()[:record] + b"\x01\0" + file.read_bytes()[record + 2:])
+minor = file.read_bytes()[record] + 1
+file.write_bytes(file.read_bytes()[:record] + bytes([minor, 0]) + file.read_bytes()[record + 2:])
 END
 for name in package package-next; do (cd "$drive/$name" && sha256sum -- *.dll *.exe >SHA256SUMS); done
 old=$drive/package/lyt64.dll
