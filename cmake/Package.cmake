@@ -24,7 +24,7 @@ else()
 endif()
 
 # Pages for those who use the library. What is not handed out cannot be linked to.
-set(lyt_not_handed_out "\\.\\./tests/[^)\n]*|(architecture|benchmarks|contributing|reliability|selftest)\\.md")
+set(lyt_not_handed_out "\\.\\./tests/[^)\n]*|(architecture|benchmarks|contributing|reliability|selftest|workbench)\\.md")
 foreach(page
     README accessibility acts deployment descriptions editors exports first-dialog from-other-languages glossary limits lytcall lytdlg
     lytdlg-rules macros partners report support symptoms versions)

@@ -8,6 +8,7 @@ import { Stage } from "./dialog/stage";
 import { showTools } from "./dialog/tools";
 import { find, say } from "./dom";
 import { Client, startEngine } from "./engine/client";
+import type { Initialized } from "./engine/contract";
 import { Mirror } from "./engine/mirror";
 import { unpacked } from "./files/codepage";
 import { bytesOf, Files, isDescription } from "./files/files";
@@ -138,7 +139,8 @@ async function start(): Promise<void> {
   });
 
   const capabilities = { textDocument: { completion: { completionItem: { snippetSupport: true } } } };
-  void client.ask("initialize", { processId: null, rootUri: null, capabilities });
+  const greeting = client.ask<Initialized>("initialize", { processId: null, rootUri: null, capabilities });
+  void greeting.then(({ capabilities: able }) => editor.useKinds(able.semanticTokensProvider.legend.tokenTypes));
   client.tell("initialized", {});
   const kept = (await stateIn(window.location.hash)) ?? readKept();
   if (kept && Object.keys(kept.files).length > 0) {

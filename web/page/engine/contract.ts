@@ -46,6 +46,10 @@ export interface Proposal {
   insertTextFormat?: number;
 }
 
+export interface Initialized {
+  capabilities: { semanticTokensProvider: { legend: { tokenTypes: string[] } } };
+}
+
 export interface Area {
   x: number;
   y: number;

@@ -7,9 +7,8 @@ import { fileURLToPath, pathToFileURL } from "node:url";
 import puppeteer from "puppeteer-core";
 
 const file = fileURLToPath(new URL("../out/workbench.html", import.meta.url));
-export const address = pathToFileURL(file).href;
 
-export async function startBrowser() {
+export async function startBrowser(address = pathToFileURL(file).href) {
   const browser = await puppeteer.launch({ executablePath: "/usr/bin/chromium", args: ["--no-sandbox"] });
   return {
     // A page that knows nothing of those before it. What it asked for from elsewhere and what went wrong in it is kept.

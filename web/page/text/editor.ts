@@ -11,7 +11,7 @@ import { lineOf, type Range } from "../engine/contract";
 import { positionOf, spanOf } from "../engine/places";
 import { isDescription, isLanguageFile, uriOf } from "../files/files";
 import { Findings } from "./findings";
-import { highlighting, names, namesEffect } from "./highlight";
+import { highlighting, marksOf, names, namesEffect } from "./highlight";
 import { Service } from "./service";
 
 // Lines that light up because something else on the page speaks of them.
@@ -34,6 +34,7 @@ export class Editor {
   readonly view: EditorView;
   private readonly service: Service;
   private isSwitching = false;
+  private marks: Decoration[] = [];
   private timer = 0;
 
   constructor(private readonly bench: Bench) {
@@ -47,13 +48,19 @@ export class Editor {
     bench.lit.on((place) => place && this.light(place.path, [place.range], true));
   }
 
+  // The engine's names for the kinds of names.
+  useKinds(kinds: string[]): void {
+    this.marks = marksOf(kinds);
+    this.colour();
+  }
+
   private extensions(path: string): Extension {
     const kind = isDescription(path) ? "dlg" : isLanguageFile(path) ? "nls" : "other";
     const isServed = kind !== "other";
     return [
       lineNumbers(), highlightActiveLineGutter(), highlightActiveLine(), history(), drawSelection(), search({ top: true }),
       highlightSelectionMatches(), closeBrackets(), EditorState.tabSize.of(4), highlighting(kind), lit, names,
-      EditorView.contentAttributes.of({ "aria-label": `Text of ${path}`, spellcheck: "false" }),
+      EditorView.contentAttributes.of({ "aria-label": `Text of ${path}`, spellcheck: "false", tabindex: "0" }),
       isServed ? [lintGutter(), this.service.extension(path)] : [],
       keymap.of([...closeBracketsKeymap, ...defaultKeymap, ...searchKeymap, ...historyKeymap, ...completionKeymap, ...lintKeymap]),
       EditorView.updateListener.of((update) => {
@@ -108,7 +115,7 @@ export class Editor {
       .ask<{ data: number[] }>("textDocument/semanticTokens/full", { textDocument: { uri: uriOf(path) } })
       .catch(() => ({ data: [] }));
     if (doc === this.view.state.doc && path === this.bench.files.active) {
-      this.view.dispatch({ effects: namesEffect(doc, data) });
+      this.view.dispatch({ effects: namesEffect(doc, this.marks, data) });
     }
   }
 

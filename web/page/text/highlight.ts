@@ -71,9 +71,10 @@ export function highlighting(kind: "dlg" | "nls" | "other"): Extension {
   return [StreamLanguage.define({ token, languageData: { commentTokens: { line: kind === "other" ? "#" : ";" } } }), syntaxHighlighting(colours)];
 }
 
-// The kinds of names in the order in which the engine numbers them.
-const kinds = ["keyword", "type", "variable", "string", "value", "function", "namespace", "class"];
-const marks = kinds.map((kind) => Decoration.mark({ class: `tok-${kind}` }));
+// A mark for each kind of name, in the order in which the engine numbers them.
+export function marksOf(kinds: string[]): Decoration[] {
+  return kinds.map((kind) => Decoration.mark({ class: `tok-${kind}` }));
+}
 
 const setNames = StateEffect.define<DecorationSet>();
 
@@ -87,7 +88,7 @@ export const names = StateField.define<DecorationSet>({
 });
 
 // As the protocol has them: five numbers for each, relative to the one before.
-export function namesEffect(doc: Text, numbers: number[]): StateEffect<DecorationSet> {
+export function namesEffect(doc: Text, marks: Decoration[], numbers: number[]): StateEffect<DecorationSet> {
   const builder = new RangeSetBuilder<Decoration>();
   let line = 0;
   let column = 0;
