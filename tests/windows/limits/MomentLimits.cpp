@@ -272,11 +272,9 @@ constexpr Limit momentRows[] = {
 
 const LimitTable momentLimits = {
     "Calls at the wrong time",
-    "Calls should come from one thread, one at a time. This is what happens otherwise. The host must not free the "
-    "library\n"
-    "while a call is under way: the code of the call would be gone, and the process would end. `LytStop` of the "
-    "macros\n"
-    "raises an error then.",
+    "Calls should come from one thread, one at a time. This is what happens otherwise. The host must not free the\n"
+    "library while a call is under way: the code of the call would be gone, and the process would end. `LytStop`\n"
+    "of the macros raises an error then.",
     "what",
     momentRows,
 };
