@@ -1,5 +1,6 @@
 """Measures everything and writes docs/benchmarks.md; usage.txt says how it is called."""
 import argparse
+import contextlib
 import datetime
 import json
 import re
@@ -10,7 +11,7 @@ import machine
 import page
 import profiles
 import works
-from trees import ROOT, SCRATCH, Revision, Tree, WineServer
+from trees import BROWSER, GROUNDS, ROOT, SCRATCH, Revision, Tree, WineServer
 
 DOCS = ROOT / "docs"
 # Runs of each work, and how many seconds a run takes.
@@ -29,8 +30,12 @@ def run_all(trees, chosen, runs, seconds):
     return lines
 
 
+def grounds_of(pattern):
+    return BROWSER if pattern.startswith("workbench") else GROUNDS
+
+
 def chosen_works(tree, pattern):
-    chosen = [(ground, work) for ground, work in tree.works() if re.search(pattern, work)]
+    chosen = [(ground, work) for ground, work in tree.works(grounds_of(pattern)) if re.search(pattern, work)]
     if not chosen:
         sys.exit(f'measure: no work is named like "{pattern}"; `build/native/bin/bench --list` names them')
     unknown = [work for _, work in chosen if work not in works.load()]
@@ -41,8 +46,9 @@ def chosen_works(tree, pattern):
 
 def measured(tree, lines, runs, load, is_profiled):
     summary = figures.summarise(lines)
-    size = figures.spread([tree.library_size() / 1024])
-    summary["library-size"] = {"1": {"series": {"ours": size}, "ratios": {}}}
+    if not all(work.startswith("workbench") for work in summary):
+        size = figures.spread([tree.library_size() / 1024])
+        summary["library-size"] = {"1": {"series": {"ours": size}, "ratios": {}}}
     return {"date": datetime.date.today().isoformat(), "machine": machine.in_words(), "load": load, "runs": runs,
             "works": summary, "profile": profiles.of_works(tree, works.load()) if is_profiled else {}}
 
@@ -81,12 +87,13 @@ def compare(options, runs, seconds):
 
 def measure(options, runs, seconds):
     tree = Tree("working tree", ROOT)
-    tree.build()
+    grounds = grounds_of(options.only)
+    tree.build(grounds)
     is_whole = not options.quick and options.only == "."
     load = machine.load_of_others()
     if load > 0.05:
         print(f"measure: other programs take {100 * load:.0f} % of the processors; the figures will be rough ones")
-    with WineServer():
+    with WineServer() if "windows" in grounds else contextlib.nullcontext():
         lines = run_all([tree], chosen_works(tree, options.only), runs, seconds)[tree.name]
     result = measured(tree, lines, runs, load, is_whole)
     folder = DOCS if is_whole else SCRATCH

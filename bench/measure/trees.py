@@ -10,6 +10,8 @@ ROOT = pathlib.Path(__file__).resolve().parents[2]
 SCRATCH = ROOT / "build" / "measure"
 PREFIX = ROOT / "build" / "windows" / "wine"
 GROUNDS = ("native", "windows")
+# The page in a browser, which is built and measured only when it is asked for: its compiler is a large package.
+BROWSER = ("browser",)
 # Of one work in one run; those that open large dialogs take longer than asked for.
 LIMIT = 600
 
@@ -23,11 +25,13 @@ class Tree:
 
     def build(self, grounds=GROUNDS):
         for ground in grounds:
+            target = "lytengine" if ground in BROWSER else "bench"
             print(f"building {self.name}, {ground} ...", flush=True)
             log = SCRATCH / f"build-{ground}.log"
             with open(log, "w", encoding="utf-8") as output:
                 for command in (["cmake", "--preset", ground],
-                                ["cmake", "--build", "--preset", ground, "--target", "bench"]):
+                                ["cmake", "--build", "--preset", ground, "--target", target],
+                                *([["web/page/build.sh", "build/browser/bin"]] if ground in BROWSER else [])):
                     done = subprocess.run(command, cwd=self.folder, stdout=output, stderr=subprocess.STDOUT, check=False)
                     if done.returncode != 0:
                         print("\n".join(log.read_text(encoding="utf-8").splitlines()[-30:]))
@@ -35,8 +39,10 @@ class Tree:
 
     def program(self, ground):
         folder = self.folder / "build" / ground
-        native = [str(folder / "bin" / "bench")]
-        return native if ground == "native" else [str(folder / "wine-run.sh"), str(folder / "bin" / "bench.exe")]
+        programs = {"native": [str(folder / "bin" / "bench")],
+                    "windows": [str(folder / "wine-run.sh"), str(folder / "bin" / "bench.exe")],
+                    "browser": ["node", str(self.folder / "web" / "page" / "test" / "measure.mjs")]}
+        return programs[ground]
 
     def run(self, ground, *words):
         environment = {**os.environ, "LYT_WINEPREFIX": str(PREFIX), "WINE_LIMIT": str(LIMIT)}
@@ -47,9 +53,9 @@ class Tree:
             sys.exit(f"measure: {self.name}, {ground} {' '.join(map(str, words))} failed:\n{done.stdout}{done.stderr}")
         return done.stdout
 
-    def works(self):
+    def works(self, grounds=GROUNDS):
         """(ground, work) of all."""
-        return [(ground, work) for ground in GROUNDS for work in self.run(ground, "--list").split()]
+        return [(ground, work) for ground in grounds for work in self.run(ground, "--list").split()]
 
     def measure(self, ground, work, seconds):
         output = self.run(ground, "--seconds", seconds, work)

@@ -14,12 +14,12 @@ export class CasesPanel {
   private newest = 0;
 
   constructor(private readonly bench: Bench, panels: Panels) {
-    const add = button("New case from the acts", "The input, the acts and what came of them", () => void this.add());
+    const add = button("New case from the acts", "The result of the input and the acts as a case", () => void this.add());
     add.className = "tool";
     add.id = "new-case";
     this.page.append(make("div", {}, add, " ", this.counts), this.list);
     bench.files.changed.on(() => this.later());
-    bench.turned.on(() => this.later());
+    bench.files.activated.on(() => this.later());
     panels.shown.on((name) => name === "cases" && void this.run());
   }
 

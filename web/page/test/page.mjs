@@ -12,7 +12,7 @@ export async function startBrowser(address = pathToFileURL(file).href) {
   const browser = await puppeteer.launch({ executablePath: "/usr/bin/chromium", args: ["--no-sandbox"] });
   return {
     // A page that knows nothing of those before it. What it asked for from elsewhere and what went wrong in it is kept.
-    async open(end = "") {
+    async open(end = "", before = () => undefined) {
       const context = await browser.createBrowserContext();
       const page = await context.newPage();
       await page.setViewport({ width: 1366, height: 768 });
@@ -21,6 +21,7 @@ export async function startBrowser(address = pathToFileURL(file).href) {
       page.on("pageerror", (error) => trouble.push(error.message));
       page.on("console", (message) => message.type() === "error" && trouble.push(message.text()));
       page.on("request", (request) => /^(file|blob|data):/.test(request.url()) || trouble.push(request.url()));
+      await page.evaluateOnNewDocument(before);
       await page.goto(address + end);
       return new Bench(page, trouble);
     },

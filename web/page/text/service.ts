@@ -98,6 +98,6 @@ export class Service {
     const options = { tabSize: 4, insertSpaces: true };
     const edits = await this.bench.client.ask<TextEdit[] | null>("textDocument/formatting", { textDocument: { uri: uriOf(path) }, options });
     this.bench.files.edit(path, edits ?? []);
-    say(edits?.length ? "Formatted." : "The text has its form already.");
+    say(edits?.length ? "Formatted." : "The text is formatted already.");
   }
 }

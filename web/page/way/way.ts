@@ -49,7 +49,7 @@ export class WayPanel {
     const { way } = this;
     this.strip.hidden = !way || way.input === "";
     if (!way) {
-      this.page.replaceChildren(make("p", { class: "hint" }, "There is no way to show while the text is refused."));
+      this.page.replaceChildren(make("p", { class: "hint" }, "The library refuses the text, so there is nothing to show."));
       this.result.replaceChildren();
       return;
     }

@@ -44,7 +44,7 @@ export class WhyPanel {
     const target = bench.chosen;
     this.offer(target);
     if (target === undefined || !bench.find(target)) {
-      this.answer.replaceChildren(make("p", { class: "hint" }, "Alt+click on a control, or F1 in it, tells why it is as it is."));
+      this.answer.replaceChildren(make("p", { class: "hint" }, "Alt+click on a control, or F1 in it, explains its state."));
       return;
     }
     const why = await bench.client.ask<Why>("lytdlg/why", { ...bench.trial, target }).catch((failure: Error) => failure);
