@@ -41,8 +41,9 @@ install(FILES
 configure_file(docs/package.md.in ${CMAKE_BINARY_DIR}/package/README.md @ONLY)
 install(FILES ${CMAKE_BINARY_DIR}/package/README.md CHANGELOG.md LICENSE SECURITY.md DESTINATION .)
 # The terms of what is inside our programs, as the packages bring them that it was taken from.
+set(LYT_TERMS /usr/share/doc CACHE PATH "The folder with a file PACKAGE/copyright for each")
 foreach(package gcc-mingw-w64-x86-64-posix-runtime mingw-w64-x86-64-dev nlohmann-json3-dev)
-  install(FILES /usr/share/doc/${package}/copyright DESTINATION licences RENAME ${package}.txt)
+  install(FILES ${LYT_TERMS}/${package}/copyright DESTINATION licences RENAME ${package}.txt)
 endforeach()
 
 install(CODE "set(lyt_scripts ${CMAKE_SOURCE_DIR}/scripts)\nset(lyt_version ${PROJECT_VERSION})")
