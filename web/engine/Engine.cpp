@@ -34,9 +34,22 @@ extern "C" EMSCRIPTEN_KEEPALIVE const char* lytengine_take(const char* message)
 {
     static std::string text;
     Sent() = lytdlg::Json::array();
-    TheServer().Receive(message);
-    while (TheServer().HasWork())
-        TheServer().Work();
-    text = Sent().dump();
+    try
+    {
+        TheServer().Receive(message);
+        while (TheServer().HasWork())
+            TheServer().Work();
+    }
+    catch (const std::exception& failure)
+    {
+        Sent().push_back({{"jsonrpc", "2.0"},
+                          {"method", "window/logMessage"},
+                          {"params", {{"type", 1}, {"message", failure.what()}}}});
+    }
+    catch (CException* failure)
+    {
+        failure->Delete();
+    }
+    text = lytdlg::TextOf(Sent());
     return text.c_str();
 }

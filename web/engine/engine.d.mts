@@ -1,4 +1,5 @@
 export interface Engine {
+  restart(): Promise<void>;
   take(message: unknown): unknown[];
   write(path: string, bytes: Uint8Array): void;
   read(path: string): Uint8Array;

@@ -5,17 +5,29 @@ export const programFolder = "/lytdlg";
 
 // Opens the module that lytengine.mjs makes, with the bytes of lytengine.wasm.
 export async function openEngine(createModule, wasmBinary) {
-  const module = await createModule({ wasmBinary });
-  module.FS.mkdirTree(programFolder);
-  module.FS.symlink(`${programFolder}/lytdlg`, "/proc/self/exe");
-  return new Engine(module);
+  const engine = new Engine(async () => {
+    const module = await createModule({ wasmBinary });
+    module.FS.mkdirTree(programFolder);
+    module.FS.symlink(`${programFolder}/lytdlg`, "/proc/self/exe");
+    return module;
+  });
+  await engine.restart();
+  return engine;
 }
 
 class Engine {
+  #create;
   #module;
 
-  constructor(module) {
-    this.#module = module;
+  constructor(create) {
+    this.#create = create;
+  }
+
+  // After `take` has thrown, which only a failure of the module itself makes it do: begins anew, with the files as they are.
+  async restart() {
+    const files = this.#module ? this.list("/").map((path) => [path, this.read(path)]) : [];
+    this.#module = await this.#create();
+    for (const [path, bytes] of files) this.write(path, bytes);
   }
 
   // Gives the messages that the server sends, in their order.
@@ -44,13 +56,13 @@ class Engine {
     this.#module.FS.unlink(path);
   }
 
-  // The files below a folder, by their whole paths.
+  // The files below a folder, by their whole paths; not those of the system.
   list(folder) {
     const { FS } = this.#module;
     const paths = [];
     for (const name of FS.readdir(folder)) {
       const path = `${folder === "/" ? "" : folder}/${name}`;
-      if (name === "." || name === "..") continue;
+      if ([".", "..", "/dev", "/proc", "/tmp"].includes(folder === "/" ? path : name)) continue;
       if (FS.isDir(FS.stat(path).mode)) paths.push(...this.list(path));
       else paths.push(path);
     }

@@ -13,7 +13,7 @@ namespace
 
 void Write(const Json& message)
 {
-    commandline::WriteBytes(WithHeader(message.dump(-1, ' ', false, Json::error_handler_t::replace)));
+    commandline::WriteBytes(WithHeader(TextOf(message)));
     std::fflush(stdout);
 }
 

@@ -27,6 +27,9 @@ void to_json(Json& json, const Proposals& proposals);
 void to_json(Json& json, const DrawnTrial& drawn);
 Json JsonOf(const Finding& finding, const std::string& uri);
 
+// A message as it is sent. A byte that is no UTF-8, as file names may have, is the replacement character.
+std::string TextOf(const Json& message);
+
 // The kinds of words that an editor colours, and words in five numbers each.
 Json TokenLegend();
 Json TokensOf(const std::vector<NamedWord>& words);

@@ -1,6 +1,7 @@
 import assert from "node:assert/strict";
 import { after, before, test } from "node:test";
 
+import { openEngine } from "../engine.mjs";
 import { Pair } from "./pair.mjs";
 
 const count = Number(process.env.LYT_COUNT);
@@ -26,17 +27,43 @@ test("every case of the samples passes, and is played and explained alike", asyn
     const { cases } = (await pair.ask("lytdlg/cases", { textDocument })).result;
     for (const { passed, input, language, items, acts, name: title } of cases) {
       assert.ok(passed, title);
-      for (const dpi of [96, 120]) {
-        const play = { textDocument, input, language, items, dpi, acts };
-        const { result } = await pair.ask("lytdlg/play", play);
-        await pair.ask("lytdlg/way", play);
-        await pair.ask("lytdlg/draw", play);
-        await pair.ask("lytdlg/newCase", { ...play, name: "again" });
-        for (const { target } of result.dialogs.at(-1)?.controls ?? [])
-          await pair.ask("lytdlg/why", { ...play, target });
-      }
+      const play = { textDocument, input, language, items, dpi: 96, svg: true };
+      await pair.ask("lytdlg/play", { ...play, acts, dpi: 120 });
+      await pair.ask("lytdlg/play", { ...play, acts });
+      await pair.ask("lytdlg/way", { ...play, acts });
+      await pair.ask("lytdlg/newCase", { ...play, acts, name: "again" });
+      const { result } = await pair.ask("lytdlg/play", { ...play, acts: acts.slice(0, -1) });
+      for (const { target } of result.dialogs.at(-1)?.controls ?? [])
+        await pair.ask("lytdlg/why", { ...play, acts: acts.slice(0, -1), target });
     }
   }
+});
+
+test("an engine whose module has failed begins anew with its files", async () => {
+  let fails = false;
+  const create = async (options) => {
+    const module = await pair.createModule(options);
+    const take = module._lytengine_take;
+    module._lytengine_take = (place) => {
+      if (fails) throw new WebAssembly.RuntimeError("unreachable");
+      return take(place);
+    };
+    return module;
+  };
+  const engine = await openEngine(create, pair.wasm);
+  engine.write("/work/dialogs/a.dlg", new Uint8Array([1, 2]));
+  fails = true;
+  assert.throws(() => engine.take({ jsonrpc: "2.0", id: 1, method: "initialize", params: {} }));
+  fails = false;
+  await engine.restart();
+  assert.deepEqual(engine.list("/"), ["/work/dialogs/a.dlg"]);
+  assert.ok("result" in engine.take({ jsonrpc: "2.0", id: 1, method: "initialize", params: {} })[0]);
+});
+
+test("what is no message, and no text, is answered alike", async () => {
+  for (const message of [1, [], {}, { id: 1 }, { id: 1, method: 2 }, { id: {}, method: "x" }, { id: 1, method: "\ud800" }, { method: "x" }])
+    await pair.take(message);
+  await pair.open("finding.dlg", "\u0000\u001a$VERSION \ud83d 1\n\u{1f600}");
 });
 
 // Numbers from 0 to 1, the same for a seed.

@@ -8,6 +8,7 @@ import { pathToFileURL } from "node:url";
 
 import { openEngine, programFolder } from "../engine.mjs";
 
+const patience = 60000 * Number(process.env.LYT_PATIENCE ?? 1); // milliseconds
 const samples = join(import.meta.dirname, "../../../samples");
 
 function filesBelow(folder) {
@@ -47,7 +48,13 @@ class Program {
   async next(count) {
     while (this.#messages.length < count) {
       assert.equal(this.process.exitCode, null, "the program has ended");
-      await new Promise((resolve) => (this.#wake = resolve));
+      await new Promise((resolve, reject) => {
+        const late = setTimeout(() => reject(new Error(`the program sends less: ${JSON.stringify(this.#messages)}`)), patience);
+        this.#wake = () => {
+          clearTimeout(late);
+          resolve();
+        };
+      });
     }
     return this.#messages.splice(0, count);
   }
@@ -59,7 +66,9 @@ export class Pair {
   static async open(engineFolder, program) {
     const { default: createModule } = await import(pathToFileURL(join(engineFolder, "lytengine.mjs")).href);
     const pair = new Pair();
-    pair.engine = await openEngine(createModule, readFileSync(join(engineFolder, "lytengine.wasm")));
+    pair.createModule = createModule;
+    pair.wasm = readFileSync(join(engineFolder, "lytengine.wasm"));
+    pair.engine = await openEngine(createModule, pair.wasm);
     pair.folder = mkdtempSync(join(tmpdir(), "lytengine-"));
     for (const room of ["dialogs", "init", "cases"]) cpSync(join(samples, room), join(pair.folder, room), { recursive: true });
     for (const path of filesBelow(pair.folder)) pair.engine.write(path, readFileSync(path));
