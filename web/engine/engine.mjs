@@ -62,7 +62,7 @@ class Engine {
     const paths = [];
     for (const name of FS.readdir(folder)) {
       const path = `${folder === "/" ? "" : folder}/${name}`;
-      if ([".", "..", "/dev", "/proc", "/tmp"].includes(folder === "/" ? path : name)) continue;
+      if ([".", ".."].includes(name) || ["/dev", "/proc", "/tmp"].includes(path)) continue;
       if (FS.isDir(FS.stat(path).mode)) paths.push(...this.list(path));
       else paths.push(path);
     }
