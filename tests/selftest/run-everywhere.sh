@@ -29,7 +29,7 @@ if [ "${2:-}" = x11 ]; then
     try win10 x11
     exit
 fi
-for version in win81 win10 win11; do
+for version in win7 win8 win81 win10 win11; do
     try $version null || bad=1
 done
 xvfb-run -a -s '-screen 0 1280x1024x24' "$here/run-everywhere.sh" "$build" x11 || bad=1

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <cctype>
+#include <cstddef>
+#include <cstring>
 #include <fstream>
 #include <iterator>
 #include <vector>
@@ -36,9 +38,10 @@ std::string LibraryOfAnotherMachine(const std::string& file)
 {
     std::ifstream stream(file, std::ios::binary);
     std::string bytes{std::istreambuf_iterator<char>(stream), std::istreambuf_iterator<char>()};
-    const size_t header = bytes.find(std::string("PE\0\0", 4));
+    LONG header = 0;
+    std::memcpy(&header, bytes.data() + offsetof(IMAGE_DOS_HEADER, e_lfanew), sizeof header);
     const WORD machine = IMAGE_FILE_MACHINE_I386;
-    bytes.replace(header + 4, sizeof machine, reinterpret_cast<const char*>(&machine), sizeof machine);
+    std::memcpy(bytes.data() + header + offsetof(IMAGE_NT_HEADERS, FileHeader.Machine), &machine, sizeof machine);
     return bytes;
 }
 
