@@ -34,6 +34,8 @@ export class Bench {
   // Another dialog, input, language or resolution, or other acts.
   readonly turned = new Signal();
   readonly drawn = new Signal<Drawn>();
+  // Whether what is drawn is about to change.
+  readonly busy = new Signal<boolean>();
   // The reason why there is nothing to draw.
   readonly failed = new Signal<string>();
   readonly refusedAct = new Signal<{ act: string; reason: string }>();
@@ -151,11 +153,13 @@ export class Bench {
 
   private async playAll(): Promise<void> {
     this.isPlaying = true;
+    this.busy.send(true);
     while (this.isStale) {
       this.isStale = false;
       await this.playOnce();
     }
     this.isPlaying = false;
+    this.busy.send(false);
   }
 
   private async playOnce(): Promise<void> {

@@ -18,6 +18,7 @@ export class Stage {
   constructor(private readonly bench: Bench) {
     this.element.append(this.box);
     bench.drawn.on((drawn) => this.render(drawn));
+    bench.busy.on((isBusy) => this.element.setAttribute("aria-busy", String(isBusy)));
     bench.turned.on(() => this.element.classList.remove("refused"));
     bench.failed.on((reason) => {
       // The last picture stays, so that the author sees where the text was right.

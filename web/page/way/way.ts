@@ -62,7 +62,9 @@ export class WayPanel {
     const pieces = way.steps.flatMap((step, index) => {
       const isCurrent = this.step === index;
       const isDone = this.step === undefined || index <= this.step;
-      const target = step.fills[0]?.target;
+      // A piece may go into several; the result shows one of them.
+      const shown = step.fills.find((fill) => way.pieces.some((piece) => piece.target === fill.target));
+      const target = (shown ?? step.fills[0])?.target;
       const title = `${step.statement}: ${step.fills.map((fill) => fill.target).join(", ") || "no control"}`;
       const state = `${isDone ? "" : " later"}${isCurrent ? " current" : ""}`;
       const piece = make("button", { type: "button", class: this.colourOf(target) + state, title }, way.input.slice(step.begin, step.end));
