@@ -82,7 +82,7 @@ async function start(): Promise<void> {
   Object.entries(partners).forEach(([path, text]) => client.write(`${programFolder}/${path}`, unpacked(text)));
   const files = new Files();
   // First, so that the engine knows a change before anything is asked about it.
-  new Mirror(client, files);
+  const mirror = new Mirror(client, files);
   const bench = new Bench(files, client);
   const editor = new Editor(bench);
   const stage = new Stage(bench);
@@ -139,9 +139,18 @@ async function start(): Promise<void> {
   });
 
   const capabilities = { textDocument: { completion: { completionItem: { snippetSupport: true } } } };
-  const greeting = client.ask<Initialized>("initialize", { processId: null, rootUri: null, capabilities });
-  void greeting.then(({ capabilities: able }) => editor.useKinds(able.semanticTokensProvider.legend.tokenTypes));
-  client.tell("initialized", {});
+  const greet = () => {
+    const greeting = client.ask<Initialized>("initialize", { processId: null, rootUri: null, capabilities });
+    void greeting.then(({ capabilities: able }) => editor.useKinds(able.semanticTokensProvider.legend.tokenTypes));
+    client.tell("initialized", {});
+  };
+  greet();
+  client.on("workbench/restarted", () => {
+    greet();
+    mirror.reopen();
+    bench.draw();
+    say("The engine has begun anew after a failure; the text is as it was.", true);
+  });
   const kept = (await stateIn(window.location.hash)) ?? readKept();
   if (kept && Object.keys(kept.files).length > 0) {
     restore(bench, kept, samples);

@@ -54,7 +54,7 @@ export class Client {
   }
 
   private receive(message: Answer): void {
-    if (message.id === undefined) {
+    if (message.method !== undefined || message.id === undefined) {
       this.heard.get(message.method ?? "")?.(message.params as never);
       return;
     }

@@ -35,6 +35,13 @@ export class Mirror {
     }
   }
 
+  // After the engine has begun anew; it has the files.
+  reopen(): void {
+    const path = this.open;
+    this.open = "";
+    this.show(path);
+  }
+
   private show(path: string): void {
     this.close(this.open);
     if (!isDescription(path) && !isLanguageFile(path)) {

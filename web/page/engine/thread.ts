@@ -1,34 +1,24 @@
-// The thread that the engine works in. Messages are taken in their order; those that come before the start wait for it.
+// The thread that the engine works in. Messages are taken in their order; those that come while the module begins wait for it.
 import createModule from "lytengine";
 import { openEngine, type Engine } from "../../engine/engine.mjs";
 
 type ToThread =
   | { kind: "start"; wasm: ArrayBuffer }
-  | { kind: "take"; message: object }
+  | { kind: "take"; message: { id?: number } }
   | { kind: "write"; path: string; bytes: Uint8Array }
   | { kind: "remove"; path: string };
 
 let engine: Engine | undefined;
-const early: ToThread[] = [];
+const waiting: ToThread[] = [];
 
-function work(engine: Engine, message: ToThread): void {
-  switch (message.kind) {
-    case "take":
-      self.postMessage(engine.take(message.message));
-      break;
-    case "write":
-      engine.write(message.path, message.bytes);
-      break;
-    case "remove":
-      engine.remove(message.path);
-      break;
-  }
-}
-
-async function start(wasm: ArrayBuffer): Promise<void> {
-  const opened = await openEngine(createModule, wasm);
-  early.splice(0).forEach((message) => work(opened, message));
-  engine = opened;
+// What waits is taken when the module is ready.
+function begin(opening: Promise<Engine>): void {
+  engine = undefined;
+  opening.then((opened) => {
+    engine = opened;
+    const early = waiting.splice(0);
+    early.forEach(receive);
+  }, fail);
 }
 
 // Where the page hears of it.
@@ -38,12 +28,28 @@ function fail(reason: unknown): void {
   });
 }
 
-self.onmessage = (event: MessageEvent<ToThread>) => {
-  if (event.data.kind === "start") {
-    start(event.data.wasm).catch(fail);
-  } else if (engine) {
-    work(engine, event.data);
-  } else {
-    early.push(event.data);
+// Only a failure of the module itself is thrown. It begins anew with its files, and the page greets it again.
+function take(opened: Engine, message: { id?: number }): void {
+  try {
+    self.postMessage(opened.take(message));
+  } catch (failure) {
+    self.postMessage([{ id: message.id, error: { message: String(failure) } }, { method: "workbench/restarted", params: {} }]);
+    begin(opened.restart().then(() => opened));
   }
-};
+}
+
+function receive(message: ToThread): void {
+  if (message.kind === "start") {
+    begin(openEngine(createModule, message.wasm));
+  } else if (!engine) {
+    waiting.push(message);
+  } else if (message.kind === "take") {
+    take(engine, message.message);
+  } else if (message.kind === "write") {
+    engine.write(message.path, message.bytes);
+  } else {
+    engine.remove(message.path);
+  }
+}
+
+self.onmessage = (event: MessageEvent<ToThread>) => receive(event.data);

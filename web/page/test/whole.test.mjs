@@ -34,6 +34,29 @@ test("a page of one file, without a request to anywhere", async () => {
   assert.equal(bench.trouble.filter((each) => !/Content Security|Fetch API/.test(each)).join("\n"), "");
 });
 
+test("a failure of the engine's module is survived, with all texts and acts", async () => {
+  const bench = await (await browser.open()).ready();
+  await bench.replaceField(bench.field("Name"), "volume");
+  await bench.waitForActs('set Name = "volume"');
+  await bench.page.waitForSelector("#stage[aria-busy=false]");
+  const [thread] = bench.page.workers();
+  // The next message is the one that fails.
+  await thread.evaluate(() => {
+    const { parse } = JSON;
+    JSON.parse = () => {
+      JSON.parse = parse;
+      throw new Error("broken");
+    };
+  });
+  await bench.replaceField(bench.field("Digits"), "1");
+  await bench.waitForText("#status", "begun anew");
+  await bench.page.click(bench.field("Ok"));
+  await bench.waitForText("#outcome", "Confirmed");
+  assert.equal(await bench.text("#result"), 'S1:volume(1,m2)="n. a."');
+  await bench.replace("Mark = HIDDEN", "Mark = HIDEN");
+  await bench.waitForText("#findings", "HIDEN");
+});
+
 test("axe has no finding, in any part of the page", async () => {
   const bench = await (await browser.open()).ready();
   const { page } = bench;
