@@ -103,6 +103,14 @@ void BenchMeter::Compare(const std::vector<BenchSeries>& series) const
     std::fflush(stdout);
 }
 
+void BenchMeter::Report(double figure) const
+{
+    std::printf(R"({"work": "%s", "size": %d, "series": {"ours": [%.1f]}})"
+                "\n",
+                m_work.c_str(), m_size, figure);
+    std::fflush(stdout);
+}
+
 int RunBenches(int argc, char** argv, const std::vector<BenchWork>& works)
 {
     std::vector<std::string> names;

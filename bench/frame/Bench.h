@@ -27,6 +27,8 @@ public:
     int Size() const { return m_size; }
     // Runs rounds for the seconds of this meter and prints the time of each series in each of them.
     void Compare(const std::vector<BenchSeries>& series) const;
+    // Prints a figure that is no time, such as a size in KB.
+    void Report(double figure) const;
 
 private:
     std::string m_work;

@@ -10,6 +10,9 @@
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
+#include <fstream>
+#include <map>
+#include <unistd.h>
 
 namespace
 {
@@ -47,6 +50,15 @@ public:
         m_server.Receive(
             Json{{"method", "textDocument/didOpen"}, {"params", {{"textDocument", {{"uri", m_uri}, {"text", text}}}}}}
                 .dump());
+        WorkOut();
+    }
+    // As an editor does that opens many at once.
+    void OpenAll(const std::map<std::string, std::string>& texts)
+    {
+        for (const auto& [path, text] : texts)
+            m_server.Receive(Json{{"method", "textDocument/didOpen"},
+                                  {"params", {{"textDocument", {{"uri", lytdlg::UriOf(path)}, {"text", text}}}}}}
+                                 .dump());
         WorkOut();
     }
     void Type(const Json& change)
@@ -112,6 +124,22 @@ void MeasureEditorCompletion(const BenchMeter& meter)
     const auto line = std::count(text.begin(), text.begin() + static_cast<ptrdiff_t>(rule), '\n');
     const Json position = {{"line", line}, {"character", std::string("Field0/ACTIVE = ").size()}};
     meter.Compare({{"ours", [&] { Discard(editor.Ask("textDocument/completion", {{"position", position}}).size()); }}});
+}
+
+// What the process holds in memory while all the dialogs are open and judged.
+void MeasureEditorMemory(const BenchMeter& meter)
+{
+    const TestFolder folder;
+    constexpr int lines = 100;
+    std::map<std::string, std::string> texts;
+    for (int index = 0; index < meter.Size(); ++index)
+        texts[folder.File("dialog" + std::to_string(index) + ".dlg")] = DescriptionOf(lines);
+    Editor editor;
+    editor.OpenAll(texts);
+    std::ifstream statistics("/proc/self/statm");
+    double pages = 0;
+    statistics >> pages >> pages;
+    meter.Report(pages * static_cast<double>(sysconf(_SC_PAGESIZE)) / 1024);
 }
 
 void MeasureEditorRename(const BenchMeter& meter)

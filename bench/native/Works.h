@@ -35,3 +35,5 @@ void MeasurePreview(const BenchMeter& meter);
 void MeasureEditorChange(const BenchMeter& meter);
 void MeasureEditorCompletion(const BenchMeter& meter);
 void MeasureEditorRename(const BenchMeter& meter);
+// The memory of a process with so many dialogs that are open and judged.
+void MeasureEditorMemory(const BenchMeter& meter);

@@ -23,5 +23,6 @@ int main(int argc, char** argv)
                           {"editor-change", {100, 500}, MeasureEditorChange},
                           {"editor-completion", {100, 500}, MeasureEditorCompletion},
                           {"editor-rename", {10, 100}, MeasureEditorRename},
+                          {"editor-memory", {500}, MeasureEditorMemory},
                       });
 }

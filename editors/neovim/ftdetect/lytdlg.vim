@@ -6,4 +6,5 @@ augroup lytdlg
   autocmd BufNewFile *.dlg,*.nls setlocal fileencoding=cp1252
   autocmd BufRead,BufNewFile *.dlg setfiletype lytdlg
   autocmd BufRead,BufNewFile *.nls setfiletype lytnls
+  autocmd BufRead,BufNewFile *.case setfiletype lytcase
 augroup END

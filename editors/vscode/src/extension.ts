@@ -12,7 +12,7 @@ export async function activate(context: vscode.ExtensionContext): Promise<void> 
     "lytdlg",
     "Dialog descriptions",
     { command: program, args: ["lsp"], transport: TransportKind.stdio },
-    { documentSelector: [{ language: "lytdlg" }, { language: "lytnls" }] },
+    { documentSelector: [{ language: "lytdlg" }, { language: "lytnls" }, { language: "lytcase" }, { pattern: "**/lyt.ini" }] },
   );
   context.subscriptions.push(client);
   await client.start();

@@ -14,8 +14,8 @@ export class Preview implements vscode.Disposable {
 
   constructor(private readonly client: LanguageClient) {
     this.listening = vscode.workspace.onDidChangeTextDocument((event) => {
-      const language = event.document.languageId;
-      if (this.panel && (language === "lytdlg" || language === "lytnls")) {
+      const isOfDialogs = /\.(dlg|nls)$|lyt\.ini$/i.test(event.document.uri.path);
+      if (this.panel && isOfDialogs) {
         void this.draw();
       }
     });

@@ -76,6 +76,29 @@ test("a name is found, shown and renamed in all its places", async () => {
   await assert.rejects(server.ask("textDocument/rename", { ...place, newName: "Unit" }), /Unit/);
 });
 
+test("a dialog is renamed with its file and with those that open it", async () => {
+  await server.open("lytRpGrp.dlg");
+  const place = server.at("lytRpGrp.dlg", "EditFinding: DIALOG", "finding");
+  const { documentChanges } = await server.ask("textDocument/rename", { ...place, newName: "remark" });
+  assert.deepEqual(documentChanges.at(-1), {
+    kind: "rename",
+    oldUri: server.uriOf("finding.dlg"),
+    newUri: server.uriOf("remark.dlg"),
+  });
+  assert.ok(documentChanges[0].edits.length > 1);
+  await assert.rejects(server.ask("textDocument/rename", { ...place, newName: "lytInSym" }), /library/);
+});
+
+test("a language file leads to the dialogs, and completes what it lacks", async () => {
+  const texts = "lang/German.nls";
+  await server.open(texts);
+  const place = server.at(texts, "Digits=", "Digits");
+  const references = await server.ask("textDocument/references", { ...place, context: { includeDeclaration: false } });
+  assert.ok(references.some((each) => each.uri === server.uriOf(name)));
+  assert.ok((await server.ask("textDocument/documentSymbol", { textDocument: place.textDocument })).length > 4);
+  assert.match(JSON.stringify(await server.ask("textDocument/hover", place)), /English/);
+});
+
 test("the text has an outline, folds, colours, links, hints and a form", async () => {
   assert.ok((await server.ask("textDocument/documentSymbol", document())).length > 4);
   assert.ok((await server.ask("textDocument/foldingRange", document())).length > 4);

@@ -27,6 +27,7 @@ export async function startServer() {
     rootUri: pathToFileURL(folder).href,
     workspaceFolders: [{ uri: pathToFileURL(folder).href, name: "dialogs" }],
     capabilities: {
+      workspace: { workspaceEdit: { documentChanges: true, resourceOperations: ["create", "rename", "delete"] } },
       textDocument: {
         codeAction: { codeActionLiteralSupport: { codeActionKind: { valueSet: ["quickfix"] } } },
         completion: { completionItem: { snippetSupport: true } },

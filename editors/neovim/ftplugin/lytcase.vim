@@ -1,0 +1,2 @@
+runtime! ftplugin/lytdlg.lua
+setlocal commentstring=#\ %s
