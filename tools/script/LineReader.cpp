@@ -114,7 +114,7 @@ size_t LineReader::NextColumn()
 
 void LineReader::FailAt(size_t column, const std::string& message) const
 {
-    throw FileError(PlaceAt(column) + message);
+    throw FileError(PlaceAt(column), m_number, column, message);
 }
 
 std::string LineReader::PlaceAt(size_t column) const

@@ -13,7 +13,14 @@ namespace script
 class FileError : public commandline::UsageError
 {
 public:
-    using UsageError::UsageError;
+    FileError(const std::string& place, int number, size_t at, const std::string& words)
+        : UsageError(place + words), line(number), column(at), message(words)
+    {
+    }
+
+    int line;
+    size_t column; // both from 1
+    std::string message;
 };
 
 // What a script or a case file holds, in UTF-8. A text that is not UTF-8 counts as one in the code page of the dialogs.

@@ -1,8 +1,11 @@
 // What an editor is answered about a place: a table of questions, lines of an example with a `|` at the place, and answers.
+// The lines are added to a description, or are the whole of the file that the question names.
 #include "ExampleFindings.h"
 
 #include "lytdlg/language/Completion.h"
-#include "lytdlg/language/Navigation.h"
+#include "lytdlg/language/Hover.h"
+#include "lytdlg/language/Places.h"
+#include "lytdlg/language/Renaming.h"
 #include "lytdlg/text/TextFile.h"
 #include "lytdlg/text/Words.h"
 #include "support/TestFolder.h"
@@ -57,28 +60,31 @@ public:
 
     std::string AnswerTo(const AskedCase& asked)
     {
-        std::string bytes = ExampleDescription(asked.lines);
+        const size_t in = asked.question.find(" in ");
+        const std::string question = asked.question.substr(0, in);
+        const bool isOther = in != std::string::npos;
+        m_path = PlainPath(m_folder.File(isOther ? asked.question.substr(in + 4) : "judged.dlg"));
+        std::string bytes = isOther ? asked.lines : ExampleDescription(asked.lines);
         const size_t place = bytes.find('|');
         bytes.erase(place, 1);
-        const TextPosition position = PositionAt(bytes, place);
+        m_workspace.Open(PlainPath(m_folder.File("judged.dlg")), commandline::ToUtf8(ExampleDescription("")));
         m_workspace.Open(m_path, commandline::ToUtf8(bytes));
-        const int line = position.line + 1;
-        const Description& description = m_workspace.DescriptionAt(m_path);
-        NamedWord word;
-        for (const NamedWord& found : WordsIn(description, line))
-        {
-            if (found.place.column <= position.character &&
-                position.character <= found.place.column + found.place.length)
-                word = found;
-        }
-        const std::string name = asked.question.substr(asked.question.find(' ') + 1);
-        return asked.question == "complete" ? Completed(description, line, position.character)
-               : asked.question == "hover"  ? Lines(ExplanationOf(m_workspace, m_path, word))
-               : asked.question == "places" ? Places(word)
-                                            : Renamed(word, name);
+        std::string answer = Answer(question, PositionAt(bytes, place));
+        m_workspace.Close(m_path);
+        return answer;
     }
 
 private:
+    std::string Answer(const std::string& question, const TextPosition& position) const
+    {
+        const NamedWord word = NameAt(m_workspace, m_path, position);
+        const std::string name = question.substr(question.find(' ') + 1);
+        return question == "complete" ? Completed(position)
+               : question == "hover"  ? Lines(ExplanationOf(m_workspace, word))
+               : question == "places" ? Places(word)
+                                      : Renamed(word, name);
+    }
+
     static std::string Lines(const std::string& text)
     {
         std::string answer;
@@ -87,10 +93,10 @@ private:
         return answer;
     }
 
-    std::string Completed(const Description& description, int line, int column) const
+    std::string Completed(const TextPosition& position) const
     {
         std::string answer;
-        for (const Proposal& proposal : ProposalsAt(description, m_workspace.SurroundingsAt(m_path), line, column).all)
+        for (const Proposal& proposal : ProposalsAt(m_workspace, m_path, position).all)
             answer += (answer.empty() ? "" : " ") + (proposal.isSnippet || proposal.insert != proposal.label
                                                          ? "{" + proposal.insert + "}"
                                                          : proposal.label);
@@ -105,7 +111,7 @@ private:
     std::string Places(const NamedWord& word) const
     {
         std::string answer;
-        for (const TextPlace& found : PlacesOf(m_workspace, m_path, word))
+        for (const TextPlace& found : PlacesOf(m_workspace, word))
             answer += ShortName(found.path) + ":" + std::to_string(found.place.line) + ":" +
                       std::to_string(found.place.column + 1) + (found.isDeclared ? " declared" : "") + "\n";
         return Lines(answer);
@@ -116,7 +122,8 @@ private:
         std::string answer;
         try
         {
-            for (const auto& [path, edits] : RenamingOf(m_workspace, m_path, word, name))
+            const Renaming renaming = RenamingOf(m_workspace, word, name);
+            for (const auto& [path, edits] : renaming.edits)
             {
                 const std::vector<std::string> lines = commandline::LinesOf(m_workspace.BytesOf(path));
                 for (const TextEdit& edit : edits)
@@ -128,6 +135,8 @@ private:
                     answer += ShortName(path) + ": " + Trimmed(line) + "\n";
                 }
             }
+            if (!renaming.file.empty())
+                answer += ShortName(renaming.file) + " becomes " + ShortName(renaming.newFile) + "\n";
         }
         catch (const RenameRefused& refused)
         {
@@ -140,7 +149,7 @@ private:
     }
 
     const TestFolder m_folder;
-    const std::string m_path = PlainPath(m_folder.File("judged.dlg"));
+    std::string m_path;
     Workspace m_workspace{{}, {}};
 };
 
@@ -161,6 +170,32 @@ TEST(Language, AnswersAboutAPlace)
     }
     if (isUpdate)
         WriteWholeFile(languageCases, table);
+}
+
+// A case presses a button that opens another dialog: the names after it are those of the controls there.
+TEST(Language, RenamesAControlInTheCasesOfCallers)
+{
+    const TestFolder folder;
+    for (const ExampleFile& file : ExampleFiles())
+        folder.Write(file.name, file.content);
+    const std::string caller =
+        PlainPath(folder.Write("caller.dlg", ExampleDescription("$VALUES\nAdd: DIALOG = inner, parent, parent\n")));
+    const std::string inner = PlainPath(folder.Write("inner.dlg", ExampleDescription("")));
+    const std::string cases = PlainPath(folder.Write(
+        "caller.case", "dialog: caller.dlg\nset Name = a\npress Add\nset Name = b\nok\nexpect Name = \"a\"\n"));
+    const Workspace workspace({}, {});
+    const auto linesOf = [&](const std::string& path)
+    {
+        std::string lines;
+        const NamedWord name = {Meaning::Control, "Name", {}, false, "", nullptr, path};
+        const Renaming renaming = RenamingOf(workspace, name, "Other");
+        for (const TextEdit& edit : renaming.edits.at(cases))
+            lines += std::to_string(edit.range.begin.line + 1) + " ";
+        return lines;
+    };
+    EXPECT_EQ(linesOf(inner), "4 ");
+    EXPECT_EQ(linesOf(caller), "2 6 ");
+    EXPECT_EQ(NameAt(workspace, cases, {3, 5}).home, inner);
 }
 
 // Every statement of the samples, word for word: no name of a control is taken for something else.

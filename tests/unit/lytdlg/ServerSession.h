@@ -16,7 +16,7 @@ class ServerSession
 public:
     using Json = lytdlg::Json;
 
-    ServerSession() { Ask("initialize", {{"capabilities", Json::object()}}); }
+    explicit ServerSession(const Json& abilities = Json::object()) { Ask("initialize", {{"capabilities", abilities}}); }
 
     // The answer, whole.
     Json Ask(const char* method, const Json& params)

@@ -378,8 +378,8 @@ TEST(LanguageServer, AnswersAboutPlaces)
 TEST(LanguageServer, AsksOfOtherTextsNothing)
 {
     ServerSession session;
-    const std::string path = samples + "lang/English.nls";
-    session.Open(path, ReadWholeFile(path).value());
+    const std::string path = TestFolder().Write("lyt.ini", "[global]\n");
+    session.Open(path, "[global]\nCurrent Language=English\n");
     Json place = ServerSession::Document(path);
     place["position"] = {{"line", 1}, {"character", 1}};
     place["range"] = ServerSession::Range(0, 0, 99, 0);
@@ -390,6 +390,70 @@ TEST(LanguageServer, AsksOfOtherTextsNothing)
                                "textDocument/foldingRange"})
         EXPECT_EQ(session.ResultOf(method, place), Json::array()) << method;
     EXPECT_EQ(session.ResultOf("textDocument/hover", place), Json());
+}
+
+// Each request about a language file and a file of cases.
+TEST(LanguageServer, AnswersInTheOtherTextsOfADialog)
+{
+    const TestFolder folder;
+    for (const ExampleFile& file : ExampleFiles())
+        folder.Write(file.name, file.content);
+    folder.Write("judged.dlg", ExampleDescription(""));
+    const std::string cases = folder.File("a.case");
+    const std::string texts = folder.File("lang/English.nls");
+    ServerSession session;
+    session.Open(cases, "dialog: judged.dlg\ncase: one\nset Name = \xE4\nset Nothing = x\ncase: two\npush Ok\n");
+    session.Open(texts, ReadWholeFile(texts).value());
+    const auto ask = [&](const std::string& path, const char* method, int line, int character)
+    {
+        Json place = ServerSession::Document(path);
+        place["position"] = {{"line", line}, {"character", character}};
+        place["context"] = {{"includeDeclaration", true}};
+        return session.ResultOf(method, place);
+    };
+    EXPECT_EQ(ask(cases, "textDocument/definition", 2, 5)[0]["uri"], UriOf(folder.File("judged.dlg")));
+    EXPECT_EQ(ask(cases, "textDocument/documentSymbol", 0, 0)[1]["name"], "two");
+    EXPECT_EQ(ask(cases, "textDocument/foldingRange", 0, 0).size(), 2U);
+    EXPECT_EQ(ask(cases, "textDocument/documentHighlight", 2, 5).size(), 1U);
+    EXPECT_EQ(ask(cases, "textDocument/semanticTokens/full", 0, 0)["data"].size(), 15U);
+    EXPECT_EQ(ask(cases, "textDocument/documentLink", 0, 0)[0]["target"], UriOf(folder.File("judged.dlg")));
+    EXPECT_FALSE(ask(cases, "textDocument/completion", 2, 4).empty());
+    const Json found = session.FindingsIn(cases);
+    ASSERT_EQ(found.size(), 2U) << found;
+    EXPECT_EQ(found[0]["range"], ServerSession::Range(3, 4, 3, 11));
+    EXPECT_EQ(found[0]["message"], "judged.dlg has no control \"Nothing\"");
+    EXPECT_EQ(found[1]["range"]["start"]["line"], 5);
+    EXPECT_NE(ask(texts, "textDocument/documentSymbol", 0, 0)[0]["children"].size(), 0U);
+    EXPECT_NE(ask(texts, "textDocument/references", 1, 1).size(), 0U);
+}
+
+TEST(LanguageServer, RenamesADialogWithThoseThatOpenIt)
+{
+    const TestFolder folder;
+    for (const ExampleFile& file : ExampleFiles())
+        folder.Write(file.name, file.content);
+    const std::string path = folder.File("a.dlg");
+    const std::string text = ExampleDescription("$VALUES\nAdd: DIALOG = other, parent, parent\n");
+    const size_t name = text.find("other, parent");
+    const TextPosition position = PositionAt(text, name);
+    const auto renamed = [&](const Json& abilities)
+    {
+        ServerSession session(abilities);
+        session.Open(path, text);
+        Json place = ServerSession::Document(path);
+        place["position"] = position;
+        place["newName"] = "second";
+        return session.Ask("textDocument/rename", place);
+    };
+    EXPECT_EQ(ErrorOf(renamed(Json::object())), -32803);
+    const Json changes =
+        renamed({{"workspace",
+                  {{"workspaceEdit", {{"resourceOperations", {"create", "rename"}}}}}}})["result"]["documentChanges"];
+    ASSERT_EQ(changes.size(), 2U) << changes;
+    EXPECT_EQ(changes[0]["edits"][0]["newText"], "second");
+    EXPECT_EQ(changes[1], (Json{{"kind", "rename"},
+                                {"oldUri", UriOf(folder.File("other.dlg"))},
+                                {"newUri", UriOf(folder.File("second.dlg"))}}));
 }
 
 // A dialog that is open in the editor is drawn as it is there, after what a user has done.

@@ -1,12 +1,9 @@
 #include "lytdlg/Commands.h"
 
 #include "commandline/Text.h"
-#include "lytdlg/draw/Snapshot.h"
-#include "lytdlg/draw/SvgPen.h"
+#include "lytdlg/draw/DrawnTrial.h"
 #include "lytdlg/text/TextFile.h"
 #include "lytdlg/text/Watch.h"
-#include "lytdlg/try/ControlState.h"
-#include "lytdlg/try/TrialRun.h"
 
 #include <algorithm>
 #include <iterator>
@@ -21,17 +18,6 @@ using commandline::UsageError;
 namespace
 {
 
-// The drawing shows what the window shows, which is not always the value.
-void TellLostTexts(const std::string& dialog, const DialogState& state)
-{
-    for (const ControlState& control : state.controls)
-    {
-        if (!control.lostText.empty())
-            TellError(dialog + ": " + ToUtf8(control.name) + " has the value " + Quoted(ToUtf8(*control.value)) + "; " +
-                      DescribeLostText(control));
-    }
-}
-
 // Opens the dialog as a call does, looks at it, and closes it again.
 ExitCode DrawDialog(const Request& request)
 {
@@ -39,24 +25,25 @@ ExitCode DrawDialog(const Request& request)
     const std::string target = request.Text("-o", "");
     if (!target.empty() && ExtensionOf(target) != ".svg")
         throw UsageError("\"" + target + "\" is no kind of picture; the name ends in .svg");
-    const Resolution resolution(request.Number("--dpi", PixelsPerInch()));
-    const SvgStyle style = {request.Has("--names"), request.Has("--tabs")};
-    TrialRun run(SetupOf(request), false);
-    const auto draw = [&](const TrialDialog& open)
+    const DrawnTrial drawn =
+        DrawAfter(SetupOf(request), "", request.Number("--dpi", 0), {request.Has("--names"), request.Has("--tabs")});
+    if (drawn.outcome.ending == Ending::NotOpened)
     {
-        WriteOut(target, "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n" + DrawSvg(See(open), style));
-        TellLostTexts(dialog, LookAt(open));
-    };
-    const Outcome& outcome = run.Run({}, draw);
-    if (outcome.ending == Ending::NotOpened)
-    {
-        TellError(dialog +
-                  ": the library refuses it: " + ToUtf8(outcome.failureNumber + ": " + outcome.failureMessage));
+        TellError(dialog + ": the library refuses it: " +
+                  ToUtf8(drawn.outcome.failureNumber + ": " + drawn.outcome.failureMessage));
         return found;
     }
-    for (const Event& event : run.events)
-        TellError(dialog + ": shows a message while it opens: " + ToUtf8(event.text));
-    return run.events.empty() ? good : found;
+    WriteOut(target, "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n" + drawn.svg);
+    // The drawing shows what the window shows, which is not always the value.
+    for (const auto& [seen, state] : drawn.controls)
+    {
+        if (!state.lostText.empty())
+            TellError(dialog + ": " + ToUtf8(state.name) + " has the value " + Quoted(ToUtf8(*state.value)) + "; " +
+                      DescribeLostText(state));
+    }
+    for (const std::string& message : drawn.messages)
+        TellError(dialog + ": shows a message while it opens: " + ToUtf8(message));
+    return drawn.messages.empty() ? good : found;
 }
 
 ExitCode Preview(const Request& request)

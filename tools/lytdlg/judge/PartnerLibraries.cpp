@@ -31,6 +31,17 @@ const Partner* PartnerLibraries::Find(const std::string& fileName)
     return nullptr;
 }
 
+std::vector<std::string> PartnerLibraries::Names() const
+{
+    std::vector<std::string> names;
+    for (const std::filesystem::path& folder : m_surroundings.folders)
+    {
+        for (const std::filesystem::path& file : FilesIn(folder, ".dll"))
+            names.push_back(commandline::ToAnsi(file.stem().string()));
+    }
+    return names;
+}
+
 Partner PartnerLibraries::Read(const std::filesystem::path& file) const
 {
     const ExportTable table = ReadExports(ReadWholeFile(file).value_or(""));

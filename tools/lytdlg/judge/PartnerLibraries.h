@@ -21,6 +21,8 @@ public:
 
     // Whether there are folders to look in.
     bool AreKnown() const { return !m_surroundings.folders.empty(); }
+    // Of the libraries in the folders, as descriptions have them.
+    std::vector<std::string> Names() const;
     // By the name of its file; null when no folder holds it.
     const Partner* Find(const std::string& fileName);
 

@@ -2,7 +2,7 @@
 
 #include "commandline/Text.h"
 #include "controls/TypeWords.h"
-#include "lytdlg/language/Navigation.h"
+#include "lytdlg/language/Places.h"
 #include "lytdlg/text/TextFile.h"
 #include "lytdlg/text/Words.h"
 

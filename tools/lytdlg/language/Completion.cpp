@@ -42,15 +42,16 @@ constexpr int rowHeight = 26; // of a form, in layout units
 class Proposer
 {
 public:
-    Proposer(const Description& description, const Surroundings& surroundings, int line, int column)
-        : m_description(description),
-          m_surroundings(surroundings),
-          m_line(description.text.Line(line)),
-          m_word(WordAt(description, line, column))
+    Proposer(const Workspace& workspace, const std::string& path, NamedWord word)
+        : m_path(path),
+          m_word(std::move(word)),
+          m_description(workspace.DescriptionAt(m_word.home)),
+          m_surroundings(workspace.SurroundingsAt(m_word.home)),
+          m_line(m_description.text.Line(KindOfText(path) == TextKind::Description ? m_word.place.line : 0)),
+          m_isFirst(m_line.number != 0 &&
+                    m_line.text.find_first_not_of(" \t") >= static_cast<size_t>(m_word.place.column))
     {
-        m_isFirst =
-            m_word.place.line != 0 && m_line.text.find_first_not_of(" \t") >= static_cast<size_t>(m_word.place.column);
-        if (m_word.text.starts_with('$') || (m_line.section == Section::Head && m_isFirst))
+        if (m_line.number != 0 && (m_word.text.starts_with('$') || (m_line.section == Section::Head && m_isFirst)))
             m_word.meaning = Meaning::SectionWord;
     }
 
@@ -73,11 +74,12 @@ private:
         case Meaning::TypeWord: AddTypes(); break;
         case Meaning::TextSection: AddTextSections(); break;
         case Meaning::TextKey:
-            AddTexts(m_description.TextSection());
+            AddTexts(m_word.scope);
             if (m_line.section == Section::Values)
                 AddKeywords();
             break;
         case Meaning::Message: AddTexts(messageSection); break;
+        case Meaning::CaseWord: AddAll(ProposalKind::Word, CaseWords()); break;
         case Meaning::Item:
         case Meaning::Control: AddControls(); break;
         case Meaning::Keyword: AddKeywords(); break;
@@ -162,10 +164,31 @@ private:
 
     void AddTexts(const std::string& section)
     {
-        for (const std::string& language : m_surroundings.texts.Languages())
+        for (const LanguageFile& file : m_surroundings.texts.Files())
         {
-            for (const LanguageKey& key : m_surroundings.texts.Keys(language, section))
-                Add(ProposalKind::Text, key.name, key.text);
+            for (const LanguageKey& key : m_surroundings.texts.Keys(file.Language(), section))
+                PlainPath(file.FileName()) == m_path ? Hide(key.name) : Add(ProposalKind::Text, key.name, key.text);
+        }
+        if (KindOfText(m_path) == TextKind::Texts)
+            AddShownTexts(section);
+    }
+
+    // What a language file already has is not offered to it.
+    void Hide(const std::string& label)
+    {
+        m_known.insert(label);
+        std::erase_if(m_proposals, [&](const Proposal& proposal) { return proposal.label == label; });
+    }
+
+    void AddShownTexts(const std::string& section)
+    {
+        for (const DescriptionTexts& texts : m_surroundings.descriptions.All())
+        {
+            for (const ShownText& shown : texts.uses)
+            {
+                if (IsSameName(shown.section, section))
+                    Add(ProposalKind::Text, shown.key, "shown by " + texts.fileName);
+            }
         }
     }
 
@@ -217,7 +240,7 @@ private:
         }
         if (m_line.section == Section::Values)
             AddKeywords();
-        else if (m_line.section != Section::Input)
+        else if (m_line.number != 0 && m_line.section != Section::Input)
             Add(ProposalKind::Word, lytTextOf(ClytValueWord::Null));
         if (m_line.section == Section::Dependencies)
             Add(ProposalKind::Word, lytTextOf(ClytValueWord::NotNull));
@@ -245,10 +268,11 @@ private:
         return calls;
     }
 
-    // The library itself and those that the description calls already.
+    // The library itself, those that are found, and those that the description calls already.
     void AddLibraries()
     {
         Add(ProposalKind::Name, "lyt64.dll");
+        AddAll(ProposalKind::Name, m_surroundings.partners->Names());
         for (const PartnerCall& call : OtherCalls())
             Add(ProposalKind::Name, call.library);
     }
@@ -264,20 +288,22 @@ private:
         }
     }
 
-    const Description& m_description;
-    const Surroundings& m_surroundings;
-    const SourceLine& m_line;
+    const std::string& m_path;
     NamedWord m_word;
-    bool m_isFirst = false; // in its line
+    const Description& m_description; // the home of the word
+    const Surroundings& m_surroundings;
+    const SourceLine& m_line; // of the description, if the place is in it
+    const bool m_isFirst;     // in its line
     std::vector<Proposal> m_proposals;
     std::set<std::string> m_known;
 };
 
 } // namespace
 
-Proposals ProposalsAt(const Description& description, const Surroundings& surroundings, int line, int column)
+Proposals ProposalsAt(const Workspace& workspace, const std::string& path, const TextPosition& position)
 {
-    return Proposer(description, surroundings, line, column).Make();
+    NamedWord word = WordAt(workspace, path, position);
+    return word.home.empty() ? Proposals() : Proposer(workspace, path, std::move(word)).Make();
 }
 
 void RemoveSnippets(Proposals& proposals)

@@ -1,8 +1,7 @@
-// What can be written at a place of a description.
+// What can be written at a place of a text.
 #pragma once
 
-#include "lytdlg/language/NamedWord.h"
-#include "lytdlg/language/Workspace.h"
+#include "lytdlg/language/FileWords.h"
 
 namespace lytdlg
 {
@@ -34,8 +33,8 @@ struct Proposals
     std::vector<Proposal> all = {};
 };
 
-// The line counts from 1, the column from 0.
-Proposals ProposalsAt(const Description& description, const Surroundings& surroundings, int line, int column);
+// What can be written at a place of a text.
+Proposals ProposalsAt(const Workspace& workspace, const std::string& path, const TextPosition& position);
 
 // For an editor that cannot fill places in a text.
 void RemoveSnippets(Proposals& proposals);

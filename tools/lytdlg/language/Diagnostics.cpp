@@ -1,5 +1,7 @@
 #include "lytdlg/language/Diagnostics.h"
 
+#include "lytdlg/language/FileWords.h"
+
 #include <algorithm>
 
 namespace lytdlg
@@ -61,6 +63,8 @@ std::set<std::string> Diagnostics::Judge(const std::string& path)
     note();
     kept.clear();
     const bool isJudged = m_workspace.Find(path) != nullptr || m_included.contains(path);
+    if (isJudged && KindOfText(path) == TextKind::Cases)
+        kept = FindingsInCases(m_workspace, path);
     if (isJudged && KindOfText(path) == TextKind::Description)
     {
         Findings findings = lytdlg::Judge(m_workspace.DescriptionAt(path), m_workspace.SurroundingsAt(path));

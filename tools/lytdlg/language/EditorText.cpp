@@ -3,7 +3,6 @@
 #include "commandline/Text.h"
 
 #include <algorithm>
-#include <map>
 
 namespace lytdlg
 {
@@ -11,55 +10,28 @@ namespace lytdlg
 namespace
 {
 
-// The text is valid, or else a byte counts as one letter.
-std::u16string UnitsOf(const std::string& utf8)
+// The bytes of a text in UTF-8, and for each whether it is the substitute of a letter that the code page lacks.
+struct ReadLetters
 {
-    std::u16string units;
-    for (size_t place = 0; place < utf8.size();)
+    std::string bytes;
+    std::string lost;
+};
+
+ReadLetters LettersOf(const std::string& utf8)
+{
+    ReadLetters read;
+    for (size_t place = 0, length = 0; place < utf8.size(); place += length)
     {
-        const size_t length = std::max<size_t>(1, commandline::LengthOfCharacter(utf8, place));
-        const auto first = static_cast<unsigned char>(utf8[place]);
-        char32_t letter = length == 1 ? first : first & (0xFFU >> (length + 1));
-        for (size_t next = 1; next < length; ++next)
-            letter = letter << 6U | (static_cast<unsigned char>(utf8[place + next]) & 0x3FU);
-        if (letter >= 0x10000)
-        {
-            units += static_cast<char16_t>(0xD800U + ((letter - 0x10000U) >> 10U));
-            letter = 0xDC00U + ((letter - 0x10000U) & 0x3FFU);
-        }
-        units += static_cast<char16_t>(letter);
-        place += length;
+        length = std::max<size_t>(1, commandline::LengthOfCharacter(utf8, place));
+        const std::string letter = utf8.substr(place, length);
+        const std::string byte = length == 1 ? letter : commandline::ToAnsi(letter);
+        const bool isLost = length > 1 && commandline::ToUtf8(byte) != letter;
+        // An editor counts a letter beyond the first plane as two.
+        const size_t units = length > 3 ? 2 : 1;
+        read.bytes += isLost ? std::string(units, '?') : byte;
+        read.lost += std::string(isLost ? units : 1, isLost ? '1' : '0');
     }
-    return units;
-}
-
-const std::map<char16_t, char>& CodePage()
-{
-    static const std::map<char16_t, char> page = []
-    {
-        std::map<char16_t, char> made;
-        for (unsigned byte = 1; byte < 256; ++byte)
-            made.emplace(UnitsOf(commandline::ToUtf8(std::string(1, static_cast<char>(byte)))).front(),
-                         static_cast<char>(byte));
-        made.emplace(u'\0', '\0');
-        return made;
-    }();
-    return page;
-}
-
-char ByteOf(char16_t unit)
-{
-    if (unit < 0x80)
-        return static_cast<char>(unit);
-    const auto known = CodePage().find(unit);
-    return known != CodePage().end() ? known->second : '?';
-}
-
-std::string CodePageBytesOf(const std::u16string& units)
-{
-    std::string bytes(units.size(), '\0');
-    std::ranges::transform(units, bytes.begin(), ByteOf);
-    return bytes;
+    return read;
 }
 
 } // namespace
@@ -70,26 +42,25 @@ TextRange RangeOf(const ClytSpan& place)
     return {{line, place.column}, {line, place.column + place.length}};
 }
 
-EditorText::EditorText(const std::string& utf8) : m_units(UnitsOf(utf8)), m_bytes(CodePageBytesOf(m_units)) {}
+EditorText::EditorText(const std::string& utf8)
+{
+    ReadLetters read = LettersOf(utf8);
+    m_bytes = std::move(read.bytes);
+    m_lost = std::move(read.lost);
+}
 
 void EditorText::Replace(const TextRange& range, const std::string& utf8)
 {
     const size_t begin = OffsetOf(range.begin);
     const size_t length = std::max(begin, OffsetOf(range.end)) - begin;
-    const std::u16string units = UnitsOf(utf8);
-    m_units.replace(begin, length, units);
-    m_bytes.replace(begin, length, CodePageBytesOf(units));
+    const ReadLetters read = LettersOf(utf8);
+    m_bytes.replace(begin, length, read.bytes);
+    m_lost.replace(begin, length, read.lost);
 }
 
 bool EditorText::IsWhole(const TextRange& range) const
 {
-    const size_t end = OffsetOf(range.end);
-    for (size_t place = OffsetOf(range.begin); place < end; ++place)
-    {
-        if (m_bytes[place] == '?' && m_units[place] != u'?')
-            return false;
-    }
-    return true;
+    return m_lost.find('1', OffsetOf(range.begin)) >= OffsetOf(range.end);
 }
 
 size_t EditorText::OffsetOf(const TextPosition& position) const

@@ -43,8 +43,8 @@ public:
 private:
     size_t OffsetOf(const TextPosition& position) const;
 
-    std::u16string m_units;
     std::string m_bytes;
+    std::string m_lost; // as long; a 1 for each byte that is a substitute, else a 0
 };
 
 // The place of a text at which an offset is, and the whole of it.

@@ -1,8 +1,8 @@
 #include "lytdlg/language/Hints.h"
 
-#include "commandline/Text.h"
-#include "lytdlg/language/Navigation.h"
+#include "lytdlg/language/Places.h"
 #include "lytdlg/text/Paths.h"
+#include "lytdlg/text/TextFile.h"
 #include "lytdlg/try/CaseRun.h"
 
 #include <algorithm>
@@ -12,30 +12,22 @@ namespace lytdlg
 
 std::vector<Link> LinksOf(const Workspace& workspace, const std::string& path)
 {
-    const Description& description = workspace.DescriptionAt(path);
     std::vector<Link> links;
-    for (const ValueStatement& statement : description.values)
+    for (const NamedWord& word : WordsOf(workspace, path))
     {
-        if (lytMeaningOf<ClytAction>(statement.keyword.c_str()) != ClytAction::Dialog)
-            continue;
-        for (const NamedWord& word : WordsIn(description, statement.span.line))
-        {
-            const std::filesystem::path file =
-                word.meaning == Meaning::Dialog
-                    ? FileIn(PathOf(path).parent_path(), commandline::ToUtf8(word.text) + ".dlg")
-                    : std::filesystem::path();
-            if (!file.empty())
-                links.push_back({word.place, PlainPath(file.string())});
-        }
+        if (word.meaning == Meaning::Dialog && ReadWholeFile(PathOf(PathOfDialog(word))))
+            links.push_back({word.place, PathOfDialog(word)});
     }
     return links;
 }
 
 std::vector<Hint> HintsOf(const Workspace& workspace, const std::string& path, const TextRange& range)
 {
+    std::vector<Hint> hints;
+    if (KindOfText(path) != TextKind::Description)
+        return hints;
     const Description& description = workspace.DescriptionAt(path);
     const LanguageFiles& files = workspace.SurroundingsAt(path).texts;
-    std::vector<Hint> hints;
     for (const ShownText& shown : TextUsesOf(description))
     {
         const TextRange place = RangeOf(shown.place);

@@ -28,7 +28,8 @@ enum class Meaning
     Dialog,
     Library,
     Function,
-    Item // of an output rule: a control, or a text
+    Item, // of an output rule: a control, or a text
+    CaseWord
 };
 
 struct NamedWord
@@ -39,6 +40,7 @@ struct NamedWord
     bool isDeclared = false;        // this is where the name is given
     std::string scope = {};         // a value's control, a key's section, a statement's part, a function's library
     bool ClytType::*fits = nullptr; // which controls can be meant; null for all
+    std::string home = {};          // the path of the description or language file whose name it is
 };
 
 // What the word that a column touches names, or what a word there would name.
@@ -49,7 +51,7 @@ std::vector<NamedWord> AllWordsIn(const Description& description);
 // The words of the whole description that name the same.
 std::vector<NamedWord> WordsLike(const Description& description, const NamedWord& word);
 
-// Whether two words name the same, in descriptions whose texts are in the same section.
+// Whether two words name the same, if they have one home.
 bool IsSame(const NamedWord& left, const NamedWord& right);
 
 } // namespace lytdlg

@@ -1,7 +1,11 @@
 #include "lytdlg/language/Outline.h"
 
-#include "lytdlg/judge/Lists.h"
+#include "commandline/Text.h"
 #include "lytdlg/judge/StatementText.h"
+#include "lytdlg/language/FileWords.h"
+#include "lytdlg/text/Words.h"
+
+#include <algorithm>
 
 namespace lytdlg
 {
@@ -11,94 +15,104 @@ namespace
 
 Symbol HeaderSymbol(const Description& description, const SourceLine& line)
 {
-    Symbol symbol;
-    symbol.place = description.PlaceOf(line.number);
-    const std::string text = line.text.substr(0, EndOfStatement(line));
-    const size_t end = text.find_first_of(" ,\t", static_cast<size_t>(symbol.place.column));
-    symbol.name = text.substr(static_cast<size_t>(symbol.place.column), end - static_cast<size_t>(symbol.place.column));
-    const size_t detail = text.find_first_not_of(" ,\t", std::min(end, text.size()));
-    symbol.detail = detail != std::string::npos ? text.substr(detail, text.find_last_not_of(" \t") + 1 - detail) : "";
-    return symbol;
+    constexpr const char* between = " ,\t";
+    const std::string text = Trimmed(line.text.substr(0, EndOfStatement(line)));
+    const size_t end = std::min(text.find_first_of(between), text.size());
+    const size_t detail = std::min(text.find_first_not_of(between, end), text.size());
+    return {SymbolKind::Header, text.substr(0, end), text.substr(detail), description.PlaceOf(line.number), 0};
 }
 
-class Outliner
+// Of a statement that gives a name, or checks one.
+Symbol StatementSymbol(const Description& description, const SourceLine& line)
 {
-public:
-    explicit Outliner(const Description& description) : m_description(description) {}
+    const std::vector<NamedWord> words = WordsIn(description, line.number);
+    const auto isKey = [](const NamedWord& word) { return word.meaning == Meaning::TextKey; };
+    auto named = std::ranges::find_if(words, &NamedWord::isDeclared);
+    if (named == words.end() && line.section == Section::Layout)
+        named = std::ranges::find_if(words, isKey);
+    const ClytSpan place = description.PlaceOf(line.number);
+    if (line.section == Section::Evaluation && !words.empty())
+        return {SymbolKind::Check, words.front().text, words.back().text, place, line.number};
+    const bool isControl =
+        line.section == Section::Layout && !words.empty() && lytTypeOf(words.front().text).kind != ClytKind::Unknown;
+    if (named == words.end() || (!isControl && line.section != Section::Input))
+        return {};
+    return {isControl ? SymbolKind::Control : SymbolKind::Statement, named->text, isControl ? words.front().text : "",
+            place, line.number};
+}
 
-    std::vector<Symbol> Make()
+std::vector<Symbol> SymbolsOf(const Description& description)
+{
+    std::vector<Symbol> symbols;
+    for (const SourceLine& line : description.text.Lines())
+        symbols.push_back(line.isHeader ? HeaderSymbol(description, line) : StatementSymbol(description, line));
+    std::erase_if(symbols, [](const Symbol& symbol) { return symbol.name.empty(); });
+    return symbols;
+}
+
+std::vector<Symbol> SymbolsOfTexts(const Workspace& workspace, const std::string& path)
+{
+    std::vector<Symbol> symbols;
+    for (const NamedWord& word : WordsOf(workspace, path))
+        symbols.push_back({word.meaning == Meaning::TextSection ? SymbolKind::Header : SymbolKind::Text, word.text, "",
+                           word.place, word.place.line});
+    return symbols;
+}
+
+std::vector<Symbol> SymbolsOfCases(const Workspace& workspace, const std::string& path)
+{
+    std::vector<Symbol> symbols;
+    for (const GoldenCase& one : CasesIn(workspace, path).cases)
+        symbols.push_back({SymbolKind::Header, commandline::ToAnsi(one.name), "", {one.line, 0, 0}, 0});
+    return symbols;
+}
+
+std::vector<Symbol> SymbolsIn(const Workspace& workspace, const std::string& path)
+{
+    switch (KindOfText(path))
     {
-        for (const SourceLine& line : m_description.text.Lines())
-        {
-            if (!line.isHeader)
-                continue;
-            End(line.number - 1);
-            m_symbols.push_back(HeaderSymbol(m_description, line));
-        }
-        End(static_cast<int>(m_description.text.Lines().size()));
-        for (const ClytControlStatement& control : m_description.controls)
-        {
-            const CString& name = control.name.IsEmpty() ? control.text : control.name;
-            Add(SymbolKind::Control, name, control.type.GetString(), control.span.line);
-        }
-        for (const EvaluationStatement& check : m_description.evaluations)
-            Add(SymbolKind::Check, check.own.GetName(), check.messageKey, check.span.line);
-        for (const lytdlg::InputPart& input : m_description.inputs)
-        {
-            for (const ClytDialogInput* statement : Records(input.part->GetStatements()))
-                Add(SymbolKind::Statement, statement->name, "", statement->span.line);
-        }
-        return std::move(m_symbols);
+    case TextKind::Description: return SymbolsOf(workspace.DescriptionAt(path));
+    case TextKind::Texts: return SymbolsOfTexts(workspace, path);
+    case TextKind::Cases: return SymbolsOfCases(workspace, path);
+    case TextKind::Other: break;
     }
-
-private:
-    void End(int line)
-    {
-        if (!m_symbols.empty())
-            m_symbols.back().lastLine = line;
-    }
-
-    // To the section that the line is in.
-    void Add(SymbolKind kind, const CString& name, const std::string& detail, int line)
-    {
-        Symbol symbol = {kind, name.GetString(), detail, m_description.PlaceOf(line), line, {}};
-        if (symbol.name.empty())
-            symbol.name = detail;
-        for (Symbol& section : m_symbols)
-        {
-            if (!symbol.name.empty() && section.place.line <= line && line <= section.lastLine)
-            {
-                section.inner.push_back(std::move(symbol));
-                return;
-            }
-        }
-    }
-
-    const Description& m_description;
-    std::vector<Symbol> m_symbols;
-};
+    return {};
+}
 
 } // namespace
 
-std::vector<Symbol> OutlineOf(const Description& description)
+std::vector<Symbol> OutlineOf(const Workspace& workspace, const std::string& path)
 {
-    return Outliner(description).Make();
+    std::vector<Symbol> outline;
+    for (Symbol& symbol : SymbolsIn(workspace, path))
+    {
+        const bool isHeader = symbol.kind == SymbolKind::Header;
+        if (isHeader && !outline.empty())
+            outline.back().lastLine = symbol.place.line - 1;
+        (isHeader || outline.empty() ? outline : outline.back().inner).push_back(std::move(symbol));
+    }
+    if (!outline.empty())
+        outline.back().lastLine = static_cast<int>(commandline::LinesOf(workspace.BytesOf(path)).size());
+    return outline;
 }
 
-std::vector<Fold> FoldsOf(const Description& description)
+std::vector<Fold> FoldsOf(const Workspace& workspace, const std::string& path)
 {
+    const std::vector<std::string> lines = commandline::LinesOf(workspace.BytesOf(path));
     std::vector<Fold> folds;
     const auto add = [&](int first, int last)
     {
-        while (last > first && description.PlaceOf(last).length == 0)
+        while (last > first && Trimmed(lines.at(static_cast<size_t>(last - 1))).empty())
             --last;
         if (last > first)
             folds.push_back({first, last});
     };
-    for (const Symbol& section : OutlineOf(description))
+    for (const Symbol& section : OutlineOf(workspace, path))
         add(section.place.line, section.lastLine);
+    if (KindOfText(path) != TextKind::Description)
+        return folds;
     int opening = 0;
-    for (const SwitchMark& mark : description.text.Marks())
+    for (const SwitchMark& mark : workspace.DescriptionAt(path).text.Marks())
     {
         if (!mark.isOpening && opening != 0)
             add(opening, mark.place.line);

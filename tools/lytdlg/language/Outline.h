@@ -1,8 +1,7 @@
-// What an editor shows of a description as a whole: its parts in a tree, and what can be folded.
+// What an editor shows of a text as a whole: its parts in a tree, and what can be folded.
 #pragma once
 
-#include "lytdlg/judge/Description.h"
-#include "lytdlg/language/EditorText.h"
+#include "lytdlg/language/Workspace.h"
 
 namespace lytdlg
 {
@@ -13,6 +12,7 @@ enum class SymbolKind
     Header = 3,    // as a namespace
     Statement = 6, // of the input; as a method
     Control = 8,   // as a field
+    Text = 15,     // of a language file; as a string
     Check = 24     // as an event
 };
 
@@ -21,13 +21,13 @@ struct Symbol
     SymbolKind kind = SymbolKind::Header;
     std::string name;
     std::string detail;
-    ClytSpan place; // of its line
+    ClytSpan place;
     int lastLine = 0;
-    std::vector<Symbol> inner;
+    std::vector<Symbol> inner = {};
 };
 
-// A section, or a part of one, for each header.
-std::vector<Symbol> OutlineOf(const Description& description);
+// A section of a description or a language file, or a case.
+std::vector<Symbol> OutlineOf(const Workspace& workspace, const std::string& path);
 
 // Lines of the file, from 1.
 struct Fold
@@ -37,6 +37,6 @@ struct Fold
 };
 
 // The same, and the lines that a define switches.
-std::vector<Fold> FoldsOf(const Description& description);
+std::vector<Fold> FoldsOf(const Workspace& workspace, const std::string& path);
 
 } // namespace lytdlg

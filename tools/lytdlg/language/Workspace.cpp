@@ -9,7 +9,10 @@ namespace lytdlg
 TextKind KindOfText(const std::string& path)
 {
     const std::string extension = ExtensionOf(path);
-    return extension == ".dlg" ? TextKind::Description : extension == ".nls" ? TextKind::Texts : TextKind::Other;
+    return extension == ".dlg"    ? TextKind::Description
+           : extension == ".nls"  ? TextKind::Texts
+           : extension == ".case" ? TextKind::Cases
+                                  : TextKind::Other;
 }
 
 std::string PlainPath(const std::string& path)

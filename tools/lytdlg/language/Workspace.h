@@ -12,6 +12,7 @@ enum class TextKind
 {
     Description,
     Texts, // a language file
+    Cases,
     Other
 };
 

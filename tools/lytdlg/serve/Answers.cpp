@@ -1,7 +1,8 @@
 #include "commandline/CommandLine.h"
 #include "commandline/Text.h"
-#include "lytdlg/language/LanguageHelp.h"
-#include "lytdlg/language/Navigation.h"
+#include "lytdlg/language/Hover.h"
+#include "lytdlg/language/Places.h"
+#include "lytdlg/language/Renaming.h"
 #include "lytdlg/serve/Requests.h"
 #include "lytdlg/text/Paths.h"
 #include "lytdlg/text/TextFile.h"
@@ -109,28 +110,14 @@ TextPosition PositionIn(const Json& params)
     return params.at("position").get<TextPosition>();
 }
 
-// As references have it: an item of the output that names a control is one.
 NamedWord WordIn(const Session& session, const Json& params)
 {
-    const TextPosition position = PositionIn(params);
-    const Description& description = session.DescriptionIn(params);
-    const int line = std::clamp(position.line, 0, static_cast<int>(description.text.Lines().size())) + 1;
-    for (NamedWord& word : WordsIn(description, line))
-    {
-        if (word.place.column <= position.character && position.character <= word.place.column + word.place.length)
-            return std::move(word);
-    }
-    return {};
+    return NameAt(session.workspace, PathIn(params), PositionIn(params));
 }
 
 Json Completion(Session& session, const Json& params)
 {
-    const TextPosition position = PositionIn(params);
-    const Description& description = session.DescriptionIn(params);
-    if (position.line < 0 || position.line >= static_cast<int>(description.text.Lines().size()))
-        return Json::array();
-    Proposals proposals = ProposalsAt(description, session.workspace.SurroundingsAt(PathIn(params)), position.line + 1,
-                                      position.character);
+    Proposals proposals = ProposalsAt(session.workspace, PathIn(params), PositionIn(params));
     if (!session.Can("/textDocument/completion/completionItem/snippetSupport"))
         RemoveSnippets(proposals);
     return proposals;
@@ -138,19 +125,7 @@ Json Completion(Session& session, const Json& params)
 
 Json Hover(Session& session, const Json& params)
 {
-    const std::string path = PathIn(params);
-    const TextPosition position = PositionIn(params);
-    const NamedWord word = WordIn(session, params);
-    const Section section = session.DescriptionIn(params).text.Line(word.place.line).section;
-    std::string text = HelpOn(word, section);
-    if (text.empty())
-        text = commandline::ToUtf8(ExplanationOf(session.workspace, path, word));
-    for (const Finding& finding : session.diagnostics.Of(path))
-    {
-        const TextRange range = RangeOf(finding.place);
-        if (range.begin <= position && position <= range.end)
-            text += (text.empty() ? "" : "\n\n---\n\n") + ("```text\n" + Explanation(*finding.rule)) + "```\n";
-    }
+    const auto [word, text] = HoverAt(session.workspace, session.diagnostics, PathIn(params), PositionIn(params));
     if (text.empty())
         return {};
     Json hover = {{"contents", {{"kind", "markdown"}, {"value", text}}}};
@@ -169,7 +144,7 @@ enum class Places
 Json Locations(const Session& session, const Json& params, Places wanted)
 {
     Json locations = Json::array();
-    for (const TextPlace& found : PlacesOf(session.workspace, PathIn(params), WordIn(session, params)))
+    for (const TextPlace& found : PlacesOf(session.workspace, WordIn(session, params)))
     {
         if (wanted == Places::All || found.isDeclared == (wanted == Places::Declared))
             locations.push_back({{"uri", session.UriFor(found.path)}, {"range", RangeOf(found.place)}});
@@ -194,7 +169,7 @@ Json Highlights(Session& session, const Json& params)
     const NamedWord word = WordIn(session, params);
     if (word.meaning == Meaning::Nothing)
         return highlights;
-    for (const NamedWord& found : WordsLike(session.DescriptionIn(params), word))
+    for (const NamedWord& found : WordsLike(session.workspace, PathIn(params), word))
         highlights.push_back({{"range", RangeOf(found.place)}});
     return highlights;
 }
@@ -214,6 +189,23 @@ Json WorkspaceEdit(const Session& session, const EditsByPath& edits)
 namespace
 {
 
+// With versions unknown, as the changes of a text are when a file gets another name after them.
+Json WorkspaceEdit(const Session& session, const Renaming& renaming)
+{
+    if (renaming.file.empty())
+        return WorkspaceEdit(session, renaming.edits);
+    const Json known =
+        session.abilities.value(Json::json_pointer("/workspace/workspaceEdit/resourceOperations"), Json());
+    if (std::ranges::find(known, "rename") == known.end())
+        throw RenameRefused("this editor cannot rename the file of a dialog");
+    Json changes = Json::array();
+    for (const auto& [path, list] : renaming.edits)
+        changes.push_back({{"textDocument", {{"uri", session.UriFor(path)}, {"version", nullptr}}}, {"edits", list}});
+    changes.push_back(
+        {{"kind", "rename"}, {"oldUri", session.UriFor(renaming.file)}, {"newUri", UriOf(renaming.newFile)}});
+    return {{"documentChanges", std::move(changes)}};
+}
+
 Json PrepareRename(Session& session, const Json& params)
 {
     const NamedWord word = WordIn(session, params);
@@ -224,7 +216,7 @@ Json PrepareRename(Session& session, const Json& params)
 Json Rename(Session& session, const Json& params)
 {
     const std::string name = commandline::ToAnsi(params.at("newName").get<std::string>());
-    return WorkspaceEdit(session, RenamingOf(session.workspace, PathIn(params), WordIn(session, params), name));
+    return WorkspaceEdit(session, RenamingOf(session.workspace, WordIn(session, params), name));
 }
 
 Json CodeActions(Session& session, const Json& params)
@@ -268,15 +260,17 @@ Json Links(Session& session, const Json& params)
 
 Json Lenses(Session& session, const Json& params)
 {
-    const Description& description = session.DescriptionIn(params);
-    if (!description.hasDialogHeader)
+    const std::string path = PathIn(params);
+    const Description* description =
+        KindOfText(path) == TextKind::Description ? &session.workspace.DescriptionAt(path) : nullptr;
+    if (description == nullptr || !description->hasDialogHeader)
         return Json::array();
-    const std::string uri = session.UriFor(PathIn(params));
-    const TextPosition begin = {std::max(0, description.dialogHeader.line - 1), 0};
+    const std::string uri = session.UriFor(path);
+    const TextRange place = RangeOf({description->dialogHeader.line, 0, 0});
     const Json run = {{"title", "run"}, {"command", "lytdlg.run"}, {"arguments", {uri}}};
-    Json lenses = Json::array({{{"range", TextRange{begin, begin}}, {"command", run}}});
-    if (!CasesOf(session.workspace, PathIn(params)).empty())
-        lenses.push_back({{"range", TextRange{begin, begin}}, {"data", uri}});
+    Json lenses = Json::array({{{"range", place}, {"command", run}}});
+    if (!CasesOf(session.workspace, path).empty())
+        lenses.push_back({{"range", place}, {"data", uri}});
     return lenses;
 }
 
@@ -336,10 +330,10 @@ const std::vector<Method>& Methods()
          [](Session& session, const Json& params) { return Json(FormattingOf(session.workspace, PathIn(params))); },
          "documentFormattingProvider"},
         {"textDocument/documentSymbol",
-         [](Session& session, const Json& params) { return Json(OutlineOf(session.DescriptionIn(params))); },
+         [](Session& session, const Json& params) { return Json(OutlineOf(session.workspace, PathIn(params))); },
          "documentSymbolProvider"},
         {"textDocument/foldingRange",
-         [](Session& session, const Json& params) { return Json(FoldsOf(session.DescriptionIn(params))); },
+         [](Session& session, const Json& params) { return Json(FoldsOf(session.workspace, PathIn(params))); },
          "foldingRangeProvider"},
         {"textDocument/completion",
          Completion,
@@ -353,7 +347,7 @@ const std::vector<Method>& Methods()
         {"textDocument/rename", Rename, "renameProvider", {{"prepareProvider", true}}},
         {"textDocument/documentLink", Links, "documentLinkProvider", Json::object()},
         {"textDocument/semanticTokens/full",
-         [](Session& session, const Json& params) { return TokensOf(AllWordsIn(session.DescriptionIn(params))); },
+         [](Session& session, const Json& params) { return TokensOf(WordsOf(session.workspace, PathIn(params))); },
          "semanticTokensProvider",
          {{"legend", TokenLegend()}, {"full", true}}},
         {"textDocument/inlayHint",

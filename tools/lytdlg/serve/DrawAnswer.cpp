@@ -18,7 +18,7 @@ Json JsonOfControl(const DrawnControl& control, size_t number)
             {"type", commandline::ToUtf8(seen.type)},
             {"place", {{"x", place.left}, {"y", place.top}, {"width", place.width}, {"height", place.height}}},
             {"text", commandline::ToUtf8(seen.text)},
-            {"value", control.value ? Json(commandline::ToUtf8(*control.value)) : Json()},
+            {"value", control.state.value ? Json(commandline::ToUtf8(*control.state.value)) : Json()},
             {"items", std::move(items)},
             {"enabled", seen.isEnabled},
             {"shown", seen.isShown}};
@@ -44,14 +44,10 @@ void to_json(Json& json, const DrawnTrial& drawn)
 
 Json Draw(Session& session, const Json& params)
 {
-    Setup setup{PathIn(params)};
-    setup.input = commandline::ToAnsi(params.value("input", ""));
-    setup.language = commandline::ToAnsi(params.value("language", ""));
-    setup.defines = session.defines;
     std::string acts;
     for (const Json& act : params.value("acts", Json::array()))
         acts += act.get<std::string>() + "\n";
-    const DrawnTrial drawn = DrawAfter(setup, acts, params.value("dpi", 0));
+    const DrawnTrial drawn = DrawAfter(SetupIn(session, params), acts, params.value("dpi", 0));
     if (drawn.outcome.ending == Ending::NotOpened)
         throw std::runtime_error(
             "the library refuses the dialog: " +

@@ -96,11 +96,10 @@ std::string TextOf(const Json& message)
 Json TokenLegend()
 {
     // In the order of the meanings.
-    return {
-        {"tokenTypes",
-         {"comment", "keyword", "type", "string", "string", "string", "variable", "keyword", "keyword", "enumMember",
-          "keyword", "keyword", "function", "namespace", "namespace", "class", "class", "function", "variable"}},
-        {"tokenModifiers", {"declaration"}}};
+    return {{"tokenTypes", {"comment",   "keyword", "type",       "string",   "string",   "string",   "variable",
+                            "keyword",   "keyword", "enumMember", "keyword",  "keyword",  "function", "namespace",
+                            "namespace", "class",   "class",      "function", "variable", "keyword"}},
+            {"tokenModifiers", {"declaration"}}};
 }
 
 Json TokensOf(const std::vector<NamedWord>& words)

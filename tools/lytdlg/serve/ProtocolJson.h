@@ -1,8 +1,8 @@
 // What the service has, in the words of the protocol.
 #pragma once
 
+#include "lytdlg/draw/DrawnTrial.h"
 #include "lytdlg/language/Completion.h"
-#include "lytdlg/language/DrawnTrial.h"
 #include "lytdlg/language/Edits.h"
 #include "lytdlg/language/Hints.h"
 #include "lytdlg/language/Outline.h"

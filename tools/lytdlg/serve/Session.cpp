@@ -1,5 +1,6 @@
 #include "lytdlg/serve/Session.h"
 
+#include "commandline/Text.h"
 #include "lytdlg/text/Uri.h"
 
 namespace lytdlg
@@ -44,6 +45,18 @@ const Description& Session::DescriptionIn(const Json& params) const
 std::string PathIn(const Json& params)
 {
     return PlainPath(PathOfUri(params.at("textDocument").at("uri").get<std::string>()));
+}
+
+Setup SetupIn(const Session& session, const Json& params)
+{
+    Setup setup{PathIn(params)};
+    setup.input = commandline::ToAnsi(params.value("input", ""));
+    setup.language = commandline::ToAnsi(params.value("language", ""));
+    setup.defines = session.defines;
+    const Json items = params.value("items", Json::object());
+    for (const auto& [list, uri] : items.items())
+        setup.items.push_back({commandline::ToAnsi(list), PlainPath(PathOfUri(uri.get<std::string>()))});
+    return setup;
 }
 
 } // namespace lytdlg

@@ -41,8 +41,9 @@ struct Session
 };
 
 Json WorkspaceEdit(const Session& session, const EditsByPath& edits);
-// The path of the text that a request is about.
+// What a request is about: the path of its text, and what it tries that dialog with.
 std::string PathIn(const Json& params);
+Setup SetupIn(const Session& session, const Json& params);
 
 // A method of the protocol, what answers it, and what the client is promised about it.
 struct Method

@@ -3,7 +3,7 @@
 #include "controls/TypeWords.h"
 #include "lytdlg/language/CaseEdits.h"
 #include "lytdlg/language/LayoutEdits.h"
-#include "lytdlg/language/Navigation.h"
+#include "lytdlg/language/Places.h"
 #include "lytdlg/serve/Requests.h"
 #include "lytdlg/text/Uri.h"
 #include "lytdlg/try/CaseRun.h"
@@ -135,18 +135,6 @@ Json ConditionsJson(const std::vector<TestedCondition>& conditions)
         json.push_back({{"text", condition.text}, {"holds", holds}});
     }
     return json;
-}
-
-Setup SetupIn(const Session& session, const Json& params)
-{
-    Setup setup{PathIn(params)};
-    setup.input = commandline::ToAnsi(params.value("input", ""));
-    setup.language = commandline::ToAnsi(params.value("language", ""));
-    setup.defines = session.defines;
-    const Json items = params.value("items", Json::object());
-    for (const auto& [list, uri] : items.items())
-        setup.items.push_back({commandline::ToAnsi(list), PlainPath(PathOfUri(uri.get<std::string>()))});
-    return setup;
 }
 
 Play PlayIn(const Session& session, const Json& params)

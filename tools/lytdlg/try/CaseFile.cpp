@@ -38,7 +38,40 @@ public:
     {
     }
 
-    void Read(LineReader line)
+    void Read(const LineReader& line)
+    {
+        KeepMistake([&] { ReadLine(line); });
+    }
+
+    CaseText Take()
+    {
+        std::vector<GoldenCase>& cases = m_text.cases;
+        if (cases.empty())
+            cases.push_back(m_common);
+        for (const GoldenCase& one : cases)
+        {
+            if (one.setup.dialog.empty())
+                KeepMistake(
+                    [&] { LineReader(m_file, one.line, "").Fail("the case names no dialog; write dialog: FILE.dlg"); });
+        }
+        return std::move(m_text);
+    }
+
+private:
+    template <class READ>
+    void KeepMistake(const READ& read)
+    {
+        try
+        {
+            read();
+        }
+        catch (const script::FileError& mistake)
+        {
+            m_text.mistakes.push_back(mistake);
+        }
+    }
+
+    void ReadLine(LineReader line)
     {
         if (line.IsAtEnd())
             return;
@@ -48,34 +81,35 @@ public:
         else if (word == "expect")
             AddExpectation(line);
         else if (const script::StepForm* form = FindForm(word, script::Player::OfDescriptions))
-            Steps().push_back({line.Number(), true, ReadStep(*form, line, script::Player::OfDescriptions), {}});
+            AddAct(*form, line);
         else
             ReadHeader(word, line);
     }
 
-    std::vector<GoldenCase> TakeCases()
+    void AddAct(const script::StepForm& form, LineReader& line)
     {
-        if (m_cases.empty())
-            m_cases.push_back(m_common);
-        for (const GoldenCase& one : m_cases)
-        {
-            if (one.setup.dialog.empty())
-                LineReader(m_file, one.line, "").Fail("the case names no dialog; write dialog: FILE.dlg");
-        }
-        return std::move(m_cases);
+        const size_t column = line.NextColumn();
+        const script::Step act = ReadStep(form, line, script::Player::OfDescriptions);
+        if (act.target.kind == script::TargetKind::Name)
+            AddControl(act.target.name, line, column);
+        Steps().push_back({line.Number(), true, act, {}});
     }
 
-private:
+    void AddControl(const std::string& name, const LineReader& line, size_t column)
+    {
+        m_text.names.push_back({false, name, Current().setup.dialog, line.Number(), column - 1});
+    }
+
     void BeginCase(LineReader& line)
     {
         line.Expect(':', "write: case: what it shows");
         GoldenCase begun = m_common;
         begun.name = line.Text();
         begun.line = line.Number();
-        m_cases.push_back(std::move(begun));
+        m_text.cases.push_back(std::move(begun));
     }
 
-    GoldenCase& Current() { return m_cases.empty() ? m_common : m_cases.back(); }
+    GoldenCase& Current() { return m_text.cases.empty() ? m_common : m_text.cases.back(); }
     std::vector<CaseStep>& Steps() { return Current().steps; }
 
     // A path as the case file sees it.
@@ -90,9 +124,10 @@ private:
         Setup& setup = Current().setup;
         if (word == "items")
         {
-            const std::string control = AsAnsi(line.Word("the name of a list"));
+            const std::string control = line.Word("the name of a list");
+            AddControl(control, line, line.Column());
             line.Expect('=', "write: items LIST = FILE");
-            setup.items.push_back({control, Resolved(line.Text())});
+            setup.items.push_back({AsAnsi(control), Resolved(line.Text())});
             return;
         }
         if (!Has(headerWords, word))
@@ -100,7 +135,11 @@ private:
         line.Expect(':', "write: " + word + ": text");
         const std::string text = line.Text();
         if (word == "dialog")
+        {
             setup.dialog = Resolved(text);
+            m_text.names.push_back({true, PathOf(text).stem().string(), setup.dialog, line.Number(),
+                                    line.Column() - 1 + text.find_last_of("/\\") + 1});
+        }
         else if (word == "input")
             setup.input = AsAnsi(text);
         else if (word == "define")
@@ -113,15 +152,12 @@ private:
 
     [[noreturn]] static void FailUnknown(const std::string& word, size_t column, const LineReader& line)
     {
-        std::vector<std::string> known = headerWords;
-        known.emplace_back("expect");
-        std::ranges::copy(script::ActWords(), std::back_inserter(known));
-        line.FailAt(column, "there is no word \"" + word + "\"; " + commandline::Suggestion(word, known));
+        line.FailAt(column, "there is no word \"" + word + "\"; " + commandline::Suggestion(word, CaseWords()));
     }
 
     void AddExpectation(LineReader& line) { Steps().push_back({line.Number(), false, {}, ReadExpectation(line)}); }
 
-    static Expectation ReadExpectation(LineReader& line)
+    Expectation ReadExpectation(LineReader& line)
     {
         const std::string word = line.Word("what is expected");
         if (word == "message")
@@ -135,6 +171,7 @@ private:
         }
         if (line.IsAtEnd() || word == "not")
             return ReadEnding(word, line);
+        AddControl(word, line, line.Column());
         Expectation expectation{ExpectationKind::Value, AsAnsi(word), "", line.Place()};
         ReadOfControl(line, expectation);
         return expectation;
@@ -182,18 +219,34 @@ private:
 
     std::string m_file;
     GoldenCase m_common;
-    std::vector<GoldenCase> m_cases;
+    CaseText m_text;
 };
 
 } // namespace
 
-std::vector<GoldenCase> ReadCases(const std::string& file, const std::vector<std::string>& lines)
+CaseText ReadCaseText(const std::string& file, const std::vector<std::string>& lines)
 {
     CaseReader reader(file);
     int number = 0;
     for (const std::string& line : lines)
         reader.Read(LineReader(file, ++number, line));
-    return reader.TakeCases();
+    return reader.Take();
+}
+
+std::vector<GoldenCase> ReadCases(const std::string& file, const std::vector<std::string>& lines)
+{
+    CaseText text = ReadCaseText(file, lines);
+    if (!text.mistakes.empty())
+        throw script::FileError(text.mistakes.front());
+    return std::move(text.cases);
+}
+
+std::vector<std::string> CaseWords()
+{
+    std::vector<std::string> words = headerWords;
+    words.emplace_back("expect");
+    std::ranges::copy(script::ActWords(), std::back_inserter(words));
+    return words;
 }
 
 std::string Describe(const Expectation& expectation)

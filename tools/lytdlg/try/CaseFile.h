@@ -15,6 +15,7 @@
 #pragma once
 
 #include "lytdlg/try/TrialEnvironment.h"
+#include "script/LineReader.h"
 #include "script/Script.h"
 
 namespace lytdlg
@@ -58,8 +59,30 @@ struct GoldenCase
     std::vector<CaseStep> steps;
 };
 
+// A name in the text of a file: a dialog, without its folder and extension, or a control of the case's dialog.
+struct CaseName
+{
+    bool isDialog = false;
+    std::string text;
+    std::string dialog; // its path
+    int line = 0;
+    size_t column = 0; // from 0; the name comes there or after it
+};
+
+// All that can be read of a file. A line with a mistake is left out.
+struct CaseText
+{
+    std::vector<GoldenCase> cases;
+    std::vector<CaseName> names; // in UTF-8
+    std::vector<script::FileError> mistakes;
+};
+CaseText ReadCaseText(const std::string& file, const std::vector<std::string>& lines);
+
 // Raises script::FileError, with place and hint, at the first mistake.
 std::vector<GoldenCase> ReadCases(const std::string& file, const std::vector<std::string>& lines);
+
+// The words that may begin a line: of headers and acts, and `expect`.
+std::vector<std::string> CaseWords();
 
 // An expectation as a line of a file has it.
 std::string Describe(const Expectation& expectation);

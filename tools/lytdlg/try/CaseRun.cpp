@@ -182,6 +182,32 @@ CaseResult RunCase(const GoldenCase& one)
     return result;
 }
 
+std::map<int, std::string> DescriptionsOnTop(const GoldenCase& one)
+{
+    std::map<int, std::string> names;
+    std::deque<Trial::Step> steps;
+    for (const CaseStep& step : one.steps)
+    {
+        steps.emplace_back(
+            [&](Trial& trial)
+            {
+                if (const TrialDialog* top = trial.Top())
+                    names[step.line] = NameOf(*top);
+                if (step.isAct)
+                    trial.Do(step.act);
+            });
+    }
+    try
+    {
+        TrialRun(one.setup, false).trial.Run(std::move(steps));
+    }
+    catch (const std::exception&)
+    {
+        return names; // The lines after the one that cannot be carried out are not known.
+    }
+    return names;
+}
+
 std::vector<std::string> Updated(const std::vector<std::string>& lines, const CaseUpdate& update)
 {
     std::vector<std::string> updated;

@@ -33,6 +33,9 @@ struct CaseResult
 
 CaseResult RunCase(const GoldenCase& one);
 
+// The names of the descriptions that are on top when the lines of the case come, as far as it can be carried out.
+std::map<int, std::string> DescriptionsOnTop(const GoldenCase& one);
+
 // The lines of a file with updates; a comment at the end of a line stays.
 std::vector<std::string> Updated(const std::vector<std::string>& lines, const CaseUpdate& update);
 

@@ -27,13 +27,6 @@ std::string MessageOf(const CException& failure)
     return text.data();
 }
 
-// The file's name without its folder, in UTF-8.
-std::string NameOf(const TrialDialog& dialog)
-{
-    const std::string& file = dialog.DescriptionFile();
-    return commandline::ToUtf8(file.substr(file.find_last_of("\\/") + 1));
-}
-
 // Also by its button.
 bool IsOk(const TrialDialog& dialog, const script::Step& act)
 {
@@ -49,6 +42,12 @@ const char* WordOf(Ending ending)
 {
     constexpr std::array words = {"not opened", "confirmed", "cancelled", "refused", "open"};
     return words.at(static_cast<size_t>(ending));
+}
+
+std::string NameOf(const TrialDialog& dialog)
+{
+    const std::string& file = dialog.DescriptionFile();
+    return commandline::ToUtf8(file.substr(file.find_last_of("\\/") + 1));
 }
 
 Trial::Trial(const Setup& setup, EventLog& eventLog)

@@ -42,6 +42,9 @@ struct Outcome
     std::vector<DialogState> states = {}; // of the dialogs as they were seen last, the outermost first
 };
 
+// The file's name without its folder, in UTF-8.
+std::string NameOf(const TrialDialog& dialog);
+
 class Trial : private TrialWatcher
 {
 public:

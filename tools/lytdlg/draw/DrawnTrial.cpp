@@ -1,6 +1,5 @@
-#include "lytdlg/language/DrawnTrial.h"
+#include "lytdlg/draw/DrawnTrial.h"
 
-#include "lytdlg/draw/SvgPen.h"
 #include "lytdlg/try/TrialRun.h"
 
 #include <algorithm>
@@ -8,7 +7,7 @@
 namespace lytdlg
 {
 
-DrawnTrial DrawAfter(const Setup& setup, const std::string& acts, int pixelsPerInch)
+DrawnTrial DrawAfter(const Setup& setup, const std::string& acts, int pixelsPerInch, const SvgStyle& style)
 {
     DrawnTrial drawn;
     const Resolution resolution(pixelsPerInch != 0 ? pixelsPerInch : PixelsPerInch());
@@ -17,16 +16,16 @@ DrawnTrial DrawAfter(const Setup& setup, const std::string& acts, int pixelsPerI
     for (const script::Step& act : script::ReadScript("acts", acts, script::Player::OfDescriptions))
         steps.emplace_back([act](Trial& running) { running.Do(act); });
     steps.emplace_back(
-        [&drawn](const Trial& running)
+        [&](const Trial& running)
         {
             const TrialDialog* top = running.Top();
             if (top == nullptr)
                 return;
             const SeenDialog seen = See(*top);
             const DialogState state = LookAt(*top);
-            drawn.svg = DrawSvg(seen, {});
+            drawn.svg = DrawSvg(seen, style);
             for (size_t index = 0; index < seen.controls.size(); ++index)
-                drawn.controls.push_back({seen.controls[index], state.controls.at(index).value});
+                drawn.controls.push_back({seen.controls[index], state.controls.at(index)});
         });
     drawn.outcome = run.trial.Run(std::move(steps));
     for (const Event& event : run.events)

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "lytdlg/draw/Snapshot.h"
+#include "lytdlg/draw/SvgPen.h"
 #include "lytdlg/try/Trial.h"
 
 namespace lytdlg
@@ -10,7 +11,7 @@ namespace lytdlg
 struct DrawnControl
 {
     SeenControl seen;
-    std::optional<std::string> value;
+    ControlState state;
 };
 
 // Texts are in the code page, but for the drawing.
@@ -24,6 +25,6 @@ struct DrawnTrial
 
 // The acts are lines of a script. A resolution of 0 is that of the screen. Raises UsageError for an act that is not
 // understood, and ActError for one that cannot be taken.
-DrawnTrial DrawAfter(const Setup& setup, const std::string& acts, int pixelsPerInch);
+DrawnTrial DrawAfter(const Setup& setup, const std::string& acts, int pixelsPerInch, const SvgStyle& style = {});
 
 } // namespace lytdlg
