@@ -2,6 +2,7 @@
 
 #include "commandline/Text.h"
 #include "lytdlg/judge/Lists.h"
+#include "lytdlg/judge/Names.h"
 #include "lytdlg/language/LanguageHelp.h"
 #include "lytdlg/language/Places.h"
 #include "lytdlg/text/Words.h"
