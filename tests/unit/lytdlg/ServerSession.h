@@ -48,7 +48,8 @@ public:
                                         {"version", 1},
                                         {"text", commandline::ToUtf8(bytes)}}}});
     }
-    // The findings that were published last for a file.
+    // The findings that were published last, by address.
+    const std::map<std::string, Json>& AllFindings() const { return m_findings; }
     const Json& FindingsIn(const std::string& path) { return m_findings[lytdlg::UriOf(path)]; }
 
     static Json Document(const std::string& path) { return {{"textDocument", {{"uri", lytdlg::UriOf(path)}}}}; }

@@ -65,12 +65,10 @@ std::string MessageOf(const Json& finding)
 std::string PublishedFindings(const ServerSession& session)
 {
     std::string lines;
-    for (const Json& message : session.sent)
+    for (const auto& [uri, findings] : session.AllFindings())
     {
-        if (message.value("method", "") != "textDocument/publishDiagnostics")
-            continue;
-        const std::string file = PathOfUri(message["params"]["uri"]);
-        for (const Json& finding : message["params"]["diagnostics"])
+        const std::string file = PathOfUri(uri);
+        for (const Json& finding : findings)
         {
             const Json& begin = finding["range"]["start"];
             const int column = begin["character"];
@@ -157,6 +155,27 @@ TEST(LanguageServer, FollowsEachChangeOfTheText)
     session.Tell("textDocument/didClose", ServerSession::Document(path));
     EXPECT_EQ(session.FindingsIn(path), Json::array());
     EXPECT_EQ(folder.Read("a.dlg"), "on the disk");
+}
+
+TEST(LanguageServer, PublishesFirstWhatNeedsNoTrial)
+{
+    const TestFolder folder;
+    for (const ExampleFile& file : ExampleFiles())
+        folder.Write(file.name, file.content);
+    const std::string path = folder.Write("a.dlg", "");
+    ServerSession session;
+    const auto hasTried = [](const Json& message) { return message.dump().find("trip-dropped") != std::string::npos; };
+    session.Open(path, ExampleDescription(RuleName("trip-dropped").Get().wrong));
+    ASSERT_EQ(session.sent.size(), 2U);
+    EXPECT_FALSE(hasTried(session.sent[0]));
+    EXPECT_TRUE(hasTried(session.sent[1]));
+    // It stays until the dialog is tried again.
+    const Json change = {{"range", ServerSession::Range(0, 0, 0, 0)}, {"text", "; a remark\n"}};
+    session.Tell("textDocument/didChange",
+                 {{"textDocument", {{"uri", UriOf(path)}}}, {"contentChanges", Json::array({change})}});
+    EXPECT_TRUE(hasTried(session.sent.front()));
+    EXPECT_EQ(session.sent.size(), 2U);
+    EXPECT_EQ(session.FindingsIn(path).size(), 1U);
 }
 
 TEST(LanguageServer, JudgesNeighboursAgain)

@@ -15,15 +15,13 @@ namespace lytdlg
 namespace
 {
 
-// In the order of the sections. The library comes after them: it looks whether a finding explains its failure. Only what
-// opens is tried, and not where a rule has said already what is wrong.
+// In the order of the sections. The library comes after them: it looks whether a finding explains its failure.
 constexpr void (*families[])(const Case& judged) = {
     ApplySectionRules,     ApplyLineRules,       ApplyMarkRules,     ApplyStatementRules, ApplyWordRules,
     ApplyLayoutRules,      ApplyValueRules,      ApplyContentRules,  ApplyActionRules,    ApplyDependencyRules,
     ApplyConditionRules,   ApplyEvaluationRules, ApplyScanRules,     ApplySeparatorRules, ApplyFillRules,
     ApplyOutputGroupRules, ApplyOutputRules,     ApplyFormatRules,   ApplyNamedRules,     ApplyLanguageFileRules,
-    ApplyTextRules,        ApplyMnemonicRules,   ApplyGeometryRules, ApplyPartnerRules,   ApplyLibraryVerdict,
-    ApplyTrialRules};
+    ApplyTextRules,        ApplyMnemonicRules,   ApplyGeometryRules, ApplyPartnerRules,   ApplyLibraryVerdict};
 
 // A rule that tells of what a section does not say.
 struct Lack
@@ -102,7 +100,10 @@ const std::string& LineOf(const Finding& finding, const Description& description
     return finding.path.empty() ? description.text.Line(finding.place.line).text : finding.line;
 }
 
-Findings Judge(const Description& description, const Surroundings& surroundings)
+namespace
+{
+
+Findings JudgeBy(const Description& description, const Surroundings& surroundings, bool isTried)
 {
     Findings findings;
     // Nothing in it is what the library would read.
@@ -114,11 +115,29 @@ Findings Judge(const Description& description, const Surroundings& surroundings)
     }
     for (const auto apply : families)
         apply({description, surroundings, findings});
+    // Only what opens is tried, and not where a rule has said already what is wrong.
+    if (isTried)
+        ApplyTrialRules({description, surroundings, findings});
     RemoveWhatIsNotKnown(description.text, findings);
     RemoveWhatFollows(findings);
     ApplyIgnores(description, findings);
+    // Perhaps a trial finds what the remark silences.
+    if (!isTried)
+        findings.Remove([](const Finding& finding) { return finding.rule == &RuleName("ignore-unused").Get(); });
     findings.Sort();
     return findings;
+}
+
+} // namespace
+
+Findings Judge(const Description& description, const Surroundings& surroundings)
+{
+    return JudgeBy(description, surroundings, true);
+}
+
+Findings JudgeUntried(const Description& description, const Surroundings& surroundings)
+{
+    return JudgeBy(description, surroundings, false);
 }
 
 } // namespace lytdlg

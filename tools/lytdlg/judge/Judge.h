@@ -43,6 +43,8 @@ const std::string& LineOf(const Finding& finding, const Description& description
 
 // All findings on a description, in the order of its lines.
 Findings Judge(const Description& description, const Surroundings& surroundings);
+// The same without those for which the dialog is tried, which takes nearly all of the time.
+Findings JudgeUntried(const Description& description, const Surroundings& surroundings);
 
 // Why the library refuses a description, and at which line of the file.
 struct Refusal

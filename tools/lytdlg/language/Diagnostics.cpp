@@ -16,79 +16,131 @@ bool AreOneFinding(const Finding& left, const Finding& right)
            left.message == right.message;
 }
 
+bool IsAmong(const std::vector<Finding>& findings, const Finding& wanted)
+{
+    return std::ranges::any_of(findings, [&](const Finding& finding) { return AreOneFinding(finding, wanted); });
+}
+
 } // namespace
 
 void Diagnostics::WillJudge(const std::string& path)
 {
-    std::erase(m_waiting, path);
-    m_waiting.push_front(path);
-    for (const std::string& other : m_workspace.OpenPaths())
+    for (std::deque<std::string>* waiting : {&m_unread, &m_untried})
     {
-        const bool isNeighbour = Workspace::DialogFolderOf(other) == Workspace::DialogFolderOf(path);
-        if (isNeighbour && std::ranges::find(m_waiting, other) == m_waiting.end())
-            m_waiting.push_back(other);
+        std::erase(*waiting, path);
+        waiting->push_front(path);
+        for (const std::string& other : m_workspace.OpenPaths())
+        {
+            const bool isNeighbour = Workspace::DialogFolderOf(other) == Workspace::DialogFolderOf(path);
+            if (isNeighbour && std::ranges::find(*waiting, other) == waiting->end())
+                waiting->push_back(other);
+        }
     }
 }
 
 void Diagnostics::WillJudgeAll()
 {
     const std::vector<std::string> paths = m_workspace.OpenPaths();
-    m_waiting.assign(paths.begin(), paths.end());
-    std::ranges::copy_if(m_included, std::back_inserter(m_waiting),
+    m_unread.assign(paths.begin(), paths.end());
+    std::ranges::copy_if(m_included, std::back_inserter(m_unread),
                          [&](const std::string& path) { return m_workspace.Find(path) == nullptr; });
+    m_untried = m_unread;
+}
+
+void Diagnostics::ForgetWaiting()
+{
+    m_unread.clear();
+    m_untried.clear();
 }
 
 std::set<std::string> Diagnostics::JudgeNext()
 {
-    const std::string path = std::move(m_waiting.front());
-    m_waiting.pop_front();
-    return Judge(path);
+    const bool isTried = m_unread.empty();
+    std::deque<std::string>& waiting = isTried ? m_untried : m_unread;
+    const std::string path = std::move(waiting.front());
+    waiting.pop_front();
+    return isTried ? Try(path) : Read(path);
 }
 
 std::set<std::string> Diagnostics::Include(const std::string& path)
 {
     m_included.insert(path);
-    return Judge(path);
+    std::set<std::string> concerned = Read(path);
+    concerned.merge(Try(path));
+    return concerned;
 }
 
-std::set<std::string> Diagnostics::Judge(const std::string& path)
+bool Diagnostics::IsJudged(const std::string& path) const
+{
+    return m_workspace.Find(path) != nullptr || m_included.contains(path);
+}
+
+std::vector<Finding> Diagnostics::FindingsIn(const std::string& path, bool isTried) const
+{
+    const Description& description = m_workspace.DescriptionAt(path);
+    const Surroundings& surroundings = m_workspace.SurroundingsAt(path);
+    Findings findings = isTried ? lytdlg::Judge(description, surroundings) : JudgeUntried(description, surroundings);
+    findings.Fold();
+    for (Finding& finding : findings.All())
+        finding.path = PlainPath(finding.path);
+    return std::move(findings.All());
+}
+
+// What trials have found before stays until the dialog is tried again.
+std::set<std::string> Diagnostics::Read(const std::string& path)
+{
+    Judgement judgement;
+    if (IsJudged(path) && KindOfText(path) == TextKind::Cases)
+        judgement.all = FindingsInCases(m_workspace, path);
+    if (IsJudged(path) && KindOfText(path) == TextKind::Description)
+    {
+        judgement = {FindingsIn(path, false), m_judgements[path].tried};
+        std::ranges::copy(judgement.tried, std::back_inserter(judgement.all));
+    }
+    return Keep(path, std::move(judgement));
+}
+
+std::set<std::string> Diagnostics::Try(const std::string& path)
+{
+    if (!IsJudged(path) || KindOfText(path) != TextKind::Description)
+        return {};
+    const Judgement before = m_judgements[path];
+    Judgement judgement = {FindingsIn(path, true), {}};
+    const auto isRead = [&](const Finding& finding)
+    { return IsAmong(before.all, finding) && !IsAmong(before.tried, finding); };
+    std::ranges::remove_copy_if(judgement.all, std::back_inserter(judgement.tried), isRead);
+    const bool isSame = std::ranges::equal(judgement.all, before.all, AreOneFinding);
+    const std::set<std::string> concerned = Keep(path, std::move(judgement));
+    return isSame ? std::set<std::string>() : concerned;
+}
+
+// Gives the files in which there are findings now, and those in which there were some.
+std::set<std::string> Diagnostics::Keep(const std::string& path, Judgement judgement)
 {
     std::set<std::string> concerned = {path};
-    std::vector<Finding>& kept = m_findings[path];
-    const auto note = [&]
+    const auto note = [&](const std::vector<Finding>& findings)
     {
-        for (const Finding& finding : kept)
+        for (const Finding& finding : findings)
             concerned.insert(finding.path.empty() ? path : finding.path);
     };
-    note();
-    kept.clear();
-    const bool isJudged = m_workspace.Find(path) != nullptr || m_included.contains(path);
-    if (isJudged && KindOfText(path) == TextKind::Cases)
-        kept = FindingsInCases(m_workspace, path);
-    if (isJudged && KindOfText(path) == TextKind::Description)
-    {
-        Findings findings = lytdlg::Judge(m_workspace.DescriptionAt(path), m_workspace.SurroundingsAt(path));
-        findings.Fold();
-        kept = std::move(findings.All());
-        for (Finding& finding : kept)
-            finding.path = PlainPath(finding.path);
-    }
-    note();
-    if (kept.empty())
-        m_findings.erase(path);
+    note(m_judgements[path].all);
+    note(judgement.all);
+    if (judgement.all.empty())
+        m_judgements.erase(path);
+    else
+        m_judgements[path] = std::move(judgement);
     return concerned;
 }
 
 std::vector<Finding> Diagnostics::Of(const std::string& path) const
 {
     std::vector<Finding> all;
-    for (const auto& [judged, findings] : m_findings)
+    for (const auto& [judged, judgement] : m_judgements)
     {
-        for (const Finding& finding : findings)
+        for (const Finding& finding : judgement.all)
         {
             const bool isHere = (finding.path.empty() ? judged : finding.path) == path;
-            const auto isSame = [&](const Finding& known) { return AreOneFinding(known, finding); };
-            if (isHere && std::ranges::none_of(all, isSame))
+            if (isHere && !IsAmong(all, finding))
                 all.push_back(finding);
         }
     }

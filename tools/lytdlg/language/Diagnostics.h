@@ -1,4 +1,5 @@
-// The findings on the open descriptions, kept until they are judged again, and what waits to be judged.
+// The findings on the open texts, kept until they are judged again, and what waits to be judged. A text is judged twice: what
+// follows from reading it is found at once, and what follows from trying the dialog when nothing else waits.
 #pragma once
 
 #include "lytdlg/language/Workspace.h"
@@ -18,8 +19,8 @@ public:
     // The text waits, and after it all open texts that its change concerns.
     void WillJudge(const std::string& path);
     void WillJudgeAll();
-    void ForgetWaiting() { m_waiting.clear(); }
-    bool IsWaiting() const { return !m_waiting.empty(); }
+    void ForgetWaiting();
+    bool IsWaiting() const { return !m_unread.empty() || !m_untried.empty(); }
     // Judges the first text that waits. Gives the files whose findings may be others now: itself, and language files.
     std::set<std::string> JudgeNext();
     // From now on a description is judged that is not open, too.
@@ -28,11 +29,22 @@ public:
     std::vector<Finding> Of(const std::string& path) const;
 
 private:
-    std::set<std::string> Judge(const std::string& path);
+    struct Judgement
+    {
+        std::vector<Finding> all;
+        std::vector<Finding> tried; // of these, what only trials find
+    };
+
+    bool IsJudged(const std::string& path) const;
+    std::vector<Finding> FindingsIn(const std::string& path, bool isTried) const;
+    std::set<std::string> Read(const std::string& path);
+    std::set<std::string> Try(const std::string& path);
+    std::set<std::string> Keep(const std::string& path, Judgement judgement);
 
     const Workspace& m_workspace;
-    std::deque<std::string> m_waiting;                      // paths
-    std::map<std::string, std::vector<Finding>> m_findings; // by the description that was judged
+    std::deque<std::string> m_unread; // paths
+    std::deque<std::string> m_untried;
+    std::map<std::string, Judgement> m_judgements; // by the text that was judged
     std::set<std::string> m_included;
 };
 
