@@ -55,10 +55,11 @@ std::optional<CaseFile> FileWithCases(const Workspace& workspace, const std::str
 
 CaseFile FileFor(const Workspace& workspace, const std::string& dialog)
 {
-    const std::vector<GoldenCase> cases = CasesOf(workspace, dialog);
-    for (auto one = cases.rbegin(); one != cases.rend(); ++one)
+    std::vector<GoldenCase> cases = CasesOf(workspace, dialog);
+    std::ranges::reverse(cases);
+    for (const GoldenCase& one : cases)
     {
-        if (std::optional<CaseFile> file = FileWithCases(workspace, PlainPath(one->file)))
+        if (std::optional<CaseFile> file = FileWithCases(workspace, PlainPath(one.file)))
             return *std::move(file);
     }
     const fs::path folder = PathOf(dialog).parent_path();

@@ -27,7 +27,7 @@ public:
     bool WasShutDown() const { return m_session.state == Session::State::ShutDown; }
 
 private:
-    void Cancel(const Json& params);
+    void Cancel(const Json& id);
     void Answer(const Json& message);
     Json ResultOf(const std::string& method, const Json& params);
     void ReplyError(const Json& id, int code, const std::string& message) const;
