@@ -106,9 +106,9 @@ std::set<std::string> Diagnostics::Try(const std::string& path)
         return {};
     const Judgement before = m_judgements[path];
     Judgement judgement = {FindingsIn(path, true), {}};
-    const auto isRead = [&](const Finding& finding)
-    { return IsAmong(before.all, finding) && !IsAmong(before.tried, finding); };
-    std::ranges::remove_copy_if(judgement.all, std::back_inserter(judgement.tried), isRead);
+    const auto isTried = [&](const Finding& finding)
+    { return !IsAmong(before.all, finding) || IsAmong(before.tried, finding); };
+    std::ranges::copy_if(judgement.all, std::back_inserter(judgement.tried), isTried);
     const bool isSame = std::ranges::equal(judgement.all, before.all, AreOneFinding);
     const std::set<std::string> concerned = Keep(path, std::move(judgement));
     return isSame ? std::set<std::string>() : concerned;
