@@ -6,6 +6,8 @@ import path from "node:path";
 import { fileURLToPath, pathToFileURL } from "node:url";
 import puppeteer from "puppeteer-core";
 
+// Against hangs, some ten times what the slowest answer takes on an idle machine.
+const limit = 20000 * Number(process.env.LYT_PATIENCE ?? 1);
 const file = fileURLToPath(new URL("../out/workbench.html", import.meta.url));
 
 export async function startBrowser(address = pathToFileURL(file).href) {
@@ -16,7 +18,7 @@ export async function startBrowser(address = pathToFileURL(file).href) {
       const context = await browser.createBrowserContext();
       const page = await context.newPage();
       await page.setViewport({ width: 1366, height: 768 });
-      page.setDefaultTimeout(8000);
+      page.setDefaultTimeout(limit);
       const trouble = [];
       page.on("pageerror", (error) => trouble.push(error.message));
       page.on("console", (message) => message.type() === "error" && trouble.push(message.text()));
@@ -52,7 +54,7 @@ export class Bench {
   }
 
   waitFor(condition, ...words) {
-    return this.page.waitForFunction(condition, { timeout: 5000 }, ...words);
+    return this.page.waitForFunction(condition, { timeout: limit }, ...words);
   }
 
   // Of the window on top.
