@@ -51,12 +51,12 @@ test("an engine whose module has failed begins anew with its files", async () =>
     return module;
   };
   const engine = await openEngine(create, pair.wasm);
-  engine.write("/work/dialogs/a.dlg", new Uint8Array([1, 2]));
+  engine.write("/texts/dialogs/a.dlg", new Uint8Array([1, 2]));
   fails = true;
   assert.throws(() => engine.take({ jsonrpc: "2.0", id: 1, method: "initialize", params: {} }));
   fails = false;
   await engine.restart();
-  assert.deepEqual(engine.list("/"), ["/work/dialogs/a.dlg"]);
+  assert.deepEqual(engine.list("/"), ["/texts/dialogs/a.dlg"]);
   assert.ok("result" in engine.take({ jsonrpc: "2.0", id: 1, method: "initialize", params: {} })[0]);
 });
 

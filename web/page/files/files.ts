@@ -7,7 +7,7 @@ import { lineEndsOf, withLineEnds } from "./lineEnds";
 import { changesOf } from "../engine/places";
 
 // Where the engine has the files.
-const root = "/work/";
+const root = "/texts/";
 
 export interface TextFile {
   path: string;
