@@ -11,14 +11,14 @@ function(lyt_version_record target file description)
   target_sources(${target} PRIVATE ${record})
 endfunction()
 
-# lyt_resources(TARGET) gives a program or library for Windows the resources of the library, with its manifest. The version in that
-# is the project's, too.
-function(lyt_resources target)
+# lyt_resources(TARGET SCOPE) gives a program or library for Windows the resources of the library, with its manifest: PRIVATE for
+# itself, INTERFACE for those that link it. The version in the manifest is the project's, too.
+function(lyt_resources target scope)
   set(manifest ${CMAKE_BINARY_DIR}/resources/lyt64.manifest)
   configure_file(${CMAKE_SOURCE_DIR}/src/res/lyt64.manifest.in ${manifest} @ONLY)
   set(script ${CMAKE_SOURCE_DIR}/src/res/lyt64.rc)
   file(GLOB icons ${CMAKE_SOURCE_DIR}/src/res/icons/*.ico)
   set_property(SOURCE ${script} APPEND PROPERTY OBJECT_DEPENDS ${manifest} ${icons})
-  target_sources(${target} PRIVATE ${script})
-  target_include_directories(${target} PRIVATE ${CMAKE_BINARY_DIR}/resources)
+  target_sources(${target} ${scope} ${script})
+  target_include_directories(${target} ${scope} ${CMAKE_BINARY_DIR}/resources)
 endfunction()
