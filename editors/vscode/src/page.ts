@@ -3,25 +3,28 @@
 export interface ControlShown {
   target: string;
   type: string;
-  place: { x: number; y: number; width: number; height: number };
+  place: { x: number; y: number; width: number; height: number } | null;
   text: string;
-  value: string;
-  items: string[];
+  value: string | null;
+  items: { text: string }[];
   enabled: boolean;
   shown: boolean;
 }
 
-export interface Drawing {
-  svg: string;
+// What the panel needs of the answer to `lytdlg/play`.
+export interface Played {
+  svg?: string;
   outcome: string;
   result?: string;
-  messages: string[];
-  controls: ControlShown[];
+  failure?: { number: string; message: string };
+  failed?: { reason: string };
+  messages: { text: string }[];
+  dialogs: { controls: ControlShown[] }[];
 }
 
 export type FromPage = { kind: "act"; act: string } | { kind: "back" } | { kind: "input"; input: string };
 
-export type ToPage = (Drawing | { failure: string }) & { acts: string[] };
+export type ToPage = { acts: string[] } & ({ played: Played } | { error: string });
 
 export interface Host {
   postMessage(message: FromPage): void;
@@ -41,7 +44,7 @@ export function showDrawings(host: Host): void {
 
   function fieldOver(control: ControlShown): HTMLElement {
     const field = document.createElement("input");
-    field.value = control.value;
+    field.value = control.value ?? "";
     field.addEventListener("change", () => act(`set ${control.target} = ${quoted(field.value)}`));
     return field;
   }
@@ -49,7 +52,7 @@ export function showDrawings(host: Host): void {
   function listOver(control: ControlShown): HTMLElement {
     const list = document.createElement("select");
     for (const item of control.items) {
-      list.add(new Option(item, item, false, item === control.text));
+      list.add(new Option(item.text, item.text, false, item.text === control.text));
     }
     list.addEventListener("change", () => act(`select ${control.target} ${quoted(list.value)}`));
     return list;
@@ -74,31 +77,36 @@ export function showDrawings(host: Host): void {
   };
 
   function place(element: HTMLElement, control: ControlShown): void {
-    const { x, y, width, height } = control.place;
+    const { x, y, width, height } = control.place!;
     Object.assign(element.style, { left: `${x}px`, top: `${y}px`, width: `${width}px`, height: `${height}px` });
     element.title = control.target;
     element.setAttribute("aria-label", control.text || control.target);
     picture.append(element);
   }
 
+  const tell = (...lines: string[]) => (find("told").textContent = lines.join("\n"));
+
   window.addEventListener("message", (event: MessageEvent<ToPage>) => {
-    const drawing = event.data;
-    find("acts").textContent = drawing.acts.join("\n");
-    if ("failure" in drawing) {
-      // The last picture stays, so that the author sees where the text was right.
-      find("told").textContent = drawing.failure;
+    find("acts").textContent = event.data.acts.join("\n");
+    if ("error" in event.data) {
+      tell(event.data.error);
       return;
     }
-    const result = drawing.result === undefined ? [] : [`result: ${drawing.result}`];
-    find("told").textContent = [...drawing.messages, drawing.outcome, ...result].join("\n");
-    // A dialog that is closed has none; the last one stays, with nothing to act on.
-    if (drawing.svg) {
-      picture.innerHTML = drawing.svg;
+    const { svg, outcome, result, failure, failed, messages, dialogs } = event.data.played;
+    if (failure) {
+      // The last picture stays, so that the author sees where the text was right.
+      tell(`the library refuses the dialog: ${failure.number}: ${failure.message}`);
+      return;
     }
-    picture.querySelectorAll("input, select, button").forEach((element) => element.remove());
-    for (const control of drawing.controls) {
+    const reasons = failed ? [failed.reason] : [];
+    const results = result === undefined ? [] : [`result: ${result}`];
+    tell(...messages.map((message) => message.text), ...reasons, outcome, ...results);
+    picture.innerHTML = svg ?? "";
+    // A dialog that is closed is shown as it was, with nothing to act on.
+    const isOpen = outcome === "open" || outcome === "refused";
+    for (const control of (isOpen && dialogs.at(-1)?.controls) || []) {
       const make = over[control.type];
-      if (make && control.shown && control.enabled && drawing.outcome === "open") {
+      if (make && control.place && control.shown && control.enabled) {
         place(make(control), control);
       }
     }

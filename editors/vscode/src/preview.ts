@@ -2,7 +2,7 @@
 // the language server takes together with those before it, and answers with the next picture.
 import * as vscode from "vscode";
 import type { LanguageClient } from "vscode-languageclient/node";
-import { pageOf, type Drawing, type FromPage } from "./page";
+import { pageOf, type FromPage, type Played, type ToPage } from "./page";
 
 export class Preview implements vscode.Disposable {
   private panel: vscode.WebviewPanel | undefined;
@@ -54,18 +54,22 @@ export class Preview implements vscode.Disposable {
   private async draw(): Promise<void> {
     const own = ++this.newest;
     const settings = vscode.workspace.getConfiguration("lytdlg");
-    const shown = await this.client
-      .sendRequest<Drawing>("lytdlg/draw", {
+    const answer = await this.client
+      .sendRequest<Played>("lytdlg/play", {
         textDocument: { uri: this.uri?.toString() },
         input: this.input,
         language: settings.get("language"),
         dpi: settings.get("resolution"),
         acts: this.acts,
+        svg: true,
       })
-      .catch((failure: Error) => ({ failure: failure.message }));
+      .then(
+        (played) => ({ played }),
+        (failure: Error) => ({ error: failure.message }),
+      );
     // An older answer that comes late is no longer wanted.
     if (own === this.newest) {
-      await this.panel?.webview.postMessage({ ...shown, acts: this.acts });
+      await this.panel?.webview.postMessage({ ...answer, acts: this.acts } satisfies ToPage);
     }
   }
 }

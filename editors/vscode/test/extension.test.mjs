@@ -128,19 +128,19 @@ test("every command of the manifest is registered, and the client runs the chose
 test("the panel shows the dialog, and follows a change of its text", async () => {
   await commands.get("lytdlg.preview")(uri());
   assert.match(panels[0].webview.html, /id="picture"/);
-  assert.match(last().svg, /^<svg/);
+  assert.match(last().played.svg, /^<svg/);
   const before = panels[0].shown.length;
   changed[0]({ document: { uri: { path: "/other.txt" } } });
   assert.equal(panels[0].shown.length, before);
   await server.change(name, "$VALUES", "$VALUE");
   changed[0]({ document: { uri: uri() } });
   while (panels[0].shown.length === before) await new Promise((resolve) => setTimeout(resolve, 10));
-  assert.match(last().failure, /refuses/);
+  assert.equal(last().played.outcome, "not opened");
   await server.change(name, "$VALUE", "$VALUES");
 });
 
 test("acts in the panel go to the server, and back again", async () => {
-  const value = (control) => last().controls.find((each) => each.target === control).value;
+  const value = (control) => last().played.dialogs[0].controls.find((each) => each.target === control).value;
   await panels[0].take({ kind: "input", input: "S1:area(2,m2)" });
   assert.equal(value("Name"), "area");
   await panels[0].take({ kind: "act", act: 'set Name = "length"' });
@@ -149,7 +149,7 @@ test("acts in the panel go to the server, and back again", async () => {
   await panels[0].take({ kind: "back" });
   assert.equal(value("Name"), "area");
   await panels[0].take({ kind: "act", act: "press Nobody" });
-  assert.match(last().failure, /Nobody/);
+  assert.match(last().played.failed.reason, /Nobody/);
   panels[0].dispose();
   await commands.get("lytdlg.preview")(server.uriOf(name));
   assert.equal(panels.length, 2);

@@ -17,9 +17,10 @@ async function draw() {
     language: "English",
     dpi: 96,
     acts,
+    svg: true,
   };
-  const drawing = await server.ask("lytdlg/draw", request).catch((failure) => ({ failure: failure.message }));
-  await page.evaluate((data) => window.postMessage(data, "*"), { ...drawing, acts });
+  const answer = { played: await server.ask("lytdlg/play", request), acts };
+  await page.evaluate((data) => window.postMessage(data, "*"), answer);
 }
 
 before(async () => {

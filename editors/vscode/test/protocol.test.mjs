@@ -112,12 +112,13 @@ test("the text has an outline, folds, colours, links, hints and a form", async (
 });
 
 test("the dialog is drawn after acts", async () => {
-  const request = { ...document(), input: "S1:area(2,m2)", language: "English", dpi: 96, acts: ["set Digits = "] };
-  const drawing = await server.ask("lytdlg/draw", request);
-  assert.match(drawing.svg, /^<svg/);
-  const unit = drawing.controls.find((each) => each.target === "Unit");
+  const request = { ...document(), input: "S1:area(2,m2)", language: "English", dpi: 96, acts: ["set Digits = "], svg: true };
+  const played = await server.ask("lytdlg/play", request);
+  assert.match(played.svg, /^<svg/);
+  const unit = played.dialogs[0].controls.find((each) => each.target === "Unit");
   assert.equal(unit.enabled, false);
-  await assert.rejects(server.ask("lytdlg/draw", { ...request, acts: ["press Nobody"] }), /Nobody/);
+  const { failed } = await server.ask("lytdlg/play", { ...request, acts: ["press Nobody"] });
+  assert.match(failed.reason, /Nobody/);
 });
 
 test("nothing ends the server", async () => {

@@ -487,23 +487,25 @@ TEST(LanguageServer, DrawsADialogAfterActs)
     Json params = ServerSession::Document(path);
     params["input"] = "b;a";
     params["acts"] = {"set Name = \xC3\xA4"};
-    const Json drawn = session.ResultOf("lytdlg/draw", params);
+    params["svg"] = true;
+    const Json drawn = session.ResultOf("lytdlg/play", params);
     EXPECT_EQ(drawn["outcome"], "open");
     EXPECT_TRUE(drawn["svg"].get<std::string>().starts_with("<svg"));
     EXPECT_FALSE(drawn.contains("result"));
-    const Json& name = drawn["controls"][1];
+    const Json& controls = drawn["dialogs"][0]["controls"];
+    const Json& name = controls[1];
     EXPECT_EQ(name["target"], "Name");
     EXPECT_EQ(name["type"], "TextBox");
     EXPECT_EQ(name["value"], "\xC3\xA4");
-    EXPECT_EQ(drawn["controls"][3]["value"], "a");
+    EXPECT_EQ(controls[3]["value"], "a");
     EXPECT_TRUE(name["enabled"] && name["shown"] && name["place"]["width"] > 0);
     params["acts"] = {"set Name = x", "ok"};
-    EXPECT_EQ(session.ResultOf("lytdlg/draw", params)["result"], "x;a;hall place;;s;-");
+    EXPECT_EQ(session.ResultOf("lytdlg/play", params)["result"], "x;a;hall place;;s;-");
     params["acts"] = {"set Nothing = x"};
-    EXPECT_EQ(ErrorOf(session.Ask("lytdlg/draw", params)), -32803);
+    EXPECT_EQ(session.ResultOf("lytdlg/play", params)["failed"]["act"], 0);
     session.Tell("textDocument/didChange",
                  {{"textDocument", {{"uri", UriOf(path)}}}, {"contentChanges", {{{"text", "$VERSION 1\n"}}}}});
-    EXPECT_EQ(ErrorOf(session.Ask("lytdlg/draw", params)), -32803);
+    EXPECT_EQ(session.ResultOf("lytdlg/play", params)["outcome"], "not opened");
     EXPECT_FALSE(folder.Has("drawn.dlg"));
 }
 
@@ -518,7 +520,7 @@ TEST(LanguageServer, DrawsWhatIsNotSaved)
     session.Open(path, ExampleDescription("$VALUES\nAdd: DIALOG = inner, parent, parent\n"));
     session.Open(folder.File("inner.dlg"), ExampleDescription("$VALUES\nName = HIDDEN\n"));
     Json params = ServerSession::Document(path);
-    const auto drawn = [&] { return session.ResultOf("lytdlg/draw", params)["controls"]; };
+    const auto drawn = [&] { return session.ResultOf("lytdlg/play", params)["dialogs"].back()["controls"]; };
     session.Open(folder.File("lang/German.nls"), "[Example]\nName=Nicht gesichert\n");
     EXPECT_EQ(drawn()[0]["text"], "&Name:");
     session.Open(folder.File("lyt.ini"), "[global]\nCurrent Language=German\n");

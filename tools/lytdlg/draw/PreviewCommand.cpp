@@ -1,9 +1,10 @@
 #include "lytdlg/Commands.h"
 
 #include "commandline/Text.h"
-#include "lytdlg/draw/DrawnTrial.h"
+#include "lytdlg/draw/SvgPen.h"
 #include "lytdlg/text/TextFile.h"
 #include "lytdlg/text/Watch.h"
+#include "lytdlg/try/TrialRun.h"
 
 #include <algorithm>
 #include <iterator>
@@ -25,25 +26,42 @@ ExitCode DrawDialog(const Request& request)
     const std::string target = request.Text("-o", "");
     if (!target.empty() && ExtensionOf(target) != ".svg")
         throw UsageError("\"" + target + "\" is no kind of picture; the name ends in .svg");
-    const DrawnTrial drawn =
-        DrawAfter(SetupOf(request), "", request.Number("--dpi", 0), {request.Has("--names"), request.Has("--tabs")});
-    if (drawn.outcome.ending == Ending::NotOpened)
+    const int pixelsPerInch = request.Number("--dpi", 0);
+    const Resolution resolution(pixelsPerInch != 0 ? pixelsPerInch : PixelsPerInch());
+    TrialRun run(SetupOf(request), false);
+    std::string svg;
+    DialogState opened;
+    const auto look = [&](const Trial& trial)
     {
-        TellError(dialog + ": the library refuses it: " +
-                  ToUtf8(drawn.outcome.failureNumber + ": " + drawn.outcome.failureMessage));
+        if (trial.Top() == nullptr)
+            return;
+        svg = DrawSvg(See(*trial.Top()), {request.Has("--names"), request.Has("--tabs")});
+        opened = LookAt(*trial.Top());
+    };
+    const Outcome outcome = run.trial.Run({look});
+    if (outcome.ending == Ending::NotOpened)
+    {
+        TellError(dialog +
+                  ": the library refuses it: " + ToUtf8(outcome.failureNumber + ": " + outcome.failureMessage));
         return found;
     }
-    WriteOut(target, "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n" + drawn.svg);
+    WriteOut(target, "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n" + svg);
     // The drawing shows what the window shows, which is not always the value.
-    for (const auto& [seen, state] : drawn.controls)
+    for (const ControlState& state : opened.controls)
     {
         if (!state.lostText.empty())
             TellError(dialog + ": " + ToUtf8(state.name) + " has the value " + Quoted(ToUtf8(*state.value)) + "; " +
                       DescribeLostText(state));
     }
-    for (const std::string& message : drawn.messages)
-        TellError(dialog + ": shows a message while it opens: " + ToUtf8(message));
-    return drawn.messages.empty() ? good : found;
+    ExitCode verdict = good;
+    for (const Event& event : run.events)
+    {
+        if (event.kind != EventKind::Message)
+            continue;
+        TellError(dialog + ": shows a message while it opens: " + ToUtf8(event.text));
+        verdict = found;
+    }
+    return verdict;
 }
 
 ExitCode Preview(const Request& request)

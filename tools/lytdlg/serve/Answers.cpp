@@ -356,7 +356,6 @@ const std::vector<Method>& Methods()
          "inlayHintProvider"},
         {"textDocument/codeLens", Lenses, "codeLensProvider", {{"resolveProvider", true}}},
         {"codeLens/resolve", ResolvedLens},
-        {"lytdlg/draw", Draw},
         {"lytdlg/play", PlayDialog},
         {"lytdlg/why", ExplainControl},
         {"lytdlg/way", TellWay},

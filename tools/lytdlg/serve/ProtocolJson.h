@@ -1,7 +1,6 @@
 // What the service has, in the words of the protocol.
 #pragma once
 
-#include "lytdlg/draw/DrawnTrial.h"
 #include "lytdlg/language/Completion.h"
 #include "lytdlg/language/Edits.h"
 #include "lytdlg/language/Hints.h"
@@ -24,7 +23,6 @@ void to_json(Json& json, const Symbol& symbol);
 void to_json(Json& json, const Fold& fold);
 void to_json(Json& json, const Hint& hint);
 void to_json(Json& json, const Proposals& proposals);
-void to_json(Json& json, const DrawnTrial& drawn);
 Json JsonOf(const Finding& finding, const std::string& uri);
 
 // A message as it is sent. A byte that is no UTF-8, as file names may have, is the replacement character.

@@ -55,7 +55,4 @@ struct Method
 };
 const std::vector<Method>& Methods();
 
-// A dialog that is open in the editor as it looks after certain acts.
-Json Draw(Session& session, const Json& params);
-
 } // namespace lytdlg
