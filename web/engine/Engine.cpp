@@ -9,10 +9,11 @@
 namespace
 {
 
-lytdlg::Json& Sent()
+std::string sent; // a JSON array
+
+void Send(const lytdlg::Json& message)
 {
-    static lytdlg::Json sent = lytdlg::Json::array();
-    return sent;
+    sent += (sent == "[" ? "" : ",") + lytdlg::TextOf(message);
 }
 
 lytdlg::Server& TheServer()
@@ -21,35 +22,49 @@ lytdlg::Server& TheServer()
     {
         // The templates of the library are in this program.
         AfxGetStaticModuleState()->m_hCurrentResourceHandle = GetModuleHandleA(nullptr);
-        return std::make_unique<lytdlg::Server>([](const lytdlg::Json& message) { Sent().push_back(message); },
-                                                std::vector<std::string>(), std::vector<std::string>());
+        return std::make_unique<lytdlg::Server>(Send, std::vector<std::string>(), std::vector<std::string>());
     }();
     return *server;
 }
 
-} // namespace
-
-// Takes a message, and does all work that there is after it. Gives a JSON array of messages, valid until the next call.
-extern "C" EMSCRIPTEN_KEEPALIVE const char* lytengine_take(const char* message)
+// A JSON array of what the work sends, valid until the next call.
+const char* SentBy(const std::function<void(lytdlg::Server& server)>& work)
 {
-    static std::string text;
-    Sent() = lytdlg::Json::array();
+    sent = "[";
     try
     {
-        TheServer().Receive(message);
-        while (TheServer().HasWork())
-            TheServer().Work();
+        work(TheServer());
     }
     catch (const std::exception& failure)
     {
-        Sent().push_back({{"jsonrpc", "2.0"},
-                          {"method", "window/logMessage"},
-                          {"params", {{"type", 1}, {"message", failure.what()}}}});
+        Send({{"jsonrpc", "2.0"},
+              {"method", "window/logMessage"},
+              {"params", {{"type", 1}, {"message", failure.what()}}}});
     }
     catch (CException* failure)
     {
         failure->Delete();
     }
-    text = lytdlg::TextOf(Sent());
-    return text.c_str();
+    sent += "]";
+    return sent.c_str();
+}
+
+} // namespace
+
+// Takes a message, and does all that cannot wait.
+extern "C" EMSCRIPTEN_KEEPALIVE const char* lytengine_take(const char* message)
+{
+    return SentBy(
+        [&](lytdlg::Server& server)
+        {
+            server.Receive(message);
+            while (server.IsUrgent())
+                server.Work();
+        });
+}
+
+// Does a piece of what can wait; null if there is nothing.
+extern "C" EMSCRIPTEN_KEEPALIVE const char* lytengine_work()
+{
+    return TheServer().HasWork() ? SentBy([](lytdlg::Server& server) { server.Work(); }) : nullptr;
 }

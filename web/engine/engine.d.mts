@@ -1,6 +1,7 @@
 export interface Engine {
   restart(): Promise<void>;
   take(message: unknown): unknown[];
+  work(): unknown[] | undefined;
   write(path: string, bytes: Uint8Array): void;
   read(path: string): Uint8Array;
   remove(path: string): void;

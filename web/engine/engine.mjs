@@ -23,7 +23,7 @@ class Engine {
     this.#create = create;
   }
 
-  // After `take` has thrown, which only a failure of the module itself makes it do: begins anew, with the files as they are.
+  // After `take` or `work` has thrown, which only a failure of the module itself makes it do: begins anew, with the files as they are.
   async restart() {
     const files = this.#module ? this.list("/").map((path) => [path, this.read(path)]) : [];
     this.#module = await this.#create();
@@ -37,10 +37,20 @@ class Engine {
     const place = this.#module._malloc(size);
     try {
       this.#module.stringToUTF8(text, place, size);
-      return JSON.parse(this.#module.UTF8ToString(this.#module._lytengine_take(place)));
+      return this.#messagesAt(this.#module._lytengine_take(place));
     } finally {
       this.#module._free(place);
     }
+  }
+
+  // The same for a piece of work that could wait; nothing if there is none.
+  work() {
+    const place = this.#module._lytengine_work();
+    return place === 0 ? undefined : this.#messagesAt(place);
+  }
+
+  #messagesAt(place) {
+    return JSON.parse(this.#module.UTF8ToString(place));
   }
 
   write(path, bytes) {

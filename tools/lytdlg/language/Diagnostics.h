@@ -20,7 +20,9 @@ public:
     void WillJudge(const std::string& path);
     void WillJudgeAll();
     void ForgetWaiting();
-    bool IsWaiting() const { return !m_unread.empty() || !m_untried.empty(); }
+    bool IsWaiting() const { return IsReading() || !m_untried.empty(); }
+    // Whether the next text is only read.
+    bool IsReading() const { return !m_unread.empty(); }
     // Judges the first text that waits. Gives the files whose findings may be others now: itself, and language files.
     std::set<std::string> JudgeNext();
     // From now on a description is judged that is not open, too.

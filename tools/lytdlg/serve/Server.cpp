@@ -110,9 +110,9 @@ void Server::Answer(const Json& message)
     try
     {
         const Json& params = FieldOf(message, "params");
-        const Json result = ResultOf(MethodOf(message), params.is_null() ? Json::object() : params);
+        Json result = ResultOf(MethodOf(message), params.is_null() ? Json::object() : params);
         if (!id.is_null())
-            m_session.send({{"jsonrpc", "2.0"}, {"id", id}, {"result", result}});
+            m_session.send({{"jsonrpc", "2.0"}, {"id", id}, {"result", std::move(result)}});
     }
     catch (const std::exception& failure)
     {

@@ -20,6 +20,8 @@ public:
     // Takes a message as it came. It is answered by Work, unless it is cancelled before.
     void Receive(const std::string& text);
     bool HasWork() const { return !m_waiting.empty() || m_session.diagnostics.IsWaiting(); }
+    // Whether the next piece of work is more than trying a dialog for what is wrong with it.
+    bool IsUrgent() const { return !m_waiting.empty() || m_session.diagnostics.IsReading(); }
     // Answers the first message that waits. Without one, judges a text that has changed.
     void Work();
     bool IsOver() const { return m_session.isOver; }

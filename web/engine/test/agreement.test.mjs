@@ -39,6 +39,18 @@ test("every case of the samples passes, and is played and explained alike", asyn
   }
 });
 
+test("what follows from reading a text does not wait for what follows from trying the dialog", async () => {
+  const engine = await openEngine(pair.createModule, pair.wasm);
+  const text = pair.text("lytInSym.dlg");
+  const uri = "file:///texts/dialogs/lytInSym.dlg";
+  engine.take({ jsonrpc: "2.0", id: 1, method: "initialize", params: {} });
+  const textDocument = { uri, languageId: "lytdlg", version: 1, text };
+  const sent = engine.take({ jsonrpc: "2.0", method: "textDocument/didOpen", params: { textDocument } });
+  assert.deepEqual(sent.map(({ method }) => method), ["textDocument/publishDiagnostics"]);
+  assert.ok(engine.work());
+  assert.equal(engine.work(), undefined);
+});
+
 test("an engine whose module has failed begins anew with its files", async () => {
   let fails = false;
   const create = async (options) => {

@@ -97,9 +97,10 @@ export class Pair {
     return new TextDecoder("windows-1252").decode(readFileSync(join(this.folder, "dialogs", name)));
   }
 
-  // Both take the message and must send the same.
+  // Both take the message, do all work that there is then, and must send the same.
   async take(message) {
     const sent = this.engine.take(message);
+    for (let more; (more = this.engine.work()); ) sent.push(...more);
     this.program.send(message);
     assert.deepEqual(sent, await this.program.next(sent.length), JSON.stringify(message).slice(0, 500));
     return sent;

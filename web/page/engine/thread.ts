@@ -8,7 +8,11 @@ type ToThread =
   | { kind: "write"; path: string; bytes: Uint8Array }
   | { kind: "remove"; path: string };
 
+// In milliseconds; longer than between two keys of one who types fast.
+const pause = 100;
+
 let engine: Engine | undefined;
+let timer = 0;
 const waiting: ToThread[] = [];
 
 // What waits is taken when the module is ready.
@@ -29,13 +33,23 @@ function fail(reason: unknown): void {
 }
 
 // Only a failure of the module itself is thrown. It begins anew with its files, and the page greets it again.
-function take(opened: Engine, message: { id?: number }): void {
+function use(opened: Engine, work: (opened: Engine) => unknown[] | undefined, id?: number): void {
   try {
-    self.postMessage(opened.take(message));
+    const sent = work(opened);
+    if (sent) {
+      self.postMessage(sent);
+      continueLater();
+    }
   } catch (failure) {
-    self.postMessage([{ id: message.id, error: { message: String(failure) } }, { method: "workbench/restarted", params: {} }]);
+    self.postMessage([{ id, error: { message: String(failure) } }, { method: "workbench/restarted", params: {} }]);
     begin(opened.restart().then(() => opened));
   }
+}
+
+// What can wait does so until the user pauses: it would hold up the next key.
+function continueLater(): void {
+  clearTimeout(timer);
+  timer = setTimeout(() => engine && use(engine, (opened) => opened.work()), pause);
 }
 
 function receive(message: ToThread): void {
@@ -44,7 +58,7 @@ function receive(message: ToThread): void {
   } else if (!engine) {
     waiting.push(message);
   } else if (message.kind === "take") {
-    take(engine, message.message);
+    use(engine, (opened) => opened.take(message.message), message.message.id);
   } else if (message.kind === "write") {
     engine.write(message.path, message.bytes);
   } else {
