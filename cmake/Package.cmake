@@ -24,10 +24,10 @@ else()
 endif()
 
 # Pages for those who use the library. What is not handed out cannot be linked to.
-set(lyt_not_handed_out "\\.\\./tests/[^)\n]*|(architecture|benchmarks|contributing|reliability|selftest|workbench)\\.md")
+set(lyt_not_handed_out "\\.\\./tests/[^)\n]*|(architecture|benchmarks|contributing|reliability|selftest)\\.md")
 foreach(page
     README accessibility acts deployment descriptions editors exports first-dialog from-other-languages glossary limits lytcall lytdlg
-    lytdlg-rules macros partners report support symptoms versions)
+    lytdlg-rules macros partners report support symptoms versions workbench)
   set(source ${CMAKE_SOURCE_DIR}/docs/${page}.md)
   file(READ ${source} text)
   string(REGEX REPLACE "\\[([^]\n]*)\\]\\((${lyt_not_handed_out})\\)" "\\1" text "${text}")
@@ -37,9 +37,15 @@ foreach(page
 endforeach()
 install(FILES
   docs/catalogue-96.png docs/form-120.png docs/preview-form.svg docs/preview-symbol.svg docs/window-symbol.png
+  docs/workbench.png
   DESTINATION docs)
 configure_file(docs/package.md.in ${CMAKE_BINARY_DIR}/package/README.md @ONLY)
 install(FILES ${CMAKE_BINARY_DIR}/package/README.md CHANGELOG.md LICENSE SECURITY.md DESTINATION .)
+# The page of the workbench is made by tools that nothing else needs. The environment names it when a package is made.
+install(CODE [[
+if(DEFINED ENV{LYT_WORKBENCH})
+  file(INSTALL DESTINATION "${CMAKE_INSTALL_PREFIX}" TYPE FILE FILES "$ENV{LYT_WORKBENCH}")
+endif()]])
 # The terms of what is inside our programs, as the packages bring them that it was taken from.
 set(LYT_TERMS /usr/share/doc CACHE PATH "The folder with a file PACKAGE/copyright for each")
 foreach(package gcc-mingw-w64-x86-64-posix-runtime mingw-w64-x86-64-dev nlohmann-json3-dev)

@@ -11,12 +11,16 @@ const here = path.dirname(fileURLToPath(import.meta.url));
 const [engine, out] = process.argv.slice(2);
 const parts = ["dialog", "text", "why", "way", "cases", "design"];
 
+// Folders of the packages that the page is made of; nothing for a file that is not from a package.
+const inside = new Set();
+
 async function bundle(entry) {
   const built = await build({
     entryPoints: [path.join(here, entry)],
     bundle: true,
     minify: true,
     write: false,
+    metafile: true,
     format: "iife",
     target: "chrome109",
     logLevel: "warning",
@@ -25,6 +29,7 @@ async function bundle(entry) {
     external: ["module", "fs", "path", "url"],
     alias: { lytengine: path.resolve(engine, "lytengine.mjs") },
   });
+  Object.keys(built.metafile.inputs).forEach((input) => inside.add(/^.*node_modules\/(?:@[^/]+\/)?[^/]+/.exec(input)?.[0]));
   return built.outputFiles[0].text;
 }
 
@@ -39,6 +44,17 @@ function samples() {
 // What the sample libraries give out, by their names beside the program.
 function partners() {
   return Object.fromEntries(["lytdata", "lytsrc"].map((name) => [`${name}.txt`, fs.readFileSync(path.join(here, `../../samples/${name}/${name}.txt`), "latin1")]));
+}
+
+// The terms of all that the page is made of. Parts of the engine are from packages of Debian, which have theirs in one place.
+function terms() {
+  const packages = [...inside].filter((folder) => folder).sort();
+  const texts = packages.map((folder) => {
+    const { name, version } = JSON.parse(fs.readFileSync(path.join(folder, "package.json"), "utf8"));
+    return `${name} ${version}\n\n${fs.readFileSync(path.join(folder, "LICENSE"), "utf8")}`;
+  });
+  const debian = ["emscripten", "nlohmann-json3-dev"].map((name) => `${name}\n\n${fs.readFileSync(`/usr/share/doc/${name}/copyright`, "utf8")}`);
+  return [...texts, ...debian].join("\n\n");
 }
 
 const hash = (text) => `'sha256-${createHash("sha256").update(text).digest("base64")}'`;
@@ -64,6 +80,7 @@ const fields = {
   thread: asJson(await bundle("engine/thread.ts")),
   samples: asJson(samples()),
   partners: asJson(partners()),
+  terms: terms().replaceAll("</script", "<\\/script"),
 };
 const page = fs.readFileSync(path.join(here, "index.html"), "utf8").replace(/@(\w+)@/g, (_, name) => fields[name]);
 fs.mkdirSync(path.dirname(out), { recursive: true });

@@ -1,8 +1,8 @@
 #!/bin/sh
 # run-package.sh BUILD CMAKE CPACK VERSION: makes the package twice, which must give the same bytes, and looks at it: it
-# holds the files of package.contents and no others, its checksums and its list of contents hold, its pages are there as HTML with a
-# search that finds each of their headings, its tools tell the version and find nothing wrong with it, and a dialog opens from it. With LYT_UPDATE set it writes package.contents
-# instead.
+# holds the files of package.contents and no others, the page of the workbench as it was given, its checksums and its list of
+# contents hold, its pages are there as HTML with a search that finds each of their headings, its tools tell the version and
+# find nothing wrong with it, and a dialog opens from it. With LYT_UPDATE set it writes package.contents instead.
 set -u
 build=$1
 cmake=$2
@@ -19,6 +19,11 @@ make() {
     (umask "$3" && TZ=$2 "$cpack" --config "$build/CPackConfig.cmake" -B "$folder/$1" >"$folder/$1.log" 2>&1) ||
         { cat "$folder/$1.log"; exit 1; }
 }
+# The package takes the page as it is, and what makes the page is not needed here.
+mkdir "$folder/page"
+echo '<!DOCTYPE html><title>A page</title>' >"$folder/page/workbench.html"
+export LYT_WORKBENCH="$folder/page/workbench.html"
+
 make first UTC 022
 make second Asia/Tokyo 077
 zip=lyt64-$version.zip
@@ -33,6 +38,7 @@ else
 fi
 "$cmake" -E tar tf "../first/$zip" | grep -v '/$' | sed 's,^[^/]*/,,' | LC_ALL=C sort -c || complain "the entries are not sorted"
 
+cmp "$LYT_WORKBENCH" workbench.html || bad=1
 sha256sum --check --quiet --strict SHA256SUMS || bad=1
 sed 's/^[^ ]*  //' SHA256SUMS >../summed
 grep -vx SHA256SUMS ../contents | diff -u - ../summed || complain "SHA256SUMS tells of other files"
