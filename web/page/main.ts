@@ -11,13 +11,12 @@ import { Client, startEngine } from "./engine/client";
 import type { Initialized } from "./engine/contract";
 import { Mirror } from "./engine/mirror";
 import { unpacked } from "./files/codepage";
-import { bytesOf, Files, isDescription } from "./files/files";
+import { Files, isDescription } from "./files/files";
 import { Disk, download } from "./files/folder";
 import { keepAlways, readKept, restore, stateOf } from "./files/keep";
 import { addFile, showTabs } from "./files/tabs";
 import { Panels } from "./panels";
-import { hashOf, stateIn } from "./share/link";
-import { zipOf } from "./share/zip";
+import { hashOf, stateIn, zipOf } from "./share/share";
 import { Editor } from "./text/editor";
 import { WayPanel } from "./way/way";
 import { WhyPanel } from "./why/why";
@@ -84,8 +83,8 @@ async function start(): Promise<void> {
   // First, so that the engine knows a change before anything is asked about it.
   const mirror = new Mirror(client, files);
   const bench = new Bench(files, client);
-  const editor = new Editor(bench);
   const stage = new Stage(bench);
+  const editor = new Editor(bench, stage);
   const panels = new Panels(["acts", "why", "way", "cases"]);
   const failing = (work: () => Promise<unknown>) => () => {
     work().catch((failure: Error) => failure.name !== "AbortError" && say(failure.message, true));
@@ -108,12 +107,9 @@ async function start(): Promise<void> {
   find("samples").addEventListener("click", () => openSamples(bench, samples));
   find("format").addEventListener("click", () => editor.format());
   find("search").addEventListener("click", () => editor.search());
-  find("zip").addEventListener("click", failing(async () => {
-    const all = files.paths.map((path) => ({ path, bytes: bytesOf(files.get(path)!) }));
-    download("dialogs.zip", await zipOf(all));
-  }));
+  find("zip").addEventListener("click", () => download("dialogs.zip", zipOf(files)));
   find("link").addEventListener("click", failing(async () => {
-    window.location.hash = await hashOf(stateOf(bench, samples));
+    window.location.hash = hashOf(stateOf(bench, samples));
     await navigator.clipboard?.writeText(window.location.href).catch(() => undefined);
     say("The address of the page is the link; it holds the texts and the acts.");
   }));
@@ -151,7 +147,7 @@ async function start(): Promise<void> {
     bench.draw();
     say("The engine has begun anew after a failure; the text is as it was.", true);
   });
-  const kept = (await stateIn(window.location.hash)) ?? readKept();
+  const kept = stateIn(window.location.hash) ?? readKept();
   if (kept && Object.keys(kept.files).length > 0) {
     restore(bench, kept, samples);
   } else {

@@ -40,6 +40,12 @@ export class Stage {
     return this.windows.at(-1)?.elementOf(target);
   }
 
+  // The controls that something else on the page is about.
+  mark(targets: string[]): void {
+    this.element.querySelectorAll(".found").forEach((element) => element.classList.remove("found"));
+    targets.forEach((target) => this.elementOf(target)?.classList.add("found"));
+  }
+
   redraw(): void {
     if (this.bench.play) {
       this.render({ play: this.bench.play, isNewest: true });

@@ -89,6 +89,17 @@ function dropFace(first: Control, hand: Hand): Face {
   };
 }
 
+// Chooses the item there, or the last before it. The next key counts from it, although the dialog has not been played yet.
+function chosen(control: Control, index: number, hand: Hand): Control {
+  const at = Math.min(Math.max(index, 0), control.items.length - 1);
+  const item = control.items[at];
+  if (!item || !control.enabled) {
+    return control;
+  }
+  hand.select(control, item);
+  return { ...control, chosen: at };
+}
+
 // A field with a list that opens below it.
 function comboFace(first: Control, hand: Hand): Face {
   const field = make("input", { class: "field", spellcheck: "false", autocomplete: "off", role: "combobox", "aria-expanded": "false" });
@@ -103,13 +114,8 @@ function comboFace(first: Control, hand: Hand): Face {
     field.setAttribute("aria-expanded", String(isOpen));
   };
   const choose = (index: number) => {
-    const chosen = Math.min(Math.max(index, 0), own.items.length - 1);
-    const item = own.items[chosen];
-    if (item) {
-      field.value = item.text;
-      hand.select(own, item);
-      own = { ...own, chosen };
-    }
+    own = chosen(own, index, hand);
+    field.value = own.items[own.chosen]?.text ?? field.value;
   };
   field.addEventListener("input", () => hand.type(own, field.value));
   field.addEventListener("keydown", (event) => {
@@ -155,15 +161,7 @@ function listFace(first: Control, hand: Hand): Face {
   const hasMarks = first.type === "CheckListBox";
   const element = make("div", { class: "list", tabindex: 0, role: isTree ? "tree" : "listbox" });
   let own = first;
-  // The next key counts from here, although the dialog has not been played yet.
-  const choose = (index: number) => {
-    const chosen = Math.min(Math.max(index, 0), own.items.length - 1);
-    const item = own.items[chosen];
-    if (item && own.enabled) {
-      hand.select(own, item);
-      own = { ...own, chosen };
-    }
-  };
+  const choose = (index: number) => (own = chosen(own, index, hand));
   const page = () => Math.max(1, Math.floor(own.inside.height / Math.max(1, own.itemHeight)) - 1);
   const steps: Record<string, () => number> = {
     ArrowDown: () => own.chosen + 1,

@@ -6,6 +6,7 @@ import { highlightSelectionMatches, openSearchPanel, search, searchKeymap } from
 import { EditorState, StateEffect, StateField, type Extension, type StateEffectType } from "@codemirror/state";
 import { Decoration, drawSelection, EditorView, highlightActiveLine, highlightActiveLineGutter, keymap, lineNumbers, type DecorationSet } from "@codemirror/view";
 import type { Bench } from "../bench";
+import type { Stage } from "../dialog/stage";
 import { find, say } from "../dom";
 import { lineOf, type Range } from "../engine/contract";
 import { positionOf, spanOf } from "../engine/places";
@@ -37,7 +38,7 @@ export class Editor {
   private marks: Decoration[] = [];
   private timer = 0;
 
-  constructor(private readonly bench: Bench) {
+  constructor(private readonly bench: Bench, private readonly stage: Stage) {
     this.service = new Service(bench);
     const { files } = bench;
     files.extensionsFor = (path) => this.extensions(path);
@@ -146,11 +147,9 @@ export class Editor {
     const words = text.match(/\w+/g) ?? [];
     const controls = bench.top?.controls ?? [];
     const found = controls.find((control) => lineOf(control) === line) ?? controls.find((control) => words[0] === control.target);
-    find("stage").querySelectorAll(".found").forEach((element) => element.classList.remove("found"));
+    this.stage.mark(found ? [found.target] : []);
     if (found) {
-      const element = [...find("stage").querySelectorAll<HTMLElement>("[data-target]")].filter((each) => each.dataset["target"] === found.target).at(-1);
-      element?.classList.add("found");
-      element?.scrollIntoView({ block: "nearest", inline: "nearest" });
+      this.stage.elementOf(found.target)?.scrollIntoView({ block: "nearest", inline: "nearest" });
     }
   }
 

@@ -26,7 +26,7 @@ export class WayPanel {
   ) {
     bench.drawn.on(({ isNewest }) => isNewest && void this.ask());
     bench.turned.on(() => (this.step = undefined));
-    panels.shown.on((name) => (name === "way" ? this.show() : this.mark([])));
+    panels.shown.on((name) => (name === "way" ? this.show() : this.stage.mark([])));
   }
 
   private async ask(): Promise<void> {
@@ -89,7 +89,7 @@ export class WayPanel {
       const piece = make("button", { type: "button", class: this.colourOf(target), title: target ?? "a text of the rule" }, text.slice(begin, end));
       piece.addEventListener("click", () => {
         this.light(range);
-        this.mark(target ? [target] : []);
+        this.stage.mark(target ? [target] : []);
       });
       parts.push(...(end > begin ? [piece] : []));
       done = end;
@@ -145,7 +145,7 @@ export class WayPanel {
       this.show();
     }
     const step = index === undefined ? undefined : this.way?.steps[index];
-    this.mark(step?.fills.map((fill) => fill.target) ?? []);
+    this.stage.mark(step?.fills.map((fill) => fill.target) ?? []);
     if (step) {
       this.light(step.range);
     }
@@ -154,11 +154,6 @@ export class WayPanel {
   private light(range: Range): void {
     this.bench.files.show(this.bench.dialog);
     this.editor.light(this.bench.dialog, [range], true);
-  }
-
-  private mark(targets: string[]): void {
-    this.stage.element.querySelectorAll(".found").forEach((element) => element.classList.remove("found"));
-    targets.forEach((target) => this.stage.elementOf(target)?.classList.add("found"));
   }
 
   private linked(text: string, range: Range): HTMLElement {

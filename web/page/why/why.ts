@@ -27,15 +27,8 @@ export class WhyPanel {
       bench.files.show(bench.topPath);
       panels.show("why");
     });
-    panels.shown.on((name) => (name === "why" ? void this.tell() : this.mark(undefined)));
+    panels.shown.on((name) => (name === "why" ? void this.tell() : stage.mark([])));
     bench.drawn.on(({ isNewest }) => isNewest && panels.current === "why" && void this.tell());
-  }
-
-  private mark(target: string | undefined): void {
-    this.stage.element.querySelectorAll(".found").forEach((element) => element.classList.remove("found"));
-    if (target !== undefined) {
-      this.stage.elementOf(target)?.classList.add("found");
-    }
   }
 
   private async tell(): Promise<void> {
@@ -51,7 +44,7 @@ export class WhyPanel {
     if (turn !== this.newest || this.panels.current !== "why") {
       return;
     }
-    this.mark(target);
+    this.stage.mark([target]);
     if (why instanceof Error) {
       this.answer.replaceChildren(make("p", { class: "warning" }, why.message));
       return;
