@@ -34,26 +34,9 @@ async function filesBelow(folder: Folder, path: string): Promise<Found[]> {
   return found;
 }
 
-function filesOfEntry(entry: FileSystemEntry, path: string): Promise<Found[]> {
-  return new Promise((resolve, reject) => {
-    if (entry.isFile) {
-      (entry as FileSystemFileEntry).file((file) => resolve([{ path: path + entry.name, file }]), reject);
-      return;
-    }
-    const reader = (entry as FileSystemDirectoryEntry).createReader();
-    const all: Promise<Found[]>[] = [];
-    // It gives a hundred at a time.
-    const next = () =>
-      reader.readEntries((entries) => {
-        if (entries.length === 0) {
-          void Promise.all(all).then((lists) => resolve(lists.flat()), reject);
-          return;
-        }
-        all.push(...entries.map((each) => filesOfEntry(each, `${path}${entry.name}/`)));
-        next();
-      }, reject);
-    next();
-  });
+// In a page that is a file itself, a browser that has this gives a folder that is dragged in no other way.
+interface Dragged extends DataTransferItem {
+  getAsFileSystemHandle?: () => Promise<FileSystemHandle | null>;
 }
 
 export class Disk {
@@ -69,8 +52,7 @@ export class Disk {
       return;
     }
     const folder = await pick.call(window, { mode: "readwrite" });
-    await this.takeAll(await filesBelow(folder, folder.name));
-    this.folder = folder;
+    await this.takeAll(await filesBelow(folder, folder.name), folder);
   }
 
   private openByInput(): void {
@@ -84,24 +66,30 @@ export class Disk {
     input.click();
   }
 
+  // What was dragged can be asked for during the event only.
   async drop(event: DragEvent): Promise<void> {
-    const lists = [...(event.dataTransfer?.items ?? [])].map((item): Promise<Found[]> | Found[] => {
-      const entry = item.webkitGetAsEntry();
-      const file = item.getAsFile();
-      if (entry?.isDirectory) {
-        return filesOfEntry(entry, "");
+    const items = [...(event.dataTransfer?.items ?? [])] as Dragged[];
+    const dragged = items.map((item) => ({ file: item.getAsFile(), handle: item.getAsFileSystemHandle?.().catch(() => null) }));
+    const found: Found[] = [];
+    let folder: Folder | undefined;
+    for (const { file, handle } of dragged) {
+      const entry = await handle;
+      if (entry?.kind === "directory") {
+        folder = entry as Folder;
+        found.push(...(await filesBelow(folder, folder.name)));
+      } else if (file) {
+        found.push({ path: `dropped/${file.name}`, file });
       }
-      return file ? [{ path: `dropped/${file.name}`, file }] : [];
-    });
-    await this.takeAll((await Promise.all(lists)).flat());
+    }
+    await this.takeAll(found, dragged.length === 1 ? folder : undefined);
   }
 
-  private async takeAll(found: Found[]): Promise<void> {
+  private async takeAll(found: Found[], folder?: Folder): Promise<void> {
     const texts = found.filter(isText);
     if (texts.length === 0) {
       throw new Error("there is no description among these files");
     }
-    this.folder = undefined;
+    this.folder = folder;
     this.files.clear();
     for (const { path, file } of texts) {
       const bytes = new Uint8Array(await file.arrayBuffer());

@@ -5,7 +5,7 @@ import path from "node:path";
 import { fileURLToPath } from "node:url";
 import { after, before, test } from "node:test";
 import { execFileSync } from "node:child_process";
-import { startBrowser, temporaryFolder } from "./page.mjs";
+import { limit, startBrowser, temporaryFolder } from "./page.mjs";
 
 const samples = fileURLToPath(new URL("../../../samples", import.meta.url));
 let browser;
@@ -21,35 +21,127 @@ async function downloads(bench) {
 }
 
 async function arrived(file) {
-  for (let count = 0; count < 100; ++count) {
-    if (fs.existsSync(file) && fs.statSync(file).size > 0) {
-      return fs.readFileSync(file);
-    }
+  const end = Date.now() + limit;
+  while (!fs.existsSync(file) || fs.statSync(file).size === 0) {
+    assert.ok(Date.now() < end, `${file} was not saved`);
     await new Promise((resolve) => setTimeout(resolve, 50));
   }
-  throw new Error(`${file} was not saved`);
+  return fs.readFileSync(file);
 }
 
-// As dragging a folder in does it, with the files that the browser would give.
-async function dropFiles(bench, files) {
-  await bench.page.evaluate((all) => {
-    const transfer = new DataTransfer();
-    for (const { name, bytes } of all) {
-      transfer.items.add(new File([Uint8Array.from(bytes)], name));
-    }
-    document.dispatchEvent(new DragEvent("drop", { dataTransfer: transfer, bubbles: true, cancelable: true }));
-  }, files.map(({ name, bytes }) => ({ name, bytes: [...bytes] })));
+// Files and folders of the disk, dragged into the page.
+async function dragIn(bench, ...files) {
+  const session = await bench.page.createCDPSession();
+  for (const type of ["dragEnter", "dragOver", "drop"]) {
+    await session.send("Input.dispatchDragEvent", { type, x: 300, y: 300, data: { items: [], files, dragOperationsMask: 1 } });
+  }
 }
+
+// In the page: the browser's way to a folder, over files in memory. A person would have to answer the browser's own dialog.
+function openFolderInMemory(root, files) {
+  window.disk = new Map(Object.entries(files));
+  const fileAt = (path) => ({
+    kind: "file",
+    name: path.slice(path.lastIndexOf("/") + 1),
+    getFile: async () => new File([Uint8Array.from(window.disk.get(path))], path),
+    async createWritable() {
+      let written;
+      return { write: async (bytes) => (written = [...bytes]), close: async () => window.disk.set(path, written) };
+    },
+  });
+  const folderAt = (folder, name) => ({
+    kind: "directory",
+    name,
+    async *values() {
+      const names = new Set([...window.disk.keys()].filter((path) => path.startsWith(folder)).map((path) => path.slice(folder.length).split("/")[0]));
+      for (const each of names) {
+        yield window.disk.has(folder + each) ? fileAt(folder + each) : folderAt(`${folder}${each}/`, each);
+      }
+    },
+    getDirectoryHandle: async (each) => folderAt(`${folder}${each}/`, each),
+    getFileHandle: async (each) => fileAt(folder + each),
+  });
+  window.showDirectoryPicker = async () => folderAt("", root);
+}
+
+const diskFile = async (bench, name) => Buffer.from(await bench.page.evaluate((each) => window.disk.get(each), name));
+
+test("a folder is opened, and what was changed is saved into it, byte for byte", async () => {
+  const bench = await (await browser.open()).ready();
+  const { page } = bench;
+  const names = ["dialogs/lytInSym.dlg", "dialogs/lang/English.nls", "dialogs/lang/German.nls", "cases/symbol.case"];
+  const files = Object.fromEntries(names.map((name) => [name, [...fs.readFileSync(path.join(samples, name))]]));
+  await page.evaluate(openFolderInMemory, "inspection", { ...files, "picture.bmp": [1, 2, 3] });
+  await page.click("#open");
+  await bench.waitForText("#stage .window .title", "Properties of a value");
+  const offered = await page.$$eval("#other-files option", (all) => all.map((option) => option.value).filter((value) => value));
+  assert.deepEqual(offered, names.map((name) => `inspection/${name}`).sort());
+  await bench.putCursor("; lytInSym.dlg");
+  await page.keyboard.type(" für Ä");
+  await bench.show("inspection/dialogs/lang/German.nls");
+  await bench.replace("Title=Eigenschaften eines Wertes", "Title=Maß");
+  await page.click("#new-file");
+  await page.waitForSelector("dialog.ask input");
+  await page.keyboard.type("lang/Danish.nls");
+  await page.keyboard.press("Enter");
+  await bench.waitForText("#tabs [aria-selected=true]", "Danish.nls");
+  await page.focus(".cm-content");
+  await page.keyboard.type("; Blåbær");
+  await bench.holding(["Control"], () => page.keyboard.press("s"));
+  await bench.waitForText("#status", "3 files saved");
+  const was = (name) => fs.readFileSync(path.join(samples, name)).toString("latin1");
+  const wanted = {
+    "dialogs/lytInSym.dlg": was("dialogs/lytInSym.dlg").replace("; lytInSym.dlg", "; lytInSym.dlg für Ä"),
+    "dialogs/lang/German.nls": was("dialogs/lang/German.nls").replace("Title=Eigenschaften eines Wertes", "Title=Maß"),
+    "dialogs/lang/Danish.nls": "; Blåbær",
+    "dialogs/lang/English.nls": was("dialogs/lang/English.nls"),
+  };
+  for (const [name, text] of Object.entries(wanted)) {
+    assert.equal((await diskFile(bench, name)).toString("latin1"), text, name);
+  }
+  await page.waitForFunction(() => !document.querySelector("#tabs .star"));
+  assert.deepEqual(bench.trouble, []);
+});
+
+test("a folder that is dragged in is worked on with all that is below it", async () => {
+  const bench = await (await browser.open()).ready();
+  const folder = path.join(temporaryFolder(), "inspection");
+  for (const part of ["dialogs", "cases"]) {
+    fs.cpSync(path.join(samples, part), path.join(folder, part), { recursive: true });
+  }
+  await dragIn(bench, folder);
+  await bench.waitFor(() => document.querySelector("#other-files option[value='inspection/dialogs/lang/German.nls']"));
+  await bench.show("inspection/dialogs/lytInSym.dlg");
+  await bench.waitForText("#stage .window .title", "Properties of a value");
+  await bench.waitForText("#tab-cases", "✓");
+  assert.deepEqual(bench.trouble, []);
+});
+
+test("the tabs are the dialog, its languages and its cases", async () => {
+  const bench = await (await browser.open()).ready();
+  const { page } = bench;
+  const tabs = () => page.$$eval("#tabs [role=tab]", (all) => all.map((tab) => tab.textContent));
+  assert.deepEqual(await tabs(), ["lytInSym.dlg", "English.nls", "German.nls", "symbol.case"]);
+  await page.click("#tabs ::-p-text(German.nls)");
+  await bench.waitForText("#tabs [aria-selected=true]", "German.nls");
+  assert.match(await bench.editorText(), /Title=Eigenschaften/);
+  await page.focus("#tabs [aria-selected=true]");
+  await page.keyboard.press("ArrowRight");
+  await bench.waitForText("#tabs [aria-selected=true]", "symbol.case");
+  assert.match(await bench.editorText(), /^case:/m);
+});
 
 test("all bytes and all line ends come back as they were", async () => {
   const bench = await (await browser.open()).ready();
   const folder = await downloads(bench);
   const whole = Buffer.from([...Array(256).keys()].filter((byte) => byte !== 10 && byte !== 13));
   const bytes = Buffer.concat([Buffer.from("; one\r\n; two\n; three\r\n; "), whole, Buffer.from("\r\n; four\n\r\n; end")]);
-  await dropFiles(bench, [{ name: "odd.dlg", bytes }]);
+  fs.writeFileSync(path.join(folder, "odd.dlg"), bytes);
+  await dragIn(bench, path.join(folder, "odd.dlg"));
   await bench.waitForText("#tabs", "odd.dlg");
   await bench.putCursor("; three");
   await bench.page.keyboard.type(" ÄÖÜ");
+  fs.rmSync(path.join(folder, "odd.dlg"));
   await bench.page.click("#save");
   const saved = await arrived(path.join(folder, "odd.dlg"));
   const wanted = Buffer.from(bytes.toString("latin1").replace("; three", "; three ÄÖÜ"), "latin1");
@@ -63,11 +155,10 @@ test("unsaved work is there when the page is opened again", async () => {
   await bench.putCursor("; lytInSym.dlg");
   await page.keyboard.type(" Maß");
   await bench.waitForText("#tabs", "●");
-  await page.reload();
-  await bench.ready();
-  await bench.waitForActs('set Name = "volume"');
-  assert.match(await bench.editorText(), /^; lytInSym\.dlg Maß/);
-  await bench.waitForText("#tabs", "●");
+  const again = await (await browser.reopen(bench)).ready();
+  await again.waitForActs('set Name = "volume"');
+  assert.match(await again.editorText(), /^; lytInSym\.dlg Maß/);
+  await again.waitForText("#tabs", "●");
 });
 
 test("a link holds texts and acts, and opens them elsewhere", async () => {

@@ -6,26 +6,40 @@ import path from "node:path";
 import { fileURLToPath, pathToFileURL } from "node:url";
 import puppeteer from "puppeteer-core";
 
-// Against hangs, some ten times what the slowest answer takes on an idle machine.
-const limit = 20000 * Number(process.env.LYT_PATIENCE ?? 1);
+// Milliseconds against hangs, some thirty times what the slowest answer takes on an idle machine.
+export const limit = 60000 * Number(process.env.LYT_PATIENCE ?? 1);
 const file = fileURLToPath(new URL("../out/workbench.html", import.meta.url));
 
 export async function startBrowser(address = pathToFileURL(file).href) {
-  const browser = await puppeteer.launch({ executablePath: "/usr/bin/chromium", args: ["--no-sandbox"] });
+  const browser = await puppeteer.launch({
+    executablePath: "/usr/bin/chromium",
+    // Containers have little shared memory.
+    args: ["--no-sandbox", "--disable-dev-shm-usage"],
+    timeout: limit,
+    protocolTimeout: 3 * limit,
+  });
+  async function openIn(context, end = "", before = () => undefined) {
+    const page = await context.newPage();
+    await page.setViewport({ width: 1366, height: 768 });
+    page.setDefaultTimeout(limit);
+    const trouble = [];
+    page.on("pageerror", (error) => trouble.push(error.message));
+    page.on("console", (message) => message.type() === "error" && trouble.push(message.text()));
+    page.on("request", (request) => /^(file|blob|data):/.test(request.url()) || trouble.push(request.url()));
+    await page.evaluateOnNewDocument(before);
+    await page.goto(address + end);
+    return new Bench(page, trouble);
+  }
   return {
-    // A page that knows nothing of those before it. What it asked for from elsewhere and what went wrong in it is kept.
+    // A page that knows nothing of others. What it asked for from elsewhere and what went wrong in it is kept.
     async open(end = "", before = () => undefined) {
-      const context = await browser.createBrowserContext();
-      const page = await context.newPage();
-      await page.setViewport({ width: 1366, height: 768 });
-      page.setDefaultTimeout(limit);
-      const trouble = [];
-      page.on("pageerror", (error) => trouble.push(error.message));
-      page.on("console", (message) => message.type() === "error" && trouble.push(message.text()));
-      page.on("request", (request) => /^(file|blob|data):/.test(request.url()) || trouble.push(request.url()));
-      await page.evaluateOnNewDocument(before);
-      await page.goto(address + end);
-      return new Bench(page, trouble);
+      return openIn(await browser.createBrowserContext(), end, before);
+    },
+    // The same browser once more, after its page was closed.
+    async reopen(bench) {
+      const context = bench.page.browserContext();
+      await bench.page.close();
+      return openIn(context);
     },
     close: () => browser.close(),
   };
@@ -51,6 +65,15 @@ export class Bench {
   async openDialog(name, title) {
     await this.show(`dialogs/${name}`);
     await this.waitFor((wanted) => document.querySelector("#stage .window .title")?.textContent === wanted, title);
+  }
+
+  // While keys are held down.
+  async holding(keys, work) {
+    for (const key of keys) {
+      await this.page.keyboard.down(key);
+    }
+    await work();
+    await Promise.all(keys.map((key) => this.page.keyboard.up(key)));
   }
 
   waitFor(condition, ...words) {

@@ -21,6 +21,20 @@ test("a mistake is underlined while it is typed, and its cure is a click", async
   assert.deepEqual(bench.trouble, []);
 });
 
+test("each kind of word has its colour, in a description and in a language file", async () => {
+  const bench = await (await browser.open()).ready();
+  const { page } = bench;
+  const word = (kind, text) => bench.waitFor((where, wanted) => [...document.querySelectorAll(where)].some((each) => each.textContent.includes(wanted)), `.cm-content .tok-${kind}`, text);
+  await word("comment", "; lytInSym.dlg");
+  await word("heading", "$LAYOUT");
+  await word("type", "TextBox");
+  await word("number", "464");
+  await word("string", "Title");
+  await word("variable", "Digits");
+  await bench.show("dialogs/lang/English.nls");
+  await word("heading", "[");
+});
+
 test("what fits is proposed, and taken with Return", async () => {
   const bench = await (await browser.open()).ready();
   const { page } = bench;
@@ -51,6 +65,15 @@ test("a word is explained under the pointer, and leads to where it is given", as
   await bench.putCursor("Unit/ACTIVE = Digits");
   await page.keyboard.press("F12");
   await bench.waitForText(".cm-line.lit", ".Digits");
+  // The other way: a click with Ctrl, on the key of a text, leads into the language file.
+  await bench.putCursor('12, "Digits');
+  const key = await page.evaluate(() => {
+    const { left, top } = document.querySelector(".cm-content").cmTile.view.coordsAtPos(document.querySelector(".cm-content").cmTile.view.state.selection.main.head - 3);
+    return { x: left + 2, y: top + 5 };
+  });
+  await bench.holding(["Control"], () => page.mouse.click(key.x, key.y));
+  await bench.waitForText("#tabs [aria-selected=true]", ".nls");
+  await bench.waitForText(".cm-line.lit", "Digits=");
 });
 
 test("a name is renamed in all its places, with one undo", async () => {

@@ -27,7 +27,9 @@ test("a click with Alt tells what decides a control, and lights up its lines", a
 test("a line leads to its control, and F1 asks about the control with the focus", async () => {
   const bench = await (await browser.open()).ready();
   const { page } = bench;
-  await bench.putCursor("TextBox   176,  76");
+  await page.click(".cm-line ::-p-text(UnitLabel)");
+  await page.waitForSelector(`${bench.field("UnitLabel")}.found`);
+  await page.keyboard.press("ArrowDown");
   await page.waitForSelector(`${bench.field("Unit")}.found`);
   await page.focus(bench.field("Missing"));
   await page.keyboard.press("F1");
