@@ -178,6 +178,53 @@ TEST(LanguageServer, PublishesFirstWhatNeedsNoTrial)
     EXPECT_EQ(session.FindingsIn(path).size(), 1U);
 }
 
+TEST(LanguageServer, GivesTrialsUpForAMessage)
+{
+    const TestFolder folder;
+    for (const ExampleFile& file : ExampleFiles())
+        folder.Write(file.name, file.content);
+    const std::string path = folder.Write("a.dlg", "");
+    ServerSession session;
+    session.Open(path, ExampleDescription(RuleName("trip-dropped").Get().wrong));
+    const Json found = session.FindingsIn(path);
+    session.server.Receive(Json{{"method", "workspace/didChangeWatchedFiles"}, {"params", Json::object()}}.dump());
+    session.server.Work();
+    session.server.Work();
+    session.sent.clear();
+    int asked = 0;
+    // A trial has begun, and a message comes.
+    session.server.Work([&] { return ++asked > 1; });
+    EXPECT_EQ(asked, 2);
+    EXPECT_TRUE(session.sent.empty());
+    EXPECT_TRUE(session.server.HasWork());
+    session.Open(path, ExampleDescription(RuleName("trip-dropped").Get().wrong));
+    EXPECT_FALSE(session.server.HasWork());
+    EXPECT_EQ(session.FindingsIn(path), found);
+}
+
+TEST(LanguageServer, OutlivesAJudgementThatFails)
+{
+    const std::vector<std::function<bool()>> failures = {[]() -> bool { throw std::runtime_error("broken"); },
+                                                         []() -> bool { throw new CException; }};
+    for (const std::function<bool()>& fail : failures)
+    {
+        const TestFolder folder;
+        for (const ExampleFile& file : ExampleFiles())
+            folder.Write(file.name, file.content);
+        const std::string path = folder.File("a.dlg");
+        ServerSession session;
+        const Json document = {{"uri", UriOf(path)}, {"text", ExampleDescription("")}};
+        const Json params = {{"textDocument", document}};
+        session.server.Receive(Json{{"method", "textDocument/didOpen"}, {"params", params}}.dump());
+        while (session.server.HasWork())
+            session.server.Work(fail);
+        EXPECT_EQ(session.sent.back()["method"], "window/logMessage");
+        EXPECT_FALSE(session.ResultOf("textDocument/documentSymbol", params).empty());
+        session.Open(path, ExampleDescription("$VALUES\nUnit = HIDEN\n"));
+        EXPECT_EQ(session.FindingsIn(path).size(), 1U);
+    }
+}
+
 TEST(LanguageServer, JudgesNeighboursAgain)
 {
     const TestFolder folder;

@@ -103,7 +103,8 @@ const std::string& LineOf(const Finding& finding, const Description& description
 namespace
 {
 
-Findings JudgeBy(const Description& description, const Surroundings& surroundings, bool isTried)
+Findings JudgeBy(const Description& description, const Surroundings& surroundings, bool isTried,
+                 const GiveUpQuestion& isGivenUp)
 {
     Findings findings;
     // Nothing in it is what the library would read.
@@ -117,7 +118,7 @@ Findings JudgeBy(const Description& description, const Surroundings& surrounding
         apply({description, surroundings, findings});
     // Only what opens is tried, and not where a rule has said already what is wrong.
     if (isTried)
-        ApplyTrialRules({description, surroundings, findings});
+        ApplyTrialRules({description, surroundings, findings, isGivenUp});
     RemoveWhatIsNotKnown(description.text, findings);
     RemoveWhatFollows(findings);
     ApplyIgnores(description, findings);
@@ -130,14 +131,14 @@ Findings JudgeBy(const Description& description, const Surroundings& surrounding
 
 } // namespace
 
-Findings Judge(const Description& description, const Surroundings& surroundings)
+Findings Judge(const Description& description, const Surroundings& surroundings, const GiveUpQuestion& isGivenUp)
 {
-    return JudgeBy(description, surroundings, true);
+    return JudgeBy(description, surroundings, true, isGivenUp);
 }
 
 Findings JudgeUntried(const Description& description, const Surroundings& surroundings)
 {
-    return JudgeBy(description, surroundings, false);
+    return JudgeBy(description, surroundings, false, {});
 }
 
 } // namespace lytdlg

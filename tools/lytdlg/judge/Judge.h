@@ -7,6 +7,7 @@
 #include "lytdlg/judge/PartnerLibraries.h"
 #include "lytdlg/text/LanguageFiles.h"
 
+#include <functional>
 #include <memory>
 #include <optional>
 
@@ -24,11 +25,18 @@ struct Surroundings
 
 Surroundings SurroundingsOf(const std::string& folder, const std::vector<std::string>& partners);
 
+// Asked before each trial whether to give the judgement up, which raises JudgementGivenUp.
+using GiveUpQuestion = std::function<bool()>;
+struct JudgementGivenUp
+{
+};
+
 struct Case
 {
     const Description& description;
     const Surroundings& surroundings;
     Findings& findings;
+    GiveUpQuestion isGivenUp = {};
 };
 
 // Adds a finding in a language file. The line is the whole one that the place is in.
@@ -42,7 +50,7 @@ const std::string& PathOf(const Finding& finding, const Description& description
 const std::string& LineOf(const Finding& finding, const Description& description);
 
 // All findings on a description, in the order of its lines.
-Findings Judge(const Description& description, const Surroundings& surroundings);
+Findings Judge(const Description& description, const Surroundings& surroundings, const GiveUpQuestion& isGivenUp = {});
 // The same without those for which the dialog is tried, which takes nearly all of the time.
 Findings JudgeUntried(const Description& description, const Surroundings& surroundings);
 

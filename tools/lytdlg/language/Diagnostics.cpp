@@ -21,6 +21,14 @@ bool IsAmong(const std::vector<Finding>& findings, const Finding& wanted)
     return std::ranges::any_of(findings, [&](const Finding& finding) { return AreOneFinding(finding, wanted); });
 }
 
+std::vector<Finding> Folded(Findings findings)
+{
+    findings.Fold();
+    for (Finding& finding : findings.All())
+        finding.path = PlainPath(finding.path);
+    return std::move(findings.All());
+}
+
 } // namespace
 
 void Diagnostics::WillJudge(const std::string& path)
@@ -53,13 +61,21 @@ void Diagnostics::ForgetWaiting()
     m_untried.clear();
 }
 
-std::set<std::string> Diagnostics::JudgeNext()
+std::set<std::string> Diagnostics::JudgeNext(const GiveUpQuestion& isGivenUp)
 {
     const bool isTried = m_unread.empty();
     std::deque<std::string>& waiting = isTried ? m_untried : m_unread;
     const std::string path = std::move(waiting.front());
     waiting.pop_front();
-    return isTried ? Try(path) : Read(path);
+    try
+    {
+        return isTried ? Try(path, isGivenUp) : Read(path);
+    }
+    catch (const JudgementGivenUp&)
+    {
+        waiting.push_front(path);
+        return {};
+    }
 }
 
 std::set<std::string> Diagnostics::Include(const std::string& path)
@@ -75,17 +91,6 @@ bool Diagnostics::IsJudged(const std::string& path) const
     return m_workspace.Find(path) != nullptr || m_included.contains(path);
 }
 
-std::vector<Finding> Diagnostics::FindingsIn(const std::string& path, bool isTried) const
-{
-    const Description& description = m_workspace.DescriptionAt(path);
-    const Surroundings& surroundings = m_workspace.SurroundingsAt(path);
-    Findings findings = isTried ? lytdlg::Judge(description, surroundings) : JudgeUntried(description, surroundings);
-    findings.Fold();
-    for (Finding& finding : findings.All())
-        finding.path = PlainPath(finding.path);
-    return std::move(findings.All());
-}
-
 // What trials have found before stays until the dialog is tried again.
 std::set<std::string> Diagnostics::Read(const std::string& path)
 {
@@ -94,18 +99,20 @@ std::set<std::string> Diagnostics::Read(const std::string& path)
         judgement.all = FindingsInCases(m_workspace, path);
     if (IsJudged(path) && KindOfText(path) == TextKind::Description)
     {
-        judgement = {FindingsIn(path, false), m_judgements[path].tried};
+        judgement = {Folded(JudgeUntried(m_workspace.DescriptionAt(path), m_workspace.SurroundingsAt(path))),
+                     m_judgements[path].tried};
         std::ranges::copy(judgement.tried, std::back_inserter(judgement.all));
     }
     return Keep(path, std::move(judgement));
 }
 
-std::set<std::string> Diagnostics::Try(const std::string& path)
+std::set<std::string> Diagnostics::Try(const std::string& path, const GiveUpQuestion& isGivenUp)
 {
     if (!IsJudged(path) || KindOfText(path) != TextKind::Description)
         return {};
     const Judgement before = m_judgements[path];
-    Judgement judgement = {FindingsIn(path, true), {}};
+    Judgement judgement = {Folded(Judge(m_workspace.DescriptionAt(path), m_workspace.SurroundingsAt(path), isGivenUp)),
+                           {}};
     const auto isTried = [&](const Finding& finding)
     { return !IsAmong(before.all, finding) || IsAmong(before.tried, finding); };
     std::ranges::copy_if(judgement.all, std::back_inserter(judgement.tried), isTried);

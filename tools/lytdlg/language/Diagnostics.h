@@ -23,8 +23,9 @@ public:
     bool IsWaiting() const { return IsReading() || !m_untried.empty(); }
     // Whether the next text is only read.
     bool IsReading() const { return !m_unread.empty(); }
-    // Judges the first text that waits. Gives the files whose findings may be others now: itself, and language files.
-    std::set<std::string> JudgeNext();
+    // Judges the first text that waits. Gives the files whose findings may be others now: itself, and language files. A text
+    // whose trials are given up waits again.
+    std::set<std::string> JudgeNext(const GiveUpQuestion& isGivenUp = {});
     // From now on a description is judged that is not open, too.
     std::set<std::string> Include(const std::string& path);
     // What was found in a file, as `lytdlg check` reports it. What several descriptions find in a language file is there once.
@@ -38,9 +39,8 @@ private:
     };
 
     bool IsJudged(const std::string& path) const;
-    std::vector<Finding> FindingsIn(const std::string& path, bool isTried) const;
     std::set<std::string> Read(const std::string& path);
-    std::set<std::string> Try(const std::string& path);
+    std::set<std::string> Try(const std::string& path, const GiveUpQuestion& isGivenUp = {});
     std::set<std::string> Keep(const std::string& path, Judgement judgement);
 
     const Workspace& m_workspace;

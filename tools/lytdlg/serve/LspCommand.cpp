@@ -39,7 +39,7 @@ ExitCode Serve(const Request& request)
         if (isInputOpen && (!server.HasWork() || IsInputWaiting()))
             isInputOpen = TakeInput(stream, server);
         else
-            server.Work();
+            server.Work([&] { return isInputOpen && IsInputWaiting(); });
     }
     return server.WasShutDown() ? good : found;
 }

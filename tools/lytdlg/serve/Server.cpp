@@ -29,6 +29,13 @@ struct Refused : std::runtime_error
     ProtocolError code;
 };
 
+// Why an act has failed.
+struct Failure
+{
+    int code = 0;
+    std::string reason = {};
+};
+
 int CodeOf(const std::exception& failure)
 {
     if (const auto* refused = dynamic_cast<const Refused*>(&failure))
@@ -36,6 +43,28 @@ int CodeOf(const std::exception& failure)
     if (dynamic_cast<const Json::exception*>(&failure) != nullptr)
         return invalidParams;
     return dynamic_cast<const std::runtime_error*>(&failure) != nullptr ? requestFailed : internalError;
+}
+
+template <class ACT>
+std::optional<Failure> FailureOf(ACT act)
+{
+    try
+    {
+        act();
+        return std::nullopt;
+    }
+    catch (const std::exception& failure)
+    {
+        return Failure{CodeOf(failure), failure.what()};
+    }
+    catch (CException* failure)
+    {
+        CString reason;
+        failure->GetErrorMessage(reason.GetBuffer(1024), 1024);
+        reason.ReleaseBuffer();
+        failure->Delete();
+        return Failure{internalError, reason.GetString()};
+    }
 }
 
 // Of a field of a message; null for one that is not there.
@@ -87,11 +116,11 @@ void Server::Cancel(const Json& id)
     m_waiting.erase(waiting);
 }
 
-void Server::Work()
+void Server::Work(const GiveUpQuestion& isGivenUp)
 {
     if (m_waiting.empty())
     {
-        m_session.Publish(m_session.diagnostics.JudgeNext());
+        Judge(isGivenUp);
         return;
     }
     const Json message = std::move(m_waiting.front());
@@ -99,33 +128,28 @@ void Server::Work()
     Answer(message);
 }
 
+void Server::Judge(const GiveUpQuestion& isGivenUp)
+{
+    constexpr int asError = 1;
+    const std::optional<Failure> failure =
+        FailureOf([&] { m_session.Publish(m_session.diagnostics.JudgeNext(isGivenUp)); });
+    if (failure)
+        m_session.Notify("window/logMessage", {{"type", asError}, {"message", failure->reason}});
+}
+
 void Server::Answer(const Json& message)
 {
     const Json& id = FieldOf(message, "id");
-    const auto refuse = [&](int code, const std::string& reason)
-    {
-        if (!id.is_null())
-            ReplyError(id, code, reason);
-    };
-    try
-    {
-        const Json& params = FieldOf(message, "params");
-        Json result = ResultOf(MethodOf(message), params.is_null() ? Json::object() : params);
-        if (!id.is_null())
-            m_session.send({{"jsonrpc", "2.0"}, {"id", id}, {"result", std::move(result)}});
-    }
-    catch (const std::exception& failure)
-    {
-        refuse(CodeOf(failure), failure.what());
-    }
-    catch (CException* failure)
-    {
-        CString reason;
-        failure->GetErrorMessage(reason.GetBuffer(1024), 1024);
-        reason.ReleaseBuffer();
-        failure->Delete();
-        refuse(internalError, reason.GetString());
-    }
+    const Json& params = FieldOf(message, "params");
+    Json result;
+    const std::optional<Failure> failure =
+        FailureOf([&] { result = ResultOf(MethodOf(message), params.is_null() ? Json::object() : params); });
+    if (id.is_null())
+        return;
+    if (failure)
+        ReplyError(id, failure->code, failure->reason);
+    else
+        m_session.send({{"jsonrpc", "2.0"}, {"id", id}, {"result", std::move(result)}});
 }
 
 Json Server::ResultOf(const std::string& method, const Json& params)

@@ -22,8 +22,8 @@ public:
     bool HasWork() const { return !m_waiting.empty() || m_session.diagnostics.IsWaiting(); }
     // Whether the next piece of work is more than trying a dialog for what is wrong with it.
     bool IsUrgent() const { return !m_waiting.empty() || m_session.diagnostics.IsReading(); }
-    // Answers the first message that waits. Without one, judges a text that has changed.
-    void Work();
+    // Answers the first message that waits. Without one, judges a text that has changed, unless it is given up.
+    void Work(const GiveUpQuestion& isGivenUp = {});
     bool IsOver() const { return m_session.isOver; }
     // Whether the end was announced, as it should be.
     bool WasShutDown() const { return m_session.state == Session::State::ShutDown; }
@@ -31,6 +31,7 @@ public:
 private:
     void Cancel(const Json& id);
     void Answer(const Json& message);
+    void Judge(const GiveUpQuestion& isGivenUp);
     Json ResultOf(const std::string& method, const Json& params);
     void ReplyError(const Json& id, int code, const std::string& message) const;
 

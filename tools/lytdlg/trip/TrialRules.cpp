@@ -52,7 +52,7 @@ void ApplyTrialRules(const Case& judged)
     if (!description.mistakes.empty() || !IsOpening(judged))
         return;
     TripTeller teller(judged);
-    TripStage stage;
+    TripStage stage(judged.isGivenUp);
     const bool isNested = judged.surroundings.descriptions.Open(PlainNameOf(description.path));
     const TripPlan plan(description, isNested);
     LossTeller losses(teller, plan);

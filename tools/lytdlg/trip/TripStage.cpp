@@ -376,11 +376,15 @@ private:
     TripListener m_listener;
 };
 
-TripStage::TripStage() : m_works(std::make_unique<Works>()) {}
+TripStage::TripStage(GiveUpQuestion isGivenUp) : m_isGivenUp(std::move(isGivenUp)), m_works(std::make_unique<Works>())
+{
+}
 TripStage::~TripStage() = default;
 
 std::unique_ptr<TripForm> TripStage::Open(const TripPlan& plan, const std::string& text)
 {
+    if (m_isGivenUp && m_isGivenUp())
+        throw JudgementGivenUp();
     return m_works->Open(plan, text);
 }
 

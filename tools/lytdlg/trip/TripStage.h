@@ -1,6 +1,7 @@
 // Dialogs that are opened over a text, given values and asked for their text, without anybody to look at them.
 #pragma once
 
+#include "lytdlg/judge/Judge.h"
 #include "lytdlg/judge/WithoutTexts.h"
 #include "lytdlg/text/Paths.h"
 #include "lytdlg/trip/TripItem.h"
@@ -113,12 +114,12 @@ public:
 class TripStage
 {
 public:
-    TripStage();
+    explicit TripStage(GiveUpQuestion isGivenUp = {});
     TripStage(const TripStage&) = delete;
     TripStage& operator=(const TripStage&) = delete;
     ~TripStage();
 
-    // Null when it does not open.
+    // Null when it does not open. Raises JudgementGivenUp.
     std::unique_ptr<TripForm> Open(const TripPlan& plan, const std::string& text);
     // Of the text that was scanned last, also in a dialog that did not open.
     const std::vector<TripCut>& LastCuts() const;
@@ -127,6 +128,7 @@ public:
 
 private:
     class Works;
+    const GiveUpQuestion m_isGivenUp;
     std::unique_ptr<Works> m_works;
 };
 
