@@ -52,7 +52,7 @@ foreach(package gcc-mingw-w64-x86-64-posix-runtime mingw-w64-x86-64-dev nlohmann
   install(FILES ${LYT_TERMS}/${package}/copyright DESTINATION licences RENAME ${package}.txt)
 endforeach()
 
-install(CODE "set(lyt_scripts ${CMAKE_SOURCE_DIR}/scripts)\nset(lyt_version ${PROJECT_VERSION})")
+install(CODE "set(lyt_scripts \"${CMAKE_SOURCE_DIR}/scripts\")\nset(lyt_version ${PROJECT_VERSION})")
 install(SCRIPT cmake/Completion.cmake)
 
 # The generator for zips takes the files in the order in which the file system tells them, and notes who owns them, so that
