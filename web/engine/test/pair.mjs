@@ -4,12 +4,12 @@ import { spawn } from "node:child_process";
 import { cpSync, mkdtempSync, readFileSync, readdirSync, rmSync, statSync } from "node:fs";
 import { tmpdir } from "node:os";
 import { dirname, join } from "node:path";
-import { pathToFileURL } from "node:url";
+import { fileURLToPath, pathToFileURL } from "node:url";
 
 import { openEngine, programFolder } from "../engine.mjs";
 
 const patience = 60000 * Number(process.env.LYT_PATIENCE ?? 1); // milliseconds
-const samples = join(import.meta.dirname, "../../../samples");
+const samples = fileURLToPath(new URL("../../../samples", import.meta.url));
 
 function filesBelow(folder) {
   return readdirSync(folder).flatMap((name) => {

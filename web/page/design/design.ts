@@ -66,15 +66,13 @@ export class Design {
   }
 
   private makeBar(): void {
-    const tool = (text: string, title: string, act: () => void) => button(text, title, act);
-    const arrange = Object.keys(arrangements).map((name) => tool(name, `${name}: as the first that was chosen`, () => void this.arrange(name)));
-    const order = tool("Tab order", "Drag a number onto another", () => {
+    const order = button("Tab order", "Drag a number onto another", () => {
       this.showsOrder = !this.showsOrder;
       order.setAttribute("aria-pressed", String(this.showsOrder));
       this.show();
     });
     order.setAttribute("aria-pressed", "false");
-    const list = make("select", { "aria-label": "New control" }, new Option("New control...", ""), ...Object.keys(palette).map((type) => new Option(type, type)));
+    const list = make("select", { "aria-label": "New control" }, new Option("New control", ""), ...Object.keys(palette).map((type) => new Option(type, type)));
     list.addEventListener("change", () => {
       this.armed = list.value || undefined;
       say(this.armed ? `Click in the dialog where the ${this.armed} begins, or press Enter for its corner.` : "");
@@ -84,8 +82,21 @@ export class Design {
         void this.add(2 * grid, 2 * grid);
       }
     });
-    const remove = tool("Remove", "Remove what is chosen (Delete)", () => void this.remove());
-    this.bar.append(list, remove, order, ...arrange);
+    const remove = button("Remove", "Remove what is chosen (Delete)", () => void this.remove());
+    this.bar.append(list, remove, order, ...this.arrangeTools());
+  }
+
+  // Those whose names begin alike are after one word.
+  private arrangeTools(): HTMLElement[] {
+    let last = "";
+    return Object.keys(arrangements).flatMap((name) => {
+      const [kind = "", way = ""] = name.split(" ");
+      const tool = button(way, name, () => void this.arrange(name));
+      tool.setAttribute("aria-label", name);
+      const head = kind === last ? [] : [make("span", {}, kind)];
+      last = kind;
+      return [...head, tool];
+    });
   }
 
   private turn(isOn: boolean): void {

@@ -61,7 +61,7 @@ export function sized(area: Area, dx: number, dy: number, neighbours: Area[]): {
   return { area: { ...area, width: Math.max(grid, width), height: Math.max(grid, height) }, guides };
 }
 
-// The first is the one that the others follow.
+// By their names of two words. The others follow the first.
 export const arrangements: Record<string, (areas: Area[]) => Area[]> = {
   "Align left": ([first, ...rest]) => [first!, ...rest.map((area) => ({ ...area, x: first!.x }))],
   "Align right": ([first, ...rest]) => [first!, ...rest.map((area) => ({ ...area, x: first!.x + first!.width - area.width }))],

@@ -47,8 +47,10 @@ export function showTabs(bench: Bench): void {
     });
     const hadFocus = bar.contains(document.activeElement);
     bar.replaceChildren(...tabs);
+    const active = bar.querySelector<HTMLElement>('[aria-selected="true"]');
+    active?.scrollIntoView({ block: "nearest", inline: "nearest" });
     if (hadFocus) {
-      (bar.querySelector('[aria-selected="true"]') as HTMLElement | null)?.focus();
+      active?.focus();
     }
     other.replaceChildren(new Option("More files", ""), ...files.paths.map((path) => new Option(path, path)));
   };

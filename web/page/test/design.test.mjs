@@ -130,7 +130,7 @@ test("the space between several is made the same", async () => {
   const before = await places();
   assert.notEqual(before[1].y - before[0].y, before[2].y - before[1].y);
   const text = await bench.editorText();
-  await page.click("#design-bar ::-p-text(Distribute down)");
+  await page.click("#design-bar [aria-label='Distribute down']");
   await bench.waitFor((selector, y) => document.querySelector(selector).offsetTop > y, bench.field("Digits"), before[1].y);
   const after = await places();
   const gaps = [after[1].y - after[0].y - after[0].height, after[2].y - after[1].y - after[1].height];
@@ -149,7 +149,7 @@ test("edges are brought onto those of the first that was chosen", async () => {
   const bench = await choosing("Name", "Cancel");
   for (const [name, edge] of Object.entries(edges)) {
     const wanted = edge(await placeOf(bench, "Name"));
-    await bench.page.click(`#design-bar ::-p-text(${name})`);
+    await bench.page.click(`#design-bar [aria-label='${name}']`);
     await bench.waitFor(
       (selector, at, which) => {
         const { offsetLeft: x, offsetTop: y, offsetWidth: width, offsetHeight: height } = document.querySelector(selector);
@@ -210,10 +210,10 @@ test("several are brought into line and to one width", async () => {
   await page.keyboard.down("Shift");
   await page.click(box("Digits"));
   await page.keyboard.up("Shift");
-  await page.click("#design-bar ::-p-text(Equal widths)");
+  await page.click("#design-bar [aria-label='Equal widths']");
   await bench.waitFor((selector, width) => document.querySelector(selector).offsetWidth === width, bench.field("Digits"), name.width);
   assert.deepEqual(changed(text, await bench.editorText()).map((line) => line.replace(/ +/g, " ")), ["TextBox 176, 50, 255, 19, .Digits"]);
-  await page.click("#design-bar ::-p-text(Align top)");
+  await page.click("#design-bar [aria-label='Align top']");
   await bench.waitFor((selector, y) => document.querySelector(selector).offsetTop === y, bench.field("Digits"), name.y);
 });
 

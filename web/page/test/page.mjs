@@ -8,6 +8,8 @@ import puppeteer from "puppeteer-core";
 
 // Milliseconds against hangs, some thirty times what the slowest answer takes on an idle machine.
 export const limit = 60000 * Number(process.env.LYT_PATIENCE ?? 1);
+// The native program, if the page is to be compared with it.
+export const lytdlg = process.env.LYTDLG && fs.statSync(process.env.LYTDLG).isFile() ? process.env.LYTDLG : undefined;
 const file = fileURLToPath(new URL("../out/workbench.html", import.meta.url));
 
 export async function startBrowser(address = pathToFileURL(file).href) {

@@ -6,10 +6,9 @@ import { createRequire } from "node:module";
 import path from "node:path";
 import { fileURLToPath } from "node:url";
 import { after, before, test } from "node:test";
-import { startBrowser, temporaryFolder } from "./page.mjs";
+import { lytdlg, startBrowser, temporaryFolder } from "./page.mjs";
 
 const samples = fileURLToPath(new URL("../../../samples", import.meta.url));
-const lytdlg = process.env.LYTDLG && fs.statSync(process.env.LYTDLG).isFile() ? process.env.LYTDLG : undefined;
 const axe = createRequire(import.meta.url).resolve("axe-core/axe.min.js");
 let browser;
 before(async () => (browser = await startBrowser()));

@@ -44,8 +44,8 @@ export class Editor {
     files.extensionsFor = (path) => this.extensions(path);
     files.showsChange = (change) => this.view.dispatch(change);
     this.view = new EditorView({ parent: find("editor") });
-    new Findings(bench, this.view);
     files.activated.on((path) => this.show(path));
+    new Findings(bench, this.view);
     bench.lit.on((place) => place && this.light(place.path, [place.range], true));
   }
 

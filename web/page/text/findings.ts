@@ -38,6 +38,7 @@ export class Findings {
         void this.show(diagnostics);
       }
     });
+    bench.files.activated.on(() => this.list());
   }
 
   // The findings come first; their cures follow.

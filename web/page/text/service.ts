@@ -28,7 +28,7 @@ export class Service {
       };
     };
     return [
-      autocompletion({ override: [(context) => this.complete(path, context)] }),
+      autocompletion({ icons: false, override: [(context) => this.complete(path, context)] }),
       hoverTooltip((view, offset) => this.explain(at(view, offset), view)),
       keymap.of([
         { key: "F12", run: command((view) => this.goTo(atHead(view))) },
