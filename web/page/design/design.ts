@@ -66,7 +66,7 @@ export class Design {
   }
 
   private makeBar(): void {
-    const order = button("Tab order", "Drag a number onto another", () => {
+    const order = button("Tab order", "Drag a number onto another, or move it with the arrow keys", () => {
       this.showsOrder = !this.showsOrder;
       order.setAttribute("aria-pressed", String(this.showsOrder));
       this.show();
@@ -79,6 +79,8 @@ export class Design {
     });
     list.addEventListener("keydown", (event) => {
       if (event.key === "Enter" && this.armed) {
+        // Else the key would confirm the box that opens.
+        event.preventDefault();
         void this.add(2 * grid, 2 * grid);
       }
     });
@@ -257,16 +259,19 @@ export class Design {
       return;
     }
     if (this.showsOrder) {
-      await this.reorder([...drag.areas.keys()][0]!, event);
+      await this.reorder([...drag.areas.keys()][0]!, this.stopAt(event));
       return;
     }
     const areas = new Map([...drag.areas.keys()].map((target) => [target, this.areaOf(this.boxOf(target)!)]));
     await this.place(areas);
   }
 
-  private async reorder(from: string, event: PointerEvent): Promise<void> {
+  private stopAt(event: PointerEvent): string | undefined {
     const under = document.elementsFromPoint(event.clientX, event.clientY) as HTMLElement[];
-    const to = under.map((element) => element.dataset["box"]).find((target) => this.stops.some((stop) => stop.target === target));
+    return under.map((element) => element.dataset["box"]).find((target) => this.stops.some((stop) => stop.target === target));
+  }
+
+  private async reorder(from: string, to: string | undefined): Promise<void> {
     const lines = to === undefined ? undefined : reordered(this.controls, from, to);
     if (lines) {
       await this.change("lytdlg/order", { lines });
@@ -324,6 +329,9 @@ export class Design {
       void this.remove();
     } else if (event.key === "Enter" || event.key === " ") {
       this.pick(target ?? "", event.shiftKey);
+    } else if (way && target !== undefined && this.showsOrder) {
+      const at = this.stops.findIndex((stop) => stop.target === target);
+      void this.reorder(target, this.stops[at + way[0]! + way[1]!]?.target);
     } else if (way && target !== undefined) {
       void this.nudge(target, way[0]! * grid, way[1]! * grid, event.shiftKey);
     } else {

@@ -228,6 +228,37 @@ test("the order of the Tab key follows a number that is dragged, with its label"
   await bench.waitForText("#outcome", "");
 });
 
+test("keys alone do all of it", async () => {
+  const bench = await (await browser.open()).ready();
+  const { page } = bench;
+  const lineOf = async (name) => (await bench.editorText()).split("\n").findIndex((line) => line.endsWith(`.${name}`));
+  await page.focus("#design");
+  await page.keyboard.press("Enter");
+  await page.waitForSelector(box("Unit"));
+  await page.focus(box("Unit"));
+  await page.keyboard.press("Enter");
+  await page.focus(box("Digits"));
+  await bench.holding(["Shift"], () => page.keyboard.press("Enter"));
+  await page.focus("#design-bar [aria-label='Equal widths']");
+  await page.keyboard.press("Enter");
+  await bench.waitFor((one, other) => document.querySelector(one).offsetWidth === document.querySelector(other).offsetWidth, bench.field("Unit"), bench.field("Digits"));
+  await page.focus("#design-bar [aria-pressed]");
+  await page.keyboard.press("Enter");
+  await page.waitForSelector(`${box("Unit")} .number`);
+  assert.ok((await lineOf("Digits")) < (await lineOf("Unit")));
+  await page.focus(box("Unit"));
+  await page.keyboard.press("ArrowUp");
+  await bench.waitFor(() => /\.Unit\n[^]*\.Digits\n/.test(document.querySelector(".cm-content").cmTile.view.state.doc.toString()));
+  await page.select("#design-bar select", "CheckBox");
+  await page.focus("#design-bar select");
+  await page.keyboard.press("Enter");
+  await page.waitForSelector("dialog.ask input");
+  await page.keyboard.type("Mine");
+  await page.keyboard.press("Enter");
+  await page.waitForSelector(box("Mine"));
+  assert.deepEqual(bench.trouble, []);
+});
+
 test("a new control comes with its text in each language, and goes again", async () => {
   const bench = await designing();
   const { page } = bench;
