@@ -2,6 +2,7 @@
 
 #include "lytdlg/text/Paths.h"
 #include "lytdlg/text/TextFile.h"
+#include "lytdlg/text/Words.h"
 
 #include <algorithm>
 #include <set>
@@ -59,14 +60,6 @@ std::vector<Fix> FixesApart(std::vector<Fix> fixes)
             apart.push_back(std::move(fix));
     }
     return apart;
-}
-
-std::string WithLineEnds(const std::string& text, const std::string& end)
-{
-    std::string result;
-    for (const char ch : text)
-        result += ch == '\n' ? end : std::string(1, ch);
-    return result;
 }
 
 bool IsBlank(const std::string& text)

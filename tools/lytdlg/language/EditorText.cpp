@@ -10,28 +10,43 @@ namespace lytdlg
 namespace
 {
 
-// The bytes of a text in UTF-8, and for each whether it is the substitute of a letter that the code page lacks.
-struct ReadLetters
+// A byte that is not UTF-8 counts as a letter.
+std::string LetterAt(const std::string& utf8, size_t place)
+{
+    return utf8.substr(place, std::max<size_t>(1, commandline::LengthOfCharacter(utf8, place)));
+}
+
+// An editor counts a letter beyond the first plane as two.
+size_t UnitsOf(const std::string& letter)
+{
+    return letter.size() > 3 ? 2 : 1;
+}
+
+std::string BytesOf(const std::string& utf8)
 {
     std::string bytes;
-    std::string lost;
-};
-
-ReadLetters LettersOf(const std::string& utf8)
-{
-    ReadLetters read;
-    for (size_t place = 0, length = 0; place < utf8.size(); place += length)
+    for (size_t place = 0; place < utf8.size();)
     {
-        length = std::max<size_t>(1, commandline::LengthOfCharacter(utf8, place));
-        const std::string letter = utf8.substr(place, length);
-        const std::string byte = length == 1 ? letter : commandline::ToAnsi(letter);
-        const bool isLost = length > 1 && commandline::ToUtf8(byte) != letter;
-        // An editor counts a letter beyond the first plane as two.
-        const size_t units = length > 3 ? 2 : 1;
-        read.bytes += isLost ? std::string(units, '?') : byte;
-        read.lost += std::string(isLost ? units : 1, isLost ? '1' : '0');
+        const std::string letter = LetterAt(utf8, place);
+        const std::string byte = letter.size() == 1 ? letter : commandline::ToAnsi(letter);
+        const bool isLost = letter.size() > 1 && commandline::ToUtf8(byte) != letter;
+        bytes += isLost ? std::string(UnitsOf(letter), '?') : byte;
+        place += letter.size();
     }
-    return read;
+    return bytes;
+}
+
+// Where the letter with that unit begins.
+size_t PlaceOfUnit(const std::string& utf8, size_t unit)
+{
+    size_t place = 0;
+    for (size_t units = 0; units < unit && place < utf8.size();)
+    {
+        const std::string letter = LetterAt(utf8, place);
+        units += UnitsOf(letter);
+        place += letter.size();
+    }
+    return place;
 }
 
 } // namespace
@@ -42,25 +57,24 @@ TextRange RangeOf(const ClytSpan& place)
     return {{line, place.column}, {line, place.column + place.length}};
 }
 
-EditorText::EditorText(const std::string& utf8)
-{
-    ReadLetters read = LettersOf(utf8);
-    m_bytes = std::move(read.bytes);
-    m_lost = std::move(read.lost);
-}
+EditorText::EditorText(const std::string& utf8) : m_bytes(BytesOf(utf8)), m_utf8(utf8) {}
 
 void EditorText::Replace(const TextRange& range, const std::string& utf8)
 {
     const size_t begin = OffsetOf(range.begin);
-    const size_t length = std::max(begin, OffsetOf(range.end)) - begin;
-    const ReadLetters read = LettersOf(utf8);
-    m_bytes.replace(begin, length, read.bytes);
-    m_lost.replace(begin, length, read.lost);
+    const size_t end = std::max(begin, OffsetOf(range.end));
+    const size_t place = PlaceOfUnit(m_utf8, begin);
+    m_utf8.replace(place, PlaceOfUnit(m_utf8, end) - place, utf8);
+    m_bytes.replace(begin, end - begin, BytesOf(utf8));
 }
 
 bool EditorText::IsWhole(const TextRange& range) const
 {
-    return m_lost.find('1', OffsetOf(range.begin)) >= OffsetOf(range.end);
+    const size_t begin = OffsetOf(range.begin);
+    const size_t end = OffsetOf(range.end);
+    const size_t place = PlaceOfUnit(m_utf8, begin);
+    return commandline::ToUtf8(m_bytes.substr(begin, end - begin)) ==
+           m_utf8.substr(place, PlaceOfUnit(m_utf8, end) - place);
 }
 
 size_t EditorText::OffsetOf(const TextPosition& position) const

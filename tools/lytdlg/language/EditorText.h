@@ -1,4 +1,4 @@
-// A text as an editor holds it, and as its file holds it: one byte of the code page for each unit of UTF-16, so that a column
+// A text as an editor has it, and in the code page: one byte of the code page for each unit of UTF-16, so that a column
 // is the same in both.
 #pragma once
 
@@ -33,18 +33,19 @@ class EditorText
 public:
     explicit EditorText(const std::string& utf8);
 
-    // The content of the file. A letter that the code page lacks is a question mark for each of its units.
+    // In the code page. A letter that it lacks is a question mark for each of its units.
     const std::string& Bytes() const { return m_bytes; }
+    const std::string& Utf8() const { return m_utf8; }
     // Puts a text in the place of a range. What is outside of the text counts as its nearest place.
     void Replace(const TextRange& range, const std::string& utf8);
-    // Whether the file can hold all that is in the range.
+    // Whether the code page has all letters of the range.
     bool IsWhole(const TextRange& range) const;
 
 private:
     size_t OffsetOf(const TextPosition& position) const;
 
     std::string m_bytes;
-    std::string m_lost; // as long; a 1 for each byte that is a substitute, else a 0
+    std::string m_utf8;
 };
 
 // The place of a text at which an offset is, and the whole of it.

@@ -17,20 +17,10 @@ namespace
 std::vector<NamedWord> WordsOfTexts(const Workspace& workspace, const std::string& path)
 {
     std::vector<NamedWord> words;
-    const std::string bytes = workspace.BytesOf(path);
-    int number = 0;
-    for (const std::string& line : commandline::LinesOf(bytes))
-    {
-        ++number;
-        const size_t begin = line.find_first_not_of(" \t");
-        const size_t end = line.rfind(']');
-        if (begin == std::string::npos || end == std::string::npos || line[begin] != '[')
-            continue;
-        const std::string name = line.substr(begin + 1, end - begin - 1);
-        const ClytSpan place = {number, static_cast<int>(begin) + 1, static_cast<int>(name.size())};
-        words.push_back({Meaning::TextSection, name, place, true, "", nullptr, path});
-    }
-    for (const LanguageKey& key : ReadLanguageKeys(bytes))
+    const LanguageLines lines = ReadLanguageLines(workspace.BytesOf(path));
+    for (const LanguageSection& section : lines.sections)
+        words.push_back({Meaning::TextSection, section.name, section.place, true, "", nullptr, path});
+    for (const LanguageKey& key : lines.keys)
     {
         const Meaning meaning = IsSameName(key.section, messageSection) ? Meaning::Message : Meaning::TextKey;
         words.push_back({meaning, key.name, key.place, true, key.section, nullptr, path});
@@ -39,9 +29,16 @@ std::vector<NamedWord> WordsOfTexts(const Workspace& workspace, const std::strin
     return words;
 }
 
+// In UTF-8, as their file is.
 std::vector<std::string> LinesOfCases(const Workspace& workspace, const std::string& path)
 {
     return commandline::LinesOf(script::ScriptText(workspace.BytesOf(path)));
+}
+
+// In an editor, after the beginning of a line in UTF-8.
+int ColumnAfter(const std::string& beginning)
+{
+    return static_cast<int>(EditorText(beginning).Bytes().size());
 }
 
 std::vector<NamedWord> WordsOfCases(const Workspace& workspace, const std::string& path)
@@ -54,91 +51,69 @@ std::vector<NamedWord> WordsOfCases(const Workspace& workspace, const std::strin
         const size_t place = line.find(name.text, name.column);
         if (place == std::string::npos)
             continue;
-        const std::string text = commandline::ToAnsi(name.text);
-        const auto column = static_cast<int>(commandline::ToAnsi(line.substr(0, place)).size());
-        words.push_back({name.isDialog ? Meaning::Dialog : Meaning::Control,
-                         text,
-                         {name.line, column, static_cast<int>(text.size())},
-                         false,
-                         "",
-                         nullptr,
-                         PlainPath(name.dialog)});
+        const Meaning meaning = name.isDialog ? Meaning::Dialog : Meaning::Control;
+        const ClytSpan span = {name.line, ColumnAfter(line.substr(0, place)), ColumnAfter(name.text)};
+        words.push_back({meaning, commandline::ToAnsi(name.text), span, false, "", nullptr, PlainPath(name.dialog)});
     }
     return words;
 }
 
-// Where a word of a line would be that ends at a place.
-ClytSpan PlaceBefore(int line, size_t begin, size_t end)
+// The last word of that meaning above a line; nothing without one.
+std::optional<NamedWord> LastAbove(std::vector<NamedWord> words, Meaning meaning, int line)
 {
-    return {line, static_cast<int>(begin), static_cast<int>(end - begin)};
+    std::erase_if(words, [&](const NamedWord& word) { return word.meaning != meaning || word.place.line >= line; });
+    return words.empty() ? std::nullopt : std::optional(words.back());
+}
+
+// A word that a line ends with.
+NamedWord WordFrom(size_t begin, Meaning meaning, const std::string& home, int line, const std::string& before)
+{
+    const ClytSpan place = {line, static_cast<int>(begin), static_cast<int>(before.size() - begin)};
+    return {meaning, before.substr(begin), place, false, "", nullptr, home};
 }
 
 // The key or section that a line begins with.
 NamedWord WordAtOfTexts(const Workspace& workspace, const std::string& path, int line, const std::string& before)
 {
-    std::string section;
-    for (const NamedWord& word : WordsOfTexts(workspace, path))
-    {
-        if (word.meaning == Meaning::TextSection && word.place.line < line)
-            section = word.text;
-    }
-    const size_t begin = std::min(before.find_first_not_of(" \t"), before.size());
     if (before.find('=') != std::string::npos)
         return {};
+    const size_t begin = std::min(before.find_first_not_of(" \t"), before.size());
     const bool isSection = before.substr(begin).starts_with('[');
-    const size_t start = begin + (isSection ? 1 : 0);
-    return {isSection ? Meaning::TextSection : Meaning::TextKey,
-            before.substr(start),
-            PlaceBefore(line, start, before.size()),
-            true,
-            section,
-            nullptr,
-            path};
+    NamedWord word =
+        WordFrom(begin + (isSection ? 1 : 0), isSection ? Meaning::TextSection : Meaning::TextKey, path, line, before);
+    word.isDeclared = true;
+    if (const auto section = LastAbove(WordsOfTexts(workspace, path), Meaning::TextSection, line))
+        word.scope = section->text;
+    return word;
 }
 
 // The word of a line, its control, or a value of that. The home is the dialog of the case.
 NamedWord WordAtOfCases(const Workspace& workspace, const std::string& path, int line, const std::string& before)
 {
-    std::string home = path;
-    for (const NamedWord& word : WordsOfCases(workspace, path))
-    {
-        if (word.meaning == Meaning::Dialog && word.place.line < line)
-            home = word.home;
-    }
+    const auto dialog = LastAbove(WordsOfCases(workspace, path), Meaning::Dialog, line);
+    const auto wordFrom = [&](size_t begin, Meaning meaning)
+    { return WordFrom(begin, meaning, dialog ? dialog->home : path, line, before); };
     const size_t first = std::min(before.find_first_not_of(" \t"), before.size());
     const size_t blank = std::min(before.find_first_of(" \t:", first), before.size());
-    const size_t next = before.find_first_not_of(" \t:", blank);
-    const size_t name = std::min(next, before.size());
+    const size_t name = std::min(before.find_first_not_of(" \t:", blank), before.size());
     const size_t end = before.find_first_of(" \t=", name);
     const size_t sign = before.find('=', name);
     if (blank == before.size())
-        return {
-            Meaning::CaseWord, before.substr(first), PlaceBefore(line, first, before.size()), false, "", nullptr, home};
+        return wordFrom(first, Meaning::CaseWord);
     if (before.substr(first, blank - first) == "dialog")
     {
         const size_t stem = std::max(name, before.find_last_of("/\\") + 1);
-        const std::filesystem::path folder = PathOf(path).parent_path() / PathOf(before.substr(name, stem - name));
-        return {Meaning::Dialog,
-                before.substr(stem),
-                PlaceBefore(line, stem, before.size()),
-                false,
-                "",
-                nullptr,
-                PlainPath((folder / "x.dlg").string())};
+        NamedWord word = wordFrom(stem, Meaning::Dialog);
+        word.home = PathBeside(path, before.substr(name, stem - name) + "x.dlg");
+        return word;
     }
     if (end == std::string::npos)
-        return {
-            Meaning::Control, before.substr(name), PlaceBefore(line, name, before.size()), false, "", nullptr, home};
+        return wordFrom(name, Meaning::Control);
     if (sign == std::string::npos)
         return {};
-    const size_t value = std::min(before.find_first_not_of(" \t\"", sign + 1), before.size());
-    return {Meaning::Value,
-            before.substr(value),
-            PlaceBefore(line, value, before.size()),
-            false,
-            before.substr(name, end - name),
-            nullptr,
-            home};
+    NamedWord word = wordFrom(std::min(before.find_first_not_of(" \t\"", sign + 1), before.size()), Meaning::Value);
+    word.scope = before.substr(name, end - name);
+    return word;
 }
 
 bool OpensOthers(const Workspace& workspace, const std::string& path)
@@ -157,7 +132,7 @@ std::map<int, std::string> DialogsOnTop(const Workspace& workspace, const std::s
         if (!OpensOthers(workspace, dialog))
             continue;
         for (const auto& [line, name] : DescriptionsOnTop(one))
-            paths.emplace(line, PlainPath((PathOf(dialog).parent_path() / PathOf(name)).string()));
+            paths.emplace(line, PathBeside(dialog, name));
     }
     return paths;
 }
@@ -176,6 +151,12 @@ std::vector<NamedWord> WordsOf(const Workspace& workspace, const std::string& pa
     return {};
 }
 
+std::string TextOf(const Workspace& workspace, const std::string& path)
+{
+    const std::string bytes = workspace.BytesOf(path);
+    return KindOfText(path) == TextKind::Cases ? EditorText(script::ScriptText(bytes)).Bytes() : bytes;
+}
+
 std::vector<NamedWord> WordsLike(const Workspace& workspace, const std::string& path, const NamedWord& word)
 {
     if (KindOfText(path) == TextKind::Description)
@@ -190,7 +171,7 @@ NamedWord WordAt(const Workspace& workspace, const std::string& path, const Text
 {
     const TextKind kind = KindOfText(path);
     const int line = position.line + 1;
-    const std::vector<std::string> lines = commandline::LinesOf(workspace.BytesOf(path) + "\n");
+    const std::vector<std::string> lines = commandline::LinesOf(TextOf(workspace, path) + "\n");
     const bool isInside =
         position.line >= 0 && position.line < static_cast<int>(lines.size()) && position.character >= 0;
     if (!isInside || kind == TextKind::Other)
@@ -229,10 +210,7 @@ NamedWord NameAt(const Workspace& workspace, const std::string& path, const Text
 
 std::string PathOfDialog(const NamedWord& word)
 {
-    const std::filesystem::path folder = PathOf(word.home).parent_path();
-    const std::string name = commandline::ToUtf8(word.text) + ".dlg";
-    const std::filesystem::path file = FileIn(folder, name);
-    return PlainPath((file.empty() ? folder / PathOf(name) : file).string());
+    return PathBeside(word.home, commandline::ToUtf8(word.text) + ".dlg");
 }
 
 std::vector<Finding> FindingsInCases(const Workspace& workspace, const std::string& path)
@@ -252,9 +230,8 @@ std::vector<Finding> FindingsInCases(const Workspace& workspace, const std::stri
     for (const script::FileError& mistake : ReadCaseText(path, lines).mistakes)
     {
         const std::string line = lines.empty() ? "" : lines.at(static_cast<size_t>(mistake.line - 1));
-        const size_t column = commandline::ToAnsi(line.substr(0, mistake.column - 1)).size();
-        add({mistake.line, static_cast<int>(column), static_cast<int>(commandline::ToAnsi(line).size() - column)},
-            commandline::ToAnsi(mistake.message));
+        const int column = ColumnAfter(line.substr(0, mistake.column - 1));
+        add({mistake.line, column, ColumnAfter(line) - column}, commandline::ToAnsi(mistake.message));
     }
     for (const NamedWord& word : WordsOfCases(workspace, path))
     {

@@ -10,6 +10,8 @@ namespace lytdlg
 
 // All of a text, in their order.
 std::vector<NamedWord> WordsOf(const Workspace& workspace, const std::string& path);
+// The text of a file in the code page, with the columns that an editor has.
+std::string TextOf(const Workspace& workspace, const std::string& path);
 // Those that name the same as the word, as it would there.
 std::vector<NamedWord> WordsLike(const Workspace& workspace, const std::string& path, const NamedWord& word);
 // What a word at a place names, or would name. Without a home where nothing can be written.

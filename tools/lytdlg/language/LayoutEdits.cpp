@@ -4,6 +4,7 @@
 #include "lytdlg/language/NamedWord.h"
 #include "lytdlg/text/NewDialog.h"
 #include "lytdlg/text/TextFile.h"
+#include "lytdlg/text/Words.h"
 #include "model/ClytScale.h"
 
 #include <algorithm>
@@ -66,11 +67,6 @@ TextRange WholeLine(const Description& description, int line)
 {
     const auto length = static_cast<int>(description.text.Line(line).text.size());
     return {{line - 1, 0}, {line - 1, length}};
-}
-
-std::string LineEndOf(const Description& description)
-{
-    return description.text.Bytes().find("\r\n") != std::string::npos ? "\r\n" : "\n";
 }
 
 // The line that a new statement comes after.
@@ -234,7 +230,8 @@ EditsByPath AdditionOf(const Workspace& workspace, const std::string& path, NewC
     const TextPosition end = WholeLine(description, before).end;
     EditsByPath edits = {
         {path,
-         {{{end, end}, LineEndOf(description) + indent + StatementOf(control, type, ResolutionOf(pixelsPerInch))}}}};
+         {{{end, end},
+           LineEndOf(description.text.Bytes()) + indent + StatementOf(control, type, ResolutionOf(pixelsPerInch))}}}};
     if (!type.hasCaption)
         return edits;
     const std::string key = control.name + "=" + (control.text.empty() ? control.name : control.text) + "\n";

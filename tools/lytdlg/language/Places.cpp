@@ -68,7 +68,7 @@ std::vector<TextPlace> PlacesOf(const Workspace& workspace, const NamedWord& wor
         const std::string path = PlainPath(file.string());
         // Most hold no such word, and need not be read.
         const bool isHome = path == word.home && KindOfText(path) == TextKind::Description;
-        if (!isHome && FoldedName(workspace.BytesOf(path)).find(wanted) != std::string::npos)
+        if (!isHome && FoldedName(TextOf(workspace, path)).find(wanted) != std::string::npos)
             add(path);
     }
     if (isDialog && !workspace.BytesOf(PathOfDialog(word)).empty())

@@ -3,6 +3,7 @@
 #include "commandline/Text.h"
 #include "liveform/UserActs.h"
 #include "lytdlg/draw/SvgPen.h"
+#include "lytdlg/language/Workspace.h"
 #include "model/ClytScale.h"
 
 #include <algorithm>
@@ -31,8 +32,7 @@ std::vector<HWND> OpenWindows()
 std::string PathOfDescription(const TrialDialog& dialog, const Setup& setup)
 {
     const std::string& file = dialog.DescriptionFile();
-    const std::string name = commandline::ToUtf8(file.substr(file.find_last_of("\\/") + 1));
-    return FileIn(PathOf(setup.dialog).parent_path(), name).generic_string();
+    return PathBeside(setup.dialog, commandline::ToUtf8(file.substr(file.find_last_of("\\/") + 1)));
 }
 
 std::vector<std::string> GroupsOf(const TrialDialog& dialog)

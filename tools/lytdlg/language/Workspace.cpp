@@ -1,5 +1,6 @@
 #include "lytdlg/language/Workspace.h"
 
+#include "commandline/Text.h"
 #include "lytdlg/text/Paths.h"
 #include "lytdlg/text/TextFile.h"
 
@@ -18,6 +19,13 @@ TextKind KindOfText(const std::string& path)
 std::string PlainPath(const std::string& path)
 {
     return PathOf(path).lexically_normal().generic_string();
+}
+
+std::string PathBeside(const std::string& path, const std::string& name)
+{
+    const std::filesystem::path folder = PathOf(path).parent_path();
+    const std::filesystem::path file = FileIn(folder, name);
+    return PlainPath((file.empty() ? folder / PathOf(name) : file).string());
 }
 
 Workspace::Workspace(std::vector<std::string> partners, std::vector<std::string> defines)
@@ -53,7 +61,8 @@ void Workspace::Forget()
 
 void Workspace::Refresh(const std::string& path)
 {
-    m_texts.Put(PathOf(path), m_open.at(path).Bytes());
+    const EditorText& text = m_open.at(path);
+    m_texts.Put(PathOf(path), KindOfText(path) == TextKind::Cases ? text.Utf8() : text.Bytes());
     m_descriptions.erase(path);
     m_lastRead.reset();
     const auto known = m_surroundings.find(DialogFolderOf(path));
@@ -90,6 +99,16 @@ const Description& Workspace::DescriptionAt(const std::string& path) const
     if (!kept || kept->path != path)
         kept = std::make_unique<Description>(path, BytesOf(path), m_defines);
     return *kept;
+}
+
+std::unique_ptr<Description> Workspace::SavedOtherwise(const std::string& path) const
+{
+    const EditorText* text = Find(path);
+    const std::optional<std::string> saved = text != nullptr ? ReadSavedFile(PathOf(path)) : std::nullopt;
+    if (!saved || *saved == text->Bytes() ||
+        commandline::AsUtf8(commandline::FromMarkedUnicode(*saved)) != text->Utf8())
+        return nullptr;
+    return std::make_unique<Description>(path, *saved, m_defines);
 }
 
 const Surroundings& Workspace::SurroundingsAt(const std::string& path) const

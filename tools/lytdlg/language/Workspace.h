@@ -19,6 +19,8 @@ enum class TextKind
 TextKind KindOfText(const std::string& path);
 // The path as it is compared with others.
 std::string PlainPath(const std::string& path);
+// The path of the description with a file name beside another one, or what it would be.
+std::string PathBeside(const std::string& path, const std::string& name);
 
 class Workspace
 {
@@ -41,6 +43,8 @@ public:
     std::string BytesOf(const std::string& path) const;
     // Valid until a text changes.
     const Description& DescriptionAt(const std::string& path) const;
+    // As its file has it, of an open description that is the same there in another encoding; else null.
+    std::unique_ptr<Description> SavedOtherwise(const std::string& path) const;
     const Surroundings& SurroundingsAt(const std::string& path) const;
     // The folder of the dialogs that a description or a language file belongs to.
     static std::string DialogFolderOf(const std::string& path);

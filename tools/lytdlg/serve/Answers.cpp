@@ -176,19 +176,6 @@ Json Highlights(Session& session, const Json& params)
 
 // ---- Changes
 
-} // namespace
-
-Json WorkspaceEdit(const Session& session, const EditsByPath& edits)
-{
-    Json changes = Json::object();
-    for (const auto& [path, list] : edits)
-        changes[session.UriFor(path)] = list;
-    return {{"changes", std::move(changes)}};
-}
-
-namespace
-{
-
 // With versions unknown, as the changes of a text are when a file gets another name after them.
 Json WorkspaceEdit(const Session& session, const Renaming& renaming)
 {

@@ -88,11 +88,6 @@ Json JsonOf(const Finding& finding, const std::string& uri)
     return json;
 }
 
-std::string TextOf(const Json& message)
-{
-    return message.dump(-1, ' ', false, Json::error_handler_t::replace);
-}
-
 Json TokenLegend()
 {
     // In the order of the meanings.

@@ -6,12 +6,12 @@
 #include "lytdlg/language/Hints.h"
 #include "lytdlg/language/Outline.h"
 
+#include "lytdlg/text/TextFile.h"
+
 #include <nlohmann/json.hpp>
 
 namespace lytdlg
 {
-
-using Json = nlohmann::ordered_json;
 
 // The JSON library calls these by their names. What is read raises a Json::exception where something else is there.
 void from_json(const Json& json, TextPosition& position);
@@ -24,9 +24,6 @@ void to_json(Json& json, const Fold& fold);
 void to_json(Json& json, const Hint& hint);
 void to_json(Json& json, const Proposals& proposals);
 Json JsonOf(const Finding& finding, const std::string& uri);
-
-// A message as it is sent. A byte that is no UTF-8, as file names may have, is the replacement character.
-std::string TextOf(const Json& message);
 
 // The kinds of words that an editor colours, and words in five numbers each.
 Json TokenLegend();

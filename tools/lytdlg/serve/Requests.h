@@ -1,5 +1,4 @@
-// The requests beside those of the protocol: a dialog that is played, and its layout. web/engine/README.md says what they take
-// and give.
+// The requests that the protocol does not have: a dialog is played, and its layout changed. web/engine/README.md describes them.
 #pragma once
 
 #include "lytdlg/serve/Session.h"

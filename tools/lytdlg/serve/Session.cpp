@@ -42,6 +42,14 @@ const Description& Session::DescriptionIn(const Json& params) const
     return KindOfText(path) == TextKind::Description ? workspace.DescriptionAt(path) : none;
 }
 
+Json WorkspaceEdit(const Session& session, const EditsByPath& edits)
+{
+    Json changes = Json::object();
+    for (const auto& [path, list] : edits)
+        changes[session.UriFor(path)] = list;
+    return {{"changes", std::move(changes)}};
+}
+
 std::string PathIn(const Json& params)
 {
     return PlainPath(PathOfUri(params.at("textDocument").at("uri").get<std::string>()));

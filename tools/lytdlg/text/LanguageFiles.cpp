@@ -49,13 +49,12 @@ class KeyReader
 public:
     explicit KeyReader(std::string_view content) : m_rest(content) {}
 
-    void Read()
+    LanguageLines Read()
     {
         while (!m_rest.empty())
             TakeLine();
+        return std::move(m_lines);
     }
-    std::vector<LanguageKey> TakeKeys() { return std::move(m_keys); }
-    std::unordered_set<std::string> TakeSections() { return std::move(m_sections); }
 
 private:
     // A line ends at a carriage return, a line feed or both.
@@ -68,38 +67,43 @@ private:
         ++m_line;
         const std::string_view text = WithoutBlanks(line);
         if (IsSectionLine(text))
-            BeginSection(WithoutBlanks(text.substr(1, text.rfind(']') - 1)));
+            BeginSection(WithoutBlanks(text.substr(1, text.rfind(']') - 1)), line);
         else if (!text.empty() && text.front() != ';')
             AddKey(text, line);
     }
 
-    void BeginSection(std::string_view name)
+    // The place of a part of the present line.
+    ClytSpan PlaceOf(std::string_view part, std::string_view line) const
+    {
+        return {m_line, static_cast<int>(part.data() - line.data()), static_cast<int>(part.size())};
+    }
+
+    void BeginSection(std::string_view name, std::string_view line)
     {
         m_isReached = m_sections.insert(FoldedName(name)).second && !name.empty();
         m_section = name;
+        m_lines.sections.push_back({m_section, PlaceOf(name, line)});
     }
 
     void AddKey(std::string_view text, std::string_view line)
     {
-        const auto column = static_cast<int>(text.data() - line.data());
         const size_t sign = text.find('=');
         const std::string_view name = UpToNul(WithoutBlanks(text.substr(0, sign)));
-        LanguageKey key = {m_section, std::string(name), {}, {m_line, column, static_cast<int>(name.size())}, false,
-                           false,     std::string(line)};
+        LanguageKey key = {m_section, std::string(name), {}, PlaceOf(name, line), false, false, std::string(line)};
         key.hasText = sign != std::string_view::npos;
         if (key.hasText)
             key.text = Unquoted(UpToNul(WithoutBlanks(text.substr(sign + 1))));
         key.isReached = m_isReached && m_reached.insert(TextId(m_section, key.name)).second;
-        m_keys.push_back(std::move(key));
+        m_lines.keys.push_back(std::move(key));
     }
 
     std::string_view m_rest;
-    int m_line = 0;
+    int m_line = 0; // the present one
     std::string m_section;
     bool m_isReached = true;                    // above the first section, what an empty name of a section finds
     std::unordered_set<std::string> m_sections; // folded
     std::unordered_set<std::string> m_reached;  // the texts that the library finds
-    std::vector<LanguageKey> m_keys;
+    LanguageLines m_lines;
 };
 
 std::vector<std::filesystem::path> LanguageFilesIn(const std::filesystem::path& folder)
@@ -126,11 +130,9 @@ std::string TextId(std::string_view section, std::string_view key)
     return FoldedName(section) + '\n' + FoldedName(key);
 }
 
-std::vector<LanguageKey> ReadLanguageKeys(std::string_view content)
+LanguageLines ReadLanguageLines(std::string_view content)
 {
-    KeyReader reader(content);
-    reader.Read();
-    return reader.TakeKeys();
+    return KeyReader(content).Read();
 }
 
 LanguageFile::LanguageFile(std::string language, std::string fileName)
@@ -141,10 +143,10 @@ LanguageFile::LanguageFile(std::string language, std::string fileName)
     if (content.starts_with("\xFF\xFE"))
         content = commandline::ToAnsi(commandline::FromMarkedUnicode(content));
     m_firstLine = content.substr(0, content.find_first_of("\r\n"));
-    KeyReader reader(content);
-    reader.Read();
-    m_sections = reader.TakeSections();
-    m_keys = reader.TakeKeys();
+    LanguageLines lines = ReadLanguageLines(content);
+    for (const LanguageSection& section : lines.sections)
+        m_sections.insert(FoldedName(section.name));
+    m_keys = std::move(lines.keys);
     for (size_t index = 0; index < m_keys.size(); ++index)
     {
         if (m_keys[index].isReached)

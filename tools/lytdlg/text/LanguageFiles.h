@@ -26,8 +26,19 @@ struct LanguageKey
     std::string line;       // the whole line that holds it
 };
 
-// Every line with a key of a file's content, in its order.
-std::vector<LanguageKey> ReadLanguageKeys(std::string_view content);
+struct LanguageSection
+{
+    std::string name;
+    ClytSpan place; // of the name
+};
+
+// The lines of a file's content that say something, in their order.
+struct LanguageLines
+{
+    std::vector<LanguageSection> sections = {};
+    std::vector<LanguageKey> keys = {};
+};
+LanguageLines ReadLanguageLines(std::string_view content);
 
 // The mark that some editors put before a text in UTF-8.
 inline constexpr const char* byteOrderMark = "\xEF\xBB\xBF";

@@ -6,6 +6,7 @@
 #include "lytdlg/text/NewDialogTexts.h"
 #include "lytdlg/text/Paths.h"
 #include "lytdlg/text/TextFile.h"
+#include "lytdlg/text/Words.h"
 
 #include <algorithm>
 #include <array>
@@ -48,14 +49,6 @@ std::string Named(std::string text, const std::string& name)
     for (size_t place = text.find('@'); place != std::string::npos; place = text.find('@', place + name.size()))
         text.replace(place, 1, name);
     return text;
-}
-
-std::string WithLineEnds(const std::string& text, const std::string& end)
-{
-    std::string ended;
-    for (const char ch : text)
-        ended += ch == '\n' ? end : std::string(1, ch);
-    return ended;
 }
 
 // A file that is to be written, and what it was before.
@@ -103,9 +96,9 @@ void CheckIsFree(const fs::path& file)
 
 std::string WithKeys(const std::string& content, const std::string& section, const std::string& lines)
 {
-    const std::string end = content.find("\r\n") != std::string::npos ? "\r\n" : "\n";
+    const std::string end = LineEndOf(content);
     const std::string added = WithLineEnds(lines, end);
-    const std::vector<LanguageKey> keys = ReadLanguageKeys(content);
+    const std::vector<LanguageKey> keys = ReadLanguageLines(content).keys;
     const auto isInside = [&](const LanguageKey& key) { return key.isReached && IsSameName(key.section, section); };
     const auto last = std::find_if(keys.rbegin(), keys.rend(), isInside);
     if (last == keys.rend())

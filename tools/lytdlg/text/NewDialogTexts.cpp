@@ -45,8 +45,8 @@ const Language& LanguageOf(const std::string& name)
     return found != newDialogLanguages.end() ? *found : newDialogLanguages.front();
 }
 
-// What a dialog receives, with a value and without one, and the input that takes it apart. In these texts and those of
-// answers <Name> and <Value> are what the fields hold.
+// What a dialog receives, with a value and without one, and the input that takes it apart. In these texts and
+// in answers, <Name> and <Value> are what the fields hold.
 struct Handed
 {
     ClytHanded what;
@@ -254,7 +254,7 @@ std::string LibraryTextsOf(const std::string& language)
     const Language& spoken = LanguageOf(language);
     std::string texts = spoken.head;
     std::string section;
-    for (const LanguageKey& key : ReadLanguageKeys(spoken.sampleFile))
+    for (const LanguageKey& key : ReadLanguageLines(spoken.sampleFile).keys)
     {
         if (!IsOfLibrary(key))
             continue;
@@ -268,7 +268,7 @@ std::string LibraryTextsOf(const std::string& language)
 
 std::string LibraryTextIn(const std::string& language, const std::string& section, const std::string& key)
 {
-    const std::vector<LanguageKey> keys = ReadLanguageKeys(LanguageOf(language).sampleFile);
+    const std::vector<LanguageKey> keys = ReadLanguageLines(LanguageOf(language).sampleFile).keys;
     const auto found = std::ranges::find_if(
         keys, [&](const LanguageKey& each) { return IsSameName(each.section, section) && IsSameName(each.name, key); });
     return found != keys.end() ? found->text : "";

@@ -111,8 +111,12 @@ std::string EscapeOf(char ch)
 
 std::optional<std::string> ReadWholeFile(const fs::path& name)
 {
-    if (const std::string* open = OpenTexts::Find(name))
-        return *open;
+    const std::string* open = OpenTexts::Find(name);
+    return open != nullptr ? *open : ReadSavedFile(name);
+}
+
+std::optional<std::string> ReadSavedFile(const fs::path& name)
+{
     std::error_code ignored;
     const fs::file_status status = fs::status(name, ignored);
     std::ifstream file;
@@ -254,9 +258,14 @@ void WriteByProgram(const std::string& file, std::vector<std::string> words, con
     WriteWholeFile(PathOf(file), ReadWholeFile(made.Name()).value_or(""));
 }
 
+std::string TextOf(const Json& json, int indent)
+{
+    return json.dump(indent, ' ', false, Json::error_handler_t::replace);
+}
+
 void PrintJson(const Json& json)
 {
-    const std::string text = json.dump(2, ' ', false, Json::error_handler_t::replace);
+    const std::string text = TextOf(json, 2);
     std::string printed;
     for (size_t place = 0; place < text.size(); ++place)
     {

@@ -14,6 +14,8 @@ namespace lytdlg
 
 // Nothing for a file that cannot be read. A device or a pipe is not a file: it may have no end.
 std::optional<std::string> ReadWholeFile(const std::filesystem::path& name);
+// The same, although an editor holds another text for it.
+std::optional<std::string> ReadSavedFile(const std::filesystem::path& name);
 
 // Every file is written beside its place and put there in one step, so that at no time it is half written. A file that is
 // replaced keeps its rights, and a link leads where it led. What cannot be written throws std::runtime_error, with all as it
@@ -68,7 +70,9 @@ void WriteByProgram(const std::string& file, std::vector<std::string> words, con
 
 // In the order in which it is written.
 using Json = nlohmann::ordered_json;
-// To standard output. Texts are in UTF-8; other bytes, which a path may contain, are replaced.
+// Texts are in UTF-8; other bytes, which a path may contain, are replaced. Without an indent it is one line.
+std::string TextOf(const Json& json, int indent = -1);
+// To standard output.
 void PrintJson(const Json& json);
 
 } // namespace lytdlg

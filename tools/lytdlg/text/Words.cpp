@@ -30,6 +30,19 @@ std::string LineText(const ClytSpan& place)
     return "line " + std::to_string(place.line);
 }
 
+std::string LineEndOf(const std::string& text)
+{
+    return text.find("\r\n") != std::string::npos ? "\r\n" : "\n";
+}
+
+std::string WithLineEnds(const std::string& text, const std::string& end)
+{
+    std::string ended;
+    for (const char ch : text)
+        ended += ch == '\n' ? end : std::string(1, ch);
+    return ended;
+}
+
 size_t SequenceLength(const std::string& text, size_t place)
 {
     const auto at = [&](size_t index) { return index < text.size() ? static_cast<unsigned char>(text[index]) : 0U; };

@@ -15,6 +15,9 @@ size_t CountOf(const std::string& text, const std::string& mark);
 // The text without the blanks and tabs around it.
 std::string Trimmed(const std::string& text);
 std::string LineText(const ClytSpan& place);
+// How the lines of a text end, and another text with such ends in place of its line feeds.
+std::string LineEndOf(const std::string& text);
+std::string WithLineEnds(const std::string& text, const std::string& end);
 
 // What is wrong with bytes that do not belong into a text in code page 1252: what to do.
 inline constexpr const char* saveAsAnsi = "save the file in code page 1252, which editors call ANSI or Windows-1252";

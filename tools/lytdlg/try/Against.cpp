@@ -105,7 +105,7 @@ public:
         m_dialogs[NameOf(path)] = {{"sum", ChecksumOf(bytes)}, {"texts", made}};
     }
 
-    // Prints each text that is read differently, and returns whether there is none. `texts` counts all.
+    // Prints each text that is read differently, and returns true if no text is. `texts` counts all.
     bool Compare(const std::string& path, const Setup& setup, size_t& texts) const
     {
         const auto known = m_dialogs.find(NameOf(path));

@@ -4,6 +4,7 @@
 #include "lytdlg/text/Paths.h"
 #include "lytdlg/text/TextFile.h"
 #include "lytdlg/text/Watch.h"
+#include "lytdlg/text/Words.h"
 #include "lytdlg/try/CaseRun.h"
 
 #include <algorithm>
@@ -62,7 +63,7 @@ void Print(const GoldenCase& one, const Difference& difference)
 // The line ends stay what they were.
 void Update(const std::string& file, const std::string& content, const CaseUpdate& update)
 {
-    const char* lineEnd = content.find("\r\n") != std::string::npos ? "\r\n" : "\n";
+    const std::string lineEnd = LineEndOf(content);
     std::string text;
     for (const std::string& line : Updated(commandline::LinesOf(content), update))
         text += line + lineEnd;
