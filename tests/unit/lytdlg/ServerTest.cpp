@@ -90,9 +90,11 @@ std::string SortedLines(const std::string& text)
 void ExpectFindingsOfCheck(const std::string& path, const std::string& bytes)
 {
     SCOPED_TRACE(path);
+    // The file is checked before an editor has it.
+    const std::string checked = CheckedFindings(path);
     ServerSession session;
     session.Open(path, bytes);
-    EXPECT_EQ(SortedLines(PublishedFindings(session)), SortedLines(CheckedFindings(path)));
+    EXPECT_EQ(SortedLines(PublishedFindings(session)), SortedLines(checked));
 }
 
 // Whatever an editor has open.
@@ -100,6 +102,11 @@ std::string ReadWholeFileOnDisk(const std::filesystem::path& file)
 {
     std::ifstream stream(file, std::ios::binary);
     return {std::istreambuf_iterator<char>(stream), {}};
+}
+
+bool IsOfUtf8(const Rule& rule)
+{
+    return rule.id == "byte-order-mark" || rule.id == "byte-order-mark-above" || rule.id == "utf-8";
 }
 
 int ErrorOf(const Json& answer)
@@ -125,9 +132,60 @@ TEST(LanguageServer, FindsInExamplesWhatCheckFinds)
         const std::string name = ExampleName(rule.wrong).empty() ? "judged.dlg" : ExampleName(rule.wrong);
         const std::string bytes = ExampleDescription(rule.wrong);
         // An editor takes the mark of a file away, and reads UTF-8 as what it is.
-        if (rule.id != "utf-16" && rule.id != "byte-order-mark" && rule.id != "utf-8")
-            ExpectFindingsOfCheck(folder.Write(name, bytes), bytes);
+        const std::string shown = IsOfUtf8(rule) ? commandline::ToAnsi(commandline::FromMarkedUnicode(bytes)) : bytes;
+        ExpectFindingsOfCheck(folder.Write(name, bytes), shown);
     }
+    std::string wide = "\xFF\xFE";
+    for (const char ch : ExampleDescription(""))
+        wide += {ch, '\0'};
+    ExpectFindingsOfCheck(folder.Write("wide.dlg", wide), ExampleDescription(""));
+}
+
+// The encoding is found again when the file is saved.
+TEST(LanguageServer, FindsInWhichEncodingAFileIsSaved)
+{
+    const TestFolder folder;
+    const std::string text = ExampleDescription("$VALUES\nUnit = Stra\xDF"
+                                                "e");
+    const std::string path = folder.Write("a.dlg", commandline::ToUtf8(text));
+    ServerSession session;
+    const auto rules = [&]
+    {
+        std::string ids;
+        for (const Json& finding : session.FindingsIn(path))
+            ids += finding["code"].get<std::string>() + " ";
+        return ids;
+    };
+    session.Open(path, text);
+    EXPECT_NE(rules().find("utf-8"), std::string::npos);
+    folder.Write("a.dlg", text);
+    session.Tell("textDocument/didSave", ServerSession::Document(path));
+    EXPECT_EQ(rules().find("utf-8"), std::string::npos);
+}
+
+// Files of cases are in UTF-8, saved or not.
+TEST(LanguageServer, ReadsACaseInUtf8)
+{
+    const TestFolder folder;
+    for (const ExampleFile& file : ExampleFiles())
+        folder.Write(file.name, file.content);
+    folder.Write("judged.dlg", ExampleDescription(""));
+    const std::string path = folder.File("a.case");
+    const std::string text = "dialog: judged.dlg\n# \xE2\x99\xA5\nset Name = \"\xC3\x83\xC2\xA4\"\nset Nothing = x\n";
+    const Json document = {{"uri", UriOf(path)}, {"text", text}};
+    ServerSession session;
+    session.Tell("textDocument/didOpen", {{"textDocument", document}});
+    const Json cases = session.ResultOf("lytdlg/cases", ServerSession::Document(folder.File("judged.dlg")))["cases"];
+    ASSERT_EQ(cases.size(), 1U);
+    EXPECT_EQ(cases[0]["acts"][0], "set Name = \"\xC3\x83\xC2\xA4\"");
+    ASSERT_EQ(session.FindingsIn(path).size(), 1U);
+    EXPECT_EQ(session.FindingsIn(path)[0]["range"], ServerSession::Range(3, 4, 3, 11));
+    // A heart is a letter of the editor, and no longer there.
+    session.Tell("textDocument/didChange",
+                 {{"textDocument", {{"uri", UriOf(path)}}},
+                  {"contentChanges", {{{"range", ServerSession::Range(1, 0, 2, 3)}, {"text", "set"}}}}});
+    ASSERT_EQ(session.FindingsIn(path).size(), 1U);
+    EXPECT_EQ(session.FindingsIn(path)[0]["range"], ServerSession::Range(2, 4, 2, 11));
 }
 
 TEST(LanguageServer, FollowsEachChangeOfTheText)
@@ -491,6 +549,32 @@ TEST(LanguageServer, AnswersInTheOtherTextsOfADialog)
     EXPECT_EQ(found[1]["range"]["start"]["line"], 5);
     EXPECT_NE(ask(texts, "textDocument/documentSymbol", 0, 0)[0]["children"].size(), 0U);
     EXPECT_NE(ask(texts, "textDocument/references", 1, 1).size(), 0U);
+}
+
+// Where upper and lower case are the same, the file has the new name all the same.
+TEST(LanguageServer, RenamesAFileInTheCaseOfItsLetters)
+{
+    const TestFolder folder;
+    for (const ExampleFile& file : ExampleFiles())
+        folder.Write(file.name, file.content);
+    const std::string path = folder.File("a.dlg");
+    const Json abilities = {{"workspace", {{"workspaceEdit", {{"resourceOperations", {"rename"}}}}}}};
+    ServerSession session(abilities);
+    const auto renamed = [&](const std::string& name, const std::string& newName)
+    {
+        const std::string text = ExampleDescription("$VALUES\nAdd: DIALOG = " + name + ", parent, parent\n");
+        session.Open(path, text);
+        Json place = ServerSession::Document(path);
+        place["position"] = PositionAt(text, text.find(name + ", parent"));
+        place["newName"] = newName;
+        return session.ResultOf("textDocument/rename", place);
+    };
+    const Json changes = renamed("other", "Other")["documentChanges"];
+    ASSERT_EQ(changes.size(), 2U) << changes;
+    EXPECT_EQ(changes[0]["edits"][0]["newText"], "Other");
+    EXPECT_EQ(changes[1]["newUri"], UriOf(folder.File("Other.dlg")));
+    // The file has that name already.
+    EXPECT_EQ(renamed("Other", "other")["changes"][UriOf(path)][0]["newText"], "other");
 }
 
 TEST(LanguageServer, RenamesADialogWithThoseThatOpenIt)

@@ -21,14 +21,6 @@ bool IsAmong(const std::vector<Finding>& findings, const Finding& wanted)
     return std::ranges::any_of(findings, [&](const Finding& finding) { return AreOneFinding(finding, wanted); });
 }
 
-std::vector<Finding> Folded(Findings findings)
-{
-    findings.Fold();
-    for (Finding& finding : findings.All())
-        finding.path = PlainPath(finding.path);
-    return std::move(findings.All());
-}
-
 } // namespace
 
 void Diagnostics::WillJudge(const std::string& path)
@@ -91,6 +83,20 @@ bool Diagnostics::IsJudged(const std::string& path) const
     return m_workspace.Find(path) != nullptr || m_included.contains(path);
 }
 
+std::vector<Finding> Diagnostics::FindingsIn(const std::string& path, bool isTried,
+                                             const GiveUpQuestion& isGivenUp) const
+{
+    // An editor does not show in which encoding a file is.
+    const std::unique_ptr<Description> saved = m_workspace.SavedOtherwise(path);
+    const Description& description = saved ? *saved : m_workspace.DescriptionAt(path);
+    const Surroundings& surroundings = m_workspace.SurroundingsAt(path);
+    Findings findings = isTried ? Judge(description, surroundings, isGivenUp) : JudgeUntried(description, surroundings);
+    findings.Fold();
+    for (Finding& finding : findings.All())
+        finding.path = PlainPath(finding.path);
+    return std::move(findings.All());
+}
+
 // What trials have found before stays until the dialog is tried again.
 std::set<std::string> Diagnostics::Read(const std::string& path)
 {
@@ -99,8 +105,7 @@ std::set<std::string> Diagnostics::Read(const std::string& path)
         judgement.all = FindingsInCases(m_workspace, path);
     if (IsJudged(path) && KindOfText(path) == TextKind::Description)
     {
-        judgement = {Folded(JudgeUntried(m_workspace.DescriptionAt(path), m_workspace.SurroundingsAt(path))),
-                     m_judgements[path].tried};
+        judgement = {FindingsIn(path, false), m_judgements[path].tried};
         std::ranges::copy(judgement.tried, std::back_inserter(judgement.all));
     }
     return Keep(path, std::move(judgement));
@@ -111,8 +116,7 @@ std::set<std::string> Diagnostics::Try(const std::string& path, const GiveUpQues
     if (!IsJudged(path) || KindOfText(path) != TextKind::Description)
         return {};
     const Judgement before = m_judgements[path];
-    Judgement judgement = {Folded(Judge(m_workspace.DescriptionAt(path), m_workspace.SurroundingsAt(path), isGivenUp)),
-                           {}};
+    Judgement judgement = {FindingsIn(path, true, isGivenUp), {}};
     const auto isTried = [&](const Finding& finding)
     { return !IsAmong(before.all, finding) || IsAmong(before.tried, finding); };
     std::ranges::copy_if(judgement.all, std::back_inserter(judgement.tried), isTried);

@@ -39,6 +39,7 @@ private:
     };
 
     bool IsJudged(const std::string& path) const;
+    std::vector<Finding> FindingsIn(const std::string& path, bool isTried, const GiveUpQuestion& isGivenUp = {}) const;
     std::set<std::string> Read(const std::string& path);
     std::set<std::string> Try(const std::string& path, const GiveUpQuestion& isGivenUp = {});
     std::set<std::string> Keep(const std::string& path, Judgement judgement);

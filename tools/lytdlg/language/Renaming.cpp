@@ -77,11 +77,15 @@ void ExpectNoText(const Workspace& workspace, const NamedWord& renamed)
 void RenameFile(const Workspace& workspace, const NamedWord& word, const NamedWord& renamed, Renaming& renaming)
 {
     renaming.file = PathOfDialog(word);
-    renaming.newFile = PathOfDialog(renamed);
+    renaming.newFile =
+        PlainPath(PathOf(renaming.file).replace_filename(PathOf(commandline::ToUtf8(renamed.text) + ".dlg")).string());
     if (workspace.BytesOf(renaming.file).empty())
         throw RenameRefused("there is no dialog " + InQuotes(word.text));
-    if (renaming.newFile != renaming.file && !workspace.BytesOf(renaming.newFile).empty())
+    // On some systems a file has the name in upper and lower case.
+    if (PathOfDialog(renamed) != renaming.file && !workspace.BytesOf(PathOfDialog(renamed)).empty())
         throw RenameRefused("the dialog " + InQuotes(renamed.text) + " is there already");
+    if (renaming.newFile == renaming.file)
+        renaming.file.clear();
 }
 
 } // namespace
