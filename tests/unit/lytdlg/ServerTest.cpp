@@ -3,6 +3,7 @@
 #include "ServerSession.h"
 
 #include "ExampleFindings.h"
+#include "FolderContents.h"
 #include "lytdlg/judge/Rule.h"
 #include "lytdlg/serve/MessageStream.h"
 #include "lytdlg/text/Words.h"
@@ -11,7 +12,6 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
-#include <fstream>
 
 namespace lytdlg
 {
@@ -95,13 +95,6 @@ void ExpectFindingsOfCheck(const std::string& path, const std::string& bytes)
     ServerSession session;
     session.Open(path, bytes);
     EXPECT_EQ(SortedLines(PublishedFindings(session)), SortedLines(checked));
-}
-
-// Whatever an editor has open.
-std::string ReadWholeFileOnDisk(const std::filesystem::path& file)
-{
-    std::ifstream stream(file, std::ios::binary);
-    return {std::istreambuf_iterator<char>(stream), {}};
 }
 
 bool IsOfUtf8(const Rule& rule)
@@ -686,17 +679,7 @@ TEST(LanguageServer, WritesNoFileWhateverItIsTold)
         folder.Write(file.name, file.content);
     folder.Write("a.case", "dialog: a.dlg\nset Name = x\n");
     const std::string path = folder.Write("a.dlg", ExampleDescription("$VALUES\nUnit=HIDEN\n"));
-    const auto contents = [&]
-    {
-        std::map<std::string, std::string> found;
-        for (const auto& entry : std::filesystem::recursive_directory_iterator(folder.Path()))
-        {
-            if (entry.is_regular_file())
-                found[entry.path().string()] = ReadWholeFileOnDisk(entry.path());
-        }
-        return found;
-    };
-    const auto before = contents();
+    const auto before = ContentsOf(folder.Path());
     const Json abilities = {{"workspace", {{"workspaceEdit", {{"resourceOperations", {"rename"}}}}}}};
     ServerSession session(abilities);
     session.Open(path, ExampleDescription("$VALUES\nUnit = HIDEN\nAdd: DIALOG = other, parent, parent\n"));
@@ -719,7 +702,7 @@ TEST(LanguageServer, WritesNoFileWhateverItIsTold)
             // What ends the session, and what opens and changes, is told elsewhere.
             if (name != "exit" && name != "shutdown" && !name.starts_with("textDocument/did"))
                 session.Ask(method.name, params);
-            EXPECT_EQ(contents(), before) << name;
+            EXPECT_EQ(ContentsOf(folder.Path()), before) << name;
         }
     }
 }
