@@ -19,7 +19,6 @@ export class Stage {
     this.element.append(this.box);
     bench.drawn.on((drawn) => this.render(drawn));
     bench.busy.on((isBusy) => this.element.setAttribute("aria-busy", String(isBusy)));
-    bench.turned.on(() => this.element.classList.remove("refused"));
     bench.failed.on((reason) => {
       // The last picture stays, so that the author sees where the text was right.
       this.element.classList.add("refused");
@@ -81,6 +80,7 @@ export class Stage {
 
   private render({ play, isNewest }: Drawn): void {
     this.isRendering = true;
+    this.element.classList.remove("refused");
     const hadFocus = this.element.contains(document.activeElement);
     while (this.windows.length > play.dialogs.length) {
       this.windows.pop()?.element.remove();

@@ -24,7 +24,7 @@ test("fields are typed into, buttons are pressed, and the result comes out", asy
   // Undo is one act less.
   await page.click("#undo");
   await bench.waitForActs('set Name = "volume"', 'set Digits = "1"');
-  await bench.waitForText("#outcome", "");
+  await bench.waitForNoText("#outcome");
   await page.click("#undo");
   await page.click("#undo");
   await bench.waitFor((field) => document.querySelector(field)?.value === "area", bench.field("Name"));
@@ -127,7 +127,7 @@ test("keys alone reach and do everything in a dialog", async () => {
   await page.keyboard.press("Escape");
   await bench.waitForText("#outcome", "Cancelled");
   await page.click("#restart");
-  await bench.waitForText("#outcome", "");
+  await bench.waitForNoText("#outcome");
 });
 
 test("a description that the library refuses leaves the last picture, and its cure is a click", async () => {
@@ -137,5 +137,6 @@ test("a description that the library refuses leaves the last picture, and its cu
   assert.ok(await bench.page.$(bench.field("Name")));
   await bench.putCursor("$VALUE");
   await bench.page.keyboard.type("S");
-  await bench.waitForText("#outcome", "");
+  await bench.waitForNoText("#outcome");
+  assert.equal(await bench.page.$("#stage.refused"), null);
 });

@@ -104,6 +104,10 @@ export class Bench {
     return this.waitFor((where, wanted) => document.querySelector(where)?.textContent.includes(wanted), selector, part);
   }
 
+  waitForNoText(selector) {
+    return this.waitFor((where) => document.querySelector(where).textContent === "", selector);
+  }
+
   // The text of the editor, whole.
   editorText() {
     return this.page.$eval(".cm-content", (content) => content.cmTile.view.state.doc.toString());
