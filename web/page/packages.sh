@@ -3,6 +3,6 @@
 set -eu
 cd "$(dirname "$0")"
 cmp -s package-lock.json node_modules/.made-for && exit
-# No package has a script of its own to run.
+# No package needs to run a script of its makers.
 npm ci --ignore-scripts --no-audit --no-fund
 cp package-lock.json node_modules/.made-for

@@ -1,4 +1,4 @@
-// Between places of the protocol, which are lines and characters, and those of the editor.
+// Between places of the protocol, which are lines and characters, and places of the editor.
 import type { ChangeSpec, Text } from "@codemirror/state";
 import type { Position, Range, TextEdit } from "./contract";
 

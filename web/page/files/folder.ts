@@ -1,5 +1,5 @@
 // From the disk and back: by the browser's access to folders where it has one, else by dragging in and saving out.
-import { Files, bytesOf } from "./files";
+import { bytesOf, isLanguageFile, type Files } from "./files";
 
 const endings = [".dlg", ".nls", ".case", ".ini", ".items", ".script", ".steps", ".txt"];
 const largest = 1 << 20;
@@ -78,7 +78,8 @@ export class Disk {
         folder = entry as Folder;
         found.push(...(await filesBelow(folder, folder.name)));
       } else if (file) {
-        found.push({ path: `dropped/${file.name}`, file });
+        // Without a folder, a language file is where the library looks for it.
+        found.push({ path: `dropped/${isLanguageFile(file.name) ? "lang/" : ""}${file.name}`, file });
       }
     }
     await this.takeAll(found, dragged.length === 1 ? folder : undefined);

@@ -117,6 +117,16 @@ test("a folder that is dragged in is worked on with all that is below it", async
   assert.deepEqual(bench.trouble, []);
 });
 
+test("files that are dragged in belong together", async () => {
+  const bench = await (await browser.open()).ready();
+  await dragIn(bench, ...["lytInSym.dlg", "lang/English.nls", "lang/German.nls"].map((name) => path.join(samples, "dialogs", name)));
+  await bench.waitForText("#tabs", "German.nls");
+  await bench.waitForText("#stage .window .title", "Properties of a value");
+  await bench.page.select("#language", "German");
+  await bench.waitForText("#stage .window .title", "Eigenschaften eines Wertes");
+  assert.deepEqual(bench.trouble, []);
+});
+
 test("the tabs are the dialog, its languages and its cases", async () => {
   const bench = await (await browser.open()).ready();
   const { page } = bench;
