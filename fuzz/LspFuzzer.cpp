@@ -16,7 +16,7 @@ using lytdlg::Json;
 
 constexpr const char* uri = "file:///nowhere/lsp.dlg";
 
-// What draws and what carries out cases needs files.
+// What carries out cases needs files.
 constexpr const char* methods[] = {
     "textDocument/completion",     "textDocument/hover",        "textDocument/definition",
     "textDocument/references",     "textDocument/rename",       "textDocument/documentHighlight",
@@ -65,8 +65,7 @@ void Run(const std::string& input)
     WorkOut(server);
     if (answers != std::size(methods))
         std::abort();
-    const bool needsFiles = message.find("draw") != std::string::npos || message.find("resolve") != std::string::npos;
-    if (!needsFiles)
+    if (message.find("resolve") == std::string::npos)
         server.Receive(message);
     WorkOut(server);
 }

@@ -23,18 +23,22 @@ std::vector<std::string> WholeLinesOf(const std::string& text)
     return lines;
 }
 
+// How much of two texts, or lines, is the same at the beginning, and of the rest at the end.
+template <class SEQUENCE>
+std::pair<ptrdiff_t, ptrdiff_t> SameAtEnds(const SEQUENCE& left, const SEQUENCE& right)
+{
+    const auto differing = std::mismatch(left.begin(), left.end(), right.begin(), right.end()).first;
+    const ptrdiff_t begin = differing - left.begin();
+    const auto last = std::mismatch(left.rbegin(), left.rend() - begin, right.rbegin(), right.rend() - begin).first;
+    return {begin, last - left.rbegin()};
+}
+
 // From the first letter that differs to the last one.
 TextEdit EditInLine(int line, const std::string& before, const std::string& after)
 {
-    const size_t most = std::min(before.size(), after.size());
-    size_t same = 0;
-    while (same < most && before[same] == after[same])
-        ++same;
-    size_t sameAtEnd = 0;
-    while (sameAtEnd < most - same && before[before.size() - 1 - sameAtEnd] == after[after.size() - 1 - sameAtEnd])
-        ++sameAtEnd;
-    return {{{line, static_cast<int>(same)}, {line, static_cast<int>(before.size() - sameAtEnd)}},
-            after.substr(same, after.size() - sameAtEnd - same)};
+    const auto [begin, end] = SameAtEnds(before, after);
+    const int old = static_cast<int>(before.size()) - static_cast<int>(end);
+    return {{{line, static_cast<int>(begin)}, {line, old}}, {after.begin() + begin, after.end() - end}};
 }
 
 bool Touch(const TextRange& left, const TextRange& right)
@@ -86,20 +90,10 @@ std::vector<TextEdit> EditsBetween(const std::string& before, const std::string&
         }
         return edits;
     }
-    const size_t most = std::min(old.size(), made.size());
-    size_t same = 0;
-    while (same < most && old[same] == made[same])
-        ++same;
-    size_t sameAtEnd = 0;
-    while (sameAtEnd < most - same && old[old.size() - 1 - sameAtEnd] == made[made.size() - 1 - sameAtEnd])
-        ++sameAtEnd;
-    std::string text;
-    for (size_t line = same; line < made.size() - sameAtEnd; ++line)
-        text += made[line];
-    const auto begin = static_cast<int>(same);
-    const auto end = static_cast<int>(old.size() - sameAtEnd);
-    const bool isToEnd = sameAtEnd == 0;
-    return {{{{begin, 0}, isToEnd ? PositionAt(before, before.size()) : TextPosition{end, 0}}, text}};
+    const auto [begin, end] = SameAtEnds(old, made);
+    const std::string text = Joined({made.begin() + begin, made.end() - end}, "");
+    const int following = static_cast<int>(old.size()) - static_cast<int>(end);
+    return {{{{static_cast<int>(begin), 0}, end == 0 ? WholeOf(before).end : TextPosition{following, 0}}, text}};
 }
 
 std::vector<TextEdit> FormattingOf(const Workspace& workspace, const std::string& path)

@@ -141,14 +141,11 @@ std::map<int, std::string> DialogsOnTop(const Workspace& workspace, const std::s
 
 std::vector<NamedWord> WordsOf(const Workspace& workspace, const std::string& path)
 {
-    switch (KindOfText(path))
-    {
-    case TextKind::Description: return AllWordsIn(workspace.DescriptionAt(path));
-    case TextKind::Texts: return WordsOfTexts(workspace, path);
-    case TextKind::Cases: return WordsOfCases(workspace, path);
-    case TextKind::Other: break;
-    }
-    return {};
+    const TextKind kind = KindOfText(path);
+    return kind == TextKind::Description ? AllWordsIn(workspace.DescriptionAt(path))
+           : kind == TextKind::Texts     ? WordsOfTexts(workspace, path)
+           : kind == TextKind::Cases     ? WordsOfCases(workspace, path)
+                                         : std::vector<NamedWord>();
 }
 
 std::string TextOf(const Workspace& workspace, const std::string& path)

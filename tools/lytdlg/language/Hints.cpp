@@ -31,8 +31,7 @@ std::vector<Hint> HintsOf(const Workspace& workspace, const std::string& path, c
     for (const ShownText& shown : TextUsesOf(description))
     {
         const TextRange place = RangeOf(shown.place);
-        const std::vector<LanguageText> texts =
-            TextsOfKey(files, {Meaning::TextKey, shown.key, {}, false, shown.section});
+        const std::vector<LanguageText> texts = TextsOfKey(files, shown.section, shown.key);
         if (shown.role == TextRole::Button || place.begin < range.begin || range.end < place.begin || texts.empty())
             continue;
         const int quote = description.IsQuoted(shown.place) ? 1 : 0;

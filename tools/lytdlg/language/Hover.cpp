@@ -108,10 +108,10 @@ std::string OutputOf(const Description& description, const std::string& name)
            (decided.empty() ? "" : "\nIt decides" + LinesOfRules(decided));
 }
 
-std::string Listed(const std::vector<LanguageText>& texts)
+std::string TextsListed(const LanguageFiles& files, const std::string& section, const std::string& key)
 {
     std::string list;
-    for (const LanguageText& each : texts)
+    for (const LanguageText& each : TextsOfKey(files, section, key))
         list += "- " + each.language + ": " + each.text + "\n";
     return list;
 }
@@ -130,9 +130,8 @@ std::string AboutControl(const Workspace& workspace, const NamedWord& word)
     text += "\n";
     for (const ShownText& shown : TextUsesOf(description))
     {
-        const NamedWord key = {Meaning::TextKey, shown.key, {}, false, shown.section};
         if (shown.control == control)
-            text += "\n" + Listed(TextsOfKey(workspace.SurroundingsAt(word.home).texts, key));
+            text += "\n" + TextsListed(workspace.SurroundingsAt(word.home).texts, shown.section, shown.key);
     }
     return text + OutputOf(description, word.text) + TriedControl(workspace, word);
 }
@@ -176,7 +175,7 @@ std::string ExplanationOf(const Workspace& workspace, const NamedWord& word)
 {
     if (word.meaning == Meaning::TextKey || word.meaning == Meaning::Message)
     {
-        const std::string texts = Listed(TextsOfKey(workspace.SurroundingsAt(word.home).texts, word));
+        const std::string texts = TextsListed(workspace.SurroundingsAt(word.home).texts, word.scope, word.text);
         return texts.empty() ? "no language file has the text " + InQuotes(word.text) : texts;
     }
     const std::string kind = KindOfName(word.meaning);

@@ -41,42 +41,29 @@ Symbol StatementSymbol(const Description& description, const SourceLine& line)
             place, line.number};
 }
 
-std::vector<Symbol> SymbolsOf(const Description& description)
-{
-    std::vector<Symbol> symbols;
-    for (const SourceLine& line : description.text.Lines())
-        symbols.push_back(line.isHeader ? HeaderSymbol(description, line) : StatementSymbol(description, line));
-    std::erase_if(symbols, [](const Symbol& symbol) { return symbol.name.empty(); });
-    return symbols;
-}
-
-std::vector<Symbol> SymbolsOfTexts(const Workspace& workspace, const std::string& path)
-{
-    std::vector<Symbol> symbols;
-    for (const NamedWord& word : WordsOf(workspace, path))
-        symbols.push_back({word.meaning == Meaning::TextSection ? SymbolKind::Header : SymbolKind::Text, word.text, "",
-                           word.place, word.place.line});
-    return symbols;
-}
-
-std::vector<Symbol> SymbolsOfCases(const Workspace& workspace, const std::string& path)
-{
-    std::vector<Symbol> symbols;
-    for (const GoldenCase& one : CasesIn(workspace, path).cases)
-        symbols.push_back({SymbolKind::Header, commandline::ToAnsi(one.name), "", {one.line, 0, 0}, 0});
-    return symbols;
-}
-
 std::vector<Symbol> SymbolsIn(const Workspace& workspace, const std::string& path)
 {
-    switch (KindOfText(path))
+    std::vector<Symbol> symbols;
+    const TextKind kind = KindOfText(path);
+    if (kind == TextKind::Description)
     {
-    case TextKind::Description: return SymbolsOf(workspace.DescriptionAt(path));
-    case TextKind::Texts: return SymbolsOfTexts(workspace, path);
-    case TextKind::Cases: return SymbolsOfCases(workspace, path);
-    case TextKind::Other: break;
+        const Description& description = workspace.DescriptionAt(path);
+        for (const SourceLine& line : description.text.Lines())
+            symbols.push_back(line.isHeader ? HeaderSymbol(description, line) : StatementSymbol(description, line));
+        std::erase_if(symbols, [](const Symbol& symbol) { return symbol.name.empty(); });
     }
-    return {};
+    else if (kind == TextKind::Texts)
+    {
+        for (const NamedWord& word : WordsOf(workspace, path))
+            symbols.push_back({word.meaning == Meaning::TextSection ? SymbolKind::Header : SymbolKind::Text, word.text,
+                               "", word.place, word.place.line});
+    }
+    else if (kind == TextKind::Cases)
+    {
+        for (const GoldenCase& one : CasesIn(workspace, path).cases)
+            symbols.push_back({SymbolKind::Header, commandline::ToAnsi(one.name), "", {one.line, 0, 0}, 0});
+    }
+    return symbols;
 }
 
 } // namespace

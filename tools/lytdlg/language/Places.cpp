@@ -90,14 +90,13 @@ std::vector<GoldenCase> CasesOf(const Workspace& workspace, const std::string& p
     return cases;
 }
 
-std::vector<LanguageText> TextsOfKey(const LanguageFiles& files, const NamedWord& word)
+std::vector<LanguageText> TextsOfKey(const LanguageFiles& files, const std::string& section, const std::string& key)
 {
     std::vector<LanguageText> texts;
     for (const LanguageFile& file : files.Files())
     {
-        const LanguageKey* key = file.Find(word.scope, word.text);
-        if (key != nullptr)
-            texts.push_back({file.Language(), key->text});
+        if (const LanguageKey* found = file.Find(section, key))
+            texts.push_back({file.Language(), found->text});
     }
     return texts;
 }

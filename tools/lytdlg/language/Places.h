@@ -29,6 +29,6 @@ struct LanguageText
     std::string language;
     std::string text;
 };
-std::vector<LanguageText> TextsOfKey(const LanguageFiles& files, const NamedWord& word);
+std::vector<LanguageText> TextsOfKey(const LanguageFiles& files, const std::string& section, const std::string& key);
 
 } // namespace lytdlg

@@ -103,7 +103,13 @@ Json DidChangeFiles(Session& session, const Json& /*params*/)
     return {};
 }
 
-// ---- About a place
+// ---- About a text, and a place of it
+
+template <auto ASK>
+Json OfText(Session& session, const Json& params)
+{
+    return ASK(session.workspace, PathIn(params));
+}
 
 TextPosition PositionIn(const Json& params)
 {
@@ -134,19 +140,13 @@ Json Hover(Session& session, const Json& params)
     return hover;
 }
 
-enum class Places
-{
-    Declared,
-    Used,
-    All
-};
-
-Json Locations(const Session& session, const Json& params, Places wanted)
+// With a choice, of the places where the name is given, or only of the others.
+Json Locations(const Session& session, const Json& params, std::optional<bool> isDeclared)
 {
     Json locations = Json::array();
     for (const TextPlace& found : PlacesOf(session.workspace, WordIn(session, params)))
     {
-        if (wanted == Places::All || found.isDeclared == (wanted == Places::Declared))
+        if (found.isDeclared == isDeclared.value_or(found.isDeclared))
             locations.push_back({{"uri", session.UriFor(found.path)}, {"range", RangeOf(found.place)}});
     }
     return locations;
@@ -154,13 +154,13 @@ Json Locations(const Session& session, const Json& params, Places wanted)
 
 Json Definition(Session& session, const Json& params)
 {
-    return Locations(session, params, Places::Declared);
+    return Locations(session, params, true);
 }
 
 Json References(Session& session, const Json& params)
 {
     const bool isAll = params.at("context").at("includeDeclaration").get<bool>();
-    return Locations(session, params, isAll ? Places::All : Places::Used);
+    return Locations(session, params, isAll ? std::nullopt : std::optional(false));
 }
 
 Json Highlights(Session& session, const Json& params)
@@ -313,15 +313,9 @@ const std::vector<Method>& Methods()
          CodeActions,
          "codeActionProvider",
          {{"codeActionKinds", {"quickfix", "source.fixAll"}}}},
-        {"textDocument/formatting",
-         [](Session& session, const Json& params) { return Json(FormattingOf(session.workspace, PathIn(params))); },
-         "documentFormattingProvider"},
-        {"textDocument/documentSymbol",
-         [](Session& session, const Json& params) { return Json(OutlineOf(session.workspace, PathIn(params))); },
-         "documentSymbolProvider"},
-        {"textDocument/foldingRange",
-         [](Session& session, const Json& params) { return Json(FoldsOf(session.workspace, PathIn(params))); },
-         "foldingRangeProvider"},
+        {"textDocument/formatting", OfText<FormattingOf>, "documentFormattingProvider"},
+        {"textDocument/documentSymbol", OfText<OutlineOf>, "documentSymbolProvider"},
+        {"textDocument/foldingRange", OfText<FoldsOf>, "foldingRangeProvider"},
         {"textDocument/completion",
          Completion,
          "completionProvider",

@@ -23,27 +23,12 @@ enum ProtocolError
     requestFailed = -32803
 };
 
-struct Refused : std::runtime_error
+// Why an act has failed.
+struct Failure : std::runtime_error
 {
-    Refused(ProtocolError number, const std::string& message) : runtime_error(message), code(number) {}
+    Failure(ProtocolError number, const std::string& message) : runtime_error(message), code(number) {}
     ProtocolError code;
 };
-
-// Why an act has failed.
-struct Failure
-{
-    int code = 0;
-    std::string reason = {};
-};
-
-int CodeOf(const std::exception& failure)
-{
-    if (const auto* refused = dynamic_cast<const Refused*>(&failure))
-        return refused->code;
-    if (dynamic_cast<const Json::exception*>(&failure) != nullptr)
-        return invalidParams;
-    return dynamic_cast<const std::runtime_error*>(&failure) != nullptr ? requestFailed : internalError;
-}
 
 template <class ACT>
 std::optional<Failure> FailureOf(ACT act)
@@ -53,9 +38,21 @@ std::optional<Failure> FailureOf(ACT act)
         act();
         return std::nullopt;
     }
+    catch (const Failure& failure)
+    {
+        return failure;
+    }
+    catch (const Json::exception& failure)
+    {
+        return Failure(invalidParams, failure.what());
+    }
+    catch (const std::runtime_error& failure)
+    {
+        return Failure(requestFailed, failure.what());
+    }
     catch (const std::exception& failure)
     {
-        return Failure{CodeOf(failure), failure.what()};
+        return Failure(internalError, failure.what());
     }
     catch (CException* failure)
     {
@@ -63,7 +60,7 @@ std::optional<Failure> FailureOf(ACT act)
         failure->GetErrorMessage(reason.GetBuffer(1024), 1024);
         reason.ReleaseBuffer();
         failure->Delete();
-        return Failure{internalError, reason.GetString()};
+        return Failure(internalError, reason.GetString());
     }
 }
 
@@ -134,7 +131,7 @@ void Server::Judge(const GiveUpQuestion& isGivenUp)
     const std::optional<Failure> failure =
         FailureOf([&] { m_session.Publish(m_session.diagnostics.JudgeNext(isGivenUp)); });
     if (failure)
-        m_session.Notify("window/logMessage", {{"type", asError}, {"message", failure->reason}});
+        m_session.Notify("window/logMessage", {{"type", asError}, {"message", failure->what()}});
 }
 
 void Server::Answer(const Json& message)
@@ -147,7 +144,7 @@ void Server::Answer(const Json& message)
     if (id.is_null())
         return;
     if (failure)
-        ReplyError(id, failure->code, failure->reason);
+        ReplyError(id, failure->code, failure->what());
     else
         m_session.send({{"jsonrpc", "2.0"}, {"id", id}, {"result", std::move(result)}});
 }
@@ -157,13 +154,13 @@ Json Server::ResultOf(const std::string& method, const Json& params)
     const auto known = std::ranges::find(Methods(), method, &Method::name);
     const bool isFirst = method == "initialize";
     if (m_session.state == Session::State::New && !isFirst && method != "exit")
-        throw Refused(serverNotInitialized, "the first request must be \"initialize\"");
+        throw Failure(serverNotInitialized, "the first request must be \"initialize\"");
     if (m_session.state == Session::State::ShutDown && method != "exit")
-        throw Refused(invalidRequest, "after \"shutdown\" comes only \"exit\"");
+        throw Failure(invalidRequest, "after \"shutdown\" comes only \"exit\"");
     if (m_session.state == Session::State::Ready && isFirst)
-        throw Refused(invalidRequest, "\"initialize\" comes once");
+        throw Failure(invalidRequest, "\"initialize\" comes once");
     if (known == Methods().end())
-        throw Refused(methodNotFound, "there is no method \"" + method + "\"");
+        throw Failure(methodNotFound, "there is no method \"" + method + "\"");
     return known->answer(m_session, params);
 }
 
