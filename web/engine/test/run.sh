@@ -3,4 +3,4 @@
 # so many random acts and edits.
 set -eu
 here=$(cd "$(dirname "$0")" && pwd)
-LYT_ENGINE=$(cd "$1" && pwd) LYT_PROGRAM=$2 LYT_COUNT=${3:-1000} LYT_SEED=${4:-1} exec node --test "$here/agreement.test.mjs"
+LYT_ENGINE=$(cd "$1" && pwd) LYT_PROGRAM=$2 LYT_COUNT=${3:-1000} LYT_SEED=${4:-1} exec node --test --test-reporter=tap "$here/agreement.test.mjs"

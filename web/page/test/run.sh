@@ -8,4 +8,4 @@ export LYTDLG
 cd "$(dirname "$0")/.."
 ./build.sh "$engine"
 # One browser at a time.
-node --test --test-concurrency=1 test/*.test.mjs
+node --test --test-reporter=tap --test-concurrency=1 test/*.test.mjs
