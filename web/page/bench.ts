@@ -96,9 +96,10 @@ export class Bench {
     this.turn();
   }
 
+  // The engine begins first, so that it works while the page shows what has turned.
   turn(): void {
-    this.turned.send();
     this.draw();
+    this.turned.send();
   }
 
   // An act takes the place of the last one if that began alike: what is typed into a field is one act, and so is the way of

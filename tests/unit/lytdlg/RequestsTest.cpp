@@ -72,6 +72,14 @@ std::string WithEdits(const std::string& bytes, const Json& answer, const std::s
     return text.Bytes();
 }
 
+// Handles of windows in memory count up.
+uintptr_t NextWindow()
+{
+    HWND window = CreateWindowExA(0, "STATIC", "", 0, 0, 0, 0, 0, nullptr, nullptr, nullptr, nullptr);
+    DestroyWindow(window);
+    return reinterpret_cast<uintptr_t>(window);
+}
+
 std::string LineOf(const std::string& bytes, size_t line)
 {
     return commandline::LinesOf(bytes).at(line);
@@ -95,6 +103,7 @@ TEST(Requests, PlaysActsAndTellsWhatCameOfThem)
         {"lytInSym.dlg", "S1:area", {"set Name = b", "press Nobody", "ok"}, "open failed1 [Properties of a value]"},
         {"lytInSym.dlg", "S1:area", {"set Name = b", "no act", "ok"}, "open failed1 [Properties of a value]"},
         {"lytInSym.dlg", "S1:b", {"ok", "set Name = b"}, "confirmed S1:b failed1 [Properties of a value]"},
+        {"lytInSym.dlg", "S1:b", {"press #12"}, "confirmed S1:b [Properties of a value]"},
     };
     ServerSession session;
     for (const auto& c : cases)
@@ -118,15 +127,11 @@ TEST(Requests, TellsOfAControlWhatAPageNeedsToDrawIt)
     EXPECT_FALSE(unit["enabled"].get<bool>());
     EXPECT_TRUE(unit["shown"].get<bool>());
     EXPECT_EQ(unit["place"]["x"], 3 + static_cast<int>(176 * 0.7557));
-    EXPECT_EQ(TextAt(bytes, unit["source"]["type"]), "TextBox");
-    EXPECT_EQ(TextAt(bytes, unit["source"]["numbers"][2]), "255");
-    EXPECT_EQ(TextAt(bytes, unit["source"]["name"]), "Unit");
-    EXPECT_EQ(unit["source"]["units"]["height"], 19);
+    EXPECT_EQ(TextAt(bytes, unit["range"]), "TextBox   176,  76, 255,  19, .Unit");
     EXPECT_FALSE(ControlIn(window, "Mark")["shown"].get<bool>());
     EXPECT_TRUE(ControlIn(window, "Digits")["focus"].get<bool>());
     // The frame has no name.
     EXPECT_EQ(ControlIn(window, "#1")["type"], "GroupBox");
-    EXPECT_EQ(TextAt(bytes, ControlIn(window, "#1")["source"]["text"]), "Value");
 }
 
 // The catalogue and a nested dialog are over the dialog that opened them, and acts reach them.
@@ -213,6 +218,25 @@ TEST(Requests, TellsTheWayOfATextInAndOut)
     EXPECT_EQ(confirmed["pieces"], way["pieces"]);
 }
 
+TEST(Requests, PlaysActsThatCloseTheDialogOnce)
+{
+    ServerSession session;
+    const auto windowsOf = [&](const char* method, const std::vector<std::string>& acts)
+    {
+        const uintptr_t before = NextWindow();
+        session.ResultOf(method, Asked("lytInSym.dlg", "S1:area", acts));
+        return NextWindow() - before;
+    };
+    for (const char* method : {"lytdlg/play", "lytdlg/way"})
+    {
+        SCOPED_TRACE(method);
+        const uintptr_t open = windowsOf(method, {"set Name = b"});
+        EXPECT_GT(open, 12U);
+        for (const char* last : {"ok", "cancel", "press #12", "key return", "key escape"})
+            EXPECT_EQ(windowsOf(method, {"set Name = b", last}), open) << last;
+    }
+}
+
 // A case that is made of what a user has done passes.
 TEST(Requests, MakesCasesThatPass)
 {
@@ -245,6 +269,34 @@ TEST(Requests, MakesCasesThatPass)
     EXPECT_TRUE(changed[0]["passed"].get<bool>());
     EXPECT_FALSE(changed[3]["passed"].get<bool>());
     EXPECT_EQ(changed[3]["differences"][0]["expected"], "expect Name = \"b\"");
+    Json onlyRead = ServerSession::Document(dialog);
+    onlyRead["run"] = false;
+    const Json read = session.ResultOf("lytdlg/cases", onlyRead)["cases"];
+    EXPECT_EQ(read[3]["input"], "S1:area(2,m2)");
+    EXPECT_FALSE(read[3].contains("passed"));
+}
+
+TEST(Requests, MakesCasesOfActsOnTheCatalogue)
+{
+    const TestFolder folder;
+    std::filesystem::copy(samples + "/dialogs", folder.File("dialogs"), std::filesystem::copy_options::recursive);
+    std::filesystem::copy(samples + "/init", folder.File("init"), std::filesystem::copy_options::recursive);
+    const std::string file = folder.File("dialogs/lytRpGrp.case");
+    const std::vector<std::vector<std::string>> plays = {
+        {"press Pick", "select #3 \"Site/Access\"", "expand #3 \"Site/Access\""},
+        {"press Pick", "select #3 \"Site/Access\"", "cancel"},
+        {"press Pick", "select #3 \"Site/Access/Gates\"", "ok", "check Costs"}};
+    std::string content;
+    for (const std::vector<std::string>& acts : plays)
+    {
+        ServerSession session;
+        Json params = ServerSession::Document(folder.File("dialogs/lytRpGrp.dlg"));
+        params["acts"] = acts;
+        params["name"] = "picked";
+        content = WithEdits(content, session.Ask("lytdlg/newCase", params), PlainPath(file));
+        folder.Write("dialogs/lytRpGrp.case", content);
+    }
+    EXPECT_EQ(CommandRun({"test", file}).output, "3 passed, 0 failed\n") << content;
 }
 
 TEST(Requests, ChangeALayoutWhereItMustChange)

@@ -1,7 +1,7 @@
 #include "lytdlg/language/LayoutEdits.h"
 
 #include "controls/TypeWords.h"
-#include "lytdlg/language/NamedWord.h"
+#include "lytdlg/judge/StatementText.h"
 #include "lytdlg/text/NewDialog.h"
 #include "lytdlg/text/TextFile.h"
 #include "lytdlg/text/Words.h"
@@ -17,50 +17,24 @@ namespace lytdlg
 namespace
 {
 
-constexpr int numbersOfPlace = 4;
-
 const ClytResolution& ResolutionOf(int pixelsPerInch)
 {
     const auto known = std::ranges::find(lytResolutions, pixelsPerInch, &ClytResolution::pixelsPerInch);
     return known != std::end(lytResolutions) ? *known : lytResolutions[0];
 }
 
-bool IsInNumber(char ch)
+const ClytControlStatement& StatementIn(const Description& description, int line)
 {
-    return (ch >= '0' && ch <= '9') || ch == '-' || ch == '+';
-}
-
-// The first numbers of a line after a column.
-std::vector<ClytSpan> NumbersIn(const SourceLine& line, int column)
-{
-    std::vector<ClytSpan> numbers;
-    const std::string& text = line.text;
-    auto place = static_cast<size_t>(column);
-    while (numbers.size() < numbersOfPlace && place < text.size() && text[place] != '"' && text[place] != ';')
-    {
-        const size_t begin = place;
-        while (place < text.size() && IsInNumber(text[place]))
-            ++place;
-        if (place > begin)
-            numbers.push_back({line.number, static_cast<int>(begin), static_cast<int>(place - begin)});
-        else
-            ++place;
-    }
-    return numbers;
-}
-
-std::string TextAt(const Description& description, const ClytSpan& place)
-{
-    return description.text.Line(place.line)
-        .text.substr(static_cast<size_t>(place.column), static_cast<size_t>(place.length));
-}
-
-ControlSource ExpectSource(const Description& description, int line)
-{
-    std::optional<ControlSource> source = SourceOfControl(description, line);
-    if (!source)
+    const auto statement = std::ranges::find_if(description.controls, [&](const ClytControlStatement& one)
+                                                { return one.span.line == line && !one.type.IsEmpty(); });
+    if (statement == description.controls.end())
         throw std::runtime_error("line " + std::to_string(line) + " has no statement of a control");
-    return *std::move(source);
+    return *statement;
+}
+
+ClytSpan SpanOf(int line, const LineToken& word)
+{
+    return {line, word.column, static_cast<int>(word.text.size())};
 }
 
 TextRange WholeLine(const Description& description, int line)
@@ -73,7 +47,7 @@ TextRange WholeLine(const Description& description, int line)
 int LineBefore(const Description& description, int after)
 {
     if (after != 0)
-        return ExpectSource(description, after).statement->span.line;
+        return StatementIn(description, after).span.line;
     int line = description.dialogHeader.line;
     for (const ClytControlStatement& control : description.controls)
     {
@@ -117,32 +91,6 @@ std::string StatementOf(const NewControl& control, const ClytType& type, const C
 
 } // namespace
 
-std::optional<ControlSource> SourceOfControl(const Description& description, int line)
-{
-    const auto statement = std::ranges::find_if(description.controls, [&](const ClytControlStatement& one)
-                                                { return one.span.line == line && !one.type.IsEmpty(); });
-    if (statement == description.controls.end())
-        return {};
-    ControlSource source = {&*statement};
-    for (const NamedWord& word : WordsIn(description, line))
-    {
-        if (word.meaning == Meaning::TypeWord)
-            source.type = word.place;
-        else if (word.meaning == Meaning::TextKey)
-            source.text = word.place;
-        else if (word.meaning == Meaning::Control)
-            source.name = word.place;
-    }
-    std::vector<ClytSpan> numbers = NumbersIn(description.text.Line(line), source.type.column + source.type.length);
-    const int values[] = {statement->x, statement->y, statement->width, statement->height};
-    bool isWhole = numbers.size() == numbersOfPlace;
-    for (size_t index = 0; isWhole && index < numbers.size(); ++index)
-        isWhole = std::to_string(values[index]) == TextAt(description, numbers[index]);
-    if (isWhole)
-        source.numbers = std::move(numbers);
-    return source;
-}
-
 int UnitsFor(int pixels, float factor)
 {
     const auto guess = static_cast<int>(std::lround(static_cast<float>(pixels) / factor));
@@ -162,22 +110,26 @@ std::vector<TextEdit> PlacingOf(const Description& description, const std::vecto
     std::vector<TextEdit> edits;
     for (const ControlPlace& place : places)
     {
-        const ControlSource source = ExpectSource(description, place.line);
+        const ClytControlStatement& statement = StatementIn(description, place.line);
+        const std::vector<LineToken> words = TokensOf(description.text.Line(place.line).text, Section::Layout);
         const struct
         {
             const std::optional<int>& pixels;
             int units;
             float factor;
-        } numbers[] = {{place.x, source.statement->x, scale.x},
-                       {place.y, source.statement->y, scale.y},
-                       {place.width, source.statement->width, scale.x},
-                       {place.height, source.statement->height, scale.y}};
-        for (size_t index = 0; index < source.numbers.size(); ++index)
+        } numbers[] = {{place.x, statement.x, scale.x},
+                       {place.y, statement.y, scale.y},
+                       {place.width, statement.width, scale.x},
+                       {place.height, statement.height, scale.y}};
+        // After the type.
+        size_t word = 0;
+        for (const auto& number : numbers)
         {
-            const auto& number = numbers[index];
-            if (number.pixels && lytScaled(number.units, number.factor) != *number.pixels)
-                edits.push_back(
-                    {RangeOf(source.numbers[index]), std::to_string(UnitsFor(*number.pixels, number.factor))});
+            ++word;
+            const bool isWritten = word < words.size() && words[word].text == std::to_string(number.units);
+            if (isWritten && number.pixels && lytScaled(number.units, number.factor) != *number.pixels)
+                edits.push_back({RangeOf(SpanOf(place.line, words[word])),
+                                 std::to_string(UnitsFor(*number.pixels, number.factor))});
         }
     }
     return edits;
@@ -192,7 +144,7 @@ std::vector<TextEdit> OrderingOf(const Description& description, const std::vect
     std::vector<TextEdit> edits;
     for (size_t index = 0; index < lines.size(); ++index)
     {
-        ExpectSource(description, lines[index]);
+        StatementIn(description, lines[index]);
         if (lines[index] != places[index])
             edits.push_back({WholeLine(description, places[index]), description.text.Line(lines[index]).text});
     }
@@ -204,7 +156,7 @@ std::vector<TextEdit> RemovalOf(const Description& description, const std::vecto
     std::vector<TextEdit> edits;
     for (const int line : lines)
     {
-        ExpectSource(description, line);
+        StatementIn(description, line);
         edits.push_back({{{line - 1, 0}, {line, 0}}, ""});
     }
     return edits;

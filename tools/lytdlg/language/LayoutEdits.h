@@ -8,19 +8,6 @@
 namespace lytdlg
 {
 
-// The pieces of the statement of a control; what it lacks has no line.
-struct ControlSource
-{
-    const ClytControlStatement* statement = nullptr;
-    ClytSpan type = {};
-    std::vector<ClytSpan> numbers = {}; // x, y, width, height, or none
-    ClytSpan text = {};
-    ClytSpan name = {};
-};
-
-// Of the statement in a line, which counts from 1; nothing for a line without one.
-std::optional<ControlSource> SourceOfControl(const Description& description, int line);
-
 // In pixels from the corner of the client area; what is not given stays.
 struct ControlPlace
 {

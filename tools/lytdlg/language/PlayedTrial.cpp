@@ -82,15 +82,6 @@ std::vector<PlayedWindow> SeeAll(const Trial& trial, const Setup& setup, bool is
     return all;
 }
 
-// On a window without a description, such as the catalogue.
-void ActOnWindow(const script::Step& act)
-{
-    script::Stage stage;
-    if (!FormOf(act).ready(stage, act))
-        throw ActError(ReasonOf(stage, act));
-    FormOf(act).act(stage, act);
-}
-
 ComposedOutput ComposedBy(TrialDialog& dialog, const Recorder& recorder)
 {
     ClytOutput* group = nullptr;
@@ -123,26 +114,63 @@ ComposedOutput ComposedBy(TrialDialog& dialog, const Recorder& recorder)
     return output;
 }
 
+bool MayClose(const script::Step& act)
+{
+    constexpr std::string_view words[] = {"ok", "cancel", "press", "key", "doubleclick"};
+    return std::ranges::find(words, act.word) != std::end(words);
+}
+
 // Takes the acts of a play, and knows which one is being taken.
 class Player
 {
 public:
-    Player(PlayedTrial& playedTrial, TrialRun& trialRun) : m_played(playedTrial), m_run(trialRun) {}
+    // All three outlive the player. The early look comes before the last act if that may close the dialog.
+    Player(const Play& acts, const PlayLook& lastLook, const PlayLook& earlyLook)
+        : m_play(acts), m_look(lastLook), m_earlyLook(earlyLook), m_run(acts.setup, false)
+    {
+    }
 
-    void Take(const std::string& line, int number)
+    PlayedTrial Run()
+    {
+        std::deque<Trial::Step> steps;
+        for (const std::string& line : m_play.acts)
+            steps.emplace_back([&](Trial& /*trial*/) { Take(line); });
+        steps.emplace_back(
+            [&](Trial& /*trial*/)
+            {
+                NoteMessages();
+                m_look(m_run);
+            });
+        try
+        {
+            m_played.outcome = m_run.trial.Run(std::move(steps));
+        }
+        catch (const ActError& failure)
+        {
+            m_played.failed = {m_act, failure.what()};
+        }
+        return std::move(m_played);
+    }
+
+private:
+    void Take(const std::string& line)
     {
         NoteMessages();
         if (m_played.failed)
             return;
-        m_act = number;
+        ++m_act;
         try
         {
             for (const script::Step& act : script::ReadScript("acts", line, script::Player::OfDescriptions))
-                Do(act);
+            {
+                if (m_earlyLook && &line == &m_play.acts.back() && MayClose(act))
+                    m_earlyLook(m_run);
+                m_run.trial.Do(act);
+            }
         }
         catch (const std::runtime_error& failure)
         {
-            m_played.failed = {number, failure.what()};
+            m_played.failed = {m_act, failure.what()};
         }
     }
 
@@ -156,93 +184,72 @@ public:
         }
     }
 
-    int Act() const { return m_act; }
-
-private:
-    void Do(const script::Step& act)
-    {
-        const bool isOnWindow = !m_run.trial.Open().empty() && m_run.trial.Top() == nullptr;
-        if (isOnWindow && act.word != "ok" && act.word != "cancel")
-            ActOnWindow(act);
-        else
-            m_run.trial.Do(act);
-    }
-
-    PlayedTrial& m_played;
-    TrialRun& m_run;
+    const Play& m_play;
+    const PlayLook& m_look;
+    const PlayLook& m_earlyLook;
+    PlayedTrial m_played;
+    TrialRun m_run;
     int m_act = -1;
     size_t m_noted = 0;
 };
+
+PlayedTrial PlayAll(const Play& play, const PlayLook& look, const PlayLook& earlyLook)
+{
+    const Resolution resolution(play.pixelsPerInch != 0 ? play.pixelsPerInch : PixelsPerInch());
+    return Player(play, look, earlyLook).Run();
+}
+
+// Looks at the dialog after the acts; where they close it, before the one that does.
+PlayedTrial PlayToLastSight(const Play& play, const PlayLook& look)
+{
+    bool hasSeen = false;
+    const PlayLook lookAtOpen = [&](const TrialRun& run)
+    {
+        if (run.trial.Open().empty())
+            return;
+        look(run);
+        hasSeen = true;
+    };
+    PlayedTrial played = PlayAll(play, lookAtOpen, lookAtOpen);
+    const bool isClosed = played.outcome.ending == Ending::Confirmed || played.outcome.ending == Ending::Cancelled;
+    if (isClosed && !hasSeen && !play.acts.empty())
+    {
+        // An act follows the one that closed it, and could not be taken.
+        Play before = play;
+        before.acts.pop_back();
+        PlayToLastSight(before, look);
+    }
+    return played;
+}
 
 } // namespace
 
 PlayedTrial PlayActs(const Play& play, const PlayLook& look)
 {
-    PlayedTrial played;
-    const Resolution resolution(play.pixelsPerInch != 0 ? play.pixelsPerInch : PixelsPerInch());
-    TrialRun run(play.setup, false);
-    Player player(played, run);
-    std::deque<Trial::Step> steps;
-    for (const std::string& act : play.acts)
-        steps.emplace_back([&player, &act, number = static_cast<int>(steps.size())](Trial& /*trial*/)
-                           { player.Take(act, number); });
-    steps.emplace_back(
-        [&](Trial& /*trial*/)
-        {
-            player.NoteMessages();
-            look(run);
-        });
-    try
-    {
-        played.outcome = run.trial.Run(std::move(steps));
-    }
-    catch (const ActError& failure)
-    {
-        played.failed = {player.Act(), failure.what()};
-    }
-    return played;
+    return PlayAll(play, look, {});
 }
 
 PlayedTrial PlayAndSee(const Play& play, bool isDrawn)
 {
     std::vector<PlayedWindow> windows;
-    PlayedTrial played = PlayActs(play, [&](TrialRun& run) { windows = SeeAll(run.trial, play.setup, isDrawn); });
+    PlayedTrial played =
+        PlayToLastSight(play, [&](const TrialRun& run) { windows = SeeAll(run.trial, play.setup, isDrawn); });
     played.windows = std::move(windows);
-    const bool isClosed = played.outcome.ending == Ending::Confirmed || played.outcome.ending == Ending::Cancelled;
-    if (isClosed && !play.acts.empty())
-    {
-        Play before = play;
-        before.acts.pop_back();
-        played.windows = PlayAndSee(before, isDrawn).windows;
-    }
     return played;
 }
 
 PlayedWay PlayWay(const Play& play)
 {
     PlayedWay way;
-    bool isClosed = false;
-    const auto look = [&](TrialRun& run)
+    const auto look = [&](const TrialRun& run)
     {
-        for (const ScanStep& step : run.recorder.Steps())
-        {
-            if (step.scan == 1)
-                way.steps.push_back(step);
-        }
-        way.fills = run.recorder.Fills();
-        isClosed = run.trial.Open().empty();
-        if (!isClosed)
-            way.output = ComposedBy(*run.trial.Open().front(), run.recorder);
+        way = {{}, run.recorder.Fills(), ComposedBy(*run.trial.Open().front(), run.recorder)};
+        std::ranges::copy_if(run.recorder.Steps(), std::back_inserter(way.steps),
+                             [](const ScanStep& step) { return step.scan == 1; });
     };
-    const PlayedTrial played = PlayActs(play, look);
+    const PlayedTrial played = PlayToLastSight(play, look);
     if (played.failed)
         throw std::runtime_error(played.failed->reason);
-    if (!isClosed || play.acts.empty())
-        return way;
-    // A dialog that is gone is asked before its last act.
-    Play before = play;
-    before.acts.pop_back();
-    way.output = PlayWay(before).output;
     if (played.outcome.ending == Ending::Confirmed && way.output.text != played.outcome.text)
         way.output = {way.output.line, played.outcome.text};
     return way;

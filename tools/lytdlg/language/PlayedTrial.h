@@ -51,7 +51,7 @@ struct PlayedTrial
 };
 
 // Plays all acts up to one that cannot be taken. The look comes last, while the dialog is open or just closed.
-using PlayLook = std::function<void(TrialRun& run)>;
+using PlayLook = std::function<void(const TrialRun& run)>;
 PlayedTrial PlayActs(const Play& play, const PlayLook& look);
 
 // The same with the windows that are open then; once all are closed, as they were before the act that closed them.

@@ -2,7 +2,6 @@
 #include "commandline/Text.h"
 #include "controls/TypeWords.h"
 #include "lytdlg/language/CaseEdits.h"
-#include "lytdlg/language/LayoutEdits.h"
 #include "lytdlg/language/Places.h"
 #include "lytdlg/serve/Requests.h"
 #include "lytdlg/text/Uri.h"
@@ -21,27 +20,10 @@ Json AreaJson(const Area& area)
     return {{"x", area.left}, {"y", area.top}, {"width", area.width}, {"height", area.height}};
 }
 
-// A place without a line is none.
-Json RangeJson(const ClytSpan& place)
+// Of a statement that begins in a line; null where there is none.
+Json RangeJson(const Description& description, int line)
 {
-    return place.line > 0 ? Json(RangeOf(place)) : Json();
-}
-
-Json SourceJson(const Description& description, int line)
-{
-    const std::optional<ControlSource> source = SourceOfControl(description, line);
-    if (!source)
-        return {};
-    Json numbers = Json::array();
-    for (const ClytSpan& number : source->numbers)
-        numbers.push_back(RangeJson(number));
-    const ClytControlStatement& statement = *source->statement;
-    return {{"line", RangeJson(description.PlaceOf(line))},
-            {"type", RangeJson(source->type)},
-            {"numbers", std::move(numbers)},
-            {"units", AreaJson(Area{statement.x, statement.y, statement.width, statement.height})},
-            {"text", RangeJson(source->text)},
-            {"name", RangeJson(source->name)}};
+    return line > 0 ? Json(RangeOf(description.PlaceOf(line))) : Json();
 }
 
 Json ItemsJson(const SeenControl& seen, const ControlState* state)
@@ -97,7 +79,7 @@ Json ControlJson(const PlayedWindow& window, size_t index, int number, const Des
             {"tab", seen.tabNumber},
             {"selection", {seen.selectedFrom, seen.selectedTo}},
             {"group", state == nullptr || window.groups[index].empty() ? Json() : Json(ToUtf8(window.groups[index]))},
-            {"source", description != nullptr ? SourceJson(*description, seen.line) : Json()}};
+            {"range", description != nullptr ? RangeJson(*description, seen.line) : Json()}};
 }
 
 Json WindowJson(const PlayedWindow& window, const Description* description, const std::string& uri)
@@ -154,14 +136,14 @@ Json StepsJson(const PlayedWay& way, const Description& description)
         {
             if (fill.step == index)
                 fills.push_back({{"target", ToUtf8(fill.control)},
-                                 {"range", RangeJson(description.PlaceOf(fill.line))},
+                                 {"range", RangeJson(description, fill.line)},
                                  {"text", fill.text}});
         }
         steps.push_back({{"begin", step.begin},
                          {"end", step.end},
                          {"next", step.restAt},
                          {"statement", ToUtf8(step.name)},
-                         {"range", RangeJson(description.PlaceOf(step.line))},
+                         {"range", RangeJson(description, step.line)},
                          {"follower", ToUtf8(step.next)},
                          {"fills", std::move(fills)}});
     }
@@ -175,13 +157,13 @@ Json OutputJson(const Description& description, const ComposedOutput& output)
         pieces.push_back({{"begin", item.begin},
                           {"end", item.end},
                           {"target", item.isControl ? Json(ToUtf8(item.name)) : Json()},
-                          {"range", RangeJson(item.span)}});
+                          {"range", RangeOf(item.span)}});
     Json refusals = Json::array();
     for (size_t index = 0; index < output.refused.refusals.size(); ++index)
-        refusals.push_back({{"range", RangeJson(description.PlaceOf(output.refused.refusedLines[index]))},
+        refusals.push_back({{"range", RangeJson(description, output.refused.refusedLines[index])},
                             {"text", output.refused.refusals[index].text}});
     return {{"result", output.line > 0 ? Json(ToUtf8(output.text)) : Json()},
-            {"rule", output.line > 0 ? RangeJson(description.PlaceOf(output.line)) : Json()},
+            {"rule", RangeJson(description, output.line)},
             {"pieces", std::move(pieces)},
             {"refusals", std::move(refusals)}};
 }
@@ -228,8 +210,7 @@ Json ExplainControl(Session& session, const Json& params)
             throw ActError("no described dialog is left to look at");
         ClytControl& control = ControlOfTarget(*top, target);
         const bool isHere = top == run.trial.Open().front();
-        const auto placeOf = [&](int line)
-        { return isHere && line > 0 ? RangeJson(description.PlaceOf(line)) : Json(); };
+        const auto placeOf = [&](int line) { return RangeJson(description, isHere ? line : 0); };
         for (const Sentence& sentence : Explain(*top, control, run.recorder))
             json["sentences"].push_back({{"text", sentence.text}, {"range", placeOf(sentence.line)}});
         for (const TriedRule& rule : RulesAbout(*top, control, run.recorder))
@@ -262,15 +243,12 @@ Json TellWay(Session& session, const Json& params)
 
 Json RunCases(Session& session, const Json& params)
 {
+    const bool isRun = params.value("run", true);
     Json cases = Json::array();
     for (const GoldenCase& one : CasesOf(session.workspace, PathIn(params)))
     {
         const std::string path = PlainPath(one.file);
         const auto rangeOf = [](int line) { return Json(RangeOf(ClytSpan{std::max(1, line), 0, 0})); };
-        Json differences = Json::array();
-        for (const Difference& difference : RunCase(one).differences)
-            differences.push_back(
-                {{"range", rangeOf(difference.line)}, {"expected", difference.expected}, {"got", difference.got}});
         Json acts = Json::array();
         for (const CaseStep& step : one.steps)
         {
@@ -283,12 +261,18 @@ Json RunCases(Session& session, const Json& params)
         cases.push_back({{"name", one.name},
                          {"uri", session.UriFor(path)},
                          {"range", rangeOf(one.line)},
-                         {"passed", differences.empty()},
-                         {"differences", std::move(differences)},
                          {"input", ToUtf8(one.setup.input)},
                          {"language", ToUtf8(one.setup.language)},
                          {"items", std::move(items)},
                          {"acts", std::move(acts)}});
+        if (!isRun)
+            continue;
+        Json differences = Json::array();
+        for (const Difference& difference : RunCase(one).differences)
+            differences.push_back(
+                {{"range", rangeOf(difference.line)}, {"expected", difference.expected}, {"got", difference.got}});
+        cases.back()["passed"] = differences.empty();
+        cases.back()["differences"] = std::move(differences);
     }
     return {{"cases", std::move(cases)}};
 }

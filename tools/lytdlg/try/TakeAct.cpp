@@ -233,13 +233,10 @@ const ControlState& StateNamed(const DialogState& dialog, const std::string& nam
 
 void TakeAct(TrialDialog* dialog, const Step& act)
 {
-    if (dialog == nullptr && act.word != "ok" && act.word != "cancel")
-        throw ActError(act.place + "the window " + Quoted(ToUtf8(robot::TextOf(robot::ActiveDialog()))) +
-                       " is no described dialog; end it with ok or cancel first");
     const auto* taker = std::ranges::find(takers, act.word, &Taker::word);
-    if (taker == std::end(takers))
+    if (dialog == nullptr || taker == std::end(takers))
         TakeStep(dialog, act);
-    else if (dialog != nullptr)
+    else
         taker->take(*dialog, ControlOf(*dialog, act), act);
 }
 

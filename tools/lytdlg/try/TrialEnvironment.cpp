@@ -15,6 +15,7 @@
 #include <windows.h>
 
 #include <algorithm>
+#include <array>
 #include <filesystem>
 #include <set>
 
@@ -28,6 +29,7 @@ namespace
 {
 
 constexpr const char* iniFile = "lyt.ini";
+constexpr const char* languageKey = "Current Language";
 
 // On the disk or in an editor.
 bool IsThere(const fs::path& file)
@@ -44,6 +46,23 @@ fs::path InitFolderNear(const fs::path& dialogs)
             return folder;
     }
     return {};
+}
+
+// Whether an editor holds a text of the folder that is other than the file.
+bool HasUnsavedTexts(const fs::path& folder)
+{
+    return std::ranges::any_of(OpenTexts::NamesIn(folder),
+                               [](const fs::path& name) { return ReadSavedFile(name) != ReadWholeFile(name); });
+}
+
+// As lyt.ini in a folder says; empty without a folder.
+std::string LanguageIn(const fs::path& init)
+{
+    std::array<char, 256> language{};
+    const std::string file = NameForLibrary(init) + "\\" + iniFile;
+    if (!init.empty())
+        GetPrivateProfileStringA("global", languageKey, "", language.data(), language.size(), file.c_str());
+    return language.data();
 }
 
 // The names of the dialogs that a description opens.
@@ -145,12 +164,13 @@ TrialEnvironment::TrialEnvironment(const Setup& setup)
     if (!setup.language.empty() && !IsThere(dialogs / "lang" / PathOf(commandline::ToUtf8(setup.language) + ".nls")))
         throw UsageError("there is no lang/" + commandline::ToUtf8(setup.language) + ".nls beside the dialog; " +
                          commandline::Suggestion(commandline::ToUtf8(setup.language), LanguagesIn(dialogs)));
-    if (init.empty() || !setup.language.empty() || OpenTexts::Find(init / iniFile) != nullptr)
+    const bool isOtherLanguage = !setup.language.empty() && setup.language != LanguageIn(init);
+    if (init.empty() || isOtherLanguage || OpenTexts::Find(init / iniFile) != nullptr)
     {
         MakeIniFile(init, init.empty() && setup.language.empty() ? LanguageOf(dialogs) : setup.language);
         init = PathOf(m_ownFolder);
     }
-    if (!OpenTexts::NamesIn(dialogs).empty() || !OpenTexts::NamesIn(dialogs / "lang").empty())
+    if (HasUnsavedTexts(dialogs) || HasUnsavedTexts(dialogs / "lang"))
         TakeOpenTexts(file, setup.defines);
     const std::string folder = NameForLibrary(m_openTexts ? m_openTexts->Name() : dialogs);
     m_descriptionFile = folder + "\\" + NameForLibrary(file.filename());
@@ -204,7 +224,7 @@ void TrialEnvironment::MakeIniFile(const fs::path& source, const std::string& la
     const std::string copy = NameForLibrary(PathOf(m_ownFolder)) + "\\" + iniFile;
     if (!source.empty())
         WriteWholeFile(PathOf(m_ownFolder) / iniFile, ReadWholeFile(source / iniFile).value_or(""));
-    if (!language.empty() && !WritePrivateProfileStringA("global", "Current Language", language.c_str(), copy.c_str()))
+    if (!language.empty() && !WritePrivateProfileStringA("global", languageKey, language.c_str(), copy.c_str()))
         throw std::runtime_error(m_ownFolder + " cannot be written; make the temporary folder writable");
 }
 

@@ -17,6 +17,15 @@ using commandline::ToUtf8;
 namespace
 {
 
+// What a command shows after its acts is a described dialog.
+void CheckDescribed(const Trial& running, const script::Step& act)
+{
+    const bool isOnOther = !running.Open().empty() && running.Top() == nullptr;
+    if (isOnOther && act.word != "ok" && act.word != "cancel")
+        throw ActError(act.place + "the window " + commandline::Quoted(ToUtf8(robot::TextOf(robot::ActiveDialog()))) +
+                       " is no described dialog; end it with ok or cancel first");
+}
+
 void LookAtTop(const Trial& running, const TrialRun::Look& look)
 {
     if (running.PresentEnding() == Ending::NotOpened)
@@ -39,6 +48,7 @@ const Outcome& TrialRun::Run(const std::vector<script::Step>& acts, const Look& 
             {
                 if (traced)
                     events.push_back({EventKind::Trace, "> " + Describe(act)});
+                CheckDescribed(running, act);
                 running.Do(act);
             });
     }

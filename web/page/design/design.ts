@@ -62,7 +62,7 @@ export class Design {
   }
 
   private get controls(): Control[] {
-    return this.window?.controls.filter((control) => control.place && control.source) ?? [];
+    return this.window?.controls.filter((control) => control.place && control.range) ?? [];
   }
 
   private makeBar(): void {
@@ -166,10 +166,10 @@ export class Design {
     } else {
       this.selected.push(target);
     }
-    const source = this.bench.find(target)?.source;
-    if (source) {
+    const range = this.bench.find(target)?.range;
+    if (range) {
       this.bench.files.show(this.bench.topPath);
-      this.editor.light(this.bench.topPath, [source.line], true);
+      this.editor.light(this.bench.topPath, [range], true);
     }
     this.show();
   }

@@ -68,12 +68,6 @@ export interface Item {
   hasInner?: boolean;
 }
 
-export interface Source {
-  line: Range;
-  text: Range | null;
-  name: Range | null;
-}
-
 export interface Control {
   target: string;
   type: string;
@@ -93,12 +87,12 @@ export interface Control {
   default: boolean;
   tab: number;
   group: string | null;
-  source: Source | null;
+  range: Range | null;
 }
 
 // Of its statement; nothing for a control of a window without a description.
 export function lineOf(control: Control | undefined): number | undefined {
-  return control?.source?.line.start.line;
+  return control?.range?.start.line;
 }
 
 export interface DialogWindow {

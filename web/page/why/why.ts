@@ -60,9 +60,8 @@ export class WhyPanel {
     });
     this.answer.replaceChildren(make("ul", { class: "sentences" }, ...sentences), make("ul", { class: "rules" }, ...rules));
     const told = [...why.rules.filter((rule) => rule.decides), ...why.rules, ...why.sentences].map(({ range }) => range);
-    const source = bench.find(target)?.source;
-    const own = source ? [source.line] : [];
-    this.editor.light(bench.topPath, [...told.filter((range) => range !== null), ...own], true);
+    const own = bench.find(target)?.range ?? null;
+    this.editor.light(bench.topPath, [...told, own].filter((range) => range !== null), true);
   }
 
   // For those who do not click: any control of the dialog, hidden ones too.
