@@ -8,10 +8,10 @@ import { Stage } from "./dialog/stage";
 import { showTools } from "./dialog/tools";
 import { find, say } from "./dom";
 import { Client, startEngine } from "./engine/client";
-import type { Initialized } from "./engine/contract";
+import type { CaseResult, Initialized } from "./engine/contract";
 import { Mirror } from "./engine/mirror";
 import { unpacked } from "./files/codepage";
-import { Files, isDescription } from "./files/files";
+import { Files, isDescription, uriOf } from "./files/files";
 import { Disk, download } from "./files/folder";
 import { keepAlways, readKept, restore, stateOf } from "./files/keep";
 import { addFile, showTabs } from "./files/tabs";
@@ -24,22 +24,23 @@ import { WhyPanel } from "./why/why";
 type Samples = Record<string, string>;
 
 // The first input of the cases of each description, which shows the most.
-function firstInputs(bench: Bench): void {
-  for (const path of bench.files.paths.filter(isDescription)) {
-    const name = path.slice(path.lastIndexOf("/"));
-    const cases = bench.files.paths.filter((each) => each.endsWith(".case")).map((each) => bench.files.textOf(each));
-    const own = cases.find((text) => text.split("\n").some((line) => line.startsWith("dialog:") && line.trim().endsWith(name)));
-    const input = /^input: ?(.+)$/m.exec(own ?? "")?.[1];
-    if (input !== undefined && !bench.scenes.has(path)) {
-      bench.scenes.set(path, { input, acts: [], undone: [] });
+async function firstInputs(bench: Bench): Promise<void> {
+  const paths = bench.files.paths.filter(isDescription);
+  const answers = paths.map((path) =>
+    bench.client.ask<{ cases: CaseResult[] }>("lytdlg/cases", { textDocument: { uri: uriOf(path) }, run: false }).catch(() => ({ cases: [] })),
+  );
+  (await Promise.all(answers)).forEach(({ cases }, index) => {
+    const input = cases.find((each) => each.input !== "")?.input;
+    if (input !== undefined) {
+      bench.scenes.set(paths[index]!, { input, acts: [], undone: [] });
     }
-  }
+  });
 }
 
-function begin(bench: Bench, preferred: string): void {
+async function begin(bench: Bench, preferred: string): Promise<void> {
   bench.scenes.clear();
   bench.dialog = "";
-  firstInputs(bench);
+  await firstInputs(bench);
   const descriptions = bench.files.paths.filter(isDescription);
   bench.files.show(descriptions.find((path) => path === preferred) ?? descriptions[0] ?? bench.files.paths[0] ?? "");
   if (!bench.languages.includes(bench.language)) {
@@ -48,10 +49,10 @@ function begin(bench: Bench, preferred: string): void {
   }
 }
 
-function openSamples(bench: Bench, samples: Samples): void {
+async function openSamples(bench: Bench, samples: Samples): Promise<void> {
   bench.files.clear();
   Object.entries(samples).forEach(([path, text]) => bench.files.put(path, unpacked(text), unpacked(text)));
-  begin(bench, "dialogs/lytInSym.dlg");
+  await begin(bench, "dialogs/lytInSym.dlg");
 }
 
 function moveSplitter(): void {
@@ -99,12 +100,12 @@ async function start(): Promise<void> {
   new Design(bench, editor, stage);
   moveSplitter();
 
-  const disk = new Disk(files, () => begin(bench, ""));
+  const disk = new Disk(files, () => void begin(bench, ""));
   const save = failing(async () => say(`${await disk.save()} files saved.`));
   find("open").addEventListener("click", failing(() => disk.openFolder()));
   find("save").addEventListener("click", save);
   find("new-file").addEventListener("click", failing(() => addFile(bench)));
-  find("samples").addEventListener("click", () => openSamples(bench, samples));
+  find("samples").addEventListener("click", () => void openSamples(bench, samples));
   find("format").addEventListener("click", () => editor.format());
   find("search").addEventListener("click", () => editor.search());
   find("zip").addEventListener("click", () => download("dialogs.zip", zipOf(files)));
@@ -151,7 +152,7 @@ async function start(): Promise<void> {
   if (kept && Object.keys(kept.files).length > 0) {
     restore(bench, kept, samples);
   } else {
-    openSamples(bench, samples);
+    await openSamples(bench, samples);
   }
   keepAlways(bench, samples);
   document.body.dataset["ready"] = "yes";

@@ -8,8 +8,8 @@ type ToThread =
   | { kind: "write"; path: string; bytes: Uint8Array }
   | { kind: "remove"; path: string };
 
-// In milliseconds; longer than between two keys of one who types fast.
-const pause = 100;
+// In milliseconds; longer than between two keys of one who types.
+const pause = 300;
 
 let engine: Engine | undefined;
 let timer = 0;
@@ -33,12 +33,12 @@ function fail(reason: unknown): void {
 }
 
 // Only a failure of the module itself is thrown. It begins anew with its files, and the page greets it again.
-function use(opened: Engine, work: (opened: Engine) => unknown[] | undefined, id?: number): void {
+function use(opened: Engine, work: (opened: Engine) => unknown[] | undefined, rest: number, id?: number): void {
   try {
     const sent = work(opened);
     if (sent) {
       self.postMessage(sent);
-      continueLater();
+      continueAfter(rest);
     }
   } catch (failure) {
     self.postMessage([{ id, error: { message: String(failure) } }, { method: "workbench/restarted", params: {} }]);
@@ -47,9 +47,9 @@ function use(opened: Engine, work: (opened: Engine) => unknown[] | undefined, id
 }
 
 // What can wait does so until the user pauses: it would hold up the next key.
-function continueLater(): void {
+function continueAfter(rest: number): void {
   clearTimeout(timer);
-  timer = setTimeout(() => engine && use(engine, (opened) => opened.work()), pause);
+  timer = setTimeout(() => engine && use(engine, (opened) => opened.work(), 0), rest);
 }
 
 function receive(message: ToThread): void {
@@ -58,7 +58,7 @@ function receive(message: ToThread): void {
   } else if (!engine) {
     waiting.push(message);
   } else if (message.kind === "take") {
-    use(engine, (opened) => opened.take(message.message), message.message.id);
+    use(engine, (opened) => opened.take(message.message), pause, message.message.id);
   } else if (message.kind === "write") {
     engine.write(message.path, message.bytes);
   } else {
