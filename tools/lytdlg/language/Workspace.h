@@ -39,7 +39,7 @@ public:
     const EditorText* Find(const std::string& path) const;
     // In the order of their names.
     std::vector<std::string> OpenPaths() const;
-    // Of the description at a path, open or not; empty without one.
+    // What a file has, open or not; empty without one. A file of cases is in UTF-8.
     std::string BytesOf(const std::string& path) const;
     // Valid until a text changes.
     const Description& DescriptionAt(const std::string& path) const;

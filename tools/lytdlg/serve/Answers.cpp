@@ -248,12 +248,11 @@ Json Links(Session& session, const Json& params)
 Json Lenses(Session& session, const Json& params)
 {
     const std::string path = PathIn(params);
-    const Description* description =
-        KindOfText(path) == TextKind::Description ? &session.workspace.DescriptionAt(path) : nullptr;
-    if (description == nullptr || !description->hasDialogHeader)
+    const Description& description = session.DescriptionIn(params);
+    if (!description.hasDialogHeader)
         return Json::array();
     const std::string uri = session.UriFor(path);
-    const TextRange place = RangeOf({description->dialogHeader.line, 0, 0});
+    const TextRange place = RangeOf({description.dialogHeader.line, 0, 0});
     const Json run = {{"title", "run"}, {"command", "lytdlg.run"}, {"arguments", {uri}}};
     Json lenses = Json::array({{{"range", place}, {"command", run}}});
     if (!CasesOf(session.workspace, path).empty())
