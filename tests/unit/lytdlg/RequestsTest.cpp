@@ -134,6 +134,46 @@ TEST(Requests, TellsOfAControlWhatAPageNeedsToDrawIt)
     EXPECT_EQ(ControlIn(window, "#1")["type"], "GroupBox");
 }
 
+// The drawing is that of `lytdlg preview`, which PreviewSamplesTest.cpp and SamplePlacesTest.cpp compare with live windows. The
+// tests of the engine and of the page compare their places with these.
+TEST(Requests, PlacesControlsWhereTheyAreDrawn)
+{
+    ServerSession session;
+    for (const char* name :
+         {"finding", "lytCdGrp", "lytInPhr", "lytInSym", "lytRpGrp", "lytWzGrp", "lytWzPhr", "lytWzSym"})
+    {
+        for (const char* language : {"English", "German"})
+        {
+            for (const int dpi : {96, 120})
+            {
+                SCOPED_TRACE(std::string(name) + " " + language + " " + std::to_string(dpi));
+                Json params = Asked(std::string(name) + ".dlg", "", {});
+                params["language"] = language;
+                params["dpi"] = dpi;
+                params["svg"] = true;
+                const Json played = session.ResultOf("lytdlg/play", params);
+                const std::string svg = played["svg"];
+                const CommandRun preview({"preview", samples + "/dialogs/" + name + ".dlg", "--language", language,
+                                          "--dpi", std::to_string(dpi)});
+                EXPECT_EQ(preview.output, "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n" + svg);
+                const Json& window = played["dialogs"][0];
+                for (const Json& control : window["controls"])
+                {
+                    const Json& place = control["place"];
+                    if (!control["shown"].get<bool>() || place.is_null())
+                        continue;
+                    const auto number = [&](const char* side) { return place[side].get<int>(); };
+                    const std::string drawn =
+                        "<svg x=\"" + std::to_string(number("x") - window["client"]["x"].get<int>()) + "\" y=\"" +
+                        std::to_string(number("y") - window["client"]["y"].get<int>()) + "\" width=\"" +
+                        std::to_string(number("width")) + "\" height=\"" + std::to_string(number("height")) + "\">";
+                    EXPECT_NE(svg.find(drawn), std::string::npos) << control["target"] << " " << drawn;
+                }
+            }
+        }
+    }
+}
+
 // The catalogue and a nested dialog are over the dialog that opened them, and acts reach them.
 TEST(Requests, PlaysOnTheWindowOnTop)
 {

@@ -97,10 +97,11 @@ test("all controls are where the native program draws them", { skip: !lytdlg }, 
   const bench = await (await browser.open()).ready();
   const { page } = bench;
   const folder = temporaryFolder();
+  const looks = ["English", "German"].flatMap((language) => ["96", "120"].map((dpi) => ({ language, dpi })));
   for (const name of fs.readdirSync(path.join(samples, "dialogs")).filter((each) => each.endsWith(".dlg"))) {
-    for (const dpi of ["96", "120"]) {
-      const drawing = path.join(folder, `${name}-${dpi}.svg`);
-      execFileSync(lytdlg, ["preview", path.join(samples, "dialogs", name), "--dpi", dpi, "--names", "-o", drawing]);
+    for (const { language, dpi } of looks) {
+      const drawing = path.join(folder, `${name}-${language}-${dpi}.svg`);
+      execFileSync(lytdlg, ["preview", path.join(samples, "dialogs", name), "--language", language, "--dpi", dpi, "--names", "-o", drawing]);
       const wanted = await page.evaluate((text) => {
         const svg = new DOMParser().parseFromString(text, "image/svg+xml").documentElement;
         const client = [...svg.children].filter((each) => each.tagName === "svg").at(-1);
@@ -108,6 +109,7 @@ test("all controls are where the native program draws them", { skip: !lytdlg }, 
         const shown = [...client.querySelectorAll("g > svg")].map((each) => ["x", "y", "width", "height"].map((one) => number(each, one)));
         return shown.map(([x, y, width, height]) => [x + number(client, "x"), y + number(client, "y"), width, height].join());
       }, fs.readFileSync(drawing, "utf8"));
+      await page.select("#language", language);
       await page.select("#resolution", dpi);
       await bench.show(`dialogs/${name}`);
       await bench.page.evaluate(() => (document.querySelector("#input").value = ""));
@@ -121,7 +123,7 @@ test("all controls are where the native program draws them", { skip: !lytdlg }, 
         JSON.stringify(wanted.sort()),
       ).catch(async () => {
         const places = await page.$$eval("#stage .window:not(.message) [data-target]:not([hidden])", (all) => all.map(({ style }) => [style.left, style.top, style.width, style.height].map(parseFloat).join()));
-        assert.deepEqual(places.sort(), wanted.sort(), `${name} at ${dpi}`);
+        assert.deepEqual(places.sort(), wanted.sort(), `${name} in ${language} at ${dpi}`);
       });
     }
   }
