@@ -139,7 +139,7 @@ test(`${count} random acts and edits`, { skip: !lytdlg }, async (context) => {
   const bench = await (await browser.open()).ready();
   const sizes = [await memory(bench)];
   for (const name of ["lytInSym", "finding", "lytRpGrp"]) {
-    await bench.page.click("#samples");
+    await bench.openSamples();
     await bench.show(`dialogs/${name}.dlg`);
     for (let step = 1; step <= count / 3; ++step) {
       const kind = dice(8);
@@ -154,7 +154,7 @@ test(`${count} random acts and edits`, { skip: !lytdlg }, async (context) => {
   }
   context.diagnostic(`seed ${firstSeed}; ${sizes.join(", ")} MB`);
   // And the page is as usable as before.
-  await bench.page.click("#samples");
+  await bench.openSamples();
   await bench.openDialog("lytInSym.dlg", "Properties of a value");
   await bench.replaceField(bench.field("Name"), "volume");
   await bench.waitForActs('set Name = "volume"');

@@ -63,6 +63,12 @@ export class Bench {
     return this.page.select("#other-files", path);
   }
 
+  // The samples afresh; until their inputs are known, no tab is chosen.
+  async openSamples() {
+    await this.page.click("#samples");
+    await this.page.waitForSelector("#tabs [aria-selected=true]");
+  }
+
   // A description in the editor, and its dialog.
   async openDialog(name, title) {
     await this.show(`dialogs/${name}`);
