@@ -11,7 +11,7 @@ const colours = 8;
 
 export class WayPanel {
   private readonly page = find("page-way");
-  private readonly strip = find("way-in");
+  private readonly strip = find("pieces");
   private readonly result = find("result");
   private way: Way | undefined;
   // How many steps of the scan are shown as done; nothing: all, without one that is looked at.
@@ -47,9 +47,9 @@ export class WayPanel {
 
   private show(): void {
     const { way } = this;
-    this.strip.hidden = !way || way.input === "";
     if (!way) {
       this.page.replaceChildren(make("p", { class: "hint" }, "The library refuses the text, so there is nothing to show."));
+      this.strip.replaceChildren();
       this.result.replaceChildren();
       return;
     }
@@ -73,7 +73,7 @@ export class WayPanel {
       return [...(step.end > step.begin ? [piece] : []), ...(step.next > step.end ? [cut] : [])];
     });
     const rest = way.rest && way.rest.end > way.rest.begin ? [make("span", { class: "piece left-over", title: "left over" }, way.input.slice(way.rest.begin, way.rest.end))] : [];
-    this.strip.replaceChildren(make("span", { class: "name" }, "Pieces"), make("span", { class: "pieces" }, ...pieces, ...rest));
+    this.strip.replaceChildren(...pieces, ...rest);
   }
 
   private showResult(way: Way): void {
