@@ -57,6 +57,7 @@ Json ControlJson(const PlayedWindow& window, size_t index, int number, const Des
     const SeenControl& seen = window.seen.controls[index];
     const ControlState* state = description != nullptr ? &window.state.controls[index] : nullptr;
     const bool isNamed = state != nullptr && window.isNamed[index];
+    const bool isSeen = state == nullptr || seen.hasWindow;
     const bool isFree = lytTypeOf(seen.type).kind == ClytKind::Combo && seen.field.width > 0;
     return {{"target", isNamed          ? ToUtf8(seen.name)
                        : seen.hasWindow ? "#" + std::to_string(number)
@@ -72,8 +73,8 @@ Json ControlJson(const PlayedWindow& window, size_t index, int number, const Des
             {"topItem", seen.topItem},
             {"itemHeight", seen.firstItem.height},
             {"checked", seen.isChecked},
-            {"enabled", seen.hasWindow ? seen.isEnabled : state->isEnabled},
-            {"shown", seen.hasWindow ? seen.isShown : state->isShown},
+            {"enabled", isSeen ? seen.isEnabled : state->isEnabled},
+            {"shown", isSeen ? seen.isShown : state->isShown},
             {"focus", seen.hasFocus},
             {"default", seen.isDefault},
             {"tab", seen.tabNumber},
