@@ -1,5 +1,6 @@
 // Work that survives a closed tab, and the state as one record that fits into a link.
 import type { Bench, Scene } from "../bench";
+import { say } from "../dom";
 import { packed, unpacked } from "./codepage";
 import { bytesOf, type Files } from "./files";
 
@@ -63,16 +64,23 @@ export function readKept(): Kept | undefined {
   }
 }
 
-// A little after each change, and when the page is left.
+// A little after each change, and when the page is left. Where the browser keeps nothing, or not so much, texts that are not saved
+// would be lost with the page, so the user hears of it, and is asked before the page closes.
 export function keepAlways(bench: Bench, samples: Record<string, string>): void {
   let timer = 0;
+  let isKept = true;
+  const isUnsaved = () => bench.files.paths.some((path) => bench.files.isUnsaved(path));
   const save = () => {
     window.clearTimeout(timer);
     timer = 0;
     try {
       localStorage.setItem(key, JSON.stringify(stateOf(bench, samples)));
+      isKept = true;
     } catch {
-      // A browser that keeps nothing still works.
+      if (isKept && isUnsaved()) {
+        say("The browser cannot keep these texts: save them before you close the page.", true);
+        isKept = false;
+      }
     }
   };
   const later = () => (timer ||= window.setTimeout(save, 500));
@@ -80,4 +88,5 @@ export function keepAlways(bench: Bench, samples: Record<string, string>): void 
   bench.files.activated.on(later);
   bench.turned.on(later);
   window.addEventListener("pagehide", () => timer !== 0 && save());
+  window.addEventListener("beforeunload", (event) => !isKept && isUnsaved() && event.preventDefault());
 }

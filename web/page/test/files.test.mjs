@@ -175,6 +175,20 @@ test("unsaved work is there when the page is opened again", async () => {
   await again.waitForText("#tabs", "●");
 });
 
+test("what the browser cannot keep is not closed unasked", async () => {
+  const full = () => (Storage.prototype.setItem = () => { throw new DOMException("full", "QuotaExceededError"); });
+  const bench = await (await browser.open("", full)).ready();
+  const { page } = bench;
+  await bench.putCursor("; lytInSym.dlg");
+  await page.keyboard.type(" more");
+  await bench.waitForText("#status", "save them before you close the page");
+  const asked = new Promise((resolve) => page.once("dialog", resolve));
+  await page.close({ runBeforeUnload: true });
+  const question = await asked;
+  assert.equal(question.type(), "beforeunload");
+  await question.accept();
+});
+
 test("a link holds texts and acts, and opens them elsewhere", async () => {
   const bench = await (await browser.open()).ready();
   await bench.replaceField(bench.field("Name"), "volume");
