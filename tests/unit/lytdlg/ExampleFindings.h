@@ -12,16 +12,19 @@
 namespace lytdlg
 {
 
-inline const TestFolder& ExampleFolder()
+class FolderWithExamples : public TestFolder
 {
-    static const TestFolder folder;
-    static const bool isFilled = []
+public:
+    FolderWithExamples()
     {
         for (const ExampleFile& file : ExampleFiles())
-            folder.Write(file.name, file.content);
-        return true;
-    }();
-    static_cast<void>(isFilled);
+            Write(file.name, file.content);
+    }
+};
+
+inline const TestFolder& ExampleFolder()
+{
+    static const FolderWithExamples folder;
     return folder;
 }
 

@@ -122,9 +122,7 @@ std::vector<Json> SessionIn(const TestFolder& folder)
 
 TEST(KilledServer, HasChangedNoFile)
 {
-    const TestFolder folder;
-    for (const ExampleFile& file : ExampleFiles())
-        folder.Write(file.name, file.content);
+    const FolderWithExamples folder;
     folder.Write("a.dlg", ExampleDescription(""));
     folder.Write("a.case", "dialog: a.dlg\nset Name = x\n");
     const auto before = ContentsOf(folder.Path());

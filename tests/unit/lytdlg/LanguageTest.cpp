@@ -51,12 +51,7 @@ std::vector<AskedCase> ReadAskedCases()
 class AskedFolder
 {
 public:
-    AskedFolder()
-    {
-        for (const ExampleFile& file : ExampleFiles())
-            m_folder.Write(file.name, file.content);
-        m_folder.Write("judged.case", goldenCase);
-    }
+    AskedFolder() { m_folder.Write("judged.case", goldenCase); }
 
     std::string AnswerTo(const AskedCase& asked)
     {
@@ -148,7 +143,7 @@ private:
         return Lines(answer);
     }
 
-    const TestFolder m_folder;
+    const FolderWithExamples m_folder;
     std::string m_path;
     Workspace m_workspace{{}, {}};
 };
@@ -175,9 +170,7 @@ TEST(Language, AnswersAboutAPlace)
 // A case presses a button that opens another dialog: the names after it are those of the controls there.
 TEST(Language, RenamesAControlInTheCasesOfCallers)
 {
-    const TestFolder folder;
-    for (const ExampleFile& file : ExampleFiles())
-        folder.Write(file.name, file.content);
+    const FolderWithExamples folder;
     const std::string caller =
         PlainPath(folder.Write("caller.dlg", ExampleDescription("$VALUES\nAdd: DIALOG = inner, parent, parent\n")));
     const std::string inner = PlainPath(folder.Write("inner.dlg", ExampleDescription("")));

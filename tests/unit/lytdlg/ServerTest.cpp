@@ -117,9 +117,7 @@ TEST(LanguageServer, FindsInSamplesWhatCheckFinds)
 
 TEST(LanguageServer, FindsInExamplesWhatCheckFinds)
 {
-    const TestFolder folder;
-    for (const ExampleFile& file : ExampleFiles())
-        folder.Write(file.name, file.content);
+    const FolderWithExamples folder;
     for (const Rule& rule : Rules())
     {
         const std::string name = ExampleName(rule.wrong).empty() ? "judged.dlg" : ExampleName(rule.wrong);
@@ -159,9 +157,7 @@ TEST(LanguageServer, FindsInWhichEncodingAFileIsSaved)
 // Files of cases are in UTF-8, saved or not.
 TEST(LanguageServer, ReadsACaseInUtf8)
 {
-    const TestFolder folder;
-    for (const ExampleFile& file : ExampleFiles())
-        folder.Write(file.name, file.content);
+    const FolderWithExamples folder;
     folder.Write("judged.dlg", ExampleDescription(""));
     const std::string path = folder.File("a.case");
     const std::string text = "dialog: judged.dlg\n# \xE2\x99\xA5\nset Name = \"\xC3\x83\xC2\xA4\"\nset Nothing = x\n";
@@ -210,9 +206,7 @@ TEST(LanguageServer, FollowsEachChangeOfTheText)
 
 TEST(LanguageServer, PublishesFirstWhatNeedsNoTrial)
 {
-    const TestFolder folder;
-    for (const ExampleFile& file : ExampleFiles())
-        folder.Write(file.name, file.content);
+    const FolderWithExamples folder;
     const std::string path = folder.Write("a.dlg", "");
     ServerSession session;
     const auto hasTried = [](const Json& message) { return message.dump().find("trip-dropped") != std::string::npos; };
@@ -231,9 +225,7 @@ TEST(LanguageServer, PublishesFirstWhatNeedsNoTrial)
 
 TEST(LanguageServer, GivesTrialsUpForAMessage)
 {
-    const TestFolder folder;
-    for (const ExampleFile& file : ExampleFiles())
-        folder.Write(file.name, file.content);
+    const FolderWithExamples folder;
     const std::string path = folder.Write("a.dlg", "");
     ServerSession session;
     session.Open(path, ExampleDescription(RuleName("trip-dropped").Get().wrong));
@@ -259,9 +251,7 @@ TEST(LanguageServer, OutlivesAJudgementThatFails)
                                                          []() -> bool { throw new CException; }};
     for (const std::function<bool()>& fail : failures)
     {
-        const TestFolder folder;
-        for (const ExampleFile& file : ExampleFiles())
-            folder.Write(file.name, file.content);
+        const FolderWithExamples folder;
         const std::string path = folder.File("a.dlg");
         ServerSession session;
         const Json document = {{"uri", UriOf(path)}, {"text", ExampleDescription("")}};
@@ -512,9 +502,7 @@ TEST(LanguageServer, AsksOfOtherTextsNothing)
 // Each request about a language file and a file of cases.
 TEST(LanguageServer, AnswersInTheOtherTextsOfADialog)
 {
-    const TestFolder folder;
-    for (const ExampleFile& file : ExampleFiles())
-        folder.Write(file.name, file.content);
+    const FolderWithExamples folder;
     folder.Write("judged.dlg", ExampleDescription(""));
     const std::string cases = folder.File("a.case");
     const std::string texts = folder.File("lang/English.nls");
@@ -547,9 +535,7 @@ TEST(LanguageServer, AnswersInTheOtherTextsOfADialog)
 // Where upper and lower case are the same, the file has the new name all the same.
 TEST(LanguageServer, RenamesAFileInTheCaseOfItsLetters)
 {
-    const TestFolder folder;
-    for (const ExampleFile& file : ExampleFiles())
-        folder.Write(file.name, file.content);
+    const FolderWithExamples folder;
     const std::string path = folder.File("a.dlg");
     const Json abilities = {{"workspace", {{"workspaceEdit", {{"resourceOperations", {"rename"}}}}}}};
     ServerSession session(abilities);
@@ -572,9 +558,7 @@ TEST(LanguageServer, RenamesAFileInTheCaseOfItsLetters)
 
 TEST(LanguageServer, RenamesADialogWithThoseThatOpenIt)
 {
-    const TestFolder folder;
-    for (const ExampleFile& file : ExampleFiles())
-        folder.Write(file.name, file.content);
+    const FolderWithExamples folder;
     const std::string path = folder.File("a.dlg");
     const std::string text = ExampleDescription("$VALUES\nAdd: DIALOG = other, parent, parent\n");
     const size_t name = text.find("other, parent");
@@ -602,9 +586,7 @@ TEST(LanguageServer, RenamesADialogWithThoseThatOpenIt)
 // A dialog that is open in the editor is drawn as it is there, after what a user has done.
 TEST(LanguageServer, DrawsADialogAfterActs)
 {
-    const TestFolder folder;
-    for (const ExampleFile& file : ExampleFiles())
-        folder.Write(file.name, file.content);
+    const FolderWithExamples folder;
     const std::string path = folder.File("drawn.dlg");
     ServerSession session;
     session.Open(path, ExampleDescription(""));
@@ -636,9 +618,7 @@ TEST(LanguageServer, DrawsADialogAfterActs)
 // Texts that are open count as they are in the editor: the other dialog, the language file and lyt.ini.
 TEST(LanguageServer, DrawsWhatIsNotSaved)
 {
-    const TestFolder folder;
-    for (const ExampleFile& file : ExampleFiles())
-        folder.Write(file.name, file.content);
+    const FolderWithExamples folder;
     const std::string path = folder.File("drawn.dlg");
     ServerSession session;
     session.Open(path, ExampleDescription("$VALUES\nAdd: DIALOG = inner, parent, parent\n"));
@@ -674,9 +654,7 @@ TEST(LanguageServer, OffersTheLibrariesThatAreThere)
 
 TEST(LanguageServer, WritesNoFileWhateverItIsTold)
 {
-    const TestFolder folder;
-    for (const ExampleFile& file : ExampleFiles())
-        folder.Write(file.name, file.content);
+    const FolderWithExamples folder;
     folder.Write("a.case", "dialog: a.dlg\nset Name = x\n");
     const std::string path = folder.Write("a.dlg", ExampleDescription("$VALUES\nUnit=HIDEN\n"));
     const auto before = ContentsOf(folder.Path());

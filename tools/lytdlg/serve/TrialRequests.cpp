@@ -20,7 +20,7 @@ Json AreaJson(const Area& area)
     return {{"x", area.left}, {"y", area.top}, {"width", area.width}, {"height", area.height}};
 }
 
-// Of a statement that begins in a line; null where there is none.
+// The statement that begins in a line, as a range; null for 0, which is no line.
 Json RangeJson(const Description& description, int line)
 {
     return line > 0 ? Json(RangeOf(description.PlaceOf(line))) : Json();
